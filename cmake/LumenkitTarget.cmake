@@ -1,0 +1,51 @@
+# Settings that every target of the project shares, and the functions that make its libraries.
+
+set(CMAKE_CXX_STANDARD 20)
+set(CMAKE_CXX_STANDARD_REQUIRED ON)
+set(CMAKE_CXX_EXTENSIONS OFF)
+set(CMAKE_CXX_VISIBILITY_PRESET hidden)
+set(CMAKE_VISIBILITY_INLINES_HIDDEN ON)
+set(CMAKE_POSITION_INDEPENDENT_CODE ON)
+set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
+
+add_library(lumenkit_settings INTERFACE)
+target_include_directories(lumenkit_settings INTERFACE "${PROJECT_SOURCE_DIR}")
+target_compile_options(lumenkit_settings INTERFACE
+    -Wall -Wextra -Wpedantic -Wconversion -Wshadow -Werror)
+if(LUMENKIT_SANITIZE)
+    target_compile_options(lumenkit_settings INTERFACE
+        "-fsanitize=${LUMENKIT_SANITIZE}" -fno-sanitize-recover=all -fno-omit-frame-pointer)
+    target_link_options(lumenkit_settings INTERFACE "-fsanitize=${LUMENKIT_SANITIZE}")
+endif()
+
+# lumenkit_library(NAME SOURCES file... LINKS target...)
+# A static library lumenkit_NAME, known to others as lumenkit::NAME. Each of its headers is also
+# compiled alone, so that none leans on what a neighbour happens to include.
+function(lumenkit_library name)
+    cmake_parse_arguments(ARG "" "" "SOURCES;LINKS" ${ARGN})
+    add_library(lumenkit_${name} STATIC ${ARG_SOURCES})
+    add_library(lumenkit::${name} ALIAS lumenkit_${name})
+    target_link_libraries(lumenkit_${name} PUBLIC lumenkit_settings ${ARG_LINKS})
+    lumenkit_headers_compile_alone(lumenkit_${name} ${ARG_LINKS})
+endfunction()
+
+# Compiles every header beside the caller's CMakeLists.txt (subfolders included) in a translation
+# unit of its own.
+function(lumenkit_headers_compile_alone name)
+    if(NOT LUMENKIT_TESTS)
+        return()
+    endif()
+    file(GLOB_RECURSE headers CONFIGURE_DEPENDS RELATIVE "${PROJECT_SOURCE_DIR}"
+        "${CMAKE_CURRENT_SOURCE_DIR}/*.h")
+    set(units)
+    foreach(header IN LISTS headers)
+        set(unit "${CMAKE_CURRENT_BINARY_DIR}/alone/${header}.cpp")
+        # Included twice: a header must also guard itself.
+        file(CONFIGURE OUTPUT "${unit}" CONTENT "#include \"${header}\"\n#include \"${header}\"\n")
+        list(APPEND units "${unit}")
+    endforeach()
+    if(units)
+        add_library(${name}_headers OBJECT ${units})
+        target_link_libraries(${name}_headers PRIVATE lumenkit_settings ${ARGN})
+    endif()
+endfunction()

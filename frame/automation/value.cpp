@@ -1,0 +1,181 @@
+#include "frame/automation/value.h"
+
+#include <array>
+#include <charconv>
+#include <cmath>
+#include <concepts>
+#include <cstdlib>
+#include <optional>
+#include <type_traits>
+
+#include "frame/automation/object.h"
+#include "frame/checked_integer.h"
+#include "frame/numbers.h"
+#include "frame/runtime_error.h"
+
+namespace lumenkit {
+
+namespace {
+
+template <typename T>
+concept Number = std::same_as<T, bool> || std::same_as<T, std::int16_t> ||
+                 std::same_as<T, std::int32_t> || std::same_as<T, float> || std::same_as<T, double>;
+
+double NumberOf(bool truth) { return truth ? -1.0 : 0.0; }
+double NumberOf(Number auto number) { return static_cast<double>(number); }
+
+double NumberInText(const Text& text) {
+    const std::optional<double> number = NumericValue(text);
+    if (!number) {
+        Raise(ErrorNumber::TypeMismatch);
+    }
+    return *number;
+}
+
+Value DefaultMemberOf(const ObjectRef& object) {
+    if (!object) {
+        Raise(ErrorNumber::ObjectNotSet);
+    }
+    const Value value = object->Get(defaultMember);
+    if (std::holds_alternative<ObjectRef>(value)) {
+        Raise(ErrorNumber::TypeMismatch);  // one step only: a circle of defaults must end
+    }
+    return value;
+}
+
+// What is left of `value` when Null, Missing and objects have been dealt with.
+Value Plain(const Value& value) {
+    if (std::holds_alternative<Null>(value)) {
+        Raise(ErrorNumber::InvalidUseOfNull);
+    }
+    if (std::holds_alternative<Missing>(value)) {
+        Raise(ErrorNumber::ArgumentNotOptional);
+    }
+    if (const auto* object = std::get_if<ObjectRef>(&value)) {
+        return Plain(DefaultMemberOf(*object));
+    }
+    return value;
+}
+
+// Shortest digits up to the platform's precision, with a zero before a leading decimal point.
+Text NumberText(double number, int precision) {
+    if (!std::isfinite(number)) {
+        Raise(ErrorNumber::Overflow);
+    }
+    std::array<char, 40> image{};
+    const auto rounded = std::to_chars(image.data(), image.data() + image.size(), number,
+                                       std::chars_format::scientific, precision - 1);
+    double shown = 0.0;
+    std::from_chars(image.data(), rounded.ptr, shown);
+    Text text = precision > 7 ? Str(shown) : Str(static_cast<float>(shown));
+    const bool negative = text.front() == u'-';
+    text.erase(0, 1);
+    if (text.front() == u'.') {
+        text.insert(0, 1, u'0');
+    }
+    return negative ? u"-" + text : text;
+}
+
+std::optional<double> NumberIn(const Value& value) {
+    return std::visit(
+        []<typename T>(const T& held) -> std::optional<double> {
+            if constexpr (Number<T>) {
+                return NumberOf(held);
+            } else {
+                return std::nullopt;
+            }
+        },
+        value);
+}
+
+}  // namespace
+
+double ToDouble(const Value& value) {
+    const Value plain = Plain(value);
+    if (const auto* text = std::get_if<Text>(&plain)) {
+        return NumberInText(*text);
+    }
+    return NumberIn(plain).value_or(0.0);
+}
+
+bool ToBoolean(const Value& value) {
+    const Value plain = Plain(value);
+    if (const auto* text = std::get_if<Text>(&plain)) {
+        if (SameText(*text, u"True", Compare::IgnoreCase)) {
+            return true;
+        }
+        if (SameText(*text, u"False", Compare::IgnoreCase)) {
+            return false;
+        }
+    }
+    return ToDouble(plain) != 0.0;
+}
+
+std::int16_t ToInteger(const Value& value) {
+    return RoundToInt16(ToDouble(value));
+}
+
+std::int32_t ToLong(const Value& value) {
+    return RoundToInt32(ToDouble(value));
+}
+
+float ToSingle(const Value& value) {
+    return ToSingle(ToDouble(value));
+}
+
+Text ToText(const Value& value) {
+    return std::visit(
+        []<typename T>(const T& held) -> Text {
+            if constexpr (std::same_as<T, Text>) {
+                return held;
+            } else if constexpr (std::same_as<T, bool>) {
+                return held ? u"True" : u"False";
+            } else if constexpr (std::integral<T>) {
+                return Decimal(held);
+            } else if constexpr (std::same_as<T, float>) {
+                return NumberText(held, 7);
+            } else if constexpr (std::same_as<T, double>) {
+                return NumberText(held, 15);
+            } else {
+                return {};
+            }
+        },
+        Plain(value));
+}
+
+Color ToColor(const Value& value) {
+    const double number = RoundHalfToEven(ToDouble(value));
+    constexpr double unsignedEnd = 4294967296.0;
+    if (number >= 2147483648.0 && number < unsignedEnd) {
+        return static_cast<Color>(static_cast<std::uint32_t>(number));
+    }
+    return static_cast<Color>(RoundToInt32(number));
+}
+
+ObjectRef ToObject(const Value& value) {
+    const auto* object = std::get_if<ObjectRef>(&value);
+    if (object == nullptr) {
+        Raise(ErrorNumber::TypeMismatch);
+    }
+    return *object;
+}
+
+Value FromColor(Color color) {
+    return static_cast<std::int32_t>(color);
+}
+
+bool SameValue(const Value& left, const Value& right) {
+    const std::optional<double> leftNumber = NumberIn(left);
+    const std::optional<double> rightNumber = NumberIn(right);
+    if (leftNumber && rightNumber) {
+        return *leftNumber == *rightNumber;
+    }
+    const auto* leftObject = std::get_if<ObjectRef>(&left);
+    const auto* rightObject = std::get_if<ObjectRef>(&right);
+    if (leftObject != nullptr && rightObject != nullptr && *leftObject && *rightObject) {
+        return (*leftObject)->IsSame(**rightObject);
+    }
+    return left == right;
+}
+
+}  // namespace lumenkit

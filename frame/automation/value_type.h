@@ -1,0 +1,107 @@
+// The types that interfaces are written in, and how C++ types stand for them.
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <utility>
+
+#include "frame/automation/object.h"
+#include "frame/automation/value.h"
+#include "frame/host/enumerations.h"
+#include "frame/host/font.h"
+
+namespace lumenkit {
+
+enum class ValueType {
+    None,          ///< no result
+    Integer,       ///< 16-bit signed
+    Long,          ///< 32-bit signed
+    Single,        ///< 32-bit float
+    Boolean,       ///< True (-1) or False (0), 16 bits
+    String,        ///< UTF-16 text
+    Color,         ///< the platform's colour type, 32 bits
+    Font,          ///< the standard font object
+    Variant,       ///< any value
+    MousePointer,  ///< the runtime's mouse-pointer enumeration, 32 bits
+    ScrollBars,    ///< the runtime's scroll-bar enumeration, 32 bits
+};
+
+/// How a C++ type passes through automation: its ValueType and the conversions both ways.
+template <typename T>
+struct Automation;
+
+template <>
+struct Automation<void> {
+    static constexpr ValueType type = ValueType::None;
+};
+template <>
+struct Automation<Value> {
+    static constexpr ValueType type = ValueType::Variant;
+    static Value From(const Value& value) { return value; }
+    static Value To(Value value) { return value; }
+};
+template <>
+struct Automation<std::int16_t> {
+    static constexpr ValueType type = ValueType::Integer;
+    static std::int16_t From(const Value& value) { return ToInteger(value); }
+    static Value To(std::int16_t number) { return number; }
+};
+template <>
+struct Automation<std::int32_t> {
+    static constexpr ValueType type = ValueType::Long;
+    static std::int32_t From(const Value& value) { return ToLong(value); }
+    static Value To(std::int32_t number) { return number; }
+};
+template <>
+struct Automation<float> {
+    static constexpr ValueType type = ValueType::Single;
+    static float From(const Value& value) { return ToSingle(value); }
+    static Value To(float number) { return number; }
+};
+template <>
+struct Automation<bool> {
+    static constexpr ValueType type = ValueType::Boolean;
+    static bool From(const Value& value) { return ToBoolean(value); }
+    static Value To(bool truth) { return truth; }
+};
+template <>
+struct Automation<Text> {
+    static constexpr ValueType type = ValueType::String;
+    static Text From(const Value& value) { return ToText(value); }
+    static Value To(Text text) { return text; }
+};
+/// For functions that take a view: the text itself lives as long as the call.
+template <>
+struct Automation<TextView> {
+    static constexpr ValueType type = ValueType::String;
+    static Text From(const Value& value) { return ToText(value); }
+};
+template <>
+struct Automation<Color> {
+    static constexpr ValueType type = ValueType::Color;
+    static Color From(const Value& value) { return ToColor(value); }
+    static Value To(Color color) { return FromColor(color); }
+};
+template <>
+struct Automation<host::FontRef> {
+    static constexpr ValueType type = ValueType::Font;
+    /// Raises 13 for an object that is no font. The reference may be nothing.
+    static host::FontRef From(const Value& value);
+    static Value To(host::FontRef font) { return ObjectRef(std::move(font)); }
+};
+
+// The runtime's enumerations pass as 32-bit numbers, unknown members too: the property decides.
+template <typename Enumeration, ValueType valueType>
+struct EnumerationAutomation {
+    static constexpr ValueType type = valueType;
+    static Enumeration From(const Value& value) { return static_cast<Enumeration>(ToLong(value)); }
+    static Value To(Enumeration member) { return static_cast<std::int32_t>(member); }
+};
+template <>
+struct Automation<host::MousePointer>
+    : EnumerationAutomation<host::MousePointer, ValueType::MousePointer> {};
+template <>
+struct Automation<host::ScrollBars> : EnumerationAutomation<host::ScrollBars, ValueType::ScrollBars> {
+};
+
+}  // namespace lumenkit

@@ -1,0 +1,81 @@
+// The objects that a container drives: user controls and property pages.
+#pragma once
+
+#include "frame/automation/object.h"
+#include "frame/host/ambient.h"
+#include "frame/host/application.h"
+#include "frame/host/constituents.h"
+#include "frame/host/container.h"
+#include "frame/host/interaction.h"
+#include "frame/host/mouse.h"
+#include "frame/host/property_bag.h"
+#include "frame/host/property_page_site.h"
+#include "frame/host/screen.h"
+#include "frame/host/surface.h"
+
+namespace lumenkit {
+
+/// Everything a user control is given; all of it outlives the control.
+struct ControlHost {
+    host::Surface& surface;
+    host::Container& container;
+    host::Ambient& ambient;
+    /// The control as its container sees it, late-bound: Name, Tag, Left, Top, Width, Height,
+    /// Visible, Move. What a container does not have raises 438.
+    Object& extender;
+    host::Screen& screen;
+    host::Application& application;
+    host::Interaction& interaction;
+    host::Constituents& constituents;
+};
+
+/// A user control. The container calls, in this order: Initialize; InitProperties for a newly
+/// placed control, or ReadProperties for a saved one; Resize whenever the size changes; Show; Paint
+/// whenever the surface asks; WriteProperties when it saves. The rest is forwarded from the surface
+/// as the user acts on it.
+class Control {
+ public:
+    virtual ~Control() = default;
+
+    /// The control's members as automation clients use them. Lives as long as the control.
+    virtual Object& Automation() = 0;
+
+    virtual void UserControl_Initialize() {}
+    virtual void UserControl_InitProperties() {}
+    virtual void UserControl_ReadProperties(host::PropertyBag& /*bag*/) {}
+    virtual void UserControl_WriteProperties(host::PropertyBag& /*bag*/) {}
+    virtual void UserControl_Resize() {}
+    virtual void UserControl_Show() {}
+    virtual void UserControl_Paint() {}
+
+    virtual void UserControl_Click() {}
+    virtual void UserControl_DblClick() {}
+    virtual void UserControl_MouseDown(host::MouseArguments& /*mouse*/) {}
+    virtual void UserControl_MouseMove(host::MouseArguments& /*mouse*/) {}
+    virtual void UserControl_MouseUp(host::MouseArguments& /*mouse*/) {}
+};
+
+/// Everything a property page is given; all of it outlives the page.
+struct PageHost {
+    host::PropertyPageSite& site;
+    host::SelectedControls& selectedControls;
+    host::Screen& screen;
+    host::Interaction& interaction;
+    host::Constituents& constituents;
+};
+
+/// A property page. The host calls Initialize once, SelectionChanged whenever other controls are
+/// selected, ApplyChanges when the person applies. Errors travel to the host.
+class PropertyPage {
+ public:
+    virtual ~PropertyPage() = default;
+
+    /// The page's members as automation clients use them. Lives as long as the page.
+    virtual Object& Automation() = 0;
+
+    virtual void PropertyPage_Initialize() {}
+    virtual void PropertyPage_SelectionChanged() {}
+    virtual void PropertyPage_ApplyChanges() {}
+};
+
+}  // namespace lumenkit

@@ -1,0 +1,46 @@
+#pragma once
+
+#include <cstdint>
+#include <memory>
+
+#include "frame/automation/object.h"
+#include "frame/text.h"
+
+namespace lumenkit::host {
+
+/// The platform's standard font object. Fonts are shared: a surface, a text box and a client may
+/// hold the same one, and a change through any of them is seen, and drawn with, by all.
+///
+/// Also a late-bound object with the members Name (0), Size (2), Bold (3), Italic (4),
+/// Underline (5), Strikethrough (6), Weight (7) and Charset (8). Two fonts are the same
+/// (Object::IsSame) when all their attributes are.
+class Font : public Object {
+ public:
+    virtual Text Name() const = 0;
+    virtual void SetName(TextView name) = 0;
+    /// Points, to four decimal places. Setting raises 380 for what is not above 0 or is too large.
+    virtual float Size() const = 0;
+    virtual void SetSize(float points) = 0;
+    virtual bool Bold() const = 0;
+    virtual void SetBold(bool bold) = 0;
+    virtual bool Italic() const = 0;
+    virtual void SetItalic(bool italic) = 0;
+    virtual bool Underline() const = 0;
+    virtual void SetUnderline(bool underline) = 0;
+    virtual bool Strikethrough() const = 0;
+    virtual void SetStrikethrough(bool strikethrough) = 0;
+    /// 400 is regular, 700 bold; setting it sets Bold (above 550) and the other way round.
+    virtual std::int16_t Weight() const = 0;
+    virtual void SetWeight(std::int16_t weight) = 0;
+    /// The platform's character set number, 0 for ANSI.
+    virtual std::int16_t Charset() const = 0;
+    virtual void SetCharset(std::int16_t charset) = 0;
+
+    std::optional<std::int32_t> FindMember(TextView name) const override;
+    Value Invoke(std::int32_t identifier, InvokeKind kind, std::span<Value> arguments) override;
+    bool IsSame(const Object& other) const override;
+};
+
+using FontRef = std::shared_ptr<Font>;
+
+}  // namespace lumenkit::host

@@ -1,0 +1,103 @@
+// Constituents with little behaviour of their own.
+#pragma once
+
+#include <cstdint>
+
+#include "frame/automation/object.h"
+#include "frame/color.h"
+#include "frame/host/constituent.h"
+#include "frame/text.h"
+
+namespace lumenkit::host {
+
+struct CaptionDesign : Design {
+    TextView caption;
+};
+
+/// A frame with a caption, in which other constituents lie.
+class Frame : public TextConstituent {
+ public:
+    virtual Text Caption() const = 0;
+    virtual void SetCaption(TextView caption) = 0;
+    /// 0 none, 1 fixed single. Raises 380 for other values.
+    virtual std::int16_t BorderStyle() const = 0;
+    virtual void SetBorderStyle(std::int16_t style) = 0;
+};
+
+class Label : public TextConstituent {
+ public:
+    virtual Text Caption() const = 0;
+    /// Where AutoSize is on, the label takes the caption's size before the call returns.
+    virtual void SetCaption(TextView caption) = 0;
+    virtual bool AutoSize() const = 0;
+    virtual void SetAutoSize(bool autoSize) = 0;
+    virtual Color ForeColor() const = 0;
+    virtual void SetForeColor(Color color) = 0;
+    virtual Color BackColor() const = 0;
+    virtual void SetBackColor(Color color) = 0;
+};
+
+class ClickEvents {
+ public:
+    virtual ~ClickEvents() = default;
+
+    virtual void Click() {}
+};
+
+/// A check box. Its value is 0 (not checked), 1 (checked) or 2 (greyed).
+class CheckBox : public TextConstituent {
+ public:
+    virtual Text Caption() const = 0;
+    virtual void SetCaption(TextView caption) = 0;
+    virtual std::int16_t CheckState() const = 0;
+    /// A changed value notifies the click before the call returns. Raises 380 for other values.
+    virtual void SetCheckState(std::int16_t state) = 0;
+};
+
+class CommandButton : public TextConstituent {
+ public:
+    virtual Text Caption() const = 0;
+    virtual void SetCaption(TextView caption) = 0;
+};
+
+/// A bordered box that shows a part of what lies in it.
+class PictureBox : public Constituent {
+ public:
+    /// Size of the area inside the border, in twips.
+    virtual float ScaleWidth() const = 0;
+    virtual float ScaleHeight() const = 0;
+};
+
+class ScrollBarEvents {
+ public:
+    virtual ~ScrollBarEvents() = default;
+
+    virtual void Change() {}
+};
+
+enum class Orientation { Horizontal, Vertical };
+
+/// A scroll bar over the whole numbers from 0 to Max.
+class ScrollBar : public Constituent {
+ public:
+    virtual std::int16_t ScrollValue() const = 0;
+    /// A changed value notifies Change before the call returns. Raises 380 outside 0 to Max.
+    virtual void SetScrollValue(std::int16_t value) = 0;
+    virtual std::int16_t Max() const = 0;
+    /// A ScrollValue above it becomes it (and notifies). Raises 380 when negative.
+    virtual void SetMax(std::int16_t max) = 0;
+    /// Steps of a click beside the thumb and on an arrow. Setting raises 380 below 1.
+    virtual std::int16_t LargeChange() const = 0;
+    virtual void SetLargeChange(std::int16_t step) = 0;
+    virtual std::int16_t SmallChange() const = 0;
+    virtual void SetSmallChange(std::int16_t step) = 0;
+};
+
+/// Another control of the project that lies on this one, used through its interface alone.
+class EmbeddedControl : public Constituent {
+ public:
+    /// The control's late-bound face, never nothing; valid as long as the constituent.
+    virtual Object& Automation() = 0;
+};
+
+}  // namespace lumenkit::host

@@ -1,0 +1,309 @@
+#include "frame/numbers.h"
+
+#include <algorithm>
+#include <array>
+#include <charconv>
+#include <cstdlib>
+#include <limits>
+#include <string_view>
+
+#include "frame/runtime_error.h"
+
+namespace lumenkit {
+
+namespace {
+
+bool IsDigit(char16_t unit) { return unit >= u'0' && unit <= u'9'; }
+bool IsSkipped(char16_t unit) { return unit == blank || unit == u'\t' || unit == u'\n'; }
+char16_t AsciiLower(char16_t unit) {
+    return unit >= u'A' && unit <= u'Z' ? static_cast<char16_t>(unit + 32) : unit;
+}
+
+// The units of a number, one after the other, with or without the blanks between them.
+class Units {
+ public:
+    Units(TextView text, bool skipBlanks) : text_(text), skipBlanks_(skipBlanks) { Settle(); }
+
+    // 0 at the end: no number holds that unit.
+    char16_t Peek() const { return at_ < text_.size() ? text_[at_] : u'\0'; }
+    void Advance() {
+        ++at_;
+        Settle();
+    }
+    bool Take(char16_t lower) {
+        if (AsciiLower(Peek()) != lower) {
+            return false;
+        }
+        Advance();
+        return true;
+    }
+    bool AtEnd() const { return at_ >= text_.size(); }
+
+ private:
+    void Settle() {
+        while (skipBlanks_ && at_ < text_.size() && IsSkipped(text_[at_])) {
+            ++at_;
+        }
+    }
+
+    TextView text_;
+    std::size_t at_ = 0;
+    bool skipBlanks_;
+};
+
+// A decimal number of any length, kept as precisely as rounding to double can tell apart.
+class DecimalNumber {
+ public:
+    void AddDigit(char16_t digit, bool afterPoint) {
+        any_ = true;
+        const bool leadingZero = count_ == 0 && digit == u'0';
+        if (!leadingZero && count_ < digits_.size()) {
+            digits_[count_++] = static_cast<char>(digit);
+            scale_ -= afterPoint ? 1 : 0;
+        } else if (leadingZero) {
+            scale_ -= afterPoint ? 1 : 0;
+        } else {
+            // Past what can matter, but for being more than nothing.
+            digits_.back() = digit == u'0' ? digits_.back() : std::max(digits_.back(), '1');
+            scale_ += afterPoint ? 0 : 1;
+        }
+    }
+    bool HasDigits() const { return any_; }
+    void AddExponent(std::int64_t exponent) { scale_ += exponent; }
+
+    double Value() const {
+        if (count_ == 0) {
+            return 0.0;
+        }
+        return count_ <= exactDigits && scale_ >= -exactPower && scale_ <= exactPower ? Exact()
+                                                                                    : Rounded();
+    }
+
+ private:
+    static constexpr std::size_t exactDigits = 15;
+    static constexpr std::int64_t exactPower = 22;
+
+    // Both the digits and the power of ten are doubles without error, so one operation rounds right.
+    double Exact() const {
+        static constexpr std::array<double, exactPower + 1> powers = {
+            1e0,  1e1,  1e2,  1e3,  1e4,  1e5,  1e6,  1e7,  1e8,  1e9,  1e10, 1e11,
+            1e12, 1e13, 1e14, 1e15, 1e16, 1e17, 1e18, 1e19, 1e20, 1e21, 1e22};
+        std::int64_t whole = 0;
+        for (std::size_t i = 0; i < count_; ++i) {
+            whole = whole * 10 + (digits_[i] - '0');
+        }
+        const double number = static_cast<double>(whole);
+        const double power = powers[static_cast<std::size_t>(std::abs(scale_))];
+        return scale_ < 0 ? number / power : number * power;
+    }
+
+    double Rounded() const {
+        std::array<char, maxDigits + 32> image{};
+        char* end = std::copy_n(digits_.begin(), count_, image.begin());
+        *end++ = 'e';
+        // Far enough outside double's range to be certain, near enough to be a short number.
+        constexpr std::int64_t farPower = 1'000'000;
+        const std::int64_t power = std::clamp(scale_, -farPower, farPower);
+        end = std::to_chars(end, image.data() + image.size(), power).ptr;
+        double number = 0.0;
+        const auto result = std::from_chars(image.data(), end, number);
+        if (result.ec == std::errc::result_out_of_range) {
+            if (power > 0) {
+                Raise(ErrorNumber::Overflow);
+            }
+            return 0.0;
+        }
+        return number;
+    }
+
+    // No double, and no midpoint between two, has more significant digits than 768.
+    static constexpr std::size_t maxDigits = 770;
+    std::array<char, maxDigits> digits_;
+    std::size_t count_ = 0;
+    std::int64_t scale_ = 0;
+    bool any_ = false;
+};
+
+void ReadExponent(Units& units, DecimalNumber& number) {
+    const Units before = units;
+    if (!units.Take(u'e') && !units.Take(u'd')) {
+        return;
+    }
+    const bool negative = units.Take(u'-');
+    if (!negative) {
+        units.Take(u'+');
+    }
+    if (!IsDigit(units.Peek())) {
+        units = before;
+        return;
+    }
+    constexpr std::int64_t enough = 1'000'000'000;
+    std::int64_t exponent = 0;
+    for (; IsDigit(units.Peek()); units.Advance()) {
+        exponent = std::min(exponent * 10 + (units.Peek() - u'0'), enough);
+    }
+    number.AddExponent(negative ? -exponent : exponent);
+}
+
+std::optional<double> ReadDecimal(Units& units) {
+    DecimalNumber number;
+    for (; IsDigit(units.Peek()); units.Advance()) {
+        number.AddDigit(units.Peek(), false);
+    }
+    if (units.Take(u'.')) {
+        for (; IsDigit(units.Peek()); units.Advance()) {
+            number.AddDigit(units.Peek(), true);
+        }
+    }
+    if (!number.HasDigits()) {
+        return std::nullopt;
+    }
+    ReadExponent(units, number);
+    return number.Value();
+}
+
+int DigitValue(char16_t unit) {
+    const char16_t lower = AsciiLower(unit);
+    if (IsDigit(lower)) {
+        return lower - u'0';
+    }
+    return lower >= u'a' && lower <= u'f' ? lower - u'a' + 10 : std::numeric_limits<int>::max();
+}
+
+std::optional<double> ReadRadix(Units& units) {
+    const int radix = units.Take(u'h') ? 16 : units.Take(u'o') ? 8 : 0;
+    if (radix == 0 || DigitValue(units.Peek()) >= radix) {
+        return std::nullopt;
+    }
+    std::uint64_t bits = 0;
+    for (; DigitValue(units.Peek()) < radix; units.Advance()) {
+        bits = bits * static_cast<unsigned>(radix) + static_cast<unsigned>(DigitValue(units.Peek()));
+        if (bits > std::numeric_limits<std::uint32_t>::max()) {
+            Raise(ErrorNumber::Overflow);
+        }
+    }
+    if (!units.Take(u'&') && bits <= std::numeric_limits<std::uint16_t>::max()) {
+        return static_cast<std::int16_t>(bits);
+    }
+    return static_cast<std::int32_t>(bits);
+}
+
+std::optional<double> ReadNumber(Units& units) {
+    const bool negative = units.Take(u'-');
+    if (!negative) {
+        units.Take(u'+');
+    }
+    const std::optional<double> number = units.Take(u'&') ? ReadRadix(units) : ReadDecimal(units);
+    return number && negative ? -*number : number;
+}
+
+TextView WithoutSpaceAround(TextView text) {
+    while (!text.empty() && IsSkipped(text.front())) {
+        text.remove_prefix(1);
+    }
+    while (!text.empty() && IsSkipped(text.back())) {
+        text.remove_suffix(1);
+    }
+    return text;
+}
+
+// `digits` is the shortest scientific image of a number without its sign, "d[.ddd]e±xx".
+void AppendStrForm(Text& text, std::string_view image, int firstExponent) {
+    const std::size_t mark = image.find('e');
+    std::string_view exponentImage = image.substr(mark + 1);
+    exponentImage.remove_prefix(exponentImage.front() == '+' ? 1 : 0);
+    int exponent = 0;
+    std::from_chars(exponentImage.data(), exponentImage.data() + exponentImage.size(), exponent);
+
+    std::array<char16_t, 32> digits{};
+    int count = 0;
+    for (const char character : image.substr(0, mark)) {
+        if (character != '.') {
+            digits[static_cast<std::size_t>(count++)] = static_cast<char16_t>(character);
+        }
+    }
+    const auto appendDigits = [&](int from, int to) {
+        for (int i = from; i < to; ++i) {
+            text += i < count ? digits[static_cast<std::size_t>(i)] : u'0';
+        }
+    };
+    if (exponent >= firstExponent || exponent < -4) {
+        appendDigits(0, 1);
+        text += count > 1 ? TextView(u".") : TextView();
+        appendDigits(1, count);
+        text += exponent < 0 ? TextView(u"E-") : TextView(u"E+");
+        text += std::abs(exponent) < 10 ? TextView(u"0") : TextView();
+        AppendDecimal(text, std::abs(exponent));
+    } else if (exponent >= 0) {
+        appendDigits(0, exponent + 1);
+        text += count > exponent + 1 ? TextView(u".") : TextView();
+        appendDigits(exponent + 1, count);
+    } else {
+        text += u'.';
+        text.append(static_cast<std::size_t>(-exponent - 1), u'0');
+        appendDigits(0, count);
+    }
+}
+
+template <typename Number>
+void AppendStrOf(Text& text, Number number, int firstExponent) {
+    const bool whole = number == static_cast<Number>(static_cast<std::int32_t>(
+                                     std::clamp<Number>(number, -999'999, 999'999)));
+    if (whole) {  // the common case, and quick
+        text += number < 0 ? TextView() : TextView(u" ");
+        AppendDecimal(text, static_cast<std::int32_t>(number));
+        return;
+    }
+    text += number < 0 ? u'-' : blank;
+    std::array<char, 48> image{};
+    const auto end = std::to_chars(image.data(), image.data() + image.size(),
+                                   number < 0 ? -number : number, std::chars_format::scientific);
+    AppendStrForm(text, {image.data(), end.ptr}, firstExponent);
+}
+
+}  // namespace
+
+double ParseNumber(TextView text) {
+    Units units(text, true);
+    return ReadNumber(units).value_or(0.0);
+}
+
+std::optional<double> NumericValue(TextView text) {
+    Units units(WithoutSpaceAround(text), false);
+    const std::optional<double> number = ReadNumber(units);
+    return number && units.AtEnd() ? number : std::nullopt;
+}
+
+void AppendStr(Text& text, double number) {
+    AppendStrOf(text, number, 15);
+}
+
+void AppendStr(Text& text, float number) {
+    AppendStrOf(text, number, 7);
+}
+
+Text Str(double number) {
+    Text text;
+    AppendStr(text, number);
+    return text;
+}
+
+Text Str(float number) {
+    Text text;
+    AppendStr(text, number);
+    return text;
+}
+
+void AppendDecimal(Text& text, std::int32_t number) {
+    std::array<char, 12> image{};
+    const auto end = std::to_chars(image.data(), image.data() + image.size(), number);
+    text.append(image.data(), end.ptr);
+}
+
+Text Decimal(std::int32_t number) {
+    Text text;
+    AppendDecimal(text, number);
+    return text;
+}
+
+}  // namespace lumenkit

@@ -1,0 +1,28 @@
+// Between UTF-8, which files and terminals speak, and the controls' UTF-16.
+#pragma once
+
+#include <cstddef>
+#include <stdexcept>
+#include <string>
+#include <string_view>
+
+#include "frame/text.h"
+
+namespace lumenkit {
+
+/// Thrown for bytes that are not well-formed UTF-8; `offset` is the first bad byte, from 0.
+class MalformedUtf8 : public std::runtime_error {
+ public:
+    explicit MalformedUtf8(std::size_t badOffset)
+        : std::runtime_error("not valid UTF-8 at byte " + std::to_string(badOffset)),
+          offset(badOffset) {}
+    std::size_t offset;
+};
+
+/// Throws MalformedUtf8 on overlong forms, surrogates, values past U+10FFFF and cut sequences.
+Text FromUtf8(std::string_view bytes);
+
+/// A surrogate without its partner, which UTF-8 cannot carry, becomes U+FFFD.
+std::string ToUtf8(TextView text);
+
+}  // namespace lumenkit
