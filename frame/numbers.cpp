@@ -13,8 +13,12 @@ namespace lumenkit {
 
 namespace {
 
-bool IsDigit(char16_t unit) { return unit >= u'0' && unit <= u'9'; }
-bool IsSkipped(char16_t unit) { return unit == blank || unit == u'\t' || unit == u'\n'; }
+bool IsDigit(char16_t unit) {
+    return unit >= u'0' && unit <= u'9';
+}
+bool IsSkipped(char16_t unit) {
+    return unit == blank || unit == u'\t' || unit == u'\n';
+}
 char16_t AsciiLower(char16_t unit) {
     return unit >= u'A' && unit <= u'Z' ? static_cast<char16_t>(unit + 32) : unit;
 }
@@ -76,14 +80,15 @@ class DecimalNumber {
             return 0.0;
         }
         return count_ <= exactDigits && scale_ >= -exactPower && scale_ <= exactPower ? Exact()
-                                                                                    : Rounded();
+                                                                                      : Rounded();
     }
 
  private:
     static constexpr std::size_t exactDigits = 15;
     static constexpr std::int64_t exactPower = 22;
 
-    // Both the digits and the power of ten are doubles without error, so one operation rounds right.
+    // Both the digits and the power of ten are doubles without error, so one operation rounds
+    // right.
     double Exact() const {
         static constexpr std::array<double, exactPower + 1> powers = {
             1e0,  1e1,  1e2,  1e3,  1e4,  1e5,  1e6,  1e7,  1e8,  1e9,  1e10, 1e11,
@@ -177,7 +182,8 @@ std::optional<double> ReadRadix(Units& units) {
     }
     std::uint64_t bits = 0;
     for (; DigitValue(units.Peek()) < radix; units.Advance()) {
-        bits = bits * static_cast<unsigned>(radix) + static_cast<unsigned>(DigitValue(units.Peek()));
+        bits =
+            bits * static_cast<unsigned>(radix) + static_cast<unsigned>(DigitValue(units.Peek()));
         if (bits > std::numeric_limits<std::uint32_t>::max()) {
             Raise(ErrorNumber::Overflow);
         }

@@ -107,8 +107,9 @@ bool SameText(TextView left, TextView right, Compare compare) {
     if (compare == Compare::Binary) {
         return left == right;
     }
-    return std::equal(left.begin(), left.end(), right.begin(), right.end(),
-                      [](char16_t a, char16_t b) { return a == b || LowerUnit(a) == LowerUnit(b); });
+    return std::equal(
+        left.begin(), left.end(), right.begin(), right.end(),
+        [](char16_t a, char16_t b) { return a == b || LowerUnit(a) == LowerUnit(b); });
 }
 
 }  // namespace lumenkit

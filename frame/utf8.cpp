@@ -8,8 +8,12 @@ namespace {
 
 constexpr char32_t replacement = 0xFFFD;
 
-bool IsHigh(char16_t unit) { return (unit & 0xFC00) == 0xD800; }
-bool IsLow(char16_t unit) { return (unit & 0xFC00) == 0xDC00; }
+bool IsHigh(char16_t unit) {
+    return (unit & 0xFC00) == 0xD800;
+}
+bool IsLow(char16_t unit) {
+    return (unit & 0xFC00) == 0xDC00;
+}
 
 unsigned Byte(std::string_view bytes, std::size_t at) {
     return static_cast<unsigned char>(bytes[at]);

@@ -32,7 +32,8 @@ struct Signature<Return (Class::*)(Arguments...)> {
     static constexpr std::size_t count = sizeof...(Arguments);
 };
 template <typename Class, typename Return, typename... Arguments>
-struct Signature<Return (Class::*)(Arguments...) const> : Signature<Return (Class::*)(Arguments...)> {};
+struct Signature<Return (Class::*)(Arguments...) const>
+    : Signature<Return (Class::*)(Arguments...)> {};
 
 template <auto function>
 using SignatureOf = Signature<decltype(function)>;
@@ -56,7 +57,8 @@ Value Apply(void* self, std::span<Value> arguments, std::index_sequence<index...
 
 template <auto function>
 Value Thunk(void* self, std::span<Value> arguments) {
-    return Apply<function>(self, arguments, std::make_index_sequence<SignatureOf<function>::count>{});
+    return Apply<function>(self, arguments,
+                           std::make_index_sequence<SignatureOf<function>::count>{});
 }
 
 template <auto put>

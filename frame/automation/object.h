@@ -31,8 +31,8 @@ class Object {
     virtual std::optional<std::int32_t> FindMember(TextView name) const = 0;
 
     /// Uses the member `identifier`. `arguments` may be written back to where the member takes them
-    /// by reference. Raises 438 for an unknown member or one that cannot be used this way, 394 / 383
-    /// for reading a write-only / assigning a read-only property, 450 for a wrong number of
+    /// by reference. Raises 438 for an unknown member or one that cannot be used this way, 394 /
+    /// 383 for reading a write-only / assigning a read-only property, 450 for a wrong number of
     /// arguments, 13 and 6 for arguments that do not convert.
     virtual Value Invoke(std::int32_t identifier, InvokeKind kind, std::span<Value> arguments) = 0;
 

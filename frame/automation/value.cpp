@@ -19,10 +19,14 @@ namespace {
 
 template <typename T>
 concept Number = std::same_as<T, bool> || std::same_as<T, std::int16_t> ||
-                 std::same_as<T, std::int32_t> || std::same_as<T, float> || std::same_as<T, double>;
+    std::same_as<T, std::int32_t> || std::same_as<T, float> || std::same_as<T, double>;
 
-double NumberOf(bool truth) { return truth ? -1.0 : 0.0; }
-double NumberOf(Number auto number) { return static_cast<double>(number); }
+double NumberOf(bool truth) {
+    return truth ? -1.0 : 0.0;
+}
+double NumberOf(Number auto number) {
+    return static_cast<double>(number);
+}
 
 double NumberInText(const Text& text) {
     const std::optional<double> number = NumericValue(text);

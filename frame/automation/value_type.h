@@ -101,7 +101,7 @@ template <>
 struct Automation<host::MousePointer>
     : EnumerationAutomation<host::MousePointer, ValueType::MousePointer> {};
 template <>
-struct Automation<host::ScrollBars> : EnumerationAutomation<host::ScrollBars, ValueType::ScrollBars> {
-};
+struct Automation<host::ScrollBars>
+    : EnumerationAutomation<host::ScrollBars, ValueType::ScrollBars> {};
 
 }  // namespace lumenkit

@@ -1,0 +1,33 @@
+# Every target installs what it needs and works on a fresh Debian 12 machine.
+.DEFAULT_GOAL := help
+.PHONY: run test bench ocx fuzz lint format golden clean help
+
+run: ## do the main job: compile the sample captions and show what comes out
+	@scripts/run.sh
+
+test: ## everything: builds, tests, sanitizers, cross-compilation, checks
+	@scripts/test.sh
+
+bench: ## measure, and print each figure as a ratio to a peer or a bound
+	@scripts/bench.sh
+
+ocx: ## cross-compile for Windows, x64 and x86
+	@scripts/ocx.sh
+
+fuzz: ## fuzz each target for FUZZ_SECONDS (default 600)
+	@scripts/fuzz.sh
+
+lint: ## clang-tidy over all sources
+	@scripts/lint.sh
+
+format: ## reformat all sources
+	@scripts/format.sh
+
+golden: ## write the golden drawings anew, for review in the diff
+	@scripts/golden.sh
+
+clean: ## remove everything that was built
+	@rm -rf build
+
+help: ## this list
+	@sed -n 's/^\([a-z]*\):.*## \(.*\)/  make \1\t\2/p' Makefile | expand -t 16

@@ -1,0 +1,9 @@
+#!/usr/bin/env bash
+# Prints the table of ratios; see docs/performance.md for what each row means.
+set -euo pipefail
+cd "$(dirname "$0")/.."
+
+scripts/build.sh native
+for bench in build/native/bench/*_bench; do
+    "$bench" "$@"
+done

@@ -1,0 +1,20 @@
+#!/usr/bin/env bash
+# Configures and builds one preset:  scripts/build.sh native [target...]
+set -euo pipefail
+cd "$(dirname "$0")/.."
+
+preset=$1
+shift
+case $preset in
+    native) scripts/setup.sh build bench ;;
+    native-asan) scripts/setup.sh build ;;
+    fuzz) scripts/setup.sh build fuzz ;;
+    mingw-*) scripts/setup.sh build windows ;;
+esac
+cmake --preset "$preset" >/dev/null
+# Quiet unless something goes wrong.
+log=build/$preset/build.log
+if ! cmake --build --preset "$preset" ${1:+--target "$@"} >"$log" 2>&1; then
+    cat "$log"
+    exit 1
+fi

@@ -1,0 +1,135 @@
+#!/usr/bin/env python3
+"""Holds the include rule: includes run inwards only.
+
+Each folder may include the folders listed for it and the standard library; other libraries and
+the Windows headers only where the table allows them. --self-test proves that the check can fail.
+"""
+import re
+import subprocess
+import sys
+import tempfile
+from pathlib import Path
+
+# Folder -> project folders whose headers it may include, besides its own.
+ALLOWED = {
+    "frame": [],
+    "vlabel": ["frame"],
+    "vmemo": ["frame"],
+    "voptlist": ["frame"],
+    "vlabelcaption": ["frame"],
+    "forms": ["frame"],
+    "runtime/memory": ["frame"],
+    "runtime/win32": ["frame"],
+    "runtime/qt": ["frame"],
+    "runtime/ole": ["frame", "runtime/win32"],
+    # The one place that knows all classes.
+    "project": ["frame", "vlabel", "vmemo", "voptlist", "vlabelcaption"],
+    # Join things, as their purpose asks.
+    "apps": None,
+    "tests": None,
+    "bench": None,
+    "fuzz": None,
+    "samples": None,
+}
+# Folders that may use the headers of a platform or of another library.
+OTHER_LIBRARIES = ["runtime/win32", "runtime/qt", "runtime/ole", "apps", "tests", "bench", "fuzz", "samples"]
+WINDOWS_HEADERS = re.compile(r"^(windows|windowsx|ole\w*|objbase|commctrl|wingdi|winuser|unknwn)\.h$", re.I)
+WINDOWS_FOLDERS = ["runtime/win32", "runtime/ole", "tests", "bench", "samples"]
+
+INCLUDE = re.compile(r'^\s*#\s*include\s*(["<])([^">]+)[">]', re.M)
+SOURCE_SUFFIXES = {".h", ".cpp", ".inc", ".rc"}
+
+
+def folder_of(path):
+    """The longest folder of the table that `path` lies in."""
+    fitting = [folder for folder in ALLOWED if path.startswith(folder + "/")]
+    return max(fitting, key=len, default=None)
+
+
+def standard_header(name):
+    return "/" not in name and "." not in name
+
+
+def fault(path, quoted, name):
+    """What is wrong with one include, or None."""
+    home = folder_of(path)
+    if home is None:
+        return "the folder is not in the table of scripts/check_includes.py"
+    if quoted:
+        target = folder_of(name)
+        if target is None:
+            return "is no path from the top of the tree"
+        reachable = ALLOWED[home]
+        if target == home or reachable is None or target in reachable:
+            return None
+        return f"{home} may not include {target}"
+    if standard_header(name):
+        return None
+    if WINDOWS_HEADERS.match(name) and home not in WINDOWS_FOLDERS:
+        return f"{home} may not include Windows headers"
+    if home not in OTHER_LIBRARIES:
+        return f"{home} may include the standard library only"
+    return None
+
+
+def faults(root, paths):
+    for path in paths:
+        text = (root / path).read_text(encoding="utf-8")
+        for quote, name in INCLUDE.findall(text):
+            wrong = fault(path, quote == '"', name)
+            if wrong:
+                yield f"{path}: {name}: {wrong}"
+
+
+def sources(root):
+    listing = subprocess.run(
+        ["git", "ls-files", "--cached", "--others", "--exclude-standard"],
+        cwd=root, check=True, capture_output=True, text=True).stdout
+    return [p for p in listing.splitlines() if Path(p).suffix in SOURCE_SUFFIXES and (root / p).exists()]
+
+
+def self_test():
+    good = {
+        "frame/text.h": "#include <string>\n",
+        "vlabel/a.cpp": '#include "frame/text.h"\n#include "vlabel/a.h"\n',
+        "runtime/ole/a.cpp": '#include <windows.h>\n#include "runtime/win32/a.h"\n',
+        "apps/x/main.cpp": '#include <CLI/CLI.hpp>\n#include "vmemo/a.h"\n',
+    }
+    bad = {
+        "frame/a.h": '#include "vlabel/a.h"\n',
+        "frame/b.h": "#include <windows.h>\n",
+        "vlabel/b.h": '#include "vmemo/a.h"\n',
+        "vlabelcaption/a.h": ' # include "vlabel/a.h"\n',
+        "vlabel/c.h": "#include <nlohmann/json.hpp>\n",
+        "runtime/memory/a.h": '#include "vlabel/a.h"\n',
+        "runtime/win32/a.h": '#include "runtime/ole/a.h"\n',
+        "runtime/qt/a.h": "#include <windows.h>\n",
+        "frame/c.h": '#include "text.h"\n',
+        "elsewhere/a.h": "#include <string>\n",
+    }
+    with tempfile.TemporaryDirectory() as folder:
+        root = Path(folder)
+        for path, text in {**good, **bad}.items():
+            (root / path).parent.mkdir(parents=True, exist_ok=True)
+            (root / path).write_text(text, encoding="utf-8")
+        for path in good:
+            assert not list(faults(root, [path])), path
+        for path in bad:
+            assert list(faults(root, [path])), path
+    print("include rule: the check tells good from bad")
+
+
+def main():
+    if sys.argv[1:] == ["--self-test"]:
+        self_test()
+        return 0
+    root = Path(__file__).resolve().parent.parent
+    paths = sources(root)
+    found = list(faults(root, paths))
+    for line in found:
+        print(line)
+    print(f"include rule: {len(found)} faults in {len(paths)} files")
+    return 1 if found or not paths else 0
+
+
+sys.exit(main())

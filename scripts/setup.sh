@@ -1,0 +1,32 @@
+#!/usr/bin/env bash
+# Installs the Debian packages of the named groups, where they are missing.
+#   scripts/setup.sh build bench
+set -euo pipefail
+
+declare -A groups=(
+    [build]="g++ cmake ninja-build pkg-config python3 libgtest-dev libgmock-dev libcli11-dev nlohmann-json3-dev"
+    [bench]="libbenchmark-dev libpango1.0-dev"
+    [format]="clang-format"
+    [lint]="clang-tidy"
+    [fuzz]="clang libclang-rt-14-dev"
+    [windows]="g++-mingw-w64-x86-64-posix g++-mingw-w64-i686-posix"
+)
+
+installed() {
+    dpkg-query -W -f='${Status}' "$1" 2>/dev/null | grep -q '^install ok installed$'
+}
+
+missing=()
+for group in "$@"; do
+    for package in ${groups[$group]:?"no such group: $group"}; do
+        installed "$package" || missing+=("$package")
+    done
+done
+[ ${#missing[@]} -eq 0 ] && exit 0
+
+echo "Installing ${missing[*]}"
+as_root=()
+[ "$(id -u)" -eq 0 ] || as_root=(sudo)
+"${as_root[@]}" apt-get update -qq
+"${as_root[@]}" env DEBIAN_FRONTEND=noninteractive \
+    apt-get install -y -qq --no-install-recommends "${missing[@]}" >/dev/null

@@ -1,0 +1,28 @@
+#!/usr/bin/env bash
+# Everything that must hold. Fails at the first thing that does not.
+set -euo pipefail
+cd "$(dirname "$0")/.."
+
+step() { printf '\n== %s\n' "$*"; }
+
+step "Formatting"
+scripts/format.sh --check
+
+step "Include rule"
+scripts/setup.sh build
+python3 scripts/check_includes.py --self-test
+python3 scripts/check_includes.py
+
+step "Cross-compilation for Windows (x64, x86)"
+scripts/ocx.sh
+
+step "Static analysis"
+scripts/build.sh native
+scripts/lint.sh
+
+step "Tests under AddressSanitizer and UndefinedBehaviorSanitizer"
+scripts/build.sh native-asan
+ctest --preset native-asan
+
+step "Tests"
+ctest --preset native
