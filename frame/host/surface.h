@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <span>
 
 #include "frame/color.h"
 #include "frame/host/font.h"
@@ -33,11 +34,19 @@ class Surface {
 
     /// Width of `text` on one line in the current font.
     virtual float TextWidth(TextView text) = 0;
+    /// Measures `text` once for all ways of breaking it: puts the unrounded width of its first i +
+    /// 1 units into ends[i]. Of any part that begins at the start or behind a blank and ends at the
+    /// end or before a blank, ends' difference, rounded to single precision, is TextWidth.
+    /// `ends` has as many elements as `text` has units.
+    virtual void TextWidths(TextView text, std::span<double> ends) = 0;
     /// Height of one line of `text` in the current font; an empty text has a line's height too.
     virtual float TextHeight(TextView text) = 0;
     /// Size of the drawing area, that is without the border.
     virtual float ScaleWidth() const = 0;
     virtual float ScaleHeight() const = 0;
+    /// The Y from which on downwards what is drawn can neither be seen nor is kept; infinite for a
+    /// surface that keeps everything.
+    virtual float VisibleBottom() const = 0;
 
     /// The surface's font object, never nothing; a change of it is a change of the surface's font.
     virtual FontRef CurrentFont() const = 0;
