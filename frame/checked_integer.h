@@ -15,7 +15,7 @@ namespace lumenkit {
 double RoundHalfToEven(double number);
 
 template <std::signed_integral Storage>
-class CheckedInteger {
+requires(sizeof(Storage) <= 4) class CheckedInteger {
  public:
     constexpr CheckedInteger() = default;
     /// Raises 6 when `value` does not fit.

@@ -14,11 +14,11 @@ enum class Color : std::uint32_t {
 };
 
 constexpr Color Rgb(std::uint8_t red, std::uint8_t green, std::uint8_t blue) {
-    return static_cast<Color>(red + green * 256u + blue * 65536u);
+    return static_cast<Color>(red + green * 256U + blue * 65536U);
 }
 
 constexpr bool IsSystemColor(Color color) {
-    return (static_cast<std::uint32_t>(color) & 0x80000000u) != 0;
+    return (static_cast<std::uint32_t>(color) & 0x80000000U) != 0;
 }
 
 }  // namespace lumenkit

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <charconv>
+#include <cmath>
 #include <cstdlib>
 #include <limits>
 #include <string_view>
@@ -56,6 +57,7 @@ class Units {
 };
 
 // A decimal number of any length, kept as precisely as rounding to double can tell apart.
+// NOLINTNEXTLINE(cppcoreguidelines-pro-type-member-init): only as many digits as are used are set
 class DecimalNumber {
  public:
     void AddDigit(char16_t digit, bool afterPoint) {
@@ -97,7 +99,7 @@ class DecimalNumber {
         for (std::size_t i = 0; i < count_; ++i) {
             whole = whole * 10 + (digits_[i] - '0');
         }
-        const double number = static_cast<double>(whole);
+        const auto number = static_cast<double>(whole);
         const double power = powers[static_cast<std::size_t>(std::abs(scale_))];
         return scale_ < 0 ? number / power : number * power;
     }
@@ -213,8 +215,8 @@ TextView WithoutSpaceAround(TextView text) {
     return text;
 }
 
-// `digits` is the shortest scientific image of a number without its sign, "d[.ddd]e±xx".
-void AppendStrForm(Text& text, std::string_view image, int firstExponent) {
+// `image` is a number without its sign, "d[.ddd]e±xx"; zeros that end its digits are dropped.
+void AppendUnsigned(Text& text, std::string_view image, int firstExponent) {
     const std::size_t mark = image.find('e');
     std::string_view exponentImage = image.substr(mark + 1);
     exponentImage.remove_prefix(exponentImage.front() == '+' ? 1 : 0);
@@ -227,6 +229,9 @@ void AppendStrForm(Text& text, std::string_view image, int firstExponent) {
         if (character != '.') {
             digits[static_cast<std::size_t>(count++)] = static_cast<char16_t>(character);
         }
+    }
+    while (count > 1 && digits[static_cast<std::size_t>(count - 1)] == u'0') {
+        --count;
     }
     const auto appendDigits = [&](int from, int to) {
         for (int i = from; i < to; ++i) {
@@ -262,10 +267,29 @@ void AppendStrOf(Text& text, Number number, int firstExponent) {
     }
     text += number < 0 ? u'-' : blank;
     std::array<char, 48> image{};
-    const auto end = std::to_chars(image.data(), image.data() + image.size(),
-                                   number < 0 ? -number : number, std::chars_format::scientific);
-    AppendStrForm(text, {image.data(), end.ptr}, firstExponent);
+    const auto end = std::to_chars(image.data(), image.data() + image.size(), std::abs(number),
+                                   std::chars_format::scientific);
+    AppendUnsigned(text, {image.data(), end.ptr}, firstExponent);
 }
+
+template <typename Number>
+Text NumberTextOf(Number number, int digits) {
+    if (!std::isfinite(number)) {
+        Raise(ErrorNumber::Overflow);
+    }
+    std::array<char, 48> image{};
+    const auto end = std::to_chars(image.data(), image.data() + image.size(), std::abs(number),
+                                   std::chars_format::scientific, digits - 1);
+    Text text;
+    AppendUnsigned(text, {image.data(), end.ptr}, digits);
+    if (text.front() == u'.') {
+        text.insert(0, 1, u'0');
+    }
+    return number < 0 ? u'-' + text : text;
+}
+
+constexpr int doubleDigits = 15;
+constexpr int singleDigits = 7;
 
 }  // namespace
 
@@ -281,11 +305,11 @@ std::optional<double> NumericValue(TextView text) {
 }
 
 void AppendStr(Text& text, double number) {
-    AppendStrOf(text, number, 15);
+    AppendStrOf(text, number, doubleDigits);
 }
 
 void AppendStr(Text& text, float number) {
-    AppendStrOf(text, number, 7);
+    AppendStrOf(text, number, singleDigits);
 }
 
 Text Str(double number) {
@@ -298,6 +322,14 @@ Text Str(float number) {
     Text text;
     AppendStr(text, number);
     return text;
+}
+
+Text NumberText(double number) {
+    return NumberTextOf(number, doubleDigits);
+}
+
+Text NumberText(float number) {
+    return NumberTextOf(number, singleDigits);
 }
 
 void AppendDecimal(Text& text, std::int32_t number) {

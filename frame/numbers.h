@@ -23,13 +23,19 @@ double ParseNumber(TextView text);
 std::optional<double> NumericValue(TextView text);
 
 /// Appends `number` in the form of the platform's `Str`: a blank or a minus sign, no zero before a
-/// leading decimal point, the fewest digits that read back as the same number. Below 0.0001 and
-/// from 1E+15 (single precision: 1E+07) up there is an exponent of at least two digits
+/// leading decimal point, the fewest digits that read back as the same number of their type. Below
+/// 0.0001 and from 1E+15 (single precision: 1E+07) up there is an exponent of at least two digits
 /// (" 1.5E+20"). `number` must be finite.
 void AppendStr(Text& text, double number);
 void AppendStr(Text& text, float number);
 Text Str(double number);
 Text Str(float number);
+
+/// `number` as the platform shows it in texts (CStr): rounded to 15 digits, single precision to 7,
+/// in the form of Str, but with a zero before a leading decimal point and without a leading blank.
+/// Raises 6 when `number` is not finite.
+Text NumberText(double number);
+Text NumberText(float number);
 
 /// Decimal digits without a leading blank.
 void AppendDecimal(Text& text, std::int32_t number);

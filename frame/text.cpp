@@ -1,6 +1,7 @@
 #include "frame/text.h"
 
 #include <algorithm>
+#include <array>
 #include <limits>
 
 #include "frame/runtime_error.h"
@@ -25,13 +26,16 @@ std::size_t Offset(std::int32_t start) {
     return static_cast<std::size_t>(start) - 1;
 }
 
+bool SameLetter(char16_t left, char16_t right) {
+    return left == right || LowerUnit(left) == LowerUnit(right);
+}
+
 std::size_t Find(TextView text, TextView sought, std::size_t from, Compare compare) {
     if (compare == Compare::Binary) {
         return text.find(sought, from);
     }
-    const auto found = std::search(
-        text.begin() + static_cast<std::ptrdiff_t>(from), text.end(), sought.begin(), sought.end(),
-        [](char16_t left, char16_t right) { return LowerUnit(left) == LowerUnit(right); });
+    const auto found = std::search(text.begin() + static_cast<std::ptrdiff_t>(from), text.end(),
+                                   sought.begin(), sought.end(), SameLetter);
     return found == text.end() ? TextView::npos : static_cast<std::size_t>(found - text.begin());
 }
 
@@ -62,7 +66,7 @@ std::int32_t InStrRev(TextView text, TextView sought, std::int32_t start) {
     if (reach == 0 || reach > static_cast<std::size_t>(Len(text))) {
         return 0;
     }
-    return Position(text.substr(0, reach).rfind(sought));
+    return sought.empty() ? start : Position(text.substr(0, reach).rfind(sought));
 }
 
 TextView Left(TextView text, std::int32_t count) {
@@ -94,7 +98,7 @@ TextView Trim(TextView text) {
 }
 
 char16_t LowerUnit(char16_t unit) {
-    return static_cast<char16_t>(unit + lowerDelta[lowerPage[unit >> 8]][unit & 0xFF]);
+    return static_cast<char16_t>(unit + lowerDelta[lowerPage[unit >> 8U]][unit & 0xFFU]);
 }
 
 Text LCase(TextView text) {
@@ -107,9 +111,7 @@ bool SameText(TextView left, TextView right, Compare compare) {
     if (compare == Compare::Binary) {
         return left == right;
     }
-    return std::equal(
-        left.begin(), left.end(), right.begin(), right.end(),
-        [](char16_t a, char16_t b) { return a == b || LowerUnit(a) == LowerUnit(b); });
+    return std::equal(left.begin(), left.end(), right.begin(), right.end(), SameLetter);
 }
 
 }  // namespace lumenkit

@@ -29,7 +29,8 @@ std::int32_t InStr(std::int32_t start, TextView text, TextView sought,
                    Compare compare = Compare::Binary);
 
 /// Position of the last `sought` that ends at `start` or earlier; 0 when there is none and when
-/// `start` is 0 or lies beyond the end of `text`.
+/// `start` is 0 or lies beyond the end of `text`. An empty `sought` is found at `start`.
+/// Raises 5 when `start` is negative.
 std::int32_t InStrRev(TextView text, TextView sought, std::int32_t start);
 
 /// The first / last `count` units, or all of them when there are fewer. Raise 5 when negative.

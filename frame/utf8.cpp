@@ -32,7 +32,7 @@ std::size_t SequenceLength(unsigned lead) {
 
 char32_t DecodeSequence(std::string_view bytes, std::size_t at, std::size_t length) {
     const unsigned lead = Byte(bytes, at);
-    char32_t code = length == 1 ? lead : lead & (0x7Fu >> length);
+    char32_t code = length == 1 ? lead : lead & (0x7FU >> length);
     for (std::size_t i = 1; i < length; ++i) {
         const unsigned next = Byte(bytes, at + i);
         if ((next & 0xC0) != 0x80) {
@@ -64,7 +64,7 @@ void AppendUtf8(std::string& bytes, char32_t code) {
         return;
     }
     const int following = code < 0x800 ? 1 : code < 0x10000 ? 2 : 3;
-    const unsigned leadMark = 0xFF00u >> (following + 1) & 0xFF;
+    const unsigned leadMark = 0xFF00U >> (following + 1) & 0xFF;
     bytes += static_cast<char>(leadMark | code >> 6 * following);
     for (int i = following - 1; i >= 0; --i) {
         bytes += static_cast<char>(0x80 | (code >> 6 * i & 0x3F));
@@ -93,7 +93,7 @@ std::string ToUtf8(TextView text) {
     for (std::size_t i = 0; i < text.size(); ++i) {
         char32_t code = text[i];
         if (IsHigh(text[i]) && i + 1 < text.size() && IsLow(text[i + 1])) {
-            code = 0x10000 + ((code & 0x3FF) << 10) + (text[++i] & 0x3FFu);
+            code = 0x10000 + ((code & 0x3FF) << 10) + (text[++i] & 0x3FFU);
         } else if (IsHigh(text[i]) || IsLow(text[i])) {
             code = replacement;
         }

@@ -10,7 +10,8 @@
 
 namespace lumenkit {
 
-/// Thrown for bytes that are not well-formed UTF-8; `offset` is the first bad byte, from 0.
+/// Thrown for bytes that are not well-formed UTF-8; `offset` is where the bad sequence
+/// begins, in bytes from 0.
 class MalformedUtf8 : public std::runtime_error {
  public:
     explicit MalformedUtf8(std::size_t badOffset)

@@ -33,14 +33,14 @@ def main():
     out = sys.stdout
     out.write("// Made by scripts/generate_case_table.py from Unicode's character database; do not edit.\n")
     out.write("// clang-format off\n")
-    out.write("constexpr std::uint8_t lowerPage[256] = {\n")
+    out.write("constexpr std::array<std::uint8_t, 256> lowerPage = {\n")
     for row in range(0, 256, 32):
         out.write("    " + ",".join(str(i) for i in index[row : row + 32]) + ",\n")
     out.write("};\n")
-    out.write(f"constexpr std::uint16_t lowerDelta[{len(pages)}][256] = {{\n")
+    out.write(f"constexpr std::array<std::array<std::uint16_t, 256>, {len(pages)}> lowerDelta = {{{{\n")
     for page in pages:
         out.write("    {" + ",".join(str(d) for d in page) + "},\n")
-    out.write("};\n// clang-format on\n")
+    out.write("}};\n// clang-format on\n")
 
 
 main()

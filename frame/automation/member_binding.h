@@ -40,7 +40,7 @@ using SignatureOf = Signature<decltype(function)>;
 
 /// Calls `function` on what `self` points to with the converted arguments.
 template <auto function, std::size_t... index>
-Value Apply(void* self, std::span<Value> arguments, std::index_sequence<index...>) {
+Value Apply(void* self, std::span<Value> arguments, std::index_sequence<index...> /*indices*/) {
     using Of = SignatureOf<function>;
     auto* object = static_cast<typename Of::Self*>(self);
     const auto run = [&] {

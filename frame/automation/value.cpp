@@ -1,10 +1,6 @@
 #include "frame/automation/value.h"
 
-#include <array>
-#include <charconv>
-#include <cmath>
 #include <concepts>
-#include <cstdlib>
 #include <optional>
 #include <type_traits>
 
@@ -40,44 +36,28 @@ Value DefaultMemberOf(const ObjectRef& object) {
     if (!object) {
         Raise(ErrorNumber::ObjectNotSet);
     }
-    const Value value = object->Get(defaultMember);
-    if (std::holds_alternative<ObjectRef>(value)) {
+    Value member = object->Get(defaultMember);
+    if (std::holds_alternative<ObjectRef>(member)) {
         Raise(ErrorNumber::TypeMismatch);  // one step only: a circle of defaults must end
     }
-    return value;
+    return member;
 }
 
-// What is left of `value` when Null, Missing and objects have been dealt with.
-Value Plain(const Value& value) {
-    if (std::holds_alternative<Null>(value)) {
+// What `value` stands for: itself or, for an object, its default member, which is put into
+// `member`. Never Null, Missing or an object.
+const Value& Plain(const Value& value, Value& member) {
+    const auto* object = std::get_if<ObjectRef>(&value);
+    if (object != nullptr) {
+        member = DefaultMemberOf(*object);
+    }
+    const Value& plain = object != nullptr ? member : value;
+    if (std::holds_alternative<Null>(plain)) {
         Raise(ErrorNumber::InvalidUseOfNull);
     }
-    if (std::holds_alternative<Missing>(value)) {
+    if (std::holds_alternative<Missing>(plain)) {
         Raise(ErrorNumber::ArgumentNotOptional);
     }
-    if (const auto* object = std::get_if<ObjectRef>(&value)) {
-        return Plain(DefaultMemberOf(*object));
-    }
-    return value;
-}
-
-// Shortest digits up to the platform's precision, with a zero before a leading decimal point.
-Text NumberText(double number, int precision) {
-    if (!std::isfinite(number)) {
-        Raise(ErrorNumber::Overflow);
-    }
-    std::array<char, 40> image{};
-    const auto rounded = std::to_chars(image.data(), image.data() + image.size(), number,
-                                       std::chars_format::scientific, precision - 1);
-    double shown = 0.0;
-    std::from_chars(image.data(), rounded.ptr, shown);
-    Text text = precision > 7 ? Str(shown) : Str(static_cast<float>(shown));
-    const bool negative = text.front() == u'-';
-    text.erase(0, 1);
-    if (text.front() == u'.') {
-        text.insert(0, 1, u'0');
-    }
-    return negative ? u"-" + text : text;
+    return plain;
 }
 
 std::optional<double> NumberIn(const Value& value) {
@@ -95,7 +75,8 @@ std::optional<double> NumberIn(const Value& value) {
 }  // namespace
 
 double ToDouble(const Value& value) {
-    const Value plain = Plain(value);
+    Value member;
+    const Value& plain = Plain(value, member);
     if (const auto* text = std::get_if<Text>(&plain)) {
         return NumberInText(*text);
     }
@@ -103,7 +84,8 @@ double ToDouble(const Value& value) {
 }
 
 bool ToBoolean(const Value& value) {
-    const Value plain = Plain(value);
+    Value member;
+    const Value& plain = Plain(value, member);
     if (const auto* text = std::get_if<Text>(&plain)) {
         if (SameText(*text, u"True", Compare::IgnoreCase)) {
             return true;
@@ -128,6 +110,7 @@ float ToSingle(const Value& value) {
 }
 
 Text ToText(const Value& value) {
+    Value member;
     return std::visit(
         []<typename T>(const T& held) -> Text {
             if constexpr (std::same_as<T, Text>) {
@@ -136,15 +119,13 @@ Text ToText(const Value& value) {
                 return held ? u"True" : u"False";
             } else if constexpr (std::integral<T>) {
                 return Decimal(held);
-            } else if constexpr (std::same_as<T, float>) {
-                return NumberText(held, 7);
-            } else if constexpr (std::same_as<T, double>) {
-                return NumberText(held, 15);
+            } else if constexpr (std::floating_point<T>) {
+                return NumberText(held);
             } else {
                 return {};
             }
         },
-        Plain(value));
+        Plain(value, member));
 }
 
 Color ToColor(const Value& value) {
