@@ -34,10 +34,10 @@ class Surface {
 
     /// Width of `text` on one line in the current font.
     virtual float TextWidth(TextView text) = 0;
-    /// Measures `text` once for all ways of breaking it: puts the unrounded width of its first i +
-    /// 1 units into ends[i]. Of any part that begins at the start or behind a blank and ends at the
-    /// end or before a blank, ends' difference, rounded to single precision, is TextWidth.
-    /// `ends` has as many elements as `text` has units.
+    /// Measures `text` once for all ways of breaking it: puts the unrounded width of its first
+    /// i + 1 units into ends[i]. For any part that begins at the start or behind a blank, and ends
+    /// at the end, before or behind a blank, the difference of its ends, rounded to single
+    /// precision, is its TextWidth. `ends` has as many elements as `text` has units.
     virtual void TextWidths(TextView text, std::span<double> ends) = 0;
     /// Height of one line of `text` in the current font; an empty text has a line's height too.
     virtual float TextHeight(TextView text) = 0;
