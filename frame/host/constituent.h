@@ -13,6 +13,8 @@ struct Placement {
     float top = 0;
     float width = 0;
     float height = 0;
+
+    friend bool operator==(const Placement&, const Placement&) = default;
 };
 
 /// What every constituent control has. A constituent belongs to the user-interface thread; its
