@@ -85,8 +85,7 @@ struct Automation<Color> {
 template <>
 struct Automation<host::FontRef> {
     static constexpr ValueType type = ValueType::Font;
-    /// Raises 13 for an object that is no font. The reference may be nothing.
-    static host::FontRef From(const Value& value);
+    static host::FontRef From(const Value& value) { return host::ToFont(value); }
     static Value To(host::FontRef font) { return ObjectRef(std::move(font)); }
 };
 

@@ -6,9 +6,7 @@
 #include "frame/automation/member_binding.h"
 #include "frame/runtime_error.h"
 
-namespace lumenkit {
-
-namespace host {
+namespace lumenkit::host {
 
 namespace {
 
@@ -46,15 +44,13 @@ bool Font::IsSame(const Object& other) const {
            Weight() == font->Weight() && Charset() == font->Charset();
 }
 
-}  // namespace host
-
-host::FontRef Automation<host::FontRef>::From(const Value& value) {
+FontRef ToFont(const Value& value) {
     const ObjectRef object = ToObject(value);
-    auto font = std::dynamic_pointer_cast<host::Font>(object);
+    auto font = std::dynamic_pointer_cast<Font>(object);
     if (object && !font) {
         Raise(ErrorNumber::TypeMismatch);
     }
     return font;
 }
 
-}  // namespace lumenkit
+}  // namespace lumenkit::host

@@ -43,4 +43,7 @@ class Font : public Object {
 
 using FontRef = std::shared_ptr<Font>;
 
+/// The font that `value` refers to, which may be nothing. Raises 13 for what is no font.
+FontRef ToFont(const Value& value);
+
 }  // namespace lumenkit::host
