@@ -1,0 +1,230 @@
+#include "vlabel/caption_renderer.h"
+
+#include <exception>
+#include <span>
+
+#include "frame/checked_integer.h"
+#include "frame/numbers.h"
+#include "vlabel/bullet.h"
+#include "vlabel/find_bar.h"
+#include "vlabel/word_wrap.h"
+
+namespace lumenkit {
+
+CaptionRenderer::CaptionRenderer(const Module& module, host::Surface& surface,
+                                 CaptionSettings& settings)
+    : module_(module), surface_(surface), settings_(settings), compiler_(module) {}
+
+void CaptionRenderer::DisplayCaption() {
+    module_.Procedure(u"DisplayCaption", [&] {
+        CompileIfChanged();
+        if (!SaveState()) {
+            return;  // what cannot be saved cannot be put back: better no drawing than a changed
+                     // font
+        }
+        try {
+            DrawLines();
+        } catch (...) {
+            RestoreState();
+            throw;
+        }
+        RestoreState();
+    });
+}
+
+void CaptionRenderer::CompileIfChanged() {
+    if (!settings_.IsCompiled) {
+        compiler_.CompileCaption(settings_.Caption);
+        settings_.IsCompiled = true;
+    }
+}
+
+void CaptionRenderer::DrawLines() {
+    surface_.Cls();
+    drawing_.CommandIndex = 0;
+    drawing_.MaxLineX = 0;
+    drawing_.BeforeSpacing = 0;
+    visibleBottom_ = surface_.VisibleBottom();
+    const TextList& lines = compiler_.Compiled().CaptionLines;
+    for (std::int32_t index = 1; index <= lines.Count(); ++index) {
+        DrawLine(lines.Item(index));
+    }
+    drawing_.IdealHeight = RoundToInt16(surface_.CurrentY());
+}
+
+void CaptionRenderer::DrawLine(TextView line) {
+    drawing_.LineHeight = surface_.TextHeight(line);
+    surface_.SetCurrentX(LineStart());
+    for (std::size_t at = FindBar(line, 0); at < line.size(); at = FindBar(line, 0)) {
+        if (at > 0) {
+            DisplayText(line.substr(0, at), false);
+        }
+        line.remove_prefix(at + 1);
+        ExecuteNextCommand(line, drawing_.LineHeight);
+    }
+    DisplayText(line, true);
+}
+
+void CaptionRenderer::DisplayText(TextView text, bool endOfLine) {
+    module_.Procedure(u"DisplayText", [&] {
+        const float x0 = surface_.CurrentX();
+        const TextView printed = DrawBulletOf(text, x0);
+        if (settings_.WordWrap) {
+            PrintWrapped(printed, x0);
+        } else if (surface_.CurrentY() < visibleBottom_) {
+            surface_.Print(printed);
+        } else {
+            Print(printed, surface_.TextWidth(printed));
+        }
+        if (endOfLine) {
+            float newX = 0;
+            StartNewLine(1, newX);
+        }
+    });
+}
+
+// Draws the bullet of a run that asks for one, and returns the run without its prefix.
+TextView CaptionRenderer::DrawBulletOf(TextView text, float x0) {
+    const TextView prefix = settings_.BulletPrefix;
+    if (x0 != LineStart() || prefix.empty() || !text.starts_with(prefix)) {
+        return text;
+    }
+    const float y0 = surface_.CurrentY();
+    const float height = drawing_.LineHeight;
+    DrawBullet(height / 8, y0 + height / 2, height / 4);
+    surface_.SetCurrentX(x0);
+    surface_.SetCurrentY(y0);
+    return text.substr(prefix.size());
+}
+
+void CaptionRenderer::PrintWrapped(TextView text, float x0) {
+    if (widthEnds_.size() < text.size()) {
+        widthEnds_.resize(text.size());
+    }
+    const std::span ends(widthEnds_.data(), text.size());
+    surface_.TextWidths(text, ends);
+    const float edge = surface_.ScaleWidth();
+    for (WordWrap wrap(text, ends);;) {
+        const WordWrap::Step step = wrap.Next(x0, edge, x0 == LineStart());
+        switch (step.action) {
+            case WordWrap::Action::PrintRest:
+                Print(step.text, step.width);
+                return;
+            case WordWrap::Action::PrintLine:
+                Print(step.text, step.width);
+                StartNewLine(0, x0);
+                break;
+            case WordWrap::Action::StartNewLine:
+                StartNewLine(0, x0);
+                break;
+            case WordWrap::Action::Stop:
+                return;
+        }
+    }
+}
+
+// Below the visible part only the pen moves.
+void CaptionRenderer::Print(TextView text, float width) {
+    if (surface_.CurrentY() < visibleBottom_) {
+        surface_.Print(text);
+    } else {
+        surface_.SetCurrentX(surface_.CurrentX() + width);
+    }
+}
+
+void CaptionRenderer::StartNewLine(std::int16_t useBefore, float& newX) {
+    module_.Procedure(u"StartNewLine", [&] {
+        const float endX = surface_.CurrentX();
+        if (endX > drawing_.MaxLineX) {
+            drawing_.MaxLineX = endX;
+        }
+        newX = LineStart();
+        surface_.SetCurrentX(newX);
+        surface_.SetCurrentY(ToSingle(double{surface_.CurrentY()} + drawing_.LineHeight +
+                                      double{drawing_.BeforeSpacing} * useBefore));
+    });
+}
+
+void CaptionRenderer::ExecuteNextCommand(TextView restOfLine, float& lineHeight) {
+    module_.Procedure(u"ExecuteNextCommand", [&] {
+        ++drawing_.CommandIndex;
+        const TextView parameter = compiler_.Compiled().CommandParams.Item(drawing_.CommandIndex);
+        const TextView name = compiler_.Compiled().CommandNames.Item(drawing_.CommandIndex);
+        drawing_.InCommand = true;
+        Execute(name, parameter, restOfLine, lineHeight);
+        drawing_.InCommand = false;
+    });
+}
+
+void CaptionRenderer::Execute(TextView name, TextView parameter, TextView restOfLine,
+                              float& lineHeight) {
+    if (name == u"b") {
+        surface_.CurrentFont()->SetBold(parameter == u"1");
+    } else if (name == u"i") {
+        surface_.CurrentFont()->SetItalic(parameter == u"1");
+    } else if (name == u"u") {  // the compiler turns it into "i"; here it would underline
+        surface_.CurrentFont()->SetUnderline(parameter == u"1");
+    } else if (name == u"color") {
+        surface_.SetForeColor(static_cast<Color>(RoundToInt32(ParseNumber(parameter))));
+    } else if (name == u"size") {
+        const double size = ParseNumber(parameter);
+        if (size > 1) {
+            surface_.CurrentFont()->SetSize(ToSingle(size));
+            const float height = surface_.TextHeight(restOfLine);
+            if (height > lineHeight) {
+                lineHeight = height;
+            }
+        }
+    } else if (name == u"before") {
+        drawing_.BeforeSpacing = ToSingle(ParseNumber(parameter));
+    }
+}
+
+void CaptionRenderer::DrawBullet(float x, float centreY, float radius) {
+    module_.Procedure(u"DrawBullet", [&] {
+        PaintBullet(surface_, settings_.TwipsPerPixelX, settings_.TwipsPerPixelY, x, centreY,
+                    radius);
+    });
+}
+
+bool CaptionRenderer::SaveState() {
+    return module_.Function<bool>(u"SaveState", [&](bool& saved) {
+        SurfaceState state;
+        state.SavedForeColor = surface_.ForeColor();
+        const host::FontRef font = surface_.CurrentFont();
+        state.SavedBold = font->Bold();
+        state.SavedItalic = font->Italic();
+        state.SavedSize = font->Size();
+        state.SavedUnderline = font->Underline();
+        saved_ = state;
+        saved = true;
+    });
+}
+
+// Each attribute is put back by itself and, where that fails, tried once more: what a caption left
+// behind would spoil every later drawing. The first error is reported.
+void CaptionRenderer::RestoreState() {
+    module_.Procedure(u"RestoreState", [&] {
+        std::exception_ptr firstError;
+        const auto restore = [&](auto&& put) {
+            for (int attempt = 0; attempt < 2; ++attempt) {
+                try {
+                    put();
+                    return;
+                } catch (...) {
+                    firstError = firstError ? firstError : std::current_exception();
+                }
+            }
+        };
+        restore([&] { surface_.SetForeColor(saved_.SavedForeColor); });
+        restore([&] { surface_.CurrentFont()->SetBold(saved_.SavedBold); });
+        restore([&] { surface_.CurrentFont()->SetItalic(saved_.SavedItalic); });
+        restore([&] { surface_.CurrentFont()->SetSize(saved_.SavedSize); });
+        restore([&] { surface_.CurrentFont()->SetUnderline(saved_.SavedUnderline); });
+        if (firstError) {
+            std::rethrow_exception(firstError);
+        }
+    });
+}
+
+}  // namespace lumenkit

@@ -1,0 +1,78 @@
+// Draws a compiled caption on a surface, line by line: runs of text, commands between them, word
+// wrap and bullets.
+//
+// Runs on one line are aligned at their top. There is no margin: the first line is drawn at Y = 0,
+// every line starts at X = BulletIndent. Layout happens here and only here; what it found out,
+// MaxLineX and IdealHeight, serves the ideal size.
+#pragma once
+
+#include <cstdint>
+#include <vector>
+
+#include "frame/color.h"
+#include "frame/host/surface.h"
+#include "frame/module.h"
+#include "frame/text.h"
+#include "vlabel/caption_compiler.h"
+#include "vlabel/caption_settings.h"
+
+namespace lumenkit {
+
+/// The state of one drawing, reset at its start.
+struct CaptionDrawing {
+    std::int16_t CommandIndex = 0;  ///< commands applied so far
+    float LineHeight = 0;           ///< advance of the line being drawn, twips
+    float BeforeSpacing = 0;        ///< added to it at explicit line ends, twips
+    float MaxLineX = 0;             ///< largest X of the pen at the end of any line, twips
+    std::int16_t IdealHeight = 0;   ///< Y of the pen behind the last line, twips
+    bool InCommand = false;
+};
+
+class CaptionRenderer {
+ public:
+    /// All of it must outlive the renderer. The settings are read at each drawing.
+    CaptionRenderer(const Module& module, host::Surface& surface, CaptionSettings& settings);
+
+    /// Clears the surface and draws the caption, compiled first where it changed. ForeColor and
+    /// font of the surface are afterwards what they were before, also when an error struck. Errors
+    /// are reported, not raised.
+    void DisplayCaption();
+
+    /// What the last drawing left: MaxLineX and IdealHeight are what sizing needs.
+    const CaptionDrawing& Drawing() const { return drawing_; }
+
+ private:
+    struct SurfaceState {
+        Color SavedForeColor{};
+        bool SavedBold = false;
+        bool SavedItalic = false;
+        bool SavedUnderline = false;
+        float SavedSize = 0;
+    };
+
+    void CompileIfChanged();
+    void DrawLines();
+    void DrawLine(TextView line);
+    void DisplayText(TextView text, bool endOfLine);
+    TextView DrawBulletOf(TextView text, float x0);
+    void PrintWrapped(TextView text, float x0);
+    void Print(TextView text, float width);
+    void StartNewLine(std::int16_t useBefore, float& newX);
+    void ExecuteNextCommand(TextView restOfLine, float& lineHeight);
+    void Execute(TextView name, TextView parameter, TextView restOfLine, float& lineHeight);
+    void DrawBullet(float x, float centreY, float radius);
+    bool SaveState();
+    void RestoreState();
+    float LineStart() const { return settings_.BulletIndent; }
+
+    const Module& module_;
+    host::Surface& surface_;
+    CaptionSettings& settings_;
+    CaptionCompiler compiler_;
+    CaptionDrawing drawing_;
+    SurfaceState saved_;
+    float visibleBottom_ = 0;
+    std::vector<double> widthEnds_;  // kept, so that wrapping allocates nothing once it is warm
+};
+
+}  // namespace lumenkit

@@ -1,0 +1,335 @@
+#include "vlabel/vlabel.h"
+
+#include <utility>
+
+#include "frame/automation/raise_event.h"
+#include "frame/checked_integer.h"
+#include "vlabel/vlabel_interface.h"
+
+namespace lumenkit {
+
+namespace {
+
+// The names and defaults of the persisted properties are a file format: they stay.
+constexpr Color defaultBackColor = Color::WindowBackground;
+constexpr Color defaultForeColor = Color::ButtonText;
+constexpr TextView defaultCaption = u"VLabel";
+
+}  // namespace
+
+VLabel::VLabel(const ControlHost& host)
+    : surface_(host.surface),
+      container_(host.container),
+      ambient_(host.ambient),
+      screen_(host.screen),
+      errors_(host.application, host.interaction),
+      module_(errors_, u"VLABEL"),
+      renderer_(module_, surface_, settings_),
+      automation_(vlabelInterface, this) {}
+
+// ---- What the properties have in common
+
+// A property that lives on the surface.
+template <typename Result, typename Read>
+Result VLabel::Get(TextView procedure, Read&& read) const {
+    return module_.Function<Result>(procedure, [&](Result& result) { result = read(); });
+}
+
+template <typename Put>
+void VLabel::Let(TextView procedure, TextView property, Repaint repaint, Put&& put) {
+    module_.Procedure(procedure, [&] {
+        put();
+        PropertyChanged(property, repaint);
+    });
+}
+
+void VLabel::PropertyChanged(TextView property, Repaint repaint) {
+    container_.PropertyChanged(property);
+    if (repaint == Repaint::Yes && IsReady_) {
+        RefreshControl(false);
+    }
+}
+
+void VLabel::RefreshControl(bool noRefresh) {
+    module_.Procedure(u"RefreshControl", [&] {
+        if (surface_.AutoRedraw()) {
+            renderer_.DisplayCaption();
+        }
+        if (!noRefresh) {
+            surface_.Refresh();
+        }
+    });
+}
+
+void VLabel::ApplyBackColour() {
+    module_.Procedure(u"ApplyBackColour", [&] {
+        surface_.SetBackColor(BackStyle_ != 0 ? ambient_.BackColor() : BackColor_);
+    });
+}
+
+// ---- Properties of the surface
+
+Color VLabel::pGetForeColor() const {
+    return Get<Color>(u"pGetForeColor", [&] { return surface_.ForeColor(); });
+}
+
+void VLabel::pLetForeColor(Color color) {
+    Let(u"pLetForeColor", u"ForeColor", Repaint::Yes, [&] { surface_.SetForeColor(color); });
+}
+
+bool VLabel::pGetEnabled() const {
+    return Get<bool>(u"pGetEnabled", [&] { return surface_.Enabled(); });
+}
+
+void VLabel::pLetEnabled(bool enabled) {
+    Let(u"pLetEnabled", u"Enabled", Repaint::No, [&] { surface_.SetEnabled(enabled); });
+}
+
+host::FontRef VLabel::pGetFont() const {
+    return Get<host::FontRef>(u"pGetFont", [&] { return surface_.CurrentFont(); });
+}
+
+void VLabel::pSetFont(host::FontRef font) {
+    Let(u"pSetFont", u"Font", Repaint::Yes, [&] { surface_.SetCurrentFont(std::move(font)); });
+}
+
+std::int16_t VLabel::pGetBorderStyle() const {
+    return Get<std::int16_t>(u"pGetBorderStyle", [&] { return surface_.BorderStyle(); });
+}
+
+void VLabel::pLetBorderStyle(std::int16_t style) {
+    Let(u"pLetBorderStyle", u"BorderStyle", Repaint::No, [&] { surface_.SetBorderStyle(style); });
+}
+
+bool VLabel::pGetFontTransparent() const {
+    return Get<bool>(u"pGetFontTransparent", [&] { return surface_.FontTransparent(); });
+}
+
+void VLabel::pLetFontTransparent(bool transparent) {
+    Let(u"pLetFontTransparent", u"FontTransparent", Repaint::Yes,
+        [&] { surface_.SetFontTransparent(transparent); });
+}
+
+std::int16_t VLabel::pGetMousePointer() const {
+    return Get<std::int16_t>(u"pGetMousePointer", [&] { return surface_.Pointer(); });
+}
+
+void VLabel::pLetMousePointer(std::int16_t pointer) {
+    Let(u"pLetMousePointer", u"MousePointer", Repaint::No, [&] { surface_.SetPointer(pointer); });
+}
+
+// ---- Properties of the control itself
+
+void VLabel::pLetBackColor(Color color) {
+    BackColor_ = color;
+    ApplyBackColour();
+    PropertyChanged(u"BackColor", Repaint::Yes);
+}
+
+void VLabel::pLetBackStyle(std::int16_t style) {
+    BackStyle_ = style;
+    ApplyBackColour();
+    PropertyChanged(u"BackStyle", Repaint::Yes);
+}
+
+void VLabel::pLetCaption(TextView caption) {
+    settings_.Caption = caption;
+    container_.PropertyChanged(u"Caption");
+    settings_.IsCompiled = false;
+    if (IsReady_) {
+        RefreshControl(false);
+    }
+}
+
+void VLabel::pLetWordWrap(bool wrap) {
+    settings_.WordWrap = wrap;
+    PropertyChanged(u"WordWrap", Repaint::Yes);
+}
+
+void VLabel::pLetBulletIndent(std::int16_t indent) {
+    settings_.BulletIndent = indent;
+    PropertyChanged(u"BulletIndent", Repaint::Yes);
+}
+
+void VLabel::pLetBulletPrefix(TextView prefix) {
+    settings_.BulletPrefix = prefix;
+    PropertyChanged(u"BulletPrefix", Repaint::Yes);
+}
+
+void VLabel::pLetAutoSize(bool autoSize) {
+    AutoSize_ = autoSize;
+    PropertyChanged(u"AutoSize", Repaint::No);
+}
+
+// ---- Methods
+
+void VLabel::Refresh() {
+    RefreshControl(false);
+}
+
+void VLabel::SetIdealSize() {
+    module_.Procedure(u"SetIdealSize", [&] {
+        if (settings_.WordWrap) {
+            return;
+        }
+        float width = surface_.Width();
+        float height = surface_.Height();
+        renderer_.DisplayCaption();
+        const float contentWidth = renderer_.Drawing().MaxLineX;
+        const Int16 contentHeight = renderer_.Drawing().IdealHeight;
+        const double pixelX = settings_.TwipsPerPixelX;
+        const double pixelY = settings_.TwipsPerPixelY;
+        bool changed = false;
+        const auto resize = [&](float& size, double newSize) {
+            size = ToSingle(newSize);
+            changed = true;
+        };
+        // One to two pixels above the content are left alone, so that repeated calls do not creep.
+        if (ToSingle(contentWidth + pixelX) > width) {
+            resize(width, contentWidth + pixelX * 1.1);
+        }
+        if (ToSingle(contentWidth + 2 * pixelX) < width) {
+            resize(width, contentWidth + pixelX * 1.9);
+        }
+        if (height < (contentHeight + settings_.TwipsPerPixelY).Value()) {
+            resize(height, contentHeight.Value() + pixelY * 1.1);
+        }
+        if (height > (contentHeight + Int16(2) * settings_.TwipsPerPixelY).Value()) {
+            resize(height, contentHeight.Value() + pixelY * 1.9);
+        }
+        if (changed) {
+            surface_.Size(width, height);
+        }
+    });
+}
+
+Value VLabel::GetProperty(TextView PropertyName) {
+    return module_.Function<Value>(u"GetProperty", [&](Value& result) {
+        const Text name = LCase(PropertyName);
+        if (name == u"width") {
+            result = surface_.Width();
+        } else if (name == u"height") {
+            result = surface_.Height();
+        }
+    });
+}
+
+void VLabel::Test(TextView CaptionToVerify) {
+    module_.Procedure(u"Test", [&] {
+        NotTesting_ = false;
+        pLetCaption(CaptionToVerify);
+        NotTesting_ = true;
+    });
+}
+
+// ---- The container's calls
+
+void VLabel::UserControl_Initialize() {
+    module_.Procedure(u"UserControl_Initialize", [&] {
+        settings_.TwipsPerPixelX = screen_.TwipsPerPixelX();
+        settings_.TwipsPerPixelY = screen_.TwipsPerPixelY();
+        NotTesting_ = true;
+    });
+}
+
+void VLabel::UserControl_InitProperties() {
+    module_.Procedure(u"UserControl_InitProperties", [&] {
+        surface_.SetCurrentFont(ambient_.AmbientFont());
+        settings_.Caption = defaultCaption;
+        settings_.IsCompiled = false;
+        settings_.WordWrap = false;
+        settings_.BulletIndent = 0;
+        AutoSize_ = false;
+        BackColor_ = defaultBackColor;
+        BackStyle_ = 0;
+        ApplyBackColour();
+    });
+}
+
+void VLabel::UserControl_ReadProperties(host::PropertyBag& bag) {
+    module_.Procedure(u"UserControl_ReadProperties", [&] {
+        IsReady_ = false;
+        BackColor_ = ToColor(bag.ReadProperty(u"BackColor", FromColor(defaultBackColor)));
+        surface_.SetForeColor(ToColor(bag.ReadProperty(u"ForeColor", FromColor(defaultForeColor))));
+        surface_.SetEnabled(ToBoolean(bag.ReadProperty(u"Enabled", true)));
+        // Without a saved font the surface keeps the one it was designed with.
+        if (host::FontRef font = host::ToFont(bag.ReadProperty(u"Font", ObjectRef()))) {
+            surface_.SetCurrentFont(std::move(font));
+        }
+        surface_.SetBorderStyle(ToInteger(bag.ReadProperty(u"BorderStyle", std::int16_t{0})));
+        surface_.SetFontTransparent(ToBoolean(bag.ReadProperty(u"FontTransparent", true)));
+        surface_.SetPointer(ToInteger(bag.ReadProperty(u"MousePointer", std::int16_t{0})));
+        settings_.Caption = ToText(bag.ReadProperty(u"Caption", Text(defaultCaption)));
+        settings_.WordWrap = ToBoolean(bag.ReadProperty(u"WordWrap", false));
+        settings_.BulletIndent = ToInteger(bag.ReadProperty(u"BulletIndent", std::int16_t{0}));
+        settings_.BulletPrefix = ToText(bag.ReadProperty(u"BulletPrefix", Text()));
+        AutoSize_ = ToBoolean(bag.ReadProperty(u"AutoSize", false));
+        BackStyle_ = ToInteger(bag.ReadProperty(u"BackStyle", std::int16_t{0}));
+        settings_.IsCompiled = false;
+        IsReady_ = true;
+        ApplyBackColour();
+    });
+}
+
+void VLabel::UserControl_WriteProperties(host::PropertyBag& bag) {
+    module_.Procedure(u"UserControl_WriteProperties", [&] {
+        bag.WriteProperty(u"BackColor", FromColor(BackColor_), FromColor(defaultBackColor));
+        bag.WriteProperty(u"ForeColor", FromColor(surface_.ForeColor()),
+                          FromColor(defaultForeColor));
+        bag.WriteProperty(u"Enabled", surface_.Enabled(), true);
+        bag.WriteProperty(u"Font", ObjectRef(surface_.CurrentFont()), ObjectRef());
+        bag.WriteProperty(u"BorderStyle", surface_.BorderStyle(), std::int16_t{0});
+        bag.WriteProperty(u"FontTransparent", surface_.FontTransparent(), true);
+        bag.WriteProperty(u"MousePointer", surface_.Pointer(), std::int16_t{0});
+        bag.WriteProperty(u"Caption", settings_.Caption, Text(defaultCaption));
+        bag.WriteProperty(u"WordWrap", settings_.WordWrap, false);
+        bag.WriteProperty(u"BulletIndent", settings_.BulletIndent, std::int16_t{0});
+        bag.WriteProperty(u"BulletPrefix", settings_.BulletPrefix, Text());
+        bag.WriteProperty(u"AutoSize", AutoSize_, false);
+        bag.WriteProperty(u"BackStyle", BackStyle_, std::int16_t{0});
+    });
+}
+
+void VLabel::UserControl_Resize() {
+    module_.Procedure(u"UserControl_Resize", [&] { RefreshControl(true); });
+}
+
+void VLabel::UserControl_Show() {
+    module_.Procedure(u"UserControl_Show", [&] { RefreshControl(true); });
+}
+
+void VLabel::UserControl_Paint() {
+    module_.Procedure(u"UserControl_Paint", [&] {
+        renderer_.DisplayCaption();
+        IsReady_ = true;
+    });
+}
+
+void VLabel::UserControl_Click() {
+    RaiseEvent(container_, static_cast<std::int32_t>(VLabelEvent::Click));
+}
+
+void VLabel::UserControl_DblClick() {
+    RaiseEvent(container_, static_cast<std::int32_t>(VLabelEvent::DblClick));
+}
+
+void VLabel::UserControl_MouseDown(host::MouseArguments& mouse) {
+    RaiseMouseEvent(u"UserControl_MouseDown", VLabelEvent::MouseDown, mouse);
+}
+
+void VLabel::UserControl_MouseMove(host::MouseArguments& mouse) {
+    RaiseMouseEvent(u"UserControl_MouseMove", VLabelEvent::MouseMove, mouse);
+}
+
+void VLabel::UserControl_MouseUp(host::MouseArguments& mouse) {
+    RaiseMouseEvent(u"UserControl_MouseUp", VLabelEvent::MouseUp, mouse);
+}
+
+void VLabel::RaiseMouseEvent(TextView procedure, VLabelEvent event, host::MouseArguments& mouse) {
+    module_.Procedure(procedure, [&] {
+        RaiseEvent(container_, static_cast<std::int32_t>(event), mouse.button, mouse.shift, mouse.x,
+                   mouse.y);
+    });
+}
+
+}  // namespace lumenkit

@@ -1,0 +1,109 @@
+// VLabel: a label whose caption is a small markup language.
+#pragma once
+
+#include <cstdint>
+
+#include "frame/automation/interface_table.h"
+#include "frame/color.h"
+#include "frame/control.h"
+#include "frame/module.h"
+#include "frame/module_errors.h"
+#include "frame/text.h"
+#include "vlabel/caption_renderer.h"
+#include "vlabel/caption_settings.h"
+#include "vlabel/vlabel_interface.h"
+
+namespace lumenkit {
+
+/// The control. Its members are documented with its interface, see vlabel_interface.h; they report
+/// errors of their own to the person at the screen and raise none, but for what the container
+/// raises while it is told of a change.
+class VLabel final : public Control {
+ public:
+    explicit VLabel(const ControlHost& host);
+
+    Object& Automation() override { return automation_; }
+
+    // Properties.
+    Color pGetBackColor() const { return BackColor_; }
+    void pLetBackColor(Color color);
+    Color pGetForeColor() const;
+    void pLetForeColor(Color color);
+    bool pGetEnabled() const;
+    void pLetEnabled(bool enabled);
+    host::FontRef pGetFont() const;
+    void pSetFont(host::FontRef font);
+    std::int16_t pGetBorderStyle() const;
+    void pLetBorderStyle(std::int16_t style);
+    bool pGetFontTransparent() const;
+    void pLetFontTransparent(bool transparent);
+    std::int16_t pGetMousePointer() const;
+    void pLetMousePointer(std::int16_t pointer);
+    const Text& pGetCaption() const { return settings_.Caption; }
+    void pLetCaption(TextView caption);
+    bool pGetWordWrap() const { return settings_.WordWrap; }
+    void pLetWordWrap(bool wrap);
+    std::int16_t pGetBulletIndent() const { return settings_.BulletIndent; }
+    void pLetBulletIndent(std::int16_t indent);
+    const Text& pGetBulletPrefix() const { return settings_.BulletPrefix; }
+    void pLetBulletPrefix(TextView prefix);
+    bool pGetAutoSize() const { return AutoSize_; }
+    void pLetAutoSize(bool autoSize);
+    std::int16_t pGetBackStyle() const { return BackStyle_; }
+    void pLetBackStyle(std::int16_t style);
+
+    // Methods.
+    void Refresh();
+    /// Resizes the control around what its caption draws, unless it wraps words or fits already to
+    /// within one to two pixels.
+    void SetIdealSize();
+    /// The control's "width" or "height" (any case) in twips, as Single; Empty for other names.
+    Value GetProperty(TextView PropertyName);
+    /// Assigns the caption in order to try it.
+    void Test(TextView CaptionToVerify);
+
+    // The container's calls.
+    void UserControl_Initialize() override;
+    void UserControl_InitProperties() override;
+    void UserControl_ReadProperties(host::PropertyBag& bag) override;
+    void UserControl_WriteProperties(host::PropertyBag& bag) override;
+    void UserControl_Resize() override;
+    void UserControl_Show() override;
+    void UserControl_Paint() override;
+    void UserControl_Click() override;
+    void UserControl_DblClick() override;
+    void UserControl_MouseDown(host::MouseArguments& mouse) override;
+    void UserControl_MouseMove(host::MouseArguments& mouse) override;
+    void UserControl_MouseUp(host::MouseArguments& mouse) override;
+
+ private:
+    template <typename Result, typename Read>
+    Result Get(TextView procedure, Read&& read) const;
+    enum class Repaint { No, Yes };
+    template <typename Put>
+    void Let(TextView procedure, TextView property, Repaint repaint, Put&& put);
+    void PropertyChanged(TextView property, Repaint repaint);
+    void RefreshControl(bool noRefresh);
+    void ApplyBackColour();
+    void RaiseMouseEvent(TextView procedure, VLabelEvent event, host::MouseArguments& mouse);
+
+    host::Surface& surface_;
+    host::Container& container_;
+    host::Ambient& ambient_;
+    host::Screen& screen_;
+    ModuleErrors errors_;
+    Module module_;
+    CaptionSettings settings_;
+    CaptionRenderer renderer_;
+    TableObject automation_;
+
+    Color BackColor_ = Color::WindowBackground;
+    std::int16_t BackStyle_ = 0;
+    bool AutoSize_ = false;
+    /// False while properties are read: assignments then do not repaint.
+    bool IsReady_ = false;
+    /// False while Test assigns its caption.
+    bool NotTesting_ = false;
+};
+
+}  // namespace lumenkit

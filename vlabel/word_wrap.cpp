@@ -1,0 +1,66 @@
+#include "vlabel/word_wrap.h"
+
+#include <algorithm>
+
+namespace lumenkit {
+
+namespace {
+
+constexpr int mostSteps = 1000;
+
+}  // namespace
+
+WordWrap::WordWrap(TextView text, std::span<const double> ends)
+    : text_(text), ends_(ends), trimmedEnd_(RTrim(text).size()), limit_(trimmedEnd_) {}
+
+std::size_t WordWrap::TrimmedLength() const {
+    return std::max(trimmedEnd_, start_) - start_;
+}
+
+// Counted from 1 in the rest; 0 when there is none, and when the limit lies behind the rest.
+std::size_t WordWrap::LastBlank() const {
+    return limit_ == 0 || limit_ > TrimmedLength() ? 0 : Rest().substr(0, limit_).rfind(blank) + 1;
+}
+
+float WordWrap::Width(std::size_t length) const {
+    if (length == 0) {
+        return 0;
+    }
+    const double before = start_ == 0 ? 0.0 : ends_[start_ - 1];
+    return static_cast<float>(ends_[start_ + length - 1] - before);
+}
+
+bool WordWrap::Fits(float x, std::size_t length, float edge) const {
+    return x + Width(length) <= edge;
+}
+
+WordWrap::Step WordWrap::Print(Action action, std::size_t length) const {
+    return {action, Rest().substr(0, length), Width(length)};
+}
+
+WordWrap::Step WordWrap::Next(float x, float edge, bool atLineStart) {
+    for (; guard_ <= mostSteps && start_ < text_.size(); ++guard_) {
+        if (Fits(x, TrimmedLength(), edge)) {
+            return Print(Action::PrintRest, Rest().size());
+        }
+        const std::size_t lastBlank = LastBlank();
+        if (lastBlank < 2) {
+            if (atLineStart) {
+                return Print(Action::PrintRest, Rest().size());
+            }
+            ++guard_;
+            return {Action::StartNewLine, {}};
+        }
+        const std::size_t trimmed = RTrim(Rest().substr(0, lastBlank)).size();
+        if (Fits(x, trimmed, edge)) {
+            const Step step = Print(Action::PrintLine, lastBlank);
+            start_ += lastBlank;
+            ++guard_;
+            return step;
+        }
+        limit_ = trimmed;
+    }
+    return {Action::Stop, {}};
+}
+
+}  // namespace lumenkit
