@@ -1,0 +1,110 @@
+// The parts of the constituents' interfaces that all kinds fulfil alike.
+#pragma once
+
+#include <memory>
+#include <utility>
+
+#include "frame/host/constituent.h"
+#include "runtime/memory/constituents.h"
+#include "runtime/memory/element.h"
+#include "runtime/memory/font.h"
+#include "runtime/memory/form.h"
+
+namespace lumenkit::memory {
+
+template <typename Interface>
+class BasicConstituent : public Interface, public Element {
+ public:
+    host::Placement Place() const override {
+        Call(u"Place");
+        return placement_;
+    }
+    void Move(const host::Placement& placement) override {
+        Call(u"Move");
+        MoveTo(placement);
+    }
+    bool Visible() const override {
+        Call(u"Visible");
+        return visible_;
+    }
+    void SetVisible(bool visible) override {
+        Call(u"SetVisible");
+        visible_ = visible;
+    }
+    bool Enabled() const override {
+        Call(u"Enabled");
+        return enabled_;
+    }
+    void SetEnabled(bool enabled) override {
+        Call(u"SetEnabled");
+        enabled_ = enabled;
+    }
+    void Refresh() override {
+        Call(u"Refresh");
+        ++refreshes_;
+    }
+
+ protected:
+    using Element::Element;
+};
+
+template <typename Interface>
+class BasicTextConstituent : public BasicConstituent<Interface> {
+ public:
+    host::FontRef CurrentFont() const override {
+        this->Call(u"CurrentFont");
+        return font_;
+    }
+    /// Raises 13 for a font of another runtime.
+    void SetCurrentFont(host::FontRef font) override {
+        this->Call(u"SetCurrentFont");
+        font_ = Font::From(std::move(font));
+        FontChanged();
+    }
+
+    PropertyList Properties() const override {
+        PropertyList list = Element::Properties();
+        list.emplace_back(u"Font", ObjectRef(font_));
+        return list;
+    }
+
+ protected:
+    BasicTextConstituent(Constituents& owner, TextView kind, const host::Design& design)
+        : BasicConstituent<Interface>(owner, kind, design),
+          font_(owner.GetForm().NewFont(design.fontName, design.fontSize)) {}
+
+    /// The constituent has another font object.
+    virtual void FontChanged() {}
+
+    std::shared_ptr<Font> font_;
+};
+
+template <typename Interface>
+class BasicCaptioned : public BasicTextConstituent<Interface> {
+ public:
+    Text Caption() const override {
+        this->Call(u"Caption");
+        return caption_;
+    }
+    void SetCaption(TextView caption) override {
+        this->Call(u"SetCaption");
+        caption_ = caption;
+        CaptionChanged();
+    }
+
+    PropertyList Properties() const override {
+        PropertyList list = BasicTextConstituent<Interface>::Properties();
+        list.emplace_back(u"Caption", caption_);
+        return list;
+    }
+
+ protected:
+    BasicCaptioned(Constituents& owner, TextView kind, const host::Design& design, TextView caption)
+        : BasicTextConstituent<Interface>(owner, kind, design), caption_(caption) {}
+
+    virtual void CaptionChanged() {}
+
+    Text caption_;
+};
+
+}  // namespace lumenkit::memory

@@ -1,0 +1,28 @@
+#pragma once
+
+#include <cstdint>
+
+#include "frame/host/simple_constituents.h"
+#include "runtime/memory/basic_constituent.h"
+
+namespace lumenkit::memory {
+
+/// Not checked at first. The person's click checks a box that is not checked and clears any other.
+class CheckBox final : public BasicCaptioned<host::CheckBox> {
+ public:
+    CheckBox(Constituents& owner, const host::CaptionDesign& design, host::ClickEvents& events);
+
+    std::int16_t CheckState() const override;
+    void SetCheckState(std::int16_t state) override;
+
+    PropertyList Properties() const override;
+    void ReceiveClick() override;
+
+ private:
+    void Change(std::int16_t state);
+
+    host::ClickEvents& events_;
+    std::int16_t state_ = 0;
+};
+
+}  // namespace lumenkit::memory

@@ -1,0 +1,19 @@
+#pragma once
+
+#include "frame/host/simple_constituents.h"
+#include "runtime/memory/basic_constituent.h"
+
+namespace lumenkit::memory {
+
+class CommandButton final : public BasicCaptioned<host::CommandButton> {
+ public:
+    CommandButton(Constituents& owner, const host::CaptionDesign& design,
+                  host::ClickEvents& events);
+
+    void ReceiveClick() override;
+
+ private:
+    host::ClickEvents& events_;
+};
+
+}  // namespace lumenkit::memory

@@ -1,0 +1,77 @@
+#pragma once
+
+#include <cstdint>
+#include <list>
+#include <utility>
+#include <vector>
+
+#include "frame/automation/value.h"
+#include "frame/host/constituent.h"
+#include "frame/host/mouse.h"
+#include "frame/text.h"
+#include "runtime/memory/fault_plan.h"
+
+namespace lumenkit::memory {
+
+class Constituents;
+
+/// Names and values, in a fixed order. The names are literals.
+using PropertyList = std::vector<std::pair<TextView, Value>>;
+
+enum class MouseAction { Down, Move, Up };
+
+/// What the runtime keeps of a constituent, whatever its kind, and the ways in which the person at
+/// the screen reaches it. Nothing here is a call of the contract.
+class Element {
+ public:
+    virtual ~Element();
+    Element(const Element&) = delete;
+    Element& operator=(const Element&) = delete;
+
+    TextView Kind() const { return kind_; }  ///< "TextBox"
+    const Text& Name() const { return name_; }
+    std::int16_t Index() const { return index_; }  ///< in a control array, else -1
+    /// "labChar", "Text1(0)".
+    Text FullName() const;
+    const host::Placement& Where() const { return placement_; }
+    bool IsVisible() const { return visible_; }
+    bool IsEnabled() const { return enabled_; }
+    /// Calls of Refresh so far.
+    std::int32_t RefreshCount() const { return refreshes_; }
+
+    /// Whether the person can use it: it, what it lies in and its control are visible and enabled.
+    bool AcceptsInput() const;
+    /// What can be read of it. Fonts are the shared objects.
+    virtual PropertyList Properties() const;
+
+    // The person acts; kinds that take no notice do nothing.
+    virtual void ReceiveFocus() {}
+    virtual void LoseFocus() {}
+    virtual void ReceiveClick() {}
+    virtual void ReceiveDblClick() {}
+    virtual void ReceiveMouse(MouseAction /*action*/, host::MouseArguments /*mouse*/) {}
+
+ protected:
+    /// `kind` is a literal. Throws std::logic_error for a parent of another runtime.
+    Element(Constituents& owner, TextView kind, const host::Design& design);
+
+    void Call(TextView member) const { faults_.Call(kind_, member); }
+    /// Raises 380 for a negative width or height.
+    void MoveTo(const host::Placement& placement);
+
+    Constituents& owner_;
+    FaultPlan& faults_;
+    TextView kind_;
+    Text name_;
+    std::int16_t index_;
+    const Element* parent_;
+    host::Placement placement_;
+    bool visible_;
+    bool enabled_ = true;
+    std::int32_t refreshes_ = 0;
+
+ private:
+    std::list<Element*>::iterator position_;  // in the owner's list
+};
+
+}  // namespace lumenkit::memory

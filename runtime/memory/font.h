@@ -1,0 +1,72 @@
+#pragma once
+
+#include <cstdint>
+#include <memory>
+
+#include "frame/host/font.h"
+#include "frame/text.h"
+#include "runtime/memory/fault_plan.h"
+#include "runtime/memory/metrics.h"
+
+namespace lumenkit::memory {
+
+/// A font of fixed metrics. Sizes are kept to four decimal places; one that is not above 0 then, or
+/// above 2160 points, raises 380. Shares the fault plan, so it may outlive the form.
+class Font final : public host::Font {
+ public:
+    /// Regular weight. Raises 380 as SetSize does.
+    Font(std::shared_ptr<FaultPlan> faults, TextView name, float points);
+
+    Text Name() const override;
+    void SetName(TextView name) override;
+    float Size() const override;
+    void SetSize(float points) override;
+    bool Bold() const override;
+    void SetBold(bool bold) override;
+    bool Italic() const override;
+    void SetItalic(bool italic) override;
+    bool Underline() const override;
+    void SetUnderline(bool underline) override;
+    bool Strikethrough() const override;
+    void SetStrikethrough(bool strikethrough) override;
+    std::int16_t Weight() const override;
+    void SetWeight(std::int16_t weight) override;
+    std::int16_t Charset() const override;
+    void SetCharset(std::int16_t charset) override;
+
+    /// A font of its own with the same attributes.
+    std::shared_ptr<Font> Clone() const { return std::make_shared<Font>(*this); }
+
+    /// The attributes as a surface uses them: no calls of the contract, no copies.
+    struct Attributes {
+        Text name;
+        float size = 0;
+        std::int16_t weight = 400;
+        std::int16_t charset = 0;
+        bool italic = false;
+        bool underline = false;
+        bool strikethrough = false;
+
+        bool IsBold() const { return weight > 550; }
+        /// Twips.
+        double UnitWidth() const {
+            return (IsBold() ? boldUnitWidthPerPoint : unitWidthPerPoint) * size;
+        }
+        double LineHeight() const { return lineHeightPerPoint * size; }
+        float WidthOf(TextView text) const {
+            return static_cast<float>(static_cast<double>(text.size()) * UnitWidth());
+        }
+    };
+    const Attributes& Now() const { return now_; }
+
+    /// The font as one of this runtime. Raises 91 for nothing and 13 for a font of another runtime.
+    static std::shared_ptr<Font> From(host::FontRef font);
+
+ private:
+    void Call(TextView member) const { faults_->Call(u"Font", member); }
+
+    std::shared_ptr<FaultPlan> faults_;
+    Attributes now_;
+};
+
+}  // namespace lumenkit::memory

@@ -1,0 +1,24 @@
+#pragma once
+
+#include <cstdint>
+
+#include "frame/host/simple_constituents.h"
+#include "runtime/memory/basic_constituent.h"
+
+namespace lumenkit::memory {
+
+/// Has a fixed single border at first.
+class Frame final : public BasicCaptioned<host::Frame> {
+ public:
+    Frame(Constituents& owner, const host::CaptionDesign& design);
+
+    std::int16_t BorderStyle() const override;
+    void SetBorderStyle(std::int16_t style) override;
+
+    PropertyList Properties() const override;
+
+ private:
+    std::int16_t borderStyle_ = 1;
+};
+
+}  // namespace lumenkit::memory

@@ -1,0 +1,22 @@
+#pragma once
+
+#include <cstdint>
+
+namespace lumenkit::memory {
+
+/// The key that enters a unit: its virtual key code and the keys held with it (1 Shift, 2 Ctrl).
+struct KeyStroke {
+    std::int16_t keyCode = 0;
+    std::int16_t shift = 0;
+};
+
+/// Letters and digits have their upper-case ASCII code, Enter 13, Backspace 8, Tab 9, blank 32;
+/// other control characters from 1 to 26 are the letter with Ctrl; anything else is the packet key
+/// (231).
+KeyStroke KeyFor(char16_t unit);
+
+inline constexpr char16_t backspace = 8;
+inline constexpr char16_t tabulator = 9;
+inline constexpr char16_t enter = 13;
+
+}  // namespace lumenkit::memory

@@ -1,0 +1,33 @@
+#pragma once
+
+#include "frame/host/simple_constituents.h"
+#include "runtime/memory/basic_constituent.h"
+
+namespace lumenkit::memory {
+
+/// Where AutoSize is on, a new caption or font object gives the label the caption's width and one
+/// line's height; a later Move stands until then.
+class Label final : public BasicCaptioned<host::Label> {
+ public:
+    Label(Constituents& owner, const host::CaptionDesign& design);
+
+    bool AutoSize() const override;
+    void SetAutoSize(bool autoSize) override;
+    Color ForeColor() const override;
+    void SetForeColor(Color color) override;
+    Color BackColor() const override;
+    void SetBackColor(Color color) override;
+
+    PropertyList Properties() const override;
+
+ private:
+    void FontChanged() override { FitToCaption(); }
+    void CaptionChanged() override { FitToCaption(); }
+    void FitToCaption();
+
+    Color foreColor_ = Color::ButtonText;
+    Color backColor_ = Color::ButtonFace;
+    bool autoSize_ = false;
+};
+
+}  // namespace lumenkit::memory

@@ -1,0 +1,33 @@
+#pragma once
+
+#include <cstdint>
+#include <map>
+#include <memory>
+
+#include "frame/host/option_buttons.h"
+#include "runtime/memory/option_button.h"
+
+namespace lumenkit::memory {
+
+class OptionButtons final : public host::OptionButtons {
+ public:
+    OptionButtons(Constituents& owner, const host::OptionButtonDesign& design, host::Frame& frame,
+                  host::OptionButtonEvents& events);
+
+    OptionButton& Item(std::int16_t index) override;
+    void Load(std::int16_t index) override;
+
+    /// Selects `button` in place of every other one and notifies the click, if it is not selected.
+    void Choose(OptionButton& button);
+
+ private:
+    Constituents& owner_;
+    host::OptionButtonEvents& events_;
+    Text name_;
+    Text fontName_;
+    host::OptionButtonDesign design_;  // its texts are the fields above
+    std::map<std::int16_t, std::unique_ptr<OptionButton>> buttons_;
+    OptionButton* selected_ = nullptr;
+};
+
+}  // namespace lumenkit::memory

@@ -1,0 +1,31 @@
+#pragma once
+
+#include "frame/host/property_page_site.h"
+#include "runtime/memory/fault_plan.h"
+
+namespace lumenkit::memory {
+
+/// The flag changes only as the page, or IsChanged's caller through Reset, says.
+class PageSite final : public host::PropertyPageSite {
+ public:
+    explicit PageSite(FaultPlan& faults) : faults_(faults) {}
+
+    bool Changed() const override {
+        faults_.Call(u"PropertyPageSite", u"Changed");
+        return changed_;
+    }
+    void SetChanged(bool changed) override {
+        faults_.Call(u"PropertyPageSite", u"SetChanged");
+        changed_ = changed;
+    }
+
+    // For tests: no calls of the contract.
+    bool IsChanged() const { return changed_; }
+    void Reset() { changed_ = false; }
+
+ private:
+    FaultPlan& faults_;
+    bool changed_ = false;
+};
+
+}  // namespace lumenkit::memory

@@ -1,0 +1,17 @@
+#pragma once
+
+#include "frame/host/simple_constituents.h"
+#include "runtime/memory/basic_constituent.h"
+
+namespace lumenkit::memory {
+
+/// Its border is two pixels wide on each side.
+class PictureBox final : public BasicConstituent<host::PictureBox> {
+ public:
+    PictureBox(Constituents& owner, const host::Design& design);
+
+    float ScaleWidth() const override;
+    float ScaleHeight() const override;
+};
+
+}  // namespace lumenkit::memory

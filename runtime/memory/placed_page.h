@@ -1,0 +1,47 @@
+#pragma once
+
+#include <memory>
+#include <vector>
+
+#include "frame/class_table.h"
+#include "frame/control.h"
+#include "runtime/memory/constituents.h"
+#include "runtime/memory/form.h"
+#include "runtime/memory/page_site.h"
+#include "runtime/memory/selected_controls.h"
+
+namespace lumenkit::memory {
+
+class PlacedControl;
+
+/// One property page as a designer shows it. Errors of the page travel to the caller.
+class PlacedPage {
+ public:
+    /// Creates the page and runs PropertyPage_Initialize. Throws std::logic_error for a class that
+    /// is no page. The form must outlive it.
+    PlacedPage(Form& form, const ClassDescriptor& type);
+    PlacedPage(const PlacedPage&) = delete;
+    PlacedPage& operator=(const PlacedPage&) = delete;
+
+    /// The designer has other controls selected; they must outlive the page or the next selection.
+    /// PropertyPage_SelectionChanged runs.
+    void Select(const std::vector<PlacedControl*>& controls);
+    void Select(std::vector<ObjectRef> controls);
+    /// PropertyPage_ApplyChanges runs. Leaves the site's Changed flag alone.
+    void Apply();
+
+    PropertyPage& GetPage() { return *page_; }
+    Object& Automation() { return page_->Automation(); }
+    PageSite& Site() { return site_; }
+    SelectedControls& Selected() { return selectedControls_; }
+    Constituents& Parts() { return constituents_; }
+
+ private:
+    PageSite site_;
+    SelectedControls selectedControls_;
+    Constituents constituents_;
+    PageHost host_;
+    std::unique_ptr<PropertyPage> page_;
+};
+
+}  // namespace lumenkit::memory

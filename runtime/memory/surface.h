@@ -1,0 +1,96 @@
+#pragma once
+
+#include <cstdint>
+#include <limits>
+#include <memory>
+#include <span>
+
+#include "frame/control.h"
+#include "frame/host/surface.h"
+#include "runtime/memory/display_list.h"
+#include "runtime/memory/fault_plan.h"
+#include "runtime/memory/font.h"
+
+namespace lumenkit::memory {
+
+/// A surface that records what is drawn. Its border takes no room: the drawing area is as large as
+/// the control. It keeps every item, so VisibleBottom is infinite unless a test says otherwise.
+class Surface final : public host::Surface {
+ public:
+    /// `width` and `height` in twips.
+    Surface(std::shared_ptr<FaultPlan> faults, float width, float height);
+
+    float CurrentX() const override;
+    void SetCurrentX(float x) override;
+    float CurrentY() const override;
+    void SetCurrentY(float y) override;
+    void Cls() override;
+    void Print(TextView text) override;
+    void FillBox(float x1, float y1, float x2, float y2, Color color) override;
+    float TextWidth(TextView text) override;
+    void TextWidths(TextView text, std::span<double> ends) override;
+    float TextHeight(TextView text) override;
+    float ScaleWidth() const override;
+    float ScaleHeight() const override;
+    float VisibleBottom() const override;
+    host::FontRef CurrentFont() const override;
+    /// Raises 13 for a font of another runtime.
+    void SetCurrentFont(host::FontRef font) override;
+    Color ForeColor() const override;
+    void SetForeColor(Color color) override;
+    Color BackColor() const override;
+    void SetBackColor(Color color) override;
+    bool FontTransparent() const override;
+    void SetFontTransparent(bool transparent) override;
+    bool AutoRedraw() const override;
+    void SetAutoRedraw(bool keep) override;
+    void Refresh() override;
+    float Width() const override;
+    float Height() const override;
+    /// Raises 380 for a negative width or height.
+    void Size(float width, float height) override;
+    bool Enabled() const override;
+    void SetEnabled(bool enabled) override;
+    std::int16_t BorderStyle() const override;
+    void SetBorderStyle(std::int16_t style) override;
+    std::int16_t Pointer() const override;
+    void SetPointer(std::int16_t pointer) override;
+
+    // For the runtime and for tests: no calls of the contract.
+    const DisplayList& Drawn() const { return drawn_; }
+    void SetVisibleBottom(float y) { visibleBottom_ = y; }
+    /// The control that is told to paint and that its size changed; null: none yet.
+    void SetControl(Control* control) { control_ = control; }
+    float CurrentWidth() const { return width_; }
+    float CurrentHeight() const { return height_; }
+    /// As Size.
+    void Resize(float width, float height);
+    /// Erases and, where the control draws on demand, has it paint.
+    void Paint();
+    bool IsShown() const { return shown_; }
+    void SetShown(bool shown) { shown_ = shown; }
+    bool AcceptsInput() const { return shown_ && enabled_; }
+
+ private:
+    void Call(TextView member) const { faults_->Call(u"Surface", member); }
+
+    std::shared_ptr<FaultPlan> faults_;
+    std::shared_ptr<Font> font_;
+    Control* control_ = nullptr;
+    DisplayList drawn_;
+    float currentX_ = 0;
+    float currentY_ = 0;
+    float width_;
+    float height_;
+    float visibleBottom_ = std::numeric_limits<float>::infinity();
+    Color foreColor_ = Color::ButtonText;
+    Color backColor_ = Color::ButtonFace;
+    std::int16_t borderStyle_ = 0;
+    std::int16_t pointer_ = 0;
+    bool fontTransparent_ = true;
+    bool autoRedraw_ = false;
+    bool enabled_ = true;
+    bool shown_ = false;
+};
+
+}  // namespace lumenkit::memory

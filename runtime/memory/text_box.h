@@ -1,0 +1,71 @@
+#pragma once
+
+#include <cstdint>
+
+#include "frame/host/text_box.h"
+#include "runtime/memory/basic_constituent.h"
+
+namespace lumenkit::memory {
+
+/// A text box without a window. Keys reach a locked box too, but do not edit it.
+class TextBox final : public BasicTextConstituent<host::TextBox> {
+ public:
+    TextBox(Constituents& owner, const host::TextBoxDesign& design, host::TextBoxEvents& events);
+
+    TextView GetText() const override;
+    void SetText(TextView text) override;
+    std::int32_t SelStart() const override;
+    void SetSelStart(std::int32_t position) override;
+    std::int32_t SelLength() const override;
+    void SetSelLength(std::int32_t length) override;
+    void GetSelection(std::int32_t& start, std::int32_t& end) const override;
+    void SetSelection(std::int32_t start, std::int32_t end) override;
+    Color ForeColor() const override;
+    void SetForeColor(Color color) override;
+    bool Locked() const override;
+    void SetLocked(bool locked) override;
+    std::int32_t MaxLength() const override;
+    void SetMaxLength(std::int32_t length) override;
+    host::MousePointer Pointer() const override;
+    void SetPointer(host::MousePointer pointer) override;
+    std::int32_t WindowHandle() const override;
+
+    bool IsMultiLine() const { return multiLine_; }
+    host::ScrollBars Bars() const { return scrollBars_; }
+    const Text& Contents() const { return text_; }
+    PropertyList Properties() const override;
+
+    // The person acts (see User, which asks first whether the box can be used).
+    void ReceiveFocus() override;
+    void LoseFocus() override;
+    void ReceiveClick() override;
+    void ReceiveDblClick() override;
+    void ReceiveMouse(MouseAction action, host::MouseArguments mouse) override;
+    /// One key, from down to up.
+    void ReceiveKey(char16_t unit);
+    /// Selects `length` units from `start` on, or what there is. Notifies nothing.
+    void ReceiveSelection(std::int32_t start, std::int32_t length);
+    /// Replaces the selection in one change.
+    void ReceivePaste(TextView text);
+
+ private:
+    std::int32_t Length() const { return static_cast<std::int32_t>(text_.size()); }
+    std::size_t Room() const;
+    void Put(char16_t unit);
+    void DeleteBackwards();
+    void ReplaceSelection(TextView replacement);
+
+    host::TextBoxEvents& events_;
+    Text text_;
+    std::int32_t selStart_ = 0;
+    std::int32_t selEnd_ = 0;
+    std::int32_t maxLength_ = 0;
+    std::int32_t windowHandle_;
+    Color foreColor_ = Color::WindowText;
+    host::MousePointer pointer_ = host::MousePointer::Default;
+    host::ScrollBars scrollBars_;
+    bool multiLine_;
+    bool locked_ = false;
+};
+
+}  // namespace lumenkit::memory
