@@ -1,0 +1,31 @@
+// A persisted property: the name that it bears in a property bag and the value that is not stored.
+#pragma once
+
+#include <utility>
+
+#include "frame/automation/value_type.h"
+#include "frame/host/property_bag.h"
+#include "frame/text.h"
+
+namespace lumenkit {
+
+template <typename T, typename Default = T>
+struct Setting {
+    TextView name;
+    Default defaultValue;
+
+    /// Raises 6 or 13 where what is stored does not convert.
+    T Read(host::PropertyBag& bag) const {
+        return Automation<T>::From(bag.ReadProperty(name, DefaultValue()));
+    }
+    void Write(host::PropertyBag& bag, T value) const {
+        bag.WriteProperty(name, Automation<T>::To(std::move(value)), DefaultValue());
+    }
+
+ private:
+    Value DefaultValue() const { return Automation<T>::To(T(defaultValue)); }
+};
+
+using TextSetting = Setting<Text, TextView>;
+
+}  // namespace lumenkit

@@ -1,0 +1,93 @@
+// The option buttons: made from the items, made alike, put in rows.
+#include "frame/checked_integer.h"
+#include "voptlist/put_if_different.h"
+#include "voptlist/voptlist.h"
+
+namespace lumenkit {
+
+using host::Constituent;
+using host::OptionButton;
+using host::Placement;
+using host::TextConstituent;
+
+namespace {
+
+void PutPlace(Constituent& constituent, const Placement& place) {
+    PutIfDifferent(constituent, &Constituent::Place, &Constituent::Move, place);
+}
+
+void PutVisible(OptionButton& button, bool visible) {
+    PutIfDifferent(button, &OptionButton::Visible, &OptionButton::SetVisible, visible);
+}
+
+}  // namespace
+
+bool VOptList::SetupControls() {
+    return module_.Function<bool>(u"SetupControls", [&](bool& loaded) {
+        ContentsWalk walk(Contents);
+        Int16 count = 0;
+        while (const auto item = walk.Next()) {
+            SetupItem(count.Value(), *item);
+            ++count;
+        }
+        ItemCount = count.Value();
+        if (ItemCount > LoadedCount) {
+            LoadedCount = ItemCount;
+            loaded = true;
+        }
+        for (std::int16_t surplus = ItemCount; surplus < existingCount_; ++surplus) {
+            PutVisible(Option1->Item(surplus), false);
+        }
+    });
+}
+
+void VOptList::SetupItem(std::int16_t index, const ContentsItem& item) {
+    if (index >= existingCount_) {
+        Option1->Load(index);
+        ++existingCount_;
+    }
+    OptionButton& button = Option1->Item(index);
+    PutIfDifferent(button, &OptionButton::Caption, &OptionButton::SetCaption, item.caption);
+    PutIfDifferent(button, &OptionButton::Tag, &OptionButton::SetTag, item.value);
+    PutVisible(button, true);
+}
+
+void VOptList::CopyProperties() {
+    module_.Procedure(u"CopyProperties", [&] {
+        const OptionButton& model = Option1->Item(0);
+        for (std::int16_t index = 1; index < LoadedCount; ++index) {
+            OptionButton& button = Option1->Item(index);
+            PutIfDifferent(button, &OptionButton::Alignment, &OptionButton::SetAlignment,
+                           model.Alignment());
+            PutIfDifferent(button, &TextConstituent::CurrentFont, &TextConstituent::SetCurrentFont,
+                           model.CurrentFont());
+            PutIfDifferent(button, &OptionButton::ForeColor, &OptionButton::SetForeColor,
+                           model.ForeColor());
+        }
+    });
+}
+
+void VOptList::MoveControls() {
+    module_.Procedure(u"MoveControls", [&] {
+        const float width = ToSingle(double{Frame1->Place().width} -
+                                     2.0 * screen_.TwipsPerPixelX() - double{LeftMargin});
+        if (width <= 20) {
+            return;
+        }
+        float top = TopMargin;
+        for (std::int16_t index = 0; index < ItemCount; ++index) {
+            PutPlace(Option1->Item(index),
+                     {.left = LeftMargin, .top = top, .width = width, .height = Spacing});
+            top = ToSingle(double{top} + double{Spacing});
+        }
+    });
+}
+
+void VOptList::UserControl_Resize() {
+    module_.Procedure(u"UserControl_Resize", [&] {
+        PutPlace(*Frame1, {.width = surface_.ScaleWidth(), .height = surface_.ScaleHeight()});
+        MoveControls();
+    });
+}
+
+}  // namespace lumenkit
