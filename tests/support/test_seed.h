@@ -1,0 +1,21 @@
+// The seed of a random test: LUMENKIT_TEST_SEED where it is set, otherwise a new one each time.
+#pragma once
+
+#include <cstdint>
+#include <cstdlib>
+#include <iostream>
+#include <random>
+#include <string>
+
+namespace lumenkit::testing {
+
+/// Printed, so that a failure can be had again.
+inline std::uint32_t TestSeed() {
+    const char* const given = std::getenv("LUMENKIT_TEST_SEED");
+    const std::uint32_t seed =
+        given != nullptr ? static_cast<std::uint32_t>(std::stoul(given)) : std::random_device()();
+    std::cout << "LUMENKIT_TEST_SEED=" << seed << std::endl;
+    return seed;
+}
+
+}  // namespace lumenkit::testing
