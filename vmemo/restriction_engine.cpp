@@ -1,0 +1,114 @@
+#include "vmemo/restriction_engine.h"
+
+#include <cstddef>
+#include <vector>
+
+#include "frame/checked_integer.h"
+#include "vmemo/line_break_scanner.h"
+
+namespace lumenkit {
+
+namespace {
+
+// A text out of which parts are cut from front to back. Its positions are those in what is left,
+// yet nothing moves when a part is cut: all positions in use lie behind the cuts made so far, which
+// makes them positions in the source, as many units further on as have been cut.
+class ShrinkingText {
+ public:
+    explicit ShrinkingText(TextView source)
+        : source_(source), scanner_(source), length_(Len(source)) {}
+
+    Int32 Length() const { return length_; }
+
+    // The position of the first line break at `start` or later, else the one behind the end.
+    Int32 FindLineBreak(Int32 start) {
+        return Int32(scanner_.Next(Offset(start))) - removed_ + Int32(1);
+    }
+
+    // From one position up to, not including, another; or to the end.
+    TextView Part(Int32 from, Int32 end) const {
+        return source_.substr(Offset(from), Offset(end) - Offset(from));
+    }
+    TextView Rest(Int32 from) const { return source_.substr(Offset(from)); }
+
+    // Cuts that part.
+    void Cut(TextView part) {
+        const auto offset = static_cast<std::size_t>(part.data() - source_.data());
+        kept_.push_back(source_.substr(keptEnd_, offset - keptEnd_));
+        keptEnd_ = offset + part.size();
+        const Int32 size(part.size());
+        removed_ += size;
+        length_ -= size;
+    }
+
+    Text Join() const {
+        Text joined;
+        joined.reserve(static_cast<std::size_t>(length_.Value()));
+        for (const TextView piece : kept_) {
+            joined.append(piece);
+        }
+        return joined.append(source_.substr(keptEnd_));
+    }
+
+ private:
+    std::size_t Offset(Int32 position) const {
+        return static_cast<std::size_t>(position.Value()) - 1 +
+               static_cast<std::size_t>(removed_.Value());
+    }
+
+    TextView source_;
+    LineBreakScanner scanner_;
+    Int32 length_;
+    Int32 removed_;
+    std::vector<TextView> kept_;  // what lies before, between and behind the cuts but the last
+    std::size_t keptEnd_ = 0;     // where the last cut ends in the source
+};
+
+// Of lines that are too many, only this one is worth a refusal.
+bool IsOneCharacter(TextView text) {
+    return text.size() == 1 && text[0] != blank && text[0] != u'\r' && text[0] != u'\n';
+}
+
+}  // namespace
+
+Restriction Restrict(TextView text, TextLimits limits, RestrictionMode mode) {
+    Restriction result;
+    ShrinkingText left(text);
+    // Cuts the part, unless it holds something real and the edit is refused for it.
+    const auto cut = [&](TextView part, bool real) {
+        (real ? result.refused : result.trimmed) = true;
+        if (real && mode == RestrictionMode::Apply) {
+            return false;
+        }
+        left.Cut(part);
+        return true;
+    };
+    Int32 start = 1;
+    Int32 lines = 0;
+    do {
+        const Int32 pos = left.FindLineBreak(start);
+        if (limits.maxCharsPerLine != 0 && pos - start > limits.maxCharsPerLine) {
+            const TextView surplus = left.Part(start + limits.maxCharsPerLine, pos);
+            if (!cut(surplus, !Trim(surplus).empty())) {
+                return result;
+            }
+            // pos is not moved to where the line ends now: the next line is measured from as many
+            // characters further on as this one lost. Saved texts depend on it.
+        }
+        ++lines;
+        if (lines == limits.maxLines && pos <= left.Length()) {
+            const TextView rest = left.Rest(pos);
+            if (!cut(rest, IsOneCharacter(rest))) {
+                return result;
+            }
+            break;
+        }
+        start = pos + Int32(2);
+    } while (start <= left.Length());
+    if (!result.Fits()) {
+        result.cut = left.Join();
+    }
+    return result;
+}
+
+}  // namespace lumenkit

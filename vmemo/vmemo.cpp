@@ -1,0 +1,365 @@
+#include "vmemo/vmemo.h"
+
+#include <algorithm>
+#include <string>
+#include <utility>
+
+#include "frame/checked_integer.h"
+#include "frame/runtime_error.h"
+
+namespace lumenkit {
+
+namespace {
+
+// The names and defaults of the persisted properties are a file format: they stay.
+constexpr Color defaultForeColor = Color::WindowText;
+constexpr bool defaultEnabled = true;
+constexpr bool defaultLocked = false;
+constexpr std::int32_t defaultMaxLength = 0;
+constexpr std::int32_t defaultMousePointer = 0;
+constexpr std::int16_t defaultLimit = 0;
+constexpr std::int32_t defaultScrollBars = 0;
+
+// Identifiers of the font object's members.
+constexpr std::int32_t fontName = 0;
+constexpr std::int32_t fontSize = 2;
+
+constexpr std::int16_t enterKey = 13;
+
+// With this Tag, MaxLength is the window handle.
+constexpr TextView handleTag = u"Return hWnd via ML";
+
+// m_Updating, True for the time of a scope: an error on the way ends it too, so that no failure
+// leaves the control deaf to its user.
+class Updating {
+ public:
+    explicit Updating(bool& flag) : flag_(flag) { flag_ = true; }
+    ~Updating() { flag_ = false; }
+    Updating(const Updating&) = delete;
+    Updating& operator=(const Updating&) = delete;
+
+ private:
+    bool& flag_;
+};
+
+std::unique_ptr<host::TextBox> AddBox(host::Constituents& constituents, std::int16_t index,
+                                      host::TextBoxEvents& events) {
+    host::TextBoxDesign design;
+    design.name = u"Text1";
+    design.index = index;
+    design.placement = {.width = 2400, .height = 1200};
+    design.visible = index == 0;
+    design.fontName = u"Courier";
+    design.fontSize = 9.75F;
+    design.multiLine = true;
+    design.scrollBars = static_cast<host::ScrollBars>(index);
+    design.text = u"VMemo\r\n";
+    return constituents.AddTextBox(design, events);
+}
+
+double Divide(double dividend, double divisor) {
+    if (divisor == 0.0) {
+        Raise(ErrorNumber::DivisionByZero);
+    }
+    return dividend / divisor;
+}
+
+}  // namespace
+
+VMemo::VMemo(const ControlHost& host)
+    : host_(host),
+      errors_(host.application, host.interaction),
+      module_(errors_, u"VMEMO"),
+      automation_(vmemoInterface, this),
+      boxEvents_{BoxEvents(*this, 0), BoxEvents(*this, 1), BoxEvents(*this, 2),
+                 BoxEvents(*this, 3)} {
+    for (std::int16_t index = 0; index < std::ssize(text1_); ++index) {
+        const auto element = static_cast<std::size_t>(index);
+        text1_[element] = AddBox(host.constituents, index, boxEvents_[element]);
+    }
+}
+
+// ---- The boxes
+
+host::TextBox& VMemo::Text1(std::int32_t index) const {
+    if (index < 0 || index >= std::ssize(text1_)) {
+        Raise(ErrorNumber::NoSuchArrayElement);
+    }
+    return *text1_[static_cast<std::size_t>(index)];
+}
+
+template <typename Act>
+void VMemo::ForBoxes(std::int16_t first, Act&& act) {
+    for (m_BoxIndex = first; m_BoxIndex <= 3; ++m_BoxIndex) {
+        act(Text1(m_BoxIndex));
+    }
+}
+
+// A property of the active box.
+template <typename Result, typename Read>
+Result VMemo::Get(TextView procedure, Read&& read) const {
+    return module_.Function<Result>(procedure, [&](Result& result) { result = read(ActiveBox()); });
+}
+
+// A property of all boxes.
+template <typename Put>
+void VMemo::Let(TextView procedure, TextView property, Put&& put) {
+    module_.Procedure(procedure, [&] {
+        ForBoxes(0, put);
+        host_.container.PropertyChanged(property);
+    });
+}
+
+// ---- Restrictions
+
+// Text as held to the limits. In apply mode it is what box `index` has become by an edit, and the
+// box is put right; of a refused edit nothing is returned that anyone could use.
+Restriction VMemo::ApplyRestrictions(std::int16_t index, TextView text, RestrictionMode mode) {
+    return module_.Function<Restriction>(u"ApplyRestrictions", [&](Restriction& result) {
+        m_MaxCharsPerLine = std::max<std::int16_t>(m_MaxCharsPerLine, 0);
+        m_MaxLines = std::max<std::int16_t>(m_MaxLines, 0);
+        if (m_MaxCharsPerLine == 0 && m_MaxLines == 0) {
+            return;
+        }
+        result = Restrict(text, {m_MaxCharsPerLine, m_MaxLines}, mode);
+        if (mode == RestrictionMode::Plain || result.Fits()) {
+            m_AcceptedText = result.Of(text);
+        } else {
+            WriteBack(Text1(index), result);
+        }
+    });
+}
+
+void VMemo::WriteBack(host::TextBox& box, const Restriction& restriction) {
+    {
+        const Updating updating(m_Updating);
+        if (restriction.refused) {
+            box.SetText(m_AcceptedText);
+        } else {
+            box.SetText(restriction.cut);
+            m_AcceptedText = restriction.cut;
+            if (m_LastKeyCode == enterKey) {
+                m_KeyDownSelStart = (Int32(m_KeyDownSelStart) + Int32(1)).Value();
+            }
+        }
+    }
+    box.SetSelLength(0);
+    box.SetSelStart(m_KeyDownSelStart);
+}
+
+// ---- Properties of the boxes
+
+Color VMemo::pGetForeColor() const {
+    return Get<Color>(u"pGetForeColor", [](host::TextBox& box) { return box.ForeColor(); });
+}
+
+void VMemo::pLetForeColor(Color color) {
+    Let(u"pLetForeColor", u"ForeColor", [&](host::TextBox& box) { box.SetForeColor(color); });
+}
+
+bool VMemo::pGetEnabled() const {
+    return Get<bool>(u"pGetEnabled", [](host::TextBox& box) { return box.Enabled(); });
+}
+
+void VMemo::pLetEnabled(bool enabled) {
+    Let(u"pLetEnabled", u"Enabled", [&](host::TextBox& box) { box.SetEnabled(enabled); });
+}
+
+host::FontRef VMemo::pGetFont() const {
+    return Get<host::FontRef>(u"pGetFont", [](host::TextBox& box) { return box.CurrentFont(); });
+}
+
+void VMemo::pSetFont(host::FontRef font) {
+    Let(u"pSetFont", u"Font", [&](host::TextBox& box) { box.SetCurrentFont(font); });
+}
+
+Text VMemo::pGetFontName() const {
+    return Get<Text>(u"pGetFontName", [](host::TextBox& box) { return box.CurrentFont()->Name(); });
+}
+
+void VMemo::pLetFontName(TextView name) {
+    Let(u"pLetFontName", u"FontName",
+        [&](host::TextBox& box) { box.CurrentFont()->Let(fontName, Text(name)); });
+}
+
+float VMemo::pGetFontSize() const {
+    return Get<float>(u"pGetFontSize",
+                      [](host::TextBox& box) { return box.CurrentFont()->Size(); });
+}
+
+void VMemo::pLetFontSize(float points) {
+    Let(u"pLetFontSize", u"FontSize",
+        [&](host::TextBox& box) { box.CurrentFont()->Let(fontSize, points); });
+}
+
+bool VMemo::pGetLocked() const {
+    return Get<bool>(u"pGetLocked", [](host::TextBox& box) { return box.Locked(); });
+}
+
+void VMemo::pLetLocked(bool locked) {
+    Let(u"pLetLocked", u"Locked", [&](host::TextBox& box) { box.SetLocked(locked); });
+}
+
+std::int32_t VMemo::pGetMaxLength() const {
+    return Get<std::int32_t>(u"pGetMaxLength", [&](host::TextBox& box) {
+        const bool asHandle = ToText(host_.extender.Get(u"Tag")) == handleTag;
+        return asHandle ? box.WindowHandle() : box.MaxLength();
+    });
+}
+
+void VMemo::pLetMaxLength(std::int32_t length) {
+    Let(u"pLetMaxLength", u"MaxLength", [&](host::TextBox& box) { box.SetMaxLength(length); });
+}
+
+host::MousePointer VMemo::pGetMousePointer() const {
+    return Get<host::MousePointer>(u"pGetMousePointer",
+                                   [](host::TextBox& box) { return box.Pointer(); });
+}
+
+void VMemo::pLetMousePointer(host::MousePointer pointer) {
+    Let(u"pLetMousePointer", u"MousePointer", [&](host::TextBox& box) { box.SetPointer(pointer); });
+}
+
+host::ScrollBars VMemo::pGetScrollBars() const {
+    return static_cast<host::ScrollBars>(m_ScrollBars);
+}
+
+void VMemo::pLetScrollBars(host::ScrollBars scrollBars) {
+    module_.Procedure(u"pLetScrollBars", [&] {
+        const auto n = static_cast<std::int32_t>(scrollBars);
+        if (n != m_ScrollBars) {
+            // A change of the hidden box's text passes the restrictions like an edit.
+            Text1(n).SetText(ActiveBox().GetText());
+            Text1(n).SetVisible(true);
+            ActiveBox().SetVisible(false);
+        }
+        m_ScrollBars = n;
+        host_.container.PropertyChanged(u"ScrollBars");
+    });
+}
+
+Text VMemo::pGetText() const {
+    return Get<Text>(u"pGetText", [](host::TextBox& box) { return Text(box.GetText()); });
+}
+
+void VMemo::pLetText(TextView text) {
+    module_.Procedure(u"pLetText", [&] {
+        const Restriction restriction = ApplyRestrictions(0, text, RestrictionMode::Plain);
+        const Updating updating(m_Updating);
+        if (host_.container.CanPropertyChange(u"Text")) {
+            ForBoxes(0, [&](host::TextBox& box) { box.SetText(restriction.Of(text)); });
+            host_.container.PropertyChanged(u"Text");
+        }
+    });
+}
+
+// ---- Properties of the control itself
+
+void VMemo::pLetMaxCharsPerLine(std::int16_t count) {
+    m_MaxCharsPerLine = count;
+    host_.container.PropertyChanged(u"MaxCharsPerLine");
+}
+
+void VMemo::pLetMaxLines(std::int16_t count) {
+    m_MaxLines = count;
+    host_.container.PropertyChanged(u"MaxLines");
+}
+
+void VMemo::pLetPageWidth(float width) {
+    module_.Procedure(u"pLetPageWidth", [&] {
+        host_.surface.SetCurrentFont(ActiveBox().CurrentFont());
+        const double letter = host_.surface.TextWidth(u"A");
+        pLetMaxCharsPerLine(RoundToInt16(Divide(width, letter)));
+    });
+}
+
+// ---- Methods
+
+void VMemo::Refresh() {
+    module_.Procedure(u"Refresh", [&] { ActiveBox().Refresh(); });
+}
+
+void VMemo::TestMessage() {
+    module_.Procedure(u"TestMessage", [] { Divide(1.0, 0.0); });
+}
+
+// ---- The container's calls
+
+void VMemo::UserControl_InitProperties() {
+    m_MaxCharsPerLine = defaultLimit;
+    m_MaxLines = defaultLimit;
+    m_ScrollBars = defaultScrollBars;
+}
+
+// FontName and FontSize are not read, Font has them. The text comes in as it was saved, whatever
+// the limits, and does not count as accepted.
+void VMemo::UserControl_ReadProperties(host::PropertyBag& bag) {
+    module_.Procedure(u"UserControl_ReadProperties", [&] {
+        {
+            const Updating updating(m_Updating);
+            host::TextBox& box = Text1(0);
+            box.SetForeColor(ToColor(bag.ReadProperty(u"ForeColor", FromColor(defaultForeColor))));
+            box.SetEnabled(ToBoolean(bag.ReadProperty(u"Enabled", defaultEnabled)));
+            box.SetCurrentFont(
+                host::ToFont(bag.ReadProperty(u"Font", ObjectRef(host_.ambient.AmbientFont()))));
+            box.SetLocked(ToBoolean(bag.ReadProperty(u"Locked", defaultLocked)));
+            box.SetMaxLength(ToLong(bag.ReadProperty(u"MaxLength", defaultMaxLength)));
+            box.SetPointer(static_cast<host::MousePointer>(
+                ToLong(bag.ReadProperty(u"MousePointer", defaultMousePointer))));
+            box.SetText(ToText(bag.ReadProperty(u"Text", Text())));
+            m_MaxCharsPerLine = ToInteger(bag.ReadProperty(u"MaxCharsPerLine", defaultLimit));
+            m_MaxLines = ToInteger(bag.ReadProperty(u"MaxLines", defaultLimit));
+            m_ScrollBars = ToLong(bag.ReadProperty(u"ScrollBars", defaultScrollBars));
+            CopyProperties();
+        }
+        if (m_ScrollBars != 0) {
+            ActiveBox().SetVisible(true);
+            Text1(0).SetVisible(false);
+        }
+    });
+}
+
+void VMemo::CopyProperties() {
+    module_.Procedure(u"CopyProperties", [&] {
+        const host::TextBox& source = Text1(0);
+        ForBoxes(1, [&](host::TextBox& box) {
+            box.SetForeColor(source.ForeColor());
+            box.SetEnabled(source.Enabled());
+            box.SetCurrentFont(source.CurrentFont());
+            box.SetLocked(source.Locked());
+            box.SetMaxLength(source.MaxLength());
+            box.SetPointer(source.Pointer());
+            box.SetText(source.GetText());
+        });
+    });
+}
+
+void VMemo::UserControl_WriteProperties(host::PropertyBag& bag) {
+    module_.Procedure(u"UserControl_WriteProperties", [&] {
+        host::TextBox& box = ActiveBox();
+        bag.WriteProperty(u"ForeColor", FromColor(box.ForeColor()), FromColor(defaultForeColor));
+        bag.WriteProperty(u"Enabled", box.Enabled(), defaultEnabled);
+        bag.WriteProperty(u"Font", ObjectRef(box.CurrentFont()),
+                          ObjectRef(host_.ambient.AmbientFont()));
+        bag.WriteProperty(u"FontName", box.CurrentFont()->Name(), Text());
+        bag.WriteProperty(u"FontSize", box.CurrentFont()->Size(), 0.0F);
+        bag.WriteProperty(u"Locked", box.Locked(), defaultLocked);
+        bag.WriteProperty(u"MaxLength", box.MaxLength(), defaultMaxLength);
+        bag.WriteProperty(u"MousePointer", static_cast<std::int32_t>(box.Pointer()),
+                          defaultMousePointer);
+        bag.WriteProperty(u"Text", Text(box.GetText()), Text());
+        bag.WriteProperty(u"MaxCharsPerLine", m_MaxCharsPerLine, defaultLimit);
+        bag.WriteProperty(u"MaxLines", m_MaxLines, defaultLimit);
+        bag.WriteProperty(u"ScrollBars", m_ScrollBars, defaultScrollBars);
+    });
+}
+
+void VMemo::UserControl_Resize() {
+    module_.Procedure(u"UserControl_Resize", [&] {
+        ForBoxes(0, [&](host::TextBox& box) {
+            box.Move({.width = host_.surface.ScaleWidth(), .height = host_.surface.ScaleHeight()});
+        });
+    });
+}
+
+}  // namespace lumenkit
