@@ -1,0 +1,12 @@
+// What VLabelCaption offers to automation: nothing of its own.
+#pragma once
+
+#include "frame/automation/interface_table.h"
+#include "frame/class_table.h"
+
+namespace lumenkit {
+
+extern const InterfaceTable vlabelCaptionInterface;
+extern const ClassDescriptor vlabelCaptionClass;
+
+}  // namespace lumenkit
