@@ -115,7 +115,8 @@ class DecimalNumber {
         double number = 0.0;
         const auto result = std::from_chars(image.data(), end, number);
         if (result.ec == std::errc::result_out_of_range) {
-            if (power > 0) {
+            const bool tooLarge = static_cast<std::int64_t>(count_) + power > 0;  // or too small
+            if (tooLarge) {
                 Raise(ErrorNumber::Overflow);
             }
             return 0.0;

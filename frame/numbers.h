@@ -17,14 +17,15 @@ namespace lumenkit {
 /// Raises 6 for a number beyond double precision and for a radix number of more than 32 bits.
 double ParseNumber(TextView text);
 
-/// The number that the whole of `text` is, blanks around it apart, or nothing where `text` is not
-/// numeric: the platform's conversion of a string to a number (IsNumeric, CDbl). Nothing may follow
-/// the number, no blank may stand inside it. Raises 6 as ParseNumber does.
+/// The number that the whole of `text` is, or nothing where `text` is not numeric: the platform's
+/// conversion of a string to a number (IsNumeric, CDbl). Blanks, tabs and line feeds may stand
+/// around the number, but not inside it. Raises 6 as ParseNumber does.
 std::optional<double> NumericValue(TextView text);
 
 /// Appends `number` in the form of the platform's `Str`: a blank or a minus sign, no zero before a
-/// leading decimal point, the fewest digits that read back as the same number of their type. Below
-/// 0.0001 and from 1E+15 (single precision: 1E+07) up there is an exponent of at least two digits
+/// leading decimal point, the fewest digits that read back as the same number in its precision.
+/// Below 0.0001 and from 1E+15 (single precision: 1E+07) up there is an exponent of at least two
+/// digits
 /// (" 1.5E+20"). `number` must be finite.
 void AppendStr(Text& text, double number);
 void AppendStr(Text& text, float number);
