@@ -11,16 +11,34 @@
 
 namespace lumenkit {
 
+namespace {
+
+class Raised {
+ public:
+    explicit Raised(bool& flag) : flag_(flag) { flag_ = true; }
+    ~Raised() { flag_ = false; }
+    Raised(const Raised&) = delete;
+    Raised& operator=(const Raised&) = delete;
+
+ private:
+    bool& flag_;
+};
+
+}  // namespace
+
 CaptionRenderer::CaptionRenderer(const Module& module, host::Surface& surface,
                                  CaptionSettings& settings)
     : module_(module), surface_(surface), settings_(settings), compiler_(module) {}
 
 void CaptionRenderer::DisplayCaption() {
     module_.Procedure(u"DisplayCaption", [&] {
+        if (isDrawing_) {
+            return;
+        }
+        const Raised drawing(isDrawing_);
         CompileIfChanged();
         if (!SaveState()) {
-            return;  // what cannot be saved cannot be put back: better no drawing than a changed
-                     // font
+            return;  // what is not saved cannot be put back: better no drawing than another font
         }
         try {
             DrawLines();
@@ -34,7 +52,8 @@ void CaptionRenderer::DisplayCaption() {
 
 void CaptionRenderer::CompileIfChanged() {
     if (!settings_.IsCompiled) {
-        compiler_.CompileCaption(settings_.Caption);
+        compiling_ = settings_.Caption;
+        compiler_.CompileCaption(compiling_);
         settings_.IsCompiled = true;
     }
 }
@@ -71,10 +90,10 @@ void CaptionRenderer::DisplayText(TextView text, bool endOfLine) {
         const TextView printed = DrawBulletOf(text, x0);
         if (settings_.WordWrap) {
             PrintWrapped(printed, x0);
-        } else if (surface_.CurrentY() < visibleBottom_) {
+        } else if (IsVisible()) {
             surface_.Print(printed);
         } else {
-            Print(printed, surface_.TextWidth(printed));
+            Skip(surface_.TextWidth(printed));
         }
         if (endOfLine) {
             float newX = 0;
@@ -123,13 +142,21 @@ void CaptionRenderer::PrintWrapped(TextView text, float x0) {
     }
 }
 
-// Below the visible part only the pen moves.
 void CaptionRenderer::Print(TextView text, float width) {
-    if (surface_.CurrentY() < visibleBottom_) {
+    if (IsVisible()) {
         surface_.Print(text);
     } else {
-        surface_.SetCurrentX(surface_.CurrentX() + width);
+        Skip(width);
     }
+}
+
+bool CaptionRenderer::IsVisible() const {
+    return surface_.CurrentY() < visibleBottom_;
+}
+
+// Below the visible part only the pen moves.
+void CaptionRenderer::Skip(float width) {
+    surface_.SetCurrentX(surface_.CurrentX() + width);
 }
 
 void CaptionRenderer::StartNewLine(std::int16_t useBefore, float& newX) {

@@ -35,7 +35,8 @@ class CaptionRenderer {
 
     /// Clears the surface and draws the caption, compiled first where it changed. ForeColor and
     /// font of the surface are afterwards what they were before, also when an error struck. Errors
-    /// are reported, not raised.
+    /// are reported, not raised; a report may let the host ask for a repaint meanwhile, which then
+    /// draws nothing.
     void DisplayCaption();
 
     /// What the last drawing left: MaxLineX and IdealHeight are what sizing needs.
@@ -57,6 +58,8 @@ class CaptionRenderer {
     TextView DrawBulletOf(TextView text, float x0);
     void PrintWrapped(TextView text, float x0);
     void Print(TextView text, float width);
+    void Skip(float width);
+    bool IsVisible() const;
     void StartNewLine(std::int16_t useBefore, float& newX);
     void ExecuteNextCommand(TextView restOfLine, float& lineHeight);
     void Execute(TextView name, TextView parameter, TextView restOfLine, float& lineHeight);
@@ -72,6 +75,8 @@ class CaptionRenderer {
     CaptionDrawing drawing_;
     SurfaceState saved_;
     float visibleBottom_ = 0;
+    bool isDrawing_ = false;
+    Text compiling_;                 // a report may let the host assign another caption
     std::vector<double> widthEnds_;  // kept, so that wrapping allocates nothing once it is warm
 };
 

@@ -62,6 +62,9 @@ class VLabel final : public Control {
     /// Assigns the caption in order to try it.
     void Test(TextView CaptionToVerify);
 
+    /// What the last drawing measured.
+    const CaptionDrawing& Drawing() const { return renderer_.Drawing(); }
+
     // The container's calls.
     void UserControl_Initialize() override;
     void UserControl_InitProperties() override;

@@ -1,7 +1,5 @@
 #include "vlabel/word_wrap.h"
 
-#include <algorithm>
-
 namespace lumenkit {
 
 namespace {
@@ -12,10 +10,6 @@ constexpr int mostSteps = 1000;
 
 WordWrap::WordWrap(TextView text, std::span<const double> ends)
     : text_(text), ends_(ends), trimmedEnd_(RTrim(text).size()), limit_(trimmedEnd_) {}
-
-std::size_t WordWrap::TrimmedLength() const {
-    return std::max(trimmedEnd_, start_) - start_;
-}
 
 // Counted from 1 in the rest; 0 when there is none, and when the limit lies behind the rest.
 std::size_t WordWrap::LastBlank() const {
@@ -39,7 +33,8 @@ WordWrap::Step WordWrap::Print(Action action, std::size_t length) const {
 }
 
 WordWrap::Step WordWrap::Next(float x, float edge, bool atLineStart) {
-    for (; guard_ <= mostSteps && start_ < text_.size(); ++guard_) {
+    // An empty run takes one step too: it may start a new line.
+    for (; guard_ == 0 || (guard_ <= mostSteps && start_ < text_.size()); ++guard_) {
         if (Fits(x, TrimmedLength(), edge)) {
             return Print(Action::PrintRest, Rest().size());
         }

@@ -36,7 +36,8 @@ class WordWrap {
 
  private:
     TextView Rest() const { return text_.substr(start_); }
-    std::size_t TrimmedLength() const;
+    // Every break is at a blank before the last word, so the rest never starts behind it.
+    std::size_t TrimmedLength() const { return trimmedEnd_ - start_; }
     std::size_t LastBlank() const;
     float Width(std::size_t length) const;
     bool Fits(float x, std::size_t length, float edge) const;
