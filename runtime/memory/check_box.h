@@ -16,6 +16,7 @@ class CheckBox final : public BasicCaptioned<host::CheckBox> {
     void SetCheckState(std::int16_t state) override;
 
     PropertyList Properties() const override;
+    bool TakesFocus() const override { return true; }
     void ReceiveClick() override;
 
  private:

@@ -10,6 +10,7 @@ class CommandButton final : public BasicCaptioned<host::CommandButton> {
     CommandButton(Constituents& owner, const host::CaptionDesign& design,
                   host::ClickEvents& events);
 
+    bool TakesFocus() const override { return true; }
     void ReceiveClick() override;
 
  private:

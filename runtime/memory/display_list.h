@@ -17,7 +17,7 @@ struct ClsItem {
 
 /// A text with its top left corner at (x, y), in twips. The views are valid until the list changes.
 struct PrintItem {
-    TextView text;
+    TextView text = {};
     float x = 0;
     float y = 0;
     bool bold = false;
@@ -25,7 +25,7 @@ struct PrintItem {
     bool underline = false;
     float size = 0;  ///< points
     Color color = {};
-    TextView fontName;
+    TextView fontName = {};
 
     friend bool operator==(const PrintItem&, const PrintItem&) = default;
 };

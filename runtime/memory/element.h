@@ -32,7 +32,7 @@ class Element {
     const Text& Name() const { return name_; }
     std::int16_t Index() const { return index_; }  ///< in a control array, else -1
     /// "labChar", "Text1(0)".
-    Text FullName() const;
+    const Text& FullName() const { return fullName_; }
     const host::Placement& Where() const { return placement_; }
     bool IsVisible() const { return visible_; }
     bool IsEnabled() const { return enabled_; }
@@ -45,6 +45,7 @@ class Element {
     virtual PropertyList Properties() const;
 
     // The person acts; kinds that take no notice do nothing.
+    virtual bool TakesFocus() const { return false; }
     virtual void ReceiveFocus() {}
     virtual void LoseFocus() {}
     virtual void ReceiveClick() {}
@@ -64,6 +65,7 @@ class Element {
     TextView kind_;
     Text name_;
     std::int16_t index_;
+    Text fullName_;
     const Element* parent_;
     host::Placement placement_;
     bool visible_;

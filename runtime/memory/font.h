@@ -14,6 +14,9 @@ namespace lumenkit::memory {
 /// above 2160 points, raises 380. Shares the fault plan, so it may outlive the form.
 class Font final : public host::Font {
  public:
+    static constexpr std::int16_t regularWeight = 400;
+    static constexpr std::int16_t boldWeight = 700;
+
     /// Regular weight. Raises 380 as SetSize does.
     Font(std::shared_ptr<FaultPlan> faults, TextView name, float points);
 
@@ -41,7 +44,7 @@ class Font final : public host::Font {
     struct Attributes {
         Text name;
         float size = 0;
-        std::int16_t weight = 400;
+        std::int16_t weight = regularWeight;
         std::int16_t charset = 0;
         bool italic = false;
         bool underline = false;

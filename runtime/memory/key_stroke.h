@@ -4,7 +4,8 @@
 
 namespace lumenkit::memory {
 
-/// The key that enters a unit: its virtual key code and the keys held with it (1 Shift, 2 Ctrl).
+/// The key that enters a unit: its virtual key code and the keys held with it (2 is Ctrl;
+/// capitals are typed without Shift, as under Caps Lock).
 struct KeyStroke {
     std::int16_t keyCode = 0;
     std::int16_t shift = 0;

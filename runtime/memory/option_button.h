@@ -24,8 +24,10 @@ class OptionButton final : public BasicCaptioned<host::OptionButton> {
     void SetForeColor(Color color) override;
 
     PropertyList Properties() const override;
+    bool TakesFocus() const override { return true; }
     void ReceiveClick() override;
-    /// Sets the mark alone, without a notification.
+    // The mark alone: no notification, no call of the contract.
+    bool IsMarked() const { return selected_; }
     void Mark(bool selected) { selected_ = selected; }
 
  private:

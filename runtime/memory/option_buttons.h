@@ -25,9 +25,8 @@ class OptionButtons final : public host::OptionButtons {
     host::OptionButtonEvents& events_;
     Text name_;
     Text fontName_;
-    host::OptionButtonDesign design_;  // its texts are the fields above
+    host::OptionButtonDesign design_;  // of the elements to load; its texts are the fields above
     std::map<std::int16_t, std::unique_ptr<OptionButton>> buttons_;
-    OptionButton* selected_ = nullptr;
 };
 
 }  // namespace lumenkit::memory

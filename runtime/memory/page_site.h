@@ -5,7 +5,7 @@
 
 namespace lumenkit::memory {
 
-/// The flag changes only as the page, or IsChanged's caller through Reset, says.
+/// The flag is the page's alone: showing, selecting and applying do not touch it.
 class PageSite final : public host::PropertyPageSite {
  public:
     explicit PageSite(FaultPlan& faults) : faults_(faults) {}

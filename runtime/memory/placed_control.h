@@ -16,13 +16,14 @@ namespace lumenkit::memory {
 
 /// How a control is placed. Lengths are in twips.
 struct Placing {
-    TextView name;  ///< empty: Form::NewName
+    TextView name = {};  ///< empty: Form::NewName
     bool userMode = true;
     float left = 0;
     float top = 0;
     float width = 3000;
     float height = 1500;
-    TextView tag;
+    TextView tag = {};
+    bool visible = true;   ///< whether it is shown once it is started
     bool hasTag = true;    ///< whether the container has a Tag at all
     bool isLogged = true;  ///< whether what it tells its container goes to the form's log
 };
@@ -38,9 +39,10 @@ class PlacedControl {
     PlacedControl(const PlacedControl&) = delete;
     PlacedControl& operator=(const PlacedControl&) = delete;
 
-    /// The rest of a new control's start: UserControl_InitProperties, _Resize, _Show.
+    /// The rest of a new control's start: UserControl_InitProperties, _Resize and, unless placed
+    /// invisible, _Show.
     void StartNew();
-    /// The rest of a saved one's: UserControl_ReadProperties, _Resize, _Show.
+    /// The same for a saved one, with UserControl_ReadProperties.
     void StartSaved(host::PropertyBag& bag);
 
     // The same one by one.
@@ -82,12 +84,15 @@ class PlacedControl {
     const ControlHost& Host() const { return host_; }
 
  private:
+    void FinishStart();
+
     Form& form_;
     const ClassDescriptor& type_;
     Text name_;
     Text tag_;
     float left_;
     float top_;
+    bool startsVisible_;
     Surface surface_;
     ControlSite site_;
     Ambient ambient_;

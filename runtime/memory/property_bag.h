@@ -21,11 +21,9 @@ class PropertyBag final : public host::PropertyBag {
     /// The value stored under `name`; null when there is none. Valid until the bag changes.
     const Value* Find(TextView name) const;
     /// Stores `value` whatever its default may be.
-    void Store(TextView name, Value value);
+    void Store(TextView name, const Value& value);
 
  private:
-    std::vector<Entry>::iterator Position(TextView name);
-
     std::vector<Entry> entries_;
 };
 

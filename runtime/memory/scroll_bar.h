@@ -24,6 +24,7 @@ class ScrollBar final : public BasicConstituent<host::ScrollBar> {
 
     host::Orientation Direction() const { return orientation_; }
     PropertyList Properties() const override;
+    bool TakesFocus() const override { return true; }
     /// The person moves the thumb there, or as near as the bar goes.
     void ReceiveScroll(std::int32_t value);
 

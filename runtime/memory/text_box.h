@@ -33,9 +33,11 @@ class TextBox final : public BasicTextConstituent<host::TextBox> {
     bool IsMultiLine() const { return multiLine_; }
     host::ScrollBars Bars() const { return scrollBars_; }
     const Text& Contents() const { return text_; }
+    bool IsLocked() const { return locked_; }
     PropertyList Properties() const override;
 
     // The person acts (see User, which asks first whether the box can be used).
+    bool TakesFocus() const override { return true; }
     void ReceiveFocus() override;
     void LoseFocus() override;
     void ReceiveClick() override;
@@ -51,7 +53,9 @@ class TextBox final : public BasicTextConstituent<host::TextBox> {
  private:
     std::int32_t Length() const { return static_cast<std::int32_t>(text_.size()); }
     std::size_t Room() const;
-    void Put(char16_t unit);
+    void PressKey(char16_t unit);
+    void Enter(char16_t unit);
+    void Insert(TextView text);
     void DeleteBackwards();
     void ReplaceSelection(TextView replacement);
 

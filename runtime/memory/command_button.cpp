@@ -1,0 +1,13 @@
+#include "runtime/memory/command_button.h"
+
+namespace lumenkit::memory {
+
+CommandButton::CommandButton(Constituents& owner, const host::CaptionDesign& design,
+                             host::ClickEvents& events)
+    : BasicCaptioned(owner, u"CommandButton", design, design.caption), events_(events) {}
+
+void CommandButton::ReceiveClick() {
+    events_.Click();
+}
+
+}  // namespace lumenkit::memory

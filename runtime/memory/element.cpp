@@ -1,0 +1,73 @@
+#include "runtime/memory/element.h"
+
+#include <stdexcept>
+
+#include "frame/numbers.h"
+#include "runtime/memory/accepted_values.h"
+#include "runtime/memory/constituents.h"
+#include "runtime/memory/form.h"
+
+namespace lumenkit::memory {
+
+namespace {
+
+const Element* ParentOf(const host::Design& design) {
+    if (design.parent == nullptr) {
+        return nullptr;
+    }
+    const auto* parent = dynamic_cast<const Element*>(design.parent);
+    if (parent == nullptr) {
+        throw std::logic_error("the parent belongs to another runtime");
+    }
+    return parent;
+}
+
+Text FullNameOf(const host::Design& design) {
+    Text name(design.name);
+    if (design.index >= 0) {
+        name += u'(';
+        AppendDecimal(name, design.index);
+        name += u')';
+    }
+    return name;
+}
+
+}  // namespace
+
+Element::Element(Constituents& owner, TextView kind, const host::Design& design)
+    : owner_(owner),
+      faults_(owner.GetForm().Faults()),
+      kind_(kind),
+      name_(design.name),
+      index_(design.index),
+      fullName_(FullNameOf(design)),
+      parent_(ParentOf(design)),
+      placement_(design.placement),
+      visible_(design.visible),
+      position_(owner.Register(*this)) {}
+
+Element::~Element() {
+    owner_.GetForm().GetFocus().Forget(*this);
+    owner_.Unregister(position_);
+}
+
+bool Element::AcceptsInput() const {
+    for (const Element* element = this; element != nullptr; element = element->parent_) {
+        if (!element->visible_ || !element->enabled_) {
+            return false;
+        }
+    }
+    return owner_.AcceptInput();
+}
+
+PropertyList Element::Properties() const {
+    return {{u"Left", placement_.left},     {u"Top", placement_.top}, {u"Width", placement_.width},
+            {u"Height", placement_.height}, {u"Visible", visible_},   {u"Enabled", enabled_}};
+}
+
+void Element::MoveTo(const host::Placement& placement) {
+    RequireSize(placement.width, placement.height);
+    placement_ = placement;
+}
+
+}  // namespace lumenkit::memory

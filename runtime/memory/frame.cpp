@@ -1,0 +1,26 @@
+#include "runtime/memory/frame.h"
+
+#include "runtime/memory/accepted_values.h"
+
+namespace lumenkit::memory {
+
+Frame::Frame(Constituents& owner, const host::CaptionDesign& design)
+    : BasicCaptioned(owner, u"Frame", design, design.caption) {}
+
+std::int16_t Frame::BorderStyle() const {
+    Call(u"BorderStyle");
+    return borderStyle_;
+}
+
+void Frame::SetBorderStyle(std::int16_t style) {
+    Call(u"SetBorderStyle");
+    borderStyle_ = AcceptedNumber<std::int16_t>(style, 0, 1);
+}
+
+PropertyList Frame::Properties() const {
+    PropertyList list = BasicCaptioned::Properties();
+    list.emplace_back(u"BorderStyle", borderStyle_);
+    return list;
+}
+
+}  // namespace lumenkit::memory

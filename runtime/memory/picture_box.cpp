@@ -1,0 +1,30 @@
+#include "runtime/memory/picture_box.h"
+
+#include <algorithm>
+
+#include "runtime/memory/metrics.h"
+
+namespace lumenkit::memory {
+
+namespace {
+
+float InsideBorder(float outer) {
+    return std::max(outer - 2 * pictureBoxBorder, 0.0F);
+}
+
+}  // namespace
+
+PictureBox::PictureBox(Constituents& owner, const host::Design& design)
+    : BasicConstituent(owner, u"PictureBox", design) {}
+
+float PictureBox::ScaleWidth() const {
+    Call(u"ScaleWidth");
+    return InsideBorder(placement_.width);
+}
+
+float PictureBox::ScaleHeight() const {
+    Call(u"ScaleHeight");
+    return InsideBorder(placement_.height);
+}
+
+}  // namespace lumenkit::memory

@@ -1,0 +1,44 @@
+#include "runtime/memory/placed_page.h"
+
+#include <stdexcept>
+#include <utility>
+
+#include "runtime/memory/placed_control.h"
+
+namespace lumenkit::memory {
+
+PlacedPage::PlacedPage(Form& form, const ClassDescriptor& type)
+    : site_(form.Faults()),
+      selectedControls_(form.Faults()),
+      constituents_(form, nullptr, true),
+      host_{.site = site_,
+            .selectedControls = selectedControls_,
+            .screen = form.GetScreen(),
+            .interaction = form.GetInteraction(),
+            .constituents = constituents_} {
+    if (type.createPage == nullptr) {
+        throw std::logic_error("the class is no property page");
+    }
+    page_ = type.createPage(host_);
+    page_->PropertyPage_Initialize();
+}
+
+void PlacedPage::Select(const std::vector<PlacedControl*>& controls) {
+    std::vector<ObjectRef> objects;
+    objects.reserve(controls.size());
+    for (PlacedControl* control : controls) {
+        objects.push_back(control->SharedAutomation());
+    }
+    Select(std::move(objects));
+}
+
+void PlacedPage::Select(std::vector<ObjectRef> controls) {
+    selectedControls_.Assign(std::move(controls));
+    page_->PropertyPage_SelectionChanged();
+}
+
+void PlacedPage::Apply() {
+    page_->PropertyPage_ApplyChanges();
+}
+
+}  // namespace lumenkit::memory
