@@ -1,7 +1,9 @@
 // What the container saw, in the order in which it happened.
 #pragma once
 
+#include <cstddef>
 #include <optional>
+#include <utility>
 #include <variant>
 #include <vector>
 
@@ -44,7 +46,10 @@ using LogEntry = std::variant<RaisedEvent, ChangedProperty, ShownMessage, HeardB
 class Log {
  public:
     const std::vector<LogEntry>& Entries() const { return entries_; }
-    void Add(LogEntry entry) { entries_.push_back(std::move(entry)); }
+    template <typename Entry>
+    void Add(Entry entry) {
+        entries_.emplace_back(std::in_place_type<Entry>, std::move(entry));
+    }
     /// Keeps its room.
     void Clear() { entries_.clear(); }
 
