@@ -25,8 +25,7 @@ std::optional<double> NumericValue(TextView text);
 /// Appends `number` in the form of the platform's `Str`: a blank or a minus sign, no zero before a
 /// leading decimal point, the fewest digits that read back as the same number in its precision.
 /// Below 0.0001 and from 1E+15 (single precision: 1E+07) up there is an exponent of at least two
-/// digits
-/// (" 1.5E+20"). `number` must be finite.
+/// digits (" 1.5E+20"). `number` must be finite.
 void AppendStr(Text& text, double number);
 void AppendStr(Text& text, float number);
 Text Str(double number);

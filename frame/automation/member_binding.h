@@ -40,25 +40,24 @@ using SignatureOf = Signature<decltype(function)>;
 
 /// Calls `function` on what `self` points to with the converted arguments.
 template <auto function, std::size_t... index>
-Value Apply(void* self, std::span<Value> arguments, std::index_sequence<index...> /*indices*/) {
+decltype(auto) Apply(void* self, [[maybe_unused]] std::span<Value> arguments,
+                     std::index_sequence<index...> /*indices*/) {
     using Of = SignatureOf<function>;
     auto* object = static_cast<typename Of::Self*>(self);
-    const auto run = [&] {
-        return (object->*function)(
-            Automation<std::tuple_element_t<index, typename Of::Types>>::From(arguments[index])...);
-    };
-    if constexpr (std::is_void_v<typename Of::Result>) {
-        run();
-        return Empty{};
-    } else {
-        return Automation<typename Of::Result>::To(run());
-    }
+    return (object->*function)(
+        Automation<std::tuple_element_t<index, typename Of::Types>>::From(arguments[index])...);
 }
 
 template <auto function>
 Value Thunk(void* self, std::span<Value> arguments) {
-    return Apply<function>(self, arguments,
-                           std::make_index_sequence<SignatureOf<function>::count>{});
+    using Of = SignatureOf<function>;
+    constexpr std::make_index_sequence<Of::count> indices;
+    if constexpr (std::is_void_v<typename Of::Result>) {
+        Apply<function>(self, arguments, indices);
+        return Empty{};
+    } else {
+        return Automation<typename Of::Result>::To(Apply<function>(self, arguments, indices));
+    }
 }
 
 template <auto put>
