@@ -22,6 +22,9 @@ struct ClassDescriptor {
     std::unique_ptr<Control> (*createControl)(const ControlHost& host) = nullptr;
     /// Set for a property page.
     std::unique_ptr<PropertyPage> (*createPage)(const PageHost& host) = nullptr;
+    /// How large a property page is laid out, in twips.
+    float pageWidth = 0;
+    float pageHeight = 0;
 };
 
 /// The project descriptor: what the server's entries hand to a control runtime.

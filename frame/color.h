@@ -9,6 +9,8 @@ namespace lumenkit {
 enum class Color : std::uint32_t {
     WindowBackground = 0x80000005,
     WindowText = 0x80000008,
+    Highlight = 0x8000000D,
+    HighlightText = 0x8000000E,
     ButtonFace = 0x8000000F,
     ButtonText = 0x80000012,
 };

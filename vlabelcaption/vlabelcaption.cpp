@@ -17,7 +17,26 @@ constexpr std::int32_t bulletIndentMember = UserProperty(3);
 constexpr std::int32_t wordWrapMember = UserProperty(4);
 
 constexpr std::int32_t magnifiedUnits = 4;
-constexpr double largestIndent = 9999;
+
+// The indent to apply; negative where the text is none.
+double IndentOf(TextView text) {
+    constexpr double largestIndent = 9999;
+    constexpr double noIndent = -1;
+    try {
+        const double indent = NumericValue(text).value_or(noIndent);
+        return indent > largestIndent ? noIndent : indent;
+    } catch (const RuntimeError&) {  // a number beyond all range
+        return noIndent;
+    }
+}
+
+ObjectRef FontFrom(const Value& value) {
+    ObjectRef font = ToObject(value);
+    if (!font) {
+        Raise(ErrorNumber::ObjectNotSet);
+    }
+    return font;
+}
 
 host::Design DesignOf(TextView name, const host::Placement& placement,
                       host::Constituent* parent = nullptr) {
@@ -36,13 +55,29 @@ host::CaptionDesign CaptionDesignOf(TextView name, const host::Placement& placem
     return design;
 }
 
-host::CaptionDesign MagnifierDesign(TextView name, const host::Placement& placement,
-                                    TextView caption) {
+// A label of the magnifier, which is to be seen while the caption is edited only.
+std::unique_ptr<host::Label> AddMagnifier(host::Constituents& parts, TextView name,
+                                          const host::Placement& placement, TextView caption,
+                                          Color foreColor, Color backColor) {
     host::CaptionDesign design = CaptionDesignOf(name, placement, caption);
     design.fontName = u"Courier";
     design.fontSize = page_layout::magnifierFontSize;
     design.visible = false;
-    return design;
+    std::unique_ptr<host::Label> label = parts.AddLabel(design);
+    label->SetForeColor(foreColor);
+    label->SetBackColor(backColor);
+    return label;
+}
+
+std::unique_ptr<host::Label> AddSurroundings(host::Constituents& parts, TextView name,
+                                             const host::Placement& placement, TextView caption) {
+    return AddMagnifier(parts, name, placement, caption, Color::WindowText,
+                        Color::WindowBackground);
+}
+
+std::unique_ptr<host::Label> AddMiddle(host::Constituents& parts, TextView name,
+                                       const host::Placement& placement, TextView caption) {
+    return AddMagnifier(parts, name, placement, caption, Color::HighlightText, Color::Highlight);
 }
 
 host::TextBoxDesign TextBoxDesignOf(TextView name, const host::Placement& placement) {
@@ -79,11 +114,13 @@ VLabelCaption::VLabelCaption(const PageHost& host)
     Label1 = parts.AddLabel(CaptionDesignOf(
         u"Label1", page_layout::Label1,
         u" ^S=SelectNext, ^B=Bold, ^N=Normal, ^I=Italic on, ^O=italic Off, ^G=Green, ^L=Linespc"));
-    labLeft = parts.AddLabel(MagnifierDesign(u"labLeft", page_layout::labLeft, u"left"));
-    labChar = parts.AddLabel(MagnifierDesign(u"labChar", page_layout::labChar, u"C"));
-    labSelect = parts.AddLabel(MagnifierDesign(u"labSelect", page_layout::labSelect, u"select"));
+    cmdHelp = parts.AddCommandButton(
+        CaptionDesignOf(u"cmdHelp", page_layout::cmdHelp, u"Keys Help"), helpEvents_);
+    labLeft = AddSurroundings(parts, u"labLeft", page_layout::labLeft, u"left");
+    labChar = AddMiddle(parts, u"labChar", page_layout::labChar, u"C");
+    labSelect = AddMiddle(parts, u"labSelect", page_layout::labSelect, u"select");
     labSelect->SetAutoSize(true);
-    labRight = parts.AddLabel(MagnifierDesign(u"labRight", page_layout::labRight, u"righ"));
+    labRight = AddSurroundings(parts, u"labRight", page_layout::labRight, u"righ");
     lblBulletPrefix = parts.AddLabel(
         CaptionDesignOf(u"lblBulletPrefix", page_layout::lblBulletPrefix, u"Bullet Prefix:"));
     txtBulletPrefix = parts.AddTextBox(
@@ -94,30 +131,28 @@ VLabelCaption::VLabelCaption(const PageHost& host)
         TextBoxDesignOf(u"txtBulletIndent", page_layout::txtBulletIndent), indentEvents_);
     chkWordWrap = parts.AddCheckBox(
         CaptionDesignOf(u"chkWordWrap", page_layout::chkWordWrap, u"Word Wrap"), wrapEvents_);
-    cmdHelp = parts.AddCommandButton(
-        CaptionDesignOf(u"cmdHelp", page_layout::cmdHelp, u"Keys Help"), helpEvents_);
     Picture1 = parts.AddPictureBox(DesignOf(u"Picture1", page_layout::Picture1));
-    const host::Placement preview = {0, 0, Picture1->ScaleWidth(), Picture1->ScaleHeight()};
-    VLabel1 = parts.AddControl(DesignOf(u"VLabel1", preview, Picture1.get()), u"lumenkit.VLabel");
     const host::Placement bar = {0, 0, page_layout::scrollBarSize, page_layout::scrollBarSize};
     HScroll1 = parts.AddScrollBar(DesignOf(u"HScroll1", bar, Picture1.get()),
                                   host::Orientation::Horizontal, horizontalEvents_);
     VScroll1 = parts.AddScrollBar(DesignOf(u"VScroll1", bar, Picture1.get()),
                                   host::Orientation::Vertical, verticalEvents_);
+    const host::Placement preview = {0, 0, Picture1->ScaleWidth(), Picture1->ScaleHeight()};
+    VLabel1 = parts.AddControl(DesignOf(u"VLabel1", preview, Picture1.get()), u"lumenkit.VLabel");
+    FontFrom(VLabel1->Automation().Get(stockFont))->Let(u"Name", Text(u"MS Sans Serif"));
 }
 
 void VLabelCaption::PropertyPage_Initialize() {
-    const float innerWidth = Picture1->ScaleWidth();
-    const float innerHeight = Picture1->ScaleHeight();
     // The vertical bar runs the full height, the horizontal one stops where the other begins.
-    const float barLeft = innerWidth - VScroll1->Place().width;
-    const float barTop = innerHeight - HScroll1->Place().height;
-    VScroll1->Move({barLeft, 0, VScroll1->Place().width, innerHeight});
-    HScroll1->Move({0, barTop, barLeft, HScroll1->Place().height});
-    VScroll1->SetLargeChange(RoundToInt16(barTop));
-    HScroll1->SetLargeChange(RoundToInt16(barLeft));
-    VScroll1->SetSmallChange(RoundToInt16(barTop / 5));
-    HScroll1->SetSmallChange(RoundToInt16(barLeft / 15));
+    const float innerHeight = Picture1->ScaleHeight();
+    const host::Placement vertical = VScroll1->Place();
+    VScroll1->Move({Picture1->ScaleWidth() - vertical.width, 0, vertical.width, innerHeight});
+    const host::Placement horizontal = HScroll1->Place();
+    HScroll1->Move({0, innerHeight - horizontal.height, VScroll1->Place().left, horizontal.height});
+    VScroll1->SetLargeChange(RoundToInt16(VisibleHeight()));
+    HScroll1->SetLargeChange(RoundToInt16(VisibleWidth()));
+    VScroll1->SetSmallChange(RoundToInt16(VisibleHeight() / 5));
+    HScroll1->SetSmallChange(RoundToInt16(VisibleWidth() / 15));
     MoveTo(*labChar, RightEdge(*labLeft), labChar->Place().top);
     MoveTo(*labSelect, labChar->Place().left, labSelect->Place().top);
 }
@@ -132,10 +167,7 @@ void VLabelCaption::PropertyPage_SelectionChanged() {
 }
 
 void VLabelCaption::PropertyPage_ApplyChanges() {
-    double indent = NumericValue(txtBulletIndent->GetText()).value_or(-1);
-    if (indent > largestIndent) {
-        indent = -1;
-    }
+    const double indent = IndentOf(txtBulletIndent->GetText());
     if (indent < 0) {
         interaction_.Beep();
         interaction_.MsgBox(u"Illegal indent. Must be 0 to 9999", host::MessageStyle::OkOnly,
@@ -157,8 +189,8 @@ void VLabelCaption::RefreshPreview() {
     const float width = ToSingle(edited->Call(u"GetProperty", {Text(u"Width")}));
     float height = ToSingle(edited->Call(u"GetProperty", {Text(u"Height")}));
     // At least as high as what is visible of it.
-    if (height < HScroll1->Place().top) {
-        height = HScroll1->Place().top;
+    if (height < VisibleHeight()) {
+        height = VisibleHeight();
     }
     VLabel1->Automation().Let(captionMember, Text(u"."));  // quick to draw while it is being set up
     VLabel1->Move({0, 0, width, height});
@@ -171,11 +203,8 @@ void VLabelCaption::RefreshPreview() {
 }
 
 void VLabelCaption::CopyAppearance(Object& edited) {
-    const ObjectRef source = ToObject(edited.Get(u"Font"));
-    const ObjectRef target = ToObject(VLabel1->Automation().Get(stockFont));
-    if (!source || !target) {
-        Raise(ErrorNumber::ObjectNotSet);
-    }
+    const ObjectRef source = FontFrom(edited.Get(u"Font"));
+    const ObjectRef target = FontFrom(VLabel1->Automation().Get(stockFont));
     for (const TextView attribute : {u"Name", u"Size", u"Bold", u"Italic"}) {
         target->Let(attribute, source->Get(attribute));
     }
@@ -183,9 +212,17 @@ void VLabelCaption::CopyAppearance(Object& edited) {
     VLabel1->Automation().Let(stockForeColor, edited.Get(u"ForeColor"));
 }
 
+float VLabelCaption::VisibleWidth() const {
+    return VScroll1->Place().left;
+}
+
+float VLabelCaption::VisibleHeight() const {
+    return HScroll1->Place().top;
+}
+
 void VLabelCaption::SetUpScrollBars(float width, float height) {
-    const float visibleWidth = VScroll1->Place().left;
-    const float visibleHeight = HScroll1->Place().top;
+    const float visibleWidth = VisibleWidth();
+    const float visibleHeight = VisibleHeight();
     HScroll1->SetEnabled(false);
     VScroll1->SetEnabled(false);
     HScroll1->SetScrollValue(0);

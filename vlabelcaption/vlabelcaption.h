@@ -86,6 +86,9 @@ class VLabelCaption final : public PropertyPage {
 
     void RefreshPreview();
     void CopyAppearance(Object& edited);
+    /// What is to be seen of the preview beside and above both scroll bars.
+    float VisibleWidth() const;
+    float VisibleHeight() const;
     void SetUpScrollBars(float width, float height);
     void ShowSelection();
     void InsertToken(TextView token);
@@ -114,6 +117,7 @@ class VLabelCaption final : public PropertyPage {
     std::unique_ptr<host::Label> lblCaption;
     std::unique_ptr<host::TextBox> txtCaption;
     std::unique_ptr<host::Label> Label1;
+    std::unique_ptr<host::CommandButton> cmdHelp;
     std::unique_ptr<host::Label> labLeft;
     std::unique_ptr<host::Label> labChar;
     std::unique_ptr<host::Label> labSelect;
@@ -123,11 +127,10 @@ class VLabelCaption final : public PropertyPage {
     std::unique_ptr<host::Label> lblBulletIndent;
     std::unique_ptr<host::TextBox> txtBulletIndent;
     std::unique_ptr<host::CheckBox> chkWordWrap;
-    std::unique_ptr<host::CommandButton> cmdHelp;
     std::unique_ptr<host::PictureBox> Picture1;
-    std::unique_ptr<host::EmbeddedControl> VLabel1;
-    std::unique_ptr<host::ScrollBar> HScroll1;
+    std::unique_ptr<host::ScrollBar> HScroll1;  // in front of the preview
     std::unique_ptr<host::ScrollBar> VScroll1;
+    std::unique_ptr<host::EmbeddedControl> VLabel1;
 
     // The caption box's selection, in UTF-16 units from 0, the end exclusive.
     std::int32_t SelStart = 0;

@@ -2,6 +2,7 @@
 
 #include <memory>
 
+#include "vlabelcaption/page_layout.h"
 #include "vlabelcaption/vlabelcaption.h"
 
 namespace lumenkit {
@@ -20,6 +21,8 @@ constexpr ClassDescriptor vlabelCaptionClass = {
     .kind = ClassKind::PropertyPage,
     .interfaceTable = &vlabelCaptionInterface,
     .createPage = &Create,
+    .pageWidth = page_layout::pageWidth,
+    .pageHeight = page_layout::pageHeight,
 };
 
 }  // namespace lumenkit

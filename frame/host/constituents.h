@@ -10,7 +10,8 @@
 namespace lumenkit::host {
 
 /// Makes the constituents of one control or page. The tab order is the order in which they are
-/// made. Event receivers must outlive the constituent, parents too; designs are only read.
+/// made; where two overlap, the one made first is in front. Event receivers must outlive the
+/// constituent, parents too; designs are only read.
 class Constituents {
  public:
     virtual ~Constituents() = default;

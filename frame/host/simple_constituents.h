@@ -24,6 +24,7 @@ class Frame : public TextConstituent {
     virtual void SetBorderStyle(std::int16_t style) = 0;
 };
 
+/// Shows text; a caption that is wider than the label goes on in further lines.
 class Label : public TextConstituent {
  public:
     virtual Text Caption() const = 0;

@@ -1,0 +1,20 @@
+#include "project/lumenkit_classes.h"
+
+#include <array>
+
+#include "vlabel/vlabel_interface.h"
+#include "vlabelcaption/vlabelcaption_interface.h"
+#include "vmemo/vmemo_interface.h"
+#include "voptlist/voptlist_interface.h"
+
+namespace lumenkit {
+
+namespace {
+
+const std::array classes = {vlabelClass, vmemoClass, voptlistClass, vlabelCaptionClass};
+
+}  // namespace
+
+const ClassTable lumenkitClasses = {.libraryName = u"lumenkit", .classes = classes};
+
+}  // namespace lumenkit
