@@ -4,7 +4,6 @@
 #include <bit>
 #include <cstddef>
 #include <cstdint>
-#include <cstring>
 
 #include "frame/text.h"
 
@@ -31,69 +30,17 @@ class LineBreakScanner {
                 return text_.size();
             }
             EnterBlock(from);
+            from = block_;
         }
     }
 
  private:
-    static constexpr std::size_t blockSize = 32;
-
-    void EnterBlock(std::size_t from) {
-        block_ = from;
-        blockEnd_ = from + blockSize;
-        const char16_t* units = text_.data() + from;
-        // The last unit of a block is looked at together with the one behind the block.
-        if (text_.size() - from > blockSize) {
-            breaks_ = HasBreak(units) ? Breaks(units) : 0;
-        } else {
-            breaks_ = BreaksOfTail(units, text_.size() - from - 1);
-        }
-    }
-
-    static bool IsBreak(const char16_t* units) { return (units[0] == u'\r') & (units[1] == u'\n'); }
-
-    // Without a branch inside: compilers make vector instructions of it.
-    static bool HasBreak(const char16_t* units) {
-        std::uint16_t found = 0;
-        for (std::size_t i = 0; i < blockSize; ++i) {
-            found = static_cast<std::uint16_t>(found | IsBreak(units + i));
-        }
-        return found != 0;
-    }
-
-    static std::uint32_t BreaksOfTail(const char16_t* units, std::size_t count) {
-        std::uint32_t breaks = 0;
-        for (std::size_t i = 0; i < count; ++i) {
-            breaks |= static_cast<std::uint32_t>(IsBreak(units + i)) << i;
-        }
-        return breaks;
-    }
-
-    static std::uint32_t Breaks(const char16_t* units) {
-        std::uint32_t breaks = 0;
-        for (std::size_t i = 0; i < blockSize; i += 4) {
-            breaks |= BreaksOfWord(units + i) << i;
-        }
-        return breaks;
-    }
-
-    // Four units in the lanes of one word: bit i of the result says that a break begins at unit i.
-    static std::uint32_t BreaksOfWord(const char16_t* units) {
-        static_assert(std::endian::native == std::endian::little, "the first unit is the low lane");
-        constexpr std::uint64_t ones = 0x0001'0001'0001'0001;
-        constexpr std::uint64_t lowBits = ones * 0x7FFF;
-        std::uint64_t first = 0;
-        std::uint64_t second = 0;
-        std::memcpy(&first, units, sizeof first);
-        std::memcpy(&second, units + 1, sizeof second);
-        const std::uint64_t differs = (first ^ ones * u'\r') | (second ^ ones * u'\n');
-        // The high bit of each lane that is zero, moved to the lane's low bit, then the four lanes'
-        // bits gathered side by side at the top of the product.
-        const std::uint64_t zeros = ~(((differs & lowBits) + lowBits) | differs | lowBits) >> 15;
-        return static_cast<std::uint32_t>(zeros * 0x0001'0002'0004'0008 >> 48 & 0xF);
-    }
+    /// Looks at the units from `from` on until it has a block in which line breaks begin, or the
+    /// text's last one.
+    void EnterBlock(std::size_t from);
 
     TextView text_;
-    std::size_t block_ = 0;
+    std::size_t block_ = 0;  // where the block begins and ends
     std::size_t blockEnd_ = 0;
     std::uint32_t breaks_ = 0;  // bit i: a line break begins at block_ + i
 };

@@ -47,7 +47,8 @@ class ShrinkingText {
         for (const TextView piece : kept_) {
             joined.append(piece);
         }
-        return joined.append(source_.substr(keptEnd_));
+        joined.append(source_.substr(keptEnd_));
+        return joined;
     }
 
  private:
