@@ -55,14 +55,17 @@ void VOptList::SetupItem(std::int16_t index, const ContentsItem& item) {
 void VOptList::CopyProperties() {
     module_.Procedure(u"CopyProperties", [&] {
         const OptionButton& model = Option1->Item(0);
+        const std::int16_t alignment = model.Alignment();
+        const host::FontRef font = model.CurrentFont();
+        const Color foreColor = model.ForeColor();
         for (std::int16_t index = 1; index < LoadedCount; ++index) {
             OptionButton& button = Option1->Item(index);
             PutIfDifferent(button, &OptionButton::Alignment, &OptionButton::SetAlignment,
-                           model.Alignment());
+                           alignment);
             PutIfDifferent(button, &TextConstituent::CurrentFont, &TextConstituent::SetCurrentFont,
-                           model.CurrentFont());
+                           font);
             PutIfDifferent(button, &OptionButton::ForeColor, &OptionButton::SetForeColor,
-                           model.ForeColor());
+                           foreColor);
         }
     });
 }

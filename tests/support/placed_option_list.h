@@ -1,0 +1,77 @@
+// An option list on the memory runtime, with what tests look at.
+#pragma once
+
+#include <memory>
+#include <ostream>
+#include <string>
+#include <vector>
+
+#include "runtime/memory/form.h"
+#include "runtime/memory/frame.h"
+#include "runtime/memory/option_button.h"
+#include "runtime/memory/placed_control.h"
+#include "runtime/memory/user.h"
+#include "voptlist/voptlist.h"
+#include "voptlist/voptlist_interface.h"
+
+namespace lumenkit::host {
+
+/// For the messages of failed tests.
+inline void PrintTo(const Placement& place, std::ostream* out) {
+    *out << "{" << place.left << ", " << place.top << ", " << place.width << ", " << place.height
+         << "}";
+}
+
+}  // namespace lumenkit::host
+
+namespace lumenkit::testing {
+
+class PlacedOptionList {
+ public:
+    enum class Mode { Design, Run };
+
+    /// The control is created, not started yet: see StartNew, StartSaved.
+    explicit PlacedOptionList(Mode mode, const memory::Placing& placing = {});
+
+    static std::unique_ptr<PlacedOptionList> New(Mode mode, const memory::Placing& placing = {});
+    static std::unique_ptr<PlacedOptionList> Saved(Mode mode, host::PropertyBag& bag,
+                                                   const memory::Placing& placing = {});
+
+    VOptList& List() { return static_cast<VOptList&>(placed_.GetControl()); }
+    VOptList* operator->() { return &List(); }
+    memory::PlacedControl& Placed() { return placed_; }
+    memory::Form& Form() { return form_; }
+    memory::FaultPlan& Faults() { return form_.Faults(); }
+    void SetMode(Mode mode) { placed_.GetAmbient().SetUserMode(mode == Mode::Run); }
+
+    memory::Frame& Frame() { return placed_.Parts().Get<memory::Frame>(u"Frame1"); }
+    /// All elements, hidden ones included.
+    std::vector<memory::OptionButton*> Buttons() const;
+    memory::OptionButton& Button(std::size_t index) const { return *Buttons().at(index); }
+    /// "value;caption" of each button; " *" follows where it is selected, hidden ones are in
+    /// parentheses.
+    std::vector<std::string> Items() const;
+    /// The person at the screen clicks a button; false when it cannot be clicked.
+    bool Click(std::size_t index) { return memory::User(form_).Click(Button(index)); }
+
+    /// What the container and the person at the screen have seen since the last call: "changed
+    /// Contents", "event Click", "error 387 in pLetText" (a beep and the whole message of the
+    /// module VOPTLIST), or whatever else was shown.
+    std::vector<std::string> TakeLog();
+
+    /// Whether `action` calls `member` ("Frame.Place"). If it does, that call fails.
+    template <typename Action>
+    bool Uses(TextView member, Action&& action) {
+        Faults().FailCall(member, 1, ErrorNumber::InternalError);
+        action();
+        const bool used = !Faults().IsArmed();
+        Faults().Clear();
+        return used;
+    }
+
+ private:
+    memory::Form form_;
+    memory::PlacedControl placed_;
+};
+
+}  // namespace lumenkit::testing

@@ -1,0 +1,138 @@
+#include "voptlist/contents.h"
+
+#include <string>
+#include <vector>
+
+#include <gmock/gmock.h>
+
+#include "frame/runtime_error.h"
+#include "frame/utf8.h"
+
+namespace lumenkit {
+
+namespace {
+
+using ::testing::ElementsAre;
+using ::testing::SizeIs;
+
+constexpr std::size_t longest = 32766;
+
+/// "value / caption" of each item; "overflow" stands where the walk raises 6.
+std::vector<std::string> Items(TextView contents) {
+    std::vector<std::string> items;
+    ContentsWalk walk(contents);
+    try {
+        while (const auto item = walk.Next()) {
+            items.push_back(ToUtf8(item->value) + " / " + ToUtf8(item->caption));
+        }
+    } catch (const RuntimeError& error) {
+        EXPECT_EQ(error.Number(), 6);
+        items.emplace_back("overflow");
+    }
+    return items;
+}
+
+TEST(Contents, EmptyTextIsOneEmptyItem) {
+    EXPECT_THAT(Items(u""), ElementsAre(" / "));
+}
+
+TEST(Contents, SplitsItemsAtBarsAndValueFromCaptionAtTheSemicolon) {
+    EXPECT_THAT(Items(u"0;Item 0"), ElementsAre("0 / Item 0"));
+    EXPECT_THAT(Items(u"1;One|2;Two"), ElementsAre("1 / One", "2 / Two"));
+}
+
+TEST(Contents, ItemWithoutSemicolonIsItsOwnValueAndCaption) {
+    EXPECT_THAT(Items(u"a|b"), ElementsAre("a / a", "b / b"));
+    EXPECT_THAT(Items(u"Red"), ElementsAre("Red / Red"));
+}
+
+TEST(Contents, TrailingBarAddsNoItem) {
+    EXPECT_THAT(Items(u"0;A|"), ElementsAre("0 / A"));
+    EXPECT_THAT(Items(u"1;One|2;Two|"), ElementsAre("1 / One", "2 / Two"));
+    EXPECT_THAT(Items(u"|"), ElementsAre(" / "));
+    EXPECT_THAT(Items(u"||"), ElementsAre(" / ", " / "));
+}
+
+TEST(Contents, LeadingAndAdjacentBarsGiveEmptyItems) {
+    EXPECT_THAT(Items(u"|0;A"), ElementsAre(" / ", "0 / A"));
+    EXPECT_THAT(Items(u"0;A||1;B"), ElementsAre("0 / A", " / ", "1 / B"));
+}
+
+TEST(Contents, FurtherSemicolonsBelongToTheCaption) {
+    EXPECT_THAT(Items(u"1;a;b"), ElementsAre("1 / a;b"));
+    EXPECT_THAT(Items(u"1;;"), ElementsAre("1 / ;"));
+}
+
+TEST(Contents, ValueOrCaptionMayBeEmpty) {
+    EXPECT_THAT(Items(u";caption"), ElementsAre(" / caption"));
+    EXPECT_THAT(Items(u"value;"), ElementsAre("value / "));
+    EXPECT_THAT(Items(u";"), ElementsAre(" / "));
+}
+
+TEST(Contents, TrimsAndUnescapesNothing) {
+    EXPECT_THAT(Items(u" 1 ; One"), ElementsAre(" 1  /  One"));
+    EXPECT_THAT(Items(u"\\|a\\;b"), ElementsAre("\\ / \\", "a\\ / b"));
+    EXPECT_THAT(Items(u"\r\n;\t"), ElementsAre("\r\n / \t"));
+}
+
+TEST(Contents, EmbeddedZeroUnitsAndUnpairedSurrogatesAreOrdinary) {
+    const Text contents = {u'a', u'\0', u';', u'\xD83D', u'|', u'\xDE00'};
+    ContentsWalk walk(contents);
+    const auto first = walk.Next();
+    ASSERT_TRUE(first);
+    EXPECT_EQ(first->value, TextView(u"a\0", 2));
+    EXPECT_EQ(first->caption, TextView(u"\xD83D", 1));
+    const auto second = walk.Next();
+    ASSERT_TRUE(second);
+    EXPECT_EQ(second->value, TextView(u"\xDE00", 1));
+    EXPECT_FALSE(walk.Next());
+}
+
+TEST(Contents, ItemsAreViewsIntoTheText) {
+    const Text contents = u"value;caption";
+    ContentsWalk walk(contents);
+    const auto item = walk.Next();
+    ASSERT_TRUE(item);
+    EXPECT_EQ(item->value.data(), contents.data());
+    EXPECT_EQ(item->caption.data(), contents.data() + 6);
+}
+
+TEST(Contents, StaysAtTheEnd) {
+    ContentsWalk walk(u"a");
+    EXPECT_TRUE(walk.Next());
+    EXPECT_FALSE(walk.Next());
+    EXPECT_FALSE(walk.Next());
+}
+
+TEST(Contents, LongestTextWorks) {
+    EXPECT_THAT(Items(Text(longest, u'x')),
+                ElementsAre(std::string(longest, 'x') + " / " + std::string(longest, 'x')));
+    // An item before the last bar, and one behind it that ends at the last position.
+    EXPECT_THAT(Items(Text(longest - 2, u'x') + u"|y"), SizeIs(2));
+    // A bar at the last position.
+    EXPECT_THAT(Items(Text(longest - 1, u'x') + u"|"), SizeIs(1));
+    // As many items as there can be.
+    EXPECT_THAT(Items(Text(longest, u'|')), SizeIs(longest));
+}
+
+TEST(Contents, OneUnitMoreOverflowsAtTheEndOfTheLastItem) {
+    EXPECT_THAT(Items(Text(longest + 1, u'x')), ElementsAre("overflow"));
+    EXPECT_THAT(Items(u"1;One|2;Two|" + Text(longest - 11, u'x')),
+                ElementsAre("1 / One", "2 / Two", "overflow"));
+}
+
+TEST(Contents, BarAtTheLast16BitPositionOverflowsBehindItsItem) {
+    const std::vector<std::string> items = Items(u"a|" + Text(longest - 2, u'x') + u"|");
+    ASSERT_THAT(items, SizeIs(3));
+    EXPECT_EQ(items[0], "a / a");
+    EXPECT_EQ(items[2], "overflow");
+}
+
+TEST(Contents, BarBeyondThe16BitPositionsOverflows) {
+    EXPECT_THAT(Items(u"a|" + Text(longest, u'x') + u"|b"), ElementsAre("a / a", "overflow"));
+    EXPECT_THAT(Items(Text(100'000, u'x') + u"|b"), ElementsAre("overflow"));
+}
+
+}  // namespace
+
+}  // namespace lumenkit
