@@ -1,0 +1,46 @@
+// Golden drawings: files that hold a caption with its settings and what it draws, to be read by
+// people and compared line by line.
+//
+//     Bold begins and ends where the commands stand.
+//
+//     width 3000
+//     height 1500
+//     font MS Sans Serif 10
+//     forecolor 0x80000012
+//     wordwrap no
+//     bulletindent 0
+//     bulletprefix ""
+//
+//     caption
+//     |B:1|bold|B:0| plain
+//
+//     drawing
+//     Cls
+//     Print (0, 0) "bold" 10 bold 0x80000012
+//     ...
+#pragma once
+
+#include <filesystem>
+#include <string>
+#include <vector>
+
+#include "tests/support/label_scene.h"
+
+namespace lumenkit::testing {
+
+struct GoldenDrawing {
+    std::string about;  ///< what the caption shows, one line
+    LabelScene scene;
+    std::string drawing;  ///< as ToLines gives it
+};
+
+/// All golden drawings, in order of their names.
+std::vector<std::filesystem::path> GoldenFiles();
+
+/// Throws std::runtime_error for a file that is not in the form above.
+GoldenDrawing ReadGolden(const std::filesystem::path& file);
+
+/// The whole file.
+std::string ToText(const GoldenDrawing& golden);
+
+}  // namespace lumenkit::testing

@@ -1,0 +1,50 @@
+// Each golden drawing against the label, and against the literal model, which knows nothing of it.
+#include "tests/golden/golden_drawing.h"
+
+#include <fstream>
+#include <iterator>
+#include <string>
+
+#include <gmock/gmock.h>
+
+#include "tests/model/literal_caption_drawing.h"
+#include "tests/support/placed_label.h"
+
+namespace lumenkit::testing {
+
+namespace {
+
+class GoldenDrawings : public ::testing::TestWithParam<std::filesystem::path> {};
+
+TEST_P(GoldenDrawings, LabelDrawsIt) {
+    const GoldenDrawing golden = ReadGolden(GetParam());
+    PlacedLabel label;
+    label.Placed().StartNew();
+    EXPECT_EQ(ToLines(Draw(label, golden.scene)), golden.drawing)
+        << "\"make golden\" writes it anew.";
+}
+
+TEST_P(GoldenDrawings, ModelAgrees) {
+    const GoldenDrawing golden = ReadGolden(GetParam());
+    LiteralLabel model;
+    model.SetUp(golden.scene);
+    model.DisplayCaption();
+    EXPECT_EQ(ToLines(model.Picture()), golden.drawing);
+}
+
+TEST_P(GoldenDrawings, IsWrittenAsItIsRead) {
+    std::ifstream file(GetParam());
+    const std::string text(std::istreambuf_iterator<char>(file), {});
+    EXPECT_EQ(ToText(ReadGolden(GetParam())), text);
+}
+
+INSTANTIATE_TEST_SUITE_P(All, GoldenDrawings, ::testing::ValuesIn(GoldenFiles()),
+                         [](const auto& golden) { return golden.param.stem().string(); });
+
+TEST(GoldenFolder, HoldsThemAll) {
+    EXPECT_GE(GoldenFiles().size(), 40U);
+}
+
+}  // namespace
+
+}  // namespace lumenkit::testing
