@@ -6,12 +6,20 @@ namespace lumenkit {
 
 namespace {
 
+// NaN does not fit.
+template <typename Storage>
+bool Fits(double number) {
+    return number >= std::numeric_limits<Storage>::min() &&
+           number <= std::numeric_limits<Storage>::max();
+}
+
 template <typename Storage>
 Storage Round(double number) {
+    if (Fits<Storage>(number) && number == static_cast<Storage>(number)) {
+        return static_cast<Storage>(number);  // whole as it is: the common case
+    }
     const double whole = RoundHalfToEven(number);
-    // Written so that NaN fails too.
-    if (!(whole >= std::numeric_limits<Storage>::min() &&
-          whole <= std::numeric_limits<Storage>::max())) {
+    if (!Fits<Storage>(whole)) {
         Raise(ErrorNumber::Overflow);
     }
     return static_cast<Storage>(whole);

@@ -292,9 +292,29 @@ Text NumberTextOf(Number number, int digits) {
 constexpr int doubleDigits = 15;
 constexpr int singleDigits = 7;
 
+// A number of a few digits before a comma, a bar or the end: what most numbers are, read quickly.
+std::optional<std::int32_t> ShortWholeNumber(TextView text) {
+    constexpr std::size_t mostDigits = 9;
+    std::int32_t number = 0;
+    for (std::size_t i = 0; i < std::min(text.size(), mostDigits + 1); ++i) {
+        const char16_t unit = text[i];
+        if (unit == u',' || unit == u'|') {
+            return number;
+        }
+        if (!IsDigit(unit) || i == mostDigits) {
+            return std::nullopt;
+        }
+        number = number * 10 + (unit - u'0');
+    }
+    return number;
+}
+
 }  // namespace
 
 double ParseNumber(TextView text) {
+    if (const auto number = ShortWholeNumber(text)) {
+        return *number;
+    }
     Units units(text, true);
     return ReadNumber(units).value_or(0.0);
 }
@@ -334,9 +354,18 @@ Text NumberText(float number) {
 }
 
 void AppendDecimal(Text& text, std::int32_t number) {
-    std::array<char, 12> image{};
-    const auto end = std::to_chars(image.data(), image.data() + image.size(), number);
-    text.append(image.data(), end.ptr);
+    std::array<char16_t, 11> image{};
+    auto first = image.end();
+    auto rest = static_cast<std::uint32_t>(number);
+    rest = number < 0 ? 0 - rest : rest;
+    do {
+        *--first = static_cast<char16_t>(u'0' + rest % 10);
+        rest /= 10;
+    } while (rest != 0);
+    if (number < 0) {
+        *--first = u'-';
+    }
+    text.append(first, image.end());
 }
 
 Text Decimal(std::int32_t number) {

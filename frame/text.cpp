@@ -103,8 +103,21 @@ char16_t LowerUnit(char16_t unit) {
 
 Text LCase(TextView text) {
     Text lower(text);
-    std::transform(lower.begin(), lower.end(), lower.begin(), LowerUnit);
+    LowerInPlace(lower);
     return lower;
+}
+
+void LowerInPlace(Text& text) {
+    const auto lowerAscii = [](char16_t unit) {
+        const bool capital = unit >= u'A' && unit <= u'Z';
+        return static_cast<char16_t>(capital ? unit + 0x20 : unit);
+    };
+    const bool ascii = std::ranges::none_of(text, [](char16_t unit) { return unit >= 0x80; });
+    if (ascii) {  // the common case, and quick
+        std::ranges::transform(text, text.begin(), lowerAscii);
+    } else {
+        std::ranges::transform(text, text.begin(), LowerUnit);
+    }
 }
 
 bool SameText(TextView left, TextView right, Compare compare) {

@@ -51,6 +51,7 @@ TextView Trim(TextView text);
 /// among them, are their own: a text never changes its length.
 char16_t LowerUnit(char16_t unit);
 Text LCase(TextView text);
+void LowerInPlace(Text& text);
 
 /// Same length and same units; with IgnoreCase, same lower-case forms.
 bool SameText(TextView left, TextView right, Compare compare = Compare::Binary);

@@ -89,6 +89,19 @@ TEST(ParseNumber, StopsAtTheFirstOtherUnit) {
     EXPECT_EQ(ParseNumber(TextView(u"1\0002", 3)), 1);
 }
 
+// Numbers short enough for the quick way, and the first that are not.
+TEST(ParseNumber, ReadsWholeNumbersOfAnyLengthBeforeACommaABarAndTheEnd) {
+    for (const TextView behind : {u"", u",", u"|", u",7", u"|7"}) {
+        EXPECT_EQ(ParseNumber(behind), 0);
+        EXPECT_EQ(ParseNumber(u"7" + Text(behind)), 7);
+        EXPECT_EQ(ParseNumber(u"007" + Text(behind)), 7);
+        EXPECT_EQ(ParseNumber(u"999999999" + Text(behind)), 999'999'999.0);
+        EXPECT_EQ(ParseNumber(u"9999999999" + Text(behind)), 9'999'999'999.0);
+        EXPECT_EQ(ParseNumber(u"123456789 0" + Text(behind)), 1'234'567'890.0);
+    }
+    EXPECT_EQ(ParseNumber(u"12\t.5e1|"), 125);
+}
+
 TEST(ParseNumber, SkipsBlanksTabsAndLineFeedsAnywhere) {
     ExpectReadings({
         {u"  12", 12},
