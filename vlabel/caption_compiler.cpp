@@ -4,7 +4,6 @@
 
 #include "frame/checked_integer.h"
 #include "frame/numbers.h"
-#include "vlabel/find_bar.h"
 
 namespace lumenkit {
 
@@ -63,8 +62,7 @@ void CaptionCompiler::CompileCaption(TextView caption) {
 void CaptionCompiler::CompileLine(CaptionReader& caption) {
     line_.clear();
     bool closed = true;
-    while (closed && caption.ReadToBar(line_)) {
-        line_ += bar;
+    while (closed && caption.ReadThroughBar(line_)) {
         closed = ReadCommand(caption);
         CompileCommand(command_);
     }
@@ -74,13 +72,12 @@ void CaptionCompiler::CompileLine(CaptionReader& caption) {
 // True when a bar closes the command; that bar is part of it.
 bool CaptionCompiler::ReadCommand(CaptionReader& caption) {
     command_.clear();
-    if (caption.ReadToBar(command_)) {
-        command_ += bar;
-        return true;
+    const bool closed = caption.ReadThroughBar(command_);
+    if (!closed) {
+        // The end of the line stands for the closing bar and must have a position too.
+        static_cast<void>(Int16(line_.size() + command_.size() + 1));
     }
-    // The end of the line stands for the closing bar and must have a position too.
-    static_cast<void>(Int16(line_.size() + command_.size() + 1));
-    return false;
+    return closed;
 }
 
 // `command` is left in lower case.
@@ -92,9 +89,7 @@ void CaptionCompiler::CompileCommand(Text& command) {
             compiled_.CommandParams.Add({});
             return;
         }
-        for (char16_t& unit : command) {
-            unit = LowerUnit(unit);
-        }
+        LowerInPlace(command);
         const TextView name = TextView(command).substr(0, colon);
         const TextView written = TextView(command).substr(colon + 1);
         const CommandWord word = FindCommandWord(name);

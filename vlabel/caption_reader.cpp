@@ -34,19 +34,17 @@ void CaptionReader::CheckLineEnd() const {
     }
 }
 
-bool CaptionReader::ReadToBar(Text& run) {
+bool CaptionReader::ReadThroughBar(Text& run) {
     for (;;) {
-        const std::size_t end = FindBar(caption_, at_);
-        run.append(caption_.data() + at_, end - at_);
-        at_ = end;
-        if (at_ == caption_.size() || IsSeparator(at_)) {
-            return false;
+        const std::size_t begin = at_;
+        at_ = FindBar(caption_, begin);
+        const bool lineEnds = at_ == caption_.size() || IsSeparator(at_);
+        if (lineEnds || !IsQuote(at_)) {
+            at_ += lineEnds ? 0 : 1;
+            run.append(caption_.data() + begin, at_ - begin);
+            return !lineEnds;
         }
-        if (!IsQuote(at_)) {
-            ++at_;
-            return true;
-        }
-        run += u'"';
+        run.append(caption_.data() + begin, at_ - begin).push_back(u'"');
         at_ += quoteLength;
     }
 }

@@ -18,9 +18,9 @@ class CaptionReader {
     /// Raises 6 when the end of the line at hand lies beyond position 32767.
     void CheckLineEnd() const;
 
-    /// Appends to `run` what stands before the next bar or the end of the line. True when a bar
-    /// ended it; the reader then stands behind that bar.
-    bool ReadToBar(Text& run);
+    /// Appends to `run` what the line holds up to and with its next bar, or all the rest where it
+    /// has none. True when there was a bar.
+    bool ReadThroughBar(Text& run);
 
     /// At the end of a line, goes on to the next one; false when there is none. Raises 6 when the
     /// next line would start beyond position 32767.

@@ -13,11 +13,6 @@ TextView TextList::Item(std::int32_t index) const {
     return TextView(buffer_).substr(begin, ends_[entry] - begin);
 }
 
-void TextList::Add(TextView text) {
-    buffer_.append(text);
-    ends_.push_back(buffer_.size());
-}
-
 void TextList::Clear() {
     buffer_.clear();
     ends_.clear();

@@ -17,7 +17,10 @@ class TextList {
     /// The entry at `index`, valid until the list changes. Raises 9 outside 1..Count().
     TextView Item(std::int32_t index) const;
 
-    void Add(TextView text);
+    void Add(TextView text) {
+        buffer_.append(text);
+        ends_.push_back(buffer_.size());
+    }
 
     /// Empties the list and keeps its memory.
     void Clear();
