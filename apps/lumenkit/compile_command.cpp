@@ -1,0 +1,81 @@
+#include "apps/lumenkit/compile_command.h"
+
+#include <iostream>
+#include <memory>
+#include <string>
+
+#include <nlohmann/json.hpp>
+
+#include "apps/lumenkit/console_host.h"
+#include "apps/lumenkit/exit_status.h"
+#include "apps/lumenkit/text_input.h"
+#include "frame/utf8.h"
+#include "vlabel/caption_compiler.h"
+#include "vlabel/caption_dump.h"
+
+namespace lumenkit::cli {
+
+namespace {
+
+struct Options {
+    std::string file = "-";
+    bool json = false;
+};
+
+// Members in the order in which they are put in.
+using Json = nlohmann::ordered_json;
+
+Json ToJson(const CompiledCaption& compiled) {
+    Json lines = Json::array();
+    for (std::int32_t i = 1; i <= compiled.CaptionLines.Count(); ++i) {
+        lines.push_back(ToUtf8(compiled.CaptionLines.Item(i)));
+    }
+    Json commands = Json::array();
+    for (std::int32_t i = 1; i <= compiled.CommandNames.Count(); ++i) {
+        commands.push_back({{"name", ToUtf8(compiled.CommandNames.Item(i))},
+                            {"parameter", ToUtf8(compiled.CommandParams.Item(i))}});
+    }
+    return {{"lines", lines}, {"commands", commands}};
+}
+
+int Compile(const Options& options) {
+    const Text caption = ReadText(options.file);
+    ConsoleHost host;
+    ModuleErrors errors(host, host);
+    const Module module(errors, u"VLABEL");
+    CaptionCompiler compiler(module);
+    compiler.CompileCaption(caption);
+    if (options.json) {
+        std::cout << ToJson(compiler.Compiled()).dump() << '\n';
+    } else {
+        std::cout << DumpCaption(compiler.Compiled());
+    }
+    return host.HasReported() ? exitReported : exitDone;
+}
+
+}  // namespace
+
+void AddCompileCommand(CLI::App& program, int& status) {
+    CLI::App* const command =
+        program.add_subcommand("compile", "Compile a caption and print its compiled form");
+    const auto options = std::make_shared<Options>();
+    command->add_option("FILE", options->file,
+                        "The caption, in UTF-8; - or nothing reads the standard input. One line "
+                        "break at its very end is no part of it.");
+    CLI::Option* const json =
+        command->add_flag("--json", options->json,
+                          R"(Print {"lines":[...],"commands":[{"name":...,"parameter":...},...]})");
+    command->add_flag("--text")
+        ->description("Print each line and its commands under it (the default)")
+        ->excludes(json);
+    command->footer(
+        "Exit status: 0 when all is well, 1 when the compiler reported an error (what it could\n"
+        "compile is printed all the same), 2 when the caption cannot be read.\n"
+        "\n"
+        "Examples:\n"
+        "  lumenkit compile samples/captions/headline.txt\n"
+        "  echo '|B:1|Note:|B:0| mind the gap' | lumenkit compile --json");
+    command->callback([options, &status] { status = Compile(*options); });
+}
+
+}  // namespace lumenkit::cli

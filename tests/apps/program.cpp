@@ -1,0 +1,52 @@
+#include "tests/apps/program.h"
+
+#include <cstdio>
+#include <cstdlib>
+#include <fstream>
+#include <iterator>
+
+#include <gtest/gtest.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+namespace lumenkit::testing {
+
+namespace {
+
+std::string PathOf(const char* name) {
+    return ::testing::TempDir() + "lumenkit_app_test_" + std::to_string(getpid()) + "_" + name;
+}
+
+void Write(const std::string& path, const std::string& bytes) {
+    std::ofstream(path, std::ios::binary) << bytes;
+}
+
+std::string Read(const std::string& path) {
+    std::ifstream file(path, std::ios::binary);
+    return {std::istreambuf_iterator<char>(file), {}};
+}
+
+}  // namespace
+
+Outcome RunProgram(const std::string& arguments, const std::string& input) {
+    const std::string in = PathOf("in");
+    const std::string out = PathOf("out");
+    const std::string errors = PathOf("errors");
+    Write(in, input);
+    const std::string command =
+        LUMENKIT_PROGRAM " " + arguments + " <" + in + " >" + out + " 2>" + errors;
+    const int result = std::system(command.c_str());
+    Outcome outcome{WIFEXITED(result) ? WEXITSTATUS(result) : -1, Read(out), Read(errors)};
+    for (const std::string& path : {in, out, errors}) {
+        std::remove(path.c_str());
+    }
+    return outcome;
+}
+
+std::string FileWith(const std::string& bytes) {
+    const std::string path = PathOf("caption.txt");
+    Write(path, bytes);
+    return path;
+}
+
+}  // namespace lumenkit::testing
