@@ -45,7 +45,7 @@ class TextConstituent : public Constituent {
 
 /// What is fixed when a constituent is designed. Texts are copied.
 struct Design {
-    TextView name;
+    TextView name = {};
     std::int16_t index = -1;        ///< of an element of a control array, else -1
     Constituent* parent = nullptr;  ///< the frame or picture box it lies in; null: the control
     Placement placement = {};

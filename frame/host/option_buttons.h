@@ -37,7 +37,7 @@ class OptionButtonEvents {
 };
 
 struct OptionButtonDesign : Design {
-    TextView caption;
+    TextView caption = {};
 };
 
 /// A control array of option buttons inside a frame: one group, of which one at most is selected.

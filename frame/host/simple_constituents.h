@@ -11,7 +11,7 @@
 namespace lumenkit::host {
 
 struct CaptionDesign : Design {
-    TextView caption;
+    TextView caption = {};
 };
 
 /// A frame with a caption, in which other constituents lie.

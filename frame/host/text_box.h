@@ -36,7 +36,7 @@ class TextBoxEvents {
 struct TextBoxDesign : Design {
     bool multiLine = false;
     ScrollBars scrollBars = ScrollBars::None;
-    TextView text;
+    TextView text = {};
 };
 
 /// A text box. Positions and lengths are in UTF-16 units from 0; a line break is CR LF.

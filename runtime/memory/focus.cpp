@@ -13,7 +13,7 @@ void Focus::MoveTo(Element* element) {
     if (loser != nullptr) {
         loser->LoseFocus();
     }
-    if (element != nullptr) {
+    if (element != nullptr && holder_ == element) {
         element->ReceiveFocus();
     }
 }

@@ -29,10 +29,10 @@ void PlacedPage::Select(const std::vector<PlacedControl*>& controls) {
     for (PlacedControl* control : controls) {
         objects.push_back(control->SharedAutomation());
     }
-    Select(std::move(objects));
+    SelectObjects(std::move(objects));
 }
 
-void PlacedPage::Select(std::vector<ObjectRef> controls) {
+void PlacedPage::SelectObjects(std::vector<ObjectRef> controls) {
     selectedControls_.Assign(std::move(controls));
     page_->PropertyPage_SelectionChanged();
 }

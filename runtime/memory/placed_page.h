@@ -26,7 +26,7 @@ class PlacedPage {
     /// The designer has other controls selected; they must outlive the page or the next selection.
     /// PropertyPage_SelectionChanged runs.
     void Select(const std::vector<PlacedControl*>& controls);
-    void Select(std::vector<ObjectRef> controls);
+    void SelectObjects(std::vector<ObjectRef> controls);
     /// PropertyPage_ApplyChanges runs. Leaves the site's Changed flag alone.
     void Apply();
 
