@@ -1,0 +1,80 @@
+// Generated uses of an option list.
+#pragma once
+
+#include <cstdint>
+#include <random>
+#include <string>
+#include <vector>
+
+#include "frame/text.h"
+
+namespace lumenkit::testing {
+
+enum class ListAction {
+    Contents,
+    ListIndex,
+    Text,
+    ItemCaption,
+    UserClick,
+    Mode,
+    Reload,
+    Enabled,
+    BorderStyle,
+    Caption,
+    NewFont,  ///< of the frame
+    NoFont,
+    ChangeFont,  ///< through the object that Font gives
+    ItemAlignment,
+    ItemFontBold,
+    ItemFontItalic,
+    ItemFontName,
+    ItemFontSize,
+    ItemForeColor,
+    LeftMargin,
+    Spacing,
+    TopMargin,
+    Width,      ///< of the control
+    AllowText,  ///< what the container answers when asked whether Text may change
+    OnClick,    ///< what the container does on Click: one of ListReaction
+    Count,
+};
+
+enum class ListReaction { Nothing, Deselect, SelectFirst, AssignText, AssignContents };
+
+/// One action with its argument, of which only the fitting ones count.
+struct ListStep {
+    ListAction action = ListAction::Contents;
+    std::int16_t number = 0;
+    float distance = 0;
+    Text text = {};
+};
+
+/// For messages; long texts are cut.
+std::string Describe(const ListStep& step);
+
+class OptionListGenerator {
+ public:
+    explicit OptionListGenerator(std::uint32_t seed) : random_(seed) {}
+
+    std::vector<ListStep> Steps();
+
+ private:
+    /// 0 to below - 1.
+    int Number(int below);
+    bool OneIn(int count) { return Number(count) == 0; }
+    template <typename T, std::size_t count>
+    const T& Any(const T (&choices)[count]) {
+        return choices[Number(static_cast<int>(count))];
+    }
+    ListStep Step();
+    ListAction Action();
+    Text Value();
+    Text Item();
+    Text Contents();
+    Text LongContents();
+
+    std::mt19937 random_;
+    Text contents_;
+};
+
+}  // namespace lumenkit::testing
