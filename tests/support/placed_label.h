@@ -32,6 +32,17 @@ class PlacedLabel {
 
     std::vector<std::string> TakeLog();
 
+    /// Whether `action` calls `member` ("Surface.Size") at least `times` times. The call that
+    /// answers it fails.
+    template <typename Action>
+    bool Uses(TextView member, int times, Action&& action) {
+        Faults().FailCall(member, times, ErrorNumber::InternalError);
+        action();
+        const bool used = !Faults().IsArmed();
+        Faults().Clear();
+        return used;
+    }
+
  private:
     memory::Form form_;
     memory::PlacedControl placed_;
