@@ -24,11 +24,11 @@ inline constexpr host::Placement labChar = {720, 2055, 165, 315};
 inline constexpr host::Placement labSelect = {720, 2055, 900, 315};
 inline constexpr host::Placement labRight = {1620, 2055, 600, 315};
 
-inline constexpr host::Placement lblBulletPrefix = {120, 2565, 1290, 225};
-inline constexpr host::Placement txtBulletPrefix = {1425, 2505, 900, 315};
-inline constexpr host::Placement lblBulletIndent = {2625, 2565, 1290, 225};
-inline constexpr host::Placement txtBulletIndent = {3930, 2505, 900, 315};
-inline constexpr host::Placement chkWordWrap = {5850, 2520, 1230, 285};
+inline constexpr host::Placement lblBulletPrefix = {120, 2565, 1260, 225};
+inline constexpr host::Placement txtBulletPrefix = {1395, 2505, 900, 315};
+inline constexpr host::Placement lblBulletIndent = {2565, 2565, 1260, 225};
+inline constexpr host::Placement txtBulletIndent = {3840, 2505, 900, 315};
+inline constexpr host::Placement chkWordWrap = {5340, 2520, 1740, 285};
 
 inline constexpr host::Placement Picture1 = {120, 2940, 6960, 2520};
 /// Thickness of the preview's scroll bars; their place and length follow from the preview.

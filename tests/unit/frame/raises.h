@@ -11,8 +11,8 @@ namespace lumenkit {
 
 /// Matches a callable that raises the error `number`.
 inline auto Raises(std::int32_t number) {
-    return testing::Throws<RuntimeError>(
-        testing::Property("Number", &RuntimeError::Number, number));
+    return ::testing::Throws<RuntimeError>(
+        ::testing::Property("Number", &RuntimeError::Number, number));
 }
 
 }  // namespace lumenkit
