@@ -19,6 +19,10 @@ if(LUMENKIT_SANITIZE)
         "-fsanitize=${LUMENKIT_SANITIZE}" -fno-sanitize-recover=all -fno-omit-frame-pointer)
     target_link_options(lumenkit_settings INTERFACE "-fsanitize=${LUMENKIT_SANITIZE}")
 endif()
+if(LUMENKIT_FUZZ)
+    # The fuzzers see which ways through every library an input takes.
+    target_compile_options(lumenkit_settings INTERFACE -fsanitize=fuzzer-no-link)
+endif()
 
 # lumenkit_library(NAME SOURCES file... LINKS target...)
 # A static library lumenkit_NAME, known to others as lumenkit::NAME. Each of its headers is also
