@@ -1,0 +1,50 @@
+#include "tests/support/allocation_counter.h"
+
+#include <cstdlib>
+#include <new>
+
+namespace lumenkit::testing {
+
+namespace {
+
+std::int64_t count = 0;
+std::int64_t untilFailure = 0;
+
+void* Allocate(std::size_t size) {
+    ++count;
+    if (untilFailure > 0 && --untilFailure == 0) {
+        throw std::bad_alloc();
+    }
+    void* const memory = std::malloc(size == 0 ? 1 : size);
+    if (memory == nullptr) {
+        throw std::bad_alloc();
+    }
+    return memory;
+}
+
+}  // namespace
+
+std::int64_t AllocationCount() {
+    return count;
+}
+
+void FailAllocation(std::int64_t ordinal) {
+    untilFailure = ordinal;
+}
+
+bool AllocationFailurePending() {
+    return untilFailure > 0;
+}
+
+}  // namespace lumenkit::testing
+
+// The standard library's other forms end in these. Nothing here is over-aligned.
+void* operator new(std::size_t size) {
+    return lumenkit::testing::Allocate(size);
+}
+void operator delete(void* memory) noexcept {
+    std::free(memory);
+}
+void operator delete(void* memory, std::size_t /*size*/) noexcept {
+    std::free(memory);
+}
