@@ -1,0 +1,120 @@
+// The option list: what an item costs to parse and to set up, how that grows with the list, and
+// what assigning contents again costs against making the list anew. On the memory runtime, whose
+// own work is part of all but the parsing: it finds a button among n in log n steps.
+#include <array>
+#include <functional>
+#include <memory>
+#include <utility>
+
+#include "bench/ratio_table.h"
+#include "frame/numbers.h"
+#include "runtime/memory/form.h"
+#include "runtime/memory/placed_control.h"
+#include "voptlist/contents.h"
+#include "voptlist/voptlist.h"
+#include "voptlist/voptlist_interface.h"
+
+namespace {
+
+using lumenkit::ClassTable;
+using lumenkit::Text;
+using lumenkit::TextView;
+using lumenkit::VOptList;
+using lumenkit::bench::AddComparison;
+using lumenkit::bench::Ratio;
+using lumenkit::bench::Side;
+namespace memory = lumenkit::memory;
+
+constexpr int few = 10;
+constexpr int many = 1'000;
+
+const ClassTable classes = {.libraryName = u"lumenkit", .classes = {&lumenkit::voptlistClass, 1}};
+
+// "k0;Choice 0|k1;Choice 1 ...", about 16 units an item.
+Text Contents(int items, TextView caption = u"Choice ") {
+    Text contents;
+    for (int item = 0; item < items; ++item) {
+        contents += u"|k" + lumenkit::Decimal(item) + u";";
+        contents.append(caption) += lumenkit::Decimal(item);
+    }
+    return contents.substr(1);
+}
+
+class PlacedList {
+ public:
+    PlacedList() { placed_.StartNew(); }
+
+    void Assign(TextView contents) {
+        static_cast<VOptList&>(placed_.GetControl()).pLetContents(contents);
+    }
+
+ private:
+    memory::Form form_{classes};
+    memory::PlacedControl placed_{form_, lumenkit::voptlistClass, {.isLogged = false}};
+};
+
+// Rounds over few items are repeated until as many items as in a long list have been gone through.
+Side Repeated(int items, std::function<void()> once) {
+    return {[once = std::move(once), items] {
+                for (int done = 0; done < many; done += items) {
+                    once();
+                }
+            },
+            many};
+}
+
+Side Parsing(int items) {
+    return Repeated(items, [contents = Contents(items)] {
+        lumenkit::ContentsWalk walk(contents);
+        while (const auto item = walk.Next()) {
+            lumenkit::bench::Keep(item->caption.data());
+        }
+    });
+}
+
+// A list to which two contents are assigned in turn.
+Side Alternating(int items, Text first, Text second) {
+    struct Lists {
+        PlacedList list;
+        std::array<Text, 2> contents;
+        std::size_t next = 0;
+    };
+    const auto lists = std::make_shared<Lists>();
+    lists->contents = {std::move(first), std::move(second)};
+    return Repeated(items, [lists] {
+        lists->list.Assign(lists->contents[lists->next]);
+        lists->next = 1 - lists->next;
+    });
+}
+
+// Each assignment changes every caption.
+Side SettingUp(int items) {
+    return Alternating(items, Contents(items), Contents(items, u"Option "));
+}
+
+// Each assignment changes the text of one item, in the middle.
+Side ChangingOne(int items) {
+    const Text contents = Contents(items);
+    Text changed = contents;
+    changed[changed.find(u"Choice", changed.size() / 2)] = u'_';
+    return Alternating(items, contents, changed);
+}
+
+// A new control with these items, until it is gone again.
+Side MakingAnew(int items) {
+    return Repeated(items, [contents = Contents(items)] { PlacedList().Assign(contents); });
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    const auto growth = [](const char* what, Side (*side)(int), const char* aim) {
+        AddComparison({what, "item", side(many), side(few), Ratio::TimesSlower, aim});
+    };
+    growth("parse, 1,000 items against 10", Parsing, "<= 1.25x");
+    growth("set up, 1,000 items against 10", SettingUp, "<= 1.50x");
+    growth("make anew, 1,000 items against 10", MakingAnew, "<= 1.50x");
+    AddComparison({"1 of 1,000 items changed, against making all anew", "item", ChangingOne(many),
+                   MakingAnew(many), Ratio::TimesFaster, ">= 3x"});
+    return lumenkit::bench::RunComparisons(argc, argv);
+}
