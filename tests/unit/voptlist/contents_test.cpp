@@ -128,6 +128,12 @@ TEST(Contents, BarAtTheLast16BitPositionOverflowsBehindItsItem) {
     EXPECT_EQ(items[2], "overflow");
 }
 
+TEST(Contents, NoMoreBarsThanPositionsAreReached) {
+    const std::vector<std::string> items = Items(Text(longest + 1, u'|'));
+    EXPECT_THAT(items, SizeIs(longest + 2));
+    EXPECT_EQ(items.back(), "overflow");
+}
+
 TEST(Contents, BarBeyondThe16BitPositionsOverflows) {
     EXPECT_THAT(Items(u"a|" + Text(longest, u'x') + u"|b"), ElementsAre("a / a", "overflow"));
     EXPECT_THAT(Items(Text(100'000, u'x') + u"|b"), ElementsAre("overflow"));

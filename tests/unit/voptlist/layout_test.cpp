@@ -1,4 +1,5 @@
 // The option buttons: loaded, made alike, placed, shown and hidden.
+#include <algorithm>
 #include <functional>
 #include <memory>
 #include <string>
@@ -417,6 +418,18 @@ TEST_F(TooLong, AgainAndAgain) {
         EXPECT_THAT(placed->TakeLog(), ElementsAre("changed Contents", "error 6 in SetupControls"));
     }
     EXPECT_THAT(placed->Buttons(), SizeIs(3));
+}
+
+TEST_F(TooLong, WithAllTheButtonsThereCanBe) {
+    list->pLetContents(Text(32767, u'|'));
+    EXPECT_THAT(placed->TakeLog(), ElementsAre("changed Contents", "error 6 in SetupControls"));
+    EXPECT_THAT(placed->Buttons(), SizeIs(32767));
+    list->pLetContents(u"x|y|z");
+    EXPECT_THAT(placed->TakeLog(), ElementsAre("changed Contents"));
+    const std::vector<std::string> items = placed->Items();
+    EXPECT_THAT(std::vector(items.begin(), items.begin() + 4),
+                ElementsAre("x;x", "y;y *", "z;z", "(;)"));
+    EXPECT_EQ(std::count(items.begin(), items.end(), "(;)"), 32764);
 }
 
 TEST_F(TooLong, AlsoWhenRead) {
