@@ -1,4 +1,5 @@
 // The memo and its engine against their literal models, on generated texts and sessions.
+#include <algorithm>
 #include <array>
 #include <map>
 #include <memory>
@@ -131,6 +132,7 @@ class Session {
     void ModelHandler(const std::string& name);
     void Note(const std::string& what) { done_ += what + "\n"; }
     Text Assigned() { return generator_.SomeText(12); }
+    Text BarelyTooMuch();
 
     Generator& generator_;
     std::map<std::string, int>& seen_;
@@ -192,7 +194,12 @@ void Session::Edit() {
         model_->Select(start, length);
     }
     if (const int kind = generator_.Below(10); kind < 2) {
-        const Text text = generator_.SomeText(8);
+        const Text text = generator_.OneIn(8) ? BarelyTooMuch() : generator_.SomeText(8);
+        if (generator_.OneIn(3)) {
+            Note("select all");
+            memo_->Select(0, 10000);
+            model_->Select(0, 10000);
+        }
         Note("paste " + Quoted(text));
         memo_->Paste(text);
         model_->Paste(text);
@@ -209,6 +216,19 @@ void Session::Edit() {
         memo_->Type(TextView(&key, 1));
         model_->Type(key);
     }
+}
+
+// As many lines as there may be, the last one full and with some blanks too many, and a unit more.
+Text Session::BarelyTooMuch() {
+    Text text;
+    for (int line = 1; line < model_->m_MaxLines; ++line) {
+        text += u"a\r\n";
+    }
+    text.append(static_cast<std::size_t>(std::max(model_->m_MaxCharsPerLine, 0)), u'b');
+    text.append(static_cast<std::size_t>(1 + generator_.Below(4)), u' ');
+    text += u"\r\n";
+    text += u"x \r\n"[generator_.Below(4)];
+    return text;
 }
 
 void Session::Configure() {
