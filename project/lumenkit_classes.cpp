@@ -11,6 +11,8 @@ namespace lumenkit {
 
 namespace {
 
+// The four are constants, so they are there before this copies them.
+// NOLINTNEXTLINE(cppcoreguidelines-interfaces-global-init)
 const std::array classes = {vlabelClass, vmemoClass, voptlistClass, vlabelCaptionClass};
 
 }  // namespace

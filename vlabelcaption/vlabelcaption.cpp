@@ -161,7 +161,8 @@ void VLabelCaption::PropertyPage_SelectionChanged() {
     const ObjectRef edited = selectedControls_.Item(0);
     txtBulletPrefix->SetText(ToText(edited->Get(u"BulletPrefix")));
     txtBulletIndent->SetText(ToText(edited->Get(u"BulletIndent")));
-    chkWordWrap->SetCheckState(ToInteger(edited->Get(u"WordWrap")) & 1);
+    const std::int16_t wrap = ToInteger(edited->Get(u"WordWrap"));
+    chkWordWrap->SetCheckState(static_cast<std::int16_t>(wrap & 1));
     txtCaption->SetText(ToText(edited->Get(u"Caption")));
     RefreshPreview();
 }

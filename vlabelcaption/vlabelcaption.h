@@ -46,7 +46,7 @@ class VLabelCaption final : public PropertyPage {
     struct IndentEvents final : host::TextBoxEvents {
         explicit IndentEvents(VLabelCaption& owner) : page(owner) {}
         void Change() override { page.txtBulletIndent_Change(); }
-        void KeyPress(std::int16_t& keyAscii) override { page.txtBulletIndent_KeyPress(keyAscii); }
+        void KeyPress(std::int16_t& keyAscii) override { txtBulletIndent_KeyPress(keyAscii); }
         VLabelCaption& page;
     };
     struct WrapEvents final : host::ClickEvents {
@@ -78,7 +78,7 @@ class VLabelCaption final : public PropertyPage {
     void txtCaption_KeyPress(std::int16_t& KeyAscii);
     void txtBulletPrefix_Change();
     void txtBulletIndent_Change();
-    void txtBulletIndent_KeyPress(std::int16_t& KeyAscii);
+    static void txtBulletIndent_KeyPress(std::int16_t& KeyAscii);
     void chkWordWrap_Click();
     void HScroll1_Change();
     void VScroll1_Change();
