@@ -17,7 +17,7 @@ class BasicConstituent : public Interface, public Element {
  public:
     host::Placement Place() const override {
         Call(u"Place");
-        return placement_;
+        return Where();
     }
     void Move(const host::Placement& placement) override {
         Call(u"Move");
@@ -25,23 +25,23 @@ class BasicConstituent : public Interface, public Element {
     }
     bool Visible() const override {
         Call(u"Visible");
-        return visible_;
+        return IsVisible();
     }
     void SetVisible(bool visible) override {
         Call(u"SetVisible");
-        visible_ = visible;
+        BecomeVisible(visible);
     }
     bool Enabled() const override {
         Call(u"Enabled");
-        return enabled_;
+        return IsEnabled();
     }
     void SetEnabled(bool enabled) override {
         Call(u"SetEnabled");
-        enabled_ = enabled;
+        BecomeEnabled(enabled);
     }
     void Refresh() override {
         Call(u"Refresh");
-        ++refreshes_;
+        CountRefresh();
     }
 
  protected:
@@ -75,7 +75,9 @@ class BasicTextConstituent : public BasicConstituent<Interface> {
 
     /// The constituent has another font object.
     virtual void FontChanged() {}
+    const Font::Attributes& FontNow() const { return font_->Now(); }
 
+ private:
     std::shared_ptr<Font> font_;
 };
 
@@ -103,7 +105,9 @@ class BasicCaptioned : public BasicTextConstituent<Interface> {
         : BasicTextConstituent<Interface>(owner, kind, design), caption_(caption) {}
 
     virtual void CaptionChanged() {}
+    const Text& CaptionNow() const { return caption_; }
 
+ private:
     Text caption_;
 };
 

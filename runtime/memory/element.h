@@ -59,7 +59,11 @@ class Element {
     void Call(TextView member) const { faults_.Call(kind_, member); }
     /// Raises 380 for a negative width or height.
     void MoveTo(const host::Placement& placement);
+    void BecomeVisible(bool visible) { visible_ = visible; }
+    void BecomeEnabled(bool enabled) { enabled_ = enabled; }
+    void CountRefresh() { ++refreshes_; }
 
+ private:
     Constituents& owner_;
     FaultPlan& faults_;
     TextView kind_;
@@ -71,8 +75,6 @@ class Element {
     bool visible_;
     bool enabled_ = true;
     std::int32_t refreshes_ = 0;
-
- private:
     std::list<Element*>::iterator position_;  // in the owner's list
 };
 

@@ -23,6 +23,7 @@ class Form {
  public:
     /// What `classes` refers to must outlive the form.
     explicit Form(const ClassTable& classes);
+    ~Form() = default;
     Form(const Form&) = delete;
     Form& operator=(const Form&) = delete;
 

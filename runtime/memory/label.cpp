@@ -46,8 +46,10 @@ PropertyList Label::Properties() const {
 
 void Label::FitToCaption() {
     if (autoSize_) {
-        placement_.width = font_->Now().WidthOf(caption_);
-        placement_.height = static_cast<float>(font_->Now().LineHeight());
+        host::Placement fitting = Where();
+        fitting.width = FontNow().WidthOf(CaptionNow());
+        fitting.height = static_cast<float>(FontNow().LineHeight());
+        MoveTo(fitting);
     }
 }
 

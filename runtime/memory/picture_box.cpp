@@ -19,12 +19,12 @@ PictureBox::PictureBox(Constituents& owner, const host::Design& design)
 
 float PictureBox::ScaleWidth() const {
     Call(u"ScaleWidth");
-    return InsideBorder(placement_.width);
+    return InsideBorder(Where().width);
 }
 
 float PictureBox::ScaleHeight() const {
     Call(u"ScaleHeight");
-    return InsideBorder(placement_.height);
+    return InsideBorder(Where().height);
 }
 
 }  // namespace lumenkit::memory

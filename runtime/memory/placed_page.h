@@ -20,6 +20,7 @@ class PlacedPage {
     /// Creates the page and runs PropertyPage_Initialize. Throws std::logic_error for a class that
     /// is no page. The form must outlive it.
     PlacedPage(Form& form, const ClassDescriptor& type);
+    ~PlacedPage() = default;
     PlacedPage(const PlacedPage&) = delete;
     PlacedPage& operator=(const PlacedPage&) = delete;
 
