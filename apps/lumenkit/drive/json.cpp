@@ -6,10 +6,8 @@
 #include <concepts>
 #include <cstdint>
 #include <memory>
-#include <stdexcept>
 #include <string>
 #include <type_traits>
-#include <utility>
 #include <variant>
 
 #include "frame/host/font.h"
@@ -20,7 +18,8 @@ namespace lumenkit::cli {
 namespace {
 
 // As a double with the same decimal digits: 8.4 rather than 8.39999961853.
-double Shortest(float number) {
+template <std::floating_point Number>
+double Shortest(Number number) {
     std::array<char, 32> image{};
     const auto end = std::to_chars(image.data(), image.data() + image.size(), number).ptr;
     double shortest = 0;
@@ -28,9 +27,10 @@ double Shortest(float number) {
     return shortest;
 }
 
-Json NumberToJson(float number) {
+template <std::floating_point Number>
+Json NumberToJson(Number number) {
     // Whole numbers without a point: 300, not 300.0.
-    constexpr float wholeBelow = 1e15F;
+    constexpr Number wholeBelow = 1e15F;
     const bool whole = std::abs(number) < wholeBelow && std::trunc(number) == number;
     return whole ? Json(static_cast<std::int64_t>(number)) : Json(Shortest(number));
 }
@@ -100,33 +100,7 @@ Json EntryToJson(memory::HeardBeep /*beep*/) {
     return {{"beep", true}};
 }
 
-Value IntegerOf(std::int64_t number) {
-    if (std::in_range<std::int16_t>(number)) {
-        return static_cast<std::int16_t>(number);
-    }
-    if (std::in_range<std::int32_t>(number)) {
-        return static_cast<std::int32_t>(number);
-    }
-    return static_cast<double>(number);
-}
-
-Value FontOf(const Json& json, memory::Form& form) {
-    if (!json.contains("Name")) {
-        throw std::invalid_argument("an object as value is a font and needs a \"Name\"");
-    }
-    const auto font =
-        form.NewFont(TextOf(json.at("Name")), json.value("Size", form.AmbientFont().Size()));
-    font->SetBold(json.value("Bold", false));
-    font->SetItalic(json.value("Italic", false));
-    font->SetUnderline(json.value("Underline", false));
-    return ObjectRef(font);
-}
-
 }  // namespace
-
-Json ToJson(TextView text) {
-    return ToUtf8(text);
-}
 
 Json ToJson(const Value& value) {
     return std::visit(
@@ -135,7 +109,7 @@ Json ToJson(const Value& value) {
                 return ToUtf8(held);
             } else if constexpr (std::same_as<T, ObjectRef>) {
                 return ObjectToJson(held);
-            } else if constexpr (std::same_as<T, float>) {
+            } else if constexpr (std::floating_point<T>) {
                 return NumberToJson(held);
             } else if constexpr (std::is_arithmetic_v<T>) {
                 return held;
@@ -176,33 +150,6 @@ Json ToJson(const memory::PropertyBag& bag) {
         object[ToUtf8(name)] = ToJson(value);
     }
     return object;
-}
-
-Text TextOf(const Json& json) {
-    return FromUtf8(json.get_ref<const std::string&>());
-}
-
-Value ValueOf(const Json& json, memory::Form& form) {
-    switch (json.type()) {
-        case Json::value_t::null:
-            return Empty{};
-        case Json::value_t::boolean:
-            return json.get<bool>();
-        case Json::value_t::string:
-            return TextOf(json);
-        case Json::value_t::number_integer:
-            return IntegerOf(json.get<std::int64_t>());
-        case Json::value_t::number_unsigned:
-            return std::in_range<std::int64_t>(json.get<std::uint64_t>())
-                       ? IntegerOf(json.get<std::int64_t>())
-                       : Value(json.get<double>());
-        case Json::value_t::number_float:
-            return json.get<double>();
-        case Json::value_t::object:
-            return FontOf(json, form);
-        default:
-            throw std::invalid_argument("an array is no value");
-    }
 }
 
 }  // namespace lumenkit::cli

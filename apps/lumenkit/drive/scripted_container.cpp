@@ -1,0 +1,49 @@
+#include "apps/lumenkit/drive/scripted_container.h"
+
+#include <utility>
+
+#include "apps/lumenkit/drive/request.h"
+
+namespace lumenkit::cli {
+
+void ScriptedContainer::RequireFree(const std::string& id) const {
+    if (controls_.contains(id) || pages_.contains(id)) {
+        throw BadRequest("there is a \"" + id + "\" already");
+    }
+}
+
+void ScriptedContainer::Add(const std::string& id, std::unique_ptr<memory::PlacedControl> control) {
+    controls_.emplace(id, std::move(control));
+}
+
+void ScriptedContainer::Add(const std::string& id, std::unique_ptr<memory::PlacedPage> page) {
+    pages_.emplace(id, std::move(page));
+}
+
+memory::PlacedControl& ScriptedContainer::Control(const std::string& id) const {
+    const auto found = controls_.find(id);
+    if (found == controls_.end()) {
+        throw BadRequest(IsPage(id) ? '"' + id + "\" is a page, not a control"
+                                    : "there is no control \"" + id + '"');
+    }
+    return *found->second;
+}
+
+memory::PlacedPage& ScriptedContainer::Page(const std::string& id) const {
+    const auto found = pages_.find(id);
+    if (found == pages_.end()) {
+        throw BadRequest(controls_.contains(id) ? '"' + id + "\" is a control, not a page"
+                                                : "there is no page \"" + id + '"');
+    }
+    return *found->second;
+}
+
+Object& ScriptedContainer::Automation(const std::string& id) const {
+    return IsPage(id) ? Page(id).Automation() : Control(id).Automation();
+}
+
+memory::Constituents& ScriptedContainer::Parts(const std::string& id) const {
+    return IsPage(id) ? Page(id).Parts() : Control(id).Parts();
+}
+
+}  // namespace lumenkit::cli

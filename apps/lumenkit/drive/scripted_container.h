@@ -1,0 +1,53 @@
+// The form that requests work on: who is on it, by identifier.
+#pragma once
+
+#include <map>
+#include <memory>
+#include <string>
+
+#include "frame/automation/object.h"
+#include "frame/class_table.h"
+#include "runtime/memory/constituents.h"
+#include "runtime/memory/form.h"
+#include "runtime/memory/placed_control.h"
+#include "runtime/memory/placed_page.h"
+#include "runtime/memory/user.h"
+
+namespace lumenkit::cli {
+
+/// Controls and pages live as long as the container. What looks one up throws BadRequest where
+/// there is none, or none of the kind asked for.
+class ScriptedContainer {
+ public:
+    /// What `classes` refers to must outlive the container.
+    explicit ScriptedContainer(const ClassTable& classes) : form_(classes) {}
+
+    memory::Form& GetForm() { return form_; }
+    memory::User& GetUser() { return user_; }
+
+    /// Throws BadRequest where the identifier is taken.
+    void RequireFree(const std::string& id) const;
+    void Add(const std::string& id, std::unique_ptr<memory::PlacedControl> control);
+    void Add(const std::string& id, std::unique_ptr<memory::PlacedPage> page);
+
+    bool IsPage(const std::string& id) const { return pages_.contains(id); }
+    memory::PlacedControl& Control(const std::string& id) const;
+    memory::PlacedPage& Page(const std::string& id) const;
+
+    // Of a control or a page.
+    Object& Automation(const std::string& id) const;
+    memory::Constituents& Parts(const std::string& id) const;
+
+    void Quit() { quit_ = true; }
+    bool HasQuit() const { return quit_; }
+
+ private:
+    memory::Form form_;
+    memory::User user_{form_};
+    // Pages refer to controls and so must go first.
+    std::map<std::string, std::unique_ptr<memory::PlacedControl>> controls_;
+    std::map<std::string, std::unique_ptr<memory::PlacedPage>> pages_;
+    bool quit_ = false;
+};
+
+}  // namespace lumenkit::cli
