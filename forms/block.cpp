@@ -1,0 +1,164 @@
+#include "forms/block.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "forms/layout.h"
+
+namespace lumenkit::forms {
+
+namespace {
+
+const Property* AsProperty(const Block::Item& item) {
+    const auto* property = std::get_if<std::unique_ptr<Property>>(&item);
+    return property == nullptr ? nullptr : property->get();
+}
+
+Block* AsBlock(const Block::Item& item, BlockKind kind) {
+    const auto* block = std::get_if<std::unique_ptr<Block>>(&item);
+    return block != nullptr && (*block)->Kind() == kind ? block->get() : nullptr;
+}
+
+// The name of a property or group, empty for everything else.
+TextView SettingName(const Block::Item& item) {
+    if (const Property* property = AsProperty(item)) {
+        return property->Name();
+    }
+    const Block* group = AsBlock(item, BlockKind::Group);
+    return group == nullptr ? TextView() : group->Name();
+}
+
+}  // namespace
+
+Block::Block(BlockKind kind, Text className, Text name, Text open, Text close, Places places)
+    : kind_(kind),
+      className_(std::move(className)),
+      name_(std::move(name)),
+      open_(std::move(open)),
+      close_(std::move(close)),
+      places_(places) {}
+
+Block::Iterator Block::FindSetting(TextView name) const {
+    return std::find_if(items_.begin(), items_.end(), [&](const Item& item) {
+        const TextView own = SettingName(item);
+        return !own.empty() && SameText(own, name, Compare::IgnoreCase);
+    });
+}
+
+Block::Iterator Block::FindControl(const Block& control) const {
+    return std::find_if(items_.begin(), items_.end(), [&](const Item& item) {
+        return AsBlock(item, BlockKind::Control) == &control;
+    });
+}
+
+Property* Block::FindProperty(TextView name) const {
+    const Iterator found = FindSetting(name);
+    const auto* property =
+        found == items_.end() ? nullptr : std::get_if<std::unique_ptr<Property>>(&*found);
+    return property == nullptr ? nullptr : property->get();
+}
+
+Block* Block::FindGroup(TextView name) const {
+    const Iterator found = FindSetting(name);
+    return found == items_.end() ? nullptr : AsBlock(*found, BlockKind::Group);
+}
+
+std::vector<Block*> Block::Controls() const {
+    std::vector<Block*> controls;
+    for (const Item& item : items_) {
+        if (Block* control = AsBlock(item, BlockKind::Control)) {
+            controls.push_back(control);
+        }
+    }
+    return controls;
+}
+
+Text Block::InnerIndentation() const {
+    return Text(layout::IndentationOf(open_)) + Text(layout::indent);
+}
+
+Text Block::LineBreak() const {
+    return Text(layout::LineBreakOf(open_));
+}
+
+void Block::Place(TextView name, Item setting, TextView after) {
+    const Iterator present = FindSetting(name);
+    if (present != items_.end()) {
+        items_[static_cast<std::size_t>(present - items_.begin())] = std::move(setting);
+        return;
+    }
+    const Iterator before = FindSetting(after);
+    if (before != items_.end()) {
+        items_.insert(before + 1, std::move(setting));
+        return;
+    }
+    const auto last = std::find_if(items_.rbegin(), items_.rend(),
+                                   [](const Item& item) { return !SettingName(item).empty(); });
+    items_.insert(last.base(), std::move(setting));
+}
+
+Property& Block::Set(TextView name, forms::Literal literal, TextView after) {
+    if (Property* property = FindProperty(name)) {
+        property->Set(std::move(literal));
+        return *property;
+    }
+    Text value = SourceOf(literal);
+    auto property =
+        std::make_unique<Property>(Text(name), std::move(literal),
+                                   PropertySource{layout::PropertyPrefix(InnerIndentation(), name),
+                                                  std::move(value), LineBreak()});
+    Property& added = *property;
+    Place(name, std::move(property), after);
+    return added;
+}
+
+Block& Block::Group(TextView name, TextView identifier, TextView after) {
+    if (Block* group = FindGroup(name)) {
+        return *group;
+    }
+    const Text indentation = InnerIndentation();
+    auto group = std::make_unique<Block>(
+        BlockKind::Group, Text(identifier), Text(name),
+        layout::BeginPropertyLine(indentation, name, identifier) + LineBreak(),
+        indentation + u"EndProperty" + LineBreak());
+    Block& added = *group;
+    Place(name, std::move(group), after);
+    return added;
+}
+
+bool Block::Remove(TextView name) {
+    const Iterator found = FindSetting(name);
+    if (found == items_.end()) {
+        return false;
+    }
+    items_.erase(found);
+    return true;
+}
+
+Block& Block::AddControl(TextView className, TextView name, const Block* before) {
+    const Text indentation = InnerIndentation();
+    auto control =
+        std::make_unique<Block>(BlockKind::Control, Text(className), Text(name),
+                                layout::BeginLine(indentation, className, name) + LineBreak(),
+                                indentation + u"End" + LineBreak());
+    Block& added = *control;
+    items_.insert(before == nullptr ? items_.end() : FindControl(*before), std::move(control));
+    return added;
+}
+
+bool Block::RemoveControl(const Block& control) {
+    const Iterator found = FindControl(control);
+    if (found == items_.end()) {
+        return false;
+    }
+    items_.erase(found);
+    return true;
+}
+
+Block& Block::Append(std::unique_ptr<Block> block) {
+    Block& added = *block;
+    items_.push_back(std::move(block));
+    return added;
+}
+
+}  // namespace lumenkit::forms

@@ -1,0 +1,149 @@
+#include "forms/document.h"
+
+#include <cstdint>
+#include <stdexcept>
+#include <utility>
+
+#include "forms/literal.h"
+#include "forms/position.h"
+#include "forms/writer.h"
+#include "frame/utf8.h"
+
+namespace lumenkit::forms {
+
+namespace {
+
+Encoding EncodingOf(const std::string& name, std::string_view bytes, int codePage) {
+    try {
+        return Encoding::Of(bytes, codePage);
+    } catch (const std::invalid_argument& unknown) {
+        throw FormError(name, unknown.what());
+    }
+}
+
+Text Decode(const std::string& name, const Encoding& encoding, std::string_view bytes) {
+    try {
+        return encoding.Decode(bytes);
+    } catch (const MalformedUtf8& malformed) {
+        throw FormError(name, PlaceBehind(encoding.Decode(bytes.substr(0, malformed.offset))),
+                        "expected UTF-8");
+    }
+}
+
+std::string FileNameOf(const std::string& path) {
+    const std::size_t separator = path.find_last_of("/\\");
+    return separator == std::string::npos ? path : path.substr(separator + 1);
+}
+
+std::string DesignersCompanionName(const std::string& path) {
+    const std::string file = FileNameOf(path);
+    const std::size_t dot = file.rfind('.');
+    const std::string stem = file.substr(0, dot);
+    const std::string extension = dot == std::string::npos ? "" : file.substr(dot);
+    constexpr std::pair<std::string_view, std::string_view> companions[] = {
+        {".frm", ".frx"}, {".ctl", ".ctx"}, {".pag", ".pgx"}, {".dob", ".dox"}};
+    for (const auto& [form, companion] : companions) {
+        if (SameText(FromUtf8(extension), FromUtf8(form), Compare::IgnoreCase)) {
+            return stem + std::string(companion);
+        }
+    }
+    return stem + ".frx";
+}
+
+}  // namespace
+
+Document Document::Parse(std::string name, std::string_view bytes,
+                         const CompanionReader& readCompanion, int codePage) {
+    const Encoding encoding = EncodingOf(name, bytes, codePage);
+    ParsedForm form = ParseForm(Decode(name, encoding, bytes), name);
+    Document document(std::move(name), encoding, std::move(form));
+    document.ReadCompanion(readCompanion);
+    return document;
+}
+
+Document::Document(std::string name, Encoding encoding, ParsedForm form)
+    : name_(std::move(name)),
+      encoding_(encoding),
+      form_(std::move(form)),
+      companionName_(form_.references.empty() ? DesignersCompanionName(name_)
+                                              : ToUtf8(form_.references.front().reference.file)) {}
+
+void Document::Fail(Position position, const std::string& text) const {
+    throw FormError(name_, position, text);
+}
+
+void Document::RequireOneCompanion() const {
+    for (const PlacedReference& placed : form_.references) {
+        if (!SameText(placed.reference.file, form_.references.front().reference.file,
+                      Compare::IgnoreCase)) {
+            Fail(placed.place, "expected a reference into " + companionName_ + ", found " +
+                                   ToUtf8(placed.reference.file));
+        }
+    }
+}
+
+void Document::ReadCompanion(const CompanionReader& readCompanion) {
+    if (form_.references.empty()) {
+        return;
+    }
+    RequireOneCompanion();
+    std::vector<std::uint32_t> offsets;
+    for (const PlacedReference& placed : form_.references) {
+        offsets.push_back(placed.reference.offset);
+    }
+    companion_ = Companion(readCompanion(companionName_), std::move(offsets));
+    for (const PlacedReference& placed : form_.references) {
+        try {
+            companion_.RequireOffset(placed.reference.offset);
+            if (placed.reference.marked) {
+                companion_.String(placed.reference.offset);
+            }
+        } catch (const BadRecord& bad) {
+            Fail(placed.place, bad.what());
+        }
+    }
+}
+
+void Document::AddLibrary(TextView library, TextView file) {
+    const TextView lineBreak = form_.head.find(crLf) == Text::npos ? TextView(u"\n") : crLf;
+    form_.head += u"Object = " + SourceOf(Text(library)) + u"; " + SourceOf(Text(file));
+    form_.head += lineBreak;
+    form_.libraries.push_back({Text(library), Text(file), {}});
+}
+
+Text Document::TextOf(const Property& property) const {
+    const Literal& literal = property.Literal();
+    if (const auto* text = std::get_if<Text>(&literal)) {
+        return *text;
+    }
+    if (const auto* text = std::get_if<CompanionText>(&literal)) {
+        return text->text;
+    }
+    const auto* reference = std::get_if<Reference>(&literal);
+    if (reference == nullptr) {
+        Fail(property.ValuePlace(), "expected a text");
+    }
+    try {
+        return encoding_.CompanionPage().Decode(companion_.String(reference->offset));
+    } catch (const BadRecord& bad) {
+        Fail(property.ValuePlace(), bad.what());
+    }
+}
+
+std::string_view Document::RecordOf(const Property& property) const {
+    const auto* reference = std::get_if<Reference>(&property.Literal());
+    if (reference == nullptr) {
+        Fail(property.ValuePlace(), "expected a reference into the companion");
+    }
+    try {
+        return companion_.Record(reference->offset);
+    } catch (const BadRecord& bad) {
+        Fail(property.ValuePlace(), bad.what());
+    }
+}
+
+FormBytes Document::Write() const {
+    return FormWriter(name_, encoding_, FromUtf8(companionName_), companion_.Bytes()).Write(form_);
+}
+
+}  // namespace lumenkit::forms

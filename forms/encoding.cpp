@@ -1,0 +1,88 @@
+#include "forms/encoding.h"
+
+#include <algorithm>
+
+#include "frame/utf8.h"
+
+namespace lumenkit::forms {
+
+namespace {
+
+constexpr std::string_view utf8Mark = "\xEF\xBB\xBF";
+
+bool IsAscii(std::string_view bytes) {
+    return std::all_of(bytes.begin(), bytes.end(),
+                       [](char byte) { return static_cast<unsigned char>(byte) < 0x80; });
+}
+
+bool IsUtf8(std::string_view bytes) {
+    try {
+        FromUtf8(bytes);
+        return true;
+    } catch (const MalformedUtf8&) {
+        return false;
+    }
+}
+
+bool IsSurrogate(char16_t unit) {
+    return (unit & 0xF800) == 0xD800;
+}
+bool IsPair(TextView text, std::size_t at) {
+    return at + 1 < text.size() && (text[at] & 0xFC00) == 0xD800 &&
+           (text[at + 1] & 0xFC00) == 0xDC00;
+}
+
+void RefuseLoneSurrogates(TextView text) {
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        if (IsPair(text, i)) {
+            ++i;
+        } else if (IsSurrogate(text[i])) {
+            throw Unmappable{i, "UTF-8"};
+        }
+    }
+}
+
+}  // namespace
+
+Encoding Encoding::Of(std::string_view bytes, int codePage) {
+    Encoding encoding(CodePage(codePage == utf8CodePage ? defaultCodePage : codePage));
+    encoding.mark_ = bytes.starts_with(utf8Mark);
+    encoding.utf8_ =
+        encoding.mark_ || codePage == utf8CodePage || (!IsAscii(bytes) && IsUtf8(bytes));
+    return encoding;
+}
+
+Text Encoding::Decode(std::string_view bytes) const {
+    if (!utf8_) {
+        return codePage_.Decode(bytes);
+    }
+    const std::size_t skipped = mark_ ? utf8Mark.size() : 0;
+    try {
+        return FromUtf8(bytes.substr(skipped));
+    } catch (const MalformedUtf8& malformed) {
+        throw MalformedUtf8(malformed.offset + skipped);
+    }
+}
+
+std::string Encoding::Encode(TextView text) const {
+    if (!utf8_) {
+        return EncodeIn(codePage_, text);
+    }
+    RefuseLoneSurrogates(text);
+    return std::string(mark_ ? utf8Mark : std::string_view()) + ToUtf8(text);
+}
+
+std::string EncodeIn(const CodePage& page, TextView text) {
+    std::string bytes;
+    bytes.reserve(text.size());
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        const std::optional<char> byte = page.Encode(text[i]);
+        if (!byte) {
+            throw Unmappable{i, "Windows-" + std::to_string(page.Number())};
+        }
+        bytes += *byte;
+    }
+    return bytes;
+}
+
+}  // namespace lumenkit::forms

@@ -1,0 +1,104 @@
+#include "forms/file.h"
+
+#include <fstream>
+#include <iterator>
+#include <string>
+#include <string_view>
+#include <system_error>
+
+#include "frame/utf8.h"
+
+namespace lumenkit::forms {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+std::string NameOf(const fs::path& path) {
+    const std::u8string name = path.u8string();
+    return {name.begin(), name.end()};
+}
+
+fs::path Beside(const fs::path& path, const std::string& fileName) {
+    return path.parent_path() / fs::path(std::u8string(fileName.begin(), fileName.end()));
+}
+
+std::string ReadBytes(const fs::path& path) {
+    std::error_code unknown;
+    std::ifstream stream(path, std::ios::binary);
+    if (!stream || fs::is_directory(path, unknown)) {
+        throw FormError(NameOf(path), "cannot be read");
+    }
+    std::string bytes{std::istreambuf_iterator<char>(stream), {}};
+    if (stream.bad()) {
+        throw FormError(NameOf(path), "cannot be read");
+    }
+    return bytes;
+}
+
+// New contents for a file, beside it until they take its place; gone if they never do.
+class Replacement {
+ public:
+    Replacement(fs::path target, std::string_view bytes)
+        : target_(Resolved(std::move(target))), beside_(target_) {
+        beside_ += ".new";
+        std::ofstream stream(beside_, std::ios::binary);
+        stream.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
+        stream.close();
+        if (!stream) {
+            Discard();
+            throw FormError(NameOf(target_), "cannot be written");
+        }
+    }
+    Replacement(const Replacement&) = delete;
+    Replacement& operator=(const Replacement&) = delete;
+    ~Replacement() { Discard(); }
+
+    void TakePlace() {
+        std::error_code error;
+        const fs::file_status old = fs::status(target_, error);
+        if (fs::is_regular_file(old)) {
+            fs::permissions(beside_, old.permissions(), error);
+        }
+        fs::rename(beside_, target_, error);
+        if (error) {
+            throw FormError(NameOf(target_), "cannot be written");
+        }
+    }
+
+ private:
+    // Not the link is replaced but the file that it leads to.
+    static fs::path Resolved(fs::path path) {
+        std::error_code error;
+        fs::path resolved = fs::canonical(path, error);
+        return error ? path : resolved;
+    }
+    void Discard() {
+        std::error_code gone;
+        fs::remove(beside_, gone);
+    }
+
+    fs::path target_;
+    fs::path beside_;
+};
+
+}  // namespace
+
+Document Load(const fs::path& path, int codePage) {
+    const auto readCompanion = [&](const std::string& fileName) {
+        return ReadBytes(Beside(path, fileName));
+    };
+    return Document::Parse(NameOf(path), ReadBytes(path), readCompanion, codePage);
+}
+
+void Save(const Document& document, const fs::path& path) {
+    const FormBytes bytes = document.Write();
+    Replacement form(path, bytes.form);
+    if (!bytes.companion.empty()) {
+        Replacement companion(Beside(path, document.CompanionName()), bytes.companion);
+        companion.TakePlace();
+    }
+    form.TakePlace();
+}
+
+}  // namespace lumenkit::forms

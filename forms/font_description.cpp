@@ -1,0 +1,17 @@
+#include "forms/font_description.h"
+
+namespace lumenkit::forms {
+
+FontDescription Describe(const host::Font& font) {
+    FontDescription description;
+    description.name = font.Name();
+    description.size = font.Size();
+    description.charset = font.Charset();
+    description.weight = font.Weight();
+    description.underline = font.Underline();
+    description.italic = font.Italic();
+    description.strikethrough = font.Strikethrough();
+    return description;
+}
+
+}  // namespace lumenkit::forms

@@ -1,0 +1,38 @@
+// Puts the lines of a tree together again.
+#pragma once
+
+#include <string>
+
+#include "forms/block.h"
+#include "forms/document.h"
+#include "forms/encoding.h"
+#include "forms/parser.h"
+#include "forms/property.h"
+#include "frame/text.h"
+
+namespace lumenkit::forms {
+
+/// Writes one form. `name` is the form's name for errors.
+class FormWriter {
+ public:
+    FormWriter(const std::string& name, const Encoding& encoding, Text companionName,
+               std::string companion);
+
+    /// Throws FormError as Document::Write does.
+    FormBytes Write(const ParsedForm& form) &&;
+
+ private:
+    void Add(const Block& block);
+    void Add(const Property& property);
+    void Add(const IdleLine& idle) { text_ += idle.line; }
+    Text Store(TextView text);
+    [[noreturn]] void Refuse(const Unmappable& unmappable, TextView text, Position place) const;
+
+    const std::string& name_;
+    const Encoding& encoding_;
+    Text companionName_;
+    std::string companion_;
+    Text text_;
+};
+
+}  // namespace lumenkit::forms

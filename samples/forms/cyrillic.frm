@@ -1,0 +1,29 @@
+VERSION 5.00
+Object = "{6B1A3F52-8C0D-4E7B-9A44-2D5C8E7F1A90}#7.1#0"; "lumenkit.ocx"
+Begin VB.Form frmПривет 
+   Caption         =   "Привет"
+   ClientHeight    =   3195
+   ClientLeft      =   60
+   ClientTop       =   345
+   ClientWidth     =   4680
+   LinkTopic       =   "Form1"
+   ScaleHeight     =   3195
+   ScaleWidth      =   4680
+   StartUpPosition =   3  'Windows Default
+   Begin lumenkit.VMemo VMemo1 
+      Height          =   1215
+      Left            =   120
+      TabIndex        =   0
+      Top             =   120
+      Width           =   4335
+      _ExtentX        =   7646
+      _ExtentY        =   2143
+      Text            =   $"cyrillic.frx":0000
+   End
+End
+Attribute VB_Name = "frmПривет"
+Attribute VB_GlobalNameSpace = False
+Attribute VB_Creatable = False
+Attribute VB_PredeclaredId = True
+Attribute VB_Exposed = False
+Option Explicit

@@ -1,0 +1,12 @@
+VERSION 5.00
+Begin VB.Form Form1 
+   Caption         =   "No code"
+   ClientHeight    =   3195
+   ClientLeft      =   60
+   ClientTop       =   345
+   ClientWidth     =   4680
+   LinkTopic       =   "Form1"
+   ScaleHeight     =   3195
+   ScaleWidth      =   4680
+   StartUpPosition =   3  'Windows Default
+End

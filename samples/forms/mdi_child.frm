@@ -1,0 +1,30 @@
+VERSION 5.00
+Object = "{6B1A3F52-8C0D-4E7B-9A44-2D5C8E7F1A90}#7.1#0"; "lumenkit.ocx"
+Begin VB.Form frmChild 
+   Caption         =   "Child"
+   ClientHeight    =   3195
+   ClientLeft      =   60
+   ClientTop       =   345
+   ClientWidth     =   4680
+   LinkTopic       =   "Form1"
+   MDIChild        =   -1  'True
+   ScaleHeight     =   3195
+   ScaleWidth      =   4680
+   StartUpPosition =   3  'Windows Default
+   Begin lumenkit.VMemo VMemo1 
+      Height          =   3195
+      Left            =   0
+      TabIndex        =   0
+      Top             =   0
+      Width           =   4680
+      _ExtentX        =   8255
+      _ExtentY        =   5636
+      ScrollBars      =   3
+   End
+End
+Attribute VB_Name = "frmChild"
+Attribute VB_GlobalNameSpace = False
+Attribute VB_Creatable = False
+Attribute VB_PredeclaredId = True
+Attribute VB_Exposed = False
+Option Explicit

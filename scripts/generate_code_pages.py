@@ -1,0 +1,37 @@
+#!/usr/bin/env python3
+"""Writes forms/code_page_tables.inc: the upper halves of the Windows code pages 1250 to 1258.
+
+A byte that a page does not define becomes what Windows makes of it: the control unit of the same
+number below 0xA0, a private-use unit above. So every byte has a unit of its own.
+"""
+import pathlib
+
+PRIVATE_USE = {
+    1253: {0xAA: 0xF8F9, 0xD2: 0xF8FA, 0xFF: 0xF8FB},
+    1255: {0xD9: 0xF88D, 0xDA: 0xF88E, 0xDB: 0xF88F, 0xDC: 0xF890, 0xDD: 0xF891, 0xDE: 0xF892,
+           0xDF: 0xF893, 0xFB: 0xF894, 0xFC: 0xF895, 0xFF: 0xF896, 0xCA: 0x05BA},
+    1257: {0xA1: 0xF8FC, 0xA5: 0xF8FD},
+}
+
+
+def unit(page, byte):
+    try:
+        return ord(bytes([byte]).decode(f"cp{page}"))
+    except UnicodeDecodeError:
+        return byte if byte < 0xA0 else PRIVATE_USE[page][byte]
+
+
+def main():
+    lines = ["// Written by scripts/generate_code_pages.py; do not edit.", "// clang-format off"]
+    for page in range(1250, 1259):
+        units = [unit(page, byte) for byte in range(0x80, 0x100)]
+        assert len(set(units)) == 128, page
+        lines.append(f"{{{page}, {{")
+        for start in range(0, 128, 8):
+            lines.append("    " + " ".join(f"0x{u:04X}," for u in units[start:start + 8]))
+        lines.append("}},")
+    target = pathlib.Path(__file__).parent.parent / "forms" / "code_page_tables.inc"
+    target.write_text("\n".join(lines) + "\n")
+
+
+main()

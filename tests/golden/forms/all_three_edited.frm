@@ -1,0 +1,70 @@
+VERSION 5.00
+Object = "{6B1A3F52-8C0D-4E7B-9A44-2D5C8E7F1A90}#7.1#0"; "lumenkit.ocx"
+Object = "{00025600-0000-0000-C000-000000000046}#5.2#0"; "crystl32.ocx"
+Begin VB.Form frmAll 
+   Caption         =   "All three"
+   ClientHeight    =   3195
+   ClientLeft      =   60
+   ClientTop       =   345
+   ClientWidth     =   4680
+   LinkTopic       =   "Form1"
+   ScaleHeight     =   3195
+   ScaleWidth      =   4680
+   StartUpPosition =   3  'Windows Default
+   Begin VB.Frame fraLeft 
+      Caption         =   "Left"
+      Height          =   2895
+      Left            =   120
+      TabIndex        =   0
+      Top             =   120
+      Width           =   2175
+      Begin VB.PictureBox picInner 
+         BorderStyle     =   0  'None
+         Height          =   2535
+         Left            =   120
+         ScaleHeight     =   2535
+         ScaleWidth      =   1935
+         TabIndex        =   1
+         Top             =   240
+         Width           =   1935
+         Begin VB.Label Label1 
+            Caption         =   "plain"
+            BeginProperty Font {0BE35203-8F91-11CE-9DE3-00AA004BB851} 
+               Name            =   "Arial"
+               Size            =   9.75
+            EndProperty
+         End
+         Begin lumenkit.VOptList VOptList1 
+            Height          =   1575
+            Left            =   0
+            TabIndex        =   3
+            Top             =   840
+            Width           =   1935
+            _ExtentX        =   3413
+            _ExtentY        =   2778
+            BorderStyle     =   0
+            Contents        =   "1;One|2;Two|3;Three"
+         End
+      End
+   End
+   Begin lumenkit.VMemo VMemo1 
+      Height          =   2775
+      Left            =   2400
+      TabIndex        =   4
+      Top             =   240
+      Width           =   2175
+      _ExtentX        =   3836
+      _ExtentY        =   4895
+      Locked          =   -1  'True
+      Text            =   "One line"
+   End
+   Begin VB.Timer Timer1 
+      Interval        =   500
+   End
+End
+Attribute VB_Name = "frmAll"
+Attribute VB_GlobalNameSpace = False
+Attribute VB_Creatable = False
+Attribute VB_PredeclaredId = True
+Attribute VB_Exposed = False
+Option Explicit

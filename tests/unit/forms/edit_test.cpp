@@ -1,0 +1,148 @@
+#include <gmock/gmock.h>
+
+#include "forms/document.h"
+#include "tests/unit/forms/sample_forms.h"
+
+namespace lumenkit::forms::testing {
+namespace {
+
+using namespace std::string_literals;
+
+std::string Golden(const std::string& name) {
+    return ReadFile(std::filesystem::path(LUMENKIT_SOURCE_DIR) / "tests/golden/forms" / name);
+}
+
+std::string RefusalOf(const Document& document) {
+    try {
+        document.Write();
+        return "none";
+    } catch (const FormError& error) {
+        return error.what();
+    }
+}
+
+TEST(Edit, ReplacesInsertsAndRemovesProperties) {
+    const Document document = Sample("label.frm").Parse();
+    Block& label = Find(document, {u"VLabel1"});
+    label.Set(u"Caption", Text(u"He said \"|b|no\""));
+    label.Set(u"WORDWRAP", false);
+    EXPECT_TRUE(label.Remove(u"bulletprefix"));
+    label.Set(u"BackStyle", 1);
+    label.Set(u"ForeColor", HexNumber{0xFF});
+    label.Set(u"Object.ToolTipText", Text(u"new"), u"forecolor");
+    EXPECT_FALSE(label.Remove(u"Missing"));
+    EXPECT_EQ(document.Write().form, Golden("label_edited.frm"));
+    EXPECT_EQ(label.FindProperty(u"BackStyle")->NamePlace(), Position{});
+}
+
+TEST(Edit, AddsAndRemovesControlsAndLibraries) {
+    Document document = Sample("all_three.frm").Parse();
+    Block& box = Find(document, {u"fraLeft", u"picInner"});
+    Block& old = Find(document, {u"fraLeft", u"picInner", u"VLabel1"});
+    Block& added = box.AddControl(u"VB.Label", u"Label1", &old);
+    added.Set(u"Caption", Text(u"plain"));
+    Block& font = added.Group(u"Font", u"{0BE35203-8F91-11CE-9DE3-00AA004BB851}");
+    font.Set(u"Name", Text(u"Arial"));
+    added.Group(u"FONT", u"{unused}").Set(u"Size", NumberLiteral(9.75F));
+    EXPECT_FALSE(document.Root().RemoveControl(old));
+    EXPECT_TRUE(box.RemoveControl(old));
+    document.Root().AddControl(u"VB.Timer", u"Timer1").Set(u"Interval", 500);
+    document.AddLibrary(u"{00025600-0000-0000-C000-000000000046}#5.2#0", u"crystl32.ocx");
+    EXPECT_EQ(document.Write().form, Golden("all_three_edited.frm"));
+    EXPECT_EQ(document.Libraries().size(), 2U);
+}
+
+TEST(Edit, MovesTextsToTheCompanion) {
+    const Document document = Sample("memo.frm").Parse();
+    Block& memo = Find(document, {u"VMemo1"});
+    memo.Set(u"Text", TextLiteral(u"Ä\r\nmore\r\n.."));
+    Text longText;
+    for (int i = 0; i < 30; ++i) {
+        longText += u"0123456789";
+    }
+    memo.Set(u"Tag", TextLiteral(longText));
+    // Writing twice gives the same: nothing is appended to what was appended.
+    for (int i = 0; i < 2; ++i) {
+        const FormBytes written = document.Write();
+        EXPECT_EQ(written.form, Golden("memo_edited.frm"));
+        EXPECT_EQ(written.companion, Golden("memo_edited.frx"));
+    }
+    EXPECT_EQ(document.TextOf(*memo.FindProperty(u"Tag")), longText);
+}
+
+TEST(Edit, KeepsTheWaysOfAFormThatWasWrittenByHand) {
+    const Document document = Sample("by_hand.frm").Parse();
+    document.Root().Set(u"Caption", Text(u"By machine"));
+    Block& label = Find(document, {u"VLabel1"});
+    label.Set(u"Caption", Text(u"|i|slanted"));
+    label.Group(u"Font", u"").Set(u"Size", 12);
+    label.Set(u"AutoSize", true);
+    EXPECT_EQ(document.Write().form, Golden("by_hand_edited.frm"));
+}
+
+TEST(Edit, GivesAFormItsFirstCompanion) {
+    const Document document = ParseBytes("VERSION 5.00\nBegin A B\nEnd\n");
+    document.Root().Set(u"Text", TextLiteral(u"a\r\nb"));
+    const FormBytes written = document.Write();
+    EXPECT_EQ(written.form,
+              "VERSION 5.00\nBegin A B\n   Text            =   $\"x.frx\":0000\nEnd\n");
+    EXPECT_EQ(written.companion, "\4a\r\nb"s);
+}
+
+TEST(Edit, SwapsPropertiesAndGroupsInTheirPlace) {
+    const Document document =
+        ParseBytes("VERSION 5.00\nBegin A B\n   First = 1\n   Middle = 2\n   Last = 3\nEnd\n");
+    document.Root().Group(u"Middle", u"").Set(u"Name", Text(u"x"));
+    EXPECT_EQ(document.Write().form,
+              "VERSION 5.00\nBegin A B\n   First = 1\n   BeginProperty Middle \n"
+              "      Name            =   \"x\"\n   EndProperty\n   Last = 3\nEnd\n");
+    document.Root().Set(u"middle", 4);
+    EXPECT_EQ(
+        document.Write().form,
+        "VERSION 5.00\nBegin A B\n   First = 1\n   middle          =   4\n   Last = 3\nEnd\n");
+}
+
+TEST(Edit, PutsNewPropertiesBeforeControls) {
+    const Document document = ParseBytes(
+        "VERSION 5.00\nBegin A B\n\n   Begin C D\n   End\n   Late = 1\n   Begin E F\n   End\n"
+        "End\n");
+    document.Root().Set(u"New", 2);
+    Find(document, {u"D"}).Set(u"Only", 3);
+    EXPECT_EQ(document.Write().form,
+              "VERSION 5.00\nBegin A B\n\n   Begin C D\n      Only            =   3\n   End\n"
+              "   Late = 1\n   New             =   2\n   Begin E F\n   End\nEnd\n");
+    const Document empty = ParseBytes("VERSION 5.00\nBegin A B\n   Begin C D\n   End\nEnd\n");
+    empty.Root().Set(u"New", 2);
+    EXPECT_EQ(empty.Write().form,
+              "VERSION 5.00\nBegin A B\n   New             =   2\n   Begin C D\n   End\nEnd\n");
+}
+
+TEST(Edit, ChangesTheFirstOfSeveralOfOneName) {
+    const Document document = ParseBytes("VERSION 5.00\nBegin A B\n   C = 1\n   c = 2\nEnd\n");
+    document.Root().Set(u"C", 3);
+    EXPECT_EQ(document.Write().form, "VERSION 5.00\nBegin A B\n   C = 3\n   c = 2\nEnd\n");
+}
+
+TEST(Edit, RefusesToLoseCharactersWithTheirPlace) {
+    const Document document = Sample("empty.frm").Parse();
+    document.Root().Set(u"Caption", Text(u"a 中"));
+    // Line 3, behind `   Caption         =   "a `.
+    EXPECT_EQ(RefusalOf(document), "empty.frm:3:27: U+4E2D cannot be written in Windows-1252");
+    document.Root().Set(u"Caption", Text(u"a ä"));
+    EXPECT_EQ(RefusalOf(document), "none");
+    document.Root().Set(u"Tag", TextLiteral(u"two\r\nlines я"), u"Caption");
+    EXPECT_EQ(RefusalOf(document), "empty.frm:4:24: U+044F cannot be written in Windows-1252");
+    document.Root().Set(u"Tag", Text());
+    EXPECT_EQ(RefusalOf(document), "none");
+}
+
+TEST(Edit, RefusesHalfCharactersInUtf8) {
+    const Document document = Sample("utf8.frm").Parse();
+    document.Root().Set(u"Tag", Text(u"\xD83D"));
+    EXPECT_EQ(RefusalOf(document), "utf8.frm:13:25: U+D83D cannot be written in UTF-8");
+    document.Root().Set(u"Tag", TextLiteral(u"日\r\n本"));
+    EXPECT_EQ(RefusalOf(document), "utf8.frm:13:24: U+65E5 cannot be written in Windows-1252");
+}
+
+}  // namespace
+}  // namespace lumenkit::forms::testing

@@ -1,0 +1,136 @@
+#include "forms/file.h"
+
+#include <filesystem>
+#include <set>
+
+#include <gmock/gmock.h>
+
+#include "forms/literal.h"
+#include "tests/unit/forms/sample_forms.h"
+
+namespace lumenkit::forms::testing {
+namespace {
+
+namespace fs = std::filesystem;
+using ::testing::ElementsAre;
+
+// A folder of its own for each test, gone with it.
+class FileTest : public ::testing::Test {
+ protected:
+    FileTest()
+        : folder(fs::path(LUMENKIT_BINARY_DIR) / "forms_test_files" /
+                 ::testing::UnitTest::GetInstance()->current_test_info()->name()) {
+        fs::remove_all(folder);
+        fs::create_directories(folder);
+    }
+    ~FileTest() override { fs::remove_all(folder); }
+
+    std::set<std::string> Names() const {
+        std::set<std::string> names;
+        for (const fs::directory_entry& entry : fs::directory_iterator(folder)) {
+            names.insert(entry.path().filename().string());
+        }
+        return names;
+    }
+
+    const fs::path folder;
+};
+
+std::string LoadError(const fs::path& path) {
+    try {
+        Load(path);
+        return "none";
+    } catch (const FormError& error) {
+        return error.what();
+    }
+}
+
+std::string SaveError(const Document& document, const fs::path& path) {
+    try {
+        Save(document, path);
+        return "none";
+    } catch (const FormError& error) {
+        return error.what();
+    }
+}
+
+TEST_F(FileTest, LoadsAndSavesEverySample) {
+    for (const SampleForm& sample : SampleForms()) {
+        const fs::path path = folder / sample.name;
+        const Document document = Load(SamplePath(sample.name), sample.codePage);
+        Save(document, path);
+        EXPECT_TRUE(ReadFile(path) == sample.form) << sample.name;
+        const fs::path companion = folder / document.CompanionName();
+        EXPECT_EQ(fs::exists(companion), !sample.companion.empty()) << sample.name;
+        if (!sample.companion.empty()) {
+            EXPECT_TRUE(ReadFile(companion) == sample.companion) << sample.name;
+        }
+    }
+}
+
+TEST_F(FileTest, ReplacesBothFilesAndLeavesNothingElse) {
+    const fs::path path = folder / "memo.frm";
+    Save(Sample("memo.frm").Parse(), path);
+    const Document document = Load(path);
+    Find(document, {u"VMemo1"}).Set(u"Text", TextLiteral(u"new\r\ntext"));
+    Save(document, path);
+    EXPECT_THAT(Names(), ElementsAre("memo.frm", "memo.frx"));
+    const Document again = Load(path);
+    EXPECT_EQ(again.TextOf(*Find(again, {u"VMemo1"}).FindProperty(u"Text")), u"new\r\ntext");
+}
+
+TEST_F(FileTest, LoadingTellsWhatCannotBeRead) {
+    const fs::path missing = folder / "missing.frm";
+    EXPECT_EQ(LoadError(missing), missing.string() + ": cannot be read");
+    EXPECT_EQ(LoadError(folder), folder.string() + ": cannot be read");
+    WriteFile(folder / "memo.frm", Sample("memo.frm").form);
+    EXPECT_EQ(LoadError(folder / "memo.frm"), (folder / "memo.frx").string() + ": cannot be read");
+    WriteFile(folder / "memo.frx", "");
+    EXPECT_EQ(LoadError(folder / "memo.frm"),
+              (folder / "memo.frm").string() +
+                  ":33:27: expected an offset below the companion's size of 0 bytes, found 0");
+}
+
+TEST_F(FileTest, AFormThatCannotBeWrittenLeavesTheOldOne) {
+    const fs::path path = folder / "memo.frm";
+    Save(Sample("memo.frm").Parse(), path);
+    const Document document = Load(path);
+    Find(document, {u"VMemo1"}).Set(u"Text", TextLiteral(u"中\r\n"));
+    EXPECT_EQ(SaveError(document, path),
+              path.string() + ":33:27: U+4E2D cannot be written in Windows-1252");
+    EXPECT_TRUE(ReadFile(path) == Sample("memo.frm").form);
+    EXPECT_TRUE(ReadFile(folder / "memo.frx") == Sample("memo.frm").companion);
+    EXPECT_THAT(Names(), ElementsAre("memo.frm", "memo.frx"));
+}
+
+TEST_F(FileTest, AFolderThatIsNotThereTakesNothing) {
+    const fs::path path = folder / "none" / "memo.frm";
+    EXPECT_EQ(SaveError(Sample("memo.frm").Parse(), path), path.string() + ": cannot be written");
+    EXPECT_TRUE(Names().empty());
+}
+
+// What was to be written first is in the way of nothing when the second cannot be written.
+TEST_F(FileTest, ACompanionThatCannotBeWrittenLeavesTheOldForm) {
+    const fs::path path = folder / "memo.frm";
+    WriteFile(path, "old");
+    fs::create_directories(folder / "memo.frx" / "in the way");
+    EXPECT_EQ(SaveError(Sample("memo.frm").Parse(), path),
+              (folder / "memo.frx").string() + ": cannot be written");
+    EXPECT_EQ(ReadFile(path), "old");
+    EXPECT_THAT(Names(), ElementsAre("memo.frm", "memo.frx"));
+}
+
+TEST_F(FileTest, SavingFollowsLinksAndKeepsPermissions) {
+    const fs::path target = folder / "target.frm";
+    const fs::path link = folder / "link.frm";
+    WriteFile(target, "old");
+    fs::permissions(target, fs::perms::owner_read | fs::perms::owner_write);
+    fs::create_symlink("target.frm", link);
+    Save(Sample("empty.frm").Parse(), link);
+    EXPECT_TRUE(fs::is_symlink(link));
+    EXPECT_TRUE(ReadFile(target) == Sample("empty.frm").form);
+    EXPECT_EQ(fs::status(target).permissions(), fs::perms::owner_read | fs::perms::owner_write);
+}
+
+}  // namespace
+}  // namespace lumenkit::forms::testing
