@@ -38,7 +38,9 @@ requires(sizeof(Storage) <= 4) class CheckedInteger {
     constexpr CheckedInteger& operator-=(CheckedInteger right) { return *this = *this - right; }
     constexpr CheckedInteger& operator++() { return *this += CheckedInteger(1); }
 
-    friend constexpr auto operator<=>(CheckedInteger, CheckedInteger) = default;
+    // clang-tidy 14 takes the default for a null pointer.
+    friend constexpr auto operator<=>(CheckedInteger,
+                                      CheckedInteger) = default;  // NOLINT(modernize-use-nullptr)
 
  private:
     // Sums, differences and products of two 32-bit numbers fit.

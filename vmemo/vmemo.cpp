@@ -33,7 +33,7 @@ constexpr TextView handleTag = u"Return hWnd via ML";
 // leaves the control deaf to its user.
 class Updating {
  public:
-    explicit Updating(bool& flag) : flag_(flag) { flag_ = true; }
+    explicit Updating(bool& flag) : flag_(flag) { flag = true; }
     ~Updating() { flag_ = false; }
     Updating(const Updating&) = delete;
     Updating& operator=(const Updating&) = delete;
@@ -73,7 +73,7 @@ VMemo::VMemo(const ControlHost& host)
       automation_(vmemoInterface, this),
       boxEvents_{BoxEvents(*this, 0), BoxEvents(*this, 1), BoxEvents(*this, 2),
                  BoxEvents(*this, 3)} {
-    for (std::int16_t index = 0; index < std::ssize(text1_); ++index) {
+    for (std::int16_t index = 0; index < boxCount; ++index) {
         const auto element = static_cast<std::size_t>(index);
         text1_[element] = AddBox(host.constituents, index, boxEvents_[element]);
     }
@@ -82,7 +82,7 @@ VMemo::VMemo(const ControlHost& host)
 // ---- The boxes
 
 host::TextBox& VMemo::Text1(std::int32_t index) const {
-    if (index < 0 || index >= std::ssize(text1_)) {
+    if (index < 0 || index >= boxCount) {
         Raise(ErrorNumber::NoSuchArrayElement);
     }
     return *text1_[static_cast<std::size_t>(index)];
@@ -90,7 +90,7 @@ host::TextBox& VMemo::Text1(std::int32_t index) const {
 
 template <typename Act>
 void VMemo::ForBoxes(std::int16_t first, Act&& act) {
-    for (m_BoxIndex = first; m_BoxIndex <= 3; ++m_BoxIndex) {
+    for (m_BoxIndex = first; m_BoxIndex < boxCount; ++m_BoxIndex) {
         act(Text1(m_BoxIndex));
     }
 }

@@ -36,7 +36,7 @@ class VMemo final : public Control {
     /// All boxes come to share the font.
     void pSetFont(host::FontRef font);
     /// Always True; assigning it does nothing.
-    bool pGetCausesValidation() const { return true; }
+    bool pGetCausesValidation() const { return true; }  // NOLINT(*-to-static)
     void pLetCausesValidation(bool /*causes*/) {}
     Text pGetFontName() const;
     void pLetFontName(TextView name);
@@ -146,8 +146,9 @@ class VMemo final : public Control {
     /// Counts in every loop over the boxes.
     std::int16_t m_BoxIndex = 0;
 
-    std::array<BoxEvents, 4> boxEvents_;
-    std::array<std::unique_ptr<host::TextBox>, 4> text1_;
+    static constexpr std::int16_t boxCount = 4;
+    std::array<BoxEvents, boxCount> boxEvents_;
+    std::array<std::unique_ptr<host::TextBox>, boxCount> text1_;
 };
 
 }  // namespace lumenkit
