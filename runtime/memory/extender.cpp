@@ -21,20 +21,20 @@ float Given(const Value& argument, float otherwise) {
 struct ExtenderMembers {
     PlacedControl& control;
 
-    Text Name() { return control.Name(); }
-    Text Tag() { return control.Tag(); }
+    Text Name() const { return control.Name(); }
+    Text Tag() const { return control.Tag(); }
     void SetTag(TextView tag) { control.SetTag(tag); }
-    float Left() { return control.Left(); }
+    float Left() const { return control.Left(); }
     void SetLeft(float left) { control.Move(left, control.Top()); }
-    float Top() { return control.Top(); }
+    float Top() const { return control.Top(); }
     void SetTop(float top) { control.Move(control.Left(), top); }
-    float Width() { return control.Drawing().CurrentWidth(); }
+    float Width() const { return control.Drawing().CurrentWidth(); }
     void SetWidth(float width) { control.Resize(width, Height()); }
-    float Height() { return control.Drawing().CurrentHeight(); }
+    float Height() const { return control.Drawing().CurrentHeight(); }
     void SetHeight(float height) { control.Resize(Width(), height); }
-    bool Visible() { return control.IsVisible(); }
+    bool Visible() const { return control.IsVisible(); }
     void SetVisible(bool visible) { visible ? control.Show() : control.Hide(); }
-    void Move(Value left, Value top, Value width, Value height) {
+    void Move(const Value& left, const Value& top, const Value& width, const Value& height) {
         const float newWidth = Given(width, Width());
         const float newHeight = Given(height, Height());
         control.Move(Given(left, Left()), Given(top, Top()));

@@ -40,9 +40,10 @@ class User {
     bool DblClick(Element& element);
     bool Mouse(Element& element, MouseAction action, const host::MouseArguments& mouse);
     /// The same on a control's own surface.
-    bool Click(PlacedControl& control);
-    bool DblClick(PlacedControl& control);
-    bool Mouse(PlacedControl& control, MouseAction action, const host::MouseArguments& mouse);
+    static bool Click(PlacedControl& control);
+    static bool DblClick(PlacedControl& control);
+    static bool Mouse(PlacedControl& control, MouseAction action,
+                      const host::MouseArguments& mouse);
 
     /// Moves the thumb to `value`, or as near as the bar goes.
     bool Scroll(ScrollBar& bar, std::int32_t value);
