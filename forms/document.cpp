@@ -1,6 +1,7 @@
 #include "forms/document.h"
 
 #include <cstdint>
+#include <set>
 #include <stdexcept>
 #include <utility>
 
@@ -92,15 +93,23 @@ void Document::ReadCompanion(const CompanionReader& readCompanion) {
         offsets.push_back(placed.reference.offset);
     }
     companion_ = Companion(readCompanion(companionName_), std::move(offsets));
+    // Each record is looked at once, however many references share it.
+    std::set<std::pair<std::uint32_t, bool>> checked;
     for (const PlacedReference& placed : form_.references) {
-        try {
-            companion_.RequireOffset(placed.reference.offset);
-            if (placed.reference.marked) {
-                companion_.String(placed.reference.offset);
-            }
-        } catch (const BadRecord& bad) {
-            Fail(placed.place, bad.what());
+        if (checked.emplace(placed.reference.offset, placed.reference.marked).second) {
+            Check(placed);
         }
+    }
+}
+
+void Document::Check(const PlacedReference& placed) const {
+    try {
+        companion_.RequireOffset(placed.reference.offset);
+        if (placed.reference.marked) {
+            companion_.String(placed.reference.offset);
+        }
+    } catch (const BadRecord& bad) {
+        Fail(placed.place, bad.what());
     }
 }
 

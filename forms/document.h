@@ -71,6 +71,7 @@ class Document {
 
     void ReadCompanion(const CompanionReader& readCompanion);
     void RequireOneCompanion() const;
+    void Check(const PlacedReference& placed) const;
     [[noreturn]] void Fail(Position position, const std::string& text) const;
 
     std::string name_;

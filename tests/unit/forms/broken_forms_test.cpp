@@ -257,10 +257,8 @@ TEST(BrokenForms, LargeOnesEnd) {
         names += "   Begin VB.Label Label1 \n   End\n";
     }
     const std::string text(1000000, 'x');
-    EXPECT_EQ(ErrorOf(WithLine(properties),
-                      "\x02"
-                      "ab"),
-              "no error");
+    const std::string shared = "\x40\x42\x0F\0"s + text + "left over";
+    EXPECT_EQ(ErrorOf(WithLine(properties), shared), "no error");
     EXPECT_EQ(ErrorOf(WithLine(names)), "no error");
     EXPECT_EQ(ErrorOf(WithLine(names) + std::string(5000000, '\0')), "no error");
     EXPECT_EQ(ErrorOf(WithLine("   Caption = \"" + text + "\"")), "no error");

@@ -99,7 +99,7 @@ class Mutation {
 TEST(RoundTrip, OrARefusalFollowsFromAnyDamage) {
     Mutation mutation(lumenkit::testing::TestSeed());
     int sound = 0;
-    constexpr int runs = 20000;
+    constexpr int runs = 10000;
     for (int i = 0; i < runs; ++i) {
         const SampleForm& sample = SampleForms()[mutation.Below(SampleForms().size())];
         std::string form = sample.form;
