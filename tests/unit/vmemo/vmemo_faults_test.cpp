@@ -194,6 +194,21 @@ TEST(VMemoFaultsTest, AnEditThatCannotBeUndoneStays) {
     EXPECT_EQ(memo.Shown(), u"abc") << "the next refusal undoes both";
 }
 
+TEST(VMemoFaultsTest, ACaretThatCannotBePutBackLeavesTheTextRight) {
+    for (const TextView call : {u"TextBox.SetSelLength", u"TextBox.SetSelStart"}) {
+        PlacedMemo memo;
+        Prepare(memo);
+        memo.Type(u"c");
+        memo.TakeLog();
+        memo.Faults().FailCall(call, 1, ErrorNumber::OutOfMemory);
+        memo.Type(u"d");
+        EXPECT_FALSE(memo.Faults().IsArmed());
+        EXPECT_EQ(memo.Shown(), u"abc");
+        EXPECT_FALSE(memo.Probe().Updating());
+        EXPECT_THAT(memo.TakeLog(), ::testing::Contains("error 7 in ApplyRestrictions"));
+    }
+}
+
 TEST(VMemoFaultsTest, AnAssignmentThatFailsHalfWayLeavesTheLaterBoxes) {
     PlacedMemo memo;
     Prepare(memo);
