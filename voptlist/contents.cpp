@@ -26,8 +26,8 @@ std::optional<ContentsItem> ContentsWalk::Next() {
     if (!first && start.Value() > length) {
         return std::nullopt;
     }
-    const Int16 bar = InStr(start.Value(), contents_, u"|");
-    end_ = bar > 0 ? bar : Int16(length) + 1;
+    const std::int32_t bar = InStr(start.Value(), contents_, u"|");
+    end_ = bar > 0 ? Int16(bar) : Int16(length) + 1;
     return SplitItem(Mid(contents_, start.Value(), end_.Value() - start.Value()));
 }
 

@@ -46,7 +46,7 @@ host::OptionButtonDesign ButtonDesign() {
 // Keeps a flag set as long as it lives.
 class Raised {
  public:
-    explicit Raised(bool& flag) : flag_(flag) { flag_ = true; }
+    explicit Raised(bool& flag) : flag_(flag) { flag = true; }
     ~Raised() { flag_ = false; }
     Raised(const Raised&) = delete;
     Raised& operator=(const Raised&) = delete;
@@ -230,10 +230,10 @@ void VOptList::pLetItemAlignment(std::int16_t alignment) {
                [&](host::OptionButton& model) { model.SetAlignment(alignment); });
 }
 
-void VOptList::pLetItemCaption(std::int16_t Index, TextView caption) {
+void VOptList::pLetItemCaption(std::int16_t index, TextView caption) {
     module_.Procedure(u"pLetItemCaption", [&] {
-        if (Index >= 0 && Index < ItemCount) {
-            Option1->Item(Index).SetCaption(caption);
+        if (index >= 0 && index < ItemCount) {
+            Option1->Item(index).SetCaption(caption);
         }
     });
 }

@@ -46,9 +46,9 @@ class VOptList final : public Control, private host::OptionButtonEvents {
     std::int16_t pGetItemAlignment() const;
     /// 0: the button left of its caption, 1: right of it; reports 380 for other values.
     void pLetItemAlignment(std::int16_t alignment);
-    /// The caption of one item, until the items are set up again. An `Index` without an item is
+    /// The caption of one item, until the items are set up again. An `index` without an item is
     /// ignored.
-    void pLetItemCaption(std::int16_t Index, TextView caption);
+    void pLetItemCaption(std::int16_t index, TextView caption);
     bool pGetItemFontBold() const;
     void pLetItemFontBold(bool bold);
     bool pGetItemFontItalic() const;
