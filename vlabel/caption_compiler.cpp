@@ -50,7 +50,7 @@ std::int32_t ColorOf(TextView written) {
 void CaptionCompiler::CompileCaption(TextView caption) {
     module_.Procedure(u"CompileCaption", [&] {
         compiled_.Clear();
-        BeforeSpacing_ = 0.0f;
+        BeforeSpacing_ = 0.0F;
         CaptionReader reader(caption);
         do {
             reader.CheckLineEnd();

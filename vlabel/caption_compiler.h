@@ -39,7 +39,7 @@ class CaptionCompiler {
 
     const Module& module_;
     CompiledCaption compiled_;
-    float BeforeSpacing_ = 0.0f;
+    float BeforeSpacing_ = 0.0F;
     // Scratch: the line and the command at hand, and a parameter to be stored.
     Text line_;
     Text command_;

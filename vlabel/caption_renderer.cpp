@@ -15,7 +15,7 @@ namespace {
 
 class Raised {
  public:
-    explicit Raised(bool& flag) : flag_(flag) { flag_ = true; }
+    explicit Raised(bool& flag) : flag_(flag) { flag = true; }
     ~Raised() { flag_ = false; }
     Raised(const Raised&) = delete;
     Raised& operator=(const Raised&) = delete;

@@ -179,6 +179,10 @@ void VLabel::SetIdealSize() {
         const Int16 contentHeight = renderer_.Drawing().IdealHeight;
         const double pixelX = settings_.TwipsPerPixelX;
         const double pixelY = settings_.TwipsPerPixelY;
+        // 16-bit arithmetic: it may overflow.
+        const auto heightAbove = [&](Int16 pixels) {
+            return static_cast<float>((contentHeight + pixels * settings_.TwipsPerPixelY).Value());
+        };
         bool changed = false;
         const auto resize = [&](float& size, double newSize) {
             size = ToSingle(newSize);
@@ -191,10 +195,10 @@ void VLabel::SetIdealSize() {
         if (ToSingle(contentWidth + 2 * pixelX) < width) {
             resize(width, contentWidth + pixelX * 1.9);
         }
-        if (height < (contentHeight + settings_.TwipsPerPixelY).Value()) {
+        if (height < heightAbove(1)) {
             resize(height, contentHeight.Value() + pixelY * 1.1);
         }
-        if (height > (contentHeight + Int16(2) * settings_.TwipsPerPixelY).Value()) {
+        if (height > heightAbove(2)) {
             resize(height, contentHeight.Value() + pixelY * 1.9);
         }
         if (changed) {
