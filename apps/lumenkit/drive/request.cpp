@@ -35,8 +35,11 @@ std::string WhyNoJson(std::string_view line, std::size_t offset) {
                                 : "not valid JSON at " + ColumnOf(line, offset);
 }
 
-bool IsShallow(int depth, RequestJson::parse_event_t /*event*/, RequestJson& /*parsed*/) {
-    if (depth > deepestNesting) {
+// `depth` is how many arrays and objects what begins or ends lies in.
+bool IsShallow(int depth, RequestJson::parse_event_t event, RequestJson& /*parsed*/) {
+    const bool opens = event == RequestJson::parse_event_t::object_start ||
+                       event == RequestJson::parse_event_t::array_start;
+    if (opens && depth >= deepestNesting) {
         throw BadRequest("nested deeper than " + std::to_string(deepestNesting) + " levels");
     }
     return true;
@@ -45,6 +48,10 @@ bool IsShallow(int depth, RequestJson::parse_event_t /*event*/, RequestJson& /*p
 }  // namespace
 
 RequestJson ParseRequest(std::string_view line) {
+    // The parser would take a NUL for the end.
+    if (const std::size_t nul = line.find('\0'); nul != std::string_view::npos) {
+        throw BadRequest(WhyNoJson(line, nul + 1));
+    }
     try {
         return RequestJson::parse(line, IsShallow);
     } catch (const RequestJson::parse_error& error) {

@@ -1,0 +1,113 @@
+// Written sessions and the examples of docs/drive.md, replayed against the built program.
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <regex>
+#include <set>
+#include <string>
+
+#include <gmock/gmock.h>
+
+#include "tests/apps/drive/session_script.h"
+#include "tests/apps/program.h"
+
+namespace lumenkit::testing {
+
+namespace {
+
+using ::testing::ContainerEq;
+using ::testing::SizeIs;
+
+std::string Read(const std::filesystem::path& path) {
+    std::ifstream file(path, std::ios::binary);
+    return {std::istreambuf_iterator<char>(file), {}};
+}
+
+void Replay(const Script& script, const std::string& name) {
+    ASSERT_FALSE(script.empty()) << name;
+    std::string requests;
+    for (const Exchange& exchange : script) {
+        requests += exchange.request + '\n';
+    }
+    const Outcome outcome = RunProgram("drive", requests);
+    EXPECT_EQ(outcome.status, 0) << name;
+    EXPECT_EQ(outcome.errors, "") << name;
+    const std::vector<std::string> answers = LinesOf(outcome.output);
+    ASSERT_THAT(answers, SizeIs(script.size())) << name;
+    for (std::size_t i = 0; i < script.size(); ++i) {
+        EXPECT_EQ(Difference(script[i], answers[i]), "")
+            << name << ':' << script[i].line << ": " << script[i].request;
+    }
+}
+
+std::vector<std::filesystem::path> SessionFiles() {
+    std::vector<std::filesystem::path> files;
+    for (const auto& entry :
+         std::filesystem::directory_iterator(LUMENKIT_SOURCE_DIR "/tests/apps/drive/sessions")) {
+        files.push_back(entry.path());
+    }
+    return files;
+}
+
+// The requests that `text` names, written as {"do":NAME.
+std::set<std::string> RequestsIn(const std::string& text) {
+    const std::regex request(R"re(\{"do":"([a-z]+)")re");
+    std::set<std::string> names;
+    for (std::sregex_iterator found(text.begin(), text.end(), request), end; found != end;
+         ++found) {
+        names.insert((*found)[1]);
+    }
+    return names;
+}
+
+TEST(DriveSessions, Replay) {
+    const auto files = SessionFiles();
+    EXPECT_THAT(files, SizeIs(7));
+    for (const auto& file : files) {
+        Replay(ParseScript(Read(file)), file.filename().string());
+    }
+}
+
+TEST(DriveSessions, EveryRequestSucceedsInOne) {
+    std::string served;
+    for (const auto& file : SessionFiles()) {
+        for (const Exchange& exchange : ParseScript(Read(file))) {
+            if (exchange.answer.find("\"ok\":false") == std::string::npos) {
+                served += exchange.request;
+            }
+        }
+    }
+    EXPECT_THAT(RequestsIn(served), ContainerEq(RequestsIn(RunProgram("drive --help").output)));
+}
+
+TEST(DriveDocument, ExamplesReplay) {
+    const auto scripts = ScriptsIn(Read(LUMENKIT_SOURCE_DIR "/docs/drive.md"));
+    ASSERT_FALSE(scripts.empty());
+    for (const Script& script : scripts) {
+        Replay(script, "docs/drive.md");
+    }
+}
+
+TEST(DriveDocument, ShowsEveryRequest) {
+    EXPECT_THAT(RequestsIn(Read(LUMENKIT_SOURCE_DIR "/docs/drive.md")),
+                ContainerEq(RequestsIn(RunProgram("drive --help").output)));
+}
+
+TEST(SessionScript, TellsAnswersApart) {
+    const Script script = ParseScript(
+        "remark\n> {\"do\":1}\n< {\"ok\":true,\n<   \"value\":[1]}\n> b\n<~ {\"v\":{\"y\":2}}\n");
+    ASSERT_THAT(script, SizeIs(2));
+    EXPECT_EQ(script[0].line, 2);
+    EXPECT_EQ(script[0].request, "{\"do\":1}");
+    EXPECT_EQ(Difference(script[0], R"({"ok":true,"value":[1]})"), "");
+    EXPECT_NE(Difference(script[0], R"({"ok":true,"value":[1.0]})"), "");
+    EXPECT_NE(Difference(script[0], R"({"ok":true, "value":[1]})"), "");
+    EXPECT_NE(Difference(script[0], R"({"ok":true,"value":[1],"log":[]})"), "");
+    EXPECT_EQ(Difference(script[1], R"({"v":{"x":1,"y":2},"w":3})"), "");
+    EXPECT_NE(Difference(script[1], R"({"v":{"x":1,"y":3}})"), "");
+    EXPECT_NE(Difference(script[1], R"({"v":[2]})"), "");
+}
+
+}  // namespace
+
+}  // namespace lumenkit::testing
