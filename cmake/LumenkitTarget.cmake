@@ -38,7 +38,8 @@ endfunction()
 # Compiles every header beside the caller's CMakeLists.txt (subfolders included) in a translation
 # unit of its own.
 function(lumenkit_headers_compile_alone name)
-    if(NOT LUMENKIT_TESTS)
+    # Once is enough: sanitizers say nothing about it.
+    if(NOT LUMENKIT_TESTS OR LUMENKIT_SANITIZE)
         return()
     endif()
     file(GLOB_RECURSE headers CONFIGURE_DEPENDS RELATIVE "${PROJECT_SOURCE_DIR}"

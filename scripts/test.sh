@@ -22,7 +22,7 @@ scripts/lint.sh
 
 step "Tests under AddressSanitizer and UndefinedBehaviorSanitizer"
 scripts/build.sh native-asan
-ctest --preset native-asan
+ctest --preset native-asan -j "$(nproc)"
 
 step "Tests"
-ctest --preset native
+ctest --preset native -j "$(nproc)"

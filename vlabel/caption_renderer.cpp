@@ -5,26 +5,12 @@
 
 #include "frame/checked_integer.h"
 #include "frame/numbers.h"
+#include "frame/raised_flag.h"
 #include "vlabel/bullet.h"
 #include "vlabel/find_bar.h"
 #include "vlabel/word_wrap.h"
 
 namespace lumenkit {
-
-namespace {
-
-class Raised {
- public:
-    explicit Raised(bool& flag) : flag_(flag) { flag = true; }
-    ~Raised() { flag_ = false; }
-    Raised(const Raised&) = delete;
-    Raised& operator=(const Raised&) = delete;
-
- private:
-    bool& flag_;
-};
-
-}  // namespace
 
 CaptionRenderer::CaptionRenderer(const Module& module, host::Surface& surface,
                                  CaptionSettings& settings)
@@ -35,7 +21,7 @@ void CaptionRenderer::DisplayCaption() {
         if (isDrawing_) {
             return;
         }
-        const Raised drawing(isDrawing_);
+        const RaisedFlag drawing(isDrawing_);
         CompileIfChanged();
         if (!SaveState()) {
             return;  // what is not saved cannot be put back: better no drawing than another font

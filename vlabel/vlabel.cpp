@@ -4,16 +4,31 @@
 
 #include "frame/automation/raise_event.h"
 #include "frame/checked_integer.h"
+#include "frame/host/setting.h"
 #include "vlabel/vlabel_interface.h"
 
 namespace lumenkit {
 
 namespace {
 
-// The names and defaults of the persisted properties are a file format: they stay.
-constexpr Color defaultBackColor = Color::WindowBackground;
-constexpr Color defaultForeColor = Color::ButtonText;
-constexpr TextView defaultCaption = u"VLabel";
+// Names and defaults are a file format: they stay.
+namespace persisted {
+
+constexpr Setting<Color> backColor{u"BackColor", Color::WindowBackground};
+constexpr Setting<Color> foreColor{u"ForeColor", Color::ButtonText};
+constexpr Setting<bool> enabled{u"Enabled", true};
+constexpr TextView font = u"Font";  // by default nothing: always written
+constexpr Setting<std::int16_t> borderStyle{u"BorderStyle", 0};
+constexpr Setting<bool> fontTransparent{u"FontTransparent", true};
+constexpr Setting<std::int16_t> mousePointer{u"MousePointer", 0};
+constexpr TextSetting caption{u"Caption", u"VLabel"};
+constexpr Setting<bool> wordWrap{u"WordWrap", false};
+constexpr Setting<std::int16_t> bulletIndent{u"BulletIndent", 0};
+constexpr TextSetting bulletPrefix{u"BulletPrefix", u""};
+constexpr Setting<bool> autoSize{u"AutoSize", false};
+constexpr Setting<std::int16_t> backStyle{u"BackStyle", 0};
+
+}  // namespace persisted
 
 }  // namespace
 
@@ -239,13 +254,13 @@ void VLabel::UserControl_Initialize() {
 void VLabel::UserControl_InitProperties() {
     module_.Procedure(u"UserControl_InitProperties", [&] {
         surface_.SetCurrentFont(ambient_.AmbientFont());
-        settings_.Caption = defaultCaption;
+        settings_.Caption = persisted::caption.defaultValue;
         settings_.IsCompiled = false;
-        settings_.WordWrap = false;
-        settings_.BulletIndent = 0;
-        AutoSize_ = false;
-        BackColor_ = defaultBackColor;
-        BackStyle_ = 0;
+        settings_.WordWrap = persisted::wordWrap.defaultValue;
+        settings_.BulletIndent = persisted::bulletIndent.defaultValue;
+        AutoSize_ = persisted::autoSize.defaultValue;
+        BackColor_ = persisted::backColor.defaultValue;
+        BackStyle_ = persisted::backStyle.defaultValue;
         ApplyBackColour();
     });
 }
@@ -253,22 +268,22 @@ void VLabel::UserControl_InitProperties() {
 void VLabel::UserControl_ReadProperties(host::PropertyBag& bag) {
     module_.Procedure(u"UserControl_ReadProperties", [&] {
         IsReady_ = false;
-        BackColor_ = ToColor(bag.ReadProperty(u"BackColor", FromColor(defaultBackColor)));
-        surface_.SetForeColor(ToColor(bag.ReadProperty(u"ForeColor", FromColor(defaultForeColor))));
-        surface_.SetEnabled(ToBoolean(bag.ReadProperty(u"Enabled", true)));
+        BackColor_ = persisted::backColor.Read(bag);
+        surface_.SetForeColor(persisted::foreColor.Read(bag));
+        surface_.SetEnabled(persisted::enabled.Read(bag));
         // Without a saved font the surface keeps the one it was designed with.
-        if (host::FontRef font = host::ToFont(bag.ReadProperty(u"Font", ObjectRef()))) {
+        if (host::FontRef font = host::ToFont(bag.ReadProperty(persisted::font, ObjectRef()))) {
             surface_.SetCurrentFont(std::move(font));
         }
-        surface_.SetBorderStyle(ToInteger(bag.ReadProperty(u"BorderStyle", std::int16_t{0})));
-        surface_.SetFontTransparent(ToBoolean(bag.ReadProperty(u"FontTransparent", true)));
-        surface_.SetPointer(ToInteger(bag.ReadProperty(u"MousePointer", std::int16_t{0})));
-        settings_.Caption = ToText(bag.ReadProperty(u"Caption", Text(defaultCaption)));
-        settings_.WordWrap = ToBoolean(bag.ReadProperty(u"WordWrap", false));
-        settings_.BulletIndent = ToInteger(bag.ReadProperty(u"BulletIndent", std::int16_t{0}));
-        settings_.BulletPrefix = ToText(bag.ReadProperty(u"BulletPrefix", Text()));
-        AutoSize_ = ToBoolean(bag.ReadProperty(u"AutoSize", false));
-        BackStyle_ = ToInteger(bag.ReadProperty(u"BackStyle", std::int16_t{0}));
+        surface_.SetBorderStyle(persisted::borderStyle.Read(bag));
+        surface_.SetFontTransparent(persisted::fontTransparent.Read(bag));
+        surface_.SetPointer(persisted::mousePointer.Read(bag));
+        settings_.Caption = persisted::caption.Read(bag);
+        settings_.WordWrap = persisted::wordWrap.Read(bag);
+        settings_.BulletIndent = persisted::bulletIndent.Read(bag);
+        settings_.BulletPrefix = persisted::bulletPrefix.Read(bag);
+        AutoSize_ = persisted::autoSize.Read(bag);
+        BackStyle_ = persisted::backStyle.Read(bag);
         settings_.IsCompiled = false;
         IsReady_ = true;
         ApplyBackColour();
@@ -277,20 +292,19 @@ void VLabel::UserControl_ReadProperties(host::PropertyBag& bag) {
 
 void VLabel::UserControl_WriteProperties(host::PropertyBag& bag) {
     module_.Procedure(u"UserControl_WriteProperties", [&] {
-        bag.WriteProperty(u"BackColor", FromColor(BackColor_), FromColor(defaultBackColor));
-        bag.WriteProperty(u"ForeColor", FromColor(surface_.ForeColor()),
-                          FromColor(defaultForeColor));
-        bag.WriteProperty(u"Enabled", surface_.Enabled(), true);
-        bag.WriteProperty(u"Font", ObjectRef(surface_.CurrentFont()), ObjectRef());
-        bag.WriteProperty(u"BorderStyle", surface_.BorderStyle(), std::int16_t{0});
-        bag.WriteProperty(u"FontTransparent", surface_.FontTransparent(), true);
-        bag.WriteProperty(u"MousePointer", surface_.Pointer(), std::int16_t{0});
-        bag.WriteProperty(u"Caption", settings_.Caption, Text(defaultCaption));
-        bag.WriteProperty(u"WordWrap", settings_.WordWrap, false);
-        bag.WriteProperty(u"BulletIndent", settings_.BulletIndent, std::int16_t{0});
-        bag.WriteProperty(u"BulletPrefix", settings_.BulletPrefix, Text());
-        bag.WriteProperty(u"AutoSize", AutoSize_, false);
-        bag.WriteProperty(u"BackStyle", BackStyle_, std::int16_t{0});
+        persisted::backColor.Write(bag, BackColor_);
+        persisted::foreColor.Write(bag, surface_.ForeColor());
+        persisted::enabled.Write(bag, surface_.Enabled());
+        bag.WriteProperty(persisted::font, surface_.CurrentFont(), ObjectRef());
+        persisted::borderStyle.Write(bag, surface_.BorderStyle());
+        persisted::fontTransparent.Write(bag, surface_.FontTransparent());
+        persisted::mousePointer.Write(bag, surface_.Pointer());
+        persisted::caption.Write(bag, settings_.Caption);
+        persisted::wordWrap.Write(bag, settings_.WordWrap);
+        persisted::bulletIndent.Write(bag, settings_.BulletIndent);
+        persisted::bulletPrefix.Write(bag, settings_.BulletPrefix);
+        persisted::autoSize.Write(bag, AutoSize_);
+        persisted::backStyle.Write(bag, BackStyle_);
     });
 }
 

@@ -5,20 +5,32 @@
 #include <utility>
 
 #include "frame/checked_integer.h"
+#include "frame/host/setting.h"
+#include "frame/raised_flag.h"
 #include "frame/runtime_error.h"
 
 namespace lumenkit {
 
 namespace {
 
-// The names and defaults of the persisted properties are a file format: they stay.
-constexpr Color defaultForeColor = Color::WindowText;
-constexpr bool defaultEnabled = true;
-constexpr bool defaultLocked = false;
-constexpr std::int32_t defaultMaxLength = 0;
-constexpr std::int32_t defaultMousePointer = 0;
-constexpr std::int16_t defaultLimit = 0;
-constexpr std::int32_t defaultScrollBars = 0;
+// Names and defaults are a file format: they stay. FontName and FontSize are written for programs
+// that look at saved forms, but not read: Font has them.
+namespace persisted {
+
+constexpr Setting<Color> foreColor{u"ForeColor", Color::WindowText};
+constexpr Setting<bool> enabled{u"Enabled", true};
+constexpr TextView font = u"Font";  // by default the container's
+constexpr TextSetting fontName{u"FontName", u""};
+constexpr Setting<float> fontSize{u"FontSize", 0};
+constexpr Setting<bool> locked{u"Locked", false};
+constexpr Setting<std::int32_t> maxLength{u"MaxLength", 0};
+constexpr Setting<host::MousePointer> mousePointer{u"MousePointer", host::MousePointer::Default};
+constexpr TextSetting text{u"Text", u""};
+constexpr Setting<std::int16_t> maxCharsPerLine{u"MaxCharsPerLine", 0};
+constexpr Setting<std::int16_t> maxLines{u"MaxLines", 0};
+constexpr Setting<std::int32_t> scrollBars{u"ScrollBars", 0};
+
+}  // namespace persisted
 
 // Identifiers of the font object's members.
 constexpr std::int32_t fontName = 0;
@@ -28,19 +40,6 @@ constexpr std::int16_t enterKey = 13;
 
 // With this Tag, MaxLength is the window handle.
 constexpr TextView handleTag = u"Return hWnd via ML";
-
-// m_Updating, True for the time of a scope: an error on the way ends it too, so that no failure
-// leaves the control deaf to its user.
-class Updating {
- public:
-    explicit Updating(bool& flag) : flag_(flag) { flag = true; }
-    ~Updating() { flag_ = false; }
-    Updating(const Updating&) = delete;
-    Updating& operator=(const Updating&) = delete;
-
- private:
-    bool& flag_;
-};
 
 std::unique_ptr<host::TextBox> AddBox(host::Constituents& constituents, std::int16_t index,
                                       host::TextBoxEvents& events) {
@@ -132,7 +131,7 @@ Restriction VMemo::ApplyRestrictions(std::int16_t index, TextView text, Restrict
 
 void VMemo::WriteBack(host::TextBox& box, const Restriction& restriction) {
     {
-        const Updating updating(m_Updating);
+        const RaisedFlag updating(m_Updating);
         if (restriction.refused) {
             box.SetText(m_AcceptedText);
         } else {
@@ -245,7 +244,7 @@ Text VMemo::pGetText() const {
 void VMemo::pLetText(TextView text) {
     module_.Procedure(u"pLetText", [&] {
         const Restriction restriction = ApplyRestrictions(0, text, RestrictionMode::Plain);
-        const Updating updating(m_Updating);
+        const RaisedFlag updating(m_Updating);
         if (host_.container.CanPropertyChange(u"Text")) {
             ForBoxes(0, [&](host::TextBox& box) { box.SetText(restriction.Of(text)); });
             host_.container.PropertyChanged(u"Text");
@@ -286,30 +285,28 @@ void VMemo::TestMessage() {
 // ---- The container's calls
 
 void VMemo::UserControl_InitProperties() {
-    m_MaxCharsPerLine = defaultLimit;
-    m_MaxLines = defaultLimit;
-    m_ScrollBars = defaultScrollBars;
+    m_MaxCharsPerLine = persisted::maxCharsPerLine.defaultValue;
+    m_MaxLines = persisted::maxLines.defaultValue;
+    m_ScrollBars = persisted::scrollBars.defaultValue;
 }
 
-// FontName and FontSize are not read, Font has them. The text comes in as it was saved, whatever
-// the limits, and does not count as accepted.
+// The text comes in as it was saved, whatever the limits, and does not count as accepted.
 void VMemo::UserControl_ReadProperties(host::PropertyBag& bag) {
     module_.Procedure(u"UserControl_ReadProperties", [&] {
         {
-            const Updating updating(m_Updating);
+            const RaisedFlag updating(m_Updating);
             host::TextBox& box = Text1(0);
-            box.SetForeColor(ToColor(bag.ReadProperty(u"ForeColor", FromColor(defaultForeColor))));
-            box.SetEnabled(ToBoolean(bag.ReadProperty(u"Enabled", defaultEnabled)));
+            box.SetForeColor(persisted::foreColor.Read(bag));
+            box.SetEnabled(persisted::enabled.Read(bag));
             box.SetCurrentFont(
-                host::ToFont(bag.ReadProperty(u"Font", ObjectRef(host_.ambient.AmbientFont()))));
-            box.SetLocked(ToBoolean(bag.ReadProperty(u"Locked", defaultLocked)));
-            box.SetMaxLength(ToLong(bag.ReadProperty(u"MaxLength", defaultMaxLength)));
-            box.SetPointer(static_cast<host::MousePointer>(
-                ToLong(bag.ReadProperty(u"MousePointer", defaultMousePointer))));
-            box.SetText(ToText(bag.ReadProperty(u"Text", Text())));
-            m_MaxCharsPerLine = ToInteger(bag.ReadProperty(u"MaxCharsPerLine", defaultLimit));
-            m_MaxLines = ToInteger(bag.ReadProperty(u"MaxLines", defaultLimit));
-            m_ScrollBars = ToLong(bag.ReadProperty(u"ScrollBars", defaultScrollBars));
+                host::ToFont(bag.ReadProperty(persisted::font, host_.ambient.AmbientFont())));
+            box.SetLocked(persisted::locked.Read(bag));
+            box.SetMaxLength(persisted::maxLength.Read(bag));
+            box.SetPointer(persisted::mousePointer.Read(bag));
+            box.SetText(persisted::text.Read(bag));
+            m_MaxCharsPerLine = persisted::maxCharsPerLine.Read(bag);
+            m_MaxLines = persisted::maxLines.Read(bag);
+            m_ScrollBars = persisted::scrollBars.Read(bag);
             CopyProperties();
         }
         if (m_ScrollBars != 0) {
@@ -337,20 +334,18 @@ void VMemo::CopyProperties() {
 void VMemo::UserControl_WriteProperties(host::PropertyBag& bag) {
     module_.Procedure(u"UserControl_WriteProperties", [&] {
         host::TextBox& box = ActiveBox();
-        bag.WriteProperty(u"ForeColor", FromColor(box.ForeColor()), FromColor(defaultForeColor));
-        bag.WriteProperty(u"Enabled", box.Enabled(), defaultEnabled);
-        bag.WriteProperty(u"Font", ObjectRef(box.CurrentFont()),
-                          ObjectRef(host_.ambient.AmbientFont()));
-        bag.WriteProperty(u"FontName", box.CurrentFont()->Name(), Text());
-        bag.WriteProperty(u"FontSize", box.CurrentFont()->Size(), 0.0F);
-        bag.WriteProperty(u"Locked", box.Locked(), defaultLocked);
-        bag.WriteProperty(u"MaxLength", box.MaxLength(), defaultMaxLength);
-        bag.WriteProperty(u"MousePointer", static_cast<std::int32_t>(box.Pointer()),
-                          defaultMousePointer);
-        bag.WriteProperty(u"Text", Text(box.GetText()), Text());
-        bag.WriteProperty(u"MaxCharsPerLine", m_MaxCharsPerLine, defaultLimit);
-        bag.WriteProperty(u"MaxLines", m_MaxLines, defaultLimit);
-        bag.WriteProperty(u"ScrollBars", m_ScrollBars, defaultScrollBars);
+        persisted::foreColor.Write(bag, box.ForeColor());
+        persisted::enabled.Write(bag, box.Enabled());
+        bag.WriteProperty(persisted::font, box.CurrentFont(), host_.ambient.AmbientFont());
+        persisted::fontName.Write(bag, box.CurrentFont()->Name());
+        persisted::fontSize.Write(bag, box.CurrentFont()->Size());
+        persisted::locked.Write(bag, box.Locked());
+        persisted::maxLength.Write(bag, box.MaxLength());
+        persisted::mousePointer.Write(bag, box.Pointer());
+        persisted::text.Write(bag, Text(box.GetText()));
+        persisted::maxCharsPerLine.Write(bag, m_MaxCharsPerLine);
+        persisted::maxLines.Write(bag, m_MaxLines);
+        persisted::scrollBars.Write(bag, m_ScrollBars);
     });
 }
 

@@ -2,7 +2,8 @@
 
 #include <utility>
 
-#include "voptlist/setting.h"
+#include "frame/host/setting.h"
+#include "frame/raised_flag.h"
 #include "voptlist/voptlist_interface.h"
 
 namespace lumenkit {
@@ -42,18 +43,6 @@ host::OptionButtonDesign ButtonDesign() {
     design.caption = u"Item 0";
     return design;
 }
-
-// Keeps a flag set as long as it lives.
-class Raised {
- public:
-    explicit Raised(bool& flag) : flag_(flag) { flag = true; }
-    ~Raised() { flag_ = false; }
-    Raised(const Raised&) = delete;
-    Raised& operator=(const Raised&) = delete;
-
- private:
-    bool& flag_;
-};
 
 }  // namespace
 
@@ -103,7 +92,7 @@ void VOptList::UserControl_ReadProperties(host::PropertyBag& bag) {
         Spacing = persisted::spacing.Read(bag);
         TopMargin = persisted::topMargin.Read(bag);
 
-        const Raised ignoring(IgnoreClicks);
+        const RaisedFlag ignoring(IgnoreClicks);
         SetupControls();
         CopyProperties();
         MoveControls();

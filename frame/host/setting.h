@@ -9,6 +9,7 @@
 
 namespace lumenkit {
 
+/// `Default` is what a constant of type T can be made of: the type itself but for texts.
 template <typename T, typename Default = T>
 struct Setting {
     TextView name;
