@@ -27,6 +27,7 @@ using lumenkit::bench::captionCount;
 using lumenkit::bench::Captions;
 using lumenkit::bench::Marked;
 using lumenkit::bench::MarkedTexts;
+using lumenkit::bench::PlainTexts;
 using lumenkit::bench::Ratio;
 using lumenkit::bench::Side;
 using lumenkit::bench::Texts;
@@ -115,14 +116,15 @@ std::vector<Text> UnterminatedCommands() {
 
 int main(int argc, char** argv) {
     Compiling compiling;
-    const auto againstPango = [&](const char* what, int units, int runs) {
-        const std::vector<Marked> texts = Texts(units, runs);
+    const auto againstPango = [&](const char* what, const std::vector<Marked>& texts) {
         AddComparison({what, "caption", compiling.Captions(Captions(texts), captionCount),
                        Pango(texts), Ratio::TimesFaster, ">= 10x"});
     };
-    againstPango("compile small (120 units, 7 runs), against Pango", 120, 7);
-    againstPango("compile medium (2,000 units, 80 runs), against Pango", 2'000, 80);
-    againstPango("compile large (30,000 units, 1,200 runs), against Pango", 30'000, 1'200);
+    againstPango("compile small (120 units, 7 runs), against Pango", Texts(120, 7));
+    againstPango("compile medium (2,000 units, 80 runs), against Pango", Texts(2'000, 80));
+    againstPango("compile large (30,000 units, 1,200 runs), against Pango", Texts(30'000, 1'200));
+    againstPango("small, only bold and back, against Pango", PlainTexts(120, 7));
+    againstPango("medium, only bold and back, against Pango", PlainTexts(2'000, 80));
 
     const auto perUnit = [&](const char* what, const std::vector<Text>& captions,
                              const std::vector<Text>& bound, const char* aim) {

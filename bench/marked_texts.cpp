@@ -49,6 +49,19 @@ Marked MarkedTexts::Next(int units, int runs) {
     return text;
 }
 
+Marked MarkedTexts::NextPlain(int units, int runs) {
+    Marked text;
+    for (int run = 1; run <= runs; ++run) {
+        const bool bold = run % 2 != 0;
+        const std::string command = bold ? "|B:1|" : "|B:0|";
+        const std::string words =
+            Words(std::max(units / runs - static_cast<int>(command.size()), 4));
+        text.caption += FromUtf8(command + words);
+        text.markup += bold ? "<b>" + words + "</b>" : words;
+    }
+    return text;
+}
+
 std::string MarkedTexts::Words(int length) {
     static constexpr std::array words = {"the ",   "label ", "draws ", "every ", "run ",     "and ",
                                          "wraps ", "long ",  "lines ", "at ",    "blanks, ", "so "};
@@ -94,13 +107,25 @@ std::string MarkedTexts::Tagged(std::string words, const Style& style) {
     return span.empty() ? words : "<span" + span + ">" + words + "</span>";
 }
 
-std::vector<Marked> Texts(int units, int runs) {
-    MarkedTexts texts;
+namespace {
+
+template <typename Make>
+std::vector<Marked> AsMany(Make&& make) {
     std::vector<Marked> marked;
     for (int i = 0; i < captionCount; ++i) {
-        marked.push_back(texts.Next(units, runs));
+        marked.push_back(make());
     }
     return marked;
+}
+
+}  // namespace
+
+std::vector<Marked> Texts(int units, int runs) {
+    return AsMany([&, texts = MarkedTexts()]() mutable { return texts.Next(units, runs); });
+}
+
+std::vector<Marked> PlainTexts(int units, int runs) {
+    return AsMany([&, texts = MarkedTexts()]() mutable { return texts.NextPlain(units, runs); });
 }
 
 std::vector<Text> Captions(const std::vector<Marked>& texts) {

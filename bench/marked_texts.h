@@ -25,6 +25,9 @@ class MarkedTexts {
  public:
     /// `runs` runs; the caption comes to about `units` units, with a line break every ten runs.
     Marked Next(int units, int runs);
+    /// The least that can be marked: every second of `runs` runs is bold, in tags of its own, and
+    /// the one behind it takes that back.
+    Marked NextPlain(int units, int runs);
 
     std::string Words(int length);
 
@@ -40,6 +43,7 @@ class MarkedTexts {
 
 /// As many as captionCount.
 std::vector<Marked> Texts(int units, int runs);
+std::vector<Marked> PlainTexts(int units, int runs);
 
 std::vector<Text> Captions(const std::vector<Marked>& texts);
 

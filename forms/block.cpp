@@ -52,14 +52,14 @@ Block::Iterator Block::FindControl(const Block& control) const {
 }
 
 Property* Block::FindProperty(TextView name) const {
-    const Iterator found = FindSetting(name);
+    const auto found = FindSetting(name);
     const auto* property =
         found == items_.end() ? nullptr : std::get_if<std::unique_ptr<Property>>(&*found);
     return property == nullptr ? nullptr : property->get();
 }
 
 Block* Block::FindGroup(TextView name) const {
-    const Iterator found = FindSetting(name);
+    const auto found = FindSetting(name);
     return found == items_.end() ? nullptr : AsBlock(*found, BlockKind::Group);
 }
 
@@ -82,12 +82,12 @@ Text Block::LineBreak() const {
 }
 
 void Block::Place(TextView name, Item setting, TextView after) {
-    const Iterator present = FindSetting(name);
+    const auto present = FindSetting(name);
     if (present != items_.end()) {
         items_[static_cast<std::size_t>(present - items_.begin())] = std::move(setting);
         return;
     }
-    const Iterator before = FindSetting(after);
+    const auto before = FindSetting(after);
     if (before != items_.end()) {
         items_.insert(before + 1, std::move(setting));
         return;
@@ -127,7 +127,7 @@ Block& Block::Group(TextView name, TextView identifier, TextView after) {
 }
 
 bool Block::Remove(TextView name) {
-    const Iterator found = FindSetting(name);
+    const auto found = FindSetting(name);
     if (found == items_.end()) {
         return false;
     }
@@ -147,7 +147,7 @@ Block& Block::AddControl(TextView className, TextView name, const Block* before)
 }
 
 bool Block::RemoveControl(const Block& control) {
-    const Iterator found = FindControl(control);
+    const auto found = FindControl(control);
     if (found == items_.end()) {
         return false;
     }
@@ -157,7 +157,7 @@ bool Block::RemoveControl(const Block& control) {
 
 Block& Block::Append(std::unique_ptr<Block> block) {
     Block& added = *block;
-    items_.push_back(std::move(block));
+    items_.emplace_back(std::move(block));
     return added;
 }
 

@@ -78,8 +78,8 @@ class Block {
 
     /// For the parser: adds what comes next in the file.
     Block& Append(std::unique_ptr<Block> block);
-    void Append(std::unique_ptr<Property> property) { items_.push_back(std::move(property)); }
-    void Append(std::unique_ptr<IdleLine> line) { items_.push_back(std::move(line)); }
+    void Append(std::unique_ptr<Property> property) { items_.emplace_back(std::move(property)); }
+    void Append(std::unique_ptr<IdleLine> line) { items_.emplace_back(std::move(line)); }
     void Close(Text line) { close_ = std::move(line); }
 
  private:

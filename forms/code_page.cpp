@@ -14,9 +14,9 @@ struct Page {
     std::array<char16_t, 128> upper;
 };
 
-constexpr Page pages[] = {
+constexpr std::array<Page, 9> pages = {{
 #include "forms/code_page_tables.inc"
-};
+}};
 
 const Page& Find(int number) {
     const auto* page = std::find_if(std::begin(pages), std::end(pages),

@@ -1,5 +1,6 @@
 #include "forms/document.h"
 
+#include <array>
 #include <cstdint>
 #include <set>
 #include <stdexcept>
@@ -41,8 +42,9 @@ std::string DesignersCompanionName(const std::string& path) {
     const std::size_t dot = file.rfind('.');
     const std::string stem = file.substr(0, dot);
     const std::string extension = dot == std::string::npos ? "" : file.substr(dot);
-    constexpr std::pair<std::string_view, std::string_view> companions[] = {
-        {".frm", ".frx"}, {".ctl", ".ctx"}, {".pag", ".pgx"}, {".dob", ".dox"}};
+    using Names = std::pair<std::string_view, std::string_view>;
+    constexpr std::array companions = {Names{".frm", ".frx"}, Names{".ctl", ".ctx"},
+                                       Names{".pag", ".pgx"}, Names{".dob", ".dox"}};
     for (const auto& [form, companion] : companions) {
         if (SameText(FromUtf8(extension), FromUtf8(form), Compare::IgnoreCase)) {
             return stem + std::string(companion);
@@ -64,7 +66,7 @@ Document Document::Parse(std::string name, std::string_view bytes,
 
 Document::Document(std::string name, Encoding encoding, ParsedForm form)
     : name_(std::move(name)),
-      encoding_(encoding),
+      encoding_(std::move(encoding)),
       form_(std::move(form)),
       companionName_(form_.references.empty() ? DesignersCompanionName(name_)
                                               : ToUtf8(form_.references.front().reference.file)) {}

@@ -5,6 +5,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
 
 #include "forms/code_page.h"
 #include "frame/text.h"
@@ -33,7 +34,7 @@ class Encoding {
     std::string Encode(TextView text) const;
 
  private:
-    explicit Encoding(CodePage codePage) : codePage_(codePage) {}
+    explicit Encoding(CodePage codePage) : codePage_(std::move(codePage)) {}
 
     CodePage codePage_;
     bool utf8_ = false;

@@ -39,8 +39,8 @@ std::string ReadBytes(const fs::path& path) {
 // New contents for a file, beside it until they take its place; gone if they never do.
 class Replacement {
  public:
-    Replacement(fs::path target, std::string_view bytes)
-        : target_(Resolved(std::move(target))), beside_(target_) {
+    Replacement(const fs::path& target, std::string_view bytes)
+        : target_(Resolved(target)), beside_(target_) {
         beside_ += ".new";
         std::ofstream stream(beside_, std::ios::binary);
         stream.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
@@ -68,7 +68,7 @@ class Replacement {
 
  private:
     // Not the link is replaced but the file that it leads to.
-    static fs::path Resolved(fs::path path) {
+    static fs::path Resolved(const fs::path& path) {
         std::error_code error;
         fs::path resolved = fs::canonical(path, error);
         return error ? path : resolved;

@@ -49,7 +49,7 @@ struct SourceWriter {
         return (reference.marked ? u"$" : u"") + Quoted(reference.file) + u':' +
                Hexadecimal(reference.offset, 4);
     }
-    Text operator()(const CompanionText&) const { return {}; }
+    Text operator()(const CompanionText& /*text*/) const { return {}; }
 };
 
 bool BelongsInCompanion(TextView text) {

@@ -108,15 +108,12 @@ Text LCase(TextView text) {
 }
 
 void LowerInPlace(Text& text) {
-    const auto lowerAscii = [](char16_t unit) {
-        const bool capital = unit >= u'A' && unit <= u'Z';
-        return static_cast<char16_t>(capital ? unit + 0x20 : unit);
-    };
-    const bool ascii = std::ranges::none_of(text, [](char16_t unit) { return unit >= 0x80; });
-    if (ascii) {  // the common case, and quick
-        std::ranges::transform(text, text.begin(), lowerAscii);
-    } else {
-        std::ranges::transform(text, text.begin(), LowerUnit);
+    for (char16_t& unit : text) {
+        if (unit >= 0x80) {
+            unit = LowerUnit(unit);
+        } else if (unit >= u'A' && unit <= u'Z') {  // the common case, and quick
+            unit = static_cast<char16_t>(unit + 0x20);
+        }
     }
 }
 

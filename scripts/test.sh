@@ -13,16 +13,19 @@ scripts/setup.sh build
 python3 scripts/check_includes.py --self-test
 python3 scripts/check_includes.py
 
+step "Build and tests"
+scripts/build.sh native
+ctest --preset native -j "$(nproc)"
+
 step "Cross-compilation for Windows (x64, x86)"
 scripts/ocx.sh
 
-step "Static analysis"
-scripts/build.sh native
-scripts/lint.sh
-
-step "Tests under AddressSanitizer and UndefinedBehaviorSanitizer"
+step "Build and tests under AddressSanitizer and UndefinedBehaviorSanitizer"
 scripts/build.sh native-asan
 ctest --preset native-asan -j "$(nproc)"
 
-step "Tests"
+step "Static analysis"
+scripts/lint.sh
+
+# The last word, where it is looked for.
 ctest --preset native -j "$(nproc)"

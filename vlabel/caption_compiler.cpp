@@ -13,10 +13,14 @@ namespace {
 constexpr std::int32_t maxLines = 300;
 
 TextView Switch(TextView written) {
-    if (written == u"0|" || written == u"false|") {
+    const bool isDigit = written.size() == 2 && (written[0] == u'0' || written[0] == u'1');
+    if (isDigit && written[1] == u'|') {  // what captions mostly say
+        return written.substr(0, 1);
+    }
+    if (written == u"false|") {
         return u"0";
     }
-    if (written == u"1|" || written == u"true|") {
+    if (written == u"true|") {
         return u"1";
     }
     return written;

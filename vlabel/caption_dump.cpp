@@ -29,7 +29,8 @@ void AppendEscaped(std::string& dump, char16_t unit) {
             break;
         default:
             std::array<char, 8> image{};
-            std::snprintf(image.data(), image.size(), "\\u%04X", static_cast<unsigned>(unit));
+            static_cast<void>(
+                std::snprintf(image.data(), image.size(), "\\u%04X", static_cast<unsigned>(unit)));
             dump += image.data();
     }
 }

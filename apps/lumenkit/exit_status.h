@@ -1,12 +1,12 @@
+// What the program tells the shell.
 #pragma once
 
 namespace lumenkit::cli {
 
-/// What the program tells the shell.
-enum ExitStatus {
-    exitDone = 0,
-    exitReported = 1,  ///< done, but the controls reported an error
-    exitUnusable = 2,  ///< wrong arguments, or input that cannot be read
-};
+inline constexpr int exitDone = 0;
+/// Done, but the controls reported an error.
+inline constexpr int exitReported = 1;
+/// Wrong arguments, or input that cannot be read.
+inline constexpr int exitUnusable = 2;
 
 }  // namespace lumenkit::cli

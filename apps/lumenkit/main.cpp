@@ -1,6 +1,6 @@
 // The command line: one file per command, joined here.
+#include <cstdio>
 #include <exception>
-#include <iostream>
 
 #include <CLI/CLI.hpp>
 
@@ -8,16 +8,18 @@
 #include "apps/lumenkit/drive_command.h"
 #include "apps/lumenkit/exit_status.h"
 
-int main(int argc, char** argv) {
-    using namespace lumenkit::cli;
+namespace lumenkit::cli {
+
+namespace {
+
+int Run(int argc, char** argv) {
     CLI::App program("Works with lumenkit's captions and controls without a screen.", "lumenkit");
     program.set_version_flag("--version", LUMENKIT_VERSION);
     program.require_subcommand(1);
-    program.footer(
-        "Examples:\n"
-        "  lumenkit compile samples/captions/headline.txt\n"
-        "  echo '{\"do\":\"new\",\"class\":\"VMemo\",\"id\":\"m\"}' | lumenkit drive\n"
-        "  lumenkit compile --help");
+    program.footer(R"(Examples:
+  lumenkit compile samples/captions/headline.txt
+  echo '{"do":"new","class":"VMemo","id":"m"}' | lumenkit drive
+  lumenkit compile --help)");
     int status = exitDone;
     AddCompileCommand(program, status);
     AddDriveCommand(program, status);
@@ -26,8 +28,18 @@ int main(int argc, char** argv) {
         return status;
     } catch (const CLI::ParseError& error) {
         return program.exit(error) == 0 ? exitDone : exitUnusable;
+    }
+}
+
+}  // namespace
+
+}  // namespace lumenkit::cli
+
+int main(int argc, char** argv) {
+    try {
+        return lumenkit::cli::Run(argc, argv);
     } catch (const std::exception& error) {
-        std::cerr << "lumenkit: " << error.what() << '\n';
-        return exitUnusable;
+        static_cast<void>(std::fprintf(stderr, "lumenkit: %s\n", error.what()));
+        return lumenkit::cli::exitUnusable;
     }
 }

@@ -1,10 +1,11 @@
 #include "apps/lumenkit/text_input.h"
 
+#include <array>
 #include <cerrno>
 #include <cstdio>
-#include <cstring>
 #include <memory>
 #include <string_view>
+#include <system_error>
 
 #include "frame/utf8.h"
 
@@ -12,14 +13,18 @@ namespace lumenkit::cli {
 
 namespace {
 
+std::string LastError() {
+    return std::generic_category().message(errno);
+}
+
 std::string ReadAll(std::FILE* file, const std::string& name) {
     std::string bytes;
-    char block[65536];
-    while (const std::size_t count = std::fread(block, 1, sizeof block, file)) {
-        bytes.append(block, count);
+    std::array<char, 65536> block{};
+    while (const std::size_t count = std::fread(block.data(), 1, block.size(), file)) {
+        bytes.append(block.data(), count);
     }
     if (std::ferror(file) != 0) {
-        throw UnusableInput("cannot read " + name + ": " + std::strerror(errno));
+        throw UnusableInput("cannot read " + name + ": " + LastError());
     }
     return bytes;
 }
@@ -28,7 +33,7 @@ std::string ReadFile(const std::string& path) {
     const std::unique_ptr<std::FILE, int (*)(std::FILE*)> file(std::fopen(path.c_str(), "rb"),
                                                                std::fclose);
     if (!file) {
-        throw UnusableInput("cannot read " + path + ": " + std::strerror(errno));
+        throw UnusableInput("cannot read " + path + ": " + LastError());
     }
     return ReadAll(file.get(), path);
 }

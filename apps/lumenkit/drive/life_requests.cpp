@@ -23,7 +23,7 @@ const ClassDescriptor& ClassNamed(const std::string& name, const memory::Form& f
 bool IsUserMode(const Fields& request) {
     const std::string mode = request.String("mode", "run");
     if (mode != "run" && mode != "design") {
-        throw BadRequest("\"mode\" must be \"run\" or \"design\"");
+        throw BadRequest(R"("mode" must be "run" or "design")");
     }
     return mode == "run";
 }

@@ -48,7 +48,7 @@ memory::MouseAction ActionOf(const std::string& event) {
     if (event == "MouseUp") {
         return memory::MouseAction::Up;
     }
-    throw BadRequest("\"event\" must be \"MouseDown\", \"MouseMove\" or \"MouseUp\"");
+    throw BadRequest(R"("event" must be "MouseDown", "MouseMove" or "MouseUp")");
 }
 
 }  // namespace
