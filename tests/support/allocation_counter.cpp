@@ -8,10 +8,12 @@ namespace lumenkit::testing {
 namespace {
 
 std::int64_t count = 0;
+std::size_t bytes = 0;
 std::int64_t untilFailure = 0;
 
 void* Allocate(std::size_t size) {
     ++count;
+    bytes += size;
     if (untilFailure > 0 && --untilFailure == 0) {
         throw std::bad_alloc();
     }
@@ -28,6 +30,10 @@ std::int64_t AllocationCount() {
     return count;
 }
 
+std::size_t AllocatedBytes() {
+    return bytes;
+}
+
 void FailAllocation(std::int64_t ordinal) {
     untilFailure = ordinal;
 }
@@ -38,13 +44,22 @@ bool AllocationFailurePending() {
 
 }  // namespace lumenkit::testing
 
-// The standard library's other forms end in these. Nothing here is over-aligned.
+// The nothrow forms end in these. Nothing here is over-aligned.
 void* operator new(std::size_t size) {
+    return lumenkit::testing::Allocate(size);
+}
+void* operator new[](std::size_t size) {
     return lumenkit::testing::Allocate(size);
 }
 void operator delete(void* memory) noexcept {
     std::free(memory);
 }
+void operator delete[](void* memory) noexcept {
+    std::free(memory);
+}
 void operator delete(void* memory, std::size_t /*size*/) noexcept {
+    std::free(memory);
+}
+void operator delete[](void* memory, std::size_t /*size*/) noexcept {
     std::free(memory);
 }

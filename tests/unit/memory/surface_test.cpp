@@ -6,7 +6,7 @@
 
 #include <gtest/gtest.h>
 
-#include "tests/unit/memory/allocation_counter.h"
+#include "tests/support/allocation_counter.h"
 #include "tests/unit/memory/expect_error.h"
 
 namespace lumenkit::memory {
@@ -166,18 +166,18 @@ TEST_F(MemorySurface, DrawingTheSameAgainAllocatesNothing) {
     std::array<double, 64> ends{};
     DrawPage(surface_, ends);
     const std::size_t drawn = surface_.Drawn().Size();
-    const std::int64_t before = testing::Allocations();
+    const std::int64_t before = testing::AllocationCount();
     for (int round = 0; round < 10; ++round) {
         DrawPage(surface_, ends);
     }
-    EXPECT_EQ(testing::Allocations(), before);
+    EXPECT_EQ(testing::AllocationCount(), before);
     EXPECT_EQ(surface_.Drawn().Size(), drawn);
 }
 
 TEST(AllocationCounter, SeesAllocations) {
-    const std::int64_t before = testing::Allocations();
+    const std::int64_t before = testing::AllocationCount();
     const Text text(100, u'x');
-    EXPECT_EQ(testing::Allocations(), before + 1) << text.size();
+    EXPECT_EQ(testing::AllocationCount(), before + 1) << text.size();
 }
 
 }  // namespace

@@ -1,7 +1,5 @@
 #include "vlabel/caption_compiler.h"
 
-#include <cstdlib>
-#include <new>
 #include <string>
 #include <utility>
 #include <vector>
@@ -9,42 +7,9 @@
 #include <gmock/gmock.h>
 
 #include "frame/utf8.h"
+#include "tests/support/allocation_counter.h"
 #include "tests/support/fake_reporter.h"
 #include "vlabel/caption_dump.h"
-
-namespace {
-
-std::size_t allocations = 0;
-
-void* Allocate(std::size_t size) {
-    ++allocations;
-    void* const memory = std::malloc(size == 0 ? 1 : size);
-    if (memory == nullptr) {
-        throw std::bad_alloc();
-    }
-    return memory;
-}
-
-}  // namespace
-
-void* operator new(std::size_t size) {
-    return Allocate(size);
-}
-void* operator new[](std::size_t size) {
-    return Allocate(size);
-}
-void operator delete(void* memory) noexcept {
-    std::free(memory);
-}
-void operator delete[](void* memory) noexcept {
-    std::free(memory);
-}
-void operator delete(void* memory, std::size_t) noexcept {
-    std::free(memory);
-}
-void operator delete[](void* memory, std::size_t) noexcept {
-    std::free(memory);
-}
 
 namespace lumenkit {
 
@@ -417,10 +382,10 @@ TEST_F(CaptionCompilerTest, UsedAgainItAllocatesNothing) {
         u"A |b:1|bold|b:0| word|CR||fore:0,128,0||size:12.5|Say |Q|hi|Q||before:+20|x|unknown:Ä|",
         99);
     compiler_.CompileCaption(caption);
-    const std::size_t before = allocations;
+    const std::int64_t before = testing::AllocationCount();
     ASSERT_GT(before, 0u);
     compiler_.CompileCaption(caption);
-    EXPECT_EQ(allocations, before);
+    EXPECT_EQ(testing::AllocationCount(), before);
     EXPECT_EQ(Lines().size(), 100u);
 }
 

@@ -1,48 +1,13 @@
 #include "vmemo/restriction_engine.h"
 
 #include <chrono>
-#include <cstdlib>
-#include <new>
 
 #include <gmock/gmock.h>
 #include <sys/mman.h>
 
 #include "frame/runtime_error.h"
 #include "frame/utf8.h"
-
-namespace {
-
-std::size_t allocatedBytes = 0;
-
-void* Allocate(std::size_t size) {
-    allocatedBytes += size;
-    void* const memory = std::malloc(size == 0 ? 1 : size);
-    if (memory == nullptr) {
-        throw std::bad_alloc();
-    }
-    return memory;
-}
-
-}  // namespace
-
-void* operator new(std::size_t size) {
-    return Allocate(size);
-}
-void* operator new[](std::size_t size) {
-    return Allocate(size);
-}
-void operator delete(void* memory) noexcept {
-    std::free(memory);
-}
-void operator delete[](void* memory) noexcept {
-    std::free(memory);
-}
-void operator delete(void* memory, std::size_t) noexcept {
-    std::free(memory);
-}
-void operator delete[](void* memory, std::size_t) noexcept {
-    std::free(memory);
-}
+#include "tests/support/allocation_counter.h"
 
 namespace lumenkit {
 
@@ -250,18 +215,18 @@ TEST(RestrictionEngineTest, ARefusalComesTooLateForNoCutBeforeIt) {
 TEST(RestrictionEngineTest, ATextThatFitsIsNotCopied) {
     const Text text = Text(5000, u'x') + u"\r\n" + Text(5000, u'x');
     for (const RestrictionMode mode : {RestrictionMode::Plain, RestrictionMode::Apply}) {
-        const std::size_t before = allocatedBytes;
+        const std::size_t before = testing::AllocatedBytes();
         const Restriction restriction = Restrict(text, {5000, 2}, mode);
-        EXPECT_EQ(allocatedBytes, before);
+        EXPECT_EQ(testing::AllocatedBytes(), before);
         EXPECT_EQ(restriction.Of(text).data(), text.data());
     }
 }
 
 TEST(RestrictionEngineTest, ARefusalCopiesNothing) {
     const Text text = Text(5001, u' ') + u"\r\n" + Text(6000, u'x');
-    const std::size_t before = allocatedBytes;
+    const std::size_t before = testing::AllocatedBytes();
     const Restriction restriction = Restrict(text, {5000, 2}, RestrictionMode::Apply);
-    EXPECT_LT(allocatedBytes, before + 100);
+    EXPECT_LT(testing::AllocatedBytes(), before + 100);
     EXPECT_TRUE(restriction.trimmed);
     EXPECT_TRUE(restriction.refused);
     EXPECT_TRUE(restriction.cut.empty());
@@ -269,10 +234,10 @@ TEST(RestrictionEngineTest, ARefusalCopiesNothing) {
 
 TEST(RestrictionEngineTest, ACutTextIsCopiedOnce) {
     const Text text = Text(5000, u'x') + u" \r\n" + Text(5000, u'x');
-    const std::size_t before = allocatedBytes;
+    const std::size_t before = testing::AllocatedBytes();
     const Restriction restriction = Restrict(text, {5000, 0}, RestrictionMode::Plain);
     EXPECT_EQ(restriction.cut.size(), text.size() - 1);
-    EXPECT_LT(allocatedBytes, before + (text.size() + 100) * sizeof(char16_t));
+    EXPECT_LT(testing::AllocatedBytes(), before + (text.size() + 100) * sizeof(char16_t));
 }
 
 TEST(RestrictionEngineTest, ManyCutsDoNotMoveTheRestOfTheTextEachTime) {
