@@ -20,12 +20,9 @@ ctest --preset native -j "$(nproc)"
 step "Cross-compilation for Windows (x64, x86)"
 scripts/ocx.sh
 
-step "Build and tests under AddressSanitizer and UndefinedBehaviorSanitizer"
-scripts/build.sh native-asan
-ctest --preset native-asan -j "$(nproc)"
-
 step "Static analysis"
 scripts/lint.sh
 
-# The last word, where it is looked for.
-ctest --preset native -j "$(nproc)"
+step "Build and tests under AddressSanitizer and UndefinedBehaviorSanitizer"
+scripts/build.sh native-asan
+ctest --preset native-asan -j "$(nproc)"
