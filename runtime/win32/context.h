@@ -1,0 +1,21 @@
+#pragma once
+
+#include "frame/class_table.h"
+#include "frame/host/application.h"
+#include "frame/host/interaction.h"
+#include "runtime/win32/font.h"
+#include "runtime/win32/windows_header.h"
+
+namespace lumenkit::win32 {
+
+/// What all controls and pages of one component share. It, and everything that it refers to, must
+/// outlive them.
+struct Context {
+    HINSTANCE module;           ///< the component's own, not that of the program
+    const ClassTable& classes;  ///< those that may be embedded
+    FontMaker& fonts;
+    host::Application& application;
+    host::Interaction& interaction;
+};
+
+}  // namespace lumenkit::win32

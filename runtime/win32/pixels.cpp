@@ -1,0 +1,46 @@
+#include "runtime/win32/pixels.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace lumenkit::win32 {
+
+namespace {
+
+// Window coordinates are kept in 16 bits by parts of the platform.
+constexpr double farthest = 32767;
+
+}  // namespace
+
+Resolution Resolution::OfScreen() {
+    const HDC screen = GetDC(nullptr);
+    const Resolution resolution = {GetDeviceCaps(screen, LOGPIXELSX),
+                                   GetDeviceCaps(screen, LOGPIXELSY)};
+    ReleaseDC(nullptr, screen);
+    return resolution;
+}
+
+int ToPixels(float twips, int pixelsPerInch) {
+    const double pixels = std::round(static_cast<double>(twips) * pixelsPerInch / twipsPerInch);
+    return static_cast<int>(std::clamp(pixels, -farthest, farthest));
+}
+
+float ToTwips(int pixels, int pixelsPerInch) {
+    return static_cast<float>(static_cast<double>(pixels) * twipsPerInch / pixelsPerInch);
+}
+
+RECT ToPixels(const host::Placement& placement, Resolution resolution) {
+    return {.left = ToPixels(placement.left, resolution.x),
+            .top = ToPixels(placement.top, resolution.y),
+            .right = ToPixels(placement.left + placement.width, resolution.x),
+            .bottom = ToPixels(placement.top + placement.height, resolution.y)};
+}
+
+host::Placement ToTwips(const RECT& rectangle, Resolution resolution) {
+    return {.left = ToTwips(static_cast<int>(rectangle.left), resolution.x),
+            .top = ToTwips(static_cast<int>(rectangle.top), resolution.y),
+            .width = ToTwips(static_cast<int>(rectangle.right - rectangle.left), resolution.x),
+            .height = ToTwips(static_cast<int>(rectangle.bottom - rectangle.top), resolution.y)};
+}
+
+}  // namespace lumenkit::win32

@@ -1,0 +1,168 @@
+#include "runtime/win32/window.h"
+
+#include <string>
+#include <utility>
+
+#include "frame/runtime_error.h"
+#include "runtime/win32/wide_text.h"
+
+namespace lumenkit::win32 {
+
+namespace {
+
+constexpr const wchar_t* ownClass = L"lumenkitWindow";
+
+int windowCount = 0;
+
+// The window that a notification to its parent comes from; null for other messages.
+HWND Notifier(UINT message, WPARAM wParam, LPARAM lParam) {
+    switch (message) {
+        case WM_COMMAND:
+        case WM_HSCROLL:
+        case WM_VSCROLL:
+        case WM_CTLCOLOREDIT:
+        case WM_CTLCOLORBTN:
+        case WM_CTLCOLORSTATIC:
+        case WM_CTLCOLORSCROLLBAR:
+            return reinterpret_cast<HWND>(lParam);
+        case WM_NOTIFY:
+            return reinterpret_cast<const NMHDR*>(lParam)->hwndFrom;
+        case WM_DRAWITEM:
+            return wParam == 0 ? nullptr
+                               : reinterpret_cast<const DRAWITEMSTRUCT*>(lParam)->hwndItem;
+        default:
+            return nullptr;
+    }
+}
+
+}  // namespace
+
+Window::~Window() {
+    Destroy();
+}
+
+Window* Window::Of(HWND handle) {
+    if (handle == nullptr) {
+        return nullptr;
+    }
+    return static_cast<Window*>(GetPropW(handle, ownClass));
+}
+
+int Window::Count() {
+    return windowCount;
+}
+
+const wchar_t* Window::OwnClass(HINSTANCE module) {
+    WNDCLASSEXW known = {};
+    known.cbSize = sizeof known;
+    if (GetClassInfoExW(module, ownClass, &known) == FALSE) {
+        WNDCLASSEXW own = {};
+        own.cbSize = sizeof own;
+        own.style = CS_DBLCLKS;
+        own.lpfnWndProc = DefWindowProcW;
+        own.hInstance = module;
+        own.hCursor = LoadCursorW(nullptr, MAKEINTRESOURCEW(32512));
+        own.lpszClassName = ownClass;
+        RegisterClassExW(&own);
+    }
+    return ownClass;
+}
+
+void RemoveWindowClass(HINSTANCE module) {
+    UnregisterClassW(ownClass, module);
+}
+
+void Window::Create(const WindowDesign& design) {
+    const std::wstring text = ToWide(design.text);
+    const RECT& place = design.place;
+    handle_ =
+        CreateWindowExW(design.extendedStyle,
+                        design.className == nullptr ? OwnClass(design.module) : design.className,
+                        text.c_str(), design.style, place.left, place.top, place.right - place.left,
+                        place.bottom - place.top, design.parent, nullptr, design.module, nullptr);
+    if (handle_ == nullptr || SetPropW(handle_, ownClass, this) == FALSE) {
+        Raise(ErrorNumber::OutOfMemory);
+    }
+    ++windowCount;
+    former_ = reinterpret_cast<WNDPROC>(
+        SetWindowLongPtrW(handle_, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(&Procedure)));
+}
+
+void Window::Destroy() {
+    if (handle_ != nullptr) {
+        DestroyWindow(handle_);
+    }
+}
+
+LRESULT Window::Default(UINT message, WPARAM wParam, LPARAM lParam) {
+    if (handle_ == nullptr) {
+        return 0;
+    }
+    return CallWindowProcW(former_, handle_, message, wParam, lParam);
+}
+
+LRESULT CALLBACK Window::Procedure(HWND handle, UINT message, WPARAM wParam, LPARAM lParam) {
+    Window* const window = Of(handle);
+    if (window == nullptr) {
+        return DefWindowProcW(handle, message, wParam, lParam);
+    }
+    if (message != WM_NCDESTROY) {
+        return window->Answer(message, wParam, lParam);
+    }
+    const LRESULT answer = window->Default(message, wParam, lParam);
+    RemovePropW(handle, ownClass);
+    window->handle_ = nullptr;
+    --windowCount;
+    return answer;
+}
+
+LRESULT Window::Answer(UINT message, WPARAM wParam, LPARAM lParam) {
+    try {
+        const std::optional<LRESULT> reflected = Reflect(message, wParam, lParam);
+        return reflected ? *reflected : HandleMessage(message, wParam, lParam);
+    } catch (...) {
+        // The platform cannot carry it on.
+        return 0;
+    }
+}
+
+std::optional<LRESULT> Window::Reflect(UINT message, WPARAM wParam, LPARAM lParam) {
+    Window* const child = Of(Notifier(message, wParam, lParam));
+    if (child == nullptr || child == this) {
+        return std::nullopt;
+    }
+    return child->HandleNotification(message, wParam, lParam);
+}
+
+namespace {
+
+// Without a destructor: the platform destroys what a thread leaves behind.
+thread_local HWND parkingWindow = nullptr;
+thread_local int parked = 0;
+
+HWND NewParkingWindow(HINSTANCE module) {
+    const HWND window = CreateWindowExW(WS_EX_TOOLWINDOW, L"STATIC", L"", WS_POPUP, 0, 0, 1, 1,
+                                        nullptr, nullptr, module, nullptr);
+    if (window == nullptr) {
+        Raise(ErrorNumber::OutOfMemory);
+    }
+    return window;
+}
+
+}  // namespace
+
+ParkingPlace::ParkingPlace(HINSTANCE module) {
+    if (parkingWindow == nullptr) {
+        parkingWindow = NewParkingWindow(module);
+    }
+    ++parked;
+    handle_ = parkingWindow;
+}
+
+ParkingPlace::~ParkingPlace() {
+    if (--parked == 0) {
+        DestroyWindow(std::exchange(parkingWindow, nullptr));
+    }
+}
+
+}  // namespace lumenkit::win32

@@ -1,0 +1,88 @@
+#pragma once
+
+#include <optional>
+
+#include "frame/text.h"
+#include "runtime/win32/windows_header.h"
+
+namespace lumenkit::win32 {
+
+struct WindowDesign {
+    HINSTANCE module = nullptr;
+    /// Null: a class of this library's own. Else a class of the platform's ("EDIT"), whose window
+    /// procedure answers what HandleMessage leaves to it.
+    const wchar_t* className = nullptr;
+    TextView text = {};
+    DWORD style = 0;
+    DWORD extendedStyle = 0;
+    RECT place = {};  ///< pixels, in the parent
+    HWND parent = nullptr;
+};
+
+/// A window that lives as long as the object. Belongs to the thread that created it.
+///
+/// A window passes what its children notify it of (WM_COMMAND, WM_NOTIFY, WM_HSCROLL, WM_VSCROLL,
+/// WM_DRAWITEM, WM_CTLCOLOR...) on to the child, where that is such an object.
+class Window {
+ public:
+    Window() = default;
+    virtual ~Window();
+    Window(const Window&) = delete;
+    Window& operator=(const Window&) = delete;
+
+    /// Null when there is none (any more): a container may destroy windows under us.
+    HWND Handle() const { return handle_; }
+    /// The object behind a window of this library; null when it is none.
+    static Window* Of(HWND handle);
+    /// How many windows of this library exist in the process.
+    static int Count();
+
+ protected:
+    /// Creates the window. Raises 7 when the platform refuses.
+    void Create(const WindowDesign& design);
+    void Destroy();
+
+    /// Answers a message. What it does not answer it hands to Default. Nothing that it throws
+    /// leaves the window procedure: errors of event handlers end there.
+    virtual LRESULT HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
+        return Default(message, wParam, lParam);
+    }
+    /// Answers what this window's parent was notified of; nothing: the parent's default answer.
+    virtual std::optional<LRESULT> HandleNotification(UINT /*message*/, WPARAM /*wParam*/,
+                                                      LPARAM /*lParam*/) {
+        return std::nullopt;
+    }
+    /// The answer of the window's class.
+    LRESULT Default(UINT message, WPARAM wParam, LPARAM lParam);
+
+ private:
+    static LRESULT CALLBACK Procedure(HWND handle, UINT message, WPARAM wParam, LPARAM lParam);
+    static const wchar_t* OwnClass(HINSTANCE module);
+    LRESULT Answer(UINT message, WPARAM wParam, LPARAM lParam);
+    std::optional<LRESULT> Reflect(UINT message, WPARAM wParam, LPARAM lParam);
+
+    HWND handle_ = nullptr;
+    WNDPROC former_ = nullptr;  // of the platform's class
+};
+
+/// Removes the library's window class from the process, before its code is unloaded. There are no
+/// windows any more then.
+void RemoveWindowClass(HINSTANCE module);
+
+/// A share in the invisible window on which the windows of controls lie that their containers do
+/// not show. There is one for each thread, as long as somebody has a share in it.
+class ParkingPlace {
+ public:
+    /// Raises 7 when the platform has no more windows.
+    explicit ParkingPlace(HINSTANCE module);
+    ~ParkingPlace();
+    ParkingPlace(const ParkingPlace&) = delete;
+    ParkingPlace& operator=(const ParkingPlace&) = delete;
+
+    HWND Handle() const { return handle_; }
+
+ private:
+    HWND handle_;
+};
+
+}  // namespace lumenkit::win32
