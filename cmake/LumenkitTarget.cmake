@@ -14,6 +14,10 @@ target_compile_options(lumenkit_settings INTERFACE
     -Wall -Wextra -Wpedantic -Wconversion -Wshadow -Werror
     # g++ 12 sees overlaps in its own string's operator+ that are not there (its bug 105651).
     $<$<AND:$<CXX_COMPILER_ID:GNU>,$<VERSION_LESS:$<CXX_COMPILER_VERSION>,13>>:-Wno-restrict>)
+if(MINGW)
+    # Programs and servers stand alone: the compiler's own libraries go into them.
+    target_link_options(lumenkit_settings INTERFACE -static)
+endif()
 if(LUMENKIT_SANITIZE)
     target_compile_options(lumenkit_settings INTERFACE
         "-fsanitize=${LUMENKIT_SANITIZE}" -fno-sanitize-recover=all -fno-omit-frame-pointer)
@@ -38,8 +42,9 @@ endfunction()
 # Compiles every header beside the caller's CMakeLists.txt (subfolders included) in a translation
 # unit of its own.
 function(lumenkit_headers_compile_alone name)
-    # Once is enough: sanitizers say nothing about it.
-    if(NOT LUMENKIT_TESTS OR LUMENKIT_SANITIZE)
+    # Once is enough: sanitizers say nothing about it, and only what is made for Windows needs it there.
+    if(NOT LUMENKIT_TESTS OR LUMENKIT_SANITIZE OR
+       (WIN32 AND NOT CMAKE_CURRENT_SOURCE_DIR MATCHES "/runtime/(win32|ole)$"))
         return()
     endif()
     file(GLOB_RECURSE headers CONFIGURE_DEPENDS RELATIVE "${PROJECT_SOURCE_DIR}"

@@ -9,7 +9,9 @@ declare -A groups=(
     [format]="clang-format"
     [lint]="clang-tidy"
     [fuzz]="clang libclang-rt-14-dev"
-    [windows]="g++-mingw-w64-x86-64-posix g++-mingw-w64-i686-posix"
+    [windows]="g++-mingw-w64-x86-64-posix g++-mingw-w64-i686-posix mingw-w64-tools libwine-dev faketime googletest"
+    [wine]="wine wine64 fonts-wine fonts-liberation2"
+    [screen]="xvfb xauth xdotool imagemagick"
 )
 
 installed() {

@@ -20,6 +20,10 @@ ctest --preset native -j "$(nproc)"
 step "Cross-compilation for Windows (x64, x86)"
 scripts/ocx.sh
 
+step "Tests under Wine"
+trap 'scripts/wine.sh --end' EXIT
+ctest --preset mingw-x64 -j "$(nproc)"
+
 step "Static analysis"
 scripts/lint.sh
 

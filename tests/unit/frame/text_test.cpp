@@ -1,11 +1,8 @@
 #include "frame/text.h"
 
-#include <memory>
 #include <string>
 
 #include <gmock/gmock.h>
-#include <locale.h>
-#include <wctype.h>
 
 #include "tests/unit/frame/raises.h"
 
@@ -191,16 +188,6 @@ TEST(LowerUnit, IsIdempotent) {
 TEST(LowerUnit, LeavesSurrogatesAlone) {
     for (int unit = 0xD800; unit <= 0xDFFF; ++unit) {
         ASSERT_EQ(LowerUnit(static_cast<char16_t>(unit)), unit);
-    }
-}
-
-TEST(LowerUnit, AgreesWithTheSystemsOwnTable) {
-    const std::unique_ptr<std::remove_pointer_t<locale_t>, decltype(&freelocale)> unicode(
-        newlocale(LC_CTYPE_MASK, "C.UTF-8", nullptr), &freelocale);
-    ASSERT_NE(unicode, nullptr);
-    for (wint_t unit = 0; unit <= 0xFFFF; ++unit) {
-        const auto expected = static_cast<char16_t>(towlower_l(unit, unicode.get()));
-        ASSERT_EQ(LowerUnit(static_cast<char16_t>(unit)), expected) << std::hex << unit;
     }
 }
 

@@ -1,0 +1,20 @@
+# What is tested on Windows: what exists nowhere else, and as much of the portable code as shows that
+# the same numbers come out.
+if(CMAKE_SIZEOF_VOID_P EQUAL 8)
+    add_subdirectory(support)
+    add_subdirectory(unit/frame)
+    foreach(folder unit/win32 contract ole)
+        if(EXISTS "${CMAKE_CURRENT_SOURCE_DIR}/${folder}/CMakeLists.txt")
+            add_subdirectory(${folder})
+        endif()
+    endforeach()
+    lumenkit_test(caption_model_test
+        SOURCES
+            model/caption_comparison.cpp
+            model/caption_compiler_model_test.cpp
+            model/caption_generator.cpp
+            model/corpus_test.cpp
+            model/literal_caption_compiler.cpp
+        LINKS lumenkit::vlabel
+    )
+endif()
