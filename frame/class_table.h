@@ -6,10 +6,18 @@
 #include <span>
 
 #include "frame/automation/interface_table.h"
+#include "frame/automation/runtime_enumerations.h"
 #include "frame/control.h"
 #include "frame/text.h"
+#include "frame/unique_identifier.h"
 
 namespace lumenkit {
+
+/// Another name for a class's default interface, hidden, kept for clients that were built with it.
+struct InterfaceAlias {
+    TextView name;  ///< empty: the class has none
+    UniqueIdentifier uniqueIdentifier;
+};
 
 enum class ClassKind { Control, PropertyPage };
 
@@ -25,12 +33,22 @@ struct ClassDescriptor {
     /// How large a property page is laid out, in twips.
     float pageWidth = 0;
     float pageHeight = 0;
+    UniqueIdentifier uniqueIdentifier = {};  ///< null where the class is not published
+    InterfaceAlias alias = {};
 };
 
 /// The project descriptor: what the server's entries hand to a control runtime.
 struct ClassTable {
     TextView libraryName;  ///< "lumenkit"
     std::span<const ClassDescriptor> classes;
+    // Of the type library that publishes the classes.
+    UniqueIdentifier uniqueIdentifier = {};
+    std::uint16_t majorVersion = 0;
+    std::uint16_t minorVersion = 0;
+    std::uint32_t locale = 0;  ///< the platform's number of a language: 1033 is English
+    TextView help = {};
+    /// The type library beside it, whose enumerations its interfaces use; null where they use none.
+    const EnumerationLibrary* enumerations = nullptr;
 
     /// The class with this programmatic identifier, "library.class", without regard to case; null
     /// when there is none.

@@ -17,6 +17,15 @@ const std::array classes = {vlabelClass, vmemoClass, voptlistClass, vlabelCaptio
 
 }  // namespace
 
-const ClassTable lumenkitClasses = {.libraryName = u"lumenkit", .classes = classes};
+const ClassTable lumenkitClasses = {
+    .libraryName = u"lumenkit",
+    .classes = classes,
+    .uniqueIdentifier = "8e90c363-d415-47aa-afdf-c215c3c33f77",
+    .majorVersion = 7,
+    .minorVersion = 1,
+    .locale = 1033,
+    .help = u"lumenkit",
+    .enumerations = &runtimeEnumerations,
+};
 
 }  // namespace lumenkit

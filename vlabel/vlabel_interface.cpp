@@ -70,14 +70,23 @@ std::unique_ptr<Control> Create(const ControlHost& host) {
 
 }  // namespace
 
-constexpr InterfaceTable vlabelInterface = {u"_VLabel", members};
-constexpr EventTable vlabelEvents = {u"__VLabel", events};
+constexpr InterfaceTable vlabelInterface = {
+    .name = u"_VLabel",
+    .members = members,
+    .uniqueIdentifier = "b4335963-584e-4f20-80af-cacb9e69111c",
+};
+constexpr EventTable vlabelEvents = {
+    .name = u"__VLabel",
+    .events = events,
+    .uniqueIdentifier = "f3d54e04-8806-47ec-ab9d-ecc8b8dc8009",
+};
 constexpr ClassDescriptor vlabelClass = {
     .name = u"VLabel",
     .kind = ClassKind::Control,
     .interfaceTable = &vlabelInterface,
     .eventTable = &vlabelEvents,
     .createControl = &Create,
+    .uniqueIdentifier = "c9d68950-e9f6-434b-bd20-7e035e44af24",
 };
 
 }  // namespace lumenkit

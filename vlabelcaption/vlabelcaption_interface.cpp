@@ -15,7 +15,11 @@ std::unique_ptr<PropertyPage> Create(const PageHost& host) {
 
 }  // namespace
 
-constexpr InterfaceTable vlabelCaptionInterface = {u"_VLabelCaption", {}};
+constexpr InterfaceTable vlabelCaptionInterface = {
+    .name = u"_VLabelCaption",
+    .members = {},
+    .uniqueIdentifier = "57c9cbe6-cffd-4e2c-88e1-0d229685cf41",
+};
 constexpr ClassDescriptor vlabelCaptionClass = {
     .name = u"VLabelCaption",
     .kind = ClassKind::PropertyPage,
@@ -23,6 +27,7 @@ constexpr ClassDescriptor vlabelCaptionClass = {
     .createPage = &Create,
     .pageWidth = page_layout::pageWidth,
     .pageHeight = page_layout::pageHeight,
+    .uniqueIdentifier = "4f28929c-658c-4d68-82e8-15be7b4e7328",
 };
 
 }  // namespace lumenkit

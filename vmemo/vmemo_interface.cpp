@@ -69,14 +69,24 @@ std::unique_ptr<Control> Create(const ControlHost& host) {
 
 }  // namespace
 
-constexpr InterfaceTable vmemoInterface = {u"_VMemo", members};
-constexpr EventTable vmemoEvents = {u"__VMemo", events};
+constexpr InterfaceTable vmemoInterface = {
+    .name = u"_VMemo",
+    .members = members,
+    .uniqueIdentifier = "3adf2e5b-9df7-47f7-ae54-9aae23736e81",
+};
+constexpr EventTable vmemoEvents = {
+    .name = u"__VMemo",
+    .events = events,
+    .uniqueIdentifier = "7f86d550-6868-4e2c-ab94-21718a7a2104",
+};
 constexpr ClassDescriptor vmemoClass = {
     .name = u"VMemo",
     .kind = ClassKind::Control,
     .interfaceTable = &vmemoInterface,
     .eventTable = &vmemoEvents,
     .createControl = &Create,
+    .uniqueIdentifier = "468a5450-032a-435b-b1b5-41cb67e26d05",
+    .alias = {.name = u"VMemo___v0", .uniqueIdentifier = "ae7a6fd7-3655-4633-94b0-099cb11eb5f6"},
 };
 
 }  // namespace lumenkit

@@ -68,12 +68,23 @@ std::unique_ptr<Control> CreateControl(const ControlHost& host) {
 
 }  // namespace
 
-constexpr InterfaceTable voptlistInterface = {.name = u"_VOptList", .members = members};
-constexpr EventTable voptlistEvents = {.name = u"__VOptList", .events = events};
-constexpr ClassDescriptor voptlistClass = {.name = u"VOptList",
-                                           .kind = ClassKind::Control,
-                                           .interfaceTable = &voptlistInterface,
-                                           .eventTable = &voptlistEvents,
-                                           .createControl = &CreateControl};
+constexpr InterfaceTable voptlistInterface = {
+    .name = u"_VOptList",
+    .members = members,
+    .uniqueIdentifier = "d3488a69-d613-4128-a416-ef3c7f6e3e47",
+};
+constexpr EventTable voptlistEvents = {
+    .name = u"__VOptList",
+    .events = events,
+    .uniqueIdentifier = "bdce7206-7146-4835-9f41-133c3db225f2",
+};
+constexpr ClassDescriptor voptlistClass = {
+    .name = u"VOptList",
+    .kind = ClassKind::Control,
+    .interfaceTable = &voptlistInterface,
+    .eventTable = &voptlistEvents,
+    .createControl = &CreateControl,
+    .uniqueIdentifier = "e103e3a0-0d3a-4739-9d9c-766bc8e47483",
+};
 
 }  // namespace lumenkit

@@ -11,6 +11,7 @@
 #include "frame/automation/value.h"
 #include "frame/automation/value_type.h"
 #include "frame/text.h"
+#include "frame/unique_identifier.h"
 
 namespace lumenkit {
 
@@ -61,6 +62,7 @@ struct Event {
 struct InterfaceTable {
     TextView name;
     std::span<const Member> members;
+    UniqueIdentifier uniqueIdentifier = {};  ///< null where the interface is not published
 
     /// Without regard to case; null when there is none. The member lives as long as the table.
     const Member* Find(TextView memberName) const;
@@ -70,6 +72,7 @@ struct InterfaceTable {
 struct EventTable {
     TextView name;
     std::span<const Event> events;
+    UniqueIdentifier uniqueIdentifier = {};  ///< null where the interface is not published
 
     const Event* Find(std::int32_t identifier) const;
 };

@@ -1,5 +1,7 @@
 #include "project/lumenkit_classes.h"
 
+#include <set>
+#include <string>
 #include <vector>
 
 #include <gmock/gmock.h>
@@ -31,6 +33,33 @@ TEST(LumenkitClasses, AreFoundByProgrammaticIdentifier) {
         EXPECT_EQ(lumenkitClasses.Find(u"lumenkit." + Text(type.name)), &type);
     }
     EXPECT_EQ(lumenkitClasses.Find(u"lumenkit.VLabelCaptions"), nullptr);
+}
+
+TEST(LumenkitClasses, ArePublishedUnderIdentifiersOfTheirOwn) {
+    std::set<std::string> identifiers = {ToString({}), ToString(lumenkitClasses.uniqueIdentifier)};
+    const auto isNew = [&](const UniqueIdentifier& identifier) {
+        return identifiers.insert(ToString(identifier)).second;
+    };
+    for (const ClassDescriptor& type : lumenkitClasses.classes) {
+        EXPECT_TRUE(isNew(type.uniqueIdentifier));
+        EXPECT_TRUE(isNew(type.interfaceTable->uniqueIdentifier));
+        EXPECT_TRUE(type.eventTable == nullptr || isNew(type.eventTable->uniqueIdentifier));
+        EXPECT_TRUE(type.alias.name.empty() || isNew(type.alias.uniqueIdentifier));
+    }
+    EXPECT_TRUE(isNew(runtimeEnumerations.uniqueIdentifier));
+    for (const EnumerationTable& enumeration : runtimeEnumerations.enumerations) {
+        EXPECT_TRUE(isNew(enumeration.uniqueIdentifier));
+    }
+    EXPECT_EQ(identifiers.size(), 1U + 1 + 4 + 4 + 3 + 1 + 1 + 2);
+}
+
+TEST(LumenkitClasses, AreTheLibrarysVersion71InEnglish) {
+    EXPECT_EQ(lumenkitClasses.libraryName, u"lumenkit");
+    EXPECT_EQ(lumenkitClasses.help, u"lumenkit");
+    EXPECT_EQ(lumenkitClasses.majorVersion, 7);
+    EXPECT_EQ(lumenkitClasses.minorVersion, 1);
+    EXPECT_EQ(lumenkitClasses.locale, 1033U);
+    EXPECT_EQ(lumenkitClasses.enumerations, &runtimeEnumerations);
 }
 
 TEST(LumenkitClasses, ThePageHasNoMembers) {
