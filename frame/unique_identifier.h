@@ -32,7 +32,7 @@ struct UniqueIdentifier {
         if (text.size() != pattern.size()) {
             throw std::invalid_argument("an identifier has 36 characters");
         }
-        data1 = static_cast<std::uint32_t>(HexNumber(text, 0, 8));
+        data1 = HexNumber(text, 0, 8);
         data2 = static_cast<std::uint16_t>(HexNumber(text, 9, 4));
         data3 = static_cast<std::uint16_t>(HexNumber(text, 14, 4));
         for (std::size_t i = 0; i < data4.size(); ++i) {
@@ -45,21 +45,21 @@ struct UniqueIdentifier {
         }
     }
 
-    static consteval std::uint64_t HexNumber(std::string_view text, std::size_t start,
+    static consteval std::uint32_t HexNumber(std::string_view text, std::size_t start,
                                              std::size_t length) {
-        std::uint64_t number = 0;
+        std::uint32_t number = 0;
         for (const char digit : text.substr(start, length)) {
             number = number * 16 + HexDigit(digit);
         }
         return number;
     }
 
-    static consteval std::uint64_t HexDigit(char digit) {
+    static consteval std::uint32_t HexDigit(char digit) {
         if (digit >= '0' && digit <= '9') {
-            return static_cast<std::uint64_t>(digit - '0');
+            return static_cast<std::uint32_t>(digit) - '0';
         }
         if (digit >= 'a' && digit <= 'f') {
-            return static_cast<std::uint64_t>(digit - 'a' + 10);
+            return static_cast<std::uint32_t>(digit) - 'a' + 10;
         }
         throw std::invalid_argument("an identifier is written in lower-case hexadecimal digits");
     }

@@ -15,12 +15,16 @@ namespace {
 // NOLINTNEXTLINE(cppcoreguidelines-interfaces-global-init)
 const std::array classes = {vlabelClass, vmemoClass, voptlistClass, vlabelCaptionClass};
 
+constexpr UniqueIdentifier libraryIdentifier = "8e90c363-d415-47aa-afdf-c215c3c33f77";
+
 }  // namespace
 
+// NOLINTNEXTLINE(cppcoreguidelines-interfaces-global-init): of another constant it takes the
+// address.
 const ClassTable lumenkitClasses = {
     .libraryName = u"lumenkit",
     .classes = classes,
-    .uniqueIdentifier = "8e90c363-d415-47aa-afdf-c215c3c33f77",
+    .uniqueIdentifier = libraryIdentifier,
     .majorVersion = 7,
     .minorVersion = 1,
     .locale = 1033,
