@@ -19,8 +19,8 @@ constexpr UniqueIdentifier libraryIdentifier = "8e90c363-d415-47aa-afdf-c215c3c3
 
 }  // namespace
 
-// NOLINTNEXTLINE(cppcoreguidelines-interfaces-global-init): of another constant it takes the
-// address.
+// It takes the other constant's address only.
+// NOLINTNEXTLINE(cppcoreguidelines-interfaces-global-init)
 const ClassTable lumenkitClasses = {
     .libraryName = u"lumenkit",
     .classes = classes,
