@@ -4,6 +4,7 @@
 
 #include "frame/checked_integer.h"
 #include "frame/numbers.h"
+#include "vlabel/color_parameter.h"
 
 namespace lumenkit {
 
@@ -26,27 +27,9 @@ TextView Switch(TextView written) {
     return written;
 }
 
-std::int32_t Component(TextView number) {
-    return RoundToInt32(ParseNumber(number)) & 255;
-}
-
-// The component that a comma ends; takes both off `written`. Without a comma nothing is taken.
-std::int32_t TakeComponent(TextView& written) {
-    const std::size_t comma = written.find(u',');
-    if (comma == TextView::npos) {
-        return 0;
-    }
-    const std::int32_t component = comma == 0 ? 0 : Component(written);
-    written.remove_prefix(comma + 1);
-    return component;
-}
-
-// "red,green,blue"; a number alone is blue.
 std::int32_t ColorOf(TextView written) {
-    const std::int32_t red = TakeComponent(written);
-    const std::int32_t green = TakeComponent(written);
-    const std::int32_t blue = Component(written);
-    return blue * 65536 + green * 256 + red;
+    const auto [red, green, blue] = ColorComponents(written);
+    return (blue & 255) * 65536 + (green & 255) * 256 + (red & 255);
 }
 
 }  // namespace

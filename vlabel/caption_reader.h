@@ -26,6 +26,9 @@ class CaptionReader {
     /// next line would start beyond position 32767.
     bool NextLine();
 
+    /// Where reading stands: an offset in the caption, from 0.
+    std::size_t Offset() const { return at_; }
+
  private:
     bool IsQuote(std::size_t at) const;
     bool IsSeparator(std::size_t at) const;

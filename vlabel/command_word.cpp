@@ -34,4 +34,8 @@ CommandWord FindCommandWord(TextView name) {
     return {name, name, Parameter::AsWritten};
 }
 
+std::span<const CommandWord> CommandWords() {
+    return words;
+}
+
 }  // namespace lumenkit

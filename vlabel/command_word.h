@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <span>
 
 #include "frame/text.h"
 
@@ -18,5 +19,8 @@ struct CommandWord {
 /// The word for a name in lower case. An unknown name stands for itself and keeps its parameter;
 /// the result then refers to `name`.
 CommandWord FindCommandWord(TextView name);
+
+/// All words that mean something.
+std::span<const CommandWord> CommandWords();
 
 }  // namespace lumenkit

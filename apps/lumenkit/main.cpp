@@ -4,6 +4,7 @@
 
 #include <CLI/CLI.hpp>
 
+#include "apps/lumenkit/check_command.h"
 #include "apps/lumenkit/compile_command.h"
 #include "apps/lumenkit/drive_command.h"
 #include "apps/lumenkit/exit_status.h"
@@ -17,10 +18,12 @@ int Run(int argc, char** argv) {
     program.set_version_flag("--version", LUMENKIT_VERSION);
     program.require_subcommand(1);
     program.footer(R"(Examples:
+  lumenkit check samples/forms
   lumenkit compile samples/captions/headline.txt
   echo '{"do":"new","class":"VMemo","id":"m"}' | lumenkit drive
   lumenkit compile --help)");
     int status = exitDone;
+    AddCheckCommand(program, status);
     AddCompileCommand(program, status);
     AddDriveCommand(program, status);
     try {

@@ -1,0 +1,265 @@
+#include "apps/lumenkit/check/caption_check.h"
+
+#include <algorithm>
+#include <array>
+#include <cstdint>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "apps/lumenkit/check/caption_outline.h"
+#include "apps/lumenkit/check/quote.h"
+#include "apps/lumenkit/check/rules.h"
+#include "apps/lumenkit/check/suggestion.h"
+#include "frame/numbers.h"
+#include "frame/utf8.h"
+#include "vlabel/color_parameter.h"
+#include "vlabel/command_word.h"
+
+namespace lumenkit::check {
+
+namespace {
+
+using Parameter = CommandWord::Parameter;
+
+constexpr std::size_t lastPosition = 32767;
+
+TextView NearestCommand(TextView written) {
+    static const std::vector<TextView> names = [] {
+        std::vector<TextView> all;
+        for (const CommandWord& word : CommandWords()) {
+            all.push_back(word.written);
+        }
+        return all;
+    }();
+    return Nearest(written, names);
+}
+
+// The value for a switch that a word was probably meant to be.
+TextView NearestSwitch(TextView written) {
+    using Meaning = std::pair<TextView, TextView>;
+    constexpr std::array meanings = {
+        Meaning{u"true", u"true"}, Meaning{u"false", u"false"}, Meaning{u"1", u"1"},
+        Meaning{u"0", u"0"},       Meaning{u"yes", u"1"},       Meaning{u"on", u"1"},
+        Meaning{u"-1", u"1"},      Meaning{u"no", u"0"},        Meaning{u"off", u"0"},
+    };
+    for (const auto& [word, value] : meanings) {
+        if (SameText(Trim(written), word, Compare::IgnoreCase)) {
+            return value;
+        }
+    }
+    constexpr std::array<TextView, 2> words = {u"true", u"false"};
+    return Nearest(written, words);
+}
+
+bool IsNoNumber(TextView written) {
+    const bool hasDigit = std::any_of(written.begin(), written.end(),
+                                      [](char16_t unit) { return unit >= u'0' && unit <= u'9'; });
+    return !hasDigit && ParseNumber(written) == 0;
+}
+
+class CommandChecker {
+ public:
+    CommandChecker(const WrittenCommand& command, Remarks& remarks)
+        : command_(command), remarks_(remarks) {}
+
+    void Check() {
+        const std::size_t colon = command_.text.find(u':');
+        if (colon == Text::npos) {
+            CheckLoneBar();
+            return;
+        }
+        written_ = TextView(command_.text).substr(colon + 1);
+        name_ = TextView(command_.text).substr(0, colon);
+        const Text name = LCase(name_);
+        CheckNamed(FindCommandWord(name));
+        if (!command_.closed) {
+            Add(rules::unterminatedCommand,
+                "the command has no closing bar: " + Quote(command_.text) +
+                    " is taken for the command and not drawn");
+        }
+    }
+
+ private:
+    void Add(const Rule& rule, std::string message, std::string suggestion = {}) {
+        remarks_.push_back({rule.name, command_.offset, std::move(message), std::move(suggestion)});
+    }
+
+    void CheckNamed(const CommandWord& word) {
+        if (word.parameter == Parameter::AsWritten) {
+            Add(rules::unknownCommand, "unknown command " + Quote(name_),
+                ToUtf8(NearestCommand(name_)));
+            return;
+        }
+        if (word.written == u"u") {
+            Add(rules::underlineIsItalic, "\"u\" draws italic, not underlined");
+        }
+        switch (word.parameter) {
+            case Parameter::AsWritten:
+                break;
+            case Parameter::Switch:
+                CheckSwitch(word.stored);
+                break;
+            case Parameter::Color:
+                CheckColor();
+                break;
+            case Parameter::Size:
+                CheckSize();
+                break;
+            case Parameter::Before:
+                CheckBefore();
+                break;
+        }
+    }
+
+    void CheckLoneBar() {
+        if (!command_.closed) {
+            Add(rules::loneBar, "a lone bar: " + Quote(command_.text) +
+                                    ", all up to the end of the line, is not drawn");
+        } else if (command_.text.empty()) {
+            Add(rules::loneBar, "two bars with nothing between them draw nothing");
+        } else {
+            Add(rules::loneBar,
+                "no colon between two bars: " + Quote(command_.text) + " is not drawn",
+                MeantBetweenBars());
+        }
+    }
+
+    // What stands between two bars by mistake: |b|, |b=1|, | CR |.
+    std::string MeantBetweenBars() const {
+        constexpr std::array<TextView, 2> marks = {u"CR", u"Q"};
+        if (const TextView mark = Nearest(command_.text, marks); !mark.empty()) {
+            return '|' + ToUtf8(mark) + '|';
+        }
+        const std::size_t equals = command_.text.find(u'=');
+        const TextView word = NearestCommand(TextView(command_.text).substr(0, equals));
+        if (word.empty()) {
+            return {};
+        }
+        if (equals != Text::npos) {
+            return '|' + ToUtf8(word) + ':' + ToUtf8(Trim(command_.text.substr(equals + 1))) + '|';
+        }
+        const bool isSwitch = FindCommandWord(word).parameter == Parameter::Switch;
+        return isSwitch ? '|' + ToUtf8(word) + ":1|" : std::string();
+    }
+
+    void CheckSwitch(TextView stored) {
+        if (command_.parameter == u"0" || command_.parameter == u"1") {
+            return;
+        }
+        const bool lacksBar =
+            !command_.closed && (SameText(written_, u"true", Compare::IgnoreCase) ||
+                                 SameText(written_, u"false", Compare::IgnoreCase));
+        const std::string style = stored == u"b" ? "bold" : "italic";
+        Add(rules::unconvertedValue,
+            Quote(written_) +
+                (lacksBar ? " counts only with its closing bar" : " is not 0, 1, false or true") +
+                ": " + style + " goes off",
+            lacksBar ? ToUtf8(command_.text) + '|' : ToUtf8(NearestSwitch(written_)));
+    }
+
+    void CheckColor() {
+        if (!command_.kept) {
+            Add(rules::colorOutOfRange, Quote(written_) +
+                                            " has a number beyond 32 bits: drawing reports an "
+                                            "overflow and keeps the colour");
+            return;
+        }
+        CheckColorRange();
+        CheckColorNumbers();
+    }
+
+    void CheckColorRange() {
+        constexpr std::array names = {"red", "green", "blue"};
+        const std::array<std::int32_t, 3> components = ColorComponents(written_);
+        std::string message;
+        for (std::size_t i = 0; i < components.size(); ++i) {
+            if (components[i] < 0 || components[i] > 255) {
+                message += (message.empty() ? "" : ", ") + std::string(names[i]) + ' ' +
+                           std::to_string(components[i]) + " is drawn as " +
+                           std::to_string(components[i] & 255);
+            }
+        }
+        if (!message.empty()) {
+            Add(rules::colorOutOfRange, message);
+        }
+    }
+
+    void CheckColorNumbers() {
+        TextView rest = written_;
+        for (int left = 3; left > 0; --left) {
+            const std::size_t comma = left == 1 ? TextView::npos : rest.find(u',');
+            CheckNumber(rest.substr(0, comma));
+            if (comma == TextView::npos) {
+                return;
+            }
+            rest.remove_prefix(comma + 1);
+        }
+    }
+
+    // One that is left out counts as 0 on purpose.
+    void CheckNumber(TextView number) {
+        if (!Trim(number).empty() && IsNoNumber(number)) {
+            Add(rules::unconvertedValue, Quote(number) + " is no number and counts as 0");
+        }
+    }
+
+    void CheckSize() {
+        if (!command_.kept) {
+            AddOverflow();
+        } else if (!(ParseNumber(command_.parameter) > 1)) {
+            Add(rules::ineffectiveSize,
+                "size " + Quote(written_) + " does nothing: sizes above 1 count");
+        }
+    }
+
+    void CheckBefore() {
+        if (!command_.kept) {
+            AddOverflow();
+        } else if (IsNoNumber(written_)) {
+            Add(rules::unconvertedValue, Quote(written_) + " is no number and counts as 0");
+        }
+    }
+
+    void AddOverflow() {
+        Add(rules::numberOverflow, Quote(written_) +
+                                       " is beyond the range of numbers: drawing reports an "
+                                       "overflow and ignores the command");
+    }
+
+    const WrittenCommand& command_;
+    Remarks& remarks_;
+    TextView name_;     // as written
+    TextView written_;  // the parameter, without a closing bar
+};
+
+}  // namespace
+
+Remarks CheckCaption(TextView caption) {
+    Remarks remarks;
+    const CaptionOutline outline = OutlineOf(caption);
+    for (const WrittenCommand& command : outline.commands) {
+        CommandChecker(command, remarks).Check();
+    }
+    if (outline.goesOn) {
+        remarks.push_back(
+            {rules::tooManyLines.name,
+             outline.end,
+             "more than " + std::to_string(outline.lines) + " lines: what follows is not drawn",
+             {}});
+    }
+    if (outline.overflows || caption.size() > lastPosition) {
+        const std::string length = std::to_string(caption.size()) +
+                                   " units, and positions end at " + std::to_string(lastPosition);
+        remarks.push_back(
+            {rules::textTooLong.name,
+             outline.end,
+             length + (outline.overflows ? ": drawing reports an overflow, and what follows is not "
+                                           "drawn"
+                                         : ": what lies beyond cannot be drawn"),
+             {}});
+    }
+    return remarks;
+}
+
+}  // namespace lumenkit::check

@@ -1,0 +1,114 @@
+#include "apps/lumenkit/check/caption_outline.h"
+
+#include <cstdint>
+#include <optional>
+#include <set>
+
+#include "frame/host/application.h"
+#include "frame/host/interaction.h"
+#include "frame/module.h"
+#include "frame/module_errors.h"
+#include "frame/runtime_error.h"
+#include "vlabel/caption_compiler.h"
+#include "vlabel/caption_reader.h"
+
+namespace lumenkit::check {
+
+namespace {
+
+// Takes down what the compiler would show to the person at the screen.
+class CompilerErrors final : private host::Application,
+                             private host::Interaction,
+                             public ModuleErrors {
+ public:
+    CompilerErrors()
+        : ModuleErrors(static_cast<host::Application&>(*this),
+                       static_cast<host::Interaction&>(*this)) {}
+
+    void TraceProc(TextView /*moduleFileName*/, TextView procedureName,
+                   const Object* /*formObject*/) override {
+        if (procedureName == u"CompileCommand") {  // entered or left
+            inCommand_ = !inCommand_;
+            commandCount_ += inCommand_ ? 1 : 0;
+        }
+    }
+
+    bool CaptionFailed() const { return captionFailed_; }
+    /// Commands count from 0.
+    bool CommandFailed(std::size_t command) const { return failedCommands_.contains(command); }
+
+ private:
+    Text ExeName() override { return {}; }
+    void Beep() override {}
+    void MsgBox(TextView /*message*/, host::MessageStyle /*style*/,
+                std::optional<TextView> /*title*/) override {
+        if (inCommand_) {
+            failedCommands_.insert(commandCount_ - 1);
+        } else {
+            captionFailed_ = true;
+        }
+    }
+
+    bool inCommand_ = false;
+    std::size_t commandCount_ = 0;
+    std::set<std::size_t> failedCommands_;
+    bool captionFailed_ = false;
+};
+
+void ReadLine(CaptionReader& reader, std::vector<WrittenCommand>& commands) {
+    Text between;
+    bool closed = true;
+    while (closed && reader.ReadThroughBar(between)) {
+        WrittenCommand command;
+        command.offset = reader.Offset() - 1;
+        closed = reader.ReadThroughBar(command.text);
+        command.closed = closed;
+        if (closed) {
+            command.text.pop_back();
+        }
+        commands.push_back(std::move(command));
+        between.clear();
+    }
+}
+
+// Whether there is a further line; one that begins where no position can be is none.
+bool NextLine(CaptionReader& reader) {
+    try {
+        return reader.NextLine();
+    } catch (const RuntimeError&) {
+        return false;
+    }
+}
+
+}  // namespace
+
+CaptionOutline OutlineOf(TextView caption) {
+    CompilerErrors errors;
+    const Module module(errors, u"VLABEL");
+    CaptionCompiler compiler(module);
+    compiler.CompileCaption(caption);
+    const CompiledCaption& compiled = compiler.Compiled();
+
+    CaptionOutline outline;
+    outline.lines = static_cast<std::size_t>(compiled.CaptionLines.Count());
+    outline.overflows = errors.CaptionFailed();
+    CaptionReader reader(caption);
+    bool more = true;
+    for (std::size_t line = 0; line < outline.lines; ++line) {
+        ReadLine(reader, outline.commands);
+        more = NextLine(reader);
+    }
+    outline.goesOn = more && !outline.overflows;
+    outline.end = reader.Offset();
+
+    std::int32_t entry = 0;
+    for (std::size_t i = 0; i < outline.commands.size(); ++i) {
+        outline.commands[i].kept = !errors.CommandFailed(i);
+        if (outline.commands[i].kept) {
+            outline.commands[i].parameter = compiled.CommandParams.Item(++entry);
+        }
+    }
+    return outline;
+}
+
+}  // namespace lumenkit::check

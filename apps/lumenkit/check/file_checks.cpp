@@ -1,0 +1,70 @@
+#include "apps/lumenkit/check/file_checks.h"
+
+#include <algorithm>
+#include <array>
+#include <tuple>
+#include <utility>
+
+#include "apps/lumenkit/check/caption_check.h"
+#include "apps/lumenkit/check/control_checks.h"
+#include "apps/lumenkit/check/text_places.h"
+#include "forms/controls.h"
+
+namespace lumenkit::check {
+
+namespace {
+
+void CheckControl(SavedControl& control) {
+    using Checker = void (*)(SavedControl&);
+    constexpr std::array<std::pair<TextView, Checker>, 3> checkers = {{
+        {u"VLabel", CheckLabel},
+        {u"VMemo", CheckMemo},
+        {u"VOptList", CheckOptionList},
+    }};
+    CheckNames(control);
+    for (const auto& [name, check] : checkers) {
+        if (control.Type().name == name) {
+            check(control);
+        }
+    }
+}
+
+auto PlaceIn(const Finding& finding) {
+    return std::tuple(finding.place.line, finding.place.column, finding.offset.value_or(0));
+}
+
+}  // namespace
+
+Findings CheckForm(const forms::Document& document, const ClassTable& classes) {
+    Findings findings;
+    for (forms::Block* block : forms::AllControls(document.Root())) {
+        const ClassDescriptor* type = classes.Find(block->ClassName());
+        if (type != nullptr && type->kind == ClassKind::Control) {
+            SavedControl control(document, *block, *type, findings);
+            CheckControl(control);
+        }
+    }
+    std::stable_sort(
+        findings.begin(), findings.end(),
+        [](const Finding& left, const Finding& right) { return PlaceIn(left) < PlaceIn(right); });
+    return findings;
+}
+
+Findings CheckCaptionFile(const std::string& name, TextView caption) {
+    Findings findings;
+    const TextPlaces places = TextPlaces::InFile(caption);
+    for (const Remark& remark : CheckCaption(caption)) {
+        findings.push_back({remark.rule,
+                            name,
+                            places.PlaceOf(remark.offset),
+                            {},
+                            "Caption",
+                            remark.offset,
+                            remark.message,
+                            remark.suggestion,
+                            false});
+    }
+    return findings;
+}
+
+}  // namespace lumenkit::check

@@ -1,0 +1,23 @@
+// Which files a check is asked to look at.
+#pragma once
+
+#include <string>
+#include <vector>
+
+namespace lumenkit::check {
+
+enum class InputKind {
+    Forms,     ///< in a folder, *.frm, *.ctl, *.pag and *.dob
+    Captions,  ///< in a folder, *.txt
+};
+
+struct Inputs {
+    std::vector<std::string> files;
+    std::vector<std::string> errors;  ///< "PATH: why it cannot be read"
+};
+
+/// The files among `paths` as they are, and those of the kind in the folders among them, at
+/// whatever depth and in the order of their names. Links to folders are not followed.
+Inputs FindInputs(const std::vector<std::string>& paths, InputKind kind);
+
+}  // namespace lumenkit::check

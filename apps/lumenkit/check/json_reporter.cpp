@@ -1,0 +1,56 @@
+#include "apps/lumenkit/check/reporter.h"
+
+namespace lumenkit::check {
+
+namespace {
+
+using Json = nlohmann::ordered_json;
+
+Json ToJson(const Finding& finding) {
+    Json json = {{"rule", finding.rule},
+                 {"file", finding.file},
+                 {"line", finding.place.line},
+                 {"column", finding.place.column}};
+    if (!finding.control.empty()) {
+        json["control"] = finding.control;
+    }
+    json["property"] = finding.property;
+    if (finding.offset) {
+        json["offset"] = *finding.offset;
+    }
+    json["message"] = finding.message;
+    if (!finding.suggestion.empty()) {
+        json["suggestion"] = finding.suggestion;
+    }
+    return json;
+}
+
+Json ToJson(const FileError& error) {
+    Json json = {{"file", error.file}};
+    if (error.place.line > 0) {
+        json["line"] = error.place.line;
+        json["column"] = error.place.column;
+    }
+    json["message"] = error.description;
+    return json;
+}
+
+}  // namespace
+
+void JsonReporter::Report(const Findings& findings) {
+    for (const Finding& finding : findings) {
+        findings_.push_back(ToJson(finding));
+    }
+}
+
+void JsonReporter::Report(const FileError& error) {
+    errors_.push_back(ToJson(error));
+}
+
+void JsonReporter::Finish(std::size_t files) {
+    const Json report = {{"files", files}, {"findings", findings_}, {"errors", errors_}};
+    // File names need not be UTF-8.
+    output_ << report.dump(-1, ' ', false, Json::error_handler_t::replace) << '\n';
+}
+
+}  // namespace lumenkit::check

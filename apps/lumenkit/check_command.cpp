@@ -1,0 +1,179 @@
+#include "apps/lumenkit/check_command.h"
+
+#include <iostream>
+#include <memory>
+#include <stdexcept>
+#include <string>
+#include <vector>
+
+#include "apps/lumenkit/check/file_checks.h"
+#include "apps/lumenkit/check/inputs.h"
+#include "apps/lumenkit/check/progress_bar.h"
+#include "apps/lumenkit/check/reporter.h"
+#include "apps/lumenkit/check/rules.h"
+#include "apps/lumenkit/exit_status.h"
+#include "apps/lumenkit/terminal.h"
+#include "apps/lumenkit/text_input.h"
+#include "forms/code_page.h"
+#include "forms/encoding.h"
+#include "forms/file.h"
+#include "project/lumenkit_classes.h"
+
+namespace lumenkit::cli {
+
+namespace {
+
+using check::FileError;
+using check::Findings;
+
+// A bar for fewer would be gone before it is seen.
+constexpr std::size_t manyFiles = 20;
+
+struct Options {
+    std::vector<std::string> paths;
+    bool captions = false;
+    bool json = false;
+    int codePage = forms::defaultCodePage;
+};
+
+class CheckRun {
+ public:
+    CheckRun(const Options& options, check::Reporter& reporter)
+        : options_(options), reporter_(reporter) {}
+
+    int Run() {
+        const check::InputKind kind =
+            options_.captions ? check::InputKind::Captions : check::InputKind::Forms;
+        const check::Inputs inputs = check::FindInputs(options_.paths, kind);
+        for (const std::string& error : inputs.errors) {
+            Report(FileError{.file = error.substr(0, error.rfind(": ")),
+                             .place = {},
+                             .description = error.substr(error.rfind(": ") + 2),
+                             .text = error});
+        }
+        CheckFiles(inputs.files);
+        reporter_.Finish(checked_);
+        return !std::cout || failed_ ? exitUnusable : found_ ? exitReported : exitDone;
+    }
+
+ private:
+    void CheckFiles(const std::vector<std::string>& files) {
+        const bool shown = files.size() >= manyFiles && IsTerminal(Stream::Errors);
+        check::ProgressBar bar(std::cerr, files.size(), shown);
+        for (std::size_t done = 0; done < files.size(); ++done) {
+            bar.Show(done);
+            CheckFile(files[done], bar);
+        }
+    }
+
+    void CheckFile(const std::string& file, check::ProgressBar& bar) {
+        try {
+            const Findings findings = FindingsIn(file);
+            ++checked_;
+            if (!findings.empty()) {
+                found_ = true;
+                bar.Hide();
+                reporter_.Report(findings);
+            }
+        } catch (const forms::FormError& error) {
+            bar.Hide();
+            Report({error.File(), error.Place(), error.Description(), error.what()});
+        } catch (const UnusableInput& error) {
+            bar.Hide();
+            Report({file, {}, error.what(), error.what()});
+        }
+    }
+
+    Findings FindingsIn(const std::string& file) const {
+        if (options_.captions) {
+            return check::CheckCaptionFile(file, ReadText(file));
+        }
+        return check::CheckForm(forms::Load(file, options_.codePage), lumenkitClasses);
+    }
+
+    void Report(const FileError& error) {
+        failed_ = true;
+        reporter_.Report(error);
+    }
+
+    const Options& options_;
+    check::Reporter& reporter_;
+    std::size_t checked_ = 0;
+    bool found_ = false;
+    bool failed_ = false;
+};
+
+int Check(const Options& options) {
+    if (options.json) {
+        check::JsonReporter reporter(std::cout);
+        return CheckRun(options, reporter).Run();
+    }
+    check::TextReporter reporter(std::cout, std::cerr, TakesColors(Stream::Output));
+    return CheckRun(options, reporter).Run();
+}
+
+std::string RequireCodePage(const std::string& number) {
+    try {
+        const int page = std::stoi(number);
+        if (page != forms::utf8CodePage) {
+            static_cast<void>(forms::CodePage(page));
+        }
+        return {};
+    } catch (const std::logic_error&) {
+        return number + " is no code page that is known";
+    }
+}
+
+std::string Help() {
+    std::string help = "Rules, by the names that findings bear:\n";
+    for (const check::Rule& rule : check::Rules()) {
+        constexpr std::size_t column = 26;
+        std::string line = "  " + std::string(rule.name);
+        line.append(column - line.size(), ' ');
+        help += line + std::string(rule.meaning) + '\n';
+    }
+    return help +
+           "\n"
+           "Lines and columns count from 1, offsets in a text from 0, in UTF-16 units. A text "
+           "that\n"
+           "lies in a binary companion is at the place of its property. docs/check.md says more.\n"
+           "\n"
+           "Exit status: 0 when nothing is found, 1 when something is, 2 when a file could not be\n"
+           "read (the others are checked all the same).\n"
+           "\n"
+           "Examples:\n"
+           "  lumenkit check order.frm\n"
+           "  lumenkit check --json src/forms\n"
+           "  lumenkit check --code-page 1250 polish.frm\n"
+           "  lumenkit check --caption samples/captions/mistakes.txt\n"
+           "  echo '|Blod:1|Hello' | lumenkit check --caption -";
+}
+
+}  // namespace
+
+void AddCheckCommand(CLI::App& program, int& status) {
+    CLI::App* const command = program.add_subcommand(
+        "check", "Find mistakes in form files and in captions, with their places");
+    const auto options = std::make_shared<Options>();
+    command
+        ->add_option("PATH", options->paths,
+                     "Forms (.frm, .ctl, .pag, .dob) and folders, which are searched for such "
+                     "files with all they contain")
+        ->required();
+    command->add_flag("--caption", options->captions,
+                      "The files are captions, one each, in UTF-8: - reads the standard input, "
+                      "folders are searched for .txt. One line break at the very end is no part of "
+                      "a caption");
+    command->add_flag("--json", options->json,
+                      R"(Print {"files":N,"findings":[{"rule":...,"file":...,"line":...,)"
+                      R"("column":...,...},...],"errors":[...]})");
+    command
+        ->add_option("--code-page", options->codePage,
+                     "What forms are written in unless they are UTF-8: 1250 to 1258 or 65001")
+        ->capture_default_str()
+        ->check(RequireCodePage, "");
+    command->footer(Help());
+    command->callback([options, &status] { status = Check(*options); });
+}
+
+}  // namespace lumenkit::cli

@@ -1,0 +1,10 @@
+#pragma once
+
+#include <CLI/CLI.hpp>
+
+namespace lumenkit::cli {
+
+/// Adds "lumenkit check" to the program. When it is chosen, parsing runs it and sets `status`.
+void AddCheckCommand(CLI::App& program, int& status);
+
+}  // namespace lumenkit::cli

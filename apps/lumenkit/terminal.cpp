@@ -1,0 +1,28 @@
+#include "apps/lumenkit/terminal.h"
+
+#include <cstdlib>
+#include <string_view>
+
+#include <unistd.h>
+
+namespace lumenkit::cli {
+
+namespace {
+
+// Nothing changes the environment while the program runs.
+std::string_view Environment(const char* name) {
+    const char* const value = std::getenv(name);  // NOLINT(concurrency-mt-unsafe)
+    return value == nullptr ? std::string_view() : value;
+}
+
+}  // namespace
+
+bool IsTerminal(Stream stream) {
+    return isatty(stream == Stream::Output ? STDOUT_FILENO : STDERR_FILENO) == 1;
+}
+
+bool TakesColors(Stream stream) {
+    return IsTerminal(stream) && Environment("NO_COLOR").empty() && Environment("TERM") != "dumb";
+}
+
+}  // namespace lumenkit::cli
