@@ -2,8 +2,8 @@
 
 #include <stdexcept>
 
+#include "frame/host/accepted_values.h"
 #include "frame/numbers.h"
-#include "runtime/memory/accepted_values.h"
 #include "runtime/memory/constituents.h"
 #include "runtime/memory/form.h"
 

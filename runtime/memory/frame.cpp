@@ -1,6 +1,6 @@
 #include "runtime/memory/frame.h"
 
-#include "runtime/memory/accepted_values.h"
+#include "frame/host/accepted_values.h"
 
 namespace lumenkit::memory {
 

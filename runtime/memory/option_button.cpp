@@ -1,6 +1,6 @@
 #include "runtime/memory/option_button.h"
 
-#include "runtime/memory/accepted_values.h"
+#include "frame/host/accepted_values.h"
 #include "runtime/memory/option_buttons.h"
 
 namespace lumenkit::memory {

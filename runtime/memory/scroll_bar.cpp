@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "runtime/memory/accepted_values.h"
+#include "frame/host/accepted_values.h"
 
 namespace lumenkit::memory {
 

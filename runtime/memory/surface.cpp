@@ -2,8 +2,8 @@
 
 #include <utility>
 
+#include "frame/host/accepted_values.h"
 #include "frame/runtime_error.h"
-#include "runtime/memory/accepted_values.h"
 
 namespace lumenkit::memory {
 

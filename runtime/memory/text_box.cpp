@@ -4,7 +4,7 @@
 #include <limits>
 #include <tuple>
 
-#include "runtime/memory/accepted_values.h"
+#include "frame/host/accepted_values.h"
 #include "runtime/memory/key_stroke.h"
 
 namespace lumenkit::memory {

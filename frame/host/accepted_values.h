@@ -1,4 +1,4 @@
-// What properties accept. Anything else raises 380.
+// What properties of surfaces and constituents accept, on every runtime. Anything else raises 380.
 #pragma once
 
 #include <cstdint>
@@ -6,7 +6,7 @@
 #include "frame/host/enumerations.h"
 #include "frame/runtime_error.h"
 
-namespace lumenkit::memory {
+namespace lumenkit {
 
 inline void Require(bool accepted) {
     if (!accepted) {
@@ -32,4 +32,4 @@ inline void RequirePointer(std::int32_t pointer) {
             pointer == static_cast<std::int32_t>(host::MousePointer::Custom));
 }
 
-}  // namespace lumenkit::memory
+}  // namespace lumenkit
