@@ -38,6 +38,9 @@ HWND Notifier(UINT message, WPARAM wParam, LPARAM lParam) {
 }  // namespace
 
 Window::~Window() {
+    for (Watch* watch = watches_; watch != nullptr; watch = watch->outer_) {
+        watch->window_ = nullptr;
+    }
     Destroy();
 }
 
@@ -89,16 +92,37 @@ void Window::Create(const WindowDesign& design) {
 }
 
 void Window::Destroy() {
-    if (handle_ != nullptr) {
-        DestroyWindow(handle_);
+    if (handle_ == nullptr) {
+        return;
     }
+    if (defaultCalls_ == 0) {
+        DestroyWindow(handle_);
+    } else {
+        LetGo();
+    }
+}
+
+void Window::LetGo() {
+    const HWND handle = std::exchange(handle_, nullptr);
+    RemovePropW(handle, ownClass);
+    SetWindowLongPtrW(handle, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(former_));
+    --windowCount;
+    ShowWindow(handle, SW_HIDE);
+    SetParent(handle, HWND_MESSAGE);  // so that it does not die with its parent before its time
+    PostMessageW(handle, WM_CLOSE, 0, 0);
 }
 
 LRESULT Window::Default(UINT message, WPARAM wParam, LPARAM lParam) {
     if (handle_ == nullptr) {
         return 0;
     }
-    return CallWindowProcW(former_, handle_, message, wParam, lParam);
+    const Watch watch(*this);
+    ++defaultCalls_;
+    const LRESULT answer = CallWindowProcW(former_, handle_, message, wParam, lParam);
+    if (!watch.IsGone()) {
+        --defaultCalls_;
+    }
+    return answer;
 }
 
 LRESULT CALLBACK Window::Procedure(HWND handle, UINT message, WPARAM wParam, LPARAM lParam) {

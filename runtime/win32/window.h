@@ -37,22 +37,48 @@ class Window {
     /// How many windows of this library exist in the process.
     static int Count();
 
+    /// Tells whether the object still lives after a call that may have destroyed it, as every
+    /// notification may. Watches of one window end in the reverse order of their beginning.
+    class Watch {
+     public:
+        explicit Watch(Window& window) : window_(&window), outer_(window.watches_) {
+            window.watches_ = this;
+        }
+        ~Watch() {
+            if (window_ != nullptr) {
+                window_->watches_ = outer_;
+            }
+        }
+        Watch(const Watch&) = delete;
+        Watch& operator=(const Watch&) = delete;
+
+        bool IsGone() const { return window_ == nullptr; }
+
+     private:
+        friend class Window;
+        Window* window_;
+        Watch* outer_;
+    };
+
  protected:
     /// Creates the window. Raises 7 when the platform refuses.
     void Create(const WindowDesign& design);
+    /// While the platform's own window procedure is at work in the window, the window is only
+    /// hidden and let go; the platform destroys it when that is done.
     void Destroy();
 
     /// Answers a message. What it does not answer it hands to Default. Nothing that it throws
-    /// leaves the window procedure: errors of event handlers end there.
+    /// leaves the window procedure: errors of event handlers end there. It may destroy the object.
     virtual LRESULT HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
         return Default(message, wParam, lParam);
     }
     /// Answers what this window's parent was notified of; nothing: the parent's default answer.
+    /// It may destroy the object.
     virtual std::optional<LRESULT> HandleNotification(UINT /*message*/, WPARAM /*wParam*/,
                                                       LPARAM /*lParam*/) {
         return std::nullopt;
     }
-    /// The answer of the window's class.
+    /// The answer of the window's class. The object may be gone when it returns.
     LRESULT Default(UINT message, WPARAM wParam, LPARAM lParam);
 
  private:
@@ -60,9 +86,12 @@ class Window {
     static const wchar_t* OwnClass(HINSTANCE module);
     LRESULT Answer(UINT message, WPARAM wParam, LPARAM lParam);
     std::optional<LRESULT> Reflect(UINT message, WPARAM wParam, LPARAM lParam);
+    void LetGo();
 
     HWND handle_ = nullptr;
     WNDPROC former_ = nullptr;  // of the platform's class
+    int defaultCalls_ = 0;      // of the platform's class that have not returned
+    Watch* watches_ = nullptr;  // the innermost
 };
 
 /// Removes the library's window class from the process, before its code is unloaded. There are no

@@ -14,5 +14,8 @@
 #define _WIN32_WINNT 0x0601
 #endif
 
-#include <commctrl.h>
+// The order matters.
+// clang-format off
 #include <windows.h>
+#include <commctrl.h>
+// clang-format on

@@ -1,0 +1,57 @@
+#include "runtime/win32/mouse.h"
+
+#include <windowsx.h>
+
+namespace lumenkit::win32 {
+
+namespace {
+
+constexpr std::int16_t leftButton = 1;
+constexpr std::int16_t rightButton = 2;
+constexpr std::int16_t middleButton = 4;
+
+bool IsHeld(int key) {
+    return GetKeyState(key) < 0;
+}
+
+std::int16_t ButtonsHeld(WPARAM keys) {
+    return static_cast<std::int16_t>(((keys & MK_LBUTTON) != 0 ? leftButton : 0) |
+                                     ((keys & MK_RBUTTON) != 0 ? rightButton : 0) |
+                                     ((keys & MK_MBUTTON) != 0 ? middleButton : 0));
+}
+
+std::int16_t ButtonOf(UINT message, WPARAM keys) {
+    switch (message) {
+        case WM_LBUTTONDOWN:
+        case WM_LBUTTONUP:
+        case WM_LBUTTONDBLCLK:
+            return leftButton;
+        case WM_RBUTTONDOWN:
+        case WM_RBUTTONUP:
+        case WM_RBUTTONDBLCLK:
+            return rightButton;
+        case WM_MBUTTONDOWN:
+        case WM_MBUTTONUP:
+        case WM_MBUTTONDBLCLK:
+            return middleButton;
+        default:
+            return ButtonsHeld(keys);
+    }
+}
+
+}  // namespace
+
+std::int16_t HeldKeys() {
+    return static_cast<std::int16_t>((IsHeld(VK_SHIFT) ? 1 : 0) | (IsHeld(VK_CONTROL) ? 2 : 0) |
+                                     (IsHeld(VK_MENU) ? 4 : 0));
+}
+
+host::MouseArguments MouseArgumentsOf(UINT message, WPARAM wParam, LPARAM lParam,
+                                      Resolution resolution) {
+    return {.button = ButtonOf(message, wParam),
+            .shift = HeldKeys(),
+            .x = ToTwips(GET_X_LPARAM(lParam), resolution.x),
+            .y = ToTwips(GET_Y_LPARAM(lParam), resolution.y)};
+}
+
+}  // namespace lumenkit::win32
