@@ -8,7 +8,7 @@ if(CMAKE_SIZEOF_VOID_P EQUAL 8)
             add_subdirectory(${folder})
         endif()
     endforeach()
-    lumenkit_test(caption_model_test
+    lumenkit_test(caption_model_test OPTIMISED
         SOURCES
             model/caption_comparison.cpp
             model/caption_compiler_model_test.cpp
