@@ -1,6 +1,7 @@
 #include "runtime/memory/property_bag.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "runtime/memory/font.h"
 
@@ -18,14 +19,13 @@ Value Copy(const Value& value) {
     return value;
 }
 
-template <typename Entries>
-auto PositionIn(Entries& entries, TextView name) {
-    return std::find_if(entries.begin(), entries.end(), [&](const auto& entry) {
-        return SameText(entry.first, name, Compare::IgnoreCase);
-    });
-}
-
 }  // namespace
+
+bool PropertyBag::CaselessLess::operator()(TextView left, TextView right) const {
+    return std::lexicographical_compare(
+        left.begin(), left.end(), right.begin(), right.end(),
+        [](char16_t one, char16_t other) { return LowerUnit(one) < LowerUnit(other); });
+}
 
 Value PropertyBag::ReadProperty(TextView name, const Value& defaultValue) {
     const Value* stored = Find(name);
@@ -33,27 +33,43 @@ Value PropertyBag::ReadProperty(TextView name, const Value& defaultValue) {
 }
 
 void PropertyBag::WriteProperty(TextView name, const Value& value, const Value& defaultValue) {
-    if (!SameValue(value, defaultValue)) {
+    if (SameValue(value, defaultValue)) {
+        Remove(name);
+    } else {
         Store(name, value);
-        return;
-    }
-    const auto stored = PositionIn(entries_, name);
-    if (stored != entries_.end()) {
-        entries_.erase(stored);
     }
 }
 
 const Value* PropertyBag::Find(TextView name) const {
-    const auto found = PositionIn(entries_, name);
-    return found == entries_.end() ? nullptr : &found->second;
+    const auto found = positions_.find(name);
+    return found == positions_.end() ? nullptr : &entries_[found->second].second;
 }
 
 void PropertyBag::Store(TextView name, const Value& value) {
-    const auto stored = PositionIn(entries_, name);
-    if (stored == entries_.end()) {
-        entries_.emplace_back(name, Copy(value));
-    } else {
-        stored->second = Copy(value);
+    Value copy = Copy(value);
+    if (const auto found = positions_.find(name); found != positions_.end()) {
+        entries_[found->second].second = std::move(copy);
+        return;
+    }
+    const auto added = positions_.emplace(name, entries_.size()).first;
+    try {
+        entries_.emplace_back(name, std::move(copy));
+    } catch (...) {
+        positions_.erase(added);
+        throw;
+    }
+}
+
+void PropertyBag::Remove(TextView name) {
+    const auto found = positions_.find(name);
+    if (found == positions_.end()) {
+        return;
+    }
+    const std::size_t removed = found->second;
+    positions_.erase(found);
+    entries_.erase(entries_.begin() + static_cast<std::ptrdiff_t>(removed));
+    for (auto& [other, position] : positions_) {
+        position -= position > removed ? 1 : 0;
     }
 }
 

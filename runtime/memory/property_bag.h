@@ -1,5 +1,7 @@
 #pragma once
 
+#include <cstddef>
+#include <map>
 #include <utility>
 #include <vector>
 
@@ -9,6 +11,7 @@ namespace lumenkit::memory {
 
 /// Values by name, in the order in which they were first stored. Names are told apart without
 /// regard to case. A font is stored as it is now, and reading it gives a new font each time.
+/// However many values there are, finding one is quick; taking one away looks at all behind it.
 class PropertyBag final : public host::PropertyBag {
  public:
     using Entry = std::pair<Text, Value>;
@@ -24,7 +27,15 @@ class PropertyBag final : public host::PropertyBag {
     void Store(TextView name, const Value& value);
 
  private:
+    struct CaselessLess {
+        using is_transparent = void;
+        bool operator()(TextView left, TextView right) const;
+    };
+
+    void Remove(TextView name);
+
     std::vector<Entry> entries_;
+    std::map<Text, std::size_t, CaselessLess> positions_;  // in entries_
 };
 
 }  // namespace lumenkit::memory

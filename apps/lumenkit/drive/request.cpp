@@ -12,8 +12,6 @@ namespace lumenkit::cli {
 namespace {
 
 constexpr int deepestNesting = 16;
-// Far beyond what any control saves; a bag looks each name up among all of them.
-constexpr std::size_t mostProperties = 1000;
 
 std::string Quoted(std::string_view key) {
     return '"' + std::string(key) + '"';
@@ -190,10 +188,6 @@ std::shared_ptr<memory::Font> FontOf(const RequestJson& json, memory::Form& form
 
 memory::PropertyBag BagOf(const RequestJson& json, memory::Form& form) {
     const Fields fields(json, "the bag");
-    if (json.size() > mostProperties) {
-        throw BadRequest("the bag holds more than " + std::to_string(mostProperties) +
-                         " properties");
-    }
     memory::PropertyBag bag;
     for (const auto& [name, value] : fields.Items()) {
         bag.Store(FromUtf8(name), ValueOf(value, form));

@@ -78,7 +78,7 @@ Value ValueOf(const RequestJson& json, memory::Form& form);
 /// Name and Size are those of the form's ambient font, the rest false, unless given. Throws
 /// BadRequest for what is no font; raises 380 for a size that fonts refuse.
 std::shared_ptr<memory::Font> FontOf(const RequestJson& json, memory::Form& form);
-/// Throws BadRequest for what is no object and for more than 1000 properties.
+/// Throws BadRequest for what is no object.
 memory::PropertyBag BagOf(const RequestJson& json, memory::Form& form);
 
 }  // namespace lumenkit::cli

@@ -1,8 +1,14 @@
 #include "runtime/memory/property_bag.h"
 
+#include <algorithm>
+#include <random>
+#include <vector>
+
 #include <gtest/gtest.h>
 
+#include "frame/numbers.h"
 #include "runtime/memory/font.h"
+#include "tests/support/test_seed.h"
 
 namespace lumenkit::memory {
 namespace {
@@ -37,6 +43,46 @@ TEST(MemoryPropertyBag, StoresWhatATestPutsIn) {
     PropertyBag bag;
     bag.Store(u"Caption", Text(u"x"));
     EXPECT_EQ(bag.ReadProperty(u"CAPTION", Text(u"d")), Value(Text(u"x")));
+}
+
+// Against a plain list that is searched from the start.
+TEST(MemoryPropertyBag, KeepsOrderWhateverIsTakenAway) {
+    std::mt19937 random(lumenkit::testing::TestSeed());
+    PropertyBag bag;
+    std::vector<PropertyBag::Entry> expected;
+    for (int i = 0; i < 5000; ++i) {
+        Text name = u"Name" + Decimal(static_cast<std::int32_t>(random() % 12));
+        const auto value = static_cast<std::int32_t>(random() % 3);
+        const auto stored = std::ranges::find(expected, name, &PropertyBag::Entry::first);
+        if (value == 0 && stored != expected.end()) {
+            expected.erase(stored);
+        } else if (value != 0 && stored != expected.end()) {
+            stored->second = value;
+        } else if (value != 0) {
+            expected.emplace_back(name, value);
+        }
+        bag.WriteProperty(random() % 2 == 0 ? name : LCase(name), value, std::int32_t{0});
+        // A name that was stored in lower case first keeps that.
+        ASSERT_TRUE(
+            std::ranges::equal(bag.Entries(), expected, [](const auto& one, const auto& other) {
+                return SameText(one.first, other.first, Compare::IgnoreCase) &&
+                       one.second == other.second;
+            }));
+        const Value* found = bag.Find(LCase(name));
+        ASSERT_EQ(found == nullptr, value == 0);
+    }
+}
+
+TEST(MemoryPropertyBag, FindsAmongMany) {
+    PropertyBag bag;
+    constexpr std::int32_t many = 200000;
+    for (std::int32_t i = 0; i < many; ++i) {
+        bag.Store(u"Name" + Decimal(i), i);
+    }
+    for (std::int32_t i = 0; i < many; ++i) {
+        ASSERT_EQ(*bag.Find(u"NAME" + Decimal(i)), Value(i));
+    }
+    EXPECT_EQ(bag.Find(u"Name" + Decimal(many)), nullptr);
 }
 
 TEST(MemoryPropertyBag, KeepsAFontAsItWas) {
