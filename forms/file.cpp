@@ -6,6 +6,7 @@
 #include <string_view>
 #include <system_error>
 
+#include "forms/flush.h"
 #include "frame/utf8.h"
 
 namespace lumenkit::forms {
@@ -45,7 +46,7 @@ class Replacement {
         std::ofstream stream(beside_, std::ios::binary);
         stream.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
         stream.close();
-        if (!stream) {
+        if (!stream || !FlushFile(beside_)) {
             Discard();
             throw FormError(NameOf(target_), "cannot be written");
         }
@@ -64,6 +65,7 @@ class Replacement {
         if (error) {
             throw FormError(NameOf(target_), "cannot be written");
         }
+        FlushFolder(target_.parent_path());
     }
 
  private:
