@@ -1,11 +1,13 @@
 #include "tests/apps/program.h"
 
+#include <array>
 #include <cstdio>
 #include <cstdlib>
 #include <fstream>
 #include <iterator>
 
 #include <gtest/gtest.h>
+#include <pty.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -40,6 +42,29 @@ Outcome RunProgram(const std::string& arguments, const std::string& input) {
     for (const std::string& path : {in, out, errors}) {
         std::remove(path.c_str());
     }
+    return outcome;
+}
+
+Outcome RunOnTerminal(const std::string& arguments, const std::string& variables) {
+    const std::string command = "unset NO_COLOR; export TERM=xterm; " + variables +
+                                " exec " LUMENKIT_PROGRAM " " + arguments;
+    int terminal = -1;
+    const pid_t program = forkpty(&terminal, nullptr, nullptr, nullptr);
+    if (program == 0) {
+        execl("/bin/sh", "/bin/sh", "-c", command.c_str(), nullptr);
+        _exit(127);
+    }
+    Outcome outcome;
+    std::array<char, 4096> block{};
+    // Reading fails once nobody is at the other end.
+    for (ssize_t count = 1; count > 0;) {
+        count = read(terminal, block.data(), block.size());
+        outcome.output.append(block.data(), count > 0 ? static_cast<std::size_t>(count) : 0);
+    }
+    close(terminal);
+    int status = 0;
+    waitpid(program, &status, 0);
+    outcome.status = WIFEXITED(status) ? WEXITSTATUS(status) : -1;
     return outcome;
 }
 

@@ -1,0 +1,252 @@
+// "lumenkit check", output against what was written by hand.
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <string>
+
+#include <gmock/gmock.h>
+#include <nlohmann/json.hpp>
+#include <unistd.h>
+
+#include "tests/apps/program.h"
+
+namespace lumenkit::testing {
+
+namespace {
+
+namespace fs = std::filesystem;
+using ::testing::EndsWith;
+using ::testing::HasSubstr;
+using ::testing::Not;
+using ::testing::StartsWith;
+using Json = nlohmann::ordered_json;
+
+const std::string here = LUMENKIT_SOURCE_DIR "/tests/apps/check/";
+
+std::string Read(const std::string& path) {
+    std::ifstream file(path, std::ios::binary);
+    return {std::istreambuf_iterator<char>(file), {}};
+}
+
+// What is written by hand names files as from this folder.
+std::string FromHere(std::string output) {
+    for (auto at = output.find(here); at != std::string::npos; at = output.find(here)) {
+        output.erase(at, here.size());
+    }
+    return output;
+}
+
+std::string Compact(const std::string& json) {
+    return Json::parse(json).dump() + '\n';
+}
+
+// A folder of its own for each test, gone with it.
+class CheckFolder : public ::testing::Test {
+ protected:
+    CheckFolder()
+        : folder(fs::path(LUMENKIT_BINARY_DIR) / "check_test_files" /
+                 ::testing::UnitTest::GetInstance()->current_test_info()->name()) {
+        fs::remove_all(folder);
+        fs::create_directories(folder);
+    }
+    ~CheckFolder() override { fs::remove_all(folder); }
+
+    void Write(const std::string& name, const std::string& bytes) const {
+        fs::create_directories((folder / name).parent_path());
+        std::ofstream(folder / name, std::ios::binary) << bytes;
+    }
+    void WriteForms(int count, const std::string& caption) const {
+        for (int i = 100; i < 100 + count; ++i) {
+            Write("form" + std::to_string(i) + ".frm", FormWith(caption));
+        }
+    }
+    static std::string FormWith(const std::string& caption) {
+        return "VERSION 5.00\nBegin VB.Form F\n Begin lumenkit.VLabel L\n  Caption = \"" + caption +
+               "\"\n End\nEnd\n";
+    }
+    Outcome Check(const std::string& arguments = "") const {
+        return RunProgram("check " + arguments + " " + folder.string());
+    }
+
+    const fs::path folder;
+};
+
+TEST(CheckCommand, TellsWhatIsWrongWithForms) {
+    const Outcome outcome = RunProgram("check " + here + "forms");
+    EXPECT_EQ(FromHere(outcome.output), Read(here + "forms_expected.txt"));
+    EXPECT_EQ(outcome.errors, "");
+    EXPECT_EQ(outcome.status, 1);
+}
+
+TEST(CheckCommand, TellsWhatIsWrongWithCaptionsInJson) {
+    const Outcome outcome = RunProgram("check --json --caption " + here + "captions");
+    EXPECT_EQ(FromHere(outcome.output), Compact(Read(here + "captions_expected.json")));
+    EXPECT_EQ(outcome.errors, "");
+    EXPECT_EQ(outcome.status, 1);
+}
+
+TEST(CheckCommand, GoesOnBehindAFormThatCannotBeRead) {
+    const Outcome json = RunProgram("check --json " + here + "broken");
+    EXPECT_EQ(FromHere(json.output), Compact(Read(here + "broken_expected.json")));
+    EXPECT_EQ(json.errors, "");
+    EXPECT_EQ(json.status, 2);
+
+    const Outcome text = RunProgram("check " + here + "broken");
+    EXPECT_EQ(FromHere(text.output),
+              "broken/readable.frm:4:28: lblReadable.Caption: unknown command \"Blod\"; did you "
+              "mean \"bold\"? [unknown-command]\n"
+              "1 file checked: 1 finding, 2 errors\n");
+    EXPECT_EQ(FromHere(text.errors),
+              "lumenkit: broken/cut.frm:4:36: expected '\"' to end the text, found the end of the "
+              "line\n"
+              "lumenkit: broken/lost.frx: cannot be read\n");
+    EXPECT_EQ(text.status, 2);
+}
+
+TEST(CheckCommand, SaysSoWhenNothingIsWrong) {
+    const Outcome form = RunProgram("check " + here + "forms/good.frm");
+    EXPECT_EQ(form.output, "1 file checked: 0 findings\n");
+    EXPECT_EQ(form.status, 0);
+    const Outcome caption = RunProgram("check --json --caption " + here + "captions/good.txt");
+    EXPECT_EQ(caption.output, "{\"files\":1,\"findings\":[],\"errors\":[]}\n");
+    EXPECT_EQ(caption.status, 0);
+}
+
+TEST(CheckCommand, ReadsACaptionFromTheStandardInput) {
+    const Outcome outcome = RunProgram("check --caption -", "a\n|U:1|b\n");
+    EXPECT_EQ(outcome.output,
+              "-:2:1: Caption: \"u\" draws italic, not underlined [underline-is-italic]\n"
+              "1 file checked: 1 finding\n");
+    EXPECT_EQ(outcome.status, 1);
+    EXPECT_EQ(RunProgram("check --caption -").status, 0);
+}
+
+TEST(CheckCommand, SaysWhichInputsCannotBeRead) {
+    const Outcome form = RunProgram("check no/such.frm " + here + "forms/good.frm");
+    EXPECT_EQ(form.errors, "lumenkit: no/such.frm: cannot be read\n");
+    EXPECT_EQ(form.output, "1 file checked: 0 findings, 1 error\n");
+    EXPECT_EQ(form.status, 2);
+    const Outcome caption = RunProgram("check --caption no/such.txt");
+    EXPECT_EQ(caption.errors, "lumenkit: cannot read no/such.txt: No such file or directory\n");
+    EXPECT_EQ(caption.status, 2);
+    const Outcome bytes = RunProgram("check --caption -", "a\xFF");
+    EXPECT_EQ(bytes.errors, "lumenkit: standard input: not valid UTF-8 at byte 1\n");
+    EXPECT_EQ(bytes.status, 2);
+}
+
+TEST(CheckCommand, RefusesWrongArguments) {
+    for (const char* arguments : {"check", "check --xml x.frm", "check --code-page 932 x.frm",
+                                  "check --code-page east x.frm"}) {
+        const Outcome outcome = RunProgram(arguments);
+        EXPECT_EQ(outcome.status, 2) << arguments;
+        EXPECT_EQ(outcome.output, "") << arguments;
+        EXPECT_NE(outcome.errors, "") << arguments;
+    }
+}
+
+TEST(CheckCommand, ShowsHelpWithExamples) {
+    const Outcome outcome = RunProgram("check --help");
+    EXPECT_THAT(outcome.output, HasSubstr("\nExamples:\n  lumenkit check "));
+    EXPECT_EQ(outcome.status, 0);
+}
+
+TEST_F(CheckFolder, CountsColumnsInTheCodePage) {
+    // In Windows-1250 every byte is a unit; as UTF-8 the two bytes of "ä" are one.
+    Write("a.frm", FormWith("\xF8|blod:1|"));
+    EXPECT_THAT(Check("--code-page 1250").output, HasSubstr("a.frm:4:15: "));
+    Write("a.frm", FormWith("\xC3\xA4|blod:1|"));
+    EXPECT_THAT(Check().output, HasSubstr("a.frm:4:15: "));
+}
+
+TEST_F(CheckFolder, LooksForFormsByTheirExtensions) {
+    for (const char* name :
+         {"a.frm", "B.CTL", "c.Pag", "deep/er/d.dob", "e.txt", "f.frx", "frm", "g.frm.bak"}) {
+        Write(name, FormWith("|blod:1|"));
+    }
+    fs::create_directories(folder / "folder.frm");
+    EXPECT_THAT(Check().output, EndsWith("\n4 files checked: 4 findings\n"));
+    EXPECT_THAT(Check("--caption").output, EndsWith("\n1 file checked: 1 finding\n"));
+}
+
+TEST_F(CheckFolder, FollowsNoLinksInCircles) {
+    Write("deep/a.frm", FormWith("x"));
+    fs::create_directory_symlink("..", folder / "deep" / "up");
+    EXPECT_EQ(Check().output, "1 file checked: 0 findings\n");
+}
+
+TEST_F(CheckFolder, AFolderThatCannotBeReadIsAnError) {
+    if (geteuid() == 0) {
+        // Permissions do not hold root back: a name that is too long does.
+        const Outcome outcome = RunProgram("check " + std::string(5000, 'x'));
+        EXPECT_EQ(outcome.status, 2);
+        return;
+    }
+    Write("closed/a.frm", FormWith("x"));
+    Write("open/a.frm", FormWith("x"));
+    fs::permissions(folder / "closed", fs::perms::none);
+    const Outcome outcome = Check();
+    fs::permissions(folder / "closed", fs::perms::owner_all);
+    EXPECT_EQ(outcome.status, 2);
+    EXPECT_EQ(outcome.errors,
+              "lumenkit: " + (folder / "closed").string() + ": Permission denied\n");
+    EXPECT_EQ(outcome.output, "1 file checked: 0 findings, 1 error\n");
+}
+
+TEST_F(CheckFolder, NamesInFilesAndOfFilesCommandNoTerminal) {
+    Write("a\x1b[31m\xFF.frm", FormWith("|\x0b:1|"));
+    Write("b.frm", FormWith("|\x7f\xc2\x9b:1|"));
+    for (const std::string arguments : {"", "--json"}) {
+        const Outcome outcome = Check(arguments);
+        for (const char command : {'\x1b', '\x0b', '\x7f'}) {
+            EXPECT_THAT(outcome.output + outcome.errors, Not(HasSubstr(std::string(1, command))));
+        }
+    }
+}
+
+TEST_F(CheckFolder, ShowsNoBarAndNoColorsWhereNobodyLooks) {
+    WriteForms(30, "|blod:1|");
+    const Outcome outcome = Check();
+    EXPECT_THAT(outcome.output, Not(HasSubstr("\x1b")));
+    EXPECT_EQ(outcome.errors, "");
+    EXPECT_EQ(outcome.status, 1);
+}
+
+TEST_F(CheckFolder, ShowsABarAndColorsOnATerminal) {
+    WriteForms(30, "x");
+    Write("form999.frm", FormWith("|blod:1|"));
+    const Outcome outcome = RunOnTerminal("check " + folder.string());
+    EXPECT_THAT(outcome.output, StartsWith("\r\x1b[K[" + std::string(30, '.') + "] 0%"));
+    EXPECT_THAT(outcome.output, HasSubstr("#"));
+    // The bar is gone before a finding is written, and at the end.
+    EXPECT_THAT(outcome.output, HasSubstr("%\r\x1b[K\x1b[1m" + folder.string()));
+    EXPECT_THAT(outcome.output, HasSubstr("\x1b[33munknown command \"blod\"\x1b[0m"));
+    EXPECT_THAT(outcome.output, EndsWith("\r\n31 files checked: 1 finding\r\n"));
+    EXPECT_EQ(outcome.status, 1);
+}
+
+TEST_F(CheckFolder, ShowsNoBarForAFewFiles) {
+    WriteForms(19, "x");
+    EXPECT_EQ(RunOnTerminal("check " + folder.string()).output, "19 files checked: 0 findings\r\n");
+}
+
+TEST_F(CheckFolder, ColorsCanBeTurnedOff) {
+    WriteForms(1, "|blod:1|");
+    const std::string arguments = "check " + folder.string();
+    EXPECT_THAT(RunOnTerminal(arguments).output, HasSubstr("\x1b[1m"));
+    EXPECT_THAT(RunOnTerminal(arguments, "NO_COLOR=1").output, Not(HasSubstr("\x1b")));
+    EXPECT_THAT(RunOnTerminal(arguments, "TERM=dumb").output, Not(HasSubstr("\x1b")));
+    EXPECT_THAT(RunOnTerminal(arguments + " --json").output, Not(HasSubstr("\x1b")));
+}
+
+TEST_F(CheckFolder, TheBarIsTheErrorStreamsOwn) {
+    WriteForms(30, "|blod:1|");
+    const std::string found = (folder / "found").string();
+    const Outcome outcome = RunOnTerminal("check " + folder.string() + " >" + found);
+    EXPECT_THAT(outcome.output, HasSubstr("] 0%"));
+    EXPECT_THAT(Read(found), Not(HasSubstr("\x1b")));
+    EXPECT_THAT(Read(found), EndsWith("\n30 files checked: 30 findings\n"));
+}
+
+}  // namespace
+
+}  // namespace lumenkit::testing
