@@ -1,0 +1,14 @@
+#pragma once
+
+#include "frame/color.h"
+#include "runtime/win32/windows_header.h"
+
+namespace lumenkit::win32 {
+
+/// The colour as the platform knows it; a system colour as it is at present.
+inline COLORREF ToColorRef(Color color) {
+    const auto bits = static_cast<std::uint32_t>(color);
+    return IsSystemColor(color) ? GetSysColor(static_cast<int>(bits & 0xFFU)) : bits & 0xFFFFFFU;
+}
+
+}  // namespace lumenkit::win32

@@ -1,0 +1,58 @@
+#pragma once
+
+#include <vector>
+
+#include "runtime/win32/canvas.h"
+#include "runtime/win32/font_cache.h"
+#include "runtime/win32/thread_shared.h"
+#include "runtime/win32/windows_header.h"
+
+namespace lumenkit::win32 {
+
+/// Where pixels of a control come to lie on a device: a control `size` pixels large fills `place`,
+/// which is in the device's logical units and may run upwards.
+struct Mapping {
+    RECT place = {};
+    SIZE size = {};
+
+    /// One to one, the upper left corner at the device's origin.
+    static Mapping Plain(SIZE size);
+
+    int X(int pixel) const;
+    int Y(int pixel) const;
+    RECT Of(const RECT& box) const;
+    bool IsPlain() const;
+};
+
+/// Draws on a device, with vectors; leaves the device's state as it was.
+class DeviceCanvas final : public Canvas {
+ public:
+    /// The canvas is `area` of what is mapped. Nothing is drawn outside it.
+    DeviceCanvas(HDC device, const Mapping& mapping, const RECT& area);
+    ~DeviceCanvas() override;
+    DeviceCanvas(const DeviceCanvas&) = delete;
+    DeviceCanvas& operator=(const DeviceCanvas&) = delete;
+
+    void Clear(Color paper) override;
+    void Print(const TextRun& run) override;
+    void Fill(const RECT& box, Color color) override;
+
+ private:
+    void FillMapped(const RECT& box, Color color);
+    void Use(HFONT font);
+    void PrintScaled(const TextRun& run, POINT at);
+    ScreenFontRef Scaled(const ScreenFont& font) const;
+
+    HDC device_;
+    int saved_;
+    Mapping mapping_;
+    RECT area_;
+    bool isPlain_;
+    HFONT font_ = nullptr;
+    COLORREF ink_ = CLR_INVALID;
+    int backgroundMode_ = 0;
+    ThreadShared<FontCache> cache_;
+    std::vector<int> advances_;
+};
+
+}  // namespace lumenkit::win32

@@ -1,0 +1,86 @@
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <vector>
+
+#include "frame/text.h"
+#include "runtime/win32/font.h"
+#include "runtime/win32/font_cache.h"
+#include "runtime/win32/pixels.h"
+#include "runtime/win32/thread_shared.h"
+
+namespace lumenkit::win32 {
+
+/// Who listens to a font. Listeners may come and go while they are told.
+class FontListeners {
+ public:
+    void Add(FontListener& listener) { listeners_.push_back(&listener); }
+    void Remove(FontListener& listener);
+    /// Tells each. Allocates nothing.
+    void Tell();
+
+ private:
+    std::vector<FontListener*> listeners_;  // null: removed while others were told
+    int telling_ = 0;
+};
+
+/// A font of the platform's drawing interface alone. Sizes are kept to four decimal places; one
+/// that is not above 0 then, or above 2160 points, raises 380.
+class GdiFont final : public Font {
+ public:
+    /// Regular weight. Raises 380 as SetSize does.
+    GdiFont(TextView name, float points, Resolution resolution);
+
+    Text Name() const override { return name_; }
+    void SetName(TextView name) override;
+    float Size() const override { return size_; }
+    void SetSize(float points) override;
+    bool Bold() const override;
+    void SetBold(bool bold) override;
+    bool Italic() const override { return italic_; }
+    void SetItalic(bool italic) override;
+    bool Underline() const override { return underline_; }
+    void SetUnderline(bool underline) override;
+    bool Strikethrough() const override { return strikethrough_; }
+    void SetStrikethrough(bool strikethrough) override;
+    std::int16_t Weight() const override { return weight_; }
+    void SetWeight(std::int16_t weight) override;
+    std::int16_t Charset() const override { return charset_; }
+    void SetCharset(std::int16_t charset) override;
+
+    void Add(FontListener& listener) override { listeners_.Add(listener); }
+    void Remove(FontListener& listener) override { listeners_.Remove(listener); }
+    HFONT Handle() const override;
+
+    /// A font of its own with the same attributes and nobody who listens.
+    std::shared_ptr<GdiFont> Clone() const;
+
+ private:
+    template <typename Field, typename NewValue>
+    void Change(Field& field, const NewValue& value);
+    LOGFONTW Design() const;
+
+    Text name_;
+    float size_;
+    std::int16_t weight_ = FW_NORMAL;
+    std::int16_t charset_ = ANSI_CHARSET;
+    bool italic_ = false;
+    bool underline_ = false;
+    bool strikethrough_ = false;
+    Resolution resolution_;
+    FontListeners listeners_;
+    ThreadShared<FontCache> cache_;
+    mutable ScreenFontRef realised_;  // null: not since the last change
+};
+
+/// Makes fonts for the screen's resolution.
+class GdiFontMaker final : public FontMaker {
+ public:
+    std::shared_ptr<Font> NewFont(TextView name, float points) override;
+
+ private:
+    Resolution resolution_ = Resolution::OfScreen();
+};
+
+}  // namespace lumenkit::win32

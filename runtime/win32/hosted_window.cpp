@@ -1,0 +1,98 @@
+#include "runtime/win32/hosted_window.h"
+
+#include "runtime/win32/keyboard.h"
+
+namespace lumenkit::win32 {
+
+namespace {
+
+constexpr UINT quietly = SWP_NOZORDER | SWP_NOACTIVATE | SWP_NOOWNERZORDER;
+
+}  // namespace
+
+HostedWindow::HostedWindow(HINSTANCE module, SIZE size) : parking_(module) {
+    // Dialogs look for what takes the focus among its children.
+    Create({.module = module,
+            .style = WS_CHILD | WS_CLIPCHILDREN | WS_CLIPSIBLINGS,
+            .extendedStyle = WS_EX_CONTROLPARENT,
+            .place = {0, 0, size.cx, size.cy},
+            .parent = parking_.Handle()});
+}
+
+bool HostedWindow::MoveInto(HWND parent, const RECT& place) {
+    if (Handle() == nullptr || SetParent(Handle(), parent) == nullptr) {
+        return false;
+    }
+    isAttached_ = true;
+    SetWindowPos(Handle(), HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+    MoveTo(place);
+    return true;
+}
+
+void HostedWindow::MoveTo(const RECT& place) {
+    if (Handle() != nullptr) {
+        SetWindowPos(Handle(), nullptr, place.left, place.top, place.right - place.left,
+                     place.bottom - place.top, quietly);
+    }
+}
+
+void HostedWindow::ClipTo(const RECT& clip) {
+    if (!IsAttached()) {
+        return;
+    }
+    RECT place = {};
+    GetWindowRect(Handle(), &place);
+    MapWindowPoints(nullptr, GetAncestor(Handle(), GA_PARENT), reinterpret_cast<POINT*>(&place), 2);
+    RECT seen = {};
+    IntersectRect(&seen, &place, &clip);
+    const bool isWhole = EqualRect(&seen, &place) != FALSE;
+    if (isWhole && !isClipped_) {
+        return;
+    }
+    OffsetRect(&seen, -place.left, -place.top);
+    // The window owns its region.
+    SetWindowRgn(Handle(), isWhole ? nullptr : CreateRectRgnIndirect(&seen), TRUE);
+    isClipped_ = !isWhole;
+}
+
+void HostedWindow::Show(bool visible) {
+    if (Handle() == nullptr) {
+        return;
+    }
+    if (!visible) {
+        GiveFocusAway();
+    }
+    ShowWindow(Handle(), visible ? SW_SHOWNA : SW_HIDE);
+}
+
+void HostedWindow::Park() {
+    if (!IsAttached()) {
+        return;
+    }
+    Show(false);
+    SetParent(Handle(), parking_.Handle());
+    isAttached_ = false;
+}
+
+void HostedWindow::GiveFocusAway() {
+    if (IsAttached() && HasFocusInside(Handle())) {
+        SetFocus(GetAncestor(Handle(), GA_PARENT));
+    }
+}
+
+SIZE HostedWindow::WindowSize() const {
+    RECT place = {};
+    GetWindowRect(Handle(), &place);
+    return {place.right - place.left, place.bottom - place.top};
+}
+
+void HostedWindow::SettingsChanged(UINT message, WPARAM wParam, LPARAM lParam) {
+    for (HWND child = GetWindow(Handle(), GW_CHILD); child != nullptr;
+         child = GetWindow(child, GW_HWNDNEXT)) {
+        SendMessageW(child, message, wParam, lParam);
+    }
+    RedrawWindow(Handle(), nullptr, nullptr,
+                 RDW_INVALIDATE | RDW_ERASE | RDW_FRAME | RDW_ALLCHILDREN);
+}
+
+}  // namespace lumenkit::win32
