@@ -1,0 +1,87 @@
+// The parts of the constituents' interfaces that all kinds fulfil alike.
+#pragma once
+
+#include <string>
+
+#include "frame/host/constituent.h"
+#include "runtime/win32/element.h"
+#include "runtime/win32/font.h"
+#include "runtime/win32/wide_text.h"
+
+namespace lumenkit::win32 {
+
+template <typename Interface>
+class BasicConstituent : public Interface, public Element {
+ public:
+    host::Placement Place() const override { return Where(); }
+    void Move(const host::Placement& placement) override { MoveTo(placement); }
+    bool Visible() const override { return IsVisible(); }
+    void SetVisible(bool visible) override { BecomeVisible(visible); }
+    bool Enabled() const override { return IsEnabled(); }
+    void SetEnabled(bool enabled) override { BecomeEnabled(enabled); }
+    void Refresh() override { RepaintNow(); }
+
+ protected:
+    using Element::Element;
+};
+
+template <typename Interface>
+class BasicTextConstituent : public BasicConstituent<Interface>, private FontListener {
+ public:
+    ~BasicTextConstituent() override { this->Destroy(); }  // while there is a font to draw with
+
+    host::FontRef CurrentFont() const override { return font_.Get(); }
+    /// Raises 380 for a font of another runtime.
+    void SetCurrentFont(host::FontRef font) override {
+        font_.Assign(font);
+        FontChanged();
+    }
+
+ protected:
+    BasicTextConstituent(const Owner& owner, const Element::Kind& kind, const host::Design& design,
+                         TextView text)
+        : BasicConstituent<Interface>(owner, kind, design, text),
+          font_(*this, owner.context.fonts.NewFont(design.fontName, design.fontSize)) {
+        UseFont();
+    }
+
+    HFONT FontHandle() const { return font_.Get()->Handle(); }
+    /// The constituent draws with another font now.
+    virtual void FontTaken() {}
+
+ private:
+    void FontChanged() override {
+        UseFont();
+        FontTaken();
+    }
+    void UseFont() { this->Ask(WM_SETFONT, reinterpret_cast<WPARAM>(FontHandle()), TRUE); }
+
+    HeldFont font_;
+};
+
+template <typename Interface>
+class BasicCaptioned : public BasicTextConstituent<Interface> {
+ public:
+    Text Caption() const override { return caption_; }
+    void SetCaption(TextView caption) override {
+        if (caption == caption_) {
+            return;
+        }
+        caption_ = caption;
+        SetWindowTextW(this->Handle(), ToWide(caption).c_str());
+        CaptionChanged();
+    }
+
+ protected:
+    BasicCaptioned(const Owner& owner, const Element::Kind& kind, const host::Design& design,
+                   TextView caption)
+        : BasicTextConstituent<Interface>(owner, kind, design, caption), caption_(caption) {}
+
+    virtual void CaptionChanged() {}
+    const Text& CaptionNow() const { return caption_; }
+
+ private:
+    Text caption_;
+};
+
+}  // namespace lumenkit::win32

@@ -1,0 +1,217 @@
+#include "runtime/win32/text_box.h"
+
+#include <algorithm>
+
+#include "frame/host/accepted_values.h"
+#include "runtime/win32/surrogates.h"
+
+namespace lumenkit::win32 {
+
+namespace {
+
+DWORD BarsOf(host::ScrollBars bars) {
+    switch (bars) {
+        case host::ScrollBars::Horizontal:
+            return WS_HSCROLL | ES_AUTOHSCROLL;
+        case host::ScrollBars::Vertical:
+            return WS_VSCROLL;
+        case host::ScrollBars::Both:
+            return WS_HSCROLL | ES_AUTOHSCROLL | WS_VSCROLL;
+        case host::ScrollBars::None:
+            break;
+    }
+    return 0;
+}
+
+// Without a horizontal bar lines wrap.
+DWORD StyleOf(const host::TextBoxDesign& design) {
+    return WS_TABSTOP | (design.multiLine ? ES_MULTILINE | ES_WANTRETURN | ES_AUTOVSCROLL |
+                                                BarsOf(design.scrollBars)
+                                          : ES_AUTOHSCROLL);
+}
+
+}  // namespace
+
+TextBox::TextBox(const Owner& owner, const host::TextBoxDesign& design, host::TextBoxEvents& events)
+    : BasicTextConstituent(
+          owner,
+          {.className = L"EDIT", .style = StyleOf(design), .extendedStyle = WS_EX_CLIENTEDGE},
+          design, design.text),
+      events_(events),
+      multiLine_(design.multiLine) {
+    Ask(EM_SETLIMITTEXT, 0);
+}
+
+TextBox::~TextBox() {
+    if (multiLine_) {
+        // A buffer that was asked for may count as ours; it is the edit control's to free.
+        Ask(EM_SETHANDLE, static_cast<WPARAM>(Ask(EM_GETHANDLE)));
+    }
+}
+
+std::int32_t TextBox::Length() const {
+    return static_cast<std::int32_t>(Ask(WM_GETTEXTLENGTH));
+}
+
+// Without data where the edit control does not show its buffer.
+TextView TextBox::TextInPlace() const {
+    const auto buffer = multiLine_ ? reinterpret_cast<HLOCAL>(Ask(EM_GETHANDLE)) : nullptr;
+    if (buffer == nullptr) {
+        return {};
+    }
+    const auto length = static_cast<std::size_t>(Length());
+    if (LocalSize(buffer) <= length * sizeof(char16_t)) {
+        return {};
+    }
+    const auto* const text = static_cast<const char16_t*>(LocalLock(buffer));
+    LocalUnlock(buffer);  // stays where it is: only the edit control moves it
+    return text == nullptr ? TextView{} : TextView(text, length);
+}
+
+void TextBox::KeepCopy() const {
+    if (isCopied_ || Handle() == nullptr) {
+        return;
+    }
+    copy_.resize(static_cast<std::size_t>(Length()) + 1);
+    const LRESULT length =
+        Ask(WM_GETTEXT, copy_.size(), reinterpret_cast<LPARAM>(AsWide(copy_.data())));
+    copy_.resize(static_cast<std::size_t>(length));
+    isCopied_ = true;
+}
+
+TextView TextBox::GetText() const {
+    if (const TextView text = TextInPlace(); text.data() != nullptr) {
+        return text;
+    }
+    KeepCopy();
+    return copy_;
+}
+
+void TextBox::SetText(TextView text) {
+    text = text.substr(0, text.find(u'\0'));
+    if (maxLength_ > 0) {
+        text = WithoutHalfPair(text, static_cast<std::size_t>(maxLength_));
+    }
+    if (text != GetText() && Assign(text)) {
+        events_.Change();
+    }
+}
+
+// Whether the box lives on.
+bool TextBox::Assign(TextView text) {
+    if (Handle() == nullptr) {
+        copy_ = Text(text);
+        return true;
+    }
+    const std::wstring wide = ToWide(text);
+    const Watch watch(*this);
+    isAssigning_ = true;
+    const LRESULT isDone = Ask(WM_SETTEXT, 0, reinterpret_cast<LPARAM>(wide.c_str()));
+    if (watch.IsGone()) {
+        return false;
+    }
+    isAssigning_ = false;
+    isCopied_ = false;
+    if (isDone == FALSE) {
+        Raise(ErrorNumber::OutOfMemory);
+    }
+    return true;
+}
+
+TextBox::Range TextBox::Selection() const {
+    DWORD start = 0;
+    DWORD end = 0;
+    Ask(EM_GETSEL, reinterpret_cast<WPARAM>(&start), reinterpret_cast<LPARAM>(&end));
+    return {static_cast<std::int32_t>(start), static_cast<std::int32_t>(end)};
+}
+
+void TextBox::Select(std::int32_t start, std::int32_t end) {
+    Ask(EM_SETSEL, static_cast<WPARAM>(start), end);
+    Ask(EM_SCROLLCARET);
+}
+
+std::int32_t TextBox::SelStart() const {
+    return Selection().start;
+}
+
+void TextBox::SetSelStart(std::int32_t position) {
+    Require(position >= 0);
+    const std::int32_t caret = std::min(position, Length());
+    Select(caret, caret);
+}
+
+std::int32_t TextBox::SelLength() const {
+    const Range selection = Selection();
+    return selection.end - selection.start;
+}
+
+void TextBox::SetSelLength(std::int32_t length) {
+    Require(length >= 0);
+    const std::int32_t start = Selection().start;
+    Select(start, start + std::min(length, Length() - start));
+}
+
+void TextBox::GetSelection(std::int32_t& start, std::int32_t& end) const {
+    const Range selection = Selection();
+    start = selection.start;
+    end = selection.end;
+}
+
+void TextBox::SetSelection(std::int32_t start, std::int32_t end) {
+    if (start == -1) {
+        Select(-1, 0);
+        return;
+    }
+    // The message's numbers are unsigned: what is negative lies beyond the end.
+    const std::int32_t length = Length();
+    const auto placed = [&](std::int32_t position) {
+        return position < 0 ? length : std::min(position, length);
+    };
+    const auto [first, last] = std::minmax({placed(start), placed(end)});
+    Select(first, last);
+}
+
+void TextBox::SetForeColor(Color color) {
+    foreColor_ = color;
+    Invalidate();
+}
+
+void TextBox::SetLocked(bool locked) {
+    locked_ = locked;
+    Ask(EM_SETREADONLY, locked ? TRUE : FALSE);
+}
+
+void TextBox::SetMaxLength(std::int32_t length) {
+    Require(length >= 0);
+    maxLength_ = length;
+    Ask(EM_SETLIMITTEXT, static_cast<WPARAM>(length));
+}
+
+void TextBox::SetPointer(host::MousePointer pointer) {
+    RequirePointer(static_cast<std::int32_t>(pointer));
+    pointer_ = pointer;
+}
+
+std::int32_t TextBox::WindowHandle() const {
+    // Handles have 32 significant bits.
+    return static_cast<std::int32_t>(reinterpret_cast<std::intptr_t>(Handle()));
+}
+
+std::optional<LRESULT> TextBox::HandleNotification(UINT message, WPARAM wParam, LPARAM /*lParam*/) {
+    if (message == WM_CTLCOLOREDIT || message == WM_CTLCOLORSTATIC) {
+        return AnswerColors(wParam, foreColor_, Color::WindowBackground);
+    }
+    if (message != WM_COMMAND) {
+        return std::nullopt;
+    }
+    const WORD code = HIWORD(wParam);
+    if (code == EN_UPDATE || code == EN_CHANGE) {
+        isCopied_ = false;
+    }
+    if (code == EN_CHANGE && !isAssigning_) {
+        events_.Change();
+    }
+    return 0;
+}
+
+}  // namespace lumenkit::win32

@@ -1,0 +1,232 @@
+// What the user does to a text box: keys, mouse, clipboard.
+#include <limits>
+
+#include "runtime/win32/clipboard_text.h"
+#include "runtime/win32/mouse.h"
+#include "runtime/win32/pointer_cursor.h"
+#include "runtime/win32/surrogates.h"
+#include "runtime/win32/text_box.h"
+
+namespace lumenkit::win32 {
+
+namespace {
+
+constexpr char16_t paste = 22;  // Ctrl+V
+constexpr char16_t escape = 27;
+constexpr char16_t deleteCharacter = 127;
+
+TextView FirstLine(TextView text) {
+    return text.substr(0, text.find_first_of(crLf));
+}
+
+bool IsInside(HWND window, LPARAM point) {
+    RECT inside = {};
+    GetClientRect(window, &inside);
+    const POINTS place = MAKEPOINTS(point);
+    return PtInRect(&inside, {place.x, place.y}) != FALSE;
+}
+
+}  // namespace
+
+LRESULT TextBox::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
+    switch (message) {
+        case WM_KEYDOWN:
+        case WM_SYSKEYDOWN:
+            return KeyGoesDown(message, wParam, lParam);
+        case WM_CHAR:
+            return KeyIsPressed(wParam, lParam);
+        case WM_SYSCHAR:
+            return keyIsTaken_ ? 0 : Default(message, wParam, lParam);
+        case WM_KEYUP:
+        case WM_SYSKEYUP:
+            return KeyGoesUp(message, wParam, lParam);
+        case WM_LBUTTONDOWN:
+        case WM_RBUTTONDOWN:
+        case WM_MBUTTONDOWN:
+            return ButtonGoesDown(message, wParam, lParam);
+        case WM_LBUTTONDBLCLK:
+        case WM_RBUTTONDBLCLK:
+        case WM_MBUTTONDBLCLK:
+            return ButtonIsClickedAgain(message, wParam, lParam);
+        case WM_LBUTTONUP:
+        case WM_RBUTTONUP:
+        case WM_MBUTTONUP:
+            return ButtonGoesUp(message, wParam, lParam);
+        case WM_MOUSEMOVE:
+            return MouseMoves(message, wParam, lParam);
+        case WM_PASTE:
+            Paste();
+            return 0;
+        case WM_SETTEXT:
+            if (!isAssigning_) {  // another program's
+                SetText(lParam == 0 ? TextView{} : AsText(reinterpret_cast<LPCWSTR>(lParam)));
+                return TRUE;
+            }
+            return Default(message, wParam, lParam);
+        case WM_SETCURSOR:
+            if (const HCURSOR cursor = CursorOf(pointer_);
+                cursor != nullptr && LOWORD(lParam) == HTCLIENT) {
+                SetCursor(cursor);
+                return TRUE;
+            }
+            return Default(message, wParam, lParam);
+        case WM_GETDLGCODE: {
+            // Not the edit control's own answer: it would act for the dialog from then on.
+            const auto* const asked = reinterpret_cast<const MSG*>(lParam);
+            const bool wants = multiLine_ && asked != nullptr && asked->wParam == VK_RETURN;
+            return DLGC_HASSETSEL | DLGC_WANTCHARS | DLGC_WANTARROWS |
+                   (wants ? DLGC_WANTMESSAGE : 0);
+        }
+        case WM_DESTROY:
+            KeepCopy();  // the text outlives the window
+            return Default(message, wParam, lParam);
+        default:
+            return BasicTextConstituent::HandleMessage(message, wParam, lParam);
+    }
+}
+
+void TextBox::FocusMoved(bool came) {
+    if (came) {
+        events_.GotFocus();
+    } else {
+        events_.LostFocus();
+    }
+}
+
+LRESULT TextBox::KeyGoesDown(UINT message, WPARAM wParam, LPARAM lParam) {
+    auto keyCode = static_cast<std::int16_t>(wParam);
+    std::int16_t shift = HeldKeys();
+    keyIsTaken_ = false;
+    const Watch watch(*this);
+    events_.KeyDown(keyCode, shift);
+    if (watch.IsGone()) {
+        return 0;
+    }
+    keyIsTaken_ = keyCode == 0;
+    // A box with several lines would close the dialog that it lies in.
+    const bool closes = multiLine_ && keyCode == VK_ESCAPE;
+    return keyIsTaken_ || closes ? 0 : Default(message, static_cast<WPARAM>(keyCode), lParam);
+}
+
+LRESULT TextBox::KeyIsPressed(WPARAM wParam, LPARAM lParam) {
+    if (keyIsTaken_) {
+        return 0;
+    }
+    auto keyAscii = static_cast<std::int16_t>(wParam);
+    const Watch watch(*this);
+    events_.KeyPress(keyAscii);
+    const auto unit = static_cast<char16_t>(keyAscii);
+    if (watch.IsGone() || !Takes(unit)) {
+        return 0;
+    }
+    if (unit == paste) {
+        Paste();
+        return 0;
+    }
+    return Default(WM_CHAR, unit, lParam);
+}
+
+// Whether the edit control is to see the unit: not what it would only beep at, nor what leaves half
+// a pair.
+bool TextBox::Takes(char16_t unit) {
+    if (unit == 0 || unit == escape || unit == deleteCharacter) {
+        return false;
+    }
+    if (!multiLine_ && (unit == u'\t' || unit == u'\r' || unit == u'\n')) {
+        return false;
+    }
+    if (IsHighSurrogate(unit)) {
+        dropsSurrogate_ = Room() < 2;
+        return !dropsSurrogate_;
+    }
+    return !(IsLowSurrogate(unit) && std::exchange(dropsSurrogate_, false));
+}
+
+LRESULT TextBox::KeyGoesUp(UINT message, WPARAM wParam, LPARAM lParam) {
+    auto keyCode = static_cast<std::int16_t>(wParam);
+    std::int16_t shift = HeldKeys();
+    keyIsTaken_ = false;
+    const Watch watch(*this);
+    events_.KeyUp(keyCode, shift);
+    return watch.IsGone() || keyCode == 0 ? 0
+                                          : Default(message, static_cast<WPARAM>(keyCode), lParam);
+}
+
+// The left button first does what it does in an edit control: it brings the focus and moves the
+// caret, so that the receiver sees what came of it. The others open menus, at last.
+LRESULT TextBox::ButtonGoesDown(UINT message, WPARAM wParam, LPARAM lParam) {
+    host::MouseArguments mouse = MouseArgumentsOf(message, wParam, lParam, PixelsPerInch());
+    const Watch watch(*this);
+    if (message != WM_LBUTTONDOWN) {
+        events_.MouseDown(mouse);
+        return watch.IsGone() ? 0 : Default(message, wParam, lParam);
+    }
+    isPressed_ = true;
+    const LRESULT answer = Default(message, wParam, lParam);
+    if (!watch.IsGone()) {
+        events_.MouseDown(mouse);
+    }
+    return answer;
+}
+
+LRESULT TextBox::ButtonIsClickedAgain(UINT message, WPARAM wParam, LPARAM lParam) {
+    if (message != WM_LBUTTONDBLCLK) {
+        return ButtonGoesDown(message, wParam, lParam);
+    }
+    const Watch watch(*this);
+    const LRESULT answer = Default(message, wParam, lParam);
+    if (!watch.IsGone()) {
+        events_.DblClick();
+    }
+    return answer;
+}
+
+LRESULT TextBox::ButtonGoesUp(UINT message, WPARAM wParam, LPARAM lParam) {
+    host::MouseArguments mouse = MouseArgumentsOf(message, wParam, lParam, PixelsPerInch());
+    const Watch watch(*this);
+    if (message != WM_LBUTTONUP) {
+        events_.MouseUp(mouse);
+        return watch.IsGone() ? 0 : Default(message, wParam, lParam);
+    }
+    const bool isClick = std::exchange(isPressed_, false) && IsInside(Handle(), lParam);
+    const LRESULT answer = Default(message, wParam, lParam);
+    if (!watch.IsGone()) {
+        events_.MouseUp(mouse);
+    }
+    if (!watch.IsGone() && isClick) {
+        events_.Click();
+    }
+    return answer;
+}
+
+LRESULT TextBox::MouseMoves(UINT message, WPARAM wParam, LPARAM lParam) {
+    host::MouseArguments mouse = MouseArgumentsOf(message, wParam, lParam, PixelsPerInch());
+    const Watch watch(*this);
+    events_.MouseMove(mouse);
+    return watch.IsGone() ? 0 : Default(message, wParam, lParam);
+}
+
+// How many units may take the place of the selection.
+std::size_t TextBox::Room() const {
+    if (maxLength_ == 0) {
+        return std::numeric_limits<std::size_t>::max();
+    }
+    const Range selection = Selection();
+    const std::int32_t kept = Length() - (selection.end - selection.start);
+    return static_cast<std::size_t>(std::max(maxLength_ - kept, 0));
+}
+
+// In place of the edit control's own: no pair is split, and a single line takes one line only.
+void TextBox::Paste() {
+    if (locked_) {
+        return;
+    }
+    const Text text = ClipboardText(Handle());
+    const TextView fitting = WithoutHalfPair(multiLine_ ? TextView(text) : FirstLine(text), Room());
+    if (!fitting.empty()) {
+        const std::wstring wide = ToWide(fitting);
+        Ask(EM_REPLACESEL, TRUE, reinterpret_cast<LPARAM>(wide.c_str()));
+    }
+}
+
+}  // namespace lumenkit::win32
