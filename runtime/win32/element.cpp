@@ -123,6 +123,12 @@ LRESULT Element::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
     return answer;
 }
 
+void Element::FillBackground(HDC device) const {
+    RECT inside = {};
+    GetClientRect(Handle(), &inside);
+    FillRect(device, &inside, GetSysColorBrush(COLOR_BTNFACE));
+}
+
 LRESULT Element::AnswerColors(WPARAM device, Color text, Color background) {
     const auto context = reinterpret_cast<HDC>(device);
     SetTextColor(context, ToColorRef(text));

@@ -67,6 +67,8 @@ class Element : public Window, public Drawable {
     virtual void FocusMoved(bool /*came*/) {}
     LRESULT HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
 
+    /// Fills the client area with the colour of buttons.
+    void FillBackground(HDC device) const;
     /// Answers WM_CTLCOLOR... with these colours.
     static LRESULT AnswerColors(WPARAM device, Color text, Color background);
 

@@ -1,0 +1,22 @@
+#include "runtime/win32/command_button.h"
+
+namespace lumenkit::win32 {
+
+CommandButton::CommandButton(const Owner& owner, const host::CaptionDesign& design,
+                             host::ClickEvents& events)
+    : BasicCaptioned(owner, {.className = L"BUTTON", .style = BS_PUSHBUTTON | WS_TABSTOP}, design,
+                     design.caption),
+      events_(events) {}
+
+std::optional<LRESULT> CommandButton::HandleNotification(UINT message, WPARAM wParam,
+                                                         LPARAM /*lParam*/) {
+    if (message != WM_COMMAND) {
+        return std::nullopt;
+    }
+    if (HIWORD(wParam) == BN_CLICKED) {
+        events_.Click();
+    }
+    return 0;
+}
+
+}  // namespace lumenkit::win32

@@ -1,0 +1,43 @@
+#include "runtime/win32/frame.h"
+
+#include "frame/host/accepted_values.h"
+
+namespace lumenkit::win32 {
+
+Frame::Frame(const Owner& owner, const host::CaptionDesign& design)
+    : BasicCaptioned(owner,
+                     {.className = L"BUTTON",
+                      .style = BS_GROUPBOX | WS_CLIPCHILDREN,
+                      .extendedStyle = WS_EX_CONTROLPARENT},
+                     design, design.caption) {}
+
+void Frame::SetBorderStyle(std::int16_t style) {
+    borderStyle_ = AcceptedNumber<std::int16_t>(style, 0, 1);
+    Invalidate();
+}
+
+LRESULT Frame::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
+    switch (message) {
+        case WM_ERASEBKGND:
+            FillBackground(reinterpret_cast<HDC>(wParam));
+            return 1;
+        case WM_PAINT:
+            if (borderStyle_ == 0) {
+                PAINTSTRUCT paint = {};
+                BeginPaint(Handle(), &paint);  // erases
+                EndPaint(Handle(), &paint);
+                return 0;
+            }
+            break;
+        case WM_PRINTCLIENT:
+            if (borderStyle_ == 0) {
+                return 0;
+            }
+            break;
+        default:
+            break;
+    }
+    return BasicCaptioned::HandleMessage(message, wParam, lParam);
+}
+
+}  // namespace lumenkit::win32

@@ -1,0 +1,27 @@
+#pragma once
+
+#include <cstdint>
+
+#include "frame/host/simple_constituents.h"
+#include "runtime/win32/basic_constituent.h"
+
+namespace lumenkit::win32 {
+
+/// A group box, which has its own background. With a fixed single border at first; without one it
+/// shows no caption either.
+class Frame final : public BasicCaptioned<host::Frame> {
+ public:
+    Frame(const Owner& owner, const host::CaptionDesign& design);
+
+    std::int16_t BorderStyle() const override { return borderStyle_; }
+    void SetBorderStyle(std::int16_t style) override;
+
+ protected:
+    void CaptionChanged() override { Invalidate(); }
+    LRESULT HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
+
+ private:
+    std::int16_t borderStyle_ = 1;
+};
+
+}  // namespace lumenkit::win32

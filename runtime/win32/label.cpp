@@ -1,0 +1,60 @@
+#include "runtime/win32/label.h"
+
+#include <string>
+
+namespace lumenkit::win32 {
+
+namespace {
+
+// In pixels. An empty caption has a line's height.
+SIZE SizeOf(const Text& caption, HFONT font) {
+    const std::wstring wide = caption.empty() ? L" " : ToWide(caption);
+    const HDC screen = GetDC(nullptr);
+    const HGDIOBJ former = SelectObject(screen, font);
+    RECT extent = {};
+    DrawTextW(screen, wide.c_str(), static_cast<int>(wide.size()), &extent,
+              DT_CALCRECT | DT_LEFT | DT_EXPANDTABS);
+    SelectObject(screen, former);
+    ReleaseDC(nullptr, screen);
+    return {caption.empty() ? 0 : extent.right, extent.bottom};
+}
+
+}  // namespace
+
+Label::Label(const Owner& owner, const host::CaptionDesign& design)
+    : BasicCaptioned(owner, {.className = L"STATIC", .style = SS_LEFT}, design, design.caption) {}
+
+void Label::SetAutoSize(bool autoSize) {
+    autoSize_ = autoSize;
+    FitToCaption();
+}
+
+void Label::SetForeColor(Color color) {
+    foreColor_ = color;
+    Invalidate();
+}
+
+void Label::SetBackColor(Color color) {
+    backColor_ = color;
+    Invalidate();
+}
+
+void Label::FitToCaption() {
+    if (!autoSize_) {
+        return;
+    }
+    const SIZE size = SizeOf(CaptionNow(), FontHandle());
+    host::Placement fitting = Where();
+    fitting.width = ToTwips(static_cast<int>(size.cx), PixelsPerInch().x);
+    fitting.height = ToTwips(static_cast<int>(size.cy), PixelsPerInch().y);
+    MoveTo(fitting);
+}
+
+std::optional<LRESULT> Label::HandleNotification(UINT message, WPARAM wParam, LPARAM /*lParam*/) {
+    if (message == WM_CTLCOLORSTATIC) {
+        return AnswerColors(wParam, foreColor_, backColor_);
+    }
+    return std::nullopt;
+}
+
+}  // namespace lumenkit::win32

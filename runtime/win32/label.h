@@ -1,0 +1,36 @@
+#pragma once
+
+#include <optional>
+
+#include "frame/host/simple_constituents.h"
+#include "runtime/win32/basic_constituent.h"
+
+namespace lumenkit::win32 {
+
+/// Text that the platform breaks into lines; a mnemonic in it belongs to what comes next in the tab
+/// order.
+class Label final : public BasicCaptioned<host::Label> {
+ public:
+    Label(const Owner& owner, const host::CaptionDesign& design);
+
+    bool AutoSize() const override { return autoSize_; }
+    void SetAutoSize(bool autoSize) override;
+    Color ForeColor() const override { return foreColor_; }
+    void SetForeColor(Color color) override;
+    Color BackColor() const override { return backColor_; }
+    void SetBackColor(Color color) override;
+
+ protected:
+    void CaptionChanged() override { FitToCaption(); }
+    void FontTaken() override { FitToCaption(); }
+    std::optional<LRESULT> HandleNotification(UINT message, WPARAM wParam, LPARAM lParam) override;
+
+ private:
+    void FitToCaption();
+
+    bool autoSize_ = false;
+    Color foreColor_ = Color::ButtonText;
+    Color backColor_ = Color::ButtonFace;
+};
+
+}  // namespace lumenkit::win32

@@ -1,0 +1,103 @@
+#include "runtime/win32/option_button.h"
+
+#include <uxtheme.h>
+
+#include "frame/host/accepted_values.h"
+#include "runtime/win32/option_buttons.h"
+
+namespace lumenkit::win32 {
+
+OptionButton::OptionButton(const Owner& owner, const host::OptionButtonDesign& design,
+                           OptionButtons& group)
+    : BasicCaptioned(owner, {.className = L"BUTTON", .style = BS_RADIOBUTTON}, design,
+                     design.caption),
+      group_(group) {
+    // The focus alone is no click.
+    Ask(BM_SETDONTCLICK, TRUE);
+}
+
+void OptionButton::SetVisible(bool visible) {
+    BecomeVisible(visible);
+    group_.PlaceTabStop();
+}
+
+void OptionButton::SetEnabled(bool enabled) {
+    BecomeEnabled(enabled);
+    group_.PlaceTabStop();
+}
+
+bool OptionButton::IsSelected() const {
+    return group_.Selected() == this;
+}
+
+void OptionButton::Select(bool selected) {
+    if (selected) {
+        group_.Choose(*this);
+    } else {
+        group_.Release(*this);
+    }
+}
+
+void OptionButton::SetAlignment(std::int16_t alignment) {
+    alignment_ = AcceptedNumber<std::int16_t>(alignment, 0, 1);
+    SwitchStyle(BS_RIGHTBUTTON, alignment == 1);
+    Invalidate();
+}
+
+void OptionButton::SetForeColor(Color color) {
+    if (color == foreColor_) {
+        return;
+    }
+    foreColor_ = color;
+    // Visual styles have a colour of their own for captions; without them ours is asked for.
+    const wchar_t* const theme = color == Color::ButtonText ? nullptr : L"";
+    SetWindowTheme(Handle(), theme, theme);
+    Invalidate();
+}
+
+void OptionButton::Mark(bool selected) {
+    Ask(BM_SETCHECK, selected ? BST_CHECKED : BST_UNCHECKED);
+}
+
+void OptionButton::BecomeTabStop(bool stops) {
+    SwitchStyle(WS_TABSTOP, stops);
+}
+
+LRESULT OptionButton::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
+    if (message == WM_KEYDOWN) {
+        switch (wParam) {
+            case VK_DOWN:
+            case VK_RIGHT:
+                group_.Step(*this, true);
+                return 0;
+            case VK_UP:
+            case VK_LEFT:
+                group_.Step(*this, false);
+                return 0;
+            default:
+                break;
+        }
+    }
+    if (message == WM_GETDLGCODE) {
+        return Default(message, wParam, lParam) | DLGC_WANTARROWS;
+    }
+    return BasicCaptioned::HandleMessage(message, wParam, lParam);
+}
+
+std::optional<LRESULT> OptionButton::HandleNotification(UINT message, WPARAM wParam,
+                                                        LPARAM /*lParam*/) {
+    switch (message) {
+        case WM_CTLCOLORBTN:
+        case WM_CTLCOLORSTATIC:
+            return AnswerColors(wParam, foreColor_, Color::ButtonFace);
+        case WM_COMMAND:
+            if (HIWORD(wParam) == BN_CLICKED || HIWORD(wParam) == BN_DOUBLECLICKED) {
+                group_.Choose(*this);
+            }
+            return 0;
+        default:
+            return std::nullopt;
+    }
+}
+
+}  // namespace lumenkit::win32

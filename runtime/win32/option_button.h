@@ -1,0 +1,47 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+
+#include "frame/host/option_buttons.h"
+#include "runtime/win32/basic_constituent.h"
+
+namespace lumenkit::win32 {
+
+class OptionButtons;
+
+/// A radio button whose mark its array sets, not the platform: the platform's groups know nothing
+/// of arrays.
+class OptionButton final : public BasicCaptioned<host::OptionButton> {
+ public:
+    /// `design.index` is the element's index.
+    OptionButton(const Owner& owner, const host::OptionButtonDesign& design, OptionButtons& group);
+
+    void SetVisible(bool visible) override;
+    void SetEnabled(bool enabled) override;
+    Text Tag() const override { return tag_; }
+    void SetTag(TextView tag) override { tag_ = tag; }
+    bool IsSelected() const override;
+    void Select(bool selected) override;
+    std::int16_t Alignment() const override { return alignment_; }
+    void SetAlignment(std::int16_t alignment) override;
+    Color ForeColor() const override { return foreColor_; }
+    void SetForeColor(Color color) override;
+
+    // For the array.
+    void Mark(bool selected);
+    void BecomeTabStop(bool stops);
+    bool TakesFocus() const { return IsVisible() && IsEnabled(); }
+
+ protected:
+    LRESULT HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
+    std::optional<LRESULT> HandleNotification(UINT message, WPARAM wParam, LPARAM lParam) override;
+
+ private:
+    OptionButtons& group_;
+    Text tag_;
+    Color foreColor_ = Color::ButtonText;
+    std::int16_t alignment_ = 0;
+};
+
+}  // namespace lumenkit::win32

@@ -1,0 +1,23 @@
+#pragma once
+
+#include "frame/host/simple_constituents.h"
+#include "runtime/win32/basic_constituent.h"
+
+namespace lumenkit::win32 {
+
+/// A window with a sunken border and the background of a button.
+class PictureBox final : public BasicConstituent<host::PictureBox> {
+ public:
+    PictureBox(const Owner& owner, const host::Design& design);
+
+    float ScaleWidth() const override;
+    float ScaleHeight() const override;
+
+ protected:
+    LRESULT HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
+
+ private:
+    RECT Inside() const;
+};
+
+}  // namespace lumenkit::win32

@@ -1,0 +1,46 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+
+#include "frame/host/simple_constituents.h"
+#include "runtime/win32/basic_constituent.h"
+
+namespace lumenkit::win32 {
+
+/// From 0 to 32767 by steps of 1 at first. The value follows the thumb while it is dragged.
+class ScrollBar final : public BasicConstituent<host::ScrollBar> {
+ public:
+    ScrollBar(const Owner& owner, const host::Design& design, host::Orientation orientation,
+              host::ScrollBarEvents& events);
+
+    void SetEnabled(bool enabled) override;
+    std::int16_t ScrollValue() const override { return value_; }
+    void SetScrollValue(std::int16_t value) override;
+    std::int16_t Max() const override { return max_; }
+    void SetMax(std::int16_t max) override;
+    std::int16_t LargeChange() const override { return largeChange_; }
+    void SetLargeChange(std::int16_t step) override;
+    std::int16_t SmallChange() const override { return smallChange_; }
+    void SetSmallChange(std::int16_t step) override;
+
+ protected:
+    LRESULT HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
+    std::optional<LRESULT> HandleNotification(UINT message, WPARAM wParam, LPARAM lParam) override;
+
+ private:
+    /// To `value` or as near as the bar goes; may destroy the object.
+    void Scroll(std::int32_t value);
+    void ScrollBy(WORD code, WORD position);
+    LRESULT TurnWheel(UINT message, WPARAM wParam);
+    void ShowRange();
+
+    host::ScrollBarEvents& events_;
+    std::int16_t value_ = 0;
+    std::int16_t max_ = 32767;
+    std::int16_t largeChange_ = 1;
+    std::int16_t smallChange_ = 1;
+    int wheel_ = 0;  // turned, but not yet by a whole step
+};
+
+}  // namespace lumenkit::win32
