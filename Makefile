@@ -1,6 +1,6 @@
 # Every target installs what it needs and works on a fresh Debian 12 machine.
 .DEFAULT_GOAL := help
-.PHONY: run test bench ocx fuzz lint format golden clean help
+.PHONY: run test bench ocx fuzz lint format golden published clean help
 
 run: ## do the main job: compile the sample captions and show what comes out
 	@scripts/run.sh
@@ -25,6 +25,9 @@ format: ## reformat all sources
 
 golden: ## write the golden drawings anew, for review in the diff
 	@scripts/golden.sh
+
+published: ## write the interface definitions and the manifest anew, for review in the diff
+	@scripts/published.sh
 
 clean: ## remove everything that was built
 	@rm -rf build

@@ -35,6 +35,8 @@ struct ClassDescriptor {
     float pageHeight = 0;
     UniqueIdentifier uniqueIdentifier = {};  ///< null where the class is not published
     InterfaceAlias alias = {};
+    /// Number of the bitmap resource that stands for the class in a designer's toolbox; 0: none.
+    std::uint16_t toolboxBitmap = 0;
 };
 
 /// The project descriptor: what the server's entries hand to a control runtime.

@@ -9,8 +9,9 @@ declare -A groups=(
     [format]="clang-format"
     [lint]="clang-tidy"
     [fuzz]="clang libclang-rt-14-dev"
-    [windows]="g++-mingw-w64-x86-64-posix g++-mingw-w64-i686-posix mingw-w64-tools libwine-dev faketime googletest"
+    [windows]="g++-mingw-w64-x86-64-posix g++-mingw-w64-i686-posix mingw-w64-tools libwine-dev googletest"
     [wine]="wine wine64 fonts-wine fonts-liberation2"
+    [qt]="qt6-base-dev qt6-qpa-plugins fonts-liberation2 fonts-dejavu-core"
     [screen]="xvfb xauth xdotool imagemagick"
 )
 

@@ -87,6 +87,7 @@ constexpr ClassDescriptor vlabelClass = {
     .eventTable = &vlabelEvents,
     .createControl = &Create,
     .uniqueIdentifier = "c9d68950-e9f6-434b-bd20-7e035e44af24",
+    .toolboxBitmap = 101,
 };
 
 }  // namespace lumenkit

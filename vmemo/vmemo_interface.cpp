@@ -87,6 +87,7 @@ constexpr ClassDescriptor vmemoClass = {
     .createControl = &Create,
     .uniqueIdentifier = "468a5450-032a-435b-b1b5-41cb67e26d05",
     .alias = {.name = u"VMemo___v0", .uniqueIdentifier = "ae7a6fd7-3655-4633-94b0-099cb11eb5f6"},
+    .toolboxBitmap = 102,
 };
 
 }  // namespace lumenkit

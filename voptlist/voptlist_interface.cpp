@@ -85,6 +85,7 @@ constexpr ClassDescriptor voptlistClass = {
     .eventTable = &voptlistEvents,
     .createControl = &CreateControl,
     .uniqueIdentifier = "e103e3a0-0d3a-4739-9d9c-766bc8e47483",
+    .toolboxBitmap = 103,
 };
 
 }  // namespace lumenkit

@@ -1,0 +1,8 @@
+#!/usr/bin/env bash
+# Writes what is made from the interface tables anew. Review the diff before you keep it.
+set -euo pipefail
+cd "$(dirname "$0")/.."
+
+scripts/build.sh native write_published
+build/native/project/published/write_published project/published
+git --no-pager diff --stat -- project/published
