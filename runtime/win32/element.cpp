@@ -9,17 +9,6 @@ namespace lumenkit::win32 {
 
 namespace {
 
-HWND ParentOf(const Owner& owner, const host::Design& design) {
-    if (design.parent == nullptr) {
-        return owner.window.Handle();
-    }
-    const auto* const parent = dynamic_cast<const Element*>(design.parent);
-    if (parent == nullptr) {
-        throw std::logic_error("the parent belongs to another runtime");
-    }
-    return parent->Handle();
-}
-
 // Draws the border, if there is one, and moves the origin inside it.
 void DrawBorder(HWND window, HDC device) {
     if ((GetWindowLongW(window, GWL_EXSTYLE) & WS_EX_CLIENTEDGE) == 0) {
@@ -34,6 +23,17 @@ void DrawBorder(HWND window, HDC device) {
 }
 
 }  // namespace
+
+HWND ParentWindow(const Owner& owner, const host::Design& design) {
+    if (design.parent == nullptr) {
+        return owner.window.Handle();
+    }
+    const auto* const parent = dynamic_cast<const Element*>(design.parent);
+    if (parent == nullptr) {
+        throw std::logic_error("the parent belongs to another runtime");
+    }
+    return parent->Handle();
+}
 
 Element::Element(const Owner& owner, const Kind& kind, const host::Design& design, TextView text)
     : name_(design.name),
@@ -50,7 +50,7 @@ Element::Element(const Owner& owner, const Kind& kind, const host::Design& desig
             .style = WS_CHILD | WS_CLIPSIBLINGS | visible | kind.style,
             .extendedStyle = kind.extendedStyle,
             .place = ToPixels(placement_, resolution_),
-            .parent = ParentOf(owner, design)});
+            .parent = ParentWindow(owner, design)});
 }
 
 Element::~Element() {

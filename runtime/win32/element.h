@@ -23,6 +23,10 @@ struct Owner {
     Window& window;
 };
 
+/// The window that a constituent of this design lies in. Throws std::logic_error for a parent of
+/// another runtime.
+HWND ParentWindow(const Owner& owner, const host::Design& design);
+
 /// A constituent's window, and what the runtime keeps of any kind of constituent. Its place is kept
 /// in twips as it was set, though windows have whole pixels.
 class Element : public Window, public Drawable {

@@ -1,0 +1,88 @@
+#include "runtime/win32/embedded_control.h"
+
+#include "frame/host/accepted_values.h"
+
+namespace lumenkit::win32 {
+
+namespace {
+
+SIZE SizeOf(const RECT& place) {
+    return {place.right - place.left, place.bottom - place.top};
+}
+
+}  // namespace
+
+EmbeddedControl::EmbeddedControl(const Owner& owner, const host::Design& design,
+                                 const ClassDescriptor& type, bool userMode)
+    : owner_(owner.window.Handle()),
+      parent_(ParentWindow(owner, design)),
+      resolution_(Resolution::OfScreen()),
+      placement_(design.placement),
+      visible_(design.visible),
+      ambient_(owner.context.fonts, userMode),
+      extender_(*this, design.name) {
+    RequireSize(placement_.width, placement_.height);
+    ControlSite& site = *this;
+    control_.emplace(owner.context, type, site, SizeOf(ToPixels(placement_, resolution_)));
+    PlaceWindow();  // it may have asked for another size
+    control_->StartNew();
+    if (visible_) {
+        Attach();
+    }
+}
+
+// Behind those that are there already.
+void EmbeddedControl::Attach() {
+    control_->Attach(parent_, ToPixels(placement_, resolution_));
+    SetWindowPos(control_->Window(), HWND_BOTTOM, 0, 0, 0, 0,
+                 SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE | SWP_NOOWNERZORDER);
+}
+
+void EmbeddedControl::Move(const host::Placement& placement) {
+    RequireSize(placement.width, placement.height);
+    placement_ = placement;
+    PlaceWindow();
+}
+
+void EmbeddedControl::PlaceWindow() {
+    const RECT place = ToPixels(placement_, resolution_);
+    if (control_->IsAttached()) {
+        control_->Place(place, place);
+    }
+    control_->SetSize(SizeOf(place));
+}
+
+void EmbeddedControl::RequestSize(SIZE size) {
+    placement_.width = ToTwips(static_cast<int>(size.cx), resolution_.x);
+    placement_.height = ToTwips(static_cast<int>(size.cy), resolution_.y);
+    if (control_) {
+        PlaceWindow();
+    }
+}
+
+void EmbeddedControl::SetVisible(bool visible) {
+    visible_ = visible;
+    if (visible && !control_->IsAttached()) {
+        Attach();
+    } else {
+        control_->SetVisible(visible);
+    }
+}
+
+void EmbeddedControl::SetEnabled(bool enabled) {
+    enabled_ = enabled;
+    EnableWindow(control_->Window(), enabled ? TRUE : FALSE);
+}
+
+void EmbeddedControl::Refresh() {
+    if (control_->Window() != nullptr) {
+        RedrawWindow(control_->Window(), nullptr, nullptr,
+                     RDW_INVALIDATE | RDW_ERASE | RDW_FRAME | RDW_ALLCHILDREN | RDW_UPDATENOW);
+    }
+}
+
+void EmbeddedControl::FocusChanged(bool inside) {
+    SendMessageW(owner_, constituentFocusMessage, inside ? 1 : 0, 0);
+}
+
+}  // namespace lumenkit::win32

@@ -1,0 +1,54 @@
+#pragma once
+
+#include <optional>
+
+#include "frame/class_table.h"
+#include "frame/host/simple_constituents.h"
+#include "runtime/win32/element.h"
+#include "runtime/win32/embedded_site.h"
+#include "runtime/win32/hosted_control.h"
+
+namespace lumenkit::win32 {
+
+/// A control that lies on another one or on a page, newly placed. The control around it is its
+/// container, and that one does not listen.
+class EmbeddedControl final : public host::EmbeddedControl, private ControlSite {
+ public:
+    EmbeddedControl(const Owner& owner, const host::Design& design, const ClassDescriptor& type,
+                    bool userMode);
+
+    host::Placement Place() const override { return placement_; }
+    /// The control itself is resized with it.
+    void Move(const host::Placement& placement) override;
+    bool Visible() const override { return visible_; }
+    void SetVisible(bool visible) override;
+    bool Enabled() const override { return enabled_; }
+    void SetEnabled(bool enabled) override;
+    void Refresh() override;
+    Object& Automation() override { return control_->Automation(); }
+
+ private:
+    // ControlSite
+    host::Container& GetContainer() override { return container_; }
+    host::Ambient& GetAmbient() override { return ambient_; }
+    Object& GetExtender() override { return extender_; }
+    void RequestSize(SIZE size) override;
+    void PictureChanged() override {}
+    void FocusChanged(bool inside) override;
+
+    void PlaceWindow();
+    void Attach();
+
+    HWND owner_;
+    HWND parent_;
+    Resolution resolution_;
+    host::Placement placement_;
+    bool visible_;
+    bool enabled_ = true;
+    SilentContainer container_;
+    EmbeddedAmbient ambient_;
+    EmbeddedExtender extender_;
+    std::optional<HostedControl> control_;
+};
+
+}  // namespace lumenkit::win32
