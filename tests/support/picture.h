@@ -1,0 +1,46 @@
+// Pictures in memory, to look at what was drawn.
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+#include "runtime/win32/windows_header.h"
+
+namespace lumenkit::test {
+
+/// A bitmap with a device to draw on. Lengths are in pixels.
+class Picture {
+ public:
+    /// White all over.
+    Picture(int width, int height);
+    ~Picture();
+    Picture(const Picture&) = delete;
+    Picture& operator=(const Picture&) = delete;
+
+    HDC Device() const { return device_; }
+    int Width() const { return width_; }
+    int Height() const { return height_; }
+    void Fill(COLORREF color);
+
+    COLORREF At(int x, int y) const;
+    /// How many pixels of `area` have the colour.
+    int Count(COLORREF color, const RECT& area) const;
+    int Count(COLORREF color) const { return Count(color, {0, 0, width_, height_}); }
+    /// The smallest box around all pixels that have another colour; empty where none has.
+    RECT BoundsOfOthers(COLORREF color) const;
+    /// The pixels, row by row.
+    std::vector<std::uint32_t> Pixels() const;
+    /// False where the file cannot be written.
+    bool SaveAsBmp(const std::string& path) const;
+
+ private:
+    int width_;
+    int height_;
+    HDC device_;
+    std::uint32_t* bits_ = nullptr;
+    HBITMAP bitmap_;
+    HGDIOBJ former_;
+};
+
+}  // namespace lumenkit::test
