@@ -154,6 +154,12 @@ void FormBag::WriteProperty(TextView name, const Value& value, const Value& defa
     last_ = name;
 }
 
+void FormBag::Keep(TextView name) {
+    if (block_.FindProperty(name) != nullptr || block_.FindGroup(name) != nullptr) {
+        last_ = name;
+    }
+}
+
 void FormBag::Store(TextView name, const Value& value) {
     const Property* present = block_.FindProperty(name);
     if (present == nullptr || !Holds(*present, value)) {

@@ -30,6 +30,8 @@ class FormBag final : public host::PropertyBag {
     Value ReadProperty(TextView name, const Value& defaultValue) override;
     /// A value that is the same as its default takes the property away.
     void WriteProperty(TextView name, const Value& value, const Value& defaultValue) override;
+    /// In the place of WriteProperty: the property stays as it stands, if it does.
+    void Keep(TextView name);
 
  private:
     std::optional<Text> TextOf(const Property& property) const;

@@ -42,6 +42,8 @@ Requests (keys after the bar may be left out):
   {"do":"focus" | "id","on"}                       without "on", to elsewhere
   {"do":"ambient" | "BackColor","Font"}            what controls see around them
   {"do":"allow","id","name","value"}               whether a property may change
+  {"do":"form","file" | "mode","codePage"}         load a form with its controls
+  {"do":"write","file"}                            save it with what they hold now
   {"do":"quit"}
 
 "on" names a constituent, "Text1(0)"; without it the user reaches the visible text box or,

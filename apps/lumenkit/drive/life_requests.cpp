@@ -20,14 +20,6 @@ const ClassDescriptor& ClassNamed(const std::string& name, const memory::Form& f
     }
 }
 
-bool IsUserMode(const Fields& request) {
-    const std::string mode = request.String("mode", "run");
-    if (mode != "run" && mode != "design") {
-        throw BadRequest(R"("mode" must be "run" or "design")");
-    }
-    return mode == "run";
-}
-
 std::unique_ptr<memory::PlacedControl> NewControl(ScriptedContainer& container,
                                                   const ClassDescriptor& type,
                                                   const Fields& request) {

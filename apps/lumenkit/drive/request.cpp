@@ -149,6 +149,14 @@ std::int64_t Fields::WholeBetween(std::string_view key, std::int64_t lowest,
     return static_cast<std::int64_t>(number);
 }
 
+bool IsUserMode(const Fields& request) {
+    const std::string mode = request.String("mode", "run");
+    if (mode != "run" && mode != "design") {
+        throw BadRequest(R"("mode" must be "run" or "design")");
+    }
+    return mode == "run";
+}
+
 Value ValueOf(const RequestJson& json, memory::Form& form) {
     if (json.is_null()) {
         return Empty{};

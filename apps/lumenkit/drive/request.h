@@ -73,6 +73,8 @@ class Fields {
     std::string_view what_;
 };
 
+/// Whether controls are to be at run time, as "mode" says; they are unless it says "design".
+bool IsUserMode(const Fields& request);
 /// A value of the controls: an object is a font, null is Empty. Throws BadRequest for an array.
 Value ValueOf(const RequestJson& json, memory::Form& form);
 /// Name and Size are those of the form's ambient font, the rest false, unless given. Throws

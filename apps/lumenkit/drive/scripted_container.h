@@ -4,7 +4,9 @@
 #include <map>
 #include <memory>
 #include <string>
+#include <utility>
 
+#include "apps/lumenkit/drive/loaded_form.h"
 #include "frame/automation/object.h"
 #include "frame/class_table.h"
 #include "runtime/memory/constituents.h"
@@ -38,6 +40,10 @@ class ScriptedContainer {
     Object& Automation(const std::string& id) const;
     memory::Constituents& Parts(const std::string& id) const;
 
+    /// The form file that was loaded; null before one was.
+    LoadedForm* Loaded() const { return loaded_.get(); }
+    void SetLoaded(std::unique_ptr<LoadedForm> loaded) { loaded_ = std::move(loaded); }
+
     void Quit() { quit_ = true; }
     bool HasQuit() const { return quit_; }
 
@@ -47,6 +53,7 @@ class ScriptedContainer {
     // Pages refer to controls and so must go first.
     std::map<std::string, std::unique_ptr<memory::PlacedControl>> controls_;
     std::map<std::string, std::unique_ptr<memory::PlacedPage>> pages_;
+    std::unique_ptr<LoadedForm> loaded_;
     bool quit_ = false;
 };
 

@@ -21,12 +21,13 @@ Handler HandlerFor(const std::string& name) {
         {"apply", requests::Apply},   {"call", requests::Call},
         {"click", requests::Click},   {"dblclick", requests::DblClick},
         {"draw", requests::Draw},     {"focus", requests::Focus},
-        {"get", requests::Get},       {"let", requests::Let},
-        {"mouse", requests::Mouse},   {"new", requests::New},
-        {"paste", requests::Paste},   {"quit", requests::Quit},
-        {"resize", requests::Resize}, {"save", requests::Save},
-        {"scroll", requests::Scroll}, {"select", requests::Select},
-        {"state", requests::State},   {"type", requests::Type},
+        {"form", requests::LoadForm}, {"get", requests::Get},
+        {"let", requests::Let},       {"mouse", requests::Mouse},
+        {"new", requests::New},       {"paste", requests::Paste},
+        {"quit", requests::Quit},     {"resize", requests::Resize},
+        {"save", requests::Save},     {"scroll", requests::Scroll},
+        {"select", requests::Select}, {"state", requests::State},
+        {"type", requests::Type},     {"write", requests::WriteForm},
     };
     const auto handler = handlers.find(name);
     if (handler == handlers.end()) {

@@ -1,0 +1,117 @@
+#include "apps/lumenkit/drive/loaded_form.h"
+
+#include <set>
+#include <utility>
+
+#include "apps/lumenkit/drive/request.h"
+#include "forms/controls.h"
+#include "forms/form_bag.h"
+#include "frame/utf8.h"
+
+namespace lumenkit::cli {
+
+namespace {
+
+// Hands on to a block's bag only what is not as it was.
+class ChangesOnly final : public host::PropertyBag {
+ public:
+    ChangesOnly(forms::FormBag& bag, const memory::PropertyBag& before)
+        : bag_(bag), before_(before) {}
+
+    Value ReadProperty(TextView name, const Value& defaultValue) override {
+        return bag_.ReadProperty(name, defaultValue);
+    }
+    void WriteProperty(TextView name, const Value& value, const Value& defaultValue) override {
+        const Value* before = before_.Find(name);
+        const bool isDefault = SameValue(value, defaultValue);
+        const bool isAsBefore =
+            before == nullptr ? isDefault : !isDefault && SameValue(value, *before);
+        if (isAsBefore) {
+            bag_.Keep(name);
+        } else {
+            bag_.WriteProperty(name, value, defaultValue);
+        }
+    }
+
+ private:
+    forms::FormBag& bag_;
+    const memory::PropertyBag& before_;
+};
+
+host::FontRef NewFont(const memory::Form& form, const forms::FontDescription& description) {
+    auto font = form.NewFont(description.name, description.size);
+    font->SetWeight(description.weight);
+    font->SetCharset(description.charset);
+    font->SetItalic(description.italic);
+    font->SetUnderline(description.underline);
+    font->SetStrikethrough(description.strikethrough);
+    return font;
+}
+
+}  // namespace
+
+LoadedForm::LoadedForm(forms::Document document, const ClassTable& classes)
+    : document_(std::move(document)) {
+    std::set<Text> names;
+    for (forms::Block* block : forms::AllControls(document_.Root())) {
+        const ClassDescriptor* type = classes.Find(block->ClassName());
+        if (type == nullptr || type->kind != ClassKind::Control) {
+            continue;
+        }
+        Text name = forms::NameInCode(*block);
+        if (!names.insert(name).second) {
+            throw BadRequest("the form has two controls \"" + ToUtf8(name) + '"');
+        }
+        found_.push_back({*block, *type, std::move(name)});
+    }
+}
+
+std::vector<std::string> LoadedForm::Ids() const {
+    std::vector<std::string> ids;
+    for (const Found& found : found_) {
+        ids.push_back(ToUtf8(found.name));
+    }
+    return ids;
+}
+
+std::unique_ptr<memory::PlacedControl> LoadedForm::Start(const Found& found, host::PropertyBag& bag,
+                                                         memory::Form& form, bool userMode) {
+    const Text tag = ToText(bag.ReadProperty(u"Tag", Text()));
+    memory::Placing placing;
+    placing.name = found.name;
+    placing.userMode = userMode;
+    placing.left = ToSingle(bag.ReadProperty(u"Left", placing.left));
+    placing.top = ToSingle(bag.ReadProperty(u"Top", placing.top));
+    placing.width = ToSingle(bag.ReadProperty(u"Width", placing.width));
+    placing.height = ToSingle(bag.ReadProperty(u"Height", placing.height));
+    placing.tag = tag;
+    placing.visible = ToBoolean(bag.ReadProperty(u"Visible", placing.visible));
+    auto control = std::make_unique<memory::PlacedControl>(form, found.type, placing);
+    control->StartSaved(bag);
+    return control;
+}
+
+std::vector<LoadedForm::Living> LoadedForm::Start(memory::Form& form, bool userMode) {
+    const auto makeFont = [&form](const forms::FontDescription& description) {
+        return NewFont(form, description);
+    };
+    std::vector<Living> living;
+    for (const Found& found : found_) {
+        forms::FormBag bag(document_, found.block, makeFont);
+        auto control = Start(found, bag, form, userMode);
+        saved_.push_back({found.block, *control, control->Save()});
+        living.push_back({ToUtf8(found.name), std::move(control)});
+    }
+    return living;
+}
+
+void LoadedForm::Update() {
+    for (Saved& saved : saved_) {
+        forms::FormBag bag(document_, saved.block, nullptr);
+        ChangesOnly changes(bag, saved.held);
+        saved.control.Save(changes);
+        saved.held = saved.control.Save();
+    }
+}
+
+}  // namespace lumenkit::cli

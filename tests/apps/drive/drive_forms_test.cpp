@@ -1,0 +1,241 @@
+// Forms that a session loads, changes and writes, compared byte for byte.
+#include <filesystem>
+#include <fstream>
+#include <initializer_list>
+#include <iterator>
+#include <string>
+#include <utility>
+
+#include <gmock/gmock.h>
+
+#include "apps/lumenkit/drive/session.h"
+#include "project/lumenkit_classes.h"
+
+namespace lumenkit::testing {
+
+namespace {
+
+namespace fs = std::filesystem;
+using ::testing::HasSubstr;
+using ::testing::StartsWith;
+
+const fs::path samples = LUMENKIT_SOURCE_DIR "/samples/forms";
+constexpr const char* served = R"({"ok":true,)";
+
+std::string Read(const fs::path& path) {
+    std::ifstream file(path, std::ios::binary);
+    return {std::istreambuf_iterator<char>(file), {}};
+}
+
+class DriveForms : public ::testing::Test {
+ protected:
+    DriveForms()
+        : folder(fs::path(LUMENKIT_BINARY_DIR) / "drive_form_files" /
+                 ::testing::UnitTest::GetInstance()->current_test_info()->name()) {
+        fs::remove_all(folder);
+        fs::create_directories(folder);
+    }
+    ~DriveForms() override { fs::remove_all(folder); }
+
+    std::string Serve(const std::string& request) { return session.Serve(request); }
+    std::string Load(const fs::path& file, const std::string& further = "") {
+        return Serve(R"({"do":"form","file":")" + file.string() + '"' + further + '}');
+    }
+    std::string Write(const std::string& name) {
+        return Serve(R"({"do":"write","file":")" + (folder / name).string() + "\"}");
+    }
+    std::string Let(const std::string& id, const std::string& name, const std::string& value) {
+        return Serve(R"({"do":"let","id":")" + id + R"(","name":")" + name + R"(","value":)" +
+                     value + '}');
+    }
+    std::string LoadText(const std::string& form) {
+        std::ofstream(folder / "x.frm", std::ios::binary) << form;
+        return Load(folder / "x.frm");
+    }
+
+    const fs::path folder;
+    cli::DriveSession session{lumenkitClasses};
+};
+
+// The sample with these lines instead of those; each must stand there once.
+std::string With(std::string form,
+                 std::initializer_list<std::pair<std::string, std::string>> lines) {
+    for (const auto& [old, now] : lines) {
+        const std::size_t at = form.find(old);
+        EXPECT_NE(at, std::string::npos) << old;
+        EXPECT_EQ(form.find(old, at + 1), std::string::npos) << old;
+        form.replace(at, old.size(), now);
+    }
+    return form;
+}
+
+TEST_F(DriveForms, UneditedFormsComeBackByteForByte) {
+    int count = 0;
+    for (const auto& entry : fs::directory_iterator(samples)) {
+        const std::string extension = entry.path().extension().string();
+        if (extension != ".frm" && extension != ".ctl" && extension != ".pag" &&
+            extension != ".dob") {
+            continue;
+        }
+        for (const std::string mode : {"run", "design"}) {
+            fs::remove_all(folder);
+            fs::create_directories(folder);
+            const std::string name = entry.path().filename().string();
+            cli::DriveSession fresh(lumenkitClasses);
+            ASSERT_THAT(fresh.Serve(R"({"do":"form","mode":")" + mode + R"(","file":")" +
+                                    entry.path().string() + "\"}"),
+                        StartsWith(served));
+            ASSERT_THAT(fresh.Serve(R"({"do":"write","file":")" + (folder / name).string() + "\"}"),
+                        StartsWith(served));
+            EXPECT_TRUE(Read(folder / name) == Read(entry.path())) << name;
+            for (const auto& written : fs::directory_iterator(folder)) {
+                const fs::path original = samples / written.path().filename();
+                EXPECT_TRUE(Read(written.path()) == Read(original)) << written.path();
+            }
+        }
+        ++count;
+    }
+    EXPECT_GE(count, 20);
+}
+
+TEST_F(DriveForms, ChangedPropertiesChangeTheirLines) {
+    Load(samples / "options.frm", R"(,"mode":"design")");
+    Let("VOptList1", "Contents", R"("S;Small|L;\"Large\"")");
+    Let("VOptList1", "ListIndex", "0");
+    Let("VOptList1", "ItemForeColor", "255");
+    Let("VOptList1", "Spacing", "240");  // the default
+    EXPECT_THAT(Write("options.frm"), StartsWith(served));
+    EXPECT_EQ(Read(folder / "options.frm"),
+              With(Read(samples / "options.frm"),
+                   {{"\"S;Small|M;Medium|L;Large\"", R"("S;Small|L;""Large""")"},
+                    {"      ListIndex       =   1\r\n", "      ListIndex       =   0\r\n"},
+                    {"&H00800000&", "&H000000FF&"},
+                    {"      Spacing         =   300.5\r\n", ""}}));
+}
+
+TEST_F(DriveForms, NewPropertiesStandWhereTheControlWritesThem) {
+    Load(samples / "all_three.frm");
+    Let("VMemo1", "MaxLines", "3");
+    Let("VMemo1", "Locked", "false");
+    Let("VLabel1", "WordWrap", "true");
+    EXPECT_THAT(Write("all_three.frm"), StartsWith(served));
+    EXPECT_EQ(Read(folder / "all_three.frm"),
+              With(Read(samples / "all_three.frm"),
+                   {{"      Text            =   \"One line\"\r\n",
+                     "      Text            =   \"One line\"\r\n"
+                     "      MaxLines        =   3\r\n"},
+                    {"      Locked          =   -1  'True\r\n", ""},
+                    {"            Caption         =   \"In a |i|box|n| in a frame\"\r\n",
+                     "            Caption         =   \"In a |i|box|n| in a frame\"\r\n"
+                     "            WordWrap        =   -1  'True\r\n"}}));
+}
+
+TEST_F(DriveForms, TextsOfSeveralLinesGoToTheCompanion) {
+    Load(samples / "memo.frm");
+    Let("VMemo1", "Text", R"("a\r\nb")");
+    Let("VMemo1", "FontSize", "12");
+    EXPECT_THAT(Write("memo.frm"), StartsWith(served));
+    const std::string companion = Read(samples / "memo.frx");
+    ASSERT_EQ(companion.size(), 0x30U);
+    EXPECT_EQ(
+        Read(folder / "memo.frm"),
+        With(Read(samples / "memo.frm"),
+             {{"         Size            =   9.75\r\n", "         Size            =   12\r\n"},
+              {"      FontSize        =   9.75\r\n", "      FontSize        =   12\r\n"},
+              {"$\"memo.frx\":0000", "$\"memo.frx\":0030"}}));
+    EXPECT_EQ(Read(folder / "memo.frx"), companion + "\x04" + "a\r\nb");
+}
+
+TEST_F(DriveForms, WhatIsPutBackIsWrittenAsItWas) {
+    Load(samples / "options.frm");
+    Let("VOptList1", "Caption", R"("New")");
+    Write("options.frm");
+    EXPECT_THAT(Read(folder / "options.frm"), HasSubstr("\"New\""));
+    Let("VOptList1", "Caption", R"("Size")");
+    Write("options.frm");
+    EXPECT_EQ(Read(folder / "options.frm"), Read(samples / "options.frm"));
+}
+
+TEST_F(DriveForms, WhatTheUserTypesIsWritten) {
+    EXPECT_THAT(LoadText("VERSION 5.00\nBegin VB.Form F\n Begin lumenkit.VMemo M\n"
+                         "  Text = \"ab\"\n End\nEnd\n"),
+                HasSubstr(R"("value":["M"])"));
+    Serve(R"({"do":"select","id":"M","start":2,"length":0})");
+    Serve(R"({"do":"type","id":"M","text":"c"})");
+    Write("y.frm");
+    EXPECT_EQ(Read(folder / "y.frm"),
+              "VERSION 5.00\nBegin VB.Form F\n Begin lumenkit.VMemo M\n"
+              "  Text = \"abc\"\n End\nEnd\n");
+}
+
+// Values at their defaults, out of range, of a wrong kind, and names that nobody reads.
+TEST_F(DriveForms, WhatADesignerWouldNotWriteStays) {
+    const std::string form =
+        "VERSION 5.00\nBegin VB.Form F\n"
+        " Begin lumenkit.VLabel L\n  WordWrap = 0 'no\n  Captoin = 1\n  Caption = \"VLabel\"\n "
+        "End\n"
+        " Begin lumenkit.VOptList O\n  ListIndex = 9\n  Contents = \"a\"\n End\n"
+        " Begin lumenkit.VMemo M\n  MaxLines = \"many\"\n  Text = \"x\"\n End\n"
+        "End\n";
+    EXPECT_THAT(LoadText(form), HasSubstr(R"("value":["L","O","M"])"));
+    Write("y.frm");
+    EXPECT_EQ(Read(folder / "y.frm"), form);
+    Let("L", "AutoSize", "true");
+    Write("y.frm");
+    EXPECT_EQ(Read(folder / "y.frm"),
+              With(form, {{"  WordWrap = 0 'no\n",
+                           "  WordWrap = 0 'no\n    AutoSize        =   -1  'True\n"}}));
+}
+
+TEST_F(DriveForms, ControlArraysHaveTheirIndicesInTheirIds) {
+    EXPECT_THAT(Load(samples / "long_texts.frm"),
+                HasSubstr(R"v(["VMemo1(0)","VMemo1(1)","VMemo1(2)","VMemo1(3)","VMemo1(4)"])v"));
+    EXPECT_THAT(Serve(R"v({"do":"get","id":"VMemo1(0)","name":"Text"})v"), StartsWith(served));
+}
+
+TEST_F(DriveForms, InvisibleControlsAreNotShown) {
+    LoadText(
+        "VERSION 5.00\nBegin VB.Form F\n Begin lumenkit.VLabel L\n  Visible = 0 'False\n "
+        "End\nEnd\n");
+    EXPECT_EQ(Serve(R"({"do":"click","id":"L"})"), R"({"ok":true,"value":false,"log":[]})");
+}
+
+TEST_F(DriveForms, ControlsThatReportErrorsComeToLifeAllTheSame) {
+    const std::string answer = LoadText(
+        "VERSION 5.00\nBegin VB.Form F\n Begin lumenkit.VOptList O\n  ListIndex = 99999\n"
+        " End\nEnd\n");
+    EXPECT_THAT(answer, StartsWith(R"({"ok":true,"value":["O"],"log":[{"beep":true})"));
+    EXPECT_THAT(answer, HasSubstr("Message: Overflow"));
+}
+
+TEST_F(DriveForms, NothingIsHalfLoaded) {
+    const std::string begin = "VERSION 5.00\nBegin VB.Form F\n Begin lumenkit.VLabel L\n End\n";
+    EXPECT_THAT(LoadText(begin + " Begin lumenkit.VLabel L\n End\nEnd\n"),
+                HasSubstr("the form has two controls \\\"L\\\""));
+    EXPECT_THAT(LoadText(begin + " Begin lumenkit.VMemo M\n  Width = -1\n End\nEnd\n"),
+                HasSubstr("\"number\":380"));
+    EXPECT_THAT(LoadText(begin + " Begin lumenkit.VMemo M\n  Left = \"x\"\n End\nEnd\n"),
+                HasSubstr("\"number\":13"));
+    EXPECT_THAT(Serve(R"({"do":"get","id":"L","name":"Caption"})"),
+                HasSubstr("there is no control"));
+    EXPECT_THAT(LoadText(begin + "End\n"), HasSubstr(R"("value":["L"])"));
+}
+
+TEST_F(DriveForms, ReadInAnotherCodePage) {
+    const std::string form =
+        "VERSION 5.00\nBegin VB.Form F\n Begin lumenkit.VLabel L\n  Caption = \"\xE6\"\n "
+        "End\nEnd\n";
+    std::ofstream(folder / "x.frm", std::ios::binary) << form;
+    Load(folder / "x.frm", R"(,"codePage":1250)");
+    EXPECT_THAT(Serve(R"({"do":"get","id":"L","name":"Caption"})"), HasSubstr("\"ć\""));
+    Let("L", "Caption", R"("ć中")");
+    EXPECT_THAT(Write("y.frm"), HasSubstr("U+4E2D cannot be written in Windows-1250"));
+    EXPECT_FALSE(fs::exists(folder / "y.frm"));
+    Let("L", "Caption", R"("ć")");
+    Write("y.frm");
+    EXPECT_EQ(Read(folder / "y.frm"), form);
+}
+
+}  // namespace
+
+}  // namespace lumenkit::testing
