@@ -10,6 +10,9 @@ namespace lumenkit::win32 {
 
 namespace {
 
+// The platform draws no longer texts; they are wider than any window.
+constexpr std::size_t longestAtOnce = 8192;
+
 int Scale(int pixel, LONG start, LONG end, LONG size) {
     if (size == 0 || end - start == size) {
         return static_cast<int>(start) + pixel;
@@ -103,15 +106,17 @@ void DeviceCanvas::Print(const TextRun& run) {
         return;
     }
     Use(run.font->Handle());
-    ExtTextOutW(device_, at.x, at.y, 0, nullptr, AsWide(run.text.data()),
-                static_cast<UINT>(run.text.size()), nullptr);
+    const TextView text = run.text.substr(0, longestAtOnce);
+    ExtTextOutW(device_, at.x, at.y, 0, nullptr, AsWide(text.data()),
+                static_cast<UINT>(text.size()), nullptr);
 }
 
 // Each unit keeps its place in the line, so that all lines are broken as on the screen.
 void DeviceCanvas::PrintScaled(const TextRun& run, POINT at) {
     const ScreenFontRef font = Scaled(*run.font);
-    advances_.resize(run.text.size());
-    run.font->Ends(run.text, advances_);
+    const TextView text = run.text.substr(0, longestAtOnce);
+    advances_.resize(text.size());
+    run.font->Ends(text, advances_);
     const int left = static_cast<int>(area_.left + run.at.x);
     int before = mapping_.X(left);
     for (int& end : advances_) {
@@ -120,8 +125,8 @@ void DeviceCanvas::PrintScaled(const TextRun& run, POINT at) {
         before = mapped;
     }
     SelectObject(device_, font->Handle());
-    ExtTextOutW(device_, at.x, at.y, 0, nullptr, AsWide(run.text.data()),
-                static_cast<UINT>(run.text.size()), advances_.data());
+    ExtTextOutW(device_, at.x, at.y, 0, nullptr, AsWide(text.data()),
+                static_cast<UINT>(text.size()), advances_.data());
 }
 
 ScreenFontRef DeviceCanvas::Scaled(const ScreenFont& font) const {

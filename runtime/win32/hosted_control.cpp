@@ -410,8 +410,9 @@ LRESULT HostedControl::Body::HandleMessage(UINT message, WPARAM wParam, LPARAM l
             return 0;
         }
         case WM_WINDOWPOSCHANGED: {
+            const Watch watch(*this);
             const LRESULT answer = Default(message, wParam, lParam);
-            if (Handle() != nullptr) {
+            if (!watch.IsGone() && Handle() != nullptr) {
                 AdoptSize(WindowSize());
             }
             return answer;
@@ -472,15 +473,20 @@ void HostedControl::Body::HandlePress(Press press, host::MouseArguments& mouse) 
         if (pressed_ == 0 && GetCapture() == Handle()) {
             ReleaseCapture();
         }
+        const Watch watch(*this);
         Tell([&](Control& control) { control.UserControl_MouseUp(mouse); });
-        if (isClick && surface_.Enabled()) {
+        if (isClick && !watch.IsGone() && surface_.Enabled()) {
             Tell([](Control& control) { control.UserControl_Click(); });
         }
         return;
     }
     SetCapture(Handle());
+    const Watch watch(*this);
     if (!hasFocus_) {
         Focus(false);
+    }
+    if (watch.IsGone()) {
+        return;
     }
     if (press == Press::Double) {
         if (button != middle) {

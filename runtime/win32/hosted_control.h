@@ -31,6 +31,12 @@ class ControlSite {
 /// One control with its window, surface and constituents: everything of a control's life that is no
 /// matter of component plumbing. The window lies on the parking window until it is attached.
 ///
+/// The keyboard and the mouse are the control's where its windows have the focus or lie under the
+/// pointer. The window's text, for programs that read it aloud, is what the control shows.
+///
+/// It must not be destroyed while one of its procedures is at work, that is before an event that it
+/// raised or a call of its site has returned. Its container may destroy its window at any time.
+///
 /// Belongs to the thread that made it. Errors of the control's own procedures never come out of it;
 /// construction raises 7 when the platform has no more windows.
 class HostedControl {

@@ -1,5 +1,7 @@
 #include "runtime/win32/hosted_window.h"
 
+#include <utility>
+
 #include "runtime/win32/keyboard.h"
 
 namespace lumenkit::win32 {
@@ -24,6 +26,9 @@ bool HostedWindow::MoveInto(HWND parent, const RECT& place) {
         return false;
     }
     isAttached_ = true;
+    if (std::exchange(isClipped_, false)) {
+        SetWindowRgn(Handle(), nullptr, FALSE);
+    }
     SetWindowPos(Handle(), HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
     MoveTo(place);
     return true;

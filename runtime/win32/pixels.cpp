@@ -22,6 +22,9 @@ Resolution Resolution::OfScreen() {
 
 int ToPixels(float twips, int pixelsPerInch) {
     const double pixels = std::round(static_cast<double>(twips) * pixelsPerInch / twipsPerInch);
+    if (std::isnan(pixels)) {
+        return 0;
+    }
     return static_cast<int>(std::clamp(pixels, -farthest, farthest));
 }
 

@@ -16,7 +16,7 @@ struct Resolution {
 
 inline constexpr int twipsPerInch = 1440;
 
-/// Nearest whole pixel.
+/// Nearest whole pixel, as far out as the platform reaches; 0 for what is no number.
 int ToPixels(float twips, int pixelsPerInch);
 float ToTwips(int pixels, int pixelsPerInch);
 

@@ -12,6 +12,9 @@ namespace {
 
 constexpr std::int16_t unknown = -1;
 
+// The platform's functions take no longer texts.
+constexpr std::size_t longestAtOnce = 8192;
+
 int fontCount = 0;
 
 struct Range {
@@ -147,10 +150,19 @@ std::unique_ptr<ScreenFont::Page> ScreenFont::NewPage(unsigned number) const {
 
 int ScreenFont::AskPlatform(TextView text) const {
     scratch_.assign(text.size(), 0);
-    SIZE size = {};
-    GetTextExtentExPointW(device_, AsWide(text.data()), static_cast<int>(text.size()), 0, nullptr,
-                          scratch_.data(), &size);
-    return static_cast<int>(size.cx) - (text.empty() ? 0 : overhang_);
+    int width = 0;
+    for (std::size_t at = 0; at < text.size(); at += longestAtOnce) {
+        const TextView part = text.substr(at, longestAtOnce);
+        const std::span<int> ends = std::span(scratch_).subspan(at, part.size());
+        SIZE size = {};
+        GetTextExtentExPointW(device_, AsWide(part.data()), static_cast<int>(part.size()), 0,
+                              nullptr, ends.data(), &size);
+        for (int& end : ends) {
+            end += width;
+        }
+        width += static_cast<int>(size.cx) - overhang_;
+    }
+    return width;
 }
 
 }  // namespace lumenkit::win32
