@@ -17,6 +17,8 @@ target_compile_options(lumenkit_settings INTERFACE
 if(MINGW)
     # Programs and servers stand alone: the compiler's own libraries go into them.
     target_link_options(lumenkit_settings INTERFACE -static)
+    # The same bytes wherever they are built.
+    target_compile_options(lumenkit_settings INTERFACE "-ffile-prefix-map=${PROJECT_SOURCE_DIR}=.")
 endif()
 if(LUMENKIT_SANITIZE)
     target_compile_options(lumenkit_settings INTERFACE

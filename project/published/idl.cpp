@@ -67,9 +67,6 @@ class ClassLibraryWriter {
 
  private:
     void Line(std::string_view line) {
-        while (!line.empty() && line.back() == ' ') {
-            line.remove_suffix(1);
-        }
         text_ += line;
         text_ += '\n';
     }
@@ -207,7 +204,7 @@ class ClassLibraryWriter {
                  .Add("hidden")
                  .Add("public")
                  .Written() +
-             Name(type.interfaceTable->name) + " " + Name(type.alias.name) + ";");
+             " " + Name(type.interfaceTable->name) + " " + Name(type.alias.name) + ";");
     }
 
     void Events(const EventTable& table) {
@@ -256,7 +253,7 @@ std::string WriteIdl(const EnumerationLibrary& library) {
                     .Add(Uuid(enumeration.uniqueIdentifier))
                     .AddHelp(enumeration.help)
                     .Written() +
-                "enum " + Name(enumeration.name) + " {\n";
+                " enum " + Name(enumeration.name) + " {\n";
         for (const EnumerationMember& member : enumeration.members) {
             text += std::string(indent) + Name(member.name) + " = " + std::to_string(member.value) +
                     ",\n";

@@ -20,7 +20,7 @@ Attributes& Attributes::AddHelp(TextView help) {
 }
 
 std::string Attributes::Written() const {
-    return attributes_.empty() ? "" : "[" + Listed(attributes_) + "] ";
+    return attributes_.empty() ? "" : "[" + Listed(attributes_) + "]";
 }
 
 std::string Quoted(TextView text) {

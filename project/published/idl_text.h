@@ -17,7 +17,7 @@ class Attributes {
     /// Adds nothing where `help` is empty.
     Attributes& AddHelp(TextView help);
 
-    /// Nothing at all without attributes; otherwise ends in a blank.
+    /// Nothing at all without attributes.
     std::string Written() const;
 
  private:

@@ -46,7 +46,7 @@ TEST(IdlText, QuotesWhatALiteralNeedsQuoted) {
 TEST(IdlText, LeavesOutWhatIsNotThere) {
     EXPECT_EQ(idl::Attributes().AddHelp(u"").AddIf(false, "hidden").Written(), "");
     EXPECT_EQ(idl::Attributes().Add("id(1)").AddIf(true, "hidden").AddHelp(u"x").Written(),
-              "[id(1), hidden, helpstring(\"x\")] ");
+              "[id(1), hidden, helpstring(\"x\")]");
 }
 
 }  // namespace
