@@ -52,7 +52,6 @@ ScreenFont::ScreenFont(const LOGFONTW& design)
     GetTextMetricsW(device_, &metrics);
     lineHeight_ = static_cast<int>(metrics.tmHeight);
     averageWidth_ = static_cast<int>(metrics.tmAveCharWidth);
-    overhang_ = static_cast<int>(metrics.tmOverhang);
     ++fontCount;
 }
 
@@ -148,6 +147,7 @@ std::unique_ptr<ScreenFont::Page> ScreenFont::NewPage(unsigned number) const {
     return page;
 }
 
+// The extent as a whole may be larger: it includes the overhang of the last unit.
 int ScreenFont::AskPlatform(TextView text) const {
     scratch_.assign(text.size(), 0);
     int width = 0;
@@ -160,7 +160,7 @@ int ScreenFont::AskPlatform(TextView text) const {
         for (int& end : ends) {
             end += width;
         }
-        width += static_cast<int>(size.cx) - overhang_;
+        width = ends.back();
     }
     return width;
 }

@@ -55,7 +55,6 @@ class ScreenFont {
     HDC device_;
     int lineHeight_ = 0;
     int averageWidth_ = 0;
-    int overhang_ = 0;
     mutable std::array<std::unique_ptr<Page>, 256> pages_;
     mutable std::vector<int> scratch_;
 };

@@ -169,7 +169,7 @@ class Win32Runtime final : public ContractRuntime {
     }
     void Place(const ClassDescriptor& type) {
         control_.reset();
-        control_ = std::make_unique<test::FormControl>(form_, type, Pixels(3000, 1500));
+        control_ = std::make_unique<testing::FormControl>(form_, type, Pixels(3000, 1500));
     }
     // Whether the window can be used; it has the focus then.
     static bool Reach(HWND window) {
@@ -180,8 +180,8 @@ class Win32Runtime final : public ContractRuntime {
         return true;
     }
 
-    test::WindowsForm form_;
-    std::unique_ptr<test::FormControl> control_;
+    testing::WindowsForm form_;
+    std::unique_ptr<testing::FormControl> control_;
 };
 
 }  // namespace

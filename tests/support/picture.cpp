@@ -4,7 +4,7 @@
 #include <fstream>
 #include <stdexcept>
 
-namespace lumenkit::test {
+namespace lumenkit::testing {
 
 namespace {
 
@@ -103,4 +103,4 @@ bool Picture::SaveAsBmp(const std::string& path) const {
     return static_cast<bool>(out);
 }
 
-}  // namespace lumenkit::test
+}  // namespace lumenkit::testing

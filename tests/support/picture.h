@@ -7,7 +7,7 @@
 
 #include "runtime/win32/windows_header.h"
 
-namespace lumenkit::test {
+namespace lumenkit::testing {
 
 /// A bitmap with a device to draw on. Lengths are in pixels.
 class Picture {
@@ -43,4 +43,4 @@ class Picture {
     HGDIOBJ former_;
 };
 
-}  // namespace lumenkit::test
+}  // namespace lumenkit::testing

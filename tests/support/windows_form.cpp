@@ -4,7 +4,7 @@
 
 #include "frame/automation/member_binding.h"
 
-namespace lumenkit::test {
+namespace lumenkit::testing {
 
 namespace {
 
@@ -142,4 +142,4 @@ host::FontRef FormControl::AmbientFont() const {
     return form_.Fonts().NewFont(u"MS Sans Serif", 10);
 }
 
-}  // namespace lumenkit::test
+}  // namespace lumenkit::testing

@@ -14,7 +14,7 @@
 #include "runtime/win32/hosted_control.h"
 #include "runtime/win32/pixels.h"
 
-namespace lumenkit::test {
+namespace lumenkit::testing {
 
 /// A visible top-level window that has the focus, and what its controls share. Messages are
 /// answered at once and logged.
@@ -109,4 +109,4 @@ class FormControl final : public win32::ControlSite, private host::Ambient {
     std::unique_ptr<win32::HostedControl> hosted_;
 };
 
-}  // namespace lumenkit::test
+}  // namespace lumenkit::testing

@@ -13,7 +13,7 @@
 #include "tests/support/picture.h"
 #include "tests/support/windows_form.h"
 
-namespace lumenkit::test {
+namespace lumenkit::testing {
 namespace {
 
 constexpr SIZE labelSize = {330, 120};
@@ -52,10 +52,10 @@ void PaintOne(WindowsForm& form, const Text& caption, Picture& picture, int top)
 }
 
 }  // namespace
-}  // namespace lumenkit::test
+}  // namespace lumenkit::testing
 
 int main(int count, char** arguments) {
-    using namespace lumenkit::test;
+    using namespace lumenkit::testing;
     if (count < 3) {
         std::fputs("paint_captions picture.bmp caption.txt...\n", stderr);
         return 2;
