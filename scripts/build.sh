@@ -6,8 +6,8 @@ cd "$(dirname "$0")/.."
 preset=$1
 shift
 case $preset in
-    native) scripts/setup.sh build bench ;;
-    native-asan) scripts/setup.sh build ;;
+    native) scripts/setup.sh build bench qt ;;
+    native-asan) scripts/setup.sh build qt ;;
     fuzz) scripts/setup.sh build fuzz ;;
     mingw-*) scripts/setup.sh build windows ;;
 esac

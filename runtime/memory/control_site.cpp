@@ -1,44 +1,12 @@
 #include "runtime/memory/control_site.h"
 
 #include <stdexcept>
-#include <type_traits>
 #include <vector>
 
-#include "frame/automation/value_type.h"
+#include "frame/automation/event_arguments.h"
 #include "frame/runtime_error.h"
 
 namespace lumenkit::memory {
-
-namespace {
-
-// `value` as the type that `model` has.
-Value Converted(const Value& value, const Value& model) {
-    return std::visit(
-        [&](const auto& sample) -> Value {
-            using Type = std::remove_cvref_t<decltype(sample)>;
-            if constexpr (std::is_same_v<Type, double>) {
-                return ToDouble(value);
-            } else if constexpr (std::is_same_v<Type, ObjectRef>) {
-                return ToObject(value);
-            } else if constexpr (std::is_same_v<Type, Empty> || std::is_same_v<Type, Null> ||
-                                 std::is_same_v<Type, Missing>) {
-                return value;
-            } else {
-                return Automation<Type>::From(value);
-            }
-        },
-        model);
-}
-
-Value ConvertedOrKept(const Value& value, const Value& original) {
-    try {
-        return Converted(value, original);
-    } catch (const RuntimeError&) {
-        return original;
-    }
-}
-
-}  // namespace
 
 void ControlSite::PropertyChanged(TextView name) {
     faults_.Call(u"Container", u"PropertyChanged");
@@ -81,9 +49,7 @@ void ControlSite::RunHandler(TextView name, std::span<Value> arguments) {
     } catch (const RuntimeError&) {
         // The container's own affair.
     }
-    for (std::size_t index = 0; index < arguments.size(); ++index) {
-        arguments[index] = ConvertedOrKept(arguments[index], originals[index]);
-    }
+    RestoreTypes(arguments, originals);
 }
 
 }  // namespace lumenkit::memory

@@ -1,0 +1,77 @@
+// The parts of the constituents' interfaces that all kinds fulfil alike.
+#pragma once
+
+#include <memory>
+#include <utility>
+
+#include "frame/host/constituent.h"
+#include "runtime/qt/element.h"
+#include "runtime/qt/font.h"
+
+namespace lumenkit::qt {
+
+template <typename Interface>
+class BasicConstituent : public Interface, public Element {
+ public:
+    host::Placement Place() const override { return Where(); }
+    void Move(const host::Placement& placement) override { MoveTo(placement); }
+    bool Visible() const override { return IsVisible(); }
+    void SetVisible(bool visible) override { ShowOrHide(visible); }
+    bool Enabled() const override { return IsEnabled(); }
+    void SetEnabled(bool enabled) override { EnableOrDisable(enabled); }
+    void Refresh() override { RepaintNow(); }
+
+ protected:
+    using Element::Element;
+};
+
+template <typename Interface>
+class BasicTextConstituent : public BasicConstituent<Interface> {
+ public:
+    host::FontRef CurrentFont() const override { return font_.Get(); }
+    /// Raises 13 for a font of another runtime.
+    void SetCurrentFont(host::FontRef font) override { font_.Assign(std::move(font)); }
+    void Refresh() override {
+        font_.Flush();
+        this->RepaintNow();
+    }
+
+ protected:
+    BasicTextConstituent(Constituents& owner, const host::Design& design)
+        : BasicConstituent<Interface>(owner, design),
+          font_(std::make_shared<Font>(design.fontName, design.fontSize), [this] { ApplyFont(); }) {
+    }
+
+    /// The font is another one, or has other attributes.
+    virtual void ApplyFont() {
+        if (QWidget* widget = this->Widget()) {
+            widget->setFont(CurrentFace().WidgetFont());
+        }
+    }
+    Face& CurrentFace() const { return *font_.Get()->FaceAt(this->Widget()->devicePixelRatioF()); }
+
+ private:
+    HeldFont font_;
+};
+
+template <typename Interface>
+class BasicCaptioned : public BasicTextConstituent<Interface> {
+ public:
+    Text Caption() const override { return caption_; }
+    void SetCaption(TextView caption) override {
+        caption_ = caption;
+        ShowCaption();
+    }
+
+ protected:
+    BasicCaptioned(Constituents& owner, const host::Design& design, TextView caption)
+        : BasicTextConstituent<Interface>(owner, design), caption_(caption) {}
+
+    virtual void ShowCaption() = 0;
+    const Text& CaptionNow() const { return caption_; }
+
+ private:
+    Text caption_;
+};
+
+}  // namespace lumenkit::qt

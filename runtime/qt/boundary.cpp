@@ -1,0 +1,58 @@
+#include "runtime/qt/boundary.h"
+
+#include <memory>
+
+namespace lumenkit::qt {
+
+int Notifying::depth = 0;
+Causing* Causing::current = nullptr;
+
+void Causing::Finish() const {
+    if (first_) {
+        std::rethrow_exception(first_);
+    }
+}
+
+namespace {
+
+// In a catch block. The sink's own errors have nowhere left to go.
+void Report(const ErrorSink& sink) noexcept {
+    try {
+        if (sink) {
+            sink(CurrentError());
+        }
+    } catch (...) {
+        return;
+    }
+}
+
+}  // namespace
+
+void HandleEvent(const ErrorSink& sink, const std::function<void()>& handler) {
+    const Notifying notifying;
+    Causing* cause = std::exchange(Causing::current, nullptr);
+    try {
+        handler();
+        Causing::current = cause;
+    } catch (...) {
+        Causing::current = cause;
+        if (cause == nullptr) {
+            Report(sink);
+        } else if (!cause->first_) {
+            cause->first_ = std::current_exception();
+        }
+    }
+}
+
+void DeleteSafely(QObject* object) {
+    if (object == nullptr) {
+        return;
+    }
+    if (Notifying::Anywhere()) {
+        object->deleteLater();
+    } else {
+        const std::unique_ptr<QObject> owned(object);
+    }
+}
+
+}  // namespace lumenkit::qt

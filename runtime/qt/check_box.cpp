@@ -1,0 +1,68 @@
+#include "runtime/qt/check_box.h"
+
+#include <QCheckBox>
+#include <functional>
+
+#include "frame/host/accepted_values.h"
+#include "runtime/qt/qt_text.h"
+
+namespace lumenkit::qt {
+
+// Its state is what it is told; the user's clicks ask for another one.
+class CheckBoxWidget final : public QCheckBox {
+ public:
+    using QCheckBox::QCheckBox;
+
+    std::function<void()> clicked_;
+
+ protected:
+    void nextCheckState() override {
+        if (clicked_) {
+            clicked_();
+        }
+    }
+};
+
+CheckBox::CheckBox(Constituents& owner, const host::CaptionDesign& design,
+                   host::ClickEvents& events)
+    : BasicCaptioned(owner, design, design.caption), events_(events) {
+    auto box = std::make_unique<CheckBoxWidget>(&ParentFor(owner, design));
+    box->clicked_ = [this] { HandleEvent(Errors(), [this] { Change(state_ == 0 ? 1 : 0); }); };
+    Adopt(std::move(box));
+    ApplyFont();
+    ShowCaption();
+}
+
+CheckBoxWidget& CheckBox::Box() const {
+    return static_cast<CheckBoxWidget&>(*Widget());
+}
+
+void CheckBox::Disconnect() {
+    if (Widget() != nullptr) {
+        Box().clicked_ = nullptr;
+    }
+}
+
+void CheckBox::ShowCaption() {
+    Box().setText(ToQString(CaptionNow()));
+}
+
+void CheckBox::SetCheckState(std::int16_t state) {
+    Change(AcceptedNumber<std::int16_t>(state, 0, 2));
+}
+
+void CheckBox::Change(std::int16_t state) {
+    if (state == state_) {
+        return;
+    }
+    state_ = state;
+    constexpr std::int16_t greyed = 2;
+    Box().setTristate(state == greyed);
+    Box().setCheckState(state == 0        ? Qt::Unchecked
+                        : state == greyed ? Qt::PartiallyChecked
+                                          : Qt::Checked);
+    const Notifying notifying;
+    events_.Click();
+}
+
+}  // namespace lumenkit::qt

@@ -1,0 +1,31 @@
+#pragma once
+
+#include <cstdint>
+
+#include "frame/host/simple_constituents.h"
+#include "runtime/qt/basic_constituent.h"
+
+namespace lumenkit::qt {
+
+class CheckBoxWidget;
+
+/// Not checked at first. The user's click checks a box that is not checked and clears any other.
+class CheckBox final : public BasicCaptioned<host::CheckBox> {
+ public:
+    CheckBox(Constituents& owner, const host::CaptionDesign& design, host::ClickEvents& events);
+    ~CheckBox() override { Release(); }
+
+    std::int16_t CheckState() const override { return state_; }
+    void SetCheckState(std::int16_t state) override;
+
+ private:
+    CheckBoxWidget& Box() const;
+    void ShowCaption() override;
+    void Disconnect() override;
+    void Change(std::int16_t state);
+
+    host::ClickEvents& events_;
+    std::int16_t state_ = 0;
+};
+
+}  // namespace lumenkit::qt

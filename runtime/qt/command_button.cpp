@@ -1,0 +1,35 @@
+#include "runtime/qt/command_button.h"
+
+#include <QPushButton>
+
+#include "runtime/qt/qt_text.h"
+
+namespace lumenkit::qt {
+
+CommandButton::CommandButton(Constituents& owner, const host::CaptionDesign& design,
+                             host::ClickEvents& events)
+    : BasicCaptioned(owner, design, design.caption) {
+    auto button = std::make_unique<QPushButton>(&ParentFor(owner, design));
+    button->setAutoDefault(false);
+    QObject::connect(button.get(), &QPushButton::clicked, button.get(),
+                     [this, &events] { HandleEvent(Errors(), [&events] { events.Click(); }); });
+    Adopt(std::move(button));
+    ApplyFont();
+    ShowCaption();
+}
+
+QPushButton& CommandButton::Button() const {
+    return static_cast<QPushButton&>(*Widget());
+}
+
+void CommandButton::Disconnect() {
+    if (Widget() != nullptr) {
+        QObject::disconnect(&Button(), &QPushButton::clicked, nullptr, nullptr);
+    }
+}
+
+void CommandButton::ShowCaption() {
+    Button().setText(ToQString(CaptionNow()));
+}
+
+}  // namespace lumenkit::qt

@@ -1,0 +1,78 @@
+#include "runtime/qt/element.h"
+
+#include <stdexcept>
+#include <utility>
+
+#include "frame/host/accepted_values.h"
+#include "runtime/qt/boundary.h"
+#include "runtime/qt/pixels.h"
+
+namespace lumenkit::qt {
+
+Element::Element(Constituents& owner, const host::Design& design)
+    : owner_(owner),
+      name_(design.name),
+      index_(design.index),
+      placement_(design.placement),
+      visible_(design.visible),
+      position_(owner.Register(*this)) {}
+
+Element::~Element() {
+    owner_.Unregister(position_);
+}
+
+QWidget& Element::ParentFor(const Constituents& owner, const host::Design& design) {
+    if (design.parent == nullptr) {
+        return owner.Area();
+    }
+    const auto* parent = dynamic_cast<const Element*>(design.parent);
+    if (parent == nullptr) {
+        throw std::logic_error("the parent belongs to another runtime");
+    }
+    return parent->Inside();
+}
+
+void Element::AdoptHidden(std::unique_ptr<QWidget> widget) {
+    widget_ = widget.release();  // owned by its parent widget from here on
+    if (!owner_.UserMode()) {
+        widget_->setFocusPolicy(Qt::NoFocus);
+    }
+    widget_->lower();
+    owner_.Name(*this);
+}
+
+void Element::Adopt(std::unique_ptr<QWidget> widget) {
+    AdoptHidden(std::move(widget));
+    widget_->setGeometry(ToPixels(placement_));
+    widget_->setVisible(visible_);
+}
+
+void Element::Release() {
+    Disconnect();
+    if (widget_ != nullptr) {
+        widget_->hide();
+        DeleteSafely(widget_);
+    }
+}
+
+void Element::MoveTo(const host::Placement& placement) {
+    RequireSize(placement.width, placement.height);
+    placement_ = placement;
+    Cause([&] { widget_->setGeometry(ToPixels(placement)); });
+}
+
+void Element::ShowOrHide(bool visible) {
+    visible_ = visible;
+    Cause([&] { widget_->setVisible(visible); });
+}
+
+void Element::EnableOrDisable(bool enabled) {
+    enabled_ = enabled;
+    Cause([&] { widget_->setEnabled(enabled); });
+}
+
+void Element::RepaintNow() {
+    Cause([&] { widget_->repaint(); });
+}
+
+}  // namespace lumenkit::qt

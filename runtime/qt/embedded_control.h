@@ -1,0 +1,30 @@
+#pragma once
+
+#include "frame/host/ambient.h"
+#include "frame/host/simple_constituents.h"
+#include "runtime/qt/basic_constituent.h"
+#include "runtime/qt/control_widget.h"
+
+namespace lumenkit::qt {
+
+/// A control that lies on another one or on a page. That one is its container, and does not listen.
+class EmbeddedControl final : public BasicConstituent<host::EmbeddedControl> {
+ public:
+    EmbeddedControl(Constituents& owner, const host::Design& design, const ClassDescriptor& type);
+    ~EmbeddedControl() override;
+
+    /// The control itself is resized with it.
+    void Move(const host::Placement& placement) override;
+    void SetVisible(bool visible) override;
+    void Refresh() override;
+    Object& Automation() override { return Inner().Automation(); }
+
+    ControlWidget& Inner() const { return static_cast<ControlWidget&>(*Widget()); }
+
+ private:
+    class Surroundings;
+
+    std::unique_ptr<Surroundings> surroundings_;
+};
+
+}  // namespace lumenkit::qt

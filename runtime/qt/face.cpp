@@ -1,0 +1,210 @@
+#include "runtime/qt/face.h"
+
+#include <QCoreApplication>
+#include <QFontMetricsF>
+#include <QTextOption>
+#include <algorithm>
+#include <cmath>
+#include <list>
+
+#include "runtime/qt/font_families.h"
+#include "runtime/qt/qt_text.h"
+
+namespace lumenkit::qt {
+
+namespace {
+
+constexpr std::size_t mostFaces = 200;
+constexpr std::size_t mostWords = 4096;
+
+bool IsBetween(char16_t unit, char16_t first, char16_t last) {
+    return unit >= first && unit <= last;
+}
+
+// Whether nothing is drawn for the unit, so that a blank stands in for it.
+bool IsUndrawn(char16_t unit) {
+    return unit < blank || IsBetween(unit, 0x7F, 0x9F) || IsBetween(unit, 0x2028, 0x2029);
+}
+
+// Whether the unit's advance is the same in whatever word it stands.
+bool IsSimple(char16_t unit) {
+    return unit < 0x300 ? unit != 0xAD
+                        : IsBetween(unit, 0x370, 0x482) || IsBetween(unit, 0x48A, 0x52F);
+}
+
+bool IsSimple(TextView word) {
+    return std::ranges::all_of(word, [](char16_t unit) { return IsSimple(unit); });
+}
+
+QString Drawable(TextView text) {
+    QString drawable = ToQString(text);
+    for (QChar& unit : drawable) {
+        if (IsUndrawn(unit.unicode())) {
+            unit = QLatin1Char(' ');
+        }
+    }
+    return drawable;
+}
+
+QFont FontFor(const FontAttributes& attributes) {
+    QFont font;
+    font.setFamilies(FamiliesFor(ToQString(attributes.name)));
+    font.setPointSizeF(attributes.size);
+    font.setWeight(static_cast<QFont::Weight>(
+        attributes.weight <= 0 ? FontAttributes::regularWeight
+                               : std::min<std::int16_t>(attributes.weight, QFont::Black)));
+    font.setItalic(attributes.italic);
+    font.setUnderline(attributes.underline);
+    font.setStrikeOut(attributes.strikethrough);
+    font.setKerning(false);
+    return font;
+}
+
+// Most recently used first.
+std::list<std::shared_ptr<Face>>& Faces() {
+    static std::list<std::shared_ptr<Face>> faces;
+    return faces;
+}
+
+// Fonts must not outlive the application.
+void ForgetFacesAtEnd() {
+    static bool arranged = false;
+    if (!arranged) {
+        arranged = true;
+        qAddPostRoutine([] { Faces().clear(); });
+    }
+}
+
+}  // namespace
+
+std::shared_ptr<Face> Face::For(const FontAttributes& attributes, double scale) {
+    auto& faces = Faces();
+    const auto found = std::ranges::find_if(
+        faces, [&](const auto& face) { return face->IsFor(attributes, scale); });
+    if (found != faces.end()) {
+        faces.splice(faces.begin(), faces, found);
+        return faces.front();
+    }
+    ForgetFacesAtEnd();
+    faces.push_front(std::make_shared<Face>(attributes, scale));
+    const std::shared_ptr<Face> made = faces.front();
+    if (faces.size() > mostFaces) {
+        faces.pop_back();
+    }
+    return made;
+}
+
+Face::Face(const FontAttributes& attributes, double scale)
+    : attributes_(attributes), scale_(scale), simple_(FontFor(attributes)), shaped_(simple_) {
+    simple_.setStyleStrategy(QFont::PreferNoShaping);
+    const QFontMetricsF metrics(shaped_);
+    const auto wholePixels = [&](double length) { return std::ceil(length * scale) / scale; };
+    ascent_ = wholePixels(metrics.ascent());
+    lineHeight_ = ascent_ + wholePixels(metrics.descent());
+    advances_.fill(-1);
+    trustsTable_ = AddsUp(u"The quick brown fox, 0123456789; JUMPS over (fi) the \"lazy\" dog!");
+}
+
+// Whether Qt's own measure of a whole text is what the single advances make.
+bool Face::AddsUp(TextView sample) {
+    double sum = 0;
+    for (const char16_t unit : sample) {
+        sum += AdvanceOf(unit);
+    }
+    return sum == QFontMetricsF(simple_).horizontalAdvance(ToQString(sample));
+}
+
+double Face::AdvanceOf(char16_t unit) {
+    const char16_t drawn = IsUndrawn(unit) ? blank : unit;
+    double& advance = advances_[drawn];
+    if (advance < 0) {
+        advance = QFontMetricsF(simple_).horizontalAdvance(QChar(drawn));
+    }
+    return advance;
+}
+
+void Face::LayOut(QTextLayout& layout) const {
+    layout.setCacheEnabled(true);
+    QTextOption option;
+    option.setWrapMode(QTextOption::NoWrap);
+    option.setUseDesignMetrics(false);
+    layout.setTextOption(option);
+    layout.beginLayout();
+    layout.createLine().setPosition({0, 0});
+    layout.endLayout();
+}
+
+const Face::WordEnds& Face::Measured(TextView word) {
+    if (words_.size() >= mostWords) {
+        words_.clear();
+    }
+    WordEnds& ends = words_[Text(word)];
+    if (!ends.empty()) {
+        return ends;
+    }
+    QTextLayout layout(Drawable(word), shaped_);
+    LayOut(layout);
+    const QTextLine line = layout.lineAt(0);
+    const double whole = line.naturalTextWidth();
+    ends.resize(word.size(), whole);
+    for (std::size_t index = 0; index + 1 < word.size(); ++index) {
+        const double x = line.cursorToX(static_cast<int>(index + 1));
+        ends[index] = std::clamp(x, index == 0 ? 0.0 : ends[index - 1], whole);
+    }
+    return ends;
+}
+
+// Tells `take` of each unit's end in turn.
+template <typename Take>
+void Face::WalkWords(TextView text, Take&& take) {
+    double x = 0;
+    for (std::size_t start = 0; start < text.size();) {
+        const std::size_t end = std::min(text.find(blank, start), text.size());
+        const TextView word = text.substr(start, end - start);
+        if (trustsTable_ && IsSimple(word)) {
+            for (const char16_t unit : word) {
+                x += AdvanceOf(unit);
+                take(x);
+            }
+        } else if (!word.empty()) {
+            for (const double wordEnd : Measured(word)) {
+                take(x + wordEnd);
+            }
+            x += Measured(word).back();
+        }
+        if (end < text.size()) {
+            x += AdvanceOf(blank);
+            take(x);
+        }
+        start = end + 1;
+    }
+}
+
+double Face::WidthOf(TextView text) {
+    double width = 0;
+    WalkWords(text, [&](double end) { width = end; });
+    return width;
+}
+
+void Face::Ends(TextView text, double factor, std::span<double> ends) {
+    std::size_t index = 0;
+    WalkWords(text, [&](double end) { ends[index++] = end * factor; });
+}
+
+GlyphLine Face::GlyphsOf(TextView text) const {
+    QTextLayout layout(Drawable(text), IsSimple(text) ? simple_ : shaped_);
+    LayOut(layout);
+    const QTextLine line = layout.lineAt(0);
+    GlyphLine glyphs{.runs = layout.glyphRuns()};
+    // From the line's top to its base line.
+    for (QGlyphRun& run : glyphs.runs) {
+        QList<QPointF> positions = run.positions();
+        for (QPointF& position : positions) {
+            position.ry() -= line.ascent();
+        }
+        run.setPositions(positions);
+    }
+    return glyphs;
+}
+
+}  // namespace lumenkit::qt

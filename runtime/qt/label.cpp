@@ -1,0 +1,101 @@
+#include "runtime/qt/label.h"
+
+#include <QLabel>
+#include <algorithm>
+#include <cmath>
+
+#include "runtime/qt/mnemonic.h"
+#include "runtime/qt/palette_color.h"
+#include "runtime/qt/pixels.h"
+#include "runtime/qt/qt_text.h"
+
+namespace lumenkit::qt {
+
+namespace {
+
+// Whole pixels, so that what is measured is not broken into lines again.
+float WholeTwips(double pixels, double perPixel) {
+    return static_cast<float>(std::ceil(pixels) * perPixel);
+}
+
+}  // namespace
+
+Label::Label(Constituents& owner, const host::CaptionDesign& design)
+    : BasicCaptioned(owner, design, design.caption) {
+    auto label = std::make_unique<QLabel>(&ParentFor(owner, design));
+    label->setTextFormat(Qt::PlainText);
+    label->setWordWrap(true);
+    label->setAlignment(Qt::AlignLeft | Qt::AlignTop);
+    label->setAutoFillBackground(true);
+    Adopt(std::move(label));
+    ApplyFont();
+    ApplyColors();
+    ShowCaption();
+}
+
+QLabel& Label::Shown() const {
+    return static_cast<QLabel&>(*Widget());
+}
+
+void Label::ShowCaption() {
+    QString text = ToQString(CaptionNow());
+    text.replace(QLatin1String("\r\n"), QLatin1String("\n"));
+    Shown().setText(Shown().buddy() == nullptr ? WithoutMnemonic(text) : text);
+    FitToCaption();
+}
+
+void Label::SetAutoSize(bool autoSize) {
+    autoSize_ = autoSize;
+    FitToCaption();
+}
+
+void Label::SetForeColor(Color color) {
+    foreColor_ = color;
+    ApplyColors();
+}
+
+void Label::SetBackColor(Color color) {
+    backColor_ = color;
+    ApplyColors();
+}
+
+void Label::ApplyColors() {
+    const QPalette& base = Owner().Area().palette();
+    QPalette palette = Shown().palette();
+    palette.setColor(QPalette::WindowText, ToQColor(foreColor_, base));
+    palette.setColor(QPalette::Window, ToQColor(backColor_, base));
+    Shown().setPalette(palette);
+}
+
+void Label::ApplyFont() {
+    BasicCaptioned::ApplyFont();
+    FitToCaption();
+}
+
+void Label::FitToCaption() {
+    if (!autoSize_) {
+        return;
+    }
+    Face& face = CurrentFace();
+    double width = 0;
+    const QStringList lines = WithoutMnemonic(ToQString(CaptionNow())).split(QLatin1String("\r\n"));
+    for (const QString& line : lines) {
+        width = std::max(width, face.WidthOf(ViewOf(line)));
+    }
+    const TwipsPerPixel& twips = TwipsPerPixel::OfScreens();
+    host::Placement fitting = Where();
+    fitting.width = WholeTwips(width, twips.x);
+    fitting.height = WholeTwips(face.LineHeight() * static_cast<double>(lines.size()), twips.y);
+    MoveTo(fitting);
+}
+
+void Label::SetBuddy(QWidget* widget) {
+    Shown().setBuddy(widget);
+    ShowCaption();
+}
+
+bool Label::HasMnemonicNow() const {
+    return HasMnemonic(ToQString(CaptionNow()));
+}
+
+}  // namespace lumenkit::qt

@@ -1,0 +1,13 @@
+#pragma once
+
+#include <QString>
+
+namespace lumenkit::qt {
+
+/// A caption as it reads: without the ampersand that marks a mnemonic, and with one for two.
+QString WithoutMnemonic(const QString& caption);
+
+/// Whether a letter of the caption is marked as its mnemonic.
+bool HasMnemonic(const QString& caption);
+
+}  // namespace lumenkit::qt

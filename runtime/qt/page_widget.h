@@ -1,0 +1,68 @@
+#pragma once
+
+#include <QWidget>
+#include <functional>
+#include <memory>
+#include <vector>
+
+#include "frame/class_table.h"
+#include "frame/control.h"
+#include "runtime/qt/constituents.h"
+#include "runtime/qt/context.h"
+#include "runtime/qt/interaction.h"
+#include "runtime/qt/screen.h"
+
+namespace lumenkit::qt {
+
+/// One property page, as large as it is laid out for. Errors of the page's procedures come out of
+/// the calls; those of its events go to the context's sink.
+class PageWidget final : public QWidget {
+ public:
+    /// Creates the page and runs PropertyPage_Initialize. Raises 429 for a class that is no page.
+    PageWidget(const Context& context, const ClassDescriptor& type, QWidget* parent = nullptr);
+    ~PageWidget() override = default;
+    PageWidget(const PageWidget&) = delete;
+    PageWidget& operator=(const PageWidget&) = delete;
+
+    /// The designer has other controls selected; they must live until the next selection.
+    /// PropertyPage_SelectionChanged runs.
+    void Select(std::vector<ObjectRef> controls);
+    /// PropertyPage_ApplyChanges runs. Leaves the Changed flag alone.
+    void Apply();
+
+    /// Whether the page holds what has not been applied.
+    bool Changed() const { return site_.changed; }
+    void SetChanged(bool changed) { site_.SetChanged(changed); }
+    /// Called whenever the flag takes another value.
+    void OnChanged(std::function<void(bool)> listener) { site_.listener = std::move(listener); }
+
+    Object& Automation() { return page_->Automation(); }
+    Constituents& Parts() { return constituents_; }
+
+ protected:
+    void changeEvent(QEvent* event) override;
+
+ private:
+    struct Site final : host::PropertyPageSite {
+        bool Changed() const override { return changed; }
+        void SetChanged(bool value) override;
+
+        bool changed = false;
+        std::function<void(bool)> listener;
+    };
+    struct Selection final : host::SelectedControls {
+        std::int16_t Count() const override { return static_cast<std::int16_t>(controls.size()); }
+        ObjectRef Item(std::int16_t index) override;
+
+        std::vector<ObjectRef> controls;
+    };
+
+    Site site_;
+    Selection selection_;
+    Screen screen_;
+    Constituents constituents_;
+    PageHost host_;
+    std::unique_ptr<PropertyPage> page_;
+};
+
+}  // namespace lumenkit::qt

@@ -1,0 +1,27 @@
+#pragma once
+
+#include "frame/host/simple_constituents.h"
+#include "runtime/qt/basic_constituent.h"
+
+namespace lumenkit::qt {
+
+/// Its border is the style's frame. What lies in it is clipped there.
+class PictureBox final : public BasicConstituent<host::PictureBox> {
+ public:
+    PictureBox(Constituents& owner, const host::Design& design);
+    ~PictureBox() override { Release(); }
+
+    void Move(const host::Placement& placement) override;
+    float ScaleWidth() const override;
+    float ScaleHeight() const override;
+
+    QWidget& Inside() const override { return *inside_; }
+
+ private:
+    int Border() const;
+    void LayOut();
+
+    QPointer<QWidget> inside_;
+};
+
+}  // namespace lumenkit::qt

@@ -1,0 +1,151 @@
+#pragma once
+
+#include <QColor>
+#include <QImage>
+#include <QPainter>
+#include <QRect>
+#include <cstdint>
+#include <memory>
+#include <optional>
+#include <span>
+#include <vector>
+
+#include "frame/control.h"
+#include "frame/host/surface.h"
+#include "runtime/qt/boundary.h"
+#include "runtime/qt/font.h"
+#include "runtime/qt/pixels.h"
+
+namespace lumenkit::qt {
+
+class SurfaceWidget;
+
+/// What lies around a surface: the control's widget, which has the surface's border.
+class SurfaceOwner {
+ public:
+    virtual ~SurfaceOwner() = default;
+
+    virtual QWidget& Outside() = 0;
+    /// The surface has another size or border; its owner lays it out anew.
+    virtual void SurfaceResized() = 0;
+    /// Twips that the border takes on each side.
+    virtual float BorderWidth(std::int16_t style) const = 0;
+};
+
+/// The drawing surface of a control. Its size is kept in twips as it was set, whatever whole pixels
+/// it takes on the screen.
+///
+/// Without AutoRedraw only what is drawn during UserControl_Paint is seen: at other times the pen
+/// moves and nothing is drawn. Repainting what was painted before measures and shapes no text anew:
+/// the glyphs of each run are kept, in the order of drawing.
+class Surface final : public host::Surface {
+ public:
+    /// Lengths in twips. `owner` and `errors` must outlive the surface. Raises 380 for a negative
+    /// width or height.
+    Surface(SurfaceOwner& owner, const ErrorSink& errors, float width, float height);
+    ~Surface() override;
+
+    float CurrentX() const override { return currentX_; }
+    void SetCurrentX(float x) override { currentX_ = x; }
+    float CurrentY() const override { return currentY_; }
+    void SetCurrentY(float y) override { currentY_ = y; }
+    void Cls() override;
+    void Print(TextView text) override;
+    void FillBox(float x1, float y1, float x2, float y2, Color color) override;
+    float TextWidth(TextView text) override;
+    void TextWidths(TextView text, std::span<double> ends) override;
+    float TextHeight(TextView text) override;
+    float ScaleWidth() const override;
+    float ScaleHeight() const override;
+    float VisibleBottom() const override;
+    host::FontRef CurrentFont() const override { return font_.Get(); }
+    /// Raises 13 for a font of another runtime.
+    void SetCurrentFont(host::FontRef font) override { font_.Assign(std::move(font)); }
+    Color ForeColor() const override { return foreColor_; }
+    void SetForeColor(Color color) override;
+    Color BackColor() const override { return backColor_; }
+    void SetBackColor(Color color) override;
+    bool FontTransparent() const override { return fontTransparent_; }
+    void SetFontTransparent(bool transparent) override { fontTransparent_ = transparent; }
+    bool AutoRedraw() const override { return autoRedraw_; }
+    void SetAutoRedraw(bool keep) override;
+    void Refresh() override;
+    float Width() const override { return width_; }
+    float Height() const override { return height_; }
+    /// Raises 380 for a negative width or height.
+    void Size(float width, float height) override;
+    bool Enabled() const override { return enabled_; }
+    void SetEnabled(bool enabled) override;
+    std::int16_t BorderStyle() const override { return borderStyle_; }
+    void SetBorderStyle(std::int16_t style) override;
+    std::int16_t Pointer() const override { return pointer_; }
+    void SetPointer(std::int16_t pointer) override;
+
+    // For the runtime.
+    SurfaceWidget& Area() { return *area_; }
+    /// The control that is told to paint and that its size changed; null: none yet.
+    void SetControl(Control* control) { control_ = control; }
+    Control* GetControl() const { return control_; }
+    bool IsPainting() const { return painter_ != nullptr; }
+    /// Paints what the area shows, at least `exposed` (pixels of the area).
+    void PaintOn(QPainter& painter, const QRect& exposed);
+    /// The texts of the last painting, a line break where they stood lower than those before.
+    QString PaintedText() const;
+    /// The screen's scale may have changed.
+    void UpdateScale();
+    void PaletteChanged();
+
+ private:
+    // One printed text, ready to be drawn once more.
+    struct Run {
+        Text text;
+        std::shared_ptr<Face> face;
+        std::optional<GlyphLine> glyphs;
+        double width = 0;  // pixels
+        float y = 0;
+    };
+
+    const std::shared_ptr<Face>& CurrentFace() const { return font_.Get()->FaceAt(scale_); }
+    QPainter* Target();
+    QPainter& PicturePainter();
+    void FinishPicture();
+    void FitPicture();
+    QImage NewPicture() const;
+    Run& NextRun(TextView text, const std::shared_ptr<Face>& face);
+    void DrawRun(QPainter& painter, Run& run);
+    void UsePen(QPainter& painter, Color color);
+    void RunPaint(QPainter* painter);
+    void Touch(const QRectF& pixels);
+    void FontChanged();
+    QRect WholeArea() const;
+    QColor Shown(Color color) const;
+
+    SurfaceOwner& owner_;
+    std::unique_ptr<SurfaceWidget> area_;
+    HeldFont font_;
+    Control* control_ = nullptr;
+    double scale_;  // real pixels in a pixel
+    float currentX_ = 0;
+    float currentY_ = 0;
+    float width_;
+    float height_;
+    Color foreColor_ = Color::ButtonText;
+    Color backColor_ = Color::ButtonFace;
+    std::int16_t borderStyle_ = 0;
+    std::int16_t pointer_ = 0;
+    bool fontTransparent_ = true;
+    bool autoRedraw_ = false;
+    bool enabled_ = true;
+    bool hasPainted_ = false;
+    bool isBlank_ = true;  // nothing was drawn on the target since it was erased
+
+    QPainter* painter_ = nullptr;  // while painting
+    QRect exposed_;
+    std::optional<Color> pen_;  // the target's
+    QImage picture_;
+    std::unique_ptr<QPainter> picturePainter_;
+    std::vector<Run> runs_;
+    std::size_t nextRun_ = 0;
+};
+
+}  // namespace lumenkit::qt

@@ -1,0 +1,140 @@
+#include "runtime/qt/surface_widget.h"
+
+#include <QAccessibleWidget>
+#include <QMouseEvent>
+#include <QPaintEvent>
+#include <QPainter>
+#include <memory>
+
+#include "runtime/qt/input.h"
+#include "runtime/qt/surface.h"
+
+namespace lumenkit::qt {
+
+namespace {
+
+// A label to screen readers, with the painted text as its name.
+class SurfaceAccessible final : public QAccessibleWidget {
+ public:
+    explicit SurfaceAccessible(SurfaceWidget& area)
+        : QAccessibleWidget(&area, QAccessible::StaticText), area_(area) {}
+
+    QString text(QAccessible::Text kind) const override {
+        const QString painted = area_.PaintedText();
+        return kind == QAccessible::Name && !painted.isEmpty() ? painted
+                                                               : QAccessibleWidget::text(kind);
+    }
+    QAccessible::Role role() const override {
+        return area_.PaintedText().isEmpty() ? QAccessible::Client : QAccessible::StaticText;
+    }
+
+ private:
+    SurfaceWidget& area_;
+};
+
+QAccessibleInterface* MakeAccessible(const QString& /*key*/, QObject* object) {
+    auto* area = dynamic_cast<SurfaceWidget*>(object);
+    return area == nullptr ? nullptr : std::make_unique<SurfaceAccessible>(*area).release();
+}
+
+void OfferAccessibility() {
+    static const bool offered = [] {
+        QAccessible::installFactory(&MakeAccessible);
+        return true;
+    }();
+    static_cast<void>(offered);
+}
+
+}  // namespace
+
+SurfaceWidget::SurfaceWidget(QWidget& outside, Surface& surface, const ErrorSink& errors)
+    : QWidget(&outside), surface_(&surface), errors_(errors) {
+    OfferAccessibility();
+    setAttribute(Qt::WA_OpaquePaintEvent);
+    setMouseTracking(true);
+}
+
+void SurfaceWidget::Detach() {
+    surface_ = nullptr;
+    hide();
+}
+
+QString SurfaceWidget::PaintedText() const {
+    return surface_ == nullptr ? QString() : surface_->PaintedText();
+}
+
+Control* SurfaceWidget::GetControl() const {
+    return surface_ == nullptr ? nullptr : surface_->GetControl();
+}
+
+bool SurfaceWidget::event(QEvent* event) {
+    const bool handled = QWidget::event(event);
+    if (surface_ != nullptr) {
+        switch (event->type()) {
+            case QEvent::PaletteChange:
+                surface_->PaletteChanged();
+                break;
+            case QEvent::Show:
+            case QEvent::ScreenChangeInternal:
+                surface_->UpdateScale();
+                break;
+            default:
+                break;
+        }
+    }
+    return handled;
+}
+
+void SurfaceWidget::paintEvent(QPaintEvent* event) {
+    HandleEvent(errors_, [&] {
+        if (surface_ != nullptr && !surface_->IsPainting()) {
+            QPainter painter(this);
+            surface_->PaintOn(painter, event->rect());
+        }
+    });
+}
+
+void SurfaceWidget::Tell(MouseHandler handler, host::MouseArguments mouse) {
+    HandleEvent(errors_, [&] {
+        if (Control* control = GetControl()) {
+            (control->*handler)(mouse);
+        }
+    });
+}
+
+void SurfaceWidget::Tell(void (Control::*handler)()) {
+    HandleEvent(errors_, [&] {
+        if (Control* control = GetControl()) {
+            (control->*handler)();
+        }
+    });
+}
+
+void SurfaceWidget::mousePressEvent(QMouseEvent* event) {
+    isPressed_ = event->button() == Qt::LeftButton;
+    Tell(&Control::UserControl_MouseDown, MouseArgumentsOf(*event));
+}
+
+void SurfaceWidget::mouseMoveEvent(QMouseEvent* event) {
+    Tell(&Control::UserControl_MouseMove, MouseArgumentsOf(*event));
+}
+
+void SurfaceWidget::mouseReleaseEvent(QMouseEvent* event) {
+    const bool clicks = event->button() == Qt::LeftButton && isPressed_ &&
+                        rect().contains(event->position().toPoint());
+    isPressed_ = isPressed_ && event->button() != Qt::LeftButton;
+    Tell(&Control::UserControl_MouseUp, MouseArgumentsOf(*event));
+    if (clicks) {
+        Tell(&Control::UserControl_Click);
+    }
+}
+
+void SurfaceWidget::mouseDoubleClickEvent(QMouseEvent* event) {
+    if (event->button() == Qt::LeftButton) {
+        Tell(&Control::UserControl_DblClick);
+    } else {
+        mousePressEvent(event);
+    }
+}
+
+}  // namespace lumenkit::qt

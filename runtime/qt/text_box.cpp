@@ -1,0 +1,100 @@
+#include "runtime/qt/text_box.h"
+
+#include <algorithm>
+
+#include "frame/host/accepted_values.h"
+#include "runtime/qt/input.h"
+#include "runtime/qt/palette_color.h"
+
+namespace lumenkit::qt {
+
+TextBox::TextBox(Constituents& owner, const host::TextBoxDesign& design,
+                 host::TextBoxEvents& events)
+    : BasicTextConstituent(owner, design) {
+    Adopt(std::make_unique<TextEdit>(&ParentFor(owner, design), design, events, Errors()));
+    ApplyFont();
+    ApplyColors();
+}
+
+void TextBox::Disconnect() {
+    if (Widget() != nullptr) {
+        Edit().Disconnect();
+    }
+}
+
+void TextBox::SetText(TextView text) {
+    Edit().SetContents(maxLength_ > 0 ? text.substr(0, static_cast<std::size_t>(maxLength_))
+                                      : text);
+}
+
+void TextBox::SetSelStart(std::int32_t position) {
+    Require(position >= 0);
+    const std::int32_t start = std::min(position, Edit().Length());
+    Edit().Select({.start = start, .end = start});
+}
+
+std::int32_t TextBox::SelLength() const {
+    const TextEdit::Selection selected = Edit().Selected();
+    return selected.end - selected.start;
+}
+
+void TextBox::SetSelLength(std::int32_t length) {
+    Require(length >= 0);
+    const std::int32_t start = SelStart();
+    Edit().Select({.start = start, .end = start + std::min(length, Edit().Length() - start)});
+}
+
+void TextBox::GetSelection(std::int32_t& start, std::int32_t& end) const {
+    const TextEdit::Selection selected = Edit().Selected();
+    start = selected.start;
+    end = selected.end;
+}
+
+void TextBox::SetSelection(std::int32_t start, std::int32_t end) {
+    if (start == -1) {
+        const std::int32_t caret = Edit().Selected().end;
+        Edit().Select({.start = caret, .end = caret});
+        return;
+    }
+    // The message's numbers are unsigned: what is negative lies beyond the end.
+    const auto placed = [length = Edit().Length()](std::int32_t position) {
+        return position < 0 ? length : std::min(position, length);
+    };
+    const auto [first, last] = std::minmax({placed(start), placed(end)});
+    Edit().Select({.start = first, .end = last});
+}
+
+void TextBox::SetForeColor(Color color) {
+    foreColor_ = color;
+    ApplyColors();
+}
+
+void TextBox::ApplyColors() {
+    if (foreColor_ == Color::WindowText) {
+        Edit().setPalette({});  // greyed where the palette says so
+        return;
+    }
+    const QPalette& base = Owner().Area().palette();
+    QPalette palette = base;
+    palette.setColor(QPalette::Text, ToQColor(foreColor_, base));
+    Edit().setPalette(palette);
+}
+
+void TextBox::SetMaxLength(std::int32_t length) {
+    Require(length >= 0);
+    maxLength_ = length;
+    Edit().SetMaxLength(length);
+}
+
+void TextBox::SetPointer(host::MousePointer pointer) {
+    RequirePointer(static_cast<std::int32_t>(pointer));
+    pointer_ = pointer;
+    ShowPointer(*Edit().viewport(), pointer, Qt::IBeamCursor);
+}
+
+std::int32_t TextBox::WindowHandle() const {
+    Edit().setAttribute(Qt::WA_DontCreateNativeAncestors);
+    return static_cast<std::int32_t>(Edit().winId());
+}
+
+}  // namespace lumenkit::qt

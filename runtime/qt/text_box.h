@@ -1,0 +1,49 @@
+#pragma once
+
+#include <cstdint>
+
+#include "frame/host/text_box.h"
+#include "runtime/qt/basic_constituent.h"
+#include "runtime/qt/text_edit.h"
+
+namespace lumenkit::qt {
+
+/// A text box. Where lines do not scroll sideways they are wrapped. Changes of the text are told of
+/// when what changed it is through. A key's code that a handler replaced by another moving or
+/// editing key's acts as that one.
+class TextBox final : public BasicTextConstituent<host::TextBox> {
+ public:
+    TextBox(Constituents& owner, const host::TextBoxDesign& design, host::TextBoxEvents& events);
+    ~TextBox() override { Release(); }
+
+    TextView GetText() const override { return Edit().Contents(); }
+    void SetText(TextView text) override;
+    std::int32_t SelStart() const override { return Edit().Selected().start; }
+    void SetSelStart(std::int32_t position) override;
+    std::int32_t SelLength() const override;
+    void SetSelLength(std::int32_t length) override;
+    void GetSelection(std::int32_t& start, std::int32_t& end) const override;
+    void SetSelection(std::int32_t start, std::int32_t end) override;
+    Color ForeColor() const override { return foreColor_; }
+    void SetForeColor(Color color) override;
+    bool Locked() const override { return Edit().IsLocked(); }
+    void SetLocked(bool locked) override { Edit().SetLocked(locked); }
+    std::int32_t MaxLength() const override { return maxLength_; }
+    void SetMaxLength(std::int32_t length) override;
+    host::MousePointer Pointer() const override { return pointer_; }
+    void SetPointer(host::MousePointer pointer) override;
+    /// The box gets a window of its own when it is first asked for.
+    std::int32_t WindowHandle() const override;
+
+    void ApplyColors() override;
+    TextEdit& Edit() const { return static_cast<TextEdit&>(*Widget()); }
+
+ private:
+    void Disconnect() override;
+
+    Color foreColor_ = Color::WindowText;
+    std::int32_t maxLength_ = 0;
+    host::MousePointer pointer_ = host::MousePointer::Default;
+};
+
+}  // namespace lumenkit::qt
