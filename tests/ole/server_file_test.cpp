@@ -1,0 +1,135 @@
+// What the component server's file carries for installers, designers and the loader.
+#include <filesystem>
+#include <span>
+#include <string>
+#include <vector>
+
+#include <gmock/gmock.h>
+#include <windows.h>
+
+#include "project/lumenkit_classes.h"
+
+namespace lumenkit {
+
+namespace {
+
+const std::filesystem::path server = std::filesystem::path(LUMENKIT_BINARY_DIR) / "lumenkit.ocx";
+const std::filesystem::path manifest =
+    std::filesystem::path(LUMENKIT_BINARY_DIR) / "lumenkit.manifest";
+
+std::vector<std::byte> VersionInformation() {
+    std::vector<std::byte> information(GetFileVersionInfoSizeW(server.c_str(), nullptr));
+    EXPECT_FALSE(information.empty());
+    EXPECT_TRUE(GetFileVersionInfoW(server.c_str(), 0, static_cast<DWORD>(information.size()),
+                                    information.data()));
+    return information;
+}
+
+std::wstring VersionText(const std::vector<std::byte>& information, const std::wstring& name) {
+    void* text = nullptr;
+    UINT length = 0;
+    const std::wstring block = L"\\StringFileInfo\\040904B0\\" + name;
+    return VerQueryValueW(information.data(), block.c_str(), &text, &length)
+               ? std::wstring(static_cast<const wchar_t*>(text))
+               : L"(none)";
+}
+
+TEST(ServerFile, TellsItsVersion) {
+    const std::vector<std::byte> information = VersionInformation();
+    void* found = nullptr;
+    UINT length = 0;
+    ASSERT_TRUE(VerQueryValueW(information.data(), L"\\", &found, &length));
+    const auto& fixed = *static_cast<const VS_FIXEDFILEINFO*>(found);
+    EXPECT_EQ(fixed.dwFileVersionMS, 7U << 16 | 1U);
+    EXPECT_EQ(fixed.dwFileVersionLS, 0U);
+    EXPECT_EQ(fixed.dwProductVersionMS, fixed.dwFileVersionMS);
+    EXPECT_EQ(fixed.dwFileType, static_cast<DWORD>(VFT_DLL));
+    EXPECT_EQ(VersionText(information, L"FileVersion"), L"7.1.0.0");
+    EXPECT_EQ(VersionText(information, L"ProductName"), L"lumenkit");
+    EXPECT_EQ(VersionText(information, L"OriginalFilename"), L"lumenkit.ocx");
+    // Installers register what has this entry.
+    EXPECT_EQ(VersionText(information, L"OLESelfRegister"), L"");
+}
+
+class LoadedServer : public ::testing::Test {
+ protected:
+    void SetUp() override {
+        module_ = LoadLibraryExW(server.c_str(), nullptr, LOAD_LIBRARY_AS_DATAFILE);
+        ASSERT_NE(module_, nullptr);
+    }
+    void TearDown() override { FreeLibrary(module_); }
+
+    std::span<const std::byte> Bitmap(std::uint16_t number) const {
+        HRSRC found = FindResourceW(module_, MAKEINTRESOURCEW(number), RT_BITMAP);
+        if (found == nullptr) {
+            return {};
+        }
+        return {static_cast<const std::byte*>(LockResource(LoadResource(module_, found))),
+                SizeofResource(module_, found)};
+    }
+
+    HMODULE module_ = nullptr;
+};
+
+TEST_F(LoadedServer, HasAToolboxBitmapForEachControl) {
+    std::vector<std::span<const std::byte>> bitmaps;
+    for (const ClassDescriptor& type : lumenkitClasses.classes) {
+        ASSERT_EQ(type.toolboxBitmap == 0, type.kind != ClassKind::Control);
+        if (type.kind != ClassKind::Control) {
+            continue;
+        }
+        const std::span<const std::byte> bitmap = Bitmap(type.toolboxBitmap);
+        ASSERT_GT(bitmap.size(), sizeof(BITMAPINFOHEADER));
+        const auto& header = *reinterpret_cast<const BITMAPINFOHEADER*>(bitmap.data());
+        EXPECT_EQ(header.biWidth, 16);
+        EXPECT_EQ(header.biHeight, 15);
+        EXPECT_EQ(header.biBitCount, 4);
+        for (const auto& other : bitmaps) {
+            EXPECT_FALSE(std::ranges::equal(bitmap, other)) << "two controls look the same";
+        }
+        bitmaps.push_back(bitmap);
+    }
+}
+
+/// The manifest in force for this thread.
+class SideBySide : public ::testing::Test {
+ protected:
+    void SetUp() override {
+        ACTCTXW request = {};
+        request.cbSize = sizeof request;
+        request.lpSource = manifest.c_str();
+        context_ = CreateActCtxW(&request);
+        ASSERT_NE(context_, INVALID_HANDLE_VALUE) << GetLastError();
+        ASSERT_TRUE(ActivateActCtx(context_, &cookie_));
+        ASSERT_TRUE(SUCCEEDED(OleInitialize(nullptr)));
+    }
+    void TearDown() override {
+        OleUninitialize();
+        DeactivateActCtx(0, cookie_);
+        ReleaseActCtx(context_);
+    }
+
+    HANDLE context_ = INVALID_HANDLE_VALUE;
+    ULONG_PTR cookie_ = 0;
+};
+
+TEST_F(SideBySide, FindsEachClassByItsName) {
+    for (const ClassDescriptor& type : lumenkitClasses.classes) {
+        const Text name = Text(lumenkitClasses.libraryName) + u"." + Text(type.name);
+        const std::wstring wide(name.begin(), name.end());
+        CLSID found = {};
+        ASSERT_EQ(CLSIDFromProgID(wide.c_str(), &found), S_OK);
+        EXPECT_EQ(found.Data1, type.uniqueIdentifier.data1);
+        IUnknown* factory = nullptr;
+        EXPECT_EQ(CoGetClassObject(found, CLSCTX_INPROC_SERVER, nullptr, IID_IClassFactory,
+                                   reinterpret_cast<void**>(&factory)),
+                  S_OK);
+        if (factory != nullptr) {
+            factory->Release();
+        }
+    }
+}
+
+}  // namespace
+
+}  // namespace lumenkit
