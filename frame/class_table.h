@@ -33,10 +33,14 @@ struct ClassDescriptor {
     /// How large a property page is laid out, in twips.
     float pageWidth = 0;
     float pageHeight = 0;
+    TextView pageTitle = {};                 ///< of a property page, for the host's tabs
     UniqueIdentifier uniqueIdentifier = {};  ///< null where the class is not published
     InterfaceAlias alias = {};
     /// Number of the bitmap resource that stands for the class in a designer's toolbox; 0: none.
     std::uint16_t toolboxBitmap = 0;
+    /// The property page that edits a control: the name of a class of the same table; empty: none.
+    TextView propertyPage = {};
+    std::span<const TextView> pageProperties = {};  ///< the names of those that it edits
 };
 
 /// The project descriptor: what the server's entries hand to a control runtime.

@@ -64,6 +64,9 @@ constexpr std::array events = {
     EventOf(VLabelEvent::MouseUp, u"MouseUp", stock::mouseUpHelp, stock::mouseParameters),
 };
 
+constexpr std::array<TextView, 4> pageProperties = {u"Caption", u"BulletPrefix", u"BulletIndent",
+                                                    u"WordWrap"};
+
 std::unique_ptr<Control> Create(const ControlHost& host) {
     return std::make_unique<VLabel>(host);
 }
@@ -88,6 +91,8 @@ constexpr ClassDescriptor vlabelClass = {
     .createControl = &Create,
     .uniqueIdentifier = "c9d68950-e9f6-434b-bd20-7e035e44af24",
     .toolboxBitmap = 101,
+    .propertyPage = u"VLabelCaption",
+    .pageProperties = pageProperties,
 };
 
 }  // namespace lumenkit

@@ -27,6 +27,7 @@ constexpr ClassDescriptor vlabelCaptionClass = {
     .createPage = &Create,
     .pageWidth = page_layout::pageWidth,
     .pageHeight = page_layout::pageHeight,
+    .pageTitle = u"Caption",
     .uniqueIdentifier = "4f28929c-658c-4d68-82e8-15be7b4e7328",
 };
 

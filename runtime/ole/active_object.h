@@ -1,0 +1,28 @@
+#pragma once
+
+#include "runtime/ole/control_core.h"
+#include "runtime/ole/facet.h"
+
+namespace lumenkit::ole {
+
+class ActiveObject final : public Facet<IOleInPlaceActiveObject> {
+ public:
+    /// `core` need not be made yet.
+    ActiveObject(IUnknown& controlling, ControlCore& core) : Facet(controlling), core_(core) {}
+
+    HRESULT STDMETHODCALLTYPE GetWindow(HWND* window) override;
+    HRESULT STDMETHODCALLTYPE ContextSensitiveHelp(BOOL /*enter*/) override { return E_NOTIMPL; }
+    HRESULT STDMETHODCALLTYPE TranslateAccelerator(MSG* message) override;
+    HRESULT STDMETHODCALLTYPE OnFrameWindowActivate(BOOL /*active*/) override { return S_OK; }
+    HRESULT STDMETHODCALLTYPE OnDocWindowActivate(BOOL /*active*/) override { return S_OK; }
+    HRESULT STDMETHODCALLTYPE ResizeBorder(LPCRECT /*border*/, IOleInPlaceUIWindow* /*window*/,
+                                           BOOL /*frame*/) override {
+        return S_OK;
+    }
+    HRESULT STDMETHODCALLTYPE EnableModeless(BOOL /*enable*/) override { return S_OK; }
+
+ private:
+    ControlCore& core_;
+};
+
+}  // namespace lumenkit::ole

@@ -1,0 +1,51 @@
+#include "runtime/ole/class_factory.h"
+
+#include "runtime/ole/control_object.h"
+#include "runtime/ole/page_object.h"
+#include "runtime/ole/result.h"
+
+namespace lumenkit::ole {
+
+HRESULT ClassFactory::QueryInterface(REFIID interfaceId, void** object) {
+    if (object == nullptr) {
+        return E_POINTER;
+    }
+    *object = interfaceId == IID_IUnknown || interfaceId == IID_IClassFactory ? this : nullptr;
+    if (*object == nullptr) {
+        return E_NOINTERFACE;
+    }
+    AddRef();
+    return S_OK;
+}
+
+ULONG ClassFactory::Release() {
+    const ULONG left = --references_;
+    if (left == 0) {
+        delete this;
+    }
+    return left;
+}
+
+HRESULT ClassFactory::CreateInstance(IUnknown* outer, REFIID interfaceId, void** object) {
+    return Guarded([&] {
+        Checked(object) = nullptr;
+        // An aggregating object must take hold of the one IUnknown that does not delegate.
+        if (outer != nullptr && interfaceId != IID_IUnknown) {
+            return CLASS_E_NOAGGREGATION;
+        }
+        ComPtr<IUnknown> made;
+        if (type_.kind == ClassKind::Control) {
+            made.Attach(new ControlObject(component_, type_, outer));
+        } else {
+            made.Attach(new PageObject(component_, type_, outer));
+        }
+        return made->QueryInterface(interfaceId, object);
+    });
+}
+
+HRESULT ClassFactory::LockServer(BOOL lock) {
+    component_.Lock(lock != FALSE);
+    return S_OK;
+}
+
+}  // namespace lumenkit::ole

@@ -1,0 +1,243 @@
+#include "runtime/ole/control_core.h"
+
+#include "runtime/ole/event_call.h"
+#include "runtime/ole/identifiers.h"
+#include "runtime/ole/result.h"
+
+namespace lumenkit::ole {
+
+namespace {
+
+// Of a control that no container has sized yet: 3000 by 1500 twips.
+SIZE FirstSize() {
+    const win32::Resolution resolution = win32::Resolution::OfScreen();
+    return {win32::ToPixels(3000, resolution.x), win32::ToPixels(1500, resolution.y)};
+}
+
+GUID EventInterface(const ClassDescriptor& type) {
+    return type.eventTable == nullptr ? IID_NULL : GuidOf(type.eventTable->uniqueIdentifier);
+}
+
+// The names under which a saved control's size stands beside its properties.
+constexpr TextView widthName = u"_ExtentX";
+constexpr TextView heightName = u"_ExtentY";
+
+}  // namespace
+
+// A call of the container: the control stays alive, and is not loaded anew under its own feet.
+class ControlCore::Callout {
+ public:
+    explicit Callout(ControlCore& core) : core_(core), alive_(&core.controlling_) {
+        ++core_.callouts_;
+    }
+    ~Callout() { --core_.callouts_; }
+    Callout(const Callout&) = delete;
+    Callout& operator=(const Callout&) = delete;
+
+ private:
+    ControlCore& core_;
+    ComPtr<IUnknown> alive_;
+};
+
+ControlCore::ControlCore(Component& component, const ClassDescriptor& type, IUnknown& controlling,
+                         CoreFaces faces)
+    : component_(component),
+      type_(type),
+      controlling_(controlling),
+      faces_(faces),
+      points_(controlling, EventInterface(type)),
+      ambient_(site_, component.GetContext().fonts),
+      extender_(site_, *this),
+      extent_(FirstSize()) {
+    Make();
+}
+
+ControlCore::~ControlCore() {
+    // Nobody is told any more: whoever could listen has let go.
+    site_.Assign(nullptr);
+    ++frozen_;
+}
+
+void ControlCore::Make() {
+    hosted_.reset();
+    hosted_ = std::make_unique<win32::HostedControl>(component_.GetContext(), type_, *this,
+                                                     extent_.Pixels());
+}
+
+win32::HostedControl& ControlCore::Started() {
+    if (!hosted_->IsStarted()) {
+        hosted_->StartNew();
+        dirty_ = true;
+    }
+    return *hosted_;
+}
+
+void ControlCore::StartNew() {
+    if (startedOnPurpose_) {
+        throw ComError(E_UNEXPECTED);
+    }
+    Started();
+    startedOnPurpose_ = true;
+}
+
+void ControlCore::Restart() {
+    if (hosted_->IsStarted()) {
+        if (activation_.IsActive() || callouts_ != 0) {
+            throw ComError(E_UNEXPECTED);
+        }
+        Make();
+    }
+}
+
+void ControlCore::Load(host::PropertyBag& bag) {
+    Restart();
+    const Value width = bag.ReadProperty(widthName, Empty{});
+    const Value height = bag.ReadProperty(heightName, Empty{});
+    if (!std::holds_alternative<Empty>(width) && !std::holds_alternative<Empty>(height)) {
+        SetExtent({ToLong(width), ToLong(height)});
+    }
+    hosted_->StartSaved(bag);
+    startedOnPurpose_ = true;
+    dirty_ = false;
+}
+
+void ControlCore::Save(host::PropertyBag& bag) {
+    Started().Save(bag);
+    bag.WriteProperty(widthName, static_cast<std::int32_t>(extent_.Get().cx), Empty{});
+    bag.WriteProperty(heightName, static_cast<std::int32_t>(extent_.Get().cy), Empty{});
+}
+
+void ControlCore::SetExtent(const SIZEL& himetric) {
+    // What a window cannot be that large.
+    constexpr LONG largest = 32767;
+    const SIZE pixels = ToPixels(himetric, extent_.GetResolution());
+    if (himetric.cx < 0 || himetric.cy < 0 || pixels.cx > largest || pixels.cy > largest ||
+        pixels.cx < 0 || pixels.cy < 0) {
+        throw ComError(E_INVALIDARG);
+    }
+    const bool changed = !SameSize(extent_.Pixels(), pixels);
+    if (changed && activation_.IsActive()) {
+        RequestSize(pixels);
+        return;
+    }
+    extent_.Assign(himetric);
+    if (changed) {
+        hosted_->SetSize(pixels);
+        dirty_ = true;
+        PictureChanged();
+    }
+}
+
+void ControlCore::SizeChanged(SIZE pixels) {
+    if (!SameSize(extent_.Pixels(), pixels)) {
+        extent_.Follow(pixels);
+        dirty_ = true;
+        PictureChanged();
+    }
+}
+
+void ControlCore::RequestSize(SIZE size) {
+    const Callout calling(*this);
+    if (!activation_.IsActive()) {
+        if (hosted_ != nullptr) {
+            hosted_->SetSize(size);
+            SizeChanged(size);
+        }
+        if (site_.Exists()) {
+            site_.Get()->RequestNewObjectLayout();
+        }
+        return;
+    }
+    RECT place = activation_.Place();
+    place.right = place.left + size.cx;
+    place.bottom = place.top + size.cy;
+    ComPtr<IOleInPlaceSite>(activation_.InPlaceSite())->OnPosRectChange(&place);
+}
+
+void ControlCore::PictureChanged() {
+    notices_.PictureChanged(faces_.data);
+}
+
+void ControlCore::FocusChanged(bool inside) {
+    const Callout calling(*this);
+    activation_.FocusChanged(inside);
+}
+
+void ControlCore::FreezeEvents(bool freeze) {
+    if (freeze) {
+        ++frozen_;
+    } else if (frozen_ > 0) {
+        --frozen_;
+    }
+}
+
+DISPID ControlCore::IdentifierOf(TextView property) const {
+    const Member* member = type_.interfaceTable->Find(property);
+    return member == nullptr ? DISPID_UNKNOWN : member->identifier;
+}
+
+void ControlCore::PropertyChanged(TextView name) {
+    const Callout calling(*this);
+    dirty_ = true;
+    const DISPID identifier = IdentifierOf(name);
+    points_.Properties().Tell<IPropertyNotifySink>(
+        [&](IPropertyNotifySink& sink) { sink.OnChanged(identifier); });
+    PictureChanged();
+}
+
+bool ControlCore::CanPropertyChange(TextView name) {
+    const Callout calling(*this);
+    const DISPID identifier = IdentifierOf(name);
+    bool allowed = true;
+    points_.Properties().Tell<IPropertyNotifySink>([&](IPropertyNotifySink& sink) {
+        allowed = allowed && sink.OnRequestEdit(identifier) != S_FALSE;
+    });
+    return allowed;
+}
+
+void ControlCore::RaiseEvent(std::int32_t event, std::span<Value> arguments) {
+    const Event* raised = type_.eventTable == nullptr ? nullptr : type_.eventTable->Find(event);
+    if (frozen_ != 0 || raised == nullptr) {
+        return;
+    }
+    const Callout calling(*this);
+    ole::RaiseEvent(points_.Events(), *raised, arguments);
+}
+
+Text ControlCore::Title() const {
+    const std::optional<Value> name = site_.Ambient(DISPID_AMBIENT_DISPLAYNAME);
+    try {
+        return name ? ToText(*name) : Text(type_.name);
+    } catch (const RuntimeError&) {
+        return Text(type_.name);
+    }
+}
+
+RECT ControlCore::Place() const {
+    if (activation_.IsActive()) {
+        return activation_.Place();
+    }
+    const SIZE size = extent_.Pixels();
+    return {0, 0, size.cx, size.cy};
+}
+
+bool ControlCore::IsVisible() const {
+    return activation_.IsActive() && IsWindowVisible(hosted_->Window()) != FALSE;
+}
+
+void ControlCore::SetVisible(bool visible) {
+    if (activation_.IsActive()) {
+        hosted_->SetVisible(visible);
+    }
+}
+
+void ControlCore::Move(const RECT& place) {
+    if (activation_.IsActive()) {
+        const Callout calling(*this);
+        ComPtr<IOleInPlaceSite>(activation_.InPlaceSite())->OnPosRectChange(&place);
+    } else {
+        RequestSize(SizeOf(place));
+    }
+}
+
+}  // namespace lumenkit::ole

@@ -1,0 +1,113 @@
+#pragma once
+
+#include <memory>
+
+#include "frame/class_table.h"
+#include "runtime/ole/activation.h"
+#include "runtime/ole/client_site.h"
+#include "runtime/ole/component.h"
+#include "runtime/ole/connection_points.h"
+#include "runtime/ole/extent.h"
+#include "runtime/ole/notices.h"
+#include "runtime/ole/site_ambient.h"
+#include "runtime/ole/site_extender.h"
+#include "runtime/win32/hosted_control.h"
+
+namespace lumenkit::ole {
+
+/// Interfaces of a control's object that the core itself hands to its container.
+struct CoreFaces {
+    IDataObject& data;
+    IOleInPlaceActiveObject& active;
+};
+
+/// What the interfaces of one control share: the control itself and what its container has told.
+class ControlCore final : public win32::ControlSite,
+                          public host::Container,
+                          public Activated,
+                          public Placed {
+ public:
+    /// `faces` need not be ready yet.
+    ControlCore(Component& component, const ClassDescriptor& type, IUnknown& controlling,
+                CoreFaces faces);
+    ~ControlCore() override;
+    ControlCore(const ControlCore&) = delete;
+    ControlCore& operator=(const ControlCore&) = delete;
+
+    const ClassDescriptor& Type() const { return type_; }
+    Component& GetComponent() const { return component_; }
+    IUnknown& Controlling() const { return controlling_; }
+    ConnectionPoints& Points() { return points_; }
+    Notices& GetNotices() { return notices_; }
+    Activation& GetActivation() { return activation_; }
+    const ClientSite& Site() const override { return site_; }
+    void SetSite(IOleClientSite* site) { site_.Assign(site); }
+
+    // Its life.
+    win32::HostedControl& Hosted() { return *hosted_; }
+    /// Starts a control as a new one that is used without having been loaded.
+    win32::HostedControl& Started() override;
+    /// Raises a ComError for a control that was started on purpose already.
+    void StartNew();
+    /// Also a control that is in use may be loaded anew, unless it is shown or just calling its
+    /// container. What the bag raises comes out, and leaves a control that is not started.
+    void Load(host::PropertyBag& bag);
+    void Save(host::PropertyBag& bag);
+    bool IsDirty() const { return dirty_; }
+    void SetDirty(bool dirty) { dirty_ = dirty; }
+
+    // Its size.
+    const Extent& GetExtent() const { return extent_; }
+    /// Raises a ComError for a negative size.
+    void SetExtent(const SIZEL& himetric);
+    void SizeChanged(SIZE pixels) override;
+
+    void FreezeEvents(bool freeze);
+
+    // What the control asks of its site.
+    host::Container& GetContainer() override { return *this; }
+    host::Ambient& GetAmbient() override { return ambient_; }
+    Object& GetExtender() override { return extender_; }
+    void RequestSize(SIZE size) override;
+    void PictureChanged() override;
+    void FocusChanged(bool inside) override;
+
+    // What the control tells its container.
+    void PropertyChanged(TextView name) override;
+    bool CanPropertyChange(TextView name) override;
+    void RaiseEvent(std::int32_t event, std::span<Value> arguments) override;
+
+    // What the extender asks.
+    Text Title() const override;
+    IOleInPlaceActiveObject& ActiveObject() override { return faces_.active; }
+    RECT Place() const override;
+    bool IsVisible() const override;
+    void SetVisible(bool visible) override;
+    void Move(const RECT& place) override;
+
+ private:
+    class Callout;
+
+    void Make();
+    void Restart();
+    DISPID IdentifierOf(TextView property) const;
+
+    Component& component_;
+    const ClassDescriptor& type_;
+    IUnknown& controlling_;
+    CoreFaces faces_;
+    ClientSite site_;
+    ConnectionPoints points_;
+    Notices notices_;
+    SiteAmbient ambient_;
+    SiteExtender extender_;
+    Activation activation_{*this};
+    Extent extent_;
+    bool dirty_ = false;
+    bool startedOnPurpose_ = false;
+    int frozen_ = 0;
+    int callouts_ = 0;
+    std::unique_ptr<win32::HostedControl> hosted_;
+};
+
+}  // namespace lumenkit::ole

@@ -1,0 +1,60 @@
+#pragma once
+
+#include "runtime/ole/active_object.h"
+#include "runtime/ole/class_info.h"
+#include "runtime/ole/control_core.h"
+#include "runtime/ole/data_object.h"
+#include "runtime/ole/dual_interface.h"
+#include "runtime/ole/error_support.h"
+#include "runtime/ole/in_place_object.h"
+#include "runtime/ole/object_safety.h"
+#include "runtime/ole/object_with_site.h"
+#include "runtime/ole/ole_control.h"
+#include "runtime/ole/ole_object.h"
+#include "runtime/ole/page_list.h"
+#include "runtime/ole/persist_bag.h"
+#include "runtime/ole/persist_storage.h"
+#include "runtime/ole/persist_stream.h"
+#include "runtime/ole/property_browsing.h"
+#include "runtime/ole/quick_activate.h"
+#include "runtime/ole/root.h"
+#include "runtime/ole/runnable_object.h"
+#include "runtime/ole/view_object.h"
+
+namespace lumenkit::ole {
+
+/// A control as clients have it: all its interfaces around one core.
+class ControlObject final : public Root, private DualTarget {
+ public:
+    ControlObject(Component& component, const ClassDescriptor& type, IUnknown* outer);
+
+ private:
+    IUnknown* Find(REFIID interfaceId) noexcept override;
+
+    const InterfaceTable& Table() const override { return *core_.Type().interfaceTable; }
+    Object& Members() override { return core_.Started().Automation(); }
+    ComPtr<ITypeInfo> Description() override;
+
+    // The core hands these two to the container, so they are there before it.
+    DataObject data_;
+    ActiveObject active_;
+    ControlCore core_;
+    DualInterface dual_;
+    OleObject oleObject_{core_};
+    OleControl oleControl_{core_};
+    InPlaceObject inPlaceObject_{core_};
+    ViewObject view_{core_};
+    PersistStream stream_{core_};
+    PersistStorage storage_{core_};
+    PersistBag bag_{core_};
+    ClassInfo classInfo_;
+    PageList pages_{core_};
+    PropertyBrowsing browsing_{core_};
+    QuickActivation quick_{core_};
+    ObjectSafety safety_;
+    ErrorSupport errors_;
+    ObjectWithSite withSite_;
+    RunnableObject runnable_;
+};
+
+}  // namespace lumenkit::ole

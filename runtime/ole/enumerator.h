@@ -1,0 +1,96 @@
+// The platform's enumerators over a list that is fixed when they are made.
+#pragma once
+
+#include <atomic>
+#include <memory>
+#include <vector>
+
+#include "runtime/ole/ole_header.h"
+#include "runtime/ole/result.h"
+
+namespace lumenkit::ole {
+
+/// How an item is given to a client, who then owns it. `Kept` is how the list keeps it.
+template <typename Item>
+struct PlainItem {
+    using Kept = Item;
+    static Item Give(const Kept& kept) { return kept; }
+};
+template <typename Interface>
+struct InterfaceItem {
+    using Kept = ComPtr<Interface>;
+    static Interface* Give(const Kept& kept) { return ComPtr<Interface>(kept).Detach(); }
+};
+
+template <typename Interface, const IID& interfaceId, typename Item, typename Policy>
+class Enumerator final : public Interface {
+ public:
+    using List = std::vector<typename Policy::Kept>;
+
+    explicit Enumerator(std::shared_ptr<const List> list, std::size_t position = 0)
+        : list_(std::move(list)), position_(position) {}
+    virtual ~Enumerator() = default;
+    Enumerator(const Enumerator&) = delete;
+    Enumerator& operator=(const Enumerator&) = delete;
+
+    static ComPtr<Interface> Over(List list) {
+        ComPtr<Interface> made;
+        made.Attach(new Enumerator(std::make_shared<const List>(std::move(list))));
+        return made;
+    }
+
+    HRESULT STDMETHODCALLTYPE QueryInterface(REFIID iid, void** object) override {
+        if (object == nullptr) {
+            return E_POINTER;
+        }
+        *object = iid == IID_IUnknown || iid == interfaceId ? this : nullptr;
+        if (*object == nullptr) {
+            return E_NOINTERFACE;
+        }
+        AddRef();
+        return S_OK;
+    }
+    ULONG STDMETHODCALLTYPE AddRef() override { return ++references_; }
+    ULONG STDMETHODCALLTYPE Release() override {
+        const ULONG left = --references_;
+        if (left == 0) {
+            delete this;
+        }
+        return left;
+    }
+
+    HRESULT STDMETHODCALLTYPE Next(ULONG count, Item* items, ULONG* fetched) override {
+        if (items == nullptr || (fetched == nullptr && count != 1)) {
+            return E_POINTER;
+        }
+        return Guarded([&] {
+            ULONG given = 0;
+            while (given < count && position_ < list_->size()) {
+                items[given++] = Policy::Give((*list_)[position_++]);
+            }
+            if (fetched != nullptr) {
+                *fetched = given;
+            }
+            return given == count ? S_OK : S_FALSE;
+        });
+    }
+    HRESULT STDMETHODCALLTYPE Skip(ULONG count) override {
+        const std::size_t left = list_->size() - position_;
+        position_ += count < left ? count : left;
+        return count <= left ? S_OK : S_FALSE;
+    }
+    HRESULT STDMETHODCALLTYPE Reset() override {
+        position_ = 0;
+        return S_OK;
+    }
+    HRESULT STDMETHODCALLTYPE Clone(Interface** copy) override {
+        return Guarded([&] { Checked(copy) = new Enumerator(list_, position_); });
+    }
+
+ private:
+    std::shared_ptr<const List> list_;
+    std::size_t position_;
+    std::atomic<ULONG> references_ = 1;
+};
+
+}  // namespace lumenkit::ole

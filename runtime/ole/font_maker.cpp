@@ -1,0 +1,41 @@
+#include "runtime/ole/font_maker.h"
+
+#include "frame/runtime_error.h"
+#include "runtime/ole/font_size.h"
+#include "runtime/win32/wide_text.h"
+
+namespace lumenkit::ole {
+
+FontAttributes AttributesOf(const host::Font& font) {
+    return {.name = font.Name(),
+            .size = FontSize(font.Size()),
+            .weight = font.Weight(),
+            .charset = font.Charset(),
+            .italic = font.Italic(),
+            .underline = font.Underline(),
+            .strikethrough = font.Strikethrough()};
+}
+
+std::shared_ptr<OleFont> NewOleFont(const FontAttributes& attributes) {
+    std::wstring name = win32::ToWide(attributes.name);
+    FONTDESC description = {};
+    description.cbSizeofstruct = sizeof description;
+    description.lpstrName = name.data();
+    description.cySize = attributes.size;
+    description.sWeight = attributes.weight;
+    description.sCharset = attributes.charset;
+    description.fItalic = attributes.italic ? TRUE : FALSE;
+    description.fUnderline = attributes.underline ? TRUE : FALSE;
+    description.fStrikethrough = attributes.strikethrough ? TRUE : FALSE;
+    ComPtr<IFont> font;
+    if (FAILED(OleCreateFontIndirect(&description, IID_PPV_ARGS(&font)))) {
+        Raise(ErrorNumber::InvalidPropertyValue);
+    }
+    return OleFont::Of(font.Get());
+}
+
+std::shared_ptr<win32::Font> FontMaker::NewFont(TextView name, float points) {
+    return NewOleFont({.name = Text(name), .size = FontSize(points)});
+}
+
+}  // namespace lumenkit::ole

@@ -1,0 +1,40 @@
+#include "runtime/ole/in_place_object.h"
+
+#include "runtime/ole/result.h"
+
+namespace lumenkit::ole {
+
+HRESULT InPlaceObject::GetWindow(HWND* window) {
+    return Guarded([&] {
+        Checked(window) = nullptr;
+        if (!core_.GetActivation().IsActive()) {
+            return E_FAIL;
+        }
+        *window = core_.Hosted().Window();
+        return S_OK;
+    });
+}
+
+HRESULT InPlaceObject::InPlaceDeactivate() {
+    return Guarded([&] { core_.GetActivation().Deactivate(); });
+}
+
+HRESULT InPlaceObject::UIDeactivate() {
+    return Guarded([&] { core_.GetActivation().DeactivateUI(); });
+}
+
+HRESULT InPlaceObject::SetObjectRects(LPCRECT place, LPCRECT clip) {
+    return Guarded([&] {
+        const RECT& whole = Checked(place);
+        if (whole.right < whole.left || whole.bottom < whole.top) {
+            return E_INVALIDARG;
+        }
+        if (!core_.GetActivation().IsActive()) {
+            return E_UNEXPECTED;
+        }
+        core_.GetActivation().SetPlace(whole, clip == nullptr ? whole : *clip);
+        return S_OK;
+    });
+}
+
+}  // namespace lumenkit::ole

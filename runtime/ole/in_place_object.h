@@ -1,0 +1,23 @@
+#pragma once
+
+#include "runtime/ole/control_core.h"
+#include "runtime/ole/facet.h"
+
+namespace lumenkit::ole {
+
+class InPlaceObject final : public Facet<IOleInPlaceObject> {
+ public:
+    explicit InPlaceObject(ControlCore& core) : Facet(core.Controlling()), core_(core) {}
+
+    HRESULT STDMETHODCALLTYPE GetWindow(HWND* window) override;
+    HRESULT STDMETHODCALLTYPE ContextSensitiveHelp(BOOL /*enter*/) override { return E_NOTIMPL; }
+    HRESULT STDMETHODCALLTYPE InPlaceDeactivate() override;
+    HRESULT STDMETHODCALLTYPE UIDeactivate() override;
+    HRESULT STDMETHODCALLTYPE SetObjectRects(LPCRECT place, LPCRECT clip) override;
+    HRESULT STDMETHODCALLTYPE ReactivateAndUndo() override { return INPLACE_E_NOTUNDOABLE; }
+
+ private:
+    ControlCore& core_;
+};
+
+}  // namespace lumenkit::ole

@@ -1,0 +1,13 @@
+// The module that this code is linked into: the component server, not the program.
+#pragma once
+
+#include "frame/text.h"
+#include "runtime/ole/ole_header.h"
+
+namespace lumenkit::ole {
+
+HINSTANCE OwnModule();
+/// Full path.
+Text ModulePath();
+
+}  // namespace lumenkit::ole

@@ -1,0 +1,208 @@
+#include "runtime/ole/ole_font.h"
+
+#include <algorithm>
+#include <atomic>
+#include <utility>
+
+#include "frame/checked_integer.h"
+#include "frame/runtime_error.h"
+#include "runtime/ole/basic_string.h"
+#include "runtime/ole/font_size.h"
+#include "runtime/ole/result.h"
+
+namespace lumenkit::ole {
+
+namespace {
+
+// What the font object refuses is an invalid value to the client.
+void CheckValue(HRESULT result) {
+    if (FAILED(result)) {
+        throw ErrorOf(result);
+    }
+}
+
+template <typename T>
+T Attribute(IFont& font, HRESULT (STDMETHODCALLTYPE IFont::*get)(T*)) {
+    T attribute = {};
+    CheckValue((font.*get)(&attribute));
+    return attribute;
+}
+
+}  // namespace
+
+// Hears of the font's changes as long as its owner lives.
+class OleFont::Sink final : public IPropertyNotifySink {
+ public:
+    explicit Sink(OleFont& owner) : owner_(&owner) {}
+    virtual ~Sink() = default;
+    void Forget() { owner_ = nullptr; }
+
+    HRESULT STDMETHODCALLTYPE QueryInterface(REFIID iid, void** object) override {
+        if (object == nullptr) {
+            return E_POINTER;
+        }
+        if (iid != IID_IUnknown && iid != IID_IPropertyNotifySink) {
+            *object = nullptr;
+            return E_NOINTERFACE;
+        }
+        *object = static_cast<IPropertyNotifySink*>(this);
+        AddRef();
+        return S_OK;
+    }
+    ULONG STDMETHODCALLTYPE AddRef() override { return ++references_; }
+    ULONG STDMETHODCALLTYPE Release() override {
+        const ULONG left = --references_;
+        if (left == 0) {
+            delete this;
+        }
+        return left;
+    }
+    HRESULT STDMETHODCALLTYPE OnChanged(DISPID /*property*/) override {
+        return Guarded([&] {
+            if (owner_ != nullptr) {
+                owner_->Notify();
+            }
+        });
+    }
+    HRESULT STDMETHODCALLTYPE OnRequestEdit(DISPID /*property*/) override { return S_OK; }
+
+ private:
+    OleFont* owner_;
+    std::atomic<ULONG> references_ = 0;
+};
+
+std::shared_ptr<OleFont> OleFont::Of(IFont* font) {
+    ComPtr<IDispatch> dispatch;
+    if (FAILED(font->QueryInterface(IID_IFontDisp, &dispatch))) {
+        Raise(ErrorNumber::TypeMismatch);
+    }
+    return std::make_shared<OleFont>(font, dispatch);
+}
+
+OleFont::OleFont(ComPtr<IFont> font, ComPtr<IDispatch> dispatch)
+    : font_(std::move(font)), dispatch_(std::move(dispatch)) {}
+
+OleFont::~OleFont() {
+    Disconnect();
+}
+
+Text OleFont::Name() const {
+    BasicString name;
+    CheckValue(font_->get_Name(name.Out()));
+    return Text(name.AsText());
+}
+
+void OleFont::SetName(TextView name) {
+    CheckValue(font_->put_Name(BasicString(name).Get()));
+}
+
+float OleFont::Size() const {
+    return FontPoints(Attribute(*font_.Get(), &IFont::get_Size));
+}
+
+void OleFont::SetSize(float points) {
+    CheckValue(font_->put_Size(FontSize(points)));
+}
+
+bool OleFont::Bold() const {
+    return Attribute(*font_.Get(), &IFont::get_Bold) != FALSE;
+}
+
+void OleFont::SetBold(bool bold) {
+    CheckValue(font_->put_Bold(bold ? TRUE : FALSE));
+}
+
+bool OleFont::Italic() const {
+    return Attribute(*font_.Get(), &IFont::get_Italic) != FALSE;
+}
+
+void OleFont::SetItalic(bool italic) {
+    CheckValue(font_->put_Italic(italic ? TRUE : FALSE));
+}
+
+bool OleFont::Underline() const {
+    return Attribute(*font_.Get(), &IFont::get_Underline) != FALSE;
+}
+
+void OleFont::SetUnderline(bool underline) {
+    CheckValue(font_->put_Underline(underline ? TRUE : FALSE));
+}
+
+bool OleFont::Strikethrough() const {
+    return Attribute(*font_.Get(), &IFont::get_Strikethrough) != FALSE;
+}
+
+void OleFont::SetStrikethrough(bool strikethrough) {
+    CheckValue(font_->put_Strikethrough(strikethrough ? TRUE : FALSE));
+}
+
+std::int16_t OleFont::Weight() const {
+    return Attribute(*font_.Get(), &IFont::get_Weight);
+}
+
+void OleFont::SetWeight(std::int16_t weight) {
+    CheckValue(font_->put_Weight(weight));
+}
+
+std::int16_t OleFont::Charset() const {
+    return Attribute(*font_.Get(), &IFont::get_Charset);
+}
+
+void OleFont::SetCharset(std::int16_t charset) {
+    CheckValue(font_->put_Charset(charset));
+}
+
+HFONT OleFont::Handle() const {
+    return Attribute(*font_.Get(), &IFont::get_hFont);
+}
+
+void OleFont::Add(win32::FontListener& listener) {
+    listeners_.push_back(&listener);
+    if (point_ == nullptr) {
+        Connect();
+    }
+}
+
+void OleFont::Remove(win32::FontListener& listener) {
+    const auto found = std::ranges::find(listeners_, &listener);
+    if (found != listeners_.end()) {
+        listeners_.erase(found);
+    }
+    if (listeners_.empty()) {
+        Disconnect();
+    }
+}
+
+void OleFont::Connect() {
+    ComPtr<IConnectionPointContainer> container;
+    if (FAILED(font_.As(&container)) ||
+        FAILED(container->FindConnectionPoint(IID_IPropertyNotifySink, &point_))) {
+        return;  // a font that never changes
+    }
+    sink_ = new Sink(*this);
+    if (FAILED(point_->Advise(sink_.Get(), &connection_))) {
+        sink_.Reset();
+        point_.Reset();
+    }
+}
+
+void OleFont::Disconnect() {
+    if (sink_ != nullptr) {
+        sink_->Forget();
+        point_->Unadvise(connection_);
+    }
+    sink_.Reset();
+    point_.Reset();
+}
+
+void OleFont::Notify() {
+    // Listeners may come and go while they are told.
+    const std::vector<win32::FontListener*> told = listeners_;
+    for (win32::FontListener* listener : told) {
+        if (std::ranges::find(listeners_, listener) != listeners_.end()) {
+            listener->FontChanged();
+        }
+    }
+}
+
+}  // namespace lumenkit::ole

@@ -1,0 +1,26 @@
+#include "runtime/ole/page_core.h"
+
+#include "frame/runtime_error.h"
+
+namespace lumenkit::ole {
+
+PageCore::PageCore(Component& component, const ClassDescriptor& type)
+    : type_(type),
+      hosted_(std::make_unique<win32::HostedPage>(component.GetContext(), type, *this, *this)) {}
+
+void PageCore::SetChanged(bool changed) {
+    changed_ = changed;
+    if (changed && site_ != nullptr) {
+        ComPtr<IPropertyPageSite>(site_)->OnStatusChange(PROPPAGESTATUS_DIRTY |
+                                                         PROPPAGESTATUS_VALIDATE);
+    }
+}
+
+ObjectRef PageCore::Item(std::int16_t index) {
+    if (index < 0 || static_cast<std::size_t>(index) >= controls_.size()) {
+        Raise(ErrorNumber::SubscriptOutOfRange);
+    }
+    return controls_[static_cast<std::size_t>(index)];
+}
+
+}  // namespace lumenkit::ole

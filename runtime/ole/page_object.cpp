@@ -1,0 +1,29 @@
+#include "runtime/ole/page_object.h"
+
+#include "runtime/ole/identifiers.h"
+#include "runtime/ole/type_library.h"
+
+namespace lumenkit::ole {
+
+PageObject::PageObject(Component& component, const ClassDescriptor& type, IUnknown* outer)
+    : Root(component, outer),
+      core_(component, type),
+      dual_(*this, Controlling()),
+      page_(Controlling(), core_),
+      errors_(Controlling(), IID_IPropertyPage) {}
+
+IUnknown* PageObject::Find(REFIID interfaceId) noexcept {
+    if (interfaceId == IID_IPropertyPage || interfaceId == IID_IPropertyPage2) {
+        return &page_;
+    }
+    if (interfaceId == IID_IDispatch || interfaceId == GuidOf(Table().uniqueIdentifier)) {
+        return dual_.AsDispatch();
+    }
+    return interfaceId == IID_ISupportErrorInfo ? &errors_ : nullptr;
+}
+
+ComPtr<ITypeInfo> PageObject::Description() {
+    return DescriptionOf(Table().uniqueIdentifier);
+}
+
+}  // namespace lumenkit::ole

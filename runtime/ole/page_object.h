@@ -1,0 +1,28 @@
+#pragma once
+
+#include "runtime/ole/dual_interface.h"
+#include "runtime/ole/error_support.h"
+#include "runtime/ole/property_page.h"
+#include "runtime/ole/root.h"
+
+namespace lumenkit::ole {
+
+/// A property page as clients have it.
+class PageObject final : public Root, private DualTarget {
+ public:
+    PageObject(Component& component, const ClassDescriptor& type, IUnknown* outer);
+
+ private:
+    IUnknown* Find(REFIID interfaceId) noexcept override;
+
+    const InterfaceTable& Table() const override { return *core_.Type().interfaceTable; }
+    Object& Members() override { return core_.Hosted().Automation(); }
+    ComPtr<ITypeInfo> Description() override;
+
+    PageCore core_;
+    DualInterface dual_;
+    PropertyPageFace page_;
+    ErrorSupport errors_;
+};
+
+}  // namespace lumenkit::ole

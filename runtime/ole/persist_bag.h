@@ -1,0 +1,21 @@
+#pragma once
+
+#include "runtime/ole/control_core.h"
+#include "runtime/ole/facet.h"
+
+namespace lumenkit::ole {
+
+class PersistBag final : public Facet<IPersistPropertyBag> {
+ public:
+    explicit PersistBag(ControlCore& core) : Facet(core.Controlling()), core_(core) {}
+
+    HRESULT STDMETHODCALLTYPE GetClassID(CLSID* classId) override;
+    HRESULT STDMETHODCALLTYPE InitNew() override;
+    HRESULT STDMETHODCALLTYPE Load(IPropertyBag* bag, IErrorLog* log) override;
+    HRESULT STDMETHODCALLTYPE Save(IPropertyBag* bag, BOOL clearDirty, BOOL saveAll) override;
+
+ private:
+    ControlCore& core_;
+};
+
+}  // namespace lumenkit::ole

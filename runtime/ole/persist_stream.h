@@ -1,0 +1,29 @@
+#pragma once
+
+#include "runtime/ole/control_core.h"
+#include "runtime/ole/facet.h"
+
+namespace lumenkit::ole {
+
+/// Writes the control's settings at the stream's position / reads them from there. Raise a ComError
+/// for a stream that fails or holds something else; the control is then as it was.
+void SaveTo(IStream& stream, ControlCore& core);
+void LoadFrom(IStream& stream, ControlCore& core);
+
+/// IPersistStreamInit; also what stands for IPersistStream, whose functions are the first of it.
+class PersistStream final : public Facet<IPersistStreamInit> {
+ public:
+    explicit PersistStream(ControlCore& core) : Facet(core.Controlling()), core_(core) {}
+
+    HRESULT STDMETHODCALLTYPE GetClassID(CLSID* classId) override;
+    HRESULT STDMETHODCALLTYPE IsDirty() override { return core_.IsDirty() ? S_OK : S_FALSE; }
+    HRESULT STDMETHODCALLTYPE Load(IStream* stream) override;
+    HRESULT STDMETHODCALLTYPE Save(IStream* stream, BOOL clearDirty) override;
+    HRESULT STDMETHODCALLTYPE GetSizeMax(ULARGE_INTEGER* size) override;
+    HRESULT STDMETHODCALLTYPE InitNew() override;
+
+ private:
+    ControlCore& core_;
+};
+
+}  // namespace lumenkit::ole

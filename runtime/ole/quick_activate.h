@@ -1,0 +1,21 @@
+#pragma once
+
+#include "runtime/ole/control_core.h"
+#include "runtime/ole/facet.h"
+
+namespace lumenkit::ole {
+
+/// A container's first words to a control in one call.
+class QuickActivation final : public Facet<IQuickActivate> {
+ public:
+    explicit QuickActivation(ControlCore& core) : Facet(core.Controlling()), core_(core) {}
+
+    HRESULT STDMETHODCALLTYPE QuickActivate(QACONTAINER* container, QACONTROL* control) override;
+    HRESULT STDMETHODCALLTYPE SetContentExtent(LPSIZEL size) override;
+    HRESULT STDMETHODCALLTYPE GetContentExtent(LPSIZEL size) override;
+
+ private:
+    ControlCore& core_;
+};
+
+}  // namespace lumenkit::ole

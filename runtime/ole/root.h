@@ -1,0 +1,57 @@
+#pragma once
+
+#include <atomic>
+
+#include "runtime/ole/component.h"
+#include "runtime/ole/ole_header.h"
+
+namespace lumenkit::ole {
+
+/// The one IUnknown of an object that does not delegate; also the object's life. A class derives
+/// from it and says which interfaces it has.
+class Root : public IUnknown {
+ public:
+    Root(Component& component, IUnknown* outer)
+        : share_(component), controlling_(outer == nullptr ? *this : *outer) {}
+    Root(const Root&) = delete;
+    Root& operator=(const Root&) = delete;
+
+    HRESULT STDMETHODCALLTYPE QueryInterface(REFIID interfaceId, void** object) final {
+        if (object == nullptr) {
+            return E_POINTER;
+        }
+        IUnknown* const found = interfaceId == IID_IUnknown ? this : Find(interfaceId);
+        *object = found;
+        if (found == nullptr) {
+            return E_NOINTERFACE;
+        }
+        found->AddRef();
+        return S_OK;
+    }
+    ULONG STDMETHODCALLTYPE AddRef() final { return ++references_; }
+    ULONG STDMETHODCALLTYPE Release() final {
+        const ULONG left = --references_;
+        if (left == 0) {
+            // What still happens while the object ends must not end it again.
+            references_ = ending;
+            delete this;
+        }
+        return left;
+    }
+
+ protected:
+    virtual ~Root() = default;
+
+    /// The interface, not counted yet; null when there is none. Must not throw.
+    virtual IUnknown* Find(REFIID interfaceId) noexcept = 0;
+    IUnknown& Controlling() const { return controlling_; }
+
+ private:
+    static constexpr ULONG ending = 0x40000000;
+
+    Component::Share share_;
+    IUnknown& controlling_;
+    std::atomic<ULONG> references_ = 1;
+};
+
+}  // namespace lumenkit::ole

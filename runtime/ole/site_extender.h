@@ -1,0 +1,40 @@
+#pragma once
+
+#include "frame/automation/object.h"
+#include "frame/text.h"
+#include "runtime/ole/client_site.h"
+
+namespace lumenkit::ole {
+
+/// What is known of a control's place without its container's help.
+class Placed {
+ public:
+    virtual ~Placed() = default;
+
+    virtual Text Title() const = 0;
+    /// Pixels, in the container's window.
+    virtual RECT Place() const = 0;
+    virtual bool IsVisible() const = 0;
+    virtual void SetVisible(bool visible) = 0;
+    /// Asks the container to move the control.
+    virtual void Move(const RECT& place) = 0;
+};
+
+/// The control as its container sees it: the container's own extended control or, where it has
+/// none, Name, Left, Top, Width, Height (twips), Visible and Move from what is known.
+class SiteExtender final : public Object {
+ public:
+    /// Both must outlive the object.
+    SiteExtender(const ClientSite& site, Placed& control) : site_(site), control_(control) {}
+
+    std::optional<std::int32_t> FindMember(TextView name) const override;
+    Value Invoke(std::int32_t identifier, InvokeKind kind, std::span<Value> arguments) override;
+
+ private:
+    ComPtr<IDispatch> Extended() const;
+
+    const ClientSite& site_;
+    Placed& control_;
+};
+
+}  // namespace lumenkit::ole

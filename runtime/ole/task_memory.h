@@ -1,0 +1,15 @@
+// Memory that the client frees with CoTaskMemFree.
+#pragma once
+
+#include "frame/text.h"
+#include "runtime/ole/ole_header.h"
+
+namespace lumenkit::ole {
+
+/// Zero-terminated; throws std::bad_alloc.
+LPOLESTR NewTaskText(TextView text);
+
+/// Throws std::bad_alloc.
+void* NewTaskMemory(std::size_t size);
+
+}  // namespace lumenkit::ole
