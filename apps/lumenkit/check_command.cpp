@@ -45,15 +45,15 @@ class CheckRun {
         const check::InputKind kind =
             options_.captions ? check::InputKind::Captions : check::InputKind::Forms;
         const check::Inputs inputs = check::FindInputs(options_.paths, kind);
-        for (const std::string& error : inputs.errors) {
-            Report(FileError{.file = error.substr(0, error.rfind(": ")),
-                             .place = {},
-                             .description = error.substr(error.rfind(": ") + 2),
-                             .text = error});
+        for (const check::UnreadableFolder& folder : inputs.errors) {
+            Report({folder.path, {}, folder.reason, folder.path + ": " + folder.reason});
         }
         CheckFiles(inputs.files);
         reporter_.Finish(checked_);
-        return !std::cout || failed_ ? exitUnusable : found_ ? exitReported : exitDone;
+        if (failed_ || !std::cout) {
+            return exitUnusable;
+        }
+        return found_ ? exitReported : exitDone;
     }
 
  private:
@@ -108,7 +108,9 @@ int Check(const Options& options) {
         check::JsonReporter reporter(std::cout);
         return CheckRun(options, reporter).Run();
     }
-    check::TextReporter reporter(std::cout, std::cerr, TakesColors(Stream::Output));
+    check::TextReporter reporter(
+        std::cout, std::cerr,
+        {.output = TakesColors(Stream::Output), .errors = TakesColors(Stream::Errors)});
     return CheckRun(options, reporter).Run();
 }
 

@@ -18,8 +18,8 @@ int Run(int argc, char** argv) {
     program.set_version_flag("--version", LUMENKIT_VERSION);
     program.require_subcommand(1);
     program.footer(R"(Examples:
-  lumenkit check samples/forms
   lumenkit compile samples/captions/headline.txt
+  lumenkit check samples/forms
   echo '{"do":"new","class":"VMemo","id":"m"}' | lumenkit drive
   lumenkit compile --help)");
     int status = exitDone;

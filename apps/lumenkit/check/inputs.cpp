@@ -23,6 +23,13 @@ bool IsOfKind(const fs::path& file, InputKind kind) {
                : std::find(forms.begin(), forms.end(), extension) != forms.end();
 }
 
+// A link that leads nowhere is one too: that it cannot be read is worth knowing.
+bool IsFile(const fs::directory_entry& entry) {
+    std::error_code unknown;
+    const fs::file_status status = entry.status(unknown);
+    return fs::is_regular_file(status) || status.type() == fs::file_type::not_found;
+}
+
 // A folder that cannot be read is an error, and the ones beside it go on.
 void AddFolder(const fs::path& folder, InputKind kind, Inputs& inputs) {
     std::vector<fs::directory_entry> entries;
@@ -32,14 +39,14 @@ void AddFolder(const fs::path& folder, InputKind kind, Inputs& inputs) {
         entries.push_back(*entry);
     }
     if (error) {
-        inputs.errors.push_back(folder.string() + ": " + error.message());
+        inputs.errors.push_back({folder.string(), error.message()});
     }
     std::sort(entries.begin(), entries.end());
     for (const fs::directory_entry& entry : entries) {
         std::error_code unknown;
         if (entry.is_directory(unknown) && !entry.is_symlink(unknown)) {
             AddFolder(entry.path(), kind, inputs);
-        } else if (IsOfKind(entry.path(), kind) && !entry.is_directory(unknown)) {
+        } else if (IsOfKind(entry.path(), kind) && IsFile(entry)) {
             inputs.files.push_back(entry.path().string());
         }
     }

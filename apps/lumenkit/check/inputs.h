@@ -11,13 +11,19 @@ enum class InputKind {
     Captions,  ///< in a folder, *.txt
 };
 
+struct UnreadableFolder {
+    std::string path;
+    std::string reason;
+};
+
 struct Inputs {
     std::vector<std::string> files;
-    std::vector<std::string> errors;  ///< "PATH: why it cannot be read"
+    std::vector<UnreadableFolder> errors;
 };
 
 /// The files among `paths` as they are, and those of the kind in the folders among them, at
-/// whatever depth and in the order of their names. Links to folders are not followed.
+/// whatever depth and in the order of their names. Links to folders are not followed, and what is
+/// no file (pipes, devices) is left out there.
 Inputs FindInputs(const std::vector<std::string>& paths, InputKind kind);
 
 }  // namespace lumenkit::check

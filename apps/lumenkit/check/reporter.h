@@ -29,14 +29,20 @@ class Reporter {
     virtual void Finish(std::size_t files) = 0;
 };
 
+/// Which of its streams a reporter may colour.
+struct Colors {
+    bool output = false;
+    bool errors = false;
+};
+
 /// One line a finding, as it is found, and a summary.
 ///
 ///     order.frm:9:32: VLabel1.Caption: unknown command "bld"; did you mean "b"? [unknown-command]
 class TextReporter final : public Reporter {
  public:
     /// Errors have a stream of their own. Both must outlive the reporter.
-    TextReporter(std::ostream& output, std::ostream& errors, bool colored)
-        : output_(output), errors_(errors), colored_(colored) {}
+    TextReporter(std::ostream& output, std::ostream& errors, Colors colors)
+        : output_(output), errors_(errors), colors_(colors) {}
 
     void Report(const Findings& findings) override;
     void Report(const FileError& error) override;
@@ -44,11 +50,10 @@ class TextReporter final : public Reporter {
 
  private:
     void Report(const Finding& finding);
-    std::string Colored(const char* color, const std::string& text) const;
 
     std::ostream& output_;
     std::ostream& errors_;
-    bool colored_;
+    Colors colors_;
     std::size_t findingCount_ = 0;
     std::size_t errorCount_ = 0;
 };

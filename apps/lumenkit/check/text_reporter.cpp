@@ -15,6 +15,10 @@ std::string Count(std::size_t count, const std::string& what) {
     return std::to_string(count) + ' ' + what + (count == 1 ? "" : "s");
 }
 
+std::string Colored(bool colored, const char* color, const std::string& text) {
+    return colored ? color + text + plain : text;
+}
+
 std::string PlaceOf(const Finding& finding) {
     return Printable(finding.file) + ':' + std::to_string(finding.place.line) + ':' +
            std::to_string(finding.place.column) + ':';
@@ -27,20 +31,16 @@ std::string SubjectOf(const Finding& finding) {
 
 }  // namespace
 
-std::string TextReporter::Colored(const char* color, const std::string& text) const {
-    return colored_ ? color + text + plain : text;
-}
-
 void TextReporter::Report(const Finding& finding) {
-    output_ << Colored(bold, PlaceOf(finding)) << ' ' << SubjectOf(finding);
+    output_ << Colored(colors_.output, bold, PlaceOf(finding)) << ' ' << SubjectOf(finding);
     if (finding.isElsewhere && finding.offset) {
         output_ << ", offset " << *finding.offset;
     }
-    output_ << ": " << Colored(yellow, finding.message);
+    output_ << ": " << Colored(colors_.output, yellow, finding.message);
     if (!finding.suggestion.empty()) {
         output_ << "; did you mean \"" << Printable(finding.suggestion) << "\"?";
     }
-    output_ << ' ' << Colored(dim, '[' + std::string(finding.rule) + ']') << '\n';
+    output_ << ' ' << Colored(colors_.output, dim, '[' + std::string(finding.rule) + ']') << '\n';
 }
 
 void TextReporter::Report(const Findings& findings) {
@@ -52,7 +52,7 @@ void TextReporter::Report(const Findings& findings) {
 }
 
 void TextReporter::Report(const FileError& error) {
-    errors_ << Colored(red, "lumenkit: " + Printable(error.text)) << '\n';
+    errors_ << Colored(colors_.errors, red, "lumenkit: " + Printable(error.text)) << '\n';
     ++errorCount_;
 }
 

@@ -6,6 +6,7 @@
 
 #include <gmock/gmock.h>
 #include <nlohmann/json.hpp>
+#include <sys/stat.h>
 #include <unistd.h>
 
 #include "tests/apps/program.h"
@@ -15,6 +16,7 @@ namespace lumenkit::testing {
 namespace {
 
 namespace fs = std::filesystem;
+using ::testing::AllOf;
 using ::testing::EndsWith;
 using ::testing::HasSubstr;
 using ::testing::Not;
@@ -236,6 +238,25 @@ TEST_F(CheckFolder, ColorsCanBeTurnedOff) {
     EXPECT_THAT(RunOnTerminal(arguments, "NO_COLOR=1").output, Not(HasSubstr("\x1b")));
     EXPECT_THAT(RunOnTerminal(arguments, "TERM=dumb").output, Not(HasSubstr("\x1b")));
     EXPECT_THAT(RunOnTerminal(arguments + " --json").output, Not(HasSubstr("\x1b")));
+}
+
+TEST_F(CheckFolder, EachStreamHasColorsOfItsOwn) {
+    Write("a.frm", "no form");
+    Write("b.frm", FormWith("|blod:1|"));
+    const std::string arguments = "check " + folder.string();
+    const std::string elsewhere = (folder / "elsewhere").string();
+    EXPECT_THAT(RunOnTerminal(arguments + " 2>" + elsewhere).output, HasSubstr("\x1b[1m"));
+    EXPECT_THAT(Read(elsewhere), AllOf(StartsWith("lumenkit: "), Not(HasSubstr("\x1b"))));
+    EXPECT_THAT(RunOnTerminal(arguments + " >" + elsewhere).output, StartsWith("\x1b[31mlumenkit"));
+    EXPECT_THAT(Read(elsewhere), Not(HasSubstr("\x1b")));
+}
+
+TEST_F(CheckFolder, WaitsForNoPipe) {
+    ASSERT_EQ(mkfifo((folder / "pipe.frm").c_str(), 0600), 0);
+    fs::create_symlink("nowhere", folder / "link.frm");
+    const Outcome outcome = Check();
+    EXPECT_EQ(outcome.errors, "lumenkit: " + (folder / "link.frm").string() + ": cannot be read\n");
+    EXPECT_EQ(outcome.output, "0 files checked: 0 findings, 1 error\n");
 }
 
 TEST_F(CheckFolder, TheBarIsTheErrorStreamsOwn) {
