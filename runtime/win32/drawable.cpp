@@ -1,5 +1,6 @@
 #include "runtime/win32/drawable.h"
 
+#include "runtime/win32/memory_device.h"
 #include "runtime/win32/window.h"
 
 namespace lumenkit::win32 {
@@ -10,6 +11,8 @@ bool IsShown(HWND window) {
     return (GetWindowLongW(window, GWL_STYLE) & WS_VISIBLE) != 0;
 }
 
+// Each is drawn at the origin of a bitmap of its own: window classes of the platform clip by the
+// device's coordinates, wherever its origin is.
 void DrawChild(HWND parent, HWND child, HDC device) {
     auto* const drawable = dynamic_cast<Drawable*>(Window::Of(child));
     if (drawable == nullptr || !IsShown(child)) {
@@ -18,11 +21,11 @@ void DrawChild(HWND parent, HWND child, HDC device) {
     RECT place = {};
     GetWindowRect(child, &place);
     MapWindowPoints(nullptr, parent, reinterpret_cast<POINT*>(&place), 2);
-    const int state = SaveDC(device);
-    IntersectClipRect(device, place.left, place.top, place.right, place.bottom);
-    OffsetWindowOrgEx(device, -place.left, -place.top, nullptr);
-    drawable->DrawTo(device);
-    RestoreDC(device, state);
+    const SIZE size = {place.right - place.left, place.bottom - place.top};
+    const MemoryDevice own(device, size);
+    BitBlt(own.Handle(), 0, 0, size.cx, size.cy, device, place.left, place.top, SRCCOPY);
+    drawable->DrawTo(own.Handle());
+    BitBlt(device, place.left, place.top, size.cx, size.cy, own.Handle(), 0, 0, SRCCOPY);
 }
 
 HWND Backmost(HWND parent) {

@@ -14,6 +14,7 @@
 #include "runtime/win32/element.h"
 #include "runtime/win32/hosted_window.h"
 #include "runtime/win32/keyboard.h"
+#include "runtime/win32/memory_device.h"
 #include "runtime/win32/mouse.h"
 #include "runtime/win32/paint_buffer.h"
 #include "runtime/win32/pointer_cursor.h"
@@ -39,6 +40,19 @@ bool IsEmpty(SIZE size) {
 SIZE SizeOf(const RECT& box) {
     return {box.right - box.left, box.bottom - box.top};
 }
+
+class ScreenDevice {
+ public:
+    ScreenDevice() : device_(GetDC(nullptr)) {}
+    ~ScreenDevice() { ReleaseDC(nullptr, device_); }
+    ScreenDevice(const ScreenDevice&) = delete;
+    ScreenDevice& operator=(const ScreenDevice&) = delete;
+
+    HDC Handle() const { return device_; }
+
+ private:
+    HDC device_;
+};
 
 // A message's button as MouseDown and its kin number it.
 enum class Press { None, Down, Double, Up };
@@ -361,36 +375,27 @@ void HostedControl::Body::DrawParts(HDC device, const Mapping& mapping) {
     }
     const RECT area = surface_.Area();
     const SIZE size = SizeOf(area);
-    const HDC screen = GetDC(nullptr);
-    const HDC memory = CreateCompatibleDC(screen);
-    const HBITMAP bitmap = CreateCompatibleBitmap(screen, size.cx, size.cy);
-    ReleaseDC(nullptr, screen);
-    const HGDIOBJ former = SelectObject(memory, bitmap);
-    {
-        DeviceCanvas paper(memory, Mapping::Plain(size), {0, 0, size.cx, size.cy});
-        paper.Clear(surface_.BackColor());
-    }
-    DrawChildren(Handle(), memory);
+    const RECT all = {0, 0, size.cx, size.cy};
+    const ScreenDevice screen;
+    const MemoryDevice parts(screen.Handle(), size);
+    DeviceCanvas(parts.Handle(), Mapping::Plain(size), all).Clear(surface_.BackColor());
+    DrawChildren(Handle(), parts.Handle());
     for (HWND child = GetWindow(Handle(), GW_CHILD); child != nullptr;
          child = GetWindow(child, GW_HWNDNEXT)) {
-        if ((GetWindowLongW(child, GWL_STYLE) & WS_VISIBLE) == 0) {
-            continue;
-        }
         RECT place = {};
         GetWindowRect(child, &place);
         MapWindowPoints(nullptr, Handle(), reinterpret_cast<POINT*>(&place), 2);
-        const RECT all = {0, 0, size.cx, size.cy};
-        IntersectRect(&place, &place, &all);
+        const bool isHidden = (GetWindowLongW(child, GWL_STYLE) & WS_VISIBLE) == 0;
+        if (isHidden || IntersectRect(&place, &place, &all) == FALSE) {
+            continue;
+        }
         RECT target = place;
         OffsetRect(&target, static_cast<int>(area.left), static_cast<int>(area.top));
         target = mapping.Of(target);
         StretchBlt(device, target.left, target.top, target.right - target.left,
-                   target.bottom - target.top, memory, place.left, place.top,
+                   target.bottom - target.top, parts.Handle(), place.left, place.top,
                    place.right - place.left, place.bottom - place.top, SRCCOPY);
     }
-    SelectObject(memory, former);
-    DeleteObject(bitmap);
-    DeleteDC(memory);
 }
 
 // ---- Messages

@@ -1,0 +1,457 @@
+// A control's window in its container: showing, the mouse, the keyboard, and the end.
+#include "runtime/win32/hosted_control.h"
+
+#include <array>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include <gtest/gtest.h>
+
+#include "frame/runtime_error.h"
+#include "runtime/win32/font_cache.h"
+#include "runtime/win32/keyboard.h"
+#include "runtime/win32/window.h"
+#include "tests/support/picture.h"
+#include "tests/support/windows_form.h"
+#include "tests/unit/win32/painted_control.h"
+
+namespace lumenkit::testing {
+namespace {
+
+using Lines = std::vector<std::string>;
+
+constexpr SIZE size = {200, 100};
+
+template <typename Constituent>
+HWND WindowOf(Constituent& constituent) {
+    return dynamic_cast<win32::Window&>(constituent).Handle();
+}
+
+class HostedControlTest : public ::testing::Test {
+ protected:
+    HostedControlTest() { control_->Start(); }
+
+    PaintedControl& Painted() { return *PaintedControl::Last(); }
+    win32::HostedControl& Hosted() { return control_->Hosted(); }
+    host::Surface& Surface() { return Hosted().Drawing(); }
+    host::Constituents& Parts() { return Hosted().Host().constituents; }
+    HWND Window() { return Hosted().Window(); }
+    Lines Take() { return std::exchange(Painted().lines, {}); }
+
+    void Send(UINT message, WPARAM keys, int x, int y) {
+        SendMessageW(Window(), message, keys, MAKELPARAM(x, y));
+    }
+    // A key as the container's message loop sees it.
+    bool Key(WPARAM key, UINT message = WM_KEYDOWN) {
+        MSG queued = {};
+        queued.hwnd = GetFocus();
+        queued.message = message;
+        queued.wParam = key;
+        queued.lParam = 1;
+        const bool used = Hosted().TranslateKey(queued);
+        WindowsForm::Pump();
+        return used;
+    }
+
+    WindowsForm form_{PaintedClasses()};
+    std::unique_ptr<FormControl> control_ =
+        std::make_unique<FormControl>(form_, PaintedClasses().classes[0], size);
+};
+
+// The keys that are held, as the platform tells them.
+class Held {
+ public:
+    explicit Held(int key) {
+        GetKeyboardState(former_.data());
+        auto keys = former_;
+        keys[static_cast<std::size_t>(key)] = 0x80;
+        SetKeyboardState(keys.data());
+    }
+    ~Held() { SetKeyboardState(former_.data()); }
+    Held(const Held&) = delete;
+    Held& operator=(const Held&) = delete;
+
+ private:
+    std::array<BYTE, 256> former_{};
+};
+
+// ---- In its container
+
+TEST_F(HostedControlTest, IsToldThatItIsShownWheneverItWasNot) {
+    EXPECT_EQ(Painted().shows, 1);
+    Hosted().SetVisible(true);
+    EXPECT_EQ(Painted().shows, 1);
+    Hosted().SetVisible(false);
+    EXPECT_EQ(IsWindowVisible(Window()), FALSE);
+    Hosted().SetVisible(true);
+    EXPECT_EQ(Painted().shows, 2);
+    Hosted().Detach();
+    EXPECT_FALSE(Hosted().IsAttached());
+    EXPECT_EQ(IsWindowVisible(Window()), FALSE);
+    Hosted().SetVisible(true);
+    EXPECT_EQ(Painted().shows, 2) << "it has no container";
+    Hosted().Attach(form_.Window(), {0, 0, 50, 50});
+    EXPECT_EQ(Painted().shows, 3);
+    EXPECT_NE(IsWindowVisible(Window()), FALSE);
+}
+
+TEST_F(HostedControlTest, IsShownOnceItIsStarted) {
+    control_ = std::make_unique<FormControl>(form_, PaintedClasses().classes[0], size);
+    Hosted().Attach(form_.Window(), {0, 0, size.cx, size.cy});
+    EXPECT_EQ(Painted().shows, 0);
+    EXPECT_FALSE(Hosted().IsStarted());
+    Hosted().StartNew();
+    EXPECT_EQ(Painted().shows, 1);
+    EXPECT_TRUE(Hosted().IsStarted());
+}
+
+TEST_F(HostedControlTest, FollowsEveryChangeOfItsSizeOnce) {
+    Painted().resizes = 0;
+    Hosted().SetSize({50, 60});
+    Hosted().SetSize({50, 60});
+    EXPECT_EQ(Painted().resizes, 1);
+    control_->MoveTo({10, 10, 80, 90});
+    EXPECT_EQ(Painted().resizes, 2);
+    EXPECT_EQ(Hosted().Size().cx, 70);
+    control_->MoveTo({20, 20, 90, 100});
+    EXPECT_EQ(Painted().resizes, 2) << "only its place changed";
+    SetWindowPos(Window(), nullptr, 0, 0, 33, 44, SWP_NOMOVE | SWP_NOZORDER);
+    EXPECT_EQ(Painted().resizes, 3) << "the container may move the window itself";
+    EXPECT_EQ(Hosted().Size().cy, 44);
+    Hosted().SetSize({-5, 10});
+    EXPECT_EQ(Hosted().Size().cx, 0);
+    EXPECT_EQ(Surface().ScaleWidth(), 0);
+}
+
+TEST_F(HostedControlTest, ShowsOnlyWhatIsNotClipped) {
+    const auto isWhole = [&] {
+        const HRGN region = CreateRectRgn(0, 0, 0, 0);
+        const int kind = GetWindowRgn(Window(), region);
+        RECT box = {};
+        GetRgnBox(region, &box);
+        DeleteObject(region);
+        return kind == ERROR || box.right - box.left == size.cx;
+    };
+    const RECT place = {20, 20, 20 + size.cx, 20 + size.cy};
+    Hosted().Place(place, {0, 0, 1000, 1000});
+    EXPECT_TRUE(isWhole());
+    Hosted().Place(place, {0, 0, 60, 1000});
+    EXPECT_FALSE(isWhole());
+    Hosted().Place(place, place);
+    EXPECT_TRUE(isWhole());
+}
+
+TEST_F(HostedControlTest, RefusesWhatIsNoControl) {
+    const ClassDescriptor page = {.name = u"Page", .kind = ClassKind::PropertyPage};
+    const int windows = win32::Window::Count();
+    try {
+        const FormControl refused(form_, page, size);
+        FAIL();
+    } catch (const RuntimeError& error) {
+        EXPECT_EQ(error.Number(), 429);
+    }
+    EXPECT_EQ(win32::Window::Count(), windows);
+}
+
+TEST_F(HostedControlTest, OutlivesItsWindow) {
+    host::TextBoxEvents events;
+    const auto box = Parts().AddTextBox({{.name = u"T"}}, events);
+    DestroyWindow(Window());
+    EXPECT_EQ(Window(), nullptr);
+    EXPECT_FALSE(Hosted().IsAttached());
+    Hosted().SetSize({10, 20});
+    Hosted().Place({0, 0, 5, 5}, {0, 0, 5, 5});
+    Hosted().SetVisible(true);
+    Hosted().Focus();
+    Hosted().Attach(form_.Window(), {0, 0, 50, 50});
+    Hosted().AmbientChanged();
+    Hosted().Detach();
+    EXPECT_FALSE(Hosted().HasFocus());
+    EXPECT_FALSE(Key(VK_TAB));
+    Surface().SetBorderStyle(1);
+    Surface().SetEnabled(false);
+    Surface().SetBackColor(Rgb(1, 1, 1));
+    Surface().Print(u"text");
+    Surface().Refresh();
+    Picture picture(50, 50);
+    Hosted().Draw(picture.Device(), {0, 0, 50, 50});
+    EXPECT_EQ(Hosted().Size().cx, 10);
+}
+
+TEST_F(HostedControlTest, DrawsItsConstituentsToo) {
+    const auto frame = Parts().AddFrame(
+        {{.name = u"F", .placement = {.left = 300, .top = 300, .width = 1500, .height = 750}},
+         u""});
+    const auto label = Parts().AddLabel(
+        {{.name = u"L", .parent = frame.get(), .placement = {.width = 450, .height = 300}}, u""});
+    label->SetBackColor(Rgb(255, 0, 0));
+    Hosted().Detach();
+    Picture plain(size.cx, size.cy);
+    Hosted().Draw(plain.Device(), {0, 0, size.cx, size.cy});
+    EXPECT_EQ(plain.Count(RGB(255, 0, 0)), 30 * 20);
+    EXPECT_EQ(plain.Count(RGB(255, 0, 0), {20, 20, 50, 40}), 30 * 20);
+    Picture large(size.cx * 2, size.cy * 2);
+    Hosted().Draw(large.Device(), {0, 0, size.cx * 2, size.cy * 2});
+    EXPECT_EQ(large.Count(RGB(255, 0, 0), {40, 40, 100, 80}), 60 * 40);
+    label->SetVisible(false);
+    Hosted().Draw(plain.Device(), {0, 0, size.cx, size.cy});
+    EXPECT_EQ(plain.Count(RGB(255, 0, 0)), 0);
+}
+
+// ---- The mouse
+
+TEST_F(HostedControlTest, AClickGoesDownAndUpInside) {
+    Send(WM_LBUTTONDOWN, MK_LBUTTON, 10, 20);
+    EXPECT_EQ(GetCapture(), Window());
+    Send(WM_LBUTTONUP, 0, 11, 21);
+    EXPECT_NE(GetCapture(), Window());
+    EXPECT_EQ(Take(), (Lines{"down 1 0 150,300", "up 1 0 165,315", "click"}));
+    Send(WM_LBUTTONDOWN, MK_LBUTTON, 10, 20);
+    Send(WM_LBUTTONUP, 0, -5, 20);
+    EXPECT_EQ(Take(), (Lines{"down 1 0 150,300", "up 1 0 -75,300"}));
+    Send(WM_LBUTTONUP, 0, 10, 20);
+    EXPECT_EQ(Take(), Lines{"up 1 0 150,300"}) << "it went down elsewhere";
+}
+
+TEST_F(HostedControlTest, ASecondQuickClickIsADoubleOne) {
+    Send(WM_LBUTTONDOWN, MK_LBUTTON, 10, 20);
+    Send(WM_LBUTTONUP, 0, 10, 20);
+    Take();
+    Send(WM_LBUTTONDBLCLK, MK_LBUTTON, 10, 20);
+    Send(WM_LBUTTONUP, 0, 10, 20);
+    EXPECT_EQ(Take(), (Lines{"dblclick", "up 1 0 150,300"}));
+}
+
+TEST_F(HostedControlTest, TellsButtonsAndKeys) {
+    const Held shift(VK_SHIFT);
+    Send(WM_RBUTTONDOWN, MK_RBUTTON, 1, 1);
+    Send(WM_RBUTTONUP, 0, 1, 1);
+    Send(WM_MBUTTONDOWN, MK_MBUTTON, 1, 1);
+    Send(WM_MBUTTONUP, 0, 1, 1);
+    Send(WM_MOUSEMOVE, MK_LBUTTON | MK_MBUTTON, 2, 2);
+    EXPECT_EQ(Take(), (Lines{"down 2 1 15,15", "up 2 1 15,15", "click", "down 4 1 15,15",
+                             "up 4 1 15,15", "move 5 1 30,30"}));
+}
+
+TEST_F(HostedControlTest, ADisabledControlDoesNotReact) {
+    Surface().SetEnabled(false);
+    EXPECT_EQ(IsWindowEnabled(Window()), FALSE);
+    Send(WM_LBUTTONDOWN, MK_LBUTTON, 10, 20);
+    Send(WM_LBUTTONUP, 0, 10, 20);
+    Send(WM_MOUSEMOVE, 0, 10, 20);
+    EXPECT_EQ(Take(), Lines{});
+    Surface().SetEnabled(true);
+    Send(WM_MOUSEMOVE, 0, 10, 20);
+    EXPECT_EQ(Take(), Lines{"move 0 0 150,300"});
+}
+
+TEST_F(HostedControlTest, ALostCaptureEndsTheClick) {
+    Send(WM_LBUTTONDOWN, MK_LBUTTON, 10, 20);
+    SetCapture(form_.Window());
+    Send(WM_LBUTTONUP, 0, 10, 20);
+    ReleaseCapture();
+    EXPECT_EQ(Take(), (Lines{"down 1 0 150,300", "up 1 0 150,300"}));
+}
+
+TEST_F(HostedControlTest, AHandlerMayHideOrUnwindTheWindow) {
+    Painted().onClick = [&] { DestroyWindow(Window()); };
+    Send(WM_LBUTTONDOWN, MK_LBUTTON, 10, 20);
+    Send(WM_LBUTTONUP, 0, 10, 20);
+    EXPECT_EQ(Window(), nullptr);
+}
+
+// ---- The keyboard
+
+TEST_F(HostedControlTest, TellsWhenTheFocusComesAndGoes) {
+    host::TextBoxEvents events;
+    const auto one = Parts().AddTextBox({{.name = u"A"}}, events);
+    const auto two = Parts().AddTextBox({{.name = u"B"}}, events);
+    SetFocus(form_.Window());
+    control_->focusGained = control_->focusLost = 0;
+    Hosted().Focus();
+    EXPECT_EQ(GetFocus(), WindowOf(*one));
+    EXPECT_TRUE(Hosted().HasFocus());
+    EXPECT_TRUE(Key(VK_TAB));
+    EXPECT_EQ(GetFocus(), WindowOf(*two));
+    SetFocus(Window());
+    EXPECT_EQ(control_->focusGained, 1);
+    EXPECT_EQ(control_->focusLost, 0);
+    SetFocus(form_.Window());
+    EXPECT_EQ(control_->focusGained, 1);
+    EXPECT_EQ(control_->focusLost, 1);
+    EXPECT_FALSE(Hosted().HasFocus());
+}
+
+TEST_F(HostedControlTest, AHiddenControlLeavesTheFocusToItsContainer) {
+    Hosted().Focus();
+    EXPECT_EQ(GetFocus(), Window());
+    Hosted().SetVisible(false);
+    EXPECT_EQ(GetFocus(), form_.Window());
+    Hosted().SetVisible(true);
+    Hosted().Focus();
+    Hosted().Detach();
+    EXPECT_EQ(GetFocus(), form_.Window());
+}
+
+class KeyboardTest : public HostedControlTest {
+ protected:
+    KeyboardTest() {
+        options_->Load(1);
+        options_->Load(2);
+        for (const std::int16_t index : {std::int16_t{1}, std::int16_t{2}}) {
+            options_->Item(index).SetVisible(true);
+        }
+        options_->Item(1).SetCaption(u"&Beta");
+        SetFocus(form_.Window());
+    }
+    HWND Option(std::int16_t index) { return WindowOf(options_->Item(index)); }
+
+    class Clicks final : public host::ClickEvents {
+     public:
+        void Click() override { ++count; }
+        int count = 0;
+    };
+
+    static constexpr host::Placement place_ = {.width = 300, .height = 300};
+    host::TextBoxEvents textEvents_;
+    host::OptionButtonEvents optionEvents_;
+    Clicks clicks_;
+    std::unique_ptr<host::Label> label_ =
+        Parts().AddLabel({{.name = u"L", .placement = place_}, u"&Name"});
+    std::unique_ptr<host::TextBox> text_ = Parts().AddTextBox(
+        {{.name = u"T", .placement = place_}, true, host::ScrollBars::None, u"a & b"}, textEvents_);
+    std::unique_ptr<host::Frame> frame_ =
+        Parts().AddFrame({{.name = u"F", .placement = {.width = 900, .height = 900}}, u"Frame"});
+    std::unique_ptr<host::OptionButtons> options_ = Parts().AddOptionButtons(
+        {{.name = u"O", .placement = place_}, u"&Alpha"}, *frame_, optionEvents_);
+    std::unique_ptr<host::CheckBox> check_ =
+        Parts().AddCheckBox({{.name = u"C", .placement = place_}, u"&Check && more"}, clicks_);
+    std::unique_ptr<host::CommandButton> button_ =
+        Parts().AddCommandButton({{.name = u"B", .placement = place_}, u"&Go"}, clicks_);
+};
+
+TEST_F(KeyboardTest, TabGoesInTheOrderOfMaking) {
+    Hosted().Focus();
+    EXPECT_EQ(GetFocus(), WindowOf(*text_));
+    EXPECT_TRUE(Key(VK_TAB));
+    EXPECT_EQ(GetFocus(), Option(0)) << "none is selected: the first";
+    EXPECT_TRUE(Key(VK_TAB));
+    EXPECT_EQ(GetFocus(), WindowOf(*check_)) << "a group is one stop";
+    EXPECT_TRUE(Key(VK_TAB));
+    EXPECT_EQ(GetFocus(), WindowOf(*button_));
+    EXPECT_FALSE(Key(VK_TAB)) << "the container goes on";
+    EXPECT_EQ(GetFocus(), WindowOf(*button_));
+    const Held shift(VK_SHIFT);
+    EXPECT_TRUE(Key(VK_TAB));
+    EXPECT_EQ(GetFocus(), WindowOf(*check_));
+    options_->Item(2).Select(true);
+    EXPECT_TRUE(Key(VK_TAB));
+    EXPECT_EQ(GetFocus(), Option(2)) << "the selected one of a group";
+    EXPECT_TRUE(Key(VK_TAB));
+    EXPECT_EQ(GetFocus(), WindowOf(*text_));
+    EXPECT_FALSE(Key(VK_TAB));
+}
+
+TEST_F(KeyboardTest, TabSkipsWhatCannotBeUsed) {
+    frame_->SetEnabled(false);
+    check_->SetVisible(false);
+    Hosted().Focus();
+    EXPECT_TRUE(Key(VK_TAB));
+    EXPECT_EQ(GetFocus(), WindowOf(*button_));
+    Hosted().Focus(true);
+    EXPECT_EQ(GetFocus(), WindowOf(*button_));
+    text_->SetEnabled(false);
+    Hosted().Focus();
+    EXPECT_EQ(GetFocus(), WindowOf(*button_));
+    const Held control(VK_CONTROL);
+    EXPECT_FALSE(Key(VK_TAB)) << "for the container";
+}
+
+TEST_F(KeyboardTest, ArrowsSelectInAGroup) {
+    options_->Item(0).Select(true);
+    SetFocus(Option(0));
+    EXPECT_TRUE(Key(VK_DOWN));
+    EXPECT_TRUE(options_->Item(1).IsSelected());
+    EXPECT_EQ(GetFocus(), Option(1));
+    EXPECT_TRUE(Key(VK_UP));
+    EXPECT_TRUE(Key(VK_LEFT));
+    EXPECT_TRUE(options_->Item(2).IsSelected()) << "round the group";
+    options_->Item(0).SetVisible(false);
+    EXPECT_TRUE(Key(VK_RIGHT));
+    EXPECT_TRUE(options_->Item(1).IsSelected());
+}
+
+TEST_F(KeyboardTest, MnemonicsReachWhatTheyName) {
+    SetFocus(WindowOf(*button_));
+    EXPECT_TRUE(Key('n', WM_SYSCHAR));
+    EXPECT_EQ(GetFocus(), WindowOf(*text_)) << "a label names what follows it";
+    EXPECT_TRUE(Key('B', WM_SYSCHAR));
+    EXPECT_TRUE(options_->Item(1).IsSelected());
+    EXPECT_TRUE(Key('c', WM_SYSCHAR));
+    EXPECT_EQ(check_->CheckState(), 1);
+    EXPECT_EQ(clicks_.count, 1);
+    EXPECT_TRUE(Key('g', WM_SYSCHAR));
+    EXPECT_EQ(clicks_.count, 2);
+    EXPECT_FALSE(Key('m', WM_SYSCHAR)) << "behind two of them";
+    EXPECT_FALSE(Key(' ', WM_SYSCHAR)) << "typed, not named";
+    button_->SetEnabled(false);
+    EXPECT_FALSE(Key('g', WM_SYSCHAR));
+}
+
+TEST_F(KeyboardTest, KeysThatEditAreNotTheContainers) {
+    SetFocus(WindowOf(*text_));
+    text_->SetSelStart(0);
+    EXPECT_TRUE(Key(VK_RIGHT));
+    EXPECT_EQ(text_->SelStart(), 1);
+    EXPECT_TRUE(Key(VK_END));
+    EXPECT_TRUE(Key(VK_RETURN)) << "it breaks lines here";
+    EXPECT_FALSE(Key(VK_ESCAPE));
+    EXPECT_FALSE(Key(VK_F4));
+    EXPECT_FALSE(Key('S'));
+    SetFocus(WindowOf(*button_));
+    EXPECT_FALSE(Key(VK_RETURN)) << "the container has a default button";
+    EXPECT_FALSE(Key(VK_RIGHT));
+    SetFocus(form_.Window());
+    EXPECT_FALSE(Key(VK_TAB)) << "the focus is elsewhere";
+}
+
+TEST(Mnemonics, AreMarkedOnce) {
+    EXPECT_TRUE(win32::AnswersTo(L"&Open", L'o'));
+    EXPECT_TRUE(win32::AnswersTo(L"Save &As", L'A'));
+    EXPECT_FALSE(win32::AnswersTo(L"Open", L'o'));
+    EXPECT_FALSE(win32::AnswersTo(L"a && b", L' '));
+    EXPECT_FALSE(win32::AnswersTo(L"a && b", L'&'));
+    EXPECT_TRUE(win32::AnswersTo(L"a &&&b", L'b'));
+    EXPECT_FALSE(win32::AnswersTo(L"end&", L'\0'));
+    EXPECT_FALSE(win32::AnswersTo(L"", L'x'));
+}
+
+// ---- The end
+
+TEST_F(HostedControlTest, LeavesNothingBehind) {
+    control_.reset();
+    const int windows = win32::Window::Count();
+    const int fonts = win32::ScreenFont::Count();
+    const DWORD handles = GetGuiResources(GetCurrentProcess(), GR_GDIOBJECTS);
+    for (int round = 0; round < 1000; ++round) {
+        control_ = std::make_unique<FormControl>(form_, PaintedClasses().classes[0], size);
+        control_->Start();
+        Painted().paint = [](host::Surface& surface) {
+            surface.CurrentFont()->SetBold(true);
+            surface.Print(u"text");
+            surface.CurrentFont()->SetBold(false);
+            surface.FillBox(0, 0, 150, 150, Color{});
+        };
+        Surface().Refresh();
+        Picture picture(30, 30);
+        Hosted().Draw(picture.Device(), {0, 0, 30, 30});
+        control_.reset();
+    }
+    EXPECT_EQ(win32::Window::Count(), windows);
+    EXPECT_EQ(win32::ScreenFont::Count(), fonts);
+    EXPECT_EQ(GetGuiResources(GetCurrentProcess(), GR_GDIOBJECTS), handles);
+}
+
+}  // namespace
+}  // namespace lumenkit::testing
