@@ -51,7 +51,7 @@ class ClassLibraryWriter {
         Line("library " + Name(classes_.libraryName) + " {");
         Line("importlib(\"stdole2.tlb\");");
         if (classes_.enumerations != nullptr) {
-            Line("importlib(\"lumenkit_runtime.tlb\");");
+            Line("importlib(\"" + std::string(enumerationsTypeLibraryFile) + "\");");
         }
         for (const ClassDescriptor& type : classes_.classes) {
             Interface(*type.interfaceTable);

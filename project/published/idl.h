@@ -11,9 +11,10 @@ namespace lumenkit {
 /// Where the definitions lie, and what the libraries compiled from them are called.
 inline constexpr const char* classesIdlFile = "lumenkit.idl";
 inline constexpr const char* enumerationsIdlFile = "lumenkit_runtime.idl";
+inline constexpr const char* enumerationsTypeLibraryFile = "lumenkit_runtime.tlb";
 
 /// UTF-8 text, lines end in LF. Refers to the definitions of `classes.enumerations` as to
-/// `enumerationsIdlFile` and the library compiled from it.
+/// `enumerationsIdlFile` and `enumerationsTypeLibraryFile`.
 std::string WriteIdl(const ClassTable& classes);
 
 /// UTF-8 text, lines end in LF.

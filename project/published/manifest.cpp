@@ -4,6 +4,7 @@
 #include <string_view>
 
 #include "frame/utf8.h"
+#include "project/published/idl.h"
 
 namespace lumenkit {
 
@@ -44,11 +45,14 @@ class ManifestWriter {
         for (const ClassDescriptor& type : classes_.classes) {
             Class(type);
         }
-        TypeLibrary(classes_.uniqueIdentifier, classes_.majorVersion, classes_.minorVersion, 1);
-        if (const EnumerationLibrary* library = classes_.enumerations) {
-            TypeLibrary(library->uniqueIdentifier, library->majorVersion, library->minorVersion, 2);
-        }
+        TypeLibrary(classes_.uniqueIdentifier, classes_.majorVersion, classes_.minorVersion);
         text_ += "  </file>\n";
+        if (const EnumerationLibrary* library = classes_.enumerations) {
+            // Not all loaders find a second library in the server, so it comes as a file.
+            text_ += "  <file" + Attribute("name", enumerationsTypeLibraryFile) + ">\n";
+            TypeLibrary(library->uniqueIdentifier, library->majorVersion, library->minorVersion);
+            text_ += "  </file>\n";
+        }
         for (const ClassDescriptor& type : classes_.classes) {
             Interface(type.interfaceTable->name, type.interfaceTable->uniqueIdentifier,
                       dualMarshaler);
@@ -79,11 +83,10 @@ class ManifestWriter {
     }
 
     void TypeLibrary(const UniqueIdentifier& identifier, std::uint16_t majorVersion,
-                     std::uint16_t minorVersion, int resource) {
+                     std::uint16_t minorVersion) {
         text_ += "    <typelib" + Attribute("tlbid", Braced(identifier)) +
                  Attribute("version", Version(majorVersion, minorVersion)) +
-                 Attribute("resourceid", std::to_string(resource)) + Attribute("helpdir", "") +
-                 "/>\n";
+                 Attribute("helpdir", "") + "/>\n";
     }
 
     void Interface(TextView name, const UniqueIdentifier& identifier, std::string_view marshaler) {

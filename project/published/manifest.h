@@ -10,9 +10,8 @@ namespace lumenkit {
 
 inline constexpr const char* manifestFile = "lumenkit.manifest";
 
-/// Of the assembly that consists of one file, the component server `serverFile`, which holds the
-/// type library as its first and that of `classes.enumerations` as its second. UTF-8, lines end in
-/// LF.
+/// Of the assembly that consists of the component server `serverFile`, which holds its type
+/// library, and the type library of `classes.enumerations`. UTF-8, lines end in LF.
 std::string WriteManifest(const ClassTable& classes, const std::string& serverFile);
 
 }  // namespace lumenkit

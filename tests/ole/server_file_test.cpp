@@ -1,11 +1,16 @@
 // What the component server's file carries for installers, designers and the loader.
+#include <algorithm>
+#include <cstddef>
+#include <cstring>
 #include <filesystem>
 #include <span>
 #include <string>
 #include <vector>
 
 #include <gmock/gmock.h>
+#include <ocidl.h>
 #include <windows.h>
+#include <wrl/client.h>
 
 #include "project/lumenkit_classes.h"
 
@@ -13,7 +18,12 @@ namespace lumenkit {
 
 namespace {
 
+using Microsoft::WRL::ComPtr;
+
 const std::filesystem::path server = std::filesystem::path(LUMENKIT_BINARY_DIR) / "lumenkit.ocx";
+// The resource type as a wide name, which the headers have for UNICODE programs only.
+LPCWSTR const bitmapType = MAKEINTRESOURCEW(2);
+
 const std::filesystem::path manifest =
     std::filesystem::path(LUMENKIT_BINARY_DIR) / "lumenkit.manifest";
 
@@ -60,7 +70,7 @@ class LoadedServer : public ::testing::Test {
     void TearDown() override { FreeLibrary(module_); }
 
     std::span<const std::byte> Bitmap(std::uint16_t number) const {
-        HRSRC found = FindResourceW(module_, MAKEINTRESOURCEW(number), RT_BITMAP);
+        HRSRC found = FindResourceW(module_, MAKEINTRESOURCEW(number), bitmapType);
         if (found == nullptr) {
             return {};
         }
@@ -113,21 +123,43 @@ class SideBySide : public ::testing::Test {
     ULONG_PTR cookie_ = 0;
 };
 
-TEST_F(SideBySide, FindsEachClassByItsName) {
+/// By the name alone, as a program that knows nothing else of the class.
+ComPtr<IUnknown> Create(const ClassDescriptor& type) {
+    const Text name = Text(lumenkitClasses.libraryName) + u"." + Text(type.name);
+    CLSID found = {};
+    EXPECT_EQ(CLSIDFromProgID(std::wstring(name.begin(), name.end()).c_str(), &found), S_OK);
+    ComPtr<IUnknown> made;
+    EXPECT_EQ(CoCreateInstance(found, nullptr, CLSCTX_INPROC_SERVER, IID_IUnknown, &made), S_OK);
+    return made;
+}
+
+TEST_F(SideBySide, MakesEachClassByItsName) {
     for (const ClassDescriptor& type : lumenkitClasses.classes) {
-        const Text name = Text(lumenkitClasses.libraryName) + u"." + Text(type.name);
-        const std::wstring wide(name.begin(), name.end());
-        CLSID found = {};
-        ASSERT_EQ(CLSIDFromProgID(wide.c_str(), &found), S_OK);
-        EXPECT_EQ(found.Data1, type.uniqueIdentifier.data1);
-        IUnknown* factory = nullptr;
-        EXPECT_EQ(CoGetClassObject(found, CLSCTX_INPROC_SERVER, nullptr, IID_IClassFactory,
-                                   reinterpret_cast<void**>(&factory)),
-                  S_OK);
-        if (factory != nullptr) {
-            factory->Release();
+        const ComPtr<IUnknown> made = Create(type);
+        ASSERT_NE(made, nullptr);
+        ComPtr<IPropertyPage> page;
+        ComPtr<IPersistStreamInit> saved;
+        EXPECT_EQ(SUCCEEDED(made.As(&page)), type.kind == ClassKind::PropertyPage);
+        ASSERT_EQ(SUCCEEDED(made.As(&saved)), type.kind == ClassKind::Control);
+        if (saved != nullptr) {
+            CLSID own = {};
+            EXPECT_EQ(saved->GetClassID(&own), S_OK);
+            EXPECT_EQ(std::memcmp(&own, &type.uniqueIdentifier, sizeof own), 0);
         }
     }
+}
+
+TEST_F(SideBySide, FindsBothTypeLibraries) {
+    const auto load = [](const UniqueIdentifier& identifier, WORD majorVersion, WORD minorVersion) {
+        GUID guid = {};
+        static_assert(sizeof guid == sizeof identifier);
+        std::memcpy(&guid, &identifier, sizeof guid);
+        ComPtr<ITypeLib> library;
+        return LoadRegTypeLib(guid, majorVersion, minorVersion, 0, &library);
+    };
+    EXPECT_EQ(load(lumenkitClasses.uniqueIdentifier, 7, 1), S_OK);
+    EXPECT_EQ(load(runtimeEnumerations.uniqueIdentifier, 1, 0), S_OK);
+    EXPECT_NE(load(lumenkitClasses.uniqueIdentifier, 8, 0), S_OK);
 }
 
 }  // namespace
