@@ -8,6 +8,14 @@ CommandButton::CommandButton(const Owner& owner, const host::CaptionDesign& desi
                      design.caption),
       events_(events) {}
 
+LRESULT CommandButton::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
+    if (message == WM_KEYDOWN && wParam == VK_RETURN) {
+        events_.Click();
+        return 0;
+    }
+    return BasicCaptioned::HandleMessage(message, wParam, lParam);
+}
+
 std::optional<LRESULT> CommandButton::HandleNotification(UINT message, WPARAM wParam,
                                                          LPARAM /*lParam*/) {
     if (message != WM_COMMAND) {

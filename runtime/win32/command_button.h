@@ -7,11 +7,13 @@
 
 namespace lumenkit::win32 {
 
+/// Pressed by the space bar and by Return.
 class CommandButton final : public BasicCaptioned<host::CommandButton> {
  public:
     CommandButton(const Owner& owner, const host::CaptionDesign& design, host::ClickEvents& events);
 
  protected:
+    LRESULT HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
     std::optional<LRESULT> HandleNotification(UINT message, WPARAM wParam, LPARAM lParam) override;
 
  private:

@@ -76,9 +76,16 @@ void Element::BecomeVisible(bool visible) {
 }
 
 void Element::BecomeEnabled(bool enabled) {
-    if (enabled != enabled_) {
-        enabled_ = enabled;
-        EnableWindow(Handle(), enabled ? TRUE : FALSE);
+    if (enabled == enabled_) {
+        return;
+    }
+    enabled_ = enabled;
+    const HWND focus = GetFocus();
+    const bool losesFocus = !enabled && focus != nullptr && Handle() != nullptr &&
+                            (focus == Handle() || IsChild(Handle(), focus) != FALSE);
+    EnableWindow(Handle(), enabled ? TRUE : FALSE);
+    if (losesFocus) {
+        SetFocus(owner_);  // keys have somewhere to go; may destroy the object
     }
 }
 

@@ -30,11 +30,6 @@ ScrollBar::ScrollBar(const Owner& owner, const host::Design& design, host::Orien
     ShowRange();
 }
 
-void ScrollBar::SetEnabled(bool enabled) {
-    BecomeEnabled(enabled);
-    ShowRange();
-}
-
 void ScrollBar::SetScrollValue(std::int16_t value) {
     Scroll(AcceptedNumber<std::int16_t>(value, 0, max_));
 }
@@ -66,6 +61,7 @@ void ScrollBar::ShowRange() {
     info.nPage = static_cast<UINT>(largeChange_);
     info.nPos = std::min(value_, max_);
     Ask(SBM_SETSCROLLINFO, TRUE, reinterpret_cast<LPARAM>(&info));
+    EnableWindow(Handle(), IsEnabled() ? TRUE : FALSE);  // which the range may have changed
 }
 
 void ScrollBar::Scroll(std::int32_t value) {

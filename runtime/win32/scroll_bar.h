@@ -14,7 +14,6 @@ class ScrollBar final : public BasicConstituent<host::ScrollBar> {
     ScrollBar(const Owner& owner, const host::Design& design, host::Orientation orientation,
               host::ScrollBarEvents& events);
 
-    void SetEnabled(bool enabled) override;
     std::int16_t ScrollValue() const override { return value_; }
     void SetScrollValue(std::int16_t value) override;
     std::int16_t Max() const override { return max_; }

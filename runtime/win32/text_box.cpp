@@ -209,7 +209,7 @@ std::optional<LRESULT> TextBox::HandleNotification(UINT message, WPARAM wParam, 
         isCopied_ = false;
     }
     if (code == EN_CHANGE && !isAssigning_) {
-        events_.Change();
+        hasChanged_ = true;
     }
     return 0;
 }

@@ -54,6 +54,8 @@ class TextBox final : public BasicTextConstituent<host::TextBox> {
     void Select(std::int32_t start, std::int32_t end);
     std::size_t Room() const;
 
+    LRESULT Pass(UINT message, WPARAM wParam, LPARAM lParam);
+
     // The user acts: each answers a message. The object may be gone when they return.
     LRESULT KeyGoesDown(UINT message, WPARAM wParam, LPARAM lParam);
     LRESULT KeyIsPressed(WPARAM wParam, LPARAM lParam);
@@ -74,6 +76,7 @@ class TextBox final : public BasicTextConstituent<host::TextBox> {
     bool multiLine_;
     bool locked_ = false;
     bool isAssigning_ = false;     // what the edit control says now is not for the receiver
+    bool hasChanged_ = false;      // by what the edit control is doing
     bool keyIsTaken_ = false;      // the key that is down enters nothing
     bool dropsSurrogate_ = false;  // there was no room for the first half of the pair
     bool isPressed_ = false;       // the left button went down in the box

@@ -1,5 +1,6 @@
 // What the user does to a text box: keys, mouse, clipboard.
 #include <limits>
+#include <utility>
 
 #include "runtime/win32/clipboard_text.h"
 #include "runtime/win32/mouse.h"
@@ -36,7 +37,7 @@ LRESULT TextBox::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
         case WM_CHAR:
             return KeyIsPressed(wParam, lParam);
         case WM_SYSCHAR:
-            return keyIsTaken_ ? 0 : Default(message, wParam, lParam);
+            return keyIsTaken_ ? 0 : Pass(message, wParam, lParam);
         case WM_KEYUP:
         case WM_SYSKEYUP:
             return KeyGoesUp(message, wParam, lParam);
@@ -62,14 +63,14 @@ LRESULT TextBox::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
                 SetText(lParam == 0 ? TextView{} : AsText(reinterpret_cast<LPCWSTR>(lParam)));
                 return TRUE;
             }
-            return Default(message, wParam, lParam);
+            return Pass(message, wParam, lParam);
         case WM_SETCURSOR:
             if (const HCURSOR cursor = CursorOf(pointer_);
                 cursor != nullptr && LOWORD(lParam) == HTCLIENT) {
                 SetCursor(cursor);
                 return TRUE;
             }
-            return Default(message, wParam, lParam);
+            return Pass(message, wParam, lParam);
         case WM_GETDLGCODE: {
             // Not the edit control's own answer: it would act for the dialog from then on.
             const auto* const asked = reinterpret_cast<const MSG*>(lParam);
@@ -79,10 +80,24 @@ LRESULT TextBox::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
         }
         case WM_DESTROY:
             KeepCopy();  // the text outlives the window
-            return Default(message, wParam, lParam);
-        default:
+            return Pass(message, wParam, lParam);
+        case WM_SETFOCUS:
+        case WM_KILLFOCUS:
             return BasicTextConstituent::HandleMessage(message, wParam, lParam);
+        default:
+            return Pass(message, wParam, lParam);
     }
+}
+
+// Lets the edit control answer, then tells of what it changed: once, and when it has done.
+LRESULT TextBox::Pass(UINT message, WPARAM wParam, LPARAM lParam) {
+    const bool outerChange = std::exchange(hasChanged_, false);
+    const Watch watch(*this);
+    const LRESULT answer = Default(message, wParam, lParam);
+    if (!watch.IsGone() && std::exchange(hasChanged_, outerChange)) {
+        events_.Change();
+    }
+    return answer;
 }
 
 void TextBox::FocusMoved(bool came) {
@@ -105,7 +120,7 @@ LRESULT TextBox::KeyGoesDown(UINT message, WPARAM wParam, LPARAM lParam) {
     keyIsTaken_ = keyCode == 0;
     // A box with several lines would close the dialog that it lies in.
     const bool closes = multiLine_ && keyCode == VK_ESCAPE;
-    return keyIsTaken_ || closes ? 0 : Default(message, static_cast<WPARAM>(keyCode), lParam);
+    return keyIsTaken_ || closes ? 0 : Pass(message, static_cast<WPARAM>(keyCode), lParam);
 }
 
 LRESULT TextBox::KeyIsPressed(WPARAM wParam, LPARAM lParam) {
@@ -123,7 +138,7 @@ LRESULT TextBox::KeyIsPressed(WPARAM wParam, LPARAM lParam) {
         Paste();
         return 0;
     }
-    return Default(WM_CHAR, unit, lParam);
+    return Pass(WM_CHAR, unit, lParam);
 }
 
 // Whether the edit control is to see the unit: not what it would only beep at, nor what leaves half
@@ -148,8 +163,7 @@ LRESULT TextBox::KeyGoesUp(UINT message, WPARAM wParam, LPARAM lParam) {
     keyIsTaken_ = false;
     const Watch watch(*this);
     events_.KeyUp(keyCode, shift);
-    return watch.IsGone() || keyCode == 0 ? 0
-                                          : Default(message, static_cast<WPARAM>(keyCode), lParam);
+    return watch.IsGone() || keyCode == 0 ? 0 : Pass(message, static_cast<WPARAM>(keyCode), lParam);
 }
 
 // The left button first does what it does in an edit control: it brings the focus and moves the
@@ -159,10 +173,10 @@ LRESULT TextBox::ButtonGoesDown(UINT message, WPARAM wParam, LPARAM lParam) {
     const Watch watch(*this);
     if (message != WM_LBUTTONDOWN) {
         events_.MouseDown(mouse);
-        return watch.IsGone() ? 0 : Default(message, wParam, lParam);
+        return watch.IsGone() ? 0 : Pass(message, wParam, lParam);
     }
     isPressed_ = true;
-    const LRESULT answer = Default(message, wParam, lParam);
+    const LRESULT answer = Pass(message, wParam, lParam);
     if (!watch.IsGone()) {
         events_.MouseDown(mouse);
     }
@@ -174,7 +188,7 @@ LRESULT TextBox::ButtonIsClickedAgain(UINT message, WPARAM wParam, LPARAM lParam
         return ButtonGoesDown(message, wParam, lParam);
     }
     const Watch watch(*this);
-    const LRESULT answer = Default(message, wParam, lParam);
+    const LRESULT answer = Pass(message, wParam, lParam);
     if (!watch.IsGone()) {
         events_.DblClick();
     }
@@ -186,10 +200,10 @@ LRESULT TextBox::ButtonGoesUp(UINT message, WPARAM wParam, LPARAM lParam) {
     const Watch watch(*this);
     if (message != WM_LBUTTONUP) {
         events_.MouseUp(mouse);
-        return watch.IsGone() ? 0 : Default(message, wParam, lParam);
+        return watch.IsGone() ? 0 : Pass(message, wParam, lParam);
     }
     const bool isClick = std::exchange(isPressed_, false) && IsInside(Handle(), lParam);
-    const LRESULT answer = Default(message, wParam, lParam);
+    const LRESULT answer = Pass(message, wParam, lParam);
     if (!watch.IsGone()) {
         events_.MouseUp(mouse);
     }
@@ -203,7 +217,7 @@ LRESULT TextBox::MouseMoves(UINT message, WPARAM wParam, LPARAM lParam) {
     host::MouseArguments mouse = MouseArgumentsOf(message, wParam, lParam, PixelsPerInch());
     const Watch watch(*this);
     events_.MouseMove(mouse);
-    return watch.IsGone() ? 0 : Default(message, wParam, lParam);
+    return watch.IsGone() ? 0 : Pass(message, wParam, lParam);
 }
 
 // How many units may take the place of the selection.

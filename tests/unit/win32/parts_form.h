@@ -1,0 +1,86 @@
+// A form with constituents on it, and a user who uses them.
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+#include <gtest/gtest.h>
+
+#include "frame/runtime_error.h"
+#include "runtime/win32/constituents.h"
+#include "runtime/win32/element.h"
+#include "runtime/win32/window.h"
+#include "tests/support/windows_form.h"
+
+namespace lumenkit::win32 {
+
+using Lines = std::vector<std::string>;
+
+/// The window of the control that constituents lie on. Counts how often the focus came and left.
+class Panel final : public Window {
+ public:
+    Panel(HINSTANCE module, HWND parent);
+
+    int focusCame = 0;
+    int focusLeft = 0;
+
+ private:
+    LRESULT HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
+};
+
+class PartsTest : public ::testing::Test {
+ protected:
+    explicit PartsTest(const ClassTable& classes = {}) : form_(classes) {}
+
+    Constituents& Parts() { return parts_; }
+    /// The window of a constituent.
+    template <typename Constituent>
+    static HWND WindowOf(Constituent& constituent) {
+        return dynamic_cast<Window&>(constituent).Handle();
+    }
+    static void Pump() { testing::WindowsForm::Pump(); }
+
+    testing::WindowsForm form_;
+    std::unique_ptr<Panel> panel_ =
+        std::make_unique<Panel>(GetModuleHandleW(nullptr), form_.Window());
+    Constituents parts_{form_.Context(), *panel_, true};
+};
+
+/// A key goes down and up; between them comes its character, if it has one.
+void Strike(HWND window, WORD key, char16_t unit = 0);
+/// Types letters, digits and line breaks (CR).
+void TypeText(HWND window, TextView text);
+/// In pixels of the client area.
+void PressButton(HWND window, POINT place);
+void LiftButton(HWND window, POINT place);
+void ClickAt(HWND window, POINT place);
+void PutOnClipboard(HWND owner, TextView text);
+
+/// Holds a key for the platform as long as it lives.
+class HeldKey {
+ public:
+    explicit HeldKey(int key);
+    ~HeldKey();
+    HeldKey(const HeldKey&) = delete;
+    HeldKey& operator=(const HeldKey&) = delete;
+
+ private:
+    BYTE former_[256] = {};
+};
+
+/// Whether `action` raises the runtime's error `number`.
+template <typename Action>
+::testing::AssertionResult Raises(ErrorNumber number, Action&& action) {
+    try {
+        action();
+    } catch (const RuntimeError& error) {
+        if (error.Number() == static_cast<std::int32_t>(number)) {
+            return ::testing::AssertionSuccess();
+        }
+        return ::testing::AssertionFailure() << "raised " << error.Number();
+    }
+    return ::testing::AssertionFailure() << "raised nothing";
+}
+
+}  // namespace lumenkit::win32
