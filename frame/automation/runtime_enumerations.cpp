@@ -65,6 +65,7 @@ constexpr EnumerationLibrary runtimeEnumerations = {
     .help = u"lumenkit runtime enumerations",
     .majorVersion = 1,
     .minorVersion = 0,
+    .locale = 1033,
     .enumerations = enumerations,
 };
 

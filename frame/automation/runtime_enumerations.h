@@ -30,6 +30,7 @@ struct EnumerationLibrary {
     TextView help;
     std::uint16_t majorVersion = 1;
     std::uint16_t minorVersion = 0;
+    std::uint32_t locale = 0;  ///< the platform's number of a language: 1033 is English
     std::span<const EnumerationTable> enumerations;
 
     /// The enumeration whose members properties of `type` take; null for other types.

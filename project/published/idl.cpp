@@ -1,5 +1,6 @@
 #include "project/published/idl.h"
 
+#include <cstdint>
 #include <string_view>
 #include <vector>
 
@@ -31,6 +32,10 @@ std::string Version(int majorVersion, int minorVersion) {
     return "version(" + std::to_string(majorVersion) + "." + std::to_string(minorVersion) + ")";
 }
 
+std::string Locale(std::uint32_t number) {
+    return "lcid(" + std::to_string(number) + ")";
+}
+
 std::string Name(TextView name) {
     return ToUtf8(name);
 }
@@ -45,7 +50,7 @@ class ClassLibraryWriter {
         Line(Attributes()
                  .Add(Uuid(classes_.uniqueIdentifier))
                  .Add(Version(classes_.majorVersion, classes_.minorVersion))
-                 .Add("lcid(" + std::to_string(classes_.locale) + ")")
+                 .Add(Locale(classes_.locale))
                  .AddHelp(classes_.help)
                  .Written());
         Line("library " + Name(classes_.libraryName) + " {");
@@ -244,6 +249,7 @@ std::string WriteIdl(const EnumerationLibrary& library) {
     text += Attributes()
                 .Add(Uuid(library.uniqueIdentifier))
                 .Add(Version(library.majorVersion, library.minorVersion))
+                .Add(Locale(library.locale))
                 .AddHelp(library.help)
                 .Written();
     text += "\nlibrary " + Name(library.name) + " {\n";

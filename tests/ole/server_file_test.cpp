@@ -149,6 +149,24 @@ TEST_F(SideBySide, MakesEachClassByItsName) {
     }
 }
 
+TEST_F(SideBySide, TellsTheStatusOfAControlAsTheControlDoes) {
+    for (const ClassDescriptor& type : lumenkitClasses.classes) {
+        if (type.kind != ClassKind::Control) {
+            continue;
+        }
+        ComPtr<IOleObject> object;
+        ASSERT_TRUE(SUCCEEDED(Create(type).As(&object)));
+        CLSID own = {};
+        DWORD told = 0;
+        DWORD registered = 0;
+        EXPECT_EQ(object->GetUserClassID(&own), S_OK);
+        EXPECT_EQ(object->GetMiscStatus(DVASPECT_CONTENT, &told), S_OK);
+        EXPECT_EQ(OleRegGetMiscStatus(own, DVASPECT_CONTENT, &registered), S_OK);
+        EXPECT_EQ(told, registered);
+        EXPECT_NE(told, 0U);
+    }
+}
+
 TEST_F(SideBySide, FindsBothTypeLibraries) {
     const auto load = [](const UniqueIdentifier& identifier, WORD majorVersion, WORD minorVersion) {
         GUID guid = {};
