@@ -50,7 +50,11 @@ class CheckRun {
         }
         CheckFiles(inputs.files);
         reporter_.Finish(checked_);
-        if (failed_ || !std::cout) {
+        if (!std::cout.flush()) {
+            std::cerr << "lumenkit: cannot write the findings\n";
+            return exitUnusable;
+        }
+        if (failed_) {
             return exitUnusable;
         }
         return found_ ? exitReported : exitDone;

@@ -136,6 +136,15 @@ TEST(CheckCommand, SaysWhichInputsCannotBeRead) {
     EXPECT_EQ(bytes.status, 2);
 }
 
+TEST(CheckCommand, SaysThatFindingsCannotBeWritten) {
+    for (const std::string arguments : {"", "--json "}) {
+        const Outcome outcome =
+            RunOnTerminal("check " + arguments + here + "forms/good.frm >/dev/full");
+        EXPECT_EQ(outcome.output, "lumenkit: cannot write the findings\r\n");
+        EXPECT_EQ(outcome.status, 2);
+    }
+}
+
 TEST(CheckCommand, RefusesWrongArguments) {
     for (const char* arguments : {"check", "check --xml x.frm", "check --code-page 932 x.frm",
                                   "check --code-page east x.frm"}) {
