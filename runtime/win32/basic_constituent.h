@@ -33,8 +33,10 @@ class BasicTextConstituent : public BasicConstituent<Interface>, private FontLis
     host::FontRef CurrentFont() const override { return font_.Get(); }
     /// Raises 380 for a font of another runtime.
     void SetCurrentFont(host::FontRef font) override {
-        font_.Assign(font);
-        FontChanged();
+        if (font != font_.Get()) {
+            font_.Assign(font);
+            FontChanged();
+        }
     }
 
  protected:
@@ -42,7 +44,7 @@ class BasicTextConstituent : public BasicConstituent<Interface>, private FontLis
                          TextView text)
         : BasicConstituent<Interface>(owner, kind, design, text),
           font_(*this, owner.context.fonts.NewFont(design.fontName, design.fontSize)) {
-        UseFont();
+        UseFont(false);
     }
 
     HFONT FontHandle() const { return font_.Get()->Handle(); }
@@ -51,10 +53,12 @@ class BasicTextConstituent : public BasicConstituent<Interface>, private FontLis
 
  private:
     void FontChanged() override {
-        UseFont();
+        UseFont(true);
         FontTaken();
     }
-    void UseFont() { this->Ask(WM_SETFONT, reinterpret_cast<WPARAM>(FontHandle()), TRUE); }
+    void UseFont(bool repaint) {
+        this->Ask(WM_SETFONT, reinterpret_cast<WPARAM>(FontHandle()), repaint ? TRUE : FALSE);
+    }
 
     HeldFont font_;
 };

@@ -41,7 +41,7 @@ Element::Element(const Owner& owner, const Kind& kind, const host::Design& desig
       placement_(design.placement),
       visible_(design.visible),
       owner_(owner.window.Handle()),
-      resolution_(Resolution::OfScreen()) {
+      resolution_(owner.resolution) {
     RequireSize(placement_.width, placement_.height);
     const DWORD visible = visible_ ? WS_VISIBLE : 0;
     Create({.module = owner.context.module,

@@ -21,6 +21,7 @@ inline constexpr UINT constituentFocusMessage = WM_APP + 1;
 struct Owner {
     const Context& context;
     Window& window;
+    Resolution resolution = Resolution::OfScreen();
 };
 
 /// The window that a constituent of this design lies in. Throws std::logic_error for a parent of

@@ -16,7 +16,7 @@ EmbeddedControl::EmbeddedControl(const Owner& owner, const host::Design& design,
                                  const ClassDescriptor& type, bool userMode)
     : owner_(owner.window.Handle()),
       parent_(ParentWindow(owner, design)),
-      resolution_(Resolution::OfScreen()),
+      resolution_(owner.resolution),
       placement_(design.placement),
       visible_(design.visible),
       ambient_(owner.context.fonts, userMode),

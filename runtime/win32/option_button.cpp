@@ -39,7 +39,10 @@ void OptionButton::Select(bool selected) {
 }
 
 void OptionButton::SetAlignment(std::int16_t alignment) {
-    alignment_ = AcceptedNumber<std::int16_t>(alignment, 0, 1);
+    if (AcceptedNumber<std::int16_t>(alignment, 0, 1) == alignment_) {
+        return;
+    }
+    alignment_ = alignment;
     SwitchStyle(BS_RIGHTBUTTON, alignment == 1);
     Invalidate();
 }

@@ -39,9 +39,9 @@ class PartsTest : public ::testing::Test {
     static HWND WindowOf(Constituent& constituent) {
         return dynamic_cast<Window&>(constituent).Handle();
     }
-    static void Pump() { testing::WindowsForm::Pump(); }
+    static void Pump() { lumenkit::testing::WindowsForm::Pump(); }
 
-    testing::WindowsForm form_;
+    lumenkit::testing::WindowsForm form_;
     std::unique_ptr<Panel> panel_ =
         std::make_unique<Panel>(GetModuleHandleW(nullptr), form_.Window());
     Constituents parts_{form_.Context(), *panel_, true};
