@@ -36,15 +36,19 @@ ScreenFontRef FontCache::Find(const LOGFONTW& design) {
     if (known != fonts_.end()) {
         return known->second;
     }
-    auto font = std::make_shared<ScreenFont>(design);
+    auto font = std::make_shared<const ScreenFont>(design);
     if (fonts_.size() >= mostKept) {
         DropUnused();
     }
+    own_.emplace(font->Handle(), font.get());
     fonts_.emplace(design, font);
     return font;
 }
 
 ScreenFontRef FontCache::Find(HFONT handle) {
+    if (const auto own = own_.find(handle); own != own_.end()) {
+        return own->second->shared_from_this();
+    }
     LOGFONTW design = {};
     if (GetObjectW(handle, sizeof design, &design) == 0) {
         Raise(ErrorNumber::OutOfMemory);
@@ -53,7 +57,13 @@ ScreenFontRef FontCache::Find(HFONT handle) {
 }
 
 void FontCache::DropUnused() {
-    std::erase_if(fonts_, [](const auto& entry) { return entry.second.use_count() == 1; });
+    std::erase_if(fonts_, [&](const auto& entry) {
+        const bool isUnused = entry.second.use_count() == 1;
+        if (isUnused) {
+            own_.erase(entry.second->Handle());
+        }
+        return isUnused;
+    });
 }
 
 }  // namespace lumenkit::win32

@@ -18,7 +18,8 @@ class FontCache {
     /// The font of this design, whose height says for which resolution it is. Allocates nothing
     /// when the font is known. Raises 7 when the platform has no more fonts.
     ScreenFontRef Find(const LOGFONTW& design);
-    /// The font behind a handle that somebody else owns.
+    /// The font of the same design as one that somebody else owns; its own fonts are known by their
+    /// handles.
     ScreenFontRef Find(HFONT handle);
 
  private:
@@ -32,7 +33,8 @@ class FontCache {
 
     void DropUnused();
 
-    std::unordered_map<LOGFONTW, std::shared_ptr<ScreenFont>, Hash, Equal> fonts_;
+    std::unordered_map<LOGFONTW, ScreenFontRef, Hash, Equal> fonts_;
+    std::unordered_map<HFONT, const ScreenFont*> own_;  // the same by their handles
 };
 
 }  // namespace lumenkit::win32

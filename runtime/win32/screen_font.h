@@ -16,7 +16,8 @@ namespace lumenkit::win32 {
 ///
 /// Widths come from tables wherever units stand beside each other without heeding their
 /// neighbours, which is found out for each font; other words are measured by the platform.
-class ScreenFont {
+/// Those that a FontCache made are shared.
+class ScreenFont final : public std::enable_shared_from_this<ScreenFont> {
  public:
     /// Raises 7 when the platform has no more fonts.
     explicit ScreenFont(const LOGFONTW& design);
