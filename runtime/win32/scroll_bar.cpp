@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "frame/host/accepted_values.h"
+#include "runtime/win32/scroll_bar_picture.h"
 
 namespace lumenkit::win32 {
 
@@ -26,7 +27,8 @@ ScrollBar::ScrollBar(const Owner& owner, const host::Design& design, host::Orien
                     static_cast<DWORD>(orientation == host::Orientation::Vertical ? SBS_VERT
                                                                                   : SBS_HORZ)},
           design),
-      events_(events) {
+      events_(events),
+      orientation_(orientation) {
     ShowRange();
 }
 
@@ -53,13 +55,18 @@ void ScrollBar::SetSmallChange(std::int16_t step) {
 }
 
 // The thumb stands for a page; the platform counts to the last page's end.
-void ScrollBar::ShowRange() {
+SCROLLINFO ScrollBar::Range() const {
     SCROLLINFO info = {};
     info.cbSize = sizeof info;
     info.fMask = SIF_RANGE | SIF_PAGE | SIF_POS;
     info.nMax = max_ + largeChange_ - 1;
     info.nPage = static_cast<UINT>(largeChange_);
     info.nPos = std::min(value_, max_);
+    return info;
+}
+
+void ScrollBar::ShowRange() {
+    SCROLLINFO info = Range();
     Ask(SBM_SETSCROLLINFO, TRUE, reinterpret_cast<LPARAM>(&info));
     EnableWindow(Handle(), IsEnabled() ? TRUE : FALSE);  // which the range may have changed
 }
@@ -107,6 +114,12 @@ LRESULT ScrollBar::TurnWheel(UINT message, WPARAM wParam) {
         Scroll(value_ + scrolled);
     }
     return 0;
+}
+
+void ScrollBar::DrawTo(HDC device) {
+    RECT area = {};
+    GetClientRect(Handle(), &area);
+    DrawScrollBar(device, area, orientation_ == host::Orientation::Vertical, Range(), IsEnabled());
 }
 
 LRESULT ScrollBar::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) {

@@ -23,6 +23,8 @@ class ScrollBar final : public BasicConstituent<host::ScrollBar> {
     std::int16_t SmallChange() const override { return smallChange_; }
     void SetSmallChange(std::int16_t step) override;
 
+    void DrawTo(HDC device) override;
+
  protected:
     LRESULT HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
     std::optional<LRESULT> HandleNotification(UINT message, WPARAM wParam, LPARAM lParam) override;
@@ -32,9 +34,11 @@ class ScrollBar final : public BasicConstituent<host::ScrollBar> {
     void Scroll(std::int32_t value);
     void ScrollBy(WORD code, WORD position);
     LRESULT TurnWheel(UINT message, WPARAM wParam);
+    SCROLLINFO Range() const;
     void ShowRange();
 
     host::ScrollBarEvents& events_;
+    host::Orientation orientation_;
     std::int16_t value_ = 0;
     std::int16_t max_ = 32767;
     std::int16_t largeChange_ = 1;

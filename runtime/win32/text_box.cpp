@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "frame/host/accepted_values.h"
+#include "runtime/win32/scroll_bar_picture.h"
 #include "runtime/win32/surrogates.h"
 
 namespace lumenkit::win32 {
@@ -195,6 +196,11 @@ void TextBox::SetPointer(host::MousePointer pointer) {
 std::int32_t TextBox::WindowHandle() const {
     // Handles have 32 significant bits.
     return static_cast<std::int32_t>(reinterpret_cast<std::intptr_t>(Handle()));
+}
+
+void TextBox::DrawTo(HDC device) {
+    BasicTextConstituent::DrawTo(device);
+    DrawWindowBars(Handle(), device);
 }
 
 std::optional<LRESULT> TextBox::HandleNotification(UINT message, WPARAM wParam, LPARAM /*lParam*/) {

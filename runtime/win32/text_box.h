@@ -35,6 +35,8 @@ class TextBox final : public BasicTextConstituent<host::TextBox> {
     void SetPointer(host::MousePointer pointer) override;
     std::int32_t WindowHandle() const override;
 
+    void DrawTo(HDC device) override;
+
  protected:
     LRESULT HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
     std::optional<LRESULT> HandleNotification(UINT message, WPARAM wParam, LPARAM lParam) override;
