@@ -11,7 +11,7 @@ test: ## everything: builds, tests, sanitizers, cross-compilation, checks
 bench: ## measure, and print each figure as a ratio to a peer or a bound
 	@scripts/bench.sh
 
-ocx: ## cross-compile for Windows, x64 and x86
+ocx: ## cross-compile the component server for Windows, x64 and x86
 	@scripts/ocx.sh
 
 fuzz: ## fuzz each target for FUZZ_SECONDS (default 600)
@@ -23,7 +23,7 @@ lint: ## clang-tidy over all sources
 format: ## reformat all sources
 	@scripts/format.sh
 
-golden: ## write the golden drawings anew, for review in the diff
+golden: ## write the golden files anew, for review in the diff
 	@scripts/golden.sh
 
 published: ## write the interface definitions and the manifest anew, for review in the diff

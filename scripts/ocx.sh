@@ -1,9 +1,9 @@
 #!/usr/bin/env bash
-# Cross-compiles the portable code for Windows, 64 and 32 bits.
+# Cross-compiles the component server for Windows, 64 and 32 bits.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 
 for preset in mingw-x64 mingw-x86; do
-    scripts/build.sh "$preset"
-    echo "built build/$preset"
+    scripts/build.sh "$preset" lumenkit_ocx
+    echo "built build/$preset/lumenkit.ocx, $(stat -c %s "build/$preset/lumenkit.ocx") bytes"
 done

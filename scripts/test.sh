@@ -17,12 +17,17 @@ step "Build and tests"
 scripts/build.sh native
 ctest --preset native -j "$(nproc)"
 
-step "Cross-compilation for Windows (x64, x86)"
+step "The component server for Windows (x64, x86)"
 scripts/ocx.sh
 
-step "Tests under Wine"
+scripts/reproducible.sh
+
+step "Build for Windows and tests under Wine"
 trap 'scripts/wine.sh --end' EXIT
+scripts/build.sh mingw-x64
 ctest --preset mingw-x64 -j "$(nproc)"
+scripts/build.sh mingw-x86
+ctest --preset mingw-x86
 
 step "Static analysis"
 scripts/lint.sh

@@ -85,12 +85,17 @@ run_on_screen() {
     # One screen at a time: Wine's desktop belongs to the display it was started on.
     exec 9>"$prefix.lock"
     flock 9
-    local command=("$@") status=0
+    local command=("$@")
     case $1 in *.exe) command=(wine "$@") ;; esac
-    xvfb-run -a -s "-screen 0 1280x1024x24" \
-        timeout --kill-after=10 "$seconds" "${command[@]}" 9>&- || status=$?
-    end_wine 9>&-
-    return "$status"
+    # Wine ends before its screen does.
+    xvfb-run -a -s "-screen 0 1280x1024x24" bash -c '
+        seconds=$1
+        shift
+        timeout --kill-after=10 "$seconds" "$@"
+        status=$?
+        wineserver -k
+        wineserver -w
+        exit "$status"' run_on_screen "$seconds" "${command[@]}" 9>&-
 }
 
 case ${1:-} in
