@@ -54,6 +54,7 @@ EOF
 make_prefix() {
     local quiet=(xvfb-run -a)
     [ -n "$screen" ] || quiet=()
+    [ ! -d "$prefix" ] || end_wine
     rm -rf "$prefix"
     mkdir -p "$prefix"
     "${quiet[@]}" timeout 120 wine wineboot --init
@@ -63,8 +64,8 @@ make_prefix() {
     end_wine
 }
 
-# Made by one, awaited by the others. A prefix of another version of this script is made anew.
-ready=$prefix/made-by-$(sha256sum "$0" | cut -c1-16)
+# Made by one, awaited by the others. A prefix that was made differently is made anew.
+ready=$prefix/made-by-$(declare -f settings make_prefix | sha256sum | cut -c1-16)
 ensure_prefix() {
     [ -e "$ready" ] && return
     "$top/scripts/setup.sh" wine ${screen:+screen}
