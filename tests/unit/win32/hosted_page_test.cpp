@@ -1,0 +1,212 @@
+// Property pages in windows, and all classes of the library once through.
+#include "runtime/win32/hosted_page.h"
+
+#include <memory>
+
+#include <gtest/gtest.h>
+
+#include "frame/runtime_error.h"
+#include "project/lumenkit_classes.h"
+#include "runtime/memory/property_bag.h"
+#include "runtime/win32/drawable.h"
+#include "runtime/win32/screen_font.h"
+#include "runtime/win32/window.h"
+#include "tests/support/picture.h"
+#include "tests/support/windows_form.h"
+
+namespace lumenkit::testing {
+namespace {
+
+constexpr SIZE size = {200, 100};
+
+class Site final : public host::PropertyPageSite {
+ public:
+    bool Changed() const override { return changed_; }
+    void SetChanged(bool changed) override { changed_ = changed; }
+
+ private:
+    bool changed_ = false;
+};
+
+class Selected final : public host::SelectedControls {
+ public:
+    explicit Selected(Object& control) : control_(ObjectRef(), &control) {}
+    std::int16_t Count() const override { return 1; }
+    ObjectRef Item(std::int16_t /*index*/) override { return control_; }
+
+ private:
+    ObjectRef control_;
+};
+
+const ClassDescriptor& Class(TextView name) {
+    return *lumenkitClasses.Find(Text(u"lumenkit.") + Text(name));
+}
+
+class HostedPageTest : public ::testing::Test {
+ protected:
+    HostedPageTest() {
+        label_.Start();
+        label_.Hosted().Automation().Let(u"Caption", Text(u"|B:1|the label's"));
+    }
+
+    std::unique_ptr<win32::HostedPage> NewPage() {
+        return std::make_unique<win32::HostedPage>(form_.Context(), Class(u"VLabelCaption"), site_,
+                                                   selected_);
+    }
+    static HWND Child(HWND parent, const wchar_t* className, int index = 0) {
+        HWND found = nullptr;
+        for (; index >= 0; --index) {
+            found = FindWindowExW(parent, found, className, nullptr);
+        }
+        return found;
+    }
+
+    WindowsForm form_{lumenkitClasses};
+    FormControl label_{form_, Class(u"VLabel"), size};
+    Site site_;
+    Selected selected_{label_.Hosted().Automation()};
+};
+
+TEST_F(HostedPageTest, IsAsLargeAsItIsLaidOut) {
+    const auto page = NewPage();
+    const ClassDescriptor& type = Class(u"VLabelCaption");
+    EXPECT_EQ(page->Size().cx, win32::ToPixels(type.pageWidth, form_.PixelsPerInch().x));
+    EXPECT_EQ(page->Size().cy, win32::ToPixels(type.pageHeight, form_.PixelsPerInch().y));
+}
+
+TEST_F(HostedPageTest, ComesHiddenAndGoes) {
+    const auto page = NewPage();
+    page->Attach(form_.Window(), {5, 6, 205, 306});
+    EXPECT_EQ(GetParent(page->Window()), form_.Window());
+    EXPECT_EQ(IsWindowVisible(page->Window()), FALSE);
+    page->SetVisible(true);
+    EXPECT_NE(IsWindowVisible(page->Window()), FALSE);
+    page->Place({0, 0, 33, 44});
+    RECT place = {};
+    GetWindowRect(page->Window(), &place);
+    EXPECT_EQ(place.right - place.left, 33);
+    page->Detach();
+    EXPECT_EQ(IsWindowVisible(page->Window()), FALSE);
+    EXPECT_NE(GetParent(page->Window()), form_.Window());
+    page->SetVisible(true);
+    EXPECT_EQ(IsWindowVisible(page->Window()), FALSE);
+}
+
+TEST_F(HostedPageTest, EditsTheSelectedControl) {
+    const auto page = NewPage();
+    page->GetPage().PropertyPage_SelectionChanged();
+    page->Attach(form_.Window(), {0, 0, page->Size().cx, page->Size().cy});
+    page->SetVisible(true);
+    const HWND box = Child(page->Window(), L"EDIT");
+    wchar_t text[100] = L"";
+    GetWindowTextW(box, text, 100);
+    EXPECT_STREQ(text, L"|B:1|the label's");
+    site_.SetChanged(false);
+    SetFocus(box);
+    SendMessageW(box, EM_SETSEL, 0, -1);
+    SendMessageW(box, EM_REPLACESEL, FALSE, reinterpret_cast<LPARAM>(L"typed"));
+    EXPECT_TRUE(site_.Changed());
+    page->GetPage().PropertyPage_ApplyChanges();
+    EXPECT_EQ(label_.Hosted().Automation().Get(u"Caption"), Value(Text(u"typed")));
+}
+
+TEST_F(HostedPageTest, TabGoesThroughThePageAndThenOn) {
+    const auto page = NewPage();
+    page->Attach(form_.Window(), {0, 0, page->Size().cx, page->Size().cy});
+    page->SetVisible(true);
+    const auto tab = [&] {
+        MSG message = {};
+        message.hwnd = GetFocus();
+        message.message = WM_KEYDOWN;
+        message.wParam = VK_TAB;
+        return page->TranslateKey(message);
+    };
+    SetFocus(Child(page->Window(), L"EDIT"));
+    int stops = 1;
+    for (; tab(); ++stops) {
+        ASSERT_LT(stops, 20);
+    }
+    EXPECT_EQ(stops, 7) << "three boxes, a check box, a button and two scroll bars";
+    MSG escape = {};
+    escape.hwnd = GetFocus();
+    escape.message = WM_KEYDOWN;
+    escape.wParam = VK_ESCAPE;
+    EXPECT_FALSE(page->TranslateKey(escape));
+}
+
+TEST_F(HostedPageTest, OutlivesItsWindow) {
+    const auto page = NewPage();
+    page->Attach(form_.Window(), {0, 0, 100, 100});
+    DestroyWindow(page->Window());
+    EXPECT_EQ(page->Window(), nullptr);
+    page->SetVisible(true);
+    page->Place({0, 0, 5, 5});
+    page->Attach(form_.Window(), {0, 0, 5, 5});
+    page->Detach();
+    MSG message = {};
+    EXPECT_FALSE(page->TranslateKey(message));
+    try {
+        page->GetPage().PropertyPage_SelectionChanged();
+    } catch (const RuntimeError&) {
+        // Errors of a page are for its host to show.
+    }
+}
+
+TEST_F(HostedPageTest, RefusesWhatIsNoPage) {
+    EXPECT_THROW(win32::HostedPage(form_.Context(), Class(u"VMemo"), site_, selected_),
+                 RuntimeError);
+}
+
+// A text that a person sees is on the screen: something else than the background is drawn.
+bool ShowsSomething(win32::HostedControl& control) {
+    Picture picture(size.cx, size.cy);
+    control.Draw(picture.Device(), {0, 0, size.cx, size.cy});
+    const COLORREF background = picture.At(size.cx - 30, size.cy - 30);
+    return picture.Count(background) < size.cx * size.cy;
+}
+
+class Products : public HostedPageTest, public ::testing::WithParamInterface<const char16_t*> {};
+INSTANTIATE_TEST_SUITE_P(Controls, Products, ::testing::Values(u"VLabel", u"VMemo", u"VOptList"));
+
+TEST_P(Products, AreShownSavedAndShownAgain) {
+    FormControl control(form_, Class(GetParam()), size);
+    control.Start();
+    EXPECT_TRUE(ShowsSomething(control.Hosted()));
+    memory::PropertyBag bag;
+    control.Hosted().Save(bag);
+    FormControl again(form_, Class(GetParam()), size);
+    again.Start(&bag);
+    EXPECT_TRUE(ShowsSomething(again.Hosted()));
+    again.Hosted().Detach();
+    EXPECT_TRUE(ShowsSomething(again.Hosted())) << "while it is parked too";
+    DestroyWindow(control.Hosted().Window());
+    control.Hosted().Save(bag);
+    EXPECT_TRUE(form_.GetLog().Messages().empty());
+}
+
+TEST_P(Products, LeaveNothingBehind) {
+    const int windows = win32::Window::Count();
+    const int fonts = win32::ScreenFont::Count();
+    for (int round = 0; round < 250; ++round) {
+        FormControl control(form_, Class(GetParam()), size);
+        control.Start();
+        control.Hosted().Focus();
+        UpdateWindow(control.Hosted().Window());
+    }
+    EXPECT_EQ(win32::Window::Count(), windows);
+    EXPECT_LE(win32::ScreenFont::Count(), fonts + 10) << "some are kept for the next";
+}
+
+TEST_F(HostedPageTest, LeavesNothingBehind) {
+    const int windows = win32::Window::Count();
+    for (int round = 0; round < 100; ++round) {
+        const auto page = NewPage();
+        page->Attach(form_.Window(), {0, 0, 400, 300});
+        page->GetPage().PropertyPage_SelectionChanged();
+        page->SetVisible(true);
+    }
+    EXPECT_EQ(win32::Window::Count(), windows);
+}
+
+}  // namespace
+}  // namespace lumenkit::testing
