@@ -30,7 +30,9 @@ LRESULT Frame::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
             }
             break;
         case WM_PRINTCLIENT:
-            if (borderStyle_ == 0) {
+            // The client area alone is what a child asks for that shows what lies behind it: not
+            // the border, which it covers.
+            if (borderStyle_ == 0 || lParam == PRF_CLIENT) {
                 return 0;
             }
             break;

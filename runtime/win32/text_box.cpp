@@ -44,9 +44,16 @@ TextBox::TextBox(const Owner& owner, const host::TextBoxDesign& design, host::Te
 }
 
 TextBox::~TextBox() {
+    GiveBufferBack();
+}
+
+// A buffer that was asked for may count as ours; it is the edit control's to free.
+void TextBox::GiveBufferBack() {
     if (multiLine_) {
-        // A buffer that was asked for may count as ours; it is the edit control's to free.
+        isAssigning_ = true;
+        Ask(WM_SETTEXT, 0, reinterpret_cast<LPARAM>(L""));  // no lines to count again
         Ask(EM_SETHANDLE, static_cast<WPARAM>(Ask(EM_GETHANDLE)));
+        isAssigning_ = false;
     }
 }
 

@@ -51,6 +51,7 @@ class TextBox final : public BasicTextConstituent<host::TextBox> {
     std::int32_t Length() const;
     TextView TextInPlace() const;
     void KeepCopy() const;
+    void GiveBufferBack();
     bool Assign(TextView text);
     Range Selection() const;
     void Select(std::int32_t start, std::int32_t end);

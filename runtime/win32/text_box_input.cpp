@@ -80,6 +80,8 @@ LRESULT TextBox::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
         }
         case WM_DESTROY:
             KeepCopy();  // the text outlives the window
+            GiveBufferBack();
+            isCopied_ = true;
             return Pass(message, wParam, lParam);
         case WM_SETFOCUS:
         case WM_KILLFOCUS:
