@@ -299,6 +299,30 @@ TEST_F(TextBoxTest, TakesWhatAnInputMethodComposed) {
     EXPECT_EQ(recorder_.Take(), (Lines{"press 12354", "change"}));
 }
 
+TEST_F(TextBoxTest, KeysComeFromTheKeyboardThroughTheQueue) {
+    host::TextBox& box = Box(u"");
+    Focus();
+    recorder_.onKeyDown = [](std::int16_t keyCode) {
+        return keyCode == 'B' ? std::int16_t{0} : keyCode;
+    };
+    std::vector<INPUT> input;
+    for (const WORD key : {WORD{'A'}, WORD{'B'}, WORD{'C'}}) {
+        for (const DWORD flags : {DWORD{0}, DWORD{KEYEVENTF_KEYUP}}) {
+            INPUT one = {};
+            one.type = INPUT_KEYBOARD;
+            one.ki.wVk = key;
+            one.ki.dwFlags = flags;
+            input.push_back(one);
+        }
+    }
+    ASSERT_EQ(SendInput(static_cast<UINT>(input.size()), input.data(), sizeof(INPUT)),
+              input.size());
+    Pump();
+    EXPECT_EQ(box.GetText(), u"ac");
+    EXPECT_EQ(recorder_.Take(), (Lines{"down 65 0", "press 97", "change", "up 65 0", "down 66 0",
+                                       "up 66 0", "down 67 0", "press 99", "change", "up 67 0"}));
+}
+
 TEST_F(TextBoxTest, ASingleLineTakesTheFirstLineOfAPaste) {
     host::TextBox& box = Box(u"", false);
     Focus();
