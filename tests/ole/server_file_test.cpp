@@ -3,6 +3,7 @@
 #include <cstddef>
 #include <cstring>
 #include <filesystem>
+#include <fstream>
 #include <span>
 #include <string>
 #include <vector>
@@ -24,8 +25,14 @@ const std::filesystem::path server = std::filesystem::path(LUMENKIT_BINARY_DIR) 
 // The resource type as a wide name, which the headers have for UNICODE programs only.
 LPCWSTR const bitmapType = MAKEINTRESOURCEW(2);
 
-const std::filesystem::path manifest =
-    std::filesystem::path(LUMENKIT_BINARY_DIR) / "lumenkit.manifest";
+/// What a program that brings the server along says in its manifest.
+constexpr const char* clientManifest =
+    "<?xml version=\"1.0\" encoding=\"UTF-8\" standalone=\"yes\"?>\n"
+    "<assembly xmlns=\"urn:schemas-microsoft-com:asm.v1\" manifestVersion=\"1.0\">\n"
+    "<assemblyIdentity type=\"win32\" name=\"client\" version=\"1.0.0.0\"/>\n"
+    "<dependency><dependentAssembly>\n"
+    "<assemblyIdentity type=\"win32\" name=\"lumenkit\" version=\"7.1.0.0\"/>\n"
+    "</dependentAssembly></dependency></assembly>\n";
 
 std::vector<std::byte> VersionInformation() {
     std::vector<std::byte> information(GetFileVersionInfoSizeW(server.c_str(), nullptr));
@@ -101,13 +108,18 @@ TEST_F(LoadedServer, HasAToolboxBitmapForEachControl) {
     }
 }
 
-/// The manifest in force for this thread.
+/// With such a manifest in force for this thread, beside the server.
 class SideBySide : public ::testing::Test {
  protected:
     void SetUp() override {
+        const std::filesystem::path folder = server.parent_path();
+        const std::filesystem::path manifest = folder / "server_file_test_client.manifest";
+        std::ofstream(manifest, std::ios::binary) << clientManifest;
         ACTCTXW request = {};
         request.cbSize = sizeof request;
+        request.dwFlags = ACTCTX_FLAG_ASSEMBLY_DIRECTORY_VALID;
         request.lpSource = manifest.c_str();
+        request.lpAssemblyDirectory = folder.c_str();
         context_ = CreateActCtxW(&request);
         ASSERT_NE(context_, INVALID_HANDLE_VALUE) << GetLastError();
         ASSERT_TRUE(ActivateActCtx(context_, &cookie_));

@@ -1,0 +1,2 @@
+Box "VMEMO TestMessage 11"
+WScript.Echo "all done"

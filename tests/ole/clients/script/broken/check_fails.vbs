@@ -1,0 +1,2 @@
+Equal "one", 1, 2
+WScript.Echo "all done"

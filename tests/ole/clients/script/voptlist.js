@@ -1,0 +1,75 @@
+var options = new ActiveXObject("lumenkit.VOptList");
+
+// A new one.
+equal("Enabled", true, options.Enabled);
+equal("BorderStyle", 1, options.BorderStyle);
+equal("Caption", "Caption", options.Caption);
+equal("Contents", "0;Item 0", options.Contents);
+equal("ItemAlignment", 0, options.ItemAlignment);
+equal("ItemFontBold", false, options.ItemFontBold);
+equal("ItemFontItalic", false, options.ItemFontItalic);
+equal("ItemFontName", "string", typeof options.ItemFontName);
+equal("ItemFontSize", "number", typeof options.ItemFontSize);
+equal("ItemForeColor", 18 - 2147483648, options.ItemForeColor);
+equal("ListIndex", -1, options.ListIndex);
+equal("Text", "", options.Text);
+equal("Value", "", options.Value);
+
+options.Enabled = false;
+equal("Enabled", false, options.Enabled);
+options.BorderStyle = 0;
+equal("BorderStyle", 0, options.BorderStyle);
+options.Caption = "Sizes";
+equal("Caption", "Sizes", options.Caption);
+options.Contents = "s;Small|m;Medium|l;Large";
+equal("Contents", "s;Small|m;Medium|l;Large", options.Contents);
+options.ListIndex = 1;
+equal("ListIndex", 1, options.ListIndex);
+equal("Text", "m", options.Text);
+options.Text = "L";
+equal("ListIndex", 2, options.ListIndex);
+equal("Value", "l", options.Value);
+equal("the default member", "l", "" + options);
+options.ItemCaption(2) = "Huge";
+equal("Contents", "s;Small|m;Medium|l;Large", options.Contents);
+options.Refresh();
+options.Font.Bold = true;
+equal("Font.Bold", true, options.Font.Bold);
+var label = new ActiveXObject("lumenkit.VLabel");
+label.Font.Name = "Courier New";
+options.Font = label.Font;
+equal("Font.Name", "Courier New", options.Font.Name);
+
+box("VOPTLIST pLetItemAlignment 382");
+options.ItemAlignment = 1;
+box("VOPTLIST pLetItemFontBold 382");
+options.ItemFontBold = true;
+box("VOPTLIST pLetItemFontItalic 382");
+options.ItemFontItalic = true;
+box("VOPTLIST pLetItemFontName 382");
+options.ItemFontName = "Arial";
+box("VOPTLIST pLetItemFontSize 382");
+options.ItemFontSize = 12;
+box("VOPTLIST pLetItemForeColor 382");
+options.ItemForeColor = 0;
+box("VOPTLIST pLetLeftMargin 382");
+options.LeftMargin = 1;
+box("VOPTLIST pLetSpacing 382");
+options.Spacing = 1;
+box("VOPTLIST pLetTopMargin 382");
+options.TopMargin = 1;
+box("VOPTLIST pGetLeftMargin 393");
+equal("LeftMargin", 0, options.LeftMargin);
+box("VOPTLIST pGetSpacing 393");
+equal("Spacing", 0, options.Spacing);
+box("VOPTLIST pGetTopMargin 393");
+equal("TopMargin", 0, options.TopMargin);
+equal("ItemFontBold", false, options.ItemFontBold);
+
+raises("writing what is only read", 438, function () { options.Value = "s"; });
+raises("no index", 449, function () { options.ItemCaption = "none"; });
+raises("text for an index", 13, function () { options.ItemCaption("first") = "none"; });
+raises("too large a number", 6, function () { options.ListIndex = 70000; });
+raises("an argument for nothing", 450, function () { options.Refresh(1); });
+
+WScript.Echo("all done");
