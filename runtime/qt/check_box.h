@@ -17,11 +17,11 @@ class CheckBox final : public BasicCaptioned<host::CheckBox> {
 
     std::int16_t CheckState() const override { return state_; }
     void SetCheckState(std::int16_t state) override;
+    void Disconnect() override;
 
  private:
     CheckBoxWidget& Box() const;
     void ShowCaption() override;
-    void Disconnect() override;
     void Change(std::int16_t state);
 
     host::ClickEvents& events_;

@@ -12,11 +12,11 @@ class CommandButton final : public BasicCaptioned<host::CommandButton> {
     CommandButton(Constituents& owner, const host::CaptionDesign& design,
                   host::ClickEvents& events);
     ~CommandButton() override { Release(); }
+    void Disconnect() override;
 
  private:
     QPushButton& Button() const;
     void ShowCaption() override;
-    void Disconnect() override;
 };
 
 }  // namespace lumenkit::qt

@@ -83,6 +83,12 @@ void Constituents::Name(const Element& element) const {
     }
 }
 
+void Constituents::Disconnect() {
+    for (Element* element : elements_) {
+        element->Disconnect();
+    }
+}
+
 void Constituents::ApplyColors() {
     for (Element* element : elements_) {
         element->ApplyColors();

@@ -47,6 +47,8 @@ class Constituents final : public host::Constituents {
     /// when there is none.
     Element* Find(TextView name, std::int16_t index = -1) const;
 
+    /// From now on none of them notifies anything: their control is about to end.
+    void Disconnect();
     /// The palette of the area has other colours.
     void ApplyColors();
 

@@ -48,6 +48,7 @@ ControlWidget::ControlWidget(const Context& context, const ClassDescriptor& type
 
 ControlWidget::~ControlWidget() {
     surface_.SetControl(nullptr);
+    constituents_.Disconnect();
 }
 
 void ControlWidget::StartNew() {
@@ -180,7 +181,11 @@ void ControlWidget::changeEvent(QEvent* event) {
     QWidget::changeEvent(event);
     if (event->type() == QEvent::StyleChange) {
         HandleEvent(context_.errors, [&] { SurfaceResized(); });
-    } else if (event->type() == QEvent::PaletteChange) {
+    }
+}
+
+void ControlWidget::PaletteChanged() {
+    if (control_ != nullptr) {
         constituents_.ApplyColors();
     }
 }

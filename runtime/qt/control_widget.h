@@ -92,6 +92,7 @@ class ControlWidget final : public QWidget, private SurfaceOwner {
     QWidget& Outside() override { return *this; }
     void SurfaceResized() override;
     float BorderWidth(std::int16_t style) const override;
+    void PaletteChanged() override;
     int BorderPixels(std::int16_t style) const;
     void FinishStart();
     void ApplyPlacement();

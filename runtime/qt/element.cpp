@@ -9,6 +9,17 @@
 
 namespace lumenkit::qt {
 
+namespace {
+
+// What can no longer be used keeps no focus, though there be nothing else to take it.
+void LeaveFocus(QWidget& widget, bool usable) {
+    if (!usable && widget.hasFocus()) {
+        widget.clearFocus();
+    }
+}
+
+}  // namespace
+
 Element::Element(Constituents& owner, const host::Design& design)
     : owner_(owner),
       name_(design.name),
@@ -58,17 +69,24 @@ void Element::Release() {
 void Element::MoveTo(const host::Placement& placement) {
     RequireSize(placement.width, placement.height);
     placement_ = placement;
-    Cause([&] { widget_->setGeometry(ToPixels(placement)); });
+    Cause([widget = widget_.data(), &placement] { widget->setGeometry(ToPixels(placement)); });
 }
 
 void Element::ShowOrHide(bool visible) {
     visible_ = visible;
-    Cause([&] { widget_->setVisible(visible); });
+    // A handler may destroy this object.
+    Cause([widget = widget_.data(), visible] {
+        widget->setVisible(visible);
+        LeaveFocus(*widget, visible);
+    });
 }
 
 void Element::EnableOrDisable(bool enabled) {
     enabled_ = enabled;
-    Cause([&] { widget_->setEnabled(enabled); });
+    Cause([widget = widget_.data(), enabled] {
+        widget->setEnabled(enabled);
+        LeaveFocus(*widget, enabled);
+    });
 }
 
 void Element::RepaintNow() {

@@ -29,6 +29,9 @@ class Element {
     virtual QWidget& Inside() const { return *widget_; }
     /// The palette has other colours.
     virtual void ApplyColors() {}
+    /// From now on the widget notifies nothing: its receiver goes away, or the element itself,
+    /// whose widget may be deleted a little later.
+    virtual void Disconnect() {}
 
  protected:
     Element(Constituents& owner, const host::Design& design);
@@ -40,8 +43,6 @@ class Element {
     void Adopt(std::unique_ptr<QWidget> widget);
     /// The same for one that is placed and shown by other means.
     void AdoptHidden(std::unique_ptr<QWidget> widget);
-    /// The widget is not told any more; it may be deleted a little later.
-    virtual void Disconnect() {}
     void Release();
 
     const host::Placement& Where() const { return placement_; }

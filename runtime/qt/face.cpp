@@ -8,12 +8,14 @@
 #include <list>
 
 #include "runtime/qt/font_families.h"
+#include "runtime/qt/pixels.h"
 #include "runtime/qt/qt_text.h"
 
 namespace lumenkit::qt {
 
 namespace {
 
+constexpr double twipsPerPoint = 20;
 constexpr std::size_t mostFaces = 200;
 constexpr std::size_t mostWords = 4096;
 
@@ -49,7 +51,8 @@ QString Drawable(TextView text) {
 QFont FontFor(const FontAttributes& attributes) {
     QFont font;
     font.setFamilies(FamiliesFor(ToQString(attributes.name)));
-    font.setPointSizeF(attributes.size);
+    font.setPixelSize(
+        std::max(ToPixels(attributes.size * twipsPerPoint, TwipsPerPixel::OfScreens().y), 1));
     font.setWeight(static_cast<QFont::Weight>(
         attributes.weight <= 0 ? FontAttributes::regularWeight
                                : std::min<std::int16_t>(attributes.weight, QFont::Black)));

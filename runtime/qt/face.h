@@ -37,7 +37,8 @@ struct GlyphLine {
     QList<QGlyphRun> runs;
 };
 
-/// A font ready to measure and draw with at one scale of the screen. Lengths are in pixels.
+/// A font ready to measure and draw with at one scale of the screen. Lengths are in pixels. Its
+/// size is the nearest whole number of them.
 ///
 /// A text is measured word by word, so that widths add up at blanks: words of simple characters by
 /// their single advances, as there is neither kerning nor joining in them, all others as Qt shapes

@@ -3,8 +3,9 @@
 #include <QGroupBox>
 #include <QPainter>
 #include <QStyle>
-#include <QStyleOption>
 #include <algorithm>
+
+#include <qdrawutil.h>
 
 #include "frame/host/accepted_values.h"
 #include "runtime/qt/qt_text.h"
@@ -36,14 +37,8 @@ class FrameWidget final : public QGroupBox {
         if (!title().isEmpty()) {
             painter.setClipRegion(QRegion(rect()) - QRegion(caption.adjusted(-gap, 0, gap, 0)));
         }
-        QStyleOptionFrame border;
-        border.initFrom(this);
-        border.rect =
-            rect().adjusted(0, title().isEmpty() ? 0 : fontMetrics().ascent() / 2 + 1, 0, 0);
-        border.lineWidth = 1;
-        border.state |= QStyle::State_Sunken;
-        border.features = QStyleOptionFrame::None;
-        style()->drawPrimitive(QStyle::PE_FrameGroupBox, &border, &painter, this);
+        const int top = title().isEmpty() ? 0 : caption.height() / 2;
+        qDrawShadeRect(&painter, rect().adjusted(0, top, 0, 0), palette(), true);
         painter.setClipRect(caption);
         style()->drawItemText(&painter, caption, flags, palette(), isEnabled(), title(),
                               QPalette::WindowText);

@@ -34,11 +34,11 @@ class OptionButton final : public BasicCaptioned<host::OptionButton> {
     bool IsReachable() const { return IsVisible() && IsEnabled(); }
     /// Whether the Tab key stops here.
     void SetTabStop(bool stops);
+    void Disconnect() override;
 
  private:
     OptionWidget& Button() const;
     void ShowCaption() override;
-    void Disconnect() override;
 
     OptionButtons& group_;
     Text tag_;

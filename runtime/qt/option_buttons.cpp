@@ -25,7 +25,10 @@ void OptionButtons::Make(std::int16_t index) {
     design_.index = index;
     auto button = std::make_unique<OptionButton>(owner_, design_, *this);
     button->SetTabStop(false);
-    buttons_.emplace(index, std::move(button));
+    const auto place = buttons_.emplace(index, std::move(button)).first;
+    if (place != buttons_.begin()) {
+        QWidget::setTabOrder(std::prev(place)->second->Widget(), place->second->Widget());
+    }
     UpdateTabStops();
 }
 

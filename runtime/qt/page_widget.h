@@ -20,7 +20,7 @@ class PageWidget final : public QWidget {
  public:
     /// Creates the page and runs PropertyPage_Initialize. Raises 429 for a class that is no page.
     PageWidget(const Context& context, const ClassDescriptor& type, QWidget* parent = nullptr);
-    ~PageWidget() override = default;
+    ~PageWidget() override { constituents_.Disconnect(); }
     PageWidget(const PageWidget&) = delete;
     PageWidget& operator=(const PageWidget&) = delete;
 

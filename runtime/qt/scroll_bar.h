@@ -24,10 +24,10 @@ class ScrollBar final : public BasicConstituent<host::ScrollBar> {
     void SetLargeChange(std::int16_t step) override;
     std::int16_t SmallChange() const override;
     void SetSmallChange(std::int16_t step) override;
+    void Disconnect() override;
 
  private:
     QScrollBar& Bar() const;
-    void Disconnect() override;
     void Scroll(std::int16_t value);
 
     host::ScrollBarEvents& events_;

@@ -282,6 +282,7 @@ void Surface::FontChanged() {
 void Surface::PaletteChanged() {
     pen_.reset();
     area_->update();
+    owner_.PaletteChanged();
 }
 
 void Surface::UpdateScale() {

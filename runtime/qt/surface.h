@@ -30,6 +30,8 @@ class SurfaceOwner {
     virtual void SurfaceResized() = 0;
     /// Twips that the border takes on each side.
     virtual float BorderWidth(std::int16_t style) const = 0;
+    /// The area's palette has other colours.
+    virtual void PaletteChanged() = 0;
 };
 
 /// The drawing surface of a control. Its size is kept in twips as it was set, whatever whole pixels

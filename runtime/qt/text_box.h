@@ -37,10 +37,9 @@ class TextBox final : public BasicTextConstituent<host::TextBox> {
 
     void ApplyColors() override;
     TextEdit& Edit() const { return static_cast<TextEdit&>(*Widget()); }
-
- private:
     void Disconnect() override;
 
+ private:
     Color foreColor_ = Color::WindowText;
     std::int32_t maxLength_ = 0;
     host::MousePointer pointer_ = host::MousePointer::Default;

@@ -245,7 +245,10 @@ void TextEdit::FollowDocument(int from, int added) {
     QTextCursor cursor(document());
     cursor.setPosition(std::min(from, characters));
     cursor.setPosition(std::min(from + added, characters), QTextCursor::KeepAnchor);
-    const Text inserted = FromDocument(cursor.selectedText());
+    const Text read = FromDocument(cursor.selectedText());
+    // Of what is being entered more is known than the document can tell.
+    const bool isEntered = std::ranges::equal(read, entering_, MayBe);
+    const TextView inserted = isEntered ? entering_ : TextView(read);
     auto start = static_cast<std::size_t>(ToUnit(cursor.selectionStart()));
     const auto length = static_cast<std::size_t>(characters + document()->blockCount() - 1);
     std::size_t removed = text_.size() + inserted.size() - length;
@@ -408,7 +411,9 @@ void TextEdit::DeleteBackwards(bool word) {
 
 void TextEdit::ReplaceSelection(TextView text) {
     QTextCursor cursor = textCursor();
+    entering_ = text;
     cursor.insertText(ToDocument(text, multiLine_));
+    entering_ = {};
     setTextCursor(cursor);
 }
 

@@ -85,6 +85,7 @@ class TextEdit final : public QPlainTextEdit {
     host::TextBoxEvents* events_;
     ErrorSink errors_;
     Text text_;
+    TextView entering_;                 // while it is put into the document
     std::optional<Selection> exactly_;  // what code selected, until something else is
     std::int32_t maxLength_ = 0;
     bool multiLine_;

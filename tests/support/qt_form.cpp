@@ -1,0 +1,59 @@
+#include "tests/support/qt_form.h"
+
+#include <QApplication>
+#include <QTest>
+#include <stdexcept>
+
+namespace lumenkit::testing {
+
+QtForm::QtForm(const ClassTable& classes, bool userMode)
+    : classes_(classes),
+      userMode_(userMode),
+      application_(classes),
+      context_{.classes = classes_,
+               .application = application_,
+               .interaction = interaction,
+               .errors = [this](const RuntimeError& error) { errors.push_back(error); }} {
+    window.resize(640, 480);
+    window.show();
+    QApplication::setActiveWindow(&window);
+    static_cast<void>(QTest::qWaitForWindowActive(&window));
+}
+
+const ClassDescriptor& QtForm::Class(TextView name) const {
+    const ClassDescriptor* type = classes_.Find(Text(classes_.libraryName) + u"." + Text(name));
+    if (type == nullptr) {
+        throw std::out_of_range("no such class");
+    }
+    return *type;
+}
+
+qt::ControlWidget& QtForm::Place(TextView className, const host::Placement& placement) {
+    const ClassDescriptor& type = Class(className);
+    containers_.push_back(std::make_unique<qt::FormContainer>(type.eventTable));
+    containers_.back()->onEvent = [this](TextView name, std::span<Value> arguments) {
+        events.emplace_back(name);
+        if (onEvent) {
+            onEvent(name, arguments);
+        }
+    };
+    controls_.push_back(std::make_unique<qt::ControlWidget>(
+        context_, type, *this, qt::Placing{.name = className, .placement = placement}, &window));
+    controls_.back()->StartNew();
+    return *controls_.back();
+}
+
+std::unique_ptr<qt::PageWidget> QtForm::Page(TextView className) {
+    return std::make_unique<qt::PageWidget>(context_, Class(className));
+}
+
+void QtForm::Remove(qt::ControlWidget& control) {
+    std::erase_if(controls_, [&](const auto& one) { return one.get() == &control; });
+}
+
+host::FontRef QtForm::AmbientFont() const {
+    constexpr float points = 10;
+    return std::make_shared<qt::Font>(u"MS Sans Serif", points);
+}
+
+}  // namespace lumenkit::testing

@@ -1,0 +1,61 @@
+#pragma once
+
+#include <QMainWindow>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "frame/class_table.h"
+#include "runtime/qt/application.h"
+#include "runtime/qt/control_widget.h"
+#include "runtime/qt/form_container.h"
+#include "runtime/qt/page_widget.h"
+
+namespace lumenkit::testing {
+
+/// Beeps and messages, written down instead of shown.
+class WrittenInteraction final : public host::Interaction {
+ public:
+    void Beep() override { said.emplace_back(u"(beep)"); }
+    void MsgBox(TextView message, host::MessageStyle /*style*/,
+                std::optional<TextView> /*title*/) override {
+        said.emplace_back(message);
+    }
+
+    std::vector<Text> said;
+};
+
+/// An active window with controls of any class table, by their names alone: "VLabel".
+class QtForm final : public qt::ControlSite, private host::Ambient {
+ public:
+    explicit QtForm(const ClassTable& classes, bool userMode = true);
+
+    /// A newly placed one; the form keeps it.
+    qt::ControlWidget& Place(TextView className, const host::Placement& placement);
+    /// Not shown; the caller keeps it.
+    std::unique_ptr<qt::PageWidget> Page(TextView className);
+    void Remove(qt::ControlWidget& control);
+
+    QMainWindow window;
+    WrittenInteraction interaction;
+    std::vector<RuntimeError> errors;  ///< that left handlers of events
+    std::vector<Text> events;          ///< by name, as they are raised
+    std::function<void(TextView name, std::span<Value> arguments)> onEvent;
+
+ private:
+    const ClassDescriptor& Class(TextView name) const;
+    host::Container& GetContainer() override { return *containers_.back(); }
+    host::Ambient& GetAmbient() override { return *this; }
+    bool UserMode() const override { return userMode_; }
+    host::FontRef AmbientFont() const override;
+    Color BackColor() const override { return Color::ButtonFace; }
+
+    ClassTable classes_;
+    bool userMode_;
+    qt::Application application_;
+    qt::Context context_;
+    std::vector<std::unique_ptr<qt::FormContainer>> containers_;
+    std::vector<std::unique_ptr<qt::ControlWidget>> controls_;
+};
+
+}  // namespace lumenkit::testing

@@ -1,0 +1,377 @@
+// Constituents on real widgets: keyboard, colours, accessibility, and the end of their lives.
+#include "runtime/qt/constituents.h"
+
+#include <QAccessible>
+#include <QApplication>
+#include <QCheckBox>
+#include <QLabel>
+#include <QRadioButton>
+#include <QScrollBar>
+#include <QTest>
+#include <QWheelEvent>
+
+#include <gmock/gmock.h>
+
+#include "project/lumenkit_classes.h"
+#include "runtime/qt/element.h"
+#include "runtime/qt/embedded_control.h"
+#include "runtime/qt/font.h"
+#include "runtime/qt/surface_widget.h"
+#include "tests/support/painting_control.h"
+#include "tests/support/qt_form.h"
+#include "tests/support/qt_keys.h"
+
+namespace lumenkit::qt {
+namespace {
+
+using ::testing::ElementsAre;
+using testing::TypeKeys;
+
+class Clicks final : public host::ClickEvents, public host::OptionButtonEvents {
+ public:
+    void Click() override {
+        ++count;
+        if (act) {
+            act();
+        }
+    }
+    void Click(std::int16_t index) override {
+        clicked.push_back(index);
+        if (act) {
+            act();
+        }
+    }
+
+    int count = 0;
+    std::vector<std::int16_t> clicked;
+    std::function<void()> act;
+};
+
+class Edits final : public host::TextBoxEvents, public host::ScrollBarEvents {
+ public:
+    void Change() override {
+        if (act) {
+            act();
+        }
+    }
+    void KeyDown(std::int16_t&, std::int16_t&) override {
+        if (onKey) {
+            onKey();
+        }
+    }
+    void LostFocus() override {
+        if (onLostFocus) {
+            onLostFocus();
+        }
+    }
+
+    std::function<void()> act;
+    std::function<void()> onKey;
+    std::function<void()> onLostFocus;
+};
+
+QWidget& WidgetOf(host::Constituent& constituent) {
+    return *dynamic_cast<Element&>(constituent).Widget();
+}
+
+QAccessibleInterface& Accessible(QWidget& widget) {
+    return *QAccessible::queryAccessibleInterface(&widget);
+}
+
+QString NameOf(QWidget& widget) {
+    return Accessible(widget).text(QAccessible::Name);
+}
+
+class QtConstituentsTest : public ::testing::Test {
+ protected:
+    QtConstituentsTest() : control_(form_.Place(u"Painting", {0, 0, 6000, 6000})) {}
+
+    host::Constituents& Parts() { return control_.Parts(); }
+    static host::CaptionDesign Captioned(TextView caption, float top = 0) {
+        return {{.name = u"part", .placement = {.top = top, .width = 1500, .height = 300}},
+                caption};
+    }
+    static host::TextBoxDesign Boxed(float top = 0) {
+        host::TextBoxDesign design;
+        design.name = u"box";
+        design.placement = {.top = top, .width = 1500, .height = 300};
+        return design;
+    }
+
+    testing::QtForm form_{testing::PaintingClasses()};
+    ControlWidget& control_;
+    Clicks clicks_;
+    Edits edits_;
+};
+
+class QtOptionsTest : public QtConstituentsTest {
+ protected:
+    void SetUp() override {
+        for (std::int16_t index = 1; index < 4; ++index) {
+            options_->Load(index);
+            host::OptionButton& option = options_->Item(index);
+            option.Move({.top = 300.0F * index, .width = 1500, .height = 300});
+            option.SetCaption(index == 3 ? u"&Third" : u"other");
+            option.SetVisible(true);
+        }
+        options_->Item(2).SetVisible(false);
+    }
+    QWidget& Button(std::int16_t index) { return WidgetOf(options_->Item(index)); }
+
+    std::unique_ptr<host::TextBox> before_ = Parts().AddTextBox(Boxed(3000), edits_);
+    std::unique_ptr<host::Frame> frame_ = Parts().AddFrame(
+        {{.name = u"Frame1", .placement = {.width = 3000, .height = 2000}}, u"Frame"});
+    std::unique_ptr<host::OptionButtons> options_ = Parts().AddOptionButtons(
+        {{.name = u"Option1", .placement = {.width = 1500, .height = 300}}, u"none"}, *frame_,
+        clicks_);
+    std::unique_ptr<host::TextBox> after_ = Parts().AddTextBox(Boxed(3600), edits_);
+};
+
+TEST_F(QtOptionsTest, ArrowsSelectWhatCanBeReachedAndGoAround) {
+    Button(0).setFocus();
+    QTest::keyClick(&Button(0), Qt::Key_Down);
+    EXPECT_TRUE(options_->Item(1).IsSelected());
+    EXPECT_TRUE(Button(1).hasFocus());
+    QTest::keyClick(&Button(1), Qt::Key_Right);
+    EXPECT_TRUE(options_->Item(3).IsSelected()) << "over the hidden one";
+    QTest::keyClick(&Button(3), Qt::Key_Down);
+    EXPECT_TRUE(options_->Item(0).IsSelected());
+    QTest::keyClick(&Button(0), Qt::Key_Up);
+    EXPECT_TRUE(options_->Item(3).IsSelected());
+    EXPECT_THAT(clicks_.clicked, ElementsAre(1, 3, 0, 3));
+}
+
+TEST_F(QtOptionsTest, TabStopsOnceAtTheSelectedOne) {
+    QWidget& before = WidgetOf(*before_);
+    before.setFocus();
+    QTest::keyClick(&before, Qt::Key_Tab);
+    EXPECT_TRUE(Button(0).hasFocus()) << "none is selected: the first";
+    QTest::keyClick(&Button(0), Qt::Key_Tab);
+    EXPECT_TRUE(WidgetOf(*after_).hasFocus());
+    options_->Item(1).Select(true);
+    before.setFocus();
+    QTest::keyClick(&before, Qt::Key_Tab);
+    EXPECT_TRUE(Button(1).hasFocus());
+    QTest::keyClick(&Button(1), Qt::Key_Tab);
+    EXPECT_TRUE(WidgetOf(*after_).hasFocus());
+    QTest::keyClick(&WidgetOf(*after_), Qt::Key_Tab, Qt::ShiftModifier);
+    EXPECT_TRUE(Button(1).hasFocus());
+}
+
+TEST_F(QtOptionsTest, BlanksAndMnemonicsSelect) {
+    Button(1).setFocus();
+    QTest::keyClick(&Button(1), Qt::Key_Space);
+    EXPECT_TRUE(options_->Item(1).IsSelected());
+    QTest::keyClick(&form_.window, Qt::Key_T, Qt::AltModifier);
+    QTest::qWait(150);  // a button that is shown pressed for a while
+    EXPECT_TRUE(options_->Item(3).IsSelected());
+}
+
+TEST_F(QtOptionsTest, TheMarkMayStandAtTheRight) {
+    const QImage left = Button(3).grab().toImage();
+    options_->Item(3).SetAlignment(1);
+    EXPECT_NE(Button(3).grab().toImage(), left);
+}
+
+TEST_F(QtOptionsTest, AClickMayDestroyAllOfThem) {
+    clicks_.act = [&] { options_.reset(); };
+    QPointer<QWidget> button(&Button(1));
+    QTest::mouseClick(button, Qt::LeftButton, {}, {8, 10});
+    EXPECT_EQ(options_, nullptr);
+    QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    EXPECT_TRUE(button.isNull());
+}
+
+TEST_F(QtConstituentsTest, ABoxMayBeDestroyedByWhatItTells) {
+    for (const int way : {0, 1, 2}) {
+        Edits edits;
+        std::unique_ptr<host::TextBox> box = Parts().AddTextBox(Boxed(), edits);
+        QPointer<QWidget> widget(&WidgetOf(*box));
+        widget->setFocus();
+        const auto destroy = [&] { box.reset(); };
+        (way == 0 ? edits.onKey : way == 1 ? edits.act : edits.onLostFocus) = destroy;
+        if (way == 2) {
+            box->SetVisible(false);
+        } else {
+            TypeKeys(*widget, u"a");
+        }
+        EXPECT_EQ(box, nullptr) << way;
+        QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        EXPECT_TRUE(widget.isNull());
+    }
+    Edits edits;
+    std::unique_ptr<host::TextBox> box = Parts().AddTextBox(Boxed(), edits);
+    edits.act = [&] { box.reset(); };
+    box->SetText(u"by code");
+    EXPECT_EQ(box, nullptr);
+}
+
+TEST_F(QtConstituentsTest, ButtonsMayBeDestroyedByTheirClicks) {
+    auto button = Parts().AddCommandButton(Captioned(u"go"), clicks_);
+    clicks_.act = [&] { button.reset(); };
+    QTest::mouseClick(&WidgetOf(*button), Qt::LeftButton);
+    EXPECT_EQ(button, nullptr);
+    auto box = Parts().AddCheckBox(Captioned(u"mark"), clicks_);
+    clicks_.act = [&] { box.reset(); };
+    QTest::mouseClick(&WidgetOf(*box), Qt::LeftButton, {}, {8, 10});
+    EXPECT_EQ(box, nullptr);
+    Edits edits;
+    auto bar = Parts().AddScrollBar({.name = u"bar", .placement = {.width = 1500, .height = 255}},
+                                    host::Orientation::Horizontal, edits);
+    edits.act = [&] { bar.reset(); };
+    QTest::keyClick(&WidgetOf(*bar), Qt::Key_Right);
+    EXPECT_EQ(bar, nullptr);
+}
+
+TEST_F(QtConstituentsTest, TheParentMayGoFirst) {
+    auto frame = Parts().AddFrame(Captioned(u"frame"));
+    host::CaptionDesign design = Captioned(u"inside");
+    design.parent = frame.get();
+    auto box = Parts().AddCheckBox(design, clicks_);
+    frame.reset();
+    box.reset();
+    SUCCEED();
+}
+
+TEST_F(QtConstituentsTest, ErrorsOfTheUsersActsGoToTheSink) {
+    auto button = Parts().AddCommandButton(Captioned(u"go"), clicks_);
+    clicks_.act = [] { Raise(ErrorNumber::Overflow); };
+    QTest::mouseClick(&WidgetOf(*button), Qt::LeftButton);
+    ASSERT_EQ(form_.errors.size(), 1U);
+    EXPECT_EQ(form_.errors[0].Number(), 6);
+}
+
+TEST_F(QtConstituentsTest, ErrorsThatCodeCausesThroughQtReachIt) {
+    auto box = Parts().AddTextBox(Boxed(), edits_);
+    WidgetOf(*box).setFocus();
+    edits_.onLostFocus = [] { Raise(ErrorNumber::Overflow); };
+    EXPECT_THROW(box->SetVisible(false), RuntimeError);
+    EXPECT_TRUE(form_.errors.empty());
+    EXPECT_FALSE(box->Visible());
+}
+
+TEST_F(QtConstituentsTest, LabelsNameWhatFollowsThem) {
+    auto plain = Parts().AddLabel(Captioned(u"Plain:"));
+    auto box = Parts().AddTextBox(Boxed(), edits_);
+    EXPECT_EQ(NameOf(WidgetOf(*box)), QStringLiteral("Plain:"));
+    EXPECT_EQ(Accessible(WidgetOf(*box)).role(), QAccessible::EditableText);
+    auto status = Parts().AddLabel(Captioned(u"status"));
+    auto button = Parts().AddCommandButton(Captioned(u"&Press"), clicks_);
+    EXPECT_EQ(NameOf(WidgetOf(*button)), QStringLiteral("Press"));
+    auto marked = Parts().AddLabel(Captioned(u"&Edit"));
+    auto edited = Parts().AddTextBox(Boxed(600), edits_);
+    QTest::keyClick(&form_.window, Qt::Key_E, Qt::AltModifier);
+    EXPECT_TRUE(WidgetOf(*edited).hasFocus());
+}
+
+TEST_F(QtConstituentsTest, TellRolesAndStates) {
+    auto box = Parts().AddCheckBox(Captioned(u"&Wrap"), clicks_);
+    QAccessibleInterface& accessible = Accessible(WidgetOf(*box));
+    EXPECT_EQ(accessible.role(), QAccessible::CheckBox);
+    EXPECT_EQ(accessible.text(QAccessible::Name), QStringLiteral("Wrap"));
+    EXPECT_FALSE(accessible.state().checked);
+    box->SetCheckState(1);
+    EXPECT_TRUE(accessible.state().checked);
+    box->SetCheckState(2);
+    EXPECT_TRUE(accessible.state().checkStateMixed);
+    QTest::mouseClick(&WidgetOf(*box), Qt::LeftButton, {}, {8, 10});
+    EXPECT_EQ(box->CheckState(), 0);
+    box->SetEnabled(false);
+    EXPECT_TRUE(accessible.state().disabled);
+    auto frame = Parts().AddFrame(Captioned(u"&Group"));
+    EXPECT_EQ(Accessible(WidgetOf(*frame)).role(), QAccessible::Grouping);
+    EXPECT_EQ(NameOf(WidgetOf(*frame)), QStringLiteral("Group"));
+}
+
+TEST_F(QtConstituentsTest, APaintedTextIsReadOut) {
+    testing::PaintingControl::Last().onPaint = [](host::Surface& surface) {
+        surface.Print(u"one ");
+        surface.Print(u"line");
+        surface.SetCurrentY(300);
+        surface.Print(u"another");
+    };
+    QWidget& area = control_.Drawing().Area();
+    area.repaint();
+    EXPECT_EQ(NameOf(area), QStringLiteral("one line\nanother"));
+    EXPECT_EQ(Accessible(area).role(), QAccessible::StaticText);
+}
+
+TEST_F(QtConstituentsTest, ALabelFitsWholeLinesOfItsCaption) {
+    auto label = Parts().AddLabel(Captioned(u"x"));
+    label->SetAutoSize(true);
+    const float line = label->Place().height;
+    label->SetCaption(u"first && last\r\n&second");
+    EXPECT_FLOAT_EQ(label->Place().height, 2 * line);
+    auto& shown = static_cast<QLabel&>(WidgetOf(*label));
+    EXPECT_EQ(shown.text(), QStringLiteral("first & last\nsecond"));
+    EXPECT_LE(shown.heightForWidth(shown.width()), shown.height()) << "no line is broken again";
+}
+
+TEST_F(QtConstituentsTest, ColoursFollowThePalette) {
+    auto label = Parts().AddLabel(Captioned(u"x"));
+    label->SetBackColor(Color::Highlight);
+    label->SetForeColor(Rgb(1, 2, 3));
+    const QPalette former = QApplication::palette();
+    QPalette other(QColor(40, 40, 40));
+    other.setColor(QPalette::Highlight, QColor(9, 99, 199));
+    QApplication::setPalette(other);
+    QApplication::processEvents();
+    EXPECT_EQ(WidgetOf(*label).palette().color(QPalette::Window), QColor(9, 99, 199));
+    EXPECT_EQ(WidgetOf(*label).palette().color(QPalette::WindowText), QColor(1, 2, 3));
+    QApplication::setPalette(former);
+}
+
+TEST_F(QtConstituentsTest, TheFirstMadeIsInFront) {
+    auto front = Parts().AddCommandButton(Captioned(u"front"), clicks_);
+    auto behind = Parts().AddCommandButton(Captioned(u"behind"), clicks_);
+    EXPECT_EQ(control_.Drawing().Area().childAt(5, 5), &WidgetOf(*front));
+}
+
+TEST_F(QtConstituentsTest, AWheelAndKeysScroll) {
+    struct Counter final : host::ScrollBarEvents {
+        void Change() override { ++changes; }
+        int changes = 0;
+    } counter;
+    auto bar = Parts().AddScrollBar({.name = u"bar", .placement = {.width = 255, .height = 1500}},
+                                    host::Orientation::Vertical, counter);
+    bar->SetMax(100);
+    bar->SetSmallChange(5);
+    bar->SetLargeChange(40);
+    QTest::keyClick(&WidgetOf(*bar), Qt::Key_Down);
+    EXPECT_EQ(bar->ScrollValue(), 5);
+    QTest::keyClick(&WidgetOf(*bar), Qt::Key_PageDown);
+    EXPECT_EQ(bar->ScrollValue(), 45);
+    QWheelEvent wheel({5, 5}, WidgetOf(*bar).mapToGlobal(QPointF(5, 5)), {}, {0, -120}, {}, {},
+                      Qt::NoScrollPhase, false);
+    QApplication::sendEvent(&WidgetOf(*bar), &wheel);
+    EXPECT_GT(bar->ScrollValue(), 45);
+    EXPECT_EQ(counter.changes, 3);
+}
+
+TEST_F(QtConstituentsTest, APictureBoxClipsWhatLiesInIt) {
+    auto box = Parts().AddPictureBox({.name = u"P", .placement = {.width = 1500, .height = 900}});
+    host::Design design{
+        .name = u"inside", .parent = box.get(), .placement = {-300, -300, 6000, 6000}};
+    auto inside = Parts().AddControl(design, u"testing.Painting");
+    const QRegion seen =
+        dynamic_cast<EmbeddedControl&>(*inside).Inner().Drawing().Area().visibleRegion();
+    EXPECT_EQ(seen.boundingRect().width() * 15, box->ScaleWidth());
+    EXPECT_EQ(seen.boundingRect().height() * 15, box->ScaleHeight());
+    EXPECT_EQ(inside->Place().left, -300);
+}
+
+TEST_F(QtConstituentsTest, AFontChangedByItsHolderIsShown) {
+    auto box = Parts().AddTextBox(Boxed(), edits_);
+    const int size = WidgetOf(*box).font().pixelSize();
+    box->CurrentFont()->SetSize(20);
+    box->Refresh();
+    EXPECT_GT(WidgetOf(*box).font().pixelSize(), size);
+    auto shared = std::make_shared<Font>(u"Arial", 10.0F);
+    box->SetCurrentFont(shared);
+    shared->SetBold(true);
+    QTest::qWait(10);
+    EXPECT_TRUE(WidgetOf(*box).font().bold());
+}
+
+}  // namespace
+}  // namespace lumenkit::qt
