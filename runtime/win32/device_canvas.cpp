@@ -48,18 +48,15 @@ bool Mapping::IsPlain() const {
 }
 
 DeviceCanvas::DeviceCanvas(HDC device, const Mapping& mapping, const RECT& area)
-    : device_(device),
-      saved_(SaveDC(device)),
-      mapping_(mapping),
-      area_(area),
-      isPlain_(mapping.IsPlain()) {
+    : device_(device), mapping_(mapping), area_(area), isPlain_(mapping.IsPlain()) {
+    SaveDC(device_);
     SetTextAlign(device_, TA_LEFT | TA_TOP | TA_NOUPDATECP);
     const RECT clip = mapping_.Of(area_);
     IntersectClipRect(device_, clip.left, clip.top, clip.right, clip.bottom);
 }
 
 DeviceCanvas::~DeviceCanvas() {
-    RestoreDC(device_, saved_);
+    RestoreDC(device_, -1);  // so that a metafile may be played at any depth
 }
 
 void DeviceCanvas::Clear(Color paper) {

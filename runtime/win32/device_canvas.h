@@ -44,7 +44,6 @@ class DeviceCanvas final : public Canvas {
     ScreenFontRef Scaled(const ScreenFont& font) const;
 
     HDC device_;
-    int saved_;
     Mapping mapping_;
     RECT area_;
     bool isPlain_;

@@ -380,6 +380,7 @@ void HostedControl::Body::DrawParts(HDC device, const Mapping& mapping) {
     const MemoryDevice parts(screen.Handle(), size);
     DeviceCanvas(parts.Handle(), Mapping::Plain(size), all).Clear(surface_.BackColor());
     DrawChildren(Handle(), parts.Handle());
+    const int mode = SetStretchBltMode(device, COLORONCOLOR);
     for (HWND child = GetWindow(Handle(), GW_CHILD); child != nullptr;
          child = GetWindow(child, GW_HWNDNEXT)) {
         RECT place = {};
@@ -396,6 +397,7 @@ void HostedControl::Body::DrawParts(HDC device, const Mapping& mapping) {
                    target.bottom - target.top, parts.Handle(), place.left, place.top,
                    place.right - place.left, place.bottom - place.top, SRCCOPY);
     }
+    SetStretchBltMode(device, mode);
 }
 
 // ---- Messages
@@ -449,7 +451,7 @@ LRESULT HostedControl::Body::HandleMessage(UINT message, WPARAM wParam, LPARAM l
                 HandleMouse(message, wParam, lParam);
                 return 0;
             }
-            return Default(message, wParam, lParam);
+            return HostedWindow::HandleMessage(message, wParam, lParam);
     }
 }
 

@@ -79,7 +79,7 @@ LRESULT HostedPage::Body::HandleMessage(UINT message, WPARAM wParam, LPARAM lPar
             SettingsChanged(message, wParam, lParam);
             return 0;
         default:
-            return Default(message, wParam, lParam);
+            return HostedWindow::HandleMessage(message, wParam, lParam);
     }
 }
 

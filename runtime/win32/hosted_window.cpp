@@ -13,12 +13,20 @@ constexpr UINT quietly = SWP_NOZORDER | SWP_NOACTIVATE | SWP_NOOWNERZORDER;
 }  // namespace
 
 HostedWindow::HostedWindow(HINSTANCE module, SIZE size) : parking_(module) {
-    // Dialogs look for what takes the focus among its children.
     Create({.module = module,
             .style = WS_CHILD | WS_CLIPCHILDREN | WS_CLIPSIBLINGS,
-            .extendedStyle = WS_EX_CONTROLPARENT,
             .place = {0, 0, size.cx, size.cy},
             .parent = parking_.Handle()});
+}
+
+LRESULT HostedWindow::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
+    if (message == WM_PARENTNOTIFY && LOWORD(wParam) == WM_CREATE) {
+        // Dialogs look among its children for what takes the focus. Where there are none they must
+        // not look: some go round and round when such a window has the focus itself.
+        const LONG_PTR style = GetWindowLongPtrW(Handle(), GWL_EXSTYLE);
+        SetWindowLongPtrW(Handle(), GWL_EXSTYLE, style | WS_EX_CONTROLPARENT);
+    }
+    return Default(message, wParam, lParam);
 }
 
 bool HostedWindow::MoveInto(HWND parent, const RECT& place) {

@@ -14,6 +14,8 @@ class HostedWindow : public Window {
     /// `size` in pixels. Raises 7 when the platform has no more windows.
     HostedWindow(HINSTANCE module, SIZE size);
 
+    LRESULT HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
+
     /// Puts the window into `parent`, hidden. False where the platform refuses.
     bool MoveInto(HWND parent, const RECT& place);
     void MoveTo(const RECT& place);

@@ -416,6 +416,22 @@ TEST_F(KeyboardTest, KeysThatEditAreNotTheContainers) {
     EXPECT_FALSE(Key(VK_TAB)) << "the focus is elsewhere";
 }
 
+// What a dialog's message loop does by itself.
+TEST_F(KeyboardTest, DialogsFindTheConstituents) {
+    EXPECT_EQ(GetNextDlgTabItem(form_.Window(), nullptr, FALSE), WindowOf(*text_));
+    SetFocus(WindowOf(*check_));
+    EXPECT_EQ(GetNextDlgTabItem(form_.Window(), WindowOf(*check_), FALSE), WindowOf(*button_));
+}
+
+TEST_F(HostedControlTest, DialogsPassByAControlWithoutConstituents) {
+    const HWND button = CreateWindowExW(0, L"BUTTON", L"", WS_CHILD | WS_VISIBLE | WS_TABSTOP, 300,
+                                        300, 50, 20, form_.Window(), nullptr, nullptr, nullptr);
+    Hosted().Focus();
+    EXPECT_EQ(GetFocus(), Window());
+    EXPECT_EQ(GetNextDlgTabItem(form_.Window(), Window(), FALSE), button);
+    EXPECT_EQ(GetNextDlgTabItem(form_.Window(), Window(), TRUE), button);
+}
+
 TEST(Mnemonics, AreMarkedOnce) {
     EXPECT_TRUE(win32::AnswersTo(L"&Open", L'o'));
     EXPECT_TRUE(win32::AnswersTo(L"Save &As", L'A'));

@@ -9,6 +9,7 @@
 #include "frame/automation/interface_table.h"
 #include "frame/utf8.h"
 #include "runtime/win32/colors.h"
+#include "tests/support/allocation_counter.h"
 #include "tests/support/picture.h"
 #include "tests/support/windows_form.h"
 #include "tests/unit/win32/painted_control.h"
@@ -244,6 +245,26 @@ TEST_F(SurfaceTest, DrawsIntoAMetafile) {
     DeleteEnhMetaFile(file);
 }
 
+TEST_F(SurfaceTest, DrawsIntoAnOldMetafileAsContainersKeepIt) {
+    PaintBy([&](host::Surface& surface) {
+        surface.FillBox(Pixels(10), Pixels(20), Pixels(19), Pixels(29), Rgb(255, 0, 0));
+    });
+    const HDC recorder = CreateMetaFileW(nullptr);
+    SetWindowOrgEx(recorder, 0, 0, nullptr);
+    SetWindowExtEx(recorder, size.cx, size.cy, nullptr);
+    control_.Hosted().Draw(recorder, {0, 0, size.cx, size.cy});
+    const HMETAFILE file = CloseMetaFile(recorder);
+    Picture picture(size.cx * 2, size.cy * 2);
+    SaveDC(picture.Device());
+    SetMapMode(picture.Device(), MM_ANISOTROPIC);
+    SetViewportExtEx(picture.Device(), size.cx * 2, size.cy * 2, nullptr);
+    PlayMetaFile(picture.Device(), file);
+    RestoreDC(picture.Device(), -1);
+    DeleteMetaFile(file);
+    EXPECT_EQ(picture.Count(red, {20, 40, 40, 60}), 400);
+    EXPECT_EQ(picture.Count(red), 400);
+}
+
 TEST_F(SurfaceTest, DrawingElsewhereChangesNothing) {
     PaintBy([&](host::Surface& surface) { surface.SetCurrentX(Pixels(70)); });
     Surface().SetCurrentX(Pixels(3));
@@ -352,6 +373,34 @@ TEST_F(SurfaceTest, TellsWhenThePictureChanges) {
     OnScreen();
     Surface().Print(u"three");
     EXPECT_EQ(control_.pictureChanges, 2);
+}
+
+TEST_F(SurfaceTest, RepaintingAllocatesNothing) {
+    for (const bool keeps : {false, true}) {
+        Surface().SetAutoRedraw(keeps);
+        const auto draw = [&](host::Surface& surface) {
+            surface.Cls();
+            for (int run = 0; run < 40; ++run) {
+                surface.CurrentFont()->SetBold(run % 2 == 0);
+                surface.SetForeColor(run % 3 == 0 ? Rgb(255, 0, 0) : Color::ButtonText);
+                surface.SetCurrentX(Pixels(10));
+                surface.Print(u"a run of text");
+                surface.FillBox(0, 0, Pixels(3), surface.CurrentY(), Color{});
+                surface.SetCurrentY(Pixels(run * 3));
+            }
+        };
+        const auto repaint = [&] {
+            if (keeps) {
+                draw(Surface());
+            }
+            Surface().Refresh();
+        };
+        Painted().paint = draw;
+        repaint();
+        const std::int64_t before = AllocationCount();
+        repaint();
+        EXPECT_EQ(AllocationCount(), before) << keeps;
+    }
 }
 
 TEST_F(SurfaceTest, OddNumbersDoNoHarm) {
