@@ -45,7 +45,9 @@ class Activation {
  private:
     void ShowUI();
     void TellFrame(IOleInPlaceActiveObject* object);
-    bool IsStillActive(const ComPtr<IOleInPlaceSite>& site) const { return site_ == site; }
+    bool IsStillActive(const ComPtr<IOleInPlaceSite>& site) const {
+        return site_.Get() == site.Get();
+    }
 
     Activated& control_;
     ComPtr<IOleInPlaceSite> site_;

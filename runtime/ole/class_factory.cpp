@@ -35,9 +35,9 @@ HRESULT ClassFactory::CreateInstance(IUnknown* outer, REFIID interfaceId, void**
         }
         ComPtr<IUnknown> made;
         if (type_.kind == ClassKind::Control) {
-            made.Attach(new ControlObject(component_, type_, outer));
+            made = Adopted<IUnknown>(new ControlObject(component_, type_, outer));
         } else {
-            made.Attach(new PageObject(component_, type_, outer));
+            made = Adopted<IUnknown>(new PageObject(component_, type_, outer));
         }
         return made->QueryInterface(interfaceId, object);
     });

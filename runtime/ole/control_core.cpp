@@ -1,5 +1,6 @@
 #include "runtime/ole/control_core.h"
 
+#include "frame/raised_flag.h"
 #include "runtime/ole/event_call.h"
 #include "runtime/ole/identifiers.h"
 #include "runtime/ole/result.h"
@@ -65,7 +66,9 @@ void ControlCore::Make() {
 }
 
 win32::HostedControl& ControlCore::Started() {
-    if (!hosted_->IsStarted()) {
+    // The container may use the control while it is starting.
+    if (!hosted_->IsStarted() && !isStarting_) {
+        const RaisedFlag starting(isStarting_);
         hosted_->StartNew();
         dirty_ = true;
     }
@@ -81,10 +84,10 @@ void ControlCore::StartNew() {
 }
 
 void ControlCore::Restart() {
+    if (activation_.IsActive() || callouts_ != 0 || isStarting_) {
+        throw ComError(E_UNEXPECTED);
+    }
     if (hosted_->IsStarted()) {
-        if (activation_.IsActive() || callouts_ != 0) {
-            throw ComError(E_UNEXPECTED);
-        }
         Make();
     }
 }
@@ -96,6 +99,7 @@ void ControlCore::Load(host::PropertyBag& bag) {
     if (!std::holds_alternative<Empty>(width) && !std::holds_alternative<Empty>(height)) {
         SetExtent({ToLong(width), ToLong(height)});
     }
+    const RaisedFlag starting(isStarting_);
     hosted_->StartSaved(bag);
     startedOnPurpose_ = true;
     dirty_ = false;

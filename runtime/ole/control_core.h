@@ -104,6 +104,7 @@ class ControlCore final : public win32::ControlSite,
     Activation activation_{*this};
     Extent extent_;
     bool dirty_ = false;
+    bool isStarting_ = false;
     bool startedOnPurpose_ = false;
     int frozen_ = 0;
     int callouts_ = 0;

@@ -112,7 +112,7 @@ bool DispatchObject::IsSame(const Object& other) const {
     ComPtr<IUnknown> own;
     ComPtr<IUnknown> others;
     return SUCCEEDED(dispatch_.As(&own)) && SUCCEEDED(backed->Dispatch().As(&others)) &&
-           own == others;
+           own.Get() == others.Get();
 }
 
 }  // namespace lumenkit::ole

@@ -17,8 +17,7 @@ HRESULT VBDllGetClassObject(const ClassTable& classes, REFCLSID classId, REFIID 
         if (type == nullptr) {
             return CLASS_E_CLASSNOTAVAILABLE;
         }
-        ComPtr<ClassFactory> factory;
-        factory.Attach(new ClassFactory(Component::Of(classes), *type));
+        const auto factory = Adopted(new ClassFactory(Component::Of(classes), *type));
         return factory->QueryInterface(interfaceId, object);
     });
 }

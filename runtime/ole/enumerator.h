@@ -34,9 +34,7 @@ class Enumerator final : public Interface {
     Enumerator& operator=(const Enumerator&) = delete;
 
     static ComPtr<Interface> Over(List list) {
-        ComPtr<Interface> made;
-        made.Attach(new Enumerator(std::make_shared<const List>(std::move(list))));
-        return made;
+        return Adopted<Interface>(new Enumerator(std::make_shared<const List>(std::move(list))));
     }
 
     HRESULT STDMETHODCALLTYPE QueryInterface(REFIID iid, void** object) override {

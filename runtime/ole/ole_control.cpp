@@ -7,9 +7,11 @@ namespace lumenkit::ole {
 namespace {
 
 BOOL CALLBACK WantsReturn(HWND window, LPARAM found) {
-    constexpr LRESULT wantsAll = DLGC_WANTALLKEYS;
-    const bool isShown = (GetWindowLongPtrW(window, GWL_STYLE) & WS_VISIBLE) != 0;
-    if (isShown && (SendMessageW(window, WM_GETDLGCODE, 0, 0) & wantsAll) != 0) {
+    constexpr LONG_PTR shownWithLines = WS_VISIBLE | ES_MULTILINE;
+    const bool mayHaveLines =
+        (GetWindowLongPtrW(window, GWL_STYLE) & shownWithLines) == shownWithLines;
+    // The second style means something else to other windows than text boxes.
+    if (mayHaveLines && (SendMessageW(window, WM_GETDLGCODE, 0, 0) & DLGC_HASSETSEL) != 0) {
         *reinterpret_cast<bool*>(found) = true;
         return FALSE;
     }

@@ -153,6 +153,8 @@ void OleFont::SetCharset(std::int16_t charset) {
 }
 
 HFONT OleFont::Handle() const {
+    // A font that was changed may settle on another size when it is first realised.
+    Attribute(*font_.Get(), &IFont::get_Size);
     return Attribute(*font_.Get(), &IFont::get_hFont);
 }
 

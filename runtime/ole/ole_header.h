@@ -14,4 +14,13 @@ namespace lumenkit::ole {
 
 using Microsoft::WRL::ComPtr;
 
+/// Takes over the reference that a new object starts with. (ComPtr::Attach of the compiler's
+/// headers counts one more.)
+template <typename Interface>
+ComPtr<Interface> Adopted(Interface* object) {
+    ComPtr<Interface> holder;
+    *holder.GetAddressOf() = object;
+    return holder;
+}
+
 }  // namespace lumenkit::ole

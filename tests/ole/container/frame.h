@@ -14,9 +14,7 @@ class Frame final : public Counted<IOleInPlaceFrame> {
 
     HRESULT STDMETHODCALLTYPE GetWindow(HWND* /*window*/) override { return E_NOTIMPL; }
     HRESULT STDMETHODCALLTYPE ContextSensitiveHelp(BOOL /*enter*/) override { return E_NOTIMPL; }
-    HRESULT STDMETHODCALLTYPE GetBorder(RECT* /*border*/) override {
-        return INPLACE_E_NOTOOLSPACE;
-    }
+    HRESULT STDMETHODCALLTYPE GetBorder(RECT* /*border*/) override { return INPLACE_E_NOTOOLSPACE; }
     HRESULT STDMETHODCALLTYPE RequestBorderSpace(LPCBORDERWIDTHS /*widths*/) override {
         return INPLACE_E_NOTOOLSPACE;
     }

@@ -14,8 +14,7 @@ class EventSink final : public Counted<IDispatch> {
  public:
     using Handler = std::function<HRESULT(DISPID event, DISPPARAMS& arguments)>;
 
-    explicit EventSink(Handler handler)
-        : Counted(IID_IDispatch), handler_(std::move(handler)) {}
+    explicit EventSink(Handler handler) : Counted(IID_IDispatch), handler_(std::move(handler)) {}
 
     HRESULT STDMETHODCALLTYPE GetTypeInfoCount(UINT* /*count*/) override { return E_NOTIMPL; }
     HRESULT STDMETHODCALLTYPE GetTypeInfo(UINT /*index*/, LCID /*locale*/,

@@ -1,0 +1,15 @@
+// COM on the tests' thread.
+#include <gtest/gtest.h>
+
+#include "runtime/ole/ole_header.h"
+
+namespace {
+
+class ComEnvironment final : public ::testing::Environment {
+    void SetUp() override { ASSERT_EQ(OleInitialize(nullptr), S_OK); }
+    void TearDown() override { OleUninitialize(); }
+};
+
+const auto* const environment = ::testing::AddGlobalTestEnvironment(new ComEnvironment);
+
+}  // namespace

@@ -1,0 +1,25 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "runtime/ole/ole_header.h"
+
+namespace lumenkit::ole {
+
+/// Keeps message boxes from opening on this thread and counts them.
+class MessageBoxes {
+ public:
+    MessageBoxes();
+    ~MessageBoxes();
+    MessageBoxes(const MessageBoxes&) = delete;
+    MessageBoxes& operator=(const MessageBoxes&) = delete;
+
+    /// How many were not shown since the last call.
+    static int Take();
+
+ private:
+    HHOOK hook_;
+};
+
+}  // namespace lumenkit::ole

@@ -1,0 +1,112 @@
+#include "tests/unit/ole/ole_test.h"
+
+namespace lumenkit::ole {
+namespace {
+
+class PageSite final : public container::Counted<IPropertyPageSite> {
+ public:
+    PageSite() : Counted(IID_IPropertyPageSite) {}
+
+    HRESULT STDMETHODCALLTYPE OnStatusChange(DWORD flags) override {
+        status |= flags;
+        return S_OK;
+    }
+    HRESULT STDMETHODCALLTYPE GetLocaleID(LCID* /*locale*/) override { return E_NOTIMPL; }
+    HRESULT STDMETHODCALLTYPE GetPageContainer(IUnknown** /*container*/) override {
+        return E_NOTIMPL;
+    }
+    HRESULT STDMETHODCALLTYPE TranslateAccelerator(MSG* /*message*/) override { return S_FALSE; }
+
+    DWORD status = 0;
+};
+
+class PropertyPageTest : public OleTest {
+ protected:
+    ComPtr<IPropertyPage2> page_ = Create<IPropertyPage2>(u"VLabelCaption");
+    ComPtr<IDispatch> label_ = Create<IDispatch>(u"VLabel");
+    PageSite site_;
+    container::Form form_;
+
+    void Show() {
+        EXPECT_EQ(page_->SetPageSite(&site_), S_OK);
+        IUnknown* object = label_.Get();
+        EXPECT_EQ(page_->SetObjects(1, &object), S_OK);
+        const RECT place = {0, 0, 480, 372};
+        EXPECT_EQ(page_->Activate(form_.Window(), &place, FALSE), S_OK);
+        EXPECT_EQ(page_->Show(SW_SHOW), S_OK);
+    }
+    // The page's first text box, which holds the caption.
+    HWND CaptionBox() const {
+        const HWND page = GetWindow(form_.Window(), GW_CHILD);
+        return FindWindowExW(page, nullptr, L"Edit", nullptr);
+    }
+    void TearDown() override {
+        page_->SetObjects(0, nullptr);
+        page_->SetPageSite(nullptr);
+        EXPECT_EQ(site_.References(), 0U);
+        page_.Reset();
+        label_.Reset();
+        OleTest::TearDown();
+    }
+};
+
+TEST_F(PropertyPageTest, SaysWhatItIs) {
+    PROPPAGEINFO information = {};
+    EXPECT_EQ(page_->GetPageInfo(&information), E_INVALIDARG);
+    information.cb = sizeof information;
+    ASSERT_EQ(page_->GetPageInfo(&information), S_OK);
+    EXPECT_STREQ(information.pszTitle, L"Caption");
+    EXPECT_EQ(information.size.cx, 480);
+    EXPECT_EQ(information.size.cy, 372);
+    CoTaskMemFree(information.pszTitle);
+    EXPECT_EQ(page_->GetPageInfo(nullptr), E_POINTER);
+}
+
+TEST_F(PropertyPageTest, EditsALabel) {
+    Show();
+    const HWND box = CaptionBox();
+    ASSERT_NE(box, nullptr);
+    std::array<wchar_t, 20> shown = {};
+    GetWindowTextW(box, shown.data(), static_cast<int>(shown.size()));
+    EXPECT_STREQ(shown.data(), L"VLabel");
+    site_.status = 0;
+    SendMessageW(box, WM_CHAR, 'x', 1);
+    EXPECT_EQ(page_->IsPageDirty(), S_OK);
+    EXPECT_NE(site_.status & PROPPAGESTATUS_DIRTY, 0U);
+    EXPECT_EQ(ToText(Late(label_).Get(L"Caption")), u"VLabel");
+    EXPECT_EQ(page_->Apply(), S_OK);
+    EXPECT_EQ(page_->IsPageDirty(), S_FALSE);
+    EXPECT_EQ(ToText(Late(label_).Get(L"Caption")), u"xVLabel");
+    EXPECT_EQ(page_->EditProperty(0), S_OK);
+    EXPECT_EQ(page_->Show(SW_HIDE), S_OK);
+    EXPECT_EQ(page_->Deactivate(), S_OK);
+    EXPECT_EQ(page_->Deactivate(), E_UNEXPECTED);
+}
+
+TEST_F(PropertyPageTest, FailuresOfTheEditedControlGoToTheHost) {
+    const ComPtr<IDispatch> memo = Create<IDispatch>(u"VMemo");
+    IUnknown* object = memo.Get();
+    // It has no caption.
+    EXPECT_EQ(page_->SetObjects(1, &object), static_cast<HRESULT>(0x800A0000 + 438));
+    EXPECT_EQ(page_->SetObjects(0, nullptr), S_OK);
+    EXPECT_EQ(page_->Apply(), E_UNEXPECTED);
+}
+
+TEST_F(PropertyPageTest, RefusesBadCalls) {
+    EXPECT_EQ(page_->Activate(nullptr, nullptr, FALSE), E_POINTER);
+    const RECT place = {0, 0, 100, 100};
+    EXPECT_EQ(page_->Activate(nullptr, &place, FALSE), E_INVALIDARG);
+    EXPECT_EQ(page_->Show(SW_SHOW), E_UNEXPECTED);
+    EXPECT_EQ(page_->Show(77), E_INVALIDARG);
+    EXPECT_EQ(page_->Move(nullptr), E_POINTER);
+    EXPECT_EQ(page_->Move(&place), E_UNEXPECTED);
+    EXPECT_EQ(page_->TranslateAccelerator(nullptr), E_POINTER);
+    EXPECT_EQ(page_->SetObjects(1, nullptr), E_POINTER);
+    EXPECT_EQ(page_->EditProperty(0), E_UNEXPECTED);
+    EXPECT_EQ(page_->Help(nullptr), E_NOTIMPL);
+    EXPECT_EQ(page_->SetPageSite(&site_), S_OK);
+    EXPECT_EQ(page_->SetPageSite(&site_), E_UNEXPECTED);
+}
+
+}  // namespace
+}  // namespace lumenkit::ole
