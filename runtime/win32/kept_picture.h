@@ -8,7 +8,7 @@
 namespace lumenkit::win32 {
 
 /// Keeps what is drawn since it was cleared, to be drawn again on any canvas. Refilling it after it
-/// was cleared allocates nothing.
+/// was cleared allocates nothing. What is drawn over stays in it: it grows until it is cleared.
 class KeptPicture final : public Canvas {
  public:
     void Clear(Color paper) override;
@@ -16,7 +16,6 @@ class KeptPicture final : public Canvas {
     void Fill(const RECT& box, Color color) override;
 
     void DrawOn(Canvas& canvas) const;
-    bool IsEmpty() const { return items_.empty(); }
 
  private:
     struct Item {

@@ -88,7 +88,6 @@ class Surface final : public host::Surface, private FontListener {
     void DrawOn(Canvas& canvas);
     /// The texts that the picture shows, in lines.
     Text ShownTexts();
-    bool IsPainting() const { return canvas_ != nullptr; }
 
  private:
     class Painting;
