@@ -101,7 +101,12 @@ float OleFont::Size() const {
 }
 
 void OleFont::SetSize(float points) {
-    CheckValue(font_->put_Size(FontSize(points)));
+    const CY size = FontSize(points);
+    // What the font reports is what was found for the size that it was asked for. Whoever saves and
+    // restores the one must not change the other.
+    if (size.int64 != Attribute(*font_.Get(), &IFont::get_Size).int64) {
+        CheckValue(font_->put_Size(size));
+    }
 }
 
 bool OleFont::Bold() const {
@@ -153,8 +158,6 @@ void OleFont::SetCharset(std::int16_t charset) {
 }
 
 HFONT OleFont::Handle() const {
-    // A font that was changed may settle on another size when it is first realised.
-    Attribute(*font_.Get(), &IFont::get_Size);
     return Attribute(*font_.Get(), &IFont::get_hFont);
 }
 

@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # register.sh wine.sh server folder
-# Registers the server and keeps in the folder what the registry said before and after. Fails unless
-# the server can be found by all that clients look for.
+# Registers the server. Fails unless it can then be found by all that clients look for, and unless
+# unregistering takes all of that away again and nothing else.
 set -euo pipefail
 . "$(dirname "$0")/registry.sh"
 
@@ -9,12 +9,19 @@ set -euo pipefail
 dump before
 "$wine" regsvr32 /s "Z:$server"
 dump registered
+"$wine" regsvr32 /s /u "Z:$server"
+dump after
+diff "$folder/before.txt" "$folder/after.txt" || {
+    echo "unregistering left something behind, or took too much"
+    exit 1
+}
+"$wine" regsvr32 /s "Z:$server"
 
-added=$(comm -13 <(sort "$folder/before.txt") <(sort "$folder/registered.txt"))
+comm -13 <(sort "$folder/before.txt") <(sort "$folder/registered.txt") | grep '^\[' >"$folder/keys.txt"
 demand() {
-    [ "$(grep -c -- "$1" <<<"$added")" = "$2" ] || {
+    [ "$(grep -ic -- "$1" "$folder/keys.txt")" = "$2" ] || {
         echo "expected $2 of $1 in what registering adds:"
-        echo "$added"
+        cat "$folder/keys.txt"
         exit 1
     }
 }

@@ -1,11 +1,22 @@
 Option Explicit
 
+' Objects are made by WScript.CreateObject: Wine's own CreateObject wants to give an object that takes
+' a site one that cscript has not got.
+
 ' What all scripts use. A type is checked too: 1 is an Integer, CLng(1) a Long.
 Sub Equal(what, expected, found)
     If VarType(expected) <> VarType(found) Then
         WScript.Echo "failed: " & what & " is a " & TypeName(found) & ", not a " & TypeName(expected)
     ElseIf expected <> found Then
         WScript.Echo "failed: " & what & " is [" & found & "], not [" & expected & "]"
+    End If
+End Sub
+
+' Sizes of fonts are those of the screen's nearest font: within a pixel of what was asked for.
+Sub EqualSize(what, expected, found)
+    Equal "the type of " & what, VarType(expected), VarType(found)
+    If Abs(expected - found) > 0.75 Then
+        WScript.Echo "failed: " & what & " is [" & found & "], not about [" & expected & "]"
     End If
 End Sub
 

@@ -1,5 +1,5 @@
 Dim memo
-Set memo = CreateObject("lumenkit.VMemo")
+Set memo = WScript.CreateObject("lumenkit.VMemo")
 
 ' A new one.
 Equal "Text", "VMemo" & vbCrLf, memo.Text
@@ -7,7 +7,7 @@ Equal "ForeColor", &H80000008, memo.ForeColor
 Equal "Enabled", True, memo.Enabled
 Equal "CausesValidation", True, memo.CausesValidation
 Equal "FontName", "Courier", memo.FontName
-Equal "FontSize", CSng(9.75), memo.FontSize
+EqualSize "FontSize", CSng(9.75), memo.FontSize
 Equal "Locked", False, memo.Locked
 Equal "MousePointer", CLng(0), memo.MousePointer
 Equal "ScrollBars", CLng(0), memo.ScrollBars
@@ -28,7 +28,7 @@ Equal "CausesValidation", True, memo.CausesValidation
 memo.FontName = "Arial"
 Equal "FontName", "Arial", memo.FontName
 memo.FontSize = 12
-Equal "FontSize", CSng(12), memo.FontSize
+EqualSize "FontSize", CSng(12), memo.FontSize
 memo.Locked = True
 Equal "Locked", True, memo.Locked
 memo.MaxLength = 100
@@ -84,12 +84,12 @@ Set font = memo.Font
 font.Bold = True
 Equal "Font.Bold", True, memo.Font.Bold
 Equal "Font.Name", "Arial", font.Name
-Set font = CreateObject("lumenkit.VLabel").Font
+Set font = WScript.CreateObject("lumenkit.VLabel").Font
 font.Name = "Courier New"
-font.Size = 8
+font.Size = 9
 Set memo.Font = font
 Equal "FontName", "Courier New", memo.FontName
-Equal "FontSize", CSng(8), memo.FontSize
+EqualSize "FontSize", CSng(9), memo.FontSize
 
 ' What goes wrong inside is shown; the script goes on.
 Box "VMEMO TestMessage 11"

@@ -1,5 +1,5 @@
 Dim options
-Set options = CreateObject("lumenkit.VOptList")
+Set options = WScript.CreateObject("lumenkit.VOptList")
 
 ' A new one: the list is not yet parsed.
 Equal "Enabled", True, options.Enabled
@@ -75,8 +75,8 @@ Equal "Contents", "1;a;b|2;c", options.Contents
 Dim font
 Set font = options.Font
 font.Size = 12
-Equal "Font.Size", CCur(12), options.Font.Size
-Set font = CreateObject("lumenkit.VMemo").Font
+EqualSize "Font.Size", CCur(12), options.Font.Size
+Set font = WScript.CreateObject("lumenkit.VMemo").Font
 Set options.Font = font
 Equal "Font.Name", "Courier", options.Font.Name
 

@@ -34,8 +34,9 @@ std::vector<std::string> LinesOf(const std::filesystem::path& file) {
 
 std::string Narrow(const std::wstring& text) {
     std::string narrow;
-    std::ranges::transform(text, std::back_inserter(narrow),
-                           [](wchar_t unit) { return unit < 0x80 ? static_cast<char>(unit) : '?'; });
+    std::ranges::transform(text, std::back_inserter(narrow), [](wchar_t unit) {
+        return unit < 0x80 ? static_cast<char>(unit) : '?';
+    });
     return narrow;
 }
 

@@ -9,8 +9,8 @@ namespace lumenkit::clients {
 
 struct ScriptRun {
     unsigned long exitCode = 0;
-    std::vector<std::string> lines;           ///< what it wrote
-    std::vector<std::wstring> errors;         ///< what the error boxes said, see ErrorIn
+    std::vector<std::string> lines;    ///< what it wrote
+    std::vector<std::wstring> errors;  ///< what the error boxes said, see ErrorIn
 };
 
 /// Runs `program` with the arguments and closes each message box that it shows.

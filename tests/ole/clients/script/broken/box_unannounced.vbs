@@ -1,4 +1,4 @@
 Dim memo
-Set memo = CreateObject("lumenkit.VMemo")
+Set memo = WScript.CreateObject("lumenkit.VMemo")
 memo.TestMessage
 WScript.Echo "all done"

@@ -1,4 +1,4 @@
 Dim label
-Set label = CreateObject("lumenkit.VLabel")
+Set label = WScript.CreateObject("lumenkit.VLabel")
 label.NoSuchMember
 WScript.Echo "all done"
