@@ -29,6 +29,8 @@ template <typename Interface>
 class BasicTextConstituent : public BasicConstituent<Interface>, private FontListener {
  public:
     ~BasicTextConstituent() override { this->Destroy(); }  // while there is a font to draw with
+    BasicTextConstituent(const BasicTextConstituent&) = delete;
+    BasicTextConstituent& operator=(const BasicTextConstituent&) = delete;
 
     host::FontRef CurrentFont() const override { return font_.Get(); }
     /// Raises 380 for a font of another runtime.

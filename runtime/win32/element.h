@@ -33,6 +33,8 @@ HWND ParentWindow(const Owner& owner, const host::Design& design);
 class Element : public Window, public Drawable {
  public:
     ~Element() override;
+    Element(const Element&) = delete;
+    Element& operator=(const Element&) = delete;
 
     const Text& Name() const { return name_; }
     std::int16_t Index() const { return index_; }  ///< in a control array, else -1

@@ -16,6 +16,8 @@ class TextBox final : public BasicTextConstituent<host::TextBox> {
  public:
     TextBox(const Owner& owner, const host::TextBoxDesign& design, host::TextBoxEvents& events);
     ~TextBox() override;
+    TextBox(const TextBox&) = delete;
+    TextBox& operator=(const TextBox&) = delete;
 
     TextView GetText() const override;
     void SetText(TextView text) override;
