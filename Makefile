@@ -1,6 +1,6 @@
 # Every target installs what it needs and works on a fresh Debian 12 machine.
 .DEFAULT_GOAL := help
-.PHONY: run test bench ocx fuzz lint format golden published clean help
+.PHONY: run test bench ocx run-ocx fuzz lint format golden published clean help
 
 run: ## do the main job: compile the sample captions and show what comes out
 	@scripts/run.sh
@@ -13,6 +13,9 @@ bench: ## measure, and print each figure as a ratio to a peer or a bound
 
 ocx: ## cross-compile the component server for Windows, x64 and x86
 	@scripts/ocx.sh
+
+run-ocx: ## show the controls of lumenkit.ocx in a window, under Wine
+	@scripts/run-ocx.sh
 
 fuzz: ## fuzz each target for FUZZ_SECONDS (default 600)
 	@scripts/fuzz.sh
@@ -33,4 +36,4 @@ clean: ## remove everything that was built
 	@rm -rf build
 
 help: ## this list
-	@sed -n 's/^\([a-z]*\):.*## \(.*\)/  make \1\t\2/p' Makefile | expand -t 16
+	@sed -n 's/^\([a-z-]*\):.*## \(.*\)/  make \1\t\2/p' Makefile | expand -t 16

@@ -1,0 +1,25 @@
+#!/usr/bin/env bash
+# Runs a program that prints "ready" once it can be seen, takes a picture of the screen and ends it:
+#   scripts/shoot.sh picture.png program [argument...]
+# Edges of one colour are cut off.
+set -euo pipefail
+
+picture=$1
+shift
+rm -f "$picture"
+coproc "$@"
+program=$COPROC_PID
+while read -r -t 60 line <&"${COPROC[0]}"; do
+    line=${line%$'\r'}
+    [ "$line" != ready ] || break
+    printf '%s\n' "$line" >&2
+done
+if [ "${line:-}" != ready ]; then
+    echo "shoot: the program never was ready" >&2
+    kill "$program" 2>/dev/null || true
+    exit 1
+fi
+sleep 0.5  # until the screen has what was drawn
+import -window root "$picture"
+convert "$picture" -trim +repage "$picture"
+kill "$program" 2>/dev/null || true
