@@ -85,7 +85,9 @@ void Label::FitToCaption() {
     const TwipsPerPixel& twips = TwipsPerPixel::OfScreens();
     host::Placement fitting = Where();
     fitting.width = WholeTwips(width, twips.x);
-    fitting.height = WholeTwips(face.LineHeight() * static_cast<double>(lines.size()), twips.y);
+    // Qt's own lines are whole pixels high.
+    const double height = std::ceil(face.LineHeight()) * static_cast<double>(lines.size());
+    fitting.height = WholeTwips(height, twips.y);
     MoveTo(fitting);
 }
 

@@ -1,5 +1,6 @@
 #include "runtime/qt/scroll_bar.h"
 
+#include <QKeyEvent>
 #include <QScrollBar>
 #include <QSignalBlocker>
 #include <algorithm>
@@ -8,10 +9,31 @@
 
 namespace lumenkit::qt {
 
+namespace {
+
+// Qt's own bar goes back with the right arrow key and on with the left one.
+class BarWidget final : public QScrollBar {
+ public:
+    using QScrollBar::QScrollBar;
+
+ protected:
+    void keyPressEvent(QKeyEvent* event) override {
+        if (event->key() == Qt::Key_Right) {
+            triggerAction(SliderSingleStepAdd);
+        } else if (event->key() == Qt::Key_Left) {
+            triggerAction(SliderSingleStepSub);
+        } else {
+            QScrollBar::keyPressEvent(event);
+        }
+    }
+};
+
+}  // namespace
+
 ScrollBar::ScrollBar(Constituents& owner, const host::Design& design, host::Orientation orientation,
                      host::ScrollBarEvents& events)
     : BasicConstituent(owner, design), events_(events) {
-    auto bar = std::make_unique<QScrollBar>(
+    auto bar = std::make_unique<BarWidget>(
         orientation == host::Orientation::Horizontal ? Qt::Horizontal : Qt::Vertical,
         &ParentFor(owner, design));
     bar->setFocusPolicy(Qt::StrongFocus);

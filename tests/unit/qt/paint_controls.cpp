@@ -1,6 +1,6 @@
 // Paints the controls and the caption page with sample contents into PNG files:
 //   paint_controls folder [dark]
-// QT_SCALE_FACTOR says at which scale.
+// QT_SCALE_FACTOR says at which scale; without QT_QPA_PLATFORM no screen is used.
 #include <QApplication>
 #include <QPalette>
 #include <QStyleFactory>
@@ -66,6 +66,15 @@ class Painter {
         options.Automation().Let(u"Caption", Text(u"&Size"));
         options.Automation().Let(u"Contents", Text(u"S;&Small|M;&Medium|L;&Large"));
         options.Automation().Let(u"ListIndex", std::int16_t{1});
+        for (std::int16_t index = 0; index < 3; ++index) {  // below the caption, as a form does
+            auto& button =
+                dynamic_cast<host::Constituent&>(*options.Parts().Find(u"Option1", index));
+            host::Placement place = button.Place();
+            place.left += 150;
+            place.top += 300;
+            place.width -= 300;
+            button.Move(place);
+        }
         Save(options, "options");
     }
 
@@ -125,6 +134,9 @@ void PaintAll(const fs::path& folder) {
 }  // namespace lumenkit
 
 int main(int argc, char** argv) {
+    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) {
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    }
     const QApplication application(argc, argv);
     QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
     if (argc < 2) {
