@@ -1,5 +1,6 @@
 #include "runtime/win32/font_cache.h"
 
+#include <iterator>
 #include <string_view>
 
 #include "frame/runtime_error.h"
@@ -16,8 +17,8 @@ std::string_view Numbers(const LOGFONTW& design) {
 }
 
 std::wstring_view FaceName(const LOGFONTW& design) {
-    return std::wstring_view(design.lfFaceName, LF_FACESIZE)
-        .substr(0, wcsnlen(design.lfFaceName, LF_FACESIZE));
+    const wchar_t* const name = std::data(design.lfFaceName);
+    return {name, wcsnlen(name, LF_FACESIZE)};
 }
 
 }  // namespace

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <iterator>
 
 #include "frame/checked_integer.h"
 #include "frame/numbers.h"
@@ -52,6 +53,7 @@ void FontListeners::Tell() {
         Telling& operator=(const Telling&) = delete;
     };
     const Telling telling(*this);
+    // NOLINTNEXTLINE(modernize-loop-convert): others may come meanwhile
     for (std::size_t index = 0; index < listeners_.size(); ++index) {
         if (FontListener* const listener = listeners_[index]) {
             listener->FontChanged();
@@ -117,7 +119,7 @@ LOGFONTW GdiFont::Design() const {
     design.lfStrikeOut = strikethrough_ ? 1 : 0;
     design.lfCharSet = static_cast<BYTE>(charset_);
     const std::size_t length = std::min<std::size_t>(name_.size(), LF_FACESIZE - 1);
-    std::copy_n(AsWide(name_.data()), length, design.lfFaceName);
+    std::copy_n(AsWide(name_.data()), length, std::begin(design.lfFaceName));
     return design;
 }
 

@@ -11,13 +11,14 @@ class ThreadShared {
  public:
     ThreadShared() {
         if (instance == nullptr) {
-            instance = new T;
+            instance = new T;  // NOLINT(cppcoreguidelines-owning-memory): the shares own it
         }
         ++shares;
         instance_ = instance;
     }
     ~ThreadShared() {
         if (--shares == 0) {
+            // NOLINTNEXTLINE(cppcoreguidelines-owning-memory)
             delete std::exchange(instance, nullptr);
         }
     }
@@ -28,8 +29,10 @@ class ThreadShared {
     T* operator->() const { return instance_; }
 
  private:
+    // NOLINTBEGIN(cppcoreguidelines-avoid-non-const-global-variables): one for each thread
     static inline thread_local T* instance = nullptr;
     static inline thread_local int shares = 0;
+    // NOLINTEND(cppcoreguidelines-avoid-non-const-global-variables)
 
     T* instance_;
 };
