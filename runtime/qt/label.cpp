@@ -73,7 +73,7 @@ void Label::ApplyFont() {
 }
 
 void Label::FitToCaption() {
-    if (!autoSize_) {
+    if (!autoSize_ || Widget() == nullptr) {
         return;
     }
     Face& face = CurrentFace();

@@ -68,9 +68,10 @@ Control* SurfaceWidget::GetControl() const {
 }
 
 bool SurfaceWidget::event(QEvent* event) {
+    const QEvent::Type type = event->type();
     const bool handled = QWidget::event(event);
-    if (surface_ != nullptr) {
-        switch (event->type()) {
+    if (type != QEvent::DeferredDelete && surface_ != nullptr) {  // else it is gone itself
+        switch (type) {
             case QEvent::PaletteChange:
                 surface_->PaletteChanged();
                 break;

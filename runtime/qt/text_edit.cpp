@@ -309,6 +309,9 @@ bool TextEdit::event(QEvent* event) {
             return true;
         }
     }
+    if (event->type() == QEvent::DeferredDelete) {
+        return QPlainTextEdit::event(event);  // there is nothing left behind it
+    }
     return During([&] { return QPlainTextEdit::event(event); });
 }
 
