@@ -31,7 +31,9 @@ std::shared_ptr<OleFont> NewOleFont(const FontAttributes& attributes) {
     if (FAILED(OleCreateFontIndirect(&description, IID_PPV_ARGS(&font)))) {
         Raise(ErrorNumber::InvalidPropertyValue);
     }
-    return OleFont::Of(font.Get());
+    auto made = OleFont::Of(font.Get());
+    made->Ask(attributes.size);
+    return made;
 }
 
 std::shared_ptr<win32::Font> FontMaker::NewFont(TextView name, float points) {

@@ -94,19 +94,29 @@ Text OleFont::Name() const {
 
 void OleFont::SetName(TextView name) {
     CheckValue(font_->put_Name(BasicString(name).Get()));
+    if (asked_.int64 != 0) {
+        Ask(asked_);  // another face may come closer to it
+    }
 }
 
 float OleFont::Size() const {
-    return FontPoints(Attribute(*font_.Get(), &IFont::get_Size));
+    const CY now = Attribute(*font_.Get(), &IFont::get_Size);
+    return FontPoints(asked_.int64 != 0 && now.int64 == given_.int64 ? asked_ : now);
 }
 
 void OleFont::SetSize(float points) {
     const CY size = FontSize(points);
     // What the font reports is what was found for the size that it was asked for. Whoever saves and
     // restores the one must not change the other.
-    if (size.int64 != Attribute(*font_.Get(), &IFont::get_Size).int64) {
-        CheckValue(font_->put_Size(size));
+    if (size.int64 != FontSize(Size()).int64) {
+        Ask(size);
     }
+}
+
+void OleFont::Ask(CY size) {
+    CheckValue(font_->put_Size(size));
+    asked_ = size;
+    given_ = Attribute(*font_.Get(), &IFont::get_Size);
 }
 
 bool OleFont::Bold() const {

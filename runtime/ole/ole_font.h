@@ -43,7 +43,9 @@ class OleFont final : public win32::Font, public ComBacked {
     HFONT Handle() const override;
 
     ComPtr<IDispatch> Dispatch() const override { return dispatch_; }
-    ComPtr<IFont> GetFont() const { return font_; }
+    /// The size that was asked for, which the platform rounds to what it can draw. It is what Size
+    /// gives until a client sets another one.
+    void Ask(CY size);
 
  private:
     class Sink;
@@ -59,6 +61,8 @@ class OleFont final : public win32::Font, public ComBacked {
     ComPtr<Sink> sink_;
     ComPtr<IConnectionPoint> point_;
     DWORD connection_ = 0;
+    CY asked_ = {};
+    CY given_ = {};  // what the platform made of it
 };
 
 }  // namespace lumenkit::ole

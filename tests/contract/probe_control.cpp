@@ -12,6 +12,7 @@ ProbeControl* last = nullptr;
 
 constexpr std::array members = {
     Property<&ProbeControl::pGetNumber, &ProbeControl::pLetNumber>(0, u"Number", u""),
+    Property<&ProbeControl::pGetNumber, &ProbeControl::pLetNumber>(1, u"Other", u""),
 };
 constexpr InterfaceTable interfaceTable = {u"_Probe", members};
 

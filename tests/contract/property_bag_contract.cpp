@@ -31,7 +31,8 @@ TEST_P(PropertyBagContract, DoesNotStoreADefault) {
 }
 
 TEST_P(PropertyBagContract, StoresAFontsAttributes) {
-    const host::FontRef font = runtime_->NewFont(u"Arial", 14);
+    // Of whole pixels: the font objects of some platforms know no other sizes.
+    const host::FontRef font = runtime_->NewFont(u"Arial", 14.25F);
     font->SetBold(true);
     font->SetUnderline(true);
     bag_->WriteProperty(u"Font", ObjectRef(font), ObjectRef());

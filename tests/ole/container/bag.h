@@ -9,7 +9,7 @@
 
 namespace lumenkit::container {
 
-/// A container's property bag: values by name.
+/// A container's property bag: values by name, which is told apart without regard to case.
 class Bag final : public Counted<IPropertyBag> {
  public:
     Bag() : Counted(IID_IPropertyBag) {}
@@ -45,7 +45,13 @@ class Bag final : public Counted<IPropertyBag> {
     }
 
  private:
-    std::map<std::wstring, std::unique_ptr<ole::Variant>> values_;
+    struct IgnoreCase {
+        bool operator()(const std::wstring& left, const std::wstring& right) const {
+            return lstrcmpiW(left.c_str(), right.c_str()) < 0;
+        }
+    };
+
+    std::map<std::wstring, std::unique_ptr<ole::Variant>, IgnoreCase> values_;
 };
 
 }  // namespace lumenkit::container
