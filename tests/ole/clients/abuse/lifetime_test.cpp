@@ -1,0 +1,186 @@
+// Controls come and go by the thousand and leave nothing behind: no windows, no drawing objects, no
+// strings, no server in memory.
+#include <array>
+
+#include <gmock/gmock.h>
+#include <ocidl.h>
+#include <olectl.h>
+
+#include "tests/ole/clients/support/com.h"
+
+// Of the automation library; no header has it.
+extern "C" void WINAPI SetOaNoCache();
+
+namespace lumenkit::clients {
+
+namespace {
+
+constexpr std::array controls = {L"lumenkit.VLabel", L"lumenkit.VMemo", L"lumenkit.VOptList"};
+
+// Counts what is allocated from the platform's allocator and not freed.
+class Spy final : public IMallocSpy {
+ public:
+    virtual ~Spy() = default;
+    long Alive() const { return alive_; }
+
+    HRESULT STDMETHODCALLTYPE QueryInterface(REFIID iid, void** object) override {
+        *object = iid == IID_IUnknown || iid == IID_IMallocSpy ? this : nullptr;
+        return *object == nullptr ? E_NOINTERFACE : S_OK;
+    }
+    ULONG STDMETHODCALLTYPE AddRef() override { return 2; }
+    ULONG STDMETHODCALLTYPE Release() override { return 1; }
+    SIZE_T STDMETHODCALLTYPE PreAlloc(SIZE_T size) override { return size; }
+    void* STDMETHODCALLTYPE PostAlloc(void* memory) override {
+        alive_ += memory == nullptr ? 0 : 1;
+        return memory;
+    }
+    void* STDMETHODCALLTYPE PreFree(void* memory, BOOL spied) override {
+        alive_ -= spied && memory != nullptr ? 1 : 0;
+        return memory;
+    }
+    void STDMETHODCALLTYPE PostFree(BOOL) override {}
+    SIZE_T STDMETHODCALLTYPE PreRealloc(void* memory, SIZE_T size, void** same,
+                                        BOOL spied) override {
+        alive_ += memory == nullptr && spied ? 1 : 0;
+        *same = memory;
+        return size;
+    }
+    void* STDMETHODCALLTYPE PostRealloc(void* memory, BOOL) override { return memory; }
+    void* STDMETHODCALLTYPE PreGetSize(void* memory, BOOL) override { return memory; }
+    SIZE_T STDMETHODCALLTYPE PostGetSize(SIZE_T size, BOOL) override { return size; }
+    void* STDMETHODCALLTYPE PreDidAlloc(void* memory, BOOL) override { return memory; }
+    int STDMETHODCALLTYPE PostDidAlloc(void*, BOOL, int did) override { return did; }
+    void STDMETHODCALLTYPE PreHeapMinimize() override {}
+    void STDMETHODCALLTYPE PostHeapMinimize() override {}
+
+ private:
+    long alive_ = 0;
+};
+
+BOOL CALLBACK CountWindow(HWND window, LPARAM counted) {
+    DWORD process = 0;
+    GetWindowThreadProcessId(window, &process);
+    if (process == GetCurrentProcessId()) {
+        ++*reinterpret_cast<int*>(counted);
+    }
+    return TRUE;
+}
+
+// All windows of this process, whatever they lie on, message-only ones included.
+int Windows() {
+    int count = 0;
+    const auto counted = reinterpret_cast<LPARAM>(&count);
+    EnumChildWindows(GetDesktopWindow(), &CountWindow, counted);
+    for (HWND window = nullptr;
+         (window = FindWindowExW(HWND_MESSAGE, window, nullptr, nullptr)) != nullptr;) {
+        CountWindow(window, counted);
+        EnumChildWindows(window, &CountWindow, counted);
+    }
+    return count;
+}
+
+int DrawingObjects() {
+    return static_cast<int>(GetGuiResources(GetCurrentProcess(), GR_GDIOBJECTS));
+}
+
+HRESULT CanUnload() {
+    using Entry = HRESULT(STDAPICALLTYPE*)();
+    const HMODULE server = GetModuleHandleW(L"lumenkit.ocx");
+    EXPECT_NE(server, nullptr);
+    return reinterpret_cast<Entry>(
+        reinterpret_cast<void*>(GetProcAddress(server, "DllCanUnloadNow")))();
+}
+
+// A short life: some properties, a picture, saved and loaded.
+void Live(const wchar_t* name, bool thoroughly) {
+    const ComPtr<IDispatch> object = Create(name);
+    ASSERT_NE(object, nullptr);
+    const wchar_t* property = name == controls[1] ? L"Text" : L"Caption";
+    EXPECT_EQ(Put(*object.Get(), property, Variant(L"some |B|text")), S_OK);
+    EXPECT_EQ(TextOf(*object.Get(), property), L"some |B|text");
+    if (!thoroughly) {
+        return;
+    }
+    EXPECT_EQ(Put(*object.Get(), L"Enabled", Variant(L"oops")), DISP_E_TYPEMISMATCH);
+    Variant font;
+    EXPECT_EQ(Read(*object.Get(), L"Font", font), S_OK);
+    EXPECT_EQ(Put(*font.pdispVal, L"Bold", Variant(1L)), S_OK);
+    ComPtr<IPersistStreamInit> persisted;
+    ComPtr<IStream> stream;
+    ASSERT_EQ(object.As(&persisted), S_OK);
+    ASSERT_EQ(CreateStreamOnHGlobal(nullptr, TRUE, &stream), S_OK);
+    EXPECT_EQ(persisted->Save(stream.Get(), TRUE), S_OK);
+    stream->Seek({}, STREAM_SEEK_SET, nullptr);
+    EXPECT_EQ(persisted->Load(stream.Get()), S_OK);
+    EXPECT_EQ(TextOf(*object.Get(), property), L"some |B|text");
+    ComPtr<IDataObject> data;
+    ASSERT_EQ(object.As(&data), S_OK);
+    FORMATETC format = {CF_METAFILEPICT, nullptr, DVASPECT_CONTENT, -1, TYMED_MFPICT};
+    STGMEDIUM medium = {};
+    EXPECT_EQ(data->GetData(&format, &medium), S_OK);
+    ReleaseStgMedium(&medium);
+}
+
+// Strings are counted as they are freed, not kept for reuse.
+class Lifetime : public OleTest {
+ protected:
+    static void SetUpTestSuite() { SetOaNoCache(); }
+};
+
+TEST_F(Lifetime, TenThousandControlsLeaveNothingBehind) {
+    // The server stays loaded, so that what it keeps for all controls is not taken for a leak.
+    const ComPtr<IDispatch> first = Create(controls[0]);
+    for (int round = 0; round < 30; ++round) {
+        Live(controls[round % 3], true);
+    }
+    RunMessages();
+    static Spy spy;
+    const int windows = Windows();
+    const int drawingObjects = DrawingObjects();
+    ASSERT_EQ(CoRegisterMallocSpy(&spy), S_OK);
+    for (int round = 0; round < 10000 && !HasFailure(); ++round) {
+        Live(controls[round % 3], round % 10 == 0);
+    }
+    RunMessages();
+    EXPECT_EQ(spy.Alive(), 0);
+    CoRevokeMallocSpy();
+    EXPECT_EQ(Windows(), windows);
+    EXPECT_EQ(DrawingObjects(), drawingObjects);
+}
+
+TEST_F(Lifetime, TheServerIsUnloadedAndLoadedAgain) {
+    for (int round = 0; round < 5; ++round) {
+        {
+            const ComPtr<IDispatch> object = Create(controls[round % 3]);
+            ComPtr<IDispatch> page = Create(L"lumenkit.VLabelCaption");
+            EXPECT_EQ(CanUnload(), S_FALSE);
+            Variant font;
+            EXPECT_EQ(Read(*object.Get(), L"Font", font), S_OK);
+        }
+        EXPECT_EQ(CanUnload(), S_OK);
+        CoFreeUnusedLibrariesEx(0, 0);
+        CoFreeUnusedLibrariesEx(0, 0);
+        EXPECT_EQ(GetModuleHandleW(L"lumenkit.ocx"), nullptr) << round;
+    }
+}
+
+// Whoever holds a part of a control holds the server.
+TEST_F(Lifetime, APartKeepsTheServer) {
+    {
+        ComPtr<IConnectionPoint> point;
+        {
+            const ComPtr<IConnectionPointContainer> points =
+                Create<IConnectionPointContainer>(controls[2]);
+            ASSERT_EQ(points->FindConnectionPoint(IID_IPropertyNotifySink, &point), S_OK);
+        }
+        EXPECT_EQ(CanUnload(), S_FALSE);
+        IID connection = {};
+        EXPECT_EQ(point->GetConnectionInterface(&connection), S_OK);
+        EXPECT_EQ(connection, IID_IPropertyNotifySink);
+    }
+    EXPECT_EQ(CanUnload(), S_OK);
+}
+
+}  // namespace
+
+}  // namespace lumenkit::clients

@@ -1,0 +1,124 @@
+// What all programs that are clients of the server need.
+#pragma once
+
+#include <string>
+
+#include <gtest/gtest.h>
+#include <ole2.h>
+#include <windows.h>
+#include <wrl/client.h>
+
+namespace lumenkit::clients {
+
+using Microsoft::WRL::ComPtr;
+
+/// A string of automation.
+class Text {
+ public:
+    explicit Text(const wchar_t* text) : text_(SysAllocString(text)) {}
+    Text() = default;
+    ~Text() { SysFreeString(text_); }
+    Text(const Text&) = delete;
+    Text& operator=(const Text&) = delete;
+
+    BSTR Get() const { return text_; }
+    /// Frees what it holds, to be filled anew.
+    BSTR* Out() {
+        SysFreeString(text_);
+        text_ = nullptr;
+        return &text_;
+    }
+    std::wstring Read() const { return {text_, text_ + SysStringLen(text_)}; }
+
+ private:
+    BSTR text_ = nullptr;
+};
+
+/// A VARIANT that is cleared in the end.
+class Variant : public VARIANT {
+ public:
+    Variant() : VARIANT() { VariantInit(this); }
+    explicit Variant(const wchar_t* text) : Variant() {
+        vt = VT_BSTR;
+        bstrVal = SysAllocString(text);
+    }
+    explicit Variant(long number) : Variant() {
+        vt = VT_I4;
+        lVal = number;
+    }
+    explicit Variant(IDispatch* object) : Variant() {
+        vt = VT_DISPATCH;
+        pdispVal = object;
+        object->AddRef();
+    }
+    ~Variant() { VariantClear(this); }
+    Variant(const Variant&) = delete;
+    Variant& operator=(const Variant&) = delete;
+
+    std::wstring Read() const {
+        return vt == VT_BSTR ? std::wstring(bstrVal, bstrVal + SysStringLen(bstrVal))
+                             : L"(no text)";
+    }
+};
+
+/// By the class's name, as programs do that know no more of it.
+template <typename Interface = IDispatch>
+ComPtr<Interface> Create(const wchar_t* name) {
+    CLSID type = {};
+    ComPtr<Interface> made;
+    EXPECT_EQ(CLSIDFromProgID(name, &type), S_OK);
+    EXPECT_EQ(CoCreateInstance(type, nullptr, CLSCTX_INPROC_SERVER, __uuidof(Interface), &made),
+              S_OK);
+    return made;
+}
+
+inline DISPID NumberOf(IDispatch& object, const wchar_t* name) {
+    auto* writable = const_cast<wchar_t*>(name);
+    DISPID number = DISPID_UNKNOWN;
+    object.GetIDsOfNames(IID_NULL, &writable, 1, LOCALE_USER_DEFAULT, &number);
+    return number;
+}
+
+inline HRESULT Read(IDispatch& object, const wchar_t* name, Variant& value) {
+    DISPPARAMS none = {};
+    return object.Invoke(NumberOf(object, name), IID_NULL, LOCALE_USER_DEFAULT,
+                         DISPATCH_PROPERTYGET, &none, &value, nullptr, nullptr);
+}
+
+/// A property as text: "True" and "False", decimals.
+inline std::wstring TextOf(IDispatch& object, const wchar_t* name) {
+    Variant value;
+    EXPECT_EQ(Read(object, name, value), S_OK) << name;
+    EXPECT_EQ(VariantChangeType(&value, &value, VARIANT_ALPHABOOL, VT_BSTR), S_OK) << name;
+    return value.Read();
+}
+
+inline HRESULT Put(IDispatch& object, const wchar_t* name, const VARIANT& value) {
+    DISPID put = DISPID_PROPERTYPUT;
+    VARIANT argument = value;
+    DISPPARAMS parameters = {&argument, &put, 1, 1};
+    return object.Invoke(NumberOf(object, name), IID_NULL, LOCALE_USER_DEFAULT,
+                         DISPATCH_PROPERTYPUT, &parameters, nullptr, nullptr, nullptr);
+}
+
+inline HRESULT Call(IDispatch& object, const wchar_t* name) {
+    DISPPARAMS none = {};
+    return object.Invoke(NumberOf(object, name), IID_NULL, LOCALE_USER_DEFAULT, DISPATCH_METHOD,
+                         &none, nullptr, nullptr, nullptr);
+}
+
+/// Lets the windows of this thread do what was posted to them.
+inline void RunMessages() {
+    for (MSG message; PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE);) {
+        TranslateMessage(&message);
+        DispatchMessageW(&message);
+    }
+}
+
+class OleTest : public ::testing::Test {
+ protected:
+    OleTest() { EXPECT_TRUE(SUCCEEDED(OleInitialize(nullptr))); }
+    ~OleTest() override { OleUninitialize(); }
+};
+
+}  // namespace lumenkit::clients
