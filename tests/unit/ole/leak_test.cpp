@@ -97,6 +97,11 @@ TEST_F(LeakTest, StringsAndObjectsAreFreed) {
     }
     BlockCounter counter;
     ASSERT_EQ(CoRegisterMallocSpy(&counter), S_OK);
+    const long none = counter.Blocks();
+    const BSTR seen = SysAllocString(L"a string of some length");
+    EXPECT_EQ(counter.Blocks(), none + 1);  // it does count
+    SysFreeString(seen);
+    EXPECT_EQ(counter.Blocks(), none);
     for (const TextView name : {u"VLabel", u"VMemo", u"VOptList"}) {
         const long before = counter.Blocks();
         for (int round = 0; round < 50; ++round) {
