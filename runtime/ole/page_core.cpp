@@ -20,7 +20,18 @@ ObjectRef PageCore::Item(std::int16_t index) {
     if (index < 0 || static_cast<std::size_t>(index) >= controls_.size()) {
         Raise(ErrorNumber::SubscriptOutOfRange);
     }
+    askedForControl_ = true;
     return controls_[static_cast<std::size_t>(index)];
+}
+
+bool PageCore::Apply() {
+    // A page has no way to say that it refuses, but nothing can be written without the control.
+    askedForControl_ = false;
+    hosted_->GetPage().PropertyPage_ApplyChanges();
+    if (askedForControl_) {
+        SetChanged(false);
+    }
+    return askedForControl_;
 }
 
 }  // namespace lumenkit::ole

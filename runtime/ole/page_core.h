@@ -27,11 +27,16 @@ class PageCore final : public host::PropertyPageSite, public host::SelectedContr
     std::int16_t Count() const override { return static_cast<std::int16_t>(controls_.size()); }
     ObjectRef Item(std::int16_t index) override;
 
+    /// Has the page write what was entered. False where it wrote nothing: it refused that, and
+    /// stays as it was.
+    bool Apply();
+
  private:
     const ClassDescriptor& type_;
     ComPtr<IPropertyPageSite> site_;
     std::vector<ObjectRef> controls_;
     bool changed_ = false;
+    bool askedForControl_ = false;
     std::unique_ptr<win32::HostedPage> hosted_;
 };
 

@@ -104,9 +104,7 @@ HRESULT PropertyPageFace::Apply() {
         if (core_.Count() == 0) {
             return E_UNEXPECTED;
         }
-        core_.Hosted().GetPage().PropertyPage_ApplyChanges();
-        core_.SetChanged(false);
-        return S_OK;
+        return core_.Apply() ? S_OK : E_FAIL;
     });
 }
 

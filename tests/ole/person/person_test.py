@@ -242,6 +242,12 @@ def page_checks_the_indent(program):
     program.keys("Return")
     equal(program.state["dialog"], [])
     equal(program.state["indent"], 125)
+    # What was refused is still there to be mended and applied.
+    assert not program.find("Apply", where="page").get("disabled")
+    program.click(indent)
+    program.keys("End", "BackSpace", "BackSpace")
+    equal(program.focus("page")["text"], "100")
+    equal(program.click(program.find("Apply", where="page"))["indent"], 100)
 
 
 def page_shows_its_keys(program):
