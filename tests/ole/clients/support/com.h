@@ -4,7 +4,9 @@
 #include <string>
 
 #include <gtest/gtest.h>
+#include <ocidl.h>
 #include <ole2.h>
+#include <olectl.h>
 #include <windows.h>
 #include <wrl/client.h>
 
