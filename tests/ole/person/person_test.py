@@ -18,6 +18,7 @@ from pathlib import Path
 CAPTION = "|B:1|Menu|B:0||CR|* soup|CR|* bread"
 SECONDS = 60
 TITLE_BAR = (200, 32)
+PAGE_TITLE_BAR = (600, 212)
 
 
 def screen(*command):
@@ -34,9 +35,7 @@ class Program:
         threading.Thread(target=self._read, daemon=True).start()
         assert self._line() == "ready"
         self.state = {}
-        # Without a window manager nobody but a click gives the keyboard to a window.
-        screen("mousemove", *TITLE_BAR)
-        screen("click", 1)
+        self.activate(TITLE_BAR)
 
     def _read(self):
         for line in self.process.stdout:
@@ -45,6 +44,18 @@ class Program:
 
     def _line(self):
         return self.lines.get(timeout=SECONDS)
+
+    def activate(self, title_bar):
+        """Without a window manager nobody but a click gives the keyboard to a window for sure."""
+        screen("mousemove", *title_bar)
+        screen("click", 1)
+
+    def close_dialog(self, key, title_bar):
+        screen("key", key)
+        # A key that comes while the dialog goes is lost with it.
+        time.sleep(1)
+        self.activate(title_bar)
+        return self.look()
 
     def look(self):
         """The keys and clicks before it have been dealt with when the answer is there."""
@@ -62,12 +73,12 @@ class Program:
         screen("type", "--delay", 20, text)
         return self.look()
 
-    def click(self, window, button=1, at=None, times=1):
+    def click(self, window, button=1, at=None, times=1, looks=True):
         left, top, right, bottom = window["place"]
         x, y = at or ((right - left) // 2, (bottom - top) // 2)
         screen("mousemove", left + x, top + y)
         screen("click", "--repeat", times, "--delay", 60, button)
-        return self.look()
+        return self.look() if looks else None
 
     def find(self, text=None, kind=None, where="form"):
         found = [w for w in self.state[where]
@@ -239,7 +250,7 @@ def page_checks_the_indent(program):
     program.click(program.find("Apply", where="page"))
     program.find("Illegal indent. Must be 0 to 9999", "Static", "dialog")
     program.picture("page_refuses")
-    program.keys("Return")
+    program.close_dialog("Return", PAGE_TITLE_BAR)
     equal(program.state["dialog"], [])
     equal(program.state["indent"], 125)
     # What was refused is still there to be mended and applied.
@@ -255,10 +266,12 @@ def page_shows_its_keys(program):
     texts = [w["text"] for w in program.state["dialog"] if "Ctrl + S" in w["text"]]
     assert texts and "=  Insert  |before:0|" in texts[0], program.state["dialog"]
     program.picture("page_help")
-    program.keys("Return")
+    program.close_dialog("Return", PAGE_TITLE_BAR)
     equal(program.state["dialog"], [])
-    program.click(program.find("Close", where="page"))
-    equal(program.state["page"], [])
+    program.click(program.find("Close", where="page"), looks=False)
+    time.sleep(1)
+    program.activate(TITLE_BAR)
+    equal(program.look()["page"], [])
     program.picture("label_changed")
 
 
@@ -266,7 +279,7 @@ def systems_frame_shows_the_page(program, caption):
     program.keys("F8")
     program.find(caption, "Edit", "dialog")
     program.picture("system_frame")
-    program.keys("Escape")
+    program.close_dialog("Escape", TITLE_BAR)
     equal(program.state["dialog"], [])
 
 

@@ -1,0 +1,16 @@
+' Has a memo cut texts to its limits:  cscript //nologo memo.vbs
+Option Explicit
+
+Dim memo
+Set memo = WScript.CreateObject("lumenkit.VMemo")
+memo.MaxCharsPerLine = 10
+memo.MaxLines = 2
+memo.Text = "A line that is too long"
+WScript.Echo memo.Text
+memo.Text = "one" & vbCrLf & "two" & vbCrLf & "three"
+WScript.Echo Replace(memo.Text, vbCrLf, " / ")
+
+' The default member is the text.
+memo = "again"
+WScript.Echo memo
+WScript.Echo "done"
