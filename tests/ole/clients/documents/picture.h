@@ -1,0 +1,31 @@
+// Pixels to draw on and to count.
+#pragma once
+
+#include <windows.h>
+
+namespace lumenkit::clients {
+
+/// Grey where nothing was drawn.
+class Picture {
+ public:
+    Picture(int width, int height);
+    ~Picture();
+    Picture(const Picture&) = delete;
+    Picture& operator=(const Picture&) = delete;
+
+    HDC Device() const { return device_; }
+    RECT Whole() const { return {0, 0, width_, height_}; }
+    int Size() const { return width_ * height_; }
+    int Count(COLORREF color) const;
+    int Untouched() const { return Count(RGB(128, 128, 128)); }
+
+ private:
+    int width_;
+    int height_;
+    HDC device_;
+    HBITMAP bitmap_;
+    HGDIOBJ former_;
+    DWORD* pixels_ = nullptr;
+};
+
+}  // namespace lumenkit::clients
