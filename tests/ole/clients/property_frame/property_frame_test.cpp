@@ -5,8 +5,8 @@
 
 #include <gmock/gmock.h>
 // clang-format off: the latter needs the former
-#include <windows.h>
 #include <commctrl.h>
+#include <windows.h>
 // clang-format on
 
 #include "tests/ole/clients/support/boxes.h"
