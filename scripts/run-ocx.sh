@@ -9,11 +9,20 @@ cd "$(dirname "$0")/.."
 build=${LUMENKIT_OCX_BUILD:-build/mingw-x64}
 picture=build/run/ocx.png
 
+managed='HKCU\Software\Wine\AppDefaults\atl_host.exe\X11 Driver'
+
 # On a screen in memory, with Wine's settings around it.
 take_picture() {
     wine regsvr32 /s "$build/lumenkit.ocx"
     scripts/shoot.sh "$picture" wine "$build/atl_host.exe"
     wine regsvr32 /s /u "$build/lumenkit.ocx"
+}
+
+# As it was found.
+leave_prefix() {
+    wine reg delete "$managed" /f >/dev/null 9>&- || true
+    wine regsvr32 /s /u "$build/lumenkit.ocx" 9>&- || true
+    wineserver -k 9>&- || true
 }
 
 show_window() {
@@ -22,10 +31,9 @@ show_window() {
     # Wine's desktop belongs to the display it was started on.
     exec 9>"$WINEPREFIX.lock"
     flock 9
-    trap 'wineserver -k 9>&- || true' EXIT
+    trap leave_prefix EXIT
     # Here a window manager draws the frame.
-    wine reg add 'HKCU\Software\Wine\AppDefaults\atl_host.exe\X11 Driver' \
-        /v Managed /d Y /f >/dev/null 9>&-
+    wine reg add "$managed" /v Managed /d Y /f >/dev/null 9>&-
     wine regsvr32 /s "$build/lumenkit.ocx" 9>&-
     echo "Showing the controls; close the window to end."
     wine "$build/atl_host.exe" 9>&-
@@ -41,5 +49,6 @@ if [ -n "${DISPLAY:-}" ] && [ "${1:-}" != --picture ]; then
     show_window
 else
     scripts/wine.sh --screen scripts/run-ocx.sh --inside
-    echo "There is no display: the window is in $picture"
+    [ -n "${DISPLAY:-}" ] || echo "There is no display."
+    echo "The window is in $picture"
 fi

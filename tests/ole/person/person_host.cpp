@@ -156,6 +156,7 @@ void Form::WriteState() {
     _bstr_t caption;
     short index = 0;
     short indent = 0;
+    VARIANT_BOOL wraps = VARIANT_FALSE;
     ControlIn<_VMemo>(memo_)->get_Text(text.GetAddress());
     const auto options = ControlIn<_VOptList>(options_);
     options->get_Value(value.GetAddress());
@@ -163,15 +164,17 @@ void Form::WriteState() {
     const auto label = ControlIn<_VLabel>(label_);
     label->get_Caption(caption.GetAddress());
     label->get_BulletIndent(&indent);
+    label->get_WordWrap(&wraps);
     const auto quoted = [](const _bstr_t& string) {
         return Quoted(std::wstring(string, string.length()));
     };
     HWND const page = page_ == nullptr ? nullptr : page_->Window();
     HWND const dialog = FindWindowW(L"#32770", nullptr);
     std::printf(
-        "{\"memo\":%s,\"index\":%d,\"value\":%s,\"caption\":%s,\"indent\":%d,\"events\":[%s],"
+        "{\"memo\":%s,\"index\":%d,\"value\":%s,\"caption\":%s,\"indent\":%d,\"wraps\":%d,"
+        "\"events\":[%s],"
         "\"form\":%s,\"page\":%s,\"dialog\":%s}\n",
-        quoted(text).c_str(), index, quoted(value).c_str(), quoted(caption).c_str(), indent,
+        quoted(text).c_str(), index, quoted(value).c_str(), quoted(caption).c_str(), indent, wraps,
         events_.c_str(), WindowsIn(window_).c_str(), WindowsIn(page).c_str(),
         WindowsIn(dialog).c_str());
     std::fflush(stdout);

@@ -261,6 +261,14 @@ def page_checks_the_indent(program):
     equal(program.click(program.find("Apply", where="page"))["indent"], 100)
 
 
+def page_wraps_words(program):
+    equal(program.state["wraps"], 0)
+    program.click(program.find("Word Wrap", where="page"))
+    assert program.find("Word Wrap", where="page").get("checked")
+    equal(program.state["wraps"], 0)
+    equal(program.click(program.find("Apply", where="page"))["wraps"], -1)
+
+
 def page_shows_its_keys(program):
     program.click(program.find("Keys Help", where="page"))
     texts = [w["text"] for w in program.state["dialog"] if "Ctrl + S" in w["text"]]
@@ -300,6 +308,7 @@ def main():
         page_shows_the_caption(program)
         caption = page_edits_the_caption(program)
         page_checks_the_indent(program)
+        page_wraps_words(program)
         page_shows_its_keys(program)
         systems_frame_shows_the_page(program, caption)
         colours_follow_the_system(program)
