@@ -149,6 +149,30 @@ TEST_F(AtlHost, ClickedOptionsAreSelected) {
     EXPECT_FALSE(CanBeClicked(options[1]));
 }
 
+TEST_F(AtlHost, AControlIsLoadedIntoItsWindow) {
+    ComPtr<IStream> saved;
+    ASSERT_EQ(CreateStreamOnHGlobal(nullptr, TRUE, &saved), S_OK);
+    {
+        const ComPtr<IDispatch> memo = Create(L"lumenkit.VMemo");
+        ComPtr<IPersistStreamInit> persisted;
+        ASSERT_EQ(memo.As(&persisted), S_OK);
+        ASSERT_EQ(Put(*memo.Get(), L"Text", Variant(L"as saved")), S_OK);
+        ASSERT_EQ(Put(*memo.Get(), L"ScrollBars", Variant(2L)), S_OK);
+        ASSERT_EQ(persisted->Save(saved.Get(), TRUE), S_OK);
+        saved->Seek({}, STREAM_SEEK_SET, nullptr);
+    }
+    AtlWindow window(L"");
+    ASSERT_EQ(window.CreateControl(L"lumenkit.VMemo", saved.Get()), S_OK);
+    const ComPtr<IDispatch> memo = window.Control();
+    ASSERT_NE(memo, nullptr);
+    EXPECT_EQ(TextOf(*memo.Get(), L"Text"), L"as saved");
+    const std::vector<HWND> edits = window.Visible(L"Edit");
+    ASSERT_THAT(edits, SizeIs(1));
+    EXPECT_NE(GetWindowLongW(edits[0], GWL_STYLE) & WS_VSCROLL, 0);
+    AtlWindow empty(L"");
+    EXPECT_NE(empty.CreateControl(L"lumenkit.Nothing", nullptr), S_OK);
+}
+
 TEST_F(AtlHost, TheMouseOverALabelIsReported) {
     AtlWindow window(L"lumenkit.VLabel");
     const ComPtr<IDispatch> label = window.Control();

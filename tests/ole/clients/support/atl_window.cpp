@@ -16,6 +16,9 @@ Function Entry(const char* name) {
 using Initialise = BOOL(WINAPI*)();
 using GetControl = HRESULT(WINAPI*)(HWND, IUnknown**);
 
+using CreateControlEx = HRESULT(WINAPI*)(LPCOLESTR, HWND, IStream*, IUnknown**, IUnknown**, REFIID,
+                                         IUnknown*);
+
 struct Search {
     const wchar_t* windowClass;
     std::vector<HWND> found;
@@ -67,6 +70,15 @@ ComPtr<IDispatch> AtlWindow::Control() const {
         control.As(&dispatch);
     }
     return dispatch;
+}
+
+HRESULT AtlWindow::CreateControl(const wchar_t* name, IStream* saved) {
+    ComPtr<IUnknown> container;
+    ComPtr<IUnknown> control;
+    const HRESULT result = Entry<CreateControlEx>("AtlAxCreateControlEx")(
+        name, host_, saved, &container, &control, IID_NULL, nullptr);
+    EXPECT_EQ(container != nullptr && control != nullptr, SUCCEEDED(result));
+    return result;
 }
 
 std::vector<HWND> AtlWindow::Visible(const wchar_t* windowClass) const {

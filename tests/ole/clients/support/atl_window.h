@@ -21,6 +21,9 @@ class AtlWindow {
     HWND Host() const { return host_; }
     /// Null where there is none.
     ComPtr<IDispatch> Control() const;
+    /// Puts a control in. `saved`: what it is loaded from; null for a new one.
+    HRESULT CreateControl(const wchar_t* name, IStream* saved);
+
     /// The visible windows of a class in it, from top to bottom.
     std::vector<HWND> Visible(const wchar_t* windowClass) const;
     /// Types into the window as a keyboard would: down, character, up.
