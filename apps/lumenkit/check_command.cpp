@@ -2,7 +2,6 @@
 
 #include <iostream>
 #include <memory>
-#include <stdexcept>
 #include <string>
 #include <vector>
 
@@ -11,10 +10,10 @@
 #include "apps/lumenkit/check/progress_bar.h"
 #include "apps/lumenkit/check/reporter.h"
 #include "apps/lumenkit/check/rules.h"
+#include "apps/lumenkit/code_page_option.h"
 #include "apps/lumenkit/exit_status.h"
 #include "apps/lumenkit/terminal.h"
 #include "apps/lumenkit/text_input.h"
-#include "forms/code_page.h"
 #include "forms/encoding.h"
 #include "forms/file.h"
 #include "project/lumenkit_classes.h"
@@ -118,18 +117,6 @@ int Check(const Options& options) {
     return CheckRun(options, reporter).Run();
 }
 
-std::string RequireCodePage(const std::string& number) {
-    try {
-        const int page = std::stoi(number);
-        if (page != forms::utf8CodePage) {
-            static_cast<void>(forms::CodePage(page));
-        }
-        return {};
-    } catch (const std::logic_error&) {
-        return number + " is no code page that is known";
-    }
-}
-
 std::string Help() {
     std::string help = "Rules, by the names that findings bear:\n";
     for (const check::Rule& rule : check::Rules()) {
@@ -173,11 +160,7 @@ void AddCheckCommand(CLI::App& program, int& status) {
     command->add_flag("--json", options->json,
                       R"(Print {"files":N,"findings":[{"rule":...,"file":...,"line":...,)"
                       R"("column":...,...},...],"errors":[...]})");
-    command
-        ->add_option("--code-page", options->codePage,
-                     "What forms are written in unless they are UTF-8: 1250 to 1258 or 65001")
-        ->capture_default_str()
-        ->check(RequireCodePage, "");
+    AddCodePageOption(*command, options->codePage);
     command->footer(Help());
     command->callback([options, &status] { status = Check(*options); });
 }

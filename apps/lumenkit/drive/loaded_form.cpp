@@ -12,32 +12,6 @@ namespace lumenkit::cli {
 
 namespace {
 
-// Hands on to a block's bag only what is not as it was.
-class ChangesOnly final : public host::PropertyBag {
- public:
-    ChangesOnly(forms::FormBag& bag, const memory::PropertyBag& before)
-        : bag_(bag), before_(before) {}
-
-    Value ReadProperty(TextView name, const Value& defaultValue) override {
-        return bag_.ReadProperty(name, defaultValue);
-    }
-    void WriteProperty(TextView name, const Value& value, const Value& defaultValue) override {
-        const Value* before = before_.Find(name);
-        const bool isDefault = SameValue(value, defaultValue);
-        const bool isAsBefore =
-            before == nullptr ? isDefault : !isDefault && SameValue(value, *before);
-        if (isAsBefore) {
-            bag_.Keep(name);
-        } else {
-            bag_.WriteProperty(name, value, defaultValue);
-        }
-    }
-
- private:
-    forms::FormBag& bag_;
-    const memory::PropertyBag& before_;
-};
-
 host::FontRef NewFont(const memory::Form& form, const forms::FontDescription& description) {
     auto font = form.NewFont(description.name, description.size);
     font->SetWeight(description.weight);
@@ -99,7 +73,8 @@ std::vector<LoadedForm::Living> LoadedForm::Start(memory::Form& form, bool userM
     for (const Found& found : found_) {
         forms::FormBag bag(document_, found.block, makeFont);
         auto control = Start(found, bag, form, userMode);
-        saved_.push_back({found.block, *control, control->Save()});
+        const auto save = [&](host::PropertyBag& saved) { control->Save(saved); };
+        saved_.push_back({*control, forms::BlockKeeper(document_, found.block, save)});
         living.push_back({ToUtf8(found.name), std::move(control)});
     }
     return living;
@@ -107,10 +82,7 @@ std::vector<LoadedForm::Living> LoadedForm::Start(memory::Form& form, bool userM
 
 void LoadedForm::Update() {
     for (Saved& saved : saved_) {
-        forms::FormBag bag(document_, saved.block, nullptr);
-        ChangesOnly changes(bag, saved.held);
-        saved.control.Save(changes);
-        saved.held = saved.control.Save();
+        saved.keeper.Update([&](host::PropertyBag& bag) { saved.control.Save(bag); });
     }
 }
 

@@ -6,13 +6,13 @@
 #include <vector>
 
 #include "forms/block.h"
+#include "forms/block_keeper.h"
 #include "forms/document.h"
 #include "frame/class_table.h"
 #include "frame/host/property_bag.h"
 #include "frame/text.h"
 #include "runtime/memory/form.h"
 #include "runtime/memory/placed_control.h"
-#include "runtime/memory/property_bag.h"
 
 namespace lumenkit::cli {
 
@@ -50,9 +50,8 @@ class LoadedForm {
         Text name;
     };
     struct Saved {
-        forms::Block& block;
         memory::PlacedControl& control;
-        memory::PropertyBag held;  ///< what it held when the block was last up to date
+        forms::BlockKeeper keeper;
     };
 
     static std::unique_ptr<memory::PlacedControl> Start(const Found& found, host::PropertyBag& bag,
