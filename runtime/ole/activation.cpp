@@ -1,5 +1,7 @@
 #include "runtime/ole/activation.h"
 
+#include <utility>
+
 #include "runtime/ole/extent.h"
 #include "runtime/ole/result.h"
 #include "runtime/win32/wide_text.h"
@@ -28,6 +30,9 @@ void Activation::Activate() {
     Check(site->GetWindowContext(frame_.ReleaseAndGetAddressOf(),
                                  document_.ReleaseAndGetAddressOf(), &place, &clip, &information));
     Check(site->OnInPlaceActivate());
+    if (!control_.Site().Exists()) {
+        throw ComError(E_UNEXPECTED);  // it has let the control go meanwhile
+    }
     site_ = site;
     place_ = place;
     control.Attach(parent, place);
@@ -87,6 +92,16 @@ void Activation::Deactivate() {
     }
     frame_.Reset();
     document_.Reset();
+}
+
+void Activation::Abandon() {
+    uiActive_ = false;
+    const auto site = std::exchange(site_, nullptr);
+    const auto frame = std::exchange(frame_, nullptr);
+    const auto document = std::exchange(document_, nullptr);
+    if (site != nullptr) {
+        control_.Started().Detach();
+    }
 }
 
 void Activation::SetPlace(const RECT& place, const RECT& clip) {

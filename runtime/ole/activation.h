@@ -38,6 +38,8 @@ class Activation {
     void ActivateUI();
     void DeactivateUI();
     void Deactivate();
+    /// The same where nobody is to be told any more.
+    void Abandon();
     void SetPlace(const RECT& place, const RECT& clip);
     /// The keyboard focus came into the control's windows, or left them all.
     void FocusChanged(bool inside);

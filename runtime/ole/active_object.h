@@ -1,14 +1,15 @@
 #pragma once
 
 #include "runtime/ole/control_core.h"
-#include "runtime/ole/facet.h"
+#include "runtime/ole/held_facet.h"
 
 namespace lumenkit::ole {
 
-class ActiveObject final : public Facet<IOleInPlaceActiveObject> {
+class ActiveObject final : public HeldFacet<IOleInPlaceActiveObject> {
  public:
     /// `core` need not be made yet.
-    ActiveObject(IUnknown& controlling, ControlCore& core) : Facet(controlling), core_(core) {}
+    ActiveObject(IUnknown& controlling, win32::Life& life, ControlCore& core)
+        : HeldFacet(controlling, life), core_(core) {}
 
     HRESULT STDMETHODCALLTYPE GetWindow(HWND* window) override;
     HRESULT STDMETHODCALLTYPE ContextSensitiveHelp(BOOL /*enter*/) override { return E_NOTIMPL; }

@@ -1,6 +1,7 @@
 #include "runtime/ole/connection_point.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "runtime/ole/enumerator.h"
 #include "runtime/ole/result.h"
@@ -54,6 +55,7 @@ HRESULT ConnectionPoint::Advise(IUnknown* sink, DWORD* cookie) {
     return Guarded([&] {
         Checked(cookie) = 0;
         Checked(sink);
+        const ComPtr<IConnectionPointContainer> alive(&container_);
         ComPtr<IUnknown> wanted;
         HRESULT found =
             sink->QueryInterface(interfaceId_, reinterpret_cast<void**>(wanted.GetAddressOf()));
@@ -90,6 +92,11 @@ HRESULT ConnectionPoint::EnumConnections(IEnumConnections** connections) {
         }
         *connections = Connections::Over(std::move(list)).Detach();
     });
+}
+
+void ConnectionPoint::Clear() {
+    // Releasing them may run code of anybody's.
+    const std::vector<Listener> last = std::exchange(listeners_, {});
 }
 
 bool ConnectionPoint::IsConnected(DWORD cookie) const {

@@ -18,6 +18,8 @@ class ConnectionPoint final : public IConnectionPoint {
     ConnectionPoint& operator=(const ConnectionPoint&) = delete;
 
     const IID& InterfaceId() const { return interfaceId_; }
+    /// Lets go of all listeners.
+    void Clear();
     bool HasListeners() const { return !listeners_.empty(); }
 
     /// Calls `call(listener)` for everyone who listened at the start and still does when it is its

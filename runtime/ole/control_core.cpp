@@ -25,26 +25,12 @@ constexpr TextView heightName = u"_ExtentY";
 
 }  // namespace
 
-// A call of the container: the control stays alive, and is not loaded anew under its own feet.
-class ControlCore::Callout {
- public:
-    explicit Callout(ControlCore& core) : core_(core), alive_(&core.controlling_) {
-        ++core_.callouts_;
-    }
-    ~Callout() { --core_.callouts_; }
-    Callout(const Callout&) = delete;
-    Callout& operator=(const Callout&) = delete;
-
- private:
-    ControlCore& core_;
-    ComPtr<IUnknown> alive_;
-};
-
 ControlCore::ControlCore(Component& component, const ClassDescriptor& type, IUnknown& controlling,
-                         CoreFaces faces)
+                         win32::Life& life, CoreFaces faces)
     : component_(component),
       type_(type),
       controlling_(controlling),
+      life_(life),
       faces_(faces),
       points_(controlling, EventInterface(type)),
       ambient_(site_, component.GetContext().fonts),
@@ -59,10 +45,19 @@ ControlCore::~ControlCore() {
     ++frozen_;
 }
 
+void ControlCore::Abandon() noexcept {
+    ++frozen_;
+    activation_.Abandon();
+    site_.Assign(nullptr);
+    points_.Events().Clear();
+    points_.Properties().Clear();
+    notices_.Clear();
+}
+
 void ControlCore::Make() {
     hosted_.reset();
     hosted_ = std::make_unique<win32::HostedControl>(component_.GetContext(), type_, *this,
-                                                     extent_.Pixels());
+                                                     extent_.Pixels(), &life_);
 }
 
 win32::HostedControl& ControlCore::Started() {
@@ -84,7 +79,8 @@ void ControlCore::StartNew() {
 }
 
 void ControlCore::Restart() {
-    if (activation_.IsActive() || callouts_ != 0 || isStarting_) {
+    // The call that loads it holds it once.
+    if (activation_.IsActive() || life_.Holds() > 1 || isStarting_) {
         throw ComError(E_UNEXPECTED);
     }
     if (hosted_->IsStarted()) {
@@ -141,7 +137,6 @@ void ControlCore::SizeChanged(SIZE pixels) {
 }
 
 void ControlCore::RequestSize(SIZE size) {
-    const Callout calling(*this);
     if (!activation_.IsActive()) {
         if (hosted_ != nullptr) {
             hosted_->SetSize(size);
@@ -163,7 +158,6 @@ void ControlCore::PictureChanged() {
 }
 
 void ControlCore::FocusChanged(bool inside) {
-    const Callout calling(*this);
     activation_.FocusChanged(inside);
 }
 
@@ -181,7 +175,6 @@ DISPID ControlCore::IdentifierOf(TextView property) const {
 }
 
 void ControlCore::PropertyChanged(TextView name) {
-    const Callout calling(*this);
     dirty_ = true;
     const DISPID identifier = IdentifierOf(name);
     points_.Properties().Tell<IPropertyNotifySink>(
@@ -190,7 +183,6 @@ void ControlCore::PropertyChanged(TextView name) {
 }
 
 bool ControlCore::CanPropertyChange(TextView name) {
-    const Callout calling(*this);
     const DISPID identifier = IdentifierOf(name);
     bool allowed = true;
     points_.Properties().Tell<IPropertyNotifySink>([&](IPropertyNotifySink& sink) {
@@ -204,7 +196,6 @@ void ControlCore::RaiseEvent(std::int32_t event, std::span<Value> arguments) {
     if (frozen_ != 0 || raised == nullptr) {
         return;
     }
-    const Callout calling(*this);
     ole::RaiseEvent(points_.Events(), *raised, arguments);
 }
 
@@ -237,7 +228,6 @@ void ControlCore::SetVisible(bool visible) {
 
 void ControlCore::Move(const RECT& place) {
     if (activation_.IsActive()) {
-        const Callout calling(*this);
         ComPtr<IOleInPlaceSite>(activation_.InPlaceSite())->OnPosRectChange(&place);
     } else {
         RequestSize(SizeOf(place));

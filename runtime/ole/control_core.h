@@ -29,7 +29,7 @@ class ControlCore final : public win32::ControlSite,
  public:
     /// `faces` need not be ready yet.
     ControlCore(Component& component, const ClassDescriptor& type, IUnknown& controlling,
-                CoreFaces faces);
+                win32::Life& life, CoreFaces faces);
     ~ControlCore() override;
     ControlCore(const ControlCore&) = delete;
     ControlCore& operator=(const ControlCore&) = delete;
@@ -37,6 +37,8 @@ class ControlCore final : public win32::ControlSite,
     const ClassDescriptor& Type() const { return type_; }
     Component& GetComponent() const { return component_; }
     IUnknown& Controlling() const { return controlling_; }
+    /// Every call into the core keeps it.
+    win32::Life& GetLife() const { return life_; }
     ConnectionPoints& Points() { return points_; }
     Notices& GetNotices() { return notices_; }
     Activation& GetActivation() { return activation_; }
@@ -53,6 +55,8 @@ class ControlCore final : public win32::ControlSite,
     /// container. What the bag raises comes out, and leaves a control that is not started.
     void Load(host::PropertyBag& bag);
     void Save(host::PropertyBag& bag);
+    /// No client has the control any more.
+    void Abandon() noexcept;
     bool IsDirty() const { return dirty_; }
     void SetDirty(bool dirty) { dirty_ = dirty; }
 
@@ -86,8 +90,6 @@ class ControlCore final : public win32::ControlSite,
     void Move(const RECT& place) override;
 
  private:
-    class Callout;
-
     void Make();
     void Restart();
     DISPID IdentifierOf(TextView property) const;
@@ -95,6 +97,7 @@ class ControlCore final : public win32::ControlSite,
     Component& component_;
     const ClassDescriptor& type_;
     IUnknown& controlling_;
+    win32::Life& life_;
     CoreFaces faces_;
     ClientSite site_;
     ConnectionPoints points_;
@@ -107,7 +110,6 @@ class ControlCore final : public win32::ControlSite,
     bool isStarting_ = false;
     bool startedOnPurpose_ = false;
     int frozen_ = 0;
-    int callouts_ = 0;
     std::unique_ptr<win32::HostedControl> hosted_;
 };
 

@@ -9,10 +9,10 @@ namespace lumenkit::ole {
 
 ControlObject::ControlObject(Component& component, const ClassDescriptor& type, IUnknown* outer)
     : Root(component, outer),
-      data_(Controlling(), core_),
-      active_(Controlling(), core_),
-      core_(component, type, Controlling(), {.data = data_, .active = active_}),
-      dual_(*this, Controlling()),
+      data_(Controlling(), *this, core_),
+      active_(Controlling(), *this, core_),
+      core_(component, type, Controlling(), *this, {.data = data_, .active = active_}),
+      dual_(*this, Controlling(), *this),
       classInfo_(Controlling(), type),
       safety_(Controlling()),
       errors_(Controlling(), GuidOf(type.interfaceTable->uniqueIdentifier)),

@@ -30,6 +30,7 @@ class ControlObject final : public Root, private DualTarget {
 
  private:
     IUnknown* Find(REFIID interfaceId) noexcept override;
+    void Released() noexcept override { core_.Abandon(); }
 
     const InterfaceTable& Table() const override { return *core_.Type().interfaceTable; }
     Object& Members() override { return core_.Started().Automation(); }

@@ -1,15 +1,16 @@
 #pragma once
 
 #include "runtime/ole/control_core.h"
-#include "runtime/ole/facet.h"
+#include "runtime/ole/held_facet.h"
 
 namespace lumenkit::ole {
 
 /// The control's picture as a metafile of either kind or as a bitmap.
-class DataObject final : public Facet<IDataObject> {
+class DataObject final : public HeldFacet<IDataObject> {
  public:
     /// `core` need not be made yet.
-    DataObject(IUnknown& controlling, ControlCore& core) : Facet(controlling), core_(core) {}
+    DataObject(IUnknown& controlling, win32::Life& life, ControlCore& core)
+        : HeldFacet(controlling, life), core_(core) {}
 
     HRESULT STDMETHODCALLTYPE GetData(FORMATETC* format, STGMEDIUM* medium) override;
     HRESULT STDMETHODCALLTYPE GetDataHere(FORMATETC* format, STGMEDIUM* medium) override;

@@ -46,6 +46,7 @@ struct DualInterface::Functions {
         if (*iid != IID_NULL) {
             return DISP_E_UNKNOWNINTERFACE;
         }
+        const win32::Life::Hold hold(&Owner(self).life_);
         return Guarded([&] {
             DualTarget& target = Owner(self).target_;
             return InvokeMember(target.Table(), target.Members(),
@@ -93,9 +94,10 @@ struct DualInterface::Functions {
     }
 };
 
-DualInterface::DualInterface(DualTarget& target, IUnknown& controlling)
+DualInterface::DualInterface(DualTarget& target, IUnknown& controlling, win32::Life& life)
     : target_(target),
       controlling_(controlling),
+      life_(life),
       slots_(SlotsOf(target.Table())),
       interfaceId_(GuidOf(target.Table().uniqueIdentifier)) {
     functions_ = {Functions::Address(&Functions::QueryInterface),
@@ -113,6 +115,7 @@ DualInterface::DualInterface(DualTarget& target, IUnknown& controlling)
 }
 
 HRESULT DualInterface::Call(std::size_t slot, const std::uintptr_t* words) noexcept {
+    const win32::Life::Hold hold(&life_);
     return Guarded([&] { return CallSlot(slots_[slot], target_.Members(), words, interfaceId_); },
                    interfaceId_);
 }

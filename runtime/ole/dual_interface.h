@@ -3,6 +3,7 @@
 #include <array>
 
 #include "runtime/ole/slot_call.h"
+#include "runtime/win32/life.h"
 
 namespace lumenkit::ole {
 
@@ -22,7 +23,8 @@ class DualTarget {
 /// one entry for each Slot.
 class DualInterface {
  public:
-    DualInterface(DualTarget& target, IUnknown& controlling);
+    /// `life` is the target's, kept while one of the functions runs.
+    DualInterface(DualTarget& target, IUnknown& controlling, win32::Life& life);
     DualInterface(const DualInterface&) = delete;
     DualInterface& operator=(const DualInterface&) = delete;
 
@@ -46,6 +48,7 @@ class DualInterface {
 
     DualTarget& target_;
     IUnknown& controlling_;
+    win32::Life& life_;
     std::vector<Slot> slots_;
     GUID interfaceId_;
     std::vector<const void*> functions_;

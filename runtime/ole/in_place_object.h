@@ -1,13 +1,14 @@
 #pragma once
 
 #include "runtime/ole/control_core.h"
-#include "runtime/ole/facet.h"
+#include "runtime/ole/held_facet.h"
 
 namespace lumenkit::ole {
 
-class InPlaceObject final : public Facet<IOleInPlaceObject> {
+class InPlaceObject final : public HeldFacet<IOleInPlaceObject> {
  public:
-    explicit InPlaceObject(ControlCore& core) : Facet(core.Controlling()), core_(core) {}
+    explicit InPlaceObject(ControlCore& core)
+        : HeldFacet(core.Controlling(), core.GetLife()), core_(core) {}
 
     HRESULT STDMETHODCALLTYPE GetWindow(HWND* window) override;
     HRESULT STDMETHODCALLTYPE ContextSensitiveHelp(BOOL /*enter*/) override { return E_NOTIMPL; }

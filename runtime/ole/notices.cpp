@@ -1,5 +1,7 @@
 #include "runtime/ole/notices.h"
 
+#include <utility>
+
 #include "runtime/ole/result.h"
 
 namespace lumenkit::ole {
@@ -68,6 +70,13 @@ void Notices::Closed() {
     if (life_ != nullptr) {
         ComPtr<IOleAdviseHolder>(life_)->SendOnClose();
     }
+}
+
+void Notices::Clear() {
+    // Releasing them may run code of anybody's.
+    const auto view = std::exchange(view_, nullptr);
+    const auto life = std::exchange(life_, nullptr);
+    const auto data = std::exchange(data_, nullptr);
 }
 
 }  // namespace lumenkit::ole

@@ -19,6 +19,8 @@ class Notices {
     void PictureChanged(IDataObject& data);
     void Saved();
     void Closed();
+    /// Lets go of all of them.
+    void Clear();
 
  private:
     ComPtr<IAdviseSink> view_;

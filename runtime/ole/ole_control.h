@@ -1,13 +1,14 @@
 #pragma once
 
 #include "runtime/ole/control_core.h"
-#include "runtime/ole/facet.h"
+#include "runtime/ole/held_facet.h"
 
 namespace lumenkit::ole {
 
-class OleControl final : public Facet<IOleControl> {
+class OleControl final : public HeldFacet<IOleControl> {
  public:
-    explicit OleControl(ControlCore& core) : Facet(core.Controlling()), core_(core) {}
+    explicit OleControl(ControlCore& core)
+        : HeldFacet(core.Controlling(), core.GetLife()), core_(core) {}
 
     HRESULT STDMETHODCALLTYPE GetControlInfo(CONTROLINFO* information) override;
     HRESULT STDMETHODCALLTYPE OnMnemonic(MSG* message) override;

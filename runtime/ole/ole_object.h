@@ -1,13 +1,14 @@
 #pragma once
 
 #include "runtime/ole/control_core.h"
-#include "runtime/ole/facet.h"
+#include "runtime/ole/held_facet.h"
 
 namespace lumenkit::ole {
 
-class OleObject final : public Facet<IOleObject> {
+class OleObject final : public HeldFacet<IOleObject> {
  public:
-    explicit OleObject(ControlCore& core) : Facet(core.Controlling()), core_(core) {}
+    explicit OleObject(ControlCore& core)
+        : HeldFacet(core.Controlling(), core.GetLife()), core_(core) {}
 
     HRESULT STDMETHODCALLTYPE SetClientSite(IOleClientSite* site) override;
     HRESULT STDMETHODCALLTYPE GetClientSite(IOleClientSite** site) override;

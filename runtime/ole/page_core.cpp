@@ -1,12 +1,21 @@
 #include "runtime/ole/page_core.h"
 
+#include <utility>
+
 #include "frame/runtime_error.h"
 
 namespace lumenkit::ole {
 
-PageCore::PageCore(Component& component, const ClassDescriptor& type)
+PageCore::PageCore(Component& component, const ClassDescriptor& type, win32::Life& life)
     : type_(type),
-      hosted_(std::make_unique<win32::HostedPage>(component.GetContext(), type, *this, *this)) {}
+      hosted_(
+          std::make_unique<win32::HostedPage>(component.GetContext(), type, *this, *this, &life)) {}
+
+void PageCore::Abandon() noexcept {
+    hosted_->Detach();
+    const auto site = std::exchange(site_, nullptr);
+    const auto controls = std::exchange(controls_, {});
+}
 
 void PageCore::SetChanged(bool changed) {
     changed_ = changed;

@@ -12,13 +12,15 @@ namespace lumenkit::ole {
 /// edits.
 class PageCore final : public host::PropertyPageSite, public host::SelectedControls {
  public:
-    PageCore(Component& component, const ClassDescriptor& type);
+    PageCore(Component& component, const ClassDescriptor& type, win32::Life& life);
 
     const ClassDescriptor& Type() const { return type_; }
     win32::HostedPage& Hosted() { return *hosted_; }
 
     void SetSite(IPropertyPageSite* site) { site_ = site; }
     const ComPtr<IPropertyPageSite>& Site() const { return site_; }
+    /// No client has the page any more.
+    void Abandon() noexcept;
     void Select(std::vector<ObjectRef> controls) { controls_ = std::move(controls); }
 
     // What the page asks and tells.

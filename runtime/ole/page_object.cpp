@@ -7,9 +7,9 @@ namespace lumenkit::ole {
 
 PageObject::PageObject(Component& component, const ClassDescriptor& type, IUnknown* outer)
     : Root(component, outer),
-      core_(component, type),
-      dual_(*this, Controlling()),
-      page_(Controlling(), core_),
+      core_(component, type, *this),
+      dual_(*this, Controlling(), *this),
+      page_(Controlling(), *this, core_),
       errors_(Controlling(), IID_IPropertyPage) {}
 
 IUnknown* PageObject::Find(REFIID interfaceId) noexcept {

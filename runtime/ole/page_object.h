@@ -14,6 +14,7 @@ class PageObject final : public Root, private DualTarget {
 
  private:
     IUnknown* Find(REFIID interfaceId) noexcept override;
+    void Released() noexcept override { core_.Abandon(); }
 
     const InterfaceTable& Table() const override { return *core_.Type().interfaceTable; }
     Object& Members() override { return core_.Hosted().Automation(); }

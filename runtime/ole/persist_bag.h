@@ -1,13 +1,14 @@
 #pragma once
 
 #include "runtime/ole/control_core.h"
-#include "runtime/ole/facet.h"
+#include "runtime/ole/held_facet.h"
 
 namespace lumenkit::ole {
 
-class PersistBag final : public Facet<IPersistPropertyBag> {
+class PersistBag final : public HeldFacet<IPersistPropertyBag> {
  public:
-    explicit PersistBag(ControlCore& core) : Facet(core.Controlling()), core_(core) {}
+    explicit PersistBag(ControlCore& core)
+        : HeldFacet(core.Controlling(), core.GetLife()), core_(core) {}
 
     HRESULT STDMETHODCALLTYPE GetClassID(CLSID* classId) override;
     HRESULT STDMETHODCALLTYPE InitNew() override;

@@ -1,14 +1,15 @@
 #pragma once
 
 #include "runtime/ole/control_core.h"
-#include "runtime/ole/facet.h"
+#include "runtime/ole/held_facet.h"
 
 namespace lumenkit::ole {
 
 /// Keeps the settings in the stream "Contents" of the container's storage.
-class PersistStorage final : public Facet<IPersistStorage> {
+class PersistStorage final : public HeldFacet<IPersistStorage> {
  public:
-    explicit PersistStorage(ControlCore& core) : Facet(core.Controlling()), core_(core) {}
+    explicit PersistStorage(ControlCore& core)
+        : HeldFacet(core.Controlling(), core.GetLife()), core_(core) {}
 
     HRESULT STDMETHODCALLTYPE GetClassID(CLSID* classId) override;
     HRESULT STDMETHODCALLTYPE IsDirty() override { return core_.IsDirty() ? S_OK : S_FALSE; }

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "runtime/ole/control_core.h"
-#include "runtime/ole/facet.h"
+#include "runtime/ole/held_facet.h"
 
 namespace lumenkit::ole {
 
@@ -11,9 +11,10 @@ void SaveTo(IStream& stream, ControlCore& core);
 void LoadFrom(IStream& stream, ControlCore& core);
 
 /// IPersistStreamInit; also what stands for IPersistStream, whose functions are the first of it.
-class PersistStream final : public Facet<IPersistStreamInit> {
+class PersistStream final : public HeldFacet<IPersistStreamInit> {
  public:
-    explicit PersistStream(ControlCore& core) : Facet(core.Controlling()), core_(core) {}
+    explicit PersistStream(ControlCore& core)
+        : HeldFacet(core.Controlling(), core.GetLife()), core_(core) {}
 
     HRESULT STDMETHODCALLTYPE GetClassID(CLSID* classId) override;
     HRESULT STDMETHODCALLTYPE IsDirty() override { return core_.IsDirty() ? S_OK : S_FALSE; }

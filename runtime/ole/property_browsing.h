@@ -1,14 +1,15 @@
 #pragma once
 
 #include "runtime/ole/control_core.h"
-#include "runtime/ole/facet.h"
+#include "runtime/ole/held_facet.h"
 
 namespace lumenkit::ole {
 
 /// Helps a property browser: the members of enumerations by name, the page of a property.
-class PropertyBrowsing final : public Facet<IPerPropertyBrowsing> {
+class PropertyBrowsing final : public HeldFacet<IPerPropertyBrowsing> {
  public:
-    explicit PropertyBrowsing(ControlCore& core) : Facet(core.Controlling()), core_(core) {}
+    explicit PropertyBrowsing(ControlCore& core)
+        : HeldFacet(core.Controlling(), core.GetLife()), core_(core) {}
 
     HRESULT STDMETHODCALLTYPE GetDisplayString(DISPID property, BSTR* text) override;
     HRESULT STDMETHODCALLTYPE MapPropertyToPage(DISPID property, CLSID* page) override;

@@ -1,14 +1,15 @@
 #pragma once
 
-#include "runtime/ole/facet.h"
+#include "runtime/ole/held_facet.h"
 #include "runtime/ole/page_core.h"
 
 namespace lumenkit::ole {
 
 /// IPropertyPage and IPropertyPage2.
-class PropertyPageFace final : public Facet<IPropertyPage2> {
+class PropertyPageFace final : public HeldFacet<IPropertyPage2> {
  public:
-    PropertyPageFace(IUnknown& controlling, PageCore& core) : Facet(controlling), core_(core) {}
+    PropertyPageFace(IUnknown& controlling, win32::Life& life, PageCore& core)
+        : HeldFacet(controlling, life), core_(core) {}
 
     HRESULT STDMETHODCALLTYPE SetPageSite(IPropertyPageSite* site) override;
     HRESULT STDMETHODCALLTYPE Activate(HWND parent, LPCRECT place, BOOL modal) override;

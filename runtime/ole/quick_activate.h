@@ -1,14 +1,15 @@
 #pragma once
 
 #include "runtime/ole/control_core.h"
-#include "runtime/ole/facet.h"
+#include "runtime/ole/held_facet.h"
 
 namespace lumenkit::ole {
 
 /// A container's first words to a control in one call.
-class QuickActivation final : public Facet<IQuickActivate> {
+class QuickActivation final : public HeldFacet<IQuickActivate> {
  public:
-    explicit QuickActivation(ControlCore& core) : Facet(core.Controlling()), core_(core) {}
+    explicit QuickActivation(ControlCore& core)
+        : HeldFacet(core.Controlling(), core.GetLife()), core_(core) {}
 
     HRESULT STDMETHODCALLTYPE QuickActivate(QACONTAINER* container, QACONTROL* control) override;
     HRESULT STDMETHODCALLTYPE SetContentExtent(LPSIZEL size) override;

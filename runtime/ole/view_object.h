@@ -1,16 +1,17 @@
 #pragma once
 
 #include "runtime/ole/control_core.h"
-#include "runtime/ole/facet.h"
+#include "runtime/ole/held_facet.h"
 
 namespace lumenkit::ole {
 
 /// IViewObject, IViewObject2 and IViewObjectEx.
-class ViewObject final : public Facet<IViewObjectEx> {
+class ViewObject final : public HeldFacet<IViewObjectEx> {
  public:
     using Continue = BOOL(STDMETHODCALLTYPE*)(ULONG_PTR);
 
-    explicit ViewObject(ControlCore& core) : Facet(core.Controlling()), core_(core) {}
+    explicit ViewObject(ControlCore& core)
+        : HeldFacet(core.Controlling(), core.GetLife()), core_(core) {}
 
     HRESULT STDMETHODCALLTYPE Draw(DWORD aspect, LONG index, void* aspectInfo,
                                    DVTARGETDEVICE* target, HDC targetDevice, HDC device,

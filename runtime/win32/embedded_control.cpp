@@ -23,7 +23,8 @@ EmbeddedControl::EmbeddedControl(const Owner& owner, const host::Design& design,
       extender_(*this, design.name) {
     RequireSize(placement_.width, placement_.height);
     ControlSite& site = *this;
-    control_.emplace(owner.context, type, site, SizeOf(ToPixels(placement_, resolution_)));
+    control_.emplace(owner.context, type, site, SizeOf(ToPixels(placement_, resolution_)),
+                     owner.window.GetLife());
     PlaceWindow();  // it may have asked for another size
     control_->StartNew();
     if (visible_) {

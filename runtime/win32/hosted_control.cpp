@@ -80,7 +80,8 @@ Press PressOf(UINT message) {
 
 class HostedControl::Body final : public HostedWindow, public Drawable, private SurfaceOwner {
  public:
-    Body(const Context& context, const ClassDescriptor& type, ControlSite& site, SIZE size);
+    Body(const Context& context, const ClassDescriptor& type, ControlSite& site, SIZE size,
+         Life* life);
     ~Body() override;
     Body(const Body&) = delete;
     Body& operator=(const Body&) = delete;
@@ -149,8 +150,8 @@ class HostedControl::Body final : public HostedWindow, public Drawable, private 
 };
 
 HostedControl::Body::Body(const Context& context, const ClassDescriptor& type, ControlSite& site,
-                          SIZE size)
-    : HostedWindow(context.module, size),
+                          SIZE size, Life* life)
+    : HostedWindow(context.module, size, life),
       type_(type),
       site_(site),
       size_(size),
@@ -549,8 +550,8 @@ void HostedControl::Body::Focus(bool last) {
 // ---- What others see
 
 HostedControl::HostedControl(const Context& context, const ClassDescriptor& type, ControlSite& site,
-                             SIZE size)
-    : body_(std::make_unique<Body>(context, type, site, size)) {}
+                             SIZE size, Life* life)
+    : body_(std::make_unique<Body>(context, type, site, size, life)) {}
 
 HostedControl::~HostedControl() = default;
 

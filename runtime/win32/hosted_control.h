@@ -5,6 +5,7 @@
 #include "frame/class_table.h"
 #include "frame/control.h"
 #include "runtime/win32/context.h"
+#include "runtime/win32/life.h"
 #include "runtime/win32/windows_header.h"
 
 namespace lumenkit::win32 {
@@ -35,16 +36,19 @@ class ControlSite {
 /// pointer. The window's text, for programs that read it aloud, is what the control shows.
 ///
 /// It must not be destroyed while one of its procedures is at work, that is before an event that it
-/// raised or a call of its site has returned. Its container may destroy its window at any time.
+/// raised or a call of its site has returned: where that may happen, a Life puts the end off. Its
+/// container may destroy its window at any time.
 ///
 /// Belongs to the thread that made it. Errors of the control's own procedures never come out of it;
 /// construction raises 7 when the platform has no more windows.
 class HostedControl {
  public:
     /// Creates the control, `size` pixels large, border included, and runs UserControl_Initialize.
-    /// `type` is a control's. Raises 429 for another class.
-    HostedControl(const Context& context, const ClassDescriptor& type, ControlSite& site,
-                  SIZE size);
+    /// `type` is a control's. Raises 429 for another class. `life` is kept while one of the
+    /// control's windows answers a message; whoever calls the control in another way keeps it
+    /// himself.
+    HostedControl(const Context& context, const ClassDescriptor& type, ControlSite& site, SIZE size,
+                  Life* life = nullptr);
     ~HostedControl();
     HostedControl(const HostedControl&) = delete;
     HostedControl& operator=(const HostedControl&) = delete;

@@ -20,7 +20,7 @@ SIZE LaidOutSize(const ClassDescriptor& type, Resolution resolution) {
 class HostedPage::Body final : public HostedWindow {
  public:
     Body(const Context& context, const ClassDescriptor& type, host::PropertyPageSite& site,
-         host::SelectedControls& selectedControls);
+         host::SelectedControls& selectedControls, Life* life);
     ~Body() override;
     Body(const Body&) = delete;
     Body& operator=(const Body&) = delete;
@@ -44,8 +44,9 @@ class HostedPage::Body final : public HostedWindow {
 };
 
 HostedPage::Body::Body(const Context& context, const ClassDescriptor& type,
-                       host::PropertyPageSite& site, host::SelectedControls& selectedControls)
-    : HostedWindow(context.module, LaidOutSize(type, Resolution::OfScreen())),
+                       host::PropertyPageSite& site, host::SelectedControls& selectedControls,
+                       Life* life)
+    : HostedWindow(context.module, LaidOutSize(type, Resolution::OfScreen()), life),
       size_(LaidOutSize(type, Resolution::OfScreen())),
       constituents_(context, *this, true),
       host_{.site = site,
@@ -84,8 +85,9 @@ LRESULT HostedPage::Body::HandleMessage(UINT message, WPARAM wParam, LPARAM lPar
 }
 
 HostedPage::HostedPage(const Context& context, const ClassDescriptor& type,
-                       host::PropertyPageSite& site, host::SelectedControls& selectedControls)
-    : body_(std::make_unique<Body>(context, type, site, selectedControls)) {}
+                       host::PropertyPageSite& site, host::SelectedControls& selectedControls,
+                       Life* life)
+    : body_(std::make_unique<Body>(context, type, site, selectedControls, life)) {}
 
 HostedPage::~HostedPage() = default;
 

@@ -5,6 +5,7 @@
 #include "frame/class_table.h"
 #include "frame/control.h"
 #include "runtime/win32/context.h"
+#include "runtime/win32/life.h"
 #include "runtime/win32/windows_header.h"
 
 namespace lumenkit::win32 {
@@ -14,9 +15,10 @@ namespace lumenkit::win32 {
 class HostedPage {
  public:
     /// Creates the page and runs PropertyPage_Initialize. `type` is a page's; raises 429 for
-    /// another class. `site` and `selectedControls` must outlive the page.
+    /// another class. `site` and `selectedControls` must outlive the page. `life` as a
+    /// HostedControl's.
     HostedPage(const Context& context, const ClassDescriptor& type, host::PropertyPageSite& site,
-               host::SelectedControls& selectedControls);
+               host::SelectedControls& selectedControls, Life* life = nullptr);
     ~HostedPage();
     HostedPage(const HostedPage&) = delete;
     HostedPage& operator=(const HostedPage&) = delete;

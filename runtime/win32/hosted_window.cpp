@@ -12,11 +12,12 @@ constexpr UINT quietly = SWP_NOZORDER | SWP_NOACTIVATE | SWP_NOOWNERZORDER;
 
 }  // namespace
 
-HostedWindow::HostedWindow(HINSTANCE module, SIZE size) : parking_(module) {
+HostedWindow::HostedWindow(HINSTANCE module, SIZE size, Life* life) : parking_(module) {
     Create({.module = module,
             .style = WS_CHILD | WS_CLIPCHILDREN | WS_CLIPSIBLINGS,
             .place = {0, 0, size.cx, size.cy},
-            .parent = parking_.Handle()});
+            .parent = parking_.Handle(),
+            .life = life});
 }
 
 LRESULT HostedWindow::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) {

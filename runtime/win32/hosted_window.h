@@ -11,8 +11,9 @@ class HostedWindow : public Window {
     bool IsAttached() const { return isAttached_ && Handle() != nullptr; }
 
  protected:
-    /// `size` in pixels. Raises 7 when the platform has no more windows.
-    HostedWindow(HINSTANCE module, SIZE size);
+    /// `size` in pixels; `life` is null where nothing waits for the window. Raises 7 when the
+    /// platform has no more windows.
+    HostedWindow(HINSTANCE module, SIZE size, Life* life);
 
     LRESULT HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
 

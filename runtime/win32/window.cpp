@@ -76,6 +76,8 @@ void RemoveWindowClass(HINSTANCE module) {
 }
 
 void Window::Create(const WindowDesign& design) {
+    const Window* const parent = Of(design.parent);
+    life_ = design.life == nullptr && parent != nullptr ? parent->life_ : design.life;
     const std::wstring text = ToWide(design.text);
     const RECT& place = design.place;
     handle_ =
@@ -130,6 +132,7 @@ LRESULT CALLBACK Window::Procedure(HWND handle, UINT message, WPARAM wParam, LPA
     if (window == nullptr) {
         return DefWindowProcW(handle, message, wParam, lParam);
     }
+    const Life::Hold hold(window->life_);
     if (message != WM_NCDESTROY) {
         return window->Answer(message, wParam, lParam);
     }

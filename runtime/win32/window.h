@@ -3,6 +3,7 @@
 #include <optional>
 
 #include "frame/text.h"
+#include "runtime/win32/life.h"
 #include "runtime/win32/windows_header.h"
 
 namespace lumenkit::win32 {
@@ -17,6 +18,9 @@ struct WindowDesign {
     DWORD extendedStyle = 0;
     RECT place = {};  ///< pixels, in the parent
     HWND parent = nullptr;
+    /// Of the object that the window belongs to, kept while the window answers a message; null:
+    /// that of the parent, where it is a window of this library.
+    Life* life = nullptr;
 };
 
 /// A window that lives as long as the object. Belongs to the thread that created it.
@@ -34,6 +38,8 @@ class Window {
     HWND Handle() const { return handle_; }
     /// The object behind a window of this library; null when it is none.
     static Window* Of(HWND handle);
+    /// What is kept while the window answers; null where nothing is.
+    Life* GetLife() const { return life_; }
     /// How many windows of this library exist in the process.
     static int Count();
 
@@ -89,6 +95,7 @@ class Window {
     void LetGo();
 
     HWND handle_ = nullptr;
+    Life* life_ = nullptr;      // null: nothing waits for this window
     WNDPROC former_ = nullptr;  // of the platform's class
     int defaultCalls_ = 0;      // of the platform's class that have not returned
     Watch* watches_ = nullptr;  // the innermost

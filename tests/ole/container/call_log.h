@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <string>
 #include <utility>
 #include <vector>
@@ -11,7 +12,15 @@ class CallLog {
  public:
     using Lines = std::vector<std::string>;
 
-    void Add(std::string line) { lines_.push_back(std::move(line)); }
+    void Add(std::string line) {
+        lines_.push_back(line);
+        if (heard) {
+            heard(line);
+        }
+    }
+    /// Runs with each call, after it was written down.
+    std::function<void(const std::string& line)> heard;
+
     Lines Take() { return std::exchange(lines_, {}); }
 
  private:

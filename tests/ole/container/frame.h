@@ -11,6 +11,7 @@ class Frame final : public Counted<IOleInPlaceFrame> {
     explicit Frame(CallLog& log) : Counted(IID_IOleInPlaceFrame), log_(log) {}
 
     const ole::ComPtr<IOleInPlaceActiveObject>& Active() const { return active_; }
+    void Forget() { active_.Reset(); }
 
     HRESULT STDMETHODCALLTYPE GetWindow(HWND* /*window*/) override { return E_NOTIMPL; }
     HRESULT STDMETHODCALLTYPE ContextSensitiveHelp(BOOL /*enter*/) override { return E_NOTIMPL; }
@@ -24,8 +25,8 @@ class Frame final : public Counted<IOleInPlaceFrame> {
     }
     HRESULT STDMETHODCALLTYPE SetActiveObject(IOleInPlaceActiveObject* object,
                                               LPCOLESTR /*name*/) override {
-        log_.Add(object == nullptr ? "SetActiveObject none" : "SetActiveObject");
         active_ = object;
+        log_.Add(object == nullptr ? "SetActiveObject none" : "SetActiveObject");
         return S_OK;
     }
     HRESULT STDMETHODCALLTYPE InsertMenus(HMENU /*menu*/, OLEMENUGROUPWIDTHS* /*widths*/) override {

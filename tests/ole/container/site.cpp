@@ -72,6 +72,11 @@ void Site::LetGo() {
     object_.Reset();
 }
 
+void Site::Drop() {
+    frame_.Forget();
+    object_.Reset();
+}
+
 HRESULT Site::DoVerb(LONG verb) {
     return As<IOleObject>()->DoVerb(verb, nullptr, &clientSite_, 0, form_.Window(), &place_);
 }

@@ -45,6 +45,8 @@ class Site final : public IUnknown {
     void Take(ole::ComPtr<IUnknown> object);
     /// Ends the conversation in good order and lets the object go.
     void LetGo();
+    /// Lets the object go without a word.
+    void Drop();
     template <typename Interface>
     ole::ComPtr<Interface> As() const {
         ole::ComPtr<Interface> found;
