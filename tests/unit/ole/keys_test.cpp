@@ -1,0 +1,79 @@
+// Keys on their way through a container: the control first, then the container.
+#include "tests/unit/ole/ole_test.h"
+
+namespace lumenkit::ole {
+namespace {
+
+class KeysTest : public OleTest {
+ protected:
+    void Place(TextView name) { site_.Take(Create(name)); }
+    void Activate() {
+        EXPECT_EQ(site_.DoVerb(OLEIVERB_UIACTIVATE), S_OK);
+        site_.Log().Take();
+    }
+    HRESULT Send(UINT message, WPARAM key) {
+        MSG sent = {};
+        sent.hwnd = GetFocus();
+        sent.message = message;
+        sent.wParam = key;
+        return site_.As<IOleInPlaceActiveObject>()->TranslateAccelerator(&sent);
+    }
+    void TearDown() override {
+        site_.LetGo();
+        OleTest::TearDown();
+    }
+
+    container::Form form_;
+    container::Site site_{form_};
+};
+
+TEST_F(KeysTest, TabLeavesAMemoAndReturnStaysInIt) {
+    Place(u"VMemo");
+    Activate();
+    const HWND box = GetFocus();
+    EXPECT_EQ(Send(WM_KEYDOWN, VK_TAB), S_FALSE);
+    EXPECT_EQ(site_.Log().Take(), Lines{"TranslateAccelerator"});
+    EXPECT_EQ(GetFocus(), box);  // it is the container's to move it
+    EXPECT_EQ(Send(WM_KEYDOWN, VK_RETURN), S_OK);
+    EXPECT_EQ(site_.Log().Take(), Lines{});
+    EXPECT_EQ(Send(WM_KEYDOWN, VK_ESCAPE), S_FALSE);
+    EXPECT_EQ(Send(WM_SYSCHAR, 'x'), S_FALSE);
+}
+
+TEST_F(KeysTest, ArrowsStayInAnOptionListAndTabLeavesIt) {
+    Place(u"VOptList");
+    const Late list(site_.As<IDispatch>());
+    EXPECT_EQ(list.Put(L"Contents", Text(u"a;&Apple|b;&Banana|c;Cherry")), S_OK);
+    EXPECT_EQ(list.Put(L"ListIndex", std::int16_t{0}), S_OK);
+    Activate();
+    const HWND first = GetFocus();
+    EXPECT_EQ(Send(WM_KEYDOWN, VK_DOWN), S_OK);
+    EXPECT_EQ(ToLong(list.Get(L"ListIndex")), 1);
+    EXPECT_NE(GetFocus(), first);
+    EXPECT_EQ(Send(WM_KEYDOWN, VK_UP), S_OK);
+    EXPECT_EQ(ToLong(list.Get(L"ListIndex")), 0);
+    EXPECT_EQ(GetFocus(), first);
+    EXPECT_EQ(Send(WM_KEYDOWN, VK_UP), S_OK);  // round the end
+    EXPECT_EQ(ToLong(list.Get(L"ListIndex")), 2);
+    EXPECT_EQ(Send(WM_SYSCHAR, 'B'), S_OK);
+    EXPECT_EQ(ToLong(list.Get(L"ListIndex")), 1);
+    EXPECT_EQ(site_.Log().Take(), Lines{});
+    EXPECT_EQ(Send(WM_KEYDOWN, VK_TAB), S_FALSE);
+    EXPECT_EQ(Send(WM_KEYDOWN, VK_RETURN), S_FALSE);
+    EXPECT_EQ(Send(WM_SYSCHAR, 'z'), S_FALSE);
+    EXPECT_EQ(std::ranges::count(site_.Log().Take(), "TranslateAccelerator"), 3);
+}
+
+TEST_F(KeysTest, ALabelUsesNoKeys) {
+    Place(u"VLabel");
+    EXPECT_EQ(Late(site_.As<IDispatch>()).Put(L"Caption", Text(u"&Name")), S_OK);
+    Activate();
+    for (const WPARAM key : {VK_TAB, VK_RETURN, VK_DOWN}) {
+        EXPECT_EQ(Send(WM_KEYDOWN, key), S_FALSE);
+    }
+    EXPECT_EQ(Send(WM_SYSCHAR, 'n'), S_FALSE);  // its captions have no mnemonics
+    EXPECT_EQ(std::ranges::count(site_.Log().Take(), "TranslateAccelerator"), 4);
+}
+
+}  // namespace
+}  // namespace lumenkit::ole
