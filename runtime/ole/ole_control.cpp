@@ -1,6 +1,9 @@
 #include "runtime/ole/ole_control.h"
 
+#include <vector>
+
 #include "runtime/ole/result.h"
+#include "runtime/win32/keyboard.h"
 
 namespace lumenkit::ole {
 
@@ -25,6 +28,34 @@ bool EatsReturn(HWND window) {
     return found;
 }
 
+// Containers compare what was typed or which key it was, so both are given.
+std::vector<ACCEL> AcceleratorsOf(const std::wstring& mnemonics) {
+    std::vector<ACCEL> accelerators;
+    for (const wchar_t unit : mnemonics) {
+        wchar_t upper = unit;
+        CharUpperBuffW(&upper, 1);
+        accelerators.push_back({.fVirt = FALT, .key = unit, .cmd = 0});
+        if (upper != unit) {
+            accelerators.push_back({.fVirt = FALT, .key = upper, .cmd = 0});
+        }
+        const SHORT key = VkKeyScanW(unit);
+        if (key != -1 && HIBYTE(key) == 0) {
+            accelerators.push_back(
+                {.fVirt = FALT | FVIRTKEY, .key = static_cast<WORD>(LOBYTE(key)), .cmd = 0});
+        }
+    }
+    return accelerators;
+}
+
+// What the message types; 0 for nothing.
+wchar_t UnitOf(const MSG& message) {
+    if (message.message == WM_SYSCHAR || message.message == WM_CHAR) {
+        return static_cast<wchar_t>(message.wParam);
+    }
+    return static_cast<wchar_t>(
+        MapVirtualKeyW(static_cast<UINT>(message.wParam), MAPVK_VK_TO_CHAR));
+}
+
 }  // namespace
 
 HRESULT OleControl::GetControlInfo(CONTROLINFO* information) {
@@ -32,8 +63,12 @@ HRESULT OleControl::GetControlInfo(CONTROLINFO* information) {
         if (Checked(information).cb != sizeof(CONTROLINFO)) {
             return E_INVALIDARG;
         }
-        information->hAccel = nullptr;
-        information->cAccel = 0;
+        std::vector<ACCEL> keys = AcceleratorsOf(win32::MnemonicsInside(core_.Started().Window()));
+        table_.reset(keys.empty()
+                         ? nullptr
+                         : CreateAcceleratorTableW(keys.data(), static_cast<int>(keys.size())));
+        information->hAccel = table_.get();
+        information->cAccel = table_ == nullptr ? WORD{0} : static_cast<WORD>(keys.size());
         information->dwFlags = EatsReturn(core_.Hosted().Window()) ? CTRLINFO_EATS_RETURN : 0;
         return S_OK;
     });
@@ -41,8 +76,11 @@ HRESULT OleControl::GetControlInfo(CONTROLINFO* information) {
 
 HRESULT OleControl::OnMnemonic(MSG* message) {
     return Guarded([&] {
-        Checked(message);
+        const wchar_t unit = UnitOf(Checked(message));
         core_.GetActivation().ActivateUI();
+        if (unit != 0 && core_.GetActivation().IsActive()) {
+            win32::UseMnemonicInside(core_.Hosted().Window(), unit);
+        }
     });
 }
 

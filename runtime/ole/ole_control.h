@@ -1,5 +1,7 @@
 #pragma once
 
+#include <memory>
+
 #include "runtime/ole/control_core.h"
 #include "runtime/ole/held_facet.h"
 
@@ -16,7 +18,13 @@ class OleControl final : public HeldFacet<IOleControl> {
     HRESULT STDMETHODCALLTYPE FreezeEvents(BOOL freeze) override;
 
  private:
+    struct TableEnd {
+        void operator()(HACCEL table) const { DestroyAcceleratorTable(table); }
+    };
+
     ControlCore& core_;
+    // The mnemonics as the container has them; the container only reads it.
+    std::unique_ptr<std::remove_pointer_t<HACCEL>, TableEnd> table_;
 };
 
 }  // namespace lumenkit::ole

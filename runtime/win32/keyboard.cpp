@@ -162,13 +162,37 @@ bool UseKey(HWND root, const MSG& message) {
     return WantsKey(message.hwnd, key) && HandOver(message);
 }
 
-bool HasMnemonic(HWND window, wchar_t unit) {
+std::wstring CaptionOf(HWND window) {
     if ((Wishes(window) & (DLGC_BUTTON | DLGC_STATIC)) == 0) {
-        return false;  // its text is what was typed
+        return {};  // its text is what was typed
     }
     std::array<wchar_t, 256> caption{};
     GetWindowTextW(window, caption.data(), static_cast<int>(caption.size()));
-    return AnswersTo(caption.data(), unit);
+    return caption.data();
+}
+
+bool HasMnemonic(HWND window, wchar_t unit) {
+    return AnswersTo(CaptionOf(window).c_str(), unit);
+}
+
+wchar_t Lower(wchar_t unit) {
+    return static_cast<wchar_t>(LowerUnit(static_cast<char16_t>(unit)));
+}
+
+// Calls `call` with each mnemonic of a caption, in lower case, until it answers true.
+template <typename Call>
+bool AnyMnemonic(const wchar_t* text, Call&& call) {
+    for (const wchar_t* at = std::wcschr(text, L'&'); at != nullptr; at = std::wcschr(at, L'&')) {
+        const wchar_t mnemonic = at[1];
+        if (mnemonic == L'\0') {
+            return false;
+        }
+        if (mnemonic != L'&' && call(Lower(mnemonic))) {
+            return true;
+        }
+        at += 2;
+    }
+    return false;
 }
 
 bool UseMnemonicOf(HWND window, const Windows& usable) {
@@ -225,19 +249,25 @@ bool TranslateKeyInside(HWND root, const MSG& message) {
     return message.message == WM_SYSCHAR && UseMnemonic(root, static_cast<wchar_t>(message.wParam));
 }
 
-bool AnswersTo(const wchar_t* text, wchar_t unit) {
-    const auto lower = [](wchar_t one) { return LowerUnit(static_cast<char16_t>(one)); };
-    for (const wchar_t* at = std::wcschr(text, L'&'); at != nullptr; at = std::wcschr(at, L'&')) {
-        const wchar_t mnemonic = at[1];
-        if (mnemonic == L'\0') {
+std::wstring MnemonicsInside(HWND root) {
+    std::wstring found;
+    for (const HWND window : UsableIn(root)) {
+        AnyMnemonic(CaptionOf(window).c_str(), [&](wchar_t mnemonic) {
+            if (found.find(mnemonic) == std::wstring::npos) {
+                found.push_back(mnemonic);
+            }
             return false;
-        }
-        if (mnemonic != L'&' && lower(mnemonic) == lower(unit)) {
-            return true;
-        }
-        at += 2;
+        });
     }
-    return false;
+    return found;
+}
+
+bool UseMnemonicInside(HWND root, wchar_t unit) {
+    return root != nullptr && UseMnemonic(root, unit);
+}
+
+bool AnswersTo(const wchar_t* text, wchar_t unit) {
+    return AnyMnemonic(text, [&](wchar_t mnemonic) { return mnemonic == Lower(unit); });
 }
 
 }  // namespace lumenkit::win32

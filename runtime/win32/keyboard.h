@@ -3,6 +3,8 @@
 // arrows choose among them.
 #pragma once
 
+#include <string>
+
 #include "runtime/win32/windows_header.h"
 
 namespace lumenkit::win32 {
@@ -19,6 +21,13 @@ bool HasFocusInside(HWND root);
 /// edits text, Return where it breaks lines) are handed to it. Return on buttons, Escape, and a
 /// Tab that leads out are left to the container. True where the message was used up.
 bool TranslateKeyInside(HWND root, const MSG& message);
+
+/// The mnemonics of the usable captions in `root`, in lower case, each once.
+std::wstring MnemonicsInside(HWND root);
+
+/// Does what the mnemonic stands for: clicks the button, goes to what the label or frame names.
+/// False where no caption in `root` has it.
+bool UseMnemonicInside(HWND root, wchar_t unit);
 
 /// Whether `text`, a caption with mnemonics ("&Open", "&&" is no mnemonic), answers to `unit`
 /// without regard to case.

@@ -64,9 +64,44 @@ TEST_F(KeysTest, ArrowsStayInAnOptionListAndTabLeavesIt) {
     EXPECT_EQ(std::ranges::count(site_.Log().Take(), "TranslateAccelerator"), 3);
 }
 
+TEST_F(KeysTest, AContainerFindsAMnemonicOfTheOptions) {
+    Place(u"VOptList");
+    const Late list(site_.As<IDispatch>());
+    EXPECT_EQ(list.Put(L"Contents", Text(u"a;&Apple|b;&Banana|c;Cherry && co")), S_OK);
+    EXPECT_EQ(site_.DoVerb(OLEIVERB_INPLACEACTIVATE), S_OK);
+    const ComPtr<IOleControl> control = site_.As<IOleControl>();
+    CONTROLINFO information = {};
+    information.cb = sizeof information;
+    ASSERT_EQ(control->GetControlInfo(&information), S_OK);
+    ASSERT_NE(information.hAccel, nullptr);
+    WORD command = 0;
+    MSG key = {};
+    key.message = WM_SYSCHAR;
+    key.lParam = 1 << 29;
+    key.wParam = 'b';
+    EXPECT_TRUE(IsAccelerator(information.hAccel, information.cAccel, &key, &command));
+    key.wParam = ' ';
+    EXPECT_FALSE(IsAccelerator(information.hAccel, information.cAccel, &key, &command));
+    key.wParam = 'c';
+    EXPECT_FALSE(IsAccelerator(information.hAccel, information.cAccel, &key, &command));
+    key.wParam = 'B';
+    EXPECT_EQ(control->OnMnemonic(&key), S_OK);
+    EXPECT_EQ(ToLong(list.Get(L"ListIndex")), 1);
+    EXPECT_THAT(site_.Log().Take(), ::testing::Contains("OnUIActivate"));
+    key.message = WM_SYSKEYDOWN;
+    key.wParam = 'A';
+    EXPECT_EQ(control->OnMnemonic(&key), S_OK);
+    EXPECT_EQ(ToLong(list.Get(L"ListIndex")), 0);
+}
+
 TEST_F(KeysTest, ALabelUsesNoKeys) {
     Place(u"VLabel");
     EXPECT_EQ(Late(site_.As<IDispatch>()).Put(L"Caption", Text(u"&Name")), S_OK);
+    CONTROLINFO information = {};
+    information.cb = sizeof information;
+    EXPECT_EQ(site_.As<IOleControl>()->GetControlInfo(&information), S_OK);
+    EXPECT_EQ(information.cAccel, 0);
+    EXPECT_EQ(information.hAccel, nullptr);
     Activate();
     for (const WPARAM key : {VK_TAB, VK_RETURN, VK_DOWN}) {
         EXPECT_EQ(Send(WM_KEYDOWN, key), S_FALSE);
