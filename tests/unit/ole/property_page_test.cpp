@@ -83,6 +83,25 @@ TEST_F(PropertyPageTest, EditsALabel) {
     EXPECT_EQ(page_->Deactivate(), E_UNEXPECTED);
 }
 
+TEST_F(PropertyPageTest, TabGoesThroughThePageAndOutOfIt) {
+    Show();
+    SetFocus(CaptionBox());
+    MSG key = {};
+    key.message = WM_KEYDOWN;
+    key.wParam = VK_TAB;
+    int stops = 0;
+    for (HRESULT used = S_OK; used == S_OK && stops < 50; ++stops) {
+        const HWND before = GetFocus();
+        key.hwnd = before;
+        used = page_->TranslateAccelerator(&key);
+        EXPECT_EQ(used == S_OK, GetFocus() != before);
+    }
+    EXPECT_GT(stops, 1);
+    EXPECT_LT(stops, 50);  // the last one is the container's
+    key.wParam = VK_ESCAPE;
+    EXPECT_EQ(page_->TranslateAccelerator(&key), S_FALSE);
+}
+
 TEST_F(PropertyPageTest, FailuresOfTheEditedControlGoToTheHost) {
     const ComPtr<IDispatch> memo = Create<IDispatch>(u"VMemo");
     IUnknown* object = memo.Get();
