@@ -1,0 +1,82 @@
+#include "apps/lumenform/form_view/block_reader.h"
+
+#include "forms/form_bag.h"
+#include "forms/form_error.h"
+#include "frame/runtime_error.h"
+#include "frame/utf8.h"
+
+namespace lumenkit::form {
+
+namespace {
+
+forms::Position PlaceOf(const forms::Block& block, TextView name) {
+    if (const forms::Property* property = block.FindProperty(name)) {
+        return property->ValuePlace();
+    }
+    const forms::Block* group = block.FindGroup(name);
+    return group == nullptr ? block.NamePlace() : group->NamePlace();
+}
+
+host::FontRef NewFont(const forms::FontDescription& description) {
+    return MakeFont(description);
+}
+
+}  // namespace
+
+std::shared_ptr<qt::Font> MakeFont(const forms::FontDescription& description) {
+    auto font = std::make_shared<qt::Font>(description.name, description.size);
+    font->SetCharset(description.charset);
+    font->SetWeight(description.weight);
+    font->SetUnderline(description.underline);
+    font->SetItalic(description.italic);
+    font->SetStrikethrough(description.strikethrough);
+    return font;
+}
+
+void Refuse(const forms::Document& document, forms::Position place, TextView what, TextView why) {
+    throw forms::FormError(document.Name(), place, ToUtf8(what) + ": " + ToUtf8(why));
+}
+
+template <typename T>
+T BlockReader::Read(TextView name, const Value& otherwise, T (*convert)(const Value&)) const {
+    try {
+        return convert(forms::FormBag(document_, block_, NewFont).ReadProperty(name, otherwise));
+    } catch (const RuntimeError& error) {
+        Refuse(document_, PlaceOf(block_, name), name, error.Description());
+    }
+}
+
+float BlockReader::Number(TextView name, float otherwise) const {
+    return Read(name, otherwise, ToSingle);
+}
+
+std::int32_t BlockReader::Whole(TextView name, std::int32_t otherwise) const {
+    return Read(name, otherwise, ToLong);
+}
+
+bool BlockReader::Flag(TextView name, bool otherwise) const {
+    return Read(name, otherwise, ToBoolean);
+}
+
+Text BlockReader::String(TextView name, TextView otherwise) const {
+    return Read(name, Text(otherwise), ToText);
+}
+
+Color BlockReader::ColorOf(TextView name, Color otherwise) const {
+    return Read(name, FromColor(otherwise), ToColor);
+}
+
+std::shared_ptr<qt::Font> BlockReader::Font() const {
+    const host::FontRef font = Read<host::FontRef>(u"Font", ObjectRef(), host::ToFont);
+    return font == nullptr ? nullptr : qt::Font::From(font);
+}
+
+std::string_view BlockReader::Record(TextView name) const {
+    const forms::Property* property = block_.FindProperty(name);
+    if (property == nullptr || !std::holds_alternative<forms::Reference>(property->Literal())) {
+        return {};
+    }
+    return document_.RecordOf(*property);
+}
+
+}  // namespace lumenkit::form

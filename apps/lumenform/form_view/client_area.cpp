@@ -1,0 +1,115 @@
+#include "apps/lumenform/form_view/client_area.h"
+
+#include <QApplication>
+#include <QPainter>
+#include <QRadioButton>
+#include <algorithm>
+
+#include "runtime/qt/palette_color.h"
+
+namespace lumenkit::form {
+
+namespace {
+
+// Of several option buttons in one container, Tab stops at the chosen one, or where there is none
+// at the first. What the buttons themselves say of Tab depends on where the keyboard was last.
+bool IsStopOfGroup(const QRadioButton& button) {
+    const auto group =
+        button.parentWidget()->findChildren<QRadioButton*>(QString(), Qt::FindDirectChildrenOnly);
+    const bool isLeader =
+        group.first() == &button && std::ranges::none_of(group, &QRadioButton::isChecked);
+    return button.focusPolicy() != Qt::NoFocus && (button.isChecked() || isLeader);
+}
+
+bool TakesTab(const QWidget& widget) {
+    if (!widget.isVisible() || !widget.isEnabled() || widget.focusProxy() != nullptr) {
+        return false;
+    }
+    if (const auto* button = qobject_cast<const QRadioButton*>(&widget)) {
+        return IsStopOfGroup(*button);
+    }
+    return (widget.focusPolicy() & Qt::TabFocus) == Qt::TabFocus;
+}
+
+}  // namespace
+
+ClientArea::ClientArea(Color backColor, const Controls& controls, QWidget* parent)
+    : QWidget(parent), backColor_(backColor), controls_(controls) {}
+
+ClientArea::Route ClientArea::FindRoute() const {
+    std::vector<const LiveControl*> order;
+    for (const auto& control : controls_) {
+        order.push_back(control.get());
+    }
+    // Those without an index come last.
+    std::ranges::stable_sort(order, [](const LiveControl* left, const LiveControl* right) {
+        return left->TabIndex() && (!right->TabIndex() || *left->TabIndex() < *right->TabIndex());
+    });
+    Route route;
+    for (std::size_t turn = 0; turn < order.size(); ++turn) {
+        route.turns.emplace(&order[turn]->Widget(), turn);
+    }
+    for (QWidget* widget = nextInFocusChain(); widget != this;
+         widget = widget->nextInFocusChain()) {
+        if (isAncestorOf(widget) && TakesTab(*widget)) {
+            const std::size_t turn = route.TurnOf(widget);
+            if (turn < order.size() && order[turn]->TabStop()) {
+                route.stops.push_back({turn, widget});
+            }
+        }
+    }
+    std::ranges::stable_sort(route.stops, {}, &Stop::turn);
+    return route;
+}
+
+std::size_t ClientArea::Route::TurnOf(const QWidget* widget) const {
+    for (; widget != nullptr; widget = widget->parentWidget()) {
+        if (const auto found = turns.find(widget); found != turns.end()) {
+            return found->second;
+        }
+    }
+    return turns.size();
+}
+
+// Where the keyboard is at no stop, as at an option button that was clicked, the way goes on from
+// its control.
+QWidget* ClientArea::Route::Next(const QWidget* from) const {
+    auto to = std::ranges::find(stops, from, &Stop::widget);
+    to =
+        to == stops.end() ? std::ranges::upper_bound(stops, TurnOf(from), {}, &Stop::turn) : to + 1;
+    return to == stops.end() ? stops.front().widget : to->widget;
+}
+
+QWidget* ClientArea::Route::Previous(const QWidget* from) const {
+    auto behind = std::ranges::find(stops, from, &Stop::widget);
+    if (behind == stops.end()) {
+        behind = std::ranges::lower_bound(stops, TurnOf(from), {}, &Stop::turn);
+    }
+    return behind == stops.begin() ? stops.back().widget : (behind - 1)->widget;
+}
+
+std::vector<QWidget*> ClientArea::TabStops() const {
+    std::vector<QWidget*> widgets;
+    for (const Stop& stop : FindRoute().stops) {
+        widgets.push_back(stop.widget);
+    }
+    return widgets;
+}
+
+bool ClientArea::focusNextPrevChild(bool next) {
+    const Route route = FindRoute();
+    if (route.stops.empty()) {
+        return false;
+    }
+    const QWidget* from = QApplication::focusWidget();
+    QWidget* const to = next ? route.Next(from) : route.Previous(from);
+    to->setFocus(next ? Qt::TabFocusReason : Qt::BacktabFocusReason);
+    return true;
+}
+
+void ClientArea::paintEvent(QPaintEvent* event) {
+    QPainter painter(this);
+    painter.fillRect(event->rect(), qt::ToQColor(backColor_, palette()));
+}
+
+}  // namespace lumenkit::form

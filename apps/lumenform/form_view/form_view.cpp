@@ -1,0 +1,179 @@
+#include "apps/lumenform/form_view/form_view.h"
+
+#include <QEvent>
+#include <QLabel>
+#include <QVBoxLayout>
+#include <algorithm>
+#include <utility>
+
+#include "apps/lumenform/form_view/menu_bar.h"
+#include "forms/font_description.h"
+#include "frame/runtime_error.h"
+#include "runtime/qt/mnemonic.h"
+#include "runtime/qt/pixels.h"
+#include "runtime/qt/qt_text.h"
+
+namespace lumenkit::form {
+
+namespace {
+
+constexpr Color applicationWorkspace{0x8000000C};
+
+Color UsualBackColor(const forms::Block& form) {
+    return SameText(form.ClassName(), u"VB.MDIForm", Compare::IgnoreCase) ? applicationWorkspace
+                                                                          : Color::ButtonFace;
+}
+
+// From the file's order, in which the first is in front; what is drawn by its container is behind
+// all others.
+void Stack(const std::vector<LiveControl*>& controls) {
+    for (const bool inBack : {false, true}) {
+        for (LiveControl* control : controls) {
+            if (control->IsInBack() == inBack) {
+                control->Widget().lower();
+            }
+        }
+    }
+}
+
+// Who takes the keyboard in a control; null where nobody does.
+QWidget* FirstStop(const LiveControl& control) {
+    QWidget& widget = control.Widget();
+    const auto takes = [&widget](const QWidget* part) {
+        return (part->focusPolicy() & Qt::TabFocus) == Qt::TabFocus && part->isVisibleTo(&widget);
+    };
+    if (takes(&widget)) {
+        return &widget;
+    }
+    const auto parts =
+        control.Own() == nullptr ? QList<QWidget*>() : widget.findChildren<QWidget*>();
+    const auto found = std::ranges::find_if(parts, takes);
+    return found == parts.end() ? nullptr : *found;
+}
+
+}  // namespace
+
+FormView::FormView(const qt::Context& context, forms::Document& document, Mode mode,
+                   QWidget* parent)
+    : QWidget(parent), stage_{.context = context, .document = document, .mode = mode, .raise = {}} {
+    const BlockReader form(document, document.Root());
+    caption_ = form.String(u"Caption");
+    const Color backColor = form.ColorOf(u"BackColor", UsualBackColor(document.Root()));
+    std::shared_ptr<qt::Font> font = form.Font();
+    if (font == nullptr) {
+        font = MakeFont(forms::FontDescription());
+    }
+    auto* const layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(0);
+    layout->setSizeConstraint(QLayout::SetFixedSize);
+    if (auto bar = MakeMenuBar(stage_, document.Root())) {
+        layout->setMenuBar(bar.release());
+    }
+    client_ = new ClientArea(backColor, controls_, this);
+    client_->setFixedSize(ClientSize(form));
+    layout->addWidget(client_);
+    const qt::TwipsPerPixel& twips = qt::TwipsPerPixel::OfScreens();
+    const Scale scale = Scale::Of(form, static_cast<float>(client_->width() * twips.x),
+                                  static_cast<float>(client_->height() * twips.y));
+    AddControls(document.Root(), {*client_, backColor, font, scale});
+    MarkLabels();
+}
+
+FormView::~FormView() {
+    while (!controls_.empty()) {
+        controls_.pop_back();  // what lies in another one goes first
+    }
+}
+
+QSize FormView::ClientSize(const BlockReader& form) const {
+    constexpr float usualWidth = 4800;
+    constexpr float usualHeight = 3600;
+    constexpr int largest = 16384;
+    const Scale scale = Scale::Of(form, 0, 0);
+    const host::Placement inUnits = scale.ToTwips(
+        {.width = form.Number(u"ScaleWidth", 0), .height = form.Number(u"ScaleHeight", 0)});
+    const auto length = [&](TextView name, float scaled, float usual) {
+        const float twips = form.Number(name, scaled > 0 ? scaled : usual);
+        if (twips < 0) {
+            Refuse(form.Document(), form.Block().FindProperty(name)->ValuePlace(), name,
+                   RuntimeErrorText(static_cast<std::int32_t>(ErrorNumber::InvalidPropertyValue)));
+        }
+        return twips;
+    };
+    const qt::TwipsPerPixel& twips = qt::TwipsPerPixel::OfScreens();
+    const float width = length(u"ClientWidth", inUnits.width, usualWidth);
+    const float height = length(u"ClientHeight", inUnits.height, usualHeight);
+    return {std::clamp(qt::ToPixels(width, twips.x), 1, largest),
+            std::clamp(qt::ToPixels(height, twips.y), 1, largest)};
+}
+
+void FormView::AddControls(const forms::Block& block, const Surroundings& around) {
+    std::vector<LiveControl*> added;
+    for (forms::Block* inner : block.Controls()) {
+        if (!IsMenu(*inner)) {
+            controls_.push_back(LiveControl::Make(stage_, around, *inner));
+            added.push_back(controls_.back().get());
+            AddControls(*inner, added.back()->Inside());
+        }
+    }
+    Stack(added);
+}
+
+// The mnemonic of a label leads to the control behind it.
+void FormView::MarkLabels() {
+    const auto turnOf = [](const LiveControl& control) { return control.TabIndex().value_or(-1); };
+    for (const auto& control : controls_) {
+        auto* const label = qobject_cast<QLabel*>(&control->Widget());
+        if (label == nullptr || !qt::HasMnemonic(label->text())) {
+            continue;
+        }
+        const LiveControl* next = nullptr;
+        for (const auto& other : controls_) {
+            const bool follows = turnOf(*other) > turnOf(*control) && FirstStop(*other) != nullptr;
+            if (follows && (next == nullptr || turnOf(*other) < turnOf(*next))) {
+                next = other.get();
+            }
+        }
+        if (next != nullptr) {
+            label->setBuddy(FirstStop(*next));
+        } else {
+            label->setText(qt::WithoutMnemonic(label->text()));
+        }
+    }
+}
+
+LiveControl* FormView::Find(TextView name) const {
+    const auto found = std::ranges::find_if(controls_, [&](const auto& control) {
+        return SameText(control->Name(), name, Compare::IgnoreCase);
+    });
+    return found == controls_.end() ? nullptr : found->get();
+}
+
+void FormView::FocusFirst() {
+    const std::vector<QWidget*> stops = client_->TabStops();
+    if (!stops.empty()) {
+        stops.front()->setFocus(Qt::TabFocusReason);
+    }
+}
+
+void FormView::Save() {
+    for (const auto& control : controls_) {
+        control->Save();
+    }
+}
+
+void FormView::OnRaised(std::function<void(const RaisedEvent&)> listener) {
+    stage_.raise = std::move(listener);
+}
+
+void FormView::changeEvent(QEvent* event) {
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange) {
+        for (const auto& control : controls_) {
+            control->PaletteChanged();
+        }
+    }
+}
+
+}  // namespace lumenkit::form

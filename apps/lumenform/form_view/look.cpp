@@ -1,0 +1,32 @@
+#include "apps/lumenform/form_view/look.h"
+
+#include <QApplication>
+
+#include "runtime/qt/palette_color.h"
+
+namespace lumenkit::form {
+
+void ApplyColors(QWidget& widget, Colors colors, Colors usual) {
+    const QPalette base = QApplication::palette();
+    QPalette palette;
+    if (colors.fore != usual.fore) {
+        const QColor fore = qt::ToQColor(colors.fore, base);
+        for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
+            palette.setColor(role, fore);
+        }
+    }
+    if (colors.back != usual.back) {
+        const QColor back = qt::ToQColor(colors.back, base);
+        palette.setColor(QPalette::Window, back);
+        palette.setColor(QPalette::Base, back);
+    }
+    if (!(widget.palette() == palette)) {
+        widget.setPalette(palette);
+    }
+}
+
+void ApplyFont(QWidget& widget, const qt::Font& font) {
+    widget.setFont(font.FaceAt(widget.devicePixelRatioF())->WidgetFont());
+}
+
+}  // namespace lumenkit::form

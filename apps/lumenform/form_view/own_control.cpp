@@ -1,0 +1,70 @@
+#include "apps/lumenform/form_view/own_control.h"
+
+#include <algorithm>
+
+#include "forms/form_bag.h"
+#include "frame/runtime_error.h"
+
+namespace lumenkit::form {
+
+OwnControl::OwnControl(const Stage& stage, const Surroundings& around, forms::Block& block,
+                       const ClassDescriptor& type)
+    : LiveControl(stage, around, block),
+      stage_(stage),
+      font_(around.font),
+      backColor_(around.backColor),
+      container_(type.eventTable) {
+    if (const EventTable* table = type.eventTable) {
+        container_.onEvent = [this, table](TextView event, std::span<Value> arguments) {
+            Raise(*table, event, arguments);
+        };
+    }
+    try {
+        Start(around.widget, type);
+    } catch (const RuntimeError& error) {
+        delete widget_.data();
+        Refuse(stage.document, block.NamePlace(), Name(), error.Description());
+    } catch (...) {
+        delete widget_.data();
+        throw;
+    }
+    inside_.emplace(Surroundings{*widget_, backColor_, font_, Scale()});
+}
+
+OwnControl::~OwnControl() {
+    qt::DeleteSafely(widget_.data());
+}
+
+void OwnControl::Start(QWidget& parent, const ClassDescriptor& type) {
+    const qt::Placing standard;
+    const Text tag = Reader().String(u"Tag");
+    const qt::Placing placing{
+        .name = Name(),
+        .placement = SavedPlace(standard.placement),
+        .tag = tag,
+        .visible = stage_.mode == Mode::Design || Reader().Flag(u"Visible", true)};
+    widget_ = new qt::ControlWidget(stage_.context, type, *this, placing, &parent);
+    forms::FormBag bag(stage_.document, Block(), [](const forms::FontDescription& description) {
+        return MakeFont(description);
+    });
+    widget_->StartSaved(bag);
+    keeper_.emplace(stage_.document, Block(),
+                    [this](host::PropertyBag& notes) { widget_->Save(notes); });
+}
+
+void OwnControl::Raise(const EventTable& table, TextView event, std::span<Value> arguments) {
+    if (!stage_.raise) {
+        return;
+    }
+    const auto found = std::ranges::find(table.events, event, &Event::name);
+    if (found != table.events.end()) {
+        stage_.raise({Block(), Name(), event, found->parameters, arguments});
+    }
+}
+
+void OwnControl::Save() {
+    LiveControl::Save();
+    keeper_->Update([this](host::PropertyBag& bag) { widget_->Save(bag); });
+}
+
+}  // namespace lumenkit::form

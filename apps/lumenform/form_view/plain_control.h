@@ -1,0 +1,36 @@
+#pragma once
+
+#include <QPointer>
+#include <optional>
+
+#include "apps/lumenform/form_view/live_control.h"
+#include "apps/lumenform/form_view/plain_kinds.h"
+
+namespace lumenkit::form {
+
+/// A control of somebody else's, as a plain widget that looks like it. Its block is left alone but
+/// for its place.
+class PlainControl final : public LiveControl {
+ public:
+    PlainControl(const Stage& stage, const Surroundings& around, forms::Block& block);
+    ~PlainControl() override;
+
+    QWidget& Widget() const override { return *widget_; }
+    const Surroundings& Inside() const override { return *inside_; }
+    bool IsInBack() const override { return kind_.isInBack; }
+    host::Placement Place() const override { return place_; }
+    void Move(const host::Placement& place) override;
+    void PaletteChanged() override;
+
+ private:
+    void Raise(const Stage& stage, TextView event);
+    void SetUp(const Stage& stage, const qt::Font& font);
+
+    const PlainKind& kind_;
+    Colors colors_;
+    host::Placement place_;
+    QPointer<QWidget> widget_;
+    std::optional<Surroundings> inside_;
+};
+
+}  // namespace lumenkit::form

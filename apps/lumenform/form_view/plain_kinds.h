@@ -1,0 +1,35 @@
+// Which plain widget stands for which class of control.
+#pragma once
+
+#include <QWidget>
+#include <functional>
+#include <memory>
+
+#include "apps/lumenform/form_view/block_reader.h"
+#include "apps/lumenform/form_view/look.h"
+#include "frame/host/constituent.h"
+#include "frame/text.h"
+
+namespace lumenkit::form {
+
+struct PlainWidget {
+    std::unique_ptr<QWidget> widget;
+    QWidget* inside = nullptr;  ///< what others lie on; null: the widget
+};
+
+/// Tells that the person did something: the event's name.
+using PlainSink = std::function<void(TextView event)>;
+
+struct PlainKind {
+    TextView className;  ///< empty: any other
+    PlainWidget (*make)(const BlockReader& reader, const PlainSink& raise);
+    Colors usual = {};
+    host::Placement place = {.width = 1215, .height = 495};  ///< where the block has none
+    bool isInBack = false;
+    bool isSeen = true;  ///< whether the form's users see it
+};
+
+/// Never fails: what is not known is a box with its name and class.
+const PlainKind& PlainKindOf(const forms::Block& block);
+
+}  // namespace lumenkit::form

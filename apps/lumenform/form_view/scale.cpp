@@ -1,0 +1,75 @@
+#include "apps/lumenform/form_view/scale.h"
+
+#include <array>
+#include <cstddef>
+
+#include "runtime/qt/pixels.h"
+
+namespace lumenkit::form {
+
+namespace {
+
+struct Unit {
+    float x;
+    float y;
+};
+
+enum ScaleMode : std::int32_t { user = 0, twips = 1, points = 2, pixels = 3, centimetres = 7 };
+
+Unit UnitOf(std::int32_t mode) {
+    constexpr float twipsPerInch = 1440;
+    constexpr float millimetresPerInch = 25.4F;
+    constexpr float millimetre = twipsPerInch / millimetresPerInch;
+    constexpr std::array<Unit, centimetres + 1> fixed = {{
+        {1, 1},
+        {1, 1},
+        {20, 20},
+        {},
+        {120, 240},
+        {twipsPerInch, twipsPerInch},
+        {millimetre, millimetre},
+        {10 * millimetre, 10 * millimetre},
+    }};
+    if (mode == pixels) {
+        const qt::TwipsPerPixel& screen = qt::TwipsPerPixel::OfScreens();
+        return {static_cast<float>(screen.x), static_cast<float>(screen.y)};
+    }
+    const bool known = mode >= 0 && mode <= centimetres;
+    return fixed[known ? static_cast<std::size_t>(mode) : std::size_t{twips}];
+}
+
+}  // namespace
+
+Scale Scale::Of(const BlockReader& container, float width, float height) {
+    Scale scale;
+    const std::int32_t mode = container.Whole(u"ScaleMode", twips);
+    Unit unit = UnitOf(mode);
+    if (mode == user) {
+        scale.left_ = container.Number(u"ScaleLeft", 0);
+        scale.top_ = container.Number(u"ScaleTop", 0);
+        const float across = container.Number(u"ScaleWidth", width);
+        const float down = container.Number(u"ScaleHeight", height);
+        if (across != 0 && down != 0 && width > 0 && height > 0) {
+            unit = {width / across, height / down};
+        }
+    }
+    scale.x_ = unit.x;
+    scale.y_ = unit.y;
+    return scale;
+}
+
+host::Placement Scale::ToTwips(const host::Placement& units) const {
+    return {.left = (units.left - left_) * x_,
+            .top = (units.top - top_) * y_,
+            .width = units.width * x_,
+            .height = units.height * y_};
+}
+
+host::Placement Scale::FromTwips(const host::Placement& twipsPlace) const {
+    return {.left = twipsPlace.left / x_ + left_,
+            .top = twipsPlace.top / y_ + top_,
+            .width = twipsPlace.width / x_,
+            .height = twipsPlace.height / y_};
+}
+
+}  // namespace lumenkit::form

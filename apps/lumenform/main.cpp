@@ -1,0 +1,52 @@
+// The command line: one file per command, joined here.
+#include <cstdio>
+#include <exception>
+
+#include <CLI/CLI.hpp>
+
+#include "apps/lumenform/new_command.h"
+#include "apps/lumenform/render_command.h"
+#include "apps/lumenform/run_command.h"
+#include "apps/lumenkit/exit_status.h"
+
+namespace lumenkit::form {
+
+namespace {
+
+int Run(int argc, char** argv) {
+    CLI::App program("Runs and draws form files with lumenkit's controls.", "lumenform");
+    program.set_version_flag("--version", LUMENKIT_VERSION);
+    program.require_subcommand(1);
+    program.footer(
+        R"(Exit status: 0 when it is done, 1 when a control reported an error meanwhile, 2 for wrong
+arguments and for files that cannot be read or written.
+
+Examples:
+  lumenform new order.frm
+  lumenform run order.frm
+  lumenform render order.frm -o order.png --scale 2
+  lumenform render --help)");
+    int status = cli::exitDone;
+    AddNewCommand(program, status);
+    AddRenderCommand(program, status);
+    AddRunCommand(program, status);
+    try {
+        program.parse(argc, argv);
+        return status;
+    } catch (const CLI::ParseError& error) {
+        return program.exit(error) == 0 ? cli::exitDone : cli::exitUnusable;
+    }
+}
+
+}  // namespace
+
+}  // namespace lumenkit::form
+
+int main(int argc, char** argv) {
+    try {
+        return lumenkit::form::Run(argc, argv);
+    } catch (const std::exception& error) {
+        static_cast<void>(std::fprintf(stderr, "lumenform: %s\n", error.what()));
+        return lumenkit::cli::exitUnusable;
+    }
+}

@@ -1,0 +1,55 @@
+#include "apps/lumenform/new_command.h"
+
+#include <filesystem>
+#include <memory>
+#include <stdexcept>
+#include <string>
+#include <system_error>
+
+#include "apps/lumenform/new_form.h"
+#include "apps/lumenkit/exit_status.h"
+#include "forms/file.h"
+#include "project/lumenkit_classes.h"
+
+namespace lumenkit::form {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+// Links that lead nowhere count too.
+bool IsThere(const fs::path& path) {
+    std::error_code error;
+    return fs::exists(fs::symlink_status(path, error));
+}
+
+int Create(const std::string& file) {
+    const fs::path path(file);
+    if (path.extension() != ".frm") {
+        throw std::runtime_error(file + ": the name of a form ends in .frm");
+    }
+    if (IsThere(path)) {
+        throw std::runtime_error(file + " is there already; it is left as it is");
+    }
+    const std::string text = NewForm(FormName(path.stem().string()), lumenkitClasses);
+    forms::Save(forms::Document::Parse(file, text, {}), path);
+    return cli::exitDone;
+}
+
+}  // namespace
+
+void AddNewCommand(CLI::App& program, int& status) {
+    CLI::App* const command = program.add_subcommand("new", "Write an empty form");
+    const auto file = std::make_shared<std::string>();
+    command->add_option("NAME", *file, "The file to make, NAME.frm; one that is there stays")
+        ->required();
+    command->footer(
+        R"(The form is named after its file and refers to lumenkit.ocx, so that it can hold the controls.
+
+Examples:
+  lumenform new order.frm
+  lumenform new order.frm && lumenform render order.frm -o order.png)");
+    command->callback([file, &status] { status = Create(*file); });
+}
+
+}  // namespace lumenkit::form

@@ -1,0 +1,75 @@
+#include "apps/lumenform/new_form.h"
+
+#include <algorithm>
+
+#include "frame/utf8.h"
+
+namespace lumenkit::form {
+
+namespace {
+
+bool IsLetter(char character) {
+    return (character >= 'a' && character <= 'z') || (character >= 'A' && character <= 'Z');
+}
+
+bool IsPartOfName(char character) {
+    return IsLetter(character) || (character >= '0' && character <= '9') || character == '_';
+}
+
+std::string UpperCased(std::string text) {
+    std::ranges::transform(text, text.begin(), [](char character) {
+        return character >= 'a' && character <= 'z' ? static_cast<char>(character - 'a' + 'A')
+                                                    : character;
+    });
+    return text;
+}
+
+std::string LibraryLine(const ClassTable& classes) {
+    return "Object = \"{" + UpperCased(ToString(classes.uniqueIdentifier)) + "}#" +
+           std::to_string(classes.majorVersion) + '.' + std::to_string(classes.minorVersion) +
+           "#0\"; \"" + ToUtf8(classes.libraryName) + ".ocx\"";
+}
+
+}  // namespace
+
+std::string FormName(std::string_view fileStem) {
+    constexpr std::size_t longest = 40;
+    std::string name;
+    std::ranges::copy_if(fileStem, std::back_inserter(name), IsPartOfName);
+    if (name.empty() || !IsLetter(name.front())) {
+        name.insert(0, "frm");
+    }
+    return name.substr(0, longest);
+}
+
+std::string NewForm(std::string_view name, const ClassTable& classes) {
+    const std::string formName(name);
+    const std::string lines[] = {
+        "VERSION 5.00",
+        LibraryLine(classes),
+        "Begin VB.Form " + formName + ' ',
+        "   Caption         =   \"" + formName + '"',
+        "   ClientHeight    =   3600",
+        "   ClientLeft      =   60",
+        "   ClientTop       =   345",
+        "   ClientWidth     =   4800",
+        "   LinkTopic       =   \"Form1\"",
+        "   ScaleHeight     =   3600",
+        "   ScaleWidth      =   4800",
+        "   StartUpPosition =   3  'Windows Default",
+        "End",
+        "Attribute VB_Name = \"" + formName + '"',
+        "Attribute VB_GlobalNameSpace = False",
+        "Attribute VB_Creatable = False",
+        "Attribute VB_PredeclaredId = True",
+        "Attribute VB_Exposed = False",
+        "Option Explicit",
+    };
+    std::string text;
+    for (const std::string& line : lines) {
+        text += line + "\r\n";
+    }
+    return text;
+}
+
+}  // namespace lumenkit::form

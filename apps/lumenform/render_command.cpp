@@ -1,0 +1,96 @@
+#include "apps/lumenform/render_command.h"
+
+#include <QApplication>
+#include <cmath>
+#include <memory>
+#include <stdexcept>
+#include <string>
+
+#include "apps/lumenform/application_arguments.h"
+#include "apps/lumenform/desktop.h"
+#include "apps/lumenform/form_view/form_view.h"
+#include "apps/lumenkit/code_page_option.h"
+#include "apps/lumenkit/console_host.h"
+#include "apps/lumenkit/exit_status.h"
+#include "forms/encoding.h"
+#include "forms/file.h"
+#include "project/lumenkit_classes.h"
+
+namespace lumenkit::form {
+
+namespace {
+
+constexpr double smallestScale = 0.5;
+constexpr double largestScale = 4;
+constexpr double mostPixels = 100'000'000;
+
+struct Options {
+    std::string form;
+    std::string picture;
+    double scale = 1;
+    bool dark = false;
+    int codePage = forms::defaultCodePage;
+};
+
+void Draw(FormView& view, const Options& options) {
+    QWidget window;  // without the hints about its size that a form has
+    view.setParent(&window);
+    window.resize(view.sizeHint());
+    window.show();
+    QApplication::processEvents();
+    if (QWidget* focus = QApplication::focusWidget()) {
+        focus->clearFocus();  // no caret in the picture
+    }
+    const double area = double{options.scale} * options.scale * view.width() * view.height();
+    if (area > mostPixels) {
+        throw std::runtime_error(options.form + ": the picture would have more than " +
+                                 std::to_string(std::lround(mostPixels / 1e6)) + " million pixels");
+    }
+    const QPixmap picture = view.grab();
+    view.setParent(nullptr);
+    if (!picture.save(QString::fromLocal8Bit(options.picture), "PNG")) {
+        throw std::runtime_error("cannot write " + options.picture);
+    }
+}
+
+int Render(const Options& options) {
+    DrawOffscreen();
+    DrawAt(options.scale);
+    ApplicationArguments arguments;
+    const QApplication application(arguments.count, arguments.values.data());
+    UseOwnStyle(options.dark);
+    forms::Document document = forms::Load(options.form, options.codePage);
+    cli::ConsoleHost console;
+    const qt::Context context{
+        .classes = lumenkitClasses, .application = console, .interaction = console};
+    FormView view(context, document, Mode::Run);
+    Draw(view, options);
+    return console.HasReported() ? cli::exitReported : cli::exitDone;
+}
+
+}  // namespace
+
+void AddRenderCommand(CLI::App& program, int& status) {
+    CLI::App* const command =
+        program.add_subcommand("render", "Draw a form, as its users see it, into a PNG file");
+    const auto options = std::make_shared<Options>();
+    command->add_option("FORM", options->form, "The form: .frm, .ctl, .pag or .dob")->required();
+    command
+        ->add_option("-o,--output", options->picture, "The picture; one that is there is replaced")
+        ->required();
+    command->add_option("--scale", options->scale, "Real pixels to a pixel, each way")
+        ->capture_default_str()
+        ->check(CLI::Range(smallestScale, largestScale));
+    command->add_flag("--dark", options->dark, "With a dark palette");
+    cli::AddCodePageOption(*command, options->codePage);
+    command->footer(
+        R"(The picture shows the inside of the form, with its menus and without its title bar, at 96
+pixels an inch. No display is needed.
+
+Examples:
+  lumenform render samples/forms/all_three.frm -o all_three.png
+  lumenform render samples/forms/memo.frm -o memo.png --scale 1.25 --dark)");
+    command->callback([options, &status] { status = Render(*options); });
+}
+
+}  // namespace lumenkit::form

@@ -1,0 +1,62 @@
+#include "apps/lumenform/run/run_window.h"
+
+#include <QAction>
+#include <QDockWidget>
+#include <QMenuBar>
+#include <QScrollArea>
+#include <algorithm>
+
+#include "runtime/qt/qt_text.h"
+
+namespace lumenkit::form {
+
+namespace {
+
+constexpr int logLines = 8;
+
+// Scrolls only where the screen is too small for the form.
+class FormArea final : public QScrollArea {
+ public:
+    explicit FormArea(QWidget* form) {
+        setFrameStyle(QFrame::NoFrame);
+        setWidget(form);
+        setFocusPolicy(Qt::NoFocus);
+    }
+    QSize sizeHint() const override { return widget()->sizeHint(); }
+};
+
+}  // namespace
+
+RunWindow::RunWindow(const qt::Context& context, forms::Document& document)
+    : view_(new FormView(context, document, Mode::Run)), log_(new EventLog) {
+    setCentralWidget(new FormArea(view_));
+    const QString caption = qt::ToQString(view_->Caption());
+    setWindowTitle(caption.isEmpty() ? qt::ToQString(document.Root().Name()) : caption);
+    AddLog();
+    view_->OnRaised([this](const RaisedEvent& event) { log_->Add(event); });
+    view_->FocusFirst();
+}
+
+void RunWindow::AddLog() {
+    auto* const dock = new QDockWidget(tr("Events"), this);
+    dock->setObjectName(QStringLiteral("events"));
+    dock->setWidget(log_);
+    addDockWidget(Qt::BottomDockWidgetArea, dock);
+    resizeDocks({dock}, {logLines * log_->fontMetrics().lineSpacing()}, Qt::Vertical);
+    AddMenus(*dock);
+}
+
+// The form's own menus lie on the form; these are the program's.
+void RunWindow::AddMenus(QDockWidget& dock) {
+    QMenu* const file = menuBar()->addMenu(tr("&File"));
+    QAction* const close = file->addAction(tr("&Close"), this, &QWidget::close);
+    close->setShortcuts(QKeySequence::Quit);
+    QMenu* const view = menuBar()->addMenu(tr("&View"));
+    QAction* const shown = dock.toggleViewAction();
+    shown->setText(tr("&Event log"));
+    shown->setShortcut(Qt::Key_F12);
+    view->addAction(shown);
+    view->addAction(tr("&Clear the log"), log_, &QTreeWidget::clear);
+}
+
+}  // namespace lumenkit::form

@@ -1,0 +1,29 @@
+#pragma once
+
+#include <QMainWindow>
+
+#include "apps/lumenform/form_view/form_view.h"
+#include "apps/lumenform/run/event_log.h"
+#include "forms/document.h"
+#include "runtime/qt/context.h"
+
+namespace lumenkit::form {
+
+/// A form in run mode at its size, and under it the log of what its controls raise.
+class RunWindow final : public QMainWindow {
+ public:
+    /// Throws FormError as FormView does. Context and document must outlive the window.
+    RunWindow(const qt::Context& context, forms::Document& document);
+
+    FormView& View() const { return *view_; }
+    EventLog& Log() const { return *log_; }
+
+ private:
+    void AddLog();
+    void AddMenus(QDockWidget& dock);
+
+    FormView* view_;
+    EventLog* log_;
+};
+
+}  // namespace lumenkit::form

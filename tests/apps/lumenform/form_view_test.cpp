@@ -1,0 +1,204 @@
+// Forms on the screen: where things are, what they look like, and what is saved.
+#include <QApplication>
+#include <QTest>
+#include <fstream>
+#include <iterator>
+
+#include <gmock/gmock.h>
+
+#include "forms/file.h"
+#include "forms/form_error.h"
+#include "runtime/qt/palette_color.h"
+#include "tests/apps/lumenform/loaded_view.h"
+#include "tests/support/qt_keys.h"
+
+namespace lumenkit::testing {
+namespace {
+
+namespace fs = std::filesystem;
+using ::testing::Contains;
+using ::testing::HasSubstr;
+
+std::string Bytes(const fs::path& path) {
+    std::ifstream file(path, std::ios::binary);
+    return {std::istreambuf_iterator<char>(file), {}};
+}
+
+bool IsForm(const fs::path& path) {
+    const std::string extension = path.extension().string();
+    return extension == ".frm" || extension == ".ctl" || extension == ".pag" || extension == ".dob";
+}
+
+int CodePageOf(const fs::path& path) {
+    return path.stem() == "polish" ? 1250 : path.stem() == "cyrillic" ? 1251 : 1252;
+}
+
+std::string MessageOf(const std::string& inner) {
+    try {
+        const LoadedView view(FormWith(inner));
+    } catch (const forms::FormError& error) {
+        return error.what();
+    }
+    return {};
+}
+
+TEST(FormView, EverySampleOpensAndIsSavedAsItWas) {
+    int count = 0;
+    for (const auto& entry : fs::directory_iterator(sampleForms)) {
+        if (!IsForm(entry.path())) {
+            continue;
+        }
+        for (const form::Mode mode : {form::Mode::Run, form::Mode::Design}) {
+            LoadedView view(forms::Load(entry.path(), CodePageOf(entry.path())), mode);
+            EXPECT_EQ(view.Saved(), Bytes(entry.path())) << entry.path();
+            EXPECT_TRUE(view.surface.interaction.said.empty()) << entry.path();
+            EXPECT_TRUE(view.surface.errors.empty()) << entry.path();
+        }
+        ++count;
+    }
+    EXPECT_GE(count, 25);
+}
+
+TEST(FormView, LiesAsTheFileSays) {
+    const LoadedView view(forms::Load(sampleForms / "all_three.frm"));
+    EXPECT_EQ(view.view->Caption(), u"All three");
+    EXPECT_EQ(view.view->Client().size(), QSize(312, 213));
+    const QWidget& memo = view.Control(u"VMemo1").Widget();
+    EXPECT_EQ(memo.geometry(), QRect(160, 16, 145, 185));
+    const QWidget& label = view.Control(u"VLabel1").Widget();
+    EXPECT_EQ(label.mapTo(&view.view->Client(), QPoint(0, 0)), QPoint(8 + 8, 8 + 16));
+    EXPECT_EQ(label.parentWidget(), &view.Control(u"picInner").Inside().widget);
+}
+
+TEST(FormView, UnderstandsOtherUnits) {
+    const LoadedView view(
+        FormWith("   ScaleMode = 3\n   ScaleWidth = 300\n   ScaleHeight = 200\n"
+                 "   Begin lumenkit.VLabel A\n Left = 10\n Top = 20\n Width = 30\n Height = 40\n"
+                 "   End\n"
+                 "   Begin VB.PictureBox P\n BorderStyle = 0\n Left = 100\n Top = 0\n Width = 100\n"
+                 "      Height = 50\n ScaleMode = 0\n ScaleWidth = 10\n ScaleHeight = 10\n"
+                 "      Begin VB.Label L\n Left = 1\n Top = 2\n Width = 3\n Height = 4\n End\n"
+                 "   End\n"));
+    EXPECT_EQ(view.Control(u"A").Widget().geometry(), QRect(10, 20, 30, 40));
+    EXPECT_EQ(view.Control(u"L").Widget().geometry(), QRect(10, 10, 30, 20));
+}
+
+TEST(FormView, TheFirstInTheFileIsInFrontAndLabelsAreBehind) {
+    const LoadedView view(
+        FormWith("   Begin VB.Label L\n Width = 900\n Height = 900\n End\n"
+                 "   Begin VB.PictureBox First\n Width = 900\n Height = 900\n End\n"
+                 "   Begin lumenkit.VMemo Second\n Width = 900\n Height = 900\n End\n"));
+    form::ClientArea& client = view.view->Client();
+    EXPECT_TRUE(view.Control(u"First").Widget().isAncestorOf(client.childAt(30, 30)));
+    view.Control(u"First").Widget().hide();
+    EXPECT_TRUE(view.Control(u"Second").Widget().isAncestorOf(client.childAt(30, 30)));
+}
+
+TEST(FormView, HasItsColour) {
+    const LoadedView view(FormWith("   BackColor = &H00C08040&\n"));
+    const QImage picture = view.view->grab().toImage();
+    EXPECT_EQ(picture.pixelColor(picture.width() / 2, picture.height() / 2),
+              QColor(0x40, 0x80, 0xC0));
+}
+
+TEST(FormView, ControlsSeeTheColourAndFontOfWhatTheyLieIn) {
+    const LoadedView view(
+        FormWith("   Begin VB.Frame F\n BackColor = &H000000FF&\n Width = 3000\n Height = 2000\n"
+                 "      BeginProperty Font\n Name = \"Arial\"\n Size = 12\n EndProperty\n"
+                 "      Begin lumenkit.VLabel A\n Width = 900\n Height = 900\n End\n"
+                 "   End\n"));
+    const qt::ControlWidget& label = *view.Control(u"A").Own();
+    EXPECT_EQ(label.Host().ambient.BackColor(), Rgb(255, 0, 0));
+    EXPECT_EQ(label.Host().ambient.AmbientFont()->Name(), u"Arial");
+    EXPECT_EQ(label.Host().ambient.AmbientFont()->Size(), 12.0F);
+}
+
+TEST(FormView, HiddenControlsAreSeenInDesignOnly) {
+    const std::string inner =
+        "   Begin lumenkit.VMemo A\n Visible = 0 'False\n End\n"
+        "   Begin VB.TextBox B\n Visible = 0 'False\n End\n"
+        "   Begin VB.Timer T\n End\n"
+        "   Begin Some.Component C\n Left = 1\n End\n"
+        "   Begin Some.Gauge D\n Left = 1\n Width = 100\n End\n";
+    const LoadedView run(FormWith(inner));
+    const LoadedView design(FormWith(inner), form::Mode::Design);
+    for (const TextView name : {u"A", u"B", u"T", u"C"}) {
+        EXPECT_FALSE(run.Control(name).Widget().isVisible());
+        EXPECT_TRUE(design.Control(name).Widget().isVisible());
+    }
+    EXPECT_TRUE(run.Control(u"D").Widget().isVisible());
+}
+
+TEST(FormView, ControlsHaveTheirNamesAndTags) {
+    const LoadedView view(
+        FormWith("   Begin lumenkit.VMemo M\n Index = 2\n Tag = \"mine\"\n End\n"
+                 "   Begin lumenkit.VMemo M\n Index = 0\n End\n"));
+    EXPECT_EQ(view.Control(u"m(2)").Own()->Tag(), u"mine");
+    EXPECT_EQ(view.Control(u"M(0)").Own()->Name(), u"M(0)");
+}
+
+TEST(FormView, AMemoHoldsItsLimitUnderTheKeys) {
+    LoadedView view(
+        FormWith("   Begin lumenkit.VMemo M\n      Height = 900\n      Width = 2000\n"
+                 "      MaxCharsPerLine = 3\n      MaxLines = 1\n   End\n"));
+    QWidget& box = view.Part(u"M", u"Text1");
+    box.setFocus();
+    TypeKeys(box, u"abcdef");
+    EXPECT_EQ(ToText(view.Control(u"M").Own()->Automation().Get(u"Text")), u"abc");
+    EXPECT_THAT(view.raised, Contains("M.Change"));
+    EXPECT_THAT(view.Saved(), HasSubstr("      Text            =   \"abc\"\n"));
+}
+
+TEST(FormView, WritesOnlyWhatWasChanged) {
+    const std::string inner =
+        "   Begin lumenkit.VLabel A\n      caption=\"x\" ' mine\n      WordWrap=1\n"
+        "      BeginProperty Font {0BE35203-8F91-11CE-9DE3-00AA004BB851}\n"
+        "         Name=\"Arial\"\n         Size=9\n         Charset=0\n         Weight=400\n"
+        "         Underline=0\n         Italic=0\n         Strikethrough=0\n      EndProperty\n   "
+        "End\n"
+        "   Begin VB.TextBox B\n      Left=15\n      Width=300\n   End\n";
+    LoadedView view(FormWith(inner));
+    const std::string before = view.Saved();
+    ToObject(view.Control(u"A").Own()->Automation().Get(u"Font"))->Let(u"Size", 12.0F);
+    view.Control(u"B").Move({.left = 30, .top = 0, .width = 300, .height = 495});
+    std::string expected = before;
+    expected.replace(expected.find("Size=9"), 6, "Size=12");
+    expected.replace(expected.find("Left=15"), 7, "Left=30");
+    EXPECT_EQ(view.Saved(), expected);
+    EXPECT_EQ(view.Saved(), expected) << "again";
+}
+
+TEST(FormView, AMovedControlSavesItsExtents) {
+    LoadedView view(
+        FormWith("   Begin lumenkit.VLabel A\n      Height=1440\n      Width=1440\n"
+                 "      _ExtentX=2540\n      _ExtentY=2540\n   End\n"));
+    view.Control(u"A").Move({.left = 0, .top = 0, .width = 2880, .height = 1440});
+    const std::string saved = view.Saved();
+    EXPECT_THAT(saved, HasSubstr("      Width=2880\n      _ExtentX=5080\n      _ExtentY=2540\n"));
+}
+
+TEST(FormView, TellsWhatIsWrongAndWhere) {
+    EXPECT_EQ(MessageOf("   Begin lumenkit.VLabel A\n      Left = \"far\"\n   End\n"),
+              "x.frm:6:14: Left: Type mismatch");
+    EXPECT_EQ(MessageOf("   Begin VB.TextBox A\n      Enabled = \"maybe\"\n   End\n"),
+              "x.frm:6:17: Enabled: Type mismatch");
+    EXPECT_EQ(MessageOf("   Begin lumenkit.VLabel A\n      Width = -1\n   End\n"),
+              "x.frm:5:26: A: Invalid property value");
+    EXPECT_EQ(MessageOf("   Begin VB.Label A\n      Width = -1\n   End\n"),
+              "x.frm:5:19: A: Invalid property value");
+    EXPECT_EQ(MessageOf("   BackColor = \"red\"\n"), "x.frm:5:16: BackColor: Type mismatch");
+}
+
+TEST(FormView, FollowsThePalette) {
+    const LoadedView view(FormWith("   Begin VB.Label A\n      ForeColor = &H80000005&\n   End\n"));
+    const QPalette before = QApplication::palette();
+    QPalette other = before;
+    other.setColor(QPalette::Base, QColor(1, 2, 3));
+    QApplication::setPalette(other);
+    QApplication::processEvents();
+    EXPECT_EQ(view.Control(u"A").Widget().palette().color(QPalette::WindowText), QColor(1, 2, 3));
+    QApplication::setPalette(before);
+}
+
+}  // namespace
+}  // namespace lumenkit::testing

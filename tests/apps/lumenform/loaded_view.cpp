@@ -1,0 +1,61 @@
+#include "tests/apps/lumenform/loaded_view.h"
+
+#include <QApplication>
+#include <QTest>
+#include <stdexcept>
+
+#include "frame/utf8.h"
+#include "project/lumenkit_classes.h"
+#include "runtime/qt/element.h"
+
+namespace lumenkit::testing {
+
+const std::filesystem::path sampleForms = LUMENKIT_SOURCE_DIR "/samples/forms";
+
+forms::Document FormOf(const std::string& text) {
+    return forms::Document::Parse("x.frm", text, {});
+}
+
+forms::Document FormWith(const std::string& inner) {
+    return FormOf(
+        "VERSION 5.00\nBegin VB.Form Form1\n   ClientHeight = 3000\n"
+        "   ClientWidth = 4500\n" +
+        inner + "End\n");
+}
+
+Surface::Surface()
+    : application(lumenkitClasses),
+      context{.classes = lumenkitClasses,
+              .application = application,
+              .interaction = interaction,
+              .errors = [this](const RuntimeError& error) { errors.push_back(error); }} {}
+
+LoadedView::LoadedView(forms::Document loaded, form::Mode mode)
+    : document(std::move(loaded)), view(new form::FormView(surface.context, document, mode)) {
+    window.setCentralWidget(view);
+    view->OnRaised([this](const form::RaisedEvent& event) {
+        raised.push_back(ToUtf8(event.control) + '.' + ToUtf8(event.name));
+    });
+    window.show();
+    QApplication::setActiveWindow(&window);
+    static_cast<void>(QTest::qWaitForWindowActive(&window));
+}
+
+form::LiveControl& LoadedView::Control(TextView name) const {
+    form::LiveControl* control = view->Find(name);
+    if (control == nullptr) {
+        throw std::out_of_range("no control " + ToUtf8(name));
+    }
+    return *control;
+}
+
+QWidget& LoadedView::Part(TextView control, TextView part, std::int16_t index) const {
+    return *Control(control).Own()->Parts().Find(part, index)->Widget();
+}
+
+std::string LoadedView::Saved() {
+    view->Save();
+    return document.Write().form;
+}
+
+}  // namespace lumenkit::testing

@@ -1,0 +1,126 @@
+// Controls of others, as plain widgets.
+#include <QCheckBox>
+#include <QComboBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QMenuBar>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QScrollBar>
+#include <QTest>
+
+#include <gmock/gmock.h>
+
+#include "apps/lumenform/form_view/labelled_box.h"
+#include "apps/lumenform/form_view/menu_bar.h"
+#include "apps/lumenform/form_view/stored_picture.h"
+#include "apps/lumenform/form_view/text_list.h"
+#include "forms/file.h"
+#include "tests/apps/lumenform/loaded_view.h"
+
+namespace lumenkit::testing {
+namespace {
+
+using namespace std::string_literals;
+using ::testing::ElementsAre;
+
+template <typename T>
+T& As(const LoadedView& view, TextView name) {
+    return dynamic_cast<T&>(view.Control(name).Widget());
+}
+
+TEST(PlainControl, ShowsWhatTheFormSays) {
+    const LoadedView view(FormWith(
+        "   Begin VB.TextBox T\n Text = \"abc\"\n MaxLength = 4\n Locked = -1 'True\n End\n"
+        "   Begin vb.checkbox C\n Caption = \"On\"\n Value = 1\n End\n"
+        "   Begin VB.HScrollBar H\n Min = 10\n Max = -10\n Value = 3\n End\n"
+        "   Begin VB.TextBox M\n MultiLine = -1 'True\n ScrollBars = 2\n End\n"
+        "   Begin VB.ComboBox L\n Style = 2\n End\n"
+        "   Begin Other.Thing X\n Width = 900\n End\n"));
+    EXPECT_EQ(As<QLineEdit>(view, u"T").text(), "abc");
+    EXPECT_EQ(As<QLineEdit>(view, u"T").maxLength(), 4);
+    EXPECT_TRUE(As<QLineEdit>(view, u"T").isReadOnly());
+    EXPECT_TRUE(As<QCheckBox>(view, u"C").isChecked());
+    EXPECT_EQ(As<QScrollBar>(view, u"H").minimum(), -10);
+    EXPECT_EQ(As<QScrollBar>(view, u"H").value(), 3);
+    EXPECT_EQ(As<QPlainTextEdit>(view, u"M").verticalScrollBarPolicy(), Qt::ScrollBarAlwaysOn);
+    EXPECT_FALSE(As<QComboBox>(view, u"L").isEditable());
+    EXPECT_EQ(As<form::LabelledBox>(view, u"X").accessibleName(), "X Other.Thing");
+}
+
+TEST(PlainControl, ShowsTheItemsOfLists) {
+    const LoadedView view(forms::Load(sampleForms / "lists.frm"));
+    const auto& list = As<QListWidget>(view, u"lstColors");
+    ASSERT_EQ(list.count(), 3);
+    EXPECT_EQ(list.item(0)->text(), "red");
+    EXPECT_EQ(list.item(2)->text(), "blue");
+    EXPECT_EQ(As<QComboBox>(view, u"cboEmpty").currentText(), "Combo1");
+    EXPECT_EQ(As<QComboBox>(view, u"cboEmpty").count(), 0);
+}
+
+TEST(PlainControl, TellsWhatThePersonDoes) {
+    const LoadedView view(
+        FormWith("   Begin VB.CommandButton B\n End\n"
+                 "   Begin VB.TextBox T\n Left = 2000\n End\n"));
+    QTest::mouseClick(&view.Control(u"B").Widget(), Qt::LeftButton);
+    QTest::keyClick(&view.Control(u"T").Widget(), Qt::Key_A);
+    EXPECT_THAT(view.raised, ElementsAre("B.Click", "T.Change"));
+}
+
+TEST(PlainControl, RefusesANegativeSize) {
+    const LoadedView view(FormWith("   Begin VB.TextBox T\n End\n"));
+    const host::Placement before = view.Control(u"T").Place();
+    EXPECT_THROW(view.Control(u"T").Move({.width = -1}), RuntimeError);
+    EXPECT_EQ(view.Control(u"T").Place(), before);
+}
+
+TEST(TextList, ReadsWholeItemsOfAnyRecord) {
+    EXPECT_THAT(form::ItemsOf("\x02\0\x05\0\x01\0a\x02\0b\xE4"s, 1252), ElementsAre(u"a", u"bä"));
+    EXPECT_THAT(form::ItemsOf("\x02\0\x05\0\x01\0a\x09\0b"s, 1252), ElementsAre(u"a"));
+    EXPECT_THAT(form::ItemsOf("\x01\0\0\0\x01\0\xB9"s, 1250), ElementsAre(u"ą"));
+    EXPECT_THAT(form::ItemsOf("\x01\0\0\0\x01\0\xE4"s, 65001), ElementsAre(u"ä"));
+    for (const std::string& record : {""s, "\x01"s, "\xFF\xFF"s, "\xFF\xFF\0\0\x01"s}) {
+        EXPECT_TRUE(form::ItemsOf(record, 1252).empty());
+    }
+}
+
+TEST(StoredPicture, IsReadOrNothing) {
+    // A bitmap of 2 by 1 pixels, 24 bits: blue and red.
+    const std::string bitmap =
+        "BM\x3E\0\0\0\0\0\0\0\x36\0\0\0\x28\0\0\0\x02\0\0\0\x01\0\0\0\x01\0\x18\0\0\0\0\0\x08\0\0\0"
+        "\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\xFF\0\0\0\0\xFF\0\0"s;
+    const std::string head = "\x46\0\0\0lt\0\0\x3E\0\0\0"s;
+    const QImage picture = form::PictureIn(head + bitmap).toImage();
+    ASSERT_EQ(picture.size(), QSize(2, 1));
+    EXPECT_EQ(picture.pixelColor(0, 0), QColor(0, 0, 255));
+    EXPECT_EQ(picture.pixelColor(1, 0), QColor(255, 0, 0));
+    for (const std::string& record :
+         {""s, head, head + "BM", "\x46\0\0\0lx\0\0\x3E\0\0\0"s + bitmap}) {
+        EXPECT_TRUE(form::PictureIn(record).isNull());
+    }
+}
+
+TEST(MenuBar, HasTheKeysOfTheForm) {
+    EXPECT_EQ(form::KeysOf(u"^N"), QKeySequence(Qt::CTRL | Qt::Key_N));
+    EXPECT_EQ(form::KeysOf(u"+^{F12}"), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_F12));
+    EXPECT_EQ(form::KeysOf(u"{DEL}"), QKeySequence(Qt::Key_Delete));
+    EXPECT_TRUE(form::KeysOf(u"").isEmpty());
+}
+
+TEST(MenuBar, TellsItsClicks) {
+    const LoadedView view(forms::Load(sampleForms / "menus.frm"));
+    auto* const bar = view.view->findChild<QMenuBar*>();
+    ASSERT_NE(bar, nullptr);
+    const auto menus = bar->actions();
+    ASSERT_EQ(menus.size(), 2);
+    EXPECT_EQ(menus[0]->text(), "&File");
+    menus[0]->menu()->actions()[0]->trigger();
+    menus[0]->menu()->actions()[2]->menu()->actions()[1]->trigger();
+    EXPECT_TRUE(menus[0]->menu()->actions()[1]->isSeparator());
+    EXPECT_FALSE(menus[1]->menu()->actions()[2]->isEnabled());
+    EXPECT_THAT(view.raised, ElementsAre("mnuFileNew.Click", "mnuRecent(1).Click"));
+}
+
+}  // namespace
+}  // namespace lumenkit::testing

@@ -1,0 +1,133 @@
+// "lumenform render" and what the program says when it cannot do its work.
+#include <QImage>
+#include <filesystem>
+
+#include <gmock/gmock.h>
+
+#include "tests/apps/lumenform/loaded_view.h"
+#include "tests/apps/program.h"
+
+namespace lumenkit::testing {
+namespace {
+
+namespace fs = std::filesystem;
+using ::testing::EndsWith;
+using ::testing::HasSubstr;
+using ::testing::StartsWith;
+
+class RenderCommand : public ::testing::Test {
+ protected:
+    ~RenderCommand() override { fs::remove(picture_); }
+
+    Outcome Render(const std::string& form, const std::string& options = "") {
+        return RunProgram("render " + form + " -o " + picture_ + ' ' + options);
+    }
+    QImage Drawn(const std::string& form, const std::string& options = "") {
+        const Outcome outcome = Render((sampleForms / form).string(), options);
+        EXPECT_EQ(outcome.status, 0);
+        EXPECT_EQ(outcome.output, "");
+        EXPECT_EQ(outcome.errors, "");
+        return QImage(QString::fromStdString(picture_));
+    }
+
+    const std::string picture_ = LUMENKIT_BINARY_DIR "/lumenform_test.png";
+};
+
+TEST_F(RenderCommand, DrawsAtEachScale) {
+    // 4680 by 3195 twips are 312 by 213 pixels.
+    EXPECT_EQ(Drawn("label.frm").size(), QSize(312, 213));
+    EXPECT_EQ(Drawn("label.frm", "--scale 1.25").size(), QSize(390, 266));
+    EXPECT_EQ(Drawn("label.frm", "--scale 2").size(), QSize(624, 426));
+}
+
+TEST_F(RenderCommand, DrawsTheControlsWhereTheyAre) {
+    // The label's background, a system colour, and the form's around it.
+    for (const int scale : {1, 2}) {
+        const QImage picture = Drawn("label.frm", "--scale " + std::to_string(scale));
+        EXPECT_EQ(picture.pixelColor(290 * scale, 80 * scale), QColor(Qt::white));
+        EXPECT_EQ(picture.pixelColor(4 * scale, 4 * scale), QColor(0xEF, 0xEF, 0xEF));
+    }
+    const QImage dark = Drawn("label.frm", "--dark");
+    EXPECT_LT(dark.pixelColor(290, 80).lightness(), 60);
+    EXPECT_LT(dark.pixelColor(4, 4).lightness(), 80);
+}
+
+TEST_F(RenderCommand, DrawsTheTextInItsColour) {
+    const QImage picture = Drawn("label.frm");
+    int red = 0;
+    for (int y = 8; y < 89; ++y) {
+        for (int x = 8; x < 297; ++x) {
+            red += picture.pixelColor(x, y) == QColor(255, 0, 0) ? 1 : 0;
+        }
+    }
+    EXPECT_GT(red, 100);
+}
+
+TEST_F(RenderCommand, SaysWhereABrokenFormIsBroken) {
+    const std::string form = FileWith("VERSION 5.00\nBegin VB.Form F\n   Caption = \"x\nEnd\n");
+    const Outcome outcome = Render(form);
+    EXPECT_EQ(outcome.status, 2);
+    EXPECT_THAT(outcome.errors, StartsWith("lumenform: " + form + ":3:"));
+    EXPECT_FALSE(fs::exists(picture_));
+
+    const std::string refused = FileWith(
+        "VERSION 5.00\nBegin VB.Form F\n   Begin VB.Label L\n      Left = \"x\"\n   End\nEnd\n");
+    const Outcome type = Render(refused);
+    EXPECT_EQ(type.status, 2);
+    EXPECT_EQ(type.errors, "lumenform: " + refused + ":4:14: Left: Type mismatch\n");
+
+    EXPECT_EQ(RunProgram("run " + form).status, 2);
+}
+
+TEST_F(RenderCommand, SaysWhatItCannotReadOrWrite) {
+    const Outcome missing = Render("no/such.frm");
+    EXPECT_EQ(missing.status, 2);
+    EXPECT_EQ(missing.errors, "lumenform: no/such.frm: cannot be read\n");
+
+    const Outcome unwritable =
+        RunProgram("render " + (sampleForms / "label.frm").string() + " -o /no/such/picture.png");
+    EXPECT_EQ(unwritable.status, 2);
+    EXPECT_EQ(unwritable.errors, "lumenform: cannot write /no/such/picture.png\n");
+}
+
+TEST_F(RenderCommand, RefusesWrongArguments) {
+    for (const char* arguments :
+         {"", "draw", "render", "render x.frm", "design x.frm", "render x.frm -o y.png --scale 0",
+          "render x.frm -o y.png --code-page 932"}) {
+        const Outcome outcome = RunProgram(arguments);
+        EXPECT_EQ(outcome.status, 2) << arguments;
+        EXPECT_NE(outcome.errors, "") << arguments;
+    }
+}
+
+TEST_F(RenderCommand, HelpHasExamples) {
+    for (const char* arguments : {"--help", "render --help", "run --help", "new --help"}) {
+        EXPECT_THAT(RunProgram(arguments).output, HasSubstr("Examples:\n  lumenform "))
+            << arguments;
+    }
+}
+
+TEST_F(RenderCommand, WithoutADisplayRunSaysSo) {
+    const Outcome outcome = RunProgram("--version");
+    EXPECT_EQ(outcome.output, "7.1.0\n");
+    const std::string form = (sampleForms / "label.frm").string();
+    const QByteArray platform = qgetenv("QT_QPA_PLATFORM");
+    const QByteArray display = qgetenv("DISPLAY");
+    const QByteArray wayland = qgetenv("WAYLAND_DISPLAY");
+    for (const char* name : {"QT_QPA_PLATFORM", "DISPLAY", "WAYLAND_DISPLAY"}) {
+        qunsetenv(name);
+    }
+    const Outcome unseen = RunProgram("run " + form);
+    qputenv("QT_QPA_PLATFORM", platform);
+    if (!display.isEmpty()) {
+        qputenv("DISPLAY", display);
+    }
+    if (!wayland.isEmpty()) {
+        qputenv("WAYLAND_DISPLAY", wayland);
+    }
+    EXPECT_EQ(unseen.status, 2);
+    EXPECT_THAT(unseen.errors, StartsWith("lumenform: there is no display"));
+}
+
+}  // namespace
+}  // namespace lumenkit::testing
