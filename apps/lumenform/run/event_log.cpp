@@ -55,6 +55,12 @@ EventLog::EventLog(QWidget* parent) : QTreeWidget(parent) {
     header()->resizeSection(1, lettersOfName * letter);
 }
 
+QSize EventLog::sizeHint() const {
+    constexpr int lines = 6;
+    const int line = fontMetrics().lineSpacing();
+    return {QTreeWidget::sizeHint().width(), header()->sizeHint().height() + lines * line};
+}
+
 void EventLog::Add(const RaisedEvent& event) {
     const bool followed = verticalScrollBar()->value() == verticalScrollBar()->maximum();
     if (topLevelItemCount() == longest) {

@@ -14,6 +14,8 @@ class EventLog final : public QTreeWidget {
     explicit EventLog(QWidget* parent = nullptr);
 
     void Add(const RaisedEvent& event);
+
+    QSize sizeHint() const override;
 };
 
 }  // namespace lumenkit::form

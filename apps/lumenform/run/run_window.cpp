@@ -3,16 +3,14 @@
 #include <QAction>
 #include <QDockWidget>
 #include <QMenuBar>
+#include <QScreen>
 #include <QScrollArea>
-#include <algorithm>
 
 #include "runtime/qt/qt_text.h"
 
 namespace lumenkit::form {
 
 namespace {
-
-constexpr int logLines = 8;
 
 // Scrolls only where the screen is too small for the form.
 class FormArea final : public QScrollArea {
@@ -33,6 +31,7 @@ RunWindow::RunWindow(const qt::Context& context, forms::Document& document)
     const QString caption = qt::ToQString(view_->Caption());
     setWindowTitle(caption.isEmpty() ? qt::ToQString(document.Root().Name()) : caption);
     AddLog();
+    resize(sizeHint().boundedTo(screen()->availableSize()));
     view_->OnRaised([this](const RaisedEvent& event) { log_->Add(event); });
     view_->FocusFirst();
 }
@@ -42,7 +41,6 @@ void RunWindow::AddLog() {
     dock->setObjectName(QStringLiteral("events"));
     dock->setWidget(log_);
     addDockWidget(Qt::BottomDockWidgetArea, dock);
-    resizeDocks({dock}, {logLines * log_->fontMetrics().lineSpacing()}, Qt::Vertical);
     AddMenus(*dock);
 }
 
