@@ -14,6 +14,10 @@ target_compile_options(lumenkit_settings INTERFACE
     -Wall -Wextra -Wpedantic -Wconversion -Wshadow -Werror
     # g++ 12 sees overlaps in its own string's operator+ that are not there (its bug 105651).
     $<$<AND:$<CXX_COMPILER_ID:GNU>,$<VERSION_LESS:$<CXX_COMPILER_VERSION>,13>>:-Wno-restrict>)
+if(WIN32)
+    # The platform's headers: wide characters, no macros named as functions of C++, Windows 7.
+    target_compile_definitions(lumenkit_settings INTERFACE UNICODE NOMINMAX _WIN32_WINNT=0x0601)
+endif()
 if(MINGW)
     # Programs and servers stand alone: the compiler's own libraries go into them.
     target_link_options(lumenkit_settings INTERFACE -static)

@@ -7,7 +7,7 @@ set -euo pipefail
 cd "$(dirname "$0")/.."
 
 native=('frame/*.cpp' 'vlabel/*.cpp' 'vmemo/*.cpp' 'voptlist/*.cpp' 'vlabelcaption/*.cpp'
-    'runtime/memory/*.cpp' 'forms/*.cpp' 'project/*.cpp' 'apps/*.cpp')
+    'runtime/memory/*.cpp' 'runtime/qt/*.cpp' 'forms/*.cpp' 'project/*.cpp' 'apps/*.cpp')
 windows=('runtime/win32/*.cpp' 'runtime/ole/*.cpp' 'server/*.cpp')
 
 # check DATABASE [option...] -- pattern...

@@ -19,6 +19,7 @@ class Component {
     static Component& Of(const ClassTable& classes);
 
     explicit Component(const ClassTable& classes);
+    ~Component() = default;
     Component(const Component&) = delete;
     Component& operator=(const Component&) = delete;
 

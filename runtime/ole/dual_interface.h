@@ -25,6 +25,7 @@ class DualInterface {
  public:
     /// `life` is the target's, kept while one of the functions runs.
     DualInterface(DualTarget& target, IUnknown& controlling, win32::Life& life);
+    ~DualInterface() = default;
     DualInterface(const DualInterface&) = delete;
     DualInterface& operator=(const DualInterface&) = delete;
 
@@ -52,7 +53,7 @@ class DualInterface {
     std::vector<Slot> slots_;
     GUID interfaceId_;
     std::vector<const void*> functions_;
-    Face face_;
+    Face face_ = {};
 };
 
 }  // namespace lumenkit::ole

@@ -1,7 +1,8 @@
 // The tables' identifiers as the platform's.
 #pragma once
 
-#include <cstring>
+#include <algorithm>
+#include <iterator>
 #include <string>
 
 #include "frame/class_table.h"
@@ -15,7 +16,7 @@ inline GUID GuidOf(const UniqueIdentifier& identifier) {
                  .Data2 = identifier.data2,
                  .Data3 = identifier.data3,
                  .Data4 = {}};
-    std::memcpy(guid.Data4, identifier.data4.data(), sizeof guid.Data4);
+    std::ranges::copy(identifier.data4, std::begin(guid.Data4));
     return guid;
 }
 

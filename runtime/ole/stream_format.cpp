@@ -16,7 +16,7 @@ constexpr std::array<std::uint8_t, 4> magic = {'L', 'K', 'P', 'B'};
 constexpr std::uint16_t version = 1;
 
 enum class Kind : std::uint8_t { Empty, Boolean, Integer, Long, Single, Double, Text, Font };
-enum FontFlag : std::uint8_t { italicFlag = 1, underlineFlag = 2, strikethroughFlag = 4 };
+enum FontFlag : std::uint8_t { ItalicFlag = 1, UnderlineFlag = 2, StrikethroughFlag = 4 };
 
 // The polynomial of zip, bits reflected.
 constexpr std::uint32_t polynomial = 0xEDB88320;
@@ -125,9 +125,9 @@ struct ValueWriter {
         writer.Number(static_cast<std::uint64_t>(font.size.int64));
         writer.Number(static_cast<std::uint16_t>(font.weight));
         writer.Number(static_cast<std::uint16_t>(font.charset));
-        writer.Number(static_cast<std::uint8_t>((font.italic ? italicFlag : 0) |
-                                                (font.underline ? underlineFlag : 0) |
-                                                (font.strikethrough ? strikethroughFlag : 0)));
+        writer.Number(static_cast<std::uint8_t>((font.italic ? ItalicFlag : 0) |
+                                                (font.underline ? UnderlineFlag : 0) |
+                                                (font.strikethrough ? StrikethroughFlag : 0)));
     }
 
  private:
@@ -141,9 +141,9 @@ FontAttributes ReadFont(Reader& reader) {
     font.weight = static_cast<std::int16_t>(reader.Number<std::uint16_t>());
     font.charset = static_cast<std::int16_t>(reader.Number<std::uint16_t>());
     const auto flags = reader.Number<std::uint8_t>();
-    font.italic = (flags & italicFlag) != 0;
-    font.underline = (flags & underlineFlag) != 0;
-    font.strikethrough = (flags & strikethroughFlag) != 0;
+    font.italic = (flags & ItalicFlag) != 0;
+    font.underline = (flags & UnderlineFlag) != 0;
+    font.strikethrough = (flags & StrikethroughFlag) != 0;
     return font;
 }
 

@@ -88,6 +88,7 @@ bool HasTextOfItsOwn(VARTYPE type) {
 
 Text TextByPlatform(const VARIANT& variant) {
     Variant text;
+    // NOLINTNEXTLINE(cppcoreguidelines-pro-type-const-cast): it is only read
     Check(VariantChangeType(text.Get(), const_cast<VARIANT*>(&variant), 0, VT_BSTR));
     return Text(TextOf(V_BSTR(text.Get())));
 }

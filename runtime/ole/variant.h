@@ -20,7 +20,7 @@ class Variant {
     VARIANT& operator*() { return variant_; }
 
  private:
-    VARIANT variant_;
+    VARIANT variant_ = {};
 };
 
 /// The type as which automation passes a ValueType.

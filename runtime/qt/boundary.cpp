@@ -4,8 +4,10 @@
 
 namespace lumenkit::qt {
 
+// NOLINTBEGIN(cppcoreguidelines-avoid-non-const-global-variables)
 int Notifying::depth = 0;
 Causing* Causing::current = nullptr;
+// NOLINTEND(cppcoreguidelines-avoid-non-const-global-variables)
 
 void Causing::Finish() const {
     if (first_) {

@@ -25,6 +25,7 @@ class Notifying {
     static bool Anywhere() { return depth > 0; }
 
  private:
+    // NOLINTNEXTLINE(cppcoreguidelines-avoid-non-const-global-variables): of the one thread
     static int depth;
 };
 
@@ -42,6 +43,7 @@ class Causing {
 
  private:
     friend void HandleEvent(const ErrorSink& sink, const std::function<void()>& handler);
+    // NOLINTNEXTLINE(cppcoreguidelines-avoid-non-const-global-variables): of the one thread
     static Causing* current;
 
     Causing* outer_;

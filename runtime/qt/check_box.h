@@ -14,6 +14,8 @@ class CheckBox final : public BasicCaptioned<host::CheckBox> {
  public:
     CheckBox(Constituents& owner, const host::CaptionDesign& design, host::ClickEvents& events);
     ~CheckBox() override { Release(); }
+    CheckBox(const CheckBox&) = delete;
+    CheckBox& operator=(const CheckBox&) = delete;
 
     std::int16_t CheckState() const override { return state_; }
     void SetCheckState(std::int16_t state) override;

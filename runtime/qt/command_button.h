@@ -12,6 +12,8 @@ class CommandButton final : public BasicCaptioned<host::CommandButton> {
     CommandButton(Constituents& owner, const host::CaptionDesign& design,
                   host::ClickEvents& events);
     ~CommandButton() override { Release(); }
+    CommandButton(const CommandButton&) = delete;
+    CommandButton& operator=(const CommandButton&) = delete;
     void Disconnect() override;
 
  private:

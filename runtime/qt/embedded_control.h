@@ -12,6 +12,8 @@ class EmbeddedControl final : public BasicConstituent<host::EmbeddedControl> {
  public:
     EmbeddedControl(Constituents& owner, const host::Design& design, const ClassDescriptor& type);
     ~EmbeddedControl() override;
+    EmbeddedControl(const EmbeddedControl&) = delete;
+    EmbeddedControl& operator=(const EmbeddedControl&) = delete;
 
     /// The control itself is resized with it.
     void Move(const host::Placement& placement) override;

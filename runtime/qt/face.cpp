@@ -90,7 +90,7 @@ std::shared_ptr<Face> Face::For(const FontAttributes& attributes, double scale) 
     }
     ForgetFacesAtEnd();
     faces.push_front(std::make_shared<Face>(attributes, scale));
-    const std::shared_ptr<Face> made = faces.front();
+    std::shared_ptr<Face> made = faces.front();
     if (faces.size() > mostFaces) {
         faces.pop_back();
     }
@@ -105,6 +105,8 @@ Face::Face(const FontAttributes& attributes, double scale)
     ascent_ = wholePixels(metrics.ascent());
     lineHeight_ = ascent_ + wholePixels(metrics.descent());
     advances_.fill(-1);
+    // Measuring needs everything else.
+    // NOLINTNEXTLINE(cppcoreguidelines-prefer-member-initializer)
     trustsTable_ = AddsUp(u"The quick brown fox, 0123456789; JUMPS over (fi) the \"lazy\" dog!");
 }
 
@@ -126,7 +128,7 @@ double Face::AdvanceOf(char16_t unit) {
     return advance;
 }
 
-void Face::LayOut(QTextLayout& layout) const {
+void Face::LayOut(QTextLayout& layout) {
     layout.setCacheEnabled(true);
     QTextOption option;
     option.setWrapMode(QTextOption::NoWrap);

@@ -76,7 +76,7 @@ class Face {
     double AdvanceOf(char16_t unit);
     bool AddsUp(TextView sample);
     const WordEnds& Measured(TextView word);
-    void LayOut(QTextLayout& layout) const;
+    static void LayOut(QTextLayout& layout);
 
     FontAttributes attributes_;
     double scale_;

@@ -34,7 +34,9 @@ void Font::Put(T& attribute, T value) {
     }
     attribute = std::move(value);
     face_.reset();
-    for (std::size_t index = 0; index < listeners_.size(); ++index) {  // they may come and go
+    // Listeners may come and go meanwhile.
+    // NOLINTNEXTLINE(modernize-loop-convert)
+    for (std::size_t index = 0; index < listeners_.size(); ++index) {
         listeners_[index]->AttributesSet();
     }
 }

@@ -15,6 +15,8 @@ class Frame final : public BasicCaptioned<host::Frame> {
  public:
     Frame(Constituents& owner, const host::CaptionDesign& design);
     ~Frame() override { Release(); }
+    Frame(const Frame&) = delete;
+    Frame& operator=(const Frame&) = delete;
 
     std::int16_t BorderStyle() const override { return borderStyle_; }
     void SetBorderStyle(std::int16_t style) override;

@@ -14,6 +14,8 @@ class Label final : public BasicCaptioned<host::Label> {
  public:
     Label(Constituents& owner, const host::CaptionDesign& design);
     ~Label() override { Release(); }
+    Label(const Label&) = delete;
+    Label& operator=(const Label&) = delete;
 
     bool AutoSize() const override { return autoSize_; }
     void SetAutoSize(bool autoSize) override;

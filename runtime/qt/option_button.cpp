@@ -76,7 +76,7 @@ class OptionWidget final : public QRadioButton {
     }
 
  private:
-    void GoTo(int direction) {
+    void GoTo(int direction) const {
         if (arrow_) {
             arrow_(direction);
         }

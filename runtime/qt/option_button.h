@@ -15,6 +15,8 @@ class OptionButton final : public BasicCaptioned<host::OptionButton> {
     /// `design.index` is the element's index.
     OptionButton(Constituents& owner, const host::OptionButtonDesign& design, OptionButtons& group);
     ~OptionButton() override { Release(); }
+    OptionButton(const OptionButton&) = delete;
+    OptionButton& operator=(const OptionButton&) = delete;
 
     void SetVisible(bool visible) override;
     void SetEnabled(bool enabled) override;

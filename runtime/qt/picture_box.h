@@ -10,6 +10,8 @@ class PictureBox final : public BasicConstituent<host::PictureBox> {
  public:
     PictureBox(Constituents& owner, const host::Design& design);
     ~PictureBox() override { Release(); }
+    PictureBox(const PictureBox&) = delete;
+    PictureBox& operator=(const PictureBox&) = delete;
 
     void Move(const host::Placement& placement) override;
     float ScaleWidth() const override;

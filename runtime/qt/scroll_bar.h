@@ -15,6 +15,8 @@ class ScrollBar final : public BasicConstituent<host::ScrollBar> {
     ScrollBar(Constituents& owner, const host::Design& design, host::Orientation orientation,
               host::ScrollBarEvents& events);
     ~ScrollBar() override { Release(); }
+    ScrollBar(const ScrollBar&) = delete;
+    ScrollBar& operator=(const ScrollBar&) = delete;
 
     std::int16_t ScrollValue() const override { return value_; }
     void SetScrollValue(std::int16_t value) override;

@@ -46,6 +46,8 @@ class Surface final : public host::Surface {
     /// width or height.
     Surface(SurfaceOwner& owner, const ErrorSink& errors, float width, float height);
     ~Surface() override;
+    Surface(const Surface&) = delete;
+    Surface& operator=(const Surface&) = delete;
 
     float CurrentX() const override { return currentX_; }
     void SetCurrentX(float x) override { currentX_ = x; }

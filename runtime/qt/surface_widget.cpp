@@ -5,6 +5,7 @@
 #include <QPaintEvent>
 #include <QPainter>
 #include <memory>
+#include <utility>
 
 #include "runtime/qt/input.h"
 #include "runtime/qt/surface.h"
@@ -47,8 +48,8 @@ void OfferAccessibility() {
 
 }  // namespace
 
-SurfaceWidget::SurfaceWidget(QWidget& outside, Surface& surface, const ErrorSink& errors)
-    : QWidget(&outside), surface_(&surface), errors_(errors) {
+SurfaceWidget::SurfaceWidget(QWidget& outside, Surface& surface, ErrorSink errors)
+    : QWidget(&outside), surface_(&surface), errors_(std::move(errors)) {
     OfferAccessibility();
     setAttribute(Qt::WA_OpaquePaintEvent);
     setMouseTracking(true);

@@ -13,7 +13,7 @@ class Surface;
 /// mouse hits. Screen readers find the painted text in it.
 class SurfaceWidget final : public QWidget {
  public:
-    SurfaceWidget(QWidget& outside, Surface& surface, const ErrorSink& errors);
+    SurfaceWidget(QWidget& outside, Surface& surface, ErrorSink errors);
 
     /// The surface goes away.
     void Detach();

@@ -15,6 +15,8 @@ class TextBox final : public BasicTextConstituent<host::TextBox> {
  public:
     TextBox(Constituents& owner, const host::TextBoxDesign& design, host::TextBoxEvents& events);
     ~TextBox() override { Release(); }
+    TextBox(const TextBox&) = delete;
+    TextBox& operator=(const TextBox&) = delete;
 
     TextView GetText() const override { return Edit().Contents(); }
     void SetText(TextView text) override;

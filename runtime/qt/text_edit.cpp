@@ -115,8 +115,12 @@ Text EnteredBy(const QKeyEvent& event) {
 }  // namespace
 
 TextEdit::TextEdit(QWidget* parent, const host::TextBoxDesign& design, host::TextBoxEvents& events,
-                   const ErrorSink& errors)
-    : QPlainTextEdit(parent), events_(&events), errors_(errors), multiLine_(design.multiLine) {
+                   ErrorSink errors)
+    : QPlainTextEdit(parent),
+      events_(&events),
+      errors_(std::move(errors)),
+      text_(design.text),
+      multiLine_(design.multiLine) {
     const auto policy = [&](host::ScrollBars bar) {
         return design.scrollBars == bar || design.scrollBars == host::ScrollBars::Both
                    ? Qt::ScrollBarAlwaysOn
@@ -130,7 +134,6 @@ TextEdit::TextEdit(QWidget* parent, const host::TextBoxDesign& design, host::Tex
     viewport()->setMouseTracking(true);
     document()->setDocumentMargin(1);
     setPlainText(ToDocument(design.text, multiLine_));
-    text_ = design.text;
     connect(document(), &QTextDocument::contentsChange, this,
             [this](int from, int /*removed*/, int added) { FollowDocument(from, added); });
     const auto forget = [this] {
@@ -449,7 +452,7 @@ void TextEdit::inputMethodEvent(QInputMethodEvent* event) {
     HandleEvent(errors_, [&] {
         const Text committed = Pressed(WithLineBreaks(event->commitString()));
         const TextView kept = multiLine_ ? TextView(committed) : FirstLine(committed);
-        const std::size_t replaced = static_cast<std::size_t>(event->replacementLength());
+        const auto replaced = static_cast<std::size_t>(event->replacementLength());
         const std::size_t room = Room();
         const bool isLimited = room < std::numeric_limits<std::size_t>::max();
         QInputMethodEvent shown(event->preeditString(), event->attributes());

@@ -19,7 +19,7 @@ namespace lumenkit::qt {
 class TextEdit final : public QPlainTextEdit {
  public:
     TextEdit(QWidget* parent, const host::TextBoxDesign& design, host::TextBoxEvents& events,
-             const ErrorSink& errors);
+             ErrorSink errors);
 
     /// Notifies nothing any more.
     void Disconnect() { events_ = nullptr; }

@@ -15,6 +15,7 @@ constexpr std::int16_t unknown = -1;
 // The platform's functions take no longer texts.
 constexpr std::size_t longestAtOnce = 8192;
 
+// NOLINTNEXTLINE(cppcoreguidelines-avoid-non-const-global-variables): of the process
 int fontCount = 0;
 
 struct Range {

@@ -268,7 +268,7 @@ void Surface::SetEnabled(bool enabled) {
 }
 
 void Surface::SetBorderStyle(std::int16_t style) {
-    const std::int16_t accepted = AcceptedNumber<std::int16_t>(style, 0, 1);
+    const auto accepted = AcceptedNumber<std::int16_t>(style, 0, 1);
     if (std::exchange(borderStyle_, accepted) != accepted) {
         owner_.BorderChanged();
     }

@@ -12,6 +12,7 @@ namespace {
 
 constexpr const wchar_t* ownClass = L"lumenkitWindow";
 
+// NOLINTNEXTLINE(cppcoreguidelines-avoid-non-const-global-variables): of the process
 int windowCount = 0;
 
 // The window that a notification to its parent comes from; null for other messages.
@@ -161,35 +162,37 @@ std::optional<LRESULT> Window::Reflect(UINT message, WPARAM wParam, LPARAM lPara
     return child->HandleNotification(message, wParam, lParam);
 }
 
-namespace {
+struct ParkingWindow {
+    HWND handle = nullptr;
 
-// Without a destructor: the platform destroys what a thread leaves behind.
-thread_local HWND parkingWindow = nullptr;
-thread_local int parked = 0;
-
-HWND NewParkingWindow(HINSTANCE module) {
-    const HWND window = CreateWindowExW(WS_EX_TOOLWINDOW, L"STATIC", L"", WS_POPUP, 0, 0, 1, 1,
-                                        nullptr, nullptr, module, nullptr);
-    if (window == nullptr) {
-        Raise(ErrorNumber::OutOfMemory);
+    ParkingWindow() = default;
+    ~ParkingWindow() {
+        if (handle != nullptr) {
+            DestroyWindow(handle);
+        }
     }
-    return window;
-}
+    ParkingWindow(const ParkingWindow&) = delete;
+    ParkingWindow& operator=(const ParkingWindow&) = delete;
 
-}  // namespace
+    void Create(HINSTANCE module) {
+        handle = CreateWindowExW(WS_EX_TOOLWINDOW, L"STATIC", L"", WS_POPUP, 0, 0, 1, 1, nullptr,
+                                 nullptr, module, nullptr);
+        if (handle == nullptr) {
+            Raise(ErrorNumber::OutOfMemory);
+        }
+    }
+};
 
 ParkingPlace::ParkingPlace(HINSTANCE module) {
-    if (parkingWindow == nullptr) {
-        parkingWindow = NewParkingWindow(module);
+    if (shared_->handle == nullptr) {
+        shared_->Create(module);
     }
-    ++parked;
-    handle_ = parkingWindow;
 }
 
-ParkingPlace::~ParkingPlace() {
-    if (--parked == 0) {
-        DestroyWindow(std::exchange(parkingWindow, nullptr));
-    }
+ParkingPlace::~ParkingPlace() = default;
+
+HWND ParkingPlace::Handle() const {
+    return shared_->handle;
 }
 
 }  // namespace lumenkit::win32

@@ -4,6 +4,7 @@
 
 #include "frame/text.h"
 #include "runtime/win32/life.h"
+#include "runtime/win32/thread_shared.h"
 #include "runtime/win32/windows_header.h"
 
 namespace lumenkit::win32 {
@@ -105,6 +106,8 @@ class Window {
 /// windows any more then.
 void RemoveWindowClass(HINSTANCE module);
 
+struct ParkingWindow;
+
 /// A share in the invisible window on which the windows of controls lie that their containers do
 /// not show. There is one for each thread, as long as somebody has a share in it.
 class ParkingPlace {
@@ -115,10 +118,10 @@ class ParkingPlace {
     ParkingPlace(const ParkingPlace&) = delete;
     ParkingPlace& operator=(const ParkingPlace&) = delete;
 
-    HWND Handle() const { return handle_; }
+    HWND Handle() const;
 
  private:
-    HWND handle_;
+    ThreadShared<ParkingWindow> shared_;
 };
 
 }  // namespace lumenkit::win32
