@@ -35,8 +35,8 @@ if(LUMENKIT_FUZZ)
 endif()
 
 # lumenkit_library(NAME SOURCES file... LINKS target...)
-# A static library lumenkit_NAME, known to others as lumenkit::NAME. Each of its headers is also
-# compiled alone, so that none leans on what a neighbour happens to include.
+# A static library lumenkit_NAME, known to others as lumenkit::NAME. Each of its headers also
+# compiles alone, so that none leans on what a neighbour happens to include.
 function(lumenkit_library name)
     cmake_parse_arguments(ARG "" "" "SOURCES;LINKS" ${ARGN})
     add_library(lumenkit_${name} STATIC ${ARG_SOURCES})
@@ -45,8 +45,9 @@ function(lumenkit_library name)
     lumenkit_headers_compile_alone(lumenkit_${name} ${ARG_LINKS})
 endfunction()
 
-# Compiles every header beside the caller's CMakeLists.txt (subfolders included) in a translation
-# unit of its own.
+# Compiles the headers beside the caller's CMakeLists.txt (subfolders included) each in a translation
+# unit of its own. One with a source file of its own name needs no other: that file includes it
+# first, which scripts/check_includes.py sees to.
 function(lumenkit_headers_compile_alone name)
     # Once is enough: sanitizers say nothing about it, and only what is made for Windows needs it there.
     if(NOT LUMENKIT_TESTS OR LUMENKIT_SANITIZE OR
@@ -57,9 +58,12 @@ function(lumenkit_headers_compile_alone name)
         "${CMAKE_CURRENT_SOURCE_DIR}/*.h")
     set(units)
     foreach(header IN LISTS headers)
+        string(REGEX REPLACE "\\.h$" ".cpp" source "${PROJECT_SOURCE_DIR}/${header}")
+        if(EXISTS "${source}")
+            continue()
+        endif()
         set(unit "${CMAKE_CURRENT_BINARY_DIR}/alone/${header}.cpp")
-        # Included twice: a header must also guard itself.
-        file(CONFIGURE OUTPUT "${unit}" CONTENT "#include \"${header}\"\n#include \"${header}\"\n")
+        file(CONFIGURE OUTPUT "${unit}" CONTENT "#include \"${header}\"\n")
         list(APPEND units "${unit}")
     endforeach()
     if(units)

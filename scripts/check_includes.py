@@ -2,7 +2,9 @@
 """Holds the include rule: includes run inwards only.
 
 Each folder may include the folders listed for it and the standard library; other libraries and
-the Windows headers only where the table allows them. --self-test proves that the check can fail.
+the Windows headers only where the table allows them. A source file includes the header of its own
+name first, and so shows that it compiles alone; a header guards itself. --self-test proves that
+the check can fail.
 """
 import re
 import subprocess
@@ -79,6 +81,17 @@ def fault(path, quoted, name):
     return None
 
 
+def shape_fault(root, path, text):
+    """What is wrong with a file as a whole, or None."""
+    if path.endswith(".h"):
+        return None if "#pragma once" in text else "does not guard itself"
+    header = path.removesuffix(".cpp") + ".h"
+    if not path.endswith(".cpp") or not (root / header).exists():
+        return None
+    first = INCLUDE.search(text)
+    return None if first and first[2] == header else f"does not include {header} first"
+
+
 def faults(root, paths):
     for path in paths:
         text = (root / path).read_text(encoding="utf-8")
@@ -86,6 +99,9 @@ def faults(root, paths):
             wrong = fault(path, quote == '"', name)
             if wrong:
                 yield f"{path}: {name}: {wrong}"
+        wrong = shape_fault(root, path, text)
+        if wrong:
+            yield f"{path}: {wrong}"
 
 
 def sources(root):
@@ -97,24 +113,28 @@ def sources(root):
 
 def self_test():
     good = {
-        "frame/text.h": "#include <string>\n",
-        "vlabel/a.cpp": '#include "frame/text.h"\n#include "vlabel/a.h"\n',
+        "frame/text.h": "#pragma once\n#include <string>\n",
+        "frame/text.cpp": '#include "frame/text.h"\n\n#include <string>\n',
+        "vlabel/a.cpp": '#include "frame/text.h"\n#include "vlabel/x.h"\n',
         "runtime/ole/a.cpp": '#include <windows.h>\n#include "runtime/win32/a.h"\n',
         "apps/x/main.cpp": '#include <CLI/CLI.hpp>\n#include "vmemo/a.h"\n',
         "forms/flush.cpp": "#include <unistd.h>\n",
+        "frame/d.h": "#pragma once\n",
     }
     bad = {
-        "frame/a.h": '#include "vlabel/a.h"\n',
-        "frame/b.h": "#include <windows.h>\n",
-        "vlabel/b.h": '#include "vmemo/a.h"\n',
-        "vlabelcaption/a.h": ' # include "vlabel/a.h"\n',
-        "vlabel/c.h": "#include <nlohmann/json.hpp>\n",
-        "runtime/memory/a.h": '#include "vlabel/a.h"\n',
-        "runtime/win32/a.h": '#include "runtime/ole/a.h"\n',
-        "runtime/qt/a.h": "#include <windows.h>\n",
-        "frame/c.h": '#include "text.h"\n',
+        "frame/a.h": '#pragma once\n#include "vlabel/a.h"\n',
+        "frame/b.h": "#pragma once\n#include <windows.h>\n",
+        "vlabel/b.h": '#pragma once\n#include "vmemo/a.h"\n',
+        "vlabelcaption/a.h": '#pragma once\n # include "vlabel/a.h"\n',
+        "vlabel/c.h": "#pragma once\n#include <nlohmann/json.hpp>\n",
+        "runtime/memory/a.h": '#pragma once\n#include "vlabel/a.h"\n',
+        "runtime/win32/a.h": '#pragma once\n#include "runtime/ole/a.h"\n',
+        "runtime/qt/a.h": "#pragma once\n#include <windows.h>\n",
+        "frame/c.h": '#pragma once\n#include "text.h"\n',
         "forms/a.cpp": "#include <unistd.h>\n",
-        "elsewhere/a.h": "#include <string>\n",
+        "elsewhere/a.h": "#pragma once\n#include <string>\n",
+        "frame/unguarded.h": "#include <string>\n",
+        "frame/d.cpp": '#include <string>\n#include "frame/d.h"\n',
     }
     with tempfile.TemporaryDirectory() as folder:
         root = Path(folder)
