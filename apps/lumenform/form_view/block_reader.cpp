@@ -67,7 +67,7 @@ Color BlockReader::ColorOf(TextView name, Color otherwise) const {
 }
 
 std::shared_ptr<qt::Font> BlockReader::Font() const {
-    const host::FontRef font = Read<host::FontRef>(u"Font", ObjectRef(), host::ToFont);
+    const auto font = Read<host::FontRef>(u"Font", ObjectRef(), host::ToFont);
     return font == nullptr ? nullptr : qt::Font::From(font);
 }
 

@@ -86,7 +86,7 @@ FormView::~FormView() {
     }
 }
 
-QSize FormView::ClientSize(const BlockReader& form) const {
+QSize FormView::ClientSize(const BlockReader& form) {
     constexpr float usualWidth = 4800;
     constexpr float usualHeight = 3600;
     constexpr int largest = 16384;

@@ -45,7 +45,7 @@ class FormView final : public QWidget {
     void changeEvent(QEvent* event) override;
 
  private:
-    QSize ClientSize(const BlockReader& form) const;
+    static QSize ClientSize(const BlockReader& form);
     void AddControls(const forms::Block& block, const Surroundings& around);
     void MarkLabels();
 

@@ -97,9 +97,9 @@ QKeySequence KeysOf(TextView shortcut) {
         shortcut = shortcut.substr(1, shortcut.size() - 2);
     }
     const auto* const found = std::ranges::find(named, shortcut, &NamedKey::written);
-    return QKeySequence(
+    return {
         held + (found == named.end() ? qt::ToQString(shortcut) : QString::fromUtf16(found->name)),
-        QKeySequence::PortableText);
+        QKeySequence::PortableText};
 }
 
 std::unique_ptr<QMenuBar> MakeMenuBar(const Stage& stage, const forms::Block& form) {

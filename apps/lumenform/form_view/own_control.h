@@ -16,6 +16,8 @@ class OwnControl final : public LiveControl, private qt::ControlSite, private ho
     OwnControl(const Stage& stage, const Surroundings& around, forms::Block& block,
                const ClassDescriptor& type);
     ~OwnControl() override;
+    OwnControl(const OwnControl&) = delete;
+    OwnControl& operator=(const OwnControl&) = delete;
 
     QWidget& Widget() const override { return *widget_; }
     const Surroundings& Inside() const override { return *inside_; }

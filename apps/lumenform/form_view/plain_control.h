@@ -14,6 +14,8 @@ class PlainControl final : public LiveControl {
  public:
     PlainControl(const Stage& stage, const Surroundings& around, forms::Block& block);
     ~PlainControl() override;
+    PlainControl(const PlainControl&) = delete;
+    PlainControl& operator=(const PlainControl&) = delete;
 
     QWidget& Widget() const override { return *widget_; }
     const Surroundings& Inside() const override { return *inside_; }

@@ -58,15 +58,15 @@ PlainWidget MakeLabel(const BlockReader& reader, const PlainSink& /*raise*/) {
 }
 
 PlainWidget MakeMultiLine(const BlockReader& reader, const PlainSink& raise) {
-    enum ScrollBars : std::int32_t { horizontal = 1, vertical = 2 };
+    enum ScrollBars : std::int32_t { Horizontal = 1, Vertical = 2 };
     auto box = std::make_unique<QPlainTextEdit>(qt::ToQString(reader.String(u"Text")));
     const std::int32_t bars = reader.Whole(u"ScrollBars", 0);
     const auto policy = [&](ScrollBars bar) {
         return (bars & bar) != 0 ? Qt::ScrollBarAlwaysOn : Qt::ScrollBarAlwaysOff;
     };
-    box->setHorizontalScrollBarPolicy(policy(horizontal));
-    box->setVerticalScrollBarPolicy(policy(vertical));
-    box->setLineWrapMode((bars & horizontal) != 0 ? QPlainTextEdit::NoWrap
+    box->setHorizontalScrollBarPolicy(policy(Horizontal));
+    box->setVerticalScrollBarPolicy(policy(Vertical));
+    box->setLineWrapMode((bars & Horizontal) != 0 ? QPlainTextEdit::NoWrap
                                                   : QPlainTextEdit::WidgetWidth);
     box->setReadOnly(reader.Flag(u"Locked", false));
     box->setTabChangesFocus(true);

@@ -14,13 +14,13 @@ struct Unit {
     float y;
 };
 
-enum ScaleMode : std::int32_t { user = 0, twips = 1, points = 2, pixels = 3, centimetres = 7 };
+enum ScaleMode : std::int32_t { User = 0, Twips = 1, Points = 2, Pixels = 3, Centimetres = 7 };
 
 Unit UnitOf(std::int32_t mode) {
     constexpr float twipsPerInch = 1440;
     constexpr float millimetresPerInch = 25.4F;
     constexpr float millimetre = twipsPerInch / millimetresPerInch;
-    constexpr std::array<Unit, centimetres + 1> fixed = {{
+    constexpr std::array<Unit, Centimetres + 1> fixed = {{
         {1, 1},
         {1, 1},
         {20, 20},
@@ -30,21 +30,21 @@ Unit UnitOf(std::int32_t mode) {
         {millimetre, millimetre},
         {10 * millimetre, 10 * millimetre},
     }};
-    if (mode == pixels) {
+    if (mode == Pixels) {
         const qt::TwipsPerPixel& screen = qt::TwipsPerPixel::OfScreens();
         return {static_cast<float>(screen.x), static_cast<float>(screen.y)};
     }
-    const bool known = mode >= 0 && mode <= centimetres;
-    return fixed[known ? static_cast<std::size_t>(mode) : std::size_t{twips}];
+    const bool known = mode >= 0 && mode <= Centimetres;
+    return fixed[known ? static_cast<std::size_t>(mode) : std::size_t{Twips}];
 }
 
 }  // namespace
 
 Scale Scale::Of(const BlockReader& container, float width, float height) {
     Scale scale;
-    const std::int32_t mode = container.Whole(u"ScaleMode", twips);
+    const std::int32_t mode = container.Whole(u"ScaleMode", Twips);
     Unit unit = UnitOf(mode);
-    if (mode == user) {
+    if (mode == User) {
         scale.left_ = container.Number(u"ScaleLeft", 0);
         scale.top_ = container.Number(u"ScaleTop", 0);
         const float across = container.Number(u"ScaleWidth", width);
