@@ -4,9 +4,10 @@
 #include <vector>
 
 #include <gmock/gmock.h>
-// clang-format off: the latter needs the former
-#include <commctrl.h>
+// The order matters.
+// clang-format off
 #include <windows.h>
+#include <commctrl.h>
 // clang-format on
 
 #include "tests/ole/clients/support/boxes.h"
