@@ -129,6 +129,7 @@ class HostedControl::Body final : public HostedWindow, public Drawable, private 
     void HandleMouse(UINT message, WPARAM wParam, LPARAM lParam);
     void HandlePress(Press press, host::MouseArguments& mouse);
     bool SetPointerCursor(WPARAM wParam, LPARAM lParam);
+    LRESULT AccessibleKind(WPARAM wParam, LPARAM lParam);
     LRESULT CopyText(std::size_t room, wchar_t* target);
 
     const ClassDescriptor& type_;
@@ -427,6 +428,8 @@ LRESULT HostedControl::Body::HandleMessage(UINT message, WPARAM wParam, LPARAM l
         }
         case WM_SETCURSOR:
             return SetPointerCursor(wParam, lParam) ? TRUE : Default(message, wParam, lParam);
+        case WM_GETOBJECT:
+            return AccessibleKind(wParam, lParam);
         case WM_GETTEXTLENGTH:
             return CopyText(0, nullptr);
         case WM_GETTEXT:
@@ -516,6 +519,17 @@ bool HostedControl::Body::SetPointerCursor(WPARAM wParam, LPARAM lParam) {
     }
     SetCursor(cursor);
     return true;
+}
+
+// To programs that read aloud, a control that consists of its surface alone is a static text: that
+// is what the platform's number for its STATIC windows says.
+LRESULT HostedControl::Body::AccessibleKind(WPARAM wParam, LPARAM lParam) {
+    constexpr LRESULT staticText = 65536 + 3;
+    const bool asksForKind = static_cast<LONG>(lParam) == OBJID_QUERYCLASSNAMEIDX;
+    if (asksForKind && GetWindow(Handle(), GW_CHILD) == nullptr) {
+        return staticText;
+    }
+    return Default(WM_GETOBJECT, wParam, lParam);
 }
 
 // The window's text, which is what programs read aloud, is what the control shows.

@@ -432,6 +432,15 @@ TEST_F(HostedControlTest, DialogsPassByAControlWithoutConstituents) {
     EXPECT_EQ(GetNextDlgTabItem(form_.Window(), Window(), TRUE), button);
 }
 
+TEST_F(HostedControlTest, IsAStaticTextToScreenReadersUnlessItHasConstituents) {
+    const auto kind = [&] {
+        return SendMessageW(Window(), WM_GETOBJECT, 0, OBJID_QUERYCLASSNAMEIDX);
+    };
+    EXPECT_EQ(kind(), 65536 + 3) << "as a STATIC window says of itself";
+    const auto label = Hosted().Host().constituents.AddLabel({{.name = u"L"}, u"text"});
+    EXPECT_EQ(kind(), 0);
+}
+
 TEST(Mnemonics, AreMarkedOnce) {
     EXPECT_TRUE(win32::AnswersTo(L"&Open", L'o'));
     EXPECT_TRUE(win32::AnswersTo(L"Save &As", L'A'));
