@@ -228,7 +228,8 @@ TEST_F(OwnFrame, AnIllegalIndentIsRefused) {
         BoxCloser boxes;
         Write(TextOf(*label_.Get(), L"BulletIndent") == L"240" ? L"240" : L"", indent);
         Write(L"- ", L"~ ");
-        EXPECT_TRUE(SUCCEEDED(page_->Apply()));
+        EXPECT_EQ(page_->Apply(), E_FAIL);
+        EXPECT_EQ(page_->IsPageDirty(), S_OK) << "it is still to be applied";
         Sleep(50);
         EXPECT_THAT(boxes.Errors(), ElementsAre(L"lumenkit: Illegal indent. Must be 0 to 9999"));
         EXPECT_EQ(TextOf(*label_.Get(), L"BulletPrefix"), L"- ");
