@@ -1,8 +1,7 @@
 // The tables' identifiers as the platform's.
 #pragma once
 
-#include <algorithm>
-#include <iterator>
+#include <cstring>
 #include <string>
 
 #include "frame/class_table.h"
@@ -16,7 +15,7 @@ inline GUID GuidOf(const UniqueIdentifier& identifier) {
                  .Data2 = identifier.data2,
                  .Data3 = identifier.data3,
                  .Data4 = {}};
-    std::ranges::copy(identifier.data4, std::begin(guid.Data4));
+    std::memcpy(&guid.Data4[0], identifier.data4.data(), sizeof guid.Data4);
     return guid;
 }
 
