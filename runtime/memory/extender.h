@@ -1,29 +1,34 @@
 #pragma once
 
 #include <cstdint>
-#include <optional>
 #include <span>
 
-#include "frame/automation/object.h"
-#include "frame/text.h"
+#include "frame/host/extender.h"
 
 namespace lumenkit::memory {
 
 class PlacedControl;
 
-/// A control as its container shows it to programs: Name (read-only), Tag, Left, Top, Width,
-/// Height, Visible, and Move with one to four arguments. Lengths are in twips.
-class Extender final : public Object {
+/// A placed control's extender, whose uses count for the form's planned faults.
+class Extender final : public host::Extender {
  public:
     explicit Extender(PlacedControl& control) : control_(control) {}
 
-    std::optional<std::int32_t> FindMember(TextView name) const override;
     Value Invoke(std::int32_t identifier, InvokeKind kind, std::span<Value> arguments) override;
 
-    /// Whether the container has a Tag. Without one, Tag raises 438 as any unknown member.
+    /// Whether the container has a Tag.
     void SupportTag(bool supported) { supportsTag_ = supported; }
 
  private:
+    Text Name() const override;
+    bool HasTag() const override { return supportsTag_; }
+    Text Tag() const override;
+    void SetTag(TextView tag) override;
+    host::Placement Place() const override;
+    void Move(const host::Placement& place) override;
+    bool IsVisible() const override;
+    void SetVisible(bool visible) override;
+
     PlacedControl& control_;
     bool supportsTag_ = true;
 };

@@ -1,6 +1,10 @@
 #pragma once
 
-#include "frame/automation/object.h"
+#include <cstdint>
+#include <optional>
+#include <span>
+
+#include "frame/host/extender.h"
 #include "frame/text.h"
 #include "runtime/ole/client_site.h"
 
@@ -22,7 +26,7 @@ class Placed {
 
 /// The control as its container sees it: the container's own extended control or, where it has
 /// none, Name, Left, Top, Width, Height (twips), Visible and Move from what is known.
-class SiteExtender final : public Object {
+class SiteExtender final : public host::Extender {
  public:
     /// Both must outlive the object.
     SiteExtender(const ClientSite& site, Placed& control) : site_(site), control_(control) {}
@@ -32,6 +36,15 @@ class SiteExtender final : public Object {
 
  private:
     ComPtr<IDispatch> Extended() const;
+
+    Text Name() const override { return control_.Title(); }
+    bool HasTag() const override { return false; }
+    Text Tag() const override { return {}; }
+    void SetTag(TextView /*tag*/) override {}
+    host::Placement Place() const override;
+    void Move(const host::Placement& place) override;
+    bool IsVisible() const override { return control_.IsVisible(); }
+    void SetVisible(bool visible) override { control_.SetVisible(visible); }
 
     const ClientSite& site_;
     Placed& control_;

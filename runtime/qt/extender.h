@@ -1,26 +1,25 @@
 #pragma once
 
-#include <cstdint>
-#include <optional>
-#include <span>
-
-#include "frame/automation/object.h"
-#include "frame/text.h"
+#include "frame/host/extender.h"
 
 namespace lumenkit::qt {
 
 class ControlWidget;
 
-/// A control as its container shows it to programs: Name (read-only), Tag, Left, Top, Width,
-/// Height, Visible, and Move with one to four arguments. Lengths are in twips.
-class Extender final : public Object {
+/// The extender of a control on a form.
+class Extender final : public host::Extender {
  public:
     explicit Extender(ControlWidget& control) : control_(control) {}
 
-    std::optional<std::int32_t> FindMember(TextView name) const override;
-    Value Invoke(std::int32_t identifier, InvokeKind kind, std::span<Value> arguments) override;
-
  private:
+    Text Name() const override;
+    Text Tag() const override;
+    void SetTag(TextView tag) override;
+    host::Placement Place() const override;
+    void Move(const host::Placement& place) override;
+    bool IsVisible() const override;
+    void SetVisible(bool visible) override;
+
     ControlWidget& control_;
 };
 

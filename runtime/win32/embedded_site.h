@@ -1,10 +1,9 @@
 #pragma once
 
-#include <functional>
-
 #include "frame/host/ambient.h"
 #include "frame/host/constituent.h"
 #include "frame/host/container.h"
+#include "frame/host/extender.h"
 #include "runtime/win32/context.h"
 #include "runtime/win32/element.h"
 #include "runtime/win32/hosted_control.h"
@@ -33,17 +32,19 @@ class EmbeddedAmbient final : public host::Ambient {
     bool userMode_;
 };
 
-/// An embedded control as programs see it: Name (read-only), Tag, Left, Top, Width, Height, Visible
-/// and Move with one to four arguments. Lengths are in twips.
-class EmbeddedExtender final : public Object {
+/// The extender of an embedded control.
+class EmbeddedExtender final : public host::Extender {
  public:
     EmbeddedExtender(host::Constituent& control, TextView name) : control_(control), name_(name) {}
 
-    std::optional<std::int32_t> FindMember(TextView name) const override;
-    Value Invoke(std::int32_t identifier, InvokeKind kind, std::span<Value> arguments) override;
-
  private:
-    friend struct EmbeddedMembers;
+    Text Name() const override { return name_; }
+    Text Tag() const override { return tag_; }
+    void SetTag(TextView tag) override { tag_ = tag; }
+    host::Placement Place() const override { return control_.Place(); }
+    void Move(const host::Placement& place) override { control_.Move(place); }
+    bool IsVisible() const override { return control_.Visible(); }
+    void SetVisible(bool visible) override { control_.SetVisible(visible); }
 
     host::Constituent& control_;
     Text name_;
