@@ -29,7 +29,7 @@ format: ## reformat all sources
 golden: ## write the golden files anew, for review in the diff
 	@scripts/golden.sh
 
-published: ## write the interface definitions and the manifest anew, for review in the diff
+published: ## write the interface definitions, manifest and reference pages anew, for review in the diff
 	@scripts/published.sh
 
 clean: ## remove everything that was built

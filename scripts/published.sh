@@ -4,5 +4,5 @@ set -euo pipefail
 cd "$(dirname "$0")/.."
 
 scripts/build.sh native write_published
-build/native/project/published/write_published project/published
-git --no-pager diff --stat -- project/published
+build/native/project/published/write_published project/published docs/reference
+git --no-pager diff --stat -- project/published docs/reference

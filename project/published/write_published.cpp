@@ -1,4 +1,5 @@
-// Writes what is published about the library into the folder that the argument names.
+// Writes what is published about the library: definitions and manifest into the folder that the
+// first argument names, reference pages into that of the second.
 #include <exception>
 #include <filesystem>
 #include <fstream>
@@ -8,6 +9,7 @@
 #include "project/lumenkit_classes.h"
 #include "project/published/idl.h"
 #include "project/published/manifest.h"
+#include "project/published/reference.h"
 
 namespace {
 
@@ -18,20 +20,31 @@ void WriteFile(const std::filesystem::path& file, const std::string& text) {
     stream.close();
 }
 
+void WriteDefinitions(const std::filesystem::path& folder) {
+    WriteFile(folder / lumenkit::classesIdlFile, lumenkit::WriteIdl(lumenkit::lumenkitClasses));
+    WriteFile(folder / lumenkit::enumerationsIdlFile,
+              lumenkit::WriteIdl(lumenkit::runtimeEnumerations));
+    WriteFile(folder / lumenkit::manifestFile,
+              lumenkit::WriteManifest(lumenkit::lumenkitClasses, "lumenkit.ocx"));
+}
+
+void WriteReferences(const std::filesystem::path& folder) {
+    std::filesystem::create_directories(folder);
+    for (const lumenkit::ReferencePage& page : lumenkit::referencePages) {
+        WriteFile(folder / page.file, lumenkit::WriteReference(lumenkit::lumenkitClasses, page));
+    }
+}
+
 }  // namespace
 
 int main(int count, char** arguments) {
-    if (count != 2) {
-        std::cerr << "usage: write_published FOLDER\n";
+    if (count != 3) {
+        std::cerr << "usage: write_published DEFINITIONS REFERENCES\n";
         return 2;
     }
     try {
-        const std::filesystem::path folder = arguments[1];
-        WriteFile(folder / lumenkit::classesIdlFile, lumenkit::WriteIdl(lumenkit::lumenkitClasses));
-        WriteFile(folder / lumenkit::enumerationsIdlFile,
-                  lumenkit::WriteIdl(lumenkit::runtimeEnumerations));
-        WriteFile(folder / lumenkit::manifestFile,
-                  lumenkit::WriteManifest(lumenkit::lumenkitClasses, "lumenkit.ocx"));
+        WriteDefinitions(arguments[1]);
+        WriteReferences(arguments[2]);
         return 0;
     } catch (const std::exception& error) {
         std::cerr << "write_published: " << error.what() << '\n';
