@@ -13,6 +13,10 @@ scripts/setup.sh build
 python3 scripts/check_includes.py --self-test
 python3 scripts/check_includes.py
 
+step "Documents"
+python3 scripts/check_docs.py --self-test
+python3 scripts/check_docs.py
+
 step "Build and tests"
 scripts/build.sh native
 ctest --preset native -j "$(nproc)"
