@@ -155,6 +155,30 @@ bool Block::RemoveControl(const Block& control) {
     return true;
 }
 
+bool Block::MoveControl(const Block& control, const Block* before) {
+    const auto found = FindControl(control);
+    if (found == items_.end()) {
+        return false;
+    }
+    if (&control != before) {
+        const auto index = found - items_.begin();
+        Item item = std::move(items_[static_cast<std::size_t>(index)]);
+        items_.erase(items_.begin() + index);
+        items_.insert(before == nullptr ? items_.end() : FindControl(*before), std::move(item));
+    }
+    return true;
+}
+
+void Block::Rename(TextView name) {
+    constexpr TextView blanks = u" \t";
+    constexpr TextView keyword = u"Begin";
+    const std::size_t behindKeyword = layout::IndentationOf(open_).size() + keyword.size();
+    const std::size_t classAt = open_.find_first_not_of(blanks, behindKeyword);
+    const std::size_t nameAt = open_.find_first_not_of(blanks, classAt + className_.size());
+    open_.replace(nameAt, name_.size(), name);
+    name_ = name;
+}
+
 Block& Block::Append(std::unique_ptr<Block> block) {
     Block& added = *block;
     items_.emplace_back(std::move(block));

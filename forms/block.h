@@ -75,6 +75,11 @@ class Block {
     Block& AddControl(TextView className, TextView name, const Block* before = nullptr);
     /// Removes one of Controls() with all that is in it; false when it is none of them.
     bool RemoveControl(const Block& control);
+    /// Puts one of Controls() before another one of them, or behind them all; false when it is none
+    /// of them.
+    bool MoveControl(const Block& control, const Block* before);
+    /// Gives a control another name; the line keeps what stands around it.
+    void Rename(TextView name);
 
     /// For the parser: adds what comes next in the file.
     Block& Append(std::unique_ptr<Block> block);

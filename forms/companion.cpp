@@ -14,6 +14,8 @@ constexpr std::uint64_t longestShort = 0xFE;
 constexpr std::uint64_t longestMedium = 0xFFFF;
 constexpr std::uint64_t longestLong = std::numeric_limits<std::uint32_t>::max();
 
+constexpr const char* tooLong = "the companion would be longer than 32-bit offsets reach";
+
 std::uint32_t LittleEndian(std::string_view bytes) {
     std::uint32_t number = 0;
     for (std::size_t i = bytes.size(); i > 0; --i) {
@@ -128,11 +130,21 @@ std::string_view Companion::String(std::uint32_t offset) const {
     return shape->ContentOf(record);
 }
 
+std::uint32_t Companion::Append(std::string_view record) {
+    if (bytes_.size() > longestLong) {
+        throw BadRecord(tooLong);
+    }
+    const auto offset = static_cast<std::uint32_t>(bytes_.size());
+    bytes_ += record;
+    offsets_.push_back(offset);
+    return offset;
+}
+
 std::uint32_t AppendString(std::string& bytes, std::string_view content) {
     const std::uint64_t offset = bytes.size();
     const std::uint64_t length = content.size();
     if (offset > longestLong || length > longestLong) {
-        throw BadRecord("the companion would be longer than 32-bit offsets reach");
+        throw BadRecord(tooLong);
     }
     if (length <= longestShort) {
         AppendLittleEndian(bytes, length, 1);

@@ -34,6 +34,10 @@ class Companion {
     /// bytes, then one. Throws BadRecord for what is no string record and for one that is cut.
     std::string_view String(std::uint32_t offset) const;
 
+    /// Appends a record, with its header, and gives its offset. Throws BadRecord where that would
+    /// need more than 32 bits.
+    std::uint32_t Append(std::string_view record);
+
     /// Throws BadRecord where offset is no place in the companion.
     void RequireOffset(std::uint32_t offset) const;
 

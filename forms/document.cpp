@@ -53,14 +53,40 @@ std::string DesignersCompanionName(const std::string& path) {
     return stem + ".frx";
 }
 
+// As deep as the parser lets blocks lie in one another, and editors take care to.
+void LeadReferencesTo(const Text& file, Block& block) {
+    for (const Block::Item& item : block.Items()) {
+        if (const auto* inner = std::get_if<std::unique_ptr<Block>>(&item)) {
+            LeadReferencesTo(file, **inner);
+        } else if (const auto* property = std::get_if<std::unique_ptr<Property>>(&item)) {
+            const auto* reference = std::get_if<Reference>(&(*property)->Literal());
+            if (reference != nullptr && reference->file != file) {
+                (*property)->Set(Reference{file, reference->offset, reference->marked});
+            }
+        }
+    }
+}
+
 }  // namespace
 
 Document Document::Parse(std::string name, std::string_view bytes,
                          const CompanionReader& readCompanion, int codePage) {
-    const Encoding encoding = EncodingOf(name, bytes, codePage);
+    Encoding encoding = EncodingOf(name, bytes, codePage);
+    return Read(std::move(name), std::move(encoding), bytes, readCompanion);
+}
+
+Document Document::Read(std::string name, Encoding encoding, std::string_view bytes,
+                        const CompanionReader& readCompanion) {
     ParsedForm form = ParseForm(Decode(name, encoding, bytes), name);
-    Document document(std::move(name), encoding, std::move(form));
+    Document document(std::move(name), std::move(encoding), std::move(form));
     document.ReadCompanion(readCompanion);
+    return document;
+}
+
+Document Document::WithBytes(const FormBytes& bytes) const {
+    const auto companion = [&](const std::string&) { return bytes.companion; };
+    Document document = Read(name_, encoding_, bytes.form, companion);
+    document.UseCompanion(companionName_);
     return document;
 }
 
@@ -153,8 +179,37 @@ std::string_view Document::RecordOf(const Property& property) const {
     }
 }
 
+Reference Document::AddRecord(std::string_view record) {
+    try {
+        return {FromUtf8(companionName_), companion_.Append(record), false};
+    } catch (const BadRecord& full) {
+        throw FormError(name_, full.what());
+    }
+}
+
+void Document::Rename(std::string name) {
+    name_ = std::move(name);
+    UseCompanion(DesignersCompanionName(name_));
+}
+
+void Document::UseCompanion(std::string name) {
+    companionName_ = std::move(name);
+    const Text file = FromUtf8(companionName_);
+    LeadReferencesTo(file, *form_.root);
+    for (PlacedReference& placed : form_.references) {
+        placed.reference.file = file;
+    }
+}
+
 FormBytes Document::Write() const {
-    return FormWriter(name_, encoding_, FromUtf8(companionName_), companion_.Bytes()).Write(form_);
+    FormBytes bytes =
+        FormWriter(name_, encoding_, FromUtf8(companionName_), companion_.Bytes()).Write(form_);
+    const bool wouldBeUtf8 =
+        Encoding::Of(bytes.form, CompanionCodePage()).FormCodePage() == utf8CodePage;
+    if (wouldBeUtf8 && FormCodePage() != utf8CodePage) {
+        throw FormError(name_, "all its characters beyond ASCII together would be read as UTF-8");
+    }
+    return bytes;
 }
 
 }  // namespace lumenkit::forms

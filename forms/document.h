@@ -37,9 +37,18 @@ class Document {
     static Document Parse(std::string name, std::string_view bytes,
                           const CompanionReader& readCompanion, int codePage = defaultCodePage);
 
+    /// The document that these bytes stand for, as Write gave them for this one or for an earlier
+    /// state of it. Throws FormError as Parse does.
+    Document WithBytes(const FormBytes& bytes) const;
+
     const std::string& Name() const { return name_; }
+    /// The document goes by another file name from now on, and its companion by the one that
+    /// designers would give it then: saving it leaves the files of the former name alone.
+    void Rename(std::string name);
     /// The code page's number, 65001 for UTF-8.
     int FormCodePage() const { return encoding_.FormCodePage(); }
+    /// Of the strings in the companion; never 65001.
+    int CompanionCodePage() const { return encoding_.CompanionPage().Number(); }
 
     /// The outermost block: the form itself.
     Block& Root() const { return *form_.root; }
@@ -58,17 +67,25 @@ class Document {
     /// property that is no reference.
     std::string_view RecordOf(const Property& property) const;
 
+    /// Appends a record, header and all, to the companion and gives the reference to it. Throws
+    /// FormError when the companion is full.
+    Reference AddRecord(std::string_view record);
+
     /// The companion's file name in UTF-8: the one that the form refers to, otherwise the one that
     /// designers would give it.
     std::string CompanionName() const { return companionName_; }
 
     /// Strings that were moved to the companion by edits are appended to it. Throws FormError for a
-    /// text that the encoding cannot carry, with the place in the text as it would be written.
+    /// text that the encoding cannot carry, with the place in the text as it would be written, and
+    /// for one that would be taken for UTF-8 when it is read again.
     FormBytes Write() const;
 
  private:
     Document(std::string name, Encoding encoding, ParsedForm form);
 
+    void UseCompanion(std::string name);
+    static Document Read(std::string name, Encoding encoding, std::string_view bytes,
+                         const CompanionReader& readCompanion);
     void ReadCompanion(const CompanionReader& readCompanion);
     void RequireOneCompanion() const;
     void Check(const PlacedReference& placed) const;

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "apps/lumenform/form_view/library_name.h"
 #include "frame/utf8.h"
 
 namespace lumenkit::form {
@@ -16,18 +17,8 @@ bool IsPartOfName(char character) {
     return IsLetter(character) || (character >= '0' && character <= '9') || character == '_';
 }
 
-std::string UpperCased(std::string text) {
-    std::ranges::transform(text, text.begin(), [](char character) {
-        return character >= 'a' && character <= 'z' ? static_cast<char>(character - 'a' + 'A')
-                                                    : character;
-    });
-    return text;
-}
-
 std::string LibraryLine(const ClassTable& classes) {
-    return "Object = \"{" + UpperCased(ToString(classes.uniqueIdentifier)) + "}#" +
-           std::to_string(classes.majorVersion) + '.' + std::to_string(classes.minorVersion) +
-           "#0\"; \"" + ToUtf8(classes.libraryName) + ".ocx\"";
+    return "Object = \"" + LibraryName(classes) + "\"; \"" + ToUtf8(classes.libraryName) + ".ocx\"";
 }
 
 }  // namespace

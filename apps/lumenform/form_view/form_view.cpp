@@ -76,7 +76,8 @@ FormView::FormView(const qt::Context& context, forms::Document& document, Mode m
     const qt::TwipsPerPixel& twips = qt::TwipsPerPixel::OfScreens();
     const Scale scale = Scale::Of(form, static_cast<float>(client_->width() * twips.x),
                                   static_cast<float>(client_->height() * twips.y));
-    AddControls(document.Root(), {*client_, backColor, font, scale});
+    inside_.emplace(Surroundings{*client_, backColor, font, scale});
+    AddControls(document.Root(), *inside_);
     MarkLabels();
 }
 

@@ -3,6 +3,7 @@
 #include <QWidget>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <vector>
 
 #include "apps/lumenform/form_view/client_area.h"
@@ -29,6 +30,8 @@ class FormView final : public QWidget {
     /// What stands in the form's title bar.
     const Text& Caption() const { return caption_; }
     ClientArea& Client() const { return *client_; }
+    /// What those controls see that lie on the form itself.
+    const Surroundings& Inside() const { return *inside_; }
     /// In the order of the file, each before those that lie in it.
     const ClientArea::Controls& Controls() const { return controls_; }
     /// By the name in code, "VMemo1(2)", without regard to case; null when there is none.
@@ -53,6 +56,7 @@ class FormView final : public QWidget {
     Text caption_;
     ClientArea::Controls controls_;
     ClientArea* client_ = nullptr;
+    std::optional<Surroundings> inside_;
 };
 
 }  // namespace lumenkit::form

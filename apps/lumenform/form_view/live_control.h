@@ -39,6 +39,8 @@ class LiveControl {
     virtual const Surroundings& Inside() const = 0;
     /// One of our controls; null for an equivalent.
     virtual qt::ControlWidget* Own() const { return nullptr; }
+    /// Whether others can be put into it.
+    virtual bool IsContainer() const { return false; }
     /// Whether it lies behind all that are not so, as labels and pictures do.
     virtual bool IsInBack() const { return false; }
 

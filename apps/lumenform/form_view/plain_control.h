@@ -19,6 +19,7 @@ class PlainControl final : public LiveControl {
 
     QWidget& Widget() const override { return *widget_; }
     const Surroundings& Inside() const override { return *inside_; }
+    bool IsContainer() const override { return kind_.isContainer; }
     bool IsInBack() const override { return kind_.isInBack; }
     host::Placement Place() const override { return place_; }
     void Move(const host::Placement& place) override;

@@ -26,6 +26,7 @@ struct PlainKind {
     Colors usual = {};
     host::Placement place = {.width = 1215, .height = 495};  ///< where the block has none
     bool isInBack = false;
+    bool isContainer = false;
     bool isSeen = true;  ///< whether the form's users see it
 };
 

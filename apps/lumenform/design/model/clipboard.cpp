@@ -1,0 +1,159 @@
+#include "apps/lumenform/design/model/clipboard.h"
+
+#include <QCoreApplication>
+#include <QDataStream>
+#include <QIODevice>
+#include <algorithm>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "apps/lumenform/design/model/arrange.h"
+#include "apps/lumenform/design/model/settling.h"
+#include "apps/lumenform/design/model/stacking.h"
+#include "apps/lumenform/form_view/block_reader.h"
+#include "apps/lumenform/form_view/menu_bar.h"
+#include "forms/controls.h"
+#include "forms/copy_control.h"
+
+namespace lumenkit::form {
+
+const char* const controlsFormat = "application/x-lumenform-controls";
+
+namespace {
+
+constexpr std::string_view emptyForm = "VERSION 5.00\r\nBegin VB.Form Clipboard \r\nEnd\r\n";
+constexpr float aside = 120;  // twips
+
+struct Clip {
+    int codePage = forms::defaultCodePage;
+    forms::FormBytes bytes;
+};
+
+QByteArray BytesOf(const std::string& text) {
+    return {text.data(), static_cast<qsizetype>(text.size())};
+}
+
+forms::Document Parsed(const Clip& clip) {
+    const auto companion = [&](const std::string&) { return clip.bytes.companion; };
+    return forms::Document::Parse("clipboard", clip.bytes.form, companion, clip.codePage);
+}
+
+Clip ClipOf(const Design& design) {
+    const forms::Document& document = design.Document();
+    forms::Document clip = document.WithBytes({std::string(emptyForm), {}});
+    clip.Rename("clipboard.frm");
+    for (const LiveControl* control : OutermostSelected(design)) {
+        forms::CopyControl(document, control->Block(), clip, clip.Root(), control->Block().Name());
+    }
+    return {document.CompanionCodePage(), clip.Write()};
+}
+
+QByteArray Packed(const Clip& clip) {
+    QByteArray packed;
+    QDataStream stream(&packed, QIODevice::WriteOnly);
+    stream << qint32{clip.codePage} << BytesOf(clip.bytes.form) << BytesOf(clip.bytes.companion);
+    return packed;
+}
+
+Clip Unpacked(const QByteArray& packed) {
+    QDataStream stream(packed);
+    qint32 codePage = 0;
+    QByteArray form;
+    QByteArray companion;
+    stream >> codePage >> form >> companion;
+    if (stream.status() != QDataStream::Ok) {
+        throw forms::FormError("clipboard", "expected controls");
+    }
+    return {codePage, {form.toStdString(), companion.toStdString()}};
+}
+
+// What pasted controls go into; null: the form.
+const LiveControl* PasteTarget(const Design& design) {
+    if (design.Selected().empty()) {
+        return nullptr;
+    }
+    const LiveControl& last = *design.Selected().back();
+    return design.Selected().size() == 1 && last.IsContainer() ? &last : ContainerOf(design, last);
+}
+
+// Whether something else in the container stands just where the control does.
+bool IsOccupied(const forms::Document& document, const forms::Block& container,
+                forms::Block& control) {
+    const BlockReader own(document, control);
+    return std::ranges::any_of(container.Controls(), [&](forms::Block* other) {
+        const BlockReader reader(document, *other);
+        return other != &control && !IsMenu(*other) &&
+               reader.Number(u"Left", 0) == own.Number(u"Left", 0) &&
+               reader.Number(u"Top", 0) == own.Number(u"Top", 0);
+    });
+}
+
+// All by the same steps, so that they keep their places beside one another.
+void StepAside(const forms::Document& document, const forms::Block& container,
+               const std::vector<forms::Block*>& pasted, const Scale& scale) {
+    const host::Placement origin = scale.FromTwips({});
+    const host::Placement step = scale.FromTwips({.left = aside, .top = aside});
+    while (std::ranges::any_of(
+        pasted, [&](forms::Block* block) { return IsOccupied(document, container, *block); })) {
+        for (forms::Block* block : pasted) {
+            const BlockReader reader(document, *block);
+            const float left = reader.Number(u"Left", 0) + step.left - origin.left;
+            const float top = reader.Number(u"Top", 0) + step.top - origin.top;
+            block->Set(u"Left", forms::NumberLiteral(left));
+            block->Set(u"Top", forms::NumberLiteral(top));
+        }
+    }
+}
+
+void PasteClip(Design& design, const Clip& clip, const QString& title) {
+    const forms::Document copied = Parsed(clip);
+    const LiveControl* const target = PasteTarget(design);
+    design.Restructure(title, [&] {
+        forms::Document& document = design.Document();
+        forms::Block& parent = target == nullptr ? document.Root() : target->Block();
+        SettleInto(document.Root(), copied.Root());
+        const forms::Block* const foremost = Foremost(parent);
+        std::vector<forms::Block*> pasted;
+        std::vector<Text> names;
+        for (const forms::Block* original : copied.Root().Controls()) {
+            forms::Block& copy =
+                forms::CopyControl(copied, *original, document, parent, original->Name());
+            parent.MoveControl(copy, foremost);
+            pasted.push_back(&copy);
+            names.push_back(forms::NameInCode(copy));
+        }
+        StepAside(document, parent, pasted, InsideOf(design, target).scale);
+        return names;
+    });
+}
+
+}  // namespace
+
+std::unique_ptr<QMimeData> CopySelected(const Design& design) {
+    if (design.Selected().empty()) {
+        return nullptr;
+    }
+    const Clip clip = ClipOf(design);
+    auto data = std::make_unique<QMimeData>();
+    data->setData(QLatin1String(controlsFormat), Packed(clip));
+    data->setText(QString::fromLatin1(BytesOf(clip.bytes.form)));
+    return data;
+}
+
+bool HoldsControls(const QMimeData* data) {
+    return data != nullptr && data->hasFormat(QLatin1String(controlsFormat));
+}
+
+void Paste(Design& design, const QMimeData& data) {
+    PasteClip(design, Unpacked(data.data(QLatin1String(controlsFormat))),
+              QCoreApplication::translate("clipboard", "Paste"));
+}
+
+void DuplicateSelected(Design& design) {
+    if (!design.Selected().empty()) {
+        PasteClip(design, ClipOf(design), QCoreApplication::translate("clipboard", "Duplicate"));
+    }
+}
+
+}  // namespace lumenkit::form

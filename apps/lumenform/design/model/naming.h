@@ -1,0 +1,30 @@
+#pragma once
+
+#include <cstdint>
+#include <initializer_list>
+
+#include "forms/block.h"
+#include "frame/text.h"
+
+namespace lumenkit::form {
+
+/// Whether code can call something so: a letter, then letters, digits and underscores, at most 40
+/// in all.
+bool IsName(TextView name);
+
+/// "VLabel" of "lumenkit.VLabel".
+TextView ShortClassName(TextView className);
+
+/// Whether a control or menu of the form, or the form itself, has the name.
+bool IsTaken(const forms::Block& form, TextView name);
+
+/// The class's short name with the lowest number, from 1, that is taken in none of the forms.
+Text FreshName(std::initializer_list<const forms::Block*> forms, TextView className);
+
+/// One more than the highest index of the control array `name`.
+std::int32_t FreshIndex(const forms::Block& form, TextView name);
+
+/// One more than the highest TabIndex.
+std::int32_t FreshTabIndex(const forms::Block& form);
+
+}  // namespace lumenkit::form

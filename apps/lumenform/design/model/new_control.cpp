@@ -1,0 +1,157 @@
+#include "apps/lumenform/design/model/new_control.h"
+
+#include <QCoreApplication>
+#include <algorithm>
+#include <array>
+#include <cmath>
+
+#include "apps/lumenform/design/model/arrange.h"
+#include "apps/lumenform/design/model/naming.h"
+#include "apps/lumenform/design/model/stacking.h"
+#include "apps/lumenform/form_view/library_name.h"
+#include "forms/form_bag.h"
+#include "frame/host/ambient.h"
+#include "frame/utf8.h"
+#include "runtime/qt/control_widget.h"
+#include "runtime/qt/form_container.h"
+#include "runtime/qt/qt_text.h"
+
+namespace lumenkit::form {
+
+namespace {
+
+struct PlainClass {
+    TextView name;
+    host::Placement place;
+    TextView caption = {};  // the property that shows the control's name
+};
+
+constexpr std::array plainClasses = {
+    PlainClass{u"VB.Label", {.width = 1215, .height = 255}, u"Caption"},
+    PlainClass{u"VB.TextBox", {.width = 1215, .height = 315}, u"Text"},
+    PlainClass{u"VB.CommandButton", {.width = 1215, .height = 375}, u"Caption"},
+    PlainClass{u"VB.CheckBox", {.width = 1695, .height = 255}, u"Caption"},
+    PlainClass{u"VB.OptionButton", {.width = 1695, .height = 255}, u"Caption"},
+    PlainClass{u"VB.Frame", {.width = 2415, .height = 1455}, u"Caption"},
+    PlainClass{u"VB.ListBox", {.width = 1815, .height = 1230}},
+    PlainClass{u"VB.ComboBox", {.width = 1815, .height = 315}, u"Text"},
+    PlainClass{u"VB.PictureBox", {.width = 1455, .height = 1455}},
+};
+
+const PlainClass* FindPlain(TextView className) {
+    const auto* const found = std::ranges::find_if(plainClasses, [&](const PlainClass& plain) {
+        return SameText(plain.name, className, Compare::IgnoreCase);
+    });
+    return found == plainClasses.end() ? nullptr : found;
+}
+
+const ClassDescriptor* FindOwn(const ClassTable& classes, TextView className) {
+    const ClassDescriptor* type = classes.Find(className);
+    return type != nullptr && type->kind == ClassKind::Control ? type : nullptr;
+}
+
+void SetPlace(forms::Block& block, const host::Placement& place, std::int32_t tabIndex) {
+    block.Set(u"Height", forms::NumberLiteral(place.height));
+    block.Set(u"Left", forms::NumberLiteral(place.left));
+    block.Set(u"TabIndex", tabIndex);
+    block.Set(u"Top", forms::NumberLiteral(place.top));
+    block.Set(u"Width", forms::NumberLiteral(place.width));
+}
+
+std::int32_t Himetric(float twips) {
+    return static_cast<std::int32_t>(std::lround(twips * (2540.0 / 1440.0)));
+}
+
+// A control that is set up as a new one, off the form, for its properties to be saved.
+class Prototype final : private qt::ControlSite, private host::Ambient {
+ public:
+    Prototype(const qt::Context& context, const ClassDescriptor& type, const Surroundings& around,
+              TextView name, const host::Placement& place)
+        : around_(around),
+          container_(type.eventTable),
+          widget_(context, type, *this, {.name = name, .placement = place, .visible = false}) {
+        widget_.StartNew();
+    }
+
+    void SaveInto(const forms::Document& document, forms::Block& block) {
+        forms::FormBag bag(document, block, [](const forms::FontDescription& description) {
+            return MakeFont(description);
+        });
+        widget_.Save(bag);
+    }
+
+ private:
+    host::Container& GetContainer() override { return container_; }
+    host::Ambient& GetAmbient() override { return *this; }
+    bool UserMode() const override { return false; }
+    host::FontRef AmbientFont() const override { return around_.font->Clone(); }
+    Color BackColor() const override { return around_.backColor; }
+
+    const Surroundings& around_;
+    qt::FormContainer container_;
+    qt::ControlWidget widget_;
+};
+
+void RequireLibrary(forms::Document& document, const ClassTable& classes) {
+    const Text file = Text(classes.libraryName) + u".ocx";
+    const bool isThere =
+        std::ranges::any_of(document.Libraries(), [&](const forms::LibraryReference& library) {
+            return SameText(library.file, file, Compare::IgnoreCase);
+        });
+    if (!isThere) {
+        document.AddLibrary(FromUtf8(LibraryName(classes)), file);
+    }
+}
+
+}  // namespace
+
+std::vector<Text> NewControlClasses(const ClassTable& classes) {
+    std::vector<Text> names;
+    for (const ClassDescriptor& type : classes.classes) {
+        if (type.kind == ClassKind::Control) {
+            names.push_back(Text(classes.libraryName) + u'.' + Text(type.name));
+        }
+    }
+    std::ranges::transform(plainClasses, std::back_inserter(names),
+                           [](const PlainClass& plain) { return Text(plain.name); });
+    return names;
+}
+
+host::Placement UsualPlace(const ClassTable& classes, TextView className) {
+    if (FindOwn(classes, className) != nullptr) {
+        return {.width = 2415, .height = 1215};
+    }
+    const PlainClass* plain = FindPlain(className);
+    return plain == nullptr ? host::Placement{.width = 1215, .height = 495} : plain->place;
+}
+
+void AddNewControl(Design& design, TextView className, const LiveControl* container,
+                   const host::Placement& place) {
+    const Surroundings& around = InsideOf(design, container);
+    const ClassTable& classes = design.Context().classes;
+    const ClassDescriptor* const type = FindOwn(classes, className);
+    design.Restructure(QCoreApplication::translate("new_control", "Add a control"), [&] {
+        forms::Document& document = design.Document();
+        forms::Block& parent = container == nullptr ? document.Root() : container->Block();
+        const Text name = FreshName({&document.Root()}, className);
+        const std::int32_t tabIndex = FreshTabIndex(document.Root());
+        forms::Block& block = parent.AddControl(className, name, Foremost(parent));
+        const host::Placement units = around.scale.FromTwips(place);
+        if (type != nullptr) {
+            RequireLibrary(document, classes);
+            SetPlace(block, units, tabIndex);
+            block.Set(u"_ExtentX", Himetric(place.width));
+            block.Set(u"_ExtentY", Himetric(place.height));
+            Prototype(design.Context(), *type, around, name, place).SaveInto(document, block);
+        } else {
+            const PlainClass* const plain = FindPlain(className);
+            if (plain != nullptr && !plain->caption.empty()) {
+                block.Set(plain->caption, forms::TextLiteral(name));
+            }
+            SetPlace(block, units, tabIndex);
+        }
+        return std::vector{name};
+    });
+}
+
+}  // namespace lumenkit::form

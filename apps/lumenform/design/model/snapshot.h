@@ -1,0 +1,35 @@
+#pragma once
+
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "forms/document.h"
+#include "frame/text.h"
+
+namespace lumenkit::form {
+
+/// A document as it was at some time, in the bytes that would have been saved.
+class Snapshot {
+ public:
+    /// Shares with `earlier`, which may be null, what is the same. Throws FormError as
+    /// Document::Write does.
+    Snapshot(const forms::Document& document, std::vector<Text> selected, const Snapshot* earlier);
+
+    /// The same document with another selection.
+    Snapshot(const Snapshot& other, std::vector<Text> selected);
+
+    bool HoldsTheSameAs(const Snapshot& other) const;
+    forms::FormBytes Bytes() const { return {*form_, *companion_}; }
+    /// The names of the controls that were selected.
+    const std::vector<Text>& Selected() const { return selected_; }
+
+ private:
+    std::shared_ptr<const std::string> form_;
+    std::shared_ptr<const std::string> companion_;  // pictures make it large
+    std::vector<Text> selected_;
+};
+
+using SharedSnapshot = std::shared_ptr<const Snapshot>;
+
+}  // namespace lumenkit::form

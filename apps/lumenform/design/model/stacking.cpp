@@ -1,0 +1,87 @@
+#include "apps/lumenform/design/model/stacking.h"
+
+#include <QCoreApplication>
+#include <algorithm>
+#include <ranges>
+#include <vector>
+
+#include "apps/lumenform/design/model/arrange.h"
+#include "apps/lumenform/form_view/menu_bar.h"
+
+namespace lumenkit::form {
+
+namespace {
+
+struct Stacked {
+    forms::Block& parent;
+    forms::Block& block;
+};
+
+// In the order of the file, whatever the order of selection.
+std::vector<Stacked> SelectedBlocks(const Design& design) {
+    const std::vector<LiveControl*> selected = OutermostSelected(design);
+    std::vector<Stacked> blocks;
+    for (const auto& control : design.View().Controls()) {
+        if (std::ranges::find(selected, control.get()) != selected.end()) {
+            const LiveControl* const container = ContainerOf(design, *control);
+            forms::Block& parent =
+                container == nullptr ? design.Document().Root() : container->Block();
+            blocks.push_back({parent, control->Block()});
+        }
+    }
+    return blocks;
+}
+
+}  // namespace
+
+const forms::Block* Foremost(const forms::Block& container) {
+    const std::vector<forms::Block*> controls = container.Controls();
+    return controls.empty() ? nullptr : controls.front();
+}
+
+const forms::Block* BehindAll(const forms::Block& container) {
+    const std::vector<forms::Block*> controls = container.Controls();
+    const auto menu =
+        std::ranges::find_if(controls, [](const forms::Block* block) { return IsMenu(*block); });
+    return menu == controls.end() ? nullptr : *menu;
+}
+
+void BringToFront(Design& design) {
+    if (design.Selected().empty()) {
+        return;
+    }
+    design.Restructure(QCoreApplication::translate("stacking", "Bring to front"), [&] {
+        std::vector<Text> names = design.SelectedNames();
+        for (const Stacked& stacked : SelectedBlocks(design) | std::views::reverse) {
+            stacked.parent.MoveControl(stacked.block, Foremost(stacked.parent));
+        }
+        return names;
+    });
+}
+
+void SendToBack(Design& design) {
+    if (design.Selected().empty()) {
+        return;
+    }
+    design.Restructure(QCoreApplication::translate("stacking", "Send to back"), [&] {
+        std::vector<Text> names = design.SelectedNames();
+        for (const Stacked& stacked : SelectedBlocks(design)) {
+            stacked.parent.MoveControl(stacked.block, BehindAll(stacked.parent));
+        }
+        return names;
+    });
+}
+
+void DeleteSelected(Design& design) {
+    if (design.Selected().empty()) {
+        return;
+    }
+    design.Restructure(QCoreApplication::translate("stacking", "Delete"), [&] {
+        for (const Stacked& stacked : SelectedBlocks(design)) {
+            stacked.parent.RemoveControl(stacked.block);
+        }
+        return std::vector<Text>();
+    });
+}
+
+}  // namespace lumenkit::form

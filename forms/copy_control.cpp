@@ -1,0 +1,63 @@
+#include "forms/copy_control.h"
+
+#include <memory>
+#include <variant>
+
+#include "forms/literal.h"
+#include "forms/property.h"
+
+namespace lumenkit::forms {
+
+namespace {
+
+// One copy from one document to another.
+class Copying {
+ public:
+    Copying(const Document& from, Document& to) : from_(from), to_(to) {}
+
+    // As deep as the parser lets blocks lie in one another.
+    void CopyInto(Block& copy, const Block& original) {
+        for (const Block::Item& item : original.Items()) {
+            if (const auto* property = std::get_if<std::unique_ptr<Property>>(&item)) {
+                if (copy.FindProperty((*property)->Name()) == nullptr) {
+                    copy.Set((*property)->Name(), Carried(**property));
+                }
+            } else if (const auto* inner = std::get_if<std::unique_ptr<Block>>(&item)) {
+                CopyBlock(copy, **inner);
+            }
+        }
+    }
+
+ private:
+    void CopyBlock(Block& copy, const Block& inner) {
+        CopyInto(inner.Kind() == BlockKind::Group
+                     ? copy.Group(inner.Name(), inner.ClassName())
+                     : copy.AddControl(inner.ClassName(), inner.Name()),
+                 inner);
+    }
+
+    Literal Carried(const Property& property) {
+        const auto* reference = std::get_if<Reference>(&property.Literal());
+        if (reference == nullptr || &from_ == &to_) {
+            return property.Literal();
+        }
+        if (reference->marked) {
+            return CompanionText{from_.TextOf(property)};
+        }
+        return to_.AddRecord(from_.RecordOf(property));
+    }
+
+    const Document& from_;
+    Document& to_;
+};
+
+}  // namespace
+
+Block& CopyControl(const Document& from, const Block& control, Document& to, Block& parent,
+                   TextView name) {
+    Block& copy = parent.AddControl(control.ClassName(), name);
+    Copying(from, to).CopyInto(copy, control);
+    return copy;
+}
+
+}  // namespace lumenkit::forms
