@@ -1,6 +1,6 @@
 # Every target installs what it needs and works on a fresh Debian 12 machine.
 .DEFAULT_GOAL := help
-.PHONY: run test bench ocx run-ocx fuzz lint format golden published clean help
+.PHONY: run test bench ocx run-ocx fuzz lint format golden published screenshots clean help
 
 run: ## do the main job: compile the sample captions and show what comes out
 	@scripts/run.sh
@@ -31,6 +31,9 @@ golden: ## write the golden files anew, for review in the diff
 
 published: ## write the interface definitions, manifest and reference pages anew, for review in the diff
 	@scripts/published.sh
+
+screenshots: ## draw the pictures of the documents anew, to be looked at
+	@scripts/screenshots.sh
 
 clean: ## remove everything that was built
 	@rm -rf build
