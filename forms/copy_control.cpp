@@ -19,9 +19,7 @@ class Copying {
     void CopyInto(Block& copy, const Block& original) {
         for (const Block::Item& item : original.Items()) {
             if (const auto* property = std::get_if<std::unique_ptr<Property>>(&item)) {
-                if (copy.FindProperty((*property)->Name()) == nullptr) {
-                    copy.Set((*property)->Name(), Carried(**property));
-                }
+                CopyProperty(copy, **property);
             } else if (const auto* inner = std::get_if<std::unique_ptr<Block>>(&item)) {
                 CopyBlock(copy, **inner);
             }
@@ -34,6 +32,17 @@ class Copying {
                      ? copy.Group(inner.Name(), inner.ClassName())
                      : copy.AddControl(inner.ClassName(), inner.Name()),
                  inner);
+    }
+
+    void CopyProperty(Block& copy, const Property& original) {
+        if (copy.FindProperty(original.Name()) != nullptr) {
+            return;  // of several properties of one name the first one counts
+        }
+        Property& property = copy.Set(original.Name(), Carried(original));
+        const bool hasOne = std::holds_alternative<bool>(original.Literal());
+        if (!original.Comment().empty() && !hasOne) {
+            property.AddComment(original.Comment());
+        }
     }
 
     Literal Carried(const Property& property) {

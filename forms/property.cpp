@@ -18,4 +18,10 @@ void Property::Set(forms::Literal literal) {
     comment_.clear();
 }
 
+void Property::AddComment(TextView comment) {
+    source_.value += u"  '";
+    source_.value += comment;
+    comment_ = comment;
+}
+
 }  // namespace lumenkit::forms

@@ -37,6 +37,8 @@ class Property {
 
     /// Gives the property another value; the line keeps what stands before it. A comment goes.
     void Set(forms::Literal literal);
+    /// Puts a comment behind a value that has none, as designers tell what a number means.
+    void AddComment(TextView comment);
 
  private:
     Text name_;

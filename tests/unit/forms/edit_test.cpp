@@ -117,6 +117,53 @@ TEST(Edit, PutsNewPropertiesBeforeControls) {
               "VERSION 5.00\nBegin A B\n   New             =   2\n   Begin C D\n   End\nEnd\n");
 }
 
+TEST(Edit, RenamesAControlInItsLine) {
+    const Document document = ParseBytes(
+        "VERSION 5.00\nBegin A.Begin Begin\n\tBegin\t C.D  D \'of D\n\tEnd\nEnd\n");
+    Find(document, {u"D"}).Rename(u"Longer_1");
+    document.Root().Rename(u"x");
+    EXPECT_EQ(document.Write().form,
+              "VERSION 5.00\nBegin A.Begin x\n\tBegin\t C.D  Longer_1 \'of D\n\tEnd\nEnd\n");
+    EXPECT_EQ(Find(document, {u"Longer_1"}).ClassName(), u"C.D");
+}
+
+TEST(Edit, MovesControlsAmongTheirNeighbours) {
+    const Document document = ParseBytes(
+        "VERSION 5.00\nBegin A B\nBegin C c1\nEnd\nBegin C c2\nEnd\nBegin C c3\nEnd\nEnd\n");
+    const auto order = [&] {
+        Text names;
+        for (const Block* control : document.Root().Controls()) {
+            names += control->Name();
+        }
+        return names;
+    };
+    Block& first = Find(document, {u"c1"});
+    Block& second = Find(document, {u"c2"});
+    Block& third = Find(document, {u"c3"});
+    EXPECT_TRUE(document.Root().MoveControl(third, &first));
+    EXPECT_EQ(order(), u"c3c1c2");
+    EXPECT_TRUE(document.Root().MoveControl(third, &third));
+    EXPECT_EQ(order(), u"c3c1c2");
+    EXPECT_TRUE(document.Root().MoveControl(first, nullptr));
+    EXPECT_EQ(order(), u"c3c2c1");
+    EXPECT_TRUE(document.Root().MoveControl(third, &first));
+    EXPECT_EQ(order(), u"c2c3c1");
+    EXPECT_FALSE(second.MoveControl(first, nullptr));
+    EXPECT_EQ(order(), u"c2c3c1");
+}
+
+TEST(Edit, RefusesWhatWouldBeReadAsUtf8) {
+    const Document document = Sample("empty.frm").Parse();
+    document.Root().Set(u"Caption", Text(u"Ã©"));  // C3 A9, which UTF-8 has for é
+    EXPECT_EQ(RefusalOf(document),
+              "empty.frm: all its characters beyond ASCII together would be read as UTF-8");
+    document.Root().Set(u"Tag", Text(u"é"));
+    EXPECT_EQ(RefusalOf(document), "none");
+    const Document other = Sample("utf8.frm").Parse();
+    other.Root().Set(u"Caption", Text(u"Ã©"));
+    EXPECT_EQ(RefusalOf(other), "none");
+}
+
 TEST(Edit, ChangesTheFirstOfSeveralOfOneName) {
     const Document document = ParseBytes("VERSION 5.00\nBegin A B\n   C = 1\n   c = 2\nEnd\n");
     document.Root().Set(u"C", 3);

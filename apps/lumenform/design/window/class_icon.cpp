@@ -1,0 +1,163 @@
+#include "apps/lumenform/design/window/class_icon.h"
+
+#include <QPainter>
+#include <algorithm>
+#include <array>
+
+namespace lumenkit::form {
+
+namespace {
+
+constexpr int side = 20;  // of the square that the drawings below fill
+constexpr int sharpness = 4;
+
+struct Pen {
+    QPainter& painter;
+    QColor ink;
+    QColor accent;
+
+    void Letter(const QString& text, QRectF where, bool bold) const {
+        QFont font = painter.font();
+        font.setPixelSize(static_cast<int>(where.height()));
+        font.setBold(bold);
+        painter.setFont(font);
+        painter.drawText(where.adjusted(-4, -4, 4, 4), Qt::AlignCenter, text);
+    }
+    void Lines(double left, double right, std::initializer_list<double> rows) const {
+        for (const double row : rows) {
+            painter.drawLine(QPointF(left, row), QPointF(right, row));
+        }
+    }
+    void Ring(double y, bool isFull) const {
+        painter.drawEllipse(QPointF(5, y), 2.6, 2.6);
+        if (isFull) {
+            painter.save();
+            painter.setBrush(ink);
+            painter.drawEllipse(QPointF(5, y), 1, 1);
+            painter.restore();
+        }
+    }
+};
+
+void DrawVLabel(const Pen& pen) {
+    pen.Letter(QStringLiteral("A"), {2, 4, 8, 12}, true);
+    pen.painter.setPen(pen.accent);
+    pen.Letter(QStringLiteral("a"), {10, 5, 8, 12}, false);
+    pen.painter.drawLine(QPointF(2, 17.5), QPointF(18, 17.5));
+}
+
+void DrawVMemo(const Pen& pen) {
+    pen.painter.drawRect(QRectF(2, 3, 16, 14));
+    pen.Lines(4.5, 12, {6.5, 9.5, 12.5});
+    pen.painter.setPen(QPen(pen.accent, 1.6));
+    pen.painter.drawLine(QPointF(14.5, 4), QPointF(14.5, 16));
+}
+
+void DrawVOptList(const Pen& pen) {
+    pen.painter.drawRect(QRectF(1, 2, 18, 16));
+    pen.painter.translate(1, 0);
+    for (const double y : {5.5, 10.0, 14.5}) {
+        pen.painter.setPen(QPen(y == 10.0 ? pen.accent : pen.ink, 1.2));
+        pen.painter.drawEllipse(QPointF(4.5, y), 1.6, 1.6);
+        pen.painter.drawLine(QPointF(8, y), QPointF(15, y));
+    }
+}
+
+void DrawLabel(const Pen& pen) {
+    pen.Letter(QStringLiteral("A"), {3, 3, 14, 14}, false);
+}
+
+void DrawTextBox(const Pen& pen) {
+    pen.painter.drawRect(QRectF(1.5, 5, 17, 10));
+    pen.Letter(QStringLiteral("ab"), {3, 6, 10, 8}, false);
+    pen.painter.drawLine(QPointF(15, 7), QPointF(15, 13));
+}
+
+void DrawButton(const Pen& pen) {
+    pen.painter.drawRoundedRect(QRectF(1.5, 5, 17, 10), 2.5, 2.5);
+    pen.Lines(6, 14, {10});
+}
+
+void DrawCheckBox(const Pen& pen) {
+    pen.painter.drawRect(QRectF(2, 6, 8, 8));
+    pen.painter.drawPolyline(
+        QPolygonF({QPointF(3.5, 10), QPointF(5.5, 12.5), QPointF(9, 7.5)}));
+    pen.Lines(12.5, 18, {10});
+}
+
+void DrawOptionButton(const Pen& pen) {
+    pen.painter.translate(1, 0);
+    pen.Ring(10, true);
+    pen.Lines(10, 17, {10});
+}
+
+void DrawFrame(const Pen& pen) {
+    pen.painter.drawPolyline(QPolygonF({QPointF(4, 5), QPointF(2, 5), QPointF(2, 17),
+                                        QPointF(18, 17), QPointF(18, 5), QPointF(12, 5)}));
+    pen.Lines(5.5, 10.5, {5});
+}
+
+void DrawListBox(const Pen& pen) {
+    pen.painter.drawRect(QRectF(2, 3, 16, 14));
+    pen.painter.fillRect(QRectF(3, 7.5, 14, 4.5), pen.accent);
+    pen.Lines(5, 14, {5.8, 14.2});
+}
+
+void DrawComboBox(const Pen& pen) {
+    pen.painter.drawRect(QRectF(1.5, 5, 17, 10));
+    pen.painter.drawLine(QPointF(12.5, 5), QPointF(12.5, 15));
+    pen.painter.drawPolyline(
+        QPolygonF({QPointF(14, 9), QPointF(15.5, 11.2), QPointF(17, 9)}));
+}
+
+void DrawPictureBox(const Pen& pen) {
+    pen.painter.drawRect(QRectF(2, 3, 16, 14));
+    pen.painter.drawEllipse(QPointF(7, 7.5), 1.6, 1.6);
+    pen.painter.setPen(QPen(pen.accent, 1.4));
+    pen.painter.drawPolyline(QPolygonF(
+        {QPointF(3, 15.5), QPointF(8, 10.5), QPointF(11, 13), QPointF(14, 9), QPointF(17, 13)}));
+}
+
+void DrawBox(const Pen& pen) {
+    pen.painter.setPen(QPen(pen.ink, 1.2, Qt::DashLine));
+    pen.painter.drawRect(QRectF(2, 4, 16, 12));
+}
+
+struct Drawing {
+    TextView className;
+    void (*draw)(const Pen& pen);
+};
+
+constexpr std::array drawings = {
+    Drawing{u"lumenkit.VLabel", DrawVLabel},
+    Drawing{u"lumenkit.VMemo", DrawVMemo},
+    Drawing{u"lumenkit.VOptList", DrawVOptList},
+    Drawing{u"VB.Label", DrawLabel},
+    Drawing{u"VB.TextBox", DrawTextBox},
+    Drawing{u"VB.CommandButton", DrawButton},
+    Drawing{u"VB.CheckBox", DrawCheckBox},
+    Drawing{u"VB.OptionButton", DrawOptionButton},
+    Drawing{u"VB.Frame", DrawFrame},
+    Drawing{u"VB.ListBox", DrawListBox},
+    Drawing{u"VB.ComboBox", DrawComboBox},
+    Drawing{u"VB.PictureBox", DrawPictureBox},
+};
+
+}  // namespace
+
+QIcon ClassIcon(TextView className, const QPalette& palette) {
+    QPixmap pixmap(side * sharpness, side * sharpness);
+    pixmap.fill(Qt::transparent);
+    QPainter painter(&pixmap);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.scale(sharpness, sharpness);
+    const Pen pen{painter, palette.color(QPalette::ButtonText), palette.color(QPalette::Link)};
+    painter.setPen(QPen(pen.ink, 1.2));
+    const auto* const found = std::ranges::find_if(drawings, [&](const Drawing& drawing) {
+        return SameText(drawing.className, className, Compare::IgnoreCase);
+    });
+    (found == drawings.end() ? DrawBox : found->draw)(pen);
+    return pixmap;
+}
+
+}  // namespace lumenkit::form

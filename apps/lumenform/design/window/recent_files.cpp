@@ -1,0 +1,33 @@
+#include "apps/lumenform/design/window/recent_files.h"
+
+#include <QFileInfo>
+
+namespace lumenkit::form {
+
+namespace {
+
+QString Key() {
+    return QStringLiteral("recentForms");
+}
+
+}  // namespace
+
+QStringList RecentFiles::Existing() const {
+    QStringList paths = settings_.value(Key()).toStringList();
+    paths.removeIf([](const QString& path) { return !QFileInfo(path).isFile(); });
+    return paths;
+}
+
+void RecentFiles::Add(const QString& path) {
+    QStringList paths = settings_.value(Key()).toStringList();
+    const QString added = QFileInfo(path).absoluteFilePath();
+    paths.removeAll(added);
+    paths.prepend(added);
+    settings_.setValue(Key(), paths.mid(0, most));
+}
+
+void RecentFiles::Clear() {
+    settings_.remove(Key());
+}
+
+}  // namespace lumenkit::form
