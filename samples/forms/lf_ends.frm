@@ -1,5 +1,5 @@
 VERSION 5.00
-Object = "{6B1A3F52-8C0D-4E7B-9A44-2D5C8E7F1A90}#7.1#0"; "lumenkit.ocx"
+Object = "{8E90C363-D415-47AA-AFDF-C215C3C33F77}#7.1#0"; "lumenkit.ocx"
 Begin VB.Form frmUnix 
    Caption         =   "Line feeds"
    ClientHeight    =   3195

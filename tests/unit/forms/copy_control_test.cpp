@@ -30,8 +30,7 @@ TEST(CopyControl, BringsTextsAndRecordsFromTheCompanion) {
         "VERSION 5.00\nBegin A B\n   Begin C D\n      Text = $\"x.frx\":0000\n"
         "      Picture = \"x.frx\":0005\n   End\nEnd\n",
         "\4a\r\nbPICTURE"s);
-    Document to = ParseBytes(
-        "VERSION 5.00\nBegin A B\n   Icon = \"own.frx\":0000\nEnd\n", "ICON");
+    Document to = ParseBytes("VERSION 5.00\nBegin A B\n   Icon = \"own.frx\":0000\nEnd\n", "ICON");
     Block& copy = CopyControl(from, Find(from, {u"D"}), to, to.Root(), u"D");
     EXPECT_EQ(to.TextOf(*copy.FindProperty(u"Text")), u"a\r\nb");
     EXPECT_EQ(to.RecordOf(*copy.FindProperty(u"Picture")), "PICTURE");

@@ -118,8 +118,8 @@ TEST(Edit, PutsNewPropertiesBeforeControls) {
 }
 
 TEST(Edit, RenamesAControlInItsLine) {
-    const Document document = ParseBytes(
-        "VERSION 5.00\nBegin A.Begin Begin\n\tBegin\t C.D  D \'of D\n\tEnd\nEnd\n");
+    const Document document =
+        ParseBytes("VERSION 5.00\nBegin A.Begin Begin\n\tBegin\t C.D  D \'of D\n\tEnd\nEnd\n");
     Find(document, {u"D"}).Rename(u"Longer_1");
     document.Root().Rename(u"x");
     EXPECT_EQ(document.Write().form,

@@ -13,6 +13,7 @@
 #include "apps/lumenform/design/model/stacking.h"
 #include "apps/lumenform/form_view/block_reader.h"
 #include "apps/lumenform/form_view/menu_bar.h"
+#include "apps/lumenform/form_view/plain_kinds.h"
 #include "forms/controls.h"
 #include "forms/copy_control.h"
 
@@ -68,13 +69,22 @@ Clip Unpacked(const QByteArray& packed) {
     return {codePage, {form.toStdString(), companion.toStdString()}};
 }
 
-// What pasted controls go into; null: the form.
-const LiveControl* PasteTarget(const Design& design) {
+bool HoldsContainers(const forms::Document& copied) {
+    return std::ranges::any_of(copied.Root().Controls(), [](const forms::Block* block) {
+        return PlainKindOf(*block).isContainer;
+    });
+}
+
+// What pasted controls go into; null: the form. Containers go beside the selected one, not into it,
+// as it may be the one that was pasted just before.
+const LiveControl* PasteTarget(const Design& design, const forms::Document& copied) {
     if (design.Selected().empty()) {
         return nullptr;
     }
     const LiveControl& last = *design.Selected().back();
-    return design.Selected().size() == 1 && last.IsContainer() ? &last : ContainerOf(design, last);
+    const bool goesInside =
+        design.Selected().size() == 1 && last.IsContainer() && !HoldsContainers(copied);
+    return goesInside ? &last : ContainerOf(design, last);
 }
 
 // Whether something else in the container stands just where the control does.
@@ -108,7 +118,7 @@ void StepAside(const forms::Document& document, const forms::Block& container,
 
 void PasteClip(Design& design, const Clip& clip, const QString& title) {
     const forms::Document copied = Parsed(clip);
-    const LiveControl* const target = PasteTarget(design);
+    const LiveControl* const target = PasteTarget(design, copied);
     design.Restructure(title, [&] {
         forms::Document& document = design.Document();
         forms::Block& parent = target == nullptr ? document.Root() : target->Block();

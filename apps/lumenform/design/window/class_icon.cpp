@@ -80,8 +80,7 @@ void DrawButton(const Pen& pen) {
 
 void DrawCheckBox(const Pen& pen) {
     pen.painter.drawRect(QRectF(2, 6, 8, 8));
-    pen.painter.drawPolyline(
-        QPolygonF({QPointF(3.5, 10), QPointF(5.5, 12.5), QPointF(9, 7.5)}));
+    pen.painter.drawPolyline(QPolygonF({QPointF(3.5, 10), QPointF(5.5, 12.5), QPointF(9, 7.5)}));
     pen.Lines(12.5, 18, {10});
 }
 
@@ -106,8 +105,7 @@ void DrawListBox(const Pen& pen) {
 void DrawComboBox(const Pen& pen) {
     pen.painter.drawRect(QRectF(1.5, 5, 17, 10));
     pen.painter.drawLine(QPointF(12.5, 5), QPointF(12.5, 15));
-    pen.painter.drawPolyline(
-        QPolygonF({QPointF(14, 9), QPointF(15.5, 11.2), QPointF(17, 9)}));
+    pen.painter.drawPolyline(QPolygonF({QPointF(14, 9), QPointF(15.5, 11.2), QPointF(17, 9)}));
 }
 
 void DrawPictureBox(const Pen& pen) {

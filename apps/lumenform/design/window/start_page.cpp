@@ -75,9 +75,10 @@ void StartPage::ShowRecent(const QStringList& paths) {
     }
     for (const QString& path : paths) {
         const QFileInfo file(path);
-        auto* const link = new QLabel(QStringLiteral("<a href=\"%1\">%2</a> &nbsp; %3")
-                                          .arg(path.toHtmlEscaped(), file.fileName().toHtmlEscaped(),
-                                               file.path().toHtmlEscaped()));
+        auto* const link =
+            new QLabel(QStringLiteral("<a href=\"%1\">%2</a> &nbsp; %3")
+                           .arg(path.toHtmlEscaped(), file.fileName().toHtmlEscaped(),
+                                file.path().toHtmlEscaped()));
         link->setTextInteractionFlags(Qt::LinksAccessibleByMouse | Qt::LinksAccessibleByKeyboard);
         connect(link, &QLabel::linkActivated, this, &StartPage::RecentWanted);
         list->addWidget(link);

@@ -1,0 +1,397 @@
+// What the designer does to a form: steps, selection, new controls, arranging, copies.
+#include <gmock/gmock.h>
+
+#include "apps/lumenform/design/model/arrange.h"
+#include "apps/lumenform/design/model/clipboard.h"
+#include "apps/lumenform/design/model/naming.h"
+#include "apps/lumenform/design/model/new_control.h"
+#include "apps/lumenform/design/model/stacking.h"
+#include "forms/file.h"
+#include "frame/runtime_error.h"
+#include "frame/utf8.h"
+#include "project/lumenkit_classes.h"
+#include "tests/apps/lumenform/edited_design.h"
+
+namespace lumenkit::testing {
+namespace {
+
+using ::testing::ElementsAre;
+using ::testing::HasSubstr;
+using ::testing::Not;
+
+std::string Block(const std::string& type, const std::string& name, int left, int top,
+                  const std::string& more = {}) {
+    return "   Begin " + type + ' ' + name +
+           " \n      Height = 495\n      Left = " + std::to_string(left) +
+           "\n      Top = " + std::to_string(top) + "\n      Width = 1215\n" + more + "   End\n";
+}
+
+EditedDesign ThreeButtons() {
+    return EditedDesign(FormWith(Block("VB.CommandButton", "cmdA", 120, 120) +
+                                 Block("VB.CommandButton", "cmdB", 600, 900) +
+                                 Block("VB.CommandButton", "cmdC", 2400, 2000)));
+}
+
+void MoveBy(EditedDesign& edited, TextView name, float twips,
+            form::Merging merging = form::Merging::None) {
+    form::LiveControl& control = edited.Control(name);
+    host::Placement place = control.Place();
+    place.left += twips;
+    edited.design.Edit(
+        QStringLiteral("Move"), [&] { control.Move(place); }, merging);
+}
+
+TEST(Design, AnEditIsAStepThatUndoTakesBackByteForByte) {
+    EditedDesign edited(forms::Load(sampleForms / "all_three.frm"));
+    const std::string before = edited.Text();
+    MoveBy(edited, u"VMemo1", 120);
+    const std::string after = edited.Text();
+    EXPECT_THAT(after, HasSubstr("      Left            =   2520\r\n"));
+    EXPECT_FALSE(edited.design.History().isClean());
+    edited.design.History().undo();
+    EXPECT_EQ(edited.Text(), before);
+    EXPECT_TRUE(edited.design.History().isClean());
+    edited.design.History().redo();
+    EXPECT_EQ(edited.Text(), after);
+    EXPECT_EQ(edited.PlaceOf(u"VMemo1"), "2175 x 2775 at 2520, 240");
+}
+
+TEST(Design, AnEditThatChangesNothingIsNoStep) {
+    EditedDesign edited = ThreeButtons();
+    MoveBy(edited, u"cmdA", 0);
+    EXPECT_EQ(edited.design.History().count(), 0);
+}
+
+TEST(Design, NudgesOfOneSelectionAreOneStep) {
+    EditedDesign edited = ThreeButtons();
+    edited.Select({u"cmdA"});
+    const std::string before = edited.Text();
+    for (int i = 0; i < 3; ++i) {
+        MoveBy(edited, u"cmdA", 15, form::Merging::Nudges);
+    }
+    EXPECT_EQ(edited.design.History().count(), 1);
+    edited.Select({u"cmdB"});
+    MoveBy(edited, u"cmdB", 15, form::Merging::Nudges);
+    MoveBy(edited, u"cmdB", 15);
+    EXPECT_EQ(edited.design.History().count(), 3);
+    edited.design.History().undo();
+    edited.design.History().undo();
+    EXPECT_EQ(edited.PlaceOf(u"cmdA"), "1215 x 495 at 165, 120");
+    edited.design.History().undo();
+    EXPECT_EQ(edited.Text(), before);
+}
+
+TEST(Design, ARefusedEditLeavesEverythingAsItWas) {
+    EditedDesign edited = ThreeButtons();
+    edited.Select({u"cmdA", u"cmdB"});
+    const std::string before = edited.Text();
+    EXPECT_THROW(edited.design.Edit(QStringLiteral("Resize"),
+                                    [&] {
+                                        edited.Control(u"cmdA").Move({.width = 15, .height = 15});
+                                        edited.Control(u"cmdB").Move({.width = -1});
+                                    }),
+                 RuntimeError);
+    EXPECT_EQ(edited.Text(), before);
+    EXPECT_EQ(edited.PlaceOf(u"cmdA"), "1215 x 495 at 120, 120");
+    EXPECT_EQ(edited.Selected(), "cmdA cmdB");
+    EXPECT_EQ(edited.design.History().count(), 0);
+    EXPECT_THROW(edited.design.Restructure(QStringLiteral("Caption"),
+                                           [&] {
+                                               edited.Control(u"cmdA").Block().Set(
+                                                   u"Caption", lumenkit::Text(u"中"));
+                                               return edited.design.SelectedNames();
+                                           }),
+                 forms::FormError);
+    EXPECT_EQ(edited.Text(), before);
+}
+
+TEST(Design, AViewThatCannotBeMadeTakesTheChangeBack) {
+    EditedDesign edited(FormWith(Block("lumenkit.VMemo", "VMemo1", 0, 0)));
+    const std::string before = edited.Text();
+    EXPECT_THROW(edited.design.Restructure(QStringLiteral("Width"),
+                                           [&] {
+                                               edited.Control(u"VMemo1").Block().Set(u"Width", -5);
+                                               return edited.design.SelectedNames();
+                                           }),
+                 forms::FormError);
+    EXPECT_EQ(edited.Text(), before);
+    EXPECT_EQ(edited.PlaceOf(u"VMemo1"), "1215 x 495 at 0, 0");
+}
+
+TEST(Design, TellsWhatHappens) {
+    EditedDesign edited = ThreeButtons();
+    std::string told;
+    QObject::connect(&edited.design, &form::Design::Edited, [&] { told += "edited "; });
+    QObject::connect(&edited.design, &form::Design::SelectionChanged, [&] { told += "selected "; });
+    QObject::connect(&edited.design, &form::Design::ViewReplaced, [&] { told += "replaced "; });
+    edited.Select({u"cmdA"});
+    edited.Select({u"cmdA"});
+    EXPECT_EQ(told, "selected ");
+    told.clear();
+    MoveBy(edited, u"cmdA", 15);
+    EXPECT_EQ(told, "edited ");
+    told.clear();
+    edited.design.History().undo();
+    EXPECT_EQ(told, "replaced selected selected edited ");
+    EXPECT_EQ(edited.Selected(), "cmdA");
+}
+
+TEST(Design, KeepsTheLatestStepsOnly) {
+    EditedDesign edited = ThreeButtons();
+    for (int i = 0; i <= form::Design::mostSteps; ++i) {
+        MoveBy(edited, u"cmdA", 15);
+    }
+    EXPECT_EQ(edited.design.History().count(), form::Design::mostSteps);
+}
+
+TEST(Design, UndoAfterSavingUnderAnotherNameKeepsToItsOwnCompanion) {
+    EditedDesign edited(forms::Load(sampleForms / "memo.frm"));
+    MoveBy(edited, u"VMemo1", 15);
+    edited.design.Rename("other.frm");
+    EXPECT_THAT(edited.Text(), HasSubstr("\"other.frx\""));
+    edited.design.History().undo();
+    EXPECT_THAT(edited.Text(), HasSubstr("\"other.frx\""));
+    EXPECT_THAT(edited.Text(), Not(HasSubstr("memo.frx")));
+}
+
+TEST(DesignNames, AreWhatCodeCanSay) {
+    EXPECT_TRUE(form::IsName(u"a"));
+    EXPECT_TRUE(form::IsName(u"cmd_OK2"));
+    EXPECT_TRUE(form::IsName(lumenkit::Text(40, u'x')));
+    EXPECT_FALSE(form::IsName(lumenkit::Text(41, u'x')));
+    EXPECT_FALSE(form::IsName(u""));
+    EXPECT_FALSE(form::IsName(u"2x"));
+    EXPECT_FALSE(form::IsName(u"_x"));
+    EXPECT_FALSE(form::IsName(u"a b"));
+    EXPECT_FALSE(form::IsName(u"ä"));
+}
+
+TEST(DesignNames, AreFreshBesideMenusAndWhatLiesInside) {
+    const EditedDesign edited(
+        FormWith("   Begin VB.Frame Frame1 \n      Begin VB.Label label1 \n      End\n   End\n"
+                 "   Begin VB.Menu VMemo1 \n   End\n"));
+    const forms::Block& root = edited.design.Document().Root();
+    EXPECT_EQ(form::FreshName({&root}, u"VB.Label"), u"Label2");
+    EXPECT_EQ(form::FreshName({&root}, u"lumenkit.VMemo"), u"VMemo2");
+    EXPECT_EQ(form::FreshName({&root}, u"VB.Timer"), u"Timer1");
+    EXPECT_EQ(form::FreshName({&root}, u"1.2"), u"Control1");
+    EXPECT_TRUE(form::IsTaken(root, u"FORM1"));
+}
+
+TEST(NewControl, IsSetUpAsItsClassSetsUpNewOnes) {
+    EditedDesign edited(FormWith(""));
+    form::AddNewControl(edited.design, u"lumenkit.VLabel", nullptr,
+                        {.left = 120, .top = 240, .width = 2400, .height = 480});
+    EXPECT_EQ(edited.Selected(), "VLabel1");
+    EXPECT_EQ(edited.PlaceOf(u"VLabel1"), "2400 x 480 at 120, 240");
+    const std::string text = edited.Text();
+    EXPECT_THAT(text, HasSubstr("Object = \"{8E90C363-D415-47AA-AFDF-C215C3C33F77}#7.1#0\"; "
+                                "\"lumenkit.ocx\"\nBegin VB.Form Form1\n"));
+    EXPECT_THAT(text, HasSubstr("   Begin lumenkit.VLabel VLabel1 \n"
+                                "      Height          =   480\n"
+                                "      Left            =   120\n"
+                                "      TabIndex        =   0\n"
+                                "      Top             =   240\n"
+                                "      Width           =   2400\n"
+                                "      _ExtentX        =   4233\n"
+                                "      _ExtentY        =   847\n"));
+    form::AddNewControl(edited.design, u"lumenkit.VLabel", nullptr, {.width = 1200, .height = 480});
+    EXPECT_EQ(edited.Selected(), "VLabel2");
+    EXPECT_EQ(edited.design.Document().Libraries().size(), 1U);
+    edited.design.History().undo();
+    edited.design.History().undo();
+    EXPECT_THAT(edited.Text(), Not(HasSubstr("Object")));
+}
+
+TEST(NewControl, EveryClassOfTheToolboxCanBePutIntoAFrame) {
+    for (const lumenkit::Text& className : form::NewControlClasses(lumenkitClasses)) {
+        EditedDesign edited(
+            FormWith("   Begin VB.Frame fraOuter \n      Height = 2000\n"
+                     "      Width = 3000\n   End\n   Begin VB.Menu mnu \n   End\n"));
+        host::Placement place = form::UsualPlace(lumenkitClasses, className);
+        place.left = 60;
+        form::AddNewControl(edited.design, className, &edited.Control(u"fraOuter"), place);
+        const forms::Block& root = edited.design.Document().Root();
+        ASSERT_EQ(root.Controls().size(), 2U);
+        ASSERT_EQ(root.Controls().front()->Controls().size(), 1U);
+        const forms::Block& block = *root.Controls().front()->Controls().front();
+        EXPECT_EQ(block.ClassName(), className);
+        EXPECT_EQ(edited.Control(block.Name()).Place(), place);
+        EXPECT_TRUE(edited.surface.interaction.said.empty());
+        EXPECT_TRUE(edited.surface.errors.empty());
+    }
+}
+
+TEST(NewControl, StandsInFrontAndBeforeTheMenus) {
+    EditedDesign edited(
+        FormWith(Block("VB.CommandButton", "cmdA", 0, 0) + "   Begin VB.Menu mnuFile \n   End\n"));
+    form::AddNewControl(edited.design, u"VB.Label", nullptr, {.width = 100, .height = 100});
+    const auto controls = edited.design.Document().Root().Controls();
+    ASSERT_EQ(controls.size(), 3U);
+    EXPECT_EQ(controls[0]->Name(), u"Label1");
+    EXPECT_EQ(controls[2]->Name(), u"mnuFile");
+}
+
+TEST(Arrange, AlignsWithTheLastSelected) {
+    using form::Alignment;
+    const std::pair<Alignment, std::string> expected[] = {
+        {Alignment::Left, "1215 x 495 at 600, 120"},
+        {Alignment::Center, "1215 x 495 at 700, 120"},
+        {Alignment::Right, "1215 x 495 at 800, 120"},
+        {Alignment::Top, "1215 x 495 at 120, 900"},
+        {Alignment::Middle, "1215 x 495 at 120, 952"},
+        {Alignment::Bottom, "1215 x 495 at 120, 1005"},
+    };
+    for (const auto& [alignment, place] : expected) {
+        EditedDesign edited = ThreeButtons();
+        edited.design.Edit(QStringLiteral("Size"), [&] {
+            edited.Control(u"cmdB").Move({.left = 600, .top = 900, .width = 1415, .height = 600});
+        });
+        edited.Select({u"cmdA", u"cmdB"});
+        form::Align(edited.design, alignment);
+        EXPECT_EQ(edited.PlaceOf(u"cmdA"), place);
+        EXPECT_EQ(edited.PlaceOf(u"cmdB"), "1415 x 600 at 600, 900");
+        EXPECT_EQ(edited.design.History().count(), 2);
+    }
+}
+
+TEST(Arrange, AlignsAcrossContainers) {
+    EditedDesign edited(
+        FormWith("   Begin VB.Frame fraOuter \n      Height = 2000\n      Left = 300\n"
+                 "      Top = 300\n      Width = 3000\n      Begin VB.CommandButton cmdIn \n"
+                 "         Height = 495\n         Left = 600\n         Top = 600\n"
+                 "         Width = 1215\n      End\n   End\n" +
+                 Block("VB.CommandButton", "cmdOut", 0, 0)));
+    edited.Select({u"cmdOut", u"cmdIn"});
+    form::Align(edited.design, form::Alignment::Left);
+    EXPECT_EQ(edited.PlaceOf(u"cmdOut"), "1215 x 495 at 900, 0");
+    EXPECT_EQ(edited.PlaceOf(u"cmdIn"), "1215 x 495 at 600, 600");
+    EXPECT_EQ(form::ContainerOf(edited.design, edited.Control(u"cmdIn")),
+              &edited.Control(u"fraOuter"));
+    EXPECT_EQ(form::ContainerOf(edited.design, edited.Control(u"cmdOut")), nullptr);
+    edited.Select({u"fraOuter", u"cmdIn"});
+    EXPECT_THAT(form::OutermostSelected(edited.design), ElementsAre(&edited.Control(u"fraOuter")));
+}
+
+TEST(Arrange, MakesTheSameSizeCentersSpacesAndSizesToTheGrid) {
+    EditedDesign edited = ThreeButtons();
+    edited.Select({u"cmdA", u"cmdC"});
+    edited.design.Edit(QStringLiteral("Size"), [&] {
+        edited.Control(u"cmdC").Move({.left = 2400, .top = 2000, .width = 1000, .height = 700});
+    });
+    form::MakeSameSize(edited.design, form::Dimension::Width);
+    EXPECT_EQ(edited.PlaceOf(u"cmdA"), "1000 x 495 at 120, 120");
+    form::MakeSameSize(edited.design, form::Dimension::Height);
+    EXPECT_EQ(edited.PlaceOf(u"cmdA"), "1000 x 700 at 120, 120");
+    // 4500 wide: the two together are 3280 wide.
+    form::CenterOnContainer(edited.design, Qt::Horizontal);
+    EXPECT_EQ(edited.PlaceOf(u"cmdA"), "1000 x 700 at 610, 120");
+    EXPECT_EQ(edited.PlaceOf(u"cmdC"), "1000 x 700 at 2890, 2000");
+    edited.Select({u"cmdA", u"cmdC", u"cmdB"});
+    // From 120 to 2700: 700 + 495 + 700 of controls and two gaps of 342.5.
+    form::SpaceEvenly(edited.design, Qt::Vertical);
+    EXPECT_EQ(edited.PlaceOf(u"cmdB"), "1215 x 495 at 600, 1163");
+    form::SizeToGrid(edited.design, 120);
+    EXPECT_EQ(edited.PlaceOf(u"cmdB"), "1200 x 480 at 600, 1200");
+}
+
+TEST(Stacking, BringsToTheFrontAndSendsToTheBack) {
+    EditedDesign edited(
+        FormWith(Block("VB.CommandButton", "a", 0, 0) + Block("VB.CommandButton", "b", 0, 0) +
+                 Block("VB.CommandButton", "c", 0, 0) + "   Begin VB.Menu mnu \n   End\n"));
+    const auto order = [&] {
+        std::string names;
+        for (const forms::Block* block : edited.design.Document().Root().Controls()) {
+            names += ToUtf8(block->Name()) + ' ';
+        }
+        return names;
+    };
+    edited.Select({u"c", u"b"});
+    form::BringToFront(edited.design);
+    EXPECT_EQ(order(), "b c a mnu ");
+    EXPECT_EQ(edited.Selected(), "c b");
+    form::SendToBack(edited.design);
+    EXPECT_EQ(order(), "a b c mnu ");
+    edited.design.History().undo();
+    EXPECT_EQ(order(), "b c a mnu ");
+}
+
+TEST(Stacking, DeletesWithWhatLiesInside) {
+    EditedDesign edited(forms::Load(sampleForms / "all_three.frm"));
+    const std::string before = edited.Text();
+    edited.Select({u"fraLeft", u"VLabel1"});
+    form::DeleteSelected(edited.design);
+    EXPECT_THAT(edited.Text(), Not(HasSubstr("VOptList1")));
+    EXPECT_THAT(edited.Text(), HasSubstr("VMemo1"));
+    EXPECT_EQ(edited.Selected(), "");
+    edited.design.History().undo();
+    EXPECT_EQ(edited.Text(), before);
+    EXPECT_EQ(edited.Selected(), "fraLeft VLabel1");
+}
+
+TEST(Clipboard, CopiesComeBesideTheirOriginals) {
+    EditedDesign edited(forms::Load(sampleForms / "all_three.frm"));
+    edited.Select({u"fraLeft"});
+    const auto data = form::CopySelected(edited.design);
+    ASSERT_TRUE(form::HoldsControls(data.get()));
+    EXPECT_THAT(data->text().toStdString(), HasSubstr("Begin VB.Frame fraLeft"));
+    edited.Select({});
+    form::Paste(edited.design, *data);
+    EXPECT_EQ(edited.Selected(), "Frame1");
+    EXPECT_EQ(edited.PlaceOf(u"Frame1"), "2175 x 2895 at 240, 240");
+    ASSERT_NE(edited.design.View().Find(u"VLabel2"), nullptr);
+    EXPECT_EQ(form::ContainerOf(edited.design, edited.Control(u"VLabel2")),
+              &edited.Control(u"PictureBox1"));
+    EXPECT_EQ(edited.PlaceOf(u"VLabel2"), "1935 x 735 at 0, 0");
+    EXPECT_EQ(edited.Control(u"VLabel2").TabIndex(), 7);
+    EXPECT_EQ(edited.design.History().count(), 1);
+    form::Paste(edited.design, *data);
+    EXPECT_EQ(edited.PlaceOf(u"Frame2"), "2175 x 2895 at 360, 360");
+}
+
+TEST(Clipboard, GoesIntoASelectedContainerAndIntoAnotherForm) {
+    EditedDesign from(forms::Load(sampleForms / "memo.frm"));
+    from.Select({u"VMemo1"});
+    const std::string text = from.Text();
+    const auto data = form::CopySelected(from.design);
+    EXPECT_EQ(from.Text(), text);
+    EditedDesign to(
+        FormWith("   Begin VB.Frame fraOuter \n      Height = 2000\n"
+                 "      Width = 3000\n   End\n"));
+    to.Select({u"fraOuter"});
+    form::Paste(to.design, *data);
+    EXPECT_EQ(to.Selected(), "VMemo1");
+    EXPECT_EQ(form::ContainerOf(to.design, to.Control(u"VMemo1")), &to.Control(u"fraOuter"));
+    const auto textOf = [](const EditedDesign& edited) {
+        return std::get<lumenkit::Text>(edited.Control(u"VMemo1").Own()->Automation().Get(u"Text"));
+    };
+    EXPECT_EQ(textOf(to), textOf(from));
+    EXPECT_NE(textOf(to).find(u"\r\n"), lumenkit::Text::npos);
+}
+
+TEST(Clipboard, ElementsOfArraysGetFreeIndices) {
+    EditedDesign edited(forms::Load(sampleForms / "control_array.frm"));
+    const std::string first = ToUtf8(edited.design.View().Controls().front()->Name());
+    ASSERT_THAT(first, HasSubstr("("));
+    edited.design.Select({edited.design.View().Controls().front().get()});
+    const int count = static_cast<int>(edited.design.View().Controls().size());
+    form::DuplicateSelected(edited.design);
+    EXPECT_EQ(edited.design.View().Controls().size(), static_cast<std::size_t>(count) + 1);
+    const std::string array = first.substr(0, first.find('('));
+    EXPECT_THAT(edited.Selected(), HasSubstr(array + '('));
+    EXPECT_NE(edited.Selected(), first);
+}
+
+TEST(Clipboard, WhatIsDamagedIsRefusedAndChangesNothing) {
+    EditedDesign edited = ThreeButtons();
+    const std::string before = edited.Text();
+    QMimeData data;
+    data.setData(QLatin1String(form::controlsFormat), "nonsense");
+    EXPECT_THROW(form::Paste(edited.design, data), forms::FormError);
+    EXPECT_EQ(edited.Text(), before);
+    EXPECT_FALSE(form::HoldsControls(nullptr));
+    EXPECT_EQ(form::CopySelected(edited.design), nullptr);
+}
+
+}  // namespace
+}  // namespace lumenkit::testing

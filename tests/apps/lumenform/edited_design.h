@@ -1,0 +1,30 @@
+#pragma once
+
+#include <string>
+
+#include "apps/lumenform/design/model/design.h"
+#include "tests/apps/lumenform/loaded_view.h"
+
+namespace lumenkit::testing {
+
+/// A form in the designer, without a window.
+class EditedDesign {
+ public:
+    explicit EditedDesign(forms::Document document)
+        : design(surface.context, std::move(document)) {}
+
+    /// Throws where there is none.
+    form::LiveControl& Control(TextView name) const;
+    void Select(std::initializer_list<TextView> names);
+    /// The names of the controls that are selected, blanks between.
+    std::string Selected() const;
+    /// The form as it would be saved.
+    std::string Text() const { return design.Document().Write().form; }
+    /// "1215 x 495 at 120, 240" in twips.
+    std::string PlaceOf(TextView name) const;
+
+    Surface surface;
+    form::Design design;
+};
+
+}  // namespace lumenkit::testing
