@@ -12,10 +12,12 @@ namespace {
 struct Named {
     const char* caption;
     const char* markup;
+    const char* html;
 };
-constexpr std::array colors = {Named{"0,0,0", ""}, Named{"0,128,0", "#008000"},
-                               Named{"200,10,16", "#c80a10"}};
-constexpr std::array sizes = {Named{"10", ""}, Named{"14", "14336"}, Named{"8.5", "8704"}};
+constexpr std::array colors = {Named{"0,0,0", "", ""}, Named{"0,128,0", "#008000", "#008000"},
+                               Named{"200,10,16", "#c80a10", "#c80a10"}};
+constexpr std::array sizes = {Named{"10", "", ""}, Named{"14", "14336", "14pt"},
+                              Named{"8.5", "8704", "8.5pt"}};
 
 template <typename Table>
 const Named& Of(const Table& table, int index) {
@@ -40,10 +42,12 @@ Marked MarkedTexts::Next(int units, int runs) {
         const int left = units * run / runs - static_cast<int>(text.caption.size());
         const std::string words = Words(std::max(left - static_cast<int>(command.size()), 4));
         text.caption += FromUtf8(command + words);
-        text.markup += Tagged(words, style);
+        text.markup += Markup(words, style);
+        text.html += Html(words, style);
         if (run % 10 == 0) {
             text.caption += u"|CR|";
             text.markup += '\n';
+            text.html += "<br>";
         }
     }
     return text;
@@ -57,7 +61,9 @@ Marked MarkedTexts::NextPlain(int units, int runs) {
         const std::string words =
             Words(std::max(units / runs - static_cast<int>(command.size()), 4));
         text.caption += FromUtf8(command + words);
-        text.markup += bold ? "<b>" + words + "</b>" : words;
+        const std::string tagged = bold ? "<b>" + words + "</b>" : words;
+        text.markup += tagged;
+        text.html += tagged;
     }
     return text;
 }
@@ -90,13 +96,14 @@ std::string MarkedTexts::Change(Style& style) {
     }
 }
 
-std::string MarkedTexts::Tagged(std::string words, const Style& style) {
+std::string MarkedTexts::Slanted(std::string words, const Style& style) {
     if (style.bold) {
         words = "<b>" + words + "</b>";
     }
-    if (style.italic) {
-        words = "<i>" + words + "</i>";
-    }
+    return style.italic ? "<i>" + words + "</i>" : words;
+}
+
+std::string MarkedTexts::Markup(const std::string& words, const Style& style) {
     std::string span;
     if (style.color != 0) {
         span += std::string(" foreground=\"") + Of(colors, style.color).markup + "\"";
@@ -104,7 +111,20 @@ std::string MarkedTexts::Tagged(std::string words, const Style& style) {
     if (style.size != 0) {
         span += std::string(" size=\"") + Of(sizes, style.size).markup + "\"";
     }
-    return span.empty() ? words : "<span" + span + ">" + words + "</span>";
+    const std::string slanted = Slanted(words, style);
+    return span.empty() ? slanted : "<span" + span + ">" + slanted + "</span>";
+}
+
+std::string MarkedTexts::Html(const std::string& words, const Style& style) {
+    std::string looks;
+    if (style.color != 0) {
+        looks += std::string("color:") + Of(colors, style.color).html + ";";
+    }
+    if (style.size != 0) {
+        looks += std::string("font-size:") + Of(sizes, style.size).html + ";";
+    }
+    const std::string slanted = Slanted(words, style);
+    return looks.empty() ? slanted : "<span style=\"" + looks + "\">" + slanted + "</span>";
 }
 
 namespace {

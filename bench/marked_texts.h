@@ -1,4 +1,4 @@
-// The same texts as captions and in Pango's markup.
+// The same texts as captions, in Pango's markup and in HTML.
 #pragma once
 
 #include <cstddef>
@@ -13,10 +13,11 @@ namespace lumenkit::bench {
 /// More than the processor's predictors learn by heart.
 inline constexpr int captionCount = 64;
 
-/// One text in both languages.
+/// One text in all languages.
 struct Marked {
     Text caption;
     std::string markup;
+    std::string html;
 };
 
 /// Texts whose runs each differ from the run before in one thing: bold, italics, colour or size. A
@@ -35,7 +36,9 @@ class MarkedTexts {
     struct Style;
 
     std::string Change(Style& style);
-    static std::string Tagged(std::string words, const Style& style);
+    static std::string Slanted(std::string words, const Style& style);
+    static std::string Markup(const std::string& words, const Style& style);
+    static std::string Html(const std::string& words, const Style& style);
     int Below(std::size_t bound) { return static_cast<int>(random_() % bound); }
 
     std::mt19937 random_;  // the same texts each time

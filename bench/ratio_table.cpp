@@ -37,10 +37,15 @@ int RoundsOfABatch(const Side& side) {
     return rounds;
 }
 
+// The value that a quarter, half or three quarters of the values lie below.
+double Quartile(std::vector<double> values, std::size_t quarters) {
+    const auto at = values.begin() + static_cast<std::ptrdiff_t>(values.size() * quarters / 4);
+    std::nth_element(values.begin(), at, values.end());
+    return *at;
+}
+
 double Median(std::vector<double> values) {
-    const auto middle = values.begin() + static_cast<std::ptrdiff_t>(values.size() / 2);
-    std::nth_element(values.begin(), middle, values.end());
-    return *middle;
+    return Quartile(std::move(values), 2);
 }
 
 // Each iteration is one pair.
@@ -73,6 +78,8 @@ void Measure(benchmark::State& state, const Comparison& comparison) {
     state.counters["ours"] = Median(ours);
     state.counters["other"] = Median(others);
     state.counters["ratio"] = Median(ratios);
+    state.counters["low"] = Quartile(ratios, 1);
+    state.counters["high"] = Quartile(ratios, 3);
 }
 
 std::vector<Comparison>& Comparisons() {
@@ -83,8 +90,8 @@ std::vector<Comparison>& Comparisons() {
 class RatioTable final : public benchmark::BenchmarkReporter {
  public:
     bool ReportContext(const Context&) override {
-        PrintRow("what", "ours", "peer or bound", "ratio", "aim");
-        PrintRow("----", "----", "-------------", "-----", "---");
+        PrintRow("what", "ours", "peer or bound", "ratio", "spread", "aim");
+        PrintRow("---", "--:", "--:", "--:", "--:", "---");
         return true;
     }
 
@@ -92,9 +99,12 @@ class RatioTable final : public benchmark::BenchmarkReporter {
         for (const Run& run : runs) {
             const auto comparison =
                 std::ranges::find(Comparisons(), run.run_name.function_name, &Comparison::what);
-            PrintRow(comparison->what, Time(run.counters.at("ours"), comparison->unit),
-                     Time(run.counters.at("other"), comparison->unit),
-                     Rounded(run.counters.at("ratio"), "x"), comparison->aim);
+            PrintRow(
+                comparison->what, Time(run.counters.at("ours"), comparison->unit),
+                Time(run.counters.at("other"), comparison->unit),
+                Rounded(run.counters.at("ratio"), "x"),
+                Rounded(run.counters.at("low"), "") + " to " + Rounded(run.counters.at("high"), ""),
+                comparison->aim);
         }
     }
 
@@ -106,13 +116,17 @@ class RatioTable final : public benchmark::BenchmarkReporter {
     }
 
     static std::string Time(double seconds, const std::string& unit) {
-        return Rounded(seconds * 1e9, (" ns/" + unit).c_str());
+        const double nanoseconds = seconds * 1e9;
+        constexpr double large = 10'000;
+        return nanoseconds < large ? Rounded(nanoseconds, (" ns/" + unit).c_str())
+                                   : Rounded(nanoseconds / 1000, (" us/" + unit).c_str());
     }
 
     static void PrintRow(const std::string& what, const std::string& ours, const std::string& other,
-                         const std::string& ratio, const std::string& aim) {
-        std::printf("%-52s | %18s | %18s | %8s | %s\n", what.c_str(), ours.c_str(), other.c_str(),
-                    ratio.c_str(), aim.c_str());
+                         const std::string& ratio, const std::string& spread,
+                         const std::string& aim) {
+        std::printf("| %-64s | %18s | %18s | %8s | %15s | %-9s |\n", what.c_str(), ours.c_str(),
+                    other.c_str(), ratio.c_str(), spread.c_str(), aim.c_str());
         std::fflush(stdout);
     }
 };
@@ -135,6 +149,7 @@ int RunComparisons(int argc, char** argv) {
     }
     RatioTable table;
     benchmark::RunSpecifiedBenchmarks(&table);
+    Comparisons().clear();  // what they hold may need what main holds
     return 0;
 }
 

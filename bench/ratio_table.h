@@ -1,7 +1,8 @@
 // Benchmarks that measure a ratio: our work against a peer's, or against a bound of our own.
 //
 // Both sides run in turn, in pairs, so that what disturbs the machine disturbs both; the median of
-// the pairs counts. All ratios of a program end in one table.
+// the pairs counts, and the spread says between what half of them lie. All ratios of a program end
+// in one table, in Markdown.
 #pragma once
 
 #include <functional>
@@ -21,7 +22,7 @@ enum class Ratio {
     TimesSlower,  ///< ours / other
 };
 
-/// One row of the table: "what | ours | other | ratio | aim", times in nanoseconds for a unit.
+/// One row of the table: what, ours, other, ratio, spread and aim; times for a unit.
 struct Comparison {
     std::string what;
     std::string unit;

@@ -6,4 +6,4 @@ cd "$(dirname "$0")/.."
 scripts/build.sh native
 for bench in build/native/bench/*_bench; do
     "$bench" "$@"
-done
+done | awk '!/^\| (what|---)/ || !seen[$0]++'  # one heading for all

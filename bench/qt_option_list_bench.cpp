@@ -1,0 +1,114 @@
+// The option list on Qt: making one, until it is on the screen and gone again, against as many
+// radio buttons without a control around them; and assigning contents again.
+#include <QApplication>
+#include <QGroupBox>
+#include <QRadioButton>
+#include <array>
+#include <functional>
+#include <memory>
+#include <utility>
+
+#include "bench/qt_stage.h"
+#include "bench/ratio_table.h"
+#include "frame/numbers.h"
+#include "runtime/memory/property_bag.h"
+
+namespace {
+
+using lumenkit::Text;
+using lumenkit::bench::AddComparison;
+using lumenkit::bench::QtStage;
+using lumenkit::bench::Ratio;
+using lumenkit::bench::Side;
+using lumenkit::bench::StageWindow;
+namespace host = lumenkit::host;
+
+constexpr int few = 100;
+constexpr int many = 1'000;
+constexpr host::Placement place = {.left = 0, .top = 0, .width = 6000, .height = 9000};
+
+Text Caption(int item) {
+    return u"Choice " + lumenkit::Decimal(item);
+}
+
+Text Contents(int items) {
+    Text contents;
+    for (int item = 0; item < items; ++item) {
+        contents += u"|k" + lumenkit::Decimal(item) + u";" + Caption(item);
+    }
+    return contents.substr(1);
+}
+
+// Short lists are repeated until as many items as in a long one have been made.
+Side Repeated(int items, std::function<void()> once) {
+    return {[once = std::move(once), items] {
+                for (int done = 0; done < many; done += items) {
+                    once();
+                }
+            },
+            many};
+}
+
+// As a form loads it.
+Side Making(QtStage& stage, int items) {
+    auto saved = std::make_shared<lumenkit::memory::PropertyBag>();
+    saved->Store(u"Contents", Contents(items));
+    return Repeated(items, [&stage, saved, window = std::make_shared<StageWindow>()] {
+        const auto list = stage.Place(u"VOptList", place, *window, saved.get());
+        QApplication::processEvents();
+    });
+}
+
+// A box full of buttons in the same places, by nothing but Qt.
+void MakeBare(QWidget& window, int items) {
+    constexpr int width = 396;
+    constexpr int height = 16;
+    QGroupBox box(&window);
+    box.setGeometry(0, 0, 400, 600);
+    for (int item = 0; item < items; ++item) {
+        auto* button = new QRadioButton(QString::fromStdU16String(Caption(item)), &box);
+        button->setGeometry(0, item * height, width, height);
+    }
+    box.show();
+    QApplication::processEvents();
+}
+
+Side MakingBare(int items) {
+    return Repeated(
+        items, [items, window = std::make_shared<StageWindow>()] { MakeBare(*window, items); });
+}
+
+// The text of one item, in the middle, is another one each time.
+Side ChangingOne(QtStage& stage, int items) {
+    struct List {
+        StageWindow window;
+        std::unique_ptr<lumenkit::qt::ControlWidget> control;
+        std::array<Text, 2> contents;
+        std::size_t next = 0;
+    };
+    auto list = std::make_shared<List>();
+    list->control = stage.Place(u"VOptList", place, list->window);
+    list->contents.fill(Contents(items));
+    Text& changed = list->contents[1];
+    changed[changed.find(u"Choice", changed.size() / 2)] = u'_';
+    return Repeated(items, [list] {
+        list->control->Automation().Let(u"Contents", list->contents[list->next]);
+        list->next = 1 - list->next;
+        QApplication::processEvents();
+    });
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    QtStage stage;
+    AddComparison({"Qt: make a list of 1,000, against bare radio buttons", "item",
+                   Making(stage, many), MakingBare(many), Ratio::TimesSlower, "<= 1.05x"});
+    AddComparison({"Qt: make a list of 1,000, against lists of 100", "item", Making(stage, many),
+                   Making(stage, few), Ratio::TimesSlower, "<= 1.10x"});
+    AddComparison({"Qt: bare radio buttons, 1,000 against 100", "item", MakingBare(many),
+                   MakingBare(few), Ratio::TimesSlower, ""});
+    AddComparison({"Qt: 1 of 1,000 items changed, against making all anew", "item",
+                   ChangingOne(stage, many), Making(stage, many), Ratio::TimesFaster, ">= 50x"});
+    return lumenkit::bench::RunComparisons(argc, argv);
+}
