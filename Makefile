@@ -1,6 +1,6 @@
 # Every target installs what it needs and works on a fresh Debian 12 machine.
 .DEFAULT_GOAL := help
-.PHONY: run test bench ocx run-ocx fuzz lint format golden published screenshots clean help
+.PHONY: run test bench ocx run-ocx fuzz lint format golden published screenshots package clean help
 
 run: ## do the main job: compile the sample captions and show what comes out
 	@scripts/run.sh
@@ -16,6 +16,9 @@ ocx: ## cross-compile the component server for Windows, x64 and x86
 
 run-ocx: ## show the controls of lumenkit.ocx in a window, under Wine
 	@scripts/run-ocx.sh
+
+package: ## packages of the tools for Debian and of the server for Windows, in build/package
+	@scripts/package.sh
 
 fuzz: ## fuzz each target for FUZZ_SECONDS (default 600)
 	@scripts/fuzz.sh

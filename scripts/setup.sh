@@ -12,6 +12,7 @@ declare -A groups=(
     [windows]="g++-mingw-w64-x86-64-posix g++-mingw-w64-i686-posix mingw-w64-tools libwine-dev googletest"
     [wine]="wine wine64 fonts-wine fonts-liberation2"
     [qt]="qt6-base-dev qt6-qpa-plugins fonts-liberation2 fonts-dejavu-core"
+    [package]="dpkg-dev desktop-file-utils shared-mime-info libxml2-utils unzip"
     [screen]="xvfb xauth xdotool imagemagick"
 )
 

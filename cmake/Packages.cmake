@@ -1,0 +1,51 @@
+# The packages that cpack makes: for Debian one a component, for Windows an archive of both builds
+# (scripts/package.sh joins them).
+set(CPACK_PACKAGE_NAME lumenkit)
+set(CPACK_PACKAGE_VENDOR "the lumenkit authors")
+set(CPACK_PACKAGE_CONTACT "the lumenkit authors")
+set(CPACK_PACKAGE_CHECKSUM SHA256)
+set(CPACK_VERBATIM_VARIABLES ON)
+
+if(WIN32)
+    set(CPACK_GENERATOR ZIP)
+    set(CPACK_PACKAGE_FILE_NAME "lumenkit-${PROJECT_VERSION}-windows")
+    set(CPACK_ARCHIVE_COMPONENT_INSTALL OFF)
+    include(CPack)
+    return()
+endif()
+
+set(CPACK_GENERATOR DEB)
+set(CPACK_PACKAGING_INSTALL_PREFIX /usr)
+set(CPACK_STRIP_FILES ON)
+set(CPACK_DEB_COMPONENT_INSTALL ON)
+set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
+set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
+
+# debian_package(COMPONENT PACKAGE section "summary" "description")
+macro(debian_package component package section summary description)
+    string(TOUPPER "${component}" upper)
+    list(APPEND CPACK_COMPONENTS_ALL ${component})
+    set(CPACK_DEBIAN_${upper}_PACKAGE_NAME ${package})
+    set(CPACK_DEBIAN_${upper}_PACKAGE_SECTION ${section})
+    set(CPACK_COMPONENT_${upper}_DESCRIPTION "${summary}\n${description}")
+    install(FILES LICENSE RENAME copyright COMPONENT ${component}
+        DESTINATION "${CMAKE_INSTALL_DATAROOTDIR}/doc/${package}")
+endmacro()
+
+set(CPACK_COMPONENTS_ALL)
+if(TARGET lumenkit)
+    debian_package(lumenkit lumenkit utils
+        "command line for captions and forms of lumenkit's controls"
+        "Compiles and checks captions, checks whole forms, and drives the controls without a screen.")
+endif()
+if(TARGET lumenform)
+    debian_package(lumenform lumenform devel
+        "runs and draws form files with lumenkit's controls"
+        "Shows form files (.frm and kin) with their controls at work, and draws them into pictures.")
+    # Forms name fonts that these stand in for.
+    set(CPACK_DEBIAN_LUMENFORM_PACKAGE_RECOMMENDS fonts-liberation2)
+endif()
+debian_package(development liblumenkit-dev libdevel
+    "lumenkit's controls without a screen, for programs in C++"
+    "The library of the controls, the windowless runtime and form files, with its headers.")
+include(CPack)

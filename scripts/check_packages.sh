@@ -1,0 +1,82 @@
+#!/usr/bin/env bash
+# Tries packages as they are, unpacked in a folder of their own:
+#   scripts/check_packages.sh debian FILE.deb...
+#   scripts/check_packages.sh windows FILE.zip
+set -euo pipefail
+cd "$(dirname "$0")/.."
+
+work=$(mktemp -d)
+trap 'rm -rf "$work"' EXIT
+
+fail() {
+    echo "check_packages: $*" >&2
+    exit 1
+}
+
+# The manual page of a program names each of its commands.
+check_manual() {
+    local program=$1 page=$2 command commands
+    commands=$("$program" --help | sed -n '/^Subcommands:/,/^$/s/^  \([a-z-]*\) .*/\1/p')
+    [ -n "$commands" ] || fail "$program tells no commands"
+    for command in $commands; do
+        gzip -dcf "$page" | grep -qE "^\.B $command$" || fail "$page does not tell of $command"
+    done
+}
+
+check_debian() {
+    local root=$work/root deb
+    for deb in "$@"; do
+        dpkg-deb -x "$deb" "$root"
+        [ "$(dpkg-deb -c "$deb" | awk '{ print $2 }' | sort -u)" = root/root ] ||
+            fail "$deb holds files that are not root's"
+    done
+    local bin=$root/usr/bin share=$root/usr/share
+    echo '|B:1|Note:' | "$bin/lumenkit" compile | grep -qF 'b = "1"' || fail "lumenkit does not compile"
+    "$bin/lumenform" render samples/forms/all_three.frm -o "$work/form.png"
+    [ -s "$work/form.png" ] || fail "lumenform draws nothing"
+    check_manual "$bin/lumenkit" "$share/man/man1/lumenkit.1"
+    check_manual "$bin/lumenform" "$share/man/man1/lumenform.1"
+    [ -z "$(dpkg-deb -f "$(printf '%s\n' "$@" | grep /lumenkit_)" Depends | grep -i qt)" ] ||
+        fail "the command line depends on Qt"
+    desktop-file-validate "$share/applications/lumenform.desktop"
+    # A form is known by its extension, and by its content where that says nothing.
+    update-mime-database "$share/mime" 2>"$work/mime.log" || fail "$(cat "$work/mime.log")"
+    grep -qF 'application/x-lumenkit-form:*.frm' "$share/mime/globs" || fail ".frm has no type"
+    xmllint --noout "$share/icons/hicolor/scalable/apps/lumenform.svg"
+    echo "Debian packages: unpacked and run"
+}
+
+check_windows() {
+    unzip -q "$1" -d "$work"
+    local files=$work/${1##*/} bits
+    files=${files%.zip}
+    for bits in x64 x86; do
+        for file in lumenkit.ocx lumenkit.manifest lumenkit.tlb lumenkit_runtime.tlb atl_host.exe atl_host_free.exe; do
+            [ -s "$files/$bits/$file" ] || fail "$bits/$file is not there"
+        done
+        cmp "$files/$bits/lumenkit.ocx" "build/mingw-$bits/lumenkit.ocx"
+    done
+    [ -s "$files/README.md" ] && [ -s "$files/LICENSE" ] || fail "there is no README or LICENSE"
+    # The program finds the controls beside it: nothing is registered in this prefix.
+    scripts/wine.sh --screen scripts/shoot.sh "$work/free.png" wine "$files/x64/atl_host_free.exe"
+    [ -s "$work/free.png" ] || fail "atl_host_free.exe shows nothing"
+    # Registered, it serves scripts.
+    scripts/wine.sh regsvr32 /s "$files/x64/lumenkit.ocx"
+    scripts/wine.sh cscript //nologo "$files/samples/scripts/memo.vbs" >"$work/memo.txt" ||
+        fail "memo.vbs fails"
+    scripts/wine.sh regsvr32 /s /u "$files/x64/lumenkit.ocx"
+    [ -s "$work/memo.txt" ] || fail "memo.vbs says nothing"
+    scripts/wine.sh --end
+    echo "Windows archive: unpacked and run under Wine"
+}
+
+kind=${1:-}
+[ $# -eq 0 ] || shift
+case $kind in
+    debian) check_debian "$@" ;;
+    windows) check_windows "$@" ;;
+    *)
+        sed -n '2,4s/^# \{0,1\}//p' "$0"
+        exit 2
+        ;;
+esac
