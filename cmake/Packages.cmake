@@ -3,6 +3,8 @@
 set(CPACK_PACKAGE_NAME lumenkit)
 set(CPACK_PACKAGE_VENDOR "the lumenkit authors")
 set(CPACK_PACKAGE_CONTACT "the lumenkit authors")
+# Each package has a summary of its own.
+set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "")
 set(CPACK_PACKAGE_CHECKSUM SHA256)
 set(CPACK_VERBATIM_VARIABLES ON)
 
