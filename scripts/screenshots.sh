@@ -5,5 +5,9 @@ cd "$(dirname "$0")/.."
 
 scripts/setup.sh screen
 scripts/build.sh native lumenform
-python3 scripts/draw_captions.py build/native/apps/lumenform/lumenform docs/caption-language.md
+lumenform=build/native/apps/lumenform/lumenform
+python3 scripts/draw_captions.py "$lumenform" docs/caption-language.md
+for form in docs/images/*.frm; do
+    "$lumenform" render "$form" -o "${form%.frm}.png" --scale 2
+done
 git --no-pager diff --stat -- docs
