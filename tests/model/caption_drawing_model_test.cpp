@@ -1,16 +1,12 @@
 // The label against the literal model of its drawing, on generated captions and settings.
-#include <limits>
-#include <string>
 #include <string_view>
-#include <variant>
 #include <vector>
 
 #include <gmock/gmock.h>
 
-#include "frame/utf8.h"
+#include "tests/model/drawing_comparison.h"
 #include "tests/model/label_scene_generator.h"
-#include "tests/model/literal_caption_drawing.h"
-#include "tests/support/placed_label.h"
+#include "tests/support/corpus.h"
 #include "tests/support/test_seed.h"
 
 namespace lumenkit::testing {
@@ -68,68 +64,28 @@ constexpr std::string_view everyBranch[] = {
     "wrap: too wide, printed whole",
 };
 
-std::string Describe(const LabelScene& scene) {
-    return "caption \"" + ToUtf8(scene.caption) + "\", prefix \"" + ToUtf8(scene.bulletPrefix) +
-           "\", indent " + std::to_string(scene.bulletIndent) + ", wrap " +
-           std::to_string(scene.wordWrap) + ", width " + ToLine(scene.width) + ", height " +
-           ToLine(scene.height) + ", font " + ToLine(scene.font) + ", visible to " +
-           ToLine(scene.visibleBottom);
-}
-
-// The picture without what begins where nothing can be seen.
-LabelPicture Visible(LabelPicture picture, float visibleBottom) {
-    std::erase_if(picture.items, [&](const PictureItem& item) {
-        const auto* print = std::get_if<PrintedText>(&item);
-        return print != nullptr && print->y >= visibleBottom;
-    });
-    return picture;
-}
-
-class CaptionDrawingModel : public ::testing::Test {
- protected:
-    CaptionDrawingModel() { label_.Placed().StartNew(); }
-
-    void Compare(LabelScene scene) {
-        SCOPED_TRACE(Describe(scene));
-        const float visibleBottom = scene.visibleBottom;
-        model_.SetUp(scene);
-        model_.DisplayCaption();
-        const LabelPicture expected = model_.Picture();
-        ExpectSame(Draw(label_, scene), Visible(expected, visibleBottom));
-
-        scene.visibleBottom = std::numeric_limits<float>::infinity();
-        ExpectSame(Draw(label_, scene), expected);
-
-        model_.SetIdealSize();
-        label_->SetIdealSize();
-        EXPECT_EQ(label_.Surface().CurrentWidth(), model_.Width());
-        EXPECT_EQ(label_.Surface().CurrentHeight(), model_.Height());
-        EXPECT_EQ(label_.TakeLog(), model_.Picture().reports);
+TEST(CaptionDrawingModel, AgreesOnGeneratedScenes) {
+    LabelSceneGenerator generator(TestSeed());
+    DrawingComparison comparison;
+    for (int i = 0; i < sceneCount; ++i) {
+        ASSERT_EQ(comparison.Difference(generator.Scene()), "");
     }
-
-    static void ExpectSame(const LabelPicture& drawn, const LabelPicture& expected) {
-        if (drawn != expected) {
-            ADD_FAILURE() << "drawn:\n" << ToLines(drawn) << "model:\n" << ToLines(expected);
-        }
-    }
-
-    LabelSceneGenerator generator_{TestSeed()};
-    PlacedLabel label_;
-    LiteralLabel model_;
-};
-
-TEST_F(CaptionDrawingModel, AgreesOnGeneratedScenes) {
-    for (int i = 0; i < sceneCount && !HasFailure(); ++i) {
-        Compare(generator_.Scene());
-    }
-    for (int i = 0; i < longSceneCount && !HasFailure(); ++i) {
-        Compare(generator_.LongScene());
+    for (int i = 0; i < longSceneCount; ++i) {
+        ASSERT_EQ(comparison.Difference(generator.LongScene()), "");
     }
     std::vector<std::string_view> taken;
-    for (const auto& [branch, count] : model_.Branches()) {
+    for (const auto& [branch, count] : comparison.Branches()) {
         taken.push_back(branch);
     }
     EXPECT_THAT(taken, ::testing::ElementsAreArray(everyBranch));
+}
+
+// What the fuzzers start from and what they have found.
+TEST(CaptionDrawingModel, AgreesOnTheCorpus) {
+    DrawingComparison comparison;
+    ForEachCorpusFile("drawing", [&](std::string_view bytes) {
+        EXPECT_EQ(comparison.Difference(SceneFromBytes(bytes)), "");
+    });
 }
 
 }  // namespace

@@ -497,7 +497,7 @@ void LiteralOptionList::LetItemFontName(const Text& name) {
 
 void LiteralOptionList::LetItemFontSize(float size) {
     LetItem("pLetItemFontSize", "ItemFontSize", [&] {
-        if (size <= 0) {
+        if (size <= 0 || size > 2160) {
             throw LiteralError{invalidValue};
         }
         buttons_[0].font->size = size;

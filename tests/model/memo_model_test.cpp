@@ -5,6 +5,7 @@
 #include <memory>
 #include <random>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include <gmock/gmock.h>
@@ -12,10 +13,10 @@
 #include "frame/utf8.h"
 #include "runtime/memory/property_bag.h"
 #include "tests/model/literal_memo.h"
-#include "tests/model/literal_restrictions.h"
+#include "tests/model/restriction_comparison.h"
+#include "tests/support/corpus.h"
 #include "tests/support/placed_memo.h"
 #include "tests/support/test_seed.h"
-#include "vmemo/restriction_engine.h"
 
 namespace lumenkit::testing {
 
@@ -43,19 +44,6 @@ class Generator {
     std::mt19937 engine_;
 };
 
-std::string Quoted(const Text& text) {
-    std::string quoted = "'";
-    for (const char16_t unit : text) {
-        const std::string name = unit == u'\r'   ? "\\r"
-                                 : unit == u'\n' ? "\\n"
-                                 : unit == u'\b' ? "\\b"
-                                 : unit == u'\t' ? "\\t"
-                                                 : ToUtf8(TextView(&unit, 1));
-        quoted += name;
-    }
-    return quoted + "'";
-}
-
 void ExpectSeen(const std::map<std::string, int>& seen, std::vector<std::string> features) {
     for (const std::string& feature : features) {
         EXPECT_TRUE(seen.contains(feature) && seen.at(feature) > 0) << feature;
@@ -67,6 +55,7 @@ void ExpectSeen(const std::map<std::string, int>& seen, std::vector<std::string>
 TEST(MemoModelTest, TheEngineDoesWhatTheStepsSay) {
     constexpr int texts = 200000;
     Generator generator(TestSeed());
+    RestrictionComparison comparison;
     std::map<std::string, int> seen;
     for (int i = 0; i < texts; ++i) {
         const Text text = generator.SomeText(30);
@@ -75,19 +64,13 @@ TEST(MemoModelTest, TheEngineDoesWhatTheStepsSay) {
         const TextLimits limits{static_cast<std::int16_t>(maxChars),
                                 static_cast<std::int16_t>(maxLines)};
         const bool apply = generator.OneIn(2);
-        const LiteralRestriction expected = RestrictLiterally(text, maxChars, maxLines, apply);
-        const Restriction actual =
-            Restrict(text, limits, apply ? RestrictionMode::Apply : RestrictionMode::Plain);
-        SCOPED_TRACE(Quoted(text) + " " + std::to_string(maxChars) + " " +
-                     std::to_string(maxLines) + (apply ? " apply" : " plain"));
-        ASSERT_EQ(actual.refused, expected.refused);
-        ASSERT_EQ(actual.trimmed, expected.trimmed);
-        if (!apply || !expected.refused) {
-            ASSERT_EQ(actual.Of(text), expected.s);
-        }
-        seen["fits"] += actual.Fits();
-        seen["refused"] += actual.refused && apply;
-        seen["trimmed"] += actual.trimmed;
+        ASSERT_EQ(comparison.Difference(
+                      {text, limits, apply ? RestrictionMode::Apply : RestrictionMode::Plain}),
+                  "");
+        const LiteralRestriction& expected = comparison.Literal();
+        seen["fits"] += !expected.refused && !expected.trimmed;
+        seen["refused"] += expected.refused && apply;
+        seen["trimmed"] += expected.trimmed;
         seen["real cuts"] += expected.realCuts;
         seen["several cuts"] += expected.realCuts + expected.blankCuts > 2;
         seen["blank cuts"] += expected.blankCuts;
@@ -100,6 +83,14 @@ TEST(MemoModelTest, TheEngineDoesWhatTheStepsSay) {
     ExpectSeen(seen, {"fits", "refused", "trimmed", "real cuts", "several cuts", "blank cuts",
                       "searches from behind a cut", "line breaks overlooked",
                       "positions behind the end", "lines dropped", "pattern matches"});
+}
+
+// What the fuzzers start from and what they have found.
+TEST(MemoModelTest, TheEngineDoesSoOnTheCorpus) {
+    RestrictionComparison comparison;
+    ForEachCorpusFile("restriction", [&](std::string_view bytes) {
+        EXPECT_EQ(comparison.Difference(RestrictionFromBytes(bytes)), "");
+    });
 }
 
 // ---- The control

@@ -13,7 +13,7 @@ constexpr TextView captions[] = {u"One", u"Two", u"", u" ", u"a;b", u";", u"\U00
 constexpr char16_t looseUnits[] = {u'|', u'|', u';', u'a', u'B', u' ', u'\0'};
 constexpr float distances[] = {0, 100, 240, 300.5F, -50, 2949.5F, 2950, 3e38F, 0.1F};
 constexpr float widths[] = {3000, 3000, 1000, 51, 50, 0, 120.5F};
-constexpr float sizes[] = {8.25F, 12, 9.75F, 0, -1};
+constexpr float sizes[] = {8.25F, 12, 9.75F, 0, -1, 2160, 2161};
 constexpr TextView fonts[] = {u"MS Sans Serif", u"Arial", u"Courier"};
 constexpr std::int16_t indices[] = {-1, -1, -2, 0, 0, 1, 1, 2, 3, 4, 5, 60, 32767, -32768};
 

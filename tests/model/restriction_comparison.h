@@ -1,0 +1,36 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "tests/model/literal_restrictions.h"
+#include "vmemo/restriction_engine.h"
+
+namespace lumenkit::testing {
+
+struct RestrictionCase {
+    Text text;
+    TextLimits limits;  ///< not both 0
+    RestrictionMode mode = RestrictionMode::Plain;
+};
+
+/// Restricts texts with the engine and with its literal model.
+class RestrictionComparison {
+ public:
+    /// Where the two disagree; empty where they do not.
+    std::string Difference(const RestrictionCase& given);
+
+    /// The model's result for the last case.
+    const LiteralRestriction& Literal() const { return literal_; }
+
+ private:
+    LiteralRestriction literal_;
+};
+
+/// For messages: control characters are named.
+std::string Quoted(const Text& text);
+
+/// A fuzzer's input as a case: limits, mode and the text.
+RestrictionCase RestrictionFromBytes(std::string_view bytes);
+
+}  // namespace lumenkit::testing

@@ -1,0 +1,29 @@
+#pragma once
+
+#include <filesystem>
+#include <fstream>
+#include <functional>
+#include <iterator>
+#include <string>
+#include <string_view>
+
+#include <gtest/gtest.h>
+
+namespace lumenkit::testing {
+
+/// Hands the content of each file of fuzz/corpus/`name` to `check`. There must be some.
+inline void ForEachCorpusFile(const std::string& name,
+                              const std::function<void(std::string_view)>& check) {
+    constexpr int fewest = 5;
+    const std::string folder = std::string(LUMENKIT_SOURCE_DIR "/fuzz/corpus/") + name;
+    int count = 0;
+    for (const auto& entry : std::filesystem::directory_iterator(folder)) {
+        SCOPED_TRACE(entry.path());
+        std::ifstream file(entry.path(), std::ios::binary);
+        check(std::string{std::istreambuf_iterator<char>(file), {}});
+        ++count;
+    }
+    EXPECT_GE(count, fewest) << folder;
+}
+
+}  // namespace lumenkit::testing
