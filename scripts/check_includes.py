@@ -23,7 +23,8 @@ ALLOWED = {
     "runtime/memory": ["frame"],
     "runtime/win32": ["frame"],
     "runtime/qt": ["frame"],
-    "runtime/ole": ["frame", "runtime/win32"],
+    "runtime/stored": ["frame"],
+    "runtime/ole": ["frame", "runtime/stored", "runtime/win32"],
     # The one place that knows all classes.
     "project": ["frame", "vlabel", "vmemo", "voptlist", "vlabelcaption"],
     # Exports only: hands the class table to the runtime.

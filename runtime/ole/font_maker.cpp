@@ -6,9 +6,9 @@
 
 namespace lumenkit::ole {
 
-FontAttributes AttributesOf(const host::Font& font) {
+stored::FontAttributes AttributesOf(const host::Font& font) {
     return {.name = font.Name(),
-            .size = FontSize(font.Size()),
+            .size = FontSize(font.Size()).int64,
             .weight = font.Weight(),
             .charset = font.Charset(),
             .italic = font.Italic(),
@@ -16,12 +16,12 @@ FontAttributes AttributesOf(const host::Font& font) {
             .strikethrough = font.Strikethrough()};
 }
 
-std::shared_ptr<OleFont> NewOleFont(const FontAttributes& attributes) {
+std::shared_ptr<OleFont> NewOleFont(const stored::FontAttributes& attributes) {
     std::wstring name = win32::ToWide(attributes.name);
     FONTDESC description = {};
     description.cbSizeofstruct = sizeof description;
     description.lpstrName = name.data();
-    description.cySize = attributes.size;
+    description.cySize.int64 = attributes.size;
     description.sWeight = attributes.weight;
     description.sCharset = attributes.charset;
     description.fItalic = attributes.italic ? TRUE : FALSE;
@@ -32,12 +32,12 @@ std::shared_ptr<OleFont> NewOleFont(const FontAttributes& attributes) {
         Raise(ErrorNumber::InvalidPropertyValue);
     }
     auto made = OleFont::Of(font.Get());
-    made->Ask(attributes.size);
+    made->Ask(description.cySize);
     return made;
 }
 
 std::shared_ptr<win32::Font> FontMaker::NewFont(TextView name, float points) {
-    return NewOleFont({.name = Text(name), .size = FontSize(points)});
+    return NewOleFont({.name = Text(name), .size = FontSize(points).int64});
 }
 
 }  // namespace lumenkit::ole

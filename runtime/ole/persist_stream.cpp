@@ -5,7 +5,8 @@
 
 #include "runtime/ole/identifiers.h"
 #include "runtime/ole/result.h"
-#include "runtime/ole/stream_format.h"
+#include "runtime/ole/stored_properties.h"
+#include "runtime/stored/stream_format.h"
 
 namespace lumenkit::ole {
 
@@ -28,7 +29,7 @@ void Read(IStream& stream, std::size_t count, std::vector<std::uint8_t>& bytes) 
 std::vector<std::uint8_t> Saved(ControlCore& core) {
     StoredProperties properties;
     core.Save(properties);
-    return Encode(properties);
+    return stored::Encode(properties.Settings());
 }
 
 }  // namespace
@@ -44,9 +45,9 @@ void SaveTo(IStream& stream, ControlCore& core) {
 
 void LoadFrom(IStream& stream, ControlCore& core) {
     std::vector<std::uint8_t> bytes;
-    Read(stream, encodedHeaderSize, bytes);
-    Read(stream, EncodedRest(bytes), bytes);
-    StoredProperties properties = Decode(bytes);
+    Read(stream, stored::encodedHeaderSize, bytes);
+    Read(stream, stored::EncodedRest(bytes), bytes);
+    StoredProperties properties(stored::Decode(bytes));
     core.Load(properties);
 }
 

@@ -3,6 +3,7 @@
 #include <array>
 #include <new>
 
+#include "runtime/stored/stream_format.h"
 #include "runtime/win32/wide_text.h"
 
 namespace lumenkit::ole {
@@ -92,6 +93,8 @@ HRESULT CurrentResult(REFIID interfaceId) noexcept {
             return E_OUTOFMEMORY;
         }
         return ResultOf(error);
+    } catch (const stored::Corrupt&) {
+        return STG_E_DOCFILECORRUPT;
     } catch (const std::bad_alloc&) {
         return E_OUTOFMEMORY;
     } catch (...) {

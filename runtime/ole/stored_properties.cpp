@@ -3,12 +3,13 @@
 #include <algorithm>
 
 #include "frame/runtime_error.h"
+#include "runtime/ole/font_maker.h"
 
 namespace lumenkit::ole {
 
 namespace {
 
-using Stored = StoredProperties::Stored;
+using Stored = stored::Setting::Value;
 
 struct ToStored {
     Stored operator()(Empty /*value*/) const { return std::monostate(); }
@@ -26,34 +27,35 @@ struct ToStored {
 
 struct FromStored {
     Value operator()(std::monostate /*value*/) const { return Empty{}; }
-    Value operator()(const FontAttributes& font) const { return ObjectRef(NewOleFont(font)); }
+    Value operator()(const stored::FontAttributes& font) const {
+        return ObjectRef(NewOleFont(font));
+    }
     template <typename T>
     Value operator()(const T& value) const {
         return value;
     }
 };
 
-template <typename Entries>
-auto PositionIn(Entries& entries, TextView name) {
-    return std::ranges::find_if(entries, [&](const StoredProperties::Entry& entry) {
-        return SameText(entry.name, name, Compare::IgnoreCase);
+auto PositionIn(const stored::Settings& settings, TextView name) {
+    return std::ranges::find_if(settings, [&](const stored::Setting& setting) {
+        return SameText(setting.name, name, Compare::IgnoreCase);
     });
 }
 
 }  // namespace
 
 Value StoredProperties::ReadProperty(TextView name, const Value& defaultValue) {
-    const auto found = PositionIn(entries_, name);
-    return found == entries_.end() ? defaultValue : std::visit(FromStored(), found->value);
+    const auto found = PositionIn(settings_, name);
+    return found == settings_.end() ? defaultValue : std::visit(FromStored(), found->value);
 }
 
 void StoredProperties::WriteProperty(TextView name, const Value& value, const Value& defaultValue) {
-    const auto former = PositionIn(entries_, name);
-    if (former != entries_.end()) {
-        entries_.erase(former);
+    const auto former = PositionIn(settings_, name);
+    if (former != settings_.end()) {
+        settings_.erase(former);
     }
     if (!SameValue(value, defaultValue)) {
-        Add(Text(name), std::visit(ToStored(), value));
+        settings_.push_back({Text(name), std::visit(ToStored(), value)});
     }
 }
 

@@ -1,9 +1,9 @@
 #pragma once
 
-#include <vector>
+#include <utility>
 
 #include "frame/host/property_bag.h"
-#include "runtime/ole/font_maker.h"
+#include "runtime/stored/setting.h"
 
 namespace lumenkit::ole {
 
@@ -12,22 +12,17 @@ namespace lumenkit::ole {
 /// attributes; reading gives a new one each time.
 class StoredProperties final : public host::PropertyBag {
  public:
-    using Stored = std::variant<std::monostate, bool, std::int16_t, std::int32_t, float, double,
-                                Text, FontAttributes>;
-    struct Entry {
-        Text name;
-        Stored value;
-    };
+    StoredProperties() = default;
+    explicit StoredProperties(stored::Settings settings) : settings_(std::move(settings)) {}
 
     Value ReadProperty(TextView name, const Value& defaultValue) override;
     /// Raises 13 for an object that is no font, and for Null and Missing.
     void WriteProperty(TextView name, const Value& value, const Value& defaultValue) override;
 
-    const std::vector<Entry>& Entries() const { return entries_; }
-    void Add(Text name, Stored value) { entries_.push_back({std::move(name), std::move(value)}); }
+    const stored::Settings& Settings() const { return settings_; }
 
  private:
-    std::vector<Entry> entries_;
+    stored::Settings settings_;
 };
 
 }  // namespace lumenkit::ole

@@ -1,8 +1,9 @@
 #include <random>
 
 #include "runtime/ole/persist_stream.h"
-#include "runtime/ole/stream_format.h"
+#include "runtime/stored/stream_format.h"
 #include "tests/ole/container/bag.h"
+#include "tests/support/sealed_stream.h"
 #include "tests/unit/ole/ole_test.h"
 
 namespace lumenkit::ole {
@@ -205,31 +206,14 @@ TEST_F(PersistenceTest, ACorruptStreamIsRefused) {
 }
 
 TEST_F(PersistenceTest, RecordsThatLieAreRefusedThoughTheCheckSumIsRight) {
-    StoredProperties properties;
-    properties.Add(u"Caption", Text(u"x"));
-    Bytes bytes = Encode(properties);
-    const auto resealed = [](Bytes altered) {
-        // The check of zip over everything before it, written here once more on purpose.
-        std::uint32_t sum = 0xFFFFFFFF;
-        for (std::size_t index = 0; index + 4 < altered.size(); ++index) {
-            sum ^= altered[index];
-            for (int bit = 0; bit < 8; ++bit) {
-                sum = (sum & 1U) != 0 ? (sum >> 1U) ^ 0xEDB88320U : sum >> 1U;
-            }
-        }
-        sum = ~sum;
-        for (std::size_t index = 0; index < 4; ++index) {
-            altered[altered.size() - 4 + index] = static_cast<std::uint8_t>(sum >> (8 * index));
-        }
-        return altered;
-    };
-    EXPECT_EQ(resealed(bytes), bytes);
+    const Bytes bytes = stored::Encode({{u"Caption", Text(u"x")}});
+    EXPECT_EQ(testing::Sealed(bytes), bytes);
     for (std::size_t index = 0; index < bytes.size(); ++index) {
         for (const int value : {0, 1, 2, 8, 127, 128, 255}) {
             Bytes altered = bytes;
             altered[index] = static_cast<std::uint8_t>(value);
             const ComPtr<IDispatch> label = Create<IDispatch>(u"VLabel");
-            As<IPersistStreamInit>(label)->Load(StreamOf(resealed(altered)).Get());
+            As<IPersistStreamInit>(label)->Load(StreamOf(testing::Sealed(altered)).Get());
             Late(label).Get(L"Caption");  // a result and a usable control, whatever it is
         }
     }

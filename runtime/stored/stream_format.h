@@ -20,23 +20,29 @@
 // A name is a text too.
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
+#include <exception>
 #include <span>
 #include <vector>
 
-#include "runtime/ole/stored_properties.h"
+#include "runtime/stored/setting.h"
 
-namespace lumenkit::ole {
+namespace lumenkit::stored {
 
-std::vector<std::uint8_t> Encode(const StoredProperties& properties);
+/// Raised for bytes that are no settings.
+class Corrupt : public std::exception {};
+
+/// At most 65535 settings. Raises std::bad_alloc for a text beyond what a stream can count.
+std::vector<std::uint8_t> Encode(const Settings& settings);
 
 inline constexpr std::size_t encodedHeaderSize = 12;
 inline constexpr std::size_t encodedCheckSize = 4;
 
-/// How many bytes follow this header, the check included. Raises a ComError for what is none.
+/// How many bytes follow this header, the check included. Raises Corrupt for what is none.
 std::size_t EncodedRest(std::span<const std::uint8_t> header);
 
-/// Raises a ComError for anything but what Encode makes.
-StoredProperties Decode(std::span<const std::uint8_t> bytes);
+/// Raises Corrupt for anything but what Encode makes.
+Settings Decode(std::span<const std::uint8_t> bytes);
 
-}  // namespace lumenkit::ole
+}  // namespace lumenkit::stored

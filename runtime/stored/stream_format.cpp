@@ -1,14 +1,14 @@
-#include "runtime/ole/stream_format.h"
+#include "runtime/stored/stream_format.h"
 
 #include <algorithm>
 #include <array>
 #include <bit>
 #include <concepts>
 #include <limits>
+#include <new>
+#include <utility>
 
-#include "runtime/ole/result.h"
-
-namespace lumenkit::ole {
+namespace lumenkit::stored {
 
 namespace {
 
@@ -33,7 +33,7 @@ std::uint32_t CheckSum(std::span<const std::uint8_t> bytes) {
 }
 
 [[noreturn]] void Refuse() {
-    throw ComError(STG_E_DOCFILECORRUPT);
+    throw Corrupt();
 }
 
 class Writer {
@@ -46,7 +46,7 @@ class Writer {
     }
     void Characters(TextView text) {
         if (text.size() > std::numeric_limits<std::uint32_t>::max() / sizeof(char16_t)) {
-            throw ComError(E_OUTOFMEMORY);
+            throw std::bad_alloc();
         }
         Number(static_cast<std::uint32_t>(text.size()));
         for (const char16_t unit : text) {
@@ -122,7 +122,7 @@ struct ValueWriter {
     void operator()(const FontAttributes& font) const {
         Tag(Kind::Font);
         writer.Characters(font.name);
-        writer.Number(static_cast<std::uint64_t>(font.size.int64));
+        writer.Number(static_cast<std::uint64_t>(font.size));
         writer.Number(static_cast<std::uint16_t>(font.weight));
         writer.Number(static_cast<std::uint16_t>(font.charset));
         writer.Number(static_cast<std::uint8_t>((font.italic ? ItalicFlag : 0) |
@@ -137,7 +137,7 @@ struct ValueWriter {
 FontAttributes ReadFont(Reader& reader) {
     FontAttributes font;
     font.name = reader.Characters();
-    font.size.int64 = static_cast<LONGLONG>(reader.Number<std::uint64_t>());
+    font.size = static_cast<std::int64_t>(reader.Number<std::uint64_t>());
     font.weight = static_cast<std::int16_t>(reader.Number<std::uint16_t>());
     font.charset = static_cast<std::int16_t>(reader.Number<std::uint16_t>());
     const auto flags = reader.Number<std::uint8_t>();
@@ -147,7 +147,7 @@ FontAttributes ReadFont(Reader& reader) {
     return font;
 }
 
-StoredProperties::Stored ReadValue(Reader& reader) {
+Setting::Value ReadValue(Reader& reader) {
     switch (static_cast<Kind>(reader.Number<std::uint8_t>())) {
         case Kind::Empty:
             return std::monostate();
@@ -171,16 +171,16 @@ StoredProperties::Stored ReadValue(Reader& reader) {
 
 }  // namespace
 
-std::vector<std::uint8_t> Encode(const StoredProperties& properties) {
+std::vector<std::uint8_t> Encode(const Settings& settings) {
     Writer records;
-    for (const StoredProperties::Entry& entry : properties.Entries()) {
-        records.Characters(entry.name);
-        std::visit(ValueWriter{records}, entry.value);
+    for (const Setting& setting : settings) {
+        records.Characters(setting.name);
+        std::visit(ValueWriter{records}, setting.value);
     }
     Writer all;
     all.bytes.assign(magic.begin(), magic.end());
     all.Number(version);
-    all.Number(static_cast<std::uint16_t>(properties.Entries().size()));
+    all.Number(static_cast<std::uint16_t>(settings.size()));
     all.Number(static_cast<std::uint32_t>(records.bytes.size()));
     all.bytes.insert(all.bytes.end(), records.bytes.begin(), records.bytes.end());
     all.Number(CheckSum(all.bytes));
@@ -200,7 +200,7 @@ std::size_t EncodedRest(std::span<const std::uint8_t> header) {
     return static_cast<std::size_t>(reader.Number<std::uint32_t>()) + encodedCheckSize;
 }
 
-StoredProperties Decode(std::span<const std::uint8_t> bytes) {
+Settings Decode(std::span<const std::uint8_t> bytes) {
     if (bytes.size() < encodedHeaderSize + encodedCheckSize ||
         bytes.size() - encodedHeaderSize != EncodedRest(bytes.first(encodedHeaderSize))) {
         Refuse();
@@ -211,15 +211,15 @@ StoredProperties Decode(std::span<const std::uint8_t> bytes) {
     }
     auto count = Reader(checked.subspan(magic.size() + sizeof version)).Number<std::uint16_t>();
     Reader reader(checked.subspan(encodedHeaderSize));
-    StoredProperties properties;
+    Settings settings;
     for (; count > 0; --count) {
         Text name = reader.Characters();
-        properties.Add(std::move(name), ReadValue(reader));
+        settings.push_back({std::move(name), ReadValue(reader)});
     }
     if (!reader.AtEnd()) {
         Refuse();
     }
-    return properties;
+    return settings;
 }
 
-}  // namespace lumenkit::ole
+}  // namespace lumenkit::stored

@@ -1,0 +1,8 @@
+// Settings in streams: refused or read, whatever they say, and controls started from them.
+#include "fuzz/finding.h"
+#include "tests/unit/stored/stream_check.h"
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t size) {
+    using namespace lumenkit;
+    return fuzz::Verdict(testing::StreamFault(testing::StreamFromBytes(fuzz::Input(bytes, size))));
+}

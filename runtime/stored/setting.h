@@ -1,0 +1,38 @@
+// A control's settings as plain data, whatever they are kept in.
+#pragma once
+
+#include <cstdint>
+#include <variant>
+#include <vector>
+
+#include "frame/text.h"
+
+namespace lumenkit::stored {
+
+/// All attributes of a font.
+struct FontAttributes {
+    static constexpr std::int16_t regularWeight = 400;
+
+    Text name;
+    std::int64_t size = 0;  ///< in 1/10000 points
+    std::int16_t weight = regularWeight;
+    std::int16_t charset = 0;
+    bool italic = false;
+    bool underline = false;
+    bool strikethrough = false;
+
+    friend bool operator==(const FontAttributes&, const FontAttributes&) = default;
+};
+
+struct Setting {
+    /// The first stands for an object that is not there.
+    using Value = std::variant<std::monostate, bool, std::int16_t, std::int32_t, float, double,
+                               Text, FontAttributes>;
+
+    Text name;
+    Value value;
+};
+
+using Settings = std::vector<Setting>;
+
+}  // namespace lumenkit::stored
