@@ -1,17 +1,53 @@
 #!/usr/bin/env bash
-# Fuzzes each target for FUZZ_SECONDS seconds (default 600), starting from its kept corpus. New
-# inputs stay in build/fuzz/corpus; a finding stops the run and is left in build/fuzz.
+# Fuzzes each target, or those named, for FUZZ_SECONDS seconds (default 600), one after another and
+# starting from its kept corpus. New inputs stay in build/fuzz/corpus; a finding stops the run and
+# is left in build/fuzz. An input that takes more than 10 seconds is one too.
+#   scripts/fuzz.sh [--short] [target...]
+# --short: 30 seconds each, two at a time.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 
-scripts/build.sh fuzz
 seconds=${FUZZ_SECONDS:-600}
-for target in build/fuzz/fuzz/*_fuzz; do
-    name=$(basename "$target" _fuzz)
+at_a_time=1
+if [ "${1:-}" = --short ]; then
+    seconds=${FUZZ_SECONDS:-30}
+    at_a_time=2
+    shift
+fi
+targets=("$@")
+if [ $# -eq 0 ]; then
+    for source in fuzz/*_fuzz.cpp; do
+        targets+=("$(basename "$source" _fuzz.cpp)")
+    done
+fi
+
+scripts/build.sh fuzz "${targets[@]/%/_fuzz}"
+
+# fuzz NAME: the run's whole output is in build/fuzz/NAME.log.
+fuzz() {
+    local name=$1 log=build/fuzz/$1.log dictionary=()
     mkdir -p "build/fuzz/corpus/$name"
-    dictionary=()
     [ -f "fuzz/$name.dict" ] && dictionary=("-dict=fuzz/$name.dict")
-    echo "== $name, $seconds s"
-    "$target" "${dictionary[@]}" "-max_total_time=$seconds" -print_final_stats=1 \
-        "-artifact_prefix=build/fuzz/$name-" "build/fuzz/corpus/$name" "fuzz/corpus/$name"
+    if ! "build/fuzz/fuzz/${name}_fuzz" "${dictionary[@]}" "-max_total_time=$seconds" -timeout=10 \
+        -print_final_stats=1 "-artifact_prefix=build/fuzz/$name-" \
+        "build/fuzz/corpus/$name" "fuzz/corpus/$name" >"$log" 2>&1; then
+        grep -v '^#' "$log"
+        echo "== $name: FOUND SOMETHING"
+        return 1
+    fi
+    echo "== $name, $seconds s: $(sed -n 's/^stat::number_of_executed_units: *//p' "$log") inputs"
+}
+
+running=0
+for name in "${targets[@]}"; do
+    if [ "$running" -eq "$at_a_time" ]; then
+        wait -n
+        running=$((running - 1))
+    fi
+    fuzz "$name" &
+    running=$((running + 1))
+done
+while [ "$running" -gt 0 ]; do
+    wait -n
+    running=$((running - 1))
 done
