@@ -8,6 +8,7 @@ namespace lumenkit::testing {
 namespace {
 
 std::int64_t count = 0;
+std::int64_t live = 0;
 std::size_t bytes = 0;
 std::int64_t untilFailure = 0;
 
@@ -21,13 +22,23 @@ void* Allocate(std::size_t size) {
     if (memory == nullptr) {
         throw std::bad_alloc();
     }
+    ++live;
     return memory;
+}
+
+void Free(void* memory) {
+    live -= memory != nullptr ? 1 : 0;
+    std::free(memory);
 }
 
 }  // namespace
 
 std::int64_t AllocationCount() {
     return count;
+}
+
+std::int64_t LiveAllocations() {
+    return live;
 }
 
 std::size_t AllocatedBytes() {
@@ -52,14 +63,14 @@ void* operator new[](std::size_t size) {
     return lumenkit::testing::Allocate(size);
 }
 void operator delete(void* memory) noexcept {
-    std::free(memory);
+    lumenkit::testing::Free(memory);
 }
 void operator delete[](void* memory) noexcept {
-    std::free(memory);
+    lumenkit::testing::Free(memory);
 }
 void operator delete(void* memory, std::size_t /*size*/) noexcept {
-    std::free(memory);
+    lumenkit::testing::Free(memory);
 }
 void operator delete[](void* memory, std::size_t /*size*/) noexcept {
-    std::free(memory);
+    lumenkit::testing::Free(memory);
 }

@@ -9,6 +9,9 @@ namespace lumenkit::testing {
 /// Allocations so far.
 std::int64_t AllocationCount();
 
+/// Allocations that have not been given back yet.
+std::int64_t LiveAllocations();
+
 /// Bytes asked for so far; never less when they are given back.
 std::size_t AllocatedBytes();
 
