@@ -6,9 +6,9 @@
 #include <algorithm>
 #include <utility>
 
+#include "apps/lumenform/form_view/form_size.h"
 #include "apps/lumenform/form_view/menu_bar.h"
 #include "forms/font_description.h"
-#include "frame/runtime_error.h"
 #include "runtime/qt/mnemonic.h"
 #include "runtime/qt/pixels.h"
 #include "runtime/qt/qt_text.h"
@@ -34,6 +34,13 @@ void Stack(const std::vector<LiveControl*>& controls) {
             }
         }
     }
+}
+
+QSize PixelsOf(FormSize size) {
+    constexpr int largest = 16384;
+    const qt::TwipsPerPixel& twips = qt::TwipsPerPixel::OfScreens();
+    return {std::clamp(qt::ToPixels(size.width, twips.x), 1, largest),
+            std::clamp(qt::ToPixels(size.height, twips.y), 1, largest)};
 }
 
 // Who takes the keyboard in a control; null where nobody does.
@@ -71,7 +78,7 @@ FormView::FormView(const qt::Context& context, forms::Document& document, Mode m
         layout->setMenuBar(bar.release());
     }
     client_ = new ClientArea(backColor, controls_, this);
-    client_->setFixedSize(ClientSize(form));
+    client_->setFixedSize(PixelsOf(ClientSizeOf(form)));
     layout->addWidget(client_);
     const qt::TwipsPerPixel& twips = qt::TwipsPerPixel::OfScreens();
     const Scale scale = Scale::Of(form, static_cast<float>(client_->width() * twips.x),
@@ -85,28 +92,6 @@ FormView::~FormView() {
     while (!controls_.empty()) {
         controls_.pop_back();  // what lies in another one goes first
     }
-}
-
-QSize FormView::ClientSize(const BlockReader& form) {
-    constexpr float usualWidth = 4800;
-    constexpr float usualHeight = 3600;
-    constexpr int largest = 16384;
-    const Scale scale = Scale::Of(form, 0, 0);
-    const host::Placement inUnits = scale.ToTwips(
-        {.width = form.Number(u"ScaleWidth", 0), .height = form.Number(u"ScaleHeight", 0)});
-    const auto length = [&](TextView name, float scaled, float usual) {
-        const float twips = form.Number(name, scaled > 0 ? scaled : usual);
-        if (twips < 0) {
-            Refuse(form.Document(), form.Block().FindProperty(name)->ValuePlace(), name,
-                   RuntimeErrorText(static_cast<std::int32_t>(ErrorNumber::InvalidPropertyValue)));
-        }
-        return twips;
-    };
-    const qt::TwipsPerPixel& twips = qt::TwipsPerPixel::OfScreens();
-    const float width = length(u"ClientWidth", inUnits.width, usualWidth);
-    const float height = length(u"ClientHeight", inUnits.height, usualHeight);
-    return {std::clamp(qt::ToPixels(width, twips.x), 1, largest),
-            std::clamp(qt::ToPixels(height, twips.y), 1, largest)};
 }
 
 void FormView::AddControls(const forms::Block& block, const Surroundings& around) {

@@ -48,7 +48,6 @@ class FormView final : public QWidget {
     void changeEvent(QEvent* event) override;
 
  private:
-    static QSize ClientSize(const BlockReader& form);
     void AddControls(const forms::Block& block, const Surroundings& around);
     void MarkLabels();
 
