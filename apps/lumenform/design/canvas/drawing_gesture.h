@@ -1,0 +1,37 @@
+#pragma once
+
+#include <functional>
+
+#include "apps/lumenform/design/canvas/gesture.h"
+#include "frame/text.h"
+
+namespace lumenkit::form {
+
+/// Draws the place of a new control.
+class DrawingGesture final : public Gesture {
+ public:
+    using Done = std::function<void(LiveControl* container, const host::Placement& place)>;
+
+    /// `done` hears the place in the container, which is null for the form itself. A press without
+    /// a drag gives the place the size that the class usually has.
+    DrawingGesture(const Ground& ground, Text className, QPoint pressedAt, Done done);
+
+    void DragTo(QPoint at, bool snaps) override;
+    void Finish() override;
+    std::optional<host::Placement> Place() const override { return place_; }
+    QRect Band() const override;
+
+ private:
+    QPointF TwipsAt(QPoint at) const;
+
+    Ground ground_;
+    Text className_;
+    LiveControl* container_;
+    QPoint origin_;
+    QPoint pressedAt_;
+    Done done_;
+    host::Placement place_;
+    bool isDragged_ = false;
+};
+
+}  // namespace lumenkit::form

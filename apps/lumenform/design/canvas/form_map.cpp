@@ -1,0 +1,98 @@
+#include "apps/lumenform/design/canvas/form_map.h"
+
+#include <algorithm>
+#include <ranges>
+
+#include "apps/lumenform/design/model/arrange.h"
+
+namespace lumenkit::form {
+
+namespace {
+
+// The innermost widget at a point of `widget`. QWidget::childAt passes over what the mouse does
+// not reach.
+const QWidget& InnermostAt(const QWidget& widget, QPoint at) {
+    for (const QObject* child : widget.children() | std::views::reverse) {
+        if (!child->isWidgetType()) {
+            continue;
+        }
+        const auto& inner = *static_cast<const QWidget*>(child);
+        if (!inner.isHidden() && inner.geometry().contains(at)) {
+            return InnermostAt(inner, at - inner.pos());
+        }
+    }
+    return widget;
+}
+
+}  // namespace
+
+FormMap::FormMap(const Design& design, const QWidget& desk) : design_(design), desk_(desk) {}
+
+void FormMap::Update() {
+    controls_.clear();
+    for (const auto& control : design_.View().Controls()) {
+        controls_.emplace(&control->Widget(), control.get());
+    }
+}
+
+QRect FormMap::ClientRect() const {
+    const ClientArea& client = design_.View().Client();
+    return {client.mapTo(&desk_, QPoint()), client.size()};
+}
+
+QRect FormMap::RectOf(const LiveControl& control) const {
+    const QWidget& widget = control.Widget();
+    return {widget.mapTo(&desk_, QPoint()), widget.size()};
+}
+
+QPoint FormMap::OriginOf(const LiveControl* container) const {
+    return InsideOf(design_, container).widget.mapTo(&desk_, QPoint());
+}
+
+// The control that the widget is or is a part of.
+LiveControl* FormMap::Find(const QWidget* widget) const {
+    for (; widget != nullptr && widget != &design_.View(); widget = widget->parentWidget()) {
+        if (const auto found = controls_.find(widget); found != controls_.end()) {
+            return found->second;
+        }
+    }
+    return nullptr;
+}
+
+LiveControl* FormMap::ControlAt(QPoint at) const {
+    const QRect client = ClientRect();
+    return client.contains(at) ? Find(&InnermostAt(design_.View().Client(), at - client.topLeft()))
+                               : nullptr;
+}
+
+LiveControl* FormMap::ContainerAt(QPoint at) const {
+    LiveControl* control = ControlAt(at);
+    while (control != nullptr && !control->IsContainer()) {
+        control = ContainerOf(design_, *control);
+    }
+    return control;
+}
+
+std::vector<LiveControl*> FormMap::Touched(const LiveControl* container, const QRect& area) const {
+    const QWidget* const inside = &InsideOf(design_, container).widget;
+    std::vector<LiveControl*> touched;
+    for (const auto& control : design_.View().Controls()) {
+        if (control->Widget().parentWidget() == inside && RectOf(*control).intersects(area)) {
+            touched.push_back(control.get());
+        }
+    }
+    return touched;
+}
+
+std::vector<LiveControl*> FormMap::InTabOrder() const {
+    std::vector<LiveControl*> order;
+    for (const auto& control : design_.View().Controls()) {
+        order.push_back(control.get());
+    }
+    std::ranges::stable_sort(order, [](const LiveControl* left, const LiveControl* right) {
+        return left->TabIndex() && (!right->TabIndex() || *left->TabIndex() < *right->TabIndex());
+    });
+    return order;
+}
+
+}  // namespace lumenkit::form

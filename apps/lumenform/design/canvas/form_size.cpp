@@ -1,0 +1,66 @@
+#include "apps/lumenform/design/canvas/form_size.h"
+
+#include <algorithm>
+
+#include "apps/lumenform/design/canvas/titles.h"
+#include "apps/lumenform/form_view/block_reader.h"
+#include "apps/lumenform/form_view/scale.h"
+#include "forms/literal.h"
+#include "runtime/qt/pixels.h"
+
+namespace lumenkit::form {
+
+namespace {
+
+struct Names {
+    TextView client;
+    TextView outer;
+    TextView scaled;
+};
+
+// One dimension; `scaled` is its length in the form's units.
+void Store(const BlockReader& form, const Names& names, float former, float now, float scaled) {
+    if (former == now) {
+        return;
+    }
+    forms::Block& block = form.Block();
+    if (form.Has(names.outer)) {
+        block.Set(names.outer, forms::NumberLiteral(form.Number(names.outer, 0) + now - former));
+    }
+    if (form.Has(names.scaled)) {
+        block.Set(names.scaled, forms::NumberLiteral(scaled));
+    }
+    block.Set(names.client, forms::NumberLiteral(now));
+}
+
+void Store(const BlockReader& form, FormSize now) {
+    const FormSize former = ClientSizeOf(form);
+    const host::Placement scaled = Scale::Of(form, former.width, former.height)
+                                       .FromTwips({.width = now.width, .height = now.height});
+    Store(form, {u"ClientWidth", u"Width", u"ScaleWidth"}, former.width, now.width, scaled.width);
+    Store(form, {u"ClientHeight", u"Height", u"ScaleHeight"}, former.height, now.height,
+          scaled.height);
+}
+
+BlockReader ReaderOf(const Design& design) {
+    return {design.Document(), design.Document().Root()};
+}
+
+}  // namespace
+
+FormSize ClientSizeOf(const Design& design) {
+    return ClientSizeOf(ReaderOf(design));
+}
+
+void ResizeForm(Design& design, FormSize size) {
+    const qt::TwipsPerPixel& twips = qt::TwipsPerPixel::OfScreens();
+    size.width = std::max(size.width, static_cast<float>(twips.x));
+    size.height = std::max(size.height, static_cast<float>(twips.y));
+    const std::vector<Text> selected = design.SelectedNames();
+    design.Restructure(SizeFormTitle(), [&] {
+        Store(ReaderOf(design), size);
+        return selected;
+    });
+}
+
+}  // namespace lumenkit::form

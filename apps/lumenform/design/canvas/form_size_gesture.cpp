@@ -1,0 +1,46 @@
+#include "apps/lumenform/design/canvas/form_size_gesture.h"
+
+#include <QLayout>
+#include <algorithm>
+
+#include "apps/lumenform/design/canvas/titles.h"
+#include "runtime/qt/pixels.h"
+
+namespace lumenkit::form {
+
+FormSizeGesture::FormSizeGesture(const Ground& ground, Edges edges, QPoint pressedAt)
+    : ground_(ground), edges_(edges), pressedAt_(pressedAt) {
+    const FormSize size = ClientSizeOf(ground.design);
+    former_ = {.width = size.width, .height = size.height};
+    place_ = former_;
+}
+
+void FormSizeGesture::DragTo(QPoint at, bool snaps) {
+    const qt::TwipsPerPixel& twips = qt::TwipsPerPixel::OfScreens();
+    const QPoint dragged = at - pressedAt_;
+    place_ = Shifted(former_, edges_, static_cast<float>(dragged.x() * twips.x),
+                     static_cast<float>(dragged.y() * twips.y));
+    if (snaps && place_.width != former_.width) {
+        place_.width = ground_.grid.Nearest(place_.width);
+    }
+    if (snaps && place_.height != former_.height) {
+        place_.height = ground_.grid.Nearest(place_.height);
+    }
+    Show(place_);
+}
+
+void FormSizeGesture::Finish() {
+    ResizeForm(ground_.design, {place_.width, place_.height});
+}
+
+void FormSizeGesture::Cancel() {
+    Show(former_);
+}
+
+void FormSizeGesture::Show(const host::Placement& place) {
+    FormView& view = ground_.design.View();
+    view.Client().setFixedSize(qt::ToPixels(place).size().expandedTo(QSize(1, 1)));
+    view.layout()->activate();
+}
+
+}  // namespace lumenkit::form

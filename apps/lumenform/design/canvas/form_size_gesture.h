@@ -1,0 +1,29 @@
+#pragma once
+
+#include "apps/lumenform/design/canvas/edges.h"
+#include "apps/lumenform/design/canvas/form_size.h"
+#include "apps/lumenform/design/canvas/gesture.h"
+
+namespace lumenkit::form {
+
+/// Sizes the form by its right and bottom edges.
+class FormSizeGesture final : public Gesture {
+ public:
+    FormSizeGesture(const Ground& ground, Edges edges, QPoint pressedAt);
+
+    void DragTo(QPoint at, bool snaps) override;
+    void Finish() override;
+    void Cancel() override;
+    std::optional<host::Placement> Place() const override { return place_; }
+
+ private:
+    void Show(const host::Placement& place);
+
+    Ground ground_;
+    Edges edges_;
+    QPoint pressedAt_;
+    host::Placement former_;
+    host::Placement place_;
+};
+
+}  // namespace lumenkit::form

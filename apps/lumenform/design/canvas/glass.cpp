@@ -1,0 +1,418 @@
+#include "apps/lumenform/design/canvas/glass.h"
+
+#include <QContextMenuEvent>
+#include <QMouseEvent>
+#include <QPainter>
+#include <utility>
+
+#include "apps/lumenform/design/canvas/band_gesture.h"
+#include "apps/lumenform/design/canvas/drawing_gesture.h"
+#include "apps/lumenform/design/canvas/form_size_gesture.h"
+#include "apps/lumenform/design/canvas/handles.h"
+#include "apps/lumenform/design/canvas/nudge.h"
+#include "apps/lumenform/design/canvas/placing_gesture.h"
+#include "apps/lumenform/design/canvas/selection.h"
+#include "forms/form_error.h"
+#include "frame/runtime_error.h"
+#include "runtime/qt/pixels.h"
+#include "runtime/qt/qt_text.h"
+
+namespace lumenkit::form {
+
+namespace {
+
+constexpr int dragDistance = 4;  // pixels; what is less is a click
+
+bool Adds(Qt::KeyboardModifiers held) {
+    return (held & (Qt::ShiftModifier | Qt::ControlModifier)) != 0;
+}
+
+QRect Grown(const QRect& rect) {
+    return rect.adjusted(-1, -1, 1, 1);
+}
+
+}  // namespace
+
+Glass::Glass(Design& design, const Grid& grid, QWidget& desk)
+    : QWidget(&desk),
+      design_(design),
+      grid_(grid),
+      desk_(desk),
+      map_(design, desk),
+      badges_(design, map_, desk),
+      label_(new PlaceLabel(this)) {
+    setFocusPolicy(Qt::StrongFocus);
+    setMouseTracking(true);
+    setAccessibleName(tr("Form"));
+    connect(&design, &Design::SelectionChanged, this, &Glass::TellSelection);
+    // Whatever changed the form in the middle of a drag, undo for one, has the last word.
+    connect(&design, &Design::Edited, this, &Glass::DropGesture);
+    FollowView();
+}
+
+Glass::~Glass() = default;
+
+void Glass::FollowView() {
+    DropGesture();
+    map_.Update();
+    raise();
+    TellSelection();
+}
+
+template <typename Work>
+void Glass::Try(const Work& work) {
+    try {
+        work();
+    } catch (const RuntimeError& error) {
+        Q_EMIT Refused(qt::ToQString(error.Description()));
+    } catch (const forms::FormError& error) {
+        Q_EMIT Refused(QString::fromUtf8(error.what()));
+    }
+}
+
+void Glass::BeginDrawing(const Text& className) {
+    SetTabOrderMode(false);
+    drawnClass_ = className;
+    setCursor(Qt::CrossCursor);
+}
+
+void Glass::EndDrawing() {
+    if (IsDrawing()) {
+        drawnClass_.clear();
+        unsetCursor();
+        Q_EMIT DrawingEnded();
+    }
+}
+
+void Glass::SetTabOrderMode(bool on) {
+    if (on == isTabOrderMode_) {
+        return;
+    }
+    EndDrawing();
+    isTabOrderMode_ = on;
+    badges_.Start();
+    unsetCursor();
+    UpdateMarks();
+    Q_EMIT TabOrderModeChanged(on);
+}
+
+// ---- Mouse
+
+void Glass::mousePressEvent(QMouseEvent* event) {
+    if (event->button() != Qt::LeftButton || press_) {
+        return;
+    }
+    setFocus(Qt::MouseFocusReason);
+    const QPoint at = event->position().toPoint();
+    Try([&] { press_ = PressAt(at, event->modifiers()); });
+}
+
+Glass::Press Glass::PressAt(QPoint at, Qt::KeyboardModifiers held) {
+    LiveControl* const control = map_.ControlAt(at);
+    if (isTabOrderMode_) {
+        return {at, {}, [this, control] {
+                    if (control != nullptr) {
+                        badges_.Number(*control);
+                    }
+                }};
+    }
+    if (IsDrawing()) {
+        return {at, [this, at] { return StartDrawing(at); },
+                [this, at] {
+                    const GestureRef gesture = StartDrawing(at);
+                    gesture->Finish();
+                }};
+    }
+    if (const auto grip = GripAt(at)) {
+        return {at,
+                [this, at, grip] {
+                    return grip->control == nullptr
+                               ? std::make_unique<FormSizeGesture>(ground(), grip->edges, at)
+                               : StartPlacing(*grip->control, grip->edges, at);
+                },
+                {}};
+    }
+    if (control == nullptr || Adds(held)) {
+        const bool adds = Adds(held);
+        if (!adds) {
+            design_.Select({});
+        }
+        return {at,
+                [this, at, adds] {
+                    return std::make_unique<BandGesture>(ground(), map_.ContainerAt(at), at, adds);
+                },
+                [this, control] {
+                    if (control != nullptr) {
+                        Toggle(design_, *control);
+                    }
+                }};
+    }
+    return PressOnControl(*control, at);
+}
+
+Glass::Press Glass::PressOnControl(LiveControl& control, QPoint at) {
+    if (!design_.IsSelected(control)) {
+        design_.Select({&control});
+    }
+    return {at, [this, at, &control] { return StartPlacing(control, allEdges, at); },
+            [this, &control] { MakeLast(design_, control); }};
+}
+
+Glass::GestureRef Glass::StartPlacing(LiveControl& control, Edges edges, QPoint at) {
+    setCursor(CursorFor(edges));
+    return std::make_unique<PlacingGesture>(ground(), control, edges, at);
+}
+
+Glass::GestureRef Glass::StartDrawing(QPoint at) {
+    const auto done = [this](LiveControl* container, const host::Placement& place) {
+        const Text className = drawnClass_;
+        EndDrawing();
+        Q_EMIT Drawn(className, container, place);
+    };
+    auto gesture = std::make_unique<DrawingGesture>(ground(), drawnClass_, at, done);
+    gesture->DragTo(at, grid_.snaps);
+    return gesture;
+}
+
+std::optional<Glass::Grip> Glass::GripAt(QPoint at) const {
+    if (design_.Selected().empty()) {
+        const auto edges = EdgesAt(FormHandlesOf(map_.ClientRect()), at);
+        return edges ? std::optional(Grip{nullptr, *edges}) : std::nullopt;
+    }
+    for (LiveControl* control : design_.Selected()) {
+        if (const auto edges = EdgesAt(HandlesOf(map_.RectOf(*control)), at)) {
+            return Grip{control, *edges};
+        }
+    }
+    return std::nullopt;
+}
+
+void Glass::mouseMoveEvent(QMouseEvent* event) {
+    const QPoint at = event->position().toPoint();
+    TellPointer(at);
+    if (!press_) {
+        UpdateCursor(at);
+    } else if (press_->drag) {
+        Drag(at, event->modifiers());
+    }
+}
+
+void Glass::Drag(QPoint at, Qt::KeyboardModifiers held) {
+    if (gesture_ == nullptr && (at - press_->at).manhattanLength() < dragDistance) {
+        return;
+    }
+    Try([&] {
+        if (gesture_ == nullptr) {
+            gesture_ = press_->drag();
+        }
+        const QRect former = gesture_->Band();
+        gesture_->DragTo(at, grid_.snaps && !held.testFlag(Qt::AltModifier));
+        update(Grown(former) | Grown(gesture_->Band()));
+        if (const auto place = gesture_->Place()) {
+            label_->Tell(*place, at);
+        }
+    });
+    UpdateMarks();
+    Q_EMIT Wanted(QRect(at, QSize(1, 1)));
+}
+
+void Glass::mouseReleaseEvent(QMouseEvent* event) {
+    if (event->button() != Qt::LeftButton || !press_) {
+        return;
+    }
+    const Press press = std::move(*press_);
+    const GestureRef gesture = std::move(gesture_);
+    DropGesture();
+    Try([&] {
+        if (gesture != nullptr) {
+            gesture->Finish();
+        } else if (press.click) {
+            press.click();
+        }
+    });
+    UpdateCursor(event->position().toPoint());
+}
+
+// Forgets the drag; what it did so far stays.
+void Glass::DropGesture() {
+    if (gesture_ != nullptr) {
+        update(Grown(gesture_->Band()));
+    }
+    gesture_.reset();
+    press_.reset();
+    label_->hide();
+    UpdateMarks();
+}
+
+void Glass::mouseDoubleClickEvent(QMouseEvent* event) {
+    if (event->button() != Qt::LeftButton || isTabOrderMode_ || IsDrawing()) {
+        mousePressEvent(event);
+        return;
+    }
+    if (!Adds(event->modifiers())) {
+        Activate();
+    }
+}
+
+void Glass::Activate() {
+    if (design_.Selected().empty()) {
+        Q_EMIT FormActivated();
+    } else {
+        Q_EMIT Activated(*design_.Selected().back());
+    }
+}
+
+void Glass::contextMenuEvent(QContextMenuEvent* event) {
+    if (press_ || isTabOrderMode_ || IsDrawing()) {
+        return;
+    }
+    if (event->reason() != QContextMenuEvent::Mouse) {
+        const QRect rect = design_.Selected().empty() ? map_.ClientRect()
+                                                      : map_.RectOf(*design_.Selected().back());
+        Q_EMIT MenuRequested(mapToGlobal(rect.center()));
+        return;
+    }
+    LiveControl* const control = map_.ControlAt(event->pos());
+    if (control == nullptr) {
+        design_.Select({});
+    } else if (!design_.IsSelected(*control)) {
+        design_.Select({control});
+    }
+    Q_EMIT MenuRequested(event->globalPos());
+}
+
+void Glass::leaveEvent(QEvent* event) {
+    QWidget::leaveEvent(event);
+    Q_EMIT PointerLeft();
+}
+
+void Glass::UpdateCursor(QPoint at) {
+    if (IsDrawing()) {
+        return;
+    }
+    const auto grip = isTabOrderMode_ ? std::nullopt : GripAt(at);
+    if (grip) {
+        setCursor(CursorFor(grip->edges));
+    } else {
+        unsetCursor();
+    }
+}
+
+void Glass::TellPointer(QPoint at) {
+    const qt::TwipsPerPixel& twips = qt::TwipsPerPixel::OfScreens();
+    const QPoint onForm = at - map_.OriginOf(nullptr);
+    Q_EMIT PointerMoved({onForm.x() * twips.x, onForm.y() * twips.y});
+}
+
+// ---- Keyboard
+
+void Glass::keyPressEvent(QKeyEvent* event) {
+    if (event->key() == Qt::Key_Escape) {
+        Escape();
+    } else if (press_ || isTabOrderMode_) {
+        event->ignore();
+    } else if (event->matches(QKeySequence::SelectAll)) {
+        SelectAll(design_);
+    } else if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
+        Activate();
+    } else {
+        bool isNudge = false;
+        Try([&] { isNudge = Nudge(ground(), *event); });
+        if (isNudge) {
+            UpdateMarks();
+        } else {
+            QWidget::keyPressEvent(event);
+        }
+    }
+}
+
+void Glass::Escape() {
+    if (press_) {
+        const GestureRef gesture = std::move(gesture_);
+        DropGesture();
+        if (gesture != nullptr) {
+            Try([&] { gesture->Cancel(); });
+        }
+        UpdateMarks();
+    } else if (IsDrawing()) {
+        EndDrawing();
+    } else if (isTabOrderMode_) {
+        SetTabOrderMode(false);
+    } else {
+        SelectContainer(design_);
+    }
+}
+
+bool Glass::focusNextPrevChild(bool next) {
+    if (design_.View().Controls().empty()) {
+        return QWidget::focusNextPrevChild(next);
+    }
+    if (!press_ && !isTabOrderMode_) {
+        SelectNext(design_, map_, next);
+        Q_EMIT Wanted(map_.RectOf(*design_.Selected().back()));
+    }
+    return true;
+}
+
+// ---- What is seen
+
+void Glass::TellSelection() {
+    QStringList names;
+    for (const LiveControl* control : design_.Selected()) {
+        names.append(qt::ToQString(control->Name()));
+    }
+    setAccessibleDescription(names.isEmpty() ? tr("The form is selected")
+                                             : tr("Selected: %1").arg(names.join(u", ")));
+    UpdateMarks();
+}
+
+QRegion Glass::Marks() const {
+    if (isTabOrderMode_) {
+        return badges_.Region();
+    }
+    if (design_.Selected().empty()) {
+        return RegionOf(FormHandlesOf(map_.ClientRect()));
+    }
+    QRegion region;
+    for (const LiveControl* control : design_.Selected()) {
+        region += RegionOf(HandlesOf(map_.RectOf(*control)));
+    }
+    return region;
+}
+
+void Glass::UpdateMarks() {
+    const QRegion marks = Marks();
+    update(marks_ | marks);
+    marks_ = marks;
+}
+
+void Glass::paintEvent(QPaintEvent* /*event*/) {
+    QPainter painter(this);
+    PaintMarks(painter);
+    const QRect band = gesture_ == nullptr ? QRect() : gesture_->Band();
+    if (!band.isEmpty()) {
+        constexpr int strength = 40;
+        QColor color = palette().color(QPalette::Active, QPalette::Highlight);
+        painter.setPen(color);
+        color.setAlpha(strength);
+        painter.fillRect(band, color);
+        painter.drawRect(band.adjusted(0, 0, -1, -1));
+    }
+}
+
+void Glass::PaintMarks(QPainter& painter) const {
+    if (isTabOrderMode_) {
+        badges_.Paint(painter);
+        return;
+    }
+    const std::vector<LiveControl*>& selected = design_.Selected();
+    if (selected.empty()) {
+        PaintHandles(painter, FormHandlesOf(map_.ClientRect()), true, palette());
+    }
+    for (const LiveControl* control : selected) {
+        PaintHandles(painter, HandlesOf(map_.RectOf(*control)), control == selected.back(),
+                     palette());
+    }
+}
+
+}  // namespace lumenkit::form

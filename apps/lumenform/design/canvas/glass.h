@@ -1,0 +1,109 @@
+#pragma once
+
+#include <QWidget>
+#include <functional>
+#include <memory>
+#include <optional>
+
+#include "apps/lumenform/design/canvas/edges.h"
+#include "apps/lumenform/design/canvas/form_map.h"
+#include "apps/lumenform/design/canvas/gesture.h"
+#include "apps/lumenform/design/canvas/grid.h"
+#include "apps/lumenform/design/canvas/place_label.h"
+#include "apps/lumenform/design/canvas/tab_badges.h"
+#include "apps/lumenform/design/model/design.h"
+
+namespace lumenkit::form {
+
+/// Lies over the form while it is designed. Mouse and keyboard end here, and what marks the
+/// selection is drawn here.
+class Glass final : public QWidget {
+    Q_OBJECT
+
+ public:
+    /// `desk`, the parent, carries the form at the same place. All must outlive the glass.
+    Glass(Design& design, const Grid& grid, QWidget& desk);
+    ~Glass() override;
+    Glass(const Glass&) = delete;
+    Glass& operator=(const Glass&) = delete;
+
+    /// The design's view is another one.
+    void FollowView();
+
+    void BeginDrawing(const Text& className);
+    void EndDrawing();
+    bool IsDrawing() const { return !drawnClass_.empty(); }
+    void SetTabOrderMode(bool on);
+    bool IsTabOrderMode() const { return isTabOrderMode_; }
+
+ Q_SIGNALS:
+    // As those of Canvas.
+    void Activated(LiveControl& control);
+    void FormActivated();
+    void MenuRequested(QPoint globalPosition);
+    void Drawn(const Text& className, LiveControl* container, const host::Placement& place);
+    void DrawingEnded();
+    void TabOrderModeChanged(bool on);
+    void PointerMoved(QPointF twips);
+    void PointerLeft();
+    void Refused(const QString& why);
+    /// To be scrolled to.
+    void Wanted(const QRect& rect);
+
+ protected:
+    void paintEvent(QPaintEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void mouseDoubleClickEvent(QMouseEvent* event) override;
+    void contextMenuEvent(QContextMenuEvent* event) override;
+    void leaveEvent(QEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    bool focusNextPrevChild(bool next) override;
+
+ private:
+    using GestureRef = std::unique_ptr<Gesture>;
+    // A button that is down, and what comes of it: a drag, or else a click.
+    struct Press {
+        QPoint at;
+        std::function<GestureRef()> drag;
+        std::function<void()> click;
+    };
+    struct Grip {
+        LiveControl* control;  // null: the form
+        Edges edges;
+    };
+
+    Ground ground() const { return {design_, map_, grid_}; }
+    Press PressAt(QPoint at, Qt::KeyboardModifiers held);
+    Press PressOnControl(LiveControl& control, QPoint at);
+    GestureRef StartPlacing(LiveControl& control, Edges edges, QPoint at);
+    GestureRef StartDrawing(QPoint at);
+    std::optional<Grip> GripAt(QPoint at) const;
+    void Drag(QPoint at, Qt::KeyboardModifiers held);
+    void DropGesture();
+    void Escape();
+    void Activate();
+    void UpdateCursor(QPoint at);
+    void TellPointer(QPoint at);
+    void TellSelection();
+    void UpdateMarks();
+    QRegion Marks() const;
+    void PaintMarks(QPainter& painter) const;
+    template <typename Work>
+    void Try(const Work& work);
+
+    Design& design_;
+    const Grid& grid_;
+    QWidget& desk_;
+    FormMap map_;
+    TabBadges badges_;
+    PlaceLabel* label_;
+    std::optional<Press> press_;
+    GestureRef gesture_;
+    Text drawnClass_;
+    bool isTabOrderMode_ = false;
+    QRegion marks_;  // as they are on the screen
+};
+
+}  // namespace lumenkit::form

@@ -1,0 +1,11 @@
+#include "apps/lumenform/design/canvas/grid.h"
+
+#include <cmath>
+
+namespace lumenkit::form {
+
+float Grid::Nearest(float twips) const {
+    return std::round(twips / step) * step;
+}
+
+}  // namespace lumenkit::form

@@ -1,0 +1,124 @@
+#include "apps/lumenform/design/canvas/grid_dots.h"
+
+#include <QPaintEvent>
+#include <QPainter>
+#include <algorithm>
+#include <cmath>
+
+#include "runtime/qt/palette_color.h"
+#include "runtime/qt/pixels.h"
+
+namespace lumenkit::form {
+
+namespace {
+
+constexpr double closest = 3;  // pixels; dots that lie closer would be a grey
+
+// How many steps, one way, make whole pixels of the device, so that tiles of them join.
+int StepsInTile(double step, double pixelRatio) {
+    constexpr double longest = 1024;  // pixels
+    constexpr double longEnough = 128;
+    constexpr double tolerance = 1e-3;
+    int best = 1;
+    double bestError = 1;
+    for (int steps = 1; steps * step <= longest; ++steps) {
+        const double pixels = steps * step;
+        const auto error = [](double length) { return std::abs(length - std::round(length)); };
+        const double both = error(pixels) + error(pixels * pixelRatio);
+        if (both < bestError - tolerance || (both < tolerance && pixels < longEnough)) {
+            best = steps;
+            bestError = both;
+        }
+    }
+    return best;
+}
+
+QPixmap MakeTile(double across, double down, double pixelRatio, bool isBright) {
+    const int columns = StepsInTile(across, pixelRatio);
+    const int rows = StepsInTile(down, pixelRatio);
+    const auto device = [&](double pixels) {
+        return static_cast<int>(std::round(std::round(pixels) * pixelRatio));
+    };
+    QPixmap tile(device(columns * across), device(rows * down));
+    tile.fill(Qt::transparent);
+    const int size = std::max(static_cast<int>(pixelRatio), 1);
+    constexpr int strength = 110;
+    const QColor color = isBright ? QColor(0, 0, 0, strength) : QColor(255, 255, 255, strength);
+    QPainter painter(&tile);
+    for (int row = 0; row < rows; ++row) {
+        for (int column = 0; column < columns; ++column) {
+            painter.fillRect(device(column * across), device(row * down), size, size, color);
+        }
+    }
+    painter.end();
+    tile.setDevicePixelRatio(pixelRatio);
+    return tile;
+}
+
+}  // namespace
+
+void GridDots::Follow(const FormView& view) {
+    grounds_.clear();
+    Watch(view.Inside(), true);
+    for (const auto& control : view.Controls()) {
+        if (control->IsContainer()) {
+            Watch(control->Inside(), false);
+        }
+    }
+}
+
+void GridDots::Watch(const Surroundings& container, bool paintsItself) {
+    QWidget& widget = container.widget;
+    widget.installEventFilter(this);
+    grounds_.emplace(&widget, Ground{paintsItself, container.backColor});
+    QObject::connect(&widget, &QObject::destroyed, this,
+                     [this, gone = &widget] { grounds_.erase(gone); });
+}
+
+void GridDots::Refresh() {
+    for (const auto& [widget, ground] : grounds_) {
+        widget->update();
+    }
+}
+
+bool GridDots::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() != QEvent::Paint || !grid_.isShown || !watched->isWidgetType()) {
+        return false;
+    }
+    QWidget& widget = *static_cast<QWidget*>(watched);
+    const auto found = grounds_.find(&widget);
+    if (found == grounds_.end()) {
+        return false;
+    }
+    const Ground ground = found->second;
+    if (ground.paintsItself) {
+        watched->event(event);
+    }
+    Paint(widget, static_cast<QPaintEvent*>(event)->region(), ground.backColor);
+    return ground.paintsItself;
+}
+
+void GridDots::Paint(QWidget& widget, const QRegion& region, Color backColor) {
+    const qt::TwipsPerPixel& twips = qt::TwipsPerPixel::OfScreens();
+    if (grid_.step < closest * std::max(twips.x, twips.y)) {
+        return;
+    }
+    constexpr int middle = 128;
+    const bool isBright = qGray(qt::ToQColor(backColor, widget.palette()).rgb()) >= middle;
+    QPainter painter(&widget);
+    for (const QRect& part : region) {
+        painter.fillRect(part, QBrush(TileFor(widget, isBright)));
+    }
+}
+
+const QPixmap& GridDots::TileFor(const QWidget& widget, bool isBright) {
+    const qt::TwipsPerPixel& twips = qt::TwipsPerPixel::OfScreens();
+    const double ratio = widget.devicePixelRatioF();
+    QPixmap& tile = tiles_[{ratio, grid_.step, isBright}];
+    if (tile.isNull()) {
+        tile = MakeTile(grid_.step / twips.x, grid_.step / twips.y, ratio, isBright);
+    }
+    return tile;
+}
+
+}  // namespace lumenkit::form

@@ -1,0 +1,41 @@
+#pragma once
+
+#include <QObject>
+#include <QPixmap>
+#include <map>
+#include <tuple>
+
+#include "apps/lumenform/design/canvas/grid.h"
+#include "apps/lumenform/form_view/form_view.h"
+
+namespace lumenkit::form {
+
+/// Draws the dots of the grid on a form and on its containers, under the controls.
+class GridDots final : public QObject {
+ public:
+    /// The grid must outlive the dots.
+    explicit GridDots(const Grid& grid) : grid_(grid) {}
+
+    /// From now on the dots are on this view.
+    void Follow(const FormView& view);
+    /// The grid is another.
+    void Refresh();
+
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+ private:
+    struct Ground {
+        bool paintsItself;  // its background, in its own paint event
+        Color backColor;
+    };
+
+    void Watch(const Surroundings& container, bool paintsItself);
+    void Paint(QWidget& widget, const QRegion& region, Color backColor);
+    const QPixmap& TileFor(const QWidget& widget, bool isBright);
+
+    const Grid& grid_;
+    std::map<QWidget*, Ground> grounds_;
+    std::map<std::tuple<double, float, bool>, QPixmap> tiles_;  // by pixel ratio, step, brightness
+};
+
+}  // namespace lumenkit::form

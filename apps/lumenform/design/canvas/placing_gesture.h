@@ -1,0 +1,36 @@
+#pragma once
+
+#include <vector>
+
+#include "apps/lumenform/design/canvas/edges.h"
+#include "apps/lumenform/design/canvas/gesture.h"
+
+namespace lumenkit::form {
+
+/// Moves or sizes what is selected, by so much as the control under the mouse. That one keeps to
+/// the grid, the others to their distance from it.
+class PlacingGesture final : public Gesture {
+ public:
+    /// `grabbed` is one of the selected controls.
+    PlacingGesture(const Ground& ground, const LiveControl& grabbed, Edges edges, QPoint pressedAt);
+
+    void DragTo(QPoint at, bool snaps) override;
+    void Finish() override;
+    void Cancel() override;
+    std::optional<host::Placement> Place() const override { return grabbed_->place; }
+
+ private:
+    struct Target {
+        LiveControl* control;
+        host::Placement former;
+        host::Placement place;
+    };
+
+    Ground ground_;
+    Edges edges_;
+    QPoint pressedAt_;
+    std::vector<Target> targets_;
+    const Target* grabbed_ = nullptr;
+};
+
+}  // namespace lumenkit::form

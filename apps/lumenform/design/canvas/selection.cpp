@@ -1,0 +1,56 @@
+#include "apps/lumenform/design/canvas/selection.h"
+
+#include <algorithm>
+#include <utility>
+#include <vector>
+
+#include "apps/lumenform/design/model/arrange.h"
+
+namespace lumenkit::form {
+
+void Toggle(Design& design, LiveControl& control) {
+    std::vector<LiveControl*> selected = design.Selected();
+    if (std::erase(selected, &control) == 0) {
+        selected.push_back(&control);
+    }
+    design.Select(std::move(selected));
+}
+
+void MakeLast(Design& design, LiveControl& control) {
+    std::vector<LiveControl*> selected = design.Selected();
+    std::erase(selected, &control);
+    selected.push_back(&control);
+    design.Select(std::move(selected));
+}
+
+void SelectNext(Design& design, const FormMap& map, bool forward) {
+    std::vector<LiveControl*> order = map.InTabOrder();
+    if (order.empty()) {
+        return;
+    }
+    if (!forward) {
+        std::ranges::reverse(order);
+    }
+    auto next = order.begin();
+    if (!design.Selected().empty()) {
+        next = std::ranges::find(order, design.Selected().back()) + 1;
+    }
+    design.Select({next == order.end() ? order.front() : *next});
+}
+
+void SelectContainer(Design& design) {
+    if (!design.Selected().empty()) {
+        LiveControl* const container = ContainerOf(design, *design.Selected().back());
+        design.Select(container == nullptr ? std::vector<LiveControl*>() : std::vector{container});
+    }
+}
+
+void SelectAll(Design& design) {
+    std::vector<LiveControl*> all;
+    for (const auto& control : design.View().Controls()) {
+        all.push_back(control.get());
+    }
+    design.Select(std::move(all));
+}
+
+}  // namespace lumenkit::form

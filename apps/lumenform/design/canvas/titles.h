@@ -1,0 +1,17 @@
+// What the steps of the history are called.
+#pragma once
+
+#include <QString>
+#include <cstddef>
+
+#include "apps/lumenform/form_view/live_control.h"
+
+namespace lumenkit::form {
+
+/// `one` gives its name where it is the only one.
+QString MoveTitle(std::size_t count, const LiveControl& one);
+QString SizeTitle(std::size_t count, const LiveControl& one);
+QString SizeFormTitle();
+QString TabOrderTitle();
+
+}  // namespace lumenkit::form

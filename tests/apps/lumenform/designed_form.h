@@ -1,0 +1,64 @@
+#pragma once
+
+#include <QMainWindow>
+#include <ostream>
+#include <string>
+#include <vector>
+
+#include "apps/lumenform/design/canvas/canvas.h"
+#include "apps/lumenform/design/model/design.h"
+#include "tests/apps/lumenform/loaded_view.h"
+
+namespace lumenkit::host {
+
+/// For messages of failed tests.
+void PrintTo(const Placement& place, std::ostream* out);
+
+}  // namespace lumenkit::host
+
+namespace lumenkit::testing {
+
+/// A form on the canvas of an active window, and a person with mouse and keyboard. Points and
+/// distances are pixels at 96 an inch, so that one is 15 twips; points count from the upper left
+/// corner of the form's inside.
+class DesignedForm {
+ public:
+    explicit DesignedForm(forms::Document loaded);
+    /// Without the lines before and behind: see FormWith.
+    explicit DesignedForm(const std::string& inner);
+
+    form::LiveControl& Control(TextView name) const;
+    host::Placement PlaceOf(TextView name) const { return Control(name).Place(); }
+    std::vector<std::string> Selected() const;
+    void Select(const std::vector<Text>& names) { design.SelectNamed(names); }
+    /// The form as it would be written now.
+    std::string Saved() const { return design.Document().Write().form; }
+    /// Its lines that are no more as they were in `before`, without blanks at their ends; one line
+    /// "(other lines)" where some came or went.
+    std::vector<std::string> ChangedSince(const std::string& before) const;
+
+    QPoint MiddleOf(TextView name) const;
+    /// The middle of the handle: -1, 0 and 1 are the near edge, the middle and the far edge.
+    QPoint HandleOf(TextView name, int across, int down) const;
+    QPoint FormHandle(int across, int down) const;
+
+    void Press(QPoint at, Qt::KeyboardModifiers held = {});
+    void MoveTo(QPoint at, Qt::KeyboardModifiers held = {});
+    void Release(QPoint at, Qt::KeyboardModifiers held = {});
+    void Click(QPoint at, Qt::KeyboardModifiers held = {});
+    /// From the press to the release, in a few moves.
+    void Drag(QPoint from, QPoint by, Qt::KeyboardModifiers held = {});
+    void Key(Qt::Key key, Qt::KeyboardModifiers held = {});
+
+    Surface surface;
+    form::Design design;
+    QMainWindow window;
+    form::Canvas* canvas;
+    std::vector<QString> refused;
+
+ private:
+    QPoint OnGlass(QPoint onForm) const;
+    QPoint OnForm(const QWidget& widget, QPoint at) const;
+};
+
+}  // namespace lumenkit::testing
