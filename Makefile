@@ -42,4 +42,4 @@ clean: ## remove everything that was built
 	@rm -rf build
 
 help: ## this list
-	@sed -n 's/^\([a-z-]*\):.*## \(.*\)/  make \1\t\2/p' Makefile | expand -t 16
+	@sed -n 's/^\([a-z-]*\):.*## \(.*\)/  make \1\t\2/p' Makefile | expand -t 20

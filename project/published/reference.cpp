@@ -85,6 +85,9 @@ class ReferenceWriter {
             text_ += "None beyond those of `IDispatch`.\n";
             return;
         }
+        text_ +=
+            "An Integer has 16 bits, a Long 32; a Single is a floating-point number of 32 bits. "
+            "`get` reads, `let` assigns a value, `set` an object.\n\n";
         text_ += Head({"member", "kind", "type", "identifier", "access", "flags", "help string"});
         for (const Member& member : members) {
             text_ += Row({Signature(member.name, member.parameters),
