@@ -1,74 +1,85 @@
 #include "vmemo/line_break_scanner.h"
 
-#include <cstring>
+#ifdef __SSE2__
+#include <emmintrin.h>
+#endif
 
 namespace lumenkit {
 
 namespace {
 
-constexpr std::size_t blockSize = 32;
-
-// 1 where a break begins, else 0. Without a branch: compilers make vector instructions of the loop
-// over a block.
-std::uint16_t BreakAt(const char16_t* units) {
-    const int differs = (units[0] ^ u'\r') | (units[1] ^ u'\n');
-    return differs == 0 ? 1 : 0;
-}
-
-bool HasBreak(const char16_t* units) {
-    std::uint16_t found = 0;
-    for (std::size_t i = 0; i < blockSize; ++i) {
-        found = static_cast<std::uint16_t>(found | BreakAt(units + i));
-    }
-    return found != 0;
-}
+constexpr std::size_t blockSize = 64;
 
 // Bit i of the results says that a break begins at unit i.
 
-// Of four units, which are the lanes of one word.
-std::uint32_t BreaksOfWord(const char16_t* units) {
-    static_assert(std::endian::native == std::endian::little, "the first unit is the low lane");
-    constexpr std::uint64_t ones = 0x0001'0001'0001'0001;
-    constexpr std::uint64_t lowBits = ones * 0x7FFF;
-    std::uint64_t first = 0;
-    std::uint64_t second = 0;
-    std::memcpy(&first, units, sizeof first);
-    std::memcpy(&second, units + 1, sizeof second);
-    const std::uint64_t differs = (first ^ ones * u'\r') | (second ^ ones * u'\n');
-    // The high bit of each lane that is zero, moved to the lane's low bit; the product then has the
-    // four bits side by side at bit 48.
-    const std::uint64_t zeros = ~(((differs & lowBits) + lowBits) | differs | lowBits) >> 15;
-    return static_cast<std::uint32_t>(zeros * 0x0001'0002'0004'0008 >> 48 & 0xF);
-}
-
-std::uint32_t BreaksOfBlock(const char16_t* units) {
-    std::uint32_t breaks = 0;
-    for (std::size_t i = 0; i < blockSize; i += 4) {
-        breaks |= BreaksOfWord(units + i) << i;
-    }
-    return breaks;
-}
-
-std::uint32_t BreaksOfTail(const char16_t* units, std::size_t count) {
-    std::uint32_t breaks = 0;
+std::uint64_t BreaksOfTail(const char16_t* units, std::size_t count) {
+    std::uint64_t breaks = 0;
     for (std::size_t i = 0; i < count; ++i) {
-        breaks |= static_cast<std::uint32_t>(BreakAt(units + i)) << i;
+        breaks |= std::uint64_t{units[i] == u'\r' && units[i + 1] == u'\n'} << i;
     }
     return breaks;
 }
+
+#ifdef __SSE2__
+
+// Which of a block's units are CR, and which are LF.
+struct BreakUnits {
+    std::uint64_t returns = 0;
+    std::uint64_t feeds = 0;
+};
+
+BreakUnits FindBreakUnits(const char16_t* units) {
+    constexpr std::size_t step = 16;
+    const __m128i carriageReturn = _mm_set1_epi8('\r');
+    const __m128i lineFeed = _mm_set1_epi8('\n');
+    const auto bits = [](__m128i bytes) {
+        return std::uint64_t{static_cast<std::uint16_t>(_mm_movemask_epi8(bytes))};
+    };
+    BreakUnits found;
+    for (std::size_t i = 0; i < blockSize; i += step) {
+        const auto* const at = reinterpret_cast<const __m128i*>(units + i);
+        // Bytes, of which those that units do not fit into become 0 or 255.
+        const __m128i bytes = _mm_packus_epi16(_mm_loadu_si128(at), _mm_loadu_si128(at + 1));
+        found.returns |= bits(_mm_cmpeq_epi8(bytes, carriageReturn)) << i;
+        found.feeds |= bits(_mm_cmpeq_epi8(bytes, lineFeed)) << i;
+    }
+    return found;
+}
+
+std::uint64_t BreaksOfBlock(const char16_t* units) {
+    const BreakUnits found = FindBreakUnits(units);
+    const std::uint64_t feedBehind = units[blockSize] == u'\n' ? 1 : 0;
+    return found.returns & (found.feeds >> 1 | feedBehind << (blockSize - 1));
+}
+
+#else
+
+std::uint64_t BreaksOfBlock(const char16_t* units) {
+    return BreaksOfTail(units, blockSize);
+}
+
+#endif
 
 }  // namespace
 
 void LineBreakScanner::EnterBlock(std::size_t from) {
-    const char16_t* const units = text_.data();
     // The last unit of a block is looked at together with the one behind the block.
-    while (text_.size() - from > blockSize && !HasBreak(units + from)) {
+    std::size_t left = text_.size() - from;
+    std::uint64_t breaks = 0;
+    while (left > blockSize) {
+        breaks = BreaksOfBlock(text_.data() + from);
+        if (breaks != 0) {
+            break;
+        }
         from += blockSize;
+        left -= blockSize;
+    }
+    if (left <= blockSize) {
+        breaks = BreaksOfTail(text_.data() + from, left - 1);
     }
     block_ = from;
     blockEnd_ = from + blockSize;
-    const std::size_t left = text_.size() - from;
-    breaks_ = left > blockSize ? BreaksOfBlock(units + from) : BreaksOfTail(units + from, left - 1);
+    breaks_ = breaks;
 }
 
 }  // namespace lumenkit

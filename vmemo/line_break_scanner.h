@@ -21,7 +21,7 @@ class LineBreakScanner {
     std::size_t Next(std::size_t from) {
         while (true) {
             if (from < blockEnd_) {
-                if (const std::uint32_t ahead = breaks_ >> (from - block_); ahead != 0) {
+                if (const std::uint64_t ahead = breaks_ >> (from - block_); ahead != 0) {
                     return from + static_cast<std::size_t>(std::countr_zero(ahead));
                 }
                 from = blockEnd_;
@@ -42,7 +42,7 @@ class LineBreakScanner {
     TextView text_;
     std::size_t block_ = 0;  // where the block begins and ends
     std::size_t blockEnd_ = 0;
-    std::uint32_t breaks_ = 0;  // bit i: a line break begins at block_ + i
+    std::uint64_t breaks_ = 0;  // bit i: a line break begins at block_ + i
 };
 
 }  // namespace lumenkit

@@ -1,6 +1,7 @@
 #include "vmemo/restriction_engine.h"
 
 #include <cstddef>
+#include <cstdint>
 #include <vector>
 
 #include "frame/checked_integer.h"
@@ -65,6 +66,30 @@ class ShrinkingText {
     std::size_t keptEnd_ = 0;     // where the last cut ends in the source
 };
 
+// Whether nothing is too much: most edits are such, and looking for line breaks is all they need.
+bool IsWithin(TextView text, TextLimits limits) {
+    const auto orAny = [&](std::int16_t limit) {
+        return limit != 0 ? static_cast<std::size_t>(limit) : text.size() + 1;
+    };
+    const std::size_t longest = orAny(limits.maxCharsPerLine);
+    const std::size_t mostLines = orAny(limits.maxLines);
+    LineBreakScanner scanner(text);
+    std::size_t start = 0;
+    for (std::size_t line = 1;; ++line) {
+        const std::size_t end = scanner.Next(start);
+        if (end - start > longest) {
+            return false;
+        }
+        if (end == text.size()) {
+            return true;
+        }
+        if (line == mostLines) {
+            return false;  // a line break behind the last line is too much already
+        }
+        start = end + crLf.size();
+    }
+}
+
 // Of lines that are too many, only this one is worth a refusal.
 bool IsOneCharacter(TextView text) {
     return text.size() == 1 && text[0] != blank && text[0] != u'\r' && text[0] != u'\n';
@@ -75,6 +100,9 @@ bool IsOneCharacter(TextView text) {
 Restriction Restrict(TextView text, TextLimits limits, RestrictionMode mode) {
     Restriction result;
     ShrinkingText left(text);
+    if (IsWithin(text, limits)) {
+        return result;
+    }
     // Cuts the part, unless it holds something real and the edit is refused for it.
     const auto cut = [&](TextView part, bool real) {
         (real ? result.refused : result.trimmed) = true;
