@@ -222,6 +222,7 @@ void VOptList::pLetItemAlignment(std::int16_t alignment) {
 void VOptList::pLetItemCaption(std::int16_t index, TextView caption) {
     module_.Procedure(u"pLetItemCaption", [&] {
         if (index >= 0 && index < ItemCount) {
+            shown_.reset();
             Option1->Item(index).SetCaption(caption);
         }
     });

@@ -3,6 +3,7 @@
 
 #include <cstdint>
 #include <memory>
+#include <optional>
 
 #include "frame/automation/interface_table.h"
 #include "frame/color.h"
@@ -135,6 +136,8 @@ class VOptList final : public Control, private host::OptionButtonEvents {
     /// short by an error: it had loaded and shown some elements then without counting them. They
     /// are not loaded a second time; until they are counted, they are surplus to be hidden.
     std::int16_t existingCount_ = 1;
+    /// The contents that the buttons show; nothing while that is not known.
+    std::optional<Text> shown_;
     /// True while properties are read: clicks then neither notify nor raise Click.
     bool IgnoreClicks = false;
     float LeftMargin = 0;

@@ -22,22 +22,28 @@ void PutVisible(OptionButton& button, bool visible) {
 
 }  // namespace
 
+// Buttons whose items are as they were need not be looked at.
 bool VOptList::SetupControls() {
     return module_.Function<bool>(u"SetupControls", [&](bool& loaded) {
-        ContentsWalk walk(Contents);
-        Int16 count = 0;
+        const ContentsChange change =
+            shown_ ? FindChange(*shown_, Contents) : ContentsChange{.end = Contents.size()};
+        const std::int16_t formerCount = shown_ ? ItemCount : existingCount_;
+        shown_.reset();
+        ContentsWalk walk(TextView(Contents).substr(0, change.end), change.begin);
+        Int16 count = change.firstItem;
         while (const auto item = walk.Next()) {
             SetupItem(count.Value(), *item);
             ++count;
         }
-        ItemCount = count.Value();
+        ItemCount = change.sameCount ? formerCount : count.Value();
         if (ItemCount > LoadedCount) {
             LoadedCount = ItemCount;
             loaded = true;
         }
-        for (std::int16_t surplus = ItemCount; surplus < existingCount_; ++surplus) {
+        for (std::int16_t surplus = ItemCount; surplus < formerCount; ++surplus) {
             PutVisible(Option1->Item(surplus), false);
         }
+        shown_ = Contents;
     });
 }
 

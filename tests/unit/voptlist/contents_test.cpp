@@ -1,5 +1,7 @@
 #include "voptlist/contents.h"
 
+#include <algorithm>
+#include <random>
 #include <string>
 #include <vector>
 
@@ -7,6 +9,7 @@
 
 #include "frame/runtime_error.h"
 #include "frame/utf8.h"
+#include "tests/support/test_seed.h"
 
 namespace lumenkit {
 
@@ -18,9 +21,9 @@ using ::testing::SizeIs;
 constexpr std::size_t longest = 32766;
 
 /// "value / caption" of each item; "overflow" stands where the walk raises 6.
-std::vector<std::string> Items(TextView contents) {
+std::vector<std::string> Items(TextView contents, std::size_t begin = 0) {
     std::vector<std::string> items;
-    ContentsWalk walk(contents);
+    ContentsWalk walk(contents, begin);
     try {
         while (const auto item = walk.Next()) {
             items.push_back(ToUtf8(item->value) + " / " + ToUtf8(item->caption));
@@ -137,6 +140,67 @@ TEST(Contents, NoMoreBarsThanPositionsAreReached) {
 TEST(Contents, BarBeyondThe16BitPositionsOverflows) {
     EXPECT_THAT(Items(u"a|" + Text(longest, u'x') + u"|b"), ElementsAre("a / a", "overflow"));
     EXPECT_THAT(Items(Text(100'000, u'x') + u"|b"), ElementsAre("overflow"));
+}
+
+// The items of `contents`, of which only those are walked over that a change from `former` has.
+std::vector<std::string> ItemsAfterChange(TextView former, TextView contents) {
+    const ContentsChange change = FindChange(former, contents);
+    std::vector<std::string> items = Items(former);
+    std::vector<std::string> changed = Items(contents.substr(0, change.end), change.begin);
+    if (!change.sameCount) {
+        items.resize(static_cast<std::size_t>(change.firstItem));
+        items.insert(items.end(), changed.begin(), changed.end());
+    } else {
+        std::ranges::move(changed, items.begin() + change.firstItem);
+    }
+    return items;
+}
+
+// Of such few different units that any two have much in common.
+Text AnyContents(std::mt19937& random, std::size_t longestText) {
+    constexpr TextView units = u"||;ab";
+    Text contents(random() % (longestText + 1), u'x');
+    std::ranges::generate(contents, [&] { return units[random() % units.size()]; });
+    return contents;
+}
+
+TEST(ContentsChange, LeavesOutOnlyItemsThatAreAsTheyWere) {
+    const std::uint32_t seed = testing::TestSeed();
+    std::mt19937 random(seed);
+    for (int pair = 0; pair < 20'000; ++pair) {
+        const Text former = AnyContents(random, 6);
+        const Text contents = AnyContents(random, 6);
+        ASSERT_EQ(ItemsAfterChange(former, contents), Items(contents))
+            << ToUtf8(former) << " to " << ToUtf8(contents);
+    }
+}
+
+TEST(ContentsChange, LeavesOutOnlyItemsThatAreAsTheyWereInLongContents) {
+    const std::uint32_t seed = testing::TestSeed();
+    std::mt19937 random(seed);
+    for (int pair = 0; pair < 2'000; ++pair) {
+        const Text former = AnyContents(random, 600);
+        Text contents = former;
+        const std::size_t at = random() % (contents.size() + 1);
+        contents.replace(at, random() % 6, AnyContents(random, 6));
+        ASSERT_EQ(ItemsAfterChange(former, contents), Items(contents))
+            << ToUtf8(former) << " to " << ToUtf8(contents);
+    }
+}
+
+TEST(ContentsChange, IsOneItemWhereOneIsAnotherOne) {
+    const ContentsChange change = FindChange(u"a;A|b;B|c;C|d;D", u"a;A|b;B|x;C|d;D");
+    EXPECT_EQ(change.firstItem, 2);
+    EXPECT_EQ(change.begin, 8U);
+    EXPECT_EQ(change.end, 12U);
+    EXPECT_TRUE(change.sameCount);
+}
+
+TEST(ContentsChange, OfContentsTooLongIsAllBehindIt) {
+    const Text former = u"a|" + Text(longest - 2, u'x');
+    const ContentsChange change = FindChange(former, u"bc|" + Text(longest - 2, u'x'));
+    EXPECT_EQ(change.end, longest + 1);
+    EXPECT_FALSE(change.sameCount);
 }
 
 }  // namespace
