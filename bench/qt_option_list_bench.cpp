@@ -55,12 +55,12 @@ Side Making(QtStage& stage, int items) {
     saved->Store(u"Contents", Contents(items));
     return Repeated(items, [&stage, saved, window = std::make_shared<StageWindow>()] {
         const auto list = stage.Place(u"VOptList", place, *window, saved.get());
-        QApplication::processEvents();
+        window->ShowNow();
     });
 }
 
 // A box full of buttons in the same places, by nothing but Qt.
-void MakeBare(QWidget& window, int items) {
+void MakeBare(StageWindow& window, int items) {
     constexpr int width = 396;
     constexpr int height = 16;
     QGroupBox box(&window);
@@ -70,7 +70,7 @@ void MakeBare(QWidget& window, int items) {
         button->setGeometry(0, item * height, width, height);
     }
     box.show();
-    QApplication::processEvents();
+    window.ShowNow();
 }
 
 Side MakingBare(int items) {

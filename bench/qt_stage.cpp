@@ -62,7 +62,12 @@ void QtStage::MsgBox(TextView message, host::MessageStyle /*style*/,
 StageWindow::StageWindow() {
     resize(windowSize);
     show();
+    ShowNow();
+}
+
+void StageWindow::ShowNow() {
     QApplication::processEvents();
+    repaint();
 }
 
 }  // namespace lumenkit::bench

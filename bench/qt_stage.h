@@ -52,6 +52,8 @@ class QtStage final : public qt::ControlSite,
 class StageWindow final : public QWidget {
  public:
     StageWindow();
+    /// Handles what events there are and paints the window as a whole.
+    void ShowNow();
 };
 
 }  // namespace lumenkit::bench

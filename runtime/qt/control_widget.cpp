@@ -47,6 +47,7 @@ ControlWidget::ControlWidget(const Context& context, const ClassDescriptor& type
 }
 
 ControlWidget::~ControlWidget() {
+    hide();  // at once, not constituent by constituent
     surface_.SetControl(nullptr);
     constituents_.Disconnect();
 }

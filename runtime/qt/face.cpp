@@ -18,6 +18,8 @@ namespace {
 constexpr double twipsPerPoint = 20;
 constexpr std::size_t mostFaces = 200;
 constexpr std::size_t mostWords = 4096;
+constexpr std::uint32_t unknownGlyph = 0xFFFF'FFFF;
+constexpr TextView sample = u"The quick brown fox, 0123456789; JUMPS over (fi) the \"lazy\" dog!";
 
 bool IsBetween(char16_t unit, char16_t first, char16_t last) {
     return unit >= first && unit <= last;
@@ -105,18 +107,24 @@ Face::Face(const FontAttributes& attributes, double scale)
     ascent_ = wholePixels(metrics.ascent());
     lineHeight_ = ascent_ + wholePixels(metrics.descent());
     advances_.fill(-1);
+    glyphs_.fill(unknownGlyph);
     // Measuring needs everything else.
     // NOLINTNEXTLINE(cppcoreguidelines-prefer-member-initializer)
-    trustsTable_ = AddsUp(u"The quick brown fox, 0123456789; JUMPS over (fi) the \"lazy\" dog!");
+    trustsTable_ = AddsUp(sample);
+    glyphFont_ = QRawFont::fromFont(simple_);
+    if (!trustsTable_ || attributes.underline || attributes.strikethrough ||
+        !HasGlyphsOfLayout(sample)) {
+        glyphFont_ = QRawFont();
+    }
 }
 
 // Whether Qt's own measure of a whole text is what the single advances make.
-bool Face::AddsUp(TextView sample) {
+bool Face::AddsUp(TextView text) {
     double sum = 0;
-    for (const char16_t unit : sample) {
+    for (const char16_t unit : text) {
         sum += AdvanceOf(unit);
     }
-    return sum == QFontMetricsF(simple_).horizontalAdvance(ToQString(sample));
+    return sum == QFontMetricsF(simple_).horizontalAdvance(ToQString(text));
 }
 
 double Face::AdvanceOf(char16_t unit) {
@@ -126,6 +134,27 @@ double Face::AdvanceOf(char16_t unit) {
         advance = QFontMetricsF(simple_).horizontalAdvance(QChar(drawn));
     }
     return advance;
+}
+
+// 0 where the font needs another one for the unit.
+std::uint32_t Face::GlyphOf(char16_t unit) {
+    const char16_t drawn = IsUndrawn(unit) ? blank : unit;
+    std::uint32_t& glyph = glyphs_[drawn];
+    if (glyph == unknownGlyph) {
+        const QChar character(drawn);
+        int count = 1;
+        if (!glyphFont_.glyphIndexesForChars(&character, 1, &glyph, &count) || count != 1) {
+            glyph = 0;
+        }
+    }
+    return glyph;
+}
+
+// Whether the single glyphs are what a layout makes of a whole text: font, glyphs and places.
+bool Face::HasGlyphsOfLayout(TextView text) {
+    const std::optional<GlyphLine> own = FromTable(text);
+    const GlyphLine laidOut = LaidOut(text);
+    return own && laidOut.runs.size() == 1 && own->runs.front() == laidOut.runs.front();
 }
 
 void Face::LayOut(QTextLayout& layout) {
@@ -196,7 +225,41 @@ void Face::Ends(TextView text, double factor, std::span<double> ends) {
     WalkWords(text, [&](double end) { ends[index++] = end * factor; });
 }
 
-GlyphLine Face::GlyphsOf(TextView text) const {
+GlyphLine Face::GlyphsOf(TextView text) {
+    std::optional<GlyphLine> glyphs = FromTable(text);
+    return glyphs ? *std::move(glyphs) : LaidOut(text);
+}
+
+std::optional<GlyphLine> Face::FromTable(TextView text) {
+    if (!glyphFont_.isValid() || !IsSimple(text)) {
+        return std::nullopt;
+    }
+    if (text.empty()) {
+        return GlyphLine{};
+    }
+    const auto count = static_cast<qsizetype>(text.size());
+    QList<quint32> glyphs;
+    QList<QPointF> positions;
+    glyphs.reserve(count);
+    positions.reserve(count);
+    double x = 0;
+    for (const char16_t unit : text) {
+        const std::uint32_t glyph = GlyphOf(unit);
+        if (glyph == 0) {
+            return std::nullopt;
+        }
+        glyphs.append(glyph);
+        positions.append({x, 0});
+        x += AdvanceOf(unit);
+    }
+    QGlyphRun run;
+    run.setRawFont(glyphFont_);
+    run.setGlyphIndexes(glyphs);
+    run.setPositions(positions);
+    return GlyphLine{.runs = {run}};
+}
+
+GlyphLine Face::LaidOut(TextView text) const {
     QTextLayout layout(Drawable(text), IsSimple(text) ? simple_ : shaped_);
     LayOut(layout);
     const QTextLine line = layout.lineAt(0);

@@ -3,10 +3,12 @@
 #include <QFont>
 #include <QGlyphRun>
 #include <QList>
+#include <QRawFont>
 #include <QTextLayout>
 #include <array>
 #include <cstdint>
 #include <memory>
+#include <optional>
 #include <span>
 #include <unordered_map>
 #include <vector>
@@ -42,7 +44,9 @@ struct GlyphLine {
 ///
 /// A text is measured word by word, so that widths add up at blanks: words of simple characters by
 /// their single advances, as there is neither kerning nor joining in them, all others as Qt shapes
-/// them. Characters without a picture (control characters, line separators) count as blanks.
+/// them. Texts of simple characters that the font has itself are drawn by their single glyphs, too,
+/// where that is what Qt's own layout makes. Characters without a picture (control characters, line
+/// separators) count as blanks.
 class Face {
  public:
     /// One face for all who ask for the same; `scale` is the number of real pixels in a pixel.
@@ -63,7 +67,7 @@ class Face {
     /// Whole real pixels.
     double LineHeight() const { return lineHeight_; }
     double Ascent() const { return ascent_; }
-    GlyphLine GlyphsOf(TextView text) const;
+    GlyphLine GlyphsOf(TextView text);
 
  private:
     // A word that Qt has measured: the width of its first i + 1 units.
@@ -74,7 +78,11 @@ class Face {
     template <typename Take>
     void WalkWords(TextView text, Take&& take);
     double AdvanceOf(char16_t unit);
-    bool AddsUp(TextView sample);
+    std::uint32_t GlyphOf(char16_t unit);
+    bool AddsUp(TextView text);
+    bool HasGlyphsOfLayout(TextView text);
+    GlyphLine LaidOut(TextView text) const;
+    std::optional<GlyphLine> FromTable(TextView text);
     const WordEnds& Measured(TextView word);
     static void LayOut(QTextLayout& layout);
 
@@ -86,6 +94,8 @@ class Face {
     double lineHeight_ = 0;
     bool trustsTable_ = true;
     std::array<double, tableSize> advances_{};  // negative: not known yet
+    QRawFont glyphFont_;                        // invalid: glyphs are not taken from the table
+    std::array<std::uint32_t, tableSize> glyphs_{};
     std::unordered_map<Text, WordEnds> words_;
 };
 

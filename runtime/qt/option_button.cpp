@@ -116,12 +116,12 @@ void OptionButton::ShowCaption() {
 
 void OptionButton::SetVisible(bool visible) {
     BasicCaptioned::SetVisible(visible);
-    group_.UpdateTabStops();
+    group_.UpdateTabStops(*this);
 }
 
 void OptionButton::SetEnabled(bool enabled) {
     BasicCaptioned::SetEnabled(enabled);
-    group_.UpdateTabStops();
+    group_.UpdateTabStops(*this);
 }
 
 void OptionButton::Select(bool selected) {
@@ -157,7 +157,9 @@ void OptionButton::SetForeColor(Color color) {
 void OptionButton::ApplyColors() {
     const QPalette& base = Owner().Area().palette();
     if (foreColor_ == Color::ButtonText) {
-        Button().setPalette({});  // greyed where the palette says so
+        if (Button().testAttribute(Qt::WA_SetPalette)) {
+            Button().setPalette({});  // greyed where the palette says so
+        }
         return;
     }
     QPalette palette = base;

@@ -29,7 +29,7 @@ void OptionButtons::Make(std::int16_t index) {
     if (place != buttons_.begin()) {
         QWidget::setTabOrder(std::prev(place)->second->Widget(), place->second->Widget());
     }
-    UpdateTabStops();
+    UpdateTabStops(*place->second);
 }
 
 OptionButton& OptionButtons::Item(std::int16_t index) {
@@ -78,6 +78,15 @@ void OptionButtons::GoFrom(OptionButton& button, int direction) {
     if (&target != &button) {
         target.Widget()->setFocus(Qt::OtherFocusReason);
         Choose(target);
+    }
+}
+
+void OptionButtons::UpdateTabStops(const OptionButton& changed) {
+    const bool cannotBeStop = tabStop_ != nullptr && tabStop_ != &changed &&
+                              !changed.IsSelected() &&
+                              (tabStop_->IsSelected() || tabStop_->Index() < changed.Index());
+    if (!cannotBeStop) {
+        UpdateTabStops();
     }
 }
 

@@ -27,6 +27,8 @@ class OptionButtons final : public host::OptionButtons {
     /// To the next element that can be reached (direction 1) or the one before (-1).
     void GoFrom(OptionButton& button, int direction);
     void UpdateTabStops();
+    /// The same after a change of nothing but this element.
+    void UpdateTabStops(const OptionButton& changed);
 
  private:
     void Make(std::int16_t index);

@@ -105,6 +105,58 @@ TEST(FaceTest, GlyphsReachAsFarAsMeasured) {
     }
 }
 
+// The runs of simple characters as a layout of Qt's makes them, from the base line.
+QList<QGlyphRun> LaidOutByQt(const Face& face, TextView text) {
+    QFont font = face.WidgetFont();
+    font.setStyleStrategy(QFont::PreferNoShaping);
+    QTextLayout layout(ToQString(text), font);
+    layout.setCacheEnabled(true);
+    layout.beginLayout();
+    QTextLine line = layout.createLine();
+    line.setPosition({0, 0});
+    layout.endLayout();
+    QList<QGlyphRun> runs = layout.glyphRuns();
+    for (QGlyphRun& run : runs) {
+        QList<QPointF> positions = run.positions();
+        for (QPointF& position : positions) {
+            position.ry() -= line.ascent();
+        }
+        run.setPositions(positions);
+    }
+    return runs;
+}
+
+TEST(FaceTest, SimpleCharactersAreDrawnByTheGlyphsOfALayout) {
+    for (const TextView name : {u"MS Sans Serif", u"Courier", u"Times New Roman", u"System"}) {
+        for (const float size : {8.25F, 9.75F, 12.0F, 33.3F}) {
+            for (const bool marked : {false, true}) {
+                const auto face = Face::For(
+                    {.size = size,
+                     .weight = marked ? FontAttributes::boldWeight : FontAttributes::regularWeight,
+                     .italic = marked,
+                     .name = Text(name)},
+                    1);
+                for (const TextView text :
+                     {mixed[0], mixed[1], mixed[7], TextView(u"\u00A0\u0192")}) {
+                    const QList<QGlyphRun> runs = face->GlyphsOf(text).runs;
+                    EXPECT_EQ(runs, LaidOutByQt(*face, text)) << ToQString(text).toStdString();
+                }
+            }
+        }
+    }
+}
+
+TEST(FaceTest, UnderlinedTextKeepsItsLine) {
+    const auto face = Face::For({.size = 12, .underline = true, .name = u"Arial"}, 1);
+    const GlyphLine line = face->GlyphsOf(u"word");
+    ASSERT_EQ(line.runs.size(), 1);
+    EXPECT_TRUE(line.runs.front().underline());
+}
+
+TEST(FaceTest, AnEmptyTextHasNoGlyphs) {
+    EXPECT_TRUE(FaceOf(u"Arial", 12)->GlyphsOf(u"").runs.isEmpty());
+}
+
 TEST(FaceTest, ALineIsWholeRealPixelsHigh) {
     for (const double scale : {1.0, 1.25, 1.5, 2.0}) {
         const auto face = FaceOf(u"Arial", 9.75F, scale);
