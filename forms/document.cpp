@@ -192,6 +192,21 @@ void Document::Rename(std::string name) {
     UseCompanion(DesignersCompanionName(name_));
 }
 
+void Document::RenameForm(TextView name) {
+    constexpr TextView attribute = u"Attribute VB_Name = \"";
+    form_.root->Rename(name);
+    Text& tail = form_.tail;
+    const std::size_t line = tail.find(attribute);
+    if (line == Text::npos || (line > 0 && tail[line - 1] != u'\n')) {
+        return;
+    }
+    const std::size_t start = line + attribute.size();
+    const std::size_t end = tail.find_first_of(u"\"\r\n", start);
+    if (end != Text::npos && tail[end] == u'"') {
+        tail.replace(start, end - start, name);
+    }
+}
+
 void Document::UseCompanion(std::string name) {
     companionName_ = std::move(name);
     const Text file = FromUtf8(companionName_);

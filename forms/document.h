@@ -52,6 +52,8 @@ class Document {
 
     /// The outermost block: the form itself.
     Block& Root() const { return *form_.root; }
+    /// Gives the form itself another name, also in its attribute VB_Name.
+    void RenameForm(TextView name);
     const std::vector<LibraryReference>& Libraries() const { return form_.libraries; }
     /// Adds a line `Object = ...` behind the others.
     void AddLibrary(TextView library, TextView file);

@@ -44,6 +44,8 @@ class LiveControl {
     /// Whether it lies behind all that are not so, as labels and pictures do.
     virtual bool IsInBack() const { return false; }
 
+    /// The units in which the form says where it lies.
+    const Scale& Units() const { return scale_; }
     /// In twips, from the upper left corner of what it lies in.
     virtual host::Placement Place() const = 0;
     /// Raises 380 for a negative width or height.

@@ -1,0 +1,116 @@
+#include "apps/lumenform/design/properties/page_dialog.h"
+
+#include <QPushButton>
+#include <QVBoxLayout>
+#include <utility>
+
+#include "apps/lumenform/design/properties/refusal.h"
+#include "frame/runtime_error.h"
+#include "runtime/qt/qt_text.h"
+
+namespace lumenkit::form {
+
+namespace {
+
+// A control by its name: its widget is made anew now and then, the page's selection is not.
+class NamedControl final : public Object {
+ public:
+    NamedControl(const Design& design, Text name) : design_(design), name_(std::move(name)) {}
+
+    std::optional<std::int32_t> FindMember(TextView name) const override {
+        return Control().FindMember(name);
+    }
+    Value Invoke(std::int32_t identifier, InvokeKind kind, std::span<Value> arguments) override {
+        return Control().Invoke(identifier, kind, arguments);
+    }
+
+ private:
+    Object& Control() const {
+        const LiveControl* control = design_.View().Find(name_);
+        if (control == nullptr || control->Own() == nullptr) {
+            Raise(ErrorNumber::ObjectNotSet);
+        }
+        return control->Own()->Automation();
+    }
+
+    const Design& design_;
+    Text name_;
+};
+
+QString TitleOf(const ClassDescriptor& page, const std::vector<Text>& controls) {
+    QString title = qt::ToQString(controls.front());
+    if (controls.size() > 1) {
+        title += QStringLiteral(", ...");
+    }
+    return title + QStringLiteral(": ") + qt::ToQString(page.pageTitle);
+}
+
+}  // namespace
+
+PageDialog::PageDialog(Design& design, ControlMessages& messages, const ClassDescriptor& page,
+                       const std::vector<Text>& controls, QWidget* parent)
+    : QDialog(parent),
+      design_(design),
+      messages_(messages),
+      context_{.classes = design.Context().classes,
+               .application = design.Context().application,
+               .interaction = messages,
+               .errors =
+                   [this](const RuntimeError& error) {
+                       notice_->Say(qt::ToQString(error.Description()));
+                   }},
+      title_(qt::ToQString(page.pageTitle)),
+      notice_(new Notice(this)),
+      buttons_(new QDialogButtonBox(
+          QDialogButtonBox::Ok | QDialogButtonBox::Cancel | QDialogButtonBox::Apply, this)) {
+    setWindowTitle(TitleOf(page, controls));
+    setWindowModality(Qt::WindowModal);
+    page_ = new qt::PageWidget(context_, page, this);
+    auto* const layout = new QVBoxLayout(this);
+    layout->setSizeConstraint(QLayout::SetFixedSize);
+    layout->addWidget(page_);
+    layout->addWidget(notice_);
+    layout->addWidget(buttons_);
+    QPushButton* const apply = buttons_->button(QDialogButtonBox::Apply);
+    connect(buttons_, &QDialogButtonBox::accepted, this, &PageDialog::accept);
+    connect(buttons_, &QDialogButtonBox::rejected, this, &PageDialog::reject);
+    connect(apply, &QPushButton::clicked, this, &PageDialog::Apply);
+    page_->OnChanged([apply](bool changed) { apply->setEnabled(changed); });
+    std::vector<ObjectRef> selection;
+    for (const Text& name : controls) {
+        selection.push_back(std::make_shared<NamedControl>(design, name));
+    }
+    page_->Select(std::move(selection));
+    page_->SetChanged(false);  // what it was filled with is no change
+    apply->setEnabled(false);
+}
+
+void PageDialog::ApplyPage() {
+    const ControlMessages::Listener listener(messages_);
+    page_->Apply();
+    if (!listener.Heard().empty()) {
+        throw RuntimeError(static_cast<std::int32_t>(ErrorNumber::InvalidPropertyValue),
+                           listener.Heard().front());
+    }
+}
+
+bool PageDialog::Apply() {
+    if (!page_->Changed()) {
+        return true;
+    }
+    const QString refusal = RefusalOf([this] { design_.Edit(title_, [this] { ApplyPage(); }); });
+    notice_->Say(refusal);
+    if (!refusal.isEmpty()) {
+        return false;
+    }
+    page_->SetChanged(false);
+    return true;
+}
+
+void PageDialog::accept() {
+    if (Apply()) {
+        QDialog::accept();
+    }
+}
+
+}  // namespace lumenkit::form

@@ -1,0 +1,284 @@
+#include "apps/lumenform/design/properties/property_browser.h"
+
+#include <QEvent>
+#include <QScopedValueRollback>
+#include <QVBoxLayout>
+#include <algorithm>
+
+#include "apps/lumenform/design/model/naming.h"
+#include "apps/lumenform/design/properties/choice_box.h"
+#include "apps/lumenform/design/properties/choose_font.h"
+#include "apps/lumenform/design/properties/color_dialog.h"
+#include "apps/lumenform/design/properties/font_text.h"
+#include "apps/lumenform/design/properties/page_dialog.h"
+#include "apps/lumenform/design/properties/property_delegate.h"
+#include "apps/lumenform/design/properties/refusal.h"
+#include "apps/lumenform/design/properties/text_dialog.h"
+#include "runtime/qt/qt_text.h"
+
+namespace lumenkit::form {
+
+namespace {
+
+const host::Font* FontOf(const PropertyRow& row) {
+    const auto* object = row.value ? std::get_if<ObjectRef>(&*row.value) : nullptr;
+    return object == nullptr ? nullptr : dynamic_cast<const host::Font*>(object->get());
+}
+
+bool HasColor(const PropertyRow& row) {
+    return row.value && !std::holds_alternative<Empty>(*row.value);
+}
+
+// The name in code and the class.
+QString DescribeBlock(const Text& name, TextView className) {
+    return qt::ToQString(name) + QStringLiteral("  ") + qt::ToQString(ShortClassName(className));
+}
+
+}  // namespace
+
+PropertyBrowser::PropertyBrowser(Design& design, ControlMessages& messages, QWidget* parent)
+    : QWidget(parent),
+      design_(design),
+      messages_(messages),
+      list_(design, messages),
+      model_(list_),
+      heading_(new QLabel(this)),
+      table_(new PropertyTable(this)),
+      delegate_(new PropertyDelegate(model_, this)),
+      notice_(new Notice(this)),
+      help_(new QLabel(this)) {
+    table_->setModel(&model_);
+    table_->setItemDelegate(delegate_);
+    LayOut();
+    connect(delegate_, &PropertyDelegate::Changed, this, &PropertyBrowser::Assign);
+    connect(delegate_, &PropertyDelegate::MoreWanted, this, &PropertyBrowser::OpenMore);
+    connect(delegate_, &PropertyDelegate::StepWanted, this,
+            [this](int rows) { table_->GoTo(table_->currentIndex().row() + rows); });
+    connect(table_, &PropertyTable::MoreWanted, this, &PropertyBrowser::OpenMore);
+    connect(table_->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
+            [this] { ShowCurrent(); });
+    connect(&design_, &Design::ViewReplaced, this, &PropertyBrowser::Refresh);
+    connect(&design_, &Design::SelectionChanged, this, &PropertyBrowser::FollowSelection);
+    connect(&design_, &Design::Edited, this, &PropertyBrowser::Refresh);
+    Refresh();
+}
+
+void PropertyBrowser::LayOut() {
+    heading_->setTextFormat(Qt::PlainText);
+    heading_->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    QFont font = heading_->font();
+    font.setBold(true);
+    heading_->setFont(font);
+    help_->setTextFormat(Qt::PlainText);
+    help_->setWordWrap(true);
+    help_->setAlignment(Qt::AlignLeft | Qt::AlignTop);
+    help_->setAccessibleName(tr("Help"));
+    FitHelp();
+    setFocusProxy(table_);
+    auto* const layout = new QVBoxLayout(this);
+    layout->addWidget(heading_);
+    layout->addWidget(table_, 1);
+    layout->addWidget(notice_);
+    layout->addWidget(help_);
+}
+
+void PropertyBrowser::FitHelp() {
+    constexpr int lines = 4;
+    help_->setFixedHeight(lines * help_->fontMetrics().lineSpacing());
+}
+
+void PropertyBrowser::changeEvent(QEvent* event) {
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange) {
+        FitHelp();
+    }
+}
+
+// ---- Following the design
+
+void PropertyBrowser::Refresh() {
+    if (isAssigning_) {
+        return;  // when it is done
+    }
+    const QScopedValueRollback refreshing(isRefreshing_, true);
+    model_.Refresh();
+    heading_->setText(DescribeSelection());
+    GoBack();
+    ShowCurrent();
+}
+
+void PropertyBrowser::FollowSelection() {
+    if (isAssigning_) {
+        return;
+    }
+    if (QWidget* const editor = table_->indexWidget(table_->currentIndex())) {
+        delegate_->Close(editor);  // what it holds is meant for others
+    }
+    notice_->Say({});
+    Refresh();
+}
+
+// To the row where the person was, in case the rows are others.
+void PropertyBrowser::GoBack() {
+    const int row = model_.Find(wanted_);
+    if (row != table_->currentIndex().row() || row < 0) {
+        table_->GoTo(std::max(row, 0));
+    }
+}
+
+void PropertyBrowser::ShowCurrent() {
+    const int row = table_->currentIndex().row();
+    if (row < 0 || row >= model_.rowCount()) {
+        help_->clear();
+        return;
+    }
+    const PropertyRow& current = model_.Row(row);
+    const QString help = qt::ToQString(current.help);
+    help_->setText(qt::ToQString(current.name) + u'\n' + help);
+    if (!isRefreshing_) {
+        wanted_ = current.name;
+        notice_->Say({});
+    }
+}
+
+QString PropertyBrowser::DescribeSelection() const {
+    const std::vector<LiveControl*>& selected = design_.Selected();
+    if (selected.size() > 1) {
+        return tr("%n controls", nullptr, static_cast<int>(selected.size()));
+    }
+    if (selected.empty()) {
+        const forms::Block& form = design_.Document().Root();
+        return DescribeBlock(form.Name(), form.ClassName());
+    }
+    return DescribeBlock(selected.front()->Name(), selected.front()->Block().ClassName());
+}
+
+// ---- Changing values
+
+QString PropertyBrowser::TryToAssign(int row, const Value& value) {
+    const QScopedValueRollback assigning(isAssigning_, true);
+    const PropertyRow& changed = model_.Row(row);
+    return RefusalOf([&] {
+        const auto* text = std::get_if<Text>(&value);
+        const bool isFontText = changed.kind == SettingKind::Font && text != nullptr;
+        list_.Assign(static_cast<std::size_t>(row),
+                     isFontText ? ObjectRef(FontFromText(*text, FontOf(changed))) : value);
+    });
+}
+
+void PropertyBrowser::Assign(int row, const Value& value) {
+    wanted_ = model_.Row(row).name;
+    const QString refusal = TryToAssign(row, value);
+    Refresh();
+    const QString before = qt::ToQString(wanted_) + QStringLiteral(": ");
+    notice_->Say(refusal.isEmpty() || refusal.startsWith(before) ? refusal : before + refusal);
+}
+
+void PropertyBrowser::AssignTo(const Text& name, const Value& value) {
+    const int row = model_.Find(name);
+    if (row >= 0 && model_.Row(row).canSet) {
+        Assign(row, value);
+    }
+}
+
+bool PropertyBrowser::Edit(TextView property) {
+    const int row = model_.Find(property);
+    if (row < 0) {
+        return false;
+    }
+    table_->setFocus();
+    table_->GoTo(row);
+    table_->EditCurrent();
+    return true;
+}
+
+// ---- Windows of their own
+
+void PropertyBrowser::OpenMore(int row) {
+    if (row < 0 || row >= model_.rowCount()) {
+        return;
+    }
+    const PropertyRow& wanted = model_.Row(row);
+    if (wanted.kind == SettingKind::Choice) {
+        table_->EditCurrent();
+        if (auto* const box = table_->findChild<ChoiceBox*>()) {
+            box->showPopup();
+        }
+    } else if (!HasMore(wanted)) {
+        table_->EditCurrent();
+    } else if (wanted.isOnPage && Page() != nullptr) {
+        EditWithPage();
+    } else if (wanted.kind == SettingKind::Color) {
+        OpenColors(wanted);
+    } else if (wanted.kind == SettingKind::Font) {
+        OpenFonts(wanted);
+    } else {
+        OpenText(wanted);
+    }
+}
+
+void PropertyBrowser::OpenText(const PropertyRow& row) {
+    const auto lines =
+        row.kind == SettingKind::Items ? TextDialog::Lines::Items : TextDialog::Lines::Breaks;
+    const Text former = EditedValue(row);
+    auto* const dialog = new TextDialog(qt::ToQString(row.name), former, lines, this);
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    connect(dialog, &QDialog::accepted, this, [this, dialog, former, name = row.name] {
+        if (dialog->Result() != former) {
+            AssignTo(name, dialog->Result());
+        }
+    });
+    dialog->open();
+}
+
+void PropertyBrowser::OpenColors(const PropertyRow& row) {
+    const auto former = HasColor(row) ? std::optional(ToColor(*row.value)) : std::nullopt;
+    auto* const dialog = new ColorDialog(qt::ToQString(row.name), former, this);
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    connect(dialog, &QDialog::accepted, this, [this, dialog, former, name = row.name] {
+        const std::optional<Color> chosen = dialog->Result();
+        if (chosen && chosen != former) {
+            AssignTo(name, FromColor(*chosen));
+        }
+    });
+    dialog->open();
+}
+
+void PropertyBrowser::OpenFonts(const PropertyRow& row) {
+    ChooseFont(*this, qt::ToQString(row.name), FontOf(row),
+               [this, name = row.name](const std::shared_ptr<qt::Font>& font) {
+                   AssignTo(name, ObjectRef(font));
+               });
+}
+
+const ClassDescriptor* PropertyBrowser::Page() const {
+    const std::vector<LiveControl*>& selected = design_.Selected();
+    const ClassTable& classes = design_.Context().classes;
+    TextView name;
+    for (const LiveControl* control : selected) {
+        const TextView page =
+            control->Own() == nullptr ? TextView() : control->Own()->Type().propertyPage;
+        if (page.empty() || (!name.empty() && page != name)) {
+            return nullptr;
+        }
+        name = page;
+    }
+    const auto found = std::ranges::find(classes.classes, name, &ClassDescriptor::name);
+    return found == classes.classes.end() ? nullptr : &*found;
+}
+
+PageDialog* PropertyBrowser::EditWithPage() {
+    const ClassDescriptor* page = Page();
+    if (page == nullptr) {
+        return nullptr;
+    }
+    PageDialog* dialog = nullptr;
+    notice_->Say(RefusalOf([&] {
+        dialog = new PageDialog(design_, messages_, *page, design_.SelectedNames(), this);
+        dialog->setAttribute(Qt::WA_DeleteOnClose);
+        dialog->show();
+    }));
+    return dialog;
+}
+
+}  // namespace lumenkit::form

@@ -1,0 +1,211 @@
+#include "apps/lumenform/design/properties/property_delegate.h"
+
+#include <QApplication>
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QPainter>
+#include <algorithm>
+
+#include "apps/lumenform/design/properties/choice_box.h"
+#include "apps/lumenform/design/properties/color_text.h"
+#include "apps/lumenform/design/properties/swatch.h"
+#include "apps/lumenform/design/properties/value_editor.h"
+#include "runtime/qt/palette_color.h"
+#include "runtime/qt/qt_text.h"
+
+namespace lumenkit::form {
+
+namespace {
+
+bool HasControlCharacters(TextView text) {
+    return std::ranges::any_of(text, [](char16_t unit) { return unit < blank; });
+}
+
+// What a line was edited to, as the property takes it.
+Value TypedValue(const PropertyRow& row, const QString& text) {
+    return row.kind == SettingKind::Color ? ColorFromText(qt::ViewOf(text))
+                                          : Value(qt::ToText(text));
+}
+
+}  // namespace
+
+bool HasMore(const PropertyRow& row) {
+    if (!row.canSet || row.kind == SettingKind::Choice) {
+        return false;
+    }
+    const bool isPlain = row.kind == SettingKind::Text || row.kind == SettingKind::Number;
+    return !isPlain || row.isOnPage || HasControlCharacters(EditedValue(row));
+}
+
+PropertyDelegate::PropertyDelegate(const PropertyModel& model, QObject* parent)
+    : QStyledItemDelegate(parent), model_(model) {}
+
+// ---- Drawing
+
+void PropertyDelegate::initStyleOption(QStyleOptionViewItem* option,
+                                       const QModelIndex& index) const {
+    QStyledItemDelegate::initStyleOption(option, index);
+    const PropertyRow& row = model_.Row(index.row());
+    if (!row.canSet) {
+        option->palette.setColor(QPalette::Text,
+                                 option->palette.color(QPalette::Disabled, QPalette::Text));
+    }
+    const bool hasColor =
+        row.kind == SettingKind::Color && row.value && !std::holds_alternative<Empty>(*row.value);
+    if (index.column() == PropertyModel::ValueColumn && hasColor) {
+        const int side = option->fontMetrics.ascent();
+        const QColor color = qt::ToQColor(ToColor(*row.value), option->widget->palette());
+        option->features |= QStyleOptionViewItem::HasDecoration;
+        option->decorationSize = {side + side / 2, side};
+        option->icon = Swatch(color, option->decorationSize, option->widget->devicePixelRatioF());
+    }
+}
+
+// ---- Editors
+
+QWidget* PropertyDelegate::createEditor(QWidget* parent, const QStyleOptionViewItem& /*option*/,
+                                        const QModelIndex& index) const {
+    const PropertyRow& row = model_.Row(index.row());
+    QWidget* const editor = row.kind == SettingKind::Choice
+                                ? NewChoiceBox(parent, row)
+                                : NewValueEditor(parent, row, index.row());
+    editor->setAccessibleName(qt::ToQString(row.name));
+    editor->setAccessibleDescription(qt::ToQString(row.help));
+    return editor;
+}
+
+QWidget* PropertyDelegate::NewChoiceBox(QWidget* parent, const PropertyRow& row) const {
+    auto* const box = new ChoiceBox(parent);
+    for (const Choice& choice : row.choices) {
+        box->addItem(qt::ToQString(choice.label));
+    }
+    box->setCurrentText(qt::ToQString(EditedValue(row)));
+    if (box->currentText() != qt::ToQString(EditedValue(row))) {
+        box->setCurrentIndex(-1);
+    }
+    connect(box, &ChoiceBox::Picked, this, [this, box] { Finish(box); });
+    return box;
+}
+
+QWidget* PropertyDelegate::NewValueEditor(QWidget* parent, const PropertyRow& row,
+                                          int index) const {
+    auto* const editor = new ValueEditor(HasMore(row), parent);
+    editor->Line().installEventFilter(const_cast<PropertyDelegate*>(this));
+    editor->Line().setAccessibleName(qt::ToQString(row.name));
+    editor->Line().setAccessibleDescription(qt::ToQString(row.help));
+    // A line cannot hold line breaks.
+    editor->Line().setReadOnly(HasControlCharacters(EditedValue(row)));
+    connect(editor, &ValueEditor::MoreWanted, this, [this, editor, index] {
+        Finish(editor);
+        Q_EMIT MoreWanted(index);
+    });
+    return editor;
+}
+
+void PropertyDelegate::setEditorData(QWidget* editor, const QModelIndex& index) const {
+    auto* const typed = qobject_cast<ValueEditor*>(editor);
+    if (typed == nullptr || typed->IsModified()) {
+        return;
+    }
+    const PropertyRow& row = model_.Row(index.row());
+    typed->Line().setText(
+        qt::ToQString(typed->Line().isReadOnly() ? ShownValue(row) : EditedValue(row)));
+}
+
+void PropertyDelegate::setModelData(QWidget* editor, QAbstractItemModel* /*model*/,
+                                    const QModelIndex& index) const {
+    const PropertyRow& row = model_.Row(index.row());
+    if (const auto* box = qobject_cast<ChoiceBox*>(editor)) {
+        const int chosen = box->currentIndex();
+        if (chosen >= 0 && box->currentText() != qt::ToQString(EditedValue(row))) {
+            const Value value = row.choices[static_cast<std::size_t>(chosen)].value;
+            Q_EMIT Changed(index.row(), value);
+        }
+    } else if (const auto* typed = qobject_cast<ValueEditor*>(editor);
+               typed != nullptr && typed->IsModified()) {
+        const QString text = typed->Line().text();
+        if (!row.value || text != qt::ToQString(EditedValue(row))) {
+            Q_EMIT Changed(index.row(), TypedValue(row, text));
+        }
+    }
+}
+
+void PropertyDelegate::updateEditorGeometry(QWidget* editor, const QStyleOptionViewItem& option,
+                                            const QModelIndex& /*index*/) const {
+    editor->setGeometry(option.rect);
+}
+
+void PropertyDelegate::Close(QWidget* editor) const {
+    auto* const self = const_cast<PropertyDelegate*>(this);
+    if (const auto* typed = qobject_cast<ValueEditor*>(editor)) {
+        typed->Line().removeEventFilter(self);  // it is left once
+    }
+    Q_EMIT self->closeEditor(editor);
+}
+
+void PropertyDelegate::Finish(QWidget* editor) const {
+    Q_EMIT const_cast<PropertyDelegate*>(this)->commitData(editor);
+    Close(editor);
+}
+
+// ---- Keys and focus of lines
+
+bool PropertyDelegate::HandleKey(ValueEditor& editor, const QKeyEvent& event) {
+    const bool isAlt = event.modifiers().testFlag(Qt::AltModifier);
+    switch (event.key()) {
+        case Qt::Key_Escape:
+            Close(&editor);
+            return true;
+        case Qt::Key_Return:
+        case Qt::Key_Enter:
+            Finish(&editor);
+            return true;
+        case Qt::Key_F4:
+        case Qt::Key_Down:
+            if ((isAlt || event.key() == Qt::Key_F4)) {
+                if (editor.HasMore()) {
+                    Q_EMIT editor.MoreWanted();
+                }
+                return true;
+            }
+            [[fallthrough]];
+        case Qt::Key_Up:
+        case Qt::Key_Tab:
+        case Qt::Key_Backtab: {
+            const bool isBack = event.key() == Qt::Key_Up || event.key() == Qt::Key_Backtab;
+            Finish(&editor);
+            Q_EMIT StepWanted(isBack ? -1 : 1);
+            return true;
+        }
+        default:
+            return false;
+    }
+}
+
+bool PropertyDelegate::eventFilter(QObject* object, QEvent* event) {
+    auto* const line = qobject_cast<QLineEdit*>(object);
+    auto* const editor =
+        line == nullptr ? nullptr : qobject_cast<ValueEditor*>(line->parentWidget());
+    if (editor == nullptr) {
+        return QStyledItemDelegate::eventFilter(object, event);
+    }
+    switch (event->type()) {
+        case QEvent::ShortcutOverride:
+            if (static_cast<QKeyEvent*>(event)->key() == Qt::Key_Escape) {
+                event->accept();
+            }
+            return false;
+        case QEvent::KeyPress:
+            return HandleKey(*editor, *static_cast<QKeyEvent*>(event));
+        case QEvent::FocusOut:
+            // A menu of the line's own is no leaving.
+            if (QApplication::activePopupWidget() == nullptr) {
+                Finish(editor);
+            }
+            return false;
+        default:
+            return false;
+    }
+}
+
+}  // namespace lumenkit::form

@@ -1,0 +1,71 @@
+#include "apps/lumenform/design/properties/text_dialog.h"
+
+#include <QDialogButtonBox>
+#include <QKeySequence>
+#include <QLabel>
+#include <QShortcut>
+#include <QTextDocument>
+#include <QVBoxLayout>
+#include <algorithm>
+#include <utility>
+
+#include "runtime/qt/qt_text.h"
+
+namespace lumenkit::form {
+
+namespace {
+
+Text DividerOf(TextView text, TextDialog::Lines lines) {
+    const bool hasBreaks = text.find_first_of(u"\r\n") != TextView::npos;
+    if (lines == TextDialog::Lines::Items && !hasBreaks) {
+        return u"|";
+    }
+    const bool hasBareBreaks =
+        text.find(u'\n') != TextView::npos && text.find(crLf) == TextView::npos;
+    return hasBareBreaks ? Text(u"\n") : Text(crLf);
+}
+
+}  // namespace
+
+TextDialog::TextDialog(const QString& title, Text text, Lines lines, QWidget* parent)
+    : QDialog(parent),
+      text_(std::move(text)),
+      divider_(DividerOf(text_, lines)),
+      edit_(new QPlainTextEdit(this)) {
+    setWindowTitle(title);
+    const bool isItems = divider_ == u"|";
+    edit_->setTabChangesFocus(true);
+    edit_->setAccessibleName(title);
+    edit_->setLineWrapMode(isItems ? QPlainTextEdit::NoWrap : QPlainTextEdit::WidgetWidth);
+    edit_->setPlainText(
+        qt::ToQString(text_).replace(qt::ToQString(divider_), QStringLiteral("\n")));
+    edit_->moveCursor(QTextCursor::End);
+    auto* const buttons =
+        new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);
+    connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
+    connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
+    connect(new QShortcut(QKeySequence(Qt::CTRL | Qt::Key_Return), this), &QShortcut::activated,
+            this, &QDialog::accept);
+    auto* const layout = new QVBoxLayout(this);
+    layout->addWidget(edit_);
+    layout->addWidget(new QLabel(
+        isItems ? tr("One item a line: value;caption. Ctrl+Enter: OK") : tr("Ctrl+Enter: OK"),
+        this));
+    layout->addWidget(buttons);
+    const QFontMetrics metrics = edit_->fontMetrics();
+    constexpr int columns = 60;
+    constexpr int rows = 14;
+    resize(metrics.averageCharWidth() * columns, metrics.height() * rows);
+}
+
+Text TextDialog::Result() const {
+    if (!edit_->document()->isModified()) {
+        return text_;
+    }
+    // Unlike its plain text, this keeps what is no plain blank.
+    QString now = edit_->document()->toRawText();
+    now.replace(QChar::ParagraphSeparator, qt::ToQString(divider_));
+    return qt::ToText(now);
+}
+
+}  // namespace lumenkit::form

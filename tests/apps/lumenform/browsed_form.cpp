@@ -1,0 +1,95 @@
+#include "tests/apps/lumenform/browsed_form.h"
+
+#include <QApplication>
+#include <QComboBox>
+#include <QLineEdit>
+#include <QTest>
+#include <stdexcept>
+
+#include "frame/utf8.h"
+#include "project/lumenkit_classes.h"
+
+namespace lumenkit::testing {
+
+BrowsedForm::BrowsedForm(forms::Document document)
+    : messages(interaction),
+      application(lumenkitClasses),
+      context{.classes = lumenkitClasses,
+              .application = application,
+              .interaction = messages,
+              .errors = [this](const RuntimeError& error) { errors.push_back(error); }},
+      design(context, std::move(document)),
+      browser(new form::PropertyBrowser(design, messages)) {
+    window.setCentralWidget(browser);
+    window.resize(360, 600);
+    window.show();
+    QApplication::setActiveWindow(&window);
+    static_cast<void>(QTest::qWaitForWindowActive(&window));
+    browser->setFocus();
+}
+
+int BrowsedForm::Row(TextView property) const {
+    const int row = browser->Model().Find(property);
+    if (row < 0) {
+        throw std::out_of_range("no property " + ToUtf8(property));
+    }
+    return row;
+}
+
+std::string BrowsedForm::Shown(TextView property) const {
+    const form::PropertyModel& model = browser->Model();
+    return model.index(Row(property), form::PropertyModel::ValueColumn)
+        .data()
+        .toString()
+        .toStdString();
+}
+
+bool BrowsedForm::CanEdit(TextView property) const {
+    return browser->Model()
+        .index(Row(property), form::PropertyModel::ValueColumn)
+        .flags()
+        .testFlag(Qt::ItemIsEditable);
+}
+
+void BrowsedForm::Type(TextView property, const std::string& text) {
+    form::PropertyTable& table = browser->Table();
+    table.setFocus();
+    table.GoTo(Row(property));
+    QTest::keyClick(&table, Qt::Key_F2);
+    auto* const line = qobject_cast<QLineEdit*>(QApplication::focusWidget());
+    if (line == nullptr) {
+        throw std::logic_error("no line to type into for " + ToUtf8(property));
+    }
+    QTest::keyClick(line, Qt::Key_A, Qt::ControlModifier);
+    QTest::keyClick(line, Qt::Key_Delete);
+    QTest::keyClicks(line, QString::fromStdString(text));
+    QTest::keyClick(line, Qt::Key_Return);
+}
+
+void BrowsedForm::Choose(TextView property, const std::string& label) {
+    form::PropertyTable& table = browser->Table();
+    table.setFocus();
+    table.GoTo(Row(property));
+    QTest::keyClick(&table, Qt::Key_F2);
+    auto* const box = qobject_cast<QComboBox*>(QApplication::focusWidget());
+    if (box == nullptr) {
+        throw std::logic_error("no box to choose from for " + ToUtf8(property));
+    }
+    QTest::keyClicks(box, QString::fromStdString(label));
+    QTest::keyClick(box, Qt::Key_Return);
+    QApplication::processEvents();  // which is when boxes give what was chosen
+}
+
+void BrowsedForm::PressMore(TextView property) const {
+    form::PropertyTable& table = browser->Table();
+    table.setFocus();
+    table.GoTo(Row(property));
+    QTest::keyClick(&table, Qt::Key_F4);
+    QApplication::processEvents();
+}
+
+Object& BrowsedForm::Automation(TextView control) const {
+    return design.View().Find(control)->Own()->Automation();
+}
+
+}  // namespace lumenkit::testing
