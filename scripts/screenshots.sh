@@ -10,4 +10,9 @@ python3 scripts/draw_captions.py "$lumenform" docs/caption-language.md
 for form in docs/images/*.frm; do
     "$lumenform" render "$form" -o "${form%.frm}.png" --scale 2
 done
+
+scripts/run-ocx.sh --picture >/dev/null
+# Without the time at which it was taken, so that the same picture is the same file.
+convert build/run/ocx.png -strip -define png:exclude-chunks=date,time docs/images/lumenkit-ocx.png
+
 git --no-pager diff --stat -- docs
