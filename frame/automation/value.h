@@ -24,12 +24,14 @@ struct Null {
 /// An argument that the caller left out; using it raises 449.
 struct Missing {
     Missing() = default;
+    ~Missing() = default;
     // Not trivial: a Value of nothing but trivial types and texts is one to g++ 12 whose copying
     // cannot fail, and when memory runs out over a text it destroys what was not made.
+    // NOLINTNEXTLINE(modernize-use-equals-default)
     Missing(const Missing& /*other*/) noexcept {}
-    Missing& operator=(const Missing& other) noexcept = default;
-    ~Missing() = default;
-    friend bool operator==(Missing, Missing) = default;
+    Missing& operator=(const Missing& /*other*/) noexcept = default;
+
+    friend bool operator==(const Missing&, const Missing&) = default;
 };
 
 using Value = std::variant<Empty, Null, Missing, bool, std::int16_t, std::int32_t, float, double,
