@@ -93,6 +93,7 @@ void ColorDialog::FillPalette() {
     palette_->setAccessibleName(tr("Palette"));
     palette_->setViewMode(QListView::IconMode);
     palette_->setMovement(QListView::Static);
+    palette_->setResizeMode(QListView::Adjust);
     palette_->setUniformItemSizes(true);
     palette_->setIconSize(size);
     palette_->setGridSize(size + QSize(gap, gap));
@@ -102,8 +103,8 @@ void ColorDialog::FillPalette() {
     }
     const int frame = 2 * palette_->frameWidth();
     const int bar = palette_->style()->pixelMetric(QStyle::PM_ScrollBarExtent);
-    palette_->setMinimumSize((side + gap) * columns + frame + bar,
-                             (side + gap) * palette_->count() / columns + frame + gap);
+    palette_->setMinimumSize((side + gap) * columns + frame + bar + 2 * gap,
+                             (side + gap) * palette_->count() / columns + frame + 2 * gap);
 }
 
 void ColorDialog::ShowChosen(std::optional<Color> color) {

@@ -34,9 +34,8 @@ void PropertyTable::FitRows() {
     constexpr int padding = 8;
     verticalHeader()->setMinimumSectionSize(0);
     verticalHeader()->setDefaultSectionSize(fontMetrics().height() + padding);
-    constexpr int longestName = 17;
-    horizontalHeader()->resizeSection(PropertyModel::NameColumn,
-                                      fontMetrics().averageCharWidth() * longestName);
+    const int longestName = fontMetrics().horizontalAdvance(QStringLiteral("CausesValidation"));
+    horizontalHeader()->resizeSection(PropertyModel::NameColumn, longestName + 2 * padding);
 }
 
 void PropertyTable::changeEvent(QEvent* event) {
