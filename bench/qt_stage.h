@@ -23,6 +23,7 @@ class QtStage final : public qt::ControlSite,
  public:
     QtStage();
 
+    const qt::Context& Context() const { return context_; }
     /// A started control of the class ("VLabel") on the window, at that place (twips); saved
     /// settings make a saved one. It must not outlive the stage.
     std::unique_ptr<qt::ControlWidget> Place(TextView className, const host::Placement& placement,
