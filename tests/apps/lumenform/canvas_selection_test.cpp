@@ -1,4 +1,5 @@
 // What mouse and keyboard select on the canvas.
+#include <QAbstractButton>
 #include <QAction>
 #include <QApplication>
 #include <QContextMenuEvent>
@@ -193,6 +194,29 @@ TEST(CanvasSelection, NothingReachesTheControls) {
     EXPECT_EQ(QApplication::focusWidget(), &canvas.canvas->GetGlass());
     EXPECT_EQ(canvas.design.History().count(), 0);
     EXPECT_EQ(canvas.Saved(), FormWith(form).Write().form);
+}
+
+TEST(CanvasSelection, KeysOfTheFormAreNotThoseOfTheDesigner) {
+    DesignedForm canvas(
+        "   Begin VB.Menu mnuEdit\n Caption = \"&Edit\"\n"
+        "      Begin VB.Menu mnuCut\n Caption = \"Cut\"\n Shortcut = ^X\n End\n"
+        "   End\n"
+        "   Begin VB.CheckBox C\n Caption = \"&Check\"\n End\n"
+        "   Begin lumenkit.VOptList O\n Contents = \"1;&One|2;&Two\"\n ListIndex = 0\n"
+        "      Top = 600\n Width = 1200\n Height = 900\n End\n");
+    int cuts = 0;
+    QAction cut;
+    cut.setShortcut(QKeySequence::Cut);
+    QObject::connect(&cut, &QAction::triggered, [&] { ++cuts; });
+    canvas.window.addAction(&cut);
+    const std::string before = canvas.Saved();
+    canvas.Key(Qt::Key_C, Qt::AltModifier);
+    canvas.Key(Qt::Key_T, Qt::AltModifier);
+    canvas.Key(Qt::Key_X, Qt::ControlModifier);
+    EXPECT_EQ(cuts, 1);
+    EXPECT_FALSE(dynamic_cast<QAbstractButton&>(canvas.Control(u"C").Widget()).isChecked());
+    canvas.design.View().Save();
+    EXPECT_EQ(canvas.Saved(), before);
 }
 
 }  // namespace

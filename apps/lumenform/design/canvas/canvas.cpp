@@ -5,15 +5,19 @@
 namespace lumenkit::form {
 
 Canvas::Canvas(Design& design, QWidget* parent)
-    : QScrollArea(parent), design_(design), dots_(grid_), desk_(new Desk) {
+    : QScrollArea(parent),
+      design_(design),
+      dots_(grid_),
+      desk_(new Desk),
+      glass_(new Glass(design, grid_, *desk_)) {
     setWidgetResizable(true);
     setFrameStyle(QFrame::NoFrame);
     desk_->Show(design.View());
-    glass_ = new Glass(design, grid_, *desk_);
     desk_->SetCover(*glass_);
     setWidget(desk_);
     setFocusProxy(glass_);
     dots_.Follow(design.View());
+    glass_->FollowView();
     connect(&design, &Design::ViewReplaced, this, &Canvas::FollowView);
     ConnectGlass();
 }

@@ -40,7 +40,8 @@ Desk::~Desk() {
 
 void Desk::Show(FormView& view) {
     view_ = &view;
-    view.setParent(this);
+    // A window within the window: its keys and mnemonics are live only while it has the keyboard.
+    view.setParent(this, Qt::SubWindow);
     view.lower();
     view.layout()->activate();
     view.installEventFilter(this);

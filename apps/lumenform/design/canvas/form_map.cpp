@@ -1,7 +1,6 @@
 #include "apps/lumenform/design/canvas/form_map.h"
 
 #include <algorithm>
-#include <ranges>
 
 #include "apps/lumenform/design/model/arrange.h"
 
@@ -12,16 +11,17 @@ namespace {
 // The innermost widget at a point of `widget`. QWidget::childAt passes over what the mouse does
 // not reach.
 const QWidget& InnermostAt(const QWidget& widget, QPoint at) {
-    for (const QObject* child : widget.children() | std::views::reverse) {
-        if (!child->isWidgetType()) {
-            continue;
-        }
-        const auto& inner = *static_cast<const QWidget*>(child);
-        if (!inner.isHidden() && inner.geometry().contains(at)) {
-            return InnermostAt(inner, at - inner.pos());
-        }
+    const QObjectList& children = widget.children();
+    const auto liesThere = [at](const QObject* child) {
+        const auto* const inner = qobject_cast<const QWidget*>(child);
+        return inner != nullptr && !inner->isHidden() && inner->geometry().contains(at);
+    };
+    const auto found = std::find_if(children.rbegin(), children.rend(), liesThere);
+    if (found == children.rend()) {
+        return widget;
     }
-    return widget;
+    const auto& inner = *qobject_cast<const QWidget*>(*found);
+    return InnermostAt(inner, at - inner.pos());
 }
 
 }  // namespace

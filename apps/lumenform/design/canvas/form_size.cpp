@@ -56,10 +56,9 @@ void ResizeForm(Design& design, FormSize size) {
     const qt::TwipsPerPixel& twips = qt::TwipsPerPixel::OfScreens();
     size.width = std::max(size.width, static_cast<float>(twips.x));
     size.height = std::max(size.height, static_cast<float>(twips.y));
-    const std::vector<Text> selected = design.SelectedNames();
     design.Restructure(SizeFormTitle(), [&] {
         Store(ReaderOf(design), size);
-        return selected;
+        return design.SelectedNames();
     });
 }
 

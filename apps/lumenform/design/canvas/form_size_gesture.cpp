@@ -8,12 +8,21 @@
 
 namespace lumenkit::form {
 
-FormSizeGesture::FormSizeGesture(const Ground& ground, Edges edges, QPoint pressedAt)
-    : ground_(ground), edges_(edges), pressedAt_(pressedAt) {
-    const FormSize size = ClientSizeOf(ground.design);
-    former_ = {.width = size.width, .height = size.height};
-    place_ = former_;
+namespace {
+
+host::Placement InsideOfForm(const Design& design) {
+    const FormSize size = ClientSizeOf(design);
+    return {.width = size.width, .height = size.height};
 }
+
+}  // namespace
+
+FormSizeGesture::FormSizeGesture(const Ground& ground, Edges edges, QPoint pressedAt)
+    : ground_(ground),
+      edges_(edges),
+      pressedAt_(pressedAt),
+      former_(InsideOfForm(ground.design)),
+      place_(former_) {}
 
 void FormSizeGesture::DragTo(QPoint at, bool snaps) {
     const qt::TwipsPerPixel& twips = qt::TwipsPerPixel::OfScreens();
@@ -37,7 +46,7 @@ void FormSizeGesture::Cancel() {
     Show(former_);
 }
 
-void FormSizeGesture::Show(const host::Placement& place) {
+void FormSizeGesture::Show(const host::Placement& place) const {
     FormView& view = ground_.design.View();
     view.Client().setFixedSize(qt::ToPixels(place).size().expandedTo(QSize(1, 1)));
     view.layout()->activate();

@@ -17,12 +17,12 @@ class FormSizeGesture final : public Gesture {
     std::optional<host::Placement> Place() const override { return place_; }
 
  private:
-    void Show(const host::Placement& place);
+    void Show(const host::Placement& place) const;
 
     Ground ground_;
     Edges edges_;
     QPoint pressedAt_;
-    host::Placement former_;
+    host::Placement former_;  // of the inside, from 0, 0
     host::Placement place_;
 };
 

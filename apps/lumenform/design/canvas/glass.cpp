@@ -47,7 +47,6 @@ Glass::Glass(Design& design, const Grid& grid, QWidget& desk)
     connect(&design, &Design::SelectionChanged, this, &Glass::TellSelection);
     // Whatever changed the form in the middle of a drag, undo for one, has the last word.
     connect(&design, &Design::Edited, this, &Glass::DropGesture);
-    FollowView();
 }
 
 Glass::~Glass() = default;
@@ -371,11 +370,11 @@ QRegion Glass::Marks() const {
         return badges_.Region();
     }
     if (design_.Selected().empty()) {
-        return RegionOf(FormHandlesOf(map_.ClientRect()));
+        return BoundsOf(FormHandlesOf(map_.ClientRect()));
     }
     QRegion region;
     for (const LiveControl* control : design_.Selected()) {
-        region += RegionOf(HandlesOf(map_.RectOf(*control)));
+        region += BoundsOf(HandlesOf(map_.RectOf(*control)));
     }
     return region;
 }

@@ -70,7 +70,7 @@ class Glass final : public QWidget {
         std::function<void()> click;
     };
     struct Grip {
-        LiveControl* control;  // null: the form
+        LiveControl* control = nullptr;  // the form
         Edges edges;
     };
 

@@ -59,12 +59,12 @@ std::optional<Edges> EdgesAt(const std::vector<Handle>& handles, QPoint at) {
     return found == handles.end() ? std::nullopt : std::optional(found->edges);
 }
 
-QRegion RegionOf(const std::vector<Handle>& handles) {
-    QRegion region;
+QRect BoundsOf(const std::vector<Handle>& handles) {
+    QRect bounds;
     for (const Handle& handle : handles) {
-        region += handle.rect;
+        bounds |= handle.rect;
     }
-    return region;
+    return bounds;
 }
 
 Qt::CursorShape CursorFor(Edges edges) {

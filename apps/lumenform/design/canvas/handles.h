@@ -3,7 +3,6 @@
 
 #include <QPainter>
 #include <QRect>
-#include <QRegion>
 #include <optional>
 #include <vector>
 
@@ -23,7 +22,8 @@ std::vector<Handle> FormHandlesOf(const QRect& client);
 
 /// What a pointer there takes hold of.
 std::optional<Edges> EdgesAt(const std::vector<Handle>& handles, QPoint at);
-QRegion RegionOf(const std::vector<Handle>& handles);
+/// What all of them lie in: one rectangle is repainted faster than the few pixels of each of them.
+QRect BoundsOf(const std::vector<Handle>& handles);
 Qt::CursorShape CursorFor(Edges edges);
 
 /// Filled ones are those of what the others are aligned with.

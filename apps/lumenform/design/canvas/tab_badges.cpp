@@ -11,10 +11,9 @@ void TabBadges::Number(const LiveControl& control) {
     if (!control.TabIndex()) {
         return;
     }
-    const std::vector<Text> selected = design_.SelectedNames();
     design_.Restructure(TabOrderTitle(), [&] {
         GiveTurn(design_.Document(), control.Block(), next_);
-        return selected;
+        return design_.SelectedNames();
     });
     ++next_;
 }
