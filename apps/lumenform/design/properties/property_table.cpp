@@ -21,13 +21,17 @@ PropertyTable::PropertyTable(QWidget* parent) : QTableView(parent) {
     horizontalHeader()->setStretchLastSection(true);
     horizontalHeader()->setHighlightSections(false);
     horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
-    FitRows();
     connect(this, &QTableView::clicked, this, [this](const QModelIndex& index) {
         GoTo(index.row());
         if (index.column() == PropertyModel::ValueColumn) {
             EditCurrent();
         }
     });
+}
+
+void PropertyTable::setModel(QAbstractItemModel* model) {
+    QTableView::setModel(model);
+    FitRows();  // which needs the columns
 }
 
 void PropertyTable::FitRows() {

@@ -11,6 +11,7 @@ class PropertyTable final : public QTableView {
  public:
     explicit PropertyTable(QWidget* parent);
 
+    void setModel(QAbstractItemModel* model) override;
     /// Makes a row the current one; one beyond the ends is the first or the last.
     void GoTo(int row);
     /// Starts editing the value of the current row, if it can be edited.
