@@ -4,6 +4,7 @@
 
 #include <CLI/CLI.hpp>
 
+#include "apps/lumenform/design_command.h"
 #include "apps/lumenform/new_command.h"
 #include "apps/lumenform/render_command.h"
 #include "apps/lumenform/run_command.h"
@@ -14,19 +15,22 @@ namespace lumenkit::form {
 namespace {
 
 int Run(int argc, char** argv) {
-    CLI::App program("Runs and draws form files with lumenkit's controls.", "lumenform");
+    CLI::App program("Designs, runs and draws form files with lumenkit's controls.", "lumenform");
     program.set_version_flag("--version", LUMENKIT_VERSION);
-    program.require_subcommand(1);
+    program.require_subcommand(0, 1);
     program.footer(
         R"(Exit status: 0 when it is done, 1 when a control reported an error meanwhile, 2 for wrong
 arguments and for files that cannot be read or written.
 
 Examples:
+  lumenform
   lumenform new order.frm
+  lumenform design order.frm
   lumenform run order.frm
   lumenform render order.frm -o order.png --scale 2
   lumenform render --help)");
     int status = cli::exitDone;
+    AddDesignCommand(program, status);
     AddNewCommand(program, status);
     AddRenderCommand(program, status);
     AddRunCommand(program, status);

@@ -6,7 +6,7 @@
 #include <string>
 #include <system_error>
 
-#include "apps/lumenform/new_form.h"
+#include "apps/lumenform/design/model/new_form.h"
 #include "apps/lumenkit/exit_status.h"
 #include "forms/file.h"
 #include "project/lumenkit_classes.h"

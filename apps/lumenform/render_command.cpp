@@ -9,6 +9,7 @@
 #include "apps/lumenform/application_arguments.h"
 #include "apps/lumenform/desktop.h"
 #include "apps/lumenform/form_view/form_view.h"
+#include "apps/lumenform/rendered_design.h"
 #include "apps/lumenkit/code_page_option.h"
 #include "apps/lumenkit/console_host.h"
 #include "apps/lumenkit/exit_status.h"
@@ -28,29 +29,34 @@ struct Options {
     std::string form;
     std::string picture;
     double scale = 1;
+    bool design = false;
+    bool page = false;
     bool dark = false;
     int codePage = forms::defaultCodePage;
 };
 
-void Draw(FormView& view, const Options& options) {
+void RequireRoom(const Options& options, QSize size) {
+    const double area = double{options.scale} * options.scale * size.width() * size.height();
+    if (area > mostPixels) {
+        throw std::runtime_error(options.form + ": the picture would have more than " +
+                                 std::to_string(std::lround(mostPixels / 1e6)) + " million pixels");
+    }
+}
+
+QPixmap FormPicture(const Options& options, const qt::Context& context, forms::Document& document) {
+    FormView view(context, document, Mode::Run);
     QWidget window;  // without the hints about its size that a form has
     view.setParent(&window);
     window.resize(view.sizeHint());
+    RequireRoom(options, view.sizeHint());
     window.show();
     QApplication::processEvents();
     if (QWidget* focus = QApplication::focusWidget()) {
         focus->clearFocus();  // no caret in the picture
     }
-    const double area = double{options.scale} * options.scale * view.width() * view.height();
-    if (area > mostPixels) {
-        throw std::runtime_error(options.form + ": the picture would have more than " +
-                                 std::to_string(std::lround(mostPixels / 1e6)) + " million pixels");
-    }
-    const QPixmap picture = view.grab();
+    QPixmap picture = view.grab();
     view.setParent(nullptr);
-    if (!picture.save(QString::fromLocal8Bit(options.picture), "PNG")) {
-        throw std::runtime_error("cannot write " + options.picture);
-    }
+    return picture;
 }
 
 int Render(const Options& options) {
@@ -63,16 +69,20 @@ int Render(const Options& options) {
     cli::ConsoleHost console;
     const qt::Context context{
         .classes = lumenkitClasses, .application = console, .interaction = console};
-    FormView view(context, document, Mode::Run);
-    Draw(view, options);
+    const QPixmap picture = options.design
+                                ? DesignPicture(context, QString::fromLocal8Bit(options.form),
+                                                options.codePage, options.page)
+                                : FormPicture(options, context, document);
+    if (!picture.save(QString::fromLocal8Bit(options.picture), "PNG")) {
+        throw std::runtime_error("cannot write " + options.picture);
+    }
     return console.HasReported() ? cli::exitReported : cli::exitDone;
 }
 
 }  // namespace
 
 void AddRenderCommand(CLI::App& program, int& status) {
-    CLI::App* const command =
-        program.add_subcommand("render", "Draw a form, as its users see it, into a PNG file");
+    CLI::App* const command = program.add_subcommand("render", "Draw a form into a PNG file");
     const auto options = std::make_shared<Options>();
     command->add_option("FORM", options->form, "The form: .frm, .ctl, .pag or .dob")->required();
     command
@@ -81,6 +91,12 @@ void AddRenderCommand(CLI::App& program, int& status) {
     command->add_option("--scale", options->scale, "Real pixels to a pixel, each way")
         ->capture_default_str()
         ->check(CLI::Range(smallestScale, largestScale));
+    CLI::Option* const design = command->add_flag("--design", options->design,
+                                                  "The designer with the form, not the form alone");
+    command
+        ->add_flag("--page", options->page,
+                   "With the property page of the first control that has one")
+        ->needs(design);
     command->add_flag("--dark", options->dark, "With a dark palette");
     cli::AddCodePageOption(*command, options->codePage);
     command->footer(
@@ -89,7 +105,8 @@ pixels an inch. No display is needed.
 
 Examples:
   lumenform render samples/forms/all_three.frm -o all_three.png
-  lumenform render samples/forms/memo.frm -o memo.png --scale 1.25 --dark)");
+  lumenform render samples/forms/memo.frm -o memo.png --scale 1.25 --dark
+  lumenform render samples/forms/order.frm -o designer.png --design --page)");
     command->callback([options, &status] { status = Render(*options); });
 }
 

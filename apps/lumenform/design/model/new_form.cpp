@@ -1,4 +1,4 @@
-#include "apps/lumenform/new_form.h"
+#include "apps/lumenform/design/model/new_form.h"
 
 #include <algorithm>
 

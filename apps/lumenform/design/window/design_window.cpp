@@ -1,0 +1,325 @@
+#include "apps/lumenform/design/window/design_window.h"
+
+#include <QCloseEvent>
+#include <QDragEnterEvent>
+#include <QFileInfo>
+#include <QMenuBar>
+#include <QMimeData>
+#include <QScreen>
+#include <QStyle>
+#include <QToolBar>
+
+#include "apps/lumenform/design/model/new_form.h"
+#include "apps/lumenform/design/window/form_dialogs.h"
+#include "forms/file.h"
+#include "forms/form_error.h"
+#include "runtime/qt/qt_text.h"
+
+namespace lumenkit::form {
+
+namespace {
+
+constexpr int messageTime = 8000;  // milliseconds
+
+QString GeometryKey() {
+    return QStringLiteral("window/geometry");
+}
+
+// The file that is dropped on the window; empty for anything else.
+QString DroppedFile(const QMimeData& data) {
+    const QList<QUrl> urls = data.urls();
+    return urls.size() == 1 ? urls.front().toLocalFile() : QString();
+}
+
+}  // namespace
+
+DesignWindow::DesignWindow(const Setup& setup)
+    : setup_(setup),
+      messages_(setup.interaction),
+      context_{
+          .classes = setup.classes, .application = setup.application, .interaction = messages_},
+      recent_(setup.settings),
+      pages_(new QStackedWidget),
+      start_(new StartPage),
+      commands_(new FormCommands(*this)),
+      view_(new ViewMenu(setup.settings, this)),
+      status_(new PlaceStatus) {
+    setAcceptDrops(true);
+    setCentralWidget(pages_);
+    setStatusBar(status_);
+    pages_->addWidget(start_);
+    connect(start_, &StartPage::NewWanted, this, &DesignWindow::StartNewUnlessCancelled);
+    connect(start_, &StartPage::OpenWanted, this, &DesignWindow::ChooseAndOpen);
+    connect(start_, &StartPage::RecentWanted, this, &DesignWindow::Open);
+    AddFileMenu();
+    menuBar()->addMenu(&commands_->EditMenu());
+    menuBar()->addMenu(view_);
+    menuBar()->addMenu(&commands_->FormatMenu());
+    AddRunMenu();
+    AddToolBar();
+    ShowStart();
+    constexpr QSize usual(1240, 780);
+    resize(usual.boundedTo(screen()->availableSize()));
+    restoreGeometry(setup.settings.value(GeometryKey()).toByteArray());
+}
+
+DesignWindow::~DesignWindow() {
+    Follow(nullptr);
+}
+
+void DesignWindow::AddFileMenu() {
+    QMenu* const menu = menuBar()->addMenu(tr("&File"));
+    const auto icon = [this](QStyle::StandardPixmap pixmap) {
+        return style()->standardIcon(pixmap);
+    };
+    new_ = menu->addAction(icon(QStyle::SP_FileIcon), tr("&New"), this,
+                           &DesignWindow::StartNewUnlessCancelled);
+    new_->setShortcut(QKeySequence::New);
+    open_ = menu->addAction(icon(QStyle::SP_DialogOpenButton), tr("&Open…"), this,
+                            &DesignWindow::ChooseAndOpen);
+    open_->setShortcut(QKeySequence::Open);
+    recentMenu_ = menu->addMenu(tr("Open &recent"));
+    menu->addSeparator();
+    save_ =
+        menu->addAction(icon(QStyle::SP_DialogSaveButton), tr("&Save"), this, &DesignWindow::Save);
+    save_->setShortcut(QKeySequence::Save);
+    saveAs_ = menu->addAction(tr("Save &as…"), this, &DesignWindow::SaveAs);
+    saveAs_->setShortcut(Qt::CTRL | Qt::SHIFT | Qt::Key_S);
+    menu->addSeparator();
+    close_ = menu->addAction(tr("&Close the form"), this, &DesignWindow::Close);
+    close_->setShortcut(QKeySequence::Close);
+    QAction* const quit = menu->addAction(tr("&Quit"), this, &QWidget::close);
+    quit->setShortcut(Qt::CTRL | Qt::Key_Q);
+    FillRecent();
+}
+
+void DesignWindow::FillRecent() {
+    recentMenu_->clear();
+    const QStringList paths = recent_.Existing();
+    for (const QString& path : paths) {
+        QString shown = path;
+        recentMenu_->addAction(shown.replace(u'&', QStringLiteral("&&")), this,
+                               [this, path] { Open(path); });
+    }
+    recentMenu_->addSeparator();
+    recentMenu_->addAction(tr("&Clear the list"), this, [this] {
+        recent_.Clear();
+        FillRecent();
+    });
+    recentMenu_->setEnabled(!paths.isEmpty());
+    start_->ShowRecent(paths);
+}
+
+void DesignWindow::AddRunMenu() {
+    QMenu* const menu = menuBar()->addMenu(tr("&Run"));
+    runForm_ = menu->addAction(style()->standardIcon(QStyle::SP_MediaPlay), tr("&Run the form"));
+    runForm_->setCheckable(true);
+    runForm_->setShortcut(Qt::Key_F5);
+    runForm_->setToolTip(tr("Try the form out; the same again goes back to the design (F5)"));
+    connect(runForm_, &QAction::triggered, this, &DesignWindow::Run);
+}
+
+void DesignWindow::AddToolBar() {
+    QToolBar* const bar = addToolBar(tr("Tools"));
+    bar->setObjectName(QStringLiteral("tools"));
+    bar->setMovable(false);
+    bar->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+    bar->addActions({new_, open_, save_});
+    bar->addSeparator();
+    commands_->UndoAction().setIcon(style()->standardIcon(QStyle::SP_ArrowBack));
+    commands_->RedoAction().setIcon(style()->standardIcon(QStyle::SP_ArrowForward));
+    bar->addActions({&commands_->UndoAction(), &commands_->RedoAction()});
+    bar->addSeparator();
+    bar->addActions({&commands_->CaptionAction(), &commands_->TabOrderAction(), runForm_});
+}
+
+void DesignWindow::Show(forms::Document document, const FormFile& file) {
+    auto bench = std::make_unique<Workbench>(context_, messages_, std::move(document));
+    Run(false);
+    Follow(nullptr);
+    bench_ = std::move(bench);
+    file_ = file;
+    pages_->addWidget(bench_.get());
+    pages_->setCurrentWidget(bench_.get());
+    Design& design = bench_->GetDesign();
+    connect(&design.History(), &QUndoStack::cleanChanged, this, &DesignWindow::UpdateTitle);
+    connect(&design, &Design::Edited, this, &DesignWindow::UpdateTitle);
+    connect(bench_.get(), &Workbench::Refused, this,
+            [this](const QString& why) { status_->showMessage(why, messageTime); });
+    connect(&bench_->GetCanvas(), &Canvas::MenuRequested, this,
+            [this](QPoint where) { commands_->EditMenu().popup(where); });
+    Follow(bench_.get());
+    bench_->GetCanvas().GetGlass().setFocus();
+}
+
+void DesignWindow::ShowStart() {
+    Run(false);
+    Follow(nullptr);
+    bench_.reset();
+    file_ = {};
+    pages_->setCurrentWidget(start_);
+    UpdateTitle();
+}
+
+void DesignWindow::Follow(Workbench* bench) {
+    commands_->Follow(bench);
+    status_->Follow(bench);
+    view_->Follow(bench == nullptr ? nullptr : &bench->GetCanvas());
+    UpdateTitle();
+}
+
+void DesignWindow::Load(const QString& path) {
+    Show(forms::Load(PathOf(path), setup_.codePage), FormFile(path));
+    recent_.Add(path);
+    FillRecent();
+}
+
+void DesignWindow::StartNew() {
+    const std::string name = "Form1";
+    Show(forms::Document::Parse(name + ".frm", NewForm(name, setup_.classes), {}, setup_.codePage),
+         FormFile());
+}
+
+void DesignWindow::Open(const QString& path) {
+    if (!MayLeave()) {
+        return;
+    }
+    try {
+        Load(path);
+    } catch (const forms::FormError& error) {
+        Warn(*this, tr("%1 cannot be opened.").arg(QFileInfo(path).fileName()),
+             QString::fromUtf8(error.what()));
+    }
+}
+
+void DesignWindow::ChooseAndOpen() {
+    const QString folder = file_.HasPath() ? QFileInfo(file_.Path()).path() : QString();
+    if (const QString path = AskForFormToOpen(*this, folder); !path.isEmpty()) {
+        Open(path);
+    }
+}
+
+void DesignWindow::StartNewUnlessCancelled() {
+    if (MayLeave()) {
+        StartNew();
+    }
+}
+
+void DesignWindow::Close() {
+    if (MayLeave()) {
+        ShowStart();
+    }
+}
+
+bool DesignWindow::Save() {
+    if (bench_ == nullptr) {
+        return false;
+    }
+    if (!file_.HasPath()) {
+        return SaveAs();
+    }
+    const bool isMeant = !file_.WasChangedByOthers() || AskWhetherToOverwrite(*this, file_.Path());
+    return isMeant && SaveTo(file_.Path());
+}
+
+bool DesignWindow::SaveAs() {
+    if (bench_ == nullptr) {
+        return false;
+    }
+    const QString proposed = file_.HasPath() ? file_.Path() : FormName();
+    const QString path = AskForPlaceToSave(*this, proposed);
+    return !path.isEmpty() && SaveTo(path);
+}
+
+bool DesignWindow::SaveTo(const QString& path) {
+    try {
+        file_.SaveAs(bench_->GetDesign(), path);
+    } catch (const forms::FormError& error) {
+        Warn(*this, tr("The form was not saved."), QString::fromUtf8(error.what()));
+        return false;
+    }
+    recent_.Add(path);
+    FillRecent();
+    UpdateTitle();
+    status_->showMessage(tr("Saved %1").arg(path), messageTime);
+    return true;
+}
+
+bool DesignWindow::MayLeave() {
+    if (bench_ == nullptr || bench_->GetDesign().History().isClean()) {
+        return true;
+    }
+    switch (AskWhetherToSave(*this, FormName())) {
+        case SaveAnswer::Save:
+            return Save();
+        case SaveAnswer::Discard:
+            return true;
+        case SaveAnswer::Cancel:
+            break;
+    }
+    return false;
+}
+
+void DesignWindow::Run(bool on) {
+    if (on && run_ == nullptr && bench_ != nullptr) {
+        bench_->Try(
+            [this] { run_ = std::make_unique<RunPage>(context_, bench_->GetDesign().Document()); });
+        if (run_ != nullptr) {
+            connect(
+                run_.get(), &RunPage::BackWanted, this, [this] { Run(false); },
+                Qt::QueuedConnection);
+            pages_->addWidget(run_.get());
+            pages_->setCurrentWidget(run_.get());
+            Follow(nullptr);
+            run_->View().FocusFirst();
+        }
+    } else if (!on && run_ != nullptr) {
+        run_.reset();
+        pages_->setCurrentWidget(bench_.get());
+        Follow(bench_.get());
+        bench_->GetCanvas().GetGlass().setFocus();
+    }
+    UpdateTitle();
+}
+
+QString DesignWindow::FormName() const {
+    return file_.HasPath() ? QFileInfo(file_.Path()).fileName()
+                           : qt::ToQString(bench_->GetDesign().Document().Root().Name()) +
+                                 QStringLiteral(".frm");
+}
+
+void DesignWindow::UpdateTitle() {
+    const bool isOpen = bench_ != nullptr;
+    const bool isDesign = isOpen && run_ == nullptr;
+    setWindowTitle(!isOpen           ? tr("lumenform")
+                   : run_ != nullptr ? tr("%1 (running) – lumenform").arg(FormName())
+                                     : tr("%1[*] – lumenform").arg(FormName()));
+    setWindowModified(isOpen && !bench_->GetDesign().History().isClean());
+    save_->setEnabled(isDesign);
+    saveAs_->setEnabled(isDesign);
+    close_->setEnabled(isOpen);
+    runForm_->setEnabled(isOpen);
+    runForm_->setChecked(run_ != nullptr);
+}
+
+void DesignWindow::closeEvent(QCloseEvent* event) {
+    if (MayLeave()) {
+        setup_.settings.setValue(GeometryKey(), saveGeometry());
+        event->accept();
+    } else {
+        event->ignore();
+    }
+}
+
+void DesignWindow::dragEnterEvent(QDragEnterEvent* event) {
+    if (!DroppedFile(*event->mimeData()).isEmpty()) {
+        event->acceptProposedAction();
+    }
+}
+
+void DesignWindow::dropEvent(QDropEvent* event) {
+    event->acceptProposedAction();
+    Open(DroppedFile(*event->mimeData()));
+}
+
+}  // namespace lumenkit::form

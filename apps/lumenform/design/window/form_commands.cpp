@@ -1,0 +1,191 @@
+#include "apps/lumenform/design/window/form_commands.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QMimeData>
+
+#include "apps/lumenform/design/model/arrange.h"
+#include "apps/lumenform/design/model/clipboard.h"
+#include "apps/lumenform/design/model/stacking.h"
+
+namespace lumenkit::form {
+
+namespace {
+
+void Copy(Workbench& bench) {
+    QApplication::clipboard()->setMimeData(CopySelected(bench.GetDesign()).release());
+}
+
+void Cut(Workbench& bench) {
+    Copy(bench);
+    DeleteSelected(bench.GetDesign());
+}
+
+void PasteHere(Workbench& bench) {
+    if (const QMimeData* data = QApplication::clipboard()->mimeData(); HoldsControls(data)) {
+        Paste(bench.GetDesign(), *data);
+    }
+}
+
+void SelectAll(Workbench& bench) {
+    std::vector<LiveControl*> all;
+    for (const auto& control : bench.GetDesign().View().Controls()) {
+        all.push_back(control.get());
+    }
+    bench.GetDesign().Select(std::move(all));
+}
+
+}  // namespace
+
+FormCommands::FormCommands(QWidget& window)
+    : QObject(&window),
+      window_(window),
+      edit_(new QMenu(tr("&Edit"), &window)),
+      format_(new QMenu(tr("F&ormat"), &window)) {
+    FillEdit();
+    FillFormat();
+    connect(QApplication::clipboard(), &QClipboard::dataChanged, this, &FormCommands::Update);
+    Update();
+}
+
+QAction* FormCommands::Add(QMenu& menu, const QString& title, const QKeySequence& keys, Needs needs,
+                           const std::function<void(Workbench&)>& run) {
+    QAction* const action = menu.addAction(title, this, [this, run] {
+        if (workbench_ != nullptr) {
+            workbench_->Try([&] { run(*workbench_); });
+        }
+    });
+    action->setShortcut(keys);
+    commands_.push_back({action, needs});
+    return action;
+}
+
+void FormCommands::FillEdit() {
+    undo_ = history_.createUndoAction(this);
+    undo_->setShortcut(QKeySequence::Undo);
+    redo_ = history_.createRedoAction(this);
+    redo_->setShortcuts(QKeySequence::Redo);
+    edit_->addActions({undo_, redo_});
+    edit_->addSeparator();
+    AddClipboardCommands();
+    edit_->addSeparator();
+    caption_ = Add(*edit_, tr("Ca&ption…"), Qt::CTRL | Qt::Key_Return, Needs::Page,
+                   [](Workbench& bench) { bench.Properties().EditWithPage(); });
+    caption_->setToolTip(tr("Edit the caption with its markup and a live preview"));
+    Add(*edit_, tr("P&roperties"), Qt::Key_F4, Needs::Form,
+        [](Workbench& bench) { bench.Properties().Table().setFocus(); });
+    tabOrder_ = Add(*edit_, tr("Ta&b order"), Qt::CTRL | Qt::Key_T, Needs::Form,
+                    [this](const Workbench& bench) {
+                        bench.GetCanvas().SetTabOrderMode(tabOrder_->isChecked());
+                    });
+    tabOrder_->setCheckable(true);
+    tabOrder_->setToolTip(tr("Click the controls in the order in which Tab goes round them"));
+}
+
+void FormCommands::AddClipboardCommands() {
+    Add(*edit_, tr("Cu&t"), QKeySequence::Cut, Needs::Selection, Cut);
+    Add(*edit_, tr("&Copy"), QKeySequence::Copy, Needs::Selection, Copy);
+    Add(*edit_, tr("&Paste"), QKeySequence::Paste, Needs::Clipboard, PasteHere);
+    Add(*edit_, tr("D&uplicate"), Qt::CTRL | Qt::Key_D, Needs::Selection,
+        [](Workbench& bench) { DuplicateSelected(bench.GetDesign()); });
+    Add(*edit_, tr("&Delete"), QKeySequence::Delete, Needs::Selection,
+        [](Workbench& bench) { DeleteSelected(bench.GetDesign()); });
+    Add(*edit_, tr("Select &all"), QKeySequence::SelectAll, Needs::Form, SelectAll);
+}
+
+void FormCommands::FillFormat() {
+    AddAlignments();
+    QMenu* const size = format_->addMenu(tr("Make the same &size"));
+    const auto addSize = [&](const QString& title, Dimension dimension) {
+        Add(*size, title, {}, Needs::Two,
+            [dimension](Workbench& bench) { MakeSameSize(bench.GetDesign(), dimension); });
+    };
+    addSize(tr("&Width"), Dimension::Width);
+    addSize(tr("&Height"), Dimension::Height);
+    addSize(tr("&Both"), Dimension::Both);
+    QMenu* const center = format_->addMenu(tr("&Center in the form"));
+    QMenu* const space = format_->addMenu(tr("S&pace evenly"));
+    const std::pair<QString, Qt::Orientation> ways[] = {{tr("&Horizontally"), Qt::Horizontal},
+                                                        {tr("&Vertically"), Qt::Vertical}};
+    for (const auto& [title, orientation] : ways) {
+        const Qt::Orientation way = orientation;
+        Add(*center, title, {}, Needs::Selection,
+            [way](Workbench& bench) { CenterOnContainer(bench.GetDesign(), way); });
+        Add(*space, title, {}, Needs::Three,
+            [way](Workbench& bench) { SpaceEvenly(bench.GetDesign(), way); });
+    }
+    Add(*format_, tr("Size to &grid"), {}, Needs::Selection,
+        [](Workbench& bench) { SizeToGrid(bench.GetDesign(), bench.GetCanvas().GetGrid().step); });
+    format_->addSeparator();
+    AddOrderCommands();
+}
+
+void FormCommands::AddAlignments() {
+    QMenu* const align = format_->addMenu(tr("&Align"));
+    const auto add = [&](const QString& title, Alignment alignment) {
+        Add(*align, title, {}, Needs::Two,
+            [alignment](Workbench& bench) { Align(bench.GetDesign(), alignment); });
+    };
+    add(tr("&Lefts"), Alignment::Left);
+    add(tr("&Centers"), Alignment::Center);
+    add(tr("&Rights"), Alignment::Right);
+    align->addSeparator();
+    add(tr("&Tops"), Alignment::Top);
+    add(tr("&Middles"), Alignment::Middle);
+    add(tr("&Bottoms"), Alignment::Bottom);
+}
+
+void FormCommands::AddOrderCommands() {
+    Add(*format_, tr("Bring to &front"), Qt::CTRL | Qt::Key_J, Needs::Selection,
+        [](Workbench& bench) { BringToFront(bench.GetDesign()); });
+    Add(*format_, tr("Send to bac&k"), Qt::CTRL | Qt::Key_K, Needs::Selection,
+        [](Workbench& bench) { SendToBack(bench.GetDesign()); });
+}
+
+void FormCommands::Follow(Workbench* workbench) {
+    if (workbench_ != nullptr) {
+        workbench_->GetDesign().disconnect(this);
+        history_.removeStack(&workbench_->GetDesign().History());
+    }
+    workbench_ = workbench;
+    if (workbench != nullptr) {
+        Design& design = workbench->GetDesign();
+        history_.addStack(&design.History());
+        history_.setActiveStack(&design.History());
+        connect(&design, &Design::SelectionChanged, this, &FormCommands::Update);
+        connect(&design, &Design::Edited, this, &FormCommands::Update);
+        connect(&workbench->GetCanvas(), &Canvas::TabOrderModeChanged, tabOrder_,
+                &QAction::setChecked);
+    }
+    Update();
+}
+
+bool FormCommands::IsThere(Needs needs) const {
+    if (workbench_ == nullptr) {
+        return false;
+    }
+    const std::size_t selected = workbench_->GetDesign().Selected().size();
+    switch (needs) {
+        case Needs::Form:
+            return true;
+        case Needs::Selection:
+            return selected >= 1;
+        case Needs::Two:
+            return selected >= 2;
+        case Needs::Three:
+            return selected >= 3;
+        case Needs::Page:
+            return workbench_->Properties().Page() != nullptr;
+        case Needs::Clipboard:
+            return HoldsControls(QApplication::clipboard()->mimeData());
+    }
+    return false;
+}
+
+void FormCommands::Update() {
+    for (const Command& command : commands_) {
+        command.action->setEnabled(IsThere(command.needs));
+    }
+}
+
+}  // namespace lumenkit::form

@@ -1,0 +1,60 @@
+#pragma once
+
+#include <QMenu>
+#include <QUndoGroup>
+#include <functional>
+#include <vector>
+
+#include "apps/lumenform/design/window/workbench.h"
+
+namespace lumenkit::form {
+
+/// What can be done with the form that is under work, as menus. It is greyed where it cannot be
+/// done now.
+class FormCommands final : public QObject {
+    Q_OBJECT
+
+ public:
+    explicit FormCommands(QWidget& window);
+
+    QMenu& EditMenu() const { return *edit_; }
+    QMenu& FormatMenu() const { return *format_; }
+    QAction& UndoAction() const { return *undo_; }
+    QAction& RedoAction() const { return *redo_; }
+    QAction& CaptionAction() const { return *caption_; }
+    QAction& TabOrderAction() const { return *tabOrder_; }
+
+    /// The commands are for this workbench from now on; null: there is nothing to do.
+    void Follow(Workbench* workbench);
+
+ private:
+    /// What must be there for a command to make sense.
+    enum class Needs { Form, Selection, Two, Three, Page, Clipboard };
+    struct Command {
+        QAction* action;
+        Needs needs;
+    };
+
+    void FillEdit();
+    void AddClipboardCommands();
+    void AddOrderCommands();
+    void FillFormat();
+    void AddAlignments();
+    QAction* Add(QMenu& menu, const QString& title, const QKeySequence& keys, Needs needs,
+                 const std::function<void(Workbench&)>& run);
+    bool IsThere(Needs needs) const;
+    void Update();
+
+    QWidget& window_;
+    Workbench* workbench_ = nullptr;
+    QUndoGroup history_;
+    std::vector<Command> commands_;
+    QMenu* edit_;
+    QMenu* format_;
+    QAction* undo_ = nullptr;
+    QAction* redo_ = nullptr;
+    QAction* caption_ = nullptr;
+    QAction* tabOrder_ = nullptr;
+};
+
+}  // namespace lumenkit::form

@@ -1,0 +1,53 @@
+#include "apps/lumenform/design/window/place_status.h"
+
+#include <cmath>
+
+#include "runtime/qt/qt_text.h"
+
+namespace lumenkit::form {
+
+PlaceStatus::PlaceStatus(QWidget* parent)
+    : QStatusBar(parent), pointer_(new QLabel), selection_(new QLabel) {
+    addPermanentWidget(selection_);
+    addPermanentWidget(pointer_);
+    pointer_->setMinimumWidth(fontMetrics().horizontalAdvance(tr("%1, %2").arg(99999).arg(99999)));
+}
+
+void PlaceStatus::Follow(Workbench* workbench) {
+    if (workbench_ != nullptr) {
+        workbench_->GetDesign().disconnect(this);
+    }
+    workbench_ = workbench;
+    pointer_->clear();
+    if (workbench != nullptr) {
+        const Design& design = workbench->GetDesign();
+        connect(&design, &Design::SelectionChanged, this, &PlaceStatus::ShowSelection);
+        connect(&design, &Design::Edited, this, &PlaceStatus::ShowSelection);
+        connect(&workbench->GetCanvas(), &Canvas::PointerMoved, pointer_, [this](QPointF twips) {
+            pointer_->setText(tr("%1, %2").arg(std::lround(twips.x())).arg(std::lround(twips.y())));
+        });
+        connect(&workbench->GetCanvas(), &Canvas::PointerLeft, pointer_, &QLabel::clear);
+    }
+    ShowSelection();
+}
+
+void PlaceStatus::ShowSelection() {
+    selection_->clear();
+    if (workbench_ == nullptr || workbench_->GetDesign().Selected().empty()) {
+        return;
+    }
+    const auto& selected = workbench_->GetDesign().Selected();
+    const host::Placement place = selected.back()->Place();
+    const QString where = tr("%1 × %2 at %3, %4 twips")
+                              .arg(std::lround(place.width))
+                              .arg(std::lround(place.height))
+                              .arg(std::lround(place.left))
+                              .arg(std::lround(place.top));
+    const QString name = qt::ToQString(selected.back()->Name());
+    selection_->setText(selected.size() == 1 ? tr("%1: %2").arg(name, where)
+                                             : tr("%n controls, the last %1: %2", nullptr,
+                                                  static_cast<int>(selected.size()))
+                                                   .arg(name, where));
+}
+
+}  // namespace lumenkit::form

@@ -1,0 +1,90 @@
+#include "apps/lumenform/design/window/view_menu.h"
+
+#include <QActionGroup>
+#include <array>
+
+namespace lumenkit::form {
+
+namespace {
+
+QString StepKey() {
+    return QStringLiteral("grid/step");
+}
+QString ShownKey() {
+    return QStringLiteral("grid/shown");
+}
+QString SnapsKey() {
+    return QStringLiteral("grid/snaps");
+}
+
+constexpr std::array steps = {30, 60, 90, 120, 180, 240};
+
+Grid Stored(const QSettings& settings) {
+    const Grid usual;
+    Grid grid{.step = settings.value(StepKey(), usual.step).toFloat(),
+              .isShown = settings.value(ShownKey(), usual.isShown).toBool(),
+              .snaps = settings.value(SnapsKey(), usual.snaps).toBool()};
+    if (!(grid.step >= steps.front() && grid.step <= steps.back())) {
+        grid.step = usual.step;
+    }
+    return grid;
+}
+
+}  // namespace
+
+ViewMenu::ViewMenu(QSettings& settings, QWidget* parent)
+    : QMenu(tr("&View"), parent), settings_(settings), grid_(Stored(settings)) {
+    QAction* const shown = addAction(tr("Show the &grid"));
+    shown->setCheckable(true);
+    shown->setChecked(grid_.isShown);
+    connect(shown, &QAction::toggled, this, [this](bool on) {
+        Grid grid = grid_;
+        grid.isShown = on;
+        Change(grid);
+    });
+    QAction* const snaps = addAction(tr("&Snap to the grid"));
+    snaps->setToolTip(tr("Alt held while dragging does the opposite"));
+    snaps->setCheckable(true);
+    snaps->setChecked(grid_.snaps);
+    connect(snaps, &QAction::toggled, this, [this](bool on) {
+        Grid grid = grid_;
+        grid.snaps = on;
+        Change(grid);
+    });
+    AddSteps();
+}
+
+void ViewMenu::AddSteps() {
+    QMenu* const menu = addMenu(tr("Grid s&tep"));
+    auto* const group = new QActionGroup(menu);
+    for (const int step : steps) {
+        QAction* const action = menu->addAction(tr("%1 twips").arg(step));
+        action->setCheckable(true);
+        action->setChecked(grid_.step == static_cast<float>(step));
+        group->addAction(action);
+        connect(action, &QAction::triggered, this, [this, step] {
+            Grid grid = grid_;
+            grid.step = static_cast<float>(step);
+            Change(grid);
+        });
+    }
+}
+
+void ViewMenu::Follow(Canvas* canvas) {
+    canvas_ = canvas;
+    if (canvas != nullptr) {
+        canvas->SetGrid(grid_);
+    }
+}
+
+void ViewMenu::Change(const Grid& grid) {
+    grid_ = grid;
+    settings_.setValue(StepKey(), grid.step);
+    settings_.setValue(ShownKey(), grid.isShown);
+    settings_.setValue(SnapsKey(), grid.snaps);
+    if (canvas_ != nullptr) {
+        canvas_->SetGrid(grid);
+    }
+}
+
+}  // namespace lumenkit::form

@@ -1,0 +1,110 @@
+#include "apps/lumenform/design/window/workbench.h"
+
+#include <QVBoxLayout>
+#include <algorithm>
+#include <cmath>
+
+#include "apps/lumenform/design/model/arrange.h"
+#include "apps/lumenform/design/model/new_control.h"
+#include "forms/form_error.h"
+#include "frame/runtime_error.h"
+#include "runtime/qt/pixels.h"
+#include "runtime/qt/qt_text.h"
+
+namespace lumenkit::form {
+
+namespace {
+
+// Into the middle of what it is to lie in, on the grid.
+host::Placement Centered(const Surroundings& around, host::Placement place, const Grid& grid) {
+    const qt::TwipsPerPixel& twips = qt::TwipsPerPixel::OfScreens();
+    const auto start = [&](int pixels, double twipsPerPixel, float length) {
+        const auto room = static_cast<float>(pixels * twipsPerPixel);
+        return std::max(grid.Nearest((room - length) / 2), 0.F);
+    };
+    place.left = start(around.widget.width(), twips.x, place.width);
+    place.top = start(around.widget.height(), twips.y, place.height);
+    return place;
+}
+
+}  // namespace
+
+Workbench::Workbench(const qt::Context& context, ControlMessages& messages,
+                     forms::Document document, QWidget* parent)
+    : QSplitter(Qt::Horizontal, parent),
+      design_(context, std::move(document)),
+      toolbox_(new Toolbox(context.classes)),
+      canvas_(new Canvas(design_)),
+      properties_(new PropertyBrowser(design_, messages)) {
+    setObjectName(QStringLiteral("workbench"));
+    LayOut();
+    ConnectParts();
+}
+
+// What looks at the design goes before it.
+Workbench::~Workbench() {
+    delete canvas_;
+    delete properties_;
+}
+
+void Workbench::LayOut() {
+    constexpr int toolboxLetters = 20;
+    constexpr int propertiesLetters = 44;
+    const int letter = fontMetrics().averageCharWidth();
+    addWidget(toolbox_);
+    addWidget(canvas_);
+    addWidget(properties_);
+    setChildrenCollapsible(false);
+    setStretchFactor(1, 1);
+    constexpr int most = 1 << 14;
+    setSizes({toolboxLetters * letter, most, propertiesLetters * letter});
+}
+
+void Workbench::ConnectParts() {
+    connect(toolbox_, &Toolbox::Chosen, this, [this](const QString& className) {
+        canvas_->BeginDrawing(qt::ToText(className));
+        canvas_->GetGlass().setFocus();
+    });
+    connect(toolbox_, &Toolbox::PutDown, this, &Workbench::PutDown);
+    connect(canvas_, &Canvas::DrawingEnded, toolbox_, &Toolbox::Release);
+    connect(canvas_, &Canvas::Drawn, this,
+            [this](const Text& className, const LiveControl* container,
+                   const host::Placement& place) { Add(className, container, place); });
+    connect(canvas_, &Canvas::Activated, this, &Workbench::EditSelected);
+    connect(canvas_, &Canvas::FormActivated, this, &Workbench::EditSelected);
+    connect(canvas_, &Canvas::Refused, this, &Workbench::Refused);
+}
+
+void Workbench::EditSelected() {
+    if (properties_->EditWithPage() == nullptr) {
+        properties_->Table().setFocus();
+    }
+}
+
+void Workbench::PutDown(const QString& className) {
+    canvas_->EndDrawing();
+    const Text name = qt::ToText(className);
+    const auto& selected = design_.Selected();
+    const LiveControl* const container =
+        selected.size() == 1 && selected.front()->IsContainer() ? selected.front() : nullptr;
+    const host::Placement usual = UsualPlace(design_.Context().classes, name);
+    Add(name, container, Centered(InsideOf(design_, container), usual, canvas_->GetGrid()));
+}
+
+void Workbench::Add(const Text& className, const LiveControl* container,
+                    const host::Placement& place) {
+    Try([&] { AddNewControl(design_, className, container, place); });
+    canvas_->GetGlass().setFocus();
+}
+
+void Workbench::Try(const std::function<void()>& action) {
+    try {
+        action();
+    } catch (const RuntimeError& error) {
+        Q_EMIT Refused(qt::ToQString(error.Description()));
+    } catch (const forms::FormError& error) {
+        Q_EMIT Refused(QString::fromUtf8(error.what()));
+    }
+}
+
+}  // namespace lumenkit::form

@@ -1,0 +1,53 @@
+#pragma once
+
+#include <QSplitter>
+
+#include "apps/lumenform/design/canvas/canvas.h"
+#include "apps/lumenform/design/model/design.h"
+#include "apps/lumenform/design/properties/control_messages.h"
+#include "apps/lumenform/design/properties/property_browser.h"
+#include "apps/lumenform/design/window/toolbox.h"
+#include "forms/document.h"
+
+namespace lumenkit::form {
+
+/// A form under work: the toolbox, the form on its canvas, and the properties of what is selected.
+class Workbench final : public QSplitter {
+    Q_OBJECT
+
+ public:
+    /// Throws FormError as Design does. `messages` is the interaction of the context; both must
+    /// outlive the workbench.
+    Workbench(const qt::Context& context, ControlMessages& messages, forms::Document document,
+              QWidget* parent = nullptr);
+    ~Workbench() override;
+    Workbench(const Workbench&) = delete;
+    Workbench& operator=(const Workbench&) = delete;
+
+    Design& GetDesign() { return design_; }
+    Canvas& GetCanvas() const { return *canvas_; }
+    Toolbox& GetToolbox() const { return *toolbox_; }
+    PropertyBrowser& Properties() const { return *properties_; }
+
+    /// Opens the page of what is selected, or where there is none goes to its properties.
+    void EditSelected();
+    /// Does what may be refused; then Refused tells why and everything is as it was.
+    void Try(const std::function<void()>& action);
+
+ Q_SIGNALS:
+    /// Something could not be done.
+    void Refused(const QString& why);
+
+ private:
+    void LayOut();
+    void ConnectParts();
+    void PutDown(const QString& className);
+    void Add(const Text& className, const LiveControl* container, const host::Placement& place);
+
+    Design design_;
+    Toolbox* toolbox_;
+    Canvas* canvas_;
+    PropertyBrowser* properties_;
+};
+
+}  // namespace lumenkit::form

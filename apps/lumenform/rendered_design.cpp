@@ -1,0 +1,73 @@
+#include "apps/lumenform/rendered_design.h"
+
+#include <QApplication>
+#include <QPainter>
+#include <QSettings>
+#include <QTemporaryDir>
+
+#include "apps/lumenform/design/properties/page_dialog.h"
+#include "apps/lumenform/design/window/design_window.h"
+
+namespace lumenkit::form {
+
+namespace {
+
+// The first control that has a page, or where none is wanted the first one of ours.
+void SelectFirst(Workbench& bench, bool page) {
+    for (const auto& control : bench.GetDesign().View().Controls()) {
+        const qt::ControlWidget* own = control->Own();
+        if (own != nullptr && (!page || !own->Type().propertyPage.empty())) {
+            bench.GetDesign().Select({control.get()});
+            return;
+        }
+    }
+}
+
+// A dialog with the title bar that a desktop would give it.
+QPixmap WithTitleBar(const QWidget& dialog, QPixmap inside) {
+    const double ratio = inside.devicePixelRatio();
+    const QSize size = dialog.size();
+    const int bar = dialog.fontMetrics().height() * 2;
+    QPixmap framed(QSizeF(QSizeF(size.width() + 2, size.height() + bar + 1) * ratio).toSize());
+    framed.setDevicePixelRatio(ratio);
+    const QPalette& palette = dialog.palette();
+    framed.fill(palette.color(QPalette::Highlight));
+    QPainter painter(&framed);
+    painter.setPen(palette.color(QPalette::HighlightedText));
+    painter.drawText(QRect(bar / 3, 0, size.width() - bar / 3, bar), Qt::AlignVCenter,
+                     dialog.windowTitle());
+    painter.drawPixmap(1, bar, inside);
+    return framed;
+}
+
+void PutIntoTheMiddle(QPixmap& picture, const QPixmap& over) {
+    const QSizeF room = picture.deviceIndependentSize() - over.deviceIndependentSize();
+    QPainter(&picture).drawPixmap(QPointF(room.width() / 2, room.height() / 2), over);
+}
+
+}  // namespace
+
+QPixmap DesignPicture(const qt::Context& context, const QString& form, int codePage, bool page) {
+    const QTemporaryDir folder;  // what people's settings say is not to be seen
+    QSettings settings(folder.filePath(QStringLiteral("settings.ini")), QSettings::IniFormat);
+    DesignWindow window({.classes = context.classes,
+                         .application = context.application,
+                         .interaction = context.interaction,
+                         .settings = settings,
+                         .codePage = codePage});
+    window.Load(form);
+    window.show();
+    SelectFirst(*window.Bench(), page);
+    QApplication::processEvents();
+    QPixmap picture = window.grab();
+    if (page) {
+        if (PageDialog* const dialog = window.Bench()->Properties().EditWithPage()) {
+            QApplication::processEvents();
+            PutIntoTheMiddle(picture, WithTitleBar(*dialog, dialog->grab()));
+            dialog->reject();
+        }
+    }
+    return picture;
+}
+
+}  // namespace lumenkit::form

@@ -1,0 +1,400 @@
+// The designer as people meet it: first screen, files, questions, running, menus.
+#include <QAction>
+#include <QApplication>
+#include <QClipboard>
+#include <QCommandLinkButton>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QTimer>
+#include <fstream>
+#include <functional>
+#include <iterator>
+
+#include <gmock/gmock.h>
+
+#include "apps/lumenform/design/model/arrange.h"
+#include "apps/lumenform/design/model/clipboard.h"
+#include "apps/lumenform/design/window/design_window.h"
+#include "project/lumenkit_classes.h"
+#include "tests/apps/lumenform/loaded_view.h"
+#include "tests/support/qt_keys.h"
+
+namespace lumenkit::testing {
+namespace {
+
+namespace fs = std::filesystem;
+using ::testing::ElementsAre;
+using ::testing::HasSubstr;
+using ::testing::Not;
+
+std::string Bytes(const fs::path& path) {
+    std::ifstream file(path, std::ios::binary);
+    return {std::istreambuf_iterator<char>(file), {}};
+}
+
+// Presses a button of the next question, and notes what it said.
+class Answer {
+ public:
+    explicit Answer(const QString& button) {
+        timer_.setInterval(5);
+        QObject::connect(&timer_, &QTimer::timeout, [this, button] {
+            auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+            if (box == nullptr) {
+                return;
+            }
+            timer_.stop();
+            said = (box->text() + u'|' + box->informativeText()).toStdString();
+            for (QAbstractButton* choice : box->buttons()) {
+                if (choice->text().remove(u'&') == button) {
+                    choice->click();
+                    return;
+                }
+            }
+            ADD_FAILURE() << "no button " << button.toStdString();
+            box->reject();
+        });
+        timer_.start();
+    }
+
+    std::string said;
+
+ private:
+    QTimer timer_;
+};
+
+class DesignWindowTest : public ::testing::Test {
+ protected:
+    DesignWindowTest()
+        : settings(Path("settings.ini"), QSettings::IniFormat),
+          window({.classes = lumenkitClasses,
+                  .application = surface.application,
+                  .interaction = surface.interaction,
+                  .settings = settings}) {
+        window.show();
+        QApplication::setActiveWindow(&window);
+        static_cast<void>(QTest::qWaitForWindowActive(&window));
+    }
+
+    QString Path(const QString& name) const { return folder.filePath(name); }
+    fs::path File(const QString& name) const { return form::PathOf(Path(name)); }
+    // A copy of a sample, with its companion.
+    QString Copy(const std::string& name) {
+        for (const fs::path& source : {sampleForms / (name + ".frm"), sampleForms / (name + ".frx")}) {
+            if (fs::exists(source)) {
+                fs::copy_file(source, File(QString::fromStdString(source.filename().string())),
+                              fs::copy_options::overwrite_existing);
+            }
+        }
+        return Path(QString::fromStdString(name + ".frm"));
+    }
+    form::Design& Design() const { return window.Bench()->GetDesign(); }
+    std::string Text() const { return Design().Document().Write().form; }
+    void Select(TextView name) const { Design().SelectNamed({lumenkit::Text(name)}); }
+    void Nudge() {
+        QTest::keyClick(&window.Bench()->GetCanvas().GetGlass(), Qt::Key_Right);
+    }
+    // A command of any menu by its title.
+    QAction& Command(const QString& title) const {
+        for (QAction* action : window.findChildren<QAction*>()) {
+            if (action->text().remove(u'&') == title) {
+                return *action;
+            }
+        }
+        throw std::out_of_range("no command " + title.toStdString());
+    }
+
+    QTemporaryDir folder;
+    Surface surface;
+    QSettings settings;
+    form::DesignWindow window;
+};
+
+TEST_F(DesignWindowTest, BeginsWithWhatCanBeDone) {
+    EXPECT_TRUE(window.Start().isVisible());
+    EXPECT_EQ(window.Bench(), nullptr);
+    EXPECT_EQ(window.windowTitle(), QStringLiteral("lumenform"));
+    EXPECT_FALSE(Command(QStringLiteral("Save")).isEnabled());
+    EXPECT_FALSE(Command(QStringLiteral("Run the form")).isEnabled());
+    EXPECT_FALSE(Command(QStringLiteral("Select all")).isEnabled());
+    const auto choices = window.Start().findChildren<QCommandLinkButton*>();
+    ASSERT_EQ(choices.size(), 2);
+    QTest::mouseClick(choices.back(), Qt::LeftButton);
+    ASSERT_NE(window.Bench(), nullptr);
+    EXPECT_EQ(window.windowTitle(), QStringLiteral("Form1.frm[*] – lumenform"));
+    EXPECT_FALSE(window.isWindowModified());
+    EXPECT_TRUE(window.Bench()->isVisible());
+}
+
+TEST_F(DesignWindowTest, DrawsAControlOfTheToolbox) {
+    window.StartNew();
+    form::Toolbox& toolbox = window.Bench()->GetToolbox();
+    EXPECT_EQ(toolbox.item(0)->text(), QStringLiteral("VLabel"));
+    const QRect first = toolbox.visualItemRect(toolbox.item(0));
+    QTest::mouseClick(toolbox.viewport(), Qt::LeftButton, {}, first.center());
+    EXPECT_TRUE(window.Bench()->GetCanvas().IsDrawing());
+    form::Glass& glass = window.Bench()->GetCanvas().GetGlass();
+    const QPoint origin = Design().View().Client().mapTo(&glass, QPoint()) ;
+    QTest::mousePress(&glass, Qt::LeftButton, {}, origin + QPoint(16, 16));
+    QTest::mouseMove(&glass, origin + QPoint(100, 60));
+    QTest::mouseMove(&glass, origin + QPoint(160, 80));
+    QTest::mouseRelease(&glass, Qt::LeftButton, {}, origin + QPoint(160, 80));
+    ASSERT_NE(Design().View().Find(u"VLabel1"), nullptr);
+    EXPECT_EQ(Design().View().Find(u"VLabel1")->Place(),
+              (host::Placement{.left = 240, .top = 240, .width = 2160, .height = 960}));
+    EXPECT_TRUE(window.isWindowModified());
+    EXPECT_TRUE(window.Commands().CaptionAction().isEnabled());
+    EXPECT_TRUE(toolbox.selectedItems().isEmpty());
+}
+
+TEST_F(DesignWindowTest, PutsAControlIntoTheMiddle) {
+    window.StartNew();
+    form::Toolbox& toolbox = window.Bench()->GetToolbox();
+    toolbox.setFocus();
+    toolbox.setCurrentRow(1);
+    QTest::keyClick(&toolbox, Qt::Key_Return);
+    ASSERT_NE(Design().View().Find(u"VMemo1"), nullptr);
+    const host::Placement place = Design().View().Find(u"VMemo1")->Place();
+    EXPECT_NEAR(place.left + place.width / 2, 2400, 120);
+    EXPECT_NEAR(place.top + place.height / 2, 1800, 120);
+    EXPECT_FALSE(window.Bench()->GetCanvas().IsDrawing());
+}
+
+TEST_F(DesignWindowTest, SavesAndOpensAgain) {
+    const QString path = Copy("memo");
+    const std::string before = Bytes(File(QStringLiteral("memo.frm")));
+    window.Load(path);
+    EXPECT_EQ(window.windowTitle(), QStringLiteral("memo.frm[*] – lumenform"));
+    Select(u"VMemo1");
+    Nudge();
+    EXPECT_TRUE(window.isWindowModified());
+    EXPECT_TRUE(window.Save());
+    EXPECT_FALSE(window.isWindowModified());
+    const std::string saved = Bytes(File(QStringLiteral("memo.frm")));
+    EXPECT_EQ(saved, Text());
+    EXPECT_NE(saved, before);
+    Command(QStringLiteral("Close the form")).trigger();
+    EXPECT_TRUE(window.Start().isVisible());
+    window.Load(path);
+    EXPECT_EQ(Text(), saved);
+    Design().History().undo();
+    EXPECT_FALSE(window.isWindowModified());
+}
+
+TEST_F(DesignWindowTest, UndoingWhatWasSavedIsAChange) {
+    window.Load(Copy("label"));
+    Select(u"VLabel1");
+    Nudge();
+    ASSERT_TRUE(window.Save());
+    window.Commands().UndoAction().trigger();
+    EXPECT_TRUE(window.isWindowModified());
+    window.Commands().RedoAction().trigger();
+    EXPECT_FALSE(window.isWindowModified());
+}
+
+TEST_F(DesignWindowTest, SavingUnderAnotherNameLeavesTheFirstAlone) {
+    window.Load(Copy("memo"));
+    const std::string form = Bytes(File(QStringLiteral("memo.frm")));
+    const std::string companion = Bytes(File(QStringLiteral("memo.frx")));
+    Select(u"VMemo1");
+    Design().Edit(QStringLiteral("Text"), [&] {
+        Design().View().Find(u"VMemo1")->Own()->Automation().Let(u"Text",
+                                                                 lumenkit::Text(u"new\r\ntext"));
+    });
+    ASSERT_TRUE(window.SaveTo(Path(QStringLiteral("other.frm"))));
+    EXPECT_EQ(Bytes(File(QStringLiteral("memo.frm"))), form);
+    EXPECT_EQ(Bytes(File(QStringLiteral("memo.frx"))), companion);
+    EXPECT_THAT(Bytes(File(QStringLiteral("other.frm"))), HasSubstr("$\"other.frx\""));
+    EXPECT_EQ(window.windowTitle(), QStringLiteral("other.frm[*] – lumenform"));
+    window.Load(Path(QStringLiteral("other.frm")));
+    EXPECT_EQ(std::get<lumenkit::Text>(
+                  Design().View().Find(u"VMemo1")->Own()->Automation().Get(u"Text")),
+              u"new\r\ntext");
+}
+
+TEST_F(DesignWindowTest, AFailedSaveSaysSoAndLosesNothing) {
+    window.Load(Copy("label"));
+    Select(u"VLabel1");
+    Nudge();
+    const std::string text = Text();
+    Answer answer(QStringLiteral("OK"));
+    EXPECT_FALSE(window.SaveTo(Path(QStringLiteral("no/such/folder/x.frm"))));
+    EXPECT_THAT(answer.said, HasSubstr("not saved"));
+    EXPECT_THAT(answer.said, HasSubstr("no/such/folder/x.frm"));
+    EXPECT_TRUE(window.isWindowModified());
+    EXPECT_EQ(Text(), text);
+    EXPECT_EQ(window.windowTitle(), QStringLiteral("label.frm[*] – lumenform"));
+    EXPECT_TRUE(window.Save());
+    EXPECT_EQ(Bytes(File(QStringLiteral("label.frm"))), text);
+}
+
+TEST_F(DesignWindowTest, ABadFileIsToldWithItsLineAndChangesNothing) {
+    window.Load(Copy("label"));
+    const std::string text = Text();
+    std::ofstream(File(QStringLiteral("bad.frm"))) << "VERSION 5.00\nBegin VB.Form f\n   X\nEnd\n";
+    form::RecentFiles(settings).Add(Path(QStringLiteral("bad.frm")));
+    Answer answer(QStringLiteral("OK"));
+    Q_EMIT window.Start().RecentWanted(Path(QStringLiteral("bad.frm")));
+    EXPECT_THAT(answer.said, HasSubstr("bad.frm cannot be opened."));
+    EXPECT_THAT(answer.said, HasSubstr("bad.frm:3:"));
+    EXPECT_EQ(Text(), text);
+}
+
+TEST_F(DesignWindowTest, AsksBeforeChangesAreLost) {
+    const QString path = Copy("label");
+    window.Load(path);
+    const std::string before = Bytes(File(QStringLiteral("label.frm")));
+    EXPECT_TRUE(window.MayLeave());
+    Select(u"VLabel1");
+    Nudge();
+    {
+        Answer answer(QStringLiteral("Cancel"));
+        EXPECT_FALSE(window.close());
+        EXPECT_THAT(answer.said, HasSubstr("Save the changes to label.frm?"));
+    }
+    EXPECT_TRUE(window.isVisible());
+    EXPECT_EQ(Bytes(File(QStringLiteral("label.frm"))), before);
+    {
+        const Answer answer(QStringLiteral("Save"));
+        EXPECT_TRUE(window.MayLeave());
+    }
+    EXPECT_EQ(Bytes(File(QStringLiteral("label.frm"))), Text());
+    const std::string saved = Text();
+    Nudge();
+    {
+        const Answer answer(QStringLiteral("Discard"));
+        EXPECT_TRUE(window.close());
+    }
+    EXPECT_EQ(Bytes(File(QStringLiteral("label.frm"))), saved);
+}
+
+TEST_F(DesignWindowTest, AsksBeforeItReplacesWhatOthersWrote) {
+    window.Load(Copy("label"));
+    Select(u"VLabel1");
+    Nudge();
+    std::ofstream(File(QStringLiteral("label.frm")), std::ios::app) << "' by others\r\n";
+    const std::string theirs = Bytes(File(QStringLiteral("label.frm")));
+    {
+        Answer answer(QStringLiteral("Cancel"));
+        EXPECT_FALSE(window.Save());
+        EXPECT_THAT(answer.said, HasSubstr("Another program wrote"));
+    }
+    EXPECT_EQ(Bytes(File(QStringLiteral("label.frm"))), theirs);
+    {
+        const Answer answer(QStringLiteral("Replace"));
+        EXPECT_TRUE(window.Save());
+    }
+    EXPECT_EQ(Bytes(File(QStringLiteral("label.frm"))), Text());
+    EXPECT_TRUE(window.Save());
+}
+
+TEST_F(DesignWindowTest, RunsACopyAndComesBackToTheSame) {
+    window.Load(Copy("order"));
+    Select(u"memPrint");
+    Nudge();
+    const std::string text = Text();
+    QTest::keyClick(&window, Qt::Key_F5);
+    ASSERT_NE(window.Running(), nullptr);
+    EXPECT_THAT(window.windowTitle().toStdString(), HasSubstr("(running)"));
+    EXPECT_FALSE(Command(QStringLiteral("Save")).isEnabled());
+    EXPECT_FALSE(Command(QStringLiteral("Delete")).isEnabled());
+    form::LiveControl& memo = *window.Running()->View().Find(u"memPrint");
+    TypeKeys(*memo.Own()->Parts().Find(u"Text1", 0)->Widget(), u"x");
+    EXPECT_GE(window.Running()->Log().topLevelItemCount(), 1);
+    QTest::keyClick(&window, Qt::Key_F5);
+    EXPECT_EQ(window.Running(), nullptr);
+    EXPECT_EQ(Text(), text);
+    EXPECT_EQ(Design().SelectedNames(), std::vector{lumenkit::Text(u"memPrint")});
+    EXPECT_TRUE(window.isWindowModified());
+    window.Commands().UndoAction().trigger();
+    EXPECT_FALSE(window.isWindowModified());
+}
+
+TEST_F(DesignWindowTest, CommandsAreThereWhenTheyMakeSense) {
+    window.Load(Copy("all_three"));
+    QAction& lefts = Command(QStringLiteral("Lefts"));
+    QAction& copy = Command(QStringLiteral("Copy"));
+    EXPECT_FALSE(copy.isEnabled());
+    EXPECT_FALSE(window.Commands().CaptionAction().isEnabled());
+    Select(u"VMemo1");
+    EXPECT_TRUE(copy.isEnabled());
+    EXPECT_FALSE(lefts.isEnabled());
+    EXPECT_FALSE(window.Commands().CaptionAction().isEnabled());
+    Select(u"VLabel1");
+    EXPECT_TRUE(window.Commands().CaptionAction().isEnabled());
+    Command(QStringLiteral("Select all")).trigger();
+    EXPECT_EQ(Design().Selected().size(), 5U);
+    EXPECT_TRUE(lefts.isEnabled());
+}
+
+TEST_F(DesignWindowTest, CutsAndPastes) {
+    window.Load(Copy("all_three"));
+    const std::string before = Text();
+    QApplication::clipboard()->clear();
+    EXPECT_FALSE(Command(QStringLiteral("Paste")).isEnabled());
+    Select(u"VMemo1");
+    Command(QStringLiteral("Cut")).trigger();
+    EXPECT_EQ(Design().View().Find(u"VMemo1"), nullptr);
+    EXPECT_TRUE(Command(QStringLiteral("Paste")).isEnabled());
+    Command(QStringLiteral("Paste")).trigger();
+    ASSERT_NE(Design().View().Find(u"VMemo1"), nullptr);
+    EXPECT_EQ(Design().View().Find(u"VMemo1")->Place().left, 2400);
+    window.Commands().UndoAction().trigger();
+    window.Commands().UndoAction().trigger();
+    EXPECT_EQ(Text(), before);
+}
+
+TEST_F(DesignWindowTest, WhatIsRefusedStandsBelow) {
+    window.StartNew();
+    QString refused;
+    QObject::connect(window.Bench(), &form::Workbench::Refused,
+                     [&](const QString& why) { refused = why; });
+    auto data = std::make_unique<QMimeData>();
+    data->setData(QLatin1String(form::controlsFormat), "nonsense");
+    QApplication::clipboard()->setMimeData(data.release());
+    const std::string before = Text();
+    Command(QStringLiteral("Paste")).trigger();
+    EXPECT_THAT(refused.toStdString(), HasSubstr("expected controls"));
+    EXPECT_EQ(Text(), before);
+}
+
+TEST_F(DesignWindowTest, RemembersFormsAndTheGrid) {
+    const QString path = Copy("label");
+    window.Load(path);
+    window.Load(Copy("options"));
+    form::RecentFiles recent(settings);
+    EXPECT_EQ(recent.Existing(), (QStringList{Path(QStringLiteral("options.frm")), path}));
+    fs::remove(File(QStringLiteral("options.frm")));
+    EXPECT_EQ(recent.Existing(), QStringList{path});
+    Command(QStringLiteral("60 twips")).trigger();
+    Command(QStringLiteral("Snap to the grid")).trigger();
+    EXPECT_EQ(window.Bench()->GetCanvas().GetGrid(),
+              (form::Grid{.step = 60, .isShown = true, .snaps = false}));
+    const form::DesignWindow next({.classes = lumenkitClasses,
+                                   .application = surface.application,
+                                   .interaction = surface.interaction,
+                                   .settings = settings});
+    EXPECT_EQ(form::ViewMenu(settings).GetGrid().step, 60);
+    EXPECT_FALSE(form::ViewMenu(settings).GetGrid().snaps);
+}
+
+TEST_F(DesignWindowTest, ADoubleClickOpensTheCaptionPage) {
+    window.Load(Copy("label"));
+    Select(u"VLabel1");
+    bool wasThere = false;
+    QTimer::singleShot(0, [&] {
+        if (QWidget* dialog = QApplication::activeModalWidget()) {
+            wasThere = true;
+            dialog->close();
+        }
+    });
+    form::Glass& glass = window.Bench()->GetCanvas().GetGlass();
+    const QWidget& label = Design().View().Find(u"VLabel1")->Widget();
+    const QPoint middle = label.mapTo(&window, label.rect().center());
+    QTest::mouseDClick(&glass, Qt::LeftButton, {}, glass.mapFrom(&window, middle));
+    QTRY_VERIFY(wasThere);
+}
+
+}  // namespace
+}  // namespace lumenkit::testing
