@@ -2,7 +2,7 @@
 .DEFAULT_GOAL := help
 .PHONY: run test bench ocx run-ocx fuzz lint format golden published screenshots package clean help
 
-run: ## do the main job: compile the sample captions and show what comes out
+run: ## do the main job: open a form with the three controls in the designer
 	@scripts/run.sh
 
 test: ## everything: builds, tests, sanitizers, cross-compilation, checks

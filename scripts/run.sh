@@ -1,11 +1,21 @@
 #!/usr/bin/env bash
-# Compiles the sample captions and prints their compiled form.
+# Opens a form with the three controls in lumenform's designer: on the display that there is, else
+# into pictures in build/run, of the form as its users see it and of the designer with the caption
+# page open. The form is a copy, to be tried things out on.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 
-scripts/build.sh native lumenkit
-for caption in samples/captions/*.txt; do
-    echo "== $caption"
-    build/native/apps/lumenkit/lumenkit compile "$caption"
-    echo
-done
+scripts/build.sh native lumenform
+lumenform=build/native/apps/lumenform/lumenform
+mkdir -p build/run
+cp samples/forms/order.frm samples/forms/order.frx build/run
+form=build/run/order.frm
+
+if [ -n "${DISPLAY:-}${WAYLAND_DISPLAY:-}" ]; then
+    echo "Designing $form. Select the label and press \"Caption…\" to edit what it says; F5 runs the form."
+    exec "$lumenform" design "$form"
+fi
+"$lumenform" render "$form" -o build/run/form.png
+"$lumenform" render "$form" -o build/run/designer.png --design --page
+echo "There is no display. The form as its users see it is in build/run/form.png,"
+echo "the designer with the caption page open in build/run/designer.png."

@@ -59,20 +59,25 @@ QPixmap FormPicture(const Options& options, const qt::Context& context, forms::D
     return picture;
 }
 
+QPixmap Picture(const Options& options, const qt::Context& context) {
+    if (options.design) {
+        return DesignPicture(context, QString::fromLocal8Bit(options.form), options.codePage,
+                             options.page);
+    }
+    forms::Document document = forms::Load(options.form, options.codePage);
+    return FormPicture(options, context, document);
+}
+
 int Render(const Options& options) {
     DrawOffscreen();
     DrawAt(options.scale);
     ApplicationArguments arguments;
     const QApplication application(arguments.count, arguments.values.data());
     UseOwnStyle(options.dark);
-    forms::Document document = forms::Load(options.form, options.codePage);
     cli::ConsoleHost console;
     const qt::Context context{
         .classes = lumenkitClasses, .application = console, .interaction = console};
-    const QPixmap picture = options.design
-                                ? DesignPicture(context, QString::fromLocal8Bit(options.form),
-                                                options.codePage, options.page)
-                                : FormPicture(options, context, document);
+    const QPixmap picture = Picture(options, context);
     if (!picture.save(QString::fromLocal8Bit(options.picture), "PNG")) {
         throw std::runtime_error("cannot write " + options.picture);
     }
@@ -84,7 +89,8 @@ int Render(const Options& options) {
 void AddRenderCommand(CLI::App& program, int& status) {
     CLI::App* const command = program.add_subcommand("render", "Draw a form into a PNG file");
     const auto options = std::make_shared<Options>();
-    command->add_option("FORM", options->form, "The form: .frm, .ctl, .pag or .dob")->required();
+    command->add_option("FORM", options->form,
+                        "The form: .frm, .ctl, .pag or .dob; none: the designer's first screen");
     command
         ->add_option("-o,--output", options->picture, "The picture; one that is there is replaced")
         ->required();
@@ -107,7 +113,12 @@ Examples:
   lumenform render samples/forms/all_three.frm -o all_three.png
   lumenform render samples/forms/memo.frm -o memo.png --scale 1.25 --dark
   lumenform render samples/forms/order.frm -o designer.png --design --page)");
-    command->callback([options, &status] { status = Render(*options); });
+    command->callback([options, &status] {
+        if (options->form.empty() && !options->design) {
+            throw CLI::RequiredError("FORM");
+        }
+        status = Render(*options);
+    });
 }
 
 }  // namespace lumenkit::form

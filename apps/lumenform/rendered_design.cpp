@@ -55,12 +55,16 @@ QPixmap DesignPicture(const qt::Context& context, const QString& form, int codeP
                          .interaction = context.interaction,
                          .settings = settings,
                          .codePage = codePage});
-    window.Load(form);
+    if (!form.isEmpty()) {
+        window.Load(form);
+        SelectFirst(*window.Bench(), page);
+    }
+    constexpr QSize size(1240, 780);
+    window.resize(size);  // whatever the screen, which is none
     window.show();
-    SelectFirst(*window.Bench(), page);
     QApplication::processEvents();
     QPixmap picture = window.grab();
-    if (page) {
+    if (page && window.Bench() != nullptr) {
         if (PageDialog* const dialog = window.Bench()->Properties().EditWithPage()) {
             QApplication::processEvents();
             PutIntoTheMiddle(picture, WithTitleBar(*dialog, dialog->grab()));

@@ -1,4 +1,6 @@
 // The designer as people meet it: first screen, files, questions, running, menus.
+#include "apps/lumenform/design/window/design_window.h"
+
 #include <QAction>
 #include <QApplication>
 #include <QClipboard>
@@ -16,7 +18,6 @@
 
 #include "apps/lumenform/design/model/arrange.h"
 #include "apps/lumenform/design/model/clipboard.h"
-#include "apps/lumenform/design/window/design_window.h"
 #include "project/lumenkit_classes.h"
 #include "tests/apps/lumenform/loaded_view.h"
 #include "tests/support/qt_keys.h"
@@ -81,7 +82,8 @@ class DesignWindowTest : public ::testing::Test {
     fs::path File(const QString& name) const { return form::PathOf(Path(name)); }
     // A copy of a sample, with its companion.
     QString Copy(const std::string& name) {
-        for (const fs::path& source : {sampleForms / (name + ".frm"), sampleForms / (name + ".frx")}) {
+        for (const fs::path& source :
+             {sampleForms / (name + ".frm"), sampleForms / (name + ".frx")}) {
             if (fs::exists(source)) {
                 fs::copy_file(source, File(QString::fromStdString(source.filename().string())),
                               fs::copy_options::overwrite_existing);
@@ -92,9 +94,7 @@ class DesignWindowTest : public ::testing::Test {
     form::Design& Design() const { return window.Bench()->GetDesign(); }
     std::string Text() const { return Design().Document().Write().form; }
     void Select(TextView name) const { Design().SelectNamed({lumenkit::Text(name)}); }
-    void Nudge() {
-        QTest::keyClick(&window.Bench()->GetCanvas().GetGlass(), Qt::Key_Right);
-    }
+    void Nudge() { QTest::keyClick(&window.Bench()->GetCanvas().GetGlass(), Qt::Key_Right); }
     // A command of any menu by its title.
     QAction& Command(const QString& title) const {
         for (QAction* action : window.findChildren<QAction*>()) {
@@ -135,7 +135,7 @@ TEST_F(DesignWindowTest, DrawsAControlOfTheToolbox) {
     QTest::mouseClick(toolbox.viewport(), Qt::LeftButton, {}, first.center());
     EXPECT_TRUE(window.Bench()->GetCanvas().IsDrawing());
     form::Glass& glass = window.Bench()->GetCanvas().GetGlass();
-    const QPoint origin = Design().View().Client().mapTo(&glass, QPoint()) ;
+    const QPoint origin = Design().View().Client().mapTo(&glass, QPoint());
     QTest::mousePress(&glass, Qt::LeftButton, {}, origin + QPoint(16, 16));
     QTest::mouseMove(&glass, origin + QPoint(100, 60));
     QTest::mouseMove(&glass, origin + QPoint(160, 80));
@@ -208,9 +208,9 @@ TEST_F(DesignWindowTest, SavingUnderAnotherNameLeavesTheFirstAlone) {
     EXPECT_THAT(Bytes(File(QStringLiteral("other.frm"))), HasSubstr("$\"other.frx\""));
     EXPECT_EQ(window.windowTitle(), QStringLiteral("other.frm[*] – lumenform"));
     window.Load(Path(QStringLiteral("other.frm")));
-    EXPECT_EQ(std::get<lumenkit::Text>(
-                  Design().View().Find(u"VMemo1")->Own()->Automation().Get(u"Text")),
-              u"new\r\ntext");
+    EXPECT_EQ(
+        std::get<lumenkit::Text>(Design().View().Find(u"VMemo1")->Own()->Automation().Get(u"Text")),
+        u"new\r\ntext");
 }
 
 TEST_F(DesignWindowTest, AFailedSaveSaysSoAndLosesNothing) {
