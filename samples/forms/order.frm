@@ -106,7 +106,6 @@ Begin VB.Form frmOrder
       BulletIndent    =   240
       BulletPrefix    =   "* "
       Caption         =   $"order.frx":0000
-      ForeColor       =   0
       WordWrap        =   -1  'True
    End
    Begin VB.Label lblPrint 

@@ -19,6 +19,7 @@
 #include "apps/lumenform/design/model/arrange.h"
 #include "apps/lumenform/design/model/clipboard.h"
 #include "project/lumenkit_classes.h"
+#include "runtime/qt/element.h"
 #include "tests/apps/lumenform/loaded_view.h"
 #include "tests/support/qt_keys.h"
 
@@ -135,7 +136,7 @@ TEST_F(DesignWindowTest, DrawsAControlOfTheToolbox) {
     QTest::mouseClick(toolbox.viewport(), Qt::LeftButton, {}, first.center());
     EXPECT_TRUE(window.Bench()->GetCanvas().IsDrawing());
     form::Glass& glass = window.Bench()->GetCanvas().GetGlass();
-    const QPoint origin = Design().View().Client().mapTo(&glass, QPoint());
+    const QPoint origin = glass.mapFromGlobal(Design().View().Client().mapToGlobal(QPoint()));
     QTest::mousePress(&glass, Qt::LeftButton, {}, origin + QPoint(16, 16));
     QTest::mouseMove(&glass, origin + QPoint(100, 60));
     QTest::mouseMove(&glass, origin + QPoint(160, 80));

@@ -92,7 +92,8 @@ TEST_F(RenderCommand, SaysWhatItCannotReadOrWrite) {
 
 TEST_F(RenderCommand, RefusesWrongArguments) {
     for (const char* arguments :
-         {"", "draw", "render", "render x.frm", "design x.frm", "render x.frm -o y.png --scale 0",
+         {"draw", "render", "render x.frm", "render -o y.png", "render x.frm -o y.png --page",
+          "design x.frm", "design a b", "render x.frm -o y.png --scale 0",
           "render x.frm -o y.png --code-page 932"}) {
         const Outcome outcome = RunProgram(arguments);
         EXPECT_EQ(outcome.status, 2) << arguments;
@@ -101,7 +102,7 @@ TEST_F(RenderCommand, RefusesWrongArguments) {
 }
 
 TEST_F(RenderCommand, HelpHasExamples) {
-    for (const char* arguments : {"--help", "render --help", "run --help", "new --help"}) {
+    for (const char* arguments : {"--help", "design --help", "render --help", "run --help", "new --help"}) {
         EXPECT_THAT(RunProgram(arguments).output, HasSubstr("Examples:\n  lumenform "))
             << arguments;
     }

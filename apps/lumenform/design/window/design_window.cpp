@@ -112,7 +112,7 @@ void DesignWindow::FillRecent() {
 
 void DesignWindow::AddRunMenu() {
     QMenu* const menu = menuBar()->addMenu(tr("&Run"));
-    runForm_ = menu->addAction(style()->standardIcon(QStyle::SP_MediaPlay), tr("&Run the form"));
+    runForm_ = menu->addAction(tr("&Run the form"));
     runForm_->setCheckable(true);
     runForm_->setShortcut(Qt::Key_F5);
     runForm_->setToolTip(tr("Try the form out; the same again goes back to the design (F5)"));

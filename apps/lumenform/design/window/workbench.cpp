@@ -48,8 +48,8 @@ Workbench::~Workbench() {
 }
 
 void Workbench::LayOut() {
-    constexpr int toolboxLetters = 20;
-    constexpr int propertiesLetters = 44;
+    constexpr int toolboxLetters = 25;
+    constexpr int propertiesLetters = 50;
     const int letter = fontMetrics().averageCharWidth();
     addWidget(toolbox_);
     addWidget(canvas_);
