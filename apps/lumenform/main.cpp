@@ -19,11 +19,12 @@ int Run(int argc, char** argv) {
     program.set_version_flag("--version", LUMENKIT_VERSION);
     program.require_subcommand(0, 1);
     program.footer(
-        R"(Exit status: 0 when it is done, 1 when a control reported an error meanwhile, 2 for wrong
+        R"(Without a command it shows the designer's first screen.
+
+Exit status: 0 when it is done, 1 when a control reported an error meanwhile, 2 for wrong
 arguments and for files that cannot be read or written.
 
 Examples:
-  lumenform
   lumenform new order.frm
   lumenform design order.frm
   lumenform run order.frm

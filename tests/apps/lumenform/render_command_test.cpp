@@ -102,7 +102,8 @@ TEST_F(RenderCommand, RefusesWrongArguments) {
 }
 
 TEST_F(RenderCommand, HelpHasExamples) {
-    for (const char* arguments : {"--help", "design --help", "render --help", "run --help", "new --help"}) {
+    for (const char* arguments :
+         {"--help", "design --help", "render --help", "run --help", "new --help"}) {
         EXPECT_THAT(RunProgram(arguments).output, HasSubstr("Examples:\n  lumenform "))
             << arguments;
     }

@@ -292,7 +292,7 @@ void DesignWindow::UpdateTitle() {
     const bool isOpen = bench_ != nullptr;
     const bool isDesign = isOpen && run_ == nullptr;
     setWindowTitle(!isOpen           ? tr("lumenform")
-                   : run_ != nullptr ? tr("%1 (running) – lumenform").arg(FormName())
+                   : run_ != nullptr ? tr("%1[*] (running) – lumenform").arg(FormName())
                                      : tr("%1[*] – lumenform").arg(FormName()));
     setWindowModified(isOpen && !bench_->GetDesign().History().isClean());
     save_->setEnabled(isDesign);
