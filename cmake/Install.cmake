@@ -73,5 +73,12 @@ if(TARGET lumenkit_ocx)
         DESTINATION . COMPONENT server)
     install(FILES packaging/windows/README.md LICENSE DESTINATION . COMPONENT server_more)
     install(DIRECTORY samples/atl_host samples/registration_free samples/html samples/scripts
-        DESTINATION samples COMPONENT server_more)
+        DESTINATION samples COMPONENT server_more
+        PATTERN check.sh EXCLUDE
+        PATTERN expected.txt EXCLUDE)
+    # The interfaces as C++ sees them, which the samples include.
+    install(FILES
+        "${PROJECT_BINARY_DIR}/samples/generated/lumenkit.h"
+        "${PROJECT_BINARY_DIR}/samples/generated/lumenkit_runtime.h"
+        DESTINATION include COMPONENT server_more)
 endif()

@@ -49,7 +49,9 @@ check_windows() {
     # The program finds the controls beside it: nothing is registered in this prefix.
     scripts/wine.sh --screen scripts/shoot.sh "$work/free.png" wine "$files/x64/atl_host_free.exe"
     [ -s "$work/free.png" ] || fail "atl_host_free.exe shows nothing"
-    # Registered, it serves scripts.
+    [ -s "$files/include/lumenkit.h" ] || fail "there is no header"
+    # Registered, it serves the scripts of the archive.
+    cp samples/scripts/check.sh samples/scripts/expected.txt "$files/samples/scripts/"
     scripts/wine.sh --screen "$files/samples/scripts/check.sh" "$files/x64/lumenkit.ocx"
     echo "Windows archive: unpacked and run under Wine"
 }
