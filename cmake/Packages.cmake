@@ -42,8 +42,8 @@ if(TARGET lumenkit)
 endif()
 if(TARGET lumenform)
     debian_package(lumenform lumenform devel
-        "runs and draws form files with lumenkit's controls"
-        "Shows form files (.frm and kin) with their controls at work, and draws them into pictures.")
+        "designs, runs and draws form files with lumenkit's controls"
+        "A designer for forms (.frm and kin) that shows them with their controls at work and draws them into pictures.")
     # Forms name fonts that these stand in for.
     set(CPACK_DEBIAN_LUMENFORM_PACKAGE_RECOMMENDS fonts-liberation2)
 endif()
