@@ -15,7 +15,8 @@ constexpr std::size_t blockSize = 64;
 std::uint64_t BreaksOfTail(const char16_t* units, std::size_t count) {
     std::uint64_t breaks = 0;
     for (std::size_t i = 0; i < count; ++i) {
-        breaks |= std::uint64_t{units[i] == u'\r' && units[i + 1] == u'\n'} << i;
+        const std::uint64_t begins = units[i] == u'\r' && units[i + 1] == u'\n' ? 1 : 0;
+        breaks |= begins << i;
     }
     return breaks;
 }
@@ -37,7 +38,8 @@ BreakUnits FindBreakUnits(const char16_t* units) {
     };
     BreakUnits found;
     for (std::size_t i = 0; i < blockSize; i += step) {
-        const auto* const at = reinterpret_cast<const __m128i*>(units + i);
+        const void* const start = units + i;
+        const auto* const at = static_cast<const __m128i*>(start);
         // Bytes, of which those that units do not fit into become 0 or 255.
         const __m128i bytes = _mm_packus_epi16(_mm_loadu_si128(at), _mm_loadu_si128(at + 1));
         found.returns |= bits(_mm_cmpeq_epi8(bytes, carriageReturn)) << i;

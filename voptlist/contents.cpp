@@ -8,11 +8,11 @@ namespace lumenkit {
 
 namespace {
 
-constexpr char16_t bar = u'|';
+constexpr char16_t separator = u'|';
 constexpr std::size_t longest = 32'766;
 
 std::size_t CountBars(TextView text) {
-    return static_cast<std::size_t>(std::ranges::count(text, bar));
+    return static_cast<std::size_t>(std::ranges::count(text, separator));
 }
 
 // How many units two texts have in common at their beginnings.
@@ -74,12 +74,12 @@ std::optional<ContentsItem> ContentsWalk::Next() {
 ContentsChange FindChange(TextView former, TextView contents) {
     const TextView beginning = contents.substr(0, CommonBeginning(former, contents));
     ContentsChange change{.firstItem = static_cast<std::int16_t>(CountBars(beginning)),
-                          .begin = beginning.rfind(bar) + 1,
+                          .begin = beginning.rfind(separator) + 1,
                           .end = contents.size()};
     const TextView formerRest = former.substr(beginning.size());
     const TextView rest = contents.substr(beginning.size());
     const std::size_t ending = CommonEnd(formerRest, rest);
-    const std::size_t lastBegun = contents.find(bar, contents.size() - ending);
+    const std::size_t lastBegun = contents.find(separator, contents.size() - ending);
     // The walk over a longer text ends in an overflow, which is not to be missed.
     if (lastBegun == TextView::npos || contents.size() > longest ||
         CountBars(formerRest.substr(0, formerRest.size() - ending)) !=

@@ -214,14 +214,41 @@ void Face::WalkWords(TextView text, Take&& take) {
     }
 }
 
+// The same for a text of nothing but simple characters that were measured before; false where
+// there are others, and `take` has been told of some ends for nothing.
+template <typename Take>
+bool Face::WalkKnown(TextView text, Take&& take) const {
+    if (!trustsTable_) {
+        return false;
+    }
+    double x = 0;
+    for (const char16_t unit : text) {
+        const double advance = unit < tableSize ? advances_[unit] : -1;
+        if (advance < 0) {
+            return false;
+        }
+        x += advance;
+        take(x);
+    }
+    return true;
+}
+
 double Face::WidthOf(TextView text) {
     double width = 0;
+    if (WalkKnown(text, [&](double end) { width = end; })) {
+        return width;
+    }
+    width = 0;
     WalkWords(text, [&](double end) { width = end; });
     return width;
 }
 
 void Face::Ends(TextView text, double factor, std::span<double> ends) {
     std::size_t index = 0;
+    if (WalkKnown(text, [&](double end) { ends[index++] = end * factor; })) {
+        return;
+    }
+    index = 0;
     WalkWords(text, [&](double end) { ends[index++] = end * factor; });
 }
 

@@ -77,6 +77,8 @@ class Face {
 
     template <typename Take>
     void WalkWords(TextView text, Take&& take);
+    template <typename Take>
+    bool WalkKnown(TextView text, Take&& take) const;
     double AdvanceOf(char16_t unit);
     std::uint32_t GlyphOf(char16_t unit);
     bool AddsUp(TextView text);
