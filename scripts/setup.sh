@@ -13,7 +13,7 @@ declare -A groups=(
     [wine]="wine wine64 fonts-wine fonts-liberation2"
     [qt]="qt6-base-dev qt6-qpa-plugins fonts-liberation2 fonts-dejavu-core"
     [package]="dpkg-dev desktop-file-utils shared-mime-info libxml2-utils unzip"
-    [screen]="xvfb xauth xdotool imagemagick"
+    [screen]="xvfb xauth xdotool imagemagick openbox"
 )
 
 installed() {

@@ -9,7 +9,7 @@ step "Formatting"
 scripts/format.sh --check
 
 step "Include rule"
-scripts/setup.sh build
+scripts/setup.sh build screen
 python3 scripts/check_includes.py --self-test
 python3 scripts/check_includes.py
 

@@ -63,6 +63,7 @@ QWidget* FirstStop(const LiveControl& control) {
 FormView::FormView(const qt::Context& context, forms::Document& document, Mode mode,
                    QWidget* parent)
     : QWidget(parent), stage_{.context = context, .document = document, .mode = mode, .raise = {}} {
+    setBackgroundRole(QPalette::Window);  // wherever it lies
     const BlockReader form(document, document.Root());
     caption_ = form.String(u"Caption");
     const Color backColor = form.ColorOf(u"BackColor", UsualBackColor(document.Root()));

@@ -114,6 +114,7 @@ template <typename Button>
 std::unique_ptr<Button> NewMarkedButton(const BlockReader& reader, const PlainSink& raise) {
     auto button = NewButton<Button>(reader, raise);
     button->setAutoFillBackground(true);
+    button->setBackgroundRole(QPalette::Window);
     if (reader.Whole(u"Alignment", 0) == 1) {
         button->setLayoutDirection(Qt::RightToLeft);
     }

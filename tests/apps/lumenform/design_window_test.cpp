@@ -303,6 +303,9 @@ TEST_F(DesignWindowTest, RunsACopyAndComesBackToTheSame) {
     form::LiveControl& memo = *window.Running()->View().Find(u"memPrint");
     TypeKeys(*memo.Own()->Parts().Find(u"Text1", 0)->Widget(), u"x");
     EXPECT_GE(window.Running()->Log().topLevelItemCount(), 1);
+    // The desk around the form is dark, what lies on the form is not.
+    EXPECT_EQ(window.Running()->View().Find(u"lblPrint")->Widget().backgroundRole(),
+              QPalette::Window);
     QTest::keyClick(&window, Qt::Key_F5);
     EXPECT_EQ(window.Running(), nullptr);
     EXPECT_EQ(Text(), text);
