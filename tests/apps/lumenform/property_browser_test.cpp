@@ -297,13 +297,14 @@ TEST_F(PropertyBrowser, TextsWithLineBreaksAreEditedInAWindow) {
     form.Select({u"Memo1"});
     auto* const dialog = form.More<form::TextDialog>(u"Text");
     ASSERT_NE(dialog, nullptr);
+    QApplication::setActiveWindow(dialog);
+    ASSERT_TRUE(QTest::qWaitForWindowActive(dialog));
     auto* const edit = dialog->findChild<QPlainTextEdit*>();
     edit->setFocus();
     edit->selectAll();
     QTest::keyClicks(edit, "one");
     QTest::keyClick(edit, Qt::Key_Return);
     QTest::keyClicks(edit, "two");
-    static_cast<void>(QTest::qWaitForWindowActive(dialog));
     QTest::keyClick(edit, Qt::Key_Return, Qt::ControlModifier);
     EXPECT_EQ(ToText(form.Automation(u"Memo1").Get(u"Text")), u"one\r\ntwo");
     EXPECT_EQ(form.Shown(u"Text"), "one  two");
