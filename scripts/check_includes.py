@@ -42,7 +42,7 @@ OTHER_LIBRARIES = ["runtime/win32", "runtime/qt", "runtime/ole", "server", "apps
 SYSTEM_HEADERS = {
     # Nothing in the standard library makes sure that a file is on the disk.
     "forms/flush.cpp": {"fcntl.h", "io.h", "unistd.h"},
-    # Compilers make no vector instructions of looking for line breaks by themselves.
+    # No compiler gathers comparisons in a bit mask by itself.
     "vmemo/line_break_scanner.cpp": {"emmintrin.h"},
 }
 WINDOWS_HEADERS = re.compile(r"^(windows|windowsx|ole\w*|objbase|commctrl|wingdi|winuser|unknwn)\.h$", re.I)
