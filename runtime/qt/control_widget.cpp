@@ -47,9 +47,9 @@ ControlWidget::ControlWidget(const Context& context, const ClassDescriptor& type
 }
 
 ControlWidget::~ControlWidget() {
-    hide();  // at once, not constituent by constituent
     surface_.SetControl(nullptr);
     constituents_.Disconnect();
+    QWidget::setVisible(false);  // at once, not constituent by constituent
 }
 
 void ControlWidget::StartNew() {
