@@ -7,22 +7,27 @@
 #include "apps/lumenform/form_view/block_reader.h"
 #include "forms/controls.h"
 #include "forms/literal.h"
+#include "frame/runtime_error.h"
 
 namespace lumenkit::form {
 
 namespace {
+
+constexpr TextView turnProperty = u"TabIndex";
+constexpr std::int32_t none = -1;
 
 struct Stop {
     forms::Block* block;
     std::int32_t turn;
 };
 
-std::vector<Stop> StopsOf(const forms::Document& document) {
+// All but `without`, in their order.
+std::vector<Stop> StopsOf(const forms::Document& document, const forms::Block& without) {
     std::vector<Stop> stops;
     for (forms::Block* block : forms::AllControls(document.Root())) {
         const BlockReader reader(document, *block);
-        if (reader.Has(u"TabIndex")) {
-            stops.push_back({block, reader.Whole(u"TabIndex", 0)});
+        if (block != &without && reader.Has(turnProperty)) {
+            stops.push_back({block, reader.Whole(turnProperty, 0)});
         }
     }
     std::ranges::stable_sort(stops, {}, &Stop::turn);
@@ -31,16 +36,14 @@ std::vector<Stop> StopsOf(const forms::Document& document) {
 
 }  // namespace
 
-void GiveTurn(const forms::Document& document, const forms::Block& control, std::int32_t turn) {
-    std::vector<Stop> stops = StopsOf(document);
-    const auto found = std::ranges::find(stops, &control, &Stop::block);
-    if (found == stops.end()) {
-        return;
+void GiveTurn(const forms::Document& document, forms::Block& control, std::int32_t turn) {
+    if (turn < 0) {
+        Raise(ErrorNumber::InvalidPropertyValue);
     }
-    const Stop chosen = *found;
-    stops.erase(found);
-    const auto place = std::clamp<std::ptrdiff_t>(turn, 0, std::ssize(stops));
-    stops.insert(stops.begin() + place, chosen);
+    std::vector<Stop> stops = StopsOf(document, control);
+    const auto place = std::min<std::ptrdiff_t>(turn, std::ssize(stops));
+    stops.insert(stops.begin() + place,
+                 {&control, BlockReader(document, control).Whole(turnProperty, none)});
     std::int32_t next = 0;
     for (std::ptrdiff_t index = 0; index < std::ssize(stops); ++index) {
         const Stop& stop = stops[static_cast<std::size_t>(index)];
@@ -48,7 +51,7 @@ void GiveTurn(const forms::Document& document, const forms::Block& control, std:
         const std::int32_t now =
             isBefore ? static_cast<std::int32_t>(index) : std::max(stop.turn, next);
         if (now != stop.turn) {
-            stop.block->Set(u"TabIndex", forms::Literal(now));
+            stop.block->Set(turnProperty, forms::Literal(now), u"Left");
         }
         next = now + 1;
     }

@@ -4,8 +4,8 @@
 #include <array>
 #include <string>
 
+#include "apps/lumenform/design/model/tab_order.h"
 #include "apps/lumenform/design/properties/names.h"
-#include "apps/lumenform/design/properties/tab_order.h"
 #include "apps/lumenform/design/properties/usual_properties.h"
 #include "apps/lumenform/form_view/plain_kinds.h"
 #include "forms/controls.h"
@@ -156,10 +156,8 @@ Setting TabIndexSetting(Design& design, forms::Block& block) {
             .isOwn = true,
             .get = [&design,
                     &block] { return BagOf(design, block).ReadProperty(u"TabIndex", Empty()); },
-            .set =
-                [&design, &block](const Value& value) {
-                    MoveInTabOrder(design.Document().Root(), block, ToLong(value));
-                }};
+            .set = [&design, &block](
+                       const Value& value) { GiveTurn(design.Document(), block, ToLong(value)); }};
 }
 
 Setting PlaceSetting(Design& design, LiveControl& control, TextView name, TextView help,
