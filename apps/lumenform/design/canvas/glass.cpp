@@ -220,7 +220,7 @@ void Glass::mouseReleaseEvent(QMouseEvent* event) {
         return;
     }
     const Press press = std::move(*press_);
-    const GestureRef gesture = std::move(gesture_);
+    const GestureRef gesture = std::exchange(gesture_, nullptr);
     DropGesture();
     Try([&] {
         if (gesture != nullptr) {
@@ -271,13 +271,17 @@ void Glass::contextMenuEvent(QContextMenuEvent* event) {
         Q_EMIT MenuRequested(mapToGlobal(rect.center()));
         return;
     }
-    LiveControl* const control = map_.ControlAt(event->pos());
+    SelectForMenu(map_.ControlAt(event->pos()));
+    Q_EMIT MenuRequested(event->globalPos());
+}
+
+// A menu over one of several selected controls is for them all.
+void Glass::SelectForMenu(LiveControl* control) {
     if (control == nullptr) {
         design_.Select({});
     } else if (!design_.IsSelected(*control)) {
         design_.Select({control});
     }
-    Q_EMIT MenuRequested(event->globalPos());
 }
 
 void Glass::leaveEvent(QEvent* event) {
@@ -327,7 +331,7 @@ void Glass::keyPressEvent(QKeyEvent* event) {
 
 void Glass::Escape() {
     if (press_) {
-        const GestureRef gesture = std::move(gesture_);
+        const GestureRef gesture = std::exchange(gesture_, nullptr);
         DropGesture();
         if (gesture != nullptr) {
             Try([&] { gesture->Cancel(); });

@@ -82,6 +82,7 @@ class Glass final : public QWidget {
     std::optional<Grip> GripAt(QPoint at) const;
     void Drag(QPoint at, Qt::KeyboardModifiers held);
     void DropGesture();
+    void SelectForMenu(LiveControl* control);
     void Escape();
     void Activate();
     void UpdateCursor(QPoint at);

@@ -21,7 +21,7 @@ class PlacingGesture final : public Gesture {
 
  private:
     struct Target {
-        LiveControl* control;
+        LiveControl* control = nullptr;
         host::Placement former;
         host::Placement place;
     };

@@ -1,6 +1,7 @@
 #include "apps/lumenform/design/model/new_form.h"
 
 #include <algorithm>
+#include <array>
 
 #include "apps/lumenform/form_view/library_name.h"
 #include "frame/utf8.h"
@@ -35,7 +36,7 @@ std::string FormName(std::string_view fileStem) {
 
 std::string NewForm(std::string_view name, const ClassTable& classes) {
     const std::string formName(name);
-    const std::string lines[] = {
+    const auto lines = std::to_array<std::string>({
         "VERSION 5.00",
         LibraryLine(classes),
         "Begin VB.Form " + formName + ' ',
@@ -55,7 +56,7 @@ std::string NewForm(std::string_view name, const ClassTable& classes) {
         "Attribute VB_PredeclaredId = True",
         "Attribute VB_Exposed = False",
         "Option Explicit",
-    };
+    });
     std::string text;
     for (const std::string& line : lines) {
         text += line + "\r\n";

@@ -2,7 +2,6 @@
 
 #include <QCoreApplication>
 #include <algorithm>
-#include <ranges>
 #include <vector>
 
 #include "apps/lumenform/design/model/arrange.h"
@@ -52,8 +51,10 @@ void BringToFront(Design& design) {
     }
     design.Restructure(QCoreApplication::translate("stacking", "Bring to front"), [&] {
         std::vector<Text> names = design.SelectedNames();
-        for (const Stacked& stacked : SelectedBlocks(design) | std::views::reverse) {
-            stacked.parent.MoveControl(stacked.block, Foremost(stacked.parent));
+        std::vector<Stacked> blocks = SelectedBlocks(design);
+        for (; !blocks.empty(); blocks.pop_back()) {
+            const Stacked& last = blocks.back();
+            last.parent.MoveControl(last.block, Foremost(last.parent));
         }
         return names;
     });

@@ -254,7 +254,8 @@ Setting UsualSetting(Design& design, forms::Block& block, const UsualProperty& u
 }
 
 Setting Unchangeable(Text name, Text shown) {
-    return {.name = std::move(name), .get = [shown]() -> Value { return shown; }};
+    return {.name = std::move(name),
+            .get = [shown = std::move(shown)]() -> Value { return shown; }};
 }
 
 bool NamesColor(TextView name) {
