@@ -29,6 +29,11 @@ if(LUMENKIT_SANITIZE)
         "-fsanitize=${LUMENKIT_SANITIZE}" -fno-sanitize-recover=all -fno-omit-frame-pointer)
     target_link_options(lumenkit_settings INTERFACE "-fsanitize=${LUMENKIT_SANITIZE}")
 endif()
+if(LUMENKIT_COVERAGE)
+    # Branches that only exceptions take say nothing about tests; gcovr leaves them out.
+    target_compile_options(lumenkit_settings INTERFACE --coverage)
+    target_link_options(lumenkit_settings INTERFACE --coverage)
+endif()
 if(LUMENKIT_FUZZ)
     # The fuzzers see which ways through every library an input takes.
     target_compile_options(lumenkit_settings INTERFACE -fsanitize=fuzzer-no-link)
@@ -49,8 +54,8 @@ endfunction()
 # unit of its own. One with a source file of its own name needs no other: that file includes it
 # first, which scripts/check_includes.py sees to.
 function(lumenkit_headers_compile_alone name)
-    # Once is enough: sanitizers say nothing about it, and only what is made for Windows needs it there.
-    if(NOT LUMENKIT_TESTS OR LUMENKIT_SANITIZE OR
+    # Once is enough: sanitizers and counters say nothing about it, and only what is made for Windows needs it there.
+    if(NOT LUMENKIT_TESTS OR LUMENKIT_SANITIZE OR LUMENKIT_COVERAGE OR
        (WIN32 AND NOT CMAKE_CURRENT_SOURCE_DIR MATCHES "/runtime/(win32|ole)$"))
         return()
     endif()

@@ -9,6 +9,7 @@ case $preset in
     native) scripts/setup.sh build bench qt ;;
     native-asan) scripts/setup.sh build qt ;;
     fuzz) scripts/setup.sh build fuzz ;;
+    coverage) scripts/setup.sh build coverage ;;
     mingw-*) scripts/setup.sh build windows ;;
 esac
 cmake --preset "$preset" >/dev/null
