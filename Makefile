@@ -1,6 +1,6 @@
 # Every target installs what it needs and works on a fresh Debian 12 machine.
 .DEFAULT_GOAL := help
-.PHONY: run test bench ocx run-ocx fuzz lint format golden published screenshots package coverage clean help
+.PHONY: run test bench ocx run-ocx fuzz lint format golden published screenshots package analyse coverage clean help
 
 run: ## do the main job: open a form with the three controls in the designer
 	@scripts/run.sh
@@ -22,6 +22,9 @@ package: ## packages of the tools for Debian and of the server for Windows, in b
 
 fuzz: ## fuzz each target for FUZZ_SECONDS (default 600)
 	@scripts/fuzz.sh
+
+analyse: ## cppcheck and Valgrind over the core
+	@scripts/analyse.sh
 
 coverage: ## which lines and branches of the core the tests reach
 	@scripts/coverage.sh

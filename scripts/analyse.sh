@@ -1,0 +1,39 @@
+#!/usr/bin/env bash
+# cppcheck over the core, and the core's tests under Valgrind. Nothing may be found but what
+# scripts/cppcheck.suppressions lists, with its reasons.
+#   scripts/analyse.sh [cppcheck|valgrind]
+set -euo pipefail
+cd "$(dirname "$0")/.."
+
+folders=(frame vlabel vmemo voptlist vlabelcaption project runtime/memory runtime/stored forms apps/lumenkit)
+# The models take too long under Valgrind, and a program cannot be killed at its system calls there.
+tests=(frame_test memory_test vlabel_test vlabel_control_test vmemo_test voptlist_test
+    vlabelcaption_test project_test fault_sweep_test stored_test forms_test contract_memory_test)
+
+run_cppcheck() {
+    echo "== cppcheck"
+    cppcheck --quiet --std=c++20 --language=c++ -I . --enable=warning,performance,portability \
+        --suppressions-list=scripts/cppcheck.suppressions --inline-suppr --error-exitcode=1 \
+        -j "$(nproc)" "${folders[@]}"
+}
+
+# Several tests have an operator new of their own, which Valgrind must not replace.
+run_valgrind() {
+    local test program
+    scripts/build.sh native "${tests[@]}"
+    for test in "${tests[@]}"; do
+        echo "== valgrind $test"
+        program=$(find build/native/tests -name "$test" -type f)
+        valgrind --quiet --error-exitcode=1 --leak-check=full \
+            --errors-for-leak-kinds=definite,indirect --show-leak-kinds=definite,indirect \
+            --soname-synonyms=somalloc=nouserintercepts "$program" --gtest_brief=1
+    done
+}
+
+scripts/setup.sh analyse
+case ${1:-all} in
+    cppcheck) run_cppcheck ;;
+    valgrind) run_valgrind ;;
+    all) run_cppcheck && run_valgrind ;;
+    *) echo "usage: scripts/analyse.sh [cppcheck|valgrind]" >&2; exit 2 ;;
+esac
