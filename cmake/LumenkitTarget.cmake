@@ -39,6 +39,8 @@ if(LUMENKIT_FUZZ)
     target_compile_options(lumenkit_settings INTERFACE -fsanitize=fuzzer-no-link)
 endif()
 
+include(SharedHeaders)
+
 # lumenkit_library(NAME SOURCES file... LINKS target...)
 # A static library lumenkit_NAME, known to others as lumenkit::NAME. Each of its headers also
 # compiles alone, so that none leans on what a neighbour happens to include.
@@ -47,6 +49,7 @@ function(lumenkit_library name)
     add_library(lumenkit_${name} STATIC ${ARG_SOURCES})
     add_library(lumenkit::${name} ALIAS lumenkit_${name})
     target_link_libraries(lumenkit_${name} PUBLIC lumenkit_settings ${ARG_LINKS})
+    lumenkit_reuse_headers(lumenkit_${name})
     lumenkit_headers_compile_alone(lumenkit_${name} ${ARG_LINKS})
 endfunction()
 

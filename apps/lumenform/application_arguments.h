@@ -8,6 +8,7 @@ namespace lumenkit::form {
 /// for the desktop. It must outlive the application.
 struct ApplicationArguments {
     ApplicationArguments() = default;
+    ~ApplicationArguments() = default;
     ApplicationArguments(const ApplicationArguments&) = delete;
     ApplicationArguments& operator=(const ApplicationArguments&) = delete;
 

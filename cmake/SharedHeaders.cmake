@@ -1,0 +1,37 @@
+# Headers that nearly every source includes, compiled once for all libraries. Off in the builds that
+# people use and that prove each file to include what it needs.
+option(LUMENKIT_PRECOMPILE "Compile common headers once for all libraries" OFF)
+
+# lumenkit_shared_headers(NAME LINKS target... HEADERS header...)
+# A target to reuse the compiled headers from.
+function(lumenkit_shared_headers name)
+    cmake_parse_arguments(ARG "" "" "LINKS;HEADERS" ${ARGN})
+    file(CONFIGURE OUTPUT ${name}.cpp CONTENT "")
+    add_library(${name} OBJECT "${CMAKE_CURRENT_BINARY_DIR}/${name}.cpp")
+    target_link_libraries(${name} PRIVATE lumenkit_settings ${ARG_LINKS})
+    target_precompile_headers(${name} PRIVATE ${ARG_HEADERS})
+endfunction()
+
+if(LUMENKIT_PRECOMPILE)
+    set(standard <algorithm> <array> <cstdint> <functional> <map> <memory> <optional> <span>
+        <string> <string_view> <utility> <variant> <vector>)
+    lumenkit_shared_headers(lumenkit_headers HEADERS ${standard})
+    if(LUMENKIT_QT)
+        find_package(Qt6 6.4 REQUIRED COMPONENTS Widgets)
+        lumenkit_shared_headers(lumenkit_qt_headers
+            LINKS Qt6::Widgets HEADERS ${standard} <QtWidgets>)
+        target_compile_definitions(lumenkit_qt_headers PRIVATE QT_NO_KEYWORDS)
+    endif()
+endif()
+
+# For the libraries of the folder that is being read.
+function(lumenkit_reuse_headers target)
+    if(NOT LUMENKIT_PRECOMPILE)
+        return()
+    endif()
+    if(CMAKE_CURRENT_SOURCE_DIR MATCHES "/(runtime/qt|apps/lumenform)(/|$)")
+        target_precompile_headers(${target} REUSE_FROM lumenkit_qt_headers)
+    else()
+        target_precompile_headers(${target} REUSE_FROM lumenkit_headers)
+    endif()
+endfunction()
