@@ -396,7 +396,7 @@ TEST_P(FaultSweep, LeavesNoEventOut) {
     }
     std::set<Text> all;
     for (const Event& event : GetParam()->eventTable->events) {
-        if (event.name != u"Validate") {  // which containers raise for themselves
+        if (event.name != u"Validate") {  // which the control declares and never raises
             all.emplace(event.name);
         }
     }
