@@ -46,13 +46,13 @@ Glass::Glass(Design& design, const Grid& grid, QWidget& desk)
     setAccessibleName(tr("Form"));
     connect(&design, &Design::SelectionChanged, this, &Glass::TellSelection);
     // Whatever changed the form in the middle of a drag, undo for one, has the last word.
-    connect(&design, &Design::Edited, this, &Glass::DropGesture);
+    connect(&design, &Design::Edited, this, &Glass::EndGesture);
 }
 
 Glass::~Glass() = default;
 
 void Glass::FollowView() {
-    DropGesture();
+    EndGesture();
     map_.Update();
     raise();
     TellSelection();
@@ -220,8 +220,7 @@ void Glass::mouseReleaseEvent(QMouseEvent* event) {
         return;
     }
     const Press press = std::move(*press_);
-    const GestureRef gesture = std::exchange(gesture_, nullptr);
-    DropGesture();
+    const GestureRef gesture = EndGesture();
     Try([&] {
         if (gesture != nullptr) {
             gesture->Finish();
@@ -232,15 +231,16 @@ void Glass::mouseReleaseEvent(QMouseEvent* event) {
     UpdateCursor(event->position().toPoint());
 }
 
-// Forgets the drag; what it did so far stays.
-void Glass::DropGesture() {
+// Forgets the drag and gives it away; what it did so far stays.
+Glass::GestureRef Glass::EndGesture() {
     if (gesture_ != nullptr) {
         update(Grown(gesture_->Band()));
     }
-    gesture_.reset();
+    GestureRef ended = std::exchange(gesture_, nullptr);
     press_.reset();
     label_->hide();
     UpdateMarks();
+    return ended;
 }
 
 void Glass::mouseDoubleClickEvent(QMouseEvent* event) {
@@ -331,8 +331,7 @@ void Glass::keyPressEvent(QKeyEvent* event) {
 
 void Glass::Escape() {
     if (press_) {
-        const GestureRef gesture = std::exchange(gesture_, nullptr);
-        DropGesture();
+        const GestureRef gesture = EndGesture();
         if (gesture != nullptr) {
             Try([&] { gesture->Cancel(); });
         }

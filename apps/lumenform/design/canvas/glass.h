@@ -81,7 +81,7 @@ class Glass final : public QWidget {
     GestureRef StartDrawing(QPoint at);
     std::optional<Grip> GripAt(QPoint at) const;
     void Drag(QPoint at, Qt::KeyboardModifiers held);
-    void DropGesture();
+    GestureRef EndGesture();
     void SelectForMenu(LiveControl* control);
     void Escape();
     void Activate();

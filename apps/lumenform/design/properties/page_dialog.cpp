@@ -83,6 +83,18 @@ PageDialog::PageDialog(Design& design, ControlMessages& messages, const ClassDes
     page_->Select(std::move(selection));
     page_->SetChanged(false);  // what it was filled with is no change
     apply->setEnabled(false);
+    FocusPage();
+}
+
+// Not a button, which would take the first blank that is typed for a click.
+void PageDialog::FocusPage() {
+    for (QWidget* widget = page_->nextInFocusChain(); widget != page_;
+         widget = widget->nextInFocusChain()) {
+        if (page_->isAncestorOf(widget) && (widget->focusPolicy() & Qt::TabFocus) != 0) {
+            widget->setFocus();
+            return;
+        }
+    }
 }
 
 void PageDialog::ApplyPage() {

@@ -33,6 +33,7 @@ class PageDialog final : public QDialog {
 
  private:
     void ApplyPage();
+    void FocusPage();
 
     Design& design_;
     ControlMessages& messages_;

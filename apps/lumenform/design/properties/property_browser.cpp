@@ -192,6 +192,16 @@ bool PropertyBrowser::Edit(TextView property) {
     return true;
 }
 
+bool PropertyBrowser::FinishEditing() {
+    QWidget* const editor = table_->indexWidget(table_->currentIndex());
+    if (editor == nullptr) {
+        return true;
+    }
+    notice_->Say({});
+    delegate_->Finish(editor);
+    return notice_->Text().isEmpty();
+}
+
 // ---- Windows of their own
 
 void PropertyBrowser::OpenMore(int row) {

@@ -33,6 +33,9 @@ class PropertyBrowser final : public QWidget {
     /// Makes a property the current one, and starts editing it. False where there is none of the
     /// name.
     bool Edit(TextView property);
+    /// Takes what is being typed into a line as its value. False if it is refused, which is said
+    /// below the list.
+    bool FinishEditing();
 
     PropertyTable& Table() const { return *table_; }
     const PropertyModel& Model() const { return model_; }

@@ -191,8 +191,13 @@ bool PropertyDelegate::eventFilter(QObject* object, QEvent* event) {
     }
     switch (event->type()) {
         case QEvent::ShortcutOverride:
-            if (static_cast<QKeyEvent*>(event)->key() == Qt::Key_Escape) {
-                event->accept();
+            switch (static_cast<QKeyEvent*>(event)->key()) {
+                case Qt::Key_Escape:
+                case Qt::Key_F4:
+                    event->accept();
+                    break;
+                default:
+                    break;
             }
             return false;
         case QEvent::KeyPress:

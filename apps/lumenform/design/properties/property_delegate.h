@@ -31,6 +31,8 @@ class PropertyDelegate final : public QStyledItemDelegate {
 
     /// Takes an editor away; what was typed is lost.
     void Close(QWidget* editor) const;
+    /// Takes an editor away; what was typed is told by Changed.
+    void Finish(QWidget* editor) const;
 
  Q_SIGNALS:
     /// Another value was typed or chosen.
@@ -46,7 +48,6 @@ class PropertyDelegate final : public QStyledItemDelegate {
  private:
     QWidget* NewChoiceBox(QWidget* parent, const PropertyRow& row) const;
     QWidget* NewValueEditor(QWidget* parent, const PropertyRow& row, int index) const;
-    void Finish(QWidget* editor) const;
     bool HandleKey(ValueEditor& editor, const QKeyEvent& event);
 
     const PropertyModel& model_;

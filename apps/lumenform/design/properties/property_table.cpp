@@ -79,6 +79,17 @@ QModelIndex PropertyTable::moveCursor(CursorAction action, Qt::KeyboardModifiers
     }
 }
 
+// Keys that mean something here go before shortcuts of the window: Delete is for the value.
+bool PropertyTable::event(QEvent* event) {
+    if (event->type() == QEvent::ShortcutOverride) {
+        const auto& key = static_cast<const QKeyEvent&>(*event);
+        if (key.key() == Qt::Key_F4 || key.matches(QKeySequence::Delete)) {
+            event->accept();
+        }
+    }
+    return QTableView::event(event);
+}
+
 void PropertyTable::keyPressEvent(QKeyEvent* event) {
     const bool isAltDown =
         event->key() == Qt::Key_Down && event->modifiers().testFlag(Qt::AltModifier);

@@ -22,6 +22,7 @@ class PropertyTable final : public QTableView {
     void MoreWanted(int row);
 
  protected:
+    bool event(QEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void changeEvent(QEvent* event) override;
     QModelIndex moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) override;

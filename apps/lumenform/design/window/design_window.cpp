@@ -212,7 +212,7 @@ void DesignWindow::Close() {
 }
 
 bool DesignWindow::Save() {
-    if (bench_ == nullptr) {
+    if (bench_ == nullptr || !bench_->FinishEditing()) {
         return false;
     }
     if (!file_.HasPath()) {
@@ -223,7 +223,7 @@ bool DesignWindow::Save() {
 }
 
 bool DesignWindow::SaveAs() {
-    if (bench_ == nullptr) {
+    if (bench_ == nullptr || !bench_->FinishEditing()) {
         return false;
     }
     const QString proposed = file_.HasPath() ? file_.Path() : FormName();
@@ -246,6 +246,9 @@ bool DesignWindow::SaveTo(const QString& path) {
 }
 
 bool DesignWindow::MayLeave() {
+    if (bench_ != nullptr && !bench_->FinishEditing()) {
+        return false;
+    }
     if (bench_ == nullptr || bench_->GetDesign().History().isClean()) {
         return true;
     }
@@ -261,7 +264,7 @@ bool DesignWindow::MayLeave() {
 }
 
 void DesignWindow::Run(bool on) {
-    if (on && run_ == nullptr && bench_ != nullptr) {
+    if (on && run_ == nullptr && bench_ != nullptr && bench_->FinishEditing()) {
         bench_->Try(
             [this] { run_ = std::make_unique<RunPage>(context_, bench_->GetDesign().Document()); });
         if (run_ != nullptr) {

@@ -51,7 +51,7 @@ FormCommands::FormCommands(QWidget& window)
 QAction* FormCommands::Add(QMenu& menu, const QString& title, const QKeySequence& keys, Needs needs,
                            const std::function<void(Workbench&)>& run) {
     QAction* const action = menu.addAction(title, this, [this, run] {
-        if (workbench_ != nullptr) {
+        if (workbench_ != nullptr && workbench_->FinishEditing()) {
             workbench_->Try([&] { run(*workbench_); });
         }
     });
@@ -65,6 +65,8 @@ void FormCommands::FillEdit() {
     undo_->setShortcut(QKeySequence::Undo);
     redo_ = history_.createRedoAction(this);
     redo_->setShortcuts(QKeySequence::Redo);
+    FinishEditingBefore(*undo_, &QUndoGroup::undo);
+    FinishEditingBefore(*redo_, &QUndoGroup::redo);
     edit_->addActions({undo_, redo_});
     edit_->addSeparator();
     AddClipboardCommands();
@@ -80,6 +82,16 @@ void FormCommands::FillEdit() {
                     });
     tabOrder_->setCheckable(true);
     tabOrder_->setToolTip(tr("Click the controls in the order in which Tab goes round them"));
+}
+
+// What is being typed is the newest step of the history.
+void FormCommands::FinishEditingBefore(QAction& action, void (QUndoGroup::*step)()) {
+    action.disconnect(&history_);
+    connect(&action, &QAction::triggered, this, [this, step] {
+        if (workbench_ != nullptr && workbench_->FinishEditing()) {
+            (history_.*step)();
+        }
+    });
 }
 
 void FormCommands::AddClipboardCommands() {

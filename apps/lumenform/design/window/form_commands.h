@@ -36,6 +36,7 @@ class FormCommands final : public QObject {
     };
 
     void FillEdit();
+    void FinishEditingBefore(QAction& action, void (QUndoGroup::*step)());
     void AddClipboardCommands();
     void AddOrderCommands();
     void FillFormat();

@@ -81,6 +81,14 @@ void Workbench::EditSelected() {
     }
 }
 
+bool Workbench::FinishEditing() {
+    if (!properties_->FinishEditing()) {
+        Q_EMIT Refused(properties_->Message());
+        return false;
+    }
+    return true;
+}
+
 void Workbench::PutDown(const QString& className) {
     canvas_->EndDrawing();
     const Text name = qt::ToText(className);

@@ -31,6 +31,9 @@ class Workbench final : public QSplitter {
 
     /// Opens the page of what is selected, or where there is none goes to its properties.
     void EditSelected();
+    /// Takes what is being typed into a property as its value. False if it is refused; then Refused
+    /// tells why.
+    bool FinishEditing();
     /// Does what may be refused; then Refused tells why and everything is as it was.
     void Try(const std::function<void()>& action);
 
