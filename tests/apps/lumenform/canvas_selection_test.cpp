@@ -3,6 +3,7 @@
 #include <QAction>
 #include <QApplication>
 #include <QContextMenuEvent>
+#include <QPaintEvent>
 #include <QTest>
 
 #include <gmock/gmock.h>
@@ -29,6 +30,22 @@ const std::string form =
     " TabIndex = 1\n End\n"
     "   End\n"
     "   Begin VB.Label E\n Left = 600\n Top = 300\n Width = 600\n Height = 450\n End\n";
+
+// Collects what of a widget is painted anew.
+class Painted final : public QObject {
+ public:
+    explicit Painted(QWidget& widget) { widget.installEventFilter(this); }
+
+    QRegion region;
+
+ private:
+    bool eventFilter(QObject* /*watched*/, QEvent* event) override {
+        if (event->type() == QEvent::Paint) {
+            region += static_cast<QPaintEvent*>(event)->region();
+        }
+        return false;
+    }
+};
 
 TEST(CanvasSelection, AClickSelectsTheTopmostControl) {
     DesignedForm canvas(form);
@@ -79,6 +96,25 @@ TEST(CanvasSelection, ABandSelectsWhatItTouches) {
     canvas.Drag({250, 5}, {-60, 20});
     EXPECT_THAT(canvas.Selected(), IsEmpty()) << "it touches nothing";
     EXPECT_EQ(canvas.design.History().count(), 0);
+}
+
+TEST(CanvasSelection, ABandIsWipedWhenItEnds) {
+    DesignedForm canvas(form);
+    form::Glass& glass = canvas.canvas->GetGlass();
+    for (const bool isCancelled : {false, true}) {
+        canvas.Press({250, 20});
+        canvas.MoveTo({260, 30});
+        canvas.MoveTo({300, 50});
+        QApplication::processEvents();
+        Painted painted(glass);
+        if (isCancelled) {
+            canvas.Key(Qt::Key_Escape);
+        }
+        canvas.Release({300, 50});
+        QApplication::processEvents();
+        EXPECT_GE(painted.region.boundingRect().width(), 50);
+        EXPECT_GE(painted.region.boundingRect().height(), 30);
+    }
 }
 
 TEST(CanvasSelection, ABandTakesTheControlsOfOneContainerOnly) {

@@ -96,6 +96,11 @@ class DesignWindowTest : public ::testing::Test {
     std::string Text() const { return Design().Document().Write().form; }
     void Select(TextView name) const { Design().SelectNamed({lumenkit::Text(name)}); }
     void Nudge() { QTest::keyClick(&window.Bench()->GetCanvas().GetGlass(), Qt::Key_Right); }
+    void TypeInto(TextView property, const char* text) const {
+        ASSERT_TRUE(window.Bench()->Properties().Edit(property));
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_A, Qt::ControlModifier);
+        QTest::keyClicks(QApplication::focusWidget(), QLatin1String(text));
+    }
     // A command of any menu by its title.
     QAction& Command(const QString& title) const {
         for (QAction* action : window.findChildren<QAction*>()) {
@@ -347,6 +352,58 @@ TEST_F(DesignWindowTest, CutsAndPastes) {
     window.Commands().UndoAction().trigger();
     window.Commands().UndoAction().trigger();
     EXPECT_EQ(Text(), before);
+}
+
+TEST_F(DesignWindowTest, SavingTakesWhatIsBeingTyped) {
+    window.Load(Copy("order"));
+    TypeInto(u"Caption", "typed");
+    Command(QStringLiteral("Save")).trigger();
+    EXPECT_THAT(Bytes(File(QStringLiteral("order.frm"))), HasSubstr("\"typed\""));
+    EXPECT_FALSE(window.isWindowModified());
+}
+
+TEST_F(DesignWindowTest, NothingIsSavedWhileWhatIsTypedIsRefused) {
+    window.Load(Copy("order"));
+    const std::string before = Bytes(File(QStringLiteral("order.frm")));
+    Select(u"txtName");
+    Nudge();
+    TypeInto(u"Height", "tall");
+    Command(QStringLiteral("Save")).trigger();
+    EXPECT_EQ(Bytes(File(QStringLiteral("order.frm"))), before);
+    EXPECT_THAT(window.Bench()->Properties().Message().toStdString(), HasSubstr("Height"));
+    Command(QStringLiteral("Save")).trigger();
+    EXPECT_NE(Bytes(File(QStringLiteral("order.frm"))), before) << "the line was left";
+}
+
+TEST_F(DesignWindowTest, LeavingAsksForWhatIsBeingTyped) {
+    window.Load(Copy("order"));
+    TypeInto(u"Caption", "typed");
+    const Answer answer(QStringLiteral("Cancel"));
+    EXPECT_FALSE(window.close());
+    EXPECT_THAT(answer.said, HasSubstr("order.frm"));
+}
+
+TEST_F(DesignWindowTest, RunningAndUndoTakeWhatIsBeingTyped) {
+    window.Load(Copy("order"));
+    const std::string before = Text();
+    TypeInto(u"Caption", "typed");
+    Command(QStringLiteral("Run the form")).trigger();
+    EXPECT_THAT(Text(), HasSubstr("\"typed\""));
+    Command(QStringLiteral("Run the form")).trigger();
+    TypeInto(u"Caption", "other");
+    window.Commands().UndoAction().trigger();
+    EXPECT_THAT(Text(), HasSubstr("\"typed\""));
+    window.Commands().UndoAction().trigger();
+    EXPECT_EQ(Text(), before);
+}
+
+TEST_F(DesignWindowTest, DeleteInThePropertyListIsForTheValue) {
+    window.Load(Copy("order"));
+    Select(u"txtName");
+    form::PropertyTable& table = window.Bench()->Properties().Table();
+    table.setFocus();
+    QTest::keyClick(&table, Qt::Key_Delete);
+    EXPECT_NE(Design().View().Find(u"txtName"), nullptr);
 }
 
 TEST_F(DesignWindowTest, WhatIsRefusedStandsBelow) {

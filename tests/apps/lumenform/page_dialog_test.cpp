@@ -55,6 +55,12 @@ TEST_F(PageDialog, IsOpenedForControlsWithAPageOnly) {
     EXPECT_EQ(form.browser->EditWithPage(), nullptr);
 }
 
+TEST_F(PageDialog, WhatIsTypedAtOnceGoesIntoTheCaption) {
+    ASSERT_NE(dialog->focusWidget(), nullptr);
+    EXPECT_TRUE(dialog->focusWidget() == &Box(u"txtCaption") ||
+                Box(u"txtCaption").isAncestorOf(dialog->focusWidget()));
+}
+
 TEST_F(PageDialog, OkAppliesInOneStep) {
     Replace(u"txtCaption", u"new");
     Replace(u"txtBulletIndent", u"300");
