@@ -52,8 +52,7 @@ TEST_F(Designer, SetsWhatBelongsToItAndIsRefusedTheSelection) {
     Sleep(50);
     EXPECT_THAT(boxes_.Errors(), IsEmpty());
     EXPECT_EQ(Put(*list.Get(), L"Text", Variant(L"x")), S_OK);
-    Sleep(50);
-    EXPECT_THAT(boxes_.Errors(), ElementsAre(L"VOPTLIST pLetText 387"));
+    EXPECT_THAT(boxes_.AwaitErrors(), ElementsAre(L"VOPTLIST pLetText 387"));
     Leave(list);
 }
 

@@ -117,6 +117,17 @@ std::vector<std::wstring> BoxCloser::Errors() {
     return errors;
 }
 
+std::vector<std::wstring> BoxCloser::AwaitErrors() {
+    constexpr DWORD step = 20;
+    constexpr DWORD longest = 10000;
+    std::vector<std::wstring> errors = Errors();
+    for (DWORD waited = 0; errors.empty() && waited < longest; waited += step) {
+        Sleep(step);
+        errors = Errors();
+    }
+    return errors;
+}
+
 DWORD BoxCloser::Run(void* self) {
     auto& closer = *static_cast<BoxCloser*>(self);
     while (WaitForSingleObject(closer.end_, pause) == WAIT_TIMEOUT) {
