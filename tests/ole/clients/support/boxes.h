@@ -31,8 +31,8 @@ class BoxCloser {
 
     /// The errors shown since it was last asked, oldest first.
     std::vector<std::wstring> Errors();
-    /// The same, once there is one: what was shown may still be on its way when a call returns. Empty
-    /// when there is none for ten seconds.
+    /// The same, once there is one: what was shown may still be on its way when a call returns.
+    /// Empty when there is none for ten seconds.
     std::vector<std::wstring> AwaitErrors();
 
  private:
