@@ -62,7 +62,8 @@ void Desk::resizeEvent(QResizeEvent* /*event*/) {
 }
 
 bool Desk::eventFilter(QObject* watched, QEvent* event) {
-    if (watched == view_ && event->type() == QEvent::Resize) {
+    // In this order: a view that is being destroyed also sends events, but is no view any more.
+    if (event->type() == QEvent::Resize && watched == view_) {
         Arrange();
     }
     return false;
