@@ -51,17 +51,18 @@ EOF
     fi
 }
 
+# Not by halves: errors do not end a function whose result is asked for.
 make_prefix() {
     local quiet=(xvfb-run -a)
     [ -n "$screen" ] || quiet=()
     [ ! -d "$prefix" ] || end_wine
     rm -rf "$prefix"
-    mkdir -p "$prefix"
-    "${quiet[@]}" timeout 120 wine wineboot --init
-    cp /usr/share/wine/fonts/* "$prefix/drive_c/windows/Fonts/"
-    settings >"$prefix/settings.reg"
-    "${quiet[@]}" timeout 60 wine regedit /S "$prefix/settings.reg"
-    end_wine
+    mkdir -p "$prefix" &&
+        "${quiet[@]}" timeout 240 wine wineboot --init &&
+        cp /usr/share/wine/fonts/* "$prefix/drive_c/windows/Fonts/" &&
+        settings >"$prefix/settings.reg" &&
+        "${quiet[@]}" timeout 120 wine regedit /S "$prefix/settings.reg" &&
+        end_wine
 }
 
 # Made by one, awaited by the others. A prefix that was made differently is made anew.
