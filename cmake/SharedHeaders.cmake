@@ -1,5 +1,5 @@
-# Headers that nearly every source includes, compiled once for all libraries. Off in the builds that
-# people use and that prove each file to include what it needs.
+# Headers that nearly every source includes, compiled once for all libraries. Off in the build for
+# 32-bit Windows, which so proves that the portable sources include what they need.
 option(LUMENKIT_PRECOMPILE "Compile common headers once for all libraries" OFF)
 
 # lumenkit_shared_headers(NAME LINKS target... HEADERS header...)

@@ -3,6 +3,8 @@
 set -euo pipefail
 cd "$(dirname "$0")/.."
 
+scripts/setup.sh build bench qt
+cmake --preset native -DLUMENKIT_BENCH=ON >/dev/null
 scripts/build.sh native
 for bench in build/native/bench/*_bench; do
     "$bench" "$@"

@@ -46,6 +46,3 @@ ctest --preset native-asan -j "$(nproc)"
 
 step "Static analysis of the controls (make lint: of everything)"
 scripts/lint.sh controls
-
-step "Fuzzing, for half a minute each"
-scripts/fuzz.sh --short
