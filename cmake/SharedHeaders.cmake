@@ -13,6 +13,9 @@ function(lumenkit_shared_headers name)
 endfunction()
 
 if(LUMENKIT_PRECOMPILE)
+    # In compiled headers g++ 12 also tells what it believes to see inside its own library.
+    target_compile_options(lumenkit_settings INTERFACE
+        $<$<AND:$<CXX_COMPILER_ID:GNU>,$<VERSION_LESS:$<CXX_COMPILER_VERSION>,13>>:-Wno-stringop-overflow>)
     set(standard <algorithm> <array> <cstdint> <functional> <map> <memory> <optional> <span>
         <string> <string_view> <utility> <variant> <vector>)
     lumenkit_shared_headers(lumenkit_headers HEADERS ${standard})
