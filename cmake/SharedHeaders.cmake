@@ -1,5 +1,5 @@
-# Headers that nearly every source includes, compiled once for all libraries. Off in the build for
-# 32-bit Windows, which so proves that the portable sources include what they need.
+# Headers that nearly every source includes, compiled once for all libraries. Off in the
+# builds for Windows, which so prove that the portable sources include what they need.
 option(LUMENKIT_PRECOMPILE "Compile common headers once for all libraries" OFF)
 
 # lumenkit_shared_headers(NAME LINKS target... HEADERS header...)
@@ -14,8 +14,10 @@ endfunction()
 
 if(LUMENKIT_PRECOMPILE)
     # In compiled headers g++ 12 also tells what it believes to see inside its own library.
-    target_compile_options(lumenkit_settings INTERFACE
-        $<$<AND:$<CXX_COMPILER_ID:GNU>,$<VERSION_LESS:$<CXX_COMPILER_VERSION>,13>>:-Wno-stringop-overflow>)
+    if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_LESS 13)
+        target_compile_options(lumenkit_settings INTERFACE
+            -Wno-array-bounds -Wno-stringop-overflow)
+    endif()
     set(standard <algorithm> <array> <cstdint> <functional> <map> <memory> <optional> <span>
         <string> <string_view> <utility> <variant> <vector>)
     lumenkit_shared_headers(lumenkit_headers HEADERS ${standard})
