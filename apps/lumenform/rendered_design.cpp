@@ -24,7 +24,7 @@ void SelectFirst(Workbench& bench, bool page) {
 }
 
 // A dialog with the title bar that a desktop would give it.
-QPixmap WithTitleBar(const QWidget& dialog, QPixmap inside) {
+QPixmap WithTitleBar(const QWidget& dialog, const QPixmap& inside) {
     const double ratio = inside.devicePixelRatio();
     const QSize size = dialog.size();
     const int bar = dialog.fontMetrics().height() * 2;

@@ -1,6 +1,5 @@
 #include "apps/lumenform/form_view/block_reader.h"
 
-#include "forms/form_bag.h"
 #include "forms/form_error.h"
 #include "frame/runtime_error.h"
 #include "frame/utf8.h"
@@ -17,10 +16,6 @@ forms::Position PlaceOf(const forms::Block& block, TextView name) {
     return group == nullptr ? block.NamePlace() : group->NamePlace();
 }
 
-host::FontRef NewFont(const forms::FontDescription& description) {
-    return MakeFont(description);
-}
-
 }  // namespace
 
 std::shared_ptr<qt::Font> MakeFont(const forms::FontDescription& description) {
@@ -33,6 +28,11 @@ std::shared_ptr<qt::Font> MakeFont(const forms::FontDescription& description) {
     return font;
 }
 
+forms::FormBag BagOf(const forms::Document& document, forms::Block& block) {
+    return {document, block,
+            [](const forms::FontDescription& description) { return MakeFont(description); }};
+}
+
 void Refuse(const forms::Document& document, forms::Position place, TextView what, TextView why) {
     throw forms::FormError(document.Name(), place, ToUtf8(what) + ": " + ToUtf8(why));
 }
@@ -40,7 +40,7 @@ void Refuse(const forms::Document& document, forms::Position place, TextView wha
 template <typename T>
 T BlockReader::Read(TextView name, const Value& otherwise, T (*convert)(const Value&)) const {
     try {
-        return convert(forms::FormBag(document_, block_, NewFont).ReadProperty(name, otherwise));
+        return convert(BagOf(document_, block_).ReadProperty(name, otherwise));
     } catch (const RuntimeError& error) {
         Refuse(document_, PlaceOf(block_, name), name, error.Description());
     }

@@ -7,6 +7,7 @@
 #include "forms/block.h"
 #include "forms/document.h"
 #include "forms/font_description.h"
+#include "forms/form_bag.h"
 #include "frame/automation/value.h"
 #include "frame/color.h"
 #include "frame/text.h"
@@ -46,6 +47,9 @@ class BlockReader {
 
 /// A font of this runtime as a form describes it. Raises 380 for a size that no font has.
 std::shared_ptr<qt::Font> MakeFont(const forms::FontDescription& description);
+
+/// The property bag of a control, with fonts of this runtime; see forms::FormBag.
+forms::FormBag BagOf(const forms::Document& document, forms::Block& block);
 
 /// The error of the runtime as one of the form, at `place`.
 [[noreturn]] void Refuse(const forms::Document& document, forms::Position place, TextView what,

@@ -1,7 +1,5 @@
 #include "apps/lumenform/form_view/live_control.h"
 
-#include <cmath>
-
 #include "apps/lumenform/form_view/own_control.h"
 #include "apps/lumenform/form_view/plain_control.h"
 #include "forms/controls.h"
@@ -9,12 +7,6 @@
 namespace lumenkit::form {
 
 namespace {
-
-// Controls of component files also save their size in hundredths of a millimetre.
-std::int32_t ExtentOf(float twips) {
-    constexpr double perTwip = 2540.0 / 1440.0;
-    return static_cast<std::int32_t>(std::lround(twips * perTwip));
-}
 
 void Store(forms::Block& block, TextView name, float former, float now) {
     if (former != now) {

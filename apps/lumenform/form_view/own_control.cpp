@@ -2,7 +2,6 @@
 
 #include <algorithm>
 
-#include "forms/form_bag.h"
 #include "frame/runtime_error.h"
 
 namespace lumenkit::form {
@@ -44,9 +43,7 @@ void OwnControl::Start(QWidget& parent, const ClassDescriptor& type) {
         .tag = tag,
         .visible = stage_.mode == Mode::Design || Reader().Flag(u"Visible", true)};
     widget_ = new qt::ControlWidget(stage_.context, type, *this, placing, &parent);
-    forms::FormBag bag(stage_.document, Block(), [](const forms::FontDescription& description) {
-        return MakeFont(description);
-    });
+    forms::FormBag bag = BagOf(stage_.document, Block());
     widget_->StartSaved(bag);
     keeper_.emplace(stage_.document, Block(),
                     [this](host::PropertyBag& notes) { widget_->Save(notes); });

@@ -1,6 +1,7 @@
 #include "apps/lumenform/form_view/scale.h"
 
 #include <array>
+#include <cmath>
 #include <cstddef>
 
 #include "runtime/qt/pixels.h"
@@ -70,6 +71,11 @@ host::Placement Scale::FromTwips(const host::Placement& twipsPlace) const {
             .top = twipsPlace.top / y_ + top_,
             .width = twipsPlace.width / x_,
             .height = twipsPlace.height / y_};
+}
+
+std::int32_t ExtentOf(float twips) {
+    constexpr double perTwip = 2540.0 / 1440.0;
+    return static_cast<std::int32_t>(std::lround(twips * perTwip));
 }
 
 }  // namespace lumenkit::form

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <cstdint>
+
 #include "apps/lumenform/form_view/block_reader.h"
 #include "frame/host/constituent.h"
 
@@ -23,5 +25,8 @@ class Scale {
     float x_ = 1;  // twips in a unit
     float y_ = 1;
 };
+
+/// Hundredths of a millimetre, in which controls of component files also save their size.
+std::int32_t ExtentOf(float twips);
 
 }  // namespace lumenkit::form

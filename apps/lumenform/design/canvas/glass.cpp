@@ -12,8 +12,7 @@
 #include "apps/lumenform/design/canvas/nudge.h"
 #include "apps/lumenform/design/canvas/placing_gesture.h"
 #include "apps/lumenform/design/canvas/selection.h"
-#include "forms/form_error.h"
-#include "frame/runtime_error.h"
+#include "apps/lumenform/design/model/attempt.h"
 #include "runtime/qt/pixels.h"
 #include "runtime/qt/qt_text.h"
 
@@ -58,14 +57,9 @@ void Glass::FollowView() {
     TellSelection();
 }
 
-template <typename Work>
-void Glass::Try(const Work& work) {
-    try {
-        work();
-    } catch (const RuntimeError& error) {
-        Q_EMIT Refused(qt::ToQString(error.Description()));
-    } catch (const forms::FormError& error) {
-        Q_EMIT Refused(QString::fromUtf8(error.what()));
+void Glass::Try(const std::function<void()>& work) {
+    if (const auto why = Attempt(work)) {
+        Q_EMIT Refused(*why);
     }
 }
 

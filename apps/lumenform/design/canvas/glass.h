@@ -91,8 +91,7 @@ class Glass final : public QWidget {
     void UpdateMarks();
     QRegion Marks() const;
     void PaintMarks(QPainter& painter) const;
-    template <typename Work>
-    void Try(const Work& work);
+    void Try(const std::function<void()>& work);
 
     Design& design_;
     const Grid& grid_;

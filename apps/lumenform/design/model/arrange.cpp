@@ -111,6 +111,10 @@ const Surroundings& InsideOf(const Design& design, const LiveControl* container)
     return container == nullptr ? design.View().Inside() : container->Inside();
 }
 
+forms::Block& BlockOf(const Design& design, const LiveControl* container) {
+    return container == nullptr ? design.Document().Root() : container->Block();
+}
+
 std::vector<LiveControl*> OutermostSelected(const Design& design) {
     std::vector<LiveControl*> outermost;
     for (LiveControl* control : design.Selected()) {

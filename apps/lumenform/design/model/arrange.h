@@ -18,6 +18,8 @@ std::vector<LiveControl*> OutermostSelected(const Design& design);
 LiveControl* ContainerOf(const Design& design, const LiveControl& control);
 /// The surroundings of what lies in `container`; null stands for the form.
 const Surroundings& InsideOf(const Design& design, const LiveControl* container);
+/// The block of `container`; null stands for the form.
+forms::Block& BlockOf(const Design& design, const LiveControl* container);
 /// Where the control is in twips from the upper left corner of the form.
 host::Placement PlaceOnForm(const Design& design, const LiveControl& control);
 

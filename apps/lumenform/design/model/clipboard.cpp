@@ -121,7 +121,7 @@ void PasteClip(Design& design, const Clip& clip, const QString& title) {
     const LiveControl* const target = PasteTarget(design, copied);
     design.Restructure(title, [&] {
         forms::Document& document = design.Document();
-        forms::Block& parent = target == nullptr ? document.Root() : target->Block();
+        forms::Block& parent = BlockOf(design, target);
         SettleInto(document.Root(), copied.Root());
         const forms::Block* const foremost = Foremost(parent);
         std::vector<forms::Block*> pasted;

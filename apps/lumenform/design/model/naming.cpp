@@ -21,10 +21,6 @@ bool IsPartOfName(char16_t unit) {
     return IsLetter(unit) || (unit >= u'0' && unit <= u'9') || unit == u'_';
 }
 
-bool Bears(const forms::Block& block, TextView name) {
-    return SameText(block.Name(), name, Compare::IgnoreCase);
-}
-
 // One more than the highest whole number that the property has in one of the blocks.
 template <typename Counts>
 std::int32_t OneMore(const forms::Block& form, TextView property, const Counts& counts) {
@@ -45,6 +41,10 @@ std::int32_t OneMore(const forms::Block& form, TextView property, const Counts& 
 bool IsName(TextView name) {
     return !name.empty() && name.size() <= longestName && IsLetter(name.front()) &&
            std::ranges::all_of(name, IsPartOfName);
+}
+
+bool Bears(const forms::Block& block, TextView name) {
+    return SameText(block.Name(), name, Compare::IgnoreCase);
 }
 
 TextView ShortClassName(TextView className) {

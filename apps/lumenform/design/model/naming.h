@@ -12,6 +12,9 @@ namespace lumenkit::form {
 /// in all.
 bool IsName(TextView name);
 
+/// Whether the control, menu or form has the name, without regard to case.
+bool Bears(const forms::Block& block, TextView name);
+
 /// "VLabel" of "lumenkit.VLabel".
 TextView ShortClassName(TextView className);
 

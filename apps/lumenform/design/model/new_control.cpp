@@ -3,13 +3,12 @@
 #include <QCoreApplication>
 #include <algorithm>
 #include <array>
-#include <cmath>
 
 #include "apps/lumenform/design/model/arrange.h"
 #include "apps/lumenform/design/model/naming.h"
 #include "apps/lumenform/design/model/stacking.h"
+#include "apps/lumenform/form_view/block_reader.h"
 #include "apps/lumenform/form_view/library_name.h"
-#include "forms/form_bag.h"
 #include "frame/host/ambient.h"
 #include "frame/utf8.h"
 #include "runtime/qt/control_widget.h"
@@ -58,10 +57,6 @@ void SetPlace(forms::Block& block, const host::Placement& place, std::int32_t ta
     block.Set(u"Width", forms::NumberLiteral(place.width));
 }
 
-std::int32_t Himetric(float twips) {
-    return static_cast<std::int32_t>(std::lround(twips * (2540.0 / 1440.0)));
-}
-
 // A control that is set up as a new one, off the form, for its properties to be saved.
 class Prototype final : private qt::ControlSite, private host::Ambient {
  public:
@@ -74,9 +69,7 @@ class Prototype final : private qt::ControlSite, private host::Ambient {
     }
 
     void SaveInto(const forms::Document& document, forms::Block& block) {
-        forms::FormBag bag(document, block, [](const forms::FontDescription& description) {
-            return MakeFont(description);
-        });
+        forms::FormBag bag = BagOf(document, block);
         widget_.Save(bag);
     }
 
@@ -132,7 +125,7 @@ void AddNewControl(Design& design, TextView className, const LiveControl* contai
     const ClassDescriptor* const type = FindOwn(classes, className);
     design.Restructure(QCoreApplication::translate("new_control", "Add a control"), [&] {
         forms::Document& document = design.Document();
-        forms::Block& parent = container == nullptr ? document.Root() : container->Block();
+        forms::Block& parent = BlockOf(design, container);
         const Text name = FreshName({&document.Root()}, className);
         const std::int32_t tabIndex = FreshTabIndex(document.Root());
         forms::Block& block = parent.AddControl(className, name, Foremost(parent));
@@ -140,8 +133,8 @@ void AddNewControl(Design& design, TextView className, const LiveControl* contai
         if (type != nullptr) {
             RequireLibrary(document, classes);
             SetPlace(block, units, tabIndex);
-            block.Set(u"_ExtentX", Himetric(place.width));
-            block.Set(u"_ExtentY", Himetric(place.height));
+            block.Set(u"_ExtentX", ExtentOf(place.width));
+            block.Set(u"_ExtentY", ExtentOf(place.height));
             Prototype(design.Context(), *type, around, name, place).SaveInto(document, block);
         } else {
             const PlainClass* const plain = FindPlain(className);

@@ -18,10 +18,6 @@ const std::int32_t* NumberOf(const forms::Block& block, TextView property) {
     return found == nullptr ? nullptr : std::get_if<std::int32_t>(&found->Literal());
 }
 
-bool Bears(const forms::Block& block, TextView name) {
-    return SameText(block.Name(), name, Compare::IgnoreCase);
-}
-
 class Settling {
  public:
     Settling(const forms::Block& form, const forms::Block& clip) : form_(form), clip_(clip) {}

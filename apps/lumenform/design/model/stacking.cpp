@@ -22,10 +22,7 @@ std::vector<Stacked> SelectedBlocks(const Design& design) {
     std::vector<Stacked> blocks;
     for (const auto& control : design.View().Controls()) {
         if (std::ranges::find(selected, control.get()) != selected.end()) {
-            const LiveControl* const container = ContainerOf(design, *control);
-            forms::Block& parent =
-                container == nullptr ? design.Document().Root() : container->Block();
-            blocks.push_back({parent, control->Block()});
+            blocks.push_back({BlockOf(design, ContainerOf(design, *control)), control->Block()});
         }
     }
     return blocks;

@@ -4,12 +4,12 @@
 #include <array>
 #include <string>
 
+#include "apps/lumenform/design/model/arrange.h"
 #include "apps/lumenform/design/model/tab_order.h"
 #include "apps/lumenform/design/properties/names.h"
 #include "apps/lumenform/design/properties/usual_properties.h"
 #include "apps/lumenform/form_view/plain_kinds.h"
 #include "forms/controls.h"
-#include "forms/form_bag.h"
 #include "frame/runtime_error.h"
 
 namespace lumenkit::form {
@@ -25,11 +25,6 @@ constexpr TextView tabIndexHelp = u"The control's turn when Tab is pressed, from
 constexpr TextView tabStopHelp = u"Whether Tab stops at the control.";
 constexpr TextView tagHelp = u"A text for the program's own use.";
 constexpr TextView visibleHelp = u"Whether the control is seen when the form runs.";
-
-forms::FormBag BagOf(Design& design, forms::Block& block) {
-    return {design.Document(), block,
-            [](const forms::FontDescription& description) { return MakeFont(description); }};
-}
 
 // The name of each property and group of the block, but for the identifiers that designers keep.
 std::vector<Text> NamesIn(const forms::Block& block) {
@@ -71,7 +66,7 @@ Text Predecessor(const forms::Block& block, TextView name) {
 
 void Write(Design& design, forms::Block& block, TextView name, const Value& value,
            const Value& otherwise) {
-    forms::FormBag bag = BagOf(design, block);
+    forms::FormBag bag = BagOf(design.Document(), block);
     bag.Keep(Predecessor(block, name));
     bag.WriteProperty(name, value, otherwise);
 }
@@ -110,7 +105,7 @@ Setting MakeSetting(Design& design, forms::Block& block, const BlockSetting& wha
         setting.choices = TruthChoices();
     }
     setting.get = [&design, &block, what] {
-        const Value value = BagOf(design, block).ReadProperty(what.name, what.otherwise);
+        const Value value = BagOf(design.Document(), block).ReadProperty(what.name, what.otherwise);
         return std::holds_alternative<Empty>(value) ? value : what.convert(value);
     };
     setting.set = [&design, &block, what](const Value& value) {
@@ -138,7 +133,8 @@ Setting IndexSetting(Design& design, forms::Block& block) {
         .help = Text(indexHelp),
         .kind = SettingKind::Number,
         .isOwn = true,
-        .get = [&design, &block] { return BagOf(design, block).ReadProperty(u"Index", Empty()); },
+        .get = [&design,
+                &block] { return BagOf(design.Document(), block).ReadProperty(u"Index", Empty()); },
         .set =
             [&design, &block](const Value& value) {
                 std::optional<std::int32_t> index;
@@ -154,8 +150,10 @@ Setting TabIndexSetting(Design& design, forms::Block& block) {
             .help = Text(tabIndexHelp),
             .kind = SettingKind::Number,
             .isOwn = true,
-            .get = [&design,
-                    &block] { return BagOf(design, block).ReadProperty(u"TabIndex", Empty()); },
+            .get =
+                [&design, &block] {
+                    return BagOf(design.Document(), block).ReadProperty(u"TabIndex", Empty());
+                },
             .set = [&design, &block](
                        const Value& value) { GiveTurn(design.Document(), block, ToLong(value)); }};
 }
@@ -325,17 +323,6 @@ std::vector<Setting> SettingsIn(Design& design, forms::Block& block, const Inher
     return settings;
 }
 
-// The font of what the control lies in.
-std::shared_ptr<qt::Font> FontAround(const Design& design, const LiveControl& control) {
-    for (const auto& other : design.View().Controls()) {
-        const std::vector<forms::Block*> inner = other->Block().Controls();
-        if (std::ranges::find(inner, &control.Block()) != inner.end()) {
-            return other->Inside().font;
-        }
-    }
-    return design.View().Inside().font;
-}
-
 bool IsSeen(const LiveControl& control) {
     return control.Own() != nullptr || PlainKindOf(control.Block()).isSeen;
 }
@@ -415,7 +402,8 @@ std::vector<Setting> ContainerSettings(Design& design, LiveControl& control) {
 
 std::vector<Setting> PlainSettings(Design& design, LiveControl& control) {
     std::vector<Setting> settings = SettingsIn(
-        design, control.Block(), {PlainKindOf(control.Block()).usual, FontAround(design, control)});
+        design, control.Block(),
+        {PlainKindOf(control.Block()).usual, InsideOf(design, ContainerOf(design, control)).font});
     std::erase_if(settings, [](const Setting& setting) { return IsContainers(setting.name); });
     return settings;
 }

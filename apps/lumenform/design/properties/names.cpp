@@ -18,10 +18,6 @@ constexpr std::int32_t highestIndex = 32767;
                        std::move(why));
 }
 
-bool Bears(const forms::Block& block, TextView name) {
-    return SameText(block.Name(), name, Compare::IgnoreCase);
-}
-
 bool HasIndex(const forms::Block& control) {
     return control.FindProperty(u"Index") != nullptr;
 }

@@ -62,10 +62,10 @@ PageDialog::PageDialog(Design& design, ControlMessages& messages, const ClassDes
       title_(qt::ToQString(page.pageTitle)),
       notice_(new Notice(this)),
       buttons_(new QDialogButtonBox(
-          QDialogButtonBox::Ok | QDialogButtonBox::Cancel | QDialogButtonBox::Apply, this)) {
+          QDialogButtonBox::Ok | QDialogButtonBox::Cancel | QDialogButtonBox::Apply, this)),
+      page_(new qt::PageWidget(context_, page, this)) {
     setWindowTitle(TitleOf(page, controls));
     setWindowModality(Qt::WindowModal);
-    page_ = new qt::PageWidget(context_, page, this);
     auto* const layout = new QVBoxLayout(this);
     layout->setSizeConstraint(QLayout::SetFixedSize);
     layout->addWidget(page_);
@@ -77,6 +77,7 @@ PageDialog::PageDialog(Design& design, ControlMessages& messages, const ClassDes
     connect(apply, &QPushButton::clicked, this, &PageDialog::Apply);
     page_->OnChanged([apply](bool changed) { apply->setEnabled(changed); });
     std::vector<ObjectRef> selection;
+    selection.reserve(controls.size());
     for (const Text& name : controls) {
         selection.push_back(std::make_shared<NamedControl>(design, name));
     }

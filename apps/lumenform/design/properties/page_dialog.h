@@ -39,9 +39,9 @@ class PageDialog final : public QDialog {
     ControlMessages& messages_;
     qt::Context context_;
     QString title_;
-    qt::PageWidget* page_;
     Notice* notice_;
     QDialogButtonBox* buttons_;
+    qt::PageWidget* page_;
 };
 
 }  // namespace lumenkit::form

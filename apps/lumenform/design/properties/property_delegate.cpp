@@ -40,6 +40,12 @@ bool HasMore(const PropertyRow& row) {
 PropertyDelegate::PropertyDelegate(const PropertyModel& model, QObject* parent)
     : QStyledItemDelegate(parent), model_(model) {}
 
+PropertyDelegate& PropertyDelegate::Self() const {
+    // Qt has editors made by a constant delegate, which their events and signals change.
+    // NOLINTNEXTLINE(cppcoreguidelines-pro-type-const-cast)
+    return const_cast<PropertyDelegate&>(*this);
+}
+
 // ---- Drawing
 
 void PropertyDelegate::initStyleOption(QStyleOptionViewItem* option,
@@ -90,7 +96,7 @@ QWidget* PropertyDelegate::NewChoiceBox(QWidget* parent, const PropertyRow& row)
 QWidget* PropertyDelegate::NewValueEditor(QWidget* parent, const PropertyRow& row,
                                           int index) const {
     auto* const editor = new ValueEditor(HasMore(row), parent);
-    editor->Line().installEventFilter(const_cast<PropertyDelegate*>(this));
+    editor->Line().installEventFilter(&Self());
     editor->Line().setAccessibleName(qt::ToQString(row.name));
     editor->Line().setAccessibleDescription(qt::ToQString(row.help));
     // A line cannot hold line breaks.
@@ -136,15 +142,15 @@ void PropertyDelegate::updateEditorGeometry(QWidget* editor, const QStyleOptionV
 }
 
 void PropertyDelegate::Close(QWidget* editor) const {
-    auto* const self = const_cast<PropertyDelegate*>(this);
+    PropertyDelegate& self = Self();
     if (const auto* typed = qobject_cast<ValueEditor*>(editor)) {
-        typed->Line().removeEventFilter(self);  // it is left once
+        typed->Line().removeEventFilter(&self);  // it is left once
     }
-    Q_EMIT self->closeEditor(editor);
+    Q_EMIT self.closeEditor(editor);
 }
 
 void PropertyDelegate::Finish(QWidget* editor) const {
-    Q_EMIT const_cast<PropertyDelegate*>(this)->commitData(editor);
+    Q_EMIT Self().commitData(editor);
     Close(editor);
 }
 

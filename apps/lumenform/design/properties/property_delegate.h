@@ -46,6 +46,7 @@ class PropertyDelegate final : public QStyledItemDelegate {
     void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override;
 
  private:
+    PropertyDelegate& Self() const;
     QWidget* NewChoiceBox(QWidget* parent, const PropertyRow& row) const;
     QWidget* NewValueEditor(QWidget* parent, const PropertyRow& row, int index) const;
     bool HandleKey(ValueEditor& editor, const QKeyEvent& event);

@@ -149,6 +149,7 @@ void PropertyList::ApplyToBlocks(const std::vector<Setting>& settings, const Val
         Apply(settings, value);
         design_.View().Save();  // what was set on live controls among them
         std::vector<Text> names;
+        names.reserve(selected.size());
         for (const forms::Block* block : selected) {
             names.push_back(forms::NameInCode(*block));
         }

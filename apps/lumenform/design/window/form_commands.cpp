@@ -3,7 +3,9 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QMimeData>
+#include <array>
 
+#include "apps/lumenform/design/canvas/selection.h"
 #include "apps/lumenform/design/model/arrange.h"
 #include "apps/lumenform/design/model/clipboard.h"
 #include "apps/lumenform/design/model/stacking.h"
@@ -25,14 +27,6 @@ void PasteHere(Workbench& bench) {
     if (const QMimeData* data = QApplication::clipboard()->mimeData(); HoldsControls(data)) {
         Paste(bench.GetDesign(), *data);
     }
-}
-
-void SelectAll(Workbench& bench) {
-    std::vector<LiveControl*> all;
-    for (const auto& control : bench.GetDesign().View().Controls()) {
-        all.push_back(control.get());
-    }
-    bench.GetDesign().Select(std::move(all));
 }
 
 }  // namespace
@@ -102,7 +96,8 @@ void FormCommands::AddClipboardCommands() {
         [](Workbench& bench) { DuplicateSelected(bench.GetDesign()); });
     Add(*edit_, tr("&Delete"), QKeySequence::Delete, Needs::Selection,
         [](Workbench& bench) { DeleteSelected(bench.GetDesign()); });
-    Add(*edit_, tr("Select &all"), QKeySequence::SelectAll, Needs::Form, SelectAll);
+    Add(*edit_, tr("Select &all"), QKeySequence::SelectAll, Needs::Form,
+        [](Workbench& bench) { SelectAll(bench.GetDesign()); });
 }
 
 void FormCommands::FillFormat() {
@@ -117,8 +112,8 @@ void FormCommands::FillFormat() {
     addSize(tr("&Both"), Dimension::Both);
     QMenu* const center = format_->addMenu(tr("&Center in the form"));
     QMenu* const space = format_->addMenu(tr("S&pace evenly"));
-    const std::pair<QString, Qt::Orientation> ways[] = {{tr("&Horizontally"), Qt::Horizontal},
-                                                        {tr("&Vertically"), Qt::Vertical}};
+    const std::array ways{std::pair(tr("&Horizontally"), Qt::Horizontal),
+                          std::pair(tr("&Vertically"), Qt::Vertical)};
     for (const auto& [title, orientation] : ways) {
         const Qt::Orientation way = orientation;
         Add(*center, title, {}, Needs::Selection,

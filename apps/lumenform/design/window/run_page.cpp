@@ -38,7 +38,7 @@ RunPage::~RunPage() {
     delete view_;
 }
 
-QWidget* RunPage::MakeBanner() {
+QWidget* RunPage::MakeBanner() const {
     auto* const banner = new QWidget;
     auto* const row = new QHBoxLayout(banner);
     row->addWidget(new QLabel(tr("The form runs. What happens to it here is not kept.")), 1);

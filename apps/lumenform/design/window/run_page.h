@@ -29,7 +29,7 @@ class RunPage final : public QWidget {
     void BackWanted();
 
  private:
-    QWidget* MakeBanner();
+    QWidget* MakeBanner() const;
 
     forms::Document document_;
     FormView* view_;

@@ -5,9 +5,8 @@
 #include <cmath>
 
 #include "apps/lumenform/design/model/arrange.h"
+#include "apps/lumenform/design/model/attempt.h"
 #include "apps/lumenform/design/model/new_control.h"
-#include "forms/form_error.h"
-#include "frame/runtime_error.h"
 #include "runtime/qt/pixels.h"
 #include "runtime/qt/qt_text.h"
 
@@ -106,12 +105,8 @@ void Workbench::Add(const Text& className, const LiveControl* container,
 }
 
 void Workbench::Try(const std::function<void()>& action) {
-    try {
-        action();
-    } catch (const RuntimeError& error) {
-        Q_EMIT Refused(qt::ToQString(error.Description()));
-    } catch (const forms::FormError& error) {
-        Q_EMIT Refused(QString::fromUtf8(error.what()));
+    if (const auto why = Attempt(action)) {
+        Q_EMIT Refused(*why);
     }
 }
 

@@ -1,0 +1,20 @@
+#include "apps/lumenform/design/model/attempt.h"
+
+#include "forms/form_error.h"
+#include "frame/runtime_error.h"
+#include "runtime/qt/qt_text.h"
+
+namespace lumenkit::form {
+
+std::optional<QString> Attempt(const std::function<void()>& work) {
+    try {
+        work();
+        return std::nullopt;
+    } catch (const RuntimeError& error) {
+        return qt::ToQString(error.Description());
+    } catch (const forms::FormError& error) {
+        return QString::fromUtf8(error.what());
+    }
+}
+
+}  // namespace lumenkit::form

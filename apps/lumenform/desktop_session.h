@@ -1,0 +1,31 @@
+// What the commands that show a window have in common.
+#pragma once
+
+#include <QWidget>
+#include <functional>
+#include <memory>
+#include <string>
+
+#include <CLI/CLI.hpp>
+
+#include "forms/encoding.h"
+#include "runtime/qt/context.h"
+
+namespace lumenkit::form {
+
+struct DesktopOptions {
+    std::string form;
+    bool dark = false;
+    int codePage = forms::defaultCodePage;
+};
+
+/// Adds --dark and --code-page to the command.
+void AddDesktopOptions(CLI::App& command, DesktopOptions& options);
+
+using MakeWindow = std::function<std::unique_ptr<QWidget>(const qt::Context& context)>;
+
+/// Shows the window until it is closed, and gives the exit status. Without a display it only says
+/// so, and what to do `instead`.
+int ShowOnDesktop(const DesktopOptions& options, const char* instead, const MakeWindow& make);
+
+}  // namespace lumenkit::form
