@@ -175,8 +175,9 @@ void Block::Rename(TextView name) {
     const std::size_t behindKeyword = layout::IndentationOf(open_).size() + keyword.size();
     const std::size_t classAt = open_.find_first_not_of(blanks, behindKeyword);
     const std::size_t nameAt = open_.find_first_not_of(blanks, classAt + className_.size());
+    Text renamed(name);
     open_.replace(nameAt, name_.size(), name);
-    name_ = name;
+    name_ = std::move(renamed);
 }
 
 Block& Block::Append(std::unique_ptr<Block> block) {

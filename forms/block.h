@@ -26,7 +26,7 @@ struct IdleLine {
 
 /// A control, or a property group of one. Editing changes the lines of what is edited and no
 /// others; new lines look as designers write them. Names are told apart without regard to case;
-/// of several properties of one name the first one counts.
+/// of several properties of one name the first one counts. An edit that throws has changed nothing.
 ///
 /// Pointers to properties and blocks stay valid until these are removed.
 class Block {

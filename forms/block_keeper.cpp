@@ -19,27 +19,29 @@ class BlockKeeper::Notes final : public host::PropertyBag {
     HeldByName held;
 };
 
-// Hands on to a block's bag only what is not as it was.
+// Hands on to a block's bag only what is not as it was, and takes down what got there: a control
+// whose saving fails half-way hears nothing of it, and saves the rest the next time.
 class BlockKeeper::Changes final : public host::PropertyBag {
  public:
-    Changes(FormBag& bag, const HeldByName& before) : bag_(bag), before_(before) {}
+    Changes(FormBag& bag, HeldByName& held) : bag_(bag), held_(held) {}
 
     Value ReadProperty(TextView name, const Value& defaultValue) override {
         return bag_.ReadProperty(name, defaultValue);
     }
     void WriteProperty(TextView name, const Value& value, const Value& defaultValue) override {
-        const auto before = before_.find(name);
-        const Held now = HeldAs(value, defaultValue);
-        if (IsSame(now, before == before_.end() ? Held(Default()) : before->second)) {
+        const auto before = held_.find(name);
+        Held now = HeldAs(value, defaultValue);
+        if (IsSame(now, before == held_.end() ? Held(Default()) : before->second)) {
             bag_.Keep(name);
         } else {
             bag_.WriteProperty(name, value, defaultValue);
+            held_.insert_or_assign(Text(name), std::move(now));
         }
     }
 
  private:
     FormBag& bag_;
-    const HeldByName& before_;
+    HeldByName& held_;
 };
 
 BlockKeeper::Held BlockKeeper::HeldAs(const Value& value, const Value& defaultValue) {
@@ -79,9 +81,6 @@ void BlockKeeper::Update(const SaveControl& save) {
     FormBag bag(document_, block_, nullptr);
     Changes changes(bag, held_);
     save(changes);
-    Notes notes;
-    save(notes);
-    held_ = std::move(notes.held);
 }
 
 }  // namespace lumenkit::forms

@@ -135,8 +135,8 @@ std::uint32_t Companion::Append(std::string_view record) {
         throw BadRecord(tooLong);
     }
     const auto offset = static_cast<std::uint32_t>(bytes_.size());
+    offsets_.push_back(offset);  // at the end it divides nothing, should there be no room
     bytes_ += record;
-    offsets_.push_back(offset);
     return offset;
 }
 

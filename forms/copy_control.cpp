@@ -65,7 +65,12 @@ class Copying {
 Block& CopyControl(const Document& from, const Block& control, Document& to, Block& parent,
                    TextView name) {
     Block& copy = parent.AddControl(control.ClassName(), name);
-    Copying(from, to).CopyInto(copy, control);
+    try {
+        Copying(from, to).CopyInto(copy, control);
+    } catch (...) {
+        parent.RemoveControl(copy);
+        throw;
+    }
     return copy;
 }
 

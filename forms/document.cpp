@@ -53,18 +53,42 @@ std::string DesignersCompanionName(const std::string& path) {
     return stem + ".frx";
 }
 
-// As deep as the parser lets blocks lie in one another, and editors take care to.
-void LeadReferencesTo(const Text& file, Block& block) {
+// A property and what is to take its place.
+struct Replacement {
+    Property& property;
+    Property changed;
+};
+
+// What becomes of the references in `block` when they lead to `file`. As deep as the parser lets
+// blocks lie in one another, and editors take care to.
+void LeadReferencesTo(const Text& file, const Block& block, std::vector<Replacement>& led) {
     for (const Block::Item& item : block.Items()) {
         if (const auto* inner = std::get_if<std::unique_ptr<Block>>(&item)) {
-            LeadReferencesTo(file, **inner);
+            LeadReferencesTo(file, **inner, led);
         } else if (const auto* property = std::get_if<std::unique_ptr<Property>>(&item)) {
             const auto* reference = std::get_if<Reference>(&(*property)->Literal());
             if (reference != nullptr && reference->file != file) {
-                (*property)->Set(Reference{file, reference->offset, reference->marked});
+                Property changed = **property;
+                changed.Set(Reference{file, reference->offset, reference->marked});
+                led.push_back({**property, std::move(changed)});
             }
         }
     }
+}
+
+// The lines behind a form with another name in the attribute that has it.
+Text WithName(Text tail, TextView name) {
+    constexpr TextView attribute = u"Attribute VB_Name = \"";
+    const std::size_t line = tail.find(attribute);
+    if (line == Text::npos || (line > 0 && tail[line - 1] != u'\n')) {
+        return tail;
+    }
+    const std::size_t start = line + attribute.size();
+    const std::size_t end = tail.find_first_of(u"\"\r\n", start);
+    if (end != Text::npos && tail[end] == u'"') {
+        tail.replace(start, end - start, name);
+    }
+    return tail;
 }
 
 }  // namespace
@@ -143,9 +167,10 @@ void Document::Check(const PlacedReference& placed) const {
 
 void Document::AddLibrary(TextView library, TextView file) {
     const TextView lineBreak = form_.head.find(crLf) == Text::npos ? TextView(u"\n") : crLf;
-    form_.head += u"Object = " + SourceOf(Text(library)) + u"; " + SourceOf(Text(file));
-    form_.head += lineBreak;
+    Text head = form_.head + u"Object = " + SourceOf(Text(library)) + u"; " + SourceOf(Text(file));
+    head += lineBreak;
     form_.libraries.push_back({Text(library), Text(file), {}});
+    form_.head = std::move(head);
 }
 
 Text Document::TextOf(const Property& property) const {
@@ -188,32 +213,30 @@ Reference Document::AddRecord(std::string_view record) {
 }
 
 void Document::Rename(std::string name) {
+    UseCompanion(DesignersCompanionName(name));
     name_ = std::move(name);
-    UseCompanion(DesignersCompanionName(name_));
 }
 
 void Document::RenameForm(TextView name) {
-    constexpr TextView attribute = u"Attribute VB_Name = \"";
+    Text tail = WithName(form_.tail, name);
     form_.root->Rename(name);
-    Text& tail = form_.tail;
-    const std::size_t line = tail.find(attribute);
-    if (line == Text::npos || (line > 0 && tail[line - 1] != u'\n')) {
-        return;
-    }
-    const std::size_t start = line + attribute.size();
-    const std::size_t end = tail.find_first_of(u"\"\r\n", start);
-    if (end != Text::npos && tail[end] == u'"') {
-        tail.replace(start, end - start, name);
-    }
+    form_.tail = std::move(tail);
 }
 
 void Document::UseCompanion(std::string name) {
-    companionName_ = std::move(name);
-    const Text file = FromUtf8(companionName_);
-    LeadReferencesTo(file, *form_.root);
-    for (PlacedReference& placed : form_.references) {
+    const Text file = FromUtf8(name);
+    std::vector<Replacement> led;
+    LeadReferencesTo(file, *form_.root, led);
+    std::vector<PlacedReference> references = form_.references;
+    for (PlacedReference& placed : references) {
         placed.reference.file = file;
     }
+    // From here on nothing can fail.
+    for (Replacement& replacement : led) {
+        replacement.property = std::move(replacement.changed);
+    }
+    form_.references = std::move(references);
+    companionName_ = std::move(name);
 }
 
 FormBytes Document::Write() const {

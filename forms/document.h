@@ -28,7 +28,7 @@ struct FormBytes {
 using CompanionReader = std::function<std::string(const std::string& fileName)>;
 
 /// A form, control, page or document file (.frm, .ctl, .pag, .dob). Writing one that was not edited
-/// gives the bytes that were read.
+/// gives the bytes that were read. An edit that throws has changed nothing.
 class Document {
  public:
     /// `name` is the file's name for errors, in UTF-8. `codePage` is what the form is written in

@@ -40,21 +40,22 @@ std::string ReadBytes(const fs::path& path) {
 // New contents for a file, beside it until they take its place; gone if they never do.
 class Replacement {
  public:
-    Replacement(const fs::path& target, std::string_view bytes)
-        : target_(Resolved(target)), beside_(target_) {
-        beside_ += ".new";
+    Replacement(const fs::path& target, std::string_view bytes) : Replacement(target) {
         std::ofstream stream(beside_, std::ios::binary);
         stream.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
         stream.close();
         if (!stream || !FlushFile(beside_)) {
-            Discard();
             throw FormError(NameOf(target_), "cannot be written");
         }
     }
     Replacement(const Replacement&) = delete;
     Replacement& operator=(const Replacement&) = delete;
-    ~Replacement() { Discard(); }
+    ~Replacement() {
+        std::error_code gone;
+        fs::remove(beside_, gone);
+    }
 
+    // Takes no memory, of which there may be none between the companion's turn and the form's.
     void TakePlace() {
         std::error_code error;
         const fs::file_status old = fs::status(target_, error);
@@ -65,22 +66,24 @@ class Replacement {
         if (error) {
             throw FormError(NameOf(target_), "cannot be written");
         }
-        FlushFolder(target_.parent_path());
+        FlushFolder(folder_);
     }
 
  private:
+    // Whatever happens from here on, nothing is left beside the file.
+    explicit Replacement(const fs::path& target)
+        : target_(Resolved(target)), folder_(target_.parent_path()), beside_(target_) {
+        beside_ += ".new";
+    }
     // Not the link is replaced but the file that it leads to.
     static fs::path Resolved(const fs::path& path) {
         std::error_code error;
         fs::path resolved = fs::canonical(path, error);
         return error ? path : resolved;
     }
-    void Discard() {
-        std::error_code gone;
-        fs::remove(beside_, gone);
-    }
 
     fs::path target_;
+    fs::path folder_;
     fs::path beside_;
 };
 

@@ -27,8 +27,8 @@ void FlushFolder(const std::filesystem::path& /*folder*/) {}
 
 namespace {
 
-bool Flush(const std::filesystem::path& path) {
-    const int handle = open(path.c_str(), O_RDONLY | O_CLOEXEC);
+bool Flush(const char* path) {
+    const int handle = open(path, O_RDONLY | O_CLOEXEC);
     if (handle < 0) {
         return false;
     }
@@ -39,11 +39,11 @@ bool Flush(const std::filesystem::path& path) {
 }  // namespace
 
 bool FlushFile(const std::filesystem::path& file) {
-    return Flush(file);
+    return Flush(file.c_str());
 }
 
 void FlushFolder(const std::filesystem::path& folder) {
-    static_cast<void>(Flush(folder.empty() ? std::filesystem::path(".") : folder));
+    static_cast<void>(Flush(folder.empty() ? "." : folder.c_str()));
 }
 
 #endif

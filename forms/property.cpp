@@ -19,9 +19,9 @@ void Property::Set(forms::Literal literal) {
 }
 
 void Property::AddComment(TextView comment) {
-    source_.value += u"  '";
-    source_.value += comment;
-    comment_ = comment;
+    Text added(comment);
+    source_.value += u"  '" + added;
+    comment_ = std::move(added);
 }
 
 }  // namespace lumenkit::forms
