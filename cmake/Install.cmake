@@ -12,7 +12,7 @@ set(CMAKE_SKIP_INSTALL_ALL_DEPENDENCY ON)
 
 # The core in one archive: the controls, the class table, the windowless runtime and form files.
 set(core_parts frame vlabel vmemo voptlist vlabelcaption project memory forms)
-add_library(lumenkit_core STATIC)
+add_library(lumenkit_core STATIC ${where_needed})
 foreach(part IN LISTS core_parts)
     target_sources(lumenkit_core PRIVATE $<TARGET_OBJECTS:lumenkit_${part}>)
 endforeach()

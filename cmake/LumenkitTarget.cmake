@@ -34,10 +34,6 @@ if(LUMENKIT_COVERAGE)
     target_compile_options(lumenkit_settings INTERFACE --coverage)
     target_link_options(lumenkit_settings INTERFACE --coverage)
 endif()
-if(LUMENKIT_FUZZ)
-    # The fuzzers see which ways through every library an input takes.
-    target_compile_options(lumenkit_settings INTERFACE -fsanitize=fuzzer-no-link)
-endif()
 
 include(SharedHeaders)
 

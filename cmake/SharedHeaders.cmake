@@ -2,6 +2,13 @@
 # builds for Windows, which so prove that the portable sources include what they need.
 option(LUMENKIT_PRECOMPILE "Compile common headers once for all libraries" OFF)
 
+# The fuzzers see which ways through the libraries an input takes.
+function(lumenkit_watch target)
+    if(LUMENKIT_FUZZ)
+        target_compile_options(${target} PRIVATE -fsanitize=fuzzer-no-link)
+    endif()
+endfunction()
+
 # lumenkit_shared_headers(NAME LINKS target... HEADERS header...)
 # A target to reuse the compiled headers from.
 function(lumenkit_shared_headers name)
@@ -10,6 +17,7 @@ function(lumenkit_shared_headers name)
     add_library(${name} OBJECT "${CMAKE_CURRENT_BINARY_DIR}/${name}.cpp")
     target_link_libraries(${name} PRIVATE lumenkit_settings ${ARG_LINKS})
     target_precompile_headers(${name} PRIVATE ${ARG_HEADERS})
+    lumenkit_watch(${name})
 endfunction()
 
 if(LUMENKIT_PRECOMPILE)
@@ -31,6 +39,7 @@ endif()
 
 # For the libraries of the folder that is being read.
 function(lumenkit_reuse_headers target)
+    lumenkit_watch(${target})
     if(NOT LUMENKIT_PRECOMPILE)
         return()
     endif()

@@ -7,8 +7,7 @@ preset=$1
 shift
 case $preset in
     native) scripts/setup.sh build qt ;;
-    native-asan) scripts/setup.sh build qt ;;
-    fuzz) scripts/setup.sh build fuzz ;;
+    native-asan) scripts/setup.sh build qt fuzz ;;
     coverage) scripts/setup.sh build coverage ;;
     mingw-*) scripts/setup.sh build windows ;;
 esac

@@ -21,14 +21,14 @@ if [ $# -eq 0 ]; then
     done
 fi
 
-scripts/build.sh fuzz "${targets[@]/%/_fuzz}"
+scripts/build.sh native-asan "${targets[@]/%/_fuzz}"
 
 # fuzz NAME: the run's whole output is in build/fuzz/NAME.log.
 fuzz() {
     local name=$1 log=build/fuzz/$1.log dictionary=()
     mkdir -p "build/fuzz/corpus/$name"
     [ -f "fuzz/$name.dict" ] && dictionary=("-dict=fuzz/$name.dict")
-    if ! "build/fuzz/fuzz/${name}_fuzz" "${dictionary[@]}" "-max_total_time=$seconds" -timeout=10 \
+    if ! "build/native-asan/fuzz/${name}_fuzz" "${dictionary[@]}" "-max_total_time=$seconds" -timeout=10 \
         -print_final_stats=1 "-artifact_prefix=build/fuzz/$name-" \
         "build/fuzz/corpus/$name" "fuzz/corpus/$name" >"$log" 2>&1; then
         grep -v '^#' "$log"

@@ -44,5 +44,8 @@ cat "$wine_log"
 step "Tests under AddressSanitizer and UndefinedBehaviorSanitizer"
 ctest --preset native-asan -j "$(nproc)"
 
+step "Fuzzing, 30 seconds each"
+scripts/fuzz.sh --short
+
 step "Static analysis of the controls (make lint: of everything)"
 scripts/lint.sh controls

@@ -42,7 +42,7 @@ void TypeKeys(QWidget& widget, TextView text) {
     const QPointer<QWidget> typed(&widget);
     for (std::size_t index = 0; index < text.size() && typed != nullptr; ++index) {
         const Stroke stroke = StrokeFor(text[index]);
-        const QString entered(QChar(text[index]));
+        const QString entered = QChar(text[index]);
         for (const QEvent::Type type : {QEvent::KeyPress, QEvent::KeyRelease}) {
             if (typed != nullptr) {
                 QKeyEvent event(type, stroke.key, stroke.held, entered);

@@ -109,7 +109,8 @@ TEST(CheckedInteger, TakesOnlyWhatFits) {
     EXPECT_THAT([] { Int32(std::int64_t{2147483648}); }, Raises(6));
     EXPECT_THAT([] { Int32(std::int64_t{-2147483649}); }, Raises(6));
     EXPECT_THAT([] { Int32(4294967295U); }, Raises(6));
-    EXPECT_THAT([] { Int32(std::numeric_limits<std::uint64_t>::max()); }, Raises(6));
+    EXPECT_THAT([] { static_cast<void>(Int32(std::numeric_limits<std::uint64_t>::max())); },
+                Raises(6));
     EXPECT_EQ(Int16().Value(), 0);
 }
 

@@ -42,6 +42,8 @@ class SampleControl final : public Control,
     std::vector<std::string> calls;
 
  private:
+    using host::TextBoxEvents::Click;
+
     void Change() override;
     void KeyPress(std::int16_t& keyAscii) override;
     void Click(std::int16_t index) override;
