@@ -9,6 +9,7 @@
 
 #include "tests/model/caption_comparison.h"
 #include "tests/model/caption_generator.h"
+#include "tests/support/test_rounds.h"
 #include "tests/support/test_seed.h"
 
 namespace lumenkit::testing {
@@ -222,7 +223,7 @@ class CaptionCompilerModel : public ::testing::Test {
 
     void CompareNearLineLimit() {
         for (int count = 298; count <= 304; ++count) {
-            for (int i = 0; i < 30 && !HasFatalFailure(); ++i) {
+            for (int i = 0; i < Rounds(30) && !HasFatalFailure(); ++i) {
                 Compare(generator_.Lines(count));
             }
         }
@@ -254,10 +255,12 @@ class CaptionCompilerModel : public ::testing::Test {
 };
 
 TEST_F(CaptionCompilerModel, AgreesOnGeneratedCaptions) {
-    CompareShort(250'000);
+    CompareShort(Rounds(250'000));
     CompareNearLineLimit();
     CompareNearLastPosition();
-    EXPECT_THAT(features_.Unseen(), ::testing::IsEmpty());
+    if (RunsAllRounds()) {
+        EXPECT_THAT(features_.Unseen(), ::testing::IsEmpty());
+    }
 }
 
 }  // namespace

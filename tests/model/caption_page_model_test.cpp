@@ -10,6 +10,7 @@
 #include "frame/utf8.h"
 #include "tests/model/literal_caption_page.h"
 #include "tests/support/placed_caption_page.h"
+#include "tests/support/test_rounds.h"
 #include "tests/support/test_seed.h"
 
 namespace lumenkit::testing {
@@ -85,8 +86,11 @@ class CaptionPageModel : public ::testing::Test {
 };
 
 TEST_F(CaptionPageModel, AgreesOnGeneratedCaptions) {
-    for (int i = 0; i < 120'000 && !HasFatalFailure(); ++i) {
+    for (int i = 0; i < Rounds(120'000) && !HasFatalFailure(); ++i) {
         Compare();
+    }
+    if (!RunsAllRounds()) {
+        return;
     }
     for (const char* const way :
          {"no action", "insert", "replace", "replace by the same", "beep"}) {
