@@ -175,7 +175,7 @@ void CaptionRenderer::Execute(TextView name, TextView parameter, TextView restOf
         surface_.CurrentFont()->SetBold(parameter == u"1");
     } else if (name == u"i") {
         surface_.CurrentFont()->SetItalic(parameter == u"1");
-    } else if (name == u"u") {  // the compiler turns it into "i"; here it would underline
+    } else if (name == u"u") {  // half a command; of whole ones the compiler makes "i"
         surface_.CurrentFont()->SetUnderline(parameter == u"1");
     } else if (name == u"color") {
         surface_.SetForeColor(static_cast<Color>(RoundToInt32(ParseNumber(parameter))));

@@ -31,6 +31,12 @@ TEST_F(MemoryExtender, ShowsTheControlAsPlaced) {
     EXPECT_EQ(extender_.Get(u"Visible"), Value(true));
 }
 
+TEST_F(MemoryExtender, SetsTheTag) {
+    extender_.Let(u"Tag", Text(u"another tag"));
+    EXPECT_EQ(extender_.Get(u"Tag"), Value(Text(u"another tag")));
+    EXPECT_EQ(control_->Tag(), u"another tag");
+}
+
 TEST_F(MemoryExtender, SizesTheControl) {
     calls_.clear();
     extender_.Let(u"Width", std::int32_t{600});

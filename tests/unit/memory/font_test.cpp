@@ -4,6 +4,7 @@
 
 #include <gtest/gtest.h>
 
+#include "tests/unit/frame/plain_font.h"
 #include "tests/unit/memory/expect_error.h"
 
 namespace lumenkit::memory {
@@ -48,6 +49,18 @@ TEST(MemoryFont, BoldIsAWeightAbove550) {
     EXPECT_TRUE(font->Bold());
     font->SetBold(false);
     EXPECT_EQ(font->Weight(), 400);
+}
+
+TEST(MemoryFont, KeepsItsCharset) {
+    const auto font = NewFont(10);
+    font->SetCharset(204);
+    EXPECT_EQ(font->Charset(), 204);
+}
+
+TEST(MemoryFont, IsNotTakenFromAnotherRuntime) {
+    EXPECT_TRUE(
+        Raises(ErrorNumber::TypeMismatch, [] { Font::From(std::make_shared<PlainFont>()); }));
+    EXPECT_TRUE(Raises(ErrorNumber::ObjectNotSet, [] { Font::From(nullptr); }));
 }
 
 TEST(MemoryFont, MeasuresByTheFixedMetrics) {

@@ -280,6 +280,14 @@ TEST_F(CaptionDrawing, UnderlineCommandSwitchesItalics) {
                                           "Print (100, 0) \"b\" 10 underline"));
 }
 
+// Half a command at a line's end keeps its name, and has no parameter.
+TEST_F(CaptionDrawing, HalfAnUnderlineCommandEndsTheUnderline) {
+    LabelScene scene = Plain(u"a|u|CR|b");
+    scene.font.underline = true;
+    EXPECT_THAT(Drawn(scene), ElementsAre("Print (0, 0) \"a\" 10 underline",
+                                          "Print (100, 0) \"\" 10", "Print (0, 240) \"b\" 10"));
+}
+
 TEST_F(CaptionDrawing, ColorHoldsUntilTheEndAndIsPutBack) {
     LabelScene scene = Plain(u"a|Fore:0,128,0|b|CR|c");
     scene.foreColor = Rgb(1, 2, 3);

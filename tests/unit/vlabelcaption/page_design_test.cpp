@@ -66,6 +66,10 @@ TEST_F(PageDesign, HasItsConstituentsInTabOrder) {
     EXPECT_TRUE(page_.Caption().IsMultiLine());
 }
 
+TEST_F(PageDesign, OffersNothingToAutomation) {
+    EXPECT_EQ(page_.Page().Automation().FindMember(u"Caption"), std::nullopt);
+}
+
 TEST_F(PageDesign, WritesTheMagnifierInCourier) {
     for (const TextView name : {u"labLeft", u"labChar", u"labSelect", u"labRight"}) {
         EXPECT_EQ(FontName(Part(name)), "Courier") << ToUtf8(name);
