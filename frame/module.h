@@ -13,6 +13,7 @@
 #pragma once
 
 #include <cassert>
+#include <cstddef>
 #include <utility>
 
 #include "frame/module_errors.h"
@@ -24,6 +25,19 @@ namespace lumenkit {
 /// The switch of the whole convention: where it is false, errors travel to the caller.
 inline constexpr bool errorTrapping = true;
 
+/// A procedure's name in the source. Its length is found when that is compiled: traces are many.
+class ProcedureName {
+ public:
+    template <std::size_t size>
+    consteval ProcedureName(const char16_t (&name)[size])  // NOLINT(*-explicit-*, *-c-arrays)
+        : name_(&name[0], size - 1) {}
+
+    operator TextView() const { return name_; }  // NOLINT(*-explicit-*)
+
+ private:
+    TextView name_;
+};
+
 /// One source module of a control, under the name that its error reports bear.
 template <bool trapping>
 class BasicModule {
@@ -34,7 +48,7 @@ class BasicModule {
     /// Runs `body()` as the procedure `name`. Out of memory and exceptions that are no errors of
     /// the runtime are reported too, as 7 and 51.
     template <typename Body>
-    void Procedure(TextView name, Body&& body) const {
+    void Procedure(ProcedureName name, Body&& body) const {
         errors_.TraceProc(fileName_, name, nullptr);
         if constexpr (trapping) {
             Trap(name, std::forward<Body>(body));
@@ -47,7 +61,7 @@ class BasicModule {
     /// Runs `body(result)` as the function `name` and returns `result`, which starts as the default
     /// value of its type.
     template <typename Result, typename Body>
-    Result Function(TextView name, Body&& body) const {
+    Result Function(ProcedureName name, Body&& body) const {
         Result result{};
         Procedure(name, [&] { std::forward<Body>(body)(result); });
         return result;

@@ -257,13 +257,30 @@ void AppendUnsigned(Text& text, std::string_view image, int firstExponent) {
     }
 }
 
+void AppendHundredths(Text& text, std::int32_t hundredths) {
+    text += hundredths < 0 ? u'-' : blank;
+    const std::int32_t whole = std::abs(hundredths / 100);
+    const std::int32_t rest = std::abs(hundredths % 100);
+    if (whole != 0 || rest == 0) {
+        AppendDecimal(text, whole);
+    }
+    if (rest != 0) {
+        text += u'.';
+        text += static_cast<char16_t>(u'0' + rest / 10);
+    }
+    if (rest % 10 != 0) {
+        text += static_cast<char16_t>(u'0' + rest % 10);
+    }
+}
+
 template <typename Number>
 void AppendStrOf(Text& text, Number number, int firstExponent) {
-    const bool whole = number == static_cast<Number>(static_cast<std::int32_t>(
-                                     std::clamp<Number>(number, -999'999, 999'999)));
-    if (whole) {  // the common case, and quick
-        text += number < 0 ? TextView() : TextView(u" ");
-        AppendDecimal(text, static_cast<std::int32_t>(number));
+    // The common case, and quick: six digits that read back as the number are the fewest.
+    constexpr Number most = 9'999;
+    const Number half = number < 0 ? Number(-0.5) : Number(0.5);
+    const auto hundredths = static_cast<std::int32_t>(std::clamp(number, -most, most) * 100 + half);
+    if (static_cast<Number>(hundredths) / 100 == number) {
+        AppendHundredths(text, hundredths);
         return;
     }
     text += number < 0 ? u'-' : blank;
@@ -292,27 +309,33 @@ Text NumberTextOf(Number number, int digits) {
 constexpr int doubleDigits = 15;
 constexpr int singleDigits = 7;
 
-// A number of a few digits before a comma, a bar or the end: what most numbers are, read quickly.
-std::optional<std::int32_t> ShortWholeNumber(TextView text) {
-    constexpr std::size_t mostDigits = 9;
-    std::int32_t number = 0;
-    for (std::size_t i = 0; i < std::min(text.size(), mostDigits + 1); ++i) {
-        const char16_t unit = text[i];
-        if (unit == u',' || unit == u'|') {
-            return number;
-        }
-        if (!IsDigit(unit) || i == mostDigits) {
+// A number of a few digits, perhaps with a point among them, before a comma, a bar or the end: what
+// most numbers are, read quickly.
+std::optional<double> ShortNumber(TextView text) {
+    constexpr std::array powers = {1e0, 1e1, 1e2, 1e3, 1e4, 1e5, 1e6, 1e7, 1e8, 1e9};
+    std::int32_t digits = 0;
+    std::size_t point = TextView::npos;
+    std::size_t at = 0;
+    for (; at < text.size() && text[at] != u',' && text[at] != u'|'; ++at) {
+        if (at == powers.size() - 1) {
             return std::nullopt;
         }
-        number = number * 10 + (unit - u'0');
+        if (IsDigit(text[at])) {
+            digits = digits * 10 + (text[at] - u'0');
+        } else if (text[at] == u'.' && point == TextView::npos) {
+            point = at;
+        } else {
+            return std::nullopt;
+        }
     }
-    return number;
+    // One division of two doubles without error rounds right.
+    return point == TextView::npos ? digits : digits / powers[at - point - 1];
 }
 
 }  // namespace
 
 double ParseNumber(TextView text) {
-    if (const auto number = ShortWholeNumber(text)) {
+    if (const auto number = ShortNumber(text)) {
         return *number;
     }
     Units units(text, true);

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <limits>
+#include <span>
 
 #include "frame/runtime_error.h"
 
@@ -102,13 +103,15 @@ char16_t LowerUnit(char16_t unit) {
 }
 
 Text LCase(TextView text) {
-    Text lower(text);
-    LowerInPlace(lower);
+    Text lower;
+    AppendLCase(lower, text);
     return lower;
 }
 
-void LowerInPlace(Text& text) {
-    for (char16_t& unit : text) {
+void AppendLCase(Text& text, TextView mixed) {
+    const std::size_t begin = text.size();
+    text.append(mixed);
+    for (char16_t& unit : std::span(text).subspan(begin)) {
         if (unit >= 0x80) {
             unit = LowerUnit(unit);
         } else if (unit >= u'A' && unit <= u'Z') {  // the common case, and quick

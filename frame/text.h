@@ -51,7 +51,8 @@ TextView Trim(TextView text);
 /// among them, are their own: a text never changes its length.
 char16_t LowerUnit(char16_t unit);
 Text LCase(TextView text);
-void LowerInPlace(Text& text);
+/// Appends LCase(mixed), which must be no part of `text`.
+void AppendLCase(Text& text, TextView mixed);
 
 /// Same length and same units; with IgnoreCase, same lower-case forms.
 bool SameText(TextView left, TextView right, Compare compare = Compare::Binary);

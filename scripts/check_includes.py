@@ -43,6 +43,7 @@ SYSTEM_HEADERS = {
     # Nothing in the standard library makes sure that a file is on the disk.
     "forms/flush.cpp": {"fcntl.h", "io.h", "unistd.h"},
     # No compiler gathers comparisons in a bit mask by itself.
+    "vlabel/bar_scanner.cpp": {"emmintrin.h"},
     "vmemo/line_break_scanner.cpp": {"emmintrin.h"},
 }
 WINDOWS_HEADERS = re.compile(r"^(windows|windowsx|ole\w*|objbase|commctrl|wingdi|winuser|unknwn)\.h$", re.I)

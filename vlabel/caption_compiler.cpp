@@ -13,18 +13,19 @@ namespace {
 // The line that exceeds this number is still kept, and is the last one.
 constexpr std::int32_t maxLines = 300;
 
-TextView Switch(TextView written) {
+// Appends the parameter of a switch, "0" or "1" where it says so in words.
+void AppendSwitch(Text& entry, TextView written) {
     const bool isDigit = written.size() == 2 && (written[0] == u'0' || written[0] == u'1');
     if (isDigit && written[1] == u'|') {  // what captions mostly say
-        return written.substr(0, 1);
+        entry.push_back(written[0]);
+        return;
     }
-    if (written == u"false|") {
-        return u"0";
+    const std::size_t begin = entry.size();
+    AppendLCase(entry, written);
+    const TextView lower = TextView(entry).substr(begin);
+    if (lower == u"false|" || lower == u"true|") {
+        entry.replace(begin, lower.size(), 1, lower == u"true|" ? u'1' : u'0');
     }
-    if (written == u"true|") {
-        return u"1";
-    }
-    return written;
 }
 
 std::int32_t ColorOf(TextView written) {
@@ -47,66 +48,57 @@ void CaptionCompiler::CompileCaption(TextView caption) {
 }
 
 void CaptionCompiler::CompileLine(CaptionReader& caption) {
-    line_.clear();
+    Text& line = compiled_.CaptionLines.Begin();
+    const std::size_t begin = line.size();
     bool closed = true;
-    while (closed && caption.ReadThroughBar(line_)) {
-        closed = ReadCommand(caption);
-        CompileCommand(command_);
-    }
-    compiled_.CaptionLines.Add(line_);
-}
-
-// True when a bar closes the command; that bar is part of it.
-bool CaptionCompiler::ReadCommand(CaptionReader& caption) {
-    command_.clear();
-    const bool closed = caption.ReadThroughBar(command_);
-    if (!closed) {
-        // The end of the line stands for the closing bar and must have a position too.
-        static_cast<void>(Int16(line_.size() + command_.size() + 1));
-    }
-    return closed;
-}
-
-// `command` is left in lower case.
-void CaptionCompiler::CompileCommand(Text& command) {
-    module_.Procedure(u"CompileCommand", [&] {
-        const std::size_t colon = command.find(u':');
-        if (colon == Text::npos) {
-            compiled_.CommandNames.Add(command);
-            compiled_.CommandParams.Add({});
-            return;
+    while (closed && caption.ReadThroughBar(line)) {
+        TextView command;
+        closed = caption.ReadThroughBar(command, command_);  // the bar that closes it is part of it
+        if (!closed) {
+            // The end of the line stands for the closing bar and must have a position too.
+            static_cast<void>(Int16(line.size() - begin + command.size() + 1));
         }
-        LowerInPlace(command);
-        const TextView name = TextView(command).substr(0, colon);
-        const TextView written = TextView(command).substr(colon + 1);
-        const CommandWord word = FindCommandWord(name);
-        const TextView parameter = Stored(word.parameter, written);
-        compiled_.CommandNames.Add(word.stored);
-        compiled_.CommandParams.Add(parameter);
+        CompileCommand(command);
+    }
+    compiled_.CaptionLines.End();
+}
+
+void CaptionCompiler::CompileCommand(TextView command) {
+    module_.Procedure(u"CompileCommand", [&] {
+        const auto [colon, word] = ReadCommandName(command);
+        Text& name = compiled_.CommandNames.Begin();
+        Text& parameter = compiled_.CommandParams.Begin();
+        if (colon == TextView::npos) {
+            name.append(command);
+        } else if (word == nullptr) {
+            AppendLCase(name, command.substr(0, colon));
+            AppendLCase(parameter, command.substr(colon + 1));
+        } else {
+            AppendParameter(parameter, word->parameter, command.substr(colon + 1));
+            name.append(word->stored);
+        }
+        compiled_.CommandNames.End();
+        compiled_.CommandParams.End();
     });
 }
 
-// `written` as the list keeps it; valid until the next parameter.
-TextView CaptionCompiler::Stored(CommandWord::Parameter kind, TextView written) {
+void CaptionCompiler::AppendParameter(Text& entry, CommandWord::Parameter kind, TextView written) {
     using Parameter = CommandWord::Parameter;
-    parameter_.clear();
     switch (kind) {
-        case Parameter::AsWritten:
-            return written;
         case Parameter::Switch:
-            return Switch(written);
+            AppendSwitch(entry, written);
+            break;
         case Parameter::Color:
-            AppendDecimal(parameter_, ColorOf(written));
+            AppendDecimal(entry, ColorOf(written));
             break;
         case Parameter::Size:
-            AppendStr(parameter_, ParseNumber(written));
+            AppendStr(entry, ParseNumber(written));
             break;
         case Parameter::Before:
             ChangeBeforeSpacing(written);
-            AppendStr(parameter_, BeforeSpacing_);
+            AppendStr(entry, BeforeSpacing_);
             break;
     }
-    return parameter_;
 }
 
 // A sign makes the number a change, none makes it the new value.

@@ -32,18 +32,14 @@ class CaptionCompiler {
 
  private:
     void CompileLine(CaptionReader& caption);
-    bool ReadCommand(CaptionReader& caption);
-    void CompileCommand(Text& command);
-    TextView Stored(CommandWord::Parameter kind, TextView written);
+    void CompileCommand(TextView command);
+    void AppendParameter(Text& entry, CommandWord::Parameter kind, TextView written);
     void ChangeBeforeSpacing(TextView written);
 
     const Module& module_;
     CompiledCaption compiled_;
     float BeforeSpacing_ = 0.0F;
-    // Scratch: the line and the command at hand, and a parameter to be stored.
-    Text line_;
-    Text command_;
-    Text parameter_;
+    Text command_;  // scratch: the command at hand, where there are quotes in it
 };
 
 }  // namespace lumenkit

@@ -5,7 +5,7 @@
 #include <string_view>
 
 #include "frame/utf8.h"
-#include "vlabel/find_bar.h"
+#include "vlabel/bar_scanner.h"
 
 namespace lumenkit {
 
@@ -81,7 +81,8 @@ std::string DumpCaption(const CompiledCaption& compiled) {
         const TextView line = compiled.CaptionLines.Item(i);
         dump += "line ";
         AppendQuoted(dump, line);
-        for (std::size_t at = FindBar(line, 0); at < line.size(); at = FindBar(line, at + 1)) {
+        BarScanner bars(line);
+        for (std::size_t at = bars.Next(0); at < line.size(); at = bars.Next(at + 1)) {
             AppendCommand(dump, compiled, ++command);
         }
     }

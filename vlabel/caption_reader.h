@@ -1,8 +1,10 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
 
 #include "frame/text.h"
+#include "vlabel/bar_scanner.h"
 
 namespace lumenkit {
 
@@ -13,7 +15,7 @@ namespace lumenkit {
 class CaptionReader {
  public:
     /// `caption` must outlive the reader, which stands at the first line's start.
-    explicit CaptionReader(TextView caption) : caption_(caption) {}
+    explicit CaptionReader(TextView caption) : caption_(caption), bars_(caption) {}
 
     /// Raises 6 when the end of the line at hand lies beyond position 32767.
     void CheckLineEnd() const;
@@ -21,6 +23,9 @@ class CaptionReader {
     /// Appends to `run` what the line holds up to and with its next bar, or all the rest where it
     /// has none. True when there was a bar.
     bool ReadThroughBar(Text& run);
+
+    /// The same, as a view of the caption where there are no quotes in it, else of `scratch`.
+    bool ReadThroughBar(TextView& run, Text& scratch);
 
     /// At the end of a line, goes on to the next one; false when there is none. Raises 6 when the
     /// next line would start beyond position 32767.
@@ -30,11 +35,65 @@ class CaptionReader {
     std::size_t Offset() const { return at_; }
 
  private:
+    // What ends a piece of a line. A bar is part of the piece, a quote is not.
+    enum class End : std::uint8_t { Bar, Quote, Line };
+    End PassPiece();
     bool IsQuote(std::size_t at) const;
     bool IsSeparator(std::size_t at) const;
+    static bool IsLetter(char16_t unit, char16_t lower) { return (unit | 0x20) == lower; }
+
+    static constexpr std::size_t separatorLength = 4;
+    static constexpr std::size_t quoteLength = 3;
 
     TextView caption_;
+    BarScanner bars_;
     std::size_t at_ = 0;
 };
+
+inline bool CaptionReader::ReadThroughBar(Text& run) {
+    for (;;) {
+        const std::size_t begin = at_;
+        const End end = PassPiece();
+        if (end != End::Quote) {
+            run.append(caption_.data() + begin, at_ - begin);
+            return end == End::Bar;
+        }
+        run.append(caption_.data() + begin, at_ - quoteLength - begin).push_back(u'"');
+    }
+}
+
+inline bool CaptionReader::ReadThroughBar(TextView& run, Text& scratch) {
+    const std::size_t begin = at_;
+    const End end = PassPiece();
+    if (end != End::Quote) {
+        run = TextView(caption_.data() + begin, at_ - begin);
+        return end == End::Bar;
+    }
+    scratch.assign(caption_.data() + begin, at_ - quoteLength - begin).push_back(u'"');
+    const bool closed = ReadThroughBar(scratch);
+    run = scratch;
+    return closed;
+}
+
+inline CaptionReader::End CaptionReader::PassPiece() {
+    at_ = bars_.Next(at_);
+    if (at_ == caption_.size() || IsSeparator(at_)) {
+        return End::Line;
+    }
+    const bool isQuote = IsQuote(at_);
+    at_ += isQuote ? quoteLength : 1;
+    return isQuote ? End::Quote : End::Bar;
+}
+
+inline bool CaptionReader::IsSeparator(std::size_t at) const {
+    return caption_.size() - at >= separatorLength && IsLetter(caption_[at + 1], u'c') &&
+           IsLetter(caption_[at + 2], u'r') && caption_[at + 3] == bar;
+}
+
+// Lines are told apart before quotes are replaced: a bar that begins a separator closes no quote.
+inline bool CaptionReader::IsQuote(std::size_t at) const {
+    return caption_.size() - at >= quoteLength && IsLetter(caption_[at + 1], u'q') &&
+           caption_[at + 2] == bar && !IsSeparator(at + 2);
+}
 
 }  // namespace lumenkit

@@ -6,8 +6,8 @@
 #include "frame/checked_integer.h"
 #include "frame/numbers.h"
 #include "frame/raised_flag.h"
+#include "vlabel/bar_scanner.h"
 #include "vlabel/bullet.h"
-#include "vlabel/find_bar.h"
 #include "vlabel/word_wrap.h"
 
 namespace lumenkit {
@@ -60,14 +60,16 @@ void CaptionRenderer::DrawLines() {
 void CaptionRenderer::DrawLine(TextView line) {
     drawing_.LineHeight = surface_.TextHeight(line);
     surface_.SetCurrentX(LineStart());
-    for (std::size_t at = FindBar(line, 0); at < line.size(); at = FindBar(line, 0)) {
-        if (at > 0) {
-            DisplayText(line.substr(0, at), false);
+    BarScanner bars(line);
+    std::size_t begin = 0;
+    for (std::size_t at = bars.Next(begin); at < line.size(); at = bars.Next(begin)) {
+        if (at > begin) {
+            DisplayText(line.substr(begin, at - begin), false);
         }
-        line.remove_prefix(at + 1);
-        ExecuteNextCommand(line, drawing_.LineHeight);
+        begin = at + 1;
+        ExecuteNextCommand(line.substr(begin), drawing_.LineHeight);
     }
-    DisplayText(line, true);
+    DisplayText(line.substr(begin), true);
 }
 
 void CaptionRenderer::DisplayText(TextView text, bool endOfLine) {

@@ -1,5 +1,6 @@
 #include "vlabel/command_word.h"
 
+#include <algorithm>
 #include <array>
 
 namespace lumenkit {
@@ -23,15 +24,48 @@ constexpr std::array words = {
     CommandWord{u"before", u"before", Parameter::Before},
 };
 
-}  // namespace
+// The letters of a name in lower case, one a byte, behind a one. All words have keys; a name that
+// has none is not a word.
+constexpr std::size_t mostLetters = 6;
+constexpr std::uint64_t noKey = 0;
+constexpr std::uint64_t emptyKey = 1;
 
-CommandWord FindCommandWord(TextView name) {
-    for (const CommandWord& word : words) {
-        if (word.written == name) {
-            return word;
+constexpr std::uint64_t WithLetter(std::uint64_t key, char16_t letter) {
+    return letter <= u'z' && key != noKey ? key << 8 | letter : noKey;
+}
+
+constexpr auto keys = [] {
+    std::array<std::uint64_t, words.size()> made{};
+    for (std::size_t i = 0; i < words.size(); ++i) {
+        made[i] = emptyKey;
+        for (const char16_t letter : words[i].written) {
+            made[i] = WithLetter(made[i], letter);
         }
     }
-    return {name, name, Parameter::AsWritten};
+    return made;
+}();
+
+char16_t Lower(char16_t unit) {
+    const bool isCapital = unit >= u'A' && unit <= u'Z';
+    return unit < 0x80 ? static_cast<char16_t>(unit + (isCapital ? 0x20 : 0)) : LowerUnit(unit);
+}
+
+}  // namespace
+
+// One walk up to the colon: captions are compiled often, and consist of short commands.
+CommandName ReadCommandName(TextView command) {
+    std::uint64_t key = emptyKey;
+    std::size_t at = 0;
+    for (; at < command.size() && command[at] != u':'; ++at) {
+        if (at == mostLetters) {
+            return {command.find(u':'), nullptr};
+        }
+        key = WithLetter(key, Lower(command[at]));
+    }
+    const auto* const found = std::ranges::find(keys, key);
+    return {
+        at < command.size() ? at : TextView::npos,
+        found == keys.end() ? nullptr : &words.at(static_cast<std::size_t>(found - keys.begin()))};
 }
 
 std::span<const CommandWord> CommandWords() {

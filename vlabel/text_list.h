@@ -18,14 +18,24 @@ class TextList {
     TextView Item(std::int32_t index) const;
 
     void Add(TextView text) {
-        buffer_.append(text);
-        ends_.push_back(buffer_.size());
+        Begin().append(text);
+        End();
     }
+
+    /// Begins the next entry: what is appended to the text behind its size at this call is part of
+    /// it. The entry is in the list once it is ended; one that is not ended is forgotten.
+    Text& Begin() {
+        buffer_.erase(EndOfLast());
+        return buffer_;
+    }
+    void End() { ends_.push_back(buffer_.size()); }
 
     /// Empties the list and keeps its memory.
     void Clear();
 
  private:
+    std::size_t EndOfLast() const { return ends_.empty() ? 0 : ends_.back(); }
+
     Text buffer_;
     std::vector<std::size_t> ends_;
 };

@@ -46,12 +46,12 @@ VLabel::VLabel(const ControlHost& host)
 
 // A property that lives on the surface.
 template <typename Result, typename Read>
-Result VLabel::Get(TextView procedure, Read&& read) const {
+Result VLabel::Get(ProcedureName procedure, Read&& read) const {
     return module_.Function<Result>(procedure, [&](Result& result) { result = read(); });
 }
 
 template <typename Put>
-void VLabel::Let(TextView procedure, TextView property, Repaint repaint, Put&& put) {
+void VLabel::Let(ProcedureName procedure, TextView property, Repaint repaint, Put&& put) {
     module_.Procedure(procedure, [&] {
         put();
         PropertyChanged(property, repaint);
@@ -343,7 +343,8 @@ void VLabel::UserControl_MouseUp(host::MouseArguments& mouse) {
     RaiseMouseEvent(u"UserControl_MouseUp", VLabelEvent::MouseUp, mouse);
 }
 
-void VLabel::RaiseMouseEvent(TextView procedure, VLabelEvent event, host::MouseArguments& mouse) {
+void VLabel::RaiseMouseEvent(ProcedureName procedure, VLabelEvent event,
+                             host::MouseArguments& mouse) {
     module_.Procedure(procedure, [&] {
         RaiseEvent(container_, static_cast<std::int32_t>(event), mouse.button, mouse.shift, mouse.x,
                    mouse.y);

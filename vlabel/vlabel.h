@@ -81,14 +81,14 @@ class VLabel final : public Control {
 
  private:
     template <typename Result, typename Read>
-    Result Get(TextView procedure, Read&& read) const;
+    Result Get(ProcedureName procedure, Read&& read) const;
     enum class Repaint { No, Yes };
     template <typename Put>
-    void Let(TextView procedure, TextView property, Repaint repaint, Put&& put);
+    void Let(ProcedureName procedure, TextView property, Repaint repaint, Put&& put);
     void PropertyChanged(TextView property, Repaint repaint);
     void RefreshControl(bool noRefresh);
     void ApplyBackColour();
-    void RaiseMouseEvent(TextView procedure, VLabelEvent event, host::MouseArguments& mouse);
+    void RaiseMouseEvent(ProcedureName procedure, VLabelEvent event, host::MouseArguments& mouse);
 
     host::Surface& surface_;
     host::Container& container_;

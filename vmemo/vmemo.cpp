@@ -96,13 +96,13 @@ void VMemo::ForBoxes(std::int16_t first, Act&& act) {
 
 // A property of the active box.
 template <typename Result, typename Read>
-Result VMemo::Get(TextView procedure, Read&& read) const {
+Result VMemo::Get(ProcedureName procedure, Read&& read) const {
     return module_.Function<Result>(procedure, [&](Result& result) { result = read(ActiveBox()); });
 }
 
 // A property of all boxes.
 template <typename Put>
-void VMemo::Let(TextView procedure, TextView property, Put&& put) {
+void VMemo::Let(ProcedureName procedure, TextView property, Put&& put) {
     module_.Procedure(procedure, [&] {
         ForBoxes(0, put);
         host_.container.PropertyChanged(property);

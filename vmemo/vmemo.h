@@ -111,7 +111,7 @@ class VMemo final : public Control {
     void Text1_MouseDown(host::MouseArguments& mouse);
     void Text1_MouseMove(host::MouseArguments& mouse);
     void Text1_MouseUp(host::MouseArguments& mouse);
-    void RaiseMouseEvent(TextView procedure, VMemoEvent event, host::MouseArguments& mouse);
+    void RaiseMouseEvent(ProcedureName procedure, VMemoEvent event, host::MouseArguments& mouse);
 
     Restriction ApplyRestrictions(std::int16_t index, TextView text, RestrictionMode mode);
     void WriteBack(host::TextBox& box, const Restriction& restriction);
@@ -123,9 +123,9 @@ class VMemo final : public Control {
     template <typename Act>
     void ForBoxes(std::int16_t first, Act&& act);
     template <typename Result, typename Read>
-    Result Get(TextView procedure, Read&& read) const;
+    Result Get(ProcedureName procedure, Read&& read) const;
     template <typename Put>
-    void Let(TextView procedure, TextView property, Put&& put);
+    void Let(ProcedureName procedure, TextView property, Put&& put);
 
     ControlHost host_;
     ModuleErrors errors_;

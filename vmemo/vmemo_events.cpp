@@ -65,7 +65,8 @@ void VMemo::Text1_MouseUp(host::MouseArguments& mouse) {
     RaiseMouseEvent(u"Text1_MouseUp", VMemoEvent::MouseUp, mouse);
 }
 
-void VMemo::RaiseMouseEvent(TextView procedure, VMemoEvent event, host::MouseArguments& mouse) {
+void VMemo::RaiseMouseEvent(ProcedureName procedure, VMemoEvent event,
+                            host::MouseArguments& mouse) {
     module_.Procedure(procedure, [&] {
         Raise(host_.container, event, mouse.button, mouse.shift, mouse.x, mouse.y);
     });

@@ -122,7 +122,7 @@ void VOptList::UserControl_WriteProperties(host::PropertyBag& bag) {
 }
 
 template <typename Put>
-void VOptList::LetOnFrame(TextView procedure, TextView property, Put&& put) {
+void VOptList::LetOnFrame(ProcedureName procedure, TextView property, Put&& put) {
     module_.Procedure(procedure, [&] {
         put(*Frame1);
         container_.PropertyChanged(property);
@@ -130,7 +130,7 @@ void VOptList::LetOnFrame(TextView procedure, TextView property, Put&& put) {
 }
 
 template <typename Put>
-void VOptList::LetOnItems(TextView procedure, TextView property, Put&& put) {
+void VOptList::LetOnItems(ProcedureName procedure, TextView property, Put&& put) {
     module_.Procedure(procedure, [&] {
         RefuseAtRunTime(ErrorNumber::SetNotSupportedAtRunTime);
         put(Option1->Item(0));
@@ -139,14 +139,15 @@ void VOptList::LetOnItems(TextView procedure, TextView property, Put&& put) {
     });
 }
 
-float VOptList::GetDistance(TextView procedure, float distance) const {
+float VOptList::GetDistance(ProcedureName procedure, float distance) const {
     return Get<float>(procedure, [&] {
         RefuseAtRunTime(ErrorNumber::GetNotSupportedAtRunTime);
         return distance;
     });
 }
 
-void VOptList::LetDistance(TextView procedure, TextView property, float& distance, float value) {
+void VOptList::LetDistance(ProcedureName procedure, TextView property, float& distance,
+                           float value) {
     module_.Procedure(procedure, [&] {
         RefuseAtRunTime(ErrorNumber::SetNotSupportedAtRunTime);
         distance = value;

@@ -109,15 +109,15 @@ class VOptList final : public Control, private host::OptionButtonEvents {
 
     // What many properties share.
     template <typename Result, typename Read>
-    Result Get(TextView procedure, Read&& read) const {
+    Result Get(ProcedureName procedure, Read&& read) const {
         return module_.Function<Result>(procedure, [&](Result& result) { result = read(); });
     }
     template <typename Put>
-    void LetOnFrame(TextView procedure, TextView property, Put&& put);
+    void LetOnFrame(ProcedureName procedure, TextView property, Put&& put);
     template <typename Put>
-    void LetOnItems(TextView procedure, TextView property, Put&& put);
-    float GetDistance(TextView procedure, float distance) const;
-    void LetDistance(TextView procedure, TextView property, float& distance, float value);
+    void LetOnItems(ProcedureName procedure, TextView property, Put&& put);
+    float GetDistance(ProcedureName procedure, float distance) const;
+    void LetDistance(ProcedureName procedure, TextView property, float& distance, float value);
     void RefuseAtRunTime(ErrorNumber error) const;
 
     host::Surface& surface_;

@@ -64,15 +64,19 @@ class CommandChecker {
         : command_(command), remarks_(remarks) {}
 
     void Check() {
-        const std::size_t colon = command_.text.find(u':');
+        const auto [colon, word] = ReadCommandName(command_.text);
         if (colon == Text::npos) {
             CheckLoneBar();
             return;
         }
         written_ = TextView(command_.text).substr(colon + 1);
         name_ = TextView(command_.text).substr(0, colon);
-        const Text name = LCase(name_);
-        CheckNamed(FindCommandWord(name));
+        if (word != nullptr) {
+            CheckNamed(*word);
+        } else {
+            Add(rules::unknownCommand, "unknown command " + Quote(name_),
+                ToUtf8(NearestCommand(name_)));
+        }
         if (!command_.closed) {
             Add(rules::unterminatedCommand,
                 "the command has no closing bar: " + Quote(command_.text) +
@@ -86,17 +90,10 @@ class CommandChecker {
     }
 
     void CheckNamed(const CommandWord& word) {
-        if (word.parameter == Parameter::AsWritten) {
-            Add(rules::unknownCommand, "unknown command " + Quote(name_),
-                ToUtf8(NearestCommand(name_)));
-            return;
-        }
         if (word.written == u"u") {
             Add(rules::underlineIsItalic, "\"u\" draws italic, not underlined");
         }
         switch (word.parameter) {
-            case Parameter::AsWritten:
-                break;
             case Parameter::Switch:
                 CheckSwitch(word.stored);
                 break;
@@ -139,7 +136,7 @@ class CommandChecker {
         if (equals != Text::npos) {
             return '|' + ToUtf8(word) + ':' + ToUtf8(Trim(command_.text.substr(equals + 1))) + '|';
         }
-        const bool isSwitch = FindCommandWord(word).parameter == Parameter::Switch;
+        const bool isSwitch = ReadCommandName(word).word->parameter == Parameter::Switch;
         return isSwitch ? '|' + ToUtf8(word) + ":1|" : std::string();
     }
 

@@ -102,6 +102,21 @@ TEST(ParseNumber, ReadsWholeNumbersOfAnyLengthBeforeACommaABarAndTheEnd) {
     EXPECT_EQ(ParseNumber(u"12\t.5e1|"), 125);
 }
 
+TEST(ParseNumber, ReadsNumbersWithAPointBeforeACommaABarAndTheEnd) {
+    for (const TextView behind : {u"", u",", u"|", u",.7", u"|7.5"}) {
+        EXPECT_EQ(ParseNumber(u"8.5" + Text(behind)), 8.5);
+        EXPECT_EQ(ParseNumber(u"8.25" + Text(behind)), 8.25);
+        EXPECT_EQ(ParseNumber(u"." + Text(behind)), 0);
+        EXPECT_EQ(ParseNumber(u"7." + Text(behind)), 7);
+        EXPECT_EQ(ParseNumber(u".7" + Text(behind)), 0.7);
+        EXPECT_EQ(ParseNumber(u"1.2.3" + Text(behind)), 1.2);
+        EXPECT_EQ(ParseNumber(u"..3" + Text(behind)), 0);
+        EXPECT_EQ(ParseNumber(u"1234567.8" + Text(behind)), 1'234'567.8);
+        EXPECT_EQ(ParseNumber(u"1234567.89" + Text(behind)), 1'234'567.89);
+        EXPECT_EQ(ParseNumber(u".123456789" + Text(behind)), .123456789);
+    }
+}
+
 TEST(ParseNumber, SkipsBlanksTabsAndLineFeedsAnywhere) {
     ExpectReadings({
         {u"  12", 12},
@@ -421,6 +436,38 @@ TEST(Str, WritesSingles) {
     };
     for (const auto& [number, form] : forms) {
         EXPECT_EQ(Str(number), form);
+    }
+}
+
+// As digits of the whole number, with a point before the last two and without zeros at the end.
+Text Hundredths(int count) {
+    const int size = std::abs(count);
+    std::string image = std::to_string(size / 100);
+    image = image == "0" && size != 0 ? "" : image;
+    if (size % 100 != 0) {
+        image += '.' + std::to_string(size % 100 / 10);
+        image += size % 10 != 0 ? std::to_string(size % 10) : "";
+    }
+    return FromUtf8((count < 0 ? "-" : " ") + image);
+}
+
+TEST(Str, WritesHundredthsOfEverySize) {
+    for (int count = -1'200'000; count <= 1'200'000; count += std::abs(count) < 12'000 ? 1 : 13) {
+        ASSERT_EQ(Str(count / 100.0), Hundredths(count));
+        if (std::abs(count) < 1'000'000) {  // what six digits tell apart in single precision
+            ASSERT_EQ(Str(static_cast<float>(count) / 100.0F), Hundredths(count));
+        }
+    }
+}
+
+TEST(Str, TellsTheNeighboursOfHundredthsApart) {
+    for (int count = 1; count < 1'000'000; count += 29) {
+        const double number = count / 100.0;
+        for (const double towards : {0.0, 1e6}) {
+            const double neighbour = std::nextafter(number, towards);
+            ASSERT_NE(Str(neighbour), Str(number));
+            ASSERT_EQ(ParseNumber(Str(neighbour)), neighbour);
+        }
     }
 }
 

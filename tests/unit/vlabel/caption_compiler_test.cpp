@@ -199,6 +199,25 @@ TEST_F(CaptionCompilerTest, WordsMustFitExactly) {
     EXPECT_EQ(Compile(u"|underline:1|"), "line \"|\"\n  underline = \"1|\"\n");
 }
 
+// The dotted capital is the one unit beyond ASCII whose lower case is a letter of a word.
+TEST_F(CaptionCompilerTest, WordsInAnyCase) {
+    for (const TextView name : {u"BEFORE", u"bEfOrE", u"before"}) {
+        compiler_.CompileCaption(u"|" + Text(name) + u":1|");
+        EXPECT_THAT(Names(), ElementsAre(u"before")) << ToUtf8(name);
+    }
+    EXPECT_EQ(Compile(u"|İ:1|"), "line \"|\"\n  i = \"1\"\n");
+    EXPECT_EQ(Compile(u"|İTALİCS:1|"), "line \"|\"\n  italics = \"1|\"\n");
+}
+
+TEST_F(CaptionCompilerTest, NamesThatOnlyResembleWords) {
+    for (const TextView name : {TextView(u"\0b", 2), TextView(u"b\0", 2), TextView(u"\u0162"),
+                                TextView(u"befores"), TextView(u"\u0100b"), TextView(u"{b")}) {
+        compiler_.CompileCaption(u"|" + Text(name) + u":1|");
+        EXPECT_THAT(Names(), ElementsAre(LCase(name))) << ToUtf8(name);
+        EXPECT_THAT(Params(), ElementsAre(u"1|")) << ToUtf8(name);
+    }
+}
+
 TEST_F(CaptionCompilerTest, ValuesOfSwitches) {
     EXPECT_EQ(Parameter(u"|B:0|"), u"0");
     EXPECT_EQ(Parameter(u"|B:False|"), u"0");

@@ -42,6 +42,29 @@ TEST(TextList, HasNothingOutsideItsCount) {
     EXPECT_EQ(ErrorOfItem(list, -1), 9);
 }
 
+TEST(TextList, TakesWhatWasAppendedToAnEntry) {
+    TextList list;
+    list.Add(u"one");
+    Text& entry = list.Begin();
+    entry += u"tw";
+    entry += u"o";
+    EXPECT_EQ(list.Count(), 1);
+    list.End();
+    ASSERT_EQ(list.Count(), 2);
+    EXPECT_EQ(list.Item(1), u"one");
+    EXPECT_EQ(list.Item(2), u"two");
+}
+
+TEST(TextList, ForgetsAnEntryThatIsNotEnded) {
+    TextList list;
+    list.Add(u"one");
+    list.Begin() += u"lost";
+    EXPECT_EQ(list.Count(), 1);
+    list.Add(u"two");
+    ASSERT_EQ(list.Count(), 2);
+    EXPECT_EQ(list.Item(2), u"two");
+}
+
 TEST(TextList, StartsAnewWhenCleared) {
     TextList list;
     list.Add(u"old");

@@ -1,0 +1,43 @@
+// Finding the bars of a text, which is most of what compiling a caption costs.
+#pragma once
+
+#include <bit>
+#include <cstddef>
+#include <cstdint>
+
+#include "frame/text.h"
+
+namespace lumenkit {
+
+inline constexpr char16_t bar = u'|';
+
+/// Finds the bars of a text from front to back. It looks at a block of units at a time and keeps
+/// where in it bars are, so that short runs do not make it look twice.
+class BarScanner {
+ public:
+    /// The text must outlive the scanner.
+    explicit BarScanner(TextView text) : text_(text) {}
+
+    /// Offset (from 0) of the first bar at `from` or later, the text's size when there is none.
+    /// `from` must not be less than in the call before.
+    std::size_t Next(std::size_t from) {
+        while (from >= blockEnd_ || bars_ >> (from - block_) == 0) {
+            from = from < blockEnd_ ? blockEnd_ : from;
+            if (from >= text_.size()) {
+                return text_.size();
+            }
+            EnterBlock(from);
+        }
+        return from + static_cast<std::size_t>(std::countr_zero(bars_ >> (from - block_)));
+    }
+
+ private:
+    void EnterBlock(std::size_t from);
+
+    TextView text_;
+    std::size_t block_ = 0;  // where the block begins and ends
+    std::size_t blockEnd_ = 0;
+    std::uint64_t bars_ = 0;  // bit i: a bar is at block_ + i
+};
+
+}  // namespace lumenkit
