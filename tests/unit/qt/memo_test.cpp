@@ -1,7 +1,6 @@
 // VMemo and its text boxes under a user's hands.
 #include <QApplication>
 #include <QClipboard>
-#include <QElapsedTimer>
 #include <QInputMethodEvent>
 #include <QMimeData>
 #include <QScrollBar>
@@ -289,27 +288,19 @@ TEST_F(QtMemoTest, AMillionUnitsAreTypedInto) {
     while (large.size() < 1'000'000) {
         large += u"a line of text that is about as long as lines of text usually are\r\n";
     }
-    QElapsedTimer timer;
-    timer.start();
     Let(u"Text", large);
-    RecordProperty("set_ms", static_cast<int>(timer.restart()));
     Box().SetSelStart(static_cast<std::int32_t>(large.size() / 2));
     const std::int32_t at = Box().SelStart();
     constexpr int strokes = 50;
-    timer.restart();
     TypeKeys(Edit(), Text(strokes, u'x'));
-    const double each = static_cast<double>(timer.nsecsElapsed()) / 1e6 / strokes;
-    RecordProperty("ms_a_key", std::to_string(each));
-    EXPECT_LT(each, 50) << "milliseconds";
     large.insert(static_cast<std::size_t>(at), Text(strokes, u'x'));
     EXPECT_EQ(Contents(), large);
     Limit(100, 0);
     Let(u"Text", large);
     Box().SetSelStart(at);
-    timer.restart();
-    TypeKeys(Edit(), Text(strokes, u'y'));
-    RecordProperty("ms_a_refused_key",
-                   std::to_string(static_cast<double>(timer.nsecsElapsed()) / 1e6 / strokes));
+    const Text held = Contents();
+    TypeKeys(Edit(), Text(strokes, u'y'));  // into a line that is full
+    EXPECT_EQ(Contents(), held);
 }
 
 TEST_F(QtMemoTest, AContainerThatSetsTheTextInItsEventIsObeyed) {
