@@ -1,6 +1,5 @@
 #include "vlabel/command_word.h"
 
-#include <algorithm>
 #include <array>
 
 namespace lumenkit {
@@ -24,14 +23,12 @@ constexpr std::array words = {
     CommandWord{u"before", u"before", Parameter::Before},
 };
 
-// The letters of a name in lower case, one a byte, behind a one. All words have keys; a name that
-// has none is not a word.
+// The letters of a word, one a byte, behind a one.
 constexpr std::size_t mostLetters = 6;
-constexpr std::uint64_t noKey = 0;
 constexpr std::uint64_t emptyKey = 1;
 
 constexpr std::uint64_t WithLetter(std::uint64_t key, char16_t letter) {
-    return letter <= u'z' && key != noKey ? key << 8 | letter : noKey;
+    return key << 8 | letter;
 }
 
 constexpr auto keys = [] {
@@ -57,15 +54,19 @@ CommandName ReadCommandName(TextView command) {
     std::uint64_t key = emptyKey;
     std::size_t at = 0;
     for (; at < command.size() && command[at] != u':'; ++at) {
-        if (at == mostLetters) {
-            return {command.find(u':'), nullptr};
+        const char16_t letter = Lower(command[at]);
+        if (at == mostLetters || letter > u'z') {  // no word
+            return {command.find(u':', at), nullptr};
         }
-        key = WithLetter(key, Lower(command[at]));
+        key = WithLetter(key, letter);
     }
-    const auto* const found = std::ranges::find(keys, key);
-    return {
-        at < command.size() ? at : TextView::npos,
-        found == keys.end() ? nullptr : &words.at(static_cast<std::size_t>(found - keys.begin()))};
+    const std::size_t colon = at < command.size() ? at : TextView::npos;
+    for (std::size_t i = 0; i < keys.size(); ++i) {
+        if (keys[i] == key) {
+            return {colon, &words[i]};
+        }
+    }
+    return {colon, nullptr};
 }
 
 std::span<const CommandWord> CommandWords() {
