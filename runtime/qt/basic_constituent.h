@@ -39,8 +39,9 @@ class BasicTextConstituent : public BasicConstituent<Interface> {
  protected:
     BasicTextConstituent(Constituents& owner, const host::Design& design)
         : BasicConstituent<Interface>(owner, design),
-          font_(std::make_shared<Font>(design.fontName, design.fontSize), [this] { ApplyFont(); }) {
-    }
+          font_(
+              std::make_shared<Font>(design.fontName, design.fontSize), [this] { ApplyFont(); },
+              this->Errors()) {}
 
     /// The font is another one, or has other attributes.
     virtual void ApplyFont() {

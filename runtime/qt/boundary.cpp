@@ -30,7 +30,7 @@ void Report(const ErrorSink& sink) noexcept {
 
 }  // namespace
 
-void HandleEvent(const ErrorSink& sink, const std::function<void()>& handler) {
+void RunHandler(const ErrorSink& sink, const std::function<void()>& handler) {
     const Notifying notifying;
     Causing* cause = std::exchange(Causing::current, nullptr);
     try {

@@ -42,7 +42,7 @@ class Causing {
     void Finish() const;
 
  private:
-    friend void HandleEvent(const ErrorSink& sink, const std::function<void()>& handler);
+    friend void RunHandler(const ErrorSink& sink, const std::function<void()>& handler);
     // NOLINTNEXTLINE(cppcoreguidelines-avoid-non-const-global-variables): of the one thread
     static Causing* current;
 
@@ -59,9 +59,14 @@ void Cause(Action&& action) {
     causing.Finish();
 }
 
+void RunHandler(const ErrorSink& sink, const std::function<void()>& handler);
+
 /// Runs the handler of an event that Qt delivers. Nothing that it throws leaves: errors go to
 /// whoever caused the event, else to `sink`.
-void HandleEvent(const ErrorSink& sink, const std::function<void()>& handler);
+template <typename Handler>
+void HandleEvent(const ErrorSink& sink, const Handler& handler) {
+    RunHandler(sink, std::cref(handler));  // a function that takes no memory
+}
 
 /// Deletes `object`, later where a notification may still be under way in it. Null is allowed.
 void DeleteSafely(QObject* object);

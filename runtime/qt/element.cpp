@@ -30,6 +30,10 @@ Element::Element(Constituents& owner, const host::Design& design)
 
 Element::~Element() {
     owner_.Unregister(position_);
+    if (widget_ != nullptr) {  // of one that was never completed
+        widget_->hide();
+        DeleteSafely(widget_);
+    }
 }
 
 QWidget& Element::ParentFor(const Constituents& owner, const host::Design& design) {

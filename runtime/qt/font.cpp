@@ -32,12 +32,17 @@ void Font::Put(T& attribute, T value) {
     if (attribute == value) {
         return;
     }
-    attribute = std::move(value);
+    std::swap(attribute, value);
     face_.reset();
-    // Listeners may come and go meanwhile.
-    // NOLINTNEXTLINE(modernize-loop-convert)
-    for (std::size_t index = 0; index < listeners_.size(); ++index) {
-        listeners_[index]->AttributesSet();
+    try {
+        // Listeners may come and go meanwhile.
+        // NOLINTNEXTLINE(modernize-loop-convert)
+        for (std::size_t index = 0; index < listeners_.size(); ++index) {
+            listeners_[index]->AttributesSet();
+        }
+    } catch (...) {
+        std::swap(attribute, value);  // lest one that was not told never hears of it
+        throw;
     }
 }
 
@@ -116,8 +121,11 @@ std::shared_ptr<Font> Font::From(host::FontRef font) {
     return own;
 }
 
-HeldFont::HeldFont(std::shared_ptr<Font> font, std::function<void()> changed)
-    : font_(std::move(font)), changed_(std::move(changed)), shown_(font_->Now()) {
+HeldFont::HeldFont(std::shared_ptr<Font> font, std::function<void()> changed, ErrorSink errors)
+    : font_(std::move(font)),
+      changed_(std::move(changed)),
+      errors_(std::move(errors)),
+      shown_(font_->Now()) {
     font_->Add(*this);
 }
 
@@ -137,8 +145,9 @@ void HeldFont::Assign(host::FontRef font) {
 void HeldFont::Flush() {
     pending_ = false;
     if (!(shown_ == font_->Now())) {
-        shown_ = font_->Now();
+        FontAttributes now = font_->Now();
         changed_();
+        shown_ = std::move(now);
     }
 }
 
@@ -146,9 +155,9 @@ void HeldFont::AttributesSet() {
     if (muted_ || pending_) {
         return;
     }
-    pending_ = true;
     QMetaObject::invokeMethod(
-        &context_, [this] { Flush(); }, Qt::QueuedConnection);
+        &context_, [this] { HandleEvent(errors_, [this] { Flush(); }); }, Qt::QueuedConnection);
+    pending_ = true;
 }
 
 }  // namespace lumenkit::qt

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "frame/host/font.h"
+#include "runtime/qt/boundary.h"
 #include "runtime/qt/face.h"
 
 namespace lumenkit::qt {
@@ -72,7 +73,8 @@ class Font final : public host::Font {
 /// font is no longer what was shown last.
 class HeldFont final : private FontListener {
  public:
-    HeldFont(std::shared_ptr<Font> font, std::function<void()> changed);
+    /// What `changed` raises from the event loop goes to `errors`.
+    HeldFont(std::shared_ptr<Font> font, std::function<void()> changed, ErrorSink errors);
     ~HeldFont() override;
     HeldFont(const HeldFont&) = delete;
     HeldFont& operator=(const HeldFont&) = delete;
@@ -91,6 +93,7 @@ class HeldFont final : private FontListener {
 
     std::shared_ptr<Font> font_;
     std::function<void()> changed_;
+    ErrorSink errors_;
     FontAttributes shown_;
     bool muted_ = false;
     bool pending_ = false;

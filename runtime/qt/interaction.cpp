@@ -55,19 +55,22 @@ void DeferringInteraction::Defer(std::function<void(host::Interaction&)> what) {
     if (deferred_.size() > 1) {
         return;
     }
-    QMetaObject::invokeMethod(
-        &context_,
-        [this] {
-            // A box lets other events in, which may end the control and this object.
-            host::Interaction& inner = inner_;
-            const auto due = std::exchange(deferred_, {});
-            HandleEvent({}, [&] {
-                for (const auto& said : due) {
-                    said(inner);
-                }
-            });
-        },
-        Qt::QueuedConnection);
+    try {
+        QMetaObject::invokeMethod(
+            &context_, [this] { SayDeferred(); }, Qt::QueuedConnection);
+    } catch (...) {
+        deferred_.clear();  // or none would be said any more
+        throw;
+    }
+}
+
+void DeferringInteraction::SayDeferred() {
+    // A box lets other events in, which may end the control and this object.
+    host::Interaction& inner = inner_;
+    const auto due = std::exchange(deferred_, {});
+    for (const auto& said : due) {
+        HandleEvent({}, [&] { said(inner); });
+    }
 }
 
 }  // namespace lumenkit::qt

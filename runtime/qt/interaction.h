@@ -32,6 +32,7 @@ class DeferringInteraction final : public host::Interaction {
  private:
     void Say(std::function<void(host::Interaction&)> what);
     void Defer(std::function<void(host::Interaction&)> what);
+    void SayDeferred();
 
     host::Interaction& inner_;
     std::function<bool()> isPainting_;

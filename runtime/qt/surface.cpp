@@ -25,7 +25,8 @@ const TwipsPerPixel& Twips() {
 Surface::Surface(SurfaceOwner& owner, const ErrorSink& errors, float width, float height)
     : owner_(owner),
       area_(std::make_unique<SurfaceWidget>(owner.Outside(), *this, errors)),
-      font_(std::make_shared<Font>(u"MS Sans Serif", 8.25F), [this] { FontChanged(); }),
+      font_(
+          std::make_shared<Font>(u"MS Sans Serif", 8.25F), [this] { FontChanged(); }, errors),
       scale_(area_->devicePixelRatioF()),
       width_(width),
       height_(height) {

@@ -1,5 +1,7 @@
 #include "runtime/qt/text_edit.h"
 
+#include <QClipboard>
+#include <QGuiApplication>
 #include <QInputMethodEvent>
 #include <QKeyEvent>
 #include <QMetaObject>
@@ -192,9 +194,13 @@ void TextEdit::Select(Selection selection) {
 // ---- The text and the document
 
 void TextEdit::SetContents(TextView text) {
+    if (hasLost_) {
+        ReadDocument();
+    }
     if (text == text_) {
         return;
     }
+    text_.reserve(text.size());  // behind the document's change nothing may fail
     {
         // Only what differs is laid out anew. No CR LF is cut in two.
         const auto splits = [](TextView whole, std::size_t at) {
@@ -244,6 +250,30 @@ void TextEdit::FollowDocument(int from, int added) {
     if (isSetting_) {
         return;
     }
+    HandleEvent(errors_, [&] {
+        const bool hadLost = std::exchange(hasLost_, true);  // unless it goes well
+        if (depth_ == 0) {                                   // by a menu's command
+            QMetaObject::invokeMethod(
+                this, [this] { NotifyChange(); }, Qt::QueuedConnection);
+        }
+        if (hadLost) {
+            ReadDocument();
+        } else {
+            Follow(from, added);
+            hasLost_ = false;
+        }
+    });
+}
+
+void TextEdit::ReadDocument() {
+    QTextCursor all(document());
+    all.select(QTextCursor::Document);
+    text_ = FromDocument(all.selectedText());
+    hasChanged_ = true;
+    hasLost_ = false;
+}
+
+void TextEdit::Follow(int from, int added) {
     const int characters = document()->characterCount() - 1;
     QTextCursor cursor(document());
     cursor.setPosition(std::min(from, characters));
@@ -271,13 +301,12 @@ void TextEdit::FollowDocument(int from, int added) {
     }
     text_.replace(start, removed, entered);
     hasChanged_ = true;
-    if (depth_ == 0) {  // by a menu's command
-        QMetaObject::invokeMethod(
-            this, [this] { NotifyChange(); }, Qt::QueuedConnection);
-    }
 }
 
 void TextEdit::NotifyChange() {
+    if (hasLost_) {
+        HandleEvent(errors_, [this] { ReadDocument(); });
+    }
     if (std::exchange(hasChanged_, false)) {
         TellEvent([](host::TextBoxEvents& events) { events.Change(); });
     }
@@ -384,13 +413,14 @@ void TextEdit::Command(char16_t unit, const QKeyEvent& event) {
     if (unit == key::selectAll) {
         selectAll();
     } else if (unit == key::copy) {
-        copy();
+        CopySelection();
     } else if (locked_) {
         return;
     } else if (unit == key::paste) {
         paste();
     } else if (unit == key::cut) {
-        cut();
+        CopySelection();
+        textCursor().removeSelectedText();
     } else if (unit == key::undo) {
         event.modifiers().testFlag(Qt::ShiftModifier) ? redo() : undo();
     } else if (unit == key::backspace || unit == key::deleteWord) {
@@ -466,7 +496,7 @@ void TextEdit::inputMethodEvent(QInputMethodEvent* event) {
 
 // ---- Clipboard and dragging
 
-QMimeData* TextEdit::createMimeDataFromSelection() const {
+std::unique_ptr<QMimeData> TextEdit::Copied() const {
     const QTextCursor cursor = textCursor();
     const auto start = static_cast<std::size_t>(ToUnit(cursor.selectionStart()));
     const auto end = static_cast<std::size_t>(ToUnit(cursor.selectionEnd()));
@@ -477,7 +507,19 @@ QMimeData* TextEdit::createMimeDataFromSelection() const {
     copied->setData(exactFormat,
                     QByteArray(reinterpret_cast<const char*>(selected.data()),
                                static_cast<qsizetype>(selected.size() * sizeof(char16_t))));
-    return copied.release();
+    return copied;
+}
+
+void TextEdit::CopySelection() const {
+    if (textCursor().hasSelection()) {
+        QGuiApplication::clipboard()->setMimeData(Copied().release());
+    }
+}
+
+QMimeData* TextEdit::createMimeDataFromSelection() const {
+    QMimeData* copied = nullptr;
+    HandleEvent(errors_, [&] { copied = Copied().release(); });
+    return copied;
 }
 
 bool TextEdit::canInsertFromMimeData(const QMimeData* source) const {
@@ -485,10 +527,13 @@ bool TextEdit::canInsertFromMimeData(const QMimeData* source) const {
 }
 
 void TextEdit::insertFromMimeData(const QMimeData* source) {
-    if (locked_ || source == nullptr) {
-        return;
+    if (!locked_ && source != nullptr) {
+        HandleEvent(errors_, [&] { Insert(*source); });
     }
-    const Text text = TextOf(*source);
+}
+
+void TextEdit::Insert(const QMimeData& source) {
+    const Text text = TextOf(source);
     const TextView fitting = Fitting(multiLine_ ? TextView(text) : FirstLine(text), Room());
     if (!fitting.empty()) {
         ReplaceSelection(fitting);

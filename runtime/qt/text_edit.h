@@ -2,6 +2,7 @@
 
 #include <QPlainTextEdit>
 #include <cstdint>
+#include <memory>
 #include <optional>
 
 #include "frame/host/text_box.h"
@@ -65,6 +66,8 @@ class TextEdit final : public QPlainTextEdit {
     std::int32_t ToUnit(int documentPosition) const;
 
     void FollowDocument(int from, int added);
+    void Follow(int from, int added);
+    void ReadDocument();
     void NotifyChange();
     template <typename Handle>
     bool During(Handle&& handle);
@@ -79,6 +82,9 @@ class TextEdit final : public QPlainTextEdit {
     void DeleteBackwards(bool word);
     void ReplaceSelection(TextView text);
     std::size_t Room() const;
+    std::unique_ptr<QMimeData> Copied() const;
+    void CopySelection() const;
+    void Insert(const QMimeData& source);
     host::MouseArguments MouseOf(const QMouseEvent& event) const;
     void FitLines();
 
@@ -92,6 +98,7 @@ class TextEdit final : public QPlainTextEdit {
     bool locked_ = false;
     bool isSetting_ = false;  // the document follows the text
     bool hasChanged_ = false;
+    bool hasLost_ = false;  // the text could not follow the document
     bool hasFocusNow_ = false;
     bool isPressed_ = false;
     int depth_ = 0;  // of events under way

@@ -37,10 +37,10 @@ qt::ControlWidget& QtForm::Place(TextView className, const host::Placement& plac
             onEvent(name, arguments);
         }
     };
-    controls_.push_back(std::make_unique<qt::ControlWidget>(
-        context_, type, *this, qt::Placing{.name = className, .placement = placement}, &window));
-    controls_.back()->StartNew();
-    return *controls_.back();
+    auto control = std::make_unique<qt::ControlWidget>(
+        context_, type, *this, qt::Placing{.name = className, .placement = placement}, &window);
+    control->StartNew();
+    return *controls_.emplace_back(std::move(control));
 }
 
 std::unique_ptr<qt::PageWidget> QtForm::Page(TextView className) {

@@ -1,0 +1,112 @@
+// allocation_counter.h for programs on shared libraries that memory must not run out in: counts,
+// and lets fail, what the code of the program asks for, with the templates that it is made of. What
+// the libraries ask for is given.
+#include <cstddef>
+#include <cstdlib>
+#include <functional>
+#include <new>
+
+#include "tests/support/allocation_counter.h"
+
+// Where the program's own code begins and ends; the linker knows.
+extern "C" {
+// NOLINTBEGIN(bugprone-reserved-identifier,cppcoreguidelines-avoid-non-const-global-variables)
+extern const char __executable_start;
+extern const char etext;
+// NOLINTEND(bugprone-reserved-identifier,cppcoreguidelines-avoid-non-const-global-variables)
+}
+
+namespace lumenkit::testing {
+
+namespace {
+
+std::int64_t count = 0;
+std::int64_t live = 0;
+std::size_t bytes = 0;
+std::int64_t untilFailure = 0;
+
+// Before each piece of memory: whose it is, for whoever gives it back.
+union Owner {
+    bool isOwn;
+    std::max_align_t alignment;
+};
+
+bool IsOwn(const void* caller) {
+    const std::less<> isBefore;
+    return !isBefore(caller, &__executable_start) && isBefore(caller, &etext);
+}
+
+void CountOwn(std::size_t size) {
+    ++count;
+    bytes += size;
+    if (untilFailure > 0 && --untilFailure == 0) {
+        throw std::bad_alloc();
+    }
+    ++live;
+}
+
+void* Allocate(std::size_t size, const void* caller) {
+    const bool isOwn = IsOwn(caller);
+    if (isOwn) {
+        CountOwn(size);
+    }
+    auto* const owner = static_cast<Owner*>(std::malloc(sizeof(Owner) + size));
+    if (owner == nullptr) {
+        throw std::bad_alloc();
+    }
+    owner->isOwn = isOwn;
+    return owner + 1;
+}
+
+void Free(void* memory) {
+    if (memory == nullptr) {
+        return;
+    }
+    Owner* const owner = static_cast<Owner*>(memory) - 1;
+    live -= owner->isOwn ? 1 : 0;
+    std::free(owner);
+}
+
+}  // namespace
+
+std::int64_t AllocationCount() {
+    return count;
+}
+
+std::int64_t LiveAllocations() {
+    return live;
+}
+
+std::size_t AllocatedBytes() {
+    return bytes;
+}
+
+void FailAllocation(std::int64_t ordinal) {
+    untilFailure = ordinal;
+}
+
+bool AllocationFailurePending() {
+    return untilFailure > 0;
+}
+
+}  // namespace lumenkit::testing
+
+// The nothrow forms end in these. Nothing here is over-aligned.
+void* operator new(std::size_t size) {
+    return lumenkit::testing::Allocate(size, __builtin_return_address(0));
+}
+void* operator new[](std::size_t size) {
+    return lumenkit::testing::Allocate(size, __builtin_return_address(0));
+}
+void operator delete(void* memory) noexcept {
+    lumenkit::testing::Free(memory);
+}
+void operator delete[](void* memory) noexcept {
+    lumenkit::testing::Free(memory);
+}
+void operator delete(void* memory, std::size_t /*size*/) noexcept {
+    lumenkit::testing::Free(memory);
+}
+void operator delete[](void* memory, std::size_t /*size*/) noexcept {
+    lumenkit::testing::Free(memory);
+}
