@@ -175,6 +175,9 @@ HostedControl::Body::Body(const Context& context, const ClassDescriptor& type, C
 
 HostedControl::Body::~Body() {
     isStarted_ = false;
+    if (!IsPlatformAtWork()) {
+        Destroy();  // with all that lies in it: quicker than window by window
+    }
     control_.reset();
     Destroy();
 }

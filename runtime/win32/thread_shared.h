@@ -25,6 +25,9 @@ class ThreadShared {
     ThreadShared(const ThreadShared&) = delete;
     ThreadShared& operator=(const ThreadShared&) = delete;
 
+    /// The current thread's T; null where nobody holds a share.
+    static T* IfAny() { return instance; }
+
     T& operator*() const { return *instance_; }
     T* operator->() const { return instance_; }
 

@@ -1,5 +1,6 @@
 #include "runtime/win32/window.h"
 
+#include <algorithm>
 #include <string>
 #include <utility>
 
@@ -46,10 +47,12 @@ Window::~Window() {
 }
 
 Window* Window::Of(HWND handle) {
-    if (handle == nullptr) {
+    const OwnWindows* const own = ThreadShared<OwnWindows>::IfAny();
+    if (own == nullptr) {
         return nullptr;
     }
-    return static_cast<Window*>(GetPropW(handle, ownClass));
+    const auto found = own->find(handle);
+    return found == own->end() ? nullptr : found->second;
 }
 
 int Window::Count() {
@@ -86,9 +89,10 @@ void Window::Create(const WindowDesign& design) {
                         design.className == nullptr ? OwnClass(design.module) : design.className,
                         text.c_str(), design.style, place.left, place.top, place.right - place.left,
                         place.bottom - place.top, design.parent, nullptr, design.module, nullptr);
-    if (handle_ == nullptr || SetPropW(handle_, ownClass, this) == FALSE) {
+    if (handle_ == nullptr) {
         Raise(ErrorNumber::OutOfMemory);
     }
+    own_->emplace(handle_, this);
     ++windowCount;
     former_ = reinterpret_cast<WNDPROC>(
         SetWindowLongPtrW(handle_, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(&Procedure)));
@@ -105,9 +109,14 @@ void Window::Destroy() {
     }
 }
 
+bool Window::IsPlatformAtWork() const {
+    return std::ranges::any_of(*own_,
+                               [](const auto& window) { return window.second->defaultCalls_ > 0; });
+}
+
 void Window::LetGo() {
     const HWND handle = std::exchange(handle_, nullptr);
-    RemovePropW(handle, ownClass);
+    own_->erase(handle);
     SetWindowLongPtrW(handle, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(former_));
     --windowCount;
     ShowWindow(handle, SW_HIDE);
@@ -138,7 +147,7 @@ LRESULT CALLBACK Window::Procedure(HWND handle, UINT message, WPARAM wParam, LPA
         return window->Answer(message, wParam, lParam);
     }
     const LRESULT answer = window->Default(message, wParam, lParam);
-    RemovePropW(handle, ownClass);
+    window->own_->erase(handle);
     window->handle_ = nullptr;
     --windowCount;
     return answer;
@@ -175,8 +184,9 @@ struct ParkingWindow {
     ParkingWindow& operator=(const ParkingWindow&) = delete;
 
     void Create(HINSTANCE module) {
-        handle = CreateWindowExW(WS_EX_TOOLWINDOW, L"STATIC", L"", WS_POPUP, 0, 0, 1, 1, nullptr,
-                                 nullptr, module, nullptr);
+        // The desktop, another process's window, need not be told.
+        handle = CreateWindowExW(WS_EX_TOOLWINDOW | WS_EX_NOPARENTNOTIFY, L"STATIC", L"", WS_POPUP,
+                                 0, 0, 1, 1, nullptr, nullptr, module, nullptr);
         if (handle == nullptr) {
             Raise(ErrorNumber::OutOfMemory);
         }

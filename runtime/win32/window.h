@@ -1,6 +1,7 @@
 #pragma once
 
 #include <optional>
+#include <unordered_map>
 
 #include "frame/text.h"
 #include "runtime/win32/life.h"
@@ -24,6 +25,12 @@ struct WindowDesign {
     Life* life = nullptr;
 };
 
+class Window;
+
+/// The windows of this library on one thread. Every message asks whose it is: the platform would
+/// know, too, but at some price.
+using OwnWindows = std::unordered_map<HWND, Window*>;
+
 /// A window that lives as long as the object. Belongs to the thread that created it.
 ///
 /// A window passes what its children notify it of (WM_COMMAND, WM_NOTIFY, WM_HSCROLL, WM_VSCROLL,
@@ -37,7 +44,8 @@ class Window {
 
     /// Null when there is none (any more): a container may destroy windows under us.
     HWND Handle() const { return handle_; }
-    /// The object behind a window of this library; null when it is none.
+    /// The object behind a window of this library that belongs to the current thread; null for
+    /// others.
     static Window* Of(HWND handle);
     /// What is kept while the window answers; null where nothing is.
     Life* GetLife() const { return life_; }
@@ -73,6 +81,9 @@ class Window {
     /// While the platform's own window procedure is at work in the window, the window is only
     /// hidden and let go; the platform destroys it when that is done.
     void Destroy();
+    /// Whether the platform's own window procedure is at work in any of the thread's windows, which
+    /// must not be destroyed with another one then.
+    bool IsPlatformAtWork() const;
 
     /// Answers a message. What it does not answer it hands to Default. Nothing that it throws
     /// leaves the window procedure: errors of event handlers end there. It may destroy the object.
@@ -95,6 +106,7 @@ class Window {
     std::optional<LRESULT> Reflect(UINT message, WPARAM wParam, LPARAM lParam);
     void LetGo();
 
+    ThreadShared<OwnWindows> own_;
     HWND handle_ = nullptr;
     Life* life_ = nullptr;      // null: nothing waits for this window
     WNDPROC former_ = nullptr;  // of the platform's class
