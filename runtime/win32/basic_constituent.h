@@ -35,8 +35,10 @@ class BasicTextConstituent : public BasicConstituent<Interface>, private FontLis
     host::FontRef CurrentFont() const override { return font_.Get(); }
     /// Raises 380 for a font of another runtime.
     void SetCurrentFont(host::FontRef font) override {
-        if (font != font_.Get()) {
-            font_.Assign(font);
+        const HFONT before = FontHandle();
+        const std::shared_ptr<Font> former = font_.Get();  // keeps the handle
+        font_.Assign(font);
+        if (FontHandle() != before) {
             FontChanged();
         }
     }

@@ -1,5 +1,7 @@
 #include "runtime/win32/mouse.h"
 
+#include <array>
+
 #include <windowsx.h>
 
 namespace lumenkit::win32 {
@@ -9,10 +11,6 @@ namespace {
 constexpr std::int16_t leftButton = 1;
 constexpr std::int16_t rightButton = 2;
 constexpr std::int16_t middleButton = 4;
-
-bool IsHeld(int key) {
-    return GetKeyState(key) < 0;
-}
 
 std::int16_t ButtonsHeld(WPARAM keys) {
     return static_cast<std::int16_t>(((keys & MK_LBUTTON) != 0 ? leftButton : 0) |
@@ -42,8 +40,13 @@ std::int16_t ButtonOf(UINT message, WPARAM keys) {
 }  // namespace
 
 std::int16_t HeldKeys() {
-    return static_cast<std::int16_t>((IsHeld(VK_SHIFT) ? 1 : 0) | (IsHeld(VK_CONTROL) ? 2 : 0) |
-                                     (IsHeld(VK_MENU) ? 4 : 0));
+    std::array<BYTE, 256> keys = {};
+    GetKeyboardState(keys.data());
+    const auto ifHeld = [&](std::size_t key, int value) {
+        return (keys[key] & 0x80U) != 0 ? value : 0;
+    };
+    return static_cast<std::int16_t>(ifHeld(VK_SHIFT, 1) | ifHeld(VK_CONTROL, 2) |
+                                     ifHeld(VK_MENU, 4));
 }
 
 host::MouseArguments MouseArgumentsOf(UINT message, WPARAM wParam, LPARAM lParam,
