@@ -1,7 +1,5 @@
 // What Pango's own rich text costs to repaint, against replaying its glyphs: a neighbour for the
 // same figures of labels.
-#include <cstdio>
-#include <cstdlib>
 #include <memory>
 #include <string>
 #include <vector>
@@ -9,6 +7,7 @@
 #include <pango/pangocairo.h>
 
 #include "bench/ratio_table.h"
+#include "bench/require.h"
 #include "bench/styled_lines.h"
 #include "frame/utf8.h"
 
@@ -16,6 +15,7 @@ namespace {
 
 using lumenkit::bench::MarkedTexts;
 using lumenkit::bench::Ratio;
+using lumenkit::bench::Require;
 using lumenkit::bench::StyledLine;
 using lumenkit::bench::StyledRun;
 
@@ -51,10 +51,7 @@ class Picture {
         Repaint();
         const std::vector<unsigned char> painted = Pixels();
         Replay();
-        if (painted != Pixels()) {
-            std::fprintf(stderr, "the replay draws something else than Pango\n");
-            std::abort();
-        }
+        Require(painted == Pixels(), "the replay draws something else than Pango");
     }
 
     void Repaint() {

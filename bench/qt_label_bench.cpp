@@ -5,7 +5,6 @@
 #include <QTextBlock>
 #include <QTextDocument>
 #include <QTextLayout>
-#include <cstdio>
 #include <cstdlib>
 #include <functional>
 #include <memory>
@@ -15,6 +14,7 @@
 #include "bench/marked_texts.h"
 #include "bench/qt_stage.h"
 #include "bench/ratio_table.h"
+#include "bench/require.h"
 #include "bench/styled_lines.h"
 #include "frame/host/application.h"
 #include "runtime/qt/qt_text.h"
@@ -32,6 +32,7 @@ using lumenkit::bench::Marked;
 using lumenkit::bench::MarkedTexts;
 using lumenkit::bench::QtStage;
 using lumenkit::bench::Ratio;
+using lumenkit::bench::Require;
 using lumenkit::bench::Side;
 using lumenkit::bench::StageWindow;
 using lumenkit::bench::StyledLine;
@@ -42,13 +43,6 @@ namespace qt = lumenkit::qt;
 
 constexpr host::Placement place = {.left = 0, .top = 0, .width = 10'000, .height = 9'000};
 constexpr float wrapWidth = 3'000;  // 200 pixels
-
-void Require(bool holds, const char* what) {
-    if (!holds) {
-        std::fprintf(stderr, "%s\n", what);
-        std::abort();
-    }
-}
 
 QImage NewImage(QSize size) {
     return {size, QImage::Format_ARGB32_Premultiplied};

@@ -6,8 +6,6 @@
 #include <QPlainTextEdit>
 #include <QTextBlock>
 #include <algorithm>
-#include <cstdio>
-#include <cstdlib>
 #include <functional>
 #include <memory>
 #include <random>
@@ -15,6 +13,7 @@
 
 #include "bench/qt_stage.h"
 #include "bench/ratio_table.h"
+#include "bench/require.h"
 #include "frame/text.h"
 #include "runtime/qt/text_box.h"
 
@@ -24,6 +23,7 @@ using lumenkit::Text;
 using lumenkit::bench::AddComparison;
 using lumenkit::bench::QtStage;
 using lumenkit::bench::Ratio;
+using lumenkit::bench::Require;
 using lumenkit::bench::Side;
 using lumenkit::bench::StageWindow;
 namespace host = lumenkit::host;
@@ -107,10 +107,7 @@ class PlainEdit {
         edit_.show();
         PutCaretInTheMiddle(edit_);
         QObject::connect(&edit_, &QPlainTextEdit::textChanged, [this] {
-            if (!IsWithinLimits(edit_.toPlainText())) {
-                std::fprintf(stderr, "the text does not fit\n");
-                std::abort();
-            }
+            Require(IsWithinLimits(edit_.toPlainText()), "the text does not fit");
         });
     }
     void Type() { TypeAndTakeBack(edit_); }

@@ -15,6 +15,7 @@ namespace lumenkit::bench {
 struct Side {
     std::function<void()> round;
     double units = 1;
+    std::function<void()> prepare = {};  ///< before each batch of rounds; takes no time
 };
 
 enum class Ratio {
@@ -36,7 +37,8 @@ struct Comparison {
 void AddComparison(Comparison comparison);
 
 /// Runs what is registered and prints the table; the body of main. Understands the options of
-/// Google Benchmark. The table gives no verdict: the result is 0 unless the options are wrong.
+/// Google Benchmark (on Windows of --benchmark_filter). The table gives no verdict: the result is 0
+/// unless the options are wrong.
 int RunComparisons(int argc, char** argv);
 
 /// Keeps the compiler from leaving out the work that `value` comes from.

@@ -1,12 +1,17 @@
 // What repainting a label costs on Windows, against a window that makes the same calls of the
-// platform by heart: the same texts, fonts and boxes, put together in a bitmap and shown. Both
-// repaint in turn; the median of the pairs counts.
+// platform by heart (the same texts, fonts and boxes, put together in a bitmap and shown), and
+// against a rich edit control with the same runs.
 #include <algorithm>
-#include <chrono>
-#include <cstdio>
+#include <cstdint>
+#include <memory>
 #include <string>
+#include <utility>
 #include <vector>
 
+#include <richedit.h>
+
+#include "bench/ratio_table.h"
+#include "bench/require.h"
 #include "project/lumenkit_classes.h"
 #include "runtime/win32/canvas.h"
 #include "runtime/win32/colors.h"
@@ -14,13 +19,22 @@
 #include "runtime/win32/surface.h"
 #include "runtime/win32/wide_text.h"
 #include "runtime/win32/window.h"
+#include "tests/support/picture.h"
 #include "tests/support/windows_form.h"
 
 namespace lumenkit::bench {
 namespace {
 
-constexpr SIZE size = {480, 480};
-constexpr int pairs = 200;
+constexpr int width = 310;
+constexpr int runsOfALine = 4;
+constexpr int lineHeight = 20;
+
+// Side by side, so that none covers another one; the label is the first.
+RECT Place(int column, int height) {
+    constexpr int top = 20;
+    const int left = top + column * (width + top);
+    return {left, top, left + width, top + height};
+}
 
 // The calls, as a program would write them down.
 struct Call {
@@ -32,9 +46,11 @@ struct Call {
 
 class CallRecorder final : public win32::Canvas {
  public:
+    explicit CallRecorder(int height) : height_(height) {}
+
     void Clear(Color paper) override {
         calls.clear();
-        Fill({0, 0, size.cx, size.cy}, paper);
+        Fill({0, 0, width, height_}, paper);
     }
     void Print(const win32::TextRun& run) override {
         fonts_.push_back(run.font);
@@ -51,15 +67,16 @@ class CallRecorder final : public win32::Canvas {
     std::vector<Call> calls;
 
  private:
+    int height_;
     std::vector<win32::ScreenFontRef> fonts_;
 };
 
 class ByHeart final : public win32::Window {
  public:
-    ByHeart(HWND parent, std::vector<Call> calls) : calls_(std::move(calls)) {
+    ByHeart(HWND parent, std::vector<Call> calls, int height) : calls_(std::move(calls)) {
         Create({.module = GetModuleHandleW(nullptr),
                 .style = WS_CHILD | WS_VISIBLE,
-                .place = {0, 0, size.cx, size.cy},
+                .place = Place(1, height),
                 .parent = parent});
     }
 
@@ -115,56 +132,150 @@ Text CaptionOf(int runs) {
     Text caption;
     for (int run = 0; run < runs; ++run) {
         caption += styles[static_cast<std::size_t>(run) % styles.size()] + u"ten units ";
-        caption += run % 5 == 4 ? u"|CR|" : u"";
+        caption += run % runsOfALine == runsOfALine - 1 ? u"|CR|" : u"";
     }
     return caption;
 }
 
-double MicrosecondsToRepaint(HWND window, int times) {
-    const auto start = std::chrono::steady_clock::now();
-    for (int i = 0; i < times; ++i) {
+// A rich edit control with the runs of the calls, each in its call's font and colour. It has no
+// border, no bars, and does not wrap lines either.
+class RichEdit {
+ public:
+    RichEdit(HWND parent, const std::vector<Call>& calls, int height) {
+        const RECT place = Place(2, height);
+        window_ = CreateWindowExW(
+            0, RICHEDIT_CLASSW, L"", WS_CHILD | WS_VISIBLE | ES_MULTILINE | ES_READONLY, place.left,
+            place.top, width, height, parent, nullptr, GetModuleHandleW(nullptr), nullptr);
+        LONG pen = 0;
+        for (const Call& call : calls) {
+            if (call.font == nullptr) {
+                continue;
+            }
+            if (call.box.left < pen) {
+                Append(L"\r");
+            }
+            pen = call.box.left;
+            Format(call);
+            Append(call.text.c_str());
+        }
+        SendMessageW(window_, EM_SETSEL, 0, 0);
+    }
+    ~RichEdit() { DestroyWindow(window_); }
+    RichEdit(const RichEdit&) = delete;
+    RichEdit& operator=(const RichEdit&) = delete;
+
+    HWND Handle() const { return window_; }
+
+ private:
+    void Append(const wchar_t* text) const {
+        SendMessageW(window_, EM_SETSEL, static_cast<WPARAM>(-1), -1);
+        SendMessageW(window_, EM_REPLACESEL, FALSE, reinterpret_cast<LPARAM>(text));
+    }
+
+    // What is appended next looks as the call does.
+    void Format(const Call& call) const {
+        constexpr LONG twipsPerInch = 1440;
+        LOGFONTW font = {};
+        GetObjectW(call.font, sizeof font, &font);
+        CHARFORMAT2W format = {};
+        format.cbSize = sizeof format;
+        format.dwMask = CFM_BOLD | CFM_ITALIC | CFM_COLOR | CFM_FACE | CFM_SIZE;
+        format.dwEffects =
+            (font.lfWeight >= FW_BOLD ? CFE_BOLD : 0U) | (font.lfItalic != FALSE ? CFE_ITALIC : 0U);
+        format.yHeight = -font.lfHeight * twipsPerInch / win32::Resolution::OfScreen().y;
+        format.crTextColor = call.color;
+        lstrcpynW(format.szFaceName, font.lfFaceName, LF_FACESIZE);
+        SendMessageW(window_, EM_SETSEL, static_cast<WPARAM>(-1), -1);
+        SendMessageW(window_, EM_SETCHARFORMAT, SCF_SELECTION, reinterpret_cast<LPARAM>(&format));
+    }
+
+    HWND window_ = nullptr;
+};
+
+// What the window shows.
+std::vector<std::uint32_t> PixelsOf(HWND window) {
+    UpdateWindow(window);
+    RECT area = {};
+    GetClientRect(window, &area);
+    const testing::Picture picture(area.right, area.bottom);
+    const HDC device = GetDC(window);
+    BitBlt(picture.Device(), 0, 0, area.right, area.bottom, device, 0, 0, SRCCOPY);
+    ReleaseDC(window, device);
+    return picture.Pixels();
+}
+
+// How many pixels are not as the last one, which no letter reaches.
+double Ink(const std::vector<std::uint32_t>& pixels) {
+    const auto paper = std::ranges::count(pixels, pixels.back());
+    return static_cast<double>(pixels.size()) - static_cast<double>(paper);
+}
+
+// A label, and what draws the same without one, beside it on one form.
+struct Stage {
+    explicit Stage(int runs)
+        : height((runs + runsOfALine - 1) / runsOfALine * lineHeight),
+          control(form, *lumenkitClasses.Find(u"lumenkit.VLabel"), {width, height}),
+          calls(Draw(runs)) {
+        const std::vector<std::uint32_t> label = PixelsOf(control.Hosted().Window());
+        Require(Ink(label) > 0, "the label shows nothing");
+        Require(PixelsOf(byHeart.Handle()) == label, "the replay shows something else");
+        constexpr double noticeable = 0.1;
+        const double ratio = Ink(PixelsOf(richEdit.Handle())) / Ink(label);
+        Require(ratio > 1 - noticeable && ratio < 1 + noticeable,
+                "the rich edit control shows something else");
+    }
+
+    std::vector<Call> Draw(int runs) {
+        SetWindowPos(form.Window(), nullptr, 0, 0, Place(3, height).left, height + 100,
+                     SWP_NOZORDER);
+        control.Start();
+        Object& label = control.Hosted().Automation();
+        label.Set(u"Font", ObjectRef(form.Fonts().NewFont(u"Arial", 9)));
+        label.Let(u"Caption", CaptionOf(runs));
+        static_cast<win32::Surface&>(control.Hosted().Drawing()).DrawOn(recorder);
+        return recorder.calls;
+    }
+
+    int height;
+    testing::WindowsForm form{lumenkitClasses};
+    testing::FormControl control;
+    CallRecorder recorder{height};  // keeps the fonts
+    std::vector<Call> calls;
+    ByHeart byHeart{form.Window(), calls, height};
+    RichEdit richEdit{form.Window(), calls, height};
+};
+
+Side Repainting(std::shared_ptr<Stage> stage, HWND window) {
+    return {.round = [stage = std::move(stage), window] {
         InvalidateRect(window, nullptr, FALSE);
         UpdateWindow(window);
-    }
-    const std::chrono::duration<double, std::micro> spent =
-        std::chrono::steady_clock::now() - start;
-    return spent.count() / times;
+    }};
 }
 
-double Median(std::vector<double> numbers) {
-    const auto middle = numbers.begin() + static_cast<std::ptrdiff_t>(numbers.size() / 2);
-    std::ranges::nth_element(numbers, middle);
-    return *middle;
-}
-
-void Measure(testing::WindowsForm& form, int runs) {
-    testing::FormControl control(form, *lumenkitClasses.Find(u"lumenkit.VLabel"), size);
-    control.Start();
-    Object& label = control.Hosted().Automation();
-    label.Set(u"Font", ObjectRef(form.Fonts().NewFont(u"Arial", 9)));
-    label.Let(u"Caption", CaptionOf(runs));
-    CallRecorder recorder;
-    static_cast<win32::Surface&>(control.Hosted().Drawing()).DrawOn(recorder);
-    const ByHeart byHeart(form.Window(), recorder.calls);
-    std::vector<double> ours;
-    std::vector<double> theirs;
-    std::vector<double> ratios;
-    const int times = std::max(1, 400 / runs);
-    for (int pair = 0; pair < pairs; ++pair) {
-        theirs.push_back(MicrosecondsToRepaint(byHeart.Handle(), times));
-        ours.push_back(MicrosecondsToRepaint(control.Hosted().Window(), times));
-        ratios.push_back(ours.back() / theirs.back());
-    }
-    std::printf("repaint %3d runs: %8.1f us, by heart %8.1f us, ratio %.3f\n", runs, Median(ours),
-                Median(theirs), Median(ratios));
+void Compare(int runs, const std::string& name) {
+    const auto stage = std::make_shared<Stage>(runs);
+    const HWND label = stage->control.Hosted().Window();
+    AddComparison({.what = "Wine: repaint " + name + ", against replaying the calls",
+                   .unit = "repaint",
+                   .ours = Repainting(stage, label),
+                   .other = Repainting(stage, stage->byHeart.Handle()),
+                   .ratio = Ratio::TimesSlower,
+                   .aim = "<= 1.05x"});
+    AddComparison({.what = "Wine: repaint " + name + ", against rich edit",
+                   .unit = "repaint",
+                   .ours = Repainting(stage, label),
+                   .other = Repainting(stage, stage->richEdit.Handle()),
+                   .ratio = Ratio::TimesFaster,
+                   .aim = "> 1x"});
 }
 
 }  // namespace
 }  // namespace lumenkit::bench
 
-int main() {
-    lumenkit::testing::WindowsForm form(lumenkit::lumenkitClasses);
-    for (const int runs : {1, 10, 40, 160}) {
-        lumenkit::bench::Measure(form, runs);
-    }
+int main(int argc, char** argv) {
+    LoadLibraryW(L"riched20.dll");
+    lumenkit::bench::Compare(1, "1 run");
+    lumenkit::bench::Compare(10, "10 runs");
+    lumenkit::bench::Compare(120, "30 lines of 4 runs");
+    return lumenkit::bench::RunComparisons(argc, argv);
 }

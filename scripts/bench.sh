@@ -1,11 +1,28 @@
 #!/usr/bin/env bash
-# Prints the table of ratios; see docs/performance.md for what each row means.
+# Prints the table of ratios, first of programs for Linux, then of programs for Windows under Wine;
+# see docs/performance.md for what each row means.
+#   scripts/bench.sh [--benchmark_filter=expression]
+# Fails where a program fails: the two sides of a row did not do the same, or took far too long.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 
-scripts/setup.sh build bench qt
-cmake --preset native -DLUMENKIT_BENCH=ON >/dev/null
-scripts/build.sh native
-for bench in build/native/bench/*_bench; do
-    "$bench" "$@"
-done | awk '!/^\| (what|---)/ || !seen[$0]++'  # one heading for all
+scripts/setup.sh build bench qt windows
+for preset in native mingw-x64; do
+    cmake --preset "$preset" -DLUMENKIT_BENCH=ON >/dev/null
+    scripts/build.sh "$preset" benches
+done
+scripts/wine.sh --prefix >/dev/null
+scripts/wine.sh --end
+trap 'scripts/wine.sh --end' EXIT
+
+# A program and Wine's server take turns: on one processor none has to be woken for that, which
+# takes times as long as the work where the machine is busy.
+processor=$(taskset -cp $$ | sed 's/.*[ ,-]//')
+{
+    for bench in build/native/bench/*_bench; do
+        "$bench" "$@"
+    done
+    for bench in build/mingw-x64/bench/*_bench.exe; do
+        taskset -c "$processor" scripts/wine.sh "$bench" "$@"
+    done
+} | awk '{ sub(/\r$/, "") } !/^\| (what|---)/ || !seen[$0]++'  # one heading for all

@@ -1,0 +1,12 @@
+// The table's rows, in Markdown.
+#pragma once
+
+#include "bench/pairs.h"
+#include "bench/ratio_table.h"
+
+namespace lumenkit::bench {
+
+void PrintHeading();
+void PrintRow(const Comparison& comparison, const Outcome& outcome);
+
+}  // namespace lumenkit::bench
