@@ -1,13 +1,13 @@
 #!/usr/bin/env python3
 """Changes the named source files in one place at a time and looks whether their tests notice.
 
-    scripts/mutate.py [--seconds N] [--jobs N] [FILE[:FIRST-LAST]...]
+    scripts/mutate.py [--seconds N] [--jobs N] [--built] [FILE[:FIRST-LAST]...]
 
 Without files: the compiler of captions, their wrapping, and the memo's restrictions. Each mutant is
 compiled by itself and linked with the tests that TESTS names for its folder, in build/native; the
 sources stay as they are. Lists the mutants that every test passes with; the status is 1 if there are
 any. A mutant that runs for more than N seconds (default 20) counts as noticed, one that does not
-compile as none.
+compile as none. --built: the tests are as the sources are and need no build.
 """
 import argparse
 import concurrent.futures
@@ -151,11 +151,13 @@ def main():
     parser = argparse.ArgumentParser(description=__doc__.splitlines()[0])
     parser.add_argument("--seconds", type=int, default=20)
     parser.add_argument("--jobs", type=int, default=1)
+    parser.add_argument("--built", action="store_true")
     parser.add_argument("files", nargs="*", default=DEFAULT_FILES)
     arguments = parser.parse_args()
     mutants = [mutant for file in arguments.files for mutant in mutants_of(file)]
     tests = {test for file in arguments.files for test in tests_for(file)}
-    subprocess.run([ROOT / "scripts" / "build.sh", "native", *sorted(tests)], check=True)
+    if not arguments.built:
+        subprocess.run([ROOT / "scripts" / "build.sh", "native", *sorted(tests)], check=True)
     for file in arguments.files:
         file = file.partition(":")[0]
         first = (ROOT / file).read_text(encoding="utf-8").splitlines()[0]

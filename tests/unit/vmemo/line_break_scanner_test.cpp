@@ -1,8 +1,14 @@
 #include "vmemo/line_break_scanner.h"
 
+#include <algorithm>
+#include <random>
 #include <vector>
 
 #include <gmock/gmock.h>
+
+#include "frame/utf8.h"
+#include "tests/support/test_rounds.h"
+#include "tests/support/test_seed.h"
 
 namespace lumenkit {
 
@@ -42,6 +48,26 @@ TEST(LineBreakScannerTest, DoesNotTakeLoneUnitsForALineBreak) {
 TEST(LineBreakScannerTest, DoesNotTakeUnitsForALineBreakThatShareItsBytes) {
     EXPECT_THAT(Breaks(u"\u0D00\u0A00\u0D0D\u0A0A\u000D\u0A0D\u0D0A\u000A\u800D\u800A"),
                 ElementsAre());
+}
+
+// Of several blocks, with and without line breaks in each.
+TEST(LineBreakScannerTest, FindsWhatASearchFinds) {
+    std::mt19937 random(testing::TestSeed());
+    for (int round = 0; round < testing::Rounds(3000); ++round) {
+        Text text(random() % 400, u'x');
+        for (std::size_t left = random() % 12; left > 0 && !text.empty(); --left) {
+            const std::size_t at = random() % text.size();
+            static constexpr TextView pieces[] = {u"\r\n", u"\r", u"\n"};
+            const TextView piece = pieces[random() % 3];
+            text.replace(at, std::min(piece.size(), text.size() - at), piece);
+        }
+        std::vector<std::size_t> expected;
+        for (std::size_t found = text.find(crLf); found != Text::npos;
+             found = text.find(crLf, found + 2)) {
+            expected.push_back(found);
+        }
+        ASSERT_EQ(Breaks(text), expected) << ToUtf8(text);
+    }
 }
 
 TEST(LineBreakScannerTest, FindsALineBreakAtEveryOffsetOfATextOfEveryLength) {
