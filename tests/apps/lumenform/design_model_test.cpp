@@ -369,6 +369,34 @@ TEST(Clipboard, GoesIntoASelectedContainerAndIntoAnotherForm) {
     EXPECT_NE(textOf(to).find(u"\r\n"), lumenkit::Text::npos);
 }
 
+TEST(Clipboard, BringsTheLibrariesThatTheControlsNeed) {
+    const std::string own =
+        "Object = \"{8E90C363-D415-47AA-AFDF-C215C3C33F77}#7.1#0\"; \"lumenkit.ocx\"\n";
+    const std::string other =
+        "Object = \"{B3D2E7A4-1C0F-4C57-9D6E-2F8A51C07E11}#1.0#0\"; \"gauges.ocx\"\n";
+    const std::string controls =
+        "Begin VB.Form Form1\n   Begin VB.Frame fraOwn \n      Begin lumenkit.VMemo VMemo1 \n"
+        "      End\n   End\n   Begin Gauges.Dial Dial1 \n   End\n"
+        "   Begin VB.TextBox txtPlain \n   End\nEnd\n";
+    EditedDesign from(
+        forms::Document::Parse("from.frm", "VERSION 5.00\n" + other + own + controls, {}));
+    const auto librariesWith = [&](TextView name) {
+        from.Select({name});
+        EditedDesign to(FormWith(""));
+        form::Paste(to.design, *form::CopySelected(from.design));
+        form::Paste(to.design, *form::CopySelected(from.design));
+        std::string files;
+        for (const forms::LibraryReference& library : to.design.Document().Libraries()) {
+            files += ToUtf8(library.library) + ' ' + ToUtf8(library.file) + '\n';
+        }
+        return files;
+    };
+    EXPECT_EQ(librariesWith(u"fraOwn"),
+              "{8E90C363-D415-47AA-AFDF-C215C3C33F77}#7.1#0 lumenkit.ocx\n");
+    EXPECT_EQ(librariesWith(u"Dial1"), "{B3D2E7A4-1C0F-4C57-9D6E-2F8A51C07E11}#1.0#0 gauges.ocx\n");
+    EXPECT_EQ(librariesWith(u"txtPlain"), "");
+}
+
 TEST(Clipboard, ElementsOfArraysGetFreeIndices) {
     EditedDesign edited(forms::Load(sampleForms / "control_array.frm"));
     const std::string first = ToUtf8(edited.design.View().Controls().front()->Name());

@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "apps/lumenform/design/model/arrange.h"
+#include "apps/lumenform/design/model/libraries.h"
 #include "apps/lumenform/design/model/settling.h"
 #include "apps/lumenform/design/model/stacking.h"
 #include "apps/lumenform/form_view/block_reader.h"
@@ -44,6 +45,9 @@ Clip ClipOf(const Design& design) {
     const forms::Document& document = design.Document();
     forms::Document clip = document.WithBytes({std::string(emptyForm), {}});
     clip.Rename("clipboard.frm");
+    for (const forms::LibraryReference& library : document.Libraries()) {
+        clip.AddLibrary(library.library, library.file);
+    }
     for (const LiveControl* control : OutermostSelected(design)) {
         forms::CopyControl(document, control->Block(), clip, clip.Root(), control->Block().Name());
     }
@@ -122,6 +126,7 @@ void PasteClip(Design& design, const Clip& clip, const QString& title) {
     design.Restructure(title, [&] {
         forms::Document& document = design.Document();
         forms::Block& parent = BlockOf(design, target);
+        RequireLibrariesOf(copied, document, design.Context().classes);
         SettleInto(document.Root(), copied.Root());
         const forms::Block* const foremost = Foremost(parent);
         std::vector<forms::Block*> pasted;

@@ -5,12 +5,11 @@
 #include <array>
 
 #include "apps/lumenform/design/model/arrange.h"
+#include "apps/lumenform/design/model/libraries.h"
 #include "apps/lumenform/design/model/naming.h"
 #include "apps/lumenform/design/model/stacking.h"
 #include "apps/lumenform/form_view/block_reader.h"
-#include "apps/lumenform/form_view/library_name.h"
 #include "frame/host/ambient.h"
-#include "frame/utf8.h"
 #include "runtime/qt/control_widget.h"
 #include "runtime/qt/form_container.h"
 #include "runtime/qt/qt_text.h"
@@ -84,17 +83,6 @@ class Prototype final : private qt::ControlSite, private host::Ambient {
     qt::FormContainer container_;
     qt::ControlWidget widget_;
 };
-
-void RequireLibrary(forms::Document& document, const ClassTable& classes) {
-    const Text file = Text(classes.libraryName) + u".ocx";
-    const bool isThere =
-        std::ranges::any_of(document.Libraries(), [&](const forms::LibraryReference& library) {
-            return SameText(library.file, file, Compare::IgnoreCase);
-        });
-    if (!isThere) {
-        document.AddLibrary(FromUtf8(LibraryName(classes)), file);
-    }
-}
 
 }  // namespace
 
