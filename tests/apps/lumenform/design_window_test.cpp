@@ -7,6 +7,7 @@
 #include <QCommandLinkButton>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QStatusBar>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
@@ -417,6 +418,18 @@ TEST_F(DesignWindowTest, WhatIsRefusedStandsBelow) {
     const std::string before = Text();
     Command(QStringLiteral("Paste")).trigger();
     EXPECT_THAT(refused.toStdString(), HasSubstr("expected controls"));
+    EXPECT_EQ(Text(), before);
+}
+
+TEST_F(DesignWindowTest, ReasonOutlivesAClickOnAnotherControl) {
+    window.Load(Copy("order"));
+    Select(u"txtName");
+    const std::string before = Text();
+    TypeInto(u"Left", "wide");
+    window.Bench()->GetCanvas().GetGlass().setFocus(Qt::MouseFocusReason);
+    Select(u"memPrint");
+    EXPECT_EQ(window.Bench()->Properties().Message(), QString());
+    EXPECT_EQ(window.statusBar()->currentMessage(), QStringLiteral("Left: Type mismatch"));
     EXPECT_EQ(Text(), before);
 }
 

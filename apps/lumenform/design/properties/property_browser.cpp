@@ -172,6 +172,9 @@ void PropertyBrowser::Assign(int row, const Value& value) {
     Refresh();
     const QString before = qt::ToQString(wanted_) + QStringLiteral(": ");
     notice_->Say(refusal.isEmpty() || refusal.startsWith(before) ? refusal : before + refusal);
+    if (!refusal.isEmpty()) {
+        Q_EMIT Refused(Message());
+    }
 }
 
 void PropertyBrowser::AssignTo(const Text& name, const Value& value) {

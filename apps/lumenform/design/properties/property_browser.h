@@ -45,6 +45,10 @@ class PropertyBrowser final : public QWidget {
     QString Message() const { return notice_->Text(); }
     QString Help() const { return help_->text(); }
 
+ Q_SIGNALS:
+    /// A value was refused. Message() says why too, until something else is selected.
+    void Refused(const QString& why);
+
  protected:
     void changeEvent(QEvent* event) override;
 

@@ -72,6 +72,7 @@ void Workbench::ConnectParts() {
     connect(canvas_, &Canvas::Activated, this, &Workbench::EditSelected);
     connect(canvas_, &Canvas::FormActivated, this, &Workbench::EditSelected);
     connect(canvas_, &Canvas::Refused, this, &Workbench::Refused);
+    connect(properties_, &PropertyBrowser::Refused, this, &Workbench::Refused);
 }
 
 void Workbench::EditSelected() {
@@ -81,11 +82,7 @@ void Workbench::EditSelected() {
 }
 
 bool Workbench::FinishEditing() {
-    if (!properties_->FinishEditing()) {
-        Q_EMIT Refused(properties_->Message());
-        return false;
-    }
-    return true;
+    return properties_->FinishEditing();
 }
 
 void Workbench::PutDown(const QString& className) {
