@@ -1,4 +1,5 @@
 // The label against the literal model of its drawing, on generated captions and settings.
+#include <array>
 #include <string_view>
 #include <vector>
 
@@ -89,6 +90,28 @@ TEST(CaptionDrawingModel, AgreesOnTheCorpus) {
     ForEachCorpusFile("drawing", [&](std::string_view bytes) {
         EXPECT_EQ(comparison.Difference(SceneFromBytes(bytes)), "");
     });
+}
+
+// Runs that take about a thousand steps, at the start of a line and behind other text, where one
+// step goes into a new line.
+TEST(CaptionDrawingModel, AgreesWhereWrappingGivesUp) {
+    DrawingComparison comparison;
+    for (const TextView before : {u"", u"x|I:1|", u"xxxxxxxxxxxxxxx|I:1|"}) {
+        for (int words = 990; words <= 1010; ++words) {
+            LabelScene scene{.caption = Text(before), .bulletPrefix = {}, .font = {}};
+            for (int word = 0; word < words; ++word) {
+                scene.caption += u"a ";
+            }
+            scene.caption += u"b|I:0|c";
+            scene.wordWrap = true;
+            scene.width = 150;
+            ASSERT_EQ(comparison.Difference(scene), "") << words << " words";
+        }
+    }
+    const std::array branches = {"wrap: gives up", "wrap: starts a new line", "wrap: rest fits"};
+    for (const std::string_view branch : branches) {
+        EXPECT_TRUE(comparison.Branches().contains(branch)) << branch;
+    }
 }
 
 }  // namespace
