@@ -6,9 +6,11 @@ set -euo pipefail
 cd "$(dirname "$0")/.."
 
 folders=(frame vlabel vmemo voptlist vlabelcaption project runtime/memory runtime/stored forms apps/lumenkit)
-# The models take too long under Valgrind, and a program cannot be killed at its system calls there.
+# A program cannot be killed at its system calls under Valgrind.
 tests=(frame_test memory_test vlabel_test vlabel_control_test vmemo_test voptlist_test
-    vlabelcaption_test project_test fault_sweep_test stored_test forms_test contract_memory_test)
+    vlabelcaption_test project_test fault_sweep_test stored_test forms_test
+    forms_out_of_memory_test contract_memory_test golden_drawing_test caption_model_test
+    caption_drawing_model_test caption_page_model_test memo_model_test option_list_model_test)
 
 run_cppcheck() {
     echo "== cppcheck"
@@ -17,14 +19,15 @@ run_cppcheck() {
         -j "$(nproc)" "${folders[@]}"
 }
 
-# Several tests have an operator new of their own, which Valgrind must not replace.
+# Several tests have an operator new of their own, which Valgrind must not replace. Generated tests
+# do one in a hundred of their rounds.
 run_valgrind() {
     local test program
     scripts/build.sh native "${tests[@]}"
     for test in "${tests[@]}"; do
         echo "== valgrind $test"
         program=$(find build/native/tests -name "$test" -type f)
-        valgrind --quiet --error-exitcode=1 --leak-check=full \
+        LUMENKIT_TEST_SHARE=100 valgrind --quiet --error-exitcode=1 --leak-check=full \
             --errors-for-leak-kinds=definite,indirect --show-leak-kinds=definite,indirect \
             --soname-synonyms=somalloc=nouserintercepts "$program" --gtest_brief=1
     done

@@ -29,8 +29,8 @@ TESTS = {
     "runtime/stored": ["stored_test"],
 }
 DEFAULT_FILES = [
-    "vlabel/caption_compiler.cpp", "vlabel/caption_reader.cpp", "vlabel/color_parameter.cpp",
-    "vlabel/command_word.cpp", "vlabel/word_wrap.cpp",
+    "vlabel/bar_scanner.cpp", "vlabel/caption_compiler.cpp", "vlabel/caption_reader.cpp",
+    "vlabel/color_parameter.cpp", "vlabel/command_word.cpp", "vlabel/word_wrap.cpp",
     "vmemo/line_break_scanner.cpp", "vmemo/restriction_engine.cpp",
 ]
 MEMORY_LIMIT = 6 << 30  # a test of the engine maps more than 4

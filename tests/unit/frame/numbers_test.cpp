@@ -13,6 +13,7 @@
 #include <gmock/gmock.h>
 
 #include "frame/utf8.h"
+#include "tests/support/test_rounds.h"
 #include "tests/unit/frame/raises.h"
 
 namespace lumenkit {
@@ -305,21 +306,21 @@ class Generator {
 
 TEST(ParseNumber, AgreesWithStrtodOnShortDecimals) {
     Generator generator;
-    for (int i = 0; i < 200'000; ++i) {
+    for (int i = 0; i < testing::Rounds(200'000); ++i) {
         ExpectAsStrtod(generator.Decimal(10, 30));
     }
 }
 
 TEST(ParseNumber, AgreesWithStrtodOverTheWholeRange) {
     Generator generator;
-    for (int i = 0; i < 100'000; ++i) {
+    for (int i = 0; i < testing::Rounds(100'000); ++i) {
         ExpectAsStrtod(generator.Decimal(20, 345));
     }
 }
 
 TEST(ParseNumber, AgreesWithStrtodOnNumbersOf800Digits) {
     Generator generator;
-    for (int i = 0; i < 2'000; ++i) {
+    for (int i = 0; i < testing::Rounds(2'000); ++i) {
         ExpectAsStrtod(generator.Digits(800) + "e" + std::to_string(-300 - generator.Below(900)));
         ExpectAsStrtod("0." + generator.Digits(800) + "e" +
                        std::to_string(generator.Below(650) - 330));
@@ -339,7 +340,7 @@ TEST(ParseNumber, AgreesWithStrtodBesideMidpointsOfEveryMagnitude) {
     static_assert(std::numeric_limits<long double>::digits >= 54 &&
                   std::numeric_limits<long double>::min_exponent < -2000);
     Generator generator;
-    for (int i = 0; i < 5'000; ++i) {
+    for (int i = 0; i < testing::Rounds(5'000); ++i) {
         // Half way from a double to the next; half of them denormal, whose midpoints are longest.
         const auto mantissa = static_cast<std::int64_t>(generator.Bits() >> 11U) | 1;
         const int exponent = i % 2 == 0 ? -1075 : -1075 + generator.Below(2000);
@@ -452,7 +453,8 @@ Text Hundredths(int count) {
 }
 
 TEST(Str, WritesHundredthsOfEverySize) {
-    for (int count = -1'200'000; count <= 1'200'000; count += std::abs(count) < 12'000 ? 1 : 13) {
+    for (int count = -1'200'000; count <= 1'200'000;
+         count += (std::abs(count) < 12'000 ? 1 : 13) * testing::RoundShare()) {
         ASSERT_EQ(Str(count / 100.0), Hundredths(count));
         if (std::abs(count) < 1'000'000) {  // what six digits tell apart in single precision
             ASSERT_EQ(Str(static_cast<float>(count) / 100.0F), Hundredths(count));
@@ -461,7 +463,7 @@ TEST(Str, WritesHundredthsOfEverySize) {
 }
 
 TEST(Str, TellsTheNeighboursOfHundredthsApart) {
-    for (int count = 1; count < 1'000'000; count += 29) {
+    for (int count = 1; count < 1'000'000; count += 29 * testing::RoundShare()) {
         const double number = count / 100.0;
         for (const double towards : {0.0, 1e6}) {
             const double neighbour = std::nextafter(number, towards);
@@ -473,7 +475,7 @@ TEST(Str, TellsTheNeighboursOfHundredthsApart) {
 
 TEST(Str, IsReadBackAsTheSameDouble) {
     Generator generator;
-    for (int i = 0; i < 200'000; ++i) {
+    for (int i = 0; i < testing::Rounds(200'000); ++i) {
         const auto number = std::bit_cast<double>(generator.Bits());
         if (std::isfinite(number)) {
             ASSERT_EQ(ParseNumber(Str(number)), number);
@@ -485,7 +487,7 @@ TEST(Str, IsReadBackAsTheSameDouble) {
 
 TEST(Str, IsReadBackAsTheSameSingle) {
     Generator generator;
-    for (int i = 0; i < 200'000; ++i) {
+    for (int i = 0; i < testing::Rounds(200'000); ++i) {
         const auto number = std::bit_cast<float>(static_cast<std::uint32_t>(generator.Bits()));
         if (std::isfinite(number)) {
             ASSERT_EQ(std::strtof(ToUtf8(Str(number)).c_str(), nullptr), number);
@@ -546,7 +548,7 @@ TEST(NumberText, ShowsSinglesRoundedTo7Digits) {
 
 TEST(NumberText, RoundsAsTheCLibraryDoes) {
     Generator generator;
-    for (int i = 0; i < 50'000; ++i) {
+    for (int i = 0; i < testing::Rounds(50'000); ++i) {
         char rounded[64];
         const auto single = std::bit_cast<float>(static_cast<std::uint32_t>(generator.Bits()));
         if (std::isfinite(single)) {

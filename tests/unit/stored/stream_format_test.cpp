@@ -8,6 +8,7 @@
 
 #include "tests/support/corpus.h"
 #include "tests/support/sealed_stream.h"
+#include "tests/support/test_rounds.h"
 #include "tests/support/test_seed.h"
 #include "tests/unit/stored/stream_check.h"
 
@@ -131,7 +132,7 @@ TEST(StreamFormat, AnUnknownKindIsRefused) {
 TEST(StreamFormat, RecordsThatLieDoNoHarm) {
     std::mt19937 random(testing::TestSeed());
     const Bytes bytes = Encode(OneOfEachKind());
-    for (int round = 0; round < 3000; ++round) {
+    for (int round = 0; round < testing::Rounds(3000); ++round) {
         Bytes changed = bytes;
         for (std::size_t changes = 1 + random() % 3; changes > 0; --changes) {
             changed[random() % changed.size()] = static_cast<std::uint8_t>(random());

@@ -9,6 +9,7 @@
 
 #include "frame/runtime_error.h"
 #include "frame/utf8.h"
+#include "tests/support/test_rounds.h"
 #include "tests/support/test_seed.h"
 
 namespace lumenkit {
@@ -167,7 +168,7 @@ Text AnyContents(std::mt19937& random, std::size_t longestText) {
 TEST(ContentsChange, LeavesOutOnlyItemsThatAreAsTheyWere) {
     const std::uint32_t seed = testing::TestSeed();
     std::mt19937 random(seed);
-    for (int pair = 0; pair < 20'000; ++pair) {
+    for (int pair = 0; pair < testing::Rounds(20'000); ++pair) {
         const Text former = AnyContents(random, 6);
         const Text contents = AnyContents(random, 6);
         ASSERT_EQ(ItemsAfterChange(former, contents), Items(contents))
@@ -178,7 +179,7 @@ TEST(ContentsChange, LeavesOutOnlyItemsThatAreAsTheyWere) {
 TEST(ContentsChange, LeavesOutOnlyItemsThatAreAsTheyWereInLongContents) {
     const std::uint32_t seed = testing::TestSeed();
     std::mt19937 random(seed);
-    for (int pair = 0; pair < 2'000; ++pair) {
+    for (int pair = 0; pair < testing::Rounds(2'000); ++pair) {
         const Text former = AnyContents(random, 600);
         Text contents = former;
         const std::size_t at = random() % (contents.size() + 1);
