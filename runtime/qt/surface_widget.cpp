@@ -33,9 +33,15 @@ class SurfaceAccessible final : public QAccessibleWidget {
     SurfaceWidget& area_;
 };
 
+// Qt calls this in frames that no exception may pass. What it gets no answer for it describes
+// itself.
 QAccessibleInterface* MakeAccessible(const QString& /*key*/, QObject* object) {
-    auto* area = dynamic_cast<SurfaceWidget*>(object);
-    return area == nullptr ? nullptr : std::make_unique<SurfaceAccessible>(*area).release();
+    auto* const area = dynamic_cast<SurfaceWidget*>(object);
+    std::unique_ptr<SurfaceAccessible> made;
+    if (area != nullptr) {
+        HandleEvent(area->Errors(), [&] { made = std::make_unique<SurfaceAccessible>(*area); });
+    }
+    return made.release();
 }
 
 void OfferAccessibility() {

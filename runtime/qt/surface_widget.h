@@ -15,6 +15,9 @@ class SurfaceWidget final : public QWidget {
  public:
     SurfaceWidget(QWidget& outside, Surface& surface, ErrorSink errors);
 
+    /// Where errors go that nobody else hears of.
+    const ErrorSink& Errors() const { return errors_; }
+
     /// The surface goes away.
     void Detach();
     QString PaintedText() const;
