@@ -49,6 +49,17 @@ function(lumenkit_library name)
     lumenkit_headers_compile_alone(lumenkit_${name} ${ARG_LINKS})
 endfunction()
 
+# What a program's own sources do, reading the command line above all, is done once; the library for
+# that takes long to optimise, and with sanitizers more so.
+function(lumenkit_command_line name)
+    target_link_libraries(${name} PRIVATE CLI11::CLI11)
+    if(LUMENKIT_SANITIZE)
+        target_compile_options(${name} PRIVATE -O0)
+    else()
+        target_compile_options(${name} PRIVATE -O1)
+    endif()
+endfunction()
+
 # Compiles the headers beside the caller's CMakeLists.txt (subfolders included) each in a translation
 # unit of its own. One with a source file of its own name needs no other: that file includes it
 # first, which scripts/check_includes.py sees to.

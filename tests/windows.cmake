@@ -3,7 +3,7 @@
 # Programs of 32 bits do not run here; their server is looked at from outside.
 add_subdirectory(ole)
 if(CMAKE_SIZEOF_VOID_P EQUAL 8)
-    add_subdirectory(support)
+    add_subdirectory(support EXCLUDE_FROM_ALL)
     add_subdirectory(unit/frame)
     foreach(folder unit/win32 contract ole/container unit/ole)
         if(EXISTS "${CMAKE_CURRENT_SOURCE_DIR}/${folder}/CMakeLists.txt")
