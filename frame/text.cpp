@@ -98,7 +98,7 @@ TextView Trim(TextView text) {
     return LTrim(RTrim(text));
 }
 
-char16_t LowerUnit(char16_t unit) {
+char16_t LowerBeyondAscii(char16_t unit) {
     return static_cast<char16_t>(unit + lowerDelta[lowerPage[unit >> 8U]][unit & 0xFFU]);
 }
 
@@ -112,11 +112,7 @@ void AppendLCase(Text& text, TextView mixed) {
     const std::size_t begin = text.size();
     text.append(mixed);
     for (char16_t& unit : std::span(text).subspan(begin)) {
-        if (unit >= 0x80) {
-            unit = LowerUnit(unit);
-        } else if (unit >= u'A' && unit <= u'Z') {  // the common case, and quick
-            unit = static_cast<char16_t>(unit + 0x20);
-        }
+        unit = LowerUnit(unit);
     }
 }
 

@@ -47,9 +47,17 @@ TextView LTrim(TextView text);
 TextView RTrim(TextView text);
 TextView Trim(TextView text);
 
+/// LowerUnit for units that are not ASCII.
+char16_t LowerBeyondAscii(char16_t unit);
 /// The lower-case form of one unit by Unicode's simple mapping. Units without one, surrogates
 /// among them, are their own: a text never changes its length.
-char16_t LowerUnit(char16_t unit);
+inline char16_t LowerUnit(char16_t unit) {
+    if (unit >= 0x80) {
+        return LowerBeyondAscii(unit);
+    }
+    const bool isCapital = unit >= u'A' && unit <= u'Z';  // the common case, and quick
+    return static_cast<char16_t>(unit + (isCapital ? 0x20 : 0));
+}
 Text LCase(TextView text);
 /// Appends LCase(mixed), which must be no part of `text`.
 void AppendLCase(Text& text, TextView mixed);

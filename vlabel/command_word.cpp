@@ -42,11 +42,6 @@ constexpr auto keys = [] {
     return made;
 }();
 
-char16_t Lower(char16_t unit) {
-    const bool isCapital = unit >= u'A' && unit <= u'Z';
-    return unit < 0x80 ? static_cast<char16_t>(unit + (isCapital ? 0x20 : 0)) : LowerUnit(unit);
-}
-
 }  // namespace
 
 // One walk up to the colon: captions are compiled often, and consist of short commands.
@@ -54,7 +49,7 @@ CommandName ReadCommandName(TextView command) {
     std::uint64_t key = emptyKey;
     std::size_t at = 0;
     for (; at < command.size() && command[at] != u':'; ++at) {
-        const char16_t letter = Lower(command[at]);
+        const char16_t letter = LowerUnit(command[at]);
         if (at == mostLetters || letter > u'z') {  // no word
             return {command.find(u':', at), nullptr};
         }
