@@ -8,9 +8,9 @@
 #include <algorithm>
 #include <functional>
 #include <memory>
-#include <random>
 #include <string>
 
+#include "bench/memo_lines.h"
 #include "bench/qt_stage.h"
 #include "bench/ratio_table.h"
 #include "bench/require.h"
@@ -21,6 +21,7 @@ namespace {
 
 using lumenkit::Text;
 using lumenkit::bench::AddComparison;
+using lumenkit::bench::MemoLines;
 using lumenkit::bench::QtStage;
 using lumenkit::bench::Ratio;
 using lumenkit::bench::Require;
@@ -33,18 +34,6 @@ constexpr host::Placement place = {.left = 0, .top = 0, .width = 9000, .height =
 constexpr std::int16_t mostCharacters = 100;
 constexpr std::int16_t mostLines = 32'000;
 constexpr int strokes = 2;  // a letter and Backspace
-
-// Lines of 30 to 90 units.
-Text Lines(std::size_t units) {
-    std::mt19937 random(1);
-    std::uniform_int_distribution<std::size_t> lengths(30, 90);
-    Text text;
-    while (text.size() < units) {
-        text.append(lengths(random), u'x').append(lumenkit::crLf);
-    }
-    text.resize(units, u'x');
-    return text;
-}
 
 void Press(QWidget& widget, int key, const QString& entered) {
     for (const QEvent::Type type : {QEvent::KeyPress, QEvent::KeyRelease}) {
@@ -127,7 +116,7 @@ Side Typing(QtStage& stage, const Text& text) {
 int main(int argc, char** argv) {
     QtStage stage;
     const auto against = [&](const std::string& name, std::size_t units, const char* aim) {
-        const Text text = Lines(units);
+        const Text text = MemoLines(units);
         AddComparison({"Qt: keystroke in " + name + ", against QPlainTextEdit", "key",
                        Typing<Memo>(stage, text), Typing<PlainEdit>(stage, text),
                        Ratio::TimesFaster, aim});

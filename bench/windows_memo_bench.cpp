@@ -3,9 +3,9 @@
 // up in the thread's message queue, until that is empty again: looked at, held to the limits,
 // painted.
 #include <memory>
-#include <random>
 #include <string>
 
+#include "bench/memo_lines.h"
 #include "bench/ratio_table.h"
 #include "bench/require.h"
 #include "frame/text.h"
@@ -16,6 +16,7 @@ namespace {
 
 using lumenkit::Text;
 using lumenkit::bench::AddComparison;
+using lumenkit::bench::MemoLines;
 using lumenkit::bench::Ratio;
 using lumenkit::bench::Require;
 using lumenkit::bench::Side;
@@ -24,18 +25,6 @@ using lumenkit::testing::WindowsForm;
 
 constexpr SIZE size = {300, 400};
 constexpr WPARAM letter = 'A';
-
-// Lines of 30 to 90 units.
-Text Lines(std::size_t units) {
-    std::mt19937 random(1);
-    std::uniform_int_distribution<std::size_t> lengths(30, 90);
-    Text text;
-    while (text.size() < units) {
-        text.append(lengths(random), u'x').append(lumenkit::crLf);
-    }
-    text.resize(units, u'x');
-    return text;
-}
 
 void Stroke(HWND edit, WPARAM key) {
     constexpr int scanCode = 16;
@@ -145,7 +134,7 @@ class LazyDesk {
 
     Desk& Get() {
         if (!desk_) {
-            desk_ = std::make_unique<Desk>(Lines(units_));
+            desk_ = std::make_unique<Desk>(MemoLines(units_));
         }
         return *desk_;
     }
