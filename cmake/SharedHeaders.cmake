@@ -1,5 +1,6 @@
-# Headers that nearly every source includes, compiled once for all libraries. Off in the
-# builds for Windows, which so prove that the portable sources include what they need.
+# Headers that nearly every source includes, compiled once for all libraries; in the builds for
+# Windows the platform's alone, for what exists nowhere else, which so prove that the portable
+# sources include what they need.
 option(LUMENKIT_PRECOMPILE "Compile common headers once for all libraries" OFF)
 
 # The fuzzers see which ways through the libraries an input takes.
@@ -24,11 +25,19 @@ if(LUMENKIT_PRECOMPILE)
     # In compiled headers g++ 12 also tells what it believes to see inside its own library.
     if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_LESS 13)
         target_compile_options(lumenkit_settings INTERFACE
-            -Wno-array-bounds -Wno-stringop-overflow)
+            -Wno-array-bounds -Wno-stringop-overflow -Wno-stringop-overread)
     endif()
     set(standard <algorithm> <array> <cstdint> <functional> <map> <memory> <optional> <span>
         <string> <string_view> <utility> <variant> <vector>)
-    lumenkit_shared_headers(lumenkit_precompiled HEADERS ${standard})
+    if(WIN32)
+        set(runtime "${PROJECT_SOURCE_DIR}/runtime")
+        lumenkit_shared_headers(lumenkit_precompiled_win32
+            HEADERS ${standard} "${runtime}/win32/windows_header.h")
+        lumenkit_shared_headers(lumenkit_precompiled_ole
+            HEADERS ${standard} "${runtime}/ole/ole_header.h")
+    else()
+        lumenkit_shared_headers(lumenkit_precompiled HEADERS ${standard})
+    endif()
     if(LUMENKIT_QT)
         find_package(Qt6 6.4 REQUIRED COMPONENTS Widgets)
         lumenkit_shared_headers(lumenkit_precompiled_qt
@@ -45,7 +54,9 @@ function(lumenkit_reuse_headers target)
     endif()
     if(CMAKE_CURRENT_SOURCE_DIR MATCHES "/(runtime/qt|apps/lumenform)(/|$)")
         target_precompile_headers(${target} REUSE_FROM lumenkit_precompiled_qt)
-    else()
+    elseif(CMAKE_CURRENT_SOURCE_DIR MATCHES "/runtime/(win32|ole)$")
+        target_precompile_headers(${target} REUSE_FROM lumenkit_precompiled_${CMAKE_MATCH_1})
+    elseif(NOT WIN32)
         target_precompile_headers(${target} REUSE_FROM lumenkit_precompiled)
     endif()
 endfunction()
