@@ -15,14 +15,11 @@ scripts/wine.sh --prefix >/dev/null
 scripts/wine.sh --end
 trap 'scripts/wine.sh --end' EXIT
 
-# A program and Wine's server take turns: on one processor none has to be woken for that, which
-# takes times as long as the work where the machine is busy.
-processor=$(taskset -cp $$ | sed 's/.*[ ,-]//')
 {
     for bench in build/native/bench/*_bench; do
         "$bench" "$@"
     done
     for bench in build/mingw-x64/bench/*_bench.exe; do
-        taskset -c "$processor" scripts/wine.sh "$bench" "$@"
+        scripts/wine.sh "$bench" "$@"
     done
 } | awk '{ sub(/\r$/, "") } !/^\| (what|---)/ || !seen[$0]++'  # one heading for all

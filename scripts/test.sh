@@ -29,13 +29,14 @@ ctest --preset mingw-x86
 step "The component server comes out the same, byte for byte"
 scripts/reproducible.sh
 
-# Windows' programs mostly wait for one another, which leaves the machine to the compiler.
+# Windows' programs share one processor and mostly wait for one another, which leaves the rest of
+# the machine to the compiler.
 step "Tests under Wine, beside the build under AddressSanitizer and UndefinedBehaviorSanitizer"
 trap 'scripts/wine.sh --end' EXIT
 wine_log=build/mingw-x64/test.log
 ctest --preset mingw-x64 -j "$(nproc)" >"$wine_log" 2>&1 &
 wine_tests=$!
-scripts/build.sh native-asan
+nice scripts/build.sh native-asan
 wine_status=0
 wait "$wine_tests" || wine_status=$?
 cat "$wine_log"
