@@ -1,10 +1,12 @@
 #include "apps/lumenform/form_view/client_area.h"
 
 #include <QApplication>
+#include <QKeyEvent>
 #include <QPainter>
 #include <QRadioButton>
 #include <algorithm>
 
+#include "apps/lumenform/form_view/command_button.h"
 #include "runtime/qt/palette_color.h"
 
 namespace lumenkit::form {
@@ -105,6 +107,18 @@ bool ClientArea::focusNextPrevChild(bool next) {
     QWidget* const to = next ? route.Next(from) : route.Previous(from);
     to->setFocus(next ? Qt::TabFocusReason : Qt::BacktabFocusReason);
     return true;
+}
+
+// A key that nobody took who lies in the form.
+void ClientArea::keyPressEvent(QKeyEvent* event) {
+    for (const auto& control : controls_) {
+        auto* const button = dynamic_cast<CommandButton*>(&control->Widget());
+        if (button != nullptr && button->isVisible() && button->IsPressedBy(event->key())) {
+            button->click();
+            return;
+        }
+    }
+    QWidget::keyPressEvent(event);
 }
 
 void ClientArea::paintEvent(QPaintEvent* event) {

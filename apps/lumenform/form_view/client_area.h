@@ -11,8 +11,8 @@
 
 namespace lumenkit::form {
 
-/// The inside of a form: its background, and Tab going round its controls by their TabIndex, from
-/// the last to the first and not to what else is in the window.
+/// The inside of a form: its background, Tab going round its controls by their TabIndex, from the
+/// last to the first and not to what else is in the window, and the buttons for Enter and Esc.
 class ClientArea final : public QWidget {
  public:
     using Controls = std::vector<std::unique_ptr<LiveControl>>;
@@ -26,6 +26,7 @@ class ClientArea final : public QWidget {
     bool focusNextPrevChild(bool next) override;
 
  protected:
+    void keyPressEvent(QKeyEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
 
  private:

@@ -2,17 +2,12 @@
 
 #include "apps/lumenform/form_view/own_control.h"
 #include "apps/lumenform/form_view/plain_control.h"
+#include "apps/lumenform/form_view/saved_place.h"
 #include "forms/controls.h"
 
 namespace lumenkit::form {
 
 namespace {
-
-void Store(forms::Block& block, TextView name, float former, float now) {
-    if (former != now) {
-        block.Set(name, forms::NumberLiteral(now));
-    }
-}
 
 void StoreExtent(forms::Block& block, TextView name, float former, float now) {
     if (former != now && block.FindProperty(name) != nullptr) {
@@ -46,11 +41,7 @@ LiveControl::LiveControl(const Stage& stage, const Surroundings& around, forms::
 }
 
 host::Placement LiveControl::SavedPlace(const host::Placement& otherwise) const {
-    const host::Placement units = scale_.FromTwips(otherwise);
-    return scale_.ToTwips({.left = reader_.Number(u"Left", units.left),
-                           .top = reader_.Number(u"Top", units.top),
-                           .width = reader_.Number(u"Width", units.width),
-                           .height = reader_.Number(u"Height", units.height)});
+    return scale_.ToTwips(form::SavedPlace(reader_, scale_.FromTwips(otherwise)));
 }
 
 void LiveControl::Save() {
@@ -62,12 +53,7 @@ void LiveControl::SavePlace() {
     if (keptPlace_ == place) {
         return;
     }
-    const host::Placement former = scale_.FromTwips(*keptPlace_);
-    const host::Placement now = scale_.FromTwips(place);
-    Store(Block(), u"Left", former.left, now.left);
-    Store(Block(), u"Top", former.top, now.top);
-    Store(Block(), u"Width", former.width, now.width);
-    Store(Block(), u"Height", former.height, now.height);
+    StorePlace(reader_, scale_.FromTwips(*keptPlace_), scale_.FromTwips(place));
     StoreExtent(Block(), u"_ExtentX", keptPlace_->width, place.width);
     StoreExtent(Block(), u"_ExtentY", keptPlace_->height, place.height);
     keptPlace_ = place;

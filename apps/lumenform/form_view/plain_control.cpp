@@ -27,6 +27,7 @@ PlainControl::PlainControl(const Stage& stage, const Surroundings& around, forms
     inside_.emplace(
         Surroundings{inside, colors_.back, font,
                      isPicture ? Scale::Of(Reader(), place_.width, place_.height) : Scale()});
+    reach_ = made.reach;
     made.widget->setParent(&around.widget);
     widget_ = made.widget.release();
     SetUp(stage, *font);
@@ -36,9 +37,13 @@ PlainControl::~PlainControl() {
     qt::DeleteSafely(widget_.data());
 }
 
+QRect PlainControl::Covered() const {
+    return qt::ToPixels(place_).adjusted(-reach_, -reach_, reach_, reach_);
+}
+
 void PlainControl::SetUp(const Stage& stage, const qt::Font& font) {
     const bool design = stage.mode == Mode::Design;
-    widget_->setGeometry(qt::ToPixels(place_));
+    widget_->setGeometry(Covered());
     ApplyFont(*widget_, font);
     ApplyColors(*widget_, colors_, kind_.usual);
     widget_->setEnabled(Reader().Flag(u"Enabled", true));
@@ -63,7 +68,7 @@ void PlainControl::Move(const host::Placement& place) {
         lumenkit::Raise(ErrorNumber::InvalidPropertyValue);
     }
     place_ = place;
-    widget_->setGeometry(qt::ToPixels(place_));
+    widget_->setGeometry(Covered());
 }
 
 void PlainControl::PaletteChanged() {

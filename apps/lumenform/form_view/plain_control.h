@@ -26,12 +26,14 @@ class PlainControl final : public LiveControl {
     void PaletteChanged() override;
 
  private:
+    QRect Covered() const;
     void Raise(const Stage& stage, TextView event);
     void SetUp(const Stage& stage, const qt::Font& font);
 
     const PlainKind& kind_;
     Colors colors_;
     host::Placement place_;
+    int reach_ = 0;
     QPointer<QWidget> widget_;
     std::optional<Surroundings> inside_;
 };

@@ -6,14 +6,17 @@
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPlainTextEdit>
-#include <QPushButton>
 #include <QRadioButton>
 #include <QScrollBar>
 #include <QVBoxLayout>
 #include <algorithm>
 #include <array>
 
+#include "apps/lumenform/form_view/command_button.h"
 #include "apps/lumenform/form_view/labelled_box.h"
+#include "apps/lumenform/form_view/line_widget.h"
+#include "apps/lumenform/form_view/saved_place.h"
+#include "apps/lumenform/form_view/shape_widget.h"
 #include "apps/lumenform/form_view/stored_picture.h"
 #include "apps/lumenform/form_view/text_list.h"
 #include "forms/controls.h"
@@ -102,7 +105,9 @@ std::unique_ptr<Button> NewButton(const BlockReader& reader, const PlainSink& ra
 }
 
 PlainWidget MakeButton(const BlockReader& reader, const PlainSink& raise) {
-    auto button = NewButton<QPushButton>(reader, raise);
+    auto button = NewButton<CommandButton>(reader, raise);
+    button->SetKeys(
+        {.enter = reader.Flag(u"Default", false), .escape = reader.Flag(u"Cancel", false)});
     if (const QPixmap picture = PictureIn(reader.Record(u"Picture")); !picture.isNull()) {
         button->setIcon(picture);
         button->setIconSize(picture.size());
@@ -218,6 +223,22 @@ PlainWidget MakeScrollBar(const BlockReader& reader, const PlainSink& raise) {
     return {std::move(bar)};
 }
 
+PlainWidget MakeLine(const BlockReader& reader, const PlainSink& /*raise*/) {
+    auto line = std::make_unique<LineWidget>(Stroke::Of(reader), Rises(reader));
+    const int reach = line->Reach();
+    return {.widget = std::move(line), .reach = reach};
+}
+
+PlainWidget MakeShape(const BlockReader& reader, const PlainSink& /*raise*/) {
+    using Form = ShapeWidget::Form;
+    const std::int32_t number = reader.Whole(u"Shape", 0);
+    const bool known = number >= 0 && number <= static_cast<std::int32_t>(Form::RoundedSquare);
+    auto shape = std::make_unique<ShapeWidget>(known ? static_cast<Form>(number) : Form::Rectangle,
+                                               Stroke::Of(reader), Filling::Of(reader));
+    const int reach = shape->Reach();
+    return {.widget = std::move(shape), .reach = reach};
+}
+
 PlainWidget MakeBox(const BlockReader& reader, const PlainSink& /*raise*/) {
     return {std::make_unique<LabelledBox>(qt::ToQString(forms::NameInCode(reader.Block())),
                                           qt::ToQString(reader.Block().ClassName()))};
@@ -233,9 +254,11 @@ constexpr std::array kinds = {
     PlainKind{.className = u"VB.HScrollBar", .make = MakeScrollBar<Qt::Horizontal>},
     PlainKind{.className = u"VB.Image", .make = MakeImage, .isInBack = true},
     PlainKind{.className = u"VB.Label", .make = MakeLabel, .isInBack = true},
+    PlainKind{.className = u"VB.Line", .make = MakeLine, .isInBack = true},
     PlainKind{.className = u"VB.ListBox", .make = MakeListBox, .usual = windowColors},
     PlainKind{.className = u"VB.OptionButton", .make = MakeOptionButton},
     PlainKind{.className = u"VB.PictureBox", .make = MakePictureBox, .isContainer = true},
+    PlainKind{.className = u"VB.Shape", .make = MakeShape, .usual = windowColors, .isInBack = true},
     PlainKind{.className = u"VB.TextBox", .make = MakeTextBox, .usual = windowColors},
     PlainKind{.className = u"VB.Timer", .make = MakeBox, .place = iconPlace, .isSeen = false},
     PlainKind{.className = u"VB.VScrollBar", .make = MakeScrollBar<Qt::Vertical>},

@@ -15,6 +15,7 @@ namespace lumenkit::form {
 struct PlainWidget {
     std::unique_ptr<QWidget> widget;
     QWidget* inside = nullptr;  ///< what others lie on; null: the widget
+    int reach = 0;              ///< pixels that it goes beyond the control's place on each side
 };
 
 /// Tells that the person did something: the event's name.

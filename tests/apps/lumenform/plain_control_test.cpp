@@ -23,7 +23,9 @@ namespace lumenkit::testing {
 namespace {
 
 using namespace std::string_literals;
+using ::testing::Contains;
 using ::testing::ElementsAre;
+using ::testing::Not;
 
 template <typename T>
 T& As(const LoadedView& view, TextView name) {
@@ -66,6 +68,43 @@ TEST(PlainControl, TellsWhatThePersonDoes) {
     QTest::mouseClick(&view.Control(u"B").Widget(), Qt::LeftButton);
     QTest::keyClick(&view.Control(u"T").Widget(), Qt::Key_A);
     EXPECT_THAT(view.raised, ElementsAre("B.Click", "T.Change"));
+}
+
+TEST(PlainControl, EnterAndEscPressTheirButtonsFromAfar) {
+    LoadedView view(
+        FormWith("   Begin VB.CommandButton Ok\n Default = -1 'True\n End\n"
+                 "   Begin VB.CommandButton Gone\n Cancel = -1 'True\n Visible = 0 'False\n End\n"
+                 "   Begin VB.CommandButton No\n Cancel = -1 'True\n End\n"
+                 "   Begin VB.CommandButton Other\n End\n"
+                 "   Begin VB.TextBox T\n End\n"
+                 "   Begin VB.CheckBox C\n End\n"
+                 "   Begin VB.TextBox M\n MultiLine = -1 'True\n End\n"));
+    const auto press = [&](TextView name, Qt::Key key) {
+        QWidget& widget = view.Control(name).Widget();
+        widget.setFocus();
+        QTest::keyClick(&widget, key);
+    };
+    press(u"T", Qt::Key_Return);
+    press(u"C", Qt::Key_Enter);
+    press(u"T", Qt::Key_Escape);
+    press(u"M", Qt::Key_Escape);
+    EXPECT_THAT(view.raised, ElementsAre("Ok.Click", "Ok.Click", "No.Click", "No.Click"));
+    view.raised.clear();
+    press(u"Other", Qt::Key_Return);
+    press(u"M", Qt::Key_Return);  // a line break
+    EXPECT_EQ(view.raised.front(), "Other.Click");
+    EXPECT_EQ(view.raised.back(), "M.Change");
+    EXPECT_THAT(view.raised, Not(Contains("Ok.Click")));
+}
+
+TEST(PlainControl, AFormWithoutAButtonForEnterLeavesItAlone) {
+    const LoadedView view(
+        FormWith("   Begin VB.CommandButton Ok\n Default = -1 'True\n Enabled = 0 'False\n End\n"
+                 "   Begin VB.CommandButton Other\n End\n"
+                 "   Begin VB.CheckBox C\n End\n"));
+    QTest::keyClick(&view.Control(u"C").Widget(), Qt::Key_Return);
+    QTest::keyClick(&view.Control(u"C").Widget(), Qt::Key_Escape);
+    EXPECT_TRUE(view.raised.empty());
 }
 
 TEST(PlainControl, RefusesANegativeSize) {

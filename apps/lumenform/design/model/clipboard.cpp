@@ -15,6 +15,7 @@
 #include "apps/lumenform/form_view/block_reader.h"
 #include "apps/lumenform/form_view/menu_bar.h"
 #include "apps/lumenform/form_view/plain_kinds.h"
+#include "apps/lumenform/form_view/saved_place.h"
 #include "forms/controls.h"
 #include "forms/copy_control.h"
 
@@ -94,12 +95,12 @@ const LiveControl* PasteTarget(const Design& design, const forms::Document& copi
 // Whether something else in the container stands just where the control does.
 bool IsOccupied(const forms::Document& document, const forms::Block& container,
                 forms::Block& control) {
-    const BlockReader own(document, control);
+    const host::Placement taken = SavedPlace(BlockReader(document, control), {});
     return std::ranges::any_of(container.Controls(), [&](forms::Block* other) {
         const BlockReader reader(document, *other);
-        return other != &control && !IsMenu(*other) &&
-               reader.Number(u"Left", 0) == own.Number(u"Left", 0) &&
-               reader.Number(u"Top", 0) == own.Number(u"Top", 0);
+        const host::Placement place = SavedPlace(reader, {});
+        return other != &control && !IsMenu(*other) && place.left == taken.left &&
+               place.top == taken.top;
     });
 }
 
@@ -112,10 +113,11 @@ void StepAside(const forms::Document& document, const forms::Block& container,
         pasted, [&](forms::Block* block) { return IsOccupied(document, container, *block); })) {
         for (forms::Block* block : pasted) {
             const BlockReader reader(document, *block);
-            const float left = reader.Number(u"Left", 0) + step.left - origin.left;
-            const float top = reader.Number(u"Top", 0) + step.top - origin.top;
-            block->Set(u"Left", forms::NumberLiteral(left));
-            block->Set(u"Top", forms::NumberLiteral(top));
+            const host::Placement former = SavedPlace(reader, {});
+            host::Placement now = former;
+            now.left += step.left - origin.left;
+            now.top += step.top - origin.top;
+            StorePlace(reader, former, now);
         }
     }
 }

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 #include <array>
+#include <iterator>
+#include <span>
 #include <string>
 
 #include "apps/lumenform/design/model/arrange.h"
@@ -9,6 +11,7 @@
 #include "apps/lumenform/design/properties/names.h"
 #include "apps/lumenform/design/properties/usual_properties.h"
 #include "apps/lumenform/form_view/plain_kinds.h"
+#include "apps/lumenform/form_view/saved_place.h"
 #include "forms/controls.h"
 #include "frame/runtime_error.h"
 
@@ -327,16 +330,20 @@ bool IsSeen(const LiveControl& control) {
     return control.Own() != nullptr || PlainKindOf(control.Block()).isSeen;
 }
 
-bool TakesKeyboard(const LiveControl& control) {
-    constexpr std::array<TextView, 3> without = {u"VB.Frame", u"VB.Image", u"VB.Label"};
-    return IsSeen(control) && std::ranges::none_of(without, [&](TextView className) {
-               return SameText(className, control.Block().ClassName(), Compare::IgnoreCase);
-           });
+bool IsOf(std::span<const TextView> classes, const LiveControl& control) {
+    return std::ranges::any_of(classes, [&](TextView className) {
+        return SameText(className, control.Block().ClassName(), Compare::IgnoreCase);
+    });
 }
 
 bool HasTabIndex(const LiveControl& control) {
-    return IsSeen(control) &&
-           !SameText(control.Block().ClassName(), u"VB.Image", Compare::IgnoreCase);
+    constexpr std::array<TextView, 3> without = {u"VB.Image", u"VB.Line", u"VB.Shape"};
+    return IsSeen(control) && !IsOf(without, control);
+}
+
+bool TakesKeyboard(const LiveControl& control) {
+    constexpr std::array<TextView, 2> without = {u"VB.Frame", u"VB.Label"};
+    return HasTabIndex(control) && !IsOf(without, control);
 }
 
 // A form's coordinates go as far as its inside, unless it has some of its own.
@@ -368,25 +375,35 @@ void LetScaleFollow(Setting& setting, Design& design) {
     };
 }
 
-}  // namespace
-
-std::vector<Setting> ContainerSettings(Design& design, LiveControl& control) {
+std::vector<Setting> PlaceSettings(Design& design, LiveControl& control) {
     using host::Placement;
-    forms::Block& block = control.Block();
     std::vector<Setting> settings = {
-        NameSetting(design, block), IndexSetting(design, block),
         PlaceSetting(design, control, u"Left",
                      u"How far from the left edge of what it lies in the control begins.",
                      &Placement::left),
         PlaceSetting(design, control, u"Top",
                      u"How far from the upper edge of what it lies in the control begins.",
-                     &Placement::top),
-        MakeSetting(design, block, {u"Tag", tagHelp, SettingKind::LongText, Text(), &AsText})};
+                     &Placement::top)};
     if (IsSeen(control)) {
         settings.push_back(PlaceSetting(design, control, u"Width", u"How wide the control is.",
                                         &Placement::width));
         settings.push_back(PlaceSetting(design, control, u"Height", u"How high the control is.",
                                         &Placement::height));
+    }
+    return settings;
+}
+
+}  // namespace
+
+std::vector<Setting> ContainerSettings(Design& design, LiveControl& control) {
+    forms::Block& block = control.Block();
+    std::vector<Setting> settings = {
+        NameSetting(design, block), IndexSetting(design, block),
+        MakeSetting(design, block, {u"Tag", tagHelp, SettingKind::LongText, Text(), &AsText})};
+    if (!HasEnds(block)) {
+        std::ranges::move(PlaceSettings(design, control), std::back_inserter(settings));
+    }
+    if (IsSeen(control)) {
         settings.push_back(MakeSetting(
             design, block, {u"Visible", visibleHelp, SettingKind::Choice, true, &AsTruth}));
     }

@@ -29,6 +29,16 @@ constexpr std::array<TextView, 4> startPositions = {
 constexpr std::array<TextView, 3> windowStates = {u"0 - Normal", u"1 - Minimized",
                                                   u"2 - Maximized"};
 
+constexpr std::array<TextView, 6> shapes = {
+    u"0 - Rectangle",         u"1 - Square",        u"2 - Oval", u"3 - Circle",
+    u"4 - Rounded rectangle", u"5 - Rounded square"};
+constexpr std::array<TextView, 7> strokeStyles = {
+    u"0 - Transparent", u"1 - Solid",        u"2 - Dash",        u"3 - Dot",
+    u"4 - Dash-dot",    u"5 - Dash-dot-dot", u"6 - Inside solid"};
+constexpr std::array<TextView, 8> fillStyles = {
+    u"0 - Solid",           u"1 - Transparent",       u"2 - Level lines", u"3 - Upright lines",
+    u"4 - Upward diagonal", u"5 - Downward diagonal", u"6 - Cross",       u"7 - Diagonal cross"};
+
 constexpr UsualProperty ChoiceOf(TextView name, TextView help, std::int32_t otherwise,
                                  std::span<const TextView> choices) {
     return {name, help, SettingKind::Choice, otherwise, choices};
@@ -38,6 +48,9 @@ constexpr UsualProperty Truth(TextView name, TextView help, bool otherwise) {
 }
 constexpr UsualProperty Number(TextView name, TextView help, std::int32_t otherwise) {
     return {name, help, SettingKind::Number, otherwise, {}};
+}
+constexpr UsualProperty ColorOf(TextView name, TextView help, Color otherwise) {
+    return {name, help, SettingKind::Color, static_cast<std::int32_t>(otherwise), {}};
 }
 constexpr UsualProperty String(TextView name, TextView help, SettingKind kind = SettingKind::Text) {
     return {name, help, kind, TextView(), {}};
@@ -60,6 +73,13 @@ constexpr UsualProperty locked =
 constexpr UsualProperty border = ChoiceOf(u"BorderStyle", stock::borderStyleHelp, 1, borderStyles);
 constexpr UsualProperty noBorder =
     ChoiceOf(u"BorderStyle", stock::borderStyleHelp, 0, borderStyles);
+constexpr UsualProperty borderColor =
+    ColorOf(u"BorderColor", u"The colour of the border.", Color::WindowText);
+constexpr UsualProperty borderWidth =
+    Number(u"BorderWidth", u"How wide the border is, in pixels.", 1);
+constexpr UsualProperty strokeStyle =
+    ChoiceOf(u"BorderStyle", u"How the border is drawn; wider than a pixel it has no gaps.", 1,
+             strokeStyles);
 constexpr UsualProperty scaleMode =
     ChoiceOf(u"ScaleMode", u"The unit in which what lies inside is placed.", 1, scaleModes);
 constexpr UsualProperty clientHeight = {
@@ -104,6 +124,14 @@ constexpr std::array label = {
     foreColor,
     toolTip,
     Truth(u"WordWrap", u"With AutoSize: whether it grows downwards.", false)};
+constexpr std::array<UsualProperty, 7> line = {
+    borderColor,
+    strokeStyle,
+    borderWidth,
+    {u"X1", u"How far from the left the line begins.", SettingKind::Number},
+    {u"X2", u"How far from the left the line ends.", SettingKind::Number},
+    {u"Y1", u"How far from the top the line begins.", SettingKind::Number},
+    {u"Y2", u"How far from the top the line ends.", SettingKind::Number}};
 constexpr std::array listBox = {backColor,
                                 enabled,
                                 font,
@@ -126,6 +154,15 @@ constexpr std::array scrollBar = {enabled,
                                   Number(u"Min", u"The value at the left or upper end.", 0),
                                   Number(u"SmallChange", u"How far a click on an arrow leads.", 1),
                                   Number(u"Value", u"Where it stands.", 0)};
+constexpr std::array shape = {
+    backColor,
+    ChoiceOf(u"BackStyle", u"Whether what lies behind it is seen.", 0, backStyles),
+    borderColor,
+    strokeStyle,
+    borderWidth,
+    ColorOf(u"FillColor", u"The colour of what fills the shape.", Rgb(0, 0, 0)),
+    ChoiceOf(u"FillStyle", u"What fills the shape.", 1, fillStyles),
+    ChoiceOf(u"Shape", u"Which shape it has.", 0, shapes)};
 constexpr std::array textBox = {
     textAlignment,
     backColor,
@@ -181,11 +218,13 @@ constexpr std::array classes = {
     UsualClass{u"VB.HScrollBar", scrollBar},
     UsualClass{u"VB.Image", image},
     UsualClass{u"VB.Label", label},
+    UsualClass{u"VB.Line", line},
     UsualClass{u"VB.ListBox", listBox},
     UsualClass{u"VB.MDIForm", mdiForm},
     UsualClass{u"VB.OptionButton", optionButton},
     UsualClass{u"VB.PictureBox", pictureBox},
     UsualClass{u"VB.PropertyPage", designed},
+    UsualClass{u"VB.Shape", shape},
     UsualClass{u"VB.TextBox", textBox},
     UsualClass{u"VB.Timer", timer},
     UsualClass{u"VB.UserControl", designed},

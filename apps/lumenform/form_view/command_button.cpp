@@ -1,0 +1,23 @@
+#include "apps/lumenform/form_view/command_button.h"
+
+namespace lumenkit::form {
+
+void CommandButton::SetKeys(Keys keys) {
+    keys_ = keys;
+    setDefault(keys.enter);
+    setAutoDefault(true);  // Enter presses the one that has the keyboard
+}
+
+bool CommandButton::IsPressedBy(int key) const {
+    switch (key) {
+        case Qt::Key_Enter:
+        case Qt::Key_Return:
+            return keys_.enter;
+        case Qt::Key_Escape:
+            return keys_.escape;
+        default:
+            return false;
+    }
+}
+
+}  // namespace lumenkit::form

@@ -1,0 +1,49 @@
+#pragma once
+
+#include <QWidget>
+#include <cstdint>
+#include <optional>
+
+#include "apps/lumenform/form_view/stroke.h"
+
+namespace lumenkit::form {
+
+/// How the inside of a shape is filled, as BackColor, BackStyle, FillColor and FillStyle say.
+struct Filling {
+    std::optional<Color> ground;  ///< behind hatches; none: what lies behind is seen
+    Color color = Rgb(0, 0, 0);
+    Qt::BrushStyle style = Qt::NoBrush;
+
+    static Filling Of(const BlockReader& reader);
+};
+
+/// A rectangle, square, oval or circle.
+class ShapeWidget final : public QWidget {
+ public:
+    enum class Form : std::uint8_t {
+        Rectangle,
+        Square,
+        Oval,
+        Circle,
+        RoundedRectangle,
+        RoundedSquare
+    };
+
+    ShapeWidget(Form form, const Stroke& stroke, const Filling& filling);
+
+    /// How many pixels the border goes beyond the shape on each side.
+    int Reach() const { return stroke_.Reach(); }
+
+ protected:
+    void paintEvent(QPaintEvent* event) override;
+
+ private:
+    QRectF Outline() const;
+    void Draw(QPainter& painter, const QRectF& outline) const;
+
+    Form form_;
+    Stroke stroke_;
+    Filling filling_;
+};
+
+}  // namespace lumenkit::form
