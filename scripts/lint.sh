@@ -26,25 +26,30 @@ check() {
             2> >(grep -vE '^[0-9]+ warnings? (generated|treated)|^Suppressed|^Use -header-filter' >&2)
 }
 
-# Each source with its own includes alone: clang cannot read what g++ has precompiled.
+# database PRESET [sed option...]: the build's, made so that clang can read it, which reads nothing that
+# g++ has precompiled: each source with its own includes alone.
+database() {
+    local build=build/$1
+    shift
+    [ -f "$build/compile_commands.json" ] || scripts/build.sh "${build#build/}" >&2
+    mkdir -p "$build/lint"
+    sed -E -e 's/ -Winvalid-pch -include [^ ]+cmake_pch\.hxx//' "$@" "$build/compile_commands.json" \
+        >"$build/lint/compile_commands.json"
+    echo "$build/lint"
+}
+
 check_native() {
-    local database=build/native/lint
-    [ -f build/native/compile_commands.json ] || scripts/build.sh native
-    mkdir -p "$database"
-    sed -E 's/ -Winvalid-pch -include [^ ]+cmake_pch\.hxx//' build/native/compile_commands.json \
-        >"$database/compile_commands.json"
-    check "$database" -- "$@"
+    local folder
+    folder=$(database native)
+    check "$folder" -- "$@"
 }
 
 # clang stands in for the cross-compiler: with its libraries, without the options it alone knows.
 check_windows() {
-    local compiler=x86_64-w64-mingw32-g++-posix database=build/mingw-x64/lint libraries
-    [ -f build/mingw-x64/compile_commands.json ] || scripts/build.sh mingw-x64
+    local compiler=x86_64-w64-mingw32-g++-posix folder libraries
+    folder=$(database mingw-x64 -e 's/ -fno-keep-inline-dllexport//')
     libraries=$(dirname "$("$compiler" -print-libgcc-file-name)")/include/c++
-    mkdir -p "$database"
-    sed 's/ -fno-keep-inline-dllexport//' build/mingw-x64/compile_commands.json \
-        >"$database/compile_commands.json"
-    check "$database" --extra-arg=--target=x86_64-w64-mingw32 \
+    check "$folder" --extra-arg=--target=x86_64-w64-mingw32 \
         --extra-arg=-Wno-unused-command-line-argument --extra-arg=-nostdinc++ \
         "--extra-arg=-isystem$libraries" "--extra-arg=-isystem$libraries/x86_64-w64-mingw32" -- "$@"
 }

@@ -26,7 +26,7 @@ Value AsDefault(const Value& value, const Value& defaultValue) {
         Value operator()(const ObjectRef& /*type*/) const { return ToObject(value); }
         Value operator()(Empty /*type*/) const { return value; }
         Value operator()(Null /*type*/) const { return value; }
-        Value operator()(Missing /*type*/) const { return value; }
+        Value operator()(const Missing& /*type*/) const { return value; }
     };
     return std::visit(Converted{value}, defaultValue);
 }

@@ -14,7 +14,7 @@ using Stored = stored::Setting::Value;
 struct ToStored {
     Stored operator()(Empty /*value*/) const { return std::monostate(); }
     Stored operator()(Null /*value*/) const { Raise(ErrorNumber::TypeMismatch); }
-    Stored operator()(Missing /*value*/) const { Raise(ErrorNumber::TypeMismatch); }
+    Stored operator()(const Missing& /*value*/) const { Raise(ErrorNumber::TypeMismatch); }
     Stored operator()(const ObjectRef& object) const {
         const host::FontRef font = host::ToFont(object);
         return font == nullptr ? Stored() : Stored(AttributesOf(*font));

@@ -161,7 +161,7 @@ struct IntoVariant {
 
     void operator()(Empty /*value*/) const { V_VT(&variant) = VT_EMPTY; }
     void operator()(Null /*value*/) const { V_VT(&variant) = VT_NULL; }
-    void operator()(Missing /*value*/) const {
+    void operator()(const Missing& /*value*/) const {
         Set<SCODE>(DISP_E_PARAMNOTFOUND, VT_ERROR, V_ERROR(&variant), variant);
     }
     void operator()(bool truth) const {
