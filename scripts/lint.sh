@@ -26,16 +26,16 @@ check() {
             2> >(grep -vE '^[0-9]+ warnings? (generated|treated)|^Suppressed|^Use -header-filter' >&2)
 }
 
-# database PRESET [sed option...]: the build's, made so that clang can read it, which reads nothing that
-# g++ has precompiled: each source with its own includes alone.
+# database PRESET [sed option...]: the build's, made so that clang can read it, which reads nothing
+# that g++ has precompiled: each source with its own includes alone.
 database() {
-    local build=build/$1
+    local preset=$1 file=build/$1/compile_commands.json folder=build/$1/lint
     shift
-    [ -f "$build/compile_commands.json" ] || scripts/build.sh "${build#build/}" >&2
-    mkdir -p "$build/lint"
-    sed -E -e 's/ -Winvalid-pch -include [^ ]+cmake_pch\.hxx//' "$@" "$build/compile_commands.json" \
-        >"$build/lint/compile_commands.json"
-    echo "$build/lint"
+    [ -f "$file" ] || scripts/build.sh "$preset" >&2
+    mkdir -p "$folder"
+    sed -E -e 's/ -Winvalid-pch -include [^ ]+cmake_pch\.hxx//' "$@" "$file" \
+        >"$folder/compile_commands.json"
+    echo "$folder"
 }
 
 check_native() {

@@ -54,6 +54,11 @@ std::int32_t BlockReader::Whole(TextView name, std::int32_t otherwise) const {
     return Read(name, otherwise, ToLong);
 }
 
+std::int32_t BlockReader::Choice(TextView name, std::int32_t count, std::int32_t otherwise) const {
+    const std::int32_t number = Whole(name, otherwise);
+    return number >= 0 && number < count ? number : otherwise;
+}
+
 bool BlockReader::Flag(TextView name, bool otherwise) const {
     return Read(name, otherwise, ToBoolean);
 }

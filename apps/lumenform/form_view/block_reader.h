@@ -25,6 +25,9 @@ class BlockReader {
     bool Has(TextView name) const { return block_.FindProperty(name) != nullptr; }
     float Number(TextView name, float otherwise) const;
     std::int32_t Whole(TextView name, std::int32_t otherwise) const;
+    /// One of `count` numbered choices, from 0; a number that is none of them counts as
+    /// `otherwise`.
+    std::int32_t Choice(TextView name, std::int32_t count, std::int32_t otherwise) const;
     bool Flag(TextView name, bool otherwise) const;
     Text String(TextView name, TextView otherwise = {}) const;
     Color ColorOf(TextView name, Color otherwise) const;

@@ -231,9 +231,8 @@ PlainWidget MakeLine(const BlockReader& reader, const PlainSink& /*raise*/) {
 
 PlainWidget MakeShape(const BlockReader& reader, const PlainSink& /*raise*/) {
     using Form = ShapeWidget::Form;
-    const std::int32_t number = reader.Whole(u"Shape", 0);
-    const bool known = number >= 0 && number <= static_cast<std::int32_t>(Form::RoundedSquare);
-    auto shape = std::make_unique<ShapeWidget>(known ? static_cast<Form>(number) : Form::Rectangle,
+    constexpr auto forms = static_cast<std::int32_t>(Form::RoundedSquare) + 1;
+    auto shape = std::make_unique<ShapeWidget>(static_cast<Form>(reader.Choice(u"Shape", forms, 0)),
                                                Stroke::Of(reader), Filling::Of(reader));
     const int reach = shape->Reach();
     return {.widget = std::move(shape), .reach = reach};
@@ -250,15 +249,20 @@ constexpr std::array kinds = {
     PlainKind{.className = u"VB.CheckBox", .make = MakeCheckBox},
     PlainKind{.className = u"VB.ComboBox", .make = MakeComboBox, .usual = windowColors},
     PlainKind{.className = u"VB.CommandButton", .make = MakeButton},
-    PlainKind{.className = u"VB.Frame", .make = MakeFrame, .isContainer = true},
+    PlainKind{
+        .className = u"VB.Frame", .make = MakeFrame, .tab = TabRole::Index, .isContainer = true},
     PlainKind{.className = u"VB.HScrollBar", .make = MakeScrollBar<Qt::Horizontal>},
-    PlainKind{.className = u"VB.Image", .make = MakeImage, .isInBack = true},
-    PlainKind{.className = u"VB.Label", .make = MakeLabel, .isInBack = true},
-    PlainKind{.className = u"VB.Line", .make = MakeLine, .isInBack = true},
+    PlainKind{.className = u"VB.Image", .make = MakeImage, .tab = TabRole::None, .isInBack = true},
+    PlainKind{.className = u"VB.Label", .make = MakeLabel, .tab = TabRole::Index, .isInBack = true},
+    PlainKind{.className = u"VB.Line", .make = MakeLine, .tab = TabRole::None, .isInBack = true},
     PlainKind{.className = u"VB.ListBox", .make = MakeListBox, .usual = windowColors},
     PlainKind{.className = u"VB.OptionButton", .make = MakeOptionButton},
     PlainKind{.className = u"VB.PictureBox", .make = MakePictureBox, .isContainer = true},
-    PlainKind{.className = u"VB.Shape", .make = MakeShape, .usual = windowColors, .isInBack = true},
+    PlainKind{.className = u"VB.Shape",
+              .make = MakeShape,
+              .usual = windowColors,
+              .tab = TabRole::None,
+              .isInBack = true},
     PlainKind{.className = u"VB.TextBox", .make = MakeTextBox, .usual = windowColors},
     PlainKind{.className = u"VB.Timer", .make = MakeBox, .place = iconPlace, .isSeen = false},
     PlainKind{.className = u"VB.VScrollBar", .make = MakeScrollBar<Qt::Vertical>},

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QWidget>
+#include <cstdint>
 #include <functional>
 #include <memory>
 
@@ -21,11 +22,19 @@ struct PlainWidget {
 /// Tells that the person did something: the event's name.
 using PlainSink = std::function<void(TextView event)>;
 
+/// What Tab has to do with the controls of a class.
+enum class TabRole : std::uint8_t {
+    None,   ///< they have no TabIndex
+    Index,  ///< they have one, and Tab passes over them
+    Stop,
+};
+
 struct PlainKind {
     TextView className;  ///< empty: any other
     PlainWidget (*make)(const BlockReader& reader, const PlainSink& raise);
     Colors usual = {};
     host::Placement place = {.width = 1215, .height = 495};  ///< where the block has none
+    TabRole tab = TabRole::Stop;
     bool isInBack = false;
     bool isContainer = false;
     bool isSeen = true;  ///< whether the form's users see it

@@ -35,15 +35,14 @@ Unit UnitOf(std::int32_t mode) {
         const qt::TwipsPerPixel& screen = qt::TwipsPerPixel::OfScreens();
         return {static_cast<float>(screen.x), static_cast<float>(screen.y)};
     }
-    const bool known = mode >= 0 && mode <= Centimetres;
-    return fixed[known ? static_cast<std::size_t>(mode) : std::size_t{Twips}];
+    return fixed[static_cast<std::size_t>(mode)];
 }
 
 }  // namespace
 
 Scale Scale::Of(const BlockReader& container, float width, float height) {
     Scale scale;
-    const std::int32_t mode = container.Whole(u"ScaleMode", Twips);
+    const std::int32_t mode = container.Choice(u"ScaleMode", Centimetres + 1, Twips);
     Unit unit = UnitOf(mode);
     if (mode == User) {
         scale.left_ = container.Number(u"ScaleLeft", 0);

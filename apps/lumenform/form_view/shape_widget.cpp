@@ -33,12 +33,10 @@ Filling Filling::Of(const BlockReader& reader) {
                                    Qt::CrossPattern, Qt::DiagCrossPattern};
     constexpr std::int32_t transparent = 1;
     constexpr std::int32_t opaque = 1;
-    const std::int32_t style = reader.Whole(u"FillStyle", transparent);
     Filling filling;
     filling.color = reader.ColorOf(u"FillColor", filling.color);
-    if (style >= 0 && style < static_cast<std::int32_t>(styles.size())) {
-        filling.style = styles[static_cast<std::size_t>(style)];
-    }
+    filling.style = styles[static_cast<std::size_t>(
+        reader.Choice(u"FillStyle", static_cast<std::int32_t>(styles.size()), transparent))];
     if (reader.Whole(u"BackStyle", 0) == opaque) {
         filling.ground = reader.ColorOf(u"BackColor", Color::WindowBackground);
     }

@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <algorithm>
+#include <array>
 
 #include "runtime/qt/palette_color.h"
 
@@ -10,35 +11,22 @@ namespace lumenkit::form {
 namespace {
 
 Qt::PenStyle PenStyleOf(const Stroke& stroke) {
-    if (stroke.style == Stroke::Transparent) {
-        return Qt::NoPen;
-    }
-    if (stroke.width > 1) {
-        return Qt::SolidLine;
-    }
-    switch (stroke.style) {
-        case Stroke::Dash:
-            return Qt::DashLine;
-        case Stroke::Dot:
-            return Qt::DotLine;
-        case Stroke::DashDot:
-            return Qt::DashDotLine;
-        case Stroke::DashDotDot:
-            return Qt::DashDotDotLine;
-        default:
-            return Qt::SolidLine;
-    }
+    constexpr std::array<Qt::PenStyle, Stroke::InsideSolid + 1> styles = {
+        Qt::NoPen,       Qt::SolidLine,      Qt::DashLine, Qt::DotLine,
+        Qt::DashDotLine, Qt::DashDotDotLine, Qt::SolidLine};
+    const bool isWhole = stroke.width > 1 && stroke.style != Stroke::Transparent;
+    return isWhole ? Qt::SolidLine : styles[stroke.style];
 }
 
 }  // namespace
 
 Stroke Stroke::Of(const BlockReader& reader) {
     constexpr std::int32_t widest = 1000;
-    const std::int32_t style = reader.Whole(u"BorderStyle", Solid);
-    const bool known = style >= Transparent && style <= InsideSolid;
-    return {.color = reader.ColorOf(u"BorderColor", Color::WindowText),
-            .style = known ? static_cast<Style>(style) : Solid,
-            .width = std::clamp(reader.Whole(u"BorderWidth", 1), 1, widest)};
+    Stroke stroke;
+    stroke.color = reader.ColorOf(u"BorderColor", stroke.color);
+    stroke.style = static_cast<Style>(reader.Choice(u"BorderStyle", InsideSolid + 1, stroke.style));
+    stroke.width = std::clamp(reader.Whole(u"BorderWidth", stroke.width), 1, widest);
+    return stroke;
 }
 
 QPen Stroke::Pen() const {

@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <array>
 #include <iterator>
-#include <span>
 #include <string>
 
 #include "apps/lumenform/design/model/arrange.h"
@@ -330,20 +329,9 @@ bool IsSeen(const LiveControl& control) {
     return control.Own() != nullptr || PlainKindOf(control.Block()).isSeen;
 }
 
-bool IsOf(std::span<const TextView> classes, const LiveControl& control) {
-    return std::ranges::any_of(classes, [&](TextView className) {
-        return SameText(className, control.Block().ClassName(), Compare::IgnoreCase);
-    });
-}
-
-bool HasTabIndex(const LiveControl& control) {
-    constexpr std::array<TextView, 3> without = {u"VB.Image", u"VB.Line", u"VB.Shape"};
-    return IsSeen(control) && !IsOf(without, control);
-}
-
-bool TakesKeyboard(const LiveControl& control) {
-    constexpr std::array<TextView, 2> without = {u"VB.Frame", u"VB.Label"};
-    return HasTabIndex(control) && !IsOf(without, control);
+// Our own controls are stops, as those are that are not known.
+TabRole TabRoleOf(const LiveControl& control) {
+    return IsSeen(control) ? PlainKindOf(control.Block()).tab : TabRole::None;
 }
 
 // A form's coordinates go as far as its inside, unless it has some of its own.
@@ -407,10 +395,10 @@ std::vector<Setting> ContainerSettings(Design& design, LiveControl& control) {
         settings.push_back(MakeSetting(
             design, block, {u"Visible", visibleHelp, SettingKind::Choice, true, &AsTruth}));
     }
-    if (HasTabIndex(control)) {
+    if (TabRoleOf(control) != TabRole::None) {
         settings.push_back(TabIndexSetting(design, block));
     }
-    if (TakesKeyboard(control)) {
+    if (TabRoleOf(control) == TabRole::Stop) {
         settings.push_back(MakeSetting(
             design, block, {u"TabStop", tabStopHelp, SettingKind::Choice, true, &AsTruth}));
     }
