@@ -8,6 +8,12 @@ void CommandButton::SetKeys(Keys keys) {
     setAutoDefault(true);  // Enter presses the one that has the keyboard
 }
 
+// Outside dialogs Qt takes every button that loses the keyboard for an ordinary one.
+void CommandButton::focusOutEvent(QFocusEvent* event) {
+    QPushButton::focusOutEvent(event);
+    setDefault(keys_.enter);
+}
+
 bool CommandButton::IsPressedBy(int key) const {
     switch (key) {
         case Qt::Key_Enter:

@@ -16,6 +16,9 @@ class CommandButton final : public QPushButton {
     void SetKeys(Keys keys);
     bool IsPressedBy(int key) const;
 
+ protected:
+    void focusOutEvent(QFocusEvent* event) override;
+
  private:
     Keys keys_;
 };

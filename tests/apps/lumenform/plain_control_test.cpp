@@ -97,6 +97,20 @@ TEST(PlainControl, EnterAndEscPressTheirButtonsFromAfar) {
     EXPECT_THAT(view.raised, Not(Contains("Ok.Click")));
 }
 
+TEST(PlainControl, TheButtonForEnterLooksSoWhereverTheKeyboardWas) {
+    const LoadedView view(
+        FormWith("   Begin VB.CommandButton Ok\n Default = -1 'True\n End\n"
+                 "   Begin VB.CommandButton Other\n End\n"
+                 "   Begin VB.TextBox T\n End\n"));
+    const auto& ok = As<QPushButton>(view, u"Ok");
+    const auto& other = As<QPushButton>(view, u"Other");
+    for (const TextView name : {u"Ok", u"T", u"Other", u"T"}) {
+        view.Control(name).Widget().setFocus();
+        EXPECT_TRUE(ok.isDefault());
+        EXPECT_EQ(other.isDefault(), other.hasFocus());
+    }
+}
+
 TEST(PlainControl, AFormWithoutAButtonForEnterLeavesItAlone) {
     const LoadedView view(
         FormWith("   Begin VB.CommandButton Ok\n Default = -1 'True\n Enabled = 0 'False\n End\n"
