@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <algorithm>
 #include <array>
+#include <cstddef>
 
 #include "runtime/qt/palette_color.h"
 
@@ -15,7 +16,7 @@ Qt::PenStyle PenStyleOf(const Stroke& stroke) {
         Qt::NoPen,       Qt::SolidLine,      Qt::DashLine, Qt::DotLine,
         Qt::DashDotLine, Qt::DashDotDotLine, Qt::SolidLine};
     const bool isWhole = stroke.width > 1 && stroke.style != Stroke::Transparent;
-    return isWhole ? Qt::SolidLine : styles[stroke.style];
+    return isWhole ? Qt::SolidLine : styles[static_cast<std::size_t>(stroke.style)];
 }
 
 }  // namespace
