@@ -203,5 +203,16 @@ TEST(DrawnControl, ADuplicateStepsAside) {
     EXPECT_THAT(form.Saved(), Not(HasSubstr("Left")));
 }
 
+TEST(DrawnControl, ADuplicateFarOutStaysWhereNoStepLeadsAside) {
+    const std::string far =
+        "   Begin VB.Shape S\n Height = 480\n Left = 1E+15\n Top = 1E+15\n Width = 960\n End\n";
+    BrowsedForm form(FormWith(far));
+    form.Select({u"S"});
+    const host::Placement before = form.design.Selected().front()->Place();
+    DuplicateSelected(form.design);
+    EXPECT_EQ(form.design.View().Controls().size(), 2U);
+    EXPECT_EQ(form.design.Selected().front()->Place(), before);
+}
+
 }  // namespace
 }  // namespace lumenkit::testing

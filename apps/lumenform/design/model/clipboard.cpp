@@ -117,6 +117,9 @@ void StepAside(const forms::Document& document, const forms::Block& container,
             host::Placement now = former;
             now.left += step.left - origin.left;
             now.top += step.top - origin.top;
+            if (now == former) {
+                return;  // so far out that a step is lost in rounding
+            }
             StorePlace(reader, former, now);
         }
     }
