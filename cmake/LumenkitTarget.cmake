@@ -1,17 +1,28 @@
 # Settings that every target of the project shares, and the functions that make its libraries.
+# Others get none of them: variables end with this folder, and libraries use them privately.
 
-set(CMAKE_CXX_STANDARD 20)
-set(CMAKE_CXX_STANDARD_REQUIRED ON)
+if(NOT DEFINED CMAKE_CXX_STANDARD)
+    set(CMAKE_CXX_STANDARD 20)
+endif()
 set(CMAKE_CXX_EXTENSIONS OFF)
 set(CMAKE_CXX_VISIBILITY_PRESET hidden)
 set(CMAKE_VISIBILITY_INLINES_HIDDEN ON)
-set(CMAKE_POSITION_INDEPENDENT_CODE ON)
-set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
+if(NOT DEFINED CMAKE_POSITION_INDEPENDENT_CODE)
+    set(CMAKE_POSITION_INDEPENDENT_CODE ON)
+endif()
+if(PROJECT_IS_TOP_LEVEL)
+    set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
+endif()
 
 add_library(lumenkit_settings INTERFACE)
 target_include_directories(lumenkit_settings INTERFACE "${PROJECT_SOURCE_DIR}")
+target_compile_features(lumenkit_settings INTERFACE cxx_std_20)
+if(PROJECT_IS_TOP_LEVEL OR LUMENKIT_WERROR)
+    target_compile_options(lumenkit_settings INTERFACE
+        -Wall -Wextra -Wpedantic -Wconversion -Wshadow)
+endif()
 target_compile_options(lumenkit_settings INTERFACE
-    -Wall -Wextra -Wpedantic -Wconversion -Wshadow -Werror
+    $<$<BOOL:${LUMENKIT_WERROR}>:-Werror>
     # g++ 12 sees overlaps in its own string's operator+ that are not there (its bug 105651).
     $<$<AND:$<CXX_COMPILER_ID:GNU>,$<VERSION_LESS:$<CXX_COMPILER_VERSION>,13>>:-Wno-restrict>)
 if(WIN32)
@@ -35,7 +46,7 @@ if(LUMENKIT_COVERAGE)
     target_link_options(lumenkit_settings INTERFACE --coverage)
 endif()
 
-include(SharedHeaders)
+include("${PROJECT_SOURCE_DIR}/cmake/SharedHeaders.cmake")
 
 # lumenkit_library(NAME SOURCES file... LINKS target...)
 # A static library lumenkit_NAME, known to others as lumenkit::NAME. Each of its headers also
@@ -44,7 +55,9 @@ function(lumenkit_library name)
     cmake_parse_arguments(ARG "" "" "SOURCES;LINKS" ${ARGN})
     add_library(lumenkit_${name} STATIC ${ARG_SOURCES})
     add_library(lumenkit::${name} ALIAS lumenkit_${name})
-    target_link_libraries(lumenkit_${name} PUBLIC lumenkit_settings ${ARG_LINKS})
+    target_include_directories(lumenkit_${name} PUBLIC "${PROJECT_SOURCE_DIR}")
+    target_compile_features(lumenkit_${name} PUBLIC cxx_std_20)
+    target_link_libraries(lumenkit_${name} PRIVATE lumenkit_settings PUBLIC ${ARG_LINKS})
     lumenkit_reuse_headers(lumenkit_${name})
     lumenkit_headers_compile_alone(lumenkit_${name} ${ARG_LINKS})
 endfunction()
