@@ -17,12 +17,16 @@ endif()
 add_library(lumenkit_settings INTERFACE)
 target_include_directories(lumenkit_settings INTERFACE "${PROJECT_SOURCE_DIR}")
 target_compile_features(lumenkit_settings INTERFACE cxx_std_20)
-if(PROJECT_IS_TOP_LEVEL OR LUMENKIT_WERROR)
-    target_compile_options(lumenkit_settings INTERFACE
-        -Wall -Wextra -Wpedantic -Wconversion -Wshadow)
+set(warnings -Wall -Wextra -Wpedantic -Wconversion -Wshadow)
+if(LUMENKIT_WERROR)
+    target_compile_options(lumenkit_settings INTERFACE ${warnings} -Werror)
+elseif(PROJECT_IS_TOP_LEVEL)
+    target_compile_options(lumenkit_settings INTERFACE ${warnings})
+else()
+    # A parent that makes warnings errors means its own sources.
+    target_compile_options(lumenkit_settings INTERFACE -Wno-error)
 endif()
 target_compile_options(lumenkit_settings INTERFACE
-    $<$<BOOL:${LUMENKIT_WERROR}>:-Werror>
     # g++ 12 sees overlaps in its own string's operator+ that are not there (its bug 105651).
     $<$<AND:$<CXX_COMPILER_ID:GNU>,$<VERSION_LESS:$<CXX_COMPILER_VERSION>,13>>:-Wno-restrict>)
 if(WIN32)
