@@ -54,14 +54,14 @@ std::string DesignersCompanionName(const std::string& path) {
 }
 
 // A property and what is to take its place.
-struct Replacement {
+struct ChangedProperty {
     Property& property;
     Property changed;
 };
 
 // What becomes of the references in `block` when they lead to `file`. As deep as the parser lets
 // blocks lie in one another, and editors take care to.
-void LeadReferencesTo(const Text& file, const Block& block, std::vector<Replacement>& led) {
+void LeadReferencesTo(const Text& file, const Block& block, std::vector<ChangedProperty>& led) {
     for (const Block::Item& item : block.Items()) {
         if (const auto* inner = std::get_if<std::unique_ptr<Block>>(&item)) {
             LeadReferencesTo(file, **inner, led);
@@ -225,14 +225,14 @@ void Document::RenameForm(TextView name) {
 
 void Document::UseCompanion(std::string name) {
     const Text file = FromUtf8(name);
-    std::vector<Replacement> led;
+    std::vector<ChangedProperty> led;
     LeadReferencesTo(file, *form_.root, led);
     std::vector<PlacedReference> references = form_.references;
     for (PlacedReference& placed : references) {
         placed.reference.file = file;
     }
     // From here on nothing can fail.
-    for (Replacement& replacement : led) {
+    for (ChangedProperty& replacement : led) {
         replacement.property = std::move(replacement.changed);
     }
     form_.references = std::move(references);

@@ -38,9 +38,9 @@ std::string ReadBytes(const fs::path& path) {
 }
 
 // New contents for a file, beside it until they take its place; gone if they never do.
-class Replacement {
+class NewFile {
  public:
-    Replacement(const fs::path& target, std::string_view bytes) : Replacement(target) {
+    NewFile(const fs::path& target, std::string_view bytes) : NewFile(target) {
         std::ofstream stream(beside_, std::ios::binary);
         stream.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
         stream.close();
@@ -48,9 +48,9 @@ class Replacement {
             throw FormError(NameOf(target_), "cannot be written");
         }
     }
-    Replacement(const Replacement&) = delete;
-    Replacement& operator=(const Replacement&) = delete;
-    ~Replacement() {
+    NewFile(const NewFile&) = delete;
+    NewFile& operator=(const NewFile&) = delete;
+    ~NewFile() {
         std::error_code gone;
         fs::remove(beside_, gone);
     }
@@ -71,7 +71,7 @@ class Replacement {
 
  private:
     // Whatever happens from here on, nothing is left beside the file.
-    explicit Replacement(const fs::path& target)
+    explicit NewFile(const fs::path& target)
         : target_(Resolved(target)), folder_(target_.parent_path()), beside_(target_) {
         beside_ += ".new";
     }
@@ -98,9 +98,9 @@ Document Load(const fs::path& path, int codePage) {
 
 void Save(const Document& document, const fs::path& path) {
     const FormBytes bytes = document.Write();
-    Replacement form(path, bytes.form);
+    NewFile form(path, bytes.form);
     if (!bytes.companion.empty()) {
-        Replacement companion(Beside(path, document.CompanionName()), bytes.companion);
+        NewFile companion(Beside(path, document.CompanionName()), bytes.companion);
         companion.TakePlace();
     }
     form.TakePlace();

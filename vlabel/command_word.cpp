@@ -6,21 +6,21 @@ namespace lumenkit {
 
 namespace {
 
-using Parameter = CommandWord::Parameter;
+using Kind = CommandWord::Parameter;
 
 constexpr std::array words = {
-    CommandWord{u"b", u"b", Parameter::Switch},
-    CommandWord{u"bold", u"b", Parameter::Switch},
-    CommandWord{u"i", u"i", Parameter::Switch},
-    CommandWord{u"italic", u"i", Parameter::Switch},
-    CommandWord{u"ital", u"i", Parameter::Switch},
-    CommandWord{u"itals", u"i", Parameter::Switch},
+    CommandWord{u"b", u"b", Kind::Switch},
+    CommandWord{u"bold", u"b", Kind::Switch},
+    CommandWord{u"i", u"i", Kind::Switch},
+    CommandWord{u"italic", u"i", Kind::Switch},
+    CommandWord{u"ital", u"i", Kind::Switch},
+    CommandWord{u"itals", u"i", Kind::Switch},
     // Underlining is shown as italics: captions have always relied on it.
-    CommandWord{u"u", u"i", Parameter::Switch},
-    CommandWord{u"color", u"color", Parameter::Color},
-    CommandWord{u"fore", u"color", Parameter::Color},
-    CommandWord{u"size", u"size", Parameter::Size},
-    CommandWord{u"before", u"before", Parameter::Before},
+    CommandWord{u"u", u"i", Kind::Switch},
+    CommandWord{u"color", u"color", Kind::Color},
+    CommandWord{u"fore", u"color", Kind::Color},
+    CommandWord{u"size", u"size", Kind::Size},
+    CommandWord{u"before", u"before", Kind::Before},
 };
 
 // The letters of a word, one a byte, behind a one.

@@ -8,7 +8,7 @@ namespace lumenkit::testing {
 namespace {
 
 std::int64_t count = 0;
-std::int64_t live = 0;
+std::int64_t liveCount = 0;
 std::size_t bytes = 0;
 std::int64_t untilFailure = 0;
 
@@ -22,12 +22,12 @@ void* Allocate(std::size_t size) {
     if (memory == nullptr) {
         throw std::bad_alloc();
     }
-    ++live;
+    ++liveCount;
     return memory;
 }
 
 void Free(void* memory) {
-    live -= memory != nullptr ? 1 : 0;
+    liveCount -= memory != nullptr ? 1 : 0;
     std::free(memory);
 }
 
@@ -38,7 +38,7 @@ std::int64_t AllocationCount() {
 }
 
 std::int64_t LiveAllocations() {
-    return live;
+    return liveCount;
 }
 
 std::size_t AllocatedBytes() {

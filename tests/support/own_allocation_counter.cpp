@@ -21,7 +21,7 @@ namespace lumenkit::testing {
 namespace {
 
 std::int64_t count = 0;
-std::int64_t live = 0;
+std::int64_t liveCount = 0;
 std::size_t bytes = 0;
 std::int64_t untilFailure = 0;
 
@@ -42,7 +42,7 @@ void CountOwn(std::size_t size) {
     if (untilFailure > 0 && --untilFailure == 0) {
         throw std::bad_alloc();
     }
-    ++live;
+    ++liveCount;
 }
 
 void* Allocate(std::size_t size, const void* caller) {
@@ -63,7 +63,7 @@ void Free(void* memory) {
         return;
     }
     Owner* const owner = static_cast<Owner*>(memory) - 1;
-    live -= owner->isOwn ? 1 : 0;
+    liveCount -= owner->isOwn ? 1 : 0;
     std::free(owner);
 }
 
@@ -74,7 +74,7 @@ std::int64_t AllocationCount() {
 }
 
 std::int64_t LiveAllocations() {
-    return live;
+    return liveCount;
 }
 
 std::size_t AllocatedBytes() {

@@ -1,7 +1,6 @@
 // "lumenkit check", output against what was written by hand.
 #include <filesystem>
 #include <fstream>
-#include <iterator>
 #include <string>
 
 #include <gmock/gmock.h>
@@ -10,6 +9,7 @@
 #include <unistd.h>
 
 #include "tests/apps/program.h"
+#include "tests/support/file_bytes.h"
 
 namespace lumenkit::testing {
 
@@ -24,11 +24,6 @@ using ::testing::StartsWith;
 using Json = nlohmann::ordered_json;
 
 const std::string here = LUMENKIT_SOURCE_DIR "/tests/apps/check/";
-
-std::string Read(const std::string& path) {
-    std::ifstream file(path, std::ios::binary);
-    return {std::istreambuf_iterator<char>(file), {}};
-}
 
 // What is written by hand names files as from this folder.
 std::string FromHere(std::string output) {
@@ -75,21 +70,21 @@ class CheckFolder : public ::testing::Test {
 
 TEST(CheckCommand, TellsWhatIsWrongWithForms) {
     const Outcome outcome = RunProgram("check " + here + "forms");
-    EXPECT_EQ(FromHere(outcome.output), Read(here + "forms_expected.txt"));
+    EXPECT_EQ(FromHere(outcome.output), FileBytes(here + "forms_expected.txt"));
     EXPECT_EQ(outcome.errors, "");
     EXPECT_EQ(outcome.status, 1);
 }
 
 TEST(CheckCommand, TellsWhatIsWrongWithCaptionsInJson) {
     const Outcome outcome = RunProgram("check --json --caption " + here + "captions");
-    EXPECT_EQ(FromHere(outcome.output), Compact(Read(here + "captions_expected.json")));
+    EXPECT_EQ(FromHere(outcome.output), Compact(FileBytes(here + "captions_expected.json")));
     EXPECT_EQ(outcome.errors, "");
     EXPECT_EQ(outcome.status, 1);
 }
 
 TEST(CheckCommand, GoesOnBehindAFormThatCannotBeRead) {
     const Outcome json = RunProgram("check --json " + here + "broken");
-    EXPECT_EQ(FromHere(json.output), Compact(Read(here + "broken_expected.json")));
+    EXPECT_EQ(FromHere(json.output), Compact(FileBytes(here + "broken_expected.json")));
     EXPECT_EQ(json.errors, "");
     EXPECT_EQ(json.status, 2);
 
@@ -255,9 +250,9 @@ TEST_F(CheckFolder, EachStreamHasColorsOfItsOwn) {
     const std::string arguments = "check " + folder.string();
     const std::string elsewhere = (folder / "elsewhere").string();
     EXPECT_THAT(RunOnTerminal(arguments + " 2>" + elsewhere).output, HasSubstr("\x1b[1m"));
-    EXPECT_THAT(Read(elsewhere), AllOf(StartsWith("lumenkit: "), Not(HasSubstr("\x1b"))));
+    EXPECT_THAT(FileBytes(elsewhere), AllOf(StartsWith("lumenkit: "), Not(HasSubstr("\x1b"))));
     EXPECT_THAT(RunOnTerminal(arguments + " >" + elsewhere).output, StartsWith("\x1b[31mlumenkit"));
-    EXPECT_THAT(Read(elsewhere), Not(HasSubstr("\x1b")));
+    EXPECT_THAT(FileBytes(elsewhere), Not(HasSubstr("\x1b")));
 }
 
 TEST_F(CheckFolder, WaitsForNoPipe) {
@@ -273,8 +268,8 @@ TEST_F(CheckFolder, TheBarIsTheErrorStreamsOwn) {
     const std::string found = (folder / "found").string();
     const Outcome outcome = RunOnTerminal("check " + folder.string() + " >" + found);
     EXPECT_THAT(outcome.output, HasSubstr("] 0%"));
-    EXPECT_THAT(Read(found), Not(HasSubstr("\x1b")));
-    EXPECT_THAT(Read(found), EndsWith("\n30 files checked: 30 findings\n"));
+    EXPECT_THAT(FileBytes(found), Not(HasSubstr("\x1b")));
+    EXPECT_THAT(FileBytes(found), EndsWith("\n30 files checked: 30 findings\n"));
 }
 
 }  // namespace

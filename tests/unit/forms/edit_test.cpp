@@ -8,10 +8,6 @@ namespace {
 
 using namespace std::string_literals;
 
-std::string Golden(const std::string& name) {
-    return ReadFile(std::filesystem::path(LUMENKIT_SOURCE_DIR) / "tests/golden/forms" / name);
-}
-
 std::string RefusalOf(const Document& document) {
     try {
         document.Write();
@@ -31,7 +27,7 @@ TEST(Edit, ReplacesInsertsAndRemovesProperties) {
     label.Set(u"ForeColor", HexNumber{0xFF});
     label.Set(u"Object.ToolTipText", Text(u"new"), u"forecolor");
     EXPECT_FALSE(label.Remove(u"Missing"));
-    EXPECT_EQ(document.Write().form, Golden("label_edited.frm"));
+    EXPECT_EQ(document.Write().form, GoldenForm("label_edited.frm"));
     EXPECT_EQ(label.FindProperty(u"BackStyle")->NamePlace(), Position{});
 }
 
@@ -48,7 +44,7 @@ TEST(Edit, AddsAndRemovesControlsAndLibraries) {
     EXPECT_TRUE(box.RemoveControl(old));
     document.Root().AddControl(u"VB.Timer", u"Timer1").Set(u"Interval", 500);
     document.AddLibrary(u"{00025600-0000-0000-C000-000000000046}#5.2#0", u"crystl32.ocx");
-    EXPECT_EQ(document.Write().form, Golden("all_three_edited.frm"));
+    EXPECT_EQ(document.Write().form, GoldenForm("all_three_edited.frm"));
     EXPECT_EQ(document.Libraries().size(), 2U);
 }
 
@@ -64,8 +60,8 @@ TEST(Edit, MovesTextsToTheCompanion) {
     // Writing twice gives the same: nothing is appended to what was appended.
     for (int i = 0; i < 2; ++i) {
         const FormBytes written = document.Write();
-        EXPECT_EQ(written.form, Golden("memo_edited.frm"));
-        EXPECT_EQ(written.companion, Golden("memo_edited.frx"));
+        EXPECT_EQ(written.form, GoldenForm("memo_edited.frm"));
+        EXPECT_EQ(written.companion, GoldenForm("memo_edited.frx"));
     }
     EXPECT_EQ(document.TextOf(*memo.FindProperty(u"Tag")), longText);
 }
@@ -77,7 +73,7 @@ TEST(Edit, KeepsTheWaysOfAFormThatWasWrittenByHand) {
     label.Set(u"Caption", Text(u"|i|slanted"));
     label.Group(u"Font", u"").Set(u"Size", 12);
     label.Set(u"AutoSize", true);
-    EXPECT_EQ(document.Write().form, Golden("by_hand_edited.frm"));
+    EXPECT_EQ(document.Write().form, GoldenForm("by_hand_edited.frm"));
 }
 
 TEST(Edit, GivesAFormItsFirstCompanion) {

@@ -8,7 +8,6 @@
 namespace lumenkit::forms::testing {
 namespace {
 
-using ::testing::Property;
 using ::testing::Throws;
 
 // A font that is its description.
@@ -50,10 +49,6 @@ FontDescription Courier() {
     font.name = u"Courier";
     font.size = 9.75F;
     return font;
-}
-
-std::string Golden(const std::string& name) {
-    return ReadFile(std::filesystem::path(LUMENKIT_SOURCE_DIR) / "tests/golden/forms" / name);
 }
 
 // A form, one block and the bag over it.
@@ -173,7 +168,7 @@ TEST(FormBag, WritesChangesInTheOrderOfWriting) {
     bag.WriteProperty(u"BulletPrefix", Text(u"* "), Text());
     bag.WriteProperty(u"AutoSize", true, false);
     bag.WriteProperty(u"BackStyle", std::int16_t{0}, std::int16_t{0});
-    EXPECT_EQ(label.document.Write().form, Golden("label_bag.frm"));
+    EXPECT_EQ(label.document.Write().form, GoldenForm("label_bag.frm"));
 }
 
 // As a memo writes itself into a block that knows only its scroll bars.
@@ -190,8 +185,8 @@ TEST(FormBag, WritesNewPropertiesBehindTheExtents) {
     bag.WriteProperty(u"MaxLines", std::int16_t{4}, std::int16_t{0});
     bag.WriteProperty(u"ScrollBars", std::int32_t{3}, std::int32_t{0});
     const FormBytes written = memo.document.Write();
-    EXPECT_EQ(written.form, Golden("mdi_child_bag.frm"));
-    EXPECT_EQ(written.companion, Golden("mdi_child_bag.frx"));
+    EXPECT_EQ(written.form, GoldenForm("mdi_child_bag.frm"));
+    EXPECT_EQ(written.companion, GoldenForm("mdi_child_bag.frx"));
 }
 
 TEST(FormBag, KeepsLinesWhoseValueIsTheSame) {

@@ -26,6 +26,8 @@ const SampleForm& Sample(std::string_view name);
 std::filesystem::path SamplePath(std::string_view name);
 /// Fails the test where the file cannot be read.
 std::string ReadFile(const std::filesystem::path& path);
+/// A file of tests/golden/forms.
+std::string GoldenForm(const std::string& name);
 void WriteFile(const std::filesystem::path& path, std::string_view bytes);
 
 /// A form called "x.frm" in memory.

@@ -66,10 +66,10 @@ TEST(RuntimeError, HasTheRuntimesTextAndNoLineWhenMadeOfANumber) {
 
 TEST(Raise, ThrowsTheErrorWithItsText) {
     const auto described = [](std::int32_t number, const Text& text) {
-        return testing::Throws<RuntimeError>(
-            testing::AllOf(testing::Property(&RuntimeError::Number, number),
-                           testing::Property(&RuntimeError::Line, 0),
-                           testing::Property(&RuntimeError::Description, text)));
+        return ::testing::Throws<RuntimeError>(
+            ::testing::AllOf(::testing::Property(&RuntimeError::Number, number),
+                             ::testing::Property(&RuntimeError::Line, 0),
+                             ::testing::Property(&RuntimeError::Description, text)));
     };
     EXPECT_THAT([] { Raise(ErrorNumber::Overflow); }, described(6, u"Overflow"));
     EXPECT_THAT([] { Raise(380); }, described(380, u"Invalid property value"));

@@ -103,12 +103,12 @@ TEST(Utf8, IsRefusedWhereItIsMalformedWithThePlace) {
     for (const std::string& sound : {""s, "ab"s, "\xC3\xA9"s, "\xF0\x9F\x98\x80"s}) {
         for (const std::string& bad : malformed) {
             EXPECT_THAT([&] { FromUtf8(sound + bad); },
-                        testing::Throws<MalformedUtf8>(testing::AllOf(
-                            testing::Field(&MalformedUtf8::offset, sound.size()),
-                            testing::Property(&MalformedUtf8::what,
-                                              testing::StrEq("not valid UTF-8 at byte " +
-                                                             std::to_string(sound.size()))))))
-                << testing::PrintToString(bad);
+                        ::testing::Throws<MalformedUtf8>(::testing::AllOf(
+                            ::testing::Field(&MalformedUtf8::offset, sound.size()),
+                            ::testing::Property(&MalformedUtf8::what,
+                                                ::testing::StrEq("not valid UTF-8 at byte " +
+                                                                 std::to_string(sound.size()))))))
+                << ::testing::PrintToString(bad);
         }
     }
 }
