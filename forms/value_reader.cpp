@@ -7,6 +7,8 @@
 #include <string>
 #include <system_error>
 
+#include "frame/numbers.h"
+
 namespace lumenkit::forms {
 
 namespace {
@@ -103,7 +105,8 @@ Literal ReadNumber(Scanner& scanner) {
     if (std::from_chars(digits.data(), end, number).ec != std::errc()) {
         scanner.Fail(place, "expected a number that double precision can hold");
     }
-    return number;
+    // The C++ library's own result may be wrong in its last bit where it was compiled for x87.
+    return ParseNumber(scanner.Since(start));
 }
 
 bool IsPlainFileName(TextView name) {

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cfloat>
 #include <charconv>
 #include <cmath>
 #include <cstdlib>
@@ -23,6 +24,10 @@ bool IsSkipped(char16_t unit) {
 char16_t AsciiLower(char16_t unit) {
     return unit >= u'A' && unit <= u'Z' ? static_cast<char16_t>(unit + 32) : unit;
 }
+
+// On x87 an operation rounds twice, to the width of its registers and then to double, and the last
+// bit of the result may be wrong.
+constexpr bool operationsRoundOnce = FLT_EVAL_METHOD == 0 || FLT_EVAL_METHOD == 1;
 
 // The units of a number, one after the other, with or without the blanks between them.
 class Units {
@@ -81,8 +86,9 @@ class DecimalNumber {
         if (count_ == 0) {
             return 0.0;
         }
-        return count_ <= exactDigits && scale_ >= -exactPower && scale_ <= exactPower ? Exact()
-                                                                                      : Rounded();
+        const bool exact = operationsRoundOnce && count_ <= exactDigits && scale_ >= -exactPower &&
+                           scale_ <= exactPower;
+        return exact ? Exact() : Rounded();
     }
 
  private:
@@ -107,15 +113,19 @@ class DecimalNumber {
     double Rounded() const {
         std::array<char, maxDigits + 32> image{};
         char* end = std::copy_n(digits_.begin(), count_, image.begin());
+        const std::size_t zeros = count_ < wideDigits ? wideDigits - count_ : 0;
+        end = std::fill_n(end, zeros, '0');
         *end++ = 'e';
         // Far enough outside double's range to be certain, near enough to be a short number.
         constexpr std::int64_t farPower = 1'000'000;
-        const std::int64_t power = std::clamp(scale_, -farPower, farPower);
+        const std::int64_t power =
+            std::clamp(scale_, -farPower, farPower) - static_cast<std::int64_t>(zeros);
         end = std::to_chars(end, image.data() + image.size(), power).ptr;
         double number = 0.0;
         const auto result = std::from_chars(image.data(), end, number);
         if (result.ec == std::errc::result_out_of_range) {
-            const bool tooLarge = static_cast<std::int64_t>(count_) + power > 0;  // or too small
+            const bool tooLarge =
+                static_cast<std::int64_t>(count_ + zeros) + power > 0;  // or too small
             if (tooLarge) {
                 Raise(ErrorNumber::Overflow);
             }
@@ -124,6 +134,10 @@ class DecimalNumber {
         return number;
     }
 
+    // Digits that no double holds as a whole number. The C++ library multiplies shorter ones by
+    // their power of ten as doubles; compiled for x87, as it is for all programs of 32 bits, that
+    // rounds twice. Of so many digits it works with integers.
+    static constexpr std::size_t wideDigits = 19;
     // No double, and no midpoint between two, has more significant digits than 768.
     static constexpr std::size_t maxDigits = 770;
     std::array<char, maxDigits> digits_;
@@ -328,8 +342,14 @@ std::optional<double> ShortNumber(TextView text) {
             return std::nullopt;
         }
     }
+    if (point == TextView::npos) {
+        return digits;
+    }
+    if (!operationsRoundOnce) {
+        return std::nullopt;
+    }
     // One division of two doubles without error rounds right.
-    return point == TextView::npos ? digits : digits / powers[at - point - 1];
+    return digits / powers[at - point - 1];
 }
 
 }  // namespace

@@ -355,6 +355,19 @@ TEST(ParseNumber, AgreesWithStrtodBesideMidpointsOfEveryMagnitude) {
     }
 }
 
+// Each product of the digits and the power of ten lies so close to the middle between two doubles
+// that rounding it to 64 bits first, as x87 registers do, leads to the wrong one of them. The
+// expected values were computed with exact fractions.
+TEST(ParseNumber, RoundsOnce) {
+    EXPECT_EQ(ParseNumber(u"2.920819527489981E+23"), 0x1.eece5ae6e5a2fp+77);
+    EXPECT_EQ(ParseNumber(u"-3.43810814461863E+23"), -0x1.2338161dd532dp+78);
+    EXPECT_EQ(ParseNumber(u"2.966148453968913E+23"), 0x1.f67c2f149d59dp+77);
+    EXPECT_EQ(ParseNumber(u"2.988438385757084E+23"), 0x1.fa42db0910ba7p+77);
+    EXPECT_EQ(ParseNumber(u"5270523302510905E6"), 0x1.1db7343b34553p+72);
+    EXPECT_EQ(ParseNumber(u"1720333184608236E13"), 0x1.bcb219c09ac89p+93);
+    EXPECT_EQ(ParseNumber(u"2234349659160504D21"), 0x1.ae51f183ea08dp+120);
+}
+
 TEST(NumericValue, IsTheNumberThatTheWholeTextIs) {
     const Reading readings[] = {
         {u"5", 5},         {u" 5 ", 5},     {u"\t5\n", 5},   {u"-5", -5},
