@@ -31,7 +31,7 @@ constexpr int many = 1'000;
 
 const ClassTable classes = {.libraryName = u"lumenkit", .classes = {&lumenkit::voptlistClass, 1}};
 
-// "k0;Choice 0|k1;Choice 1 ...", about 16 units an item.
+// "k0;Choice 0|k1;Choice 1 ...", about 16 units per item.
 Text Contents(int items, TextView caption = u"Choice ") {
     Text contents;
     for (int item = 0; item < items; ++item) {
