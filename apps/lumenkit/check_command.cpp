@@ -25,7 +25,7 @@ namespace {
 using check::FileError;
 using check::Findings;
 
-// A bar for fewer would be gone before it is seen.
+// With fewer files, a progress bar would vanish before anyone sees it.
 constexpr std::size_t manyFiles = 20;
 
 struct CheckOptions {

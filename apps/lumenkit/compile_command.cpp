@@ -22,7 +22,7 @@ struct CompileOptions {
     bool json = false;
 };
 
-// Members in the order in which they are put in.
+// Keeps the members in insertion order.
 using Json = nlohmann::ordered_json;
 
 Json ToJson(const CompiledCaption& compiled) {

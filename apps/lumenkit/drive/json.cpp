@@ -16,7 +16,7 @@ namespace lumenkit::cli {
 
 namespace {
 
-// As a double with the same decimal digits: 8.4 rather than 8.39999961853.
+// Returns the double with the same decimal digits: 8.4 and not 8.39999961853.
 template <std::floating_point Number>
 double Shortest(Number number) {
     return std::isfinite(number) ? ParseNumber(Str(number)) : number;
@@ -24,7 +24,7 @@ double Shortest(Number number) {
 
 template <std::floating_point Number>
 Json NumberToJson(Number number) {
-    // Whole numbers without a point: 300, not 300.0.
+    // Whole numbers have no decimal point: 300, not 300.0.
     constexpr Number wholeBelow = 1e15F;
     const bool whole = std::abs(number) < wholeBelow && std::trunc(number) == number;
     return whole ? Json(static_cast<std::int64_t>(number)) : Json(Shortest(number));
