@@ -15,7 +15,7 @@ constexpr std::array words = {
     CommandWord{u"italic", u"i", Kind::Switch},
     CommandWord{u"ital", u"i", Kind::Switch},
     CommandWord{u"itals", u"i", Kind::Switch},
-    // Underlining is shown as italics: captions have always relied on it.
+    // The underline command sets italics.
     CommandWord{u"u", u"i", Kind::Switch},
     CommandWord{u"color", u"color", Kind::Color},
     CommandWord{u"fore", u"color", Kind::Color},
@@ -23,7 +23,7 @@ constexpr std::array words = {
     CommandWord{u"before", u"before", Kind::Before},
 };
 
-// The letters of a word, one a byte, behind a one.
+// A key packs the letters of a word, one per byte, after a leading 1.
 constexpr std::size_t mostLetters = 6;
 constexpr std::uint64_t emptyKey = 1;
 
@@ -44,13 +44,14 @@ constexpr auto keys = [] {
 
 }  // namespace
 
-// One walk up to the colon: captions are compiled often, and consist of short commands.
+// Reads the name in a single pass up to the colon: captions are compiled often and consist of short
+// commands.
 CommandName ReadCommandName(TextView command) {
     std::uint64_t key = emptyKey;
     std::size_t at = 0;
     for (; at < command.size() && command[at] != u':'; ++at) {
         const char16_t letter = LowerUnit(command[at]);
-        if (at == mostLetters || letter > u'z') {  // no word
+        if (at == mostLetters || letter > u'z') {  // not a known word
             return {command.find(u':', at), nullptr};
         }
         key = WithLetter(key, letter);
