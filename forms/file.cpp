@@ -37,7 +37,8 @@ std::string ReadBytes(const fs::path& path) {
     return bytes;
 }
 
-// New contents for a file, beside it until they take its place; gone if they never do.
+// New contents of a file. They are written next to the file and removed by the destructor unless
+// they replaced the file.
 class NewFile {
  public:
     NewFile(const fs::path& target, std::string_view bytes) : NewFile(target) {
@@ -55,7 +56,8 @@ class NewFile {
         fs::remove(beside_, gone);
     }
 
-    // Takes no memory, of which there may be none between the companion's turn and the form's.
+    // Must not allocate memory: running out of memory here would leave a new companion with an old
+    // form.
     void TakePlace() {
         std::error_code error;
         const fs::file_status old = fs::status(target_, error);
@@ -70,12 +72,13 @@ class NewFile {
     }
 
  private:
-    // Whatever happens from here on, nothing is left beside the file.
+    // A delegated constructor, so that the destructor removes the new file even if the public
+    // constructor throws.
     explicit NewFile(const fs::path& target)
         : target_(Resolved(target)), folder_(target_.parent_path()), beside_(target_) {
         beside_ += ".new";
     }
-    // Not the link is replaced but the file that it leads to.
+    // Resolves a link, so that its target is replaced instead of the link.
     static fs::path Resolved(const fs::path& path) {
         std::error_code error;
         fs::path resolved = fs::canonical(path, error);
