@@ -53,7 +53,7 @@ Outcome RunOnTerminal(const std::string& arguments, const std::string& variables
     }
     Outcome outcome;
     std::array<char, 4096> block{};
-    // Reading fails once nobody is at the other end.
+    // read() fails when the program has closed the other end.
     for (ssize_t count = 1; count > 0;) {
         count = read(terminal, block.data(), block.size());
         outcome.output.append(block.data(), count > 0 ? static_cast<std::size_t>(count) : 0);

@@ -10,7 +10,7 @@ Position CountOf(const Text& s) {
     return static_cast<Position>(s.size());
 }
 
-// The characters of s from position `from`, at most `count`.
+// Returns the characters of s from position `from`, at most `count`.
 Text Characters(const Text& s, Position from, Position count) {
     Text part;
     for (Position p = from; p < from + count && p <= CountOf(s); ++p) {
@@ -42,7 +42,7 @@ Text WithoutOuterSpaces(Text s) {
     return s;
 }
 
-// The pattern [! CR LF]: one character that is none of the three.
+// Whether s matches the pattern [! CR LF]: one character other than blank, CR and LF.
 bool MatchesPattern(const Text& s) {
     return CountOf(s) == 1 && s != u" " && s != u"\r" && s != u"\n";
 }

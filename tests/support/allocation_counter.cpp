@@ -55,7 +55,7 @@ bool AllocationFailurePending() {
 
 }  // namespace lumenkit::testing
 
-// The nothrow forms end in these. Nothing here is over-aligned.
+// The nothrow forms call these. The aligned forms stay as they are: no type here is over-aligned.
 void* operator new(std::size_t size) {
     return lumenkit::testing::Allocate(size);
 }

@@ -122,7 +122,7 @@ TEST(CaptionCheck, FindsNumbersBeyondTheirRange) {
                 ElementsAre("number-overflow@0", "number-overflow@13"));
 }
 
-// Each is in range by itself: only the compiler, which adds them up, knows.
+// Each number is in range by itself. Only the compiler, which adds them up, finds the overflow.
 TEST(CaptionCheck, FindsRelativeSpacingThatGrowsTooLarge) {
     EXPECT_THAT(RulesInCaption(u"|before:+3e38|a|before:+3e38|b|b:1|"),
                 ElementsAre("number-overflow@15"));
@@ -131,7 +131,7 @@ TEST(CaptionCheck, FindsRelativeSpacingThatGrowsTooLarge) {
 TEST(CaptionCheck, CountsLines) {
     EXPECT_THAT(RulesInCaption(Repeated(u"x|CR|", 300)), IsEmpty());
     EXPECT_THAT(RulesInCaption(Repeated(u"x|CR|", 301)), ElementsAre("too-many-lines@1505"));
-    // What the compiler ignores is not looked at.
+    // Text that the compiler ignores is not checked.
     EXPECT_THAT(RulesInCaption(Repeated(u"x|CR|", 301) + u"|blod:1|"),
                 ElementsAre("too-many-lines@1505"));
 }
@@ -143,7 +143,7 @@ TEST(CaptionCheck, CountsUnits) {
                 ElementsAre("unknown-command@0", "text-too-long@13"));
     EXPECT_THAT(RulesInCaption(Repeated(u"x|CR|", 301) + Text(40000, u'x')),
                 ElementsAre("too-many-lines@1505", "text-too-long@1505"));
-    // The end of the line stands for the closing bar, and has no position.
+    // The end of the line acts as the closing bar, which has no position.
     EXPECT_THAT(RulesInCaption(Text(32764, u'x') + u"|b:"), ElementsAre("text-too-long@0"));
 }
 

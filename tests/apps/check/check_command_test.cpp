@@ -1,4 +1,4 @@
-// "lumenkit check", output against what was written by hand.
+// "lumenkit check": compares its output with texts written by hand.
 #include <filesystem>
 #include <fstream>
 #include <string>
@@ -25,7 +25,7 @@ using Json = nlohmann::ordered_json;
 
 const std::string here = LUMENKIT_SOURCE_DIR "/tests/apps/check/";
 
-// What is written by hand names files as from this folder.
+// The texts written by hand give paths relative to this folder.
 std::string FromHere(std::string output) {
     for (auto at = output.find(here); at != std::string::npos; at = output.find(here)) {
         output.erase(at, here.size());
@@ -37,7 +37,7 @@ std::string Compact(const std::string& json) {
     return Json::parse(json).dump() + '\n';
 }
 
-// A folder of its own for each test, gone with it.
+// A separate folder for each test, removed with it.
 class CheckFolder : public ::testing::Test {
  protected:
     CheckFolder()
@@ -157,7 +157,7 @@ TEST(CheckCommand, ShowsHelpWithExamples) {
 }
 
 TEST_F(CheckFolder, CountsColumnsInTheCodePage) {
-    // In Windows-1250 every byte is a unit; as UTF-8 the two bytes of "ä" are one.
+    // In Windows-1250 every byte is a unit. In UTF-8 the two bytes of "ä" are one unit.
     Write("a.frm", FormWith("\xF8|blod:1|"));
     EXPECT_THAT(Check("--code-page 1250").output, HasSubstr("a.frm:4:15: "));
     Write("a.frm", FormWith("\xC3\xA4|blod:1|"));
@@ -182,7 +182,7 @@ TEST_F(CheckFolder, FollowsNoLinksInCircles) {
 
 TEST_F(CheckFolder, AFolderThatCannotBeReadIsAnError) {
     if (geteuid() == 0) {
-        // Permissions do not hold root back: a name that is too long does.
+        // Permissions do not stop root, so the test uses a name that is too long.
         const Outcome outcome = RunProgram("check " + std::string(5000, 'x'));
         EXPECT_EQ(outcome.status, 2);
         return;
@@ -223,7 +223,7 @@ TEST_F(CheckFolder, ShowsABarAndColorsOnATerminal) {
     const Outcome outcome = RunOnTerminal("check " + folder.string());
     EXPECT_THAT(outcome.output, StartsWith("\r\x1b[K[" + std::string(30, '.') + "] 0%"));
     EXPECT_THAT(outcome.output, HasSubstr("#"));
-    // The bar is gone before a finding is written, and at the end.
+    // The bar is erased before a finding is written, and at the end.
     EXPECT_THAT(outcome.output, HasSubstr("%\r\x1b[K\x1b[1m" + folder.string()));
     EXPECT_THAT(outcome.output, HasSubstr("\x1b[33munknown command \"blod\"\x1b[0m"));
     EXPECT_THAT(outcome.output, EndsWith("\r\n31 files checked: 1 finding\r\n"));

@@ -1,4 +1,4 @@
-// Forms that were made to break things: each is refused or checked, and never anything else.
+// Malformed forms: each one is either refused or checked.
 #include <filesystem>
 #include <random>
 #include <string>
@@ -28,7 +28,7 @@ std::vector<fs::path> FilesIn(const std::string& folder) {
     return files;
 }
 
-// Whether it could be read.
+// Returns whether the form could be read.
 bool Check(const std::string& form, const std::string& companion = {}) {
     try {
         const auto document = forms::Document::Parse(
@@ -57,7 +57,7 @@ TEST(HostileForms, WhatTheFuzzerFoundInteresting) {
     EXPECT_GT(read, 5);
 }
 
-// Bytes changed, doubled and left out in the forms of the samples and of these tests.
+// Changes, doubles and removes bytes in the forms of the samples and of these tests.
 TEST(HostileForms, DamagedForms) {
     std::mt19937 random(lumenkit::testing::TestSeed());
     const auto below = [&](std::size_t bound) { return random() % bound; };

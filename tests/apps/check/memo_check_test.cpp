@@ -33,7 +33,7 @@ TEST(MemoCheck, FindsTheFirstLineThatIsTooLong) {
 
 TEST(MemoCheck, FindsTheFirstLineTooMany) {
     EXPECT_THAT(RulesInText(u"a\r\nb\r\nc", 0, 2), ElementsAre("text-over-limits@4"));
-    // A line break behind the last line is too much already.
+    // A line break after the last line already exceeds the limit.
     EXPECT_THAT(RulesInText(u"abc\r\n", 0, 1), ElementsAre("text-over-limits@3"));
 }
 

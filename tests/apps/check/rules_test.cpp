@@ -1,4 +1,4 @@
-// Every rule is told of in the manual, and shown by a form or caption of these tests.
+// Checks that the manual and the help list every rule and that an example shows it.
 #include "apps/lumenkit/check/rules.h"
 
 #include <set>

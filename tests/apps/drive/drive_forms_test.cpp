@@ -52,7 +52,7 @@ class DriveForms : public ::testing::Test {
     cli::DriveSession session{lumenkitClasses};
 };
 
-// The sample with these lines instead of those; each must stand there once.
+// Replaces the first text of each pair by the second one. Each first text must occur exactly once.
 std::string With(std::string form,
                  std::initializer_list<std::pair<std::string, std::string>> lines) {
     for (const auto& [old, now] : lines) {
@@ -163,7 +163,8 @@ TEST_F(DriveForms, WhatTheUserTypesIsWritten) {
               "  Text = \"abc\"\n End\nEnd\n");
 }
 
-// Values at their defaults, out of range, of a wrong kind, and names that nobody reads.
+// The form has values at their defaults, out of range and of a wrong type, and names that no
+// control reads.
 TEST_F(DriveForms, WhatADesignerWouldNotWriteStays) {
     const std::string form =
         "VERSION 5.00\nBegin VB.Form F\n"

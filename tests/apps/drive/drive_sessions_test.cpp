@@ -1,4 +1,4 @@
-// Written sessions and the examples of docs/drive.md, replayed against the built program.
+// Replays written sessions and the examples of docs/drive.md with the built program.
 #include <filesystem>
 #include <set>
 #include <string>
@@ -33,7 +33,7 @@ void Replay(const Script& script, const std::string& name) {
     }
 }
 
-// Sessions and examples are replayed in a folder of their own, in which they find the sample forms.
+// Sessions and examples are replayed in a separate folder that holds the sample forms.
 class InScratchFolder : public ::testing::Test {
  protected:
     InScratchFolder() {
@@ -64,7 +64,7 @@ std::vector<std::filesystem::path> SessionFiles() {
     return files;
 }
 
-// The requests that `text` names, written as {"do":NAME.
+// Returns the requests in `text`, which are written as {"do":NAME.
 std::set<std::string> RequestsIn(const std::string& text) {
     const std::string opening = "{\"do\":\"";
     std::set<std::string> names;

@@ -1,4 +1,4 @@
-// Moving and sizing on the canvas, by mouse and by keyboard.
+// Moving and sizing controls on the canvas by mouse and by keyboard.
 #include <QTest>
 
 #include <gmock/gmock.h>
@@ -195,7 +195,7 @@ TEST(CanvasDrag, AnUndoInTheMiddleEndsTheDrag) {
 struct HandleCase {
     int across;
     int down;
-    Placement expected;  // after (16, 17) pixels, that is 240 and 255 twips
+    Placement expected;  // after a drag by (16, 17) pixels: 240 and 255 twips
 };
 
 class CanvasHandle : public ::testing::TestWithParam<HandleCase> {};

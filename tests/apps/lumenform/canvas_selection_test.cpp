@@ -1,4 +1,4 @@
-// What mouse and keyboard select on the canvas.
+// Selecting controls on the canvas by mouse and by keyboard.
 #include <QAbstractButton>
 #include <QAction>
 #include <QApplication>
@@ -17,7 +17,7 @@ namespace {
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 
-// A and B side by side, under them the frame F with C and D in it; E lies half under A.
+// A and B are side by side. Below them is the frame F with C and D in it. A covers half of E.
 const std::string nestedControls =
     "   Begin VB.CommandButton A\n Left = 150\n Top = 150\n Width = 900\n Height = 450\n"
     " TabIndex = 2\n End\n"
@@ -31,7 +31,7 @@ const std::string nestedControls =
     "   End\n"
     "   Begin VB.Label E\n Left = 600\n Top = 300\n Width = 600\n Height = 450\n End\n";
 
-// Collects what of a widget is painted anew.
+// Collects the repainted region of a widget.
 class Painted final : public QObject {
  public:
     explicit Painted(QWidget& widget) { widget.installEventFilter(this); }

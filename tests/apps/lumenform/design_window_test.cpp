@@ -1,4 +1,4 @@
-// The designer as people meet it: first screen, files, questions, running, menus.
+// The designer's window: first screen, files, questions, running, menus.
 #include "apps/lumenform/design/window/design_window.h"
 
 #include <QAction>
@@ -32,7 +32,7 @@ using ::testing::ElementsAre;
 using ::testing::HasSubstr;
 using ::testing::Not;
 
-// Presses a button of the next question, and notes what it said.
+// Presses a button of the next question, and records its text.
 class Answer {
  public:
     explicit Answer(const QString& button) {
@@ -77,7 +77,7 @@ class DesignWindowTest : public ::testing::Test {
 
     QString Path(const QString& name) const { return folder.filePath(name); }
     fs::path File(const QString& name) const { return form::PathOf(Path(name)); }
-    // A copy of a sample, with its companion.
+    // Copies a sample and its companion. Returns the path of the copy.
     QString Copy(const std::string& name) {
         for (const fs::path& source :
              {sampleForms / (name + ".frm"), sampleForms / (name + ".frx")}) {
@@ -97,7 +97,7 @@ class DesignWindowTest : public ::testing::Test {
         QTest::keyClick(QApplication::focusWidget(), Qt::Key_A, Qt::ControlModifier);
         QTest::keyClicks(QApplication::focusWidget(), QLatin1String(text));
     }
-    // A command of any menu by its title.
+    // Returns a command of any menu by its title.
     QAction& Command(const QString& title) const {
         for (QAction* action : window.findChildren<QAction*>()) {
             if (action->text().remove(u'&') == title) {
@@ -304,7 +304,7 @@ TEST_F(DesignWindowTest, RunsACopyAndComesBackToTheSame) {
     form::LiveControl& memo = *window.Running()->View().Find(u"memPrint");
     TypeKeys(*memo.Own()->Parts().Find(u"Text1", 0)->Widget(), u"x");
     EXPECT_GE(window.Running()->Log().topLevelItemCount(), 1);
-    // The desk around the form is dark, what lies on the form is not.
+    // The desk around the form is dark; the controls on the form are not.
     EXPECT_EQ(window.Running()->View().Find(u"lblPrint")->Widget().backgroundRole(),
               QPalette::Window);
     QTest::keyClick(&window, Qt::Key_F5);

@@ -1,4 +1,4 @@
-// Lines and shapes, which the form itself draws.
+// Lines and shapes, which the form draws itself.
 #include <gmock/gmock.h>
 
 #include "apps/lumenform/design/model/clipboard.h"
@@ -13,7 +13,7 @@ namespace {
 using ::testing::HasSubstr;
 using ::testing::Not;
 
-// Places are whole pixels at every scale that the tests run at.
+// In twips: a whole number of pixels at every scale at which the tests run.
 constexpr float step = 120;
 
 const QColor red(255, 0, 0);
@@ -28,13 +28,13 @@ std::string Line(int x1, int y1, int x2, int y2, const std::string& more = {}) {
            "\n X2 = " + twips(x2) + "\n Y1 = " + twips(y1) + "\n Y2 = " + twips(y2) + "\n End\n";
 }
 
-// Eight steps wide and four high, a step from the corner of the form.
+// A shape that is eight steps wide and four high, one step from the corner of the form.
 std::string Shape(const std::string& more) {
     return "   Begin VB.Shape S\n" + more +
            " Height = 480\n Left = 120\n Top = 120\n Width = 960\n End\n";
 }
 
-// What the form shows in the middle of a pixel.
+// Reads the colours of the form in the middle of pixels. Points are in steps.
 class ScaledPicture {
  public:
     explicit ScaledPicture(const std::string& inner) {
@@ -91,7 +91,7 @@ TEST(DrawnLine, IsAsItsBorderSays) {
     EXPECT_GT(left, 10);
     const ScaledPicture wide(Line(1, 5, 10, 5, " BorderStyle = 3\n BorderWidth = 9\n"));
     for (float x = 2; x < 9; x += 0.0625F) {
-        EXPECT_EQ(wide.At(x, 5), red);  // wide ones have no gaps
+        EXPECT_EQ(wide.At(x, 5), red);  // wide lines have no gaps
     }
     EXPECT_NE(ScaledPicture(Line(1, 2, 10, 2, " Visible = 0   'False\n")).At(5, 2), red);
 }
@@ -156,7 +156,7 @@ TEST(DrawnShape, HasTheFormThatIsAskedFor) {
     const auto isFilled = [](const ScaledPicture& picture, float x, float y) {
         return picture.At(x, y) == blue;
     };
-    for (int form = 0; form <= 6; ++form) {  // 6 is none and stands for a rectangle
+    for (int form = 0; form <= 6; ++form) {  // 6 is no shape and is drawn as a rectangle
         const ScaledPicture picture(shape(form));
         const bool equalSided = form == 1 || form == 3 || form == 5;
         const bool pointed = form == 0 || form == 1 || form == 6;

@@ -1,4 +1,4 @@
-// Forms on the screen: where things are, what they look like, and what is saved.
+// Forms on the screen: the places of controls, their look, and the saved form.
 #include <QApplication>
 #include <QTest>
 

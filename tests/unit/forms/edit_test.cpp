@@ -57,7 +57,7 @@ TEST(Edit, MovesTextsToTheCompanion) {
         longText += u"0123456789";
     }
     memo.Set(u"Tag", TextLiteral(longText));
-    // Writing twice gives the same: nothing is appended to what was appended.
+    // Writing twice gives the same result: the second time appends nothing more.
     for (int i = 0; i < 2; ++i) {
         const FormBytes written = document.Write();
         EXPECT_EQ(written.form, GoldenForm("memo_edited.frm"));
@@ -150,7 +150,7 @@ TEST(Edit, MovesControlsAmongTheirNeighbours) {
 
 TEST(Edit, RefusesWhatWouldBeReadAsUtf8) {
     const Document document = Sample("empty.frm").Parse();
-    document.Root().Set(u"Caption", Text(u"Ã©"));  // C3 A9, which UTF-8 has for é
+    document.Root().Set(u"Caption", Text(u"Ã©"));  // C3 A9, which is é in UTF-8
     EXPECT_EQ(RefusalOf(document),
               "empty.frm: all its characters beyond ASCII together would be read as UTF-8");
     document.Root().Set(u"Tag", Text(u"é"));
@@ -169,7 +169,7 @@ TEST(Edit, ChangesTheFirstOfSeveralOfOneName) {
 TEST(Edit, RefusesToLoseCharactersWithTheirPlace) {
     const Document document = Sample("empty.frm").Parse();
     document.Root().Set(u"Caption", Text(u"a 中"));
-    // Line 3, behind `   Caption         =   "a `.
+    // Line 3, after `   Caption         =   "a `.
     EXPECT_EQ(RefusalOf(document), "empty.frm:3:27: U+4E2D cannot be written in Windows-1252");
     document.Root().Set(u"Caption", Text(u"a ä"));
     EXPECT_EQ(RefusalOf(document), "none");

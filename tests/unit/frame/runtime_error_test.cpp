@@ -77,7 +77,7 @@ TEST(Raise, ThrowsTheErrorWithItsText) {
                 described(-2147467259, u"Application-defined or object-defined error"));
 }
 
-// What is known of `thrown` once it is in flight.
+// Throws `thrown` and returns the runtime error that CurrentError makes of it.
 template <typename Thrown>
 RuntimeError Seen(const Thrown& thrown) {
     try {

@@ -16,7 +16,7 @@ struct Pair {
     Text utf16;
 };
 
-// Both edges of every length, by hand.
+// Both edges of every length, written by hand.
 const Pair pairs[] = {
     {"", u""},
     {"\0"s, Text(1, u'\0')},
@@ -64,7 +64,7 @@ TEST(Utf8, CarriesEveryCharacterThereAndBack) {
 
 TEST(Utf8, IsRefusedWhereItIsMalformedWithThePlace) {
     const std::string malformed[] = {
-        // a continuation that continues nothing
+        // a continuation byte without a first byte
         "\x80",
         "\xBF",
         // bytes that never occur
@@ -91,7 +91,7 @@ TEST(Utf8, IsRefusedWhereItIsMalformedWithThePlace) {
         "\xF0",
         "\xF0\x9F",
         "\xF0\x9F\x98",
-        // cut by something else
+        // cut by another byte
         "\xC3x",
         "\xC3\xC3\xA9",
         "\xE2xx",

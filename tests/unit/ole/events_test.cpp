@@ -19,7 +19,7 @@ class EventsTest : public OleTest {
     ComPtr<IConnectionPoint> Events() {
         return Point(GuidOf(lumenkitClasses.Find(u"lumenkit.VMemo")->eventTable->uniqueIdentifier));
     }
-    // The memo's text box, for typing.
+    // Shows the memo and returns its text box.
     HWND Box() {
         HWND found = nullptr;
         site_.Take(memo_.Get());
@@ -62,7 +62,7 @@ TEST_F(EventsTest, ListenersMayChangeArguments) {
             EXPECT_EQ(*V_I2REF(&arguments.rgvarg[0]), 'b');
             *V_I2REF(&arguments.rgvarg[0]) = 'c';
             log_.Add("KeyPress");
-            return E_FAIL;  // nobody's business but its own
+            return E_FAIL;  // the control ignores a listener's failure
         }
         if (event == change) {
             log_.Add("Change");

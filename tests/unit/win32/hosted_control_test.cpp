@@ -1,4 +1,4 @@
-// A control's window in its container: showing, the mouse, the keyboard, and the end.
+// A control's window in its container: showing, mouse, keyboard and destruction.
 #include "runtime/win32/hosted_control.h"
 
 #include <array>
@@ -42,7 +42,7 @@ class HostedControlTest : public ::testing::Test {
     void Send(UINT message, WPARAM keys, int x, int y) {
         SendMessageW(Window(), message, keys, MAKELPARAM(x, y));
     }
-    // A key as the container's message loop sees it.
+    // Passes a key to the control, as the container's message loop does.
     bool Key(WPARAM key, UINT message = WM_KEYDOWN) {
         MSG queued = {};
         queued.hwnd = GetFocus();
@@ -59,7 +59,7 @@ class HostedControlTest : public ::testing::Test {
         std::make_unique<FormControl>(form_, PaintedClasses().classes[0], size);
 };
 
-// The keys that are held, as the platform tells them.
+// Holds a key down in the keyboard state of this thread.
 class Held {
  public:
     explicit Held(int key) {
@@ -416,7 +416,7 @@ TEST_F(KeyboardTest, KeysThatEditAreNotTheContainers) {
     EXPECT_FALSE(Key(VK_TAB)) << "the focus is elsewhere";
 }
 
-// What a dialog's message loop does by itself.
+// The message loop of a dialog finds the constituents by itself.
 TEST_F(KeyboardTest, DialogsFindTheConstituents) {
     EXPECT_EQ(GetNextDlgTabItem(form_.Window(), nullptr, FALSE), WindowOf(*text_));
     SetFocus(WindowOf(*check_));
@@ -452,7 +452,7 @@ TEST(Mnemonics, AreMarkedOnce) {
     EXPECT_FALSE(win32::AnswersTo(L"", L'x'));
 }
 
-// ---- The end
+// ---- Destruction
 
 TEST_F(HostedControlTest, LeavesNothingBehind) {
     control_.reset();

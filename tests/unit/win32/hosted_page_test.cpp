@@ -1,4 +1,4 @@
-// Property pages in windows, and all classes of the library once through.
+// Property pages in windows, and a test of every class of the library.
 #include "runtime/win32/hosted_page.h"
 
 #include <memory>
@@ -148,7 +148,7 @@ TEST_F(HostedPageTest, OutlivesItsWindow) {
     try {
         page->GetPage().PropertyPage_SelectionChanged();
     } catch (const RuntimeError&) {
-        // Errors of a page are for its host to show.
+        // The host of a page shows the errors of the page.
     }
 }
 
@@ -157,7 +157,7 @@ TEST_F(HostedPageTest, RefusesWhatIsNoPage) {
                  RuntimeError);
 }
 
-// A text that a person sees is on the screen: something else than the background is drawn.
+// Whether the control draws anything other than its background.
 bool ShowsSomething(win32::HostedControl& control) {
     Picture picture(size.cx, size.cy);
     control.Draw(picture.Device(), {0, 0, size.cx, size.cy});

@@ -43,7 +43,7 @@ class OptionButtonsWindowTest : public PartsTest {
     bool IsChecked(std::int16_t index) {
         return SendMessageW(At(index), BM_GETCHECK, 0, 0) == BST_CHECKED;
     }
-    // The elements that Tab leads to.
+    // Returns the elements that are tab stops.
     Indices TabStops() {
         Indices stops;
         for (const std::int16_t index : Indices{0, 1, 2, 3}) {

@@ -1,4 +1,4 @@
-// A control's surface on real devices: what the shared contract cannot see.
+// A control's surface on real devices: behaviour that the shared contract tests cannot check.
 #include <cmath>
 #include <memory>
 #include <string>
@@ -30,7 +30,7 @@ class SurfaceTest : public ::testing::Test {
     HWND Window() { return control_.Hosted().Window(); }
     float Pixels(int count) { return win32::ToTwips(count, form_.PixelsPerInch().x); }
 
-    // What the window shows, or would draw on a device of its size.
+    // OnScreen() returns the picture in the window. Drawn() draws on another device.
     std::unique_ptr<Picture> OnScreen() {
         UpdateWindow(Window());
         auto picture = std::make_unique<Picture>(size.cx, size.cy);
@@ -112,7 +112,7 @@ TEST_F(SurfaceTest, SystemColoursAreThoseOfThePlatform) {
     EXPECT_EQ(OnScreen()->Count(GetSysColor(COLOR_HIGHLIGHT)), size.cx * size.cy);
 }
 
-// A scheme of other colours, as high contrast is one.
+// Uses other system colours, as a high-contrast scheme does.
 TEST_F(SurfaceTest, FollowsChangedSystemColours) {
     Surface().SetBackColor(Color::WindowBackground);
     OnScreen();
@@ -194,7 +194,7 @@ TEST_F(SurfaceTest, TextKeepsItsPlaceAtAnyScale) {
     });
     const RECT plain = Drawn()->BoundsOfOthers(RGB(255, 255, 255));
     const RECT large = Drawn({600, 300})->BoundsOfOthers(RGB(255, 255, 255));
-    constexpr int tolerance = 9;  // three pixels of the plain one
+    constexpr int tolerance = 9;  // three pixels of the unscaled picture
     EXPECT_NEAR(large.left, plain.left * 3, tolerance);
     EXPECT_NEAR(large.right, plain.right * 3, tolerance);
     EXPECT_NEAR(large.bottom, plain.bottom * 3, tolerance);

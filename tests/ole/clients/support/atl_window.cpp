@@ -6,7 +6,7 @@ namespace lumenkit::clients {
 
 namespace {
 
-// The library has no import library in all tool chains.
+// Some tool chains have no import library for atl.dll.
 template <typename Function>
 Function Entry(const char* name) {
     static const HMODULE library = LoadLibraryW(L"atl.dll");

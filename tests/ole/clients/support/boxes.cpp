@@ -7,7 +7,7 @@ namespace lumenkit::clients {
 
 namespace {
 
-constexpr DWORD pause = 10;      // milliseconds between two looks
+constexpr DWORD pause = 10;      // milliseconds between two searches
 constexpr UINT patience = 2000;  // milliseconds that a window may take to answer
 
 std::wstring TextIn(HWND window) {
@@ -29,7 +29,7 @@ struct Search {
     HWND found = nullptr;
 };
 
-// A dialog box with nothing to press but one button.
+// Finds a visible dialog box of the process that is not a property sheet.
 BOOL CALLBACK FindBox(HWND window, LPARAM parameter) {
     auto& search = *reinterpret_cast<Search*>(parameter);
     DWORD process = 0;
@@ -55,7 +55,8 @@ std::wstring LongestLabel(HWND box) {
     return longest;
 }
 
-// Cuts `prefix` and the rest of its line off the front; nothing where the text starts otherwise.
+// Removes the first line if it begins with `prefix`, and returns the rest of it. Otherwise returns
+// nothing.
 std::optional<std::wstring> TakeLine(std::wstring& text, const std::wstring& prefix) {
     const std::size_t end = text.find(L"\r\n");
     if (!text.starts_with(prefix) || end == std::wstring::npos) {
