@@ -61,12 +61,17 @@ function(lumenkit_command_line name)
     endif()
 endfunction()
 
-# Compiles the headers beside the caller's CMakeLists.txt (subfolders included) each in a translation
-# unit of its own. One with a source file of its own name needs no other: that file includes it
-# first, which scripts/check_includes.py sees to.
+# lumenkit_headers_compile_alone(NAME target...)
+# Compiles each header beside the caller's CMakeLists.txt (subfolders included) in a translation unit
+# that includes nothing else. A header with a source file of the same name needs no such unit: that
+# source includes it first, as scripts/check_includes.py checks.
+option(LUMENKIT_HEADERS_ALONE "Check that each header compiles without others before it" OFF)
+if(LUMENKIT_HEADERS_ALONE)
+    add_custom_target(lumenkit_headers_alone)
+endif()
 function(lumenkit_headers_compile_alone name)
-    # Once is enough: sanitizers and counters say nothing about it, and only what is made for Windows needs it there.
-    if(NOT LUMENKIT_TESTS OR LUMENKIT_SANITIZE OR LUMENKIT_COVERAGE OR
+    # Portable headers are checked by the native build.
+    if(NOT LUMENKIT_HEADERS_ALONE OR
        (WIN32 AND NOT CMAKE_CURRENT_SOURCE_DIR MATCHES "/runtime/(win32|ole)$"))
         return()
     endif()
@@ -84,7 +89,9 @@ function(lumenkit_headers_compile_alone name)
     endforeach()
     if(units)
         add_library(${name}_headers OBJECT ${units})
+        set_target_properties(${name}_headers PROPERTIES UNITY_BUILD OFF)
         target_link_libraries(${name}_headers PRIVATE lumenkit_settings ${ARGN})
         target_compile_options(${name}_headers PRIVATE -O0)
+        add_dependencies(lumenkit_headers_alone ${name}_headers)
     endif()
 endfunction()

@@ -13,7 +13,7 @@ namespace lumenkit::ole {
 
 namespace {
 
-constexpr WORD assigning = DISPATCH_PROPERTYPUT | DISPATCH_PROPERTYPUTREF;
+constexpr WORD assignment = DISPATCH_PROPERTYPUT | DISPATCH_PROPERTYPUTREF;
 
 DISPID ParameterNumber(const Member& member, TextView name) {
     for (std::size_t index = 0; index < member.parameters.size(); ++index) {
@@ -34,7 +34,7 @@ void CheckShape(const DispatchCall& call) {
 
 // Returns how the member is to be used. Throws DISP_E_MEMBERNOTFOUND if it cannot be used that way.
 InvokeKind KindOf(const Member& member, const DispatchCall& call) {
-    if ((call.flags & assigning) != 0) {
+    if ((call.flags & assignment) != 0) {
         if (member.assign == nullptr) {
             throw ComError(DISP_E_MEMBERNOTFOUND);
         }

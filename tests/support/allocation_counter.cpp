@@ -7,13 +7,13 @@ namespace lumenkit::testing {
 
 namespace {
 
-std::int64_t count = 0;
+std::int64_t allocations = 0;
 std::int64_t liveCount = 0;
 std::size_t bytes = 0;
 std::int64_t untilFailure = 0;
 
 void* Allocate(std::size_t size) {
-    ++count;
+    ++allocations;
     bytes += size;
     if (untilFailure > 0 && --untilFailure == 0) {
         throw std::bad_alloc();
@@ -34,7 +34,7 @@ void Free(void* memory) {
 }  // namespace
 
 std::int64_t AllocationCount() {
-    return count;
+    return allocations;
 }
 
 std::int64_t LiveAllocations() {

@@ -45,7 +45,7 @@ class EventsTest : public OleTest {
 };
 
 constexpr DISPID keyPress = 4;
-constexpr DISPID change = 9;
+constexpr DISPID changeEvent = 9;
 
 TEST_F(EventsTest, ListenersMayChangeArguments) {
     container::EventSink first([&](DISPID event, DISPPARAMS& arguments) {
@@ -64,7 +64,7 @@ TEST_F(EventsTest, ListenersMayChangeArguments) {
             log_.Add("KeyPress");
             return E_FAIL;  // the control ignores a listener's failure
         }
-        if (event == change) {
+        if (event == changeEvent) {
             log_.Add("Change");
         }
         return S_OK;
@@ -93,7 +93,7 @@ TEST_F(EventsTest, ListenersMayLeaveWhileTheyAreTold) {
         return S_OK;
     });
     container::EventSink first([&](DISPID event, DISPPARAMS&) {
-        if (event == change) {
+        if (event == changeEvent) {
             log_.Add("first");
             Events()->Unadvise(two);
             Events()->Unadvise(one);
