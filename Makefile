@@ -1,12 +1,15 @@
 # Every target installs what it needs and works on a fresh Debian 12 machine.
 .DEFAULT_GOAL := help
-.PHONY: run test bench ocx run-ocx fuzz lint format golden published screenshots package analyse coverage clean help
+.PHONY: run test prove bench ocx run-ocx fuzz lint format golden published screenshots package analyse coverage clean help
 
 run: ## do the main job: open a form with the three controls in the designer
 	@scripts/run.sh
 
-test: ## everything: builds, tests, sanitizers, cross-compilation, checks
+test: ## what a change must pass: all tests, native and for Windows (x64)
 	@scripts/test.sh
+
+prove: ## what a release must pass besides: x86, sanitizers, fuzzing, lint, reproducibility, packages
+	@scripts/prove.sh
 
 bench: ## measure, and print each figure as a ratio to a peer or a bound
 	@scripts/bench.sh

@@ -1,5 +1,5 @@
-// Compiling captions, against Pango's markup parser on the same texts, and against itself: how the
-// cost of a unit grows with the caption, and what the worst captions cost.
+// Benchmarks of the caption compiler: against Pango's markup parser on the same texts, the growth
+// of the cost per unit with the length of the caption, and the cost of the worst captions.
 #include <cstdio>
 #include <cstdlib>
 #include <functional>
@@ -32,7 +32,7 @@ using lumenkit::bench::Ratio;
 using lumenkit::bench::Side;
 using lumenkit::bench::Texts;
 
-// Nothing here fails; a report would spoil the figures.
+// Stops the program at the first message: an error would distort the figures.
 class NoHost final : public lumenkit::host::Application, public lumenkit::host::Interaction {
  public:
     Text ExeName() override { return u"bench"; }
@@ -55,7 +55,7 @@ class Compiling {
                 unitsOfARound};
     }
 
-    // Measured by the text unit.
+    // The figures are per text unit.
     Side Units(const std::vector<Text>& captions) {
         double units = 0;
         for (const Text& caption : captions) {
@@ -102,7 +102,8 @@ Text Repeated(TextView text, int count) {
     return repeated;
 }
 
-// Commands that the line's end closes, as long as they can be.
+// Captions with one unterminated command, which the end of the caption closes, of nearly the
+// maximum length.
 std::vector<Text> UnterminatedCommands() {
     MarkedTexts texts;
     std::vector<Text> captions;

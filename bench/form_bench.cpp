@@ -1,6 +1,6 @@
-// Forms on Qt: opening one of 300 controls, until it is on the screen and gone again, and dragging
-// one of them over the others while the form is designed. The peers are as many widgets of the same
-// kinds, in the same places, by nothing but Qt.
+// Benchmarks of forms on Qt: opening and closing a form of 300 controls, painting included, and
+// dragging one of the controls over the others in the designer. The peers are plain Qt widgets of
+// the same number, kinds and places.
 #include <QApplication>
 #include <QCheckBox>
 #include <QLabel>
@@ -110,10 +110,10 @@ Side OpeningPlainForm() {
             controls};
 }
 
-constexpr int events = 20;  // a round; there and back in turn
+constexpr int events = 20;  // per round; down and up in turn
 constexpr int distance = 80;
 
-// A form on its canvas, and a mouse that holds the first control.
+// A form on a design canvas, with the mouse button held down on the first control.
 class Dragged {
  public:
     explicit Dragged(QtStage& stage) : design_(stage.Context(), ParseForm(FormText())) {
@@ -146,7 +146,7 @@ class Dragged {
     QPoint start_;
 };
 
-// Twice as far every other time, so that each event moves the control.
+// Alternates between two distances, so that each event moves the control.
 template <typename Move>
 void MoveInTurn(const Move& move) {
     for (int event = 0; event < events; ++event) {

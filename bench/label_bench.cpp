@@ -1,6 +1,7 @@
-// Drawing captions on the memory runtime, whose own work, keeping a list of what is drawn, is part
-// of all rows: against replaying such a list, against what can be seen of it, against Pango's
-// layout, and how the cost of a unit grows with the caption.
+// Benchmarks of drawing captions on the memory runtime: against replaying the display list, against
+// drawing only the visible part, against Pango's layout, and the growth of the cost per unit with
+// the length of the caption. All rows include the work of the memory runtime, which keeps the
+// display list.
 #include <cstdio>
 #include <cstdlib>
 #include <functional>
@@ -40,8 +41,8 @@ constexpr int pangoWrapWidth = 200 * PANGO_SCALE;
 
 const ClassTable classes = {.libraryName = u"lumenkit", .classes = {&lumenkit::vlabelClass, 1}};
 
-// A wrapping label that was painted once. Stops the program where that reports an error, such as
-// more height than a label can have.
+// A label with word wrap that has been painted once. Ends the program if painting reports an error,
+// for example a height over the maximum.
 class PlacedLabel {
  public:
     explicit PlacedLabel(const Text& caption, float width = wrapWidth, float fontSize = 10) {
@@ -62,7 +63,7 @@ class PlacedLabel {
     VLabel& Label() { return static_cast<VLabel&>(placed_.GetControl()); }
     memory::Surface& Surface() { return placed_.Drawing(); }
     void Paint() { lumenkit::bench::Keep(&placed_.Paint()); }
-    /// Repaints, as the label has been painted before.
+    /// Also repaints, because the label has been painted before.
     void Assign(const Text& caption) { Label().pLetCaption(caption); }
 
  private:
@@ -74,7 +75,7 @@ std::shared_ptr<PlacedLabel> NewLabel(const Text& caption) {
     return std::make_shared<PlacedLabel>(caption);
 }
 
-// What a label has drawn, drawn again on the same surface by nothing but the calls needed for it.
+// Draws the display list of a label again on the same surface, with only the calls that it needs.
 class Replay {
  public:
     explicit Replay(std::shared_ptr<PlacedLabel> label) : label_(std::move(label)) {
@@ -139,7 +140,8 @@ Side Repaint(const Text& caption) {
     return {[label = NewLabel(caption)] { label->Paint(); }};
 }
 
-// In a font so small that the longest caption is not too high; measured by the text unit.
+// Uses a font so small that the longest caption does not exceed the maximum height. The figures are
+// per text unit.
 Side RepaintUnits(const Text& caption, int unitsOfALine) {
     constexpr float fontSize = 1;
     const float width = static_cast<float>(unitsOfALine * memory::unitWidthPerPoint) * fontSize;
@@ -147,7 +149,7 @@ Side RepaintUnits(const Text& caption, int unitsOfALine) {
             static_cast<double>(caption.size())};
 }
 
-// The label draws within the height that its surface shows.
+// Repaints a label of which the surface shows only the part above `visibleBottom`.
 Side RepaintVisible(const Text& caption, float visibleBottom) {
     auto label = NewLabel(caption);
     label->Surface().SetVisibleBottom(visibleBottom);
@@ -171,7 +173,7 @@ Side Reassign(const Text& caption) {
     return {[label = NewLabel(caption), caption] { label->Assign(caption); }};
 }
 
-// Pango's own: markup to lines, with glyphs chosen but none drawn.
+// Pango's layout of markup into lines: it chooses the glyphs and draws none.
 class PangoLayouts {
  public:
     PangoLayouts()
@@ -207,7 +209,7 @@ Side Pango(std::vector<Marked> texts) {
             captionCount};
 }
 
-// A title, bulleted items and commands, `lines` of them.
+// A caption of `lines` lines: a title, then bulleted items with commands.
 Text Document(int lines) {
     MarkedTexts texts;
     Text document = u"|B:1|Title|B:0|";
@@ -217,12 +219,12 @@ Text Document(int lines) {
     return document;
 }
 
-// One line of words and nothing else.
+// One line of words without commands.
 Text OneLine(int units) {
     return lumenkit::FromUtf8(MarkedTexts().Words(units));
 }
 
-// Runs of words between commands, on one line.
+// One line of words with many commands.
 Text ManyRuns(int units) {
     MarkedTexts texts;
     Text line;

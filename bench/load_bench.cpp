@@ -1,9 +1,9 @@
-// Loading the component server and making its first object, against controls that come with Wine:
-// the script control, which shows nothing, and the web browser, which has a window later. They are
-// in-process servers that load nothing but the platform's own libraries, and all objects have
-// IPersistStreamInit. A round ends with everything released and the library unloaded, so that the
-// next one is a first one again. The program has a window and OLE's libraries, as every container
-// does.
+// Benchmarks of loading the component server and creating its first object, against controls that
+// come with Wine: the script control, which has no window, and the web browser, which creates its
+// window later. These are in-process servers that load only libraries of the platform, and their
+// objects have IPersistStreamInit. Each round releases all objects and unloads the library, so that
+// the next round loads it again. The program has a window and has loaded OLE's libraries, as every
+// container has.
 #include <string>
 
 #include <ocidl.h>
@@ -64,7 +64,7 @@ Side Loading(const Component& component) {
 
 int main(int argc, char** argv) {
     OleInitialize(nullptr);
-    SysFreeString(nullptr);  // so that the library is there
+    SysFreeString(nullptr);  // loads oleaut32.dll
     const HWND window = CreateWindowExW(0, L"STATIC", L"container", WS_OVERLAPPEDWINDOW, 0, 0, 300,
                                         200, nullptr, nullptr, GetModuleHandleW(nullptr), nullptr);
     const auto against = [](const std::string& name, const Component& other) {

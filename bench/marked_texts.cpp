@@ -26,7 +26,7 @@ const Named& Of(const Table& table, int index) {
 
 }  // namespace
 
-// How a run of text looks.
+// The style of a run of text.
 struct MarkedTexts::Style {
     bool bold = false;
     bool italic = false;

@@ -1,4 +1,4 @@
-// The same texts as captions, in Pango's markup and in HTML.
+// Sample texts in three forms: captions, Pango markup and HTML.
 #pragma once
 
 #include <cstddef>
@@ -10,24 +10,26 @@
 
 namespace lumenkit::bench {
 
-/// More than the processor's predictors learn by heart.
+/// More captions than the processor's branch predictors can remember.
 inline constexpr int captionCount = 64;
 
-/// One text in all languages.
+/// One text in the three forms.
 struct Marked {
     Text caption;
     std::string markup;
     std::string html;
 };
 
-/// Texts whose runs each differ from the run before in one thing: bold, italics, colour or size. A
-/// caption says just that; markup puts tags around each run for all that is not as usual.
+/// Generates texts in which each run differs from the previous run in one attribute: bold, italic,
+/// colour or size. A caption holds only the command for that change. Markup and HTML put tags
+/// around each run for all attributes that are not the default.
 class MarkedTexts {
  public:
-    /// `runs` runs; the caption comes to about `units` units, with a line break every ten runs.
+    /// A text of `runs` runs whose caption has about `units` units, with a line break every ten
+    /// runs.
     Marked Next(int units, int runs);
-    /// The least that can be marked: every second of `runs` runs is bold, in tags of its own, and
-    /// the one behind it takes that back.
+    /// A text with the least markup: every second run is bold, in separate tags, and the run after
+    /// it is plain again.
     Marked NextPlain(int units, int runs);
 
     std::string Words(int length);
@@ -41,10 +43,10 @@ class MarkedTexts {
     static std::string Html(const std::string& words, const Style& style);
     int Below(std::size_t bound) { return static_cast<int>(random_() % bound); }
 
-    std::mt19937 random_;  // the same texts each time
+    std::mt19937 random_;  // default seed: every program run makes the same texts
 };
 
-/// As many as captionCount.
+/// captionCount texts.
 std::vector<Marked> Texts(int units, int runs);
 std::vector<Marked> PlainTexts(int units, int runs);
 

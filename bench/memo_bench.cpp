@@ -1,5 +1,6 @@
-// Holding texts to limits, against a plain copy and a plain search for line breaks in the same
-// text, and against itself: how the cost of a unit grows with the text, and what cuts cost.
+// Benchmarks of restricting texts to limits: against a plain copy of the text, against a plain
+// search for its line breaks, the growth of the cost per byte with the length of the text, and the
+// cost of cuts.
 #include <algorithm>
 #include <cstdlib>
 #include <cstring>
@@ -30,7 +31,7 @@ using lumenkit::bench::Side;
 constexpr std::size_t kilobyte = 1024;
 constexpr std::size_t megabyte = kilobyte * kilobyte;
 
-// So many bytes of lines of half to one and a half times `length` units.
+// About `bytes` bytes of text in lines of half to one and a half times `length` units.
 Text Lines(std::size_t bytes, int length) {
     std::mt19937 random(1);
     std::uniform_int_distribution<int> lengths(length / 2, length + length / 2);
@@ -47,8 +48,8 @@ Side PerByte(std::function<void()> round, const Text& text) {
     return {std::move(round), static_cast<double>(text.size() * sizeof(char16_t))};
 }
 
-// Holds a text to limits in which it fits: the length of its longest lines and, up to a megabyte,
-// the number of lines.
+// Restricts a text to limits that it does not exceed: the length of its longest line and, for texts
+// of up to a megabyte, a number of lines.
 Side Holding(std::shared_ptr<const Text> text, int lineLength) {
     const TextLimits limits = {
         .maxCharsPerLine = static_cast<std::int16_t>(lineLength + lineLength / 2),
@@ -120,8 +121,9 @@ void CompareGrowth(int lineLength) {
          .aim = ""});
 }
 
-// Lines of 50 units, each of which loses one: a line is measured from as many units further on as
-// the line before it lost, so every line but the first is two units too long.
+// Lines of 50 units with their line ends, each of which loses one unit. The measuring of a line
+// starts as many units late as the previous line lost, so every line but the first is two units too
+// long.
 Text OverlongLines(int count, bool blank) {
     const char16_t surplus = blank ? u' ' : u'x';
     Text text = Text(48, u'x') + surplus + Text(crLf);

@@ -6,7 +6,7 @@
 
 namespace lumenkit::bench {
 
-/// A text of so many units for a memo: lines of 30 to 90 units, always the same ones.
+/// A text of `units` units for a memo: lines of 30 to 90 units, the same at every call.
 Text MemoLines(std::size_t units);
 
 }  // namespace lumenkit::bench

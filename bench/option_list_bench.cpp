@@ -1,6 +1,7 @@
-// The option list: what an item costs to parse and to set up, how that grows with the list, and
-// what assigning contents again costs against making the list anew. On the memory runtime, whose
-// own work is part of all but the parsing: it finds a button among n in log n steps.
+// Benchmarks of the option list on the memory runtime: the cost of an item to parse and to set up,
+// the growth of that cost with the list, and assigning contents again against creating the list
+// again. All rows but the parsing include the work of the memory runtime, which finds a button
+// among n in log n steps.
 #include <array>
 #include <functional>
 #include <memory>
@@ -30,7 +31,7 @@ constexpr int many = 1'000;
 
 const ClassTable classes = {.libraryName = u"lumenkit", .classes = {&lumenkit::voptlistClass, 1}};
 
-// "k0;Choice 0|k1;Choice 1 ...", about 16 units an item.
+// "k0;Choice 0|k1;Choice 1 ...", about 16 units per item.
 Text Contents(int items, TextView caption = u"Choice ") {
     Text contents;
     for (int item = 0; item < items; ++item) {
@@ -53,7 +54,7 @@ class PlacedList {
     memory::PlacedControl placed_{form_, lumenkit::voptlistClass, {.isLogged = false}};
 };
 
-// Rounds over few items are repeated until as many items as in a long list have been gone through.
+// Repeats short lists until a round has handled `many` items.
 Side Repeated(int items, std::function<void()> once) {
     return {[once = std::move(once), items] {
                 for (int done = 0; done < many; done += items) {
@@ -72,7 +73,7 @@ Side Parsing(int items) {
     });
 }
 
-// A list to which two contents are assigned in turn.
+// Assigns two contents to a list in turn.
 Side Alternating(int items, Text first, Text second) {
     struct Lists {
         PlacedList list;
@@ -100,7 +101,7 @@ Side ChangingOne(int items) {
     return Alternating(items, contents, changed);
 }
 
-// A new control with these items, until it is gone again.
+// Creates a control, gives it these items and destroys it.
 Side MakingAnew(int items) {
     return Repeated(items, [contents = Contents(items)] { PlacedList().Assign(contents); });
 }

@@ -20,7 +20,7 @@ double TimeOf(const Side& side, int rounds) {
     return SecondsNow() - start;
 }
 
-// How many rounds make a batch long enough for the clock. Warms the side up, too.
+// The number of rounds in a batch that is long enough for the clock. Also warms the side up.
 int RoundsOfABatch(const Side& side) {
     int rounds = 1;
     while (TimeOf(side, rounds) < secondsOfABatch) {
@@ -33,7 +33,7 @@ double TimeOfAUnit(const Side& side, int rounds) {
     return TimeOf(side, rounds) / rounds / side.units;
 }
 
-// The value that a quarter, half or three quarters of the values lie below.
+// The lower quartile, median or upper quartile of `values`, for `quarters` from 1 to 3.
 double Quartile(std::vector<double> values, std::size_t quarters) {
     const auto at = values.begin() + static_cast<std::ptrdiff_t>(values.size() * quarters / 4);
     std::nth_element(values.begin(), at, values.end());

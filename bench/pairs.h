@@ -6,7 +6,8 @@
 
 namespace lumenkit::bench {
 
-/// What a comparison came to: medians, and the quartiles of the ratio. Times in seconds a unit.
+/// The result of a comparison: medians, and the quartiles of the ratio. Times are in seconds per
+/// unit.
 struct Outcome {
     double ours = 0;
     double other = 0;
@@ -15,7 +16,7 @@ struct Outcome {
     double high = 0;
 };
 
-/// Measures both sides of a comparison in turn. The comparison must outlive it.
+/// Measures both sides of a comparison in turn. The comparison must outlive this object.
 class Pairs {
  public:
     /// Enough for a median and quartiles.

@@ -1,4 +1,4 @@
-// What Pango's own rich text costs to repaint, against replaying its glyphs: a neighbour for the
+// Benchmarks of repainting Pango's rich text, against replaying its glyphs: a reference for the
 // same figures of labels.
 #include <memory>
 #include <string>
@@ -71,7 +71,7 @@ class Picture {
 
  private:
     struct Run {
-        PangoFont* font;  // the layout's
+        PangoFont* font;  // owned by the layout
         PangoGlyphString* glyphs;
         double x;
         double y;

@@ -1,5 +1,4 @@
-// Labels on Qt, against Qt's rich text and against drawing the very glyphs that come out and
-// nothing else.
+// Benchmarks of labels on Qt: against Qt's rich text, and against drawing only the same glyphs.
 #include <QImage>
 #include <QPainter>
 #include <QTextBlock>
@@ -48,7 +47,7 @@ QImage NewImage(QSize size) {
     return {size, QImage::Format_ARGB32_Premultiplied};
 }
 
-// ---- Glyphs that stand where they were drawn
+// ---- Glyphs with their places
 
 struct Drawn {
     QPointF place;
@@ -68,7 +67,7 @@ void Replay(QPainter& painter, const QRect& exposed, const std::vector<Drawn>& d
     }
 }
 
-// What a label makes of the lines.
+// The glyphs that a label draws for the lines.
 std::vector<Drawn> GlyphsOf(qt::Surface& surface, const std::vector<StyledLine>& lines,
                             double scale) {
     const auto font = qt::Font::From(surface.CurrentFont())->Clone();
@@ -91,7 +90,7 @@ std::vector<Drawn> GlyphsOf(qt::Surface& surface, const std::vector<StyledLine>&
     return drawn;
 }
 
-// What rich text makes of them.
+// The glyphs that rich text draws for the document.
 std::vector<Drawn> GlyphsOf(const QTextDocument& document) {
     std::vector<Drawn> drawn;
     for (QTextBlock block = document.begin(); block.isValid(); block = block.next()) {
@@ -114,10 +113,10 @@ class Label {
  public:
     Label(QtStage& stage, const Text& caption, const host::Placement& where = place)
         : label_(stage.Place(u"VLabel", where, window_)) {
-        label_->Drawing().Refresh();  // before it is painted once, changes do not repaint it
+        label_->Drawing().Refresh();  // changes repaint it only after the first painting
         Assign(caption);
     }
-    // Where a label lays its caption out and draws nothing.
+    // Moves the label to a place where it lays its caption out and draws nothing.
     void MoveOutOfSight() {
         host::Placement away = label_->Place();
         away.left = 30'000;
@@ -145,7 +144,7 @@ std::vector<StyledLine> Lines(int count) {
     return StyledLines(texts, count);
 }
 
-// Repaints what is exposed of `count` lines; nothing exposed is said: everything is.
+// Repaints the exposed part of `count` lines, or all of them if `exposed` is null.
 Side Repaint(QtStage& stage, int count, QRect exposed = {}) {
     auto label = std::make_shared<Label>(stage, CaptionOf(Lines(count)));
     auto image = std::make_shared<QImage>(NewImage(label->Size()));
@@ -271,7 +270,7 @@ Side CompileAndWrap(QtStage& stage, std::vector<Text> captions) {
             captionCount};
 }
 
-// ---- Another caption, until it is on the screen
+// ---- Assigning another caption, painting included
 
 // A widget that draws prepared glyphs.
 class ReplayWidget final : public QWidget {

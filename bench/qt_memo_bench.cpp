@@ -1,6 +1,6 @@
-// A keystroke in a memo on Qt that holds its text to limits, against Qt's plain text box with a
-// slot that takes the text and looks whether it is within them. Both until the text has been
-// looked at and what is to be drawn anew is drawn.
+// Benchmarks of a keystroke in a memo on Qt that restricts its text to limits, against a
+// QPlainTextEdit with a slot that reads the text and checks it against the limits. Both sides
+// include the check and the repaint.
 #include <QApplication>
 #include <QKeyEvent>
 #include <QPlainTextEdit>
@@ -72,7 +72,7 @@ class Memo {
     qt::TextEdit& edit_ = dynamic_cast<qt::TextBox&>(*memo_->Parts().Find(u"Text1", 2)).Edit();
 };
 
-// Whether the text is within the limits, as one would write it down with Qt.
+// Checks the limits in the way that is usual with Qt.
 bool IsWithinLimits(const QString& text) {
     int lines = 0;
     for (qsizetype start = 0; start <= text.size(); ++lines) {

@@ -1,5 +1,5 @@
-// The option list on Qt: making one, until it is on the screen and gone again, against as many
-// radio buttons without a control around them; and assigning contents again.
+// Benchmarks of the option list on Qt: creating and destroying a list, painting included, against
+// the same number of radio buttons without a control around them; and assigning contents again.
 #include <QApplication>
 #include <QGroupBox>
 #include <QRadioButton>
@@ -39,7 +39,7 @@ Text Contents(int items) {
     return contents.substr(1);
 }
 
-// Short lists are repeated until as many items as in a long one have been made.
+// Repeats short lists until a round has made `many` items.
 Side Repeated(int items, std::function<void()> once) {
     return {[once = std::move(once), items] {
                 for (int done = 0; done < many; done += items) {
@@ -49,7 +49,7 @@ Side Repeated(int items, std::function<void()> once) {
             many};
 }
 
-// As a form loads it.
+// Creates the list from saved properties, as a form does.
 Side Making(QtStage& stage, int items) {
     auto saved = std::make_shared<lumenkit::memory::PropertyBag>();
     saved->Store(u"Contents", Contents(items));
@@ -59,7 +59,7 @@ Side Making(QtStage& stage, int items) {
     });
 }
 
-// A box full of buttons in the same places, by nothing but Qt.
+// Creates a plain Qt group box with buttons in the same places.
 void MakeBare(StageWindow& window, int items) {
     constexpr int width = 396;
     constexpr int height = 16;
@@ -78,7 +78,7 @@ Side MakingBare(int items) {
         items, [items, window = std::make_shared<StageWindow>()] { MakeBare(*window, items); });
 }
 
-// The text of one item, in the middle, is another one each time.
+// Each assignment changes the text of one item, in the middle.
 Side ChangingOne(QtStage& stage, int items) {
     struct List {
         StageWindow window;

@@ -15,7 +15,7 @@ namespace {
 
 constexpr QSize windowSize(800, 800);
 
-// Before the application is made.
+// Selects the platform plugin "offscreen". Called before the application is created.
 int& WithoutScreen(int& count) {
     if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) {
         qputenv("QT_QPA_PLATFORM", "offscreen");

@@ -1,4 +1,4 @@
-// What benchmarks of controls on Qt stand on: an application without a screen, and windows.
+// The environment of the benchmarks on Qt: an application without a screen, and windows.
 #pragma once
 
 #include <QApplication>
@@ -14,8 +14,9 @@
 
 namespace lumenkit::bench {
 
-/// Also the application: one a program. Nobody listens to the controls' events. An error that a
-/// control reports stops the program, as it would spoil the figures.
+/// Creates the application, so a program can have only one stage. Ignores the events of the
+/// controls. Ends the program when a control reports an error, because an error would distort the
+/// figures.
 class QtStage final : public qt::ControlSite,
                       private host::Container,
                       private host::Ambient,
@@ -24,8 +25,9 @@ class QtStage final : public qt::ControlSite,
     QtStage();
 
     const qt::Context& Context() const { return context_; }
-    /// A started control of the class ("VLabel") on the window, at that place (twips); saved
-    /// settings make a saved one. It must not outlive the stage.
+    /// Creates and starts a control of the class (such as "VLabel") in `window`, with its place in
+    /// twips. With `saved`, the control loads its properties from that bag. The control must not
+    /// outlive the stage.
     std::unique_ptr<qt::ControlWidget> Place(TextView className, const host::Placement& placement,
                                              QWidget& window, host::PropertyBag* saved = nullptr);
 
@@ -49,11 +51,12 @@ class QtStage final : public qt::ControlSite,
     qt::Context context_;
 };
 
-/// A shown window. Whatever has one of its own is covered by nothing.
+/// A visible top-level window. Each benchmark has its own, so that its widgets are not covered by
+/// those of another benchmark.
 class StageWindow final : public QWidget {
  public:
     StageWindow();
-    /// Handles what events there are and paints the window as a whole.
+    /// Handles the pending events and repaints the whole window.
     void ShowNow();
 };
 

@@ -1,4 +1,4 @@
-// The table's rows, in Markdown.
+// Prints the rows of the table in Markdown.
 #pragma once
 
 #include "bench/pairs.h"

@@ -71,7 +71,7 @@ int RunComparisons(int argc, char** argv) {
     }
     RatioTable table;
     benchmark::RunSpecifiedBenchmarks(&table);
-    Comparisons().clear();  // what they hold may need what main holds
+    Comparisons().clear();  // the sides may use objects that main destroys
     return 0;
 }
 

@@ -1,8 +1,8 @@
-// Benchmarks that measure a ratio: our work against a peer's, or against a bound of our own.
+// Benchmarks that measure a ratio: lumenkit's work against the work of a peer or against a bound.
 //
-// Both sides run in turn, in pairs, so that what disturbs the machine disturbs both; the median of
-// the pairs counts, and the spread says between what half of them lie. All ratios of a program end
-// in one table, in Markdown.
+// Both sides run in turn, in pairs, so that disturbances on the machine affect both. The ratio is
+// the median of all pairs. The spread is the range from the lower to the upper quartile. All ratios
+// of a program end in one table, in Markdown.
 #pragma once
 
 #include <functional>
@@ -10,12 +10,12 @@
 
 namespace lumenkit::bench {
 
-/// One side of a ratio. A round is the shortest thing worth timing, such as one pass over all
-/// captions; `units` says how many units (calls, or text units) a round is.
+/// One side of a ratio. A round is the shortest work worth timing, such as one pass over all
+/// captions. `units` is the number of units (calls or text units) in a round.
 struct Side {
     std::function<void()> round;
     double units = 1;
-    std::function<void()> prepare = {};  ///< before each batch of rounds; takes no time
+    std::function<void()> prepare = {};  ///< runs before each batch of rounds; is not timed
 };
 
 enum class Ratio {
@@ -23,7 +23,7 @@ enum class Ratio {
     TimesSlower,  ///< ours / other
 };
 
-/// One row of the table: what, ours, other, ratio, spread and aim; times for a unit.
+/// One row of the table: what, ours, other, ratio, spread and aim. Times are per unit.
 struct Comparison {
     std::string what;
     std::string unit;
@@ -36,12 +36,12 @@ struct Comparison {
 /// Registers `comparison` as a benchmark.
 void AddComparison(Comparison comparison);
 
-/// Runs what is registered and prints the table; the body of main. Understands the options of
-/// Google Benchmark (on Windows of --benchmark_filter). The table gives no verdict: the result is 0
-/// unless the options are wrong.
+/// Runs the registered benchmarks and prints the table. This is the body of main. Accepts the
+/// options of Google Benchmark (on Windows only --benchmark_filter). The table has no verdict:
+/// returns 0 unless the options are wrong.
 int RunComparisons(int argc, char** argv);
 
-/// Keeps the compiler from leaving out the work that `value` comes from.
+/// Keeps the compiler from removing the work that produces `value`.
 void Keep(const void* value);
 
 }  // namespace lumenkit::bench

@@ -1,5 +1,5 @@
-// What repainting a label costs on Windows, against a window that makes the same calls of the
-// platform by heart (the same texts, fonts and boxes, put together in a bitmap and shown), and
+// Benchmarks of repainting a label on Windows: against a window that replays the drawing calls of
+// the label (the same texts, fonts and boxes, drawn in a bitmap and copied to the screen), and
 // against a rich edit control with the same runs.
 #include <algorithm>
 #include <cstdint>
@@ -29,14 +29,14 @@ constexpr int width = 310;
 constexpr int runsOfALine = 4;
 constexpr int lineHeight = 20;
 
-// Side by side, so that none covers another one; the label is the first.
+// The windows are side by side, so that none covers another one. The label is the first.
 RECT Place(int column, int height) {
     constexpr int top = 20;
     const int left = top + column * (width + top);
     return {left, top, left + width, top + height};
 }
 
-// The calls, as a program would write them down.
+// One drawing call of the label.
 struct Call {
     HFONT font = nullptr;  // null: a box
     COLORREF color = 0;
@@ -125,7 +125,7 @@ class ByHeart final : public win32::Window {
     std::vector<Call> calls_;
 };
 
-// Runs of about ten units, each in another style than the one before it.
+// Runs of about ten units, each in another style than the previous one.
 Text CaptionOf(int runs) {
     const std::vector<Text> styles = {u"|B:1|", u"|I:1|", u"|Fore:200,0,0|", u"|Size:12|",
                                       u"|B:0|", u"|I:0|", u"|Fore:0,0,200|", u"|Size:8|"};
@@ -137,8 +137,8 @@ Text CaptionOf(int runs) {
     return caption;
 }
 
-// A rich edit control with the runs of the calls, each in its call's font and colour. It has no
-// border, no bars, and does not wrap lines either.
+// A rich edit control with a run for each call, in the font and colour of the call. Like the label,
+// it has no border and no scroll bars and does not wrap lines.
 class RichEdit {
  public:
     RichEdit(HWND parent, const std::vector<Call>& calls, int height) {
@@ -172,7 +172,7 @@ class RichEdit {
         SendMessageW(window_, EM_REPLACESEL, FALSE, reinterpret_cast<LPARAM>(text));
     }
 
-    // What is appended next looks as the call does.
+    // Gives the text that is appended next the font and colour of the call.
     void Format(const Call& call) const {
         constexpr LONG twipsPerInch = 1440;
         LOGFONTW font = {};
@@ -192,7 +192,7 @@ class RichEdit {
     HWND window_ = nullptr;
 };
 
-// What the window shows.
+// The pixels of the client area.
 std::vector<std::uint32_t> PixelsOf(HWND window) {
     UpdateWindow(window);
     RECT area = {};
@@ -204,13 +204,13 @@ std::vector<std::uint32_t> PixelsOf(HWND window) {
     return picture.Pixels();
 }
 
-// How many pixels are not as the last one, which no letter reaches.
+// The number of pixels that differ from the last one, which no letter reaches.
 double Ink(const std::vector<std::uint32_t>& pixels) {
     const auto paper = std::ranges::count(pixels, pixels.back());
     return static_cast<double>(pixels.size()) - static_cast<double>(paper);
 }
 
-// A label, and what draws the same without one, beside it on one form.
+// A label on a form, and beside it the two windows that draw the same without a label.
 struct Stage {
     explicit Stage(int runs)
         : height((runs + runsOfALine - 1) / runsOfALine * lineHeight),
@@ -239,7 +239,7 @@ struct Stage {
     int height;
     testing::WindowsForm form{lumenkitClasses};
     testing::FormControl control;
-    CallRecorder recorder{height};  // keeps the fonts
+    CallRecorder recorder{height};  // owns the fonts
     std::vector<Call> calls;
     ByHeart byHeart{form.Window(), calls, height};
     RichEdit richEdit{form.Window(), calls, height};

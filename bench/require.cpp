@@ -5,7 +5,7 @@
 
 namespace lumenkit::bench {
 
-// At once: what is half set up need not be taken down.
+// Ends at once: destructors of a half-built setup need not run.
 void Require(bool holds, const char* what) {
     if (!holds) {
         std::fprintf(stderr, "%s\n", what);

@@ -3,12 +3,12 @@
 
 namespace lumenkit::bench {
 
-/// Seconds since some moment. On Linux of the processor: other programs on the machine count
-/// little. On Windows of the wall, as much of the work of a window is done by other processes;
-/// what takes shorter than another program's turn is seldom disturbed.
+/// Seconds since an unspecified moment. On Linux this is processor time, which other programs
+/// affect little. On Windows it is wall time, because other processes do much of the work of a
+/// window. Work that is shorter than the time slice of another program is seldom disturbed.
 double SecondsNow();
 
-/// A batch that is long enough for the clock.
+/// The length of a batch that the clock measures well.
 extern const double secondsOfABatch;
 
 }  // namespace lumenkit::bench

@@ -1,4 +1,4 @@
-// Lines of differently styled words: as a caption, and as what there is to be drawn.
+// Lines of words in several styles: as runs, as a caption and as HTML.
 #pragma once
 
 #include <vector>

@@ -1,7 +1,7 @@
-// A keystroke in a memo on Windows that holds its text to limits, against an edit control of the
-// same styles, size, font and text with nothing around it. A keystroke is a key that goes down and
-// up in the thread's message queue, until that is empty again: looked at, held to the limits,
-// painted.
+// Benchmarks of a keystroke in a memo on Windows that restricts its text to limits, against a bare
+// edit control of the same styles, size, font and text. A keystroke is a key down and a key up
+// posted to the message queue of the thread, until the queue is empty again. It includes the check
+// against the limits and the repaint.
 #include <memory>
 #include <string>
 
@@ -50,7 +50,7 @@ void PutCaretInTheMiddle(HWND edit) {
     SendMessageW(edit, EM_SCROLLCARET, 0, 0);
 }
 
-// The edit control that is shown in the window.
+// The visible edit control of the memo's window.
 HWND ShownEdit(HWND window) {
     HWND edit = FindWindowExW(window, nullptr, L"EDIT", nullptr);
     while ((GetWindowLongW(edit, GWL_STYLE) & WS_VISIBLE) == 0) {
@@ -59,7 +59,7 @@ HWND ShownEdit(HWND window) {
     return edit;
 }
 
-// An edit control like another one, right on the form.
+// Creates an edit control like `model`, directly on the form.
 HWND NewBareEdit(HWND form, HWND model) {
     constexpr POINT place = {340, 20};
     RECT box = {};
@@ -99,7 +99,7 @@ class Desk {
     HWND MemoEdit() const { return memoEdit_; }
     HWND BareEdit() const { return bareEdit_; }
 
-    // Both, so that neither has more of the form to paint.
+    // Shows or hides both, so that the form has the same area to paint for either side.
     void Show(bool visible) {
         for (const HWND edit : {memoEdit_, bareEdit_}) {
             ShowWindow(edit, visible ? SW_SHOWNA : SW_HIDE);
@@ -127,7 +127,7 @@ class Desk {
     HWND bareEdit_ = nullptr;
 };
 
-// Desks are made when they are first needed: a million units take a while.
+// Creates its desk at the first use, because a million units take a while.
 class LazyDesk {
  public:
     explicit LazyDesk(std::size_t units) : units_(units) {}

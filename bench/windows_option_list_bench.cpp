@@ -1,5 +1,5 @@
-// An option list on Windows, made as a form loads it and gone again, against as many radio buttons
-// in a group box without a control around them.
+// Benchmarks of creating an option list on Windows from saved properties and destroying it, against
+// the same number of radio buttons in a group box without a control around them.
 #include <array>
 #include <functional>
 #include <memory>
@@ -33,7 +33,7 @@ constexpr int few = 100;
 constexpr int many = 1'000;
 constexpr SIZE size = {400, 440};
 
-// Made and no more, or until it is on the screen.
+// Whether a round only creates the windows or also paints them.
 enum class Until { Made, Shown };
 
 Text Caption(int item) {
@@ -53,7 +53,7 @@ void ShowNow(HWND window) {
     WindowsForm::Pump();
 }
 
-// Short lists are repeated until as many items as in a long one have been made.
+// Repeats short lists until a round has made `many` items.
 Side Repeated(int items, std::function<void()> once) {
     return {.round =
                 [once = std::move(once), items] {
@@ -78,7 +78,7 @@ Side Making(WindowsForm& form, int items, Until until) {
     });
 }
 
-// A window as a program would make it.
+// The data with which a program creates a window.
 struct WindowPlan {
     std::wstring type;
     std::wstring text;
@@ -110,7 +110,7 @@ WindowPlan PlanOf(HWND window) {
     return plan;
 }
 
-// A group box and the buttons in it, which all lie in the box.
+// A group box and its buttons, which are its child windows.
 struct ListPlan {
     WindowPlan box;
     std::vector<WindowPlan> buttons;
@@ -127,7 +127,7 @@ ListPlan PlanOfList(HWND box) {
     return plan;
 }
 
-// The same windows by nothing but the platform. They are shown when they are complete.
+// The same windows without a control. They become visible when all of them exist.
 class BareList {
  public:
     BareList(HWND parent, const ListPlan& plan)
@@ -160,7 +160,7 @@ class BareList {
     HWND box_;
 };
 
-// What a list of so many items consists of; proves that the bare one consists of the same.
+// The windows of an option list with `items` items. Checks that the bare list has the same windows.
 ListPlan PlanOfItems(WindowsForm& form, int items) {
     FormControl list(form, *lumenkit::lumenkitClasses.Find(u"lumenkit.VOptList"), size);
     memory::PropertyBag saved;
@@ -189,7 +189,7 @@ Side MakingBare(WindowsForm& form, int items, Until until) {
 
 int main(int argc, char** argv) {
     WindowsForm form(lumenkit::lumenkitClasses);
-    const win32::ThreadShared<win32::FontCache> fonts;  // those of the bare lists live as long
+    const win32::ThreadShared<win32::FontCache> fonts;  // keeps the fonts of the bare lists alive
     for (const auto& [until, what] :
          {std::pair(Until::Made, "make"), std::pair(Until::Shown, "make and show")}) {
         const std::string name = std::string("Wine: ") + what + " a list of 1,000, against ";

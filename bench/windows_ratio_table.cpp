@@ -1,5 +1,5 @@
-// The table on Windows, where there is no Google Benchmark to measure with. Of its options only
-// --benchmark_filter is understood.
+// The table on Windows, where Google Benchmark is not available. The only option is
+// --benchmark_filter.
 #include <cstdio>
 #include <regex>
 #include <string>
@@ -24,7 +24,7 @@ std::vector<Comparison>& Comparisons() {
     return comparisons;
 }
 
-// More pairs where they are short: the clock is the wall's, and many of them are disturbed.
+// Measures more pairs when the pairs are short: wall time also counts disturbances.
 Outcome Measure(const Comparison& comparison) {
     Pairs pairs(comparison);
     const double end = SecondsNow() + secondsOfAComparison;
@@ -57,10 +57,10 @@ int RunComparisons(int argc, char** argv) {
             PrintRow(comparison, Measure(comparison));
         }
     }
-    Comparisons().clear();  // what they hold may need what main holds
+    Comparisons().clear();  // the sides may use objects that main destroys
     return 0;
 }
 
-void Keep(const void* /*value*/) {}  // what it does is not known elsewhere
+void Keep(const void* /*value*/) {}  // opaque to its callers: this is another translation unit
 
 }  // namespace lumenkit::bench

@@ -27,8 +27,11 @@ else()
     target_compile_options(lumenkit_settings INTERFACE -Wno-error)
 endif()
 target_compile_options(lumenkit_settings INTERFACE
-    # g++ 12 sees overlaps in its own string's operator+ that are not there (its bug 105651).
-    $<$<AND:$<CXX_COMPILER_ID:GNU>,$<VERSION_LESS:$<CXX_COMPILER_VERSION>,13>>:-Wno-restrict>)
+    # g++ 12 sees overlaps in its own string's operator+ that are not there (its bug 105651), and
+    # does not see that a local object takes its pointer back when it is destroyed (Window::Watch).
+    $<$<AND:$<CXX_COMPILER_ID:GNU>,$<VERSION_LESS:$<CXX_COMPILER_VERSION>,13>>:-Wno-restrict;-Wno-dangling-pointer>
+    # clang 17 and later report that the library's own stable_sort uses what the library deprecates.
+    $<$<AND:$<CXX_COMPILER_ID:Clang>,$<VERSION_GREATER_EQUAL:$<CXX_COMPILER_VERSION>,17>>:-Wno-deprecated-declarations>)
 if(WIN32)
     # The platform's headers: wide characters, no macros named as functions of C++, Windows 7.
     target_compile_definitions(lumenkit_settings INTERFACE UNICODE NOMINMAX _WIN32_WINNT=0x0601)
@@ -77,12 +80,17 @@ function(lumenkit_command_line name)
     endif()
 endfunction()
 
-# Compiles the headers beside the caller's CMakeLists.txt (subfolders included) each in a translation
-# unit of its own. One with a source file of its own name needs no other: that file includes it
-# first, which scripts/check_includes.py sees to.
+# lumenkit_headers_compile_alone(NAME target...)
+# Compiles each header beside the caller's CMakeLists.txt (subfolders included) in a translation unit
+# that includes nothing else. A header with a source file of the same name needs no such unit: that
+# source includes it first, as scripts/check_includes.py checks.
+option(LUMENKIT_HEADERS_ALONE "Check that each header compiles without others before it" OFF)
+if(LUMENKIT_HEADERS_ALONE)
+    add_custom_target(lumenkit_headers_alone)
+endif()
 function(lumenkit_headers_compile_alone name)
-    # Once is enough: sanitizers and counters say nothing about it, and only what is made for Windows needs it there.
-    if(NOT LUMENKIT_TESTS OR LUMENKIT_SANITIZE OR LUMENKIT_COVERAGE OR
+    # Portable headers are checked by the native build.
+    if(NOT LUMENKIT_HEADERS_ALONE OR
        (WIN32 AND NOT CMAKE_CURRENT_SOURCE_DIR MATCHES "/runtime/(win32|ole)$"))
         return()
     endif()
@@ -100,7 +108,9 @@ function(lumenkit_headers_compile_alone name)
     endforeach()
     if(units)
         add_library(${name}_headers OBJECT ${units})
+        set_target_properties(${name}_headers PROPERTIES UNITY_BUILD OFF)
         target_link_libraries(${name}_headers PRIVATE lumenkit_settings ${ARGN})
         target_compile_options(${name}_headers PRIVATE -O0)
+        add_dependencies(lumenkit_headers_alone ${name}_headers)
     endif()
 endfunction()

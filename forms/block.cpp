@@ -19,7 +19,7 @@ Block* AsBlock(const Block::Item& item, BlockKind kind) {
     return block != nullptr && (*block)->Kind() == kind ? block->get() : nullptr;
 }
 
-// The name of a property or group, empty for everything else.
+// Returns the name of a property or group; empty for other items.
 TextView SettingName(const Block::Item& item) {
     if (const Property* property = AsProperty(item)) {
         return property->Name();

@@ -1,5 +1,5 @@
 // The tree of a form: blocks of properties, property groups and further blocks, each with the lines
-// it was read from.
+// that it was read from.
 #pragma once
 
 #include <cstddef>
@@ -19,19 +19,20 @@ enum class BlockKind {
     Group,    ///< BeginProperty Name {identifier} ... EndProperty
 };
 
-/// A blank or comment line, which is only kept.
+/// A blank or comment line, which is kept unchanged.
 struct IdleLine {
     Text line;
 };
 
-/// A control, or a property group of one. Editing changes the lines of what is edited and no
-/// others; new lines look as designers write them. Names are told apart without regard to case;
-/// of several properties of one name the first one counts. An edit that throws has changed nothing.
+/// A control, or a property group of a control. An edit changes only the lines of the edited item;
+/// new lines have the standard layout (see forms/layout.h). Names are compared without regard to
+/// case; of several properties with the same name, the first one counts. An edit that throws
+/// changes nothing.
 ///
-/// Pointers to properties and blocks stay valid until these are removed.
+/// Pointers to properties and blocks stay valid until the item is removed.
 class Block {
  public:
-    /// What stands in a block, never null.
+    /// An item of a block, never null.
     using Item =
         std::variant<std::unique_ptr<Property>, std::unique_ptr<Block>, std::unique_ptr<IdleLine>>;
 
@@ -40,15 +41,16 @@ class Block {
         Position name;
     };
 
-    /// `open` and `close` are the first and the last line.
+    /// `open` and `close` are the first and the last line of the block.
     Block(BlockKind kind, Text className, Text name, Text open, Text close = {},
           Places places = {});
 
     BlockKind Kind() const { return kind_; }
-    /// The control's class, "lumenkit.VLabel"; a group's identifier with its braces, or empty.
+    /// The class of a control, "lumenkit.VLabel"; the identifier of a group with its braces, or
+    /// empty.
     const Text& ClassName() const { return className_; }
     const Text& Name() const { return name_; }
-    /// Where they stood in the file that was read; line 0 for a block that was added.
+    /// The positions of both in the file that was read; line 0 for a block that was added.
     Position ClassPlace() const { return places_.className; }
     Position NamePlace() const { return places_.name; }
     /// In the order of the file.
@@ -56,32 +58,33 @@ class Block {
     const Text& OpenLine() const { return open_; }
     const Text& CloseLine() const { return close_; }
 
-    /// Null when there is none.
+    /// Return null when there is none.
     Property* FindProperty(TextView name) const;
     Block* FindGroup(TextView name) const;
-    /// The controls that lie in this one, in the order of the file.
+    /// Returns the controls directly inside this one, in the order of the file.
     std::vector<Block*> Controls() const;
 
-    /// Gives the property `name` a value. A new property stands behind the property or group
-    /// `after`, or where there is none of that name behind the last one. One that takes the place
-    /// of a group stands where the group stood.
+    /// Sets the value of the property `name`. A new property is placed after the property or group
+    /// `after`, or after the last one if `after` does not exist. A property that replaces a group
+    /// takes its place.
     Property& Set(TextView name, forms::Literal literal, TextView after = {});
-    /// The group `name`, made where there is none, in the place that Set would choose.
+    /// Returns the group `name`. Creates it if there is none, in the place that Set would choose.
     Block& Group(TextView name, TextView identifier, TextView after = {});
-    /// Removes the property or group `name`; false when there is none.
+    /// Removes the property or group `name`. Returns false when there is none.
     bool Remove(TextView name);
 
-    /// Adds a control behind everything else in this block, or before the control `before`.
+    /// Adds a control at the end of this block, or before the control `before`.
     Block& AddControl(TextView className, TextView name, const Block* before = nullptr);
-    /// Removes one of Controls() with all that is in it; false when it is none of them.
+    /// Removes one of Controls() with its contents. Returns false when `control` is not one of
+    /// them.
     bool RemoveControl(const Block& control);
-    /// Puts one of Controls() before another one of them, or behind them all; false when it is none
-    /// of them.
+    /// Moves one of Controls() before another one, or to the end. Returns false when `control` is
+    /// not one of them.
     bool MoveControl(const Block& control, const Block* before);
-    /// Gives a control another name; the line keeps what stands around it.
+    /// Renames a control; the rest of its first line stays unchanged.
     void Rename(TextView name);
 
-    /// For the parser: adds what comes next in the file.
+    /// For the parser: appends the next item of the file.
     Block& Append(std::unique_ptr<Block> block);
     void Append(std::unique_ptr<Property> property) { items_.emplace_back(std::move(property)); }
     void Append(std::unique_ptr<IdleLine> line) { items_.emplace_back(std::move(line)); }

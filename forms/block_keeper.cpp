@@ -6,7 +6,7 @@
 
 namespace lumenkit::forms {
 
-// Takes down what a control writes.
+// Records the values that a control writes.
 class BlockKeeper::Notes final : public host::PropertyBag {
  public:
     Value ReadProperty(TextView /*name*/, const Value& defaultValue) override {
@@ -19,8 +19,9 @@ class BlockKeeper::Notes final : public host::PropertyBag {
     HeldByName held;
 };
 
-// Hands on to a block's bag only what is not as it was, and takes down what got there: a control
-// whose saving fails half-way hears nothing of it, and saves the rest the next time.
+// Passes only changed values on to the bag of a block, and records each value that was written. A
+// control traps its errors, so a save that fails halfway throws nothing; the next save writes the
+// rest.
 class BlockKeeper::Changes final : public host::PropertyBag {
  public:
     Changes(FormBag& bag, HeldByName& held) : bag_(bag), held_(held) {}

@@ -13,25 +13,24 @@
 
 namespace lumenkit::forms {
 
-/// Puts into a block what the control that was read from it holds, and leaves what it held from the
-/// start as it is written: a control of which nothing was changed keeps its bytes, whoever wrote
-/// them. Document and block must outlive the keeper.
+/// Saves a control to the block that it was read from. Unchanged properties keep their lines, so
+/// the block of an unchanged control keeps its bytes. Document and block must outlive the keeper.
 class BlockKeeper {
  public:
-    /// Has the control write all its properties into a bag.
+    /// Makes the control write all its properties to a bag.
     using SaveControl = std::function<void(host::PropertyBag&)>;
 
-    /// Notes what the control holds now, which is what the block says.
+    /// Records the current values of the control, which must be those of the block.
     BlockKeeper(const Document& document, Block& block, const SaveControl& save);
 
-    /// Writes what is no more as it was at the last time.
+    /// Writes the values that changed since the last time.
     void Update(const SaveControl& save);
 
  private:
     struct Default {
         friend bool operator==(Default, Default) = default;
     };
-    // A font by its attributes, since the control goes on using the object.
+    // A font is held by its attributes, because the control continues to use the font object.
     using Held = std::variant<Default, Value, FontDescription>;
     using HeldByName = std::map<Text, Held, std::less<>>;
     class Notes;

@@ -1,4 +1,4 @@
-// The Windows code pages that form files are written in.
+// The Windows code pages of form files.
 #pragma once
 
 #include <array>
@@ -12,16 +12,16 @@
 
 namespace lumenkit::forms {
 
-/// One of the Windows code pages 1250 to 1258. Each byte is one unit and back again: also a byte
-/// that the page leaves undefined has a unit of its own.
+/// One of the Windows code pages 1250 to 1258. Bytes and units are mapped one to one; a byte that
+/// the page leaves undefined also has a separate unit.
 class CodePage {
  public:
-    /// Throws std::invalid_argument for a page that is not known.
+    /// Throws std::invalid_argument for an unknown page.
     explicit CodePage(int number);
 
     int Number() const { return number_; }
     Text Decode(std::string_view bytes) const;
-    /// Nothing for a unit that the page does not have.
+    /// Returns nullopt for a unit that the page does not contain.
     std::optional<char> Encode(char16_t unit) const;
 
  private:
@@ -29,7 +29,7 @@ class CodePage {
 
     int number_;
     const Half* upper_;                                 // the units of the bytes from 128 on
-    std::array<std::pair<char16_t, char>, 128> bytes_;  // the same by unit, in order
+    std::array<std::pair<char16_t, char>, 128> bytes_;  // the same, sorted by unit
 };
 
 }  // namespace lumenkit::forms

@@ -30,7 +30,7 @@ void AppendLittleEndian(std::string& bytes, std::uint64_t number, int count) {
     }
 }
 
-// One way to understand a record: the length of its header and of what follows.
+// One interpretation of a record: the lengths of its header and of its content.
 struct Shape {
     std::size_t header = 0;
     std::size_t content = 0;
@@ -65,7 +65,7 @@ std::optional<Shape> FourByteShape(std::string_view record) {
     return Shape{4, LittleEndian(record.substr(0, 4))};
 }
 
-// Pictures: a length, this mark, a length, the picture.
+// A picture record contains a length, this mark, a length and the picture.
 bool IsPicture(std::string_view record) {
     constexpr std::string_view mark("lt\0\0", 4);
     return record.size() >= 12 && record.substr(4, 4) == mark;
@@ -135,7 +135,7 @@ std::uint32_t Companion::Append(std::string_view record) {
         throw BadRecord(tooLong);
     }
     const auto offset = static_cast<std::uint32_t>(bytes_.size());
-    offsets_.push_back(offset);  // at the end it divides nothing, should there be no room
+    offsets_.push_back(offset);  // the last offset splits no record if appending fails
     bytes_ += record;
     return offset;
 }

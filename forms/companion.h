@@ -1,5 +1,5 @@
-// The binary companion of a form (.frx, .ctx, .pgx, .dox): records one behind the other, each known
-// by its offset alone.
+// The binary companion of a form (.frx, .ctx, .pgx, .dox): consecutive records, each identified
+// only by its offset.
 #pragma once
 
 #include <cstdint>
@@ -10,13 +10,13 @@
 
 namespace lumenkit::forms {
 
-/// Thrown for a record that is not what a reference says; what() has no place.
+/// Thrown for a record that does not match its reference. what() contains no position.
 class BadRecord : public std::runtime_error {
     using std::runtime_error::runtime_error;
 };
 
-/// A companion's bytes and the offsets that its form refers to. A record reaches to the next of
-/// these offsets or to the end.
+/// The bytes of a companion and the offsets that its form refers to. A record ends at the next of
+/// these offsets or at the end.
 class Companion {
  public:
     Companion() = default;
@@ -24,21 +24,22 @@ class Companion {
 
     const std::string& Bytes() const { return bytes_; }
 
-    /// The record at one of the offsets, with its header, as it stands.
+    /// Returns the record at one of the offsets, including its header.
     std::string_view Record(std::uint32_t offset) const;
 
-    /// What the string record at one of the offsets holds. Its length stands in one byte, or behind
-    /// a byte FF in two, or in four (least significant byte first): whichever of these fills the
-    /// record. Where none does, as designers leave bytes that nothing refers to, four bytes are
-    /// taken for the length if the fourth is 0 and a text without NUL follows, then FF and two
-    /// bytes, then one. Throws BadRecord for what is no string record and for one that is cut.
+    /// Returns the content of the string record at one of the offsets. The length is stored in one
+    /// byte, or in two bytes after a byte FF, or in four bytes (least significant byte first): the
+    /// first of these forms whose length fills the record is used. Unreferenced bytes may follow
+    /// the string, so that no form fills the record. In that case the four-byte form is used if its
+    /// fourth byte is 0 and a text without NUL follows; otherwise FF and two bytes; otherwise one
+    /// byte. Throws BadRecord for a record that is not a string and for a truncated string.
     std::string_view String(std::uint32_t offset) const;
 
-    /// Appends a record, with its header, and gives its offset. Throws BadRecord where that would
-    /// need more than 32 bits.
+    /// Appends a record, including its header, and returns its offset. Throws BadRecord when the
+    /// offset would need more than 32 bits.
     std::uint32_t Append(std::string_view record);
 
-    /// Throws BadRecord where offset is no place in the companion.
+    /// Throws BadRecord when `offset` is not inside the companion.
     void RequireOffset(std::uint32_t offset) const;
 
  private:
@@ -46,8 +47,8 @@ class Companion {
     std::vector<std::uint32_t> offsets_;  // in order
 };
 
-/// Appends a string record with the shortest header that fits and gives its offset. Throws
-/// BadRecord where the offset or the length would need more than 32 bits.
+/// Appends a string record with the shortest header that fits and returns its offset. Throws
+/// BadRecord when the offset or the length would need more than 32 bits.
 std::uint32_t AppendString(std::string& bytes, std::string_view content);
 
 }  // namespace lumenkit::forms

@@ -11,7 +11,7 @@ namespace lumenkit::forms {
 
 namespace {
 
-// As deep as the parser lets blocks lie in one another, and editors take care to.
+// The recursion is as deep as the blocks are nested, which the parser and the editors limit.
 void AddControls(const Block& block, std::vector<Block*>& controls) {
     for (Block* control : block.Controls()) {
         controls.push_back(control);

@@ -1,4 +1,4 @@
-// Finding one's way among the controls of a form.
+// Functions to enumerate and name the controls of a form.
 #pragma once
 
 #include <vector>
@@ -8,10 +8,10 @@
 
 namespace lumenkit::forms {
 
-/// The controls that lie in `block`, at whatever depth, in the order of the file.
+/// Returns the controls inside `block`, at any depth, in the order of the file.
 std::vector<Block*> AllControls(const Block& block);
 
-/// The name that code calls a control by: "VLabel1", or "VLabel1(3)" for the element of an array.
+/// Returns the name of a control in code: "VLabel1", or "VLabel1(3)" for the element of an array.
 Text NameInCode(const Block& control);
 
 }  // namespace lumenkit::forms

@@ -10,12 +10,12 @@ namespace lumenkit::forms {
 
 namespace {
 
-// One copy from one document to another.
+// One copy operation between two documents.
 class Copying {
  public:
     Copying(const Document& from, Document& to) : from_(from), to_(to) {}
 
-    // As deep as the parser lets blocks lie in one another.
+    // The recursion is as deep as the blocks are nested, which the parser limits.
     void CopyInto(Block& copy, const Block& original) {
         for (const Block::Item& item : original.Items()) {
             if (const auto* property = std::get_if<std::unique_ptr<Property>>(&item)) {
@@ -36,7 +36,7 @@ class Copying {
 
     void CopyProperty(Block& copy, const Property& original) {
         if (copy.FindProperty(original.Name()) != nullptr) {
-            return;  // of several properties of one name the first one counts
+            return;  // of several properties with the same name, the first one counts
         }
         Property& property = copy.Set(original.Name(), Carried(original));
         const bool hasOne = std::holds_alternative<bool>(original.Literal());

@@ -6,11 +6,11 @@
 
 namespace lumenkit::forms {
 
-/// Puts a copy of `control`, with all that is in it, behind everything else in `parent`. What it
-/// keeps in the companion of `from` comes along to that of `to`, which may be the same document.
-/// Those that lie in it keep their names. Throws FormError for a text that the companion of `from`
-/// does not have, and when that of `to` is full. A copy that fails leaves nothing in `parent`, but
-/// its records in the companion, which nothing refers to.
+/// Adds a copy of `control`, with its contents, at the end of `parent`. Copies its records in the
+/// companion of `from` to that of `to`, which may be the same document. The controls inside it keep
+/// their names. Throws FormError for a text that is missing in the companion of `from`, and when
+/// the companion of `to` is full. A copy that fails leaves nothing in `parent`; records that it
+/// already appended to the companion stay there without a reference.
 Block& CopyControl(const Document& from, const Block& control, Document& to, Block& parent,
                    TextView name);
 

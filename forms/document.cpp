@@ -53,15 +53,15 @@ std::string DesignersCompanionName(const std::string& path) {
     return stem + ".frx";
 }
 
-// A property and what is to take its place.
-struct Replacement {
+// A property and its new state.
+struct ChangedProperty {
     Property& property;
     Property changed;
 };
 
-// What becomes of the references in `block` when they lead to `file`. As deep as the parser lets
-// blocks lie in one another, and editors take care to.
-void LeadReferencesTo(const Text& file, const Block& block, std::vector<Replacement>& led) {
+// Collects the references in `block` that must change to refer to `file`. The recursion is as deep
+// as the blocks are nested, which the parser and the editors limit.
+void LeadReferencesTo(const Text& file, const Block& block, std::vector<ChangedProperty>& led) {
     for (const Block::Item& item : block.Items()) {
         if (const auto* inner = std::get_if<std::unique_ptr<Block>>(&item)) {
             LeadReferencesTo(file, **inner, led);
@@ -76,7 +76,7 @@ void LeadReferencesTo(const Text& file, const Block& block, std::vector<Replacem
     }
 }
 
-// The lines behind a form with another name in the attribute that has it.
+// Returns the lines after a form with the name in the attribute VB_Name replaced.
 Text WithName(Text tail, TextView name) {
     constexpr TextView attribute = u"Attribute VB_Name = \"";
     const std::size_t line = tail.find(attribute);
@@ -145,7 +145,7 @@ void Document::ReadCompanion(const CompanionReader& readCompanion) {
         offsets.push_back(placed.reference.offset);
     }
     companion_ = Companion(readCompanion(companionName_), std::move(offsets));
-    // Each record is looked at once, however many references share it.
+    // Checks each record once, however many references share it.
     std::set<std::pair<std::uint32_t, bool>> checked;
     for (const PlacedReference& placed : form_.references) {
         if (checked.emplace(placed.reference.offset, placed.reference.marked).second) {
@@ -225,14 +225,14 @@ void Document::RenameForm(TextView name) {
 
 void Document::UseCompanion(std::string name) {
     const Text file = FromUtf8(name);
-    std::vector<Replacement> led;
+    std::vector<ChangedProperty> led;
     LeadReferencesTo(file, *form_.root, led);
     std::vector<PlacedReference> references = form_.references;
     for (PlacedReference& placed : references) {
         placed.reference.file = file;
     }
-    // From here on nothing can fail.
-    for (Replacement& replacement : led) {
+    // The following statements cannot fail.
+    for (ChangedProperty& replacement : led) {
         replacement.property = std::move(replacement.changed);
     }
     form_.references = std::move(references);

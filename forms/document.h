@@ -1,4 +1,4 @@
-// A form file in memory: its text with the tree over it, and its binary companion.
+// A form file in memory: its text, its tree and its binary companion.
 #pragma once
 
 #include <functional>
@@ -23,63 +23,65 @@ struct FormBytes {
     std::string companion;
 };
 
-/// Gives the bytes of the companion, a plain file name that lies beside the form. Called at most
-/// once, and only if the form refers to it. What it throws goes on to who called Parse.
+/// Returns the bytes of the companion, given as a plain file name in the folder of the form. Called
+/// at most once, and only if the form refers to a companion. Its exceptions propagate to the caller
+/// of Parse.
 using CompanionReader = std::function<std::string(const std::string& fileName)>;
 
-/// A form, control, page or document file (.frm, .ctl, .pag, .dob). Writing one that was not edited
-/// gives the bytes that were read. An edit that throws has changed nothing.
+/// A form, control, page or document file (.frm, .ctl, .pag, .dob). Writing an unedited document
+/// returns the bytes that were read. An edit that throws changes nothing.
 class Document {
  public:
-    /// `name` is the file's name for errors, in UTF-8. `codePage` is what the form is written in
-    /// unless it turns out to be UTF-8 (Encoding::Of), and what the companion's strings are in.
-    /// Throws FormError for what cannot be read: nothing is half loaded.
+    /// Reads a document. `name` is the file name for error messages, in UTF-8. `codePage` is the
+    /// code page of the companion's strings, and that of the form unless the form is detected as
+    /// UTF-8 (see Encoding::Of). Throws FormError for input that cannot be read.
     static Document Parse(std::string name, std::string_view bytes,
                           const CompanionReader& readCompanion, int codePage = defaultCodePage);
 
-    /// The document that these bytes stand for, as Write gave them for this one or for an earlier
-    /// state of it. Throws FormError as Parse does.
+    /// Returns the document with these bytes, which Write returned for this document or for an
+    /// earlier state of it. Throws FormError as Parse does.
     Document WithBytes(const FormBytes& bytes) const;
 
     const std::string& Name() const { return name_; }
-    /// The document goes by another file name from now on, and its companion by the one that
-    /// designers would give it then: saving it leaves the files of the former name alone.
+    /// Changes the file name of the document and sets the companion's name to the default for it.
+    /// Saving the document then does not change the files with the old names.
     void Rename(std::string name);
-    /// The code page's number, 65001 for UTF-8.
+    /// The number of the form's code page, 65001 for UTF-8.
     int FormCodePage() const { return encoding_.FormCodePage(); }
-    /// Of the strings in the companion; never 65001.
+    /// The number of the code page of the companion's strings; never 65001.
     int CompanionCodePage() const { return encoding_.CompanionPage().Number(); }
 
     /// The outermost block: the form itself.
     Block& Root() const { return *form_.root; }
-    /// Gives the form itself another name, also in its attribute VB_Name.
+    /// Renames the form itself, including its attribute VB_Name.
     void RenameForm(TextView name);
     const std::vector<LibraryReference>& Libraries() const { return form_.libraries; }
-    /// Adds a line `Object = ...` behind the others.
+    /// Adds a line `Object = ...` after the existing ones.
     void AddLibrary(TextView library, TextView file);
-    /// Everything behind the outermost block, attribute lines and code, as it stands, and where it
-    /// began in the file that was read.
+    /// The text after the outermost block, that is the attribute lines and the code, and its
+    /// position in the file that was read.
     const Text& Tail() const { return form_.tail; }
     Position TailPlace() const { return form_.tailPlace; }
 
-    /// The text of a string property, wherever it is kept. Throws FormError for a property of
-    /// another kind and for a reference to what is no string.
+    /// Returns the text of a string property, whether it is stored in the form or in the companion.
+    /// Throws FormError for a property of another kind and for a reference to a record that is not
+    /// a string.
     Text TextOf(const Property& property) const;
-    /// The companion's record that a property refers to, as it stands. Throws FormError for a
-    /// property that is no reference.
+    /// Returns the record of the companion that a property refers to, including its header. Throws
+    /// FormError for a property that is not a reference.
     std::string_view RecordOf(const Property& property) const;
 
-    /// Appends a record, header and all, to the companion and gives the reference to it. Throws
-    /// FormError when the companion is full.
+    /// Appends a record, including its header, to the companion and returns the reference to it.
+    /// Throws FormError when the companion is full.
     Reference AddRecord(std::string_view record);
 
-    /// The companion's file name in UTF-8: the one that the form refers to, otherwise the one that
-    /// designers would give it.
+    /// Returns the companion's file name in UTF-8: the name that the form refers to or, without a
+    /// reference, the default name for the form.
     std::string CompanionName() const { return companionName_; }
 
-    /// Strings that were moved to the companion by edits are appended to it. Throws FormError for a
-    /// text that the encoding cannot carry, with the place in the text as it would be written, and
-    /// for one that would be taken for UTF-8 when it is read again.
+    /// Returns the bytes of the form and of its companion. Appends the strings that edits moved to
+    /// the companion. Throws FormError for a text that the encoding cannot represent, with the
+    /// position in the written text, and for a form in a code page that would be read as UTF-8.
     FormBytes Write() const;
 
  private:

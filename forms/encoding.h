@@ -1,4 +1,4 @@
-// Between the bytes of a form file and its text.
+// Conversion between the bytes of a form file and its text.
 #pragma once
 
 #include <cstddef>
@@ -15,20 +15,20 @@ namespace lumenkit::forms {
 inline constexpr int utf8CodePage = 65001;
 inline constexpr int defaultCodePage = 1252;
 
-/// How the bytes of one form file stand for text. Decoding and encoding again gives the same bytes.
+/// The character encoding of one form file. Decoding and encoding again returns the same bytes.
 class Encoding {
  public:
-    /// What `bytes` are written in: UTF-8 where they begin with its mark or `codePage` is 65001 or
-    /// they are well-formed UTF-8 with at least one character beyond ASCII; `codePage` otherwise.
-    /// Throws std::invalid_argument for a code page that is not known.
+    /// Detects the encoding of `bytes`: UTF-8 if they begin with the UTF-8 mark, if `codePage` is
+    /// 65001, or if they are well-formed UTF-8 with at least one character beyond ASCII; otherwise
+    /// `codePage`. Throws std::invalid_argument for an unknown code page.
     static Encoding Of(std::string_view bytes, int codePage);
 
-    /// Of the form's text: a code page's number, or 65001.
+    /// The code page of the form's text, 65001 for UTF-8.
     int FormCodePage() const { return utf8_ ? utf8CodePage : codePage_.Number(); }
-    /// The page of strings in the binary companion, which designers never write in UTF-8.
+    /// The code page of strings in the binary companion, which is never UTF-8.
     const CodePage& CompanionPage() const { return codePage_; }
 
-    /// Throws MalformedUtf8, its offset counted in `bytes`.
+    /// Throws MalformedUtf8 with an offset in `bytes`.
     Text Decode(std::string_view bytes) const;
     /// Throws Unmappable.
     std::string Encode(TextView text) const;
@@ -41,10 +41,10 @@ class Encoding {
     bool mark_ = false;
 };
 
-/// Thrown for a text with a unit that the encoding does not have.
+/// Thrown for a text with a unit that the encoding cannot represent.
 struct Unmappable {
-    std::size_t index;     ///< of the unit, from 0
-    std::string encoding;  ///< the encoding's name
+    std::size_t index;     ///< index of the unit, from 0
+    std::string encoding;  ///< name of the encoding
 };
 
 /// Throws Unmappable.

@@ -37,10 +37,11 @@ std::string ReadBytes(const fs::path& path) {
     return bytes;
 }
 
-// New contents for a file, beside it until they take its place; gone if they never do.
-class Replacement {
+// New contents of a file. They are written next to the file and removed by the destructor unless
+// they replaced the file.
+class NewFile {
  public:
-    Replacement(const fs::path& target, std::string_view bytes) : Replacement(target) {
+    NewFile(const fs::path& target, std::string_view bytes) : NewFile(target) {
         std::ofstream stream(beside_, std::ios::binary);
         stream.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
         stream.close();
@@ -48,14 +49,15 @@ class Replacement {
             throw FormError(NameOf(target_), "cannot be written");
         }
     }
-    Replacement(const Replacement&) = delete;
-    Replacement& operator=(const Replacement&) = delete;
-    ~Replacement() {
+    NewFile(const NewFile&) = delete;
+    NewFile& operator=(const NewFile&) = delete;
+    ~NewFile() {
         std::error_code gone;
         fs::remove(beside_, gone);
     }
 
-    // Takes no memory, of which there may be none between the companion's turn and the form's.
+    // Must not allocate memory: running out of memory here would leave a new companion with an old
+    // form.
     void TakePlace() {
         std::error_code error;
         const fs::file_status old = fs::status(target_, error);
@@ -70,12 +72,13 @@ class Replacement {
     }
 
  private:
-    // Whatever happens from here on, nothing is left beside the file.
-    explicit Replacement(const fs::path& target)
+    // A delegated constructor, so that the destructor removes the new file even if the public
+    // constructor throws.
+    explicit NewFile(const fs::path& target)
         : target_(Resolved(target)), folder_(target_.parent_path()), beside_(target_) {
         beside_ += ".new";
     }
-    // Not the link is replaced but the file that it leads to.
+    // Resolves a link, so that its target is replaced instead of the link.
     static fs::path Resolved(const fs::path& path) {
         std::error_code error;
         fs::path resolved = fs::canonical(path, error);
@@ -98,9 +101,9 @@ Document Load(const fs::path& path, int codePage) {
 
 void Save(const Document& document, const fs::path& path) {
     const FormBytes bytes = document.Write();
-    Replacement form(path, bytes.form);
+    NewFile form(path, bytes.form);
     if (!bytes.companion.empty()) {
-        Replacement companion(Beside(path, document.CompanionName()), bytes.companion);
+        NewFile companion(Beside(path, document.CompanionName()), bytes.companion);
         companion.TakePlace();
     }
     form.TakePlace();

@@ -1,4 +1,4 @@
-// Forms on disk.
+// Loads and saves forms on disk.
 #pragma once
 
 #include <filesystem>
@@ -7,15 +7,15 @@
 
 namespace lumenkit::forms {
 
-/// Reads a form and, if it refers to one, its companion beside it. Throws FormError for what cannot
-/// be read.
+/// Reads a form and, if it refers to one, the companion next to it. Throws FormError for a file
+/// that cannot be read.
 Document Load(const std::filesystem::path& path, int codePage = defaultCodePage);
 
-/// Writes a form and, if it has one, its companion beside it. Each file is written beside the old
-/// one first and then takes its place, the companion before the form, so that whoever reads or
-/// interrupts finds the old or the new file, whole; so does who comes back after the power went, as
-/// each step is on the disk before the next one begins. Throws FormError for what cannot be
-/// written; then the files are as they were.
+/// Writes a form and, if it has one, the companion next to it. Each new file is first written next
+/// to the old one and then replaces it, the companion before the form. Each step is flushed to the
+/// disk before the next one begins. So a concurrent reader, an interruption or a power failure
+/// finds each file complete, either old or new. Throws FormError for a file that cannot be written;
+/// the form then keeps its old contents.
 void Save(const Document& document, const std::filesystem::path& path);
 
 }  // namespace lumenkit::forms

@@ -1,15 +1,15 @@
-// Having the system write down what it still holds in memory, so that a power cut loses nothing.
+// Flushes files and folders to the disk, so that a power failure loses nothing.
 #pragma once
 
 #include <filesystem>
 
 namespace lumenkit::forms {
 
-/// Returns once the file's contents are on the disk; false where that fails.
+/// Returns when the contents of the file are on the disk; false on failure.
 bool FlushFile(const std::filesystem::path& file);
 
-/// Returns once the names in the folder are on the disk. What a system cannot do is left undone:
-/// Windows keeps folders itself, and some file systems of others refuse.
+/// Returns when the names in the folder are on the disk. Does nothing on Windows, which flushes
+/// folders itself. Ignores failures, because some file systems do not support it.
 void FlushFolder(const std::filesystem::path& folder);
 
 }  // namespace lumenkit::forms

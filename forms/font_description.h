@@ -21,7 +21,7 @@ struct FontDescription {
     friend bool operator==(const FontDescription&, const FontDescription&) = default;
 };
 
-/// Makes a font of the runtime that shows the form; never nothing.
+/// Creates a font of the runtime that shows the form; never returns null.
 using FontFactory = std::function<host::FontRef(const FontDescription&)>;
 
 FontDescription Describe(const host::Font& font);

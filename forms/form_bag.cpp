@@ -56,7 +56,8 @@ Literal LiteralOf(TextView name, const Value& value) {
         value);
 }
 
-// Where a control's own properties begin: behind the container's and the control's extents.
+// Returns the name of the last property that begins with an underscore, that is of the last extent.
+// A control's own properties begin after it.
 TextView BeforeOwnProperties(const Block& block) {
     TextView last;
     for (const Block::Item& item : block.Items()) {
@@ -76,7 +77,8 @@ FormBag::FormBag(const Document& document, Block& block, FontFactory makeFont)
       makeFont_(std::move(makeFont)),
       last_(BeforeOwnProperties(block)) {}
 
-// Nothing for a property of another kind and for a reference to what is no string.
+// Returns nullopt for a property of another kind and for a reference to a record that is not a
+// string.
 std::optional<Text> FormBag::TextOf(const Property& property) const {
     try {
         return document_.TextOf(property);

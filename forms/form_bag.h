@@ -10,27 +10,28 @@
 
 namespace lumenkit::forms {
 
-/// The property bag of one control of a form: its block. Document and block must outlive the bag.
+/// The property bag of one control of a form, stored in its block. Document and block must outlive
+/// the bag.
 ///
-/// Reading: a text is a Text wherever the form keeps it, a shortcut and an identifier too; a
-/// Boolean is a bool, a whole number and a hexadecimal one a 32-bit integer, another number a
-/// double. A group with a font's identifier, or of the name Font, is a new font each time. Any
-/// other group counts as absent, and so does a name that stands nowhere. Raises 13 for a reference
-/// to what is no string.
+/// Reading: a text, wherever the form stores it, a shortcut and an identifier are returned as Text,
+/// a Boolean as bool, a whole or hexadecimal number as a 32-bit integer, any other number as
+/// double. A group with the identifier of a font, or without an identifier and named Font, is
+/// returned as a new font each time. Other groups and missing names return the default value.
+/// Raises 13 for a reference to a record that is not a string.
 ///
-/// Writing: what has the value already keeps its line; a whole number under a name that ends in
-/// Color is written as a colour. A new property stands behind the one that was written before it
-/// or, as the first, behind those whose names begin with an underscore. Raises 13 for an object
-/// that is no font, 94 for Null, 449 for a missing argument. Empty and a font that is nothing take
-/// the property away.
+/// Writing: a property that already has the value keeps its line. A whole number is written as a
+/// colour if the name of the property ends in Color. A new property is placed after the one that
+/// was written before it or, if it is the first, after those whose names begin with an underscore.
+/// Raises 13 for an object that is not a font, 94 for Null, 449 for a missing argument. Empty and a
+/// null font remove the property.
 class FormBag final : public host::PropertyBag {
  public:
     FormBag(const Document& document, Block& block, FontFactory makeFont);
 
     Value ReadProperty(TextView name, const Value& defaultValue) override;
-    /// A value that is the same as its default takes the property away.
+    /// A value that is the same as its default removes the property.
     void WriteProperty(TextView name, const Value& value, const Value& defaultValue) override;
-    /// In the place of WriteProperty: the property stays as it stands, if it does.
+    /// Call it instead of WriteProperty to leave the property, if it exists, unchanged.
     void Keep(TextView name);
 
  private:
@@ -43,7 +44,7 @@ class FormBag final : public host::PropertyBag {
     const Document& document_;
     Block& block_;
     FontFactory makeFont_;
-    Text last_;  // the property that is written or kept before the next one
+    Text last_;  // the property that was last written or kept
 };
 
 }  // namespace lumenkit::forms

@@ -1,4 +1,4 @@
-// What is wrong with a form, and where.
+// The exception for an error in a form, with its position.
 #pragma once
 
 #include <stdexcept>
@@ -8,8 +8,8 @@
 
 namespace lumenkit::forms {
 
-/// Thrown for a form or a companion that cannot be read or written. what() is
-/// "file:line:column: text", or "file: text" where no line is meant, in UTF-8.
+/// Thrown for a form or a companion that cannot be read or written. In UTF-8, what() is
+/// "file:line:column: text" or, without a position, "file: text".
 class FormError : public std::runtime_error {
  public:
     FormError(std::string file, Position position, std::string text);
@@ -17,7 +17,7 @@ class FormError : public std::runtime_error {
 
     const std::string& File() const { return file_; }
     Position Place() const { return position_; }
-    /// What was expected and what was found, without the place.
+    /// The error text without the position.
     const std::string& Description() const { return text_; }
 
  private:

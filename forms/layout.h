@@ -1,25 +1,26 @@
-// How designers lay out the lines of a form.
+// The standard layout of the lines of a form.
 #pragma once
 
 #include "frame/text.h"
 
 namespace lumenkit::forms::layout {
 
-/// What one level of nesting adds.
+/// The indentation of one nesting level.
 inline constexpr TextView indent = u"   ";
 
-/// `   Name            =   `, to put a value behind. The names of one block end in one column; the
-/// word `Object.` before a name does not count.
+/// Returns the part of a property line before the value: `   Name            =   `. The name is
+/// padded to 16 units, so that the values of a block are aligned. A leading `Object.` in the name
+/// does not count.
 Text PropertyPrefix(TextView indentation, TextView name);
 
-/// The first line of a block and of a property group, with the blank that designers leave at its
-/// end, and without the line break. `identifier` may be empty.
+/// Return the first line of a block and of a property group, with its trailing blank and without
+/// the line break. `identifier` may be empty.
 Text BeginLine(TextView indentation, TextView className, TextView name);
 Text BeginPropertyLine(TextView indentation, TextView name, TextView identifier);
 
-/// The blanks that a line begins with.
+/// Returns the leading blanks and tabs of a line.
 TextView IndentationOf(TextView line);
-/// The line break that a line ends with, empty when it has none.
+/// Returns the line break at the end of a line, empty when there is none.
 TextView LineBreakOf(TextView line);
 
 }  // namespace lumenkit::forms::layout

@@ -55,7 +55,7 @@ class Parser {
         scanner_.SkipBlanks();
         return word;
     }
-    // Blanks, a comment, the line break; gives the whole line.
+    // Reads blanks, a comment and the line break; returns the whole line.
     Text FinishLine() {
         ReadComment(scanner_);
         scanner_.TakeLineBreak();
@@ -138,7 +138,7 @@ void Parser::Enter(std::unique_ptr<Block> block, Position place) {
     }
 }
 
-// Behind the word Begin.
+// Starts after the word Begin.
 void Parser::ParseBegin() {
     scanner_.SkipBlanks();
     Block::Places places{scanner_.Here(), {}};
@@ -151,7 +151,7 @@ void Parser::ParseBegin() {
           places.className);
 }
 
-// Behind the word BeginProperty.
+// Starts after the word BeginProperty.
 void Parser::ParseBeginProperty() {
     scanner_.SkipBlanks();
     Block::Places places{{}, scanner_.Here()};
@@ -199,7 +199,7 @@ void Parser::ParseBodyLine() {
     }
 }
 
-// Behind the equals sign.
+// Starts after the equals sign.
 void Parser::ParseProperty(TextView name, Position place) {
     scanner_.SkipBlanks();
     const Property::Places places{place, scanner_.Here()};
@@ -217,7 +217,7 @@ void Parser::ParseProperty(TextView name, Position place) {
         std::move(value.comment), places));
 }
 
-// Behind the word that closes the innermost block.
+// Starts after the word that closes the innermost block.
 void Parser::ParseEnd() {
     Innermost().Close(FinishLine());
     open_.pop_back();

@@ -1,4 +1,4 @@
-// Reads the text of a form into its tree.
+// Parses the text of a form into its tree.
 #pragma once
 
 #include <memory>
@@ -15,11 +15,11 @@ namespace lumenkit::forms {
 /// A line `Object = "{…}#7.1#0"; "lumenkit.ocx"`: a library that the form uses.
 struct LibraryReference {
     Text library;
-    Text file;  ///< empty where the line names none
+    Text file;  ///< empty when the line has no file name
     Position place;
 };
 
-/// A reference into the binary companion, with the place of the value.
+/// A reference into the binary companion, with the position of the value.
 struct PlacedReference {
     Reference reference;
     Position place;
@@ -29,15 +29,15 @@ struct ParsedForm {
     Text head;  ///< the lines before the outermost block
     std::vector<LibraryReference> libraries;
     std::unique_ptr<Block> root;
-    Text tail;  ///< the lines after it: attributes and code
+    Text tail;  ///< the lines after the outermost block: attributes and code
     Position tailPlace;
     std::vector<PlacedReference> references;
 };
 
-/// Blocks may lie this deep in one another.
+/// The maximum nesting depth of blocks.
 inline constexpr std::size_t deepestNesting = 256;
 
-/// Throws FormError, with `file` in it, for what is no form.
+/// Throws FormError, which contains `file`, for a text that is not a form.
 ParsedForm ParseForm(TextView text, const std::string& file);
 
 }  // namespace lumenkit::forms

@@ -6,14 +6,14 @@
 
 namespace lumenkit::forms {
 
-/// The line of a property as it stands in the file.
+/// The line of a property in the file.
 struct PropertySource {
-    Text prefix;     ///< what stands before the value
-    Text value;      ///< the value and what stands behind it
+    Text prefix;     ///< the part before the value
+    Text value;      ///< the value and the part after it
     Text lineBreak;  ///< empty at the end of a file
 };
 
-/// One property of a block: `Name = value`, with the line it was read from.
+/// One property of a block: `Name = value`, with the line that it was read from.
 class Property {
  public:
     struct Places {
@@ -24,20 +24,20 @@ class Property {
     Property(Text name, Literal literal, PropertySource source, Text comment = {},
              Places places = {});
 
-    /// As it stands, indices and dots included: "Item(0)", "Object.Tag".
+    /// The complete name, including indices and dots: "Item(0)", "Object.Tag".
     const Text& Name() const { return name_; }
     const forms::Literal& Literal() const { return literal_; }
-    /// What follows the value's apostrophe; empty when there is none.
+    /// The text after the apostrophe that follows the value; empty when there is none.
     const Text& Comment() const { return comment_; }
-    /// Where they stood in the file that was read; line 0 for a property that was added.
+    /// The positions of both in the file that was read; line 0 for a property that was added.
     Position NamePlace() const { return places_.name; }
     Position ValuePlace() const { return places_.value; }
-    /// `value` is empty for a text that has no place in the companion yet.
+    /// Its `value` is empty for a text that has no offset in the companion yet.
     const PropertySource& Source() const { return source_; }
 
-    /// Gives the property another value; the line keeps what stands before it. A comment goes.
+    /// Sets another value. The line keeps the part before the value; a comment is removed.
     void Set(forms::Literal literal);
-    /// Puts a comment behind a value that has none, as designers tell what a number means.
+    /// Adds a comment after a value that has none, for example to explain a number.
     void AddComment(TextView comment);
 
  private:

@@ -99,7 +99,7 @@ std::string Scanner::Found() const {
         ++length;
     }
     if ((rest[length - 1] & 0xFC00) == 0xD800 && length < rest.size()) {
-        ++length;  // no half of a surrogate pair
+        ++length;  // does not split a surrogate pair
     }
     return ToUtf8(rest.substr(0, length));
 }

@@ -7,6 +7,8 @@
 #include <string>
 #include <system_error>
 
+#include "frame/numbers.h"
+
 namespace lumenkit::forms {
 
 namespace {
@@ -54,7 +56,7 @@ std::uint32_t ReadHexDigits(Scanner& scanner) {
     return number;
 }
 
-// Without "&" behind it, a number of up to 16 bits is a 16-bit signed integer.
+// Without a trailing "&", a number of up to 16 bits is a 16-bit signed integer.
 HexNumber ReadHexNumber(Scanner& scanner) {
     scanner.Take();
     if (!scanner.TakeIf(u'H') && !scanner.TakeIf(u'h')) {
@@ -103,7 +105,8 @@ Literal ReadNumber(Scanner& scanner) {
     if (std::from_chars(digits.data(), end, number).ec != std::errc()) {
         scanner.Fail(place, "expected a number that double precision can hold");
     }
-    return number;
+    // The result of the C++ library may be wrong in its last bit where it was compiled for x87.
+    return ParseNumber(scanner.Since(start));
 }
 
 bool IsPlainFileName(TextView name) {
@@ -165,7 +168,7 @@ Literal ReadShortcut(Scanner& scanner) {
     return Shortcut{Text(scanner.Since(start))};
 }
 
-// Both begin with a brace; only an identifier has hyphens.
+// Shortcuts and identifiers may both begin with a brace; only an identifier has hyphens.
 Literal ReadBraced(Scanner& scanner) {
     const TextView line = scanner.Rest().substr(0, scanner.Rest().find_first_of(u"}\r\n"));
     if (line.find(u'-') == TextView::npos) {
@@ -197,7 +200,7 @@ Literal ReadLiteral(Scanner& scanner) {
     scanner.Expect("a value");
 }
 
-// Booleans are numbers with a word behind them.
+// Booleans are numbers followed by a word in a comment.
 std::optional<bool> AsBoolean(const CommentedLiteral& value) {
     const auto* number = std::get_if<std::int32_t>(&value.literal);
     const TextView word = Trim(value.comment);

@@ -1,4 +1,4 @@
-// Reads one value off a form's line.
+// Reads one value from a line of a form.
 #pragma once
 
 #include "forms/literal.h"
@@ -7,21 +7,21 @@
 
 namespace lumenkit::forms {
 
-/// The value at the scanner and behind it, where the line goes on, its comment. Moves the scanner
-/// to the end of the line; throws FormError where there is no value or more than one.
+/// Reads the value at the scanner and the comment after it, if any. Moves the scanner to the end of
+/// the line. Throws FormError when there is no value or more than one.
 struct CommentedLiteral {
     Literal literal;
     Text comment;  ///< without the apostrophe
 };
 CommentedLiteral ReadValue(Scanner& scanner);
 
-/// The text between quotes, doubled ones made single.
+/// Reads the text between quotes and replaces doubled quotes by single ones.
 Text ReadQuoted(Scanner& scanner);
 
-/// {…} of hexadecimal digits and hyphens, braces included.
+/// Reads an identifier, {…} with hexadecimal digits and hyphens; returns it with its braces.
 Text ReadGuid(Scanner& scanner);
 
-/// Blanks and a comment up to the end of the line. Throws FormError for anything else.
+/// Reads blanks and a comment up to the end of the line. Throws FormError for anything else.
 Text ReadComment(Scanner& scanner);
 
 }  // namespace lumenkit::forms

@@ -48,7 +48,7 @@ void FormWriter::Refuse(const Unmappable& unmappable, TextView text, Position pl
         UnitName(text[unmappable.index]) + " cannot be written in " + unmappable.encoding);
 }
 
-// As deep as the parser lets blocks lie in one another, and editors take care to.
+// The recursion is as deep as the blocks are nested, which the parser and the editors limit.
 void FormWriter::Add(const Block& block) {
     text_ += block.OpenLine();
     for (const Block::Item& item : block.Items()) {
@@ -65,7 +65,7 @@ void FormWriter::Add(const Property& property) {
     text_ += source.lineBreak;
 }
 
-// Appends the text to the companion and gives the reference to it.
+// Appends the text to the companion and returns the reference to it.
 Text FormWriter::Store(TextView text) {
     try {
         const std::string content = EncodeIn(encoding_.CompanionPage(), text);

@@ -1,4 +1,4 @@
-// Puts the lines of a tree together again.
+// Writes the lines of a tree as a form.
 #pragma once
 
 #include <string>
@@ -12,7 +12,7 @@
 
 namespace lumenkit::forms {
 
-/// Writes one form. `name` is the form's name for errors.
+/// Writes one form. `name` is the name of the form in error messages.
 class FormWriter {
  public:
     FormWriter(const std::string& name, const Encoding& encoding, Text companionName,

@@ -6,7 +6,7 @@ namespace lumenkit {
 
 namespace {
 
-// NaN does not fit.
+// Returns false for NaN.
 template <typename Storage>
 bool Fits(double number) {
     return number >= std::numeric_limits<Storage>::min() &&
@@ -16,7 +16,7 @@ bool Fits(double number) {
 template <typename Storage>
 Storage Round(double number) {
     if (Fits<Storage>(number) && number == static_cast<Storage>(number)) {
-        return static_cast<Storage>(number);  // whole as it is: the common case
+        return static_cast<Storage>(number);  // already whole: the common case
     }
     const double whole = RoundHalfToEven(number);
     if (!Fits<Storage>(whole)) {
@@ -28,7 +28,7 @@ Storage Round(double number) {
 }  // namespace
 
 double RoundHalfToEven(double number) {
-    // Not nearbyint: its result hangs on a rounding mode that a host may have changed.
+    // nearbyint would depend on the rounding mode, which a host may have changed.
     const double down = std::floor(number);
     const double rest = number - down;
     if (rest < 0.5 || (rest == 0.5 && std::fmod(down, 2.0) == 0.0)) {

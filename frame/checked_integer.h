@@ -11,7 +11,8 @@
 
 namespace lumenkit {
 
-/// The nearest whole number, halves to the even one. Infinities and NaN pass unchanged.
+/// Returns the nearest whole number; a half is rounded to the even neighbour. Returns infinities
+/// and NaN unchanged.
 double RoundHalfToEven(double number);
 
 template <std::signed_integral Storage>
@@ -38,12 +39,12 @@ requires(sizeof(Storage) <= 4) class CheckedInteger {
     constexpr CheckedInteger& operator-=(CheckedInteger right) { return *this = *this - right; }
     constexpr CheckedInteger& operator++() { return *this += CheckedInteger(1); }
 
-    // clang-tidy 14 takes the default for a null pointer.
+    // clang-tidy 14 mistakes the default for a null pointer.
     friend constexpr auto operator<=>(CheckedInteger,
                                       CheckedInteger) = default;  // NOLINT(modernize-use-nullptr)
 
  private:
-    // Sums, differences and products of two 32-bit numbers fit.
+    // Wide enough for the sum, difference or product of two 32-bit numbers.
     static constexpr std::int64_t Wide(Storage value) { return value; }
 
     template <std::integral From>
@@ -60,11 +61,13 @@ requires(sizeof(Storage) <= 4) class CheckedInteger {
 using Int16 = CheckedInteger<std::int16_t>;
 using Int32 = CheckedInteger<std::int32_t>;
 
-/// The nearest integer, halves to the even one. Raise 6 when it does not fit (NaN never does).
+/// Return the nearest integer; a half is rounded to the even neighbour. Raise 6 when the result
+/// does not fit or when `number` is NaN.
 std::int16_t RoundToInt16(double number);
 std::int32_t RoundToInt32(double number);
 
-/// As single precision, nearest. Raises 6 when the magnitude is beyond single precision's range.
+/// Returns the nearest single-precision number. Raises 6 when the magnitude is beyond the range of
+/// single precision.
 float ToSingle(double number);
 
 }  // namespace lumenkit

@@ -1,4 +1,4 @@
-// What a component consists of: its classes, as data, with the functions that create them.
+// Describes a component as data: its classes and the functions that create them.
 #pragma once
 
 #include <cstdint>
@@ -13,9 +13,10 @@
 
 namespace lumenkit {
 
-/// Another name for a class's default interface, hidden, kept for clients that were built with it.
+/// A hidden second name for a class's default interface, for clients that were built with that
+/// name.
 struct InterfaceAlias {
-    TextView name;  ///< empty: the class has none
+    TextView name;  ///< empty when the class has no alias
     UniqueIdentifier uniqueIdentifier;
 };
 
@@ -25,39 +26,39 @@ struct ClassDescriptor {
     TextView name;  ///< "VLabel"
     ClassKind kind = ClassKind::Control;
     const InterfaceTable* interfaceTable = nullptr;  ///< never null
-    const EventTable* eventTable = nullptr;          ///< null where the class raises no events
-    /// Set for a control. The host must outlive what is made.
+    const EventTable* eventTable = nullptr;          ///< null when the class raises no events
+    /// Set for a control. The host must outlive the control that is created.
     std::unique_ptr<Control> (*createControl)(const ControlHost& host) = nullptr;
-    /// Set for a property page.
+    /// Set for a property page. The host must outlive the page that is created.
     std::unique_ptr<PropertyPage> (*createPage)(const PageHost& host) = nullptr;
-    /// How large a property page is laid out, in twips.
+    /// Size of a property page, in twips.
     float pageWidth = 0;
     float pageHeight = 0;
-    TextView pageTitle = {};                 ///< of a property page, for the host's tabs
-    UniqueIdentifier uniqueIdentifier = {};  ///< null where the class is not published
+    TextView pageTitle = {};                 ///< caption of the page's tab in the host
+    UniqueIdentifier uniqueIdentifier = {};  ///< null when the class is not published
     InterfaceAlias alias = {};
-    /// Number of the bitmap resource that stands for the class in a designer's toolbox; 0: none.
+    /// Number of the bitmap resource that a designer's toolbox shows for the class; 0 for none.
     std::uint16_t toolboxBitmap = 0;
-    /// The property page that edits a control: the name of a class of the same table; empty: none.
+    /// Name of the property page that edits a control, a class of the same table; empty for none.
     TextView propertyPage = {};
-    std::span<const TextView> pageProperties = {};  ///< the names of those that it edits
+    std::span<const TextView> pageProperties = {};  ///< names of the properties that the page edits
 };
 
-/// The project descriptor: what the server's entries hand to a control runtime.
+/// The project descriptor, which the server's entry points pass to a control runtime.
 struct ClassTable {
     TextView libraryName;  ///< "lumenkit"
     std::span<const ClassDescriptor> classes;
-    // Of the type library that publishes the classes.
+    // The type library that publishes the classes.
     UniqueIdentifier uniqueIdentifier = {};
     std::uint16_t majorVersion = 0;
     std::uint16_t minorVersion = 0;
-    std::uint32_t locale = 0;  ///< the platform's number of a language: 1033 is English
+    std::uint32_t locale = 0;  ///< the platform's language number: 1033 is English
     TextView help = {};
-    /// The type library beside it, whose enumerations its interfaces use; null where they use none.
+    /// The type library of the enumerations that the interfaces use; null when they use none.
     const EnumerationLibrary* enumerations = nullptr;
 
-    /// The class with this programmatic identifier, "library.class", without regard to case; null
-    /// when there is none.
+    /// Returns the class with this programmatic identifier, "library.class", compared without
+    /// regard to case; null when there is none.
     const ClassDescriptor* Find(TextView programmaticIdentifier) const;
 };
 

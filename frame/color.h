@@ -1,4 +1,4 @@
-// Colours in the host's form: red + green * 256 + blue * 65536, or a system colour with the high
+// Colours in the host's format: red + green * 256 + blue * 65536, or a system colour with the high
 // bit set.
 #pragma once
 

@@ -15,13 +15,13 @@
 
 namespace lumenkit {
 
-/// Everything a user control is given; all of it outlives the control.
+/// The host services that a user control receives. All of them outlive the control.
 struct ControlHost {
     host::Surface& surface;
     host::Container& container;
     host::Ambient& ambient;
-    /// The control as its container sees it, late-bound: Name, Tag, Left, Top, Width, Height,
-    /// Visible, Move. What a container does not have raises 438.
+    /// The container's late-bound extender of the control: Name, Tag, Left, Top, Width, Height,
+    /// Visible, Move. A member that the container does not provide raises 438.
     Object& extender;
     host::Screen& screen;
     host::Application& application;
@@ -31,13 +31,13 @@ struct ControlHost {
 
 /// A user control. The container calls, in this order: Initialize; InitProperties for a newly
 /// placed control, or ReadProperties for a saved one; Resize whenever the size changes; Show; Paint
-/// whenever the surface asks; WriteProperties when it saves. The rest is forwarded from the surface
-/// as the user acts on it.
+/// whenever the surface needs repainting; WriteProperties when it saves. The other functions
+/// forward user input from the surface.
 class Control {
  public:
     virtual ~Control() = default;
 
-    /// The control's members as automation clients use them. Lives as long as the control.
+    /// Returns the control's automation interface. It lives as long as the control.
     virtual Object& Automation() = 0;
 
     virtual void UserControl_Initialize() {}
@@ -55,7 +55,7 @@ class Control {
     virtual void UserControl_MouseUp(host::MouseArguments& /*mouse*/) {}
 };
 
-/// Everything a property page is given; all of it outlives the page.
+/// The host services that a property page receives. All of them outlive the page.
 struct PageHost {
     host::PropertyPageSite& site;
     host::SelectedControls& selectedControls;
@@ -64,13 +64,13 @@ struct PageHost {
     host::Constituents& constituents;
 };
 
-/// A property page. The host calls Initialize once, SelectionChanged whenever other controls are
-/// selected, ApplyChanges when the person applies. Errors travel to the host.
+/// A property page. The host calls Initialize once, SelectionChanged whenever the selection of
+/// controls changes, and ApplyChanges when the user applies the page. Errors propagate to the host.
 class PropertyPage {
  public:
     virtual ~PropertyPage() = default;
 
-    /// The page's members as automation clients use them. Lives as long as the page.
+    /// Returns the page's automation interface. It lives as long as the page.
     virtual Object& Automation() = 0;
 
     virtual void PropertyPage_Initialize() {}

@@ -1,8 +1,8 @@
 // The error convention that every procedure of a control follows.
 //
-// A procedure tells the trace hook that it is entered, runs its body in a trap and tells the hook
-// that it is left. An error in the body is reported and swallowed: the rest of the body does not
-// run, and the caller gets what the procedure had assigned so far.
+// Each procedure calls the trace hook on entry, runs its body in a trap and calls the trace hook on
+// exit. An error in the body is reported and swallowed: the rest of the body does not run, and the
+// caller gets the result assigned so far.
 //
 //     void VLabel::pLetForeColor(Color color) {
 //         module_.Procedure(u"pLetForeColor", [&] { ... });
@@ -22,10 +22,11 @@
 
 namespace lumenkit {
 
-/// The switch of the whole convention: where it is false, errors travel to the caller.
+/// Turns the convention on. When it is false, errors propagate to the caller.
 inline constexpr bool errorTrapping = true;
 
-/// A procedure's name in the source. Its length is found when that is compiled: traces are many.
+/// The name of a procedure in the source. Its length is computed at compile time, because each
+/// procedure passes it to the trace hook twice.
 class ProcedureName {
  public:
     template <std::size_t size>
@@ -38,15 +39,15 @@ class ProcedureName {
     TextView name_;
 };
 
-/// One source module of a control, under the name that its error reports bear.
+/// One source module of a control, with the name that appears in its error reports.
 template <bool trapping>
 class BasicModule {
  public:
     /// `errors` must outlive the module; `fileName` must be a literal, such as u"VLABEL".
     BasicModule(ModuleErrors& errors, TextView fileName) : errors_(errors), fileName_(fileName) {}
 
-    /// Runs `body()` as the procedure `name`. Out of memory and exceptions that are no errors of
-    /// the runtime are reported too, as 7 and 51.
+    /// Runs `body()` as the procedure `name`. Also reports running out of memory, as 7, and
+    /// exceptions other than RuntimeError, as 51.
     template <typename Body>
     void Procedure(ProcedureName name, Body&& body) const {
         errors_.TraceProc(fileName_, name, nullptr);
@@ -58,8 +59,8 @@ class BasicModule {
         errors_.TraceProc(fileName_, name, nullptr);
     }
 
-    /// Runs `body(result)` as the function `name` and returns `result`, which starts as the default
-    /// value of its type.
+    /// Runs `body(result)` as the function `name` and returns `result`, which is initialised to the
+    /// default value of its type.
     template <typename Result, typename Body>
     Result Function(ProcedureName name, Body&& body) const {
         Result result{};
@@ -77,8 +78,8 @@ class BasicModule {
         }
     }
 
-    // In a catch block. The reporter's answer could ask to resume inside the procedure; it never
-    // does, so giving up is all there is.
+    // Call it in a catch block. The recovery code that ReportError returns could ask to resume
+    // inside the procedure. It is always 0, so the procedure is abandoned.
     void Handle(TextView name) const {
         const RuntimeError error = CurrentError();
         [[maybe_unused]] const std::int16_t recovery = errors_.ReportError(

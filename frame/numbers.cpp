@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cfloat>
 #include <charconv>
 #include <cmath>
 #include <cstdlib>
@@ -24,12 +25,16 @@ char16_t AsciiLower(char16_t unit) {
     return unit >= u'A' && unit <= u'Z' ? static_cast<char16_t>(unit + 32) : unit;
 }
 
-// The units of a number, one after the other, with or without the blanks between them.
+// On x87, an operation rounds twice, to the width of the registers and then to double, so the last
+// bit of the result may be wrong.
+constexpr bool operationsRoundOnce = FLT_EVAL_METHOD == 0 || FLT_EVAL_METHOD == 1;
+
+// Reads the units of a number one by one, optionally skipping the blanks between them.
 class Units {
  public:
     Units(TextView text, bool skipBlanks) : text_(text), skipBlanks_(skipBlanks) { Settle(); }
 
-    // 0 at the end: no number holds that unit.
+    // Returns 0 at the end, a unit that occurs in no number.
     char16_t Peek() const { return at_ < text_.size() ? text_[at_] : u'\0'; }
     void Advance() {
         ++at_;
@@ -56,8 +61,8 @@ class Units {
     bool skipBlanks_;
 };
 
-// A decimal number of any length, kept as precisely as rounding to double can tell apart.
-// NOLINTNEXTLINE(cppcoreguidelines-pro-type-member-init): only as many digits as are used are set
+// A decimal number of any length, kept precisely enough to be rounded correctly to double.
+// NOLINTNEXTLINE(cppcoreguidelines-pro-type-member-init): only the used digits are initialised
 class DecimalNumber {
  public:
     void AddDigit(char16_t digit, bool afterPoint) {
@@ -69,7 +74,7 @@ class DecimalNumber {
         } else if (leadingZero) {
             scale_ -= afterPoint ? 1 : 0;
         } else {
-            // Past what can matter, but for being more than nothing.
+            // Beyond the digits that affect rounding; only whether any of them is nonzero matters.
             digits_.back() = digit == u'0' ? digits_.back() : std::max(digits_.back(), '1');
             scale_ += afterPoint ? 0 : 1;
         }
@@ -81,16 +86,17 @@ class DecimalNumber {
         if (count_ == 0) {
             return 0.0;
         }
-        return count_ <= exactDigits && scale_ >= -exactPower && scale_ <= exactPower ? Exact()
-                                                                                      : Rounded();
+        const bool exact = operationsRoundOnce && count_ <= exactDigits && scale_ >= -exactPower &&
+                           scale_ <= exactPower;
+        return exact ? Exact() : Rounded();
     }
 
  private:
     static constexpr std::size_t exactDigits = 15;
     static constexpr std::int64_t exactPower = 22;
 
-    // Both the digits and the power of ten are doubles without error, so one operation rounds
-    // right.
+    // The digits and the power of ten are both exact doubles, so a single operation rounds
+    // correctly.
     double Exact() const {
         static constexpr std::array<double, exactPower + 1> powers = {
             1e0,  1e1,  1e2,  1e3,  1e4,  1e5,  1e6,  1e7,  1e8,  1e9,  1e10, 1e11,
@@ -107,15 +113,19 @@ class DecimalNumber {
     double Rounded() const {
         std::array<char, maxDigits + 32> image{};
         char* end = std::copy_n(digits_.begin(), count_, image.begin());
+        const std::size_t zeros = count_ < wideDigits ? wideDigits - count_ : 0;
+        end = std::fill_n(end, zeros, '0');
         *end++ = 'e';
-        // Far enough outside double's range to be certain, near enough to be a short number.
+        // Certainly outside the range of double, and short enough for the buffer.
         constexpr std::int64_t farPower = 1'000'000;
-        const std::int64_t power = std::clamp(scale_, -farPower, farPower);
+        const std::int64_t power =
+            std::clamp(scale_, -farPower, farPower) - static_cast<std::int64_t>(zeros);
         end = std::to_chars(end, image.data() + image.size(), power).ptr;
         double number = 0.0;
         const auto result = std::from_chars(image.data(), end, number);
         if (result.ec == std::errc::result_out_of_range) {
-            const bool tooLarge = static_cast<std::int64_t>(count_) + power > 0;  // or too small
+            const bool tooLarge =
+                static_cast<std::int64_t>(count_ + zeros) + power > 0;  // else too small
             if (tooLarge) {
                 Raise(ErrorNumber::Overflow);
             }
@@ -124,7 +134,11 @@ class DecimalNumber {
         return number;
     }
 
-    // No double, and no midpoint between two, has more significant digits than 768.
+    // This many digits exceed the whole numbers that a double holds exactly. The C++ library
+    // multiplies shorter numbers by their power of ten as doubles, which rounds twice when compiled
+    // for x87, as it is for all 32-bit programs. For this many digits, it uses integers.
+    static constexpr std::size_t wideDigits = 19;
+    // No double, and no midpoint between two doubles, has more than 768 significant digits.
     static constexpr std::size_t maxDigits = 770;
     std::array<char, maxDigits> digits_;
     std::size_t count_ = 0;
@@ -216,7 +230,7 @@ TextView WithoutSpaceAround(TextView text) {
     return text;
 }
 
-// `image` is a number without its sign, "d[.ddd]e±xx"; zeros that end its digits are dropped.
+// `image` is a number without a sign, "d[.ddd]e±xx". Trailing zeros of its digits are dropped.
 void AppendUnsigned(Text& text, std::string_view image, int firstExponent) {
     const std::size_t mark = image.find('e');
     std::string_view exponentImage = image.substr(mark + 1);
@@ -275,7 +289,8 @@ void AppendHundredths(Text& text, std::int32_t hundredths) {
 
 template <typename Number>
 void AppendStrOf(Text& text, Number number, int firstExponent) {
-    // The common case, and quick: six digits that read back as the number are the fewest.
+    // Fast path for the common case: a number with at most two decimals and up to four digits
+    // before the point. Six digits that read back as the number are the fewest.
     constexpr Number most = 9'999;
     const Number half = number < 0 ? Number(-0.5) : Number(0.5);
     const auto hundredths = static_cast<std::int32_t>(std::clamp(number, -most, most) * 100 + half);
@@ -309,8 +324,8 @@ Text NumberTextOf(Number number, int digits) {
 constexpr int doubleDigits = 15;
 constexpr int singleDigits = 7;
 
-// A number of a few digits, perhaps with a point among them, before a comma, a bar or the end: what
-// most numbers are, read quickly.
+// Fast path for most numbers: a few digits, with or without a decimal point, followed by a comma, a
+// bar or the end.
 std::optional<double> ShortNumber(TextView text) {
     constexpr std::array powers = {1e0, 1e1, 1e2, 1e3, 1e4, 1e5, 1e6, 1e7, 1e8, 1e9};
     std::int32_t digits = 0;
@@ -328,8 +343,14 @@ std::optional<double> ShortNumber(TextView text) {
             return std::nullopt;
         }
     }
-    // One division of two doubles without error rounds right.
-    return point == TextView::npos ? digits : digits / powers[at - point - 1];
+    if (point == TextView::npos) {
+        return digits;
+    }
+    if (!operationsRoundOnce) {
+        return std::nullopt;
+    }
+    // Both operands are exact doubles, so a single division rounds correctly.
+    return digits / powers[at - point - 1];
 }
 
 }  // namespace

@@ -2,7 +2,7 @@
 
 namespace lumenkit {
 
-/// A flag that is True as long as this object lives; an error on the way ends that too.
+/// Sets a flag to true and clears it on destruction, also when an exception leaves the scope.
 class RaisedFlag {
  public:
     explicit RaisedFlag(bool& flag) : flag_(flag) { flag = true; }

@@ -1,4 +1,4 @@
-// The errors that the control runtime raises, by the numbers and with the texts its clients know.
+// The errors that the control runtime raises: their numbers, their texts and the exception type.
 #pragma once
 
 #include <cstdint>
@@ -34,12 +34,12 @@ enum class ErrorNumber : std::int32_t {
     WrongNumberOfArguments = 450,
 };
 
-/// The runtime's text for an error number; "Application-defined or object-defined error" for a
-/// number that has none. Valid for the life of the program.
+/// Returns the runtime's text for an error number, or "Application-defined or object-defined error"
+/// for a number without a text. The view is valid for the life of the program.
 TextView RuntimeErrorText(std::int32_t number);
 
-/// An error of the control runtime on its way to the nearest trap. `line` is the line number of
-/// the failing statement, 0 where lines are not numbered.
+/// An error of the control runtime, thrown to the nearest trap. `line` is the line number of the
+/// failing statement, 0 when lines are not numbered.
 class RuntimeError : public std::exception {
  public:
     RuntimeError(std::int32_t number, Text description, std::int32_t line = 0);
@@ -56,13 +56,14 @@ class RuntimeError : public std::exception {
     Text description_;
 };
 
-/// Raises an error with the runtime's own text, as the runtime's Err.Raise with a number alone.
+/// Raise an error with the runtime's text for the number, as Err.Raise does when it is given only a
+/// number.
 [[noreturn]] void Raise(ErrorNumber number);
 [[noreturn]] void Raise(std::int32_t number);
 
-/// What is known of the exception in flight, as the runtime's error object would show it: a
-/// RuntimeError as it stands, exhausted memory as 7, anything else as 51 (internal error).
-/// Call it in a catch block only.
+/// Returns the exception being handled as the runtime's error object shows it: a RuntimeError
+/// unchanged, running out of memory as 7, anything else as 51 (internal error). Call it only in a
+/// catch block.
 RuntimeError CurrentError();
 
 }  // namespace lumenkit

@@ -1,4 +1,4 @@
-// Identifiers that are unique in the world: of libraries, classes and interfaces.
+// Globally unique identifiers of libraries, classes and interfaces.
 #pragma once
 
 #include <array>
@@ -10,8 +10,8 @@
 
 namespace lumenkit {
 
-/// 128 bits, laid out field by field as the platform's own identifiers are. The default is the null
-/// identifier, which stands for "none".
+/// A 128-bit identifier with the field layout of the platform's identifiers. The default value is
+/// the null identifier, which means "none".
 struct UniqueIdentifier {
     std::uint32_t data1 = 0;
     std::uint16_t data2 = 0;
@@ -19,8 +19,9 @@ struct UniqueIdentifier {
     std::array<std::uint8_t, 8> data4 = {};
 
     constexpr UniqueIdentifier() = default;
-    /// From the usual form, "8e90c363-d415-47aa-afdf-c215c3c33f77"; anything else does not compile.
-    // NOLINTNEXTLINE(google-explicit-constructor): tables read better with the text alone.
+    /// Parses the usual form, "8e90c363-d415-47aa-afdf-c215c3c33f77"; anything else does not
+    /// compile.
+    // NOLINTNEXTLINE(google-explicit-constructor): tables read better with a plain string.
     consteval UniqueIdentifier(const char* text) : UniqueIdentifier(std::string_view(text)) {}
 
     friend bool operator==(const UniqueIdentifier&, const UniqueIdentifier&) = default;
@@ -65,7 +66,7 @@ struct UniqueIdentifier {
     }
 };
 
-/// "8e90c363-d415-47aa-afdf-c215c3c33f77".
+/// Returns the usual form: "8e90c363-d415-47aa-afdf-c215c3c33f77".
 std::string ToString(const UniqueIdentifier& identifier);
 
 }  // namespace lumenkit

@@ -19,7 +19,7 @@ unsigned Byte(std::string_view bytes, std::size_t at) {
     return static_cast<unsigned char>(bytes[at]);
 }
 
-// How many bytes the sequence that begins with `lead` has; 0 when none can begin so.
+// Returns the length in bytes of the sequence that begins with `lead`; 0 when no sequence can.
 std::size_t SequenceLength(unsigned lead) {
     if (lead < 0x80) {
         return 1;

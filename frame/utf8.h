@@ -1,4 +1,4 @@
-// Between UTF-8, which files and terminals speak, and the controls' UTF-16.
+// Conversion between UTF-8, used by files and terminals, and the controls' UTF-16.
 #pragma once
 
 #include <cstddef>
@@ -10,8 +10,8 @@
 
 namespace lumenkit {
 
-/// Thrown for bytes that are not well-formed UTF-8; `offset` is where the bad sequence
-/// begins, in bytes from 0.
+/// Thrown for bytes that are not well-formed UTF-8. `offset` is the byte offset, from 0, of the
+/// start of the bad sequence.
 class MalformedUtf8 : public std::runtime_error {
  public:
     explicit MalformedUtf8(std::size_t badOffset)
@@ -20,10 +20,11 @@ class MalformedUtf8 : public std::runtime_error {
     std::size_t offset;
 };
 
-/// Throws MalformedUtf8 on overlong forms, surrogates, values past U+10FFFF and cut sequences.
+/// Throws MalformedUtf8 on overlong forms, surrogates, values past U+10FFFF and truncated
+/// sequences.
 Text FromUtf8(std::string_view bytes);
 
-/// A surrogate without its partner, which UTF-8 cannot carry, becomes U+FFFD.
+/// Replaces an unpaired surrogate, which UTF-8 cannot represent, by U+FFFD.
 std::string ToUtf8(TextView text);
 
 }  // namespace lumenkit

@@ -1,4 +1,4 @@
-// The caption compiler against its literal model, on whatever the fuzzer finds.
+// Fuzzes the caption compiler against its literal model.
 #include "fuzz/finding.h"
 #include "tests/model/caption_comparison.h"
 

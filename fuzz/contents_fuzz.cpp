@@ -1,4 +1,4 @@
-// An option list, used in any way with any contents, against its literal model.
+// Fuzzes an option list, with any contents and any calls, against its literal model.
 #include "fuzz/finding.h"
 #include "tests/model/option_list_twins.h"
 

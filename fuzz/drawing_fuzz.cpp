@@ -1,4 +1,4 @@
-// A label, drawn on any settings, against the literal model of its drawing.
+// Fuzzes the drawing of a label, with any settings, against its literal model.
 #include "fuzz/finding.h"
 #include "tests/model/drawing_comparison.h"
 

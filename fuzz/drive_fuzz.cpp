@@ -1,4 +1,4 @@
-// Sessions of `lumenkit drive`: every request gets an answer, and the session serves on.
+// Fuzzes sessions of `lumenkit drive`: every request gets an answer, and the session continues.
 #include "fuzz/finding.h"
 #include "tests/apps/drive/drive_check.h"
 

@@ -9,7 +9,7 @@
 
 namespace lumenkit::fuzz {
 
-/// What a fuzz target returns: it ends the program where something is wrong with an input.
+/// The result of a fuzz target. Prints a fault and ends the program unless `fault` is empty.
 inline int Verdict(const std::string& fault) {
     if (!fault.empty()) {
         std::fprintf(stderr, "%s\n", fault.c_str());

@@ -1,4 +1,4 @@
-// Reads whatever the fuzzer finds as a form with its companion: it is refused or comes back whole.
+// Fuzzes the reader of form files and their companion files: it rejects a form or reads all of it.
 #include "fuzz/finding.h"
 #include "tests/unit/forms/form_check.h"
 

@@ -1,4 +1,4 @@
-// The restriction engine against its literal model.
+// Fuzzes the restriction engine of the memo against its literal model.
 #include "fuzz/finding.h"
 #include "tests/model/restriction_comparison.h"
 

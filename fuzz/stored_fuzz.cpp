@@ -1,4 +1,5 @@
-// Settings in streams: refused or read, whatever they say, and controls started from them.
+// Fuzzes the reader of settings in streams: it rejects or reads them, and controls start with the
+// settings it has read.
 #include "fuzz/finding.h"
 #include "tests/unit/stored/stream_check.h"
 

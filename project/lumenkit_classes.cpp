@@ -11,7 +11,7 @@ namespace lumenkit {
 
 namespace {
 
-// The four are constants, so they are there before this copies them.
+// The four descriptors are constants, so they are initialised before this array copies them.
 // NOLINTNEXTLINE(cppcoreguidelines-interfaces-global-init)
 const std::array classes = {vlabelClass, vmemoClass, voptlistClass, vlabelCaptionClass};
 
@@ -19,7 +19,7 @@ constexpr UniqueIdentifier libraryIdentifier = "8e90c363-d415-47aa-afdf-c215c3c3
 
 }  // namespace
 
-// It takes the other constant's address only.
+// Only the address of the other constant is used.
 // NOLINTNEXTLINE(cppcoreguidelines-interfaces-global-init)
 const ClassTable lumenkitClasses = {
     .libraryName = u"lumenkit",

@@ -1,5 +1,5 @@
-// The exports of the component server and its entry point: each hands the project descriptor to the
-// runtime's matching entry.
+// The exports and the entry point of the component server. Each passes the project descriptor to
+// the matching function of the runtime.
 #include "project/lumenkit_classes.h"
 #include "runtime/ole/entries.h"
 

@@ -12,7 +12,7 @@ namespace {
 
 constexpr std::size_t blockSize = 64;
 
-// Bit i of the results says that a bar is at unit i.
+// Bit i of each result is set when unit i is a bar.
 
 std::uint64_t BarsOfUnits(const char16_t* units, std::size_t count) {
     std::uint64_t found = 0;

@@ -18,7 +18,7 @@ struct Box {
     std::int8_t bottom;
 };
 
-// The boxes of all marks that are up to `largest` pixels of radius.
+// The boxes of a mark whose radius is at most `largest` pixels.
 struct Band {
     float largest;
     std::array<Box, 3> boxes;
@@ -56,7 +56,7 @@ void PaintBullet(host::Surface& surface, std::int16_t twipsPerPixelX, std::int16
     const auto pixelY = static_cast<float>(twipsPerPixelY);
     const float originX = std::floor(x / pixelX) * pixelX;
     const float originY = std::floor(centreY / pixelY + 1) * pixelY;
-    // The vertical pixel size serves both ways: the boxes are counted in pixels, not measured.
+    // The boxes are counted in pixels; only the vertical pixel size selects them.
     for (const Box& box : BoxesOf(radius / pixelY + 1)) {
         surface.FillBox(originX + static_cast<float>(box.left) * pixelX,
                         originY + static_cast<float>(box.top) * pixelY,

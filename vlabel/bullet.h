@@ -7,8 +7,9 @@
 
 namespace lumenkit {
 
-/// Paints the mark with its left edge at `x` and its middle at `centreY`; `radius` picks its size.
-/// All in twips; the pixel sizes are the screen's. Moves the pen. Raises 11 for a pixel size of 0.
+/// Paints the mark with its left edge at `x` and its middle at `centreY`; `radius` selects its
+/// size. All lengths are in twips; the pixel sizes are those of the screen. Moves the pen. Raises
+/// 11 for a pixel size of 0.
 void PaintBullet(host::Surface& surface, std::int16_t twipsPerPixelX, std::int16_t twipsPerPixelY,
                  float x, float centreY, float radius);
 

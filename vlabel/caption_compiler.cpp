@@ -10,13 +10,13 @@ namespace lumenkit {
 
 namespace {
 
-// The line that exceeds this number is still kept, and is the last one.
+// One line beyond this number is still kept; it is the last one.
 constexpr std::int32_t maxLines = 300;
 
-// Appends the parameter of a switch, "0" or "1" where it says so in words.
+// Appends the parameter of a switch; "true" and "false" become "1" and "0".
 void AppendSwitch(Text& entry, TextView written) {
     const bool isDigit = written.size() == 2 && (written[0] == u'0' || written[0] == u'1');
-    if (isDigit && written[1] == u'|') {  // what captions mostly say
+    if (isDigit && written[1] == u'|') {  // the usual form
         entry.push_back(written[0]);
         return;
     }
@@ -53,9 +53,9 @@ void CaptionCompiler::CompileLine(CaptionReader& caption) {
     bool closed = true;
     while (closed && caption.ReadThroughBar(line)) {
         TextView command;
-        closed = caption.ReadThroughBar(command, command_);  // the bar that closes it is part of it
+        closed = caption.ReadThroughBar(command, command_);  // includes the closing bar
         if (!closed) {
-            // The end of the line stands for the closing bar and must have a position too.
+            // The end of the line replaces the closing bar, so its position must fit 16 bits too.
             static_cast<void>(Int16(line.size() - begin + command.size() + 1));
         }
         CompileCommand(command);
@@ -101,7 +101,7 @@ void CaptionCompiler::AppendParameter(Text& entry, CommandWord::Parameter kind, 
     }
 }
 
-// A sign makes the number a change, none makes it the new value.
+// A number with a sign changes the spacing by that amount; a number without a sign replaces it.
 void CaptionCompiler::ChangeBeforeSpacing(TextView written) {
     const bool relative = written.starts_with(u'+') || written.starts_with(u'-');
     const double number = ParseNumber(written);

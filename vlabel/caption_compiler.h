@@ -10,22 +10,22 @@ namespace lumenkit {
 /// Compiles captions: text with commands between bars, such as "|B:1|bold|B:0| plain", into lines
 /// whose bars mark where the commands apply, and a list of the commands.
 ///
-/// A caption is one line more than it has separators ("|CR|"), but never more than 301. In a line
-/// every "|Q|" is a double quote; every other bar opens a command that reaches to the next bar, or
-/// to the end of the line. Letters of commands and markers may be of either case.
+/// A caption has one line more than it has separators ("|CR|"), but at most 301. In a line, every
+/// "|Q|" is a double quote; every other bar starts a command that ends at the next bar or at the
+/// end of the line. The letters of commands and markers may be of either case.
 ///
-/// A compiler that is used again allocates nothing once it has seen a caption as large.
+/// A reused compiler allocates nothing once it has compiled a caption of the same size.
 class CaptionCompiler {
  public:
     /// `module` must outlive the compiler.
     explicit CaptionCompiler(const Module& module) : module_(module) {}
 
-    /// Replaces Compiled() by the compiled form of `caption`, which must stay as it is meanwhile:
-    /// a report may show a message, and so let the host work.
+    /// Replaces Compiled() by the compiled form of `caption`, which must not change during the
+    /// call: an error report may show a message, and the host's code may run meanwhile.
     ///
-    /// Errors are reported, not raised. A command with a number out of range leaves no entry but
-    /// keeps its bar. A line that ends beyond position 32767 (UTF-16 units) ends the compile; what
-    /// came before it stays.
+    /// Errors are reported, not raised. A command with a number out of range has no entry in the
+    /// lists, but its bar is kept. A line that ends beyond position 32767 (UTF-16 units) ends
+    /// compilation; the lines before it are kept.
     void CompileCaption(TextView caption);
 
     const CompiledCaption& Compiled() const { return compiled_; }
@@ -39,7 +39,7 @@ class CaptionCompiler {
     const Module& module_;
     CompiledCaption compiled_;
     float BeforeSpacing_ = 0.0F;
-    Text command_;  // scratch: the command at hand, where there are quotes in it
+    Text command_;  // scratch: the current command, if it contains quotes
 };
 
 }  // namespace lumenkit

@@ -12,7 +12,7 @@ namespace lumenkit {
 namespace {
 
 bool IsPrintable(TextView unit) {
-    // Only a lone surrogate is replaced on its way through UTF-8.
+    // The conversion to UTF-8 replaces only lone surrogates.
     return unit.front() >= blank && unit.front() != u'\x7F' && FromUtf8(ToUtf8(unit)) == unit;
 }
 
@@ -39,7 +39,7 @@ bool IsPair(TextView text) {
     return text.size() >= 2 && (text[0] & 0xFC00) == 0xD800 && (text[1] & 0xFC00) == 0xDC00;
 }
 
-// `marked` are the units that a backslash goes before.
+// Writes a backslash before each of the units in `marked`.
 void AppendText(std::string& dump, TextView text, TextView marked) {
     while (!text.empty()) {
         const TextView character = text.substr(0, IsPair(text) ? 2 : 1);

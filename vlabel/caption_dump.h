@@ -1,4 +1,4 @@
-// A compiled caption as text to read, for tests and tools.
+// Dumps a compiled caption as readable text, for tests and tools.
 #pragma once
 
 #include <string>
@@ -7,15 +7,15 @@
 
 namespace lumenkit {
 
-/// Each line of the caption, and under it the commands that its bars stand for:
+/// Returns each line of the caption, followed by the commands of its bars:
 ///
 ///     line "Hello |world|"
 ///       b = "1"
 ///       b = "0"
 ///
-/// Names without a colon keep their closing bar, as they do in the list. Quotes, backslashes,
-/// control characters and lone surrogates are escaped; the text is UTF-8. A bar whose command was
-/// not kept is "(missing)"; commands whose line was not kept follow after "no line".
+/// Names without a colon keep their closing bar, as in the list. Quotes, backslashes, control
+/// characters and lone surrogates are escaped; the text is UTF-8. A bar without a command in the
+/// list is written as "(missing)"; commands without a bar follow after "no line".
 std::string DumpCaption(const CompiledCaption& compiled);
 
 }  // namespace lumenkit

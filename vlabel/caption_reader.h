@@ -8,34 +8,35 @@
 
 namespace lumenkit {
 
-/// A caption as the compiler reads it, once and from front to back: bars are handed out one by one,
-/// quotes ("|Q|") are replaced on the way and separators ("|CR|") end a line.
+/// Reads a caption once, from front to back, for the compiler: returns the bars one by one,
+/// replaces quotes ("|Q|") and ends a line at each separator ("|CR|").
 ///
-/// Positions count UTF-16 units from 1 and are 16-bit integers: one beyond 32767 raises 6.
+/// Positions count UTF-16 units from 1 and are 16-bit integers: a position beyond 32767 raises 6.
 class CaptionReader {
  public:
-    /// `caption` must outlive the reader, which stands at the first line's start.
+    /// `caption` must outlive the reader. Reading starts at the first line.
     explicit CaptionReader(TextView caption) : caption_(caption), bars_(caption) {}
 
-    /// Raises 6 when the end of the line at hand lies beyond position 32767.
+    /// Raises 6 when the current line ends beyond position 32767.
     void CheckLineEnd() const;
 
-    /// Appends to `run` what the line holds up to and with its next bar, or all the rest where it
-    /// has none. True when there was a bar.
+    /// Appends the line to `run` up to and including the next bar, or up to its end when there is
+    /// no bar. Returns whether there was a bar.
     bool ReadThroughBar(Text& run);
 
-    /// The same, as a view of the caption where there are no quotes in it, else of `scratch`.
+    /// As above, but sets `run` to a view: of the caption if the part contains no quotes, else of
+    /// `scratch`.
     bool ReadThroughBar(TextView& run, Text& scratch);
 
-    /// At the end of a line, goes on to the next one; false when there is none. Raises 6 when the
-    /// next line would start beyond position 32767.
+    /// At the end of a line, moves to the next one. Returns false when there is none. Raises 6 when
+    /// the next line would start beyond position 32767.
     bool NextLine();
 
-    /// Where reading stands: an offset in the caption, from 0.
+    /// Returns the offset of the next unit to read in the caption, from 0.
     std::size_t Offset() const { return at_; }
 
  private:
-    // What ends a piece of a line. A bar is part of the piece, a quote is not.
+    // The end of a piece of a line. A bar belongs to the piece, a quote does not.
     enum class End : std::uint8_t { Bar, Quote, Line };
     End PassPiece();
     bool IsQuote(std::size_t at) const;
@@ -90,7 +91,8 @@ inline bool CaptionReader::IsSeparator(std::size_t at) const {
            IsLetter(caption_[at + 2], u'r') && caption_[at + 3] == bar;
 }
 
-// Lines are told apart before quotes are replaced: a bar that begins a separator closes no quote.
+// Lines are separated before quotes are replaced: a bar that begins a separator does not close a
+// quote.
 inline bool CaptionReader::IsQuote(std::size_t at) const {
     return caption_.size() - at >= quoteLength && IsLetter(caption_[at + 1], u'q') &&
            caption_[at + 2] == bar && !IsSeparator(at + 2);

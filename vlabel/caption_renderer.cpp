@@ -24,7 +24,7 @@ void CaptionRenderer::DisplayCaption() {
         const RaisedFlag drawing(isDrawing_);
         CompileIfChanged();
         if (!SaveState()) {
-            return;  // what is not saved cannot be put back: better no drawing than another font
+            return;  // without a saved state, the colour and font could not be restored
         }
         try {
             DrawLines();
@@ -90,7 +90,7 @@ void CaptionRenderer::DisplayText(TextView text, bool endOfLine) {
     });
 }
 
-// Draws the bullet of a run that asks for one, and returns the run without its prefix.
+// Draws the bullet if the run starts with the prefix, and returns the run without the prefix.
 TextView CaptionRenderer::DrawBulletOf(TextView text, float x0) {
     const TextView prefix = settings_.BulletPrefix;
     if (x0 != LineStart() || prefix.empty() || !text.starts_with(prefix)) {
@@ -142,7 +142,7 @@ bool CaptionRenderer::IsVisible() const {
     return surface_.CurrentY() < visibleBottom_;
 }
 
-// Below the visible part only the pen moves.
+// Below the visible part, only the pen moves.
 void CaptionRenderer::Skip(float width) {
     surface_.SetCurrentX(surface_.CurrentX() + width);
 }
@@ -177,7 +177,7 @@ void CaptionRenderer::Execute(TextView name, TextView parameter, TextView restOf
         surface_.CurrentFont()->SetBold(parameter == u"1");
     } else if (name == u"i") {
         surface_.CurrentFont()->SetItalic(parameter == u"1");
-    } else if (name == u"u") {  // half a command; of whole ones the compiler makes "i"
+    } else if (name == u"u") {  // only for "|u" at the end of a line; "|u:1|" is compiled to "i"
         surface_.CurrentFont()->SetUnderline(parameter == u"1");
     } else if (name == u"color") {
         surface_.SetForeColor(static_cast<Color>(RoundToInt32(ParseNumber(parameter))));
@@ -216,8 +216,8 @@ bool CaptionRenderer::SaveState() {
     });
 }
 
-// Each attribute is put back by itself and, where that fails, tried once more: what a caption left
-// behind would spoil every later drawing. The first error is reported.
+// Restores each attribute separately and retries once on failure, because a leftover attribute
+// would spoil every later drawing. Reports the first error.
 void CaptionRenderer::RestoreState() {
     module_.Procedure(u"RestoreState", [&] {
         std::exception_ptr firstError;

@@ -1,9 +1,9 @@
-// Draws a compiled caption on a surface, line by line: runs of text, commands between them, word
+// Draws a compiled caption on a surface, line by line: text runs, the commands between them, word
 // wrap and bullets.
 //
 // Runs on one line are aligned at their top. There is no margin: the first line is drawn at Y = 0,
-// every line starts at X = BulletIndent. Layout happens here and only here; what it found out,
-// MaxLineX and IdealHeight, serves the ideal size.
+// and every line starts at X = BulletIndent. Only this class lays out text; the ideal size is
+// computed from its results MaxLineX and IdealHeight.
 #pragma once
 
 #include <cstdint>
@@ -18,28 +18,28 @@
 
 namespace lumenkit {
 
-/// The state of one drawing, reset at its start.
+/// The state of one drawing pass, reset at its start.
 struct CaptionDrawing {
     std::int16_t CommandIndex = 0;  ///< commands applied so far
     float LineHeight = 0;           ///< advance of the line being drawn, twips
     float BeforeSpacing = 0;        ///< added to it at explicit line ends, twips
     float MaxLineX = 0;             ///< largest X of the pen at the end of any line, twips
-    std::int16_t IdealHeight = 0;   ///< Y of the pen behind the last line, twips
+    std::int16_t IdealHeight = 0;   ///< Y of the pen after the last line, twips
     bool InCommand = false;
 };
 
 class CaptionRenderer {
  public:
-    /// All of it must outlive the renderer. The settings are read at each drawing.
+    /// All arguments must outlive the renderer. The settings are read at each drawing.
     CaptionRenderer(const Module& module, host::Surface& surface, CaptionSettings& settings);
 
-    /// Clears the surface and draws the caption, compiled first where it changed. ForeColor and
-    /// font of the surface are afterwards what they were before, also when an error struck. Errors
-    /// are reported, not raised; a report may let the host ask for a repaint meanwhile, which then
-    /// draws nothing.
+    /// Clears the surface and draws the caption, after compiling it if it changed. Restores
+    /// ForeColor and the font of the surface at the end, also after an error. Errors are reported,
+    /// not raised. If the host requests a repaint during an error report, the nested call draws
+    /// nothing.
     void DisplayCaption();
 
-    /// What the last drawing left: MaxLineX and IdealHeight are what sizing needs.
+    /// Returns the results of the last drawing; sizing uses MaxLineX and IdealHeight.
     const CaptionDrawing& Drawing() const { return drawing_; }
 
  private:
@@ -76,8 +76,8 @@ class CaptionRenderer {
     SurfaceState saved_;
     float visibleBottom_ = 0;
     bool isDrawing_ = false;
-    Text compiling_;                 // a report may let the host assign another caption
-    std::vector<double> widthEnds_;  // kept, so that wrapping allocates nothing once it is warm
+    Text compiling_;  // a copy: the host may assign another caption during an error report
+    std::vector<double> widthEnds_;  // reused, so that wrapping stops allocating
 };
 
 }  // namespace lumenkit

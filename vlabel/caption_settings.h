@@ -1,4 +1,4 @@
-// What a label's caption is and how it is to be drawn.
+// The settings of a label that affect the drawing of its caption.
 #pragma once
 
 #include <cstdint>
@@ -7,15 +7,15 @@
 
 namespace lumenkit {
 
-/// The documented fields that the drawing reads. The label owns and assigns them.
+/// The fields that the renderer reads. The label owns and assigns them.
 struct CaptionSettings {
     Text Caption;
     Text BulletPrefix;
     std::int16_t BulletIndent = 0;  ///< twips
     bool WordWrap = false;
-    /// False once Caption changed: the next drawing compiles it first.
+    /// False after Caption changed: the next drawing compiles it first.
     bool IsCompiled = false;
-    /// The screen's, as they were when the control was initialised.
+    /// Pixel sizes of the screen when the control was initialised.
     std::int16_t TwipsPerPixelX = 0;
     std::int16_t TwipsPerPixelY = 0;
 };

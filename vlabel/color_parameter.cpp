@@ -13,7 +13,8 @@ std::int32_t Component(TextView number) {
     return RoundToInt32(ParseNumber(number));
 }
 
-// The component that a comma ends; takes both off `written`. Without a comma nothing is taken.
+// Returns the component before the next comma and removes both from `written`. Without a comma,
+// returns 0 and removes nothing.
 std::int32_t TakeComponent(TextView& written) {
     const std::size_t comma = written.find(u',');
     if (comma == TextView::npos) {

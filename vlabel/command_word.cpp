@@ -6,24 +6,24 @@ namespace lumenkit {
 
 namespace {
 
-using Parameter = CommandWord::Parameter;
+using Kind = CommandWord::Parameter;
 
 constexpr std::array words = {
-    CommandWord{u"b", u"b", Parameter::Switch},
-    CommandWord{u"bold", u"b", Parameter::Switch},
-    CommandWord{u"i", u"i", Parameter::Switch},
-    CommandWord{u"italic", u"i", Parameter::Switch},
-    CommandWord{u"ital", u"i", Parameter::Switch},
-    CommandWord{u"itals", u"i", Parameter::Switch},
-    // Underlining is shown as italics: captions have always relied on it.
-    CommandWord{u"u", u"i", Parameter::Switch},
-    CommandWord{u"color", u"color", Parameter::Color},
-    CommandWord{u"fore", u"color", Parameter::Color},
-    CommandWord{u"size", u"size", Parameter::Size},
-    CommandWord{u"before", u"before", Parameter::Before},
+    CommandWord{u"b", u"b", Kind::Switch},
+    CommandWord{u"bold", u"b", Kind::Switch},
+    CommandWord{u"i", u"i", Kind::Switch},
+    CommandWord{u"italic", u"i", Kind::Switch},
+    CommandWord{u"ital", u"i", Kind::Switch},
+    CommandWord{u"itals", u"i", Kind::Switch},
+    // The underline command sets italics.
+    CommandWord{u"u", u"i", Kind::Switch},
+    CommandWord{u"color", u"color", Kind::Color},
+    CommandWord{u"fore", u"color", Kind::Color},
+    CommandWord{u"size", u"size", Kind::Size},
+    CommandWord{u"before", u"before", Kind::Before},
 };
 
-// The letters of a word, one a byte, behind a one.
+// A key packs the letters of a word, one per byte, after a leading 1.
 constexpr std::size_t mostLetters = 6;
 constexpr std::uint64_t emptyKey = 1;
 
@@ -44,13 +44,14 @@ constexpr auto keys = [] {
 
 }  // namespace
 
-// One walk up to the colon: captions are compiled often, and consist of short commands.
+// Reads the name in a single pass up to the colon: captions are compiled often and consist of short
+// commands.
 CommandName ReadCommandName(TextView command) {
     std::uint64_t key = emptyKey;
     std::size_t at = 0;
     for (; at < command.size() && command[at] != u':'; ++at) {
         const char16_t letter = LowerUnit(command[at]);
-        if (at == mostLetters || letter > u'z') {  // no word
+        if (at == mostLetters || letter > u'z') {  // not a known word
             return {command.find(u':', at), nullptr};
         }
         key = WithLetter(key, letter);

@@ -1,4 +1,4 @@
-// The words that commands may begin with, and what the compiler makes of their parameters.
+// The known command words and how the compiler converts their parameters.
 #pragma once
 
 #include <cstddef>
@@ -17,18 +17,18 @@ struct CommandWord {
     Parameter parameter;
 };
 
-/// A command's name, which reaches up to its colon.
+/// The name of a command, which ends at its colon.
 struct CommandName {
-    /// Offset of the colon (from 0), npos where there is none.
+    /// Offset of the colon (from 0); npos when there is none.
     std::size_t colon;
-    /// What the name is, in whatever case; nothing for an unknown one, which is kept in lower case
-    /// as its parameter is.
+    /// The word with this name, compared without regard to case; null for an unknown name, which is
+    /// stored in lower case together with its parameter.
     const CommandWord* word;
 };
 
 CommandName ReadCommandName(TextView command);
 
-/// All words that mean something.
+/// Returns all known words.
 std::span<const CommandWord> CommandWords();
 
 }  // namespace lumenkit

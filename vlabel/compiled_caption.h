@@ -4,7 +4,7 @@
 
 namespace lumenkit {
 
-/// What the compiler makes of a caption.
+/// The result of compiling a caption.
 ///
 /// Each bar left in CaptionLines marks the place of one command. The k-th bar, counted from the
 /// first line to the last, belongs to the k-th entry of CommandNames and CommandParams.

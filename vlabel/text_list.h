@@ -8,13 +8,13 @@
 
 namespace lumenkit {
 
-/// An ordered list of texts, counted from 1. All of them share one buffer, so that a list that is
-/// cleared and filled again allocates nothing once it has grown.
+/// An ordered list of texts, indexed from 1. All texts share one buffer, so that a list that is
+/// cleared and filled again allocates nothing once the buffer has grown.
 class TextList {
  public:
     std::int32_t Count() const { return static_cast<std::int32_t>(ends_.size()); }
 
-    /// The entry at `index`, valid until the list changes. Raises 9 outside 1..Count().
+    /// Returns the entry at `index`, valid until the list changes. Raises 9 outside 1..Count().
     TextView Item(std::int32_t index) const;
 
     void Add(TextView text) {
@@ -22,8 +22,8 @@ class TextList {
         End();
     }
 
-    /// Begins the next entry: what is appended to the text behind its size at this call is part of
-    /// it. The entry is in the list once it is ended; one that is not ended is forgotten.
+    /// Begins the next entry: everything appended to the returned text belongs to it. The entry is
+    /// added when End() is called; without that call it is discarded.
     Text& Begin() {
         buffer_.erase(EndOfLast());
         return buffer_;

@@ -11,13 +11,13 @@ namespace lumenkit {
 
 namespace {
 
-// Names and defaults are a file format: they stay.
+// Names and default values are part of the file format; do not change them.
 namespace persisted {
 
 constexpr Setting<Color> backColor{u"BackColor", Color::WindowBackground};
 constexpr Setting<Color> foreColor{u"ForeColor", Color::ButtonText};
 constexpr Setting<bool> enabled{u"Enabled", true};
-constexpr TextView font = u"Font";  // by default nothing: always written
+constexpr TextView font = u"Font";  // default: null, so it is always written
 constexpr Setting<std::int16_t> borderStyle{u"BorderStyle", 0};
 constexpr Setting<bool> fontTransparent{u"FontTransparent", true};
 constexpr Setting<std::int16_t> mousePointer{u"MousePointer", 0};
@@ -42,9 +42,9 @@ VLabel::VLabel(const ControlHost& host)
       renderer_(module_, surface_, settings_),
       automation_(vlabelInterface, this) {}
 
-// ---- What the properties have in common
+// ---- Shared by the properties
 
-// A property that lives on the surface.
+// Reads a property of the surface.
 template <typename Result, typename Read>
 Result VLabel::Get(ProcedureName procedure, Read&& read) const {
     return module_.Function<Result>(procedure, [&](Result& result) { result = read(); });
@@ -203,7 +203,8 @@ void VLabel::SetIdealSize() {
             size = ToSingle(newSize);
             changed = true;
         };
-        // One to two pixels above the content are left alone, so that repeated calls do not creep.
+        // A size one to two pixels above the content is kept, so that repeated calls do not change
+        // it.
         if (ToSingle(contentWidth + pixelX) > width) {
             resize(width, contentWidth + pixelX * 1.1);
         }
@@ -241,7 +242,7 @@ void VLabel::Test(TextView CaptionToVerify) {
     });
 }
 
-// ---- The container's calls
+// ---- Called by the container
 
 void VLabel::UserControl_Initialize() {
     module_.Procedure(u"UserControl_Initialize", [&] {
@@ -271,7 +272,7 @@ void VLabel::UserControl_ReadProperties(host::PropertyBag& bag) {
         BackColor_ = persisted::backColor.Read(bag);
         surface_.SetForeColor(persisted::foreColor.Read(bag));
         surface_.SetEnabled(persisted::enabled.Read(bag));
-        // Without a saved font the surface keeps the one it was designed with.
+        // Without a saved font, the surface keeps its design-time font.
         if (host::FontRef font = host::ToFont(bag.ReadProperty(persisted::font, ObjectRef()))) {
             surface_.SetCurrentFont(std::move(font));
         }

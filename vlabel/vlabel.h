@@ -1,4 +1,4 @@
-// VLabel: a label whose caption is a small markup language.
+// VLabel: a label whose caption is written in a small markup language.
 #pragma once
 
 #include <cstdint>
@@ -15,9 +15,9 @@
 
 namespace lumenkit {
 
-/// The control. Its members are documented with its interface, see vlabel_interface.h; they report
-/// errors of their own to the person at the screen and raise none, but for what the container
-/// raises while it is told of a change.
+/// The control. vlabel_interface.h documents the members. They report their own errors to the user
+/// and do not raise them; only an error that the container raises in a change notification can
+/// propagate.
 class VLabel final : public Control {
  public:
     explicit VLabel(const ControlHost& host);
@@ -54,18 +54,19 @@ class VLabel final : public Control {
 
     // Methods.
     void Refresh();
-    /// Resizes the control around what its caption draws, unless it wraps words or fits already to
-    /// within one to two pixels.
+    /// Resizes the control to its drawn caption, unless WordWrap is on or the size already exceeds
+    /// the content by one to two pixels.
     void SetIdealSize();
-    /// The control's "width" or "height" (any case) in twips, as Single; Empty for other names.
+    /// Returns the control's "width" or "height" (any case) in twips, as Single; Empty for other
+    /// names.
     Value GetProperty(TextView PropertyName);
-    /// Assigns the caption in order to try it.
+    /// Assigns the caption to test it.
     void Test(TextView CaptionToVerify);
 
-    /// What the last drawing measured.
+    /// Returns the measurements of the last drawing.
     const CaptionDrawing& Drawing() const { return renderer_.Drawing(); }
 
-    // The container's calls.
+    // Called by the container.
     void UserControl_Initialize() override;
     void UserControl_InitProperties() override;
     void UserControl_ReadProperties(host::PropertyBag& bag) override;

@@ -1,4 +1,4 @@
-// What VLabel offers to automation.
+// The automation interface of VLabel.
 #pragma once
 
 #include <cstdint>

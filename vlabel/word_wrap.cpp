@@ -11,7 +11,8 @@ constexpr int mostSteps = 1000;
 WordWrap::WordWrap(TextView text, std::span<const double> ends)
     : text_(text), ends_(ends), trimmedEnd_(RTrim(text).size()), limit_(trimmedEnd_) {}
 
-// Counted from 1 in the rest; 0 when there is none, and when the limit lies behind the rest.
+// Returns the position, from 1 in the rest, of the last blank within the limit; 0 when there is
+// none or when the limit is beyond the rest.
 std::size_t WordWrap::LastBlank() const {
     return limit_ == 0 || limit_ > TrimmedLength() ? 0 : Rest().substr(0, limit_).rfind(blank) + 1;
 }
@@ -33,7 +34,7 @@ WordWrap::Step WordWrap::Print(Action action, std::size_t length) const {
 }
 
 WordWrap::Step WordWrap::Next(float x, float edge, bool atLineStart) {
-    // An empty run takes one step too: it may start a new line.
+    // An empty run takes one step too: it may have to start a new line.
     for (; guard_ == 0 || (guard_ <= mostSteps && start_ < text_.size()); ++guard_) {
         if (Fits(x, TrimmedLength(), edge)) {
             return Print(Action::PrintRest, Rest().size());

@@ -1,8 +1,8 @@
-// Where a run of text is broken when it does not fit before the right edge.
+// Finds the line breaks of a text run that does not fit before the right edge.
 //
-// The rules are the label's own and are kept where they look odd: the place up to which blanks are
-// searched survives a break, so that what follows may be found without a break and overflow; and
-// the search gives up after 1,000 steps, leaving the rest unprinted.
+// Two rules may look like mistakes but are part of the behaviour. The limit up to which blanks are
+// searched is kept after a break, so the following text may be printed without a break and
+// overflow. The search stops after 1,000 steps and leaves the rest unprinted.
 #pragma once
 
 #include <cstdint>
@@ -15,10 +15,10 @@ namespace lumenkit {
 class WordWrap {
  public:
     enum class Action {
-        PrintRest,     ///< print `text` and be done with the run
+        PrintRest,     ///< print `text`; the run is finished
         PrintLine,     ///< print `text`, then start a new line
-        StartNewLine,  ///< start a new line, nothing fits on this one
-        Stop,          ///< be done with the run, whatever is left of it
+        StartNewLine,  ///< start a new line, because nothing fits on this one
+        Stop,          ///< stop; any remaining text is not printed
     };
     struct Step {
         Action action;
@@ -26,17 +26,17 @@ class WordWrap {
         float width = 0;  ///< of `text`, in twips
     };
 
-    /// `ends` are the text's widths as host::Surface::TextWidths gives them. Both must outlive the
-    /// object.
+    /// `ends` holds the widths of `text` as returned by host::Surface::TextWidths. Both arguments
+    /// must outlive the object.
     WordWrap(TextView text, std::span<const double> ends);
 
-    /// What to do next with the pen at `x` and the right edge at `edge` (twips); `atLineStart`
-    /// where nothing stands on the line yet. After PrintRest and Stop there is no next step.
+    /// Returns the next step, with the pen at `x` and the right edge at `edge` (twips).
+    /// `atLineStart` is true when the line is still empty. PrintRest and Stop are the last steps.
     Step Next(float x, float edge, bool atLineStart);
 
  private:
     TextView Rest() const { return text_.substr(start_); }
-    // Every break is at a blank before the last word, so the rest never starts behind it.
+    // Every break is at a blank before the last word, so start_ never exceeds trimmedEnd_.
     std::size_t TrimmedLength() const { return trimmedEnd_ - start_; }
     std::size_t LastBlank() const;
     float Width(std::size_t length) const;
@@ -45,9 +45,9 @@ class WordWrap {
 
     TextView text_;
     std::span<const double> ends_;
-    std::size_t start_ = 0;       // of what is not printed yet
-    std::size_t trimmedEnd_ = 0;  // of the whole text
-    std::size_t limit_ = 0;       // length of the rest in which blanks are searched
+    std::size_t start_ = 0;       // start of the rest, which is not printed yet
+    std::size_t trimmedEnd_ = 0;  // end of the whole text without trailing blanks
+    std::size_t limit_ = 0;       // length of the part of the rest in which blanks are searched
     int guard_ = 0;
 };
 

@@ -10,15 +10,16 @@ namespace {
 constexpr std::array markupKeys = {
     MarkupKey{2, u"|B:1|", false, true},           // Ctrl+B
     MarkupKey{7, u"|Fore:0,128,0|", false, true},  // Ctrl+G
-    MarkupKey{9, u"|i:1|", true, true},            // Ctrl+I, which is Tab too
+    MarkupKey{9, u"|i:1|", true, true},            // Ctrl+I, the same code as Tab
     MarkupKey{12, u"|before:0|", false, true},     // Ctrl+L
     MarkupKey{13, u"|CR|", true, false},           // Enter, Ctrl+M
     MarkupKey{14, u"|B:0|", false, true},          // Ctrl+N
     MarkupKey{15, u"|i:0|", false, true},          // Ctrl+O
-    MarkupKey{34, u"|Q|", true, true},  // the double quote, for which captions have no other way
+    MarkupKey{34, u"|Q|", true, true},             // the double quote
 };
 
-// Where the word at `start` ends. 1-based positions minus 1 are 0-based ends; -1 is the text's end.
+// Returns the end of the word at `start`. Subtracting 1 from the 1-based position of the delimiter
+// gives the 0-based end; -1 means the end of the text.
 std::int32_t WordEnd(TextView caption, std::int32_t start) {
     const std::int32_t beforeBlank = InStr(start + 2, caption, u" ") - 1;
     const std::int32_t beforeBar = InStr(start + 2, caption, u"|") - 1;

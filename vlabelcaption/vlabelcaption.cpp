@@ -18,14 +18,14 @@ constexpr std::int32_t wordWrapMember = UserProperty(4);
 
 constexpr std::int32_t magnifiedUnits = 4;
 
-// The indent to apply; negative where the text is none.
+// Returns the indent to apply; negative when the text is not a valid indent.
 double IndentOf(TextView text) {
     constexpr double largestIndent = 9999;
     constexpr double noIndent = -1;
     try {
         const double indent = NumericValue(text).value_or(noIndent);
         return indent > largestIndent ? noIndent : indent;
-    } catch (const RuntimeError&) {  // a number beyond all range
+    } catch (const RuntimeError&) {  // a number out of range
         return noIndent;
     }
 }
@@ -55,7 +55,7 @@ host::CaptionDesign CaptionDesignOf(TextView name, const host::Placement& placem
     return design;
 }
 
-// A label of the magnifier, which is to be seen while the caption is edited only.
+// Adds a label of the magnifier, which is visible only while the caption box has the focus.
 std::unique_ptr<host::Label> AddMagnifier(host::Constituents& parts, TextView name,
                                           const host::Placement& placement, TextView caption,
                                           Color foreColor, Color backColor) {
@@ -143,7 +143,7 @@ VLabelCaption::VLabelCaption(const PageHost& host)
 }
 
 void VLabelCaption::PropertyPage_Initialize() {
-    // The vertical bar runs the full height, the horizontal one stops where the other begins.
+    // The vertical bar has the full height; the horizontal one ends at its left edge.
     const float innerHeight = Picture1->ScaleHeight();
     const host::Placement vertical = VScroll1->Place();
     VScroll1->Move({Picture1->ScaleWidth() - vertical.width, 0, vertical.width, innerHeight});
@@ -178,7 +178,7 @@ void VLabelCaption::PropertyPage_ApplyChanges() {
     const ObjectRef edited = selectedControls_.Item(0);
     edited->Let(u"BulletPrefix", Text(txtBulletPrefix->GetText()));
     edited->Let(u"BulletIndent", RoundToInt16(indent));
-    // Only a plain check mark applies; the preview takes any that is not empty.
+    // Only the checked state applies word wrap here; the preview also wraps in the greyed state.
     edited->Let(u"WordWrap", chkWordWrap->CheckState() == 1);
     edited->Let(u"Caption", Text(txtCaption->GetText()));
 }
@@ -189,11 +189,11 @@ void VLabelCaption::RefreshPreview() {
     const ObjectRef edited = selectedControls_.Item(0);
     const float width = ToSingle(edited->Call(u"GetProperty", {Text(u"Width")}));
     float height = ToSingle(edited->Call(u"GetProperty", {Text(u"Height")}));
-    // At least as high as what is visible of it.
+    // The preview is at least as high as its visible area.
     if (height < VisibleHeight()) {
         height = VisibleHeight();
     }
-    VLabel1->Automation().Let(captionMember, Text(u"."));  // quick to draw while it is being set up
+    VLabel1->Automation().Let(captionMember, Text(u"."));  // quick to draw during the setup
     VLabel1->Move({0, 0, width, height});
     CopyAppearance(*edited);
     PreviewBulletIndent();
@@ -228,7 +228,7 @@ void VLabelCaption::SetUpScrollBars(float width, float height) {
     VScroll1->SetEnabled(false);
     HScroll1->SetScrollValue(0);
     VScroll1->SetScrollValue(0);
-    // A bar takes room from the other direction: hence the second comparison with its edge.
+    // A bar reduces the visible length in the other direction, hence the second comparison.
     if (width > Picture1->ScaleWidth()) {
         HScroll1->SetEnabled(true);
         VScroll1->SetEnabled(height > visibleHeight);
@@ -374,7 +374,7 @@ void VLabelCaption::txtCaption_KeyPress(std::int16_t& KeyAscii) {
 }
 
 void VLabelCaption::InsertToken(TextView token) {
-    // Storing the text moves the selection, and a handler may look at it again meanwhile.
+    // SetText moves the selection, and a handler may update SelStart and NoSelection meanwhile.
     const std::int32_t start = SelStart;
     const std::int32_t end = start + Len(token);
     const bool noSelection = NoSelection;

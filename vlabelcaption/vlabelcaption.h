@@ -11,9 +11,9 @@
 
 namespace lumenkit {
 
-/// The page. It edits the first of the selected controls, whatever class that has, through its
-/// members' names alone, and keeps no reference to it between events. It traps nothing: errors of
-/// the edited control and of the constituents travel to the host, and the page stays usable.
+/// The page. It edits the first selected control, of any class, through the names of its members,
+/// and keeps no reference to it between events. It traps no errors: errors of the edited control
+/// and of the constituents propagate to the host, and the page stays usable.
 class VLabelCaption final : public PropertyPage {
  public:
     explicit VLabelCaption(const PageHost& host);
@@ -25,7 +25,7 @@ class VLabelCaption final : public PropertyPage {
     void PropertyPage_ApplyChanges() override;
 
  private:
-    // The constituents' notifications, handed on to the page's handlers.
+    // Forward the events of the constituents to the handlers of the page.
     struct CaptionEvents final : host::TextBoxEvents {
         explicit CaptionEvents(VLabelCaption& owner) : page(owner) {}
         void Change() override { page.txtCaption_Change(); }
@@ -86,7 +86,7 @@ class VLabelCaption final : public PropertyPage {
 
     void RefreshPreview();
     void CopyAppearance(Object& edited);
-    /// What is to be seen of the preview beside and above both scroll bars.
+    /// Size of the visible part of the preview, left of and above the scroll bars.
     float VisibleWidth() const;
     float VisibleHeight() const;
     void SetUpScrollBars(float width, float height);
@@ -94,7 +94,7 @@ class VLabelCaption final : public PropertyPage {
     void InsertToken(TextView token);
     void SelectNext();
 
-    // The preview's properties, from the page's fields.
+    // Copy the page's fields to the properties of the preview.
     void PreviewCaption();
     void PreviewBulletPrefix();
     void PreviewBulletIndent();

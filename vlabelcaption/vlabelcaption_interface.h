@@ -1,4 +1,4 @@
-// What VLabelCaption offers to automation: nothing of its own.
+// The automation interface of VLabelCaption, which has no members.
 #pragma once
 
 #include "frame/automation/interface_table.h"

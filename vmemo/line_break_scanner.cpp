@@ -10,7 +10,7 @@ namespace {
 
 constexpr std::size_t blockSize = 64;
 
-// Bit i of the results says that a break begins at unit i.
+// Bit i of each result is set when a line break begins at unit i.
 
 std::uint64_t BreaksOfTail(const char16_t* units, std::size_t count) {
     std::uint64_t breaks = 0;
@@ -23,7 +23,7 @@ std::uint64_t BreaksOfTail(const char16_t* units, std::size_t count) {
 
 #ifdef __SSE2__
 
-// Which of a block's units are CR, and which are LF.
+// Bit masks of the CR and LF units of a block.
 struct BreakUnits {
     std::uint64_t returns = 0;
     std::uint64_t feeds = 0;
@@ -40,7 +40,7 @@ BreakUnits FindBreakUnits(const char16_t* units) {
     for (std::size_t i = 0; i < blockSize; i += step) {
         const void* const start = units + i;
         const auto* const at = static_cast<const __m128i*>(start);
-        // Bytes, of which those that units do not fit into become 0 or 255.
+        // Saturates each unit to a byte: units that do not fit become 0 or 255.
         const __m128i bytes = _mm_packus_epi16(_mm_loadu_si128(at), _mm_loadu_si128(at + 1));
         found.returns |= bits(_mm_cmpeq_epi8(bytes, carriageReturn)) << i;
         found.feeds |= bits(_mm_cmpeq_epi8(bytes, lineFeed)) << i;
@@ -65,7 +65,7 @@ std::uint64_t BreaksOfBlock(const char16_t* units) {
 }  // namespace
 
 void LineBreakScanner::EnterBlock(std::size_t from) {
-    // The last unit of a block is looked at together with the one behind the block.
+    // A block is scanned together with the unit after its last one.
     std::size_t left = text_.size() - from;
     std::uint64_t breaks = 0;
     while (left > blockSize) {

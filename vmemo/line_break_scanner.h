@@ -1,4 +1,4 @@
-// Finding the line breaks of a text, which is most of what holding it to limits costs.
+// Finds the line breaks of a text, which takes most of the time of restricting it.
 #pragma once
 
 #include <bit>
@@ -9,15 +9,16 @@
 
 namespace lumenkit {
 
-/// Finds the CR LFs of a text from front to back. It looks at a block of units at a time and keeps
-/// where in it line breaks begin, so that short lines do not make it look twice.
+/// Finds the CR LF pairs of a text from front to back. It scans one block of units at a time and
+/// remembers the line breaks that begin in it, so that a block with many short lines is scanned
+/// only once.
 class LineBreakScanner {
  public:
     /// The text must outlive the scanner.
     explicit LineBreakScanner(TextView text) : text_(text) {}
 
-    /// Offset (from 0) of the first CR LF at `from` or later, the text's size when there is none.
-    /// `from` must not be less than in the call before.
+    /// Returns the offset (from 0) of the first CR LF at `from` or later, the size of the text when
+    /// there is none. `from` must not be less than in the previous call.
     std::size_t Next(std::size_t from) {
         while (true) {
             if (from < blockEnd_) {
@@ -35,14 +36,14 @@ class LineBreakScanner {
     }
 
  private:
-    /// Looks at the units from `from` on until it has a block in which line breaks begin, or the
-    /// text's last one.
+    /// Scans forward from `from` to the first block in which line breaks begin, or to the last
+    /// block.
     void EnterBlock(std::size_t from);
 
     TextView text_;
-    std::size_t block_ = 0;  // where the block begins and ends
+    std::size_t block_ = 0;  // offsets of the block's start and end
     std::size_t blockEnd_ = 0;
-    std::uint64_t breaks_ = 0;  // bit i: a line break begins at block_ + i
+    std::uint64_t breaks_ = 0;  // bit i is set when a line break begins at block_ + i
 };
 
 }  // namespace lumenkit

@@ -11,9 +11,9 @@ namespace lumenkit {
 
 namespace {
 
-// A text out of which parts are cut from front to back. Its positions are those in what is left,
-// yet nothing moves when a part is cut: all positions in use lie behind the cuts made so far, which
-// makes them positions in the source, as many units further on as have been cut.
+// A text from which parts are cut, from front to back. Positions refer to the remaining text. A cut
+// moves no units: every position in use is after all cuts so far, so adding the number of units cut
+// gives the position in the source.
 class ShrinkingText {
  public:
     explicit ShrinkingText(TextView source)
@@ -21,18 +21,19 @@ class ShrinkingText {
 
     Int32 Length() const { return length_; }
 
-    // The position of the first line break at `start` or later, else the one behind the end.
+    // Returns the position of the first line break at `start` or later, or the position after the
+    // end.
     Int32 FindLineBreak(Int32 start) {
         return Int32(scanner_.Next(Offset(start))) - removed_ + Int32(1);
     }
 
-    // From one position up to, not including, another; or to the end.
+    // Return the part from one position up to, but not including, another; or up to the end.
     TextView Part(Int32 from, Int32 end) const {
         return source_.substr(Offset(from), Offset(end) - Offset(from));
     }
     TextView Rest(Int32 from) const { return source_.substr(Offset(from)); }
 
-    // Cuts that part.
+    // Cuts `part`, which must be a view returned by Part or Rest.
     void Cut(TextView part) {
         const auto offset = static_cast<std::size_t>(part.data() - source_.data());
         kept_.push_back(source_.substr(keptEnd_, offset - keptEnd_));
@@ -62,11 +63,12 @@ class ShrinkingText {
     LineBreakScanner scanner_;
     Int32 length_;
     Int32 removed_;
-    std::vector<TextView> kept_;  // what lies before, between and behind the cuts but the last
-    std::size_t keptEnd_ = 0;     // where the last cut ends in the source
+    std::vector<TextView> kept_;  // the uncut parts before each cut
+    std::size_t keptEnd_ = 0;     // end of the last cut in the source
 };
 
-// Whether nothing is too much: most edits are such, and looking for line breaks is all they need.
+// Returns whether the text is within the limits. Most edits are; for them, searching the line
+// breaks is all the work.
 bool IsWithin(TextView text, TextLimits limits) {
     const auto orAny = [&](std::int16_t limit) {
         return limit != 0 ? static_cast<std::size_t>(limit) : text.size() + 1;
@@ -84,13 +86,13 @@ bool IsWithin(TextView text, TextLimits limits) {
             return true;
         }
         if (line == mostLines) {
-            return false;  // a line break behind the last line is too much already
+            return false;  // a line break after the last permitted line is already too much
         }
         start = end + crLf.size();
     }
 }
 
-// Of lines that are too many, only this one is worth a refusal.
+// Surplus lines cause a refusal only when they consist of this one character.
 bool IsOneCharacter(TextView text) {
     return text.size() == 1 && text[0] != blank && text[0] != u'\r' && text[0] != u'\n';
 }
@@ -103,7 +105,8 @@ Restriction Restrict(TextView text, TextLimits limits, RestrictionMode mode) {
     if (IsWithin(text, limits)) {
         return result;
     }
-    // Cuts the part, unless it holds something real and the edit is refused for it.
+    // Cuts the part. Returns false without cutting when the part is real content and apply mode
+    // refuses the edit for it.
     const auto cut = [&](TextView part, bool real) {
         (real ? result.refused : result.trimmed) = true;
         if (real && mode == RestrictionMode::Apply) {
@@ -121,8 +124,8 @@ Restriction Restrict(TextView text, TextLimits limits, RestrictionMode mode) {
             if (!cut(surplus, !Trim(surplus).empty())) {
                 return result;
             }
-            // pos is not moved to where the line ends now: the next line is measured from as many
-            // characters further on as this one lost. Saved texts depend on it.
+            // pos is not moved back by the cut: measuring the next line starts as many units too
+            // late as this line lost. This is part of the behaviour.
         }
         ++lines;
         if (lines == limits.maxLines && pos <= left.Length()) {

@@ -13,13 +13,13 @@ namespace lumenkit {
 
 namespace {
 
-// Names and defaults are a file format: they stay. FontName and FontSize are written for programs
-// that look at saved forms, but not read: Font has them.
+// Names and default values are part of the file format; do not change them. FontName and FontSize
+// are written for programs that inspect saved forms. They are not read, because Font contains both.
 namespace persisted {
 
 constexpr Setting<Color> foreColor{u"ForeColor", Color::WindowText};
 constexpr Setting<bool> enabled{u"Enabled", true};
-constexpr TextView font = u"Font";  // by default the container's
+constexpr TextView font = u"Font";  // default: the container's font
 constexpr TextSetting fontName{u"FontName", u""};
 constexpr Setting<float> fontSize{u"FontSize", 0};
 constexpr Setting<bool> locked{u"Locked", false};
@@ -38,7 +38,7 @@ constexpr std::int32_t fontSize = 2;
 
 constexpr std::int16_t enterKey = 13;
 
-// With this Tag, MaxLength is the window handle.
+// With this Tag, MaxLength returns the window handle.
 constexpr TextView handleTag = u"Return hWnd via ML";
 
 std::unique_ptr<host::TextBox> AddBox(host::Constituents& constituents, std::int16_t index,
@@ -94,13 +94,13 @@ void VMemo::ForBoxes(std::int16_t first, Act&& act) {
     }
 }
 
-// A property of the active box.
+// Reads a property of the active box.
 template <typename Result, typename Read>
 Result VMemo::Get(ProcedureName procedure, Read&& read) const {
     return module_.Function<Result>(procedure, [&](Result& result) { result = read(ActiveBox()); });
 }
 
-// A property of all boxes.
+// Assigns a property of all boxes.
 template <typename Put>
 void VMemo::Let(ProcedureName procedure, TextView property, Put&& put) {
     module_.Procedure(procedure, [&] {
@@ -111,8 +111,8 @@ void VMemo::Let(ProcedureName procedure, TextView property, Put&& put) {
 
 // ---- Restrictions
 
-// Text as held to the limits. In apply mode it is what box `index` has become by an edit, and the
-// box is put right; of a refused edit nothing is returned that anyone could use.
+// Restricts `text` to the limits. In apply mode, `text` is the content of box `index` after an
+// edit, and the box is corrected. The result of a refused edit contains no usable text.
 Restriction VMemo::ApplyRestrictions(std::int16_t index, TextView text, RestrictionMode mode) {
     return module_.Function<Restriction>(u"ApplyRestrictions", [&](Restriction& result) {
         m_MaxCharsPerLine = std::max<std::int16_t>(m_MaxCharsPerLine, 0);
@@ -227,7 +227,7 @@ void VMemo::pLetScrollBars(host::ScrollBars scrollBars) {
     module_.Procedure(u"pLetScrollBars", [&] {
         const auto n = static_cast<std::int32_t>(scrollBars);
         if (n != m_ScrollBars) {
-            // A change of the hidden box's text passes the restrictions like an edit.
+            // Changing the text of the hidden box runs the restrictions, as an edit does.
             Text1(n).SetText(ActiveBox().GetText());
             Text1(n).SetVisible(true);
             ActiveBox().SetVisible(false);
@@ -282,7 +282,7 @@ void VMemo::TestMessage() {
     module_.Procedure(u"TestMessage", [] { Divide(1.0, 0.0); });
 }
 
-// ---- The container's calls
+// ---- Called by the container
 
 void VMemo::UserControl_InitProperties() {
     m_MaxCharsPerLine = persisted::maxCharsPerLine.defaultValue;
@@ -290,7 +290,7 @@ void VMemo::UserControl_InitProperties() {
     m_ScrollBars = persisted::scrollBars.defaultValue;
 }
 
-// The text comes in as it was saved, whatever the limits, and does not count as accepted.
+// Reads the saved text unchanged, whatever the limits are. It does not become the accepted text.
 void VMemo::UserControl_ReadProperties(host::PropertyBag& bag) {
     module_.Procedure(u"UserControl_ReadProperties", [&] {
         {

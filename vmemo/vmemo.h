@@ -1,4 +1,4 @@
-// VMemo: a multi-line text box that holds its text to a number of characters a line and of lines.
+// VMemo: a multi-line text box that limits the characters per line and the number of lines.
 #pragma once
 
 #include <array>
@@ -17,10 +17,10 @@
 
 namespace lumenkit {
 
-/// The control. It lies under four text boxes, one for each ScrollBars setting, of which it shows
-/// the one whose index is the setting: the active box. Gets read the active box, lets write all
-/// four. Errors are reported to the person at the screen and not raised, but for what the container
-/// raises while it is told of a new MaxCharsPerLine or MaxLines, or of a click.
+/// The control. It contains four text boxes, one for each ScrollBars setting, and shows the one
+/// whose index is the current setting: the active box. Getters read the active box; setters write
+/// all four. Errors are reported to the user and not raised, except an error that the container
+/// raises when it is notified of a new MaxCharsPerLine or MaxLines, or of a click.
 class VMemo final : public Control {
  public:
     explicit VMemo(const ControlHost& host);
@@ -33,20 +33,20 @@ class VMemo final : public Control {
     bool pGetEnabled() const;
     void pLetEnabled(bool enabled);
     host::FontRef pGetFont() const;
-    /// All boxes come to share the font.
+    /// Makes all boxes share the font.
     void pSetFont(host::FontRef font);
     /// Always True; assigning it does nothing.
     bool pGetCausesValidation() const { return true; }  // NOLINT(*-to-static)
     void pLetCausesValidation(bool /*causes*/) {}
     Text pGetFontName() const;
     void pLetFontName(TextView name);
-    /// Points.
+    /// In points.
     float pGetFontSize() const;
     void pLetFontSize(float points);
     bool pGetLocked() const;
     void pLetLocked(bool locked);
-    /// Most UTF-16 units that the user may enter, 0 for no limit. Of a control whose Tag is "Return
-    /// hWnd via ML", the window handle of the active box.
+    /// The most UTF-16 units that the user may enter, 0 for no limit. If the control's Tag is
+    /// "Return hWnd via ML", the getter returns the window handle of the active box instead.
     std::int32_t pGetMaxLength() const;
     void pLetMaxLength(std::int32_t length);
     host::MousePointer pGetMousePointer() const;
@@ -54,31 +54,32 @@ class VMemo final : public Control {
     host::ScrollBars pGetScrollBars() const;
     void pLetScrollBars(host::ScrollBars scrollBars);
     Text pGetText() const;
-    /// Cuts the text to the limits. `text` must not lie in one of the boxes.
+    /// Cuts the text to the limits. `text` must not be a view of the text of one of the boxes.
     void pLetText(TextView text);
-    /// UTF-16 units, 0 for no limit. New limits hold from the next edit or assignment on.
+    /// In UTF-16 units, 0 for no limit. A new limit applies from the next edit or assignment on.
     std::int16_t pGetMaxCharsPerLine() const { return m_MaxCharsPerLine; }
     void pLetMaxCharsPerLine(std::int16_t count);
     std::int16_t pGetMaxLines() const { return m_MaxLines; }
     void pLetMaxLines(std::int16_t count);
-    /// Sets MaxCharsPerLine to the number of letters "A" that are this wide, in twips.
+    /// Sets MaxCharsPerLine to the number of letters "A" that fit `width`, in twips, rounded to the
+    /// nearest.
     void pLetPageWidth(float width);
 
     // Methods.
     void Refresh();
-    /// Fails, for the sake of the error report.
+    /// Divides by zero, to test the error report.
     void TestMessage();
 
-    // The container's calls.
+    // Called by the container.
     void UserControl_InitProperties() override;
     void UserControl_ReadProperties(host::PropertyBag& bag) override;
     void UserControl_WriteProperties(host::PropertyBag& bag) override;
     void UserControl_Resize() override;
 
  private:
-    friend class VMemoProbe;  // lets tests look at the fields
+    friend class VMemoProbe;  // gives tests access to the fields
 
-    // Tells which of the boxes speaks.
+    // Forwards the events of one box, with its index, to the control.
     class BoxEvents final : public host::TextBoxEvents {
      public:
         BoxEvents(VMemo& memo, std::int16_t index) : memo_(memo), index_(index) {}
@@ -117,7 +118,7 @@ class VMemo final : public Control {
     void WriteBack(host::TextBox& box, const Restriction& restriction);
     void CopyProperties();
 
-    /// The box with that index; raises 340 outside 0 to 3.
+    /// Returns the box `index`; raises 340 outside 0 to 3.
     host::TextBox& Text1(std::int32_t index) const;
     host::TextBox& ActiveBox() const { return Text1(m_ScrollBars); }
     template <typename Act>
@@ -135,15 +136,17 @@ class VMemo final : public Control {
     std::int16_t m_MaxCharsPerLine = 0;
     std::int16_t m_MaxLines = 0;
     std::int32_t m_ScrollBars = 0;
-    /// What the engine accepted last while a limit was in force; a refused edit is put back to it.
+    /// The text that the engine accepted last while a limit was set. A refused edit is reverted to
+    /// it.
     Text m_AcceptedText;
-    /// True while the control itself writes into the boxes: their changes are nobody's edit.
+    /// True while the control itself writes to the boxes: their changes are then not edits by the
+    /// user.
     bool m_Updating = false;
     /// The caret at the last key-down, before the key took effect.
     std::int32_t m_KeyDownSelStart = 0;
-    /// 0 once the key is up.
+    /// Code of the key that is down; 0 after it is released.
     std::int16_t m_LastKeyCode = 0;
-    /// Counts in every loop over the boxes.
+    /// The counter of each loop over the boxes.
     std::int16_t m_BoxIndex = 0;
 
     static constexpr std::int16_t boxCount = 4;

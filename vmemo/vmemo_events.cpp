@@ -1,4 +1,4 @@
-// What the text boxes tell and how it goes on to the container.
+// Handles the events of the text boxes and forwards them to the container.
 #include "frame/automation/raise_event.h"
 #include "vmemo/vmemo.h"
 
@@ -36,7 +36,7 @@ void VMemo::Text1_DblClick() {
 void VMemo::Text1_KeyDown(std::int16_t index, std::int16_t& keyCode, std::int16_t& shift) {
     module_.Procedure(u"Text1_KeyDown", [&] {
         m_KeyDownSelStart = Text1(index).SelStart();
-        m_LastKeyCode = keyCode;  // before the container can change it
+        m_LastKeyCode = keyCode;  // stored before the container can change it
         Raise(host_.container, VMemoEvent::KeyDown, keyCode, shift);
     });
 }

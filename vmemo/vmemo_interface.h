@@ -1,4 +1,4 @@
-// What VMemo offers to automation.
+// The automation interface of VMemo.
 #pragma once
 
 #include <cstdint>

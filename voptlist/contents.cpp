@@ -15,7 +15,7 @@ std::size_t CountBars(TextView text) {
     return static_cast<std::size_t>(std::ranges::count(text, separator));
 }
 
-// How many units two texts have in common at their beginnings.
+// Returns the number of units that both texts have in common at the start.
 std::size_t CommonBeginning(TextView left, TextView right) {
     constexpr std::size_t block = 64;
     const std::size_t shorter = std::min(left.size(), right.size());
@@ -80,7 +80,7 @@ ContentsChange FindChange(TextView former, TextView contents) {
     const TextView rest = contents.substr(beginning.size());
     const std::size_t ending = CommonEnd(formerRest, rest);
     const std::size_t lastBegun = contents.find(separator, contents.size() - ending);
-    // The walk over a longer text ends in an overflow, which is not to be missed.
+    // The walk over a longer text must reach the overflow, so none of its items are skipped.
     if (lastBegun == TextView::npos || contents.size() > longest ||
         CountBars(formerRest.substr(0, formerRest.size() - ending)) !=
             CountBars(rest.substr(0, rest.size() - ending))) {

@@ -13,7 +13,7 @@ namespace {
 namespace persisted {
 
 constexpr Setting<bool> enabled{u"Enabled", true};
-constexpr TextView font = u"Font";  // by default the container's
+constexpr TextView font = u"Font";  // default: the container's font
 constexpr Setting<std::int16_t> borderStyle{u"BorderStyle", 1};
 constexpr TextSetting caption{u"Caption", u"Frame1"};
 constexpr TextSetting contents{u"Contents", u"0;Item 0"};
@@ -63,7 +63,7 @@ void VOptList::UserControl_Initialize() {
     IgnoreClicks = false;
 }
 
-// The one button keeps its caption and its empty value until Contents is assigned or read.
+// The only button keeps its caption and its empty value until Contents is assigned or read.
 void VOptList::UserControl_InitProperties() {
     Contents = persisted::contents.defaultValue;
     LeftMargin = persisted::leftMargin.defaultValue;

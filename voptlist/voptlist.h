@@ -15,11 +15,11 @@
 
 namespace lumenkit {
 
-/// The control. An item lives on its option button and nowhere else: its caption is the button's,
-/// its value the button's tag, and it is selected when the button is.
+/// The control. An item is stored only in its option button: its caption is the caption of the
+/// button, its value is the Tag of the button, and it is selected when the button is.
 ///
-/// Members report errors of their own to the person at the screen and raise none, except where
-/// reporting itself fails. Distances are in twips, indices count from 0.
+/// Members report their own errors to the user and do not raise them, except when reporting itself
+/// fails. Distances are in twips, indices count from 0.
 class VOptList final : public Control, private host::OptionButtonEvents {
  public:
     explicit VOptList(const ControlHost& host);
@@ -32,23 +32,24 @@ class VOptList final : public Control, private host::OptionButtonEvents {
     host::FontRef pGetFont() const;
     void pSetFont(host::FontRef font);
     std::int16_t pGetBorderStyle() const;
-    /// 0 none, 1 fixed single; reports 380 for other values.
+    /// 0 none, 1 fixed single. Reports 380 for other values.
     void pLetBorderStyle(std::int16_t style);
     void Refresh();
     Text pGetCaption() const;
     void pLetCaption(TextView caption);
 
-    /// The items, see ContentsWalk. Assigning keeps the selection, reports 6 where the text has
-    /// more than 32,766 units (the items before that are set up, ItemCount stays).
+    /// The items, see ContentsWalk. Assigning keeps the selection. Reports 6 when the text has more
+    /// than 32,766 units; the items before the overflow are then set up, and ItemCount does not
+    /// change.
     const Text& pGetContents() const { return Contents; }
     void pLetContents(TextView contents);
 
-    // The items' appearance. Assigning reports 382 at run time.
+    // The items' appearance. Assigning at run time reports 382.
     std::int16_t pGetItemAlignment() const;
-    /// 0: the button left of its caption, 1: right of it; reports 380 for other values.
+    /// 0: the button is left of its caption, 1: right of it. Reports 380 for other values.
     void pLetItemAlignment(std::int16_t alignment);
-    /// The caption of one item, until the items are set up again. An `index` without an item is
-    /// ignored.
+    /// Sets the caption of one item, until the items are set up again. Ignores an `index` without
+    /// an item.
     void pLetItemCaption(std::int16_t index, TextView caption);
     bool pGetItemFontBold() const;
     void pLetItemFontBold(bool bold);
@@ -61,7 +62,8 @@ class VOptList final : public Control, private host::OptionButtonEvents {
     Color pGetItemForeColor() const;
     void pLetItemForeColor(Color color);
 
-    // Where the buttons are. At run time assigning reports 382, reading 393 (and gives 0).
+    // The positions of the buttons. At run time, assigning reports 382; reading reports 393 and
+    // returns 0.
     float pGetLeftMargin() const;
     void pLetLeftMargin(float margin);
     float pGetSpacing() const;
@@ -70,19 +72,19 @@ class VOptList final : public Control, private host::OptionButtonEvents {
     void pLetTopMargin(float margin);
 
     // The selection.
-    /// The selected item, -1 for none.
+    /// Index of the selected item, -1 for none.
     std::int16_t pGetListIndex() const;
-    /// Any index without an item deselects.
+    /// An index without an item clears the selection.
     void pLetListIndex(std::int16_t index);
-    /// The value of the selected item, empty for none.
+    /// Returns the value of the selected item, empty for none.
     Text pGetText() const;
-    /// Selects the first item with this value, without regard to case, or none. Reports 387 at
-    /// design time.
+    /// Selects the first item with this value, compared without regard to case, or clears the
+    /// selection when there is none. Reports 387 at design time.
     void pLetText(TextView text);
     /// The same as Text.
     Text pGetValue() const;
 
-    // The container's calls.
+    // Called by the container.
     void UserControl_Initialize() override;
     void UserControl_InitProperties() override;
     void UserControl_ReadProperties(host::PropertyBag& bag) override;
@@ -94,8 +96,8 @@ class VOptList final : public Control, private host::OptionButtonEvents {
     void Option1_Click(std::int16_t index);
 
     // Layout.
-    /// Puts the items of Contents on the buttons; true when there are more of them than ever
-    /// before.
+    /// Assigns the items of Contents to the buttons. Returns true when there are more items than
+    /// ever before.
     bool SetupControls();
     void SetupItem(std::int16_t index, const ContentsItem& item);
     void CopyProperties();
@@ -107,7 +109,7 @@ class VOptList final : public Control, private host::OptionButtonEvents {
     Text SelectedValue() const;
     void NotifyChangedListIndexText();
 
-    // What many properties share.
+    // Shared by many properties.
     template <typename Result, typename Read>
     Result Get(ProcedureName procedure, Read&& read) const {
         return module_.Function<Result>(procedure, [&](Result& result) { result = read(); });
@@ -130,15 +132,16 @@ class VOptList final : public Control, private host::OptionButtonEvents {
 
     Text Contents;
     std::int16_t ItemCount = 0;
-    /// Elements of Option1 that items have used so far; never decreases.
+    /// Number of elements of Option1 that items have used so far; never decreases.
     std::int16_t LoadedCount = 0;
-    /// Elements of Option1 that exist. The same as LoadedCount, except after SetupControls was cut
-    /// short by an error: it had loaded and shown some elements then without counting them. They
-    /// are not loaded a second time; until they are counted, they are surplus to be hidden.
+    /// Number of elements of Option1 that exist. It exceeds LoadedCount only after an error
+    /// interrupted SetupControls, which had then loaded and shown elements without counting them.
+    /// These elements are not loaded a second time; until they are counted, they are surplus and
+    /// are hidden.
     std::int16_t existingCount_ = 1;
-    /// The contents that the buttons show; nothing while that is not known.
+    /// The contents that the buttons show; nullopt while they are unknown.
     std::optional<Text> shown_;
-    /// True while properties are read: clicks then neither notify nor raise Click.
+    /// True while properties are read: clicks then neither notify the container nor raise Click.
     bool IgnoreClicks = false;
     float LeftMargin = 0;
     float Spacing = 0;

@@ -1,4 +1,4 @@
-// What VOptList offers to automation.
+// The automation interface of VOptList.
 #pragma once
 
 #include <cstdint>

@@ -1,4 +1,5 @@
-// The option buttons: made from the items, made alike, put in rows.
+// Creates the option buttons from the items, copies the appearance of the first one to the others
+// and arranges them in rows.
 #include "frame/checked_integer.h"
 #include "voptlist/put_if_different.h"
 #include "voptlist/voptlist.h"
@@ -22,7 +23,7 @@ void PutVisible(OptionButton& button, bool visible) {
 
 }  // namespace
 
-// Buttons whose items are as they were need not be looked at.
+// Skips buttons whose items have not changed.
 bool VOptList::SetupControls() {
     return module_.Function<bool>(u"SetupControls", [&](bool& loaded) {
         const ContentsChange change =

@@ -1,4 +1,4 @@
-// The selection: read from and made through the option buttons, told to the container.
+// Reads and changes the selection through the option buttons and notifies the container.
 #include "frame/automation/raise_event.h"
 #include "voptlist/voptlist.h"
 #include "voptlist/voptlist_interface.h"
@@ -44,7 +44,8 @@ void VOptList::NotifyChangedListIndexText() {
     });
 }
 
-// A selection by code clicks too, so it notifies here; a deselection has to notify by itself.
+// Selecting a button by code also causes a click, so the container is notified here. Deselecting
+// causes no click; the code that deselects notifies the container itself.
 void VOptList::Option1_Click(std::int16_t /*index*/) {
     if (!IgnoreClicks) {
         NotifyChangedListIndexText();

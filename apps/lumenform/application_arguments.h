@@ -4,8 +4,8 @@
 
 namespace lumenkit::form {
 
-/// What an application of Qt is told of the command line: the program's name, which it also bears
-/// for the desktop. It must outlive the application.
+/// The command line that a QApplication receives: only the program's name, which is also its name
+/// on the desktop. Must outlive the application.
 struct ApplicationArguments {
     ApplicationArguments() = default;
     ~ApplicationArguments() = default;

@@ -12,7 +12,7 @@ namespace lumenkit::form {
 namespace {
 
 int DesignForm(const DesktopOptions& options) {
-    std::optional<QSettings> settings;  // made once there is an application
+    std::optional<QSettings> settings;  // created after the application
     return ShowOnDesktop(options, "\"lumenform render --design\" draws the designer without one",
                          [&](const qt::Context& context) {
                              settings.emplace(QStringLiteral("lumenkit"),

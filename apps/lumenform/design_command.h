@@ -4,7 +4,7 @@
 
 namespace lumenkit::form {
 
-/// Adds the command "design" to the program, which also runs when no command is given.
+/// Adds "lumenform design" to the program. The command also runs if no command is given.
 void AddDesignCommand(CLI::App& program, int& status);
 
 }  // namespace lumenkit::form

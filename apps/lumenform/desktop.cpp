@@ -11,7 +11,7 @@ namespace {
 
 constexpr const char* platformVariable = "QT_QPA_PLATFORM";
 
-// Without a screen there is much to warn of that a picture does not need.
+// Suppresses Qt's warnings about the missing screen, which do not concern a picture.
 void TellOnlyFailures(QtMsgType type, const QMessageLogContext& /*context*/, const QString& text) {
     if (type == QtCriticalMsg || type == QtFatalMsg) {
         static_cast<void>(std::fprintf(stderr, "lumenform: %s\n", qPrintable(text)));
@@ -22,7 +22,7 @@ QPalette DarkPalette() {
     const QColor window(0x3A, 0x3B, 0x3E);
     const QColor text(0xE6, 0xE6, 0xE6);
     const QColor greyed(0x94, 0x97, 0x9B);
-    QPalette palette(window);  // edges and shades of the same
+    QPalette palette(window);  // derives the other colours from this one
     palette.setColor(QPalette::Base, QColor(0x1E, 0x1F, 0x22));
     palette.setColor(QPalette::AlternateBase, QColor(0x28, 0x29, 0x2C));
     palette.setColor(QPalette::Button, QColor(0x4A, 0x4D, 0x52));

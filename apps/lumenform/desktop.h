@@ -1,18 +1,19 @@
-// The surroundings of the program: screen and palette. To be set up before there is an application.
+// Selects screen and palette. All functions but UseOwnStyle are called before the application is
+// created.
 #pragma once
 
 namespace lumenkit::form {
 
-/// Whether windows would be seen by anybody.
+/// Returns whether there is a display to show windows on.
 bool HasDisplay();
 
-/// Draws without a screen, unless QT_QPA_PLATFORM says otherwise.
+/// Uses Qt's platform plugin without a screen, unless QT_QPA_PLATFORM is set.
 void DrawOffscreen();
 
-/// Draws with `scale` real pixels to a pixel.
+/// Draws with `scale` device pixels per pixel.
 void DrawAt(double scale);
 
-/// One look on every desktop, light or dark. Needs the application.
+/// Uses the same style on every desktop, with a light or dark palette. Needs the application.
 void UseOwnStyle(bool dark);
 
 }  // namespace lumenkit::form

@@ -1,4 +1,4 @@
-// What the commands that show a window have in common.
+// The code shared by the commands that show a window.
 #pragma once
 
 #include <QWidget>
@@ -24,8 +24,8 @@ void AddDesktopOptions(CLI::App& command, DesktopOptions& options);
 
 using MakeWindow = std::function<std::unique_ptr<QWidget>(const qt::Context& context)>;
 
-/// Shows the window until it is closed, and gives the exit status. Without a display it only says
-/// so, and what to do `instead`.
+/// Shows the window until it is closed and returns the exit status. Without a display, only prints
+/// an error that ends with `instead`, the alternative.
 int ShowOnDesktop(const DesktopOptions& options, const char* instead, const MakeWindow& make);
 
 }  // namespace lumenkit::form

@@ -17,7 +17,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-// Links that lead nowhere count too.
+// Dangling links count as existing files.
 bool IsThere(const fs::path& path) {
     std::error_code error;
     return fs::exists(fs::symlink_status(path, error));

@@ -4,7 +4,7 @@
 
 namespace lumenkit::form {
 
-/// Adds "lumenform new" to the program. When it is chosen, parsing runs it and sets `status`.
+/// Adds "lumenform new" to the program. If the command is given, parsing runs it and sets `status`.
 void AddNewCommand(CLI::App& program, int& status);
 
 }  // namespace lumenkit::form

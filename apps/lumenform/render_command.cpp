@@ -45,7 +45,7 @@ void RequireRoom(const Options& options, QSize size) {
 
 QPixmap FormPicture(const Options& options, const qt::Context& context, forms::Document& document) {
     FormView view(context, document, Mode::Run);
-    QWidget window;  // without the hints about its size that a form has
+    QWidget window;  // without the size hints of a form
     view.setParent(&window);
     window.resize(view.sizeHint());
     RequireRoom(options, view.sizeHint());

@@ -4,7 +4,8 @@
 
 namespace lumenkit::form {
 
-/// Adds "lumenform render" to the program. When it is chosen, parsing runs it and sets `status`.
+/// Adds "lumenform render" to the program. If the command is given, parsing runs it and sets
+/// `status`.
 void AddRenderCommand(CLI::App& program, int& status);
 
 }  // namespace lumenkit::form

@@ -12,7 +12,7 @@ namespace lumenkit::form {
 
 namespace {
 
-// The first control that has a page, or where none is wanted the first one of ours.
+// Selects the first control of this library, or with `page` the first one that has a property page.
 void SelectFirst(Workbench& bench, bool page) {
     for (const auto& control : bench.GetDesign().View().Controls()) {
         const qt::ControlWidget* own = control->Own();
@@ -23,7 +23,7 @@ void SelectFirst(Workbench& bench, bool page) {
     }
 }
 
-// A dialog with the title bar that a desktop would give it.
+// Draws the title bar that a desktop would add to a dialog.
 QPixmap WithTitleBar(const QWidget& dialog, const QPixmap& inside) {
     const double ratio = inside.devicePixelRatio();
     const QSize size = dialog.size();
@@ -48,7 +48,7 @@ void PutIntoTheMiddle(QPixmap& picture, const QPixmap& over) {
 }  // namespace
 
 QPixmap DesignPicture(const qt::Context& context, const QString& form, int codePage, bool page) {
-    const QTemporaryDir folder;  // what people's settings say is not to be seen
+    const QTemporaryDir folder;  // the picture does not depend on the user's settings
     QSettings settings(folder.filePath(QStringLiteral("settings.ini")), QSettings::IniFormat);
     DesignWindow window({.classes = context.classes,
                          .application = context.application,
@@ -60,7 +60,7 @@ QPixmap DesignPicture(const qt::Context& context, const QString& form, int codeP
         SelectFirst(*window.Bench(), page);
     }
     constexpr QSize size(1240, 780);
-    window.resize(size);  // whatever the screen, which is none
+    window.resize(size);  // there is no screen to limit it
     window.show();
     QApplication::processEvents();
     QPixmap picture = window.grab();

@@ -7,9 +7,9 @@
 
 namespace lumenkit::form {
 
-/// The designer as it looks when the form was just opened and its first control is selected; with
-/// `page`, the property page of the first control that has one lies over it. Without a form, its
-/// first screen. Throws forms::FormError for a form that cannot be read.
+/// Draws the designer after it has opened the form and selected its first control. With `page`, the
+/// property page of the first control that has one is in front. If `form` is empty, draws the start
+/// screen. Throws forms::FormError if the form cannot be read.
 QPixmap DesignPicture(const qt::Context& context, const QString& form, int codePage, bool page);
 
 }  // namespace lumenkit::form

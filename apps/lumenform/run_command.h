@@ -4,7 +4,7 @@
 
 namespace lumenkit::form {
 
-/// Adds "lumenform run" to the program. When it is chosen, parsing runs it and sets `status`.
+/// Adds "lumenform run" to the program. If the command is given, parsing runs it and sets `status`.
 void AddRunCommand(CLI::App& program, int& status);
 
 }  // namespace lumenkit::form

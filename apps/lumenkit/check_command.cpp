@@ -25,10 +25,10 @@ namespace {
 using check::FileError;
 using check::Findings;
 
-// A bar for fewer would be gone before it is seen.
+// With fewer files, a progress bar would vanish before anyone sees it.
 constexpr std::size_t manyFiles = 20;
 
-struct Options {
+struct CheckOptions {
     std::vector<std::string> paths;
     bool captions = false;
     bool json = false;
@@ -37,7 +37,7 @@ struct Options {
 
 class CheckRun {
  public:
-    CheckRun(const Options& options, check::Reporter& reporter)
+    CheckRun(const CheckOptions& options, check::Reporter& reporter)
         : options_(options), reporter_(reporter) {}
 
     int Run() {
@@ -99,14 +99,14 @@ class CheckRun {
         reporter_.Report(error);
     }
 
-    const Options& options_;
+    const CheckOptions& options_;
     check::Reporter& reporter_;
     std::size_t checked_ = 0;
     bool found_ = false;
     bool failed_ = false;
 };
 
-int Check(const Options& options) {
+int Check(const CheckOptions& options) {
     if (options.json) {
         check::JsonReporter reporter(std::cout);
         return CheckRun(options, reporter).Run();
@@ -147,7 +147,7 @@ std::string Help() {
 void AddCheckCommand(CLI::App& program, int& status) {
     CLI::App* const command = program.add_subcommand(
         "check", "Find mistakes in form files and in captions, with their places");
-    const auto options = std::make_shared<Options>();
+    const auto options = std::make_shared<CheckOptions>();
     command
         ->add_option("PATH", options->paths,
                      "Forms (.frm, .ctl, .pag, .dob) and folders, which are searched for such "

@@ -4,8 +4,8 @@
 
 namespace lumenkit::cli {
 
-/// Adds --code-page, what forms are written in unless they are UTF-8. Pages that are not known are
-/// refused; the help shows what `codePage` holds now. It must live until parsing is over.
+/// Adds --code-page, the encoding of forms that are not UTF-8. Rejects unknown code pages. The help
+/// shows the present value of `codePage`, which must outlive parsing.
 void AddCodePageOption(CLI::App& command, int& codePage);
 
 }  // namespace lumenkit::cli

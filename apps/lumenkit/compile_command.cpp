@@ -17,12 +17,12 @@ namespace lumenkit::cli {
 
 namespace {
 
-struct Options {
+struct CompileOptions {
     std::string file = "-";
     bool json = false;
 };
 
-// Members in the order in which they are put in.
+// Keeps the members in insertion order.
 using Json = nlohmann::ordered_json;
 
 Json ToJson(const CompiledCaption& compiled) {
@@ -38,7 +38,7 @@ Json ToJson(const CompiledCaption& compiled) {
     return {{"lines", lines}, {"commands", commands}};
 }
 
-int Compile(const Options& options) {
+int Compile(const CompileOptions& options) {
     const Text caption = ReadText(options.file);
     ConsoleHost host;
     ModuleErrors errors(host, host);
@@ -58,7 +58,7 @@ int Compile(const Options& options) {
 void AddCompileCommand(CLI::App& program, int& status) {
     CLI::App* const command =
         program.add_subcommand("compile", "Compile a caption and print its compiled form");
-    const auto options = std::make_shared<Options>();
+    const auto options = std::make_shared<CompileOptions>();
     command->add_option("FILE", options->file,
                         "The caption, in UTF-8; - or nothing reads the standard input. One line "
                         "break at its very end is no part of it.");

@@ -4,7 +4,8 @@
 
 namespace lumenkit::cli {
 
-/// Adds "lumenkit compile" to the program. When it is chosen, parsing runs it and sets `status`.
+/// Adds "lumenkit compile" to the program. If the command is given, parsing runs it and sets
+/// `status`.
 void AddCompileCommand(CLI::App& program, int& status);
 
 }  // namespace lumenkit::cli

@@ -7,7 +7,7 @@
 
 namespace lumenkit::cli {
 
-/// A host without a screen: what a control reports goes to the standard error stream.
+/// A host without a screen: it writes the messages of controls to the standard error stream.
 class ConsoleHost final : public host::Application, public host::Interaction {
  public:
     Text ExeName() override { return u"lumenkit"; }

@@ -70,7 +70,7 @@ int StatusOf(const std::istream& input, const std::ostream& output) {
 }
 
 int Drive() {
-    std::ios::sync_with_stdio(false);  // reads whole blocks, and knows a failure from the end
+    std::ios::sync_with_stdio(false);  // reads in blocks and sets badbit on a read failure
     DriveSession session(lumenkitClasses);
     std::string line;
     while (!session.HasQuit() && std::cout && std::getline(std::cin, line)) {

@@ -4,7 +4,8 @@
 
 namespace lumenkit::cli {
 
-/// Adds "lumenkit drive" to the program. When it is chosen, parsing runs it and sets `status`.
+/// Adds "lumenkit drive" to the program. If the command is given, parsing runs it and sets
+/// `status`.
 void AddDriveCommand(CLI::App& program, int& status);
 
 }  // namespace lumenkit::cli

@@ -1,4 +1,4 @@
-// The command line: one file per command, joined here.
+// The command line. Each command has a separate file.
 #include <cstdio>
 #include <exception>
 

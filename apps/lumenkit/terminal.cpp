@@ -9,7 +9,7 @@ namespace lumenkit::cli {
 
 namespace {
 
-// Nothing changes the environment while the program runs.
+// Thread-safe: nothing changes the environment while the program runs.
 std::string_view Environment(const char* name) {
     const char* const value = std::getenv(name);  // NOLINT(concurrency-mt-unsafe)
     return value == nullptr ? std::string_view() : value;

@@ -4,10 +4,11 @@ namespace lumenkit::cli {
 
 enum class Stream { Output, Errors };
 
-/// Whether a person looks at the stream.
+/// Returns whether the stream is a terminal.
 bool IsTerminal(Stream stream);
 
-/// Whether what goes there may be coloured: a terminal that knows how, and nobody has set NO_COLOR.
+/// Returns whether output to the stream may be coloured: it is a terminal with colours, and
+/// NO_COLOR is not set.
 bool TakesColors(Stream stream);
 
 }  // namespace lumenkit::cli

@@ -7,14 +7,14 @@
 
 namespace lumenkit::cli {
 
-/// Input that cannot be used; what() says which and why.
+/// Input that cannot be used; what() names it and gives the reason.
 class UnusableInput : public std::runtime_error {
  public:
     using std::runtime_error::runtime_error;
 };
 
-/// The text of a UTF-8 file, or of the standard input where `path` is "-". One line break (LF or
-/// CR LF) at its very end is left out: editors and echo put it there. Throws UnusableInput.
+/// Reads a UTF-8 file, or the standard input if `path` is "-". Removes one line break (LF or CR LF)
+/// at the end, because editors and echo add one. Throws UnusableInput.
 Text ReadText(const std::string& path);
 
 }  // namespace lumenkit::cli

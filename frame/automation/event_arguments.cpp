@@ -9,7 +9,7 @@ namespace lumenkit {
 
 namespace {
 
-// `value` as the type that `model` has.
+// Converts `value` to the type of `model`.
 Value Converted(const Value& value, const Value& model) {
     return std::visit(
         [&](const auto& sample) -> Value {

@@ -6,8 +6,9 @@
 
 namespace lumenkit {
 
-/// Gives each argument the type back in which it went out to a container, which may have assigned
-/// any value. What does not convert gets its old value. Both have the same number of elements.
+/// Converts each argument back to the type that it had when the event was raised; a container may
+/// have assigned a value of any type. An argument that does not convert gets its original value.
+/// Both spans have the same number of elements.
 void RestoreTypes(std::span<Value> arguments, std::span<const Value> originals);
 
 }  // namespace lumenkit

@@ -1,6 +1,6 @@
-// What a class offers to automation, as data: the one source of its members' names, identifiers,
-// kinds, types and help strings. Late binding, property browsers, type libraries and reference
-// documents are all made from it.
+// Describes the automation interface of a class as data: the single source of its members' names,
+// identifiers, kinds, types and help strings. Late binding, property browsers, type libraries and
+// reference documents are built from it.
 #pragma once
 
 #include <cstdint>
@@ -33,16 +33,16 @@ struct MemberFlags {
     bool hiddenFromBrowser = false;
 };
 
-/// Runs a member of the object that `self` points to. `arguments` has just as many values as the
-/// member takes: indices or arguments, then the new value where one is assigned.
+/// Runs a member of the object that `self` points to. `arguments` holds exactly as many values as
+/// the member takes: the indices or arguments, followed by the new value in an assignment.
 using MemberFunction = Value (*)(void* self, std::span<Value> arguments);
 
 struct Member {
     std::int32_t identifier = 0;
     TextView name;
     MemberKind kind = MemberKind::Property;
-    ValueType type = ValueType::None;  ///< the property's, or the method's result
-    TextView help;                     ///< empty: none
+    ValueType type = ValueType::None;  ///< of the property, or of the method's result
+    TextView help;                     ///< empty for none
     std::span<const Parameter> parameters = {};
     MemberFlags flags = {};
     Assignment assignment = Assignment::None;
@@ -51,7 +51,7 @@ struct Member {
     MemberFunction call = nullptr;    ///< methods only
 };
 
-/// One event; its arguments are all passed by reference.
+/// One event. All its arguments are passed by reference.
 struct Event {
     std::int32_t identifier = 0;
     TextView name;
@@ -62,9 +62,10 @@ struct Event {
 struct InterfaceTable {
     TextView name;
     std::span<const Member> members;
-    UniqueIdentifier uniqueIdentifier = {};  ///< null where the interface is not published
+    UniqueIdentifier uniqueIdentifier = {};  ///< null when the interface is not published
 
-    /// Without regard to case; null when there is none. The member lives as long as the table.
+    /// Return the member with this name, compared without regard to case, or with this identifier;
+    /// null when there is none. The member lives as long as the table.
     const Member* Find(TextView memberName) const;
     const Member* Find(std::int32_t identifier) const;
 };
@@ -72,12 +73,12 @@ struct InterfaceTable {
 struct EventTable {
     TextView name;
     std::span<const Event> events;
-    UniqueIdentifier uniqueIdentifier = {};  ///< null where the interface is not published
+    UniqueIdentifier uniqueIdentifier = {};  ///< null when the interface is not published
 
     const Event* Find(std::int32_t identifier) const;
 };
 
-/// Identifiers of a class's own properties and methods, numbered in two series.
+/// Return the identifier of a class's own property or method, numbered in two separate series.
 constexpr std::int32_t UserProperty(std::int32_t number) {
     return 1745027072 + number;
 }
@@ -85,22 +86,23 @@ constexpr std::int32_t UserMethod(std::int32_t number) {
     return 1610809344 + number;
 }
 
-/// Identifiers that the platform gives to members every control has.
+/// Identifiers that the platform reserves for members common to all controls.
 inline constexpr std::int32_t stockBackColor = -501;
 inline constexpr std::int32_t stockFont = -512;
 inline constexpr std::int32_t stockForeColor = -513;
 inline constexpr std::int32_t stockEnabled = -514;
 
-/// Uses a member of the table on the object that `self` points to, with the errors that
-/// Object::Invoke documents. A property Set may be assigned by Let too: not all clients tell the
-/// two apart.
+/// Invokes a member of the table on the object that `self` points to. Raises the errors listed at
+/// Object::Invoke. Let also assigns a property that is declared with Set, because some clients do
+/// not distinguish the two.
 Value InvokeMember(const InterfaceTable& table, void* self, std::int32_t identifier,
                    InvokeKind kind, std::span<Value> arguments);
 
-/// The late-bound face of an object of some other class, by that class's table.
+/// Late-bound access to an object of another class through the table of that class.
 class TableObject : public Object {
  public:
-    /// Both must outlive the object; `self` must be what the table's member functions expect.
+    /// Both arguments must outlive the object. `self` must be the pointer that the table's member
+    /// functions expect.
     TableObject(const InterfaceTable& table, void* self) : table_(table), self_(self) {}
 
     std::optional<std::int32_t> FindMember(TextView name) const override;
@@ -113,7 +115,7 @@ class TableObject : public Object {
     void* self_;
 };
 
-/// The identifier of the member `name` of `table`, nothing when there is none.
+/// Returns the identifier of the member `name` of `table`; nullopt when there is none.
 std::optional<std::int32_t> FindMember(const InterfaceTable& table, TextView name);
 
 }  // namespace lumenkit

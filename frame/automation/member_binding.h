@@ -1,5 +1,5 @@
-// Makes entries of an interface table from member functions of a C++ class. Types, read and write
-// access come from the functions' own signatures, so that table and code cannot disagree.
+// Builds entries of an interface table from member functions of a C++ class. Types and read/write
+// access are derived from the signatures of the functions, so that table and code cannot disagree.
 //
 //     constexpr std::array members = {
 //         Property<&VLabel::pGetCaption, &VLabel::pLetCaption>(0, u"Caption", u"Text to ..."),
@@ -38,7 +38,7 @@ struct Signature<Return (Class::*)(Arguments...) const>
 template <auto function>
 using SignatureOf = Signature<decltype(function)>;
 
-/// Calls `function` on what `self` points to with the converted arguments.
+/// Calls `function` on the object that `self` points to, with the converted arguments.
 template <auto function, std::size_t... index>
 decltype(auto) Apply(void* self, [[maybe_unused]] std::span<Value> arguments,
                      std::index_sequence<index...> /*indices*/) {
@@ -84,7 +84,7 @@ constexpr Member ReadOnlyProperty(std::int32_t identifier, TextView name, TextVi
             .read = &binding::Thunk<get>};
 }
 
-/// `parameters`, the indices, must live as long as the table.
+/// `parameters` describes the indices and must live as long as the table.
 template <auto put>
 constexpr Member WriteOnlyProperty(std::int32_t identifier, TextView name, TextView help,
                                    std::span<const Parameter> parameters = {}) {

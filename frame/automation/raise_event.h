@@ -11,8 +11,8 @@
 
 namespace lumenkit {
 
-/// Raises the event with `arguments` by reference: what the container assigns to them is there when
-/// the call returns.
+/// Raises the event and passes `arguments` by reference: when the call returns, they hold the
+/// values that the container assigned.
 template <typename... Arguments>
 void RaiseEvent(host::Container& container, std::int32_t event, Arguments&... arguments) {
     std::array<Value, sizeof...(Arguments)> values{Automation<Arguments>::To(arguments)...};

@@ -14,7 +14,7 @@ constexpr EnumerationMember MemberOf(TextView name, Enumeration member) {
     return {name, static_cast<std::int32_t>(member)};
 }
 
-// The prefixes keep the names apart from all others that a program may use.
+// The prefixes avoid name clashes in programs that use the enumerations.
 using host::MousePointer;
 constexpr std::array mousePointers = {
     MemberOf(u"mouseDefault", MousePointer::Default),

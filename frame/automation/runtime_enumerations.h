@@ -1,5 +1,5 @@
-// The runtime's enumerations as they are published: a small type library of their own, which the
-// library of the controls refers to.
+// The published enumerations of the runtime: a small separate type library that the type library of
+// the controls refers to.
 #pragma once
 
 #include <cstdint>
@@ -20,7 +20,7 @@ struct EnumerationTable {
     TextView name;
     UniqueIdentifier uniqueIdentifier;
     TextView help;
-    ValueType type = ValueType::None;  ///< of the properties that take its members
+    ValueType type = ValueType::None;  ///< type of the properties that take the members
     std::span<const EnumerationMember> members;
 };
 
@@ -30,10 +30,10 @@ struct EnumerationLibrary {
     TextView help;
     std::uint16_t majorVersion = 1;
     std::uint16_t minorVersion = 0;
-    std::uint32_t locale = 0;  ///< the platform's number of a language: 1033 is English
+    std::uint32_t locale = 0;  ///< the platform's language number: 1033 is English
     std::span<const EnumerationTable> enumerations;
 
-    /// The enumeration whose members properties of `type` take; null for other types.
+    /// Returns the enumeration of the properties of `type`; null for other types.
     const EnumerationTable* Find(ValueType type) const;
 };
 

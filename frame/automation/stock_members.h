@@ -1,4 +1,4 @@
-// What the members and events that many controls have are called and explained as.
+// Help strings and parameters of the members and events that many controls share.
 #pragma once
 
 #include <array>
@@ -45,7 +45,7 @@ inline constexpr TextView changeHelp = u"Occurs when the contents of a control h
 inline constexpr TextView validateHelp =
     u"Occurs when a control loses focus to a control that causes validation.";
 
-// Arguments of events.
+// Parameters of events.
 inline constexpr std::array mouseParameters = {
     Parameter{u"Button", ValueType::Integer},
     Parameter{u"Shift", ValueType::Integer},

@@ -38,13 +38,13 @@ Value DefaultMemberOf(const ObjectRef& object) {
     }
     Value member = object->Get(defaultMember);
     if (std::holds_alternative<ObjectRef>(member)) {
-        Raise(ErrorNumber::TypeMismatch);  // one step only: a circle of defaults must end
+        Raise(ErrorNumber::TypeMismatch);  // follow one step only: default members may form a cycle
     }
     return member;
 }
 
-// What `value` stands for: itself or, for an object, its default member, which is put into
-// `member`. Never Null, Missing or an object.
+// Resolves `value`: returns `value` or, for an object, its default member, which is stored in
+// `member`. The result is never Null, Missing or an object.
 const Value& Plain(const Value& value, Value& member) {
     const auto* object = std::get_if<ObjectRef>(&value);
     if (object != nullptr) {

@@ -1,4 +1,4 @@
-// Values as automation passes them: in property bags, late-bound calls and event arguments.
+// Values that automation passes in property bags, late-bound calls and event arguments.
 #pragma once
 
 #include <cstdint>
@@ -25,8 +25,9 @@ struct Null {
 struct Missing {
     Missing() = default;
     ~Missing() = default;
-    // Not trivial: a Value of nothing but trivial types and texts is one to g++ 12 whose copying
-    // cannot fail, and when memory runs out over a text it destroys what was not made.
+    // Not trivial on purpose: when all alternatives of Value are trivial types or texts, g++ 12
+    // assumes that copying a Value cannot fail. If copying a text then runs out of memory, g++ 12's
+    // code destroys an object that was never constructed.
     // NOLINTNEXTLINE(modernize-use-equals-default)
     Missing(const Missing& /*other*/) noexcept {}
     Missing& operator=(const Missing& /*other*/) noexcept = default;
@@ -37,10 +38,10 @@ struct Missing {
 using Value = std::variant<Empty, Null, Missing, bool, std::int16_t, std::int32_t, float, double,
                            Text, ObjectRef>;
 
-// Conversions, as the platform makes them. Numbers are rounded half to even; True is -1; a text
-// becomes a number if the whole of it is numeric; an object stands for its default member.
-// All raise 13 (type mismatch) where there is no conversion, 6 (overflow) out of range, 91 for an
-// object reference that is nothing, and what the conversion of Null and Missing raises.
+// The platform's conversions. Numbers are rounded half to even; True is -1; a text converts to a
+// number if the whole of it is numeric; an object is replaced by its default member. All raise 13
+// (type mismatch) when there is no conversion, 6 (overflow) when the result is out of range, 91 for
+// a null object reference, 94 for Null and 449 for Missing.
 bool ToBoolean(const Value& value);
 std::int16_t ToInteger(const Value& value);
 std::int32_t ToLong(const Value& value);
@@ -49,14 +50,14 @@ double ToDouble(const Value& value);
 Text ToText(const Value& value);
 /// Also accepts the unsigned form of a system colour (2147483653 for 0x80000005).
 Color ToColor(const Value& value);
-/// The object; raises 13 when the value is none. The reference may be nothing.
+/// Returns the object, which may be null. Raises 13 when the value is not an object reference.
 ObjectRef ToObject(const Value& value);
 
-/// A colour as automation carries it: a 32-bit signed integer.
+/// Returns the colour as automation passes it: a 32-bit signed integer.
 Value FromColor(Color color);
 
-/// Same value once numbers of different types are taken as numbers. Objects are the same when
-/// Object::IsSame says so.
+/// Returns whether both values are the same. Numbers of different types are compared by their
+/// numeric values, non-null objects by Object::IsSame.
 bool SameValue(const Value& left, const Value& right);
 
 }  // namespace lumenkit

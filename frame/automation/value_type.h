@@ -1,4 +1,4 @@
-// The types that interfaces are written in, and how C++ types stand for them.
+// The types of interface tables and their mapping to C++ types.
 #pragma once
 
 #include <cstdint>
@@ -26,7 +26,7 @@ enum class ValueType {
     ScrollBars,    ///< the runtime's scroll-bar enumeration, 32 bits
 };
 
-/// How a C++ type passes through automation: its ValueType and the conversions both ways.
+/// Maps a C++ type to automation: its ValueType and the conversions in both directions.
 template <typename T>
 struct Automation;
 
@@ -70,7 +70,7 @@ struct Automation<Text> {
     static Text From(const Value& value) { return ToText(value); }
     static Value To(Text text) { return text; }
 };
-/// For functions that take a view: the text itself lives as long as the call.
+/// For functions that take a view: the text that it refers to lives as long as the call.
 template <>
 struct Automation<TextView> {
     static constexpr ValueType type = ValueType::String;
@@ -89,7 +89,8 @@ struct Automation<host::FontRef> {
     static Value To(host::FontRef font) { return ObjectRef(std::move(font)); }
 };
 
-// The runtime's enumerations pass as 32-bit numbers, unknown members too: the property decides.
+// The runtime's enumerations are passed as 32-bit numbers. Unknown values are passed too; the
+// property decides whether to accept them.
 template <typename Enumeration, ValueType valueType>
 struct EnumerationAutomation {
     static constexpr ValueType type = valueType;

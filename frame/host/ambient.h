@@ -5,14 +5,14 @@
 
 namespace lumenkit::host {
 
-/// What the container tells of the surroundings of a control.
+/// The ambient properties that the container provides to a control.
 class Ambient {
  public:
     virtual ~Ambient() = default;
 
-    /// True in a running application, false while a designer edits the form.
+    /// Returns true in a running application, false while a designer edits the form.
     virtual bool UserMode() const = 0;
-    /// The container's font, never nothing. Each call gives a font of the caller's own: changing it
+    /// Returns the container's font, never null. Each call returns a separate copy: changing it
     /// does not change the container.
     virtual FontRef AmbientFont() const = 0;
     virtual Color BackColor() const = 0;

@@ -4,13 +4,13 @@
 
 namespace lumenkit::host {
 
-/// The component as the runtime's application object knows it.
+/// The runtime's application object, which describes the component.
 class Application {
  public:
     virtual ~Application() = default;
 
-    /// The component's own file name without folder and extension, not that of the host program.
-    /// May raise an error of the runtime.
+    /// Returns the file name of the component, not of the host program, without folder and
+    /// extension. May raise an error of the runtime.
     virtual Text ExeName() = 0;
 };
 

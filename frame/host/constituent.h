@@ -7,7 +7,7 @@
 
 namespace lumenkit::host {
 
-/// Place and size in twips, relative to the drawing area of what the constituent lies on.
+/// Position and size in twips, relative to the drawing area of the constituent's parent.
 struct Placement {
     float left = 0;
     float top = 0;
@@ -17,8 +17,8 @@ struct Placement {
     friend bool operator==(const Placement&, const Placement&) = default;
 };
 
-/// What every constituent control has. A constituent belongs to the user-interface thread; its
-/// methods may raise errors of the runtime. Destroying it takes it off the screen.
+/// The common interface of all constituent controls. Use a constituent only on the user-interface
+/// thread. Its methods may raise errors of the runtime. Destroying it removes it from the screen.
 class Constituent {
  public:
     virtual ~Constituent() = default;
@@ -37,17 +37,17 @@ class Constituent {
 /// A constituent that shows text.
 class TextConstituent : public Constituent {
  public:
-    /// Never nothing. The font is shared: see Font.
+    /// Returns the font, never null. The font is shared: see Font.
     virtual FontRef CurrentFont() const = 0;
-    /// Raises 91 for nothing.
+    /// Raises 91 when `font` is null.
     virtual void SetCurrentFont(FontRef font) = 0;
 };
 
-/// What is fixed when a constituent is designed. Texts are copied.
+/// The design-time settings of a constituent. Texts are copied.
 struct Design {
     TextView name = {};
-    std::int16_t index = -1;        ///< of an element of a control array, else -1
-    Constituent* parent = nullptr;  ///< the frame or picture box it lies in; null: the control
+    std::int16_t index = -1;  ///< index in a control array; -1 for a constituent that is not in one
+    Constituent* parent = nullptr;  ///< the frame or picture box around it; null: the control
     Placement placement = {};
     bool visible = true;
     TextView fontName = u"MS Sans Serif";

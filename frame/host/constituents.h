@@ -9,16 +9,17 @@
 
 namespace lumenkit::host {
 
-/// Makes the constituents of one control or page. The tab order is the order in which they are
-/// made; where two overlap, the one made first is in front. Event receivers must outlive the
-/// constituent, parents too; designs are only read.
+/// Creates the constituents of one control or page. The tab order is the order of creation. Where
+/// two constituents overlap, the one created first is in front. Event receivers and parents must
+/// outlive the constituent; designs are only read during the call.
 class Constituents {
  public:
     virtual ~Constituents() = default;
 
     virtual std::unique_ptr<TextBox> AddTextBox(const TextBoxDesign& design,
                                                 TextBoxEvents& events) = 0;
-    /// Element 0 of an array that lies in `frame`; `design.index` and `design.parent` are not used.
+    /// Creates element 0 of an array inside `frame`. `design.index` and `design.parent` are
+    /// ignored.
     virtual std::unique_ptr<OptionButtons> AddOptionButtons(const OptionButtonDesign& design,
                                                             Frame& frame,
                                                             OptionButtonEvents& events) = 0;
@@ -31,8 +32,8 @@ class Constituents {
     virtual std::unique_ptr<PictureBox> AddPictureBox(const Design& design) = 0;
     virtual std::unique_ptr<ScrollBar> AddScrollBar(const Design& design, Orientation orientation,
                                                     ScrollBarEvents& events) = 0;
-    /// A new control of the class with this programmatic identifier ("lumenkit.VLabel"), set up as
-    /// a newly placed one. Raises 429 when there is no such class.
+    /// Creates a control of the class with this programmatic identifier ("lumenkit.VLabel") and
+    /// initialises it as a newly placed one. Raises 429 when there is no such class.
     virtual std::unique_ptr<EmbeddedControl> AddControl(const Design& design,
                                                         TextView programmaticIdentifier) = 0;
 };

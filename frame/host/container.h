@@ -8,18 +8,19 @@
 
 namespace lumenkit::host {
 
-/// The way from a control back to its container.
+/// The container's interface for a control.
 class Container {
  public:
     virtual ~Container() = default;
 
-    /// Says that the property has a new value, to be saved and shown in property browsers.
+    /// Notifies the container that a property changed, so that it saves the value and updates
+    /// property browsers.
     virtual void PropertyChanged(TextView name) = 0;
-    /// Asks whether a bound property may change now.
+    /// Returns whether a bound property may change now.
     virtual bool CanPropertyChange(TextView name) = 0;
     /// Raises the event with this identifier in the control's event table. The container may assign
-    /// the arguments; each comes back in the type in which it went out. It may also call the
-    /// control before this returns. Errors of the event's handlers do not come back.
+    /// the arguments; each keeps the type that it was passed in. The container may call the control
+    /// before this function returns. Errors of event handlers do not propagate to the control.
     virtual void RaiseEvent(std::int32_t event, std::span<Value> arguments) = 0;
 };
 

@@ -1,4 +1,4 @@
-// The runtime's own enumerations that interfaces of the controls use.
+// The runtime's enumerations that the interfaces of the controls use.
 #pragma once
 
 #include <cstdint>

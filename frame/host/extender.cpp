@@ -8,7 +8,7 @@
 
 namespace lumenkit::host {
 
-// The members, as the interface table wants them.
+// The members in the form that the interface table needs.
 struct ExtenderMembers {
     Extender& self;
 

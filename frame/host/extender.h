@@ -10,23 +10,23 @@
 
 namespace lumenkit::host {
 
-/// A control as its container shows it to programs: Name (read-only), Tag, Left, Top, Width,
-/// Height, Visible, and Move with one to four arguments. A runtime says what these are for a
-/// control of its own. Lengths are in twips.
+/// The container's extender of a control, as programs see it: Name (read-only), Tag, Left, Top,
+/// Width, Height, Visible, and Move with one to four arguments. Each runtime implements the
+/// accessors for its own controls. Lengths are in twips.
 class Extender : public Object {
  public:
     std::optional<std::int32_t> FindMember(TextView name) const override;
     Value Invoke(std::int32_t identifier, InvokeKind kind, std::span<Value> arguments) override;
 
  protected:
-    /// The member with this identifier; null when there is none.
+    /// Returns the member with this identifier; null when there is none.
     const Member* Known(std::int32_t identifier) const;
 
  private:
     friend struct ExtenderMembers;
 
     virtual Text Name() const = 0;
-    /// Whether the container has a Tag. Without one, Tag raises 438 as any unknown member.
+    /// Returns whether the container provides Tag. If not, Tag raises 438 like any unknown member.
     virtual bool HasTag() const { return true; }
     virtual Text Tag() const = 0;
     virtual void SetTag(TextView tag) = 0;

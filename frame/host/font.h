@@ -9,16 +9,17 @@
 namespace lumenkit::host {
 
 /// The platform's standard font object. Fonts are shared: a surface, a text box and a client may
-/// hold the same one, and a change through any of them is seen, and drawn with, by all.
+/// hold the same font, and a change by one of them affects all.
 ///
-/// Also a late-bound object with the members Name (0), Size (2), Bold (3), Italic (4),
-/// Underline (5), Strikethrough (6), Weight (7) and Charset (8). Two fonts are the same
-/// (Object::IsSame) when all their attributes are.
+/// Also a late-bound object with the members Name (0), Size (2), Bold (3), Italic (4), Underline
+/// (5), Strikethrough (6), Weight (7) and Charset (8). Two fonts are the same (Object::IsSame) when
+/// all their attributes are equal.
 class Font : public Object {
  public:
     virtual Text Name() const = 0;
     virtual void SetName(TextView name) = 0;
-    /// Points, to four decimal places. Setting raises 380 for what is not above 0 or is too large.
+    /// In points, to four decimal places. Setting raises 380 when the size is not above 0 or is too
+    /// large.
     virtual float Size() const = 0;
     virtual void SetSize(float points) = 0;
     virtual bool Bold() const = 0;
@@ -29,7 +30,8 @@ class Font : public Object {
     virtual void SetUnderline(bool underline) = 0;
     virtual bool Strikethrough() const = 0;
     virtual void SetStrikethrough(bool strikethrough) = 0;
-    /// 400 is regular, 700 bold; setting it sets Bold (above 550) and the other way round.
+    /// 400 is regular, 700 is bold. Setting the weight also sets Bold (above 550), and setting Bold
+    /// also sets the weight.
     virtual std::int16_t Weight() const = 0;
     virtual void SetWeight(std::int16_t weight) = 0;
     /// The platform's character set number, 0 for ANSI.
@@ -43,7 +45,8 @@ class Font : public Object {
 
 using FontRef = std::shared_ptr<Font>;
 
-/// The font that `value` refers to, which may be nothing. Raises 13 for what is no font.
+/// Returns the font that `value` refers to, which may be null. Raises 13 when `value` is not a
+/// font.
 FontRef ToFont(const Value& value);
 
 }  // namespace lumenkit::host

@@ -13,15 +13,15 @@ enum class MessageStyle : std::int32_t {
     Critical = 16,
 };
 
-/// Talking to the person at the screen.
+/// Interaction with the user.
 class Interaction {
  public:
     virtual ~Interaction() = default;
 
     virtual void Beep() = 0;
 
-    /// Shows a message with an OK button and returns when it has been dismissed; the host's windows
-    /// are blocked meanwhile. Without a title the application's own name stands there.
+    /// Shows a message with an OK button and returns when the user dismisses it. The host's windows
+    /// are blocked meanwhile. Without a title, the message box shows the application's name.
     virtual void MsgBox(TextView message, MessageStyle style, std::optional<TextView> title) = 0;
 };
 

@@ -5,13 +5,13 @@
 
 namespace lumenkit::host {
 
-/// Where the container keeps a control's design-time settings.
+/// The container's storage for a control's design-time settings.
 class PropertyBag {
  public:
     virtual ~PropertyBag() = default;
 
-    /// The value stored under `name` (without regard to case), or `defaultValue` where there is
-    /// none.
+    /// Returns the value stored under `name` (compared without regard to case), or `defaultValue`
+    /// when there is none.
     virtual Value ReadProperty(TextView name, const Value& defaultValue) = 0;
     /// Stores `value` under `name`, unless it is the same as `defaultValue` (SameValue).
     virtual void WriteProperty(TextView name, const Value& value, const Value& defaultValue) = 0;

@@ -4,7 +4,7 @@
 
 namespace lumenkit::host {
 
-/// The screen, for turning twips into pixels.
+/// The screen, for converting twips to pixels.
 class Screen {
  public:
     virtual ~Screen() = default;

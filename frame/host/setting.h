@@ -1,4 +1,4 @@
-// A persisted property: the name that it bears in a property bag and the value that is not stored.
+// A persisted property: its name in a property bag and its default value, which is not stored.
 #pragma once
 
 #include <utility>
@@ -9,13 +9,13 @@
 
 namespace lumenkit {
 
-/// `Default` is what a constant of type T can be made of: the type itself but for texts.
+/// `Default` is the type of the constant that holds the default value: T itself, except for texts.
 template <typename T, typename Default = T>
 struct Setting {
     TextView name;
     Default defaultValue;
 
-    /// Raises 6 or 13 where what is stored does not convert.
+    /// Raises 6 or 13 when the stored value does not convert.
     T Read(host::PropertyBag& bag) const {
         return Automation<T>::From(bag.ReadProperty(name, DefaultValue()));
     }

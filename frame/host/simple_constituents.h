@@ -1,4 +1,4 @@
-// Constituents with little behaviour of their own.
+// Constituents with little behaviour.
 #pragma once
 
 #include <cstdint>
@@ -14,7 +14,7 @@ struct CaptionDesign : Design {
     TextView caption = {};
 };
 
-/// A frame with a caption, in which other constituents lie.
+/// A frame with a caption that contains other constituents.
 class Frame : public TextConstituent {
  public:
     virtual Text Caption() const = 0;
@@ -24,11 +24,11 @@ class Frame : public TextConstituent {
     virtual void SetBorderStyle(std::int16_t style) = 0;
 };
 
-/// Shows text; a caption that is wider than the label goes on in further lines.
+/// Shows text; a caption that is wider than the label continues on further lines.
 class Label : public TextConstituent {
  public:
     virtual Text Caption() const = 0;
-    /// Where AutoSize is on, the label takes the caption's size before the call returns.
+    /// If AutoSize is on, the label takes the caption's size before the call returns.
     virtual void SetCaption(TextView caption) = 0;
     virtual bool AutoSize() const = 0;
     virtual void SetAutoSize(bool autoSize) = 0;
@@ -51,7 +51,7 @@ class CheckBox : public TextConstituent {
     virtual Text Caption() const = 0;
     virtual void SetCaption(TextView caption) = 0;
     virtual std::int16_t CheckState() const = 0;
-    /// A changed value notifies the click before the call returns. Raises 380 for other values.
+    /// A change of the value notifies Click before the call returns. Raises 380 for other values.
     virtual void SetCheckState(std::int16_t state) = 0;
 };
 
@@ -61,7 +61,7 @@ class CommandButton : public TextConstituent {
     virtual void SetCaption(TextView caption) = 0;
 };
 
-/// A bordered box that shows a part of what lies in it.
+/// A bordered box that clips the constituents in it.
 class PictureBox : public Constituent {
  public:
     /// Size of the area inside the border, in twips.
@@ -82,22 +82,24 @@ enum class Orientation { Horizontal, Vertical };
 class ScrollBar : public Constituent {
  public:
     virtual std::int16_t ScrollValue() const = 0;
-    /// A changed value notifies Change before the call returns. Raises 380 outside 0 to Max.
+    /// A change of the value notifies Change before the call returns. Raises 380 outside 0 to Max.
     virtual void SetScrollValue(std::int16_t value) = 0;
     virtual std::int16_t Max() const = 0;
-    /// A ScrollValue above it becomes it (and notifies). Raises 380 when negative.
+    /// Lowers a greater ScrollValue to `max` (and notifies Change). Raises 380 when `max` is
+    /// negative.
     virtual void SetMax(std::int16_t max) = 0;
-    /// Steps of a click beside the thumb and on an arrow. Setting raises 380 below 1.
+    /// Steps of a click beside the thumb and on an arrow. Setting raises 380 for a step below 1.
     virtual std::int16_t LargeChange() const = 0;
     virtual void SetLargeChange(std::int16_t step) = 0;
     virtual std::int16_t SmallChange() const = 0;
     virtual void SetSmallChange(std::int16_t step) = 0;
 };
 
-/// Another control of the project that lies on this one, used through its interface alone.
+/// Another control of the project inside this one, used only through its interface.
 class EmbeddedControl : public Constituent {
  public:
-    /// The control's late-bound face, never nothing; valid as long as the constituent.
+    /// Returns the late-bound interface of the control, never null; valid as long as the
+    /// constituent.
     virtual Object& Automation() = 0;
 };
 

@@ -5,7 +5,7 @@
 
 namespace lumenkit::memory {
 
-/// The form's surroundings as one control sees them.
+/// The ambient properties of a form for one control.
 class Ambient final : public host::Ambient {
  public:
     Ambient(Form& form, bool userMode) : form_(form), userMode_(userMode) {}

@@ -9,7 +9,7 @@ class Application final : public host::Application {
  public:
     explicit Application(FaultPlan& faults) : faults_(faults) {}
 
-    /// The name of the class table's library.
+    /// Returns the name of the class table's library.
     Text ExeName() override {
         faults_.ReportingCall(u"Application", u"ExeName");
         return exeName_;

@@ -1,4 +1,4 @@
-// The parts of the constituents' interfaces that all kinds fulfil alike.
+// The parts of the constituents' interfaces that all kinds implement in the same way.
 #pragma once
 
 #include <memory>
@@ -73,7 +73,7 @@ class BasicTextConstituent : public BasicConstituent<Interface> {
         : BasicConstituent<Interface>(owner, kind, design),
           font_(owner.GetForm().NewFont(design.fontName, design.fontSize)) {}
 
-    /// The constituent has another font object.
+    /// Called when the constituent has another font object.
     virtual void FontChanged() {}
     const Font::Attributes& FontNow() const { return font_->Now(); }
 

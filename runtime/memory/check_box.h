@@ -7,7 +7,8 @@
 
 namespace lumenkit::memory {
 
-/// Not checked at first. The person's click checks a box that is not checked and clears any other.
+/// Initially not checked. A click by the user checks a box that is not checked and clears any
+/// other.
 class CheckBox final : public BasicCaptioned<host::CheckBox> {
  public:
     CheckBox(Constituents& owner, const host::CaptionDesign& design, host::ClickEvents& events);

@@ -14,11 +14,11 @@ class Form;
 class Surface;
 class TextBox;
 
-/// Makes the constituents of one control or page and finds them again.
+/// Creates and finds the constituents of one control or page.
 class Constituents final : public host::Constituents {
  public:
-    /// `surface` is the control's, null for a page's. `userMode` is what embedded controls are
-    /// told. All must outlive the constituents, and this object too.
+    /// `surface` is that of the control, null for a page. `userMode` is passed to embedded
+    /// controls. All arguments must outlive the constituents, and so must this object.
     Constituents(Form& form, const Surface* surface, bool userMode)
         : form_(form), surface_(surface), userMode_(userMode) {}
 
@@ -41,15 +41,15 @@ class Constituents final : public host::Constituents {
                                                       TextView programmaticIdentifier) override;
 
     Form& GetForm() const { return form_; }
-    /// Whether the control they lie on takes input.
+    /// Returns whether the control that contains the constituents accepts input.
     bool AcceptInput() const;
 
-    /// Those that exist, in the order in which they were made.
+    /// Returns the existing constituents, in the order of creation.
     const std::list<Element*>& All() const { return elements_; }
-    /// The constituent with this full name ("Text1(0)", "labChar"), without regard to case; null
-    /// when there is none.
+    /// Returns the constituent with this full name ("Text1(0)", "labChar"), compared without regard
+    /// to case; null when there is none.
     Element* Find(TextView fullName) const;
-    /// The constituent of kind T with this name, and index in a control array. Throws
+    /// Returns the constituent of kind T with this name and, in a control array, this index. Throws
     /// std::out_of_range when there is none.
     template <typename T>
     T& Get(TextView name, std::int16_t index = -1) const {
@@ -59,10 +59,10 @@ class Constituents final : public host::Constituents {
         }
         return *element;
     }
-    /// The first text box that is visible; null when there is none.
+    /// Returns the first visible text box; null when there is none.
     TextBox* VisibleTextBox() const;
 
-    // For the elements, as they come and go.
+    // Called by the elements when they are created and destroyed.
     std::list<Element*>::iterator Register(Element& element);
     void Unregister(std::list<Element*>::iterator position);
 

@@ -43,11 +43,11 @@ void ControlSite::RaiseEvent(std::int32_t event, std::span<Value> arguments) {
 
 void ControlSite::RunHandler(TextView name, std::span<Value> arguments) {
     const std::vector<Value> originals(arguments.begin(), arguments.end());
-    const EventHandler handler = handler_;  // it may put another in its place
+    const EventHandler handler = handler_;  // a copy: the handler may be replaced while it runs
     try {
         handler(name, arguments);
     } catch (const RuntimeError&) {
-        // The container's own affair.
+        // Errors of the handler are not passed to the control.
     }
     RestoreTypes(arguments, originals);
 }

@@ -12,26 +12,27 @@
 
 namespace lumenkit::memory {
 
-/// Sees an event by its name and may write to the arguments, and call the control again. Errors of
-/// the runtime that it raises are swallowed.
+/// Receives an event by name. It may assign the arguments and call the control. A RuntimeError that
+/// it throws is swallowed.
 using EventHandler = std::function<void(TextView name, std::span<Value> arguments)>;
 
-/// The container as one control reaches it.
+/// The container's interface for one control.
 class ControlSite final : public host::Container {
  public:
-    /// `log` null: nothing is logged. `events` null: the class has none. All must outlive the site.
+    /// If `log` is null, nothing is logged. `events` is null for a class without events. All
+    /// arguments must outlive the site.
     ControlSite(FaultPlan& faults, Log* log, const EventTable* events, TextView controlName)
         : faults_(faults), log_(log), events_(events), controlName_(controlName) {}
 
     void PropertyChanged(TextView name) override;
-    /// True for a name that nothing was said about.
+    /// Returns true unless AllowChange set another answer for `name`.
     bool CanPropertyChange(TextView name) override;
-    /// Logs the event and runs the handler. An argument that comes back as another type is
-    /// converted; one that cannot be keeps its old value. Throws std::logic_error for an event that
-    /// the class does not have and for a wrong number of arguments.
+    /// Logs the event and runs the handler. An argument that the handler changed to another type is
+    /// converted back; one that does not convert gets its original value. Throws std::logic_error
+    /// for an event that the class does not have and for a wrong number of arguments.
     void RaiseEvent(std::int32_t event, std::span<Value> arguments) override;
 
-    /// The answer for `name` (without regard to case) from now on.
+    /// Sets the answer of CanPropertyChange for `name`, compared without regard to case.
     void AllowChange(TextView name, bool allowed);
     void SetEventHandler(EventHandler handler) { handler_ = std::move(handler); }
 

@@ -5,7 +5,7 @@
 
 namespace lumenkit::memory {
 
-/// Any property bag, its calls counted and made to fail as planned.
+/// Wraps a property bag: counts its calls and makes them fail as planned.
 class CountedBag final : public host::PropertyBag {
  public:
     CountedBag(FaultPlan& faults, host::PropertyBag& bag) : faults_(faults), bag_(bag) {}

@@ -1,4 +1,4 @@
-// What is drawn on a surface.
+// The recorded drawing of a surface.
 #pragma once
 
 #include <cstddef>
@@ -30,7 +30,7 @@ struct PrintItem {
     friend bool operator==(const PrintItem&, const PrintItem&) = default;
 };
 
-/// A filled box between two corners, in the colour that it really has.
+/// A filled box between two corners, in its resolved colour.
 struct BoxItem {
     float x1 = 0;
     float y1 = 0;
@@ -43,12 +43,12 @@ struct BoxItem {
 
 using DisplayItem = std::variant<ClsItem, PrintItem, BoxItem>;
 
-/// An empty list is a surface in its BackColor. Texts lie in one buffer; restarting the list keeps
-/// all room, so that drawing the same again allocates nothing.
+/// An empty list represents a surface filled with BackColor. All texts share one buffer. Restarting
+/// the list keeps its memory, so that drawing the same again allocates nothing.
 class DisplayList {
  public:
     std::size_t Size() const { return records_.size(); }
-    /// The item at `index`, from 0. Throws std::out_of_range.
+    /// Returns the item at `index`, from 0. Throws std::out_of_range.
     DisplayItem At(std::size_t index) const;
     std::vector<DisplayItem> Items() const;
 
@@ -63,7 +63,7 @@ class DisplayList {
         std::size_t start = 0;
         std::size_t length = 0;
     };
-    /// A PrintItem whose texts are still places in the buffer.
+    /// A PrintItem whose texts are stored as spans of the buffer.
     struct PrintRecord {
         PrintItem item;
         Span text;

@@ -15,13 +15,13 @@ namespace lumenkit::memory {
 
 class Constituents;
 
-/// Names and values, in a fixed order. The names are literals.
+/// Names and values in a fixed order. The names are literals.
 using PropertyList = std::vector<std::pair<TextView, Value>>;
 
 enum class MouseAction { Down, Move, Up };
 
-/// What the runtime keeps of a constituent, whatever its kind, and the ways in which the person at
-/// the screen reaches it. Nothing here is a call of the contract.
+/// The data that the runtime keeps for every kind of constituent, and the functions that deliver
+/// user input to it. None of the functions counts as a call of the host contract.
 class Element {
  public:
     virtual ~Element();
@@ -31,20 +31,21 @@ class Element {
     TextView Kind() const { return kind_; }  ///< "TextBox"
     const Text& Name() const { return name_; }
     std::int16_t Index() const { return index_; }  ///< in a control array, else -1
-    /// "labChar", "Text1(0)".
+    /// For example "labChar" or "Text1(0)".
     const Text& FullName() const { return fullName_; }
     const host::Placement& Where() const { return placement_; }
     bool IsVisible() const { return visible_; }
     bool IsEnabled() const { return enabled_; }
-    /// Calls of Refresh so far.
+    /// Number of calls of Refresh so far.
     std::int32_t RefreshCount() const { return refreshes_; }
 
-    /// Whether the person can use it: it, what it lies in and its control are visible and enabled.
+    /// Returns whether the user can operate it: it, its parents and its control are visible and
+    /// enabled.
     bool AcceptsInput() const;
-    /// What can be read of it. Fonts are the shared objects.
+    /// Returns its readable properties. Fonts are the shared objects.
     virtual PropertyList Properties() const;
 
-    // The person acts; kinds that take no notice do nothing.
+    // Deliver user input; a kind that does not respond to it does nothing.
     virtual bool TakesFocus() const { return false; }
     virtual void ReceiveFocus() {}
     virtual void LoseFocus() {}

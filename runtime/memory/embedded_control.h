@@ -8,14 +8,14 @@
 
 namespace lumenkit::memory {
 
-/// A control that lies on another one or on a page. What it tells its container is not logged: the
-/// control around it is its container, and that one does not listen.
+/// A control inside another control or a page. Its notifications are not logged: its container is
+/// the outer control, which ignores them.
 class EmbeddedControl final : public BasicConstituent<host::EmbeddedControl> {
  public:
     EmbeddedControl(Constituents& owner, const host::Design& design, const ClassDescriptor& type,
                     bool userMode);
 
-    /// The control itself is resized with it.
+    /// Resizes the control too.
     void Move(const host::Placement& placement) override;
     void SetVisible(bool visible) override;
     void Refresh() override;

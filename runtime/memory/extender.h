@@ -9,14 +9,14 @@ namespace lumenkit::memory {
 
 class PlacedControl;
 
-/// A placed control's extender, whose uses count for the form's planned faults.
+/// The extender of a placed control. Its calls count for the planned faults of the form.
 class Extender final : public host::Extender {
  public:
     explicit Extender(PlacedControl& control) : control_(control) {}
 
     Value Invoke(std::int32_t identifier, InvokeKind kind, std::span<Value> arguments) override;
 
-    /// Whether the container has a Tag.
+    /// Sets whether the container provides Tag.
     void SupportTag(bool supported) { supportsTag_ = supported; }
 
  private:

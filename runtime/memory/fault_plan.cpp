@@ -20,7 +20,7 @@ void FaultPlan::FailCall(std::int64_t ordinal, ErrorNumber number) {
 }
 
 void FaultPlan::FailCall(TextView name, std::int64_t occurrence, ErrorNumber number) {
-    Plan(0, occurrence, name, number);  // every call is looked at
+    Plan(0, occurrence, name, number);  // every call is checked
 }
 
 void FaultPlan::Plan(std::int64_t look, std::int64_t remaining, TextView name, ErrorNumber number) {

@@ -4,14 +4,14 @@ namespace lumenkit::memory {
 
 class Element;
 
-/// Which constituent the keyboard belongs to.
+/// Keeps track of the constituent that has the focus.
 class Focus {
  public:
     Element* Holder() const { return holder_; }
-    /// The holder hears that it loses the focus, then `element` that it gets it; null takes it
-    /// away. Nothing happens where nothing changes.
+    /// Moves the focus to `element`, or to nothing if it is null: notifies the holder that it loses
+    /// the focus, then `element` that it gets it. Does nothing if `element` has the focus already.
     void MoveTo(Element* element);
-    /// `element` goes away.
+    /// Removes the focus from `element`, which is being destroyed, without notifying it.
     void Forget(const Element& element);
 
  private:

@@ -10,14 +10,15 @@
 
 namespace lumenkit::memory {
 
-/// A font of fixed metrics. Sizes are kept to four decimal places; one that is not above 0 then, or
-/// above 2160 points, raises 380. Shares the fault plan, so it may outlive the form.
+/// A font with fixed metrics. Sizes are rounded to four decimal places; a rounded size that is not
+/// above 0 or is above 2160 points raises 380. A font shares the fault plan, so it may outlive the
+/// form.
 class Font final : public host::Font {
  public:
     static constexpr std::int16_t regularWeight = 400;
     static constexpr std::int16_t boldWeight = 700;
 
-    /// Regular weight. Raises 380 as SetSize does.
+    /// Creates a font of regular weight. Raises 380 as SetSize does.
     Font(std::shared_ptr<FaultPlan> faults, TextView name, float points);
 
     Text Name() const override;
@@ -37,10 +38,10 @@ class Font final : public host::Font {
     std::int16_t Charset() const override;
     void SetCharset(std::int16_t charset) override;
 
-    /// A font of its own with the same attributes.
+    /// Returns a separate font with the same attributes.
     std::shared_ptr<Font> Clone() const { return std::make_shared<Font>(*this); }
 
-    /// The attributes as a surface uses them: no calls of the contract, no copies.
+    /// The attributes, which a surface reads without calls of the contract and without copies.
     struct Attributes {
         Text name;
         float size = 0;
@@ -51,7 +52,7 @@ class Font final : public host::Font {
         bool strikethrough = false;
 
         bool IsBold() const { return weight > 550; }
-        /// Twips.
+        /// In twips.
         double UnitWidth() const {
             return (IsBold() ? boldUnitWidthPerPoint : unitWidthPerPoint) * size;
         }
@@ -62,7 +63,8 @@ class Font final : public host::Font {
     };
     const Attributes& Now() const { return now_; }
 
-    /// The font as one of this runtime. Raises 91 for nothing and 13 for a font of another runtime.
+    /// Returns `font` as a font of this runtime. Raises 91 for null and 13 for a font of another
+    /// runtime.
     static std::shared_ptr<Font> From(host::FontRef font);
 
  private:

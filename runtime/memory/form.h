@@ -17,11 +17,11 @@
 
 namespace lumenkit::memory {
 
-/// What the controls of one container share: the screen, the surroundings, the classes, the log and
-/// the planned faults. Must outlive the controls and pages on it.
+/// The shared objects of the controls in one container: the screen, the ambient properties, the
+/// classes, the log and the planned faults. It must outlive its controls and pages.
 class Form {
  public:
-    /// What `classes` refers to must outlive the form.
+    /// The data that `classes` refers to must outlive the form.
     explicit Form(const ClassTable& classes);
     ~Form() = default;
     Form(const Form&) = delete;
@@ -35,20 +35,21 @@ class Form {
     Interaction& GetInteraction() { return interaction_; }
     Focus& GetFocus() { return focus_; }
 
-    // What controls see as Ambient. A change is not announced to them.
+    // The ambient properties. Changes are not announced to the controls.
     Color AmbientBackColor() const { return ambientBackColor_; }
     void SetAmbientBackColor(Color color) { ambientBackColor_ = color; }
-    /// "MS Sans Serif", 10 points, unless changed; controls get copies.
+    /// Initially "MS Sans Serif", 10 points; controls get copies.
     Font& AmbientFont() { return *ambientFont_; }
 
     const ClassTable& Classes() const { return classes_; }
-    /// The class named "VLabel" or "lumenkit.VLabel", without regard to case. Throws
-    /// std::out_of_range when there is none.
+    /// Returns the class named "VLabel" or "lumenkit.VLabel", compared without regard to case.
+    /// Throws std::out_of_range when there is none.
     const ClassDescriptor& FindClass(TextView name) const;
 
-    /// A new font, regular weight. Raises 380 for a size that Font refuses.
+    /// Creates a font of regular weight. Raises 380 for a size that Font does not accept.
     std::shared_ptr<Font> NewFont(TextView name, float points) const;
-    /// A name for a new control: the class's and a number counted from 1, "VLabel1".
+    /// Returns a name for a new control: the name of the class and a number counted from 1,
+    /// "VLabel1".
     Text NewName(TextView className);
     std::int32_t NewWindowHandle() { return nextWindowHandle_++; }
 

@@ -7,7 +7,7 @@
 
 namespace lumenkit::memory {
 
-/// Has a fixed single border at first.
+/// Initially has a fixed single border.
 class Frame final : public BasicCaptioned<host::Frame> {
  public:
     Frame(Constituents& owner, const host::CaptionDesign& design);

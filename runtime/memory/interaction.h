@@ -8,7 +8,7 @@
 
 namespace lumenkit::memory {
 
-/// Nobody sits at the screen: beeps and messages go to the log, and messages are dismissed at once.
+/// Works without a user: beeps and messages are logged, and messages are dismissed at once.
 class Interaction final : public host::Interaction {
  public:
     Interaction(FaultPlan& faults, Log& log) : faults_(faults), log_(log) {}

@@ -4,16 +4,16 @@
 
 namespace lumenkit::memory {
 
-/// The key that enters a unit: its virtual key code and the keys held with it (2 is Ctrl;
-/// capitals are typed without Shift, as under Caps Lock).
+/// The key that enters a unit: its virtual key code and the modifier keys held down (2 is Ctrl;
+/// capitals are typed without Shift, as with Caps Lock on).
 struct KeyStroke {
     std::int16_t keyCode = 0;
     std::int16_t shift = 0;
 };
 
-/// Letters and digits have their upper-case ASCII code, Enter 13, Backspace 8, Tab 9, blank 32;
-/// other control characters from 1 to 26 are the letter with Ctrl; anything else is the packet key
-/// (231).
+/// Returns the key for `unit`. Letters and digits have their upper-case ASCII code, Enter 13,
+/// Backspace 8, Tab 9, blank 32. Other control characters from 1 to 26 are a letter with Ctrl.
+/// Everything else is the packet key (231).
 KeyStroke KeyFor(char16_t unit);
 
 inline constexpr char16_t backspace = 8;

@@ -5,8 +5,8 @@
 
 namespace lumenkit::memory {
 
-/// Where AutoSize is on, a new caption or font object gives the label the caption's width and one
-/// line's height; a later Move stands until then.
+/// If AutoSize is on, a new caption or font object resizes the label to the width of the caption
+/// and the height of one line. A later Move is kept until the next such change.
 class Label final : public BasicCaptioned<host::Label> {
  public:
     Label(Constituents& owner, const host::CaptionDesign& design);

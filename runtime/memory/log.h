@@ -1,4 +1,4 @@
-// What the container saw, in the order in which it happened.
+// Records the notifications that the container received, in order.
 #pragma once
 
 #include <cstddef>
@@ -13,14 +13,15 @@
 
 namespace lumenkit::memory {
 
-/// A control raised an event; the arguments as it raised them, before any handler wrote to them.
+/// A control raised an event. The arguments are those that it passed, before a handler assigned
+/// them.
 struct RaisedEvent {
     Text control;  ///< the control's name
     Text name;     ///< from the class's event table
     std::vector<Value> arguments;
 };
 
-/// A control said that a property has a new value.
+/// A control notified the container of a changed property.
 struct ChangedProperty {
     Text control;
     Text name;
@@ -50,10 +51,10 @@ class Log {
     void Add(Entry entry) {
         entries_.emplace_back(std::in_place_type<Entry>, std::move(entry));
     }
-    /// Keeps its room.
+    /// Empties the log but keeps its memory.
     void Clear() { entries_.clear(); }
 
-    // The entries of one kind, in order; the pointers are valid until the log changes.
+    // The entries of one kind, in order. The pointers are valid until the log changes.
     std::vector<const RaisedEvent*> Events() const { return Only<RaisedEvent>(); }
     std::vector<const ChangedProperty*> Changes() const { return Only<ChangedProperty>(); }
     std::vector<const ShownMessage*> Messages() const { return Only<ShownMessage>(); }

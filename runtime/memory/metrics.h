@@ -1,4 +1,4 @@
-// The fixed measures of this runtime. They are simple so that anyone can compute expectations.
+// The fixed metrics of this runtime, simple enough to compute expected values by hand.
 #pragma once
 
 #include <cstdint>

@@ -11,7 +11,7 @@ class OptionButtons;
 
 class OptionButton final : public BasicCaptioned<host::OptionButton> {
  public:
-    /// `design.index` is the element's index.
+    /// `design.index` is the index of the element.
     OptionButton(Constituents& owner, const host::OptionButtonDesign& design, OptionButtons& group);
 
     Text Tag() const override;
@@ -26,7 +26,7 @@ class OptionButton final : public BasicCaptioned<host::OptionButton> {
     PropertyList Properties() const override;
     bool TakesFocus() const override { return true; }
     void ReceiveClick() override;
-    // The mark alone: no notification, no call of the contract.
+    // Read and set the mark without notifications and without calls of the contract.
     bool IsMarked() const { return selected_; }
     void Mark(bool selected) { selected_ = selected; }
 

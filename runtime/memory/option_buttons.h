@@ -17,7 +17,7 @@ class OptionButtons final : public host::OptionButtons {
     OptionButton& Item(std::int16_t index) override;
     void Load(std::int16_t index) override;
 
-    /// Selects `button` in place of every other one and notifies the click, if it is not selected.
+    /// If `button` is not selected, selects it, deselects all others and notifies Click.
     void Choose(OptionButton& button);
 
  private:
@@ -25,7 +25,7 @@ class OptionButtons final : public host::OptionButtons {
     host::OptionButtonEvents& events_;
     Text name_;
     Text fontName_;
-    host::OptionButtonDesign design_;  // of the elements to load; its texts are the fields above
+    host::OptionButtonDesign design_;  // of elements to load; its texts refer to the fields above
     std::map<std::int16_t, std::unique_ptr<OptionButton>> buttons_;
 };
 

@@ -5,7 +5,7 @@
 
 namespace lumenkit::memory {
 
-/// The flag is the page's alone: showing, selecting and applying do not touch it.
+/// Only the page sets the flag: showing, selecting and applying do not change it.
 class PageSite final : public host::PropertyPageSite {
  public:
     explicit PageSite(FaultPlan& faults) : faults_(faults) {}
@@ -19,7 +19,7 @@ class PageSite final : public host::PropertyPageSite {
         changed_ = changed;
     }
 
-    // For tests: no calls of the contract.
+    // For tests: these do not count as calls of the contract.
     bool IsChanged() const { return changed_; }
     void Reset() { changed_ = false; }
 

@@ -5,7 +5,7 @@
 
 namespace lumenkit::memory {
 
-/// Its border is two pixels wide on each side.
+/// A picture box with a border of two pixels on each side.
 class PictureBox final : public BasicConstituent<host::PictureBox> {
  public:
     PictureBox(Constituents& owner, const host::Design& design);

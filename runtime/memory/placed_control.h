@@ -14,7 +14,7 @@
 
 namespace lumenkit::memory {
 
-/// How a control is placed. Lengths are in twips.
+/// The settings of a control when it is placed. Lengths are in twips.
 struct Placing {
     TextView name = {};  ///< empty: Form::NewName
     bool userMode = true;
@@ -23,48 +23,51 @@ struct Placing {
     float width = 3000;
     float height = 1500;
     TextView tag = {};
-    bool visible = true;   ///< whether it is shown once it is started
-    bool hasTag = true;    ///< whether the container has a Tag at all
-    bool isLogged = true;  ///< whether what it tells its container goes to the form's log
+    bool visible = true;   ///< whether it is shown after its start
+    bool hasTag = true;    ///< whether the container provides Tag
+    bool isLogged = true;  ///< whether its notifications go to the form's log
 };
 
-/// One control on a form, and the container's side of its life. Nothing is repainted by itself:
-/// call Paint to see what the control draws.
+/// A control on a form, together with the container that drives it. The control is never repainted
+/// automatically: call Paint to get its drawing.
 class PlacedControl {
  public:
     /// Creates the control and runs UserControl_Initialize. Throws std::logic_error for a class
-    /// that is no control. The form must outlive it.
+    /// that is not a control. The form must outlive it.
     PlacedControl(Form& form, const ClassDescriptor& type, const Placing& placing = {});
     ~PlacedControl();
     PlacedControl(const PlacedControl&) = delete;
     PlacedControl& operator=(const PlacedControl&) = delete;
 
-    /// The rest of a new control's start: UserControl_InitProperties, _Resize and, unless placed
-    /// invisible, _Show.
+    /// Completes the start of a new control: runs UserControl_InitProperties, _Resize and, unless
+    /// it was placed invisible, _Show.
     void StartNew();
-    /// The same for a saved one, with UserControl_ReadProperties.
+    /// Does the same for a saved control, with UserControl_ReadProperties instead of
+    /// _InitProperties.
     void StartSaved(host::PropertyBag& bag);
 
-    // The same one by one.
+    // The single steps of a start.
     void InitProperties();
     void ReadProperties(host::PropertyBag& bag);
-    /// Makes the control visible; UserControl_Show runs if it was not.
+    /// Makes the control visible; runs UserControl_Show if it was not.
     void Show();
     void Hide();
-    /// UserControl_Resize runs if the size changes. Raises 380 for a negative width or height.
+    /// Runs UserControl_Resize if the size changes. Raises 380 for a negative width or height.
     void Resize(float width, float height);
     void Move(float left, float top);
 
-    /// UserControl_WriteProperties into a bag of its own / into `bag`.
+    /// Run UserControl_WriteProperties with a new bag / with `bag`.
     PropertyBag Save();
     void Save(host::PropertyBag& bag);
-    /// Erases the surface and asks for a repaint, as when a window uncovers the control; a control
-    /// that keeps what it draws (AutoRedraw) is not asked. Nothing happens while it is not shown.
+    /// Erases the surface and requests a repaint, as when a window uncovers the control. Does
+    /// nothing for a control that keeps its drawing (AutoRedraw) or is not shown. Returns the
+    /// drawing.
     const DisplayList& Paint();
 
     Control& GetControl() { return *control_; }
     Object& Automation() { return control_->Automation(); }
-    /// The same, to hand on. Not to be used once the placed control is gone.
+    /// Returns the same object as a reference that can be passed on. Do not use it after the placed
+    /// control is destroyed.
     ObjectRef SharedAutomation();
     const ClassDescriptor& Type() const { return type_; }
     Form& GetForm() { return form_; }
@@ -102,8 +105,8 @@ class PlacedControl {
     std::unique_ptr<Control> control_;
 };
 
-/// A control of the class `className` (see Form::FindClass), started from `bag`, or as a new one
-/// where that is null.
+/// Creates a control of the class `className` (see Form::FindClass) and starts it from `bag`, or as
+/// a new control if `bag` is null.
 std::unique_ptr<PlacedControl> PlaceControl(Form& form, TextView className,
                                             const Placing& placing = {},
                                             host::PropertyBag* bag = nullptr);

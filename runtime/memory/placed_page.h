@@ -14,21 +14,21 @@ namespace lumenkit::memory {
 
 class PlacedControl;
 
-/// One property page as a designer shows it. Errors of the page travel to the caller.
+/// A property page as a designer shows it. Errors of the page propagate to the caller.
 class PlacedPage {
  public:
     /// Creates the page and runs PropertyPage_Initialize. Throws std::logic_error for a class that
-    /// is no page. The form must outlive it.
+    /// is not a page. The form must outlive it.
     PlacedPage(Form& form, const ClassDescriptor& type);
     ~PlacedPage() = default;
     PlacedPage(const PlacedPage&) = delete;
     PlacedPage& operator=(const PlacedPage&) = delete;
 
-    /// The designer has other controls selected; they must outlive the page or the next selection.
-    /// PropertyPage_SelectionChanged runs.
+    /// Changes the selection of the designer and runs PropertyPage_SelectionChanged. The controls
+    /// must outlive the page or the next selection.
     void Select(const std::vector<PlacedControl*>& controls);
     void SelectObjects(std::vector<ObjectRef> controls);
-    /// PropertyPage_ApplyChanges runs. Leaves the site's Changed flag alone.
+    /// Runs PropertyPage_ApplyChanges. Does not change the Changed flag of the site.
     void Apply();
 
     PropertyPage& GetPage() { return *page_; }

@@ -9,7 +9,7 @@ namespace lumenkit::memory {
 
 namespace {
 
-// Fonts are kept by value: another font object with the same attributes.
+// Fonts are stored by value, as another font object with the same attributes.
 Value Copy(const Value& value) {
     if (const auto* object = std::get_if<ObjectRef>(&value)) {
         if (const auto font = std::dynamic_pointer_cast<Font>(*object)) {

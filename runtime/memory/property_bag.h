@@ -9,21 +9,21 @@
 
 namespace lumenkit::memory {
 
-/// Values by name, in the order in which they were first stored. Names are told apart without
-/// regard to case. A font is stored as it is now, and reading it gives a new font each time.
-/// However many values there are, finding one is quick; taking one away looks at all behind it.
+/// Values by name, in the order in which they were first stored. Names are compared without regard
+/// to case. Storing a font copies it, and each read returns a new font. Finding a value takes
+/// logarithmic time; removing one takes linear time.
 class PropertyBag final : public host::PropertyBag {
  public:
     using Entry = std::pair<Text, Value>;
 
     Value ReadProperty(TextView name, const Value& defaultValue) override;
-    /// A value that is the same as its default takes away what was stored.
+    /// A value that is the same as its default removes the stored value.
     void WriteProperty(TextView name, const Value& value, const Value& defaultValue) override;
 
     const std::vector<Entry>& Entries() const { return entries_; }
-    /// The value stored under `name`; null when there is none. Valid until the bag changes.
+    /// Returns the value stored under `name`; null when there is none. Valid until the bag changes.
     const Value* Find(TextView name) const;
-    /// Stores `value` whatever its default may be.
+    /// Stores `value` even if it is the same as its default.
     void Store(TextView name, const Value& value);
 
  private:
@@ -35,7 +35,7 @@ class PropertyBag final : public host::PropertyBag {
     void Remove(TextView name);
 
     std::vector<Entry> entries_;
-    std::map<Text, std::size_t, CaselessLess> positions_;  // in entries_
+    std::map<Text, std::size_t, CaselessLess> positions_;  // indices in entries_
 };
 
 }  // namespace lumenkit::memory

@@ -6,7 +6,7 @@
 
 namespace lumenkit::memory {
 
-/// 15 twips per pixel both ways.
+/// A screen with 15 twips per pixel in both directions.
 class Screen final : public host::Screen {
  public:
     explicit Screen(FaultPlan& faults) : faults_(faults) {}

@@ -7,7 +7,7 @@
 
 namespace lumenkit::memory {
 
-/// From 0 to 32767 by steps of 1 at first.
+/// Initially from 0 to 32767 with steps of 1.
 class ScrollBar final : public BasicConstituent<host::ScrollBar> {
  public:
     ScrollBar(Constituents& owner, const host::Design& design, host::Orientation orientation,
@@ -25,7 +25,7 @@ class ScrollBar final : public BasicConstituent<host::ScrollBar> {
     host::Orientation Direction() const { return orientation_; }
     PropertyList Properties() const override;
     bool TakesFocus() const override { return true; }
-    /// The person moves the thumb there, or as near as the bar goes.
+    /// Moves the thumb to `value`, or as near as the range allows, as the user does.
     void ReceiveScroll(std::int32_t value);
 
  private:

@@ -13,11 +13,11 @@
 
 namespace lumenkit::memory {
 
-/// A surface that records what is drawn. Its border takes no room: the drawing area is as large as
-/// the control. It keeps every item, so VisibleBottom is infinite unless a test says otherwise.
+/// A surface that records its drawing. Its border takes no space: the drawing area is as large as
+/// the control. It keeps every item, so VisibleBottom is infinite unless a test sets it.
 class Surface final : public host::Surface {
  public:
-    /// `width` and `height` in twips.
+    /// `width` and `height` are in twips.
     Surface(std::shared_ptr<FaultPlan> faults, float width, float height);
 
     float CurrentX() const override;
@@ -56,16 +56,16 @@ class Surface final : public host::Surface {
     std::int16_t Pointer() const override;
     void SetPointer(std::int16_t pointer) override;
 
-    // For the runtime and for tests: no calls of the contract.
+    // For the runtime and for tests: these do not count as calls of the contract.
     const DisplayList& Drawn() const { return drawn_; }
     void SetVisibleBottom(float y) { visibleBottom_ = y; }
-    /// The control that is told to paint and that its size changed; null: none yet.
+    /// Sets the control that is notified to paint and of a changed size; null for none.
     void SetControl(Control* control) { control_ = control; }
     float CurrentWidth() const { return width_; }
     float CurrentHeight() const { return height_; }
-    /// As Size.
+    /// Same as Size.
     void Resize(float width, float height);
-    /// Erases and, where the control draws on demand, has it paint.
+    /// If the control is shown and draws on demand, erases the surface and lets the control paint.
     void Paint();
     bool IsShown() const { return shown_; }
     void SetShown(bool shown) { shown_ = shown; }

@@ -14,7 +14,7 @@ namespace {
 constexpr char16_t firstPrintable = 32;
 constexpr char16_t deleteCharacter = 127;
 
-// Whether two neighbouring units are one character: a line break or a surrogate pair.
+// Returns whether two adjacent units are one character: a line break or a surrogate pair.
 bool IsPair(char16_t first, char16_t second) {
     const bool isSurrogatePair = (first & 0xFC00) == 0xD800 && (second & 0xFC00) == 0xDC00;
     return isSurrogatePair || (first == u'\r' && second == u'\n');
@@ -24,7 +24,7 @@ TextView FirstLine(TextView text) {
     return text.substr(0, text.find_first_of(crLf));
 }
 
-// The beginning of `text` that has at most `room` units and ends in no pair's middle.
+// Returns the longest beginning of `text` that has at most `room` units and does not split a pair.
 TextView Fitting(TextView text, std::size_t room) {
     if (room >= text.size()) {
         return text;
@@ -98,7 +98,7 @@ void TextBox::SetSelection(std::int32_t start, std::int32_t end) {
         selStart_ = selEnd_;
         return;
     }
-    // The message's numbers are unsigned: what is negative lies beyond the end.
+    // The numbers of the message are unsigned: a negative one is beyond the end.
     const auto placed = [&](std::int32_t position) {
         return position < 0 ? Length() : std::min(position, Length());
     };
@@ -250,7 +250,7 @@ void TextBox::ReceivePaste(TextView text) {
     }
 }
 
-// How many units may take the place of the selection.
+// Returns the number of units that may replace the selection.
 std::size_t TextBox::Room() const {
     if (maxLength_ == 0) {
         return std::numeric_limits<std::size_t>::max();

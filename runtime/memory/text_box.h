@@ -7,7 +7,7 @@
 
 namespace lumenkit::memory {
 
-/// A text box without a window. Keys reach a locked box too, but do not edit it.
+/// A text box without a window. A locked box receives keys too, but they do not edit it.
 class TextBox final : public BasicTextConstituent<host::TextBox> {
  public:
     TextBox(Constituents& owner, const host::TextBoxDesign& design, host::TextBoxEvents& events);
@@ -36,16 +36,16 @@ class TextBox final : public BasicTextConstituent<host::TextBox> {
     bool IsLocked() const { return locked_; }
     PropertyList Properties() const override;
 
-    // The person acts (see User, which asks first whether the box can be used).
+    // Deliver user input (see User, which checks first whether the box accepts it).
     bool TakesFocus() const override { return true; }
     void ReceiveFocus() override;
     void LoseFocus() override;
     void ReceiveClick() override;
     void ReceiveDblClick() override;
     void ReceiveMouse(MouseAction action, host::MouseArguments mouse) override;
-    /// One key, from down to up.
+    /// Delivers one key, from key-down to key-up.
     void ReceiveKey(char16_t unit);
-    /// Selects `length` units from `start` on, or what there is. Notifies nothing.
+    /// Selects `length` units from `start` on, or up to the end of the text. Notifies nothing.
     void ReceiveSelection(std::int32_t start, std::int32_t length);
     /// Replaces the selection in one change.
     void ReceivePaste(TextView text);

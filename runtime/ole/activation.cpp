@@ -31,7 +31,7 @@ void Activation::Activate() {
                                  document_.ReleaseAndGetAddressOf(), &place, &clip, &information));
     Check(site->OnInPlaceActivate());
     if (!control_.Site().Exists()) {
-        throw ComError(E_UNEXPECTED);  // it has let the control go meanwhile
+        throw ComError(E_UNEXPECTED);  // the container has released the control meanwhile
     }
     site_ = site;
     place_ = place;

@@ -6,42 +6,42 @@
 
 namespace lumenkit::ole {
 
-/// What of a control's object its activation works on.
+/// The part of a control's object that its activation uses.
 class Activated {
  public:
     virtual ~Activated() = default;
 
     virtual const ClientSite& Site() const = 0;
-    /// Started already.
+    /// Returns the control and starts it if needed.
     virtual win32::HostedControl& Started() = 0;
-    /// The control as its frame talks to it while it is active.
+    /// The interface of the active control for its frame.
     virtual IOleInPlaceActiveObject& ActiveObject() = 0;
     virtual Text Title() const = 0;
-    /// The control has this size in pixels now.
+    /// Called when the control has this size in pixels.
     virtual void SizeChanged(SIZE pixels) = 0;
 };
 
-/// A control's window in its container: not there, there, or there with the keyboard.
+/// The activation of a control in its container: inactive, in-place active, or UI-active.
 class Activation {
  public:
     explicit Activation(Activated& control) : control_(control) {}
 
     bool IsActive() const { return site_ != nullptr; }
     bool IsUIActive() const { return uiActive_; }
-    /// In the container's window, pixels; meaningful while active.
+    /// The position in the container's window, in pixels. Meaningful only while active.
     const RECT& Place() const { return place_; }
     const ComPtr<IOleInPlaceSite>& InPlaceSite() const { return site_; }
 
-    /// Puts the window into the container. Raises a ComError where the container refuses.
+    /// Puts the window into the container. Raises a ComError if the container refuses.
     void Activate();
-    /// The same, with the keyboard.
+    /// Activates the control and gives it the keyboard.
     void ActivateUI();
     void DeactivateUI();
     void Deactivate();
-    /// The same where nobody is to be told any more.
+    /// Deactivates without notifying the container.
     void Abandon();
     void SetPlace(const RECT& place, const RECT& clip);
-    /// The keyboard focus came into the control's windows, or left them all.
+    /// Called when the keyboard focus entered one of the control's windows or left all of them.
     void FocusChanged(bool inside);
 
  private:

@@ -6,7 +6,7 @@ namespace lumenkit::ole {
 
 namespace {
 
-// As IOleControlSite::TranslateAccelerator takes them.
+// The modifier flags of IOleControlSite::TranslateAccelerator.
 constexpr DWORD shiftHeld = 1;
 constexpr DWORD controlHeld = 2;
 constexpr DWORD altHeld = 4;

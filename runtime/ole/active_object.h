@@ -7,7 +7,7 @@ namespace lumenkit::ole {
 
 class ActiveObject final : public HeldFacet<IOleInPlaceActiveObject> {
  public:
-    /// `core` need not be made yet.
+    /// `core` need not be constructed yet.
     ActiveObject(IUnknown& controlling, win32::Life& life, ControlCore& core)
         : HeldFacet(controlling, life), core_(core) {}
 

@@ -8,10 +8,10 @@
 
 namespace lumenkit::ole {
 
-/// The text of a BSTR, zeros inside it included; null is the empty text.
+/// Returns the text of a BSTR, zeros inside it included. Null is the empty text.
 TextView TextOf(BSTR string);
 
-/// A BSTR of its own.
+/// Owns a BSTR.
 class BasicString {
  public:
     BasicString() = default;
@@ -24,7 +24,7 @@ class BasicString {
     BSTR Get() const { return string_; }
     BSTR* Out() { return &string_; }
     TextView AsText() const { return TextOf(string_); }
-    /// Hands it over.
+    /// Passes the ownership to the caller.
     BSTR Detach() { return std::exchange(string_, nullptr); }
 
  private:

@@ -29,7 +29,7 @@ ULONG ClassFactory::Release() {
 HRESULT ClassFactory::CreateInstance(IUnknown* outer, REFIID interfaceId, void** object) {
     return Guarded([&] {
         Checked(object) = nullptr;
-        // An aggregating object must take hold of the one IUnknown that does not delegate.
+        // An aggregating object must request the non-delegating IUnknown.
         if (outer != nullptr && interfaceId != IID_IUnknown) {
             return CLASS_E_NOAGGREGATION;
         }

@@ -13,7 +13,7 @@ void ClientSite::Assign(IOleClientSite* site) {
 }
 
 std::optional<Value> ClientSite::Ambient(DISPID property) const {
-    // It may be assigned while it is asked.
+    // The member may be reassigned during the call.
     const ComPtr<IDispatch> asked = ambients_;
     if (asked == nullptr) {
         return std::nullopt;

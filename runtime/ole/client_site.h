@@ -7,14 +7,14 @@
 
 namespace lumenkit::ole {
 
-/// What a container shows of itself to one control. All of it may be missing.
+/// The interfaces that a container offers to one control. Each of them may be missing.
 class ClientSite {
  public:
     void Assign(IOleClientSite* site);
     bool Exists() const { return site_ != nullptr; }
     const ComPtr<IOleClientSite>& Get() const { return site_; }
 
-    /// Null where the container does not have the interface.
+    /// Returns null if the container does not have the interface.
     template <typename Interface>
     ComPtr<Interface> As() const {
         ComPtr<Interface> found;
@@ -24,8 +24,8 @@ class ClientSite {
         return found;
     }
 
-    /// An ambient property; nothing where the container does not tell or what it tells is of no
-    /// use.
+    /// Returns an ambient property, or nothing if the container does not provide it or its value is
+    /// not usable.
     std::optional<Value> Ambient(DISPID property) const;
 
  private:

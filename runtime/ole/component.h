@@ -12,10 +12,10 @@
 
 namespace lumenkit::ole {
 
-/// What all objects of one class table share, for as long as the module is loaded.
+/// The state that all objects of one class table share, for as long as the module is loaded.
 class Component {
  public:
-    /// The table's one component, made at first use.
+    /// Returns the only component of the table, created at the first call.
     static Component& Of(const ClassTable& classes);
 
     explicit Component(const ClassTable& classes);
@@ -26,7 +26,7 @@ class Component {
     const ClassTable& Classes() const { return classes_; }
     const win32::Context& GetContext() const { return context_; }
 
-    /// How many objects that clients hold are alive.
+    /// Returns the number of living objects that clients hold.
     int LiveObjects() const { return objects_; }
     bool CanUnload() const { return objects_ == 0 && locks_ == 0; }
     void Lock(bool lock) { lock ? ++locks_ : --locks_; }

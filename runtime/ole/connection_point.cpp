@@ -77,7 +77,7 @@ HRESULT ConnectionPoint::Unadvise(DWORD cookie) {
     if (found == listeners_.end()) {
         return CONNECT_E_NOCONNECTION;
     }
-    // Releasing it may run code of anybody's.
+    // Releasing the sink may run any code.
     const ComPtr<IUnknown> last = std::move(found->sink);
     listeners_.erase(found);
     return S_OK;
@@ -95,7 +95,7 @@ HRESULT ConnectionPoint::EnumConnections(IEnumConnections** connections) {
 }
 
 void ConnectionPoint::Clear() {
-    // Releasing them may run code of anybody's.
+    // Releasing the sinks may run any code.
     const std::vector<Listener> last = std::exchange(listeners_, {});
 }
 

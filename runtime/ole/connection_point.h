@@ -6,11 +6,11 @@
 
 namespace lumenkit::ole {
 
-/// Who listens to one outgoing interface of an object. Part of the object, which it keeps alive; a
-/// COM object of its own all the same.
+/// The listeners of one outgoing interface of an object. The connection point is part of that
+/// object and keeps it alive, but it is a separate COM object.
 class ConnectionPoint final : public IConnectionPoint {
  public:
-    /// `alternative` is an interface by which listeners may be called that lack the first one.
+    /// `alternative` is an interface for calling the listeners that lack the first one.
     ConnectionPoint(IConnectionPointContainer& container, REFIID interfaceId,
                     REFIID alternative = IID_NULL);
     virtual ~ConnectionPoint() = default;
@@ -18,18 +18,18 @@ class ConnectionPoint final : public IConnectionPoint {
     ConnectionPoint& operator=(const ConnectionPoint&) = delete;
 
     const IID& InterfaceId() const { return interfaceId_; }
-    /// Lets go of all listeners.
+    /// Releases all listeners.
     void Clear();
     bool HasListeners() const { return !listeners_.empty(); }
 
-    /// Calls `call(listener)` for everyone who listened at the start and still does when it is its
-    /// turn. Listeners may come and go meanwhile.
+    /// Calls `call(listener)` for each listener that was connected at the start and is still
+    /// connected when its turn comes. Listeners may be added and removed meanwhile.
     template <typename Interface, typename Call>
     void Tell(Call&& call) const {
         const std::vector<Listener> told = listeners_;
         for (const Listener& listener : told) {
             if (IsConnected(listener.cookie)) {
-                // It was asked for just this interface.
+                // The sink was queried for this interface.
                 call(*static_cast<Interface*>(listener.sink.Get()));
             }
         }

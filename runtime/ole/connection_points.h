@@ -5,7 +5,7 @@
 
 namespace lumenkit::ole {
 
-/// A control's outgoing interfaces: its events and the news of its properties.
+/// The outgoing interfaces of a control: its events and its property notifications.
 class ConnectionPoints final : public Facet<IConnectionPointContainer> {
  public:
     ConnectionPoints(IUnknown& controlling, REFIID eventInterface)

@@ -9,7 +9,7 @@ namespace lumenkit::ole {
 
 namespace {
 
-// Of a control that no container has sized yet: 3000 by 1500 twips.
+// The size of a control that no container has sized yet: 3000 by 1500 twips.
 SIZE FirstSize() {
     const win32::Resolution resolution = win32::Resolution::OfScreen();
     return {win32::ToPixels(3000, resolution.x), win32::ToPixels(1500, resolution.y)};
@@ -19,7 +19,7 @@ GUID EventInterface(const ClassDescriptor& type) {
     return type.eventTable == nullptr ? IID_NULL : GuidOf(type.eventTable->uniqueIdentifier);
 }
 
-// The names under which a saved control's size stands beside its properties.
+// The names under which the size of a saved control is stored next to its properties.
 constexpr TextView widthName = u"_ExtentX";
 constexpr TextView heightName = u"_ExtentY";
 
@@ -40,7 +40,7 @@ ControlCore::ControlCore(Component& component, const ClassDescriptor& type, IUnk
 }
 
 ControlCore::~ControlCore() {
-    // Nobody is told any more: whoever could listen has let go.
+    // Nothing is notified any more: every possible listener has released the control.
     site_.Assign(nullptr);
     ++frozen_;
 }
@@ -79,7 +79,7 @@ void ControlCore::StartNew() {
 }
 
 void ControlCore::Restart() {
-    // The call that loads it holds it once.
+    // The call that loads the control holds it once.
     if (activation_.IsActive() || life_.Holds() > 1 || isStarting_) {
         throw ComError(E_UNEXPECTED);
     }
@@ -108,7 +108,7 @@ void ControlCore::Save(host::PropertyBag& bag) {
 }
 
 void ControlCore::SetExtent(const SIZEL& himetric) {
-    // What a window cannot be that large.
+    // The largest width and height of a window, in pixels.
     constexpr LONG largest = 32767;
     const SIZE pixels = ToPixels(himetric, extent_.GetResolution());
     if (himetric.cx < 0 || himetric.cy < 0 || pixels.cx > largest || pixels.cy > largest ||

@@ -15,19 +15,20 @@
 
 namespace lumenkit::ole {
 
-/// Interfaces of a control's object that the core itself hands to its container.
+/// Interfaces of a control's object that the core passes to the container.
 struct CoreFaces {
     IDataObject& data;
     IOleInPlaceActiveObject& active;
 };
 
-/// What the interfaces of one control share: the control itself and what its container has told.
+/// The state that the interfaces of one control share: the control itself and the data that its
+/// container has set.
 class ControlCore final : public win32::ControlSite,
                           public host::Container,
                           public Activated,
                           public Placed {
  public:
-    /// `faces` need not be ready yet.
+    /// `faces` need not be constructed yet.
     ControlCore(Component& component, const ClassDescriptor& type, IUnknown& controlling,
                 win32::Life& life, CoreFaces faces);
     ~ControlCore() override;
@@ -37,7 +38,7 @@ class ControlCore final : public win32::ControlSite,
     const ClassDescriptor& Type() const { return type_; }
     Component& GetComponent() const { return component_; }
     IUnknown& Controlling() const { return controlling_; }
-    /// Every call into the core keeps it.
+    /// Every call into the core holds it.
     win32::Life& GetLife() const { return life_; }
     ConnectionPoints& Points() { return points_; }
     Notices& GetNotices() { return notices_; }
@@ -45,30 +46,30 @@ class ControlCore final : public win32::ControlSite,
     const ClientSite& Site() const override { return site_; }
     void SetSite(IOleClientSite* site) { site_.Assign(site); }
 
-    // Its life.
+    // The life cycle.
     win32::HostedControl& Hosted() { return *hosted_; }
-    /// Starts a control as a new one that is used without having been loaded.
+    /// Returns the control. Starts it as a new one if it is used without having been loaded.
     win32::HostedControl& Started() override;
-    /// Raises a ComError for a control that was started on purpose already.
+    /// Starts a new control. Raises a ComError if the control was already started explicitly.
     void StartNew();
-    /// Also a control that is in use may be loaded anew, unless it is shown or just calling its
-    /// container. What the bag raises comes out, and leaves a control that is not started.
+    /// Loads the control. A control in use may be loaded again, unless it is shown or is calling
+    /// its container. Errors that the bag raises reach the caller; the control is not started then.
     void Load(host::PropertyBag& bag);
     void Save(host::PropertyBag& bag);
-    /// No client has the control any more.
+    /// Called when no client holds the control any more.
     void Abandon() noexcept;
     bool IsDirty() const { return dirty_; }
     void SetDirty(bool dirty) { dirty_ = dirty; }
 
-    // Its size.
+    // The size.
     const Extent& GetExtent() const { return extent_; }
-    /// Raises a ComError for a negative size.
+    /// Raises a ComError for a negative size and for a size larger than a window can be.
     void SetExtent(const SIZEL& himetric);
     void SizeChanged(SIZE pixels) override;
 
     void FreezeEvents(bool freeze);
 
-    // What the control asks of its site.
+    // Requests from the control to its site.
     host::Container& GetContainer() override { return *this; }
     host::Ambient& GetAmbient() override { return ambient_; }
     Object& GetExtender() override { return extender_; }
@@ -76,12 +77,12 @@ class ControlCore final : public win32::ControlSite,
     void PictureChanged() override;
     void FocusChanged(bool inside) override;
 
-    // What the control tells its container.
+    // Notifications from the control to its container.
     void PropertyChanged(TextView name) override;
     bool CanPropertyChange(TextView name) override;
     void RaiseEvent(std::int32_t event, std::span<Value> arguments) override;
 
-    // What the extender asks.
+    // Requests from the extender.
     Text Title() const override;
     IOleInPlaceActiveObject& ActiveObject() override { return faces_.active; }
     RECT Place() const override;

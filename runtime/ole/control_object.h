@@ -23,7 +23,7 @@
 
 namespace lumenkit::ole {
 
-/// A control as clients have it: all its interfaces around one core.
+/// A control as COM clients see it: all its interfaces around one core.
 class ControlObject final : public Root, private DualTarget {
  public:
     ControlObject(Component& component, const ClassDescriptor& type, IUnknown* outer);
@@ -36,7 +36,7 @@ class ControlObject final : public Root, private DualTarget {
     Object& Members() override { return core_.Started().Automation(); }
     ComPtr<ITypeInfo> Description() override;
 
-    // The core hands these two to the container, so they are there before it.
+    // The core passes these two to the container, so they are constructed before the core.
     DataObject data_;
     ActiveObject active_;
     ControlCore core_;

@@ -29,7 +29,7 @@ FORMATETC FormatOf(const Rendering& rendering) {
             .tymed = rendering.medium};
 }
 
-// Raises what the platform says where `format` cannot be had.
+// Throws the error that the platform defines for a `format` that is not available.
 const Rendering& RenderingFor(const FORMATETC& format) {
     if (format.dwAspect != DVASPECT_CONTENT) {
         throw ComError(DV_E_DVASPECT);

@@ -8,7 +8,7 @@ namespace lumenkit::ole {
 /// The control's picture as a metafile of either kind or as a bitmap.
 class DataObject final : public HeldFacet<IDataObject> {
  public:
-    /// `core` need not be made yet.
+    /// `core` need not be constructed yet.
     DataObject(IUnknown& controlling, win32::Life& life, ControlCore& core)
         : HeldFacet(controlling, life), core_(core) {}
 

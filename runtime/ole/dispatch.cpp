@@ -13,7 +13,7 @@ namespace lumenkit::ole {
 
 namespace {
 
-constexpr WORD assigning = DISPATCH_PROPERTYPUT | DISPATCH_PROPERTYPUTREF;
+constexpr WORD assignment = DISPATCH_PROPERTYPUT | DISPATCH_PROPERTYPUTREF;
 
 DISPID ParameterNumber(const Member& member, TextView name) {
     for (std::size_t index = 0; index < member.parameters.size(); ++index) {
@@ -32,9 +32,9 @@ void CheckShape(const DispatchCall& call) {
     }
 }
 
-// How the member is to be used; DISP_E_MEMBERNOTFOUND where it cannot be used so.
+// Returns how the member is to be used. Throws DISP_E_MEMBERNOTFOUND if it cannot be used that way.
 InvokeKind KindOf(const Member& member, const DispatchCall& call) {
-    if ((call.flags & assigning) != 0) {
+    if ((call.flags & assignment) != 0) {
         if (member.assign == nullptr) {
             throw ComError(DISP_E_MEMBERNOTFOUND);
         }
@@ -54,7 +54,7 @@ InvokeKind KindOf(const Member& member, const DispatchCall& call) {
     return member.kind == MemberKind::Method ? InvokeKind::Call : InvokeKind::Get;
 }
 
-// The arguments in the order of the member's parameters, the new value of a property last.
+// The arguments in the order of the member's parameters, followed by the new value of a property.
 class ArgumentList {
  public:
     ArgumentList(const Member& member, InvokeKind kind, const DispatchCall& call)
@@ -68,7 +68,7 @@ class ArgumentList {
 
     std::span<Value> Values() { return values_; }
 
-    /// Hands back what the member assigned to its parameters.
+    /// Writes the values that the member assigned to its parameters back to the caller's arguments.
     void WriteBack(const std::vector<Value>& before) {
         for (std::size_t index = 0; index < member_.parameters.size(); ++index) {
             if (member_.parameters[index].byReference && !(values_[index] == before[index])) {
@@ -94,7 +94,7 @@ class ArgumentList {
         }
     }
 
-    // The others stand in the reverse order behind them.
+    // The positional arguments follow them in reverse order.
     void PlaceOthers(bool assigns) {
         std::size_t count = given_.cArgs - given_.cNamedArgs;
         // Some clients do not name the new value, which is then the last argument.
@@ -158,7 +158,7 @@ class ArgumentList {
     const Member& member_;
     const DispatchCall& call_;
     const DISPPARAMS& given_;
-    std::vector<std::optional<UINT>> places_;  // in the client's array
+    std::vector<std::optional<UINT>> places_;  // indexes into the client's array
     std::vector<Value> values_;
 };
 

@@ -7,7 +7,7 @@
 
 namespace lumenkit::ole {
 
-/// IDispatch::GetIDsOfNames: the first name is a member's, the others are those of its parameters.
+/// IDispatch::GetIDsOfNames: the first name is a member's, the others are names of its parameters.
 HRESULT FindIdentifiers(const InterfaceTable& table, REFIID interfaceId, LPOLESTR* names,
                         UINT count, DISPID* identifiers) noexcept;
 
@@ -21,13 +21,14 @@ struct DispatchCall {
     UINT* wrongArgument;   ///< may be null
 };
 
-/// Names stand for arguments and for the new value of a property; arguments by reference are
-/// followed and, where the member takes them so, assigned. What cannot be called is a DISP_E_
-/// result; an error of the member itself is DISP_E_EXCEPTION with the error's number.
+/// IDispatch::Invoke. Arguments and the new value of a property may be passed by name. Arguments by
+/// reference are dereferenced and, where the member takes them by reference, assigned. A member
+/// that cannot be called gives a DISP_E_ result. An error of the member itself gives
+/// DISP_E_EXCEPTION with the number of the error.
 HRESULT InvokeMember(const InterfaceTable& table, Object& object,
                      const DispatchCall& call) noexcept;
 
-/// Fills in what is known of an error of the runtime.
+/// Fills in the known data of a runtime error.
 void Describe(const RuntimeError& error, EXCEPINFO& exception);
 
 }  // namespace lumenkit::ole

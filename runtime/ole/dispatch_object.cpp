@@ -27,7 +27,7 @@ WORD FlagsOf(InvokeKind kind) {
     return DISPATCH_METHOD | DISPATCH_PROPERTYGET;
 }
 
-// EXCEPINFO with its strings.
+// An EXCEPINFO that owns its strings.
 struct Exception {
     EXCEPINFO information = {};
 
@@ -50,7 +50,7 @@ struct Exception {
     }
 };
 
-// Arguments in the order of automation: the last one first.
+// The arguments in the order of automation: the last one first.
 class Arguments {
  public:
     Arguments(std::span<Value> values, bool assigning) {
@@ -70,7 +70,7 @@ class Arguments {
 
  private:
     std::deque<Variant> held_;
-    std::vector<VARIANT> variants_;  // of what held_ owns
+    std::vector<VARIANT> variants_;  // copies of the variants that held_ owns
     DISPID put_ = DISPID_PROPERTYPUT;
     DISPPARAMS parameters_ = {};
 };

@@ -4,15 +4,15 @@
 
 namespace lumenkit::ole {
 
-/// An object of another component, used through its IDispatch. Its errors come out as errors of the
-/// runtime, with their number and description.
+/// An object of another component, used through its IDispatch. Its errors are raised as runtime
+/// errors with their number and description.
 class DispatchObject final : public Object, public ComBacked {
  public:
     explicit DispatchObject(IDispatch* dispatch) : dispatch_(dispatch) {}
 
     std::optional<std::int32_t> FindMember(TextView name) const override;
     Value Invoke(std::int32_t identifier, InvokeKind kind, std::span<Value> arguments) override;
-    /// By COM's rule of identity.
+    /// Compares by COM's rule of identity.
     bool IsSame(const Object& other) const override;
     ComPtr<IDispatch> Dispatch() const override { return dispatch_; }
 

@@ -9,7 +9,7 @@
 
 namespace lumenkit::ole {
 
-// Plain functions that take the object first are called just as methods of a COM interface.
+// Plain functions with the object as first parameter are called in the same way as COM methods.
 struct DualInterface::Functions {
     static DualInterface& Owner(Face* self) { return *self->owner; }
 

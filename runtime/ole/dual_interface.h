@@ -7,39 +7,40 @@
 
 namespace lumenkit::ole {
 
-/// What stands behind a dual interface.
+/// The object that a dual interface calls.
 class DualTarget {
  public:
     virtual ~DualTarget() = default;
 
     virtual const InterfaceTable& Table() const = 0;
-    /// The object whose members are used; it may have to be started first. May throw.
+    /// Returns the object whose members are used, and starts it first if needed. May throw.
     virtual Object& Members() = 0;
-    /// The interface's description in the type library; may throw.
+    /// Returns the description of the interface in the type library. May throw.
     virtual ComPtr<ITypeInfo> Description() = 0;
 };
 
-/// A dual interface whose vtable is made from an interface table: that of IDispatch, followed by
-/// one entry for each Slot.
+/// A dual interface whose vtable is built from an interface table: the entries of IDispatch,
+/// followed by one entry for each Slot.
 class DualInterface {
  public:
-    /// `life` is the target's, kept while one of the functions runs.
+    /// `life` is the life of the target. It is held while one of the functions runs.
     DualInterface(DualTarget& target, IUnknown& controlling, win32::Life& life);
     ~DualInterface() = default;
     DualInterface(const DualInterface&) = delete;
     DualInterface& operator=(const DualInterface&) = delete;
 
-    /// As clients hold it.
+    /// Returns the pointer that clients hold.
     IDispatch* AsDispatch() { return reinterpret_cast<IDispatch*>(&face_); }
 
-    /// Most entries that a table may have, and most words that one of them may take.
+    /// The most entries that a table may have, and the most words that one entry may take.
     static constexpr std::size_t largestTable = 64;
     static constexpr std::size_t mostWords = 3;
 
  private:
     struct Functions;
 
-    // What a COM client sees of an object: a pointer to functions, here followed by the way back.
+    // The part that a COM client sees: a pointer to the functions. The pointer to the owner follows
+    // it.
     struct Face {
         const void* const* functions;
         DualInterface* owner;

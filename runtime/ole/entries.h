@@ -1,4 +1,5 @@
-// The control runtime's entries: a server's exports hand its class table to them and add nothing.
+// The entry points of the control runtime. A server's exports pass its class table to them and add
+// nothing.
 //
 // They may be called on any thread and never throw. The table must live as long as the module.
 #pragma once
@@ -8,22 +9,23 @@
 
 namespace lumenkit::ole {
 
-/// The class factory of the class with this identifier. CLASS_E_CLASSNOTAVAILABLE when the table
-/// has none, E_POINTER for no place to put it.
+/// Returns the class factory of the class with this identifier. Returns CLASS_E_CLASSNOTAVAILABLE
+/// if the table does not contain the class, and E_POINTER if `object` is null.
 HRESULT VBDllGetClassObject(const ClassTable& classes, REFCLSID classId, REFIID interfaceId,
                             void** object) noexcept;
 
-/// S_OK when no object of the table's classes is alive and no lock is held, else S_FALSE.
+/// Returns S_OK if no object of the table's classes is alive and no lock is held, otherwise
+/// S_FALSE.
 HRESULT VBDllCanUnloadNow(const ClassTable& classes) noexcept;
 
-/// Registers the classes and the module's type libraries for all users. What was written is taken
-/// back when it fails.
+/// Registers the classes and the module's type libraries for all users. If it fails, it removes all
+/// of these entries again.
 HRESULT VBDllRegisterServer(const ClassTable& classes) noexcept;
 
-/// Removes what VBDllRegisterServer wrote. What is not there is no error.
+/// Removes the entries of VBDllRegisterServer. Missing entries are not an error.
 HRESULT VBDllUnRegisterServer(const ClassTable& classes) noexcept;
 
-/// What the module's entry point does when it is loaded and unloaded.
+/// Called by the module's entry point when the module is loaded and unloaded.
 BOOL UserDllMain(const ClassTable& classes, HINSTANCE module, DWORD reason,
                  void* reserved) noexcept;
 

@@ -1,4 +1,4 @@
-// The platform's enumerators over a list that is fixed when they are made.
+// The platform's enumerators over a list that is fixed when they are created.
 #pragma once
 
 #include <atomic>
@@ -10,7 +10,7 @@
 
 namespace lumenkit::ole {
 
-/// How an item is given to a client, who then owns it. `Kept` is how the list keeps it.
+/// Defines how an item is given to a client, who then owns it. `Kept` is the type in the list.
 template <typename Item>
 struct PlainItem {
     using Kept = Item;

@@ -4,7 +4,7 @@
 
 namespace lumenkit::ole {
 
-/// Errors of the object's own interface carry error information.
+/// Reports that errors of the object's own interface carry error information.
 class ErrorSupport final : public Facet<ISupportErrorInfo> {
  public:
     ErrorSupport(IUnknown& controlling, REFIID interfaceId)

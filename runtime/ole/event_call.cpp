@@ -9,7 +9,7 @@ namespace lumenkit::ole {
 
 namespace {
 
-// The arguments where listeners may assign them, in the order of automation: the last one first.
+// The arguments as references for the listeners, in the order of automation: the last one first.
 class EventArguments {
  public:
     EventArguments(const Event& event, std::span<const Value> values) {
@@ -31,7 +31,7 @@ class EventArguments {
 
  private:
     std::vector<std::unique_ptr<Variant>> held_;
-    std::vector<VARIANT> references_;  // to what held_ owns
+    std::vector<VARIANT> references_;  // to the variants that held_ owns
     DISPPARAMS parameters_ = {};
 };
 

@@ -1,4 +1,4 @@
-// Raising an event with listeners.
+// Raises events on their listeners.
 #pragma once
 
 #include <span>
@@ -8,9 +8,9 @@
 
 namespace lumenkit::ole {
 
-/// Calls the event on every listener. Arguments go by reference: what a listener assigns is seen by
-/// the next one and is in `arguments` afterwards, in the event's types. Failures of listeners do
-/// not come back.
+/// Calls the event on every listener. Arguments are passed by reference: a value that one listener
+/// assigns is passed to the next one and is in `arguments` afterwards, in the type of the event's
+/// parameter. Failures of listeners are ignored.
 void RaiseEvent(const ConnectionPoint& point, const Event& event, std::span<Value> arguments);
 
 }  // namespace lumenkit::ole

@@ -1,4 +1,5 @@
-// A control's size: pixels, as it is shown, and hundredths of a millimetre, as containers keep it.
+// The size of a control: in pixels, as it is shown, and in hundredths of a millimetre, as
+// containers store it.
 #pragma once
 
 #include "runtime/ole/ole_header.h"
@@ -8,12 +9,14 @@ namespace lumenkit::ole {
 
 inline constexpr int himetricPerInch = 2540;
 
-/// Nearest; whole pixels survive the way there and back.
+/// Rounds to the nearest value. A conversion of whole pixels to hundredths of a millimetre and back
+/// returns the same pixels.
 SIZE ToPixels(const SIZEL& himetric, win32::Resolution resolution);
 SIZEL ToHimetric(const SIZE& pixels, win32::Resolution resolution);
 
-/// What the container said last stands for as long as it means the size in pixels that there is:
-/// asking and setting in turn does not make the control creep.
+/// A size in hundredths of a millimetre. The last value from the container is kept as long as it
+/// corresponds to the current size in pixels, so that reading and setting the size in turn does not
+/// change it step by step.
 class Extent {
  public:
     explicit Extent(SIZE pixels) : himetric_(ToHimetric(pixels, resolution_)) {}

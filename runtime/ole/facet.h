@@ -1,6 +1,6 @@
-// How one COM object offers many interfaces: each is a member of the object, of a class of its own,
-// that hands IUnknown to the object's controlling one (the object's own or, in an aggregate, the
-// aggregating object's).
+// The base class of one interface of a COM object. Each interface is a member of the object, with a
+// separate class, and passes IUnknown on to the controlling IUnknown: the object's own or, in an
+// aggregate, that of the aggregating object.
 #pragma once
 
 #include "runtime/ole/ole_header.h"

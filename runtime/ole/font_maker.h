@@ -7,7 +7,7 @@ namespace lumenkit::ole {
 
 stored::FontAttributes AttributesOf(const host::Font& font);
 
-/// A standard font object of its own. Raises 380 for attributes that the platform refuses.
+/// Returns a separate standard font object. Raises 380 for attributes that the platform refuses.
 std::shared_ptr<OleFont> NewOleFont(const stored::FontAttributes& attributes);
 
 class FontMaker final : public win32::FontMaker {

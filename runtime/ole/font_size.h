@@ -1,4 +1,4 @@
-// Font sizes in points, as fixed-point numbers of the platform.
+// Conversion of font sizes between points and the platform's fixed-point numbers.
 #pragma once
 
 #include "frame/checked_integer.h"
@@ -10,7 +10,7 @@ namespace lumenkit::ole {
 inline constexpr double fontSizeUnit = 10000.0;
 inline constexpr double largestFontSize = 2160.0;
 
-/// Raises 380 for a size that is not above 0 to four decimal places, or above 2160.
+/// Raises 380 for a size that is not above 0 after rounding to four decimal places, or above 2160.
 inline CY FontSize(float points) {
     const double units = RoundHalfToEven(static_cast<double>(points) * fontSizeUnit);
     if (!(units > 0 && units <= largestFontSize * fontSizeUnit)) {

@@ -8,15 +8,15 @@
 
 namespace lumenkit::ole {
 
-/// A face with methods that may call the client, who may then release the object: it lives on until
-/// they have returned.
+/// An interface whose methods may call the client. The client may release the object meanwhile: the
+/// object lives on until the methods have returned.
 template <typename Interface>
 class HeldFacet : public Facet<Interface> {
  protected:
     HeldFacet(IUnknown& controlling, win32::Life& life)
         : Facet<Interface>(controlling), life_(life) {}
 
-    /// As the function of that name; every method's body goes through it.
+    /// Does the same as ole::Guarded while the object is held. The body of every method runs in it.
     template <std::invocable Body>
     HRESULT Guarded(Body&& body) noexcept {
         const win32::Life::Hold hold(&life_);

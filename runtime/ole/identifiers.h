@@ -1,4 +1,4 @@
-// The tables' identifiers as the platform's.
+// Conversion of the tables' identifiers to those of the platform.
 #pragma once
 
 #include <cstring>
@@ -19,13 +19,13 @@ inline GUID GuidOf(const UniqueIdentifier& identifier) {
     return guid;
 }
 
-/// "{8E90C363-D415-47AA-AFDF-C215C3C33F77}".
+/// Returns a text such as "{8E90C363-D415-47AA-AFDF-C215C3C33F77}".
 std::wstring TextOfGuid(REFGUID guid);
 
-/// The class with this identifier; null when the table has none.
+/// Returns the class with this identifier, or null if the table does not contain it.
 const ClassDescriptor* FindClass(const ClassTable& classes, REFCLSID classId);
 
-/// "lumenkit.VLabel".
+/// Returns a text such as "lumenkit.VLabel".
 Text ProgrammaticIdentifier(const ClassTable& classes, const ClassDescriptor& type);
 
 }  // namespace lumenkit::ole

@@ -4,8 +4,8 @@
 
 namespace lumenkit::ole {
 
-/// How many objects of the table's classes, class factories included, clients hold; for watching
-/// that none is left behind.
+/// Returns the number of objects of the table's classes, class factories included, that clients
+/// hold. Used to check that no object is leaked.
 int LiveObjects(const ClassTable& classes);
 
 }  // namespace lumenkit::ole

@@ -4,8 +4,8 @@
 
 namespace lumenkit::ole {
 
-/// How containers are to treat a control: give it its site before loading it, show it whenever it
-/// is visible, beside others.
+/// How containers must treat a control: set its site before loading it, activate it whenever it is
+/// visible, and allow other active controls next to it.
 inline constexpr DWORD controlStatus = OLEMISC_SETCLIENTSITEFIRST | OLEMISC_ACTIVATEWHENVISIBLE |
                                        OLEMISC_INSIDEOUT | OLEMISC_CANTLINKINSIDE |
                                        OLEMISC_RECOMPOSEONRESIZE;

@@ -7,7 +7,7 @@
 namespace lumenkit::ole {
 
 HINSTANCE OwnModule();
-/// Full path.
+/// Returns the full path of the module's file.
 Text ModulePath();
 
 }  // namespace lumenkit::ole

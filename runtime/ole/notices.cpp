@@ -73,7 +73,7 @@ void Notices::Closed() {
 }
 
 void Notices::Clear() {
-    // Releasing them may run code of anybody's.
+    // Releasing the sinks may run any code.
     const auto view = std::exchange(view_, nullptr);
     const auto life = std::exchange(life_, nullptr);
     const auto data = std::exchange(data_, nullptr);

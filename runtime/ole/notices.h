@@ -4,22 +4,22 @@
 
 namespace lumenkit::ole {
 
-/// Whom a control's container has asked to be told of its picture, its data and its life.
+/// The container's advise connections to the picture, the data and the life of a control.
 class Notices {
  public:
     // IViewObject::SetAdvise and GetAdvise.
     void SetView(DWORD aspects, DWORD flags, IAdviseSink* sink);
     void GetView(DWORD* aspects, DWORD* flags, IAdviseSink** sink) const;
 
-    /// Made when it is first asked for; may raise a ComError.
+    /// Created at the first call. May raise a ComError.
     IOleAdviseHolder& Life();
     IDataAdviseHolder& Data();
 
-    /// What the control shows has changed. `data` is where it can be had from.
+    /// Notifies that the picture of the control has changed. `data` provides the new picture.
     void PictureChanged(IDataObject& data);
     void Saved();
     void Closed();
-    /// Lets go of all of them.
+    /// Releases all sinks.
     void Clear();
 
  private:

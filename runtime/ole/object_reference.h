@@ -1,4 +1,4 @@
-// Objects of other components as this component's late-bound objects, and back.
+// Conversion between objects of other components and late-bound objects of this component.
 #pragma once
 
 #include "frame/automation/object.h"
@@ -6,19 +6,19 @@
 
 namespace lumenkit::ole {
 
-/// A late-bound object behind which there is a COM object.
+/// A late-bound object that is based on a COM object.
 class ComBacked {
  public:
     virtual ~ComBacked() = default;
-    /// The very object that a client handed over; never null.
+    /// Returns the same object that the client passed. Never null.
     virtual ComPtr<IDispatch> Dispatch() const = 0;
 };
 
-/// A font for a standard font object, else the object by its IDispatch; nothing for null. Raises 13
-/// for an object that cannot be used late-bound.
+/// Returns a font for a standard font object, the object through its IDispatch for any other, and
+/// nothing for null. Raises 13 for an object that does not support late binding.
 ObjectRef ObjectOf(IUnknown* object);
 
-/// The COM object behind `object`; null for nothing. Raises 13 when there is none.
+/// Returns the COM object behind `object`, and null for nothing. Raises 13 if there is none.
 ComPtr<IDispatch> DispatchOf(const ObjectRef& object);
 
 }  // namespace lumenkit::ole

@@ -29,7 +29,7 @@ HRESULT ObjectSafety::SetInterfaceSafetyOptions(REFIID interfaceId, DWORD mask, 
         if (!Has(interfaceId)) {
             return E_NOINTERFACE;
         }
-        // Safe in any case.
+        // Controls are safe with any options.
         return (mask & enabled & ~allOptions_) != 0 ? E_FAIL : S_OK;
     });
 }

@@ -4,7 +4,7 @@
 
 namespace lumenkit::ole {
 
-/// Controls do no harm whatever scripts and data they get: they touch no files, registry or
+/// Controls are safe for all scripts and data: they do not access files, the registry or the
 /// network.
 class ObjectSafety final : public Facet<IObjectSafety> {
  public:

@@ -4,7 +4,7 @@
 
 namespace lumenkit::ole {
 
-/// Keeps the site that simple containers give; controls do not ask anything of it.
+/// Keeps the site that a simple container sets. Controls do not use it.
 class ObjectWithSite final : public Facet<IObjectWithSite> {
  public:
     explicit ObjectWithSite(IUnknown& controlling) : Facet(controlling) {}

@@ -13,7 +13,7 @@ BOOL CALLBACK WantsReturn(HWND window, LPARAM found) {
     constexpr LONG_PTR shownWithLines = WS_VISIBLE | ES_MULTILINE;
     const bool mayHaveLines =
         (GetWindowLongPtrW(window, GWL_STYLE) & shownWithLines) == shownWithLines;
-    // The second style means something else to other windows than text boxes.
+    // ES_MULTILINE has another meaning for windows other than text boxes.
     if (mayHaveLines && (SendMessageW(window, WM_GETDLGCODE, 0, 0) & DLGC_HASSETSEL) != 0) {
         *reinterpret_cast<bool*>(found) = true;
         return FALSE;
@@ -21,14 +21,14 @@ BOOL CALLBACK WantsReturn(HWND window, LPARAM found) {
     return TRUE;
 }
 
-// Whether Return means something inside the control, as in a text box of several lines.
+// Whether Return has an effect inside the control, as in a multi-line text box.
 bool EatsReturn(HWND window) {
     bool found = false;
     EnumChildWindows(window, &WantsReturn, reinterpret_cast<LPARAM>(&found));
     return found;
 }
 
-// Containers compare what was typed or which key it was, so both are given.
+// Containers compare either the character or the virtual key, so the table contains both.
 std::vector<ACCEL> AcceleratorsOf(const std::wstring& mnemonics) {
     std::vector<ACCEL> accelerators;
     for (const wchar_t unit : mnemonics) {
@@ -47,7 +47,7 @@ std::vector<ACCEL> AcceleratorsOf(const std::wstring& mnemonics) {
     return accelerators;
 }
 
-// What the message types; 0 for nothing.
+// Returns the character that the message types, or 0 if there is none.
 wchar_t UnitOf(const MSG& message) {
     if (message.message == WM_SYSCHAR || message.message == WM_CHAR) {
         return static_cast<wchar_t>(message.wParam);

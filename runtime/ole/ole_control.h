@@ -23,7 +23,7 @@ class OleControl final : public HeldFacet<IOleControl> {
     };
 
     ControlCore& core_;
-    // The mnemonics as the container has them; the container only reads it.
+    // The table of mnemonics for the container, which only reads it.
     std::unique_ptr<std::remove_pointer_t<HACCEL>, TableEnd> table_;
 };
 

@@ -14,7 +14,7 @@ namespace lumenkit::ole {
 
 namespace {
 
-// What the font object refuses is an invalid value to the client.
+// Raises the runtime error for a value that the font object refuses.
 void CheckValue(HRESULT result) {
     if (FAILED(result)) {
         throw ErrorOf(result);
@@ -30,7 +30,7 @@ T Attribute(IFont& font, HRESULT (STDMETHODCALLTYPE IFont::*get)(T*)) {
 
 }  // namespace
 
-// Hears of the font's changes as long as its owner lives.
+// Receives the changes of the font as long as its owner lives.
 class OleFont::Sink final : public IPropertyNotifySink {
  public:
     explicit Sink(OleFont& owner) : owner_(&owner) {}
@@ -95,7 +95,7 @@ Text OleFont::Name() const {
 void OleFont::SetName(TextView name) {
     CheckValue(font_->put_Name(BasicString(name).Get()));
     if (asked_.int64 != 0) {
-        Ask(asked_);  // another face may come closer to it
+        Ask(asked_);  // the new face may come closer to it
     }
 }
 
@@ -106,8 +106,8 @@ float OleFont::Size() const {
 
 void OleFont::SetSize(float points) {
     const CY size = FontSize(points);
-    // What the font reports is what was found for the size that it was asked for. Whoever saves and
-    // restores the one must not change the other.
+    // The font reports the size that the platform found for the requested size. Saving and
+    // restoring the reported size must not change the requested size.
     if (size.int64 != FontSize(Size()).int64) {
         Ask(size);
     }
@@ -211,7 +211,7 @@ void OleFont::Disconnect() {
 }
 
 void OleFont::Notify() {
-    // Listeners may come and go while they are told.
+    // Listeners may be added and removed while they are notified.
     const std::vector<win32::FontListener*> told = listeners_;
     for (win32::FontListener* listener : told) {
         if (std::ranges::find(listeners_, listener) != listeners_.end()) {

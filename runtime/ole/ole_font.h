@@ -9,8 +9,8 @@
 
 namespace lumenkit::ole {
 
-/// The platform's standard font object. Any number of these may stand for the same one; all see
-/// each other's changes, and its clients'.
+/// The platform's standard font object. Several instances may wrap the same font object. All of
+/// them see each other's changes and the changes of clients.
 class OleFont final : public win32::Font, public ComBacked {
  public:
     /// Raises 13 for a font object without an IDispatch.
@@ -43,8 +43,8 @@ class OleFont final : public win32::Font, public ComBacked {
     HFONT Handle() const override;
 
     ComPtr<IDispatch> Dispatch() const override { return dispatch_; }
-    /// The size that was asked for, which the platform rounds to what it can draw. It is what Size
-    /// gives until a client sets another one.
+    /// Requests a size, which the platform rounds to a size that it can draw. Size returns the
+    /// requested size until a client sets another one.
     void Ask(CY size);
 
  private:
@@ -56,13 +56,13 @@ class OleFont final : public win32::Font, public ComBacked {
 
     ComPtr<IFont> font_;
     ComPtr<IDispatch> dispatch_;
-    // A listener may stand here more than once: it is told once for each.
+    // A listener may be listed more than once. It is notified once for each entry.
     std::vector<win32::FontListener*> listeners_;
     ComPtr<Sink> sink_;
     ComPtr<IConnectionPoint> point_;
     DWORD connection_ = 0;
     CY asked_ = {};
-    CY given_ = {};  // what the platform made of it
+    CY given_ = {};  // the size that the platform chose for it
 };
 
 }  // namespace lumenkit::ole

@@ -1,4 +1,4 @@
-// The one way in which this runtime includes the platform's component headers.
+// The only place where this runtime includes the platform's component headers.
 #pragma once
 
 #include <objsafe.h>
@@ -14,8 +14,8 @@ namespace lumenkit::ole {
 
 using Microsoft::WRL::ComPtr;
 
-/// Takes over the reference that a new object starts with. (ComPtr::Attach of the compiler's
-/// headers counts one more.)
+/// Takes over the initial reference of a new object. (ComPtr::Attach in the compiler's headers adds
+/// another reference.)
 template <typename Interface>
 ComPtr<Interface> Adopted(Interface* object) {
     ComPtr<Interface> holder;

@@ -49,7 +49,8 @@ HRESULT OleObject::GetClientSite(IOleClientSite** site) {
 
 HRESULT OleObject::Close(DWORD saveOption) {
     return Guarded([&] {
-        // A control has no window of its own to ask the person in: what would be asked is saved.
+        // A control has no separate window for a prompt, so OLECLOSE_PROMPTSAVE saves without
+        // asking.
         const bool save = saveOption == OLECLOSE_SAVEIFDIRTY || saveOption == OLECLOSE_PROMPTSAVE;
         if (save && core_.IsDirty() && core_.Site().Exists()) {
             ComPtr<IOleClientSite>(core_.Site().Get())->SaveObject();

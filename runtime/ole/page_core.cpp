@@ -34,7 +34,7 @@ ObjectRef PageCore::Item(std::int16_t index) {
 }
 
 bool PageCore::Apply() {
-    // A page has no way to say that it refuses, but nothing can be written without the control.
+    // A page cannot report a refusal, but it cannot write anything without requesting a control.
     askedForControl_ = false;
     hosted_->GetPage().PropertyPage_ApplyChanges();
     if (askedForControl_) {

@@ -8,8 +8,8 @@
 
 namespace lumenkit::ole {
 
-/// What the interfaces of one property page share: the page, its site and the controls that it
-/// edits.
+/// The state that the interfaces of one property page share: the page, its site and the controls
+/// that it edits.
 class PageCore final : public host::PropertyPageSite, public host::SelectedControls {
  public:
     PageCore(Component& component, const ClassDescriptor& type, win32::Life& life);
@@ -19,18 +19,18 @@ class PageCore final : public host::PropertyPageSite, public host::SelectedContr
 
     void SetSite(IPropertyPageSite* site) { site_ = site; }
     const ComPtr<IPropertyPageSite>& Site() const { return site_; }
-    /// No client has the page any more.
+    /// Called when no client holds the page any more.
     void Abandon() noexcept;
     void Select(std::vector<ObjectRef> controls) { controls_ = std::move(controls); }
 
-    // What the page asks and tells.
+    // Requests and notifications of the page.
     bool Changed() const override { return changed_; }
     void SetChanged(bool changed) override;
     std::int16_t Count() const override { return static_cast<std::int16_t>(controls_.size()); }
     ObjectRef Item(std::int16_t index) override;
 
-    /// Has the page write what was entered. False where it wrote nothing: it refused that, and
-    /// stays as it was.
+    /// Lets the page write the values that were entered. Returns false if it wrote nothing: it
+    /// refused the values and its state is unchanged.
     bool Apply();
 
  private:

@@ -7,7 +7,7 @@
 
 namespace lumenkit::ole {
 
-/// A property page as clients have it.
+/// A property page as COM clients see it.
 class PageObject final : public Root, private DualTarget {
  public:
     PageObject(Component& component, const ClassDescriptor& type, IUnknown* outer);

@@ -41,7 +41,7 @@ HRESULT PersistStorage::Save(IStorage* storage, BOOL /*sameAsLoad*/) {
     });
 }
 
-// The storage is not kept, so that there is little to complete.
+// The storage is not kept, so it need not be opened again.
 HRESULT PersistStorage::SaveCompleted(IStorage* /*storage*/) {
     return Guarded([&] {
         core_.SetDirty(false);

@@ -5,7 +5,7 @@
 
 namespace lumenkit::ole {
 
-/// Keeps the settings in the stream "Contents" of the container's storage.
+/// Stores the settings in the stream "Contents" of the container's storage.
 class PersistStorage final : public HeldFacet<IPersistStorage> {
  public:
     explicit PersistStorage(ControlCore& core)

@@ -12,7 +12,7 @@ namespace lumenkit::ole {
 
 namespace {
 
-// Appends `count` bytes, piece by piece: a count that is wrong must not ask for the world's memory.
+// Appends `count` bytes in pieces, so that a wrong count does not allocate too much memory.
 void Read(IStream& stream, std::size_t count, std::vector<std::uint8_t>& bytes) {
     std::array<std::uint8_t, 4096> piece = {};
     while (count > 0) {

@@ -5,12 +5,12 @@
 
 namespace lumenkit::ole {
 
-/// Writes the control's settings at the stream's position / reads them from there. Raise a ComError
-/// for a stream that fails or holds something else; the control is then as it was.
+/// Write the control's settings at the position of the stream, and read them from there. They raise
+/// a ComError for a stream that fails or contains other data; the control is unchanged then.
 void SaveTo(IStream& stream, ControlCore& core);
 void LoadFrom(IStream& stream, ControlCore& core);
 
-/// IPersistStreamInit; also what stands for IPersistStream, whose functions are the first of it.
+/// IPersistStreamInit. It also serves as IPersistStream, whose functions are its first ones.
 class PersistStream final : public HeldFacet<IPersistStreamInit> {
  public:
     explicit PersistStream(ControlCore& core)

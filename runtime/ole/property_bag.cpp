@@ -11,14 +11,14 @@ namespace lumenkit::ole {
 
 namespace {
 
-// In the type of the default: some containers hand everything over as texts. A default without a
-// type takes what comes.
+// Converts the value to the type of the default, because some containers return every value as
+// text. A default without a type accepts any value.
 Value AsDefault(const Value& value, const Value& defaultValue) {
     struct Converted {
         const Value& value;
         Value operator()(bool /*type*/) const { return ToBoolean(value); }
         Value operator()(std::int16_t /*type*/) const { return ToInteger(value); }
-        // A colour, perhaps, of which there are two forms.
+        // The number may be a colour, which has two forms.
         Value operator()(std::int32_t /*type*/) const { return FromColor(ToColor(value)); }
         Value operator()(float /*type*/) const { return ToSingle(value); }
         Value operator()(double /*type*/) const { return ToDouble(value); }
@@ -46,7 +46,7 @@ void Log(IErrorLog* log, const wchar_t* name, const RuntimeError& error) {
     SysFreeString(information.bstrDescription);
 }
 
-// A font of its own, so that what is done to it later does not reach into the bag.
+// Returns a separate copy of a font, so that later changes to the font do not affect the bag.
 Value Copy(const Value& value) {
     const auto* object = std::get_if<ObjectRef>(&value);
     const auto font = object == nullptr ? nullptr : std::dynamic_pointer_cast<host::Font>(*object);

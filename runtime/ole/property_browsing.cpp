@@ -14,7 +14,7 @@ namespace lumenkit::ole {
 
 namespace {
 
-// "2 - scrollBarsVertical".
+// Returns a text such as "2 - scrollBarsVertical".
 Text Shown(const EnumerationMember& member) {
     Text text = Decimal(member.value);
     text += u" - ";
@@ -22,7 +22,7 @@ Text Shown(const EnumerationMember& member) {
     return text;
 }
 
-// A client's array while it is filled: freed with what is in it unless it is handed over.
+// A client's array while it is filled. It is freed with its texts unless it is handed over.
 class TaskTexts {
  public:
     explicit TaskTexts(std::size_t size)

@@ -5,7 +5,7 @@
 
 namespace lumenkit::ole {
 
-/// Helps a property browser: the members of enumerations by name, the page of a property.
+/// Serves property browsers: names the members of enumerations and the page of a property.
 class PropertyBrowsing final : public HeldFacet<IPerPropertyBrowsing> {
  public:
     explicit PropertyBrowsing(ControlCore& core)
@@ -19,8 +19,8 @@ class PropertyBrowsing final : public HeldFacet<IPerPropertyBrowsing> {
                                                  VARIANT* value) override;
 
  private:
-    /// The enumeration whose members the property takes; null for other properties. Raises a
-    /// ComError for what is no property.
+    /// Returns the enumeration whose members the property takes, or null for other properties.
+    /// Raises a ComError if `property` is not a property.
     const EnumerationTable* EnumerationOf(DISPID property) const;
 
     ControlCore& core_;

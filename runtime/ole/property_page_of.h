@@ -1,4 +1,4 @@
-// Which property page edits what.
+// Maps classes and properties to the property pages that edit them.
 #pragma once
 
 #include "frame/class_table.h"
@@ -6,7 +6,7 @@
 
 namespace lumenkit::ole {
 
-/// The page that edits controls of the class; null when there is none.
+/// Returns the page that edits controls of the class, or null if there is none.
 const ClassDescriptor* PropertyPageOf(const ClassTable& classes, const ClassDescriptor& type);
 
 /// Whether that page edits this property.

@@ -5,7 +5,7 @@
 
 namespace lumenkit::ole {
 
-/// A container's first words to a control in one call.
+/// Sets up a control for its container in one call.
 class QuickActivation final : public HeldFacet<IQuickActivate> {
  public:
     explicit QuickActivation(ControlCore& core)

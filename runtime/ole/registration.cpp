@@ -68,7 +68,7 @@ bool IsPublished(const ClassDescriptor& type) {
     return type.uniqueIdentifier != UniqueIdentifier();
 }
 
-// The module's type libraries: its own and, behind it, that of the enumerations.
+// The paths of the module's type libraries: its own library, followed by that of the enumerations.
 std::vector<std::wstring> LibraryPaths(const ClassTable& classes, const std::wstring& path) {
     std::vector<std::wstring> paths = {path};
     if (classes.enumerations != nullptr) {
@@ -92,7 +92,7 @@ void UnregisterLibrary(const UniqueIdentifier& identifier, WORD major, WORD mino
     }
 }
 
-// Runs each of the steps, however the others end, and remembers the first failure.
+// Runs every step, even if others fail, and keeps the first failure.
 class Steps {
  public:
     template <typename Step>

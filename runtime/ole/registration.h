@@ -6,10 +6,10 @@
 namespace lumenkit::ole {
 
 /// Writes the registry entries of all classes and type libraries of the module. Raises a ComError;
-/// part of it may be written then.
+/// some entries may be written then.
 void Register(const ClassTable& classes);
 
-/// Removes them. Tries all of it before it raises a ComError.
+/// Removes the entries. Tries to remove all of them before it raises a ComError.
 void Unregister(const ClassTable& classes);
 
 }  // namespace lumenkit::ole

@@ -7,22 +7,22 @@
 
 namespace lumenkit::ole {
 
-/// An open key below HKEY_CLASSES_ROOT. Everything raises a ComError when the platform refuses.
+/// An open key below HKEY_CLASSES_ROOT. Every function raises a ComError if the platform refuses.
 class RegistryKey {
  public:
-    /// Makes the key where it is not there.
+    /// Creates the key if it does not exist.
     explicit RegistryKey(const std::wstring& path);
     RegistryKey(const RegistryKey& parent, const std::wstring& path);
     ~RegistryKey();
     RegistryKey(const RegistryKey&) = delete;
     RegistryKey& operator=(const RegistryKey&) = delete;
 
-    /// The unnamed value for an empty name.
+    /// An empty name sets the unnamed value.
     void SetText(const std::wstring& name, const std::wstring& text) const;
-    /// A key below it with this unnamed value.
+    /// Creates a subkey with this unnamed value.
     void SetKey(const std::wstring& path, const std::wstring& text) const;
 
-    /// With all that is below it; one that is not there is no error.
+    /// Removes the key and everything below it. A missing key is not an error.
     static void Remove(const std::wstring& path);
 
  private:

@@ -28,7 +28,7 @@ Handle Made(Handle handle) {
     return handle;
 }
 
-// Memory of the clipboard's kind with a copy of these bytes in it.
+// Global memory of the kind that the clipboard uses.
 class Memory {
  public:
     explicit Memory(std::size_t size) : handle_(Made(GlobalAlloc(GMEM_MOVEABLE, size))) {}

@@ -1,4 +1,4 @@
-// Pictures of a control, for the clipboard and containers' caches.
+// Renders pictures of a control for the clipboard and for the caches of containers.
 #pragma once
 
 #include "runtime/ole/ole_header.h"
@@ -6,10 +6,11 @@
 
 namespace lumenkit::ole {
 
-/// A metafile in the clipboard's packing (METAFILEPICT); `size` in hundredths of a millimetre.
+/// Returns a metafile packed for the clipboard (METAFILEPICT). `size` is in hundredths of a
+/// millimetre.
 HGLOBAL RenderMetafilePicture(win32::HostedControl& control, const SIZEL& size);
 HENHMETAFILE RenderEnhancedMetafile(win32::HostedControl& control, const SIZEL& size);
-/// A packed device-independent bitmap of 24 bits, in pixels.
+/// Returns a packed device-independent bitmap of 24 bits. `size` is in pixels.
 HGLOBAL RenderBitmap(win32::HostedControl& control, const SIZE& size);
 
 }  // namespace lumenkit::ole

@@ -17,7 +17,7 @@ struct Correspondence {
     ErrorNumber number;
 };
 
-// What automation says in its own words.
+// The results of automation and the runtime errors that correspond to them.
 constexpr std::array correspondences = {
     Correspondence{DISP_E_MEMBERNOTFOUND, ErrorNumber::NoSuchMember},
     Correspondence{DISP_E_UNKNOWNNAME, ErrorNumber::NoSuchMember},

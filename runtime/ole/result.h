@@ -1,4 +1,4 @@
-// Where exceptions become results that COM clients understand, and the other way round.
+// Conversion between exceptions and the results that COM clients understand.
 #pragma once
 
 #include <concepts>
@@ -11,7 +11,7 @@
 
 namespace lumenkit::ole {
 
-/// A failure that is to be returned to a client as it stands.
+/// A failure that is returned to the client unchanged.
 class ComError : public std::exception {
  public:
     explicit ComError(HRESULT result) : result_(result) {}
@@ -22,7 +22,7 @@ class ComError : public std::exception {
     HRESULT result_;
 };
 
-/// Raises a ComError for a failure.
+/// Raises a ComError if `result` is a failure.
 void Check(HRESULT result);
 
 /// Raises E_POINTER for null.
@@ -34,18 +34,19 @@ T& Checked(T* pointer) {
     return *pointer;
 }
 
-/// The result that stands for an error of the runtime: 0x800A0000 + number, a result carried as a
-/// number unchanged, exhausted memory as E_OUTOFMEMORY.
+/// Returns the result for a runtime error: 0x800A0000 + number. A number that is itself a result is
+/// returned unchanged; exhausted memory becomes E_OUTOFMEMORY.
 HRESULT ResultOf(const RuntimeError& error);
 
-/// The error of the runtime that another object's result stands for. `description` may be empty.
+/// Returns the runtime error for another object's result. `description` may be empty.
 RuntimeError ErrorOf(HRESULT result, TextView description = {});
 
-/// The result of the exception in flight; call it in a catch block only. An error of the runtime
-/// also becomes the thread's error information, as raised by `interfaceId`.
+/// Returns the result for the current exception. Must be called in a catch block. A runtime error
+/// also becomes the error information of the thread, as raised by `interfaceId`.
 HRESULT CurrentResult(REFIID interfaceId = IID_NULL) noexcept;
 
-/// Runs the body of a method of a COM interface: S_OK, or what it returns, or what it throws.
+/// Runs the body of a method of a COM interface. Returns S_OK, or the result that the body returns
+/// or throws.
 template <std::invocable Body>
 HRESULT Guarded(Body&& body, REFIID interfaceId = IID_NULL) noexcept {
     try {

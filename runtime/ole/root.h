@@ -8,11 +8,12 @@
 
 namespace lumenkit::ole {
 
-/// The one IUnknown of an object that does not delegate; also the object's life. A class derives
-/// from it and says which interfaces it has.
+/// The non-delegating IUnknown of an object, and the object's life. A derived class defines its
+/// interfaces in Find.
 ///
-/// A client may release it while it is at work, as in an event. For the client it is gone then; it
-/// ends, and ceases to count for its component, when the last of its own calls has returned.
+/// A client may release the object while one of the object's calls is running, for example in an
+/// event. The object is then destroyed, and no longer counted by its component, when the last of
+/// these calls has returned.
 class Root : public IUnknown, public win32::Life {
  public:
     Root(Component& component, IUnknown* outer)
@@ -36,7 +37,7 @@ class Root : public IUnknown, public win32::Life {
     ULONG STDMETHODCALLTYPE Release() final {
         const ULONG left = --references_;
         if (left == 0) {
-            // What still happens while the object ends must not end it again.
+            // Calls during the destruction must not destroy the object again.
             references_ = ending;
             if (Holds() == 0) {
                 End();
@@ -54,9 +55,10 @@ class Root : public IUnknown, public win32::Life {
  protected:
     virtual ~Root() = default;
 
-    /// The interface, not counted yet; null when there is none. Must not throw.
+    /// Returns the interface without adding a reference, or null if there is none. Must not throw.
     virtual IUnknown* Find(REFIID interfaceId) noexcept = 0;
-    /// No client has it any more, but it is at work still: lets go of everybody else.
+    /// Called when no client holds the object but one of its calls is still running. Releases all
+    /// other objects.
     virtual void Released() noexcept = 0;
     IUnknown& Controlling() const { return controlling_; }
 
@@ -74,7 +76,7 @@ class Root : public IUnknown, public win32::Life {
     Component::Share share_;
     IUnknown& controlling_;
     std::atomic<ULONG> references_ = 1;
-    // Somebody, told of the object after the last reference was given back, took another one.
+    // A reference was taken while the object was being destroyed.
     bool outlasts_ = false;
 };
 

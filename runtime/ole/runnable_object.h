@@ -5,7 +5,7 @@
 
 namespace lumenkit::ole {
 
-/// A control runs as soon as it is there.
+/// A control is running as soon as it exists.
 class RunnableObject final : public Facet<IRunnableObject> {
  public:
     RunnableObject(IUnknown& controlling, const ClassDescriptor& type)

@@ -9,7 +9,7 @@ namespace {
 constexpr TextView defaultFontName = u"MS Sans Serif";
 constexpr float defaultFontSize = 8.25F;
 
-// The ambient property in the form that `convert` gives it; nothing where it has no such form.
+// Returns the ambient property as `convert` converts it, or nothing if it cannot be converted.
 template <typename Convert>
 auto AmbientAs(const ClientSite& site, DISPID property, Convert&& convert)
     -> std::optional<decltype(convert(Value()))> {

@@ -6,11 +6,11 @@
 
 namespace lumenkit::ole {
 
-/// The container's ambient properties. Where it has none: a running application, "MS Sans Serif" of
-/// 8.25 points, the colour of buttons.
+/// The container's ambient properties. The defaults are a running application, "MS Sans Serif" of
+/// 8.25 points, and the background colour of buttons.
 class SiteAmbient final : public host::Ambient {
  public:
-    /// Both must outlive the object.
+    /// Both arguments must outlive the object.
     SiteAmbient(const ClientSite& site, win32::FontMaker& fonts) : site_(site), fonts_(fonts) {}
 
     bool UserMode() const override;

@@ -10,13 +10,13 @@
 
 namespace lumenkit::ole {
 
-/// What is known of a control's place without its container's help.
+/// The placement of a control, known without the help of its container.
 class Placed {
  public:
     virtual ~Placed() = default;
 
     virtual Text Title() const = 0;
-    /// Pixels, in the container's window.
+    /// In pixels, in the container's window.
     virtual RECT Place() const = 0;
     virtual bool IsVisible() const = 0;
     virtual void SetVisible(bool visible) = 0;
@@ -24,11 +24,11 @@ class Placed {
     virtual void Move(const RECT& place) = 0;
 };
 
-/// The control as its container sees it: the container's own extended control or, where it has
-/// none, Name, Left, Top, Width, Height (twips), Visible and Move from what is known.
+/// The control as its container sees it. It uses the container's extended control if there is one.
+/// Otherwise it provides Name, Left, Top, Width, Height (in twips), Visible and Move from Placed.
 class SiteExtender final : public host::Extender {
  public:
-    /// Both must outlive the object.
+    /// Both arguments must outlive the object.
     SiteExtender(const ClientSite& site, Placed& control) : site_(site), control_(control) {}
 
     std::optional<std::int32_t> FindMember(TextView name) const override;

@@ -25,7 +25,7 @@ T& At(std::uintptr_t word) {
     return Checked(reinterpret_cast<T*>(word));
 }
 
-// Upper halves of words are not defined.
+// The upper halves of the words are undefined.
 Value ByValue(std::uintptr_t word, ValueType type) {
     switch (type) {
         case ValueType::Integer:
@@ -65,7 +65,7 @@ Value ByReference(std::uintptr_t word, ValueType type) {
     }
 }
 
-// A VARIANT that refers to what a parameter by reference refers to.
+// Returns a VARIANT that refers to the target of a parameter by reference.
 VARIANT ReferenceTo(std::uintptr_t word, ValueType type) {
     VARIANT reference;
     VariantInit(&reference);
@@ -74,7 +74,7 @@ VARIANT ReferenceTo(std::uintptr_t word, ValueType type) {
     return reference;
 }
 
-// The caller's place for a result holds something that may be released, whatever happens.
+// Initialises the caller's result, so that it can be released even if the call fails.
 void ClearResult(std::uintptr_t word, ValueType type) {
     switch (type) {
         case ValueType::Integer:

@@ -6,7 +6,7 @@
 
 namespace lumenkit::ole {
 
-/// Zero-terminated; throws std::bad_alloc.
+/// Returns a zero-terminated copy of `text`. Throws std::bad_alloc.
 LPOLESTR NewTaskText(TextView text);
 
 /// Throws std::bad_alloc.

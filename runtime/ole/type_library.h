@@ -6,10 +6,10 @@
 
 namespace lumenkit::ole {
 
-/// Raises a ComError when the module has none.
+/// Raises a ComError if the module has none.
 ComPtr<ITypeLib> OwnTypeLibrary();
 
-/// The description of an interface or class in it.
+/// Returns the description of an interface or class in the library.
 ComPtr<ITypeInfo> DescriptionOf(const UniqueIdentifier& identifier);
 
 }  // namespace lumenkit::ole

@@ -14,10 +14,10 @@ namespace lumenkit::ole {
 
 namespace {
 
-// How deep references to VARIANTs are followed; a circle of them must end.
+// The most references to VARIANTs that are followed. A cycle of references must end.
 constexpr int deepestReference = 4;
 
-// Reads what both a plain and a by-reference VARIANT hold.
+// Reads the value of a plain or a by-reference VARIANT.
 template <typename T>
 T Held(const VARIANT& variant) {
     const void* place = (variant.vt & VT_BYREF) != 0 ? V_BYREF(&variant) : &V_NONE(&variant);
@@ -47,7 +47,7 @@ Value FromDecimal(DECIMAL decimal) {
     return number;
 }
 
-// A decimal fills the whole VARIANT, its type included.
+// A decimal fills the whole VARIANT, including the type field.
 const DECIMAL& DecimalIn(const VARIANT& variant) {
     return (variant.vt & VT_BYREF) != 0 ? Checked(V_DECIMALREF(&variant)) : V_DECIMAL(&variant);
 }
@@ -59,7 +59,7 @@ Value FromError(SCODE code) {
     Raise(ErrorNumber::TypeMismatch);
 }
 
-// The VARIANT that is meant in the end.
+// Follows references to the last VARIANT.
 const VARIANT& Resolved(const VARIANT& variant) {
     const VARIANT* resolved = &variant;
     for (int depth = 0; resolved->vt == (VT_BYREF | VT_VARIANT); ++depth) {
@@ -71,8 +71,8 @@ const VARIANT& Resolved(const VARIANT& variant) {
     return *resolved;
 }
 
-// What the platform writes in a form of its own: dates by the person's settings, exact numbers to
-// their last place.
+// Whether the platform has a special text form for the type: dates by the user's settings, exact
+// numbers with all their digits.
 bool HasTextOfItsOwn(VARTYPE type) {
     switch (type & ~VT_BYREF) {
         case VT_DATE:
@@ -179,7 +179,7 @@ struct IntoVariant {
     void operator()(const ObjectRef& object) const { SetObject(object, variant); }
 };
 
-// Copies a VARIANT of just the type that is referred to.
+// Copies a VARIANT whose type is exactly the referenced type.
 void AssignSame(const VARIANT& value, const VARIANT& reference) {
     switch (value.vt) {
         case VT_BOOL:

@@ -1,4 +1,4 @@
-// Values as automation clients pass them.
+// Conversion between values and the VARIANTs of automation clients.
 #pragma once
 
 #include "frame/automation/value.h"
@@ -7,7 +7,7 @@
 
 namespace lumenkit::ole {
 
-/// A VARIANT that is cleared when it goes.
+/// A VARIANT that is cleared when it is destroyed.
 class Variant {
  public:
     Variant() { VariantInit(&variant_); }
@@ -23,24 +23,23 @@ class Variant {
     VARIANT variant_ = {};
 };
 
-/// The type as which automation passes a ValueType.
+/// Returns the type in which automation passes a ValueType.
 VARTYPE VarTypeOf(ValueType type);
 
-/// What a VARIANT of any type holds; references are followed. Raises 13 where there is no such
-/// value (arrays, records, errors), 6 for a number beyond double precision.
+/// Returns the value of a VARIANT of any type; references are followed. Raises 13 if there is no
+/// such value (arrays, records, errors), and 6 for a number beyond double precision.
 Value FromVariant(const VARIANT& variant);
-/// The same where a value of the type `wanted` is asked for: converted, with the errors that the
-/// conversions of Value raise.
+/// Returns the value converted to the type `wanted`. Raises the errors of the conversions of Value.
 Value FromVariant(const VARIANT& variant, ValueType wanted);
 
-/// `value` in the form of `type`.
+/// Converts `value` to `type`.
 Value Convert(const Value& value, ValueType type);
 
-/// Makes a VARIANT in memory that holds none yet. Raises 13 for an object that has no COM face.
+/// Initialises a VARIANT in raw memory. Raises 13 for an object without a COM interface.
 void ToVariant(const Value& value, VARIANT& variant);
 
-/// Assigns to what a by-reference VARIANT refers to, in that type; what does not convert, and a
-/// VARIANT that is no reference, stays as it is.
+/// Assigns to the target of a by-reference VARIANT, in the type of the target. A value that cannot
+/// be converted, or a VARIANT that is not a reference, leaves it unchanged.
 void AssignReference(const Value& value, const VARIANT& reference);
 
 }  // namespace lumenkit::ole

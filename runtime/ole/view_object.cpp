@@ -12,7 +12,7 @@ void CheckAspect(DWORD aspect) {
     }
 }
 
-// There is only the whole.
+// Only the whole control can be drawn.
 void CheckIndex(LONG index) {
     if (index != -1 && index != 0) {
         throw ComError(DV_E_LINDEX);
@@ -125,7 +125,7 @@ HRESULT ViewObject::GetNaturalExtent(DWORD aspect, LONG index, DVTARGETDEVICE* /
         Checked(information);
         CheckAspect(aspect);
         CheckIndex(index);
-        return E_NOTIMPL;  // any size is as natural as another
+        return E_NOTIMPL;  // no size is more natural than another
     });
 }
 

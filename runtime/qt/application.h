@@ -5,8 +5,8 @@
 
 namespace lumenkit::qt {
 
-/// The component is linked into the program, so it has no file of its own: its name is the class
-/// table's library.
+/// The application object. The component is linked into the program and has no separate file, so
+/// its name is the library name of the class table.
 class Application final : public host::Application {
  public:
     explicit Application(const ClassTable& classes) : exeName_(classes.libraryName) {}

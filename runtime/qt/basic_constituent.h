@@ -1,4 +1,4 @@
-// The parts of the constituents' interfaces that all kinds fulfil alike.
+// Base classes that implement the parts of the constituent interfaces common to all kinds.
 #pragma once
 
 #include <memory>
@@ -43,7 +43,7 @@ class BasicTextConstituent : public BasicConstituent<Interface> {
               std::make_shared<Font>(design.fontName, design.fontSize), [this] { ApplyFont(); },
               this->Errors()) {}
 
-    /// The font is another one, or has other attributes.
+    /// Called when the font is replaced or one of its attributes changes.
     virtual void ApplyFont() {
         if (QWidget* widget = this->Widget()) {
             widget->setFont(CurrentFace().WidgetFont());

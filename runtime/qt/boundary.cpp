@@ -17,7 +17,7 @@ void Causing::Finish() const {
 
 namespace {
 
-// In a catch block. The sink's own errors have nowhere left to go.
+// Must be called in a catch block. Errors that the sink itself raises are dropped.
 void Report(const ErrorSink& sink) noexcept {
     try {
         if (sink) {

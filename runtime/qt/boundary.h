@@ -1,5 +1,5 @@
-// Where the runtime's own code and Qt meet. Exceptions must not pass through Qt's frames, and what
-// runs inside an event may destroy what the event was for.
+// The boundary between the runtime and Qt. Exceptions must not pass through Qt's frames, and a
+// handler that runs inside an event may destroy the receiver of the event.
 #pragma once
 
 #include <QObject>
@@ -11,10 +11,10 @@
 
 namespace lumenkit::qt {
 
-/// What becomes of an error that leaves a handler of an event: nobody called, so nobody catches it.
+/// Receives an error that leaves an event handler. No caller of such a handler could catch it.
 using ErrorSink = std::function<void(const RuntimeError&)>;
 
-/// Whether code that notifications call is running: widgets must not be deleted meanwhile.
+/// Marks that a notification is running. Widgets must not be deleted meanwhile.
 class Notifying {
  public:
     Notifying() { ++depth; }
@@ -25,12 +25,12 @@ class Notifying {
     static bool Anywhere() { return depth > 0; }
 
  private:
-    // NOLINTNEXTLINE(cppcoreguidelines-avoid-non-const-global-variables): of the one thread
+    // NOLINTNEXTLINE(cppcoreguidelines-avoid-non-const-global-variables): used by one thread only
     static int depth;
 };
 
-/// Gathers the errors of notifications that Qt delivers while code of ours makes it do something,
-/// so that they reach whoever caused them.
+/// Collects the errors of notifications that Qt delivers while the runtime calls Qt, so that the
+/// caller receives them.
 class Causing {
  public:
     Causing() : outer_(std::exchange(current, this)) {}
@@ -38,19 +38,19 @@ class Causing {
     Causing(const Causing&) = delete;
     Causing& operator=(const Causing&) = delete;
 
-    /// Raises the first error that was gathered.
+    /// Raises the first error that was collected.
     void Finish() const;
 
  private:
     friend void RunHandler(const ErrorSink& sink, const std::function<void()>& handler);
-    // NOLINTNEXTLINE(cppcoreguidelines-avoid-non-const-global-variables): of the one thread
+    // NOLINTNEXTLINE(cppcoreguidelines-avoid-non-const-global-variables): used by one thread only
     static Causing* current;
 
     Causing* outer_;
     std::exception_ptr first_;
 };
 
-/// Runs `action`, which has Qt do something, and raises what notifications on the way raised.
+/// Runs `action`, which calls Qt, and raises the first error that a notification raised meanwhile.
 template <typename Action>
 void Cause(Action&& action) {
     const Notifying notifying;
@@ -61,14 +61,15 @@ void Cause(Action&& action) {
 
 void RunHandler(const ErrorSink& sink, const std::function<void()>& handler);
 
-/// Runs the handler of an event that Qt delivers. Nothing that it throws leaves: errors go to
-/// whoever caused the event, else to `sink`.
+/// Runs the handler of an event that Qt delivers. No exception leaves: an error goes to the Cause
+/// call that led to the event, or to `sink` if there is none.
 template <typename Handler>
 void HandleEvent(const ErrorSink& sink, const Handler& handler) {
-    RunHandler(sink, std::cref(handler));  // a function that takes no memory
+    RunHandler(sink, std::cref(handler));  // with std::cref the std::function allocates no memory
 }
 
-/// Deletes `object`, later where a notification may still be under way in it. Null is allowed.
+/// Deletes `object`. While a notification is running, the deletion is deferred. `object` may be
+/// null.
 void DeleteSafely(QObject* object);
 
 }  // namespace lumenkit::qt

@@ -8,7 +8,7 @@
 
 namespace lumenkit::qt {
 
-// Its state is what it is told; the user's clicks ask for another one.
+// A check box whose state is set by code only. A click of the user calls `clicked_`.
 class CheckBoxWidget final : public QCheckBox {
  public:
     using QCheckBox::QCheckBox;

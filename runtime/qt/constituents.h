@@ -11,12 +11,12 @@ namespace lumenkit::qt {
 
 class Element;
 
-/// Makes the constituents of one control or page: widgets that lie on its area.
+/// Creates the constituents of one control or page as widgets on its drawing area.
 class Constituents final : public host::Constituents {
  public:
-    /// `area` is the drawing area of the control, or the page. `userMode` is what embedded controls
-    /// are told; where it is false no constituent takes the keyboard. All must outlive the
-    /// constituents, and this object too.
+    /// `area` is the drawing area of the control, or the page. `userMode` is reported to embedded
+    /// controls; where it is false, no constituent takes the keyboard focus. The arguments and this
+    /// object must outlive the constituents.
     Constituents(const Context& context, QWidget& area, bool userMode)
         : context_(context), area_(area), userMode_(userMode) {}
 
@@ -41,21 +41,21 @@ class Constituents final : public host::Constituents {
     const Context& GetContext() const { return context_; }
     QWidget& Area() const { return area_; }
     bool UserMode() const { return userMode_; }
-    /// Those that exist, in the order in which they were made.
+    /// The existing constituents in the order of their creation.
     const std::list<Element*>& All() const { return elements_; }
-    /// The constituent with this name, and index in a control array, without regard to case; null
-    /// when there is none.
+    /// Returns the constituent with this name and this index in a control array (-1 outside of
+    /// one), or null if there is none. The case of the name does not matter.
     Element* Find(TextView name, std::int16_t index = -1) const;
 
-    /// From now on none of them notifies anything: their control is about to end.
+    /// Stops the notifications of all constituents. Called before their control is destroyed.
     void Disconnect();
-    /// The palette of the area has other colours.
+    /// Called when the colours of the area's palette changed.
     void ApplyColors();
 
-    /// Lets a label that was made just before `element` name it.
+    /// Makes `element` the buddy of a label that was created just before it.
     void Name(const Element& element) const;
 
-    // For the elements, as they come and go.
+    // Called by the elements when they are created and destroyed.
     std::list<Element*>::iterator Register(Element& element);
     void Unregister(std::list<Element*>::iterator position) { elements_.erase(position); }
 

@@ -7,13 +7,14 @@
 
 namespace lumenkit::qt {
 
-/// What all controls and pages of one program share. It, and everything that it refers to, must
-/// outlive them.
+/// The objects that all controls and pages of one program share. The context and everything that it
+/// refers to must outlive them.
 struct Context {
-    const ClassTable& classes;  ///< those that may be embedded
+    const ClassTable& classes;  ///< the classes that may be embedded
     host::Application& application;
     host::Interaction& interaction;
-    /// Hears of errors that leave handlers of events, as those of a page do. Empty: they are lost.
+    /// Receives the errors that leave event handlers, such as those of a page. If empty, the errors
+    /// are dropped.
     ErrorSink errors = {};
 };
 

@@ -49,7 +49,7 @@ ControlWidget::ControlWidget(const Context& context, const ClassDescriptor& type
 ControlWidget::~ControlWidget() {
     surface_.SetControl(nullptr);
     constituents_.Disconnect();
-    QWidget::setVisible(false);  // at once, not constituent by constituent
+    QWidget::setVisible(false);  // hides all constituents in one step
 }
 
 void ControlWidget::StartNew() {
@@ -128,7 +128,7 @@ int ControlWidget::BorderPixels(std::int16_t style) const {
 void ControlWidget::resizeEvent(QResizeEvent* /*event*/) {
     LayOutArea();
     if (size() == ToPixels(Place()).size()) {
-        return;  // it follows the placement
+        return;  // the placement set this size
     }
     const TwipsPerPixel& twips = TwipsPerPixel::OfScreens();
     HandleEvent(context_.errors, [&] {

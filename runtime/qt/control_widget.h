@@ -14,53 +14,57 @@
 
 namespace lumenkit::qt {
 
-/// What a control needs of the form that it lies on. It must outlive the control's widget.
+/// The services that a control needs from its form. The site must outlive the control's widget.
 class ControlSite {
  public:
     virtual ~ControlSite() = default;
 
     virtual host::Container& GetContainer() = 0;
     virtual host::Ambient& GetAmbient() = 0;
-    /// The control has another place or size, by whomever, or was shown or hidden by a program.
+    /// Called after the control was moved or resized, by code or by the user, and after code showed
+    /// or hid it.
     virtual void PlacementChanged() {}
 };
 
-/// How a control is placed. Lengths are in twips.
+/// The initial placement of a control. Lengths are in twips.
 struct Placing {
     TextView name = {};
     host::Placement placement = {.width = 3000, .height = 1500};
     TextView tag = {};
-    bool visible = true;  ///< whether it is shown once it is started
+    bool visible = true;  ///< whether the control is shown when it is started
 };
 
-/// One control on a form: its widget, border and constituents, and the container's side of its
-/// life. Where the ambient's UserMode is false, neither mouse nor keyboard reaches the control:
-/// what is clicked is the widget that it lies on.
+/// One control on a form: its widget, its border, its constituents, and the container's side of its
+/// life cycle. Where the ambient property UserMode is false, the control receives neither mouse nor
+/// keyboard input; clicks go to the parent widget.
 ///
-/// Its place on its parent widget is kept in twips as it was set; a size that layouts or the mouse
-/// give it in pixels is taken over. Errors of the control's own procedures stay in it. Inside the
-/// control's own notifications it is destroyed by deleteLater.
+/// The position on the parent widget and the size are kept in twips as they were set. If a layout
+/// or the user changes them in pixels, the new values are taken over. The control handles the
+/// errors of its own procedures. Inside a notification of the control, the widget must be destroyed
+/// with deleteLater.
 class ControlWidget final : public QWidget, private SurfaceOwner {
  public:
-    /// Creates the control and runs UserControl_Initialize. Raises 429 for a class that is no
-    /// control, 380 for a negative width or height.
+    /// Creates the control and runs UserControl_Initialize. Raises 429 for a class that is not a
+    /// control and 380 for a negative width or height.
     ControlWidget(const Context& context, const ClassDescriptor& type, ControlSite& site,
                   const Placing& placing, QWidget* parent = nullptr);
     ~ControlWidget() override;
     ControlWidget(const ControlWidget&) = delete;
     ControlWidget& operator=(const ControlWidget&) = delete;
 
-    /// The rest of a new control's start: UserControl_InitProperties, _Resize and, once it is seen
-    /// on the screen, _Show.
+    /// Finishes the start of a new control: runs UserControl_InitProperties, _Resize and, once the
+    /// widget is shown on the screen, _Show.
     void StartNew();
-    /// The same for a saved one, with UserControl_ReadProperties. What the bag raises comes out.
+    /// Does the same for a saved control, with UserControl_ReadProperties. Errors that the bag
+    /// raises reach the caller.
     void StartSaved(host::PropertyBag& bag);
     void Save(host::PropertyBag& bag);
 
     const ClassDescriptor& Type() const { return type_; }
     Control& GetControl() { return *control_; }
     Object& Automation() { return control_->Automation(); }
-    /// The same, to hand on. Not to be used once the widget is gone.
+    /// The same object as a non-owning reference. It must not be used after the widget is
+    /// destroyed.
     ObjectRef SharedAutomation() { return {ObjectRef(), &Automation()}; }
     const ControlHost& Host() const { return host_; }
     Surface& Drawing() { return surface_; }
@@ -72,13 +76,15 @@ class ControlWidget final : public QWidget, private SurfaceOwner {
     const Text& Tag() const { return tag_; }
     void SetTag(TextView tag) { tag_ = tag; }
     host::Placement Place() const;
-    /// UserControl_Resize runs if the size changes. Raises 380 for a negative width or height.
+    /// Moves and resizes the control. UserControl_Resize runs if the size changes. Raises 380 for a
+    /// negative width or height.
     void Move(const host::Placement& placement);
-    /// Whether it is shown as far as its form is.
+    /// Whether the control is set to be shown. It is visible only while its form is.
     bool IsShown() const { return shown_; }
     void SetShown(bool shown);
 
-    /// Gives the keyboard to the first constituent that takes it; false when there is none.
+    /// Gives the keyboard focus to the first constituent that takes it. Returns false if there is
+    /// none.
     bool FocusFirst();
 
  protected:

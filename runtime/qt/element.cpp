@@ -11,7 +11,7 @@ namespace lumenkit::qt {
 
 namespace {
 
-// What can no longer be used keeps no focus, though there be nothing else to take it.
+// Takes the focus from a hidden or disabled widget, even if no other widget can take it.
 void LeaveFocus(QWidget& widget, bool usable) {
     if (!usable && widget.hasFocus()) {
         widget.clearFocus();
@@ -30,7 +30,7 @@ Element::Element(Constituents& owner, const host::Design& design)
 
 Element::~Element() {
     owner_.Unregister(position_);
-    if (widget_ != nullptr) {  // of one that was never completed
+    if (widget_ != nullptr) {  // the derived constructor threw
         widget_->hide();
         DeleteSafely(widget_);
     }
@@ -48,7 +48,7 @@ QWidget& Element::ParentFor(const Constituents& owner, const host::Design& desig
 }
 
 void Element::AdoptHidden(std::unique_ptr<QWidget> widget) {
-    widget_ = widget.release();  // owned by its parent widget from here on
+    widget_ = widget.release();  // its parent widget owns it from here on
     if (!owner_.UserMode()) {
         widget_->setFocusPolicy(Qt::NoFocus);
     }

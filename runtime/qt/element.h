@@ -13,8 +13,8 @@
 
 namespace lumenkit::qt {
 
-/// What the runtime keeps of a constituent, whatever its kind: its widget, and its place in twips
-/// as it was set.
+/// The state that the runtime keeps for a constituent of any kind: its widget, and its placement in
+/// twips as it was set.
 class Element {
  public:
     virtual ~Element();
@@ -23,25 +23,25 @@ class Element {
 
     const Text& Name() const { return name_; }
     std::int16_t Index() const { return index_; }  ///< in a control array, else -1
-    /// Null once somebody destroyed it under us.
+    /// Null after other code has destroyed the widget.
     QWidget* Widget() const { return widget_; }
-    /// Where constituents lie whose parent this is.
+    /// The parent widget for constituents inside this one.
     virtual QWidget& Inside() const { return *widget_; }
-    /// The palette has other colours.
+    /// Called when the colours of the palette changed.
     virtual void ApplyColors() {}
-    /// From now on the widget notifies nothing: its receiver goes away, or the element itself,
-    /// whose widget may be deleted a little later.
+    /// Stops the notifications of the widget. Called when their receiver or the element itself is
+    /// destroyed; the widget may be deleted a little later.
     virtual void Disconnect() {}
 
  protected:
     Element(Constituents& owner, const host::Design& design);
 
-    /// The widget on which one of this design lies. Throws std::logic_error for a parent of another
-    /// runtime.
+    /// Returns the parent widget for a constituent with this design. Throws std::logic_error for a
+    /// parent of another runtime.
     static QWidget& ParentFor(const Constituents& owner, const host::Design& design);
-    /// Takes the widget over, behind its siblings, placed and shown as designed.
+    /// Takes over the widget, puts it behind its siblings, and places and shows it as designed.
     void Adopt(std::unique_ptr<QWidget> widget);
-    /// The same for one that is placed and shown by other means.
+    /// Does the same without placing or showing the widget.
     void AdoptHidden(std::unique_ptr<QWidget> widget);
     void Release();
 

@@ -2,7 +2,7 @@
 
 namespace lumenkit::qt {
 
-// What the control around it is to an embedded one.
+// The site, container and ambient of an embedded control, on behalf of the control around it.
 class EmbeddedControl::Surroundings final : public ControlSite,
                                             private host::Container,
                                             private host::Ambient {

@@ -7,7 +7,8 @@
 
 namespace lumenkit::qt {
 
-/// A control that lies on another one or on a page. That one is its container, and does not listen.
+/// A control on another control or on a page. The outer control or page is its container and
+/// ignores its notifications.
 class EmbeddedControl final : public BasicConstituent<host::EmbeddedControl> {
  public:
     EmbeddedControl(Constituents& owner, const host::Design& design, const ClassDescriptor& type);
@@ -15,7 +16,7 @@ class EmbeddedControl final : public BasicConstituent<host::EmbeddedControl> {
     EmbeddedControl(const EmbeddedControl&) = delete;
     EmbeddedControl& operator=(const EmbeddedControl&) = delete;
 
-    /// The control itself is resized with it.
+    /// Moves and resizes the embedded control too.
     void Move(const host::Placement& placement) override;
     void SetVisible(bool visible) override;
     void Refresh() override;

@@ -25,12 +25,12 @@ bool IsBetween(char16_t unit, char16_t first, char16_t last) {
     return unit >= first && unit <= last;
 }
 
-// Whether nothing is drawn for the unit, so that a blank stands in for it.
+// Whether nothing is drawn for the unit. A blank takes its place.
 bool IsUndrawn(char16_t unit) {
     return unit < blank || IsBetween(unit, 0x7F, 0x9F) || IsBetween(unit, 0x2028, 0x2029);
 }
 
-// Whether the unit's advance is the same in whatever word it stands.
+// Whether the advance of the unit is the same in every word.
 bool IsSimple(char16_t unit) {
     return unit < 0x300 ? unit != 0xAD
                         : IsBetween(unit, 0x370, 0x482) || IsBetween(unit, 0x48A, 0x52F);
@@ -108,7 +108,7 @@ Face::Face(const FontAttributes& attributes, double scale)
     lineHeight_ = ascent_ + wholePixels(metrics.descent());
     advances_.fill(-1);
     glyphs_.fill(unknownGlyph);
-    // Measuring needs everything else.
+    // AddsUp reads the other members.
     // NOLINTNEXTLINE(cppcoreguidelines-prefer-member-initializer)
     trustsTable_ = AddsUp(sample);
     glyphFont_ = QRawFont::fromFont(simple_);
@@ -118,7 +118,7 @@ Face::Face(const FontAttributes& attributes, double scale)
     }
 }
 
-// Whether Qt's own measure of a whole text is what the single advances make.
+// Whether the single advances add up to the width that Qt measures for a whole text.
 bool Face::AddsUp(TextView text) {
     double sum = 0;
     for (const char16_t unit : text) {
@@ -136,7 +136,7 @@ double Face::AdvanceOf(char16_t unit) {
     return advance;
 }
 
-// 0 where the font needs another one for the unit.
+// Returns 0 if the glyph of the unit comes from another font.
 std::uint32_t Face::GlyphOf(char16_t unit) {
     const char16_t drawn = IsUndrawn(unit) ? blank : unit;
     std::uint32_t& glyph = glyphs_[drawn];
@@ -150,7 +150,7 @@ std::uint32_t Face::GlyphOf(char16_t unit) {
     return glyph;
 }
 
-// Whether the single glyphs are what a layout makes of a whole text: font, glyphs and places.
+// Whether the single glyphs equal Qt's layout of the whole text: font, glyphs and positions.
 bool Face::HasGlyphsOfLayout(TextView text) {
     const std::optional<GlyphLine> own = FromTable(text);
     const GlyphLine laidOut = LaidOut(text);
@@ -188,7 +188,7 @@ const Face::WordEnds& Face::Measured(TextView word) {
     return ends;
 }
 
-// Tells `take` of each unit's end in turn.
+// Calls `take` with the end of each unit in turn.
 template <typename Take>
 void Face::WalkWords(TextView text, Take&& take) {
     double x = 0;
@@ -214,8 +214,8 @@ void Face::WalkWords(TextView text, Take&& take) {
     }
 }
 
-// The same for a text of nothing but simple characters that were measured before; false where
-// there are others, and `take` has been told of some ends for nothing.
+// Does the same for a text of simple characters that were all measured before. Returns false for
+// any other text; `take` may have been called for some of its units by then.
 template <typename Take>
 bool Face::WalkKnown(TextView text, Take&& take) const {
     if (!trustsTable_) {
@@ -291,7 +291,7 @@ GlyphLine Face::LaidOut(TextView text) const {
     LayOut(layout);
     const QTextLine line = layout.lineAt(0);
     GlyphLine glyphs{.runs = layout.glyphRuns()};
-    // From the line's top to its base line.
+    // Move the origin from the top of the line to its baseline.
     for (QGlyphRun& run : glyphs.runs) {
         QList<QPointF> positions = run.positions();
         for (QPointF& position : positions) {

@@ -17,7 +17,7 @@
 
 namespace lumenkit::qt {
 
-/// What makes a font, as the controls see it.
+/// The attributes that define a font for the controls.
 struct FontAttributes {
     static constexpr std::int16_t regularWeight = 400;
     static constexpr std::int16_t boldWeight = 700;
@@ -34,43 +34,44 @@ struct FontAttributes {
     friend bool operator==(const FontAttributes&, const FontAttributes&) = default;
 };
 
-/// Glyphs of one line of text, placed with the left end of the base line at the origin. Pixels.
+/// The glyphs of one line of text, in pixels. The origin is the left end of the baseline.
 struct GlyphLine {
     QList<QGlyphRun> runs;
 };
 
-/// A font ready to measure and draw with at one scale of the screen. Lengths are in pixels. Its
-/// size is the nearest whole number of them.
+/// A font prepared for measuring and drawing at one scale of the screen. Lengths are in pixels. The
+/// font size is rounded to whole pixels.
 ///
-/// A text is measured word by word, so that widths add up at blanks: words of simple characters by
-/// their single advances, as there is neither kerning nor joining in them, all others as Qt shapes
-/// them. Texts of simple characters that the font has itself are drawn by their single glyphs, too,
-/// where that is what Qt's own layout makes. Characters without a picture (control characters, line
-/// separators) count as blanks.
+/// A text is measured word by word, so that widths add up at blanks. A word of simple characters
+/// has neither kerning nor joined letters and is measured by the advances of its characters. Qt
+/// shapes and measures all other words. A text of simple characters that the font contains is drawn
+/// by single glyphs, provided that Qt's own layout produces the same glyphs. Characters without a
+/// glyph (control characters, line separators) count as blanks.
 class Face {
  public:
-    /// One face for all who ask for the same; `scale` is the number of real pixels in a pixel.
+    /// Returns one shared face for equal arguments. `scale` is the number of device pixels per
+    /// pixel.
     static std::shared_ptr<Face> For(const FontAttributes& attributes, double scale);
 
-    /// Use For.
+    /// Use For instead.
     Face(const FontAttributes& attributes, double scale);
 
     bool IsFor(const FontAttributes& attributes, double scale) const {
         return scale == scale_ && attributes == attributes_;
     }
-    /// The font for widgets that draw texts by themselves.
+    /// The font for widgets that draw text themselves.
     const QFont& WidgetFont() const { return shaped_; }
 
     double WidthOf(TextView text);
-    /// Puts the width of the first i + 1 units, times `factor`, into ends[i].
+    /// Stores the width of the first i + 1 units, times `factor`, in ends[i].
     void Ends(TextView text, double factor, std::span<double> ends);
-    /// Whole real pixels.
+    /// A whole number of device pixels, as is Ascent.
     double LineHeight() const { return lineHeight_; }
     double Ascent() const { return ascent_; }
     GlyphLine GlyphsOf(TextView text);
 
  private:
-    // A word that Qt has measured: the width of its first i + 1 units.
+    // The measures of a word: element i is the width of its first i + 1 units.
     using WordEnds = std::vector<double>;
 
     static constexpr std::size_t tableSize = 0x530;  // Latin, Greek, Cyrillic
@@ -95,7 +96,7 @@ class Face {
     double ascent_ = 0;
     double lineHeight_ = 0;
     bool trustsTable_ = true;
-    std::array<double, tableSize> advances_{};  // negative: not known yet
+    std::array<double, tableSize> advances_{};  // negative: not measured yet
     QRawFont glyphFont_;                        // invalid: glyphs are not taken from the table
     std::array<std::uint32_t, tableSize> glyphs_{};
     std::unordered_map<Text, WordEnds> words_;

@@ -35,13 +35,13 @@ void Font::Put(T& attribute, T value) {
     std::swap(attribute, value);
     face_.reset();
     try {
-        // Listeners may come and go meanwhile.
+        // Listeners may be added or removed during the loop.
         // NOLINTNEXTLINE(modernize-loop-convert)
         for (std::size_t index = 0; index < listeners_.size(); ++index) {
             listeners_[index]->AttributesSet();
         }
     } catch (...) {
-        std::swap(attribute, value);  // lest one that was not told never hears of it
+        std::swap(attribute, value);  // not all listeners know the new value
         throw;
     }
 }

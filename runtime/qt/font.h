@@ -12,19 +12,19 @@
 
 namespace lumenkit::qt {
 
-/// Told when an attribute of a font that it listens to has been set to another value.
+/// Notified when an attribute of a font that it listens to is set to another value.
 class FontListener {
  public:
     virtual ~FontListener() = default;
     virtual void AttributesSet() = 0;
 };
 
-/// The font object of this runtime. It keeps the name it was given, whatever is drawn in its place,
-/// and sizes to four decimal places; one that is not above 0 then, or above 2160 points, raises
-/// 380. Belongs to the user-interface thread.
+/// The font object of this runtime. It keeps the name that it was given, whichever family is drawn
+/// instead. Sizes are rounded to four decimal places; a rounded size that is not above 0, or is
+/// above 2160 points, raises 380. Used on the user-interface thread only.
 class Font final : public host::Font {
  public:
-    /// Regular weight. Raises 380 as SetSize does.
+    /// Creates a font of regular weight. Raises 380 like SetSize.
     Font(TextView name, float points);
 
     Text Name() const override { return now_.name; }
@@ -44,18 +44,20 @@ class Font final : public host::Font {
     std::int16_t Charset() const override { return now_.charset; }
     void SetCharset(std::int16_t charset) override;
 
-    /// A font of its own with the same attributes.
+    /// Returns a separate font with the same attributes.
     std::shared_ptr<Font> Clone() const;
 
     const FontAttributes& Now() const { return now_; }
-    /// What to measure and draw with; see Face::For.
+    /// Returns the face for measuring and drawing; see Face::For.
     const std::shared_ptr<Face>& FaceAt(double scale) const;
 
-    /// The listener is told until it is removed; it must be, before it dies.
+    /// Notifies the listener until it is removed. A listener must be removed before it is
+    /// destroyed.
     void Add(FontListener& listener);
     void Remove(FontListener& listener);
 
-    /// The font as one of this runtime. Raises 91 for nothing and 13 for a font of another runtime.
+    /// Returns `font` as a font of this runtime. Raises 91 for a null font and 13 for a font of
+    /// another runtime.
     static std::shared_ptr<Font> From(host::FontRef font);
 
  private:
@@ -68,24 +70,24 @@ class Font final : public host::Font {
     mutable std::vector<std::shared_ptr<Face>> recent_;
 };
 
-/// What a surface or constituent holds its font by. While a caption is drawn a font changes many
-/// times and back again; `changed` is therefore called later, from the event loop, and only if the
-/// font is no longer what was shown last.
+/// Holds the font of a surface or constituent. While a caption is drawn, a font may change many
+/// times and back again. Therefore `changed` is called later, from the event loop, and only if the
+/// font differs from the one that was shown last.
 class HeldFont final : private FontListener {
  public:
-    /// What `changed` raises from the event loop goes to `errors`.
+    /// Errors that `changed` raises from the event loop go to `errors`.
     HeldFont(std::shared_ptr<Font> font, std::function<void()> changed, ErrorSink errors);
     ~HeldFont() override;
     HeldFont(const HeldFont&) = delete;
     HeldFont& operator=(const HeldFont&) = delete;
 
-    /// Holds another font and calls `changed`. Raises 91 for nothing, 13 for a font of another
-    /// runtime.
+    /// Holds another font and calls `changed`. Raises 91 for a null font and 13 for a font of
+    /// another runtime.
     void Assign(host::FontRef font);
     const std::shared_ptr<Font>& Get() const { return font_; }
-    /// Calls `changed` now if it is due.
+    /// Calls `changed` now if a call is due.
     void Flush();
-    /// Whether changes go unnoticed, being the holder's own.
+    /// While muted, changes of the font are ignored: the holder makes them itself.
     void SetMuted(bool muted) { muted_ = muted; }
 
  private:
@@ -97,7 +99,7 @@ class HeldFont final : private FontListener {
     FontAttributes shown_;
     bool muted_ = false;
     bool pending_ = false;
-    QObject context_;  // what is posted to it is dropped with it
+    QObject context_;  // drops the calls posted to it when it is destroyed
 };
 
 }  // namespace lumenkit::qt

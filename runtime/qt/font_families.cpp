@@ -9,7 +9,7 @@ namespace lumenkit::qt {
 namespace {
 
 struct Substitution {
-    std::u16string_view names;        // lower case, with a bar behind each
+    std::u16string_view names;        // in lower case, each followed by a bar
     std::u16string_view substitutes;  // best first
 };
 
@@ -20,7 +20,7 @@ constexpr std::array substitutions = {
                  u"Times New Roman|Liberation Serif|Tinos|FreeSerif|DejaVu Serif"},
     Substitution{u"verdana|tahoma|", u"Tahoma|Liberation Sans|Arimo|DejaVu Sans"},
 };
-// Also for what is no known name.
+// Also used for unknown names.
 constexpr std::u16string_view sansSerif = u"Arial|Liberation Sans|Arimo|FreeSans|DejaVu Sans";
 
 QStringList SubstitutesFor(const QString& asked) {

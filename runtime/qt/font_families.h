@@ -4,8 +4,8 @@
 
 namespace lumenkit::qt {
 
-/// The families to draw with where `asked` is asked for, best first: itself if it is installed and
-/// scales, then what stands for it on other platforms.
+/// Returns the families to draw with if `asked` is requested, best first: the family itself, then
+/// its substitutes, each only if it is installed and scalable. Returns only `asked` if none is.
 QStringList FamiliesFor(const QString& asked);
 
 }  // namespace lumenkit::qt

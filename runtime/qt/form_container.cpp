@@ -27,11 +27,11 @@ void FormContainer::RaiseEvent(std::int32_t event, std::span<Value> arguments) {
         return;
     }
     const std::vector<Value> originals(arguments.begin(), arguments.end());
-    const auto handler = onEvent;  // it may put another in its place
+    const auto handler = onEvent;  // it may assign another handler
     try {
         handler(description->name, arguments);
     } catch (const RuntimeError&) {
-        // The container's own affair.
+        // Errors of the container's handler do not reach the control.
     }
     RestoreTypes(arguments, originals);
 }

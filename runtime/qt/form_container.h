@@ -9,24 +9,25 @@
 
 namespace lumenkit::qt {
 
-/// The container as one control reaches it, for a form to listen to. What is not set does nothing,
-/// and any change is allowed.
+/// The container of one control, for a form to listen to. A callback that is not set does nothing;
+/// without mayPropertyChange every change is allowed.
 class FormContainer final : public host::Container {
  public:
-    /// `events` is the table of the control's class; null: it has none. It must outlive this.
+    /// `events` is the event table of the control's class, or null if the class has no events. It
+    /// must outlive this object.
     explicit FormContainer(const EventTable* events) : events_(events) {}
 
     void PropertyChanged(TextView name) override;
     bool CanPropertyChange(TextView name) override;
-    /// Arguments that come back as another type are converted; one that cannot be keeps its old
-    /// value. Throws std::logic_error for an event that the class does not have and for a wrong
-    /// number of arguments.
+    /// Converts arguments that come back with another type. An argument that cannot be converted
+    /// keeps its old value. Throws std::logic_error for an event that the class does not have and
+    /// for a wrong number of arguments.
     void RaiseEvent(std::int32_t event, std::span<Value> arguments) override;
 
     std::function<void(TextView name)> onPropertyChanged;
     std::function<bool(TextView name)> mayPropertyChange;
-    /// Sees an event by its name and may write to the arguments. Errors of the runtime that it
-    /// raises are its own affair.
+    /// Called with the name of an event. It may write to the arguments. Runtime errors that it
+    /// raises are dropped.
     std::function<void(TextView name, std::span<Value> arguments)> onEvent;
 
  private:

@@ -9,8 +9,8 @@ namespace lumenkit::qt {
 
 class FrameWidget;
 
-/// Has a fixed single border at first; without a border its caption is not seen either. What lies
-/// in it is placed from its outer corner.
+/// A frame, initially with a fixed single border. Without a border the caption is not shown either.
+/// Constituents inside the frame are placed relative to its outer corner.
 class Frame final : public BasicCaptioned<host::Frame> {
  public:
     Frame(Constituents& owner, const host::CaptionDesign& design);

@@ -4,12 +4,12 @@
 
 namespace lumenkit::qt {
 
-/// A group box as classic forms draw it: the caption stands in the border's upper line.
+/// A group box with its caption in the upper line of the border.
 class FrameWidget final : public QGroupBox {
  public:
     using QGroupBox::QGroupBox;
 
-    /// Without a border the caption is not seen either.
+    /// Without a border the caption is not shown either.
     void SetBordered(bool bordered);
 
  protected:

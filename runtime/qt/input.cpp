@@ -31,7 +31,7 @@ constexpr std::array keyCodes = {
     KeyPair{Qt::Key_NumLock, 144}, KeyPair{Qt::Key_ScrollLock, 145},
 };
 
-// Those that a text box acts on though they enter nothing.
+// Keys that a text box handles although they enter no text.
 constexpr std::array editingCodes =
     std::to_array<std::int16_t>({33, 34, 35, 36, 37, 38, 39, 40, 45, 46});
 

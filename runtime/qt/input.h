@@ -1,4 +1,4 @@
-// The mouse and the keyboard as the controls know them.
+// Conversion of Qt's mouse and keyboard events to the arguments of the controls' events.
 #pragma once
 
 #include <QWidget>
@@ -13,16 +13,17 @@ class QMouseEvent;
 
 namespace lumenkit::qt {
 
-/// 1 Shift, 2 Ctrl, 4 Alt.
+/// Returns the sum of 1 for Shift, 2 for Ctrl and 4 for Alt.
 std::int16_t ShiftOf(Qt::KeyboardModifiers modifiers);
 
-/// The place is relative to the widget that the event is for. A movement has all buttons held.
+/// The position is in twips, relative to the widget that receives the event. A mouse move reports
+/// all buttons that are held.
 host::MouseArguments MouseArgumentsOf(const QMouseEvent& event);
 
-/// The platform-independent code of a key, as Windows numbers them; what has none is the packet key
-/// (231).
+/// Returns the key code of a key as Windows numbers them, or the packet key (231) for a key that
+/// has no code.
 std::int16_t KeyCodeOf(const QKeyEvent& event);
-/// The key of a code that moves or edits; 0 for any other.
+/// Returns the Qt key for the code of a moving or editing key, 0 for any other code.
 int EditingKeyOf(std::int16_t keyCode);
 
 void ShowPointer(QWidget& widget, host::MousePointer pointer,

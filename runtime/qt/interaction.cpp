@@ -59,13 +59,13 @@ void DeferringInteraction::Defer(std::function<void(host::Interaction&)> what) {
         QMetaObject::invokeMethod(
             &context_, [this] { SayDeferred(); }, Qt::QueuedConnection);
     } catch (...) {
-        deferred_.clear();  // or none would be said any more
+        deferred_.clear();  // otherwise no later request would be posted
         throw;
     }
 }
 
 void DeferringInteraction::SayDeferred() {
-    // A box lets other events in, which may end the control and this object.
+    // A message box runs an event loop, which may destroy the control and this object.
     host::Interaction& inner = inner_;
     const auto due = std::exchange(deferred_, {});
     for (const auto& said : due) {

@@ -10,19 +10,20 @@
 
 namespace lumenkit::qt {
 
-/// Message boxes of Qt. Without a title a box bears the application's display name.
+/// Shows Qt's message boxes. A box without a title shows the application's display name.
 class Interaction final : public host::Interaction {
  public:
     void Beep() override;
-    /// In front of the active window.
+    /// Shows the box in front of the active window.
     void MsgBox(TextView message, host::MessageStyle style, std::optional<TextView> title) override;
 };
 
-/// Another interaction, as controls reach it. While a control paints no window can be shown: what
-/// it says then is said once the painting is over, and MsgBox returns at once.
+/// Passes the requests of a control on to another interaction. No window can be shown while the
+/// control paints: requests made then are carried out after the painting, and MsgBox returns at
+/// once.
 class DeferringInteraction final : public host::Interaction {
  public:
-    /// `inner` and what `isPainting` looks at must outlive this object.
+    /// `inner` and the state that `isPainting` reads must outlive this object.
     DeferringInteraction(host::Interaction& inner, std::function<bool()> isPainting)
         : inner_(inner), isPainting_(std::move(isPainting)) {}
 
@@ -37,7 +38,7 @@ class DeferringInteraction final : public host::Interaction {
     host::Interaction& inner_;
     std::function<bool()> isPainting_;
     std::vector<std::function<void(host::Interaction&)>> deferred_;
-    QObject context_;  // what is posted to it is dropped with it
+    QObject context_;  // drops the calls posted to it when it is destroyed
 };
 
 }  // namespace lumenkit::qt

@@ -13,7 +13,7 @@ namespace lumenkit::qt {
 
 namespace {
 
-// Whole pixels, so that what is measured is not broken into lines again.
+// Rounds up to whole pixels, so that Qt does not wrap text that was measured to fit.
 float WholeTwips(double pixels, double perPixel) {
     return static_cast<float>(std::ceil(pixels) * perPixel);
 }
@@ -85,7 +85,7 @@ void Label::FitToCaption() {
     const TwipsPerPixel& twips = TwipsPerPixel::OfScreens();
     host::Placement fitting = Where();
     fitting.width = WholeTwips(width, twips.x);
-    // Qt's own lines are whole pixels high.
+    // The lines that Qt lays out are whole pixels high.
     const double height = std::ceil(face.LineHeight()) * static_cast<double>(lines.size());
     fitting.height = WholeTwips(height, twips.y);
     MoveTo(fitting);

@@ -7,9 +7,10 @@ class QLabel;
 
 namespace lumenkit::qt {
 
-/// Where AutoSize is on, a new caption or font gives the label the size of the caption, whose line
-/// breaks are CR LF; a later Move stands until then. A label names the text box that is made next,
-/// and the mnemonic of one leads to whatever is made next and takes the keyboard.
+/// A label. With AutoSize, a new caption or font resizes the label to its caption, whose lines end
+/// in CR LF; until then a Move keeps its effect. A label names the text box that is created next. A
+/// label with a mnemonic leads to any constituent that is created next and takes the keyboard
+/// focus.
 class Label final : public BasicCaptioned<host::Label> {
  public:
     Label(Constituents& owner, const host::CaptionDesign& design);
@@ -25,7 +26,7 @@ class Label final : public BasicCaptioned<host::Label> {
     void SetBackColor(Color color) override;
 
     void ApplyColors() override;
-    /// What the label names from now on.
+    /// Sets the widget that the label names.
     void SetBuddy(QWidget* widget);
     bool HasMnemonicNow() const;
 

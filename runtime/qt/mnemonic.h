@@ -4,7 +4,8 @@
 
 namespace lumenkit::qt {
 
-/// A caption as it reads: without the ampersand that marks a mnemonic, and with one for two.
+/// Returns the caption as it is displayed: without the ampersand that marks a mnemonic, and with
+/// one ampersand for two.
 QString WithoutMnemonic(const QString& caption);
 
 /// Whether a letter of the caption is marked as its mnemonic.

@@ -14,7 +14,8 @@
 
 namespace lumenkit::qt {
 
-// A radio button whose group is not Qt's: it asks to be selected, and to go to a neighbour.
+// A radio button without Qt's grouping. Its callbacks ask the group to select it or to move to a
+// neighbour.
 class OptionWidget final : public QRadioButton {
  public:
     explicit OptionWidget(QWidget* parent) : QRadioButton(parent) { setAutoExclusive(false); }
@@ -54,7 +55,7 @@ class OptionWidget final : public QRadioButton {
             QRadioButton::paintEvent(event);
             return;
         }
-        // The mark at the right edge, the caption still from the left one.
+        // Draw the mark at the right edge and the caption from the left edge.
         constexpr int gap = 4;
         constexpr int flags = Qt::TextShowMnemonic | Qt::AlignLeft | Qt::AlignVCenter;
         QPainter painter(this);
@@ -158,7 +159,7 @@ void OptionButton::ApplyColors() {
     const QPalette& base = Owner().Area().palette();
     if (foreColor_ == Color::ButtonText) {
         if (Button().testAttribute(Qt::WA_SetPalette)) {
-            Button().setPalette({});  // greyed where the palette says so
+            Button().setPalette({});  // the palette greys it when it is disabled
         }
         return;
     }

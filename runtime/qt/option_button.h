@@ -30,11 +30,11 @@ class OptionButton final : public BasicCaptioned<host::OptionButton> {
     void SetForeColor(Color color) override;
 
     void ApplyColors() override;
-    /// The mark alone: no notification.
+    /// Sets the mark only, without a notification.
     void Mark(bool selected);
-    /// Whether the user can go there.
+    /// Whether the user can move the focus to the button.
     bool IsReachable() const { return IsVisible() && IsEnabled(); }
-    /// Whether the Tab key stops here.
+    /// Sets whether the Tab key stops here.
     void SetTabStop(bool stops);
     void Disconnect() override;
 

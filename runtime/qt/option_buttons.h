@@ -10,9 +10,9 @@
 
 namespace lumenkit::qt {
 
-/// The group is the array, hidden elements included. The Tab key stops once, at the selected
-/// element or else the first that can be reached; arrow keys select from one to the next, by index
-/// and around.
+/// An array of option buttons. The whole array is one group, hidden elements included. The Tab key
+/// stops once: at the selected element, or else at the first reachable one. The arrow keys select
+/// the next or previous reachable element by index and wrap around at the ends.
 class OptionButtons final : public host::OptionButtons {
  public:
     OptionButtons(Constituents& owner, const host::OptionButtonDesign& design, host::Frame& frame,
@@ -21,13 +21,15 @@ class OptionButtons final : public host::OptionButtons {
     OptionButton& Item(std::int16_t index) override;
     void Load(std::int16_t index) override;
 
-    // For the elements.
-    /// Selects `button` in place of every other one and notifies the click, if it is not selected.
+    // Used by the elements.
+    /// Selects `button`, clears every other element and notifies the click. Does nothing if
+    /// `button` is already selected.
     void Choose(OptionButton& button);
-    /// To the next element that can be reached (direction 1) or the one before (-1).
+    /// Moves to the next reachable element (direction 1) or to the previous one (-1) and selects
+    /// it.
     void GoFrom(OptionButton& button, int direction);
     void UpdateTabStops();
-    /// The same after a change of nothing but this element.
+    /// Does the same after a change that affects only this element.
     void UpdateTabStops(const OptionButton& changed);
 
  private:
@@ -37,7 +39,7 @@ class OptionButtons final : public host::OptionButtons {
     host::OptionButtonEvents& events_;
     Text name_;
     Text fontName_;
-    host::OptionButtonDesign design_;  // of the elements to load; its texts are the fields above
+    host::OptionButtonDesign design_;  // for new elements; its texts are the members above
     OptionButton* tabStop_ = nullptr;
     std::map<std::int16_t, std::unique_ptr<OptionButton>> buttons_;
 };

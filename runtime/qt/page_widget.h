@@ -14,26 +14,27 @@
 
 namespace lumenkit::qt {
 
-/// One property page, as large as it is laid out for. Errors of the page's procedures come out of
-/// the calls; those of its events go to the context's sink.
+/// One property page in its designed size. Errors of the page's procedures reach the caller; errors
+/// of its event handlers go to the context's sink.
 class PageWidget final : public QWidget {
  public:
-    /// Creates the page and runs PropertyPage_Initialize. Raises 429 for a class that is no page.
+    /// Creates the page and runs PropertyPage_Initialize. Raises 429 for a class that is not a
+    /// page.
     PageWidget(const Context& context, const ClassDescriptor& type, QWidget* parent = nullptr);
     ~PageWidget() override { constituents_.Disconnect(); }
     PageWidget(const PageWidget&) = delete;
     PageWidget& operator=(const PageWidget&) = delete;
 
-    /// The designer has other controls selected; they must live until the next selection.
-    /// PropertyPage_SelectionChanged runs.
+    /// Sets the controls that are selected in the designer and runs PropertyPage_SelectionChanged.
+    /// The controls must live until the next selection.
     void Select(std::vector<ObjectRef> controls);
-    /// PropertyPage_ApplyChanges runs. Leaves the Changed flag alone.
+    /// Runs PropertyPage_ApplyChanges. Does not change the Changed flag.
     void Apply();
 
-    /// Whether the page holds what has not been applied.
+    /// Whether the page holds changes that have not been applied.
     bool Changed() const { return site_.changed; }
     void SetChanged(bool changed) { site_.SetChanged(changed); }
-    /// Called whenever the flag takes another value.
+    /// Sets the function that is called whenever the flag takes another value.
     void OnChanged(std::function<void(bool)> listener) { site_.listener = std::move(listener); }
 
     Object& Automation() { return page_->Automation(); }

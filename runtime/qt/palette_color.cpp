@@ -13,7 +13,7 @@ struct SystemColor {
     QPalette::ColorGroup group = QPalette::Current;
 };
 
-// By number, from the scroll bar's colour on.
+// Indexed by the number of the system colour; 0 is the scroll bar.
 constexpr std::array systemColors = {
     SystemColor{QPalette::Mid},                             // scroll bar
     SystemColor{QPalette::Dark},                            // desktop

@@ -7,9 +7,9 @@
 
 namespace lumenkit::qt {
 
-/// A colour of the controls as the palette shows it. Button face and text are the palette's window
-/// colours: forms and what lies on them have one background. A system colour that the palette has
-/// nothing for is its text colour.
+/// Returns the colour that the palette shows for a colour of the controls. Button face and button
+/// text are the palette's window colours, so that a form and its controls have one background. A
+/// system colour without a counterpart in the palette becomes the window text colour.
 QColor ToQColor(Color color, const QPalette& palette);
 
 }  // namespace lumenkit::qt

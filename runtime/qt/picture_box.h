@@ -5,7 +5,8 @@
 
 namespace lumenkit::qt {
 
-/// Its border is the style's frame. What lies in it is clipped there.
+/// A picture box whose border is the frame of the style. Constituents inside it are clipped at the
+/// border.
 class PictureBox final : public BasicConstituent<host::PictureBox> {
  public:
     PictureBox(Constituents& owner, const host::Design& design);

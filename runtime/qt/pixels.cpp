@@ -31,7 +31,7 @@ const TwipsPerPixel& TwipsPerPixel::OfScreens() {
 }
 
 int ToPixels(double twips, double twipsPerPixel) {
-    constexpr double farthest = 1 << 23;  // beyond what widgets take
+    constexpr double farthest = 1 << 23;  // beyond the range of widget coordinates
     return static_cast<int>(std::round(std::clamp(twips / twipsPerPixel, -farthest, farthest)));
 }
 

@@ -1,5 +1,5 @@
-// Twips (1/1440 inch) and pixels. A pixel here is Qt's, independent of the device: on a screen that
-// is scaled, it covers a square of real pixels, in number not always whole.
+// Conversion between twips (1/1440 inch) and pixels. A pixel here is Qt's device-independent pixel.
+// On a scaled screen it covers a square of device pixels, whose side need not be a whole number.
 #pragma once
 
 #include <QRect>
@@ -8,20 +8,20 @@
 
 namespace lumenkit::qt {
 
-/// Twips in one pixel, each way. The numbers have few enough binary digits for products with text
-/// widths to be exact.
+/// Twips per pixel in each direction. The numbers have few binary digits, so that products with
+/// text widths are exact.
 struct TwipsPerPixel {
     double x = 15;
     double y = 15;
 
-    /// By the logical resolution of the primary screen, which is the one of all fonts.
+    /// The values for the logical resolution of the primary screen, which applies to all fonts.
     static const TwipsPerPixel& OfScreens();
 };
 
-/// Nearest whole pixel.
+/// Rounds to the nearest whole pixel.
 int ToPixels(double twips, double twipsPerPixel);
 
-/// A placement's edges are rounded each by itself, so that neighbours stay neighbours.
+/// Rounds each edge of the placement separately, so that adjacent placements stay adjacent.
 QRect ToPixels(const host::Placement& placement);
 
 }  // namespace lumenkit::qt

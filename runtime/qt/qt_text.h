@@ -1,4 +1,4 @@
-// Texts of the controls and of Qt: both are UTF-16.
+// Conversion between the texts of the controls and Qt's strings; both are UTF-16.
 #pragma once
 
 #include <QString>
@@ -12,7 +12,7 @@ inline QString ToQString(TextView text) {
     return QStringView(text.data(), static_cast<qsizetype>(text.size())).toString();
 }
 
-/// A view: valid as long as `text` is unchanged.
+/// Returns a view that is valid as long as `text` is unchanged.
 inline TextView ViewOf(const QString& text) {
     return {reinterpret_cast<const char16_t*>(text.utf16()), static_cast<std::size_t>(text.size())};
 }

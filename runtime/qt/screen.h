@@ -10,7 +10,7 @@
 
 namespace lumenkit::qt {
 
-/// The screen on which a widget is, in its real pixels. Half twips are rounded to even.
+/// The screen that shows a widget, in device pixels. Half twips are rounded to even.
 class Screen final : public host::Screen {
  public:
     /// `widget` must outlive the screen.

@@ -11,7 +11,8 @@ namespace lumenkit::qt {
 
 namespace {
 
-// Qt's own bar goes back with the right arrow key and on with the left one.
+// QScrollBar steps back on the right arrow key and forward on the left one. This bar does the
+// opposite.
 class BarWidget final : public QScrollBar {
  public:
     using QScrollBar::QScrollBar;

@@ -9,7 +9,8 @@ class QScrollBar;
 
 namespace lumenkit::qt {
 
-/// At first from 0 to 32767 in steps of 1. While the user drags the thumb every new value notifies.
+/// A scroll bar, initially from 0 to 32767 in steps of 1. Every new value is notified, also while
+/// the user drags the thumb.
 class ScrollBar final : public BasicConstituent<host::ScrollBar> {
  public:
     ScrollBar(Constituents& owner, const host::Design& design, host::Orientation orientation,

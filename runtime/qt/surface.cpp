@@ -49,7 +49,7 @@ QRect Surface::WholeArea() const {
     return {QPoint(0, 0), area_->size()};
 }
 
-// What is drawn on now; null: nothing is.
+// Returns the painter to draw with now, or null if nothing can be drawn.
 QPainter* Surface::Target() {
     if (painter_ != nullptr) {
         return painter_;
@@ -86,7 +86,8 @@ void Surface::Print(TextView text) {
     currentX_ += static_cast<float>(width * Twips().x);
 }
 
-// The run that was printed in this place the last time, if it is the same; else it takes its place.
+// Returns the run that was printed at this place in the last painting, if it is the same. Otherwise
+// the new run replaces it.
 Surface::Run& Surface::NextRun(TextView text, const std::shared_ptr<Face>& face) {
     if (nextRun_ == runs_.size()) {
         runs_.emplace_back();
@@ -104,7 +105,7 @@ void Surface::DrawRun(QPainter& painter, Run& run) {
     const double top = currentY_ / Twips().y;
     const QRectF place(left, top, run.width, run.face->LineHeight());
     const QRectF visible = IsPainting() ? exposed_ : WholeArea();
-    // Letters may reach over their own width, by less than the line's height.
+    // Letters may extend beyond their advance, by less than the height of the line.
     const double reach = run.face->LineHeight();
     if (!place.adjusted(-reach, -reach, reach, reach).intersects(visible)) {
         return;
@@ -138,7 +139,8 @@ void Surface::FillBox(float x1, float y1, float x2, float y2, Color color) {
     if (painter == nullptr) {
         return;
     }
-    // In real pixels from the device's own corner, for that is the grid to fill.
+    // Round in device pixels relative to the origin of the device, because that is the grid to
+    // fill.
     const QTransform& device = painter->deviceTransform();
     const auto cell = [](double twips, double perPixel, double scale, double origin) {
         return std::round(twips / perPixel * scale + std::round(origin));
@@ -156,7 +158,7 @@ void Surface::FillBox(float x1, float y1, float x2, float y2, Color color) {
     Touch(box);
 }
 
-// What was drawn on a kept picture is to be seen.
+// Schedules a repaint after something was drawn on the kept picture.
 void Surface::Touch(const QRectF& pixels) {
     if (painter_ == nullptr) {
         area_->update(pixels.toAlignedRect());
@@ -190,7 +192,7 @@ void Surface::FinishPicture() {
     picturePainter_.reset();
 }
 
-// The picture takes the area's size and keeps what fits.
+// Resizes the picture to the area and keeps the part of the drawing that fits.
 void Surface::FitPicture() {
     if (picture_.isNull()) {
         return;
@@ -226,7 +228,7 @@ void Surface::PaintOn(QPainter& painter, const QRect& exposed) {
     RunPaint(&painter);
 }
 
-// Null: nothing is to be seen, but the control is told.
+// With a null painter nothing is drawn, but UserControl_Paint still runs.
 void Surface::RunPaint(QPainter* painter) {
     if (control_ == nullptr) {
         return;

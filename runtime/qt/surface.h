@@ -20,30 +20,30 @@ namespace lumenkit::qt {
 
 class SurfaceWidget;
 
-/// What lies around a surface: the control's widget, which has the surface's border.
+/// The owner of a surface: the control's widget, which draws the border of the surface.
 class SurfaceOwner {
  public:
     virtual ~SurfaceOwner() = default;
 
     virtual QWidget& Outside() = 0;
-    /// The surface has another size or border; its owner lays it out anew.
+    /// Called when the size or border of the surface changed. The owner lays it out again.
     virtual void SurfaceResized() = 0;
-    /// Twips that the border takes on each side.
+    /// Returns the width of the border on each side, in twips.
     virtual float BorderWidth(std::int16_t style) const = 0;
-    /// The area's palette has other colours.
+    /// Called when the colours of the area's palette changed.
     virtual void PaletteChanged() = 0;
 };
 
-/// The drawing surface of a control. Its size is kept in twips as it was set, whatever whole pixels
-/// it takes on the screen.
+/// The drawing surface of a control. Its size is kept in twips as it was set, however many whole
+/// pixels it takes on the screen.
 ///
-/// Without AutoRedraw only what is drawn during UserControl_Paint is seen: at other times the pen
-/// moves and nothing is drawn. Repainting what was painted before measures and shapes no text anew:
-/// the glyphs of each run are kept, in the order of drawing.
+/// Without AutoRedraw, drawing has an effect only during UserControl_Paint. At other times the pen
+/// moves and nothing is drawn. Repeating the previous painting does not measure or shape its text
+/// again: the glyphs of each run are kept, in the order of drawing.
 class Surface final : public host::Surface {
  public:
-    /// Lengths in twips. `owner` and `errors` must outlive the surface. Raises 380 for a negative
-    /// width or height.
+    /// Lengths are in twips. `owner` and `errors` must outlive the surface. Raises 380 for a
+    /// negative width or height.
     Surface(SurfaceOwner& owner, const ErrorSink& errors, float width, float height);
     ~Surface() override;
     Surface(const Surface&) = delete;
@@ -85,22 +85,23 @@ class Surface final : public host::Surface {
     std::int16_t Pointer() const override { return pointer_; }
     void SetPointer(std::int16_t pointer) override;
 
-    // For the runtime.
+    // Used by the runtime.
     SurfaceWidget& Area() { return *area_; }
-    /// The control that is told to paint and that its size changed; null: none yet.
+    /// Sets the control that is notified of painting and of a changed size. Null: no control yet.
     void SetControl(Control* control) { control_ = control; }
     Control* GetControl() const { return control_; }
     bool IsPainting() const { return painter_ != nullptr; }
-    /// Paints what the area shows, at least `exposed` (pixels of the area).
+    /// Paints the content of the area, at least in `exposed` (pixels of the area).
     void PaintOn(QPainter& painter, const QRect& exposed);
-    /// The texts of the last painting, a line break where they stood lower than those before.
+    /// Returns the texts of the last painting, with a line break where the vertical position
+    /// changed.
     QString PaintedText() const;
-    /// The screen's scale may have changed.
+    /// Called when the scale of the screen may have changed.
     void UpdateScale();
     void PaletteChanged();
 
  private:
-    // One printed text, ready to be drawn once more.
+    // One printed text, kept for drawing it again.
     struct Run {
         Text text;
         std::shared_ptr<Face> face;
@@ -128,7 +129,7 @@ class Surface final : public host::Surface {
     std::unique_ptr<SurfaceWidget> area_;
     HeldFont font_;
     Control* control_ = nullptr;
-    double scale_;  // real pixels in a pixel
+    double scale_;  // device pixels per pixel
     float currentX_ = 0;
     float currentY_ = 0;
     float width_;
@@ -145,7 +146,7 @@ class Surface final : public host::Surface {
 
     QPainter* painter_ = nullptr;  // while painting
     QRect exposed_;
-    std::optional<Color> pen_;  // the target's
+    std::optional<Color> pen_;  // the pen colour of the target
     QImage picture_;
     std::unique_ptr<QPainter> picturePainter_;
     std::vector<Run> runs_;

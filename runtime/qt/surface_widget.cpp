@@ -14,7 +14,7 @@ namespace lumenkit::qt {
 
 namespace {
 
-// A label to screen readers, with the painted text as its name.
+// Presents the surface to screen readers as a label with the painted text as its name.
 class SurfaceAccessible final : public QAccessibleWidget {
  public:
     explicit SurfaceAccessible(SurfaceWidget& area)
@@ -33,7 +33,7 @@ class SurfaceAccessible final : public QAccessibleWidget {
     SurfaceWidget& area_;
 };
 
-// Qt calls this in frames that no exception may pass. What it gets no answer for it describes
+// Qt calls this function, so no exception may leave it. If it returns null, Qt describes the object
 // itself.
 QAccessibleInterface* MakeAccessible(const QString& /*key*/, QObject* object) {
     auto* const area = dynamic_cast<SurfaceWidget*>(object);
@@ -77,7 +77,7 @@ Control* SurfaceWidget::GetControl() const {
 bool SurfaceWidget::event(QEvent* event) {
     const QEvent::Type type = event->type();
     const bool handled = QWidget::event(event);
-    if (type != QEvent::DeferredDelete && surface_ != nullptr) {  // else it is gone itself
+    if (type != QEvent::DeferredDelete && surface_ != nullptr) {  // DeferredDelete destroys this
         switch (type) {
             case QEvent::PaletteChange:
                 surface_->PaletteChanged();

@@ -9,16 +9,16 @@ namespace lumenkit::qt {
 
 class Surface;
 
-/// The drawing area of a control, inside its border: what its constituents lie on, and what the
-/// mouse hits. Screen readers find the painted text in it.
+/// The drawing area of a control, inside its border. It is the parent of the constituents and
+/// receives the mouse events. Screen readers read the painted text from it.
 class SurfaceWidget final : public QWidget {
  public:
     SurfaceWidget(QWidget& outside, Surface& surface, ErrorSink errors);
 
-    /// Where errors go that nobody else hears of.
+    /// Receives the errors that reach no caller.
     const ErrorSink& Errors() const { return errors_; }
 
-    /// The surface goes away.
+    /// Called when the surface is destroyed.
     void Detach();
     QString PaintedText() const;
 

@@ -56,7 +56,7 @@ void TextBox::SetSelection(std::int32_t start, std::int32_t end) {
         Edit().Select({.start = caret, .end = caret});
         return;
     }
-    // The message's numbers are unsigned: what is negative lies beyond the end.
+    // The numbers of the message are unsigned: a negative position is beyond the end.
     const auto placed = [length = Edit().Length()](std::int32_t position) {
         return position < 0 ? length : std::min(position, length);
     };
@@ -71,7 +71,7 @@ void TextBox::SetForeColor(Color color) {
 
 void TextBox::ApplyColors() {
     if (foreColor_ == Color::WindowText) {
-        Edit().setPalette({});  // greyed where the palette says so
+        Edit().setPalette({});  // the palette greys it when it is disabled
         return;
     }
     const QPalette& base = Owner().Area().palette();

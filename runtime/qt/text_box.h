@@ -8,9 +8,9 @@
 
 namespace lumenkit::qt {
 
-/// A text box. Where lines do not scroll sideways they are wrapped. Changes of the text are told of
-/// when what changed it is through. A key's code that a handler replaced by another moving or
-/// editing key's acts as that one.
+/// A text box. A multi-line box wraps its lines unless it has a horizontal scroll bar. A change of
+/// the text is notified after the operation that caused it has ended. If a handler replaces the
+/// code of a key by the code of another moving or editing key, the box acts on that key.
 class TextBox final : public BasicTextConstituent<host::TextBox> {
  public:
     TextBox(Constituents& owner, const host::TextBoxDesign& design, host::TextBoxEvents& events);
@@ -34,7 +34,7 @@ class TextBox final : public BasicTextConstituent<host::TextBox> {
     void SetMaxLength(std::int32_t length) override;
     host::MousePointer Pointer() const override { return pointer_; }
     void SetPointer(host::MousePointer pointer) override;
-    /// The box gets a window of its own when it is first asked for.
+    /// Creates a native window for the box at the first call.
     std::int32_t WindowHandle() const override;
 
     void ApplyColors() override;

@@ -25,7 +25,8 @@ namespace lumenkit::qt {
 
 namespace {
 
-// The text with all its units, for boxes of ours; others read it as plain text.
+// Holds the text with all its units, for text boxes of this library. Other programs read the plain
+// text.
 constexpr QLatin1String exactFormat("application/x-lumenkit-text");
 
 namespace key {
@@ -48,7 +49,7 @@ bool IsPair(char16_t first, char16_t second) {
            (first == u'\r' && second == u'\n');
 }
 
-// The beginning of `text` that has at most `room` units and ends in no pair's middle.
+// Returns the beginning of `text` that has at most `room` units and splits no pair.
 TextView Fitting(TextView text, std::size_t room) {
     if (room >= text.size()) {
         return text;
@@ -61,7 +62,7 @@ TextView FirstLine(TextView text) {
     return text.substr(0, text.find_first_of(crLf));
 }
 
-// Text of another program: whatever breaks its lines is CR LF here.
+// Converts text of another program: every line break becomes CR LF.
 Text WithLineBreaks(const QString& text) {
     QString lines = text;
     lines.replace(QLatin1String("\r\n"), QLatin1String("\n"));
@@ -90,7 +91,8 @@ bool HoldsOnlyControl(const QKeyEvent& event) {
     return held == Qt::ControlModifier;
 }
 
-// What the key enters, in the units that KeyPress is told of; empty for keys that enter nothing.
+// Returns the units that the key enters, as KeyPress receives them; empty for keys that enter
+// nothing.
 Text EnteredBy(const QKeyEvent& event) {
     const bool control = HoldsOnlyControl(event);
     switch (event.key()) {
@@ -158,7 +160,7 @@ std::int32_t TextEdit::ToUnit(int documentPosition) const {
 }
 
 int TextEdit::ToDocumentPosition(std::int32_t unit) const {
-    // The last block that begins at the unit or before it.
+    // Find the last block that begins at or before the unit.
     int first = 0;
     int last = document()->blockCount() - 1;
     while (first < last) {
@@ -171,7 +173,7 @@ int TextEdit::ToDocumentPosition(std::int32_t unit) const {
     }
     const QTextBlock block = document()->findBlockByNumber(first);
     const int end = block.position() + block.length() - 1;
-    return std::min(unit - first, end);  // between CR and LF: before both
+    return std::min(unit - first, end);  // a position between CR and LF maps to the one before both
 }
 
 TextEdit::Selection TextEdit::Selected() const {
@@ -200,9 +202,9 @@ void TextEdit::SetContents(TextView text) {
     if (text == text_) {
         return;
     }
-    text_.reserve(text.size());  // behind the document's change nothing may fail
+    text_.reserve(text.size());  // nothing may fail after the document has changed
     {
-        // Only what differs is laid out anew. No CR LF is cut in two.
+        // Lay out only the part that differs. Do not split a CR LF.
         const auto splits = [](TextView whole, std::size_t at) {
             return at > 0 && at < whole.size() && whole[at - 1] == u'\r' && whole[at] == u'\n';
         };
@@ -245,14 +247,14 @@ void TextEdit::SetContents(TextView text) {
     }
 }
 
-// The user has edited the document: from `from` on there are `added` characters in place of others.
+// Called when the user edited the document: `added` characters at `from` replaced others.
 void TextEdit::FollowDocument(int from, int added) {
     if (isSetting_) {
         return;
     }
     HandleEvent(errors_, [&] {
-        const bool hadLost = std::exchange(hasLost_, true);  // unless it goes well
-        if (depth_ == 0) {                                   // by a menu's command
+        const bool hadLost = std::exchange(hasLost_, true);  // reset on success
+        if (depth_ == 0) {                                   // a menu command, outside of any event
             QMetaObject::invokeMethod(
                 this, [this] { NotifyChange(); }, Qt::QueuedConnection);
         }
@@ -279,13 +281,13 @@ void TextEdit::Follow(int from, int added) {
     cursor.setPosition(std::min(from, characters));
     cursor.setPosition(std::min(from + added, characters), QTextCursor::KeepAnchor);
     const Text read = FromDocument(cursor.selectedText());
-    // Of what is being entered more is known than the document can tell.
+    // Entered text is known more exactly than the document can represent it.
     const bool isEntered = std::ranges::equal(read, entering_, MayBe);
     const TextView inserted = isEntered ? entering_ : TextView(read);
     auto start = static_cast<std::size_t>(ToUnit(cursor.selectionStart()));
     const auto length = static_cast<std::size_t>(characters + document()->blockCount() - 1);
     std::size_t removed = text_.size() + inserted.size() - length;
-    // What is as it was stays as it was.
+    // Skip the units that did not change.
     TextView entered = inserted;
     while (removed > 0 && !entered.empty() && MayBe(entered.front(), text_[start])) {
         entered.remove_prefix(1);
@@ -321,7 +323,7 @@ void TextEdit::TellEvent(Tell&& tell) {
     });
 }
 
-// Whatever an event makes of the text is one change, of which is told once Qt is through with it.
+// All changes that one event makes to the text are notified once, after Qt has handled the event.
 template <typename Handle>
 bool TextEdit::During(Handle&& handle) {
     const Notifying notifying;
@@ -337,12 +339,12 @@ bool TextEdit::event(QEvent* event) {
     if (event->type() == QEvent::ShortcutOverride) {
         const auto& pressed = static_cast<QKeyEvent&>(*event);
         if (HoldsOnlyControl(pressed) && IsLetter(pressed.key())) {
-            event->accept();  // letters with Ctrl are the box's before they are a menu's
+            event->accept();  // the box handles Ctrl+letter before the menu shortcuts
             return true;
         }
     }
     if (event->type() == QEvent::DeferredDelete) {
-        return QPlainTextEdit::event(event);  // there is nothing left behind it
+        return QPlainTextEdit::event(event);  // this object is destroyed
     }
     return During([&] { return QPlainTextEdit::event(event); });
 }
@@ -381,7 +383,7 @@ void TextEdit::Press(QKeyEvent& event) {
     }
 }
 
-// What the handlers make of the units.
+// Returns the units as the KeyPress handlers leave them.
 Text TextEdit::Pressed(TextView units) {
     Text entered;
     for (const char16_t unit : units) {
@@ -453,7 +455,7 @@ void TextEdit::ReplaceSelection(TextView text) {
     setTextCursor(cursor);
 }
 
-// How many units may take the place of the selection.
+// Returns the number of units that may replace the selection.
 std::size_t TextEdit::Room() const {
     if (maxLength_ == 0) {
         return std::numeric_limits<std::size_t>::max();
@@ -473,7 +475,7 @@ void TextEdit::keyReleaseEvent(QKeyEvent* event) {
     QPlainTextEdit::keyReleaseEvent(event);
 }
 
-// What an input method commits is pressed like keys; what it composes is only shown.
+// Text that an input method commits passes through KeyPress; text that it composes is only shown.
 void TextEdit::inputMethodEvent(QInputMethodEvent* event) {
     if (locked_) {
         event->ignore();
@@ -590,7 +592,7 @@ void TextEdit::mouseDoubleClickEvent(QMouseEvent* event) {
     }
 }
 
-// Another window in front, or the box's own menu, does not take the focus from the box.
+// The box does not lose the focus to another window or to its own menu.
 void TextEdit::focusInEvent(QFocusEvent* event) {
     QPlainTextEdit::focusInEvent(event);
     if (!std::exchange(hasFocusNow_, true)) {
@@ -623,7 +625,7 @@ void TextEdit::changeEvent(QEvent* event) {
     }
 }
 
-// A single line stands in the middle.
+// Centres a single line vertically.
 void TextEdit::FitLines() {
     if (multiLine_) {
         return;

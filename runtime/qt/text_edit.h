@@ -12,21 +12,22 @@ class QKeyEvent;
 
 namespace lumenkit::qt {
 
-/// The widget of a text box. The text itself is kept beside Qt's document, which follows it when
-/// code sets it and is followed when the user edits: every edit, however it comes about, reaches
-/// the text by the document's own report of what changed.
+/// The widget of a text box. It keeps the text separately from Qt's document. The document is
+/// updated when code sets the text. The text is updated when the user edits: every edit, whatever
+/// its source, is read from the change report of the document.
 ///
-/// Positions are UTF-16 units of the text, CR LF counted as two.
+/// Positions are in UTF-16 units of the text; CR LF counts as two.
 class TextEdit final : public QPlainTextEdit {
  public:
     TextEdit(QWidget* parent, const host::TextBoxDesign& design, host::TextBoxEvents& events,
              ErrorSink errors);
 
-    /// Notifies nothing any more.
+    /// Stops all notifications.
     void Disconnect() { events_ = nullptr; }
 
     const Text& Contents() const { return text_; }
-    /// Puts the caret before the text and forgets what could be undone. Notifies of a change.
+    /// Sets the text, puts the caret before it, clears the undo steps and notifies a change. Does
+    /// nothing if the text is the same.
     void SetContents(TextView text);
     std::int32_t Length() const;
 
@@ -35,7 +36,7 @@ class TextEdit final : public QPlainTextEdit {
         std::int32_t end = 0;
     };
     Selection Selected() const;
-    /// From 0 to Length, in order.
+    /// Requires 0 <= start <= end <= Length.
     void Select(Selection selection);
 
     void SetMaxLength(std::int32_t length) { maxLength_ = length; }
@@ -61,7 +62,7 @@ class TextEdit final : public QPlainTextEdit {
     void insertFromMimeData(const QMimeData* source) override;
 
  private:
-    // Positions in the document and in the text.
+    // Conversion between positions in the document and in the text.
     int ToDocumentPosition(std::int32_t unit) const;
     std::int32_t ToUnit(int documentPosition) const;
 
@@ -91,17 +92,17 @@ class TextEdit final : public QPlainTextEdit {
     host::TextBoxEvents* events_;
     ErrorSink errors_;
     Text text_;
-    TextView entering_;                 // while it is put into the document
-    std::optional<Selection> exactly_;  // what code selected, until something else is
+    TextView entering_;                 // the text that is being put into the document
+    std::optional<Selection> exactly_;  // the selection set by code, until it changes
     std::int32_t maxLength_ = 0;
     bool multiLine_;
     bool locked_ = false;
-    bool isSetting_ = false;  // the document follows the text
+    bool isSetting_ = false;  // the document is being updated from the text
     bool hasChanged_ = false;
-    bool hasLost_ = false;  // the text could not follow the document
+    bool hasLost_ = false;  // the text could not be updated from the document
     bool hasFocusNow_ = false;
     bool isPressed_ = false;
-    int depth_ = 0;  // of events under way
+    int depth_ = 0;  // number of nested events
 };
 
 }  // namespace lumenkit::qt

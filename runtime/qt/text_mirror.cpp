@@ -12,8 +12,8 @@ constexpr char16_t lastReserved = 0xFDEF;
 constexpr char16_t replacement = 0xFFFD;
 constexpr char16_t paragraphSeparator = 0x2029;
 
-// The unit at place i has the character firstStandIn + i for it. The first two noncharacters are
-// taken by documents.
+// The document represents the unit special[i] by the character firstStandIn + i. QTextDocument
+// itself uses the first two noncharacters.
 constexpr char16_t firstStandIn = 0xFDD2;
 constexpr std::array<char16_t, 6> special = {0, u'\r', u'\n', 0x2028, paragraphSeparator, 0xFFFC};
 

@@ -1,7 +1,7 @@
-// How a text box's text lies in Qt's document. A line break, CR LF, is the document's own break
-// between two blocks, one character; every other unit is one character too. Those that mean
-// something to documents have noncharacters to stand for them, so that a document gives back what
-// was put into it, by undoing too.
+// Conversion between the text of a text box and the characters of Qt's document. A line break, CR
+// LF, is one character in the document: the break between two blocks. Every other unit is one
+// character too. Noncharacters represent the units that have a special meaning in documents, so
+// that a document returns the same text that was put into it, also after undo.
 #pragma once
 
 #include <QString>
@@ -11,15 +11,15 @@
 
 namespace lumenkit::qt {
 
-/// The document's characters for `text`, with LF for a break. A single line has no breaks: CR and
-/// LF are characters there.
+/// Returns the document's characters for `text`, with LF for a line break. A single-line text has
+/// no line breaks: CR and LF are ordinary characters there.
 QString ToDocument(TextView text, bool multiLine);
 
-/// The text of characters read from a document. Where the text itself had one of the reserved
-/// noncharacters, U+FDD0 to U+FDEF, the replacement character is read.
+/// Returns the text of characters read from a document. If the original text contained a reserved
+/// noncharacter, U+FDD0 to U+FDEF, the replacement character is read.
 Text FromDocument(QStringView characters);
 
-/// Whether the unit `read` from a document may be what became of `original`.
+/// Whether a document may return `read` for the unit `original`.
 bool MayBe(char16_t read, char16_t original);
 
 }  // namespace lumenkit::qt

@@ -1,4 +1,4 @@
-// A control's settings as plain data, whatever they are kept in.
+// The settings of a control as plain data, independent of their storage.
 #pragma once
 
 #include <cstdint>
@@ -25,7 +25,7 @@ struct FontAttributes {
 };
 
 struct Setting {
-    /// The first stands for an object that is not there.
+    /// std::monostate represents a null object.
     using Value = std::variant<std::monostate, bool, std::int16_t, std::int32_t, float, double,
                                Text, FontAttributes>;
 

@@ -18,7 +18,7 @@ constexpr std::uint16_t version = 1;
 enum class Kind : std::uint8_t { Empty, Boolean, Integer, Long, Single, Double, Text, Font };
 enum FontFlag : std::uint8_t { ItalicFlag = 1, UnderlineFlag = 2, StrikethroughFlag = 4 };
 
-// The polynomial of zip, bits reflected.
+// The CRC-32 polynomial of zip, in reversed bit order.
 constexpr std::uint32_t polynomial = 0xEDB88320;
 
 std::uint32_t CheckSum(std::span<const std::uint8_t> bytes) {

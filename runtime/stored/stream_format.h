@@ -1,4 +1,4 @@
-// Settings as bytes: the same on every machine and in every kind of storage.
+// Encodes settings as bytes, in the same form on every machine and in every kind of storage.
 //
 // All numbers are little-endian.
 //     magic    4 bytes  "LKPB"
@@ -17,7 +17,6 @@
 //     6 text      u32 number of UTF-16 units, then the units
 //     7 font      name (text), size in 1/10000 points (i64), weight (i16), character set (i16),
 //                 u8 of flags: 1 italic, 2 underline, 4 strikethrough
-// A name is a text too.
 #pragma once
 
 #include <cstddef>
@@ -30,19 +29,21 @@
 
 namespace lumenkit::stored {
 
-/// Raised for bytes that are no settings.
+/// Thrown for bytes that are not encoded settings.
 class Corrupt : public std::exception {};
 
-/// At most 65535 settings. Raises std::bad_alloc for a text beyond what a stream can count.
+/// Encodes at most 65535 settings. Throws std::bad_alloc for a text longer than the format can
+/// count.
 std::vector<std::uint8_t> Encode(const Settings& settings);
 
 inline constexpr std::size_t encodedHeaderSize = 12;
 inline constexpr std::size_t encodedCheckSize = 4;
 
-/// How many bytes follow this header, the check included. Raises Corrupt for what is none.
+/// Returns the number of bytes that follow this header, including the check. Throws Corrupt when
+/// `header` is not a header.
 std::size_t EncodedRest(std::span<const std::uint8_t> header);
 
-/// Raises Corrupt for anything but what Encode makes.
+/// Throws Corrupt for anything that Encode did not produce.
 Settings Decode(std::span<const std::uint8_t> bytes);
 
 }  // namespace lumenkit::stored

@@ -9,7 +9,7 @@ namespace lumenkit::win32 {
 
 namespace {
 
-// Paths may be longer than the platform's old limit.
+// A path may be longer than MAX_PATH.
 std::wstring PathOf(HINSTANCE module) {
     constexpr std::size_t longest = 32768;
     std::wstring path(MAX_PATH, L'\0');
@@ -32,7 +32,7 @@ std::wstring PathOf(HINSTANCE module) {
 Text Application::ExeName() {
     const std::wstring path = PathOf(module_);
     const std::size_t folderEnd = path.find_last_of(L"\\/");
-    const std::wstring file = path.substr(folderEnd + 1);  // all of it where there is no folder
+    const std::wstring file = path.substr(folderEnd + 1);  // the whole path if it has no folder
     return Text(AsText(std::wstring_view(file).substr(0, file.rfind(L'.'))));
 }
 

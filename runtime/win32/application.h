@@ -5,12 +5,13 @@
 
 namespace lumenkit::win32 {
 
-/// A component by the file that it was loaded from.
+/// Describes a component by the file that it was loaded from.
 class Application final : public host::Application {
  public:
     explicit Application(HINSTANCE module) : module_(module) {}
 
-    /// Raises 51 where the platform does not know the file.
+    /// Returns the name of the file without folder and extension. Raises 51 if the platform does
+    /// not know the file.
     Text ExeName() override;
 
  private:

@@ -1,4 +1,4 @@
-// The parts of the constituents' interfaces that all kinds fulfil alike.
+// Base classes that implement the parts of the constituent interfaces common to all kinds.
 #pragma once
 
 #include <string>
@@ -28,7 +28,7 @@ class BasicConstituent : public Interface, public Element {
 template <typename Interface>
 class BasicTextConstituent : public BasicConstituent<Interface>, private FontListener {
  public:
-    ~BasicTextConstituent() override { this->Destroy(); }  // while there is a font to draw with
+    ~BasicTextConstituent() override { this->Destroy(); }  // before the font is released
     BasicTextConstituent(const BasicTextConstituent&) = delete;
     BasicTextConstituent& operator=(const BasicTextConstituent&) = delete;
 
@@ -52,7 +52,7 @@ class BasicTextConstituent : public BasicConstituent<Interface>, private FontLis
     }
 
     HFONT FontHandle() const { return font_.Get()->Handle(); }
-    /// The constituent draws with another font now.
+    /// Called when the constituent draws with another font.
     virtual void FontTaken() {}
 
  private:

@@ -7,7 +7,7 @@
 
 namespace lumenkit::win32 {
 
-/// A piece of text on one line, with its upper left corner.
+/// A piece of text on one line and the position of its upper left corner.
 struct TextRun {
     TextView text;
     POINT at = {};
@@ -17,13 +17,13 @@ struct TextRun {
     Color paper = {};
 };
 
-/// What a surface draws on. Lengths are in pixels of the surface's drawing area, whatever the
-/// device.
+/// The target on which a surface draws. Lengths are in pixels of the surface's drawing area on
+/// every device.
 class Canvas {
  public:
     virtual ~Canvas() = default;
 
-    /// Takes away what is drawn; `paper` fills the whole canvas.
+    /// Removes everything drawn and fills the whole canvas with `paper`.
     virtual void Clear(Color paper) = 0;
     virtual void Print(const TextRun& run) = 0;
     virtual void Fill(const RECT& box, Color color) = 0;

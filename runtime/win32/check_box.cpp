@@ -16,7 +16,7 @@ void CheckBox::SetCheckState(std::int16_t state) {
 void CheckBox::Change(std::int16_t state) {
     if (state != state_) {
         state_ = state;
-        Ask(BM_SETCHECK, static_cast<WPARAM>(state));  // the platform has the same numbers
+        Ask(BM_SETCHECK, static_cast<WPARAM>(state));  // BM_SETCHECK uses the same numbers
         events_.Click();
     }
 }

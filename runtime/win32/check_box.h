@@ -8,7 +8,8 @@
 
 namespace lumenkit::win32 {
 
-/// Not checked at first. The user's click checks a box that is not checked and clears any other.
+/// A check box, initially not checked. A click of the user checks a box that is not checked and
+/// clears a checked or greyed one.
 class CheckBox final : public BasicCaptioned<host::CheckBox> {
  public:
     CheckBox(const Owner& owner, const host::CaptionDesign& design, host::ClickEvents& events);

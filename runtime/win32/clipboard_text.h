@@ -5,7 +5,8 @@
 
 namespace lumenkit::win32 {
 
-/// The text on the clipboard; empty where there is none or another program holds the clipboard.
+/// Returns the text on the clipboard. Returns an empty text if there is none or if another program
+/// holds the clipboard.
 Text ClipboardText(HWND owner);
 
 }  // namespace lumenkit::win32

@@ -5,7 +5,7 @@
 
 namespace lumenkit::win32 {
 
-/// The colour as the platform knows it; a system colour as it is at present.
+/// Converts a colour to a COLORREF. A system colour becomes its current value.
 inline COLORREF ToColorRef(Color color) {
     const auto bits = static_cast<std::uint32_t>(color);
     return IsSystemColor(color) ? GetSysColor(static_cast<int>(bits & 0xFFU)) : bits & 0xFFFFFFU;

@@ -7,7 +7,7 @@
 
 namespace lumenkit::win32 {
 
-/// Pressed by the space bar and by Return.
+/// A command button that is pressed by the space bar and by Return.
 class CommandButton final : public BasicCaptioned<host::CommandButton> {
  public:
     CommandButton(const Owner& owner, const host::CaptionDesign& design, host::ClickEvents& events);

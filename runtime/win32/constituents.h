@@ -8,11 +8,11 @@ namespace lumenkit::win32 {
 
 class Window;
 
-/// Makes the constituents of one control or page: native windows on its window.
+/// Creates the constituents of one control or page as native windows inside its window.
 class Constituents final : public host::Constituents {
  public:
-    /// `owner` is the window of the control or page; it exists already, and outlives the
-    /// constituents and this object. `userMode` is what embedded controls are told.
+    /// `owner` is the window of the control or page. It exists already and outlives the
+    /// constituents and this object. `userMode` is reported to embedded controls.
     Constituents(const Context& context, Window& owner, bool userMode)
         : context_(context), owner_(owner), userMode_(userMode) {}
 

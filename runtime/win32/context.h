@@ -8,11 +8,11 @@
 
 namespace lumenkit::win32 {
 
-/// What all controls and pages of one component share. It, and everything that it refers to, must
-/// outlive them.
+/// The objects that all controls and pages of one component share. The context and everything that
+/// it refers to must outlive them.
 struct Context {
-    HINSTANCE module;           ///< the component's own, not that of the program
-    const ClassTable& classes;  ///< those that may be embedded
+    HINSTANCE module;           ///< the module of the component, not of the program
+    const ClassTable& classes;  ///< the classes that may be embedded
     FontMaker& fonts;
     host::Application& application;
     host::Interaction& interaction;

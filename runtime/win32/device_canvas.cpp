@@ -10,7 +10,7 @@ namespace lumenkit::win32 {
 
 namespace {
 
-// The platform draws no longer texts; they are wider than any window.
+// The platform draws no longer text. A text of this length is wider than any window.
 constexpr std::size_t longestAtOnce = 8192;
 
 int Scale(int pixel, LONG start, LONG end, LONG size) {
@@ -56,7 +56,7 @@ DeviceCanvas::DeviceCanvas(HDC device, const Mapping& mapping, const RECT& area)
 }
 
 DeviceCanvas::~DeviceCanvas() {
-    RestoreDC(device_, -1);  // so that a metafile may be played at any depth
+    RestoreDC(device_, -1);  // relative, so that a metafile may be played at any depth
 }
 
 void DeviceCanvas::Clear(Color paper) {
@@ -69,7 +69,7 @@ void DeviceCanvas::Fill(const RECT& box, Color color) {
     FillMapped(mapping_.Of(placed), color);
 }
 
-// Text without letters fills without a brush.
+// Drawing an empty opaque text fills the box without a brush.
 void DeviceCanvas::FillMapped(const RECT& box, Color color) {
     SetBkColor(device_, ToColorRef(color));
     ExtTextOutW(device_, 0, 0, ETO_OPAQUE, &box, L"", 0, nullptr);
@@ -108,7 +108,7 @@ void DeviceCanvas::Print(const TextRun& run) {
                 static_cast<UINT>(text.size()), nullptr);
 }
 
-// Each unit keeps its place in the line, so that all lines are broken as on the screen.
+// Each unit keeps its position in the line, so that the lines break as on the screen.
 void DeviceCanvas::PrintScaled(const TextRun& run, POINT at) {
     const ScreenFontRef font = Scaled(*run.font);
     const TextView text = run.text.substr(0, longestAtOnce);

@@ -9,13 +9,13 @@
 
 namespace lumenkit::win32 {
 
-/// Where pixels of a control come to lie on a device: a control `size` pixels large fills `place`,
-/// which is in the device's logical units and may run upwards.
+/// Maps the pixels of a control to a device. A control of `size` pixels fills `place`, which is in
+/// logical units of the device and may run upwards.
 struct Mapping {
     RECT place = {};
     SIZE size = {};
 
-    /// One to one, the upper left corner at the device's origin.
+    /// Returns a one-to-one mapping with the upper left corner at the origin of the device.
     static Mapping Plain(SIZE size);
 
     int X(int pixel) const;
@@ -24,10 +24,10 @@ struct Mapping {
     bool IsPlain() const;
 };
 
-/// Draws on a device, with vectors; leaves the device's state as it was.
+/// Draws on a device with vector operations and restores the state of the device at the end.
 class DeviceCanvas final : public Canvas {
  public:
-    /// The canvas is `area` of what is mapped. Nothing is drawn outside it.
+    /// The canvas is the part `area` of the mapped pixels. Nothing is drawn outside it.
     DeviceCanvas(HDC device, const Mapping& mapping, const RECT& area);
     ~DeviceCanvas() override;
     DeviceCanvas(const DeviceCanvas&) = delete;

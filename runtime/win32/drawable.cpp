@@ -11,8 +11,8 @@ bool IsShown(HWND window) {
     return (GetWindowLongW(window, GWL_STYLE) & WS_VISIBLE) != 0;
 }
 
-// Each is drawn at the origin of a bitmap of its own: window classes of the platform clip by the
-// device's coordinates, wherever its origin is.
+// Each child is drawn at the origin of a separate bitmap, because window classes of the platform
+// clip by device coordinates and ignore the origin.
 void DrawChild(HWND parent, HWND child, HDC device) {
     auto* const drawable = dynamic_cast<Drawable*>(Window::Of(child));
     if (drawable == nullptr || !IsShown(child)) {

@@ -4,20 +4,20 @@
 
 namespace lumenkit::win32 {
 
-/// A Window that can draw itself on any device, whether it is to be seen or not.
+/// A Window that can draw itself on any device, whether it is visible or not.
 class Drawable {
  public:
     virtual ~Drawable() = default;
 
-    /// Draws the window with its border and with what lies in it. The device's logical units are
-    /// the window's pixels, the origin is its upper left corner, border included. Leaves the
-    /// device's settings as they were; clipping is the caller's.
+    /// Draws the window with its border and its children. The logical units of the device are the
+    /// window's pixels; the origin is the window's upper left corner, border included. Restores the
+    /// settings of the device. The caller is responsible for clipping.
     virtual void DrawTo(HDC device) = 0;
 };
 
-/// Draws those child windows of `parent` that are Drawable and not hidden by themselves, the front
-/// ones last, each clipped to its own rectangle. The origin is the upper left corner of the
-/// parent's client area.
+/// Draws the child windows of `parent` that are Drawable and not hidden themselves, from back to
+/// front, each clipped to its rectangle. The origin is the upper left corner of the parent's client
+/// area.
 void DrawChildren(HWND parent, HDC device);
 
 }  // namespace lumenkit::win32

@@ -9,7 +9,7 @@ namespace lumenkit::win32 {
 
 namespace {
 
-// Draws the border, if there is one, and moves the origin inside it.
+// Draws the border, if there is one, and moves the origin to its inner corner.
 void DrawBorder(HWND window, HDC device) {
     if ((GetWindowLongW(window, GWL_EXSTYLE) & WS_EX_CLIENTEDGE) == 0) {
         return;
@@ -85,7 +85,7 @@ void Element::BecomeEnabled(bool enabled) {
                             (focus == Handle() || IsChild(Handle(), focus) != FALSE);
     EnableWindow(Handle(), enabled ? TRUE : FALSE);
     if (losesFocus) {
-        SetFocus(owner_);  // keys have somewhere to go; may destroy the object
+        SetFocus(owner_);  // so that keys still reach a window; may destroy the object
     }
 }
 

@@ -13,23 +13,23 @@
 
 namespace lumenkit::win32 {
 
-/// Sent to the window of the control or page when the keyboard focus came to one of its
-/// constituents (wParam 1) or left it (wParam 0). The answer does not matter.
+/// Sent to the window of the control or page when the keyboard focus enters one of its constituents
+/// (wParam 1) or leaves it (wParam 0). The result is ignored.
 inline constexpr UINT constituentFocusMessage = WM_APP + 1;
 
-/// Whom a constituent belongs to: the component, and the window of the control or page.
+/// The owner of a constituent: the component, and the window of the control or page.
 struct Owner {
     const Context& context;
     Window& window;
     Resolution resolution = Resolution::OfScreen();
 };
 
-/// The window that a constituent of this design lies in. Throws std::logic_error for a parent of
-/// another runtime.
+/// Returns the parent window for a constituent of this design. Throws std::logic_error for a parent
+/// of another runtime.
 HWND ParentWindow(const Owner& owner, const host::Design& design);
 
-/// A constituent's window, and what the runtime keeps of any kind of constituent. Its place is kept
-/// in twips as it was set, though windows have whole pixels.
+/// The window of a constituent, and the state that the runtime keeps for every kind. The placement
+/// is kept in twips as it was set, although windows have whole pixels.
 class Element : public Window, public Drawable {
  public:
     ~Element() override;
@@ -38,22 +38,22 @@ class Element : public Window, public Drawable {
 
     const Text& Name() const { return name_; }
     std::int16_t Index() const { return index_; }  ///< in a control array, else -1
-    bool IsVisible() const { return visible_; }    ///< by itself
-    bool IsEnabled() const { return enabled_; }    ///< by itself
+    bool IsVisible() const { return visible_; }    ///< regardless of its parents
+    bool IsEnabled() const { return enabled_; }    ///< regardless of its parents
 
-    /// Lets the window's class draw the client area, then the children, inside the border.
+    /// Draws the border, lets the window class draw the client area, and draws the children in it.
     void DrawTo(HDC device) override;
 
  protected:
-    /// What window a kind of constituent has: see WindowDesign. Each is a child window, visible
-    /// where designed so.
+    /// The window of a kind of constituent; see WindowDesign. It is a child window and visible if
+    /// it is designed so.
     struct Kind {
         const wchar_t* className = nullptr;
         DWORD style = 0;
         DWORD extendedStyle = 0;
     };
-    /// Throws std::logic_error for a parent of another runtime; raises 7 when the platform has no
-    /// more windows.
+    /// Throws std::logic_error for a parent of another runtime. Raises 7 if the platform cannot
+    /// create more windows.
     Element(const Owner& owner, const Kind& kind, const host::Design& design, TextView text = {});
 
     const host::Placement& Where() const { return placement_; }
@@ -62,19 +62,19 @@ class Element : public Window, public Drawable {
     void BecomeVisible(bool visible);
     void BecomeEnabled(bool enabled);
     void RepaintNow() const;
-    /// Has it painted anew when the platform sees fit.
+    /// Invalidates the window for a later repaint.
     void Invalidate() const;
 
-    /// Sends the window a message; 0 when there is no window any more.
+    /// Sends the window a message. Returns 0 if the window no longer exists.
     LRESULT Ask(UINT message, WPARAM wParam = 0, LPARAM lParam = 0) const;
     void SwitchStyle(DWORD style, bool on) const;
     Resolution PixelsPerInch() const { return resolution_; }
 
-    /// The focus came or went. May destroy the object.
+    /// Called when the focus came or left. May destroy the object.
     virtual void FocusMoved(bool /*came*/) {}
     LRESULT HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
 
-    /// Fills the client area with the colour of buttons.
+    /// Fills the client area with the background colour of buttons.
     void FillBackground(HDC device) const;
     /// Answers WM_CTLCOLOR... with these colours.
     static LRESULT AnswerColors(WPARAM device, Color text, Color background);

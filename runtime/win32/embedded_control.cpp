@@ -25,14 +25,14 @@ EmbeddedControl::EmbeddedControl(const Owner& owner, const host::Design& design,
     ControlSite& site = *this;
     control_.emplace(owner.context, type, site, SizeOf(ToPixels(placement_, resolution_)),
                      owner.window.GetLife());
-    PlaceWindow();  // it may have asked for another size
+    PlaceWindow();  // the control may have requested another size
     control_->StartNew();
     if (visible_) {
         Attach();
     }
 }
 
-// Behind those that are there already.
+// Puts the window behind its existing siblings.
 void EmbeddedControl::Attach() {
     control_->Attach(parent_, ToPixels(placement_, resolution_));
     SetWindowPos(control_->Window(), HWND_BOTTOM, 0, 0, 0, 0,

@@ -10,15 +10,15 @@
 
 namespace lumenkit::win32 {
 
-/// A control that lies on another one or on a page, newly placed. The control around it is its
-/// container, and that one does not listen.
+/// A new control on another control or on a page. The control around it is its container and
+/// ignores its notifications.
 class EmbeddedControl final : public host::EmbeddedControl, private ControlSite {
  public:
     EmbeddedControl(const Owner& owner, const host::Design& design, const ClassDescriptor& type,
                     bool userMode);
 
     host::Placement Place() const override { return placement_; }
-    /// The control itself is resized with it.
+    /// Resizes the embedded control too.
     void Move(const host::Placement& placement) override;
     bool Visible() const override { return visible_; }
     void SetVisible(bool visible) override;

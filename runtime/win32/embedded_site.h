@@ -10,7 +10,7 @@
 
 namespace lumenkit::win32 {
 
-/// The container of an embedded control, which does not listen to it.
+/// The container of an embedded control. It ignores the control's notifications.
 class SilentContainer final : public host::Container {
  public:
     void PropertyChanged(TextView /*name*/) override {}
@@ -18,7 +18,7 @@ class SilentContainer final : public host::Container {
     void RaiseEvent(std::int32_t /*event*/, std::span<Value> /*arguments*/) override {}
 };
 
-/// The surroundings of an embedded control: those of a designed form.
+/// The ambient properties of an embedded control: those of a form with default settings.
 class EmbeddedAmbient final : public host::Ambient {
  public:
     EmbeddedAmbient(FontMaker& fonts, bool userMode) : fonts_(fonts), userMode_(userMode) {}

@@ -8,35 +8,36 @@
 
 namespace lumenkit::win32 {
 
-/// Told whenever an attribute of a font that it listens to has changed.
+/// Notified when an attribute of a font that it listens to has changed.
 class FontListener {
  public:
     virtual ~FontListener() = default;
     virtual void FontChanged() = 0;
 };
 
-/// A font object that things of this runtime draw with. Every font that reaches this runtime is
-/// one: they all come from its FontMaker.
+/// A font object that this runtime can draw with. Every font that reaches the runtime is one,
+/// because its FontMaker creates all of them.
 class Font : public host::Font {
  public:
-    /// The listener is told until it is removed; it must be, before it dies.
+    /// Notifies the listener until it is removed. A listener must be removed before it is
+    /// destroyed.
     virtual void Add(FontListener& listener) = 0;
     virtual void Remove(FontListener& listener) = 0;
-    /// The platform's own handle for the font at the screen's resolution; valid until the font
-    /// changes or dies. Not the caller's to delete.
+    /// Returns the platform's handle for the font at the screen's resolution. It is valid until the
+    /// font changes or is destroyed. The caller must not delete it.
     virtual HFONT Handle() const = 0;
 };
 
-/// Makes the fonts of this runtime.
+/// Creates the fonts of this runtime.
 class FontMaker {
  public:
     virtual ~FontMaker() = default;
 
-    /// Regular weight. Raises 380 for a size that Font refuses.
+    /// Creates a font of regular weight. Raises 380 for a size that Font refuses.
     virtual std::shared_ptr<Font> NewFont(TextView name, float points) = 0;
 };
 
-/// What a surface or constituent holds its font by: listens as long as it holds.
+/// Holds the font of a surface or constituent and listens to it while it holds it.
 class HeldFont {
  public:
     HeldFont(FontListener& listener, std::shared_ptr<Font> font);
@@ -44,7 +45,8 @@ class HeldFont {
     HeldFont(const HeldFont&) = delete;
     HeldFont& operator=(const HeldFont&) = delete;
 
-    /// Raises 91 for nothing, 380 for a font of another runtime. Does not call the listener.
+    /// Holds another font. Raises 91 for a null font and 380 for a font of another runtime. Does
+    /// not call the listener.
     void Assign(const host::FontRef& font);
     const std::shared_ptr<Font>& Get() const { return font_; }
 

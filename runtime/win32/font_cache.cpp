@@ -11,7 +11,7 @@ namespace {
 
 constexpr std::size_t mostKept = 64;
 
-// What stands before the name.
+// Returns the fields before the name.
 std::string_view Numbers(const LOGFONTW& design) {
     return {reinterpret_cast<const char*>(&design), offsetof(LOGFONTW, lfFaceName)};
 }

@@ -11,19 +11,19 @@
 
 namespace lumenkit::win32 {
 
-/// The realised fonts of one thread, each made once; hold it as ThreadShared<FontCache>. Fonts that
-/// nobody uses are kept for a while, as captions switch to and fro.
+/// The realised fonts of one thread, each created once. Hold the cache as ThreadShared<FontCache>.
+/// Unused fonts are kept for a while, because captions switch back and forth between fonts.
 class FontCache {
  public:
-    /// The font of this design, whose height says for which resolution it is. Allocates nothing
-    /// when the font is known. Raises 7 when the platform has no more fonts.
+    /// Returns the font of this design, whose height determines the resolution. Allocates nothing
+    /// if the font is known. Raises 7 if the platform cannot create more fonts.
     ScreenFontRef Find(const LOGFONTW& design);
-    /// The font of the same design as one that somebody else owns; its own fonts are known by their
-    /// handles.
+    /// Returns the font with the design of a font that someone else owns. The cache finds its own
+    /// fonts by their handles.
     ScreenFontRef Find(HFONT handle);
 
  private:
-    // Designs are the same if all of their parts are, names up to their end.
+    // Designs are equal if all their fields are; names are compared up to their end.
     struct Hash {
         std::size_t operator()(const LOGFONTW& design) const;
     };
@@ -34,7 +34,7 @@ class FontCache {
     void DropUnused();
 
     std::unordered_map<LOGFONTW, ScreenFontRef, Hash, Equal> fonts_;
-    std::unordered_map<HFONT, const ScreenFont*> own_;  // the same by their handles
+    std::unordered_map<HFONT, const ScreenFont*> own_;  // the same fonts by their handles
 };
 
 }  // namespace lumenkit::win32

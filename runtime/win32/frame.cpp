@@ -30,8 +30,8 @@ LRESULT Frame::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
             }
             break;
         case WM_PRINTCLIENT:
-            // The client area alone is what a child asks for that shows what lies behind it: not
-            // the border, which it covers.
+            // A transparent child window asks its parent to paint only the client area. The border
+            // is not painted then, because the child covers it.
             if (borderStyle_ == 0 || lParam == PRF_CLIENT) {
                 return 0;
             }

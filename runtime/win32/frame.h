@@ -7,7 +7,7 @@
 
 namespace lumenkit::win32 {
 
-/// A group box, which has its own background. With a fixed single border at first; without one it
+/// A group box with its own background, initially with a fixed single border. Without a border it
 /// shows no caption either.
 class Frame final : public BasicCaptioned<host::Frame> {
  public:

@@ -53,7 +53,7 @@ void FontListeners::Tell() {
         Telling& operator=(const Telling&) = delete;
     };
     const Telling telling(*this);
-    // NOLINTNEXTLINE(modernize-loop-convert): others may come meanwhile
+    // NOLINTNEXTLINE(modernize-loop-convert): listeners may be added meanwhile
     for (std::size_t index = 0; index < listeners_.size(); ++index) {
         if (FontListener* const listener = listeners_[index]) {
             listener->FontChanged();

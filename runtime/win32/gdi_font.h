@@ -12,24 +12,24 @@
 
 namespace lumenkit::win32 {
 
-/// Who listens to a font. Listeners may come and go while they are told.
+/// The listeners of a font. Listeners may be added and removed while they are notified.
 class FontListeners {
  public:
     void Add(FontListener& listener) { listeners_.push_back(&listener); }
     void Remove(FontListener& listener);
-    /// Tells each. Allocates nothing.
+    /// Notifies each listener. Allocates nothing.
     void Tell();
 
  private:
-    std::vector<FontListener*> listeners_;  // null: removed while others were told
+    std::vector<FontListener*> listeners_;  // null: removed during a notification
     int telling_ = 0;
 };
 
-/// A font of the platform's drawing interface alone. Sizes are kept to four decimal places; one
-/// that is not above 0 then, or above 2160 points, raises 380.
+/// A font that uses only the platform's drawing interface. Sizes are rounded to four decimal
+/// places; a rounded size that is not above 0, or is above 2160 points, raises 380.
 class GdiFont final : public Font {
  public:
-    /// Regular weight. Raises 380 as SetSize does.
+    /// Creates a font of regular weight. Raises 380 like SetSize.
     GdiFont(TextView name, float points, Resolution resolution);
 
     Text Name() const override { return name_; }
@@ -53,7 +53,7 @@ class GdiFont final : public Font {
     void Remove(FontListener& listener) override { listeners_.Remove(listener); }
     HFONT Handle() const override;
 
-    /// A font of its own with the same attributes and nobody who listens.
+    /// Returns a separate font with the same attributes and without listeners.
     std::shared_ptr<GdiFont> Clone() const;
 
  private:
@@ -71,10 +71,10 @@ class GdiFont final : public Font {
     Resolution resolution_;
     FontListeners listeners_;
     ThreadShared<FontCache> cache_;
-    mutable ScreenFontRef realised_;  // null: not since the last change
+    mutable ScreenFontRef realised_;  // null: not realised since the last change
 };
 
-/// Makes fonts for the screen's resolution.
+/// Creates fonts for the screen's resolution.
 class GdiFontMaker final : public FontMaker {
  public:
     std::shared_ptr<Font> NewFont(TextView name, float points) override;

@@ -30,7 +30,7 @@ namespace {
 constexpr TextView firstFont = u"MS Sans Serif";
 constexpr float firstFontSize = 8.25F;
 
-// How often a control may ask for another size while it is told of one.
+// The number of nested requests for another size that a control may make while it is resized.
 constexpr int deepestRequest = 8;
 
 bool IsEmpty(SIZE size) {
@@ -54,7 +54,7 @@ class ScreenDevice {
     HDC device_;
 };
 
-// A message's button as MouseDown and its kin number it.
+// The action of a mouse button that a message reports.
 enum class Press { None, Down, Double, Up };
 
 Press PressOf(UINT message) {
@@ -145,8 +145,8 @@ class HostedControl::Body final : public HostedWindow, public Drawable, private 
     int requests_ = 0;
     std::int16_t pressed_ = 0;  // the buttons that went down on the surface
     bool isStarted_ = false;
-    bool isVisible_ = false;  // as the container has it
-    bool wasTold_ = false;    // that it is visible
+    bool isVisible_ = false;  // as set by the container
+    bool wasTold_ = false;    // whether it was notified that it is visible
     bool hasFocus_ = false;
 };
 
@@ -176,13 +176,13 @@ HostedControl::Body::Body(const Context& context, const ClassDescriptor& type, C
 HostedControl::Body::~Body() {
     isStarted_ = false;
     if (!IsPlatformAtWork()) {
-        Destroy();  // with all that lies in it: quicker than window by window
+        Destroy();  // destroys all child windows in one step
     }
     control_.reset();
     Destroy();
 }
 
-// Nothing that a control raises goes on to its container.
+// Errors of the control do not reach its container.
 template <typename Act>
 void HostedControl::Body::Tell(Act&& act) {
     if (control_ == nullptr) {
@@ -191,7 +191,7 @@ void HostedControl::Body::Tell(Act&& act) {
     try {
         act(*control_);
     } catch (...) {
-        // The control's own procedures report what can be reported.
+        // The control's own procedures report their errors as far as possible.
     }
 }
 
@@ -243,7 +243,7 @@ void HostedControl::Body::AdoptSize(SIZE size) {
 
 void HostedControl::Body::RequestSize(SIZE size) {
     if (requests_ >= deepestRequest) {
-        return;  // the control never comes to rest
+        return;  // the control requests sizes without end
     }
     ++requests_;
     try {
@@ -351,7 +351,7 @@ void HostedControl::Body::DrawTo(HDC device) {
     Draw(device, {0, 0, size_.cx, size_.cy});
 }
 
-// The sunken edge as the platform draws it, at any scale.
+// Draws the platform's sunken edge at any scale.
 void HostedControl::Body::DrawBorder(HDC device, const Mapping& mapping) {
     struct Ring {
         Color upperLeft;
@@ -373,7 +373,7 @@ void HostedControl::Body::DrawBorder(HDC device, const Mapping& mapping) {
     }
 }
 
-// The constituents draw pixels: they are put together at the screen's size and then scaled.
+// The constituents draw in pixels. They are composed at the screen's size and then scaled.
 void HostedControl::Body::DrawParts(HDC device, const Mapping& mapping) {
     if (Handle() == nullptr || GetWindow(Handle(), GW_CHILD) == nullptr) {
         return;
@@ -413,7 +413,7 @@ LRESULT HostedControl::Body::HandleMessage(UINT message, WPARAM wParam, LPARAM l
             PaintWindow();
             return 0;
         case WM_ERASEBKGND:
-            return 1;  // painting does it
+            return 1;  // painting erases the background
         case WM_PRINTCLIENT: {
             const SIZE area = SizeOf(surface_.Area());
             DeviceCanvas canvas(reinterpret_cast<HDC>(wParam), Mapping::Plain(area),
@@ -474,8 +474,8 @@ void HostedControl::Body::HandleMouse(UINT message, WPARAM wParam, LPARAM lParam
     }
 }
 
-// A click is a button that goes down and up on the surface; the second of two quick ones is a
-// double click instead.
+// A click is a button that is pressed and released on the surface. The second of two quick clicks
+// is a double click instead.
 void HostedControl::Body::HandlePress(Press press, host::MouseArguments& mouse) {
     constexpr std::int16_t middle = 4;
     const auto button = mouse.button;
@@ -524,8 +524,8 @@ bool HostedControl::Body::SetPointerCursor(WPARAM wParam, LPARAM lParam) {
     return true;
 }
 
-// To programs that read aloud, a control that consists of its surface alone is a static text: that
-// is what the platform's number for its STATIC windows says.
+// To screen readers, a control without constituents is a static text: the returned number is the
+// platform's class index for STATIC windows.
 LRESULT HostedControl::Body::AccessibleKind(WPARAM wParam, LPARAM lParam) {
     constexpr LRESULT staticText = 65536 + 3;
     const bool asksForKind = static_cast<LONG>(lParam) == OBJID_QUERYCLASSNAMEIDX;
@@ -535,7 +535,7 @@ LRESULT HostedControl::Body::AccessibleKind(WPARAM wParam, LPARAM lParam) {
     return Default(WM_GETOBJECT, wParam, lParam);
 }
 
-// The window's text, which is what programs read aloud, is what the control shows.
+// Screen readers read the text of the window, which is the text that the control shows.
 LRESULT HostedControl::Body::CopyText(std::size_t room, wchar_t* target) {
     const std::wstring text = ToWide(isStarted_ ? surface_.ShownTexts() : Text());
     if (target == nullptr) {
@@ -550,7 +550,7 @@ LRESULT HostedControl::Body::CopyText(std::size_t room, wchar_t* target) {
     return static_cast<LRESULT>(length);
 }
 
-// While the focus moves, the platform knows its new place already.
+// While the focus moves, the platform already reports its new position.
 void HostedControl::Body::CheckFocus() {
     const bool inside = HasFocusInside(Handle());
     if (std::exchange(hasFocus_, inside) != inside) {
@@ -564,7 +564,7 @@ void HostedControl::Body::Focus(bool last) {
     }
 }
 
-// ---- What others see
+// ---- The public interface
 
 HostedControl::HostedControl(const Context& context, const ClassDescriptor& type, ControlSite& site,
                              SIZE size, Life* life)

@@ -10,13 +10,13 @@
 
 namespace lumenkit::win32 {
 
-/// One property page with its window and constituents. Belongs to the thread that made it. Errors
-/// of the page's procedures come out of it, as they are the host's to show.
+/// One property page with its window and constituents. Used only on the thread that created it.
+/// Errors of the page's procedures reach the caller, which shows them.
 class HostedPage {
  public:
-    /// Creates the page and runs PropertyPage_Initialize. `type` is a page's; raises 429 for
-    /// another class. `site` and `selectedControls` must outlive the page. `life` as a
-    /// HostedControl's.
+    /// Creates the page and runs PropertyPage_Initialize. `type` must be a page; raises 429 for
+    /// another class. `site` and `selectedControls` must outlive the page. `life` is used as in
+    /// HostedControl.
     HostedPage(const Context& context, const ClassDescriptor& type, host::PropertyPageSite& site,
                host::SelectedControls& selectedControls, Life* life = nullptr);
     ~HostedPage();
@@ -25,18 +25,19 @@ class HostedPage {
 
     PropertyPage& GetPage();
     Object& Automation() { return GetPage().Automation(); }
-    /// What the page is laid out for, in pixels.
+    /// The size that the page is designed for, in pixels.
     SIZE Size() const;
 
     /// Puts the window into `parent` at `place`, hidden.
     void Attach(HWND parent, const RECT& place);
     void Place(const RECT& place);
     void SetVisible(bool visible);
-    /// Puts the window back where it is not seen.
+    /// Moves the window back to the hidden parking window.
     void Detach();
     HWND Window() const;
 
-    /// As HostedControl::TranslateKey; mnemonics of the page's constituents too.
+    /// Does the same as HostedControl::TranslateKey, and handles the mnemonics of the page's
+    /// constituents.
     bool TranslateKey(const MSG& message);
 
  private:

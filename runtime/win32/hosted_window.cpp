@@ -22,8 +22,9 @@ HostedWindow::HostedWindow(HINSTANCE module, SIZE size, Life* life) : parking_(m
 
 LRESULT HostedWindow::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
     if (message == WM_PARENTNOTIFY && LOWORD(wParam) == WM_CREATE) {
-        // Dialogs look among its children for what takes the focus. Where there are none they must
-        // not look: some go round and round when such a window has the focus itself.
+        // Dialogs search the children of a window with this style for one that takes the focus. A
+        // window without children must not have the style: some dialogs loop forever when such a
+        // window has the focus itself.
         const LONG_PTR style = GetWindowLongPtrW(Handle(), GWL_EXSTYLE);
         SetWindowLongPtrW(Handle(), GWL_EXSTYLE, style | WS_EX_CONTROLPARENT);
     }

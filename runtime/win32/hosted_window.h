@@ -4,34 +4,35 @@
 
 namespace lumenkit::win32 {
 
-/// The window of a control or page, on a parking place until a container takes it in. All of it
-/// works, and does nothing, when the window is gone.
+/// The window of a control or page. It is a child of the parking window until a container takes it.
+/// All methods do nothing once the window is destroyed.
 class HostedWindow : public Window {
  public:
     bool IsAttached() const { return isAttached_ && Handle() != nullptr; }
 
  protected:
-    /// `size` in pixels; `life` is null where nothing waits for the window. Raises 7 when the
-    /// platform has no more windows.
+    /// `size` is in pixels. `life` is null if nothing waits for the window. Raises 7 if the
+    /// platform cannot create more windows.
     HostedWindow(HINSTANCE module, SIZE size, Life* life);
 
     LRESULT HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
 
-    /// Puts the window into `parent`, hidden. False where the platform refuses.
+    /// Puts the window into `parent`, hidden. Returns false if the platform refuses.
     bool MoveInto(HWND parent, const RECT& place);
     void MoveTo(const RECT& place);
-    /// Shows only what lies in `clip`, which is in the parent's coordinates.
+    /// Shows only the part inside `clip`, which is in the parent's coordinates.
     void ClipTo(const RECT& clip);
     void Show(bool visible);
-    /// Back to the parking place, hidden.
+    /// Moves the window back to the parking window, hidden.
     void Park();
     SIZE WindowSize() const;
 
-    /// Passes on to what lies in the window that system settings changed, and repaints all of it.
+    /// Passes a change of the system settings on to the child windows and repaints the whole
+    /// window.
     void SettingsChanged(UINT message, WPARAM wParam, LPARAM lParam);
 
  private:
-    /// Leaves the focus to the container rather than to nobody.
+    /// Moves the focus to the container, so that the focus does not get lost.
     void GiveFocusAway();
 
     ParkingPlace parking_;

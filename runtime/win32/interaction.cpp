@@ -13,7 +13,7 @@ void Interaction::MsgBox(TextView message, host::MessageStyle style,
                          std::optional<TextView> title) {
     const std::wstring text = ToWide(message);
     const std::wstring heading = ToWide(title ? Text(*title) : application_.ExeName());
-    // Its owner may be a pop-up that is blocked itself by another box: then that box is active.
+    // If another message box blocks a window of the thread, that box is the active window.
     const HWND owner = GetActiveWindow();
     const UINT modality = owner == nullptr ? MB_TASKMODAL | MB_SETFOREGROUND : MB_APPLMODAL;
     MessageBoxW(owner, text.c_str(), heading.c_str(), MB_OK | static_cast<UINT>(style) | modality);

@@ -7,8 +7,8 @@
 
 namespace lumenkit::win32 {
 
-/// Keeps what is drawn since it was cleared, to be drawn again on any canvas. Refilling it after it
-/// was cleared allocates nothing. What is drawn over stays in it: it grows until it is cleared.
+/// Records all drawing after a Clear and repeats it on any canvas. Recording again after a Clear
+/// allocates nothing. Overdrawn items are not removed: the record grows until it is cleared.
 class KeptPicture final : public Canvas {
  public:
     void Clear(Color paper) override;
@@ -19,7 +19,7 @@ class KeptPicture final : public Canvas {
 
  private:
     struct Item {
-        RECT box = {};       // of a run, its corner only
+        RECT box = {};       // for a run, only its corner
         ScreenFontRef font;  // null: a box
         std::size_t begin = 0;
         std::size_t length = 0;

@@ -17,7 +17,7 @@ DWORD StyleOf(HWND window) {
     return static_cast<DWORD>(GetWindowLongW(window, GWL_STYLE));
 }
 
-// Whether a person can use it, as far as it itself goes.
+// Whether the user can use the window, regardless of its parents.
 bool IsUsable(HWND window) {
     return (StyleOf(window) & (WS_VISIBLE | WS_DISABLED)) == WS_VISIBLE;
 }
@@ -34,7 +34,7 @@ bool IsSelected(HWND option) {
     return SendMessageW(option, BM_GETCHECK, 0, 0) == BST_CHECKED;
 }
 
-// All usable windows in `parent`, each before what lies in it.
+// All usable windows in `parent`, each before its children.
 void Collect(HWND parent, Windows& found) {
     for (HWND child = GetWindow(parent, GW_CHILD); child != nullptr;
          child = GetWindow(child, GW_HWNDNEXT)) {
@@ -51,7 +51,7 @@ Windows UsableIn(HWND root) {
     return found;
 }
 
-// The usable option buttons beside `option`, itself included.
+// The usable siblings of `option` that are option buttons, including itself.
 Windows GroupOf(HWND option) {
     Windows group;
     for (HWND child = GetWindow(option, GW_HWNDFIRST); child != nullptr;
@@ -63,7 +63,7 @@ Windows GroupOf(HWND option) {
     return group;
 }
 
-// Of a group only the selected button, or the first where none is, is reached by Tab.
+// Tab reaches only the selected button of a group, or the first one if none is selected.
 HWND StopOf(const Windows& group) {
     const auto selected = std::ranges::find_if(group, IsSelected);
     return selected == group.end() ? group.front() : *selected;
@@ -80,7 +80,7 @@ Windows StopsIn(HWND root) {
     return found;
 }
 
-// Where Tab finds itself while `focus` has the focus.
+// The position in the tab order while `focus` has the focus.
 HWND PlaceInTabOrder(HWND focus) {
     return focus != nullptr && IsOption(focus) ? StopOf(GroupOf(focus)) : focus;
 }
@@ -164,7 +164,7 @@ bool UseKey(HWND root, const MSG& message) {
 
 std::wstring CaptionOf(HWND window) {
     if ((Wishes(window) & (DLGC_BUTTON | DLGC_STATIC)) == 0) {
-        return {};  // its text is what was typed
+        return {};  // its text is the user's input
     }
     std::array<wchar_t, 256> caption{};
     GetWindowTextW(window, caption.data(), static_cast<int>(caption.size()));
@@ -179,7 +179,7 @@ wchar_t Lower(wchar_t unit) {
     return static_cast<wchar_t>(LowerUnit(static_cast<char16_t>(unit)));
 }
 
-// Calls `call` with each mnemonic of a caption, in lower case, until it answers true.
+// Calls `call` with each mnemonic of a caption, in lower case, until it returns true.
 template <typename Call>
 bool AnyMnemonic(const wchar_t* text, Call&& call) {
     for (const wchar_t* at = std::wcschr(text, L'&'); at != nullptr; at = std::wcschr(at, L'&')) {
@@ -201,7 +201,7 @@ bool UseMnemonicOf(HWND window, const Windows& usable) {
         SendMessageW(window, BM_CLICK, 0, 0);
         return true;
     }
-    // A label or frame names what comes next.
+    // A label or frame names the next tab stop.
     const auto next = std::find_if(std::ranges::find(usable, window), usable.end(), IsStop);
     if (next == usable.end()) {
         return false;
@@ -210,7 +210,7 @@ bool UseMnemonicOf(HWND window, const Windows& usable) {
     return true;
 }
 
-// The search begins behind the window with the focus, so that equal mnemonics take turns.
+// The search begins after the window with the focus, so that equal mnemonics take turns.
 bool UseMnemonic(HWND root, wchar_t unit) {
     Windows usable = UsableIn(root);
     const Windows inOrder = usable;

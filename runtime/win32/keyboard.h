@@ -1,6 +1,6 @@
-// The keyboard among the constituents of one control or page. The tab order is that of the windows,
-// which is the order in which they were made; the option buttons of one parent are one stop, and
-// arrows choose among them.
+// Keyboard handling for the constituents of one control or page. The tab order is the order in
+// which the windows were created. The option buttons of one parent are one tab stop; arrow keys
+// choose among them.
 #pragma once
 
 #include <string>
@@ -9,28 +9,28 @@
 
 namespace lumenkit::win32 {
 
-/// Gives the focus to the first (or last) constituent in `root` that takes it. False where there is
-/// none.
+/// Gives the focus to the first (or last) constituent in `root` that takes it. Returns false if
+/// there is none.
 bool FocusFirst(HWND root, bool last);
 
-/// Whether the window with the focus is `root` or lies in it.
+/// Whether `root` or a window inside it has the focus.
 bool HasFocusInside(HWND root);
 
-/// Acts on a message of the queue for a window in `root` as a dialog would: Tab, arrows among
-/// option buttons, mnemonics. Keys that the window with the focus wants for itself (arrows and what
-/// edits text, Return where it breaks lines) are handed to it. Return on buttons, Escape, and a
-/// Tab that leads out are left to the container. True where the message was used up.
+/// Handles a queued message for a window in `root` as a dialog does: Tab, arrows among option
+/// buttons, mnemonics. Keys that the focused window needs itself (arrows, editing keys, Return
+/// where it breaks lines) are sent to it. Return on buttons, Escape, and a Tab that leads out of
+/// `root` are left to the container. Returns true if the message was used.
 bool TranslateKeyInside(HWND root, const MSG& message);
 
-/// The mnemonics of the usable captions in `root`, in lower case, each once.
+/// Returns the mnemonics of the usable captions in `root`, in lower case, each once.
 std::wstring MnemonicsInside(HWND root);
 
-/// Does what the mnemonic stands for: clicks the button, goes to what the label or frame names.
-/// False where no caption in `root` has it.
+/// Performs the action of a mnemonic: clicks the button, or moves the focus to the window that the
+/// label or frame names. Returns false if no caption in `root` has the mnemonic.
 bool UseMnemonicInside(HWND root, wchar_t unit);
 
-/// Whether `text`, a caption with mnemonics ("&Open", "&&" is no mnemonic), answers to `unit`
-/// without regard to case.
+/// Whether `unit` is a mnemonic of the caption `text` ("&Open"; "&&" is no mnemonic), regardless of
+/// case.
 bool AnswersTo(const wchar_t* text, wchar_t unit);
 
 }  // namespace lumenkit::win32

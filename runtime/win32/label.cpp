@@ -6,7 +6,7 @@ namespace lumenkit::win32 {
 
 namespace {
 
-// In pixels. An empty caption has a line's height.
+// The size is in pixels. An empty caption has the height of one line.
 SIZE SizeOf(const Text& caption, HFONT font) {
     const std::wstring wide = caption.empty() ? L" " : ToWide(caption);
     const HDC screen = GetDC(nullptr);

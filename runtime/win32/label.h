@@ -7,8 +7,8 @@
 
 namespace lumenkit::win32 {
 
-/// Text that the platform breaks into lines; a mnemonic in it belongs to what comes next in the tab
-/// order.
+/// A label whose text the platform breaks into lines. A mnemonic in the text belongs to the next
+/// window in the tab order.
 class Label final : public BasicCaptioned<host::Label> {
  public:
     Label(const Owner& owner, const host::CaptionDesign& design);

@@ -2,18 +2,18 @@
 
 namespace lumenkit::win32 {
 
-/// The life of an object whose end waits until none of its own code is at work any more. Belongs to
+/// The life of an object whose destruction is deferred until none of its code runs. Used only on
 /// the object's thread.
 class Life {
  public:
     Life(const Life&) = delete;
     Life& operator=(const Life&) = delete;
 
-    /// Keeps the object as long as the hold lives. What comes after the outermost hold must not
-    /// touch it.
+    /// Keeps the object alive as long as the hold exists. Code after the outermost hold must not
+    /// use the object.
     class Hold {
      public:
-        /// Null: there is nothing to keep.
+        /// If `life` is null, there is nothing to hold.
         explicit Hold(Life* life) : life_(life) {
             if (life_ != nullptr) {
                 ++life_->holds_;
@@ -37,7 +37,7 @@ class Life {
     Life() = default;
     ~Life() = default;
 
-    /// End runs with the last hold, of which there must be one.
+    /// Runs End when the last hold is released. At least one hold must exist.
     void EndLater() { waits_ = true; }
     virtual void End() = 0;
 

@@ -4,10 +4,10 @@
 
 namespace lumenkit::win32 {
 
-/// A bitmap in memory to draw on, of the kind that `like` shows.
+/// A bitmap in memory to draw on, with the format of the device `like`.
 class MemoryDevice {
  public:
-    /// `size` in pixels. Raises 7 when the platform has no room.
+    /// `size` is in pixels. Raises 7 if the platform cannot allocate the bitmap.
     MemoryDevice(HDC like, SIZE size);
     ~MemoryDevice();
     MemoryDevice(const MemoryDevice&) = delete;

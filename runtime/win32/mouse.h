@@ -1,4 +1,4 @@
-// The mouse as the host contract knows it.
+// Conversion of the platform's mouse messages to the arguments of the host contract.
 #pragma once
 
 #include <cstdint>
@@ -9,11 +9,12 @@
 
 namespace lumenkit::win32 {
 
-/// The keys held as of the message being answered: 1 Shift, 2 Ctrl, 4 Alt.
+/// Returns the keys held when the current message was sent, as the sum of 1 for Shift, 2 for Ctrl
+/// and 4 for Alt.
 std::int16_t HeldKeys();
 
-/// The arguments of a mouse message of a client area. Of a button's message the button that moved,
-/// of WM_MOUSEMOVE all that are held.
+/// Returns the arguments for a mouse message of a client area. A button message reports the button
+/// that changed; WM_MOUSEMOVE reports all buttons that are held.
 host::MouseArguments MouseArgumentsOf(UINT message, WPARAM wParam, LPARAM lParam,
                                       Resolution resolution);
 

@@ -12,7 +12,7 @@ OptionButton::OptionButton(const Owner& owner, const host::OptionButtonDesign& d
     : BasicCaptioned(owner, {.className = L"BUTTON", .style = BS_RADIOBUTTON}, design,
                      design.caption),
       group_(group) {
-    // The focus alone is no click.
+    // Receiving the focus must not click the button.
     Ask(BM_SETDONTCLICK, TRUE);
 }
 
@@ -52,7 +52,7 @@ void OptionButton::SetForeColor(Color color) {
         return;
     }
     foreColor_ = color;
-    // Visual styles have a colour of their own for captions; without them ours is asked for.
+    // Visual styles draw captions in their own colour. Without them the button asks its parent.
     const wchar_t* const theme = color == Color::ButtonText ? nullptr : L"";
     SetWindowTheme(Handle(), theme, theme);
     Invalidate();

@@ -10,8 +10,8 @@ namespace lumenkit::win32 {
 
 class OptionButtons;
 
-/// A radio button whose mark its array sets, not the platform: the platform's groups know nothing
-/// of arrays.
+/// A radio button whose mark is set by its array, because the platform's groups do not correspond
+/// to arrays.
 class OptionButton final : public BasicCaptioned<host::OptionButton> {
  public:
     /// `design.index` is the element's index.
@@ -28,7 +28,7 @@ class OptionButton final : public BasicCaptioned<host::OptionButton> {
     Color ForeColor() const override { return foreColor_; }
     void SetForeColor(Color color) override;
 
-    // For the array.
+    // Used by the array.
     void Mark(bool selected);
     void BecomeTabStop(bool stops);
     bool TakesFocus() const { return IsVisible() && IsEnabled(); }

@@ -9,7 +9,7 @@
 
 namespace lumenkit::win32 {
 
-/// One of the buttons is where Tab leads: the selected one, or the first that takes the focus.
+/// Tab stops at one of the buttons: the selected one, or else the first that takes the focus.
 class OptionButtons final : public host::OptionButtons {
  public:
     OptionButtons(const Owner& owner, const host::OptionButtonDesign& design, host::Frame& frame,
@@ -18,14 +18,15 @@ class OptionButtons final : public host::OptionButtons {
     host::OptionButton& Item(std::int16_t index) override;
     void Load(std::int16_t index) override;
 
-    // For the elements.
+    // Used by the elements.
     const OptionButton* Selected() const { return selected_; }
-    /// Selects `button` in place of any other and notifies the click, if it is not selected.
+    /// Selects `button`, clears the other one and notifies the click. Does nothing if `button` is
+    /// already selected.
     void Choose(OptionButton& button);
-    /// Takes the mark from it, if it has it.
+    /// Clears the mark of `button` if it is selected.
     void Release(OptionButton& button);
-    /// Gives the focus to the next button (or the one before) that takes it, round the ends, and
-    /// chooses it.
+    /// Moves the focus to the next (or previous) button that takes it, wrapping around at the ends,
+    /// and chooses that button.
     void Step(OptionButton& button, bool forward);
     void PlaceTabStop();
 
@@ -40,7 +41,7 @@ class OptionButtons final : public host::OptionButtons {
     host::OptionButtonEvents& events_;
     Text name_;
     Text fontName_;
-    host::OptionButtonDesign design_;  // of the elements to load; its texts are the fields above
+    host::OptionButtonDesign design_;  // for new elements; its texts are the members above
     Elements buttons_;
     OptionButton* selected_ = nullptr;
     OptionButton* tabStop_ = nullptr;

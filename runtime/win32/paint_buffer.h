@@ -4,7 +4,7 @@
 
 namespace lumenkit::win32 {
 
-/// A bitmap in which pictures are put together before they are shown; hold it as
+/// A bitmap in which a picture is composed before it is shown. Hold the buffer as
 /// ThreadShared<PaintBuffer>. It grows as needed.
 class PaintBuffer {
  public:
@@ -13,7 +13,7 @@ class PaintBuffer {
     PaintBuffer(const PaintBuffer&) = delete;
     PaintBuffer& operator=(const PaintBuffer&) = delete;
 
-    /// The use of the buffer for one picture, which is shown at the end.
+    /// Uses the buffer for one picture, which is shown when the use ends.
     class Use {
      public:
         /// `shown` is the part of `target` that is painted.
@@ -22,8 +22,8 @@ class PaintBuffer {
         Use(const Use&) = delete;
         Use& operator=(const Use&) = delete;
 
-        /// What to paint on, and where the target's origin lies on it: the target itself where the
-        /// buffer is in use already or cannot be had.
+        /// The device to paint on, and the position of the target's origin on it. The device is the
+        /// target itself if the buffer is already in use or cannot be allocated.
         HDC Device() const { return device_; }
         POINT Origin() const { return origin_; }
 
@@ -36,7 +36,7 @@ class PaintBuffer {
     };
 
  private:
-    /// Null when there is none to be had.
+    /// Returns null if no buffer can be allocated.
     HDC Take(HDC target, int width, int height);
 
     HDC device_ = nullptr;

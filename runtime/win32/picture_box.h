@@ -5,7 +5,7 @@
 
 namespace lumenkit::win32 {
 
-/// A window with a sunken border and the background of a button.
+/// A window with a sunken border and the background colour of buttons.
 class PictureBox final : public BasicConstituent<host::PictureBox> {
  public:
     PictureBox(const Owner& owner, const host::Design& design);

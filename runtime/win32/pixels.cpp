@@ -7,7 +7,7 @@ namespace lumenkit::win32 {
 
 namespace {
 
-// Window coordinates are kept in 16 bits by parts of the platform.
+// Parts of the platform keep window coordinates in 16 bits.
 constexpr double farthest = 32767;
 
 }  // namespace

@@ -1,4 +1,4 @@
-// Twips (1/1440 inch) and pixels at the screen's real resolution.
+// Conversion between twips (1/1440 inch) and pixels at the screen's real resolution.
 #pragma once
 
 #include "frame/host/constituent.h"
@@ -6,7 +6,7 @@
 
 namespace lumenkit::win32 {
 
-/// Pixels per inch of the screen, each way.
+/// Pixels per inch of the screen, in each direction.
 struct Resolution {
     int x = 96;
     int y = 96;
@@ -16,11 +16,11 @@ struct Resolution {
 
 inline constexpr int twipsPerInch = 1440;
 
-/// Nearest whole pixel, as far out as the platform reaches; 0 for what is no number.
+/// Rounds to the nearest whole pixel in the platform's range. Returns 0 for a NaN.
 int ToPixels(float twips, int pixelsPerInch);
 float ToTwips(int pixels, int pixelsPerInch);
 
-/// A placement's edges are rounded each by itself, so that neighbours stay neighbours.
+/// Rounds each edge of the placement separately, so that adjacent placements stay adjacent.
 RECT ToPixels(const host::Placement& placement, Resolution resolution);
 host::Placement ToTwips(const RECT& rectangle, Resolution resolution);
 

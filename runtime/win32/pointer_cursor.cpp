@@ -7,8 +7,8 @@ namespace lumenkit::win32 {
 
 namespace {
 
-// The platform's cursors by MousePointer's numbers. Two it has given up: a small square, for which
-// the arrow stands, and the old one for sizes, which the one for all directions replaced.
+// The platform's cursors, indexed by MousePointer. The platform no longer has two of them: Icon, a
+// small square, becomes the arrow, and SizePointer becomes the cursor for all directions.
 constexpr WORD arrow = 32512;
 constexpr std::array<WORD, 16> cursors = {
     0,      // Default

@@ -5,8 +5,8 @@
 
 namespace lumenkit::win32 {
 
-/// The platform's cursor for a pointer, its own to keep; null for Default, which is whatever the
-/// window has by itself. Nobody can give a picture for Custom: it is an arrow.
+/// Returns the platform's cursor for a pointer; the platform owns it. Returns null for Default,
+/// which is the window's usual cursor. Custom is an arrow, because no picture can be set for it.
 HCURSOR CursorOf(host::MousePointer pointer);
 
 }  // namespace lumenkit::win32

@@ -7,7 +7,8 @@
 
 namespace lumenkit::win32 {
 
-/// The screen by its resolution. Where a pixel is no whole number of twips, the nearest is told.
+/// The screen, described by its resolution. If a pixel is not a whole number of twips, the nearest
+/// whole number is reported.
 class Screen final : public host::Screen {
  public:
     explicit Screen(Resolution resolution) : resolution_(resolution) {}

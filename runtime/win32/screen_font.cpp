@@ -12,10 +12,10 @@ namespace {
 
 constexpr std::int16_t unknown = -1;
 
-// The platform's functions take no longer texts.
+// The platform's functions accept no longer text.
 constexpr std::size_t longestAtOnce = 8192;
 
-// NOLINTNEXTLINE(cppcoreguidelines-avoid-non-const-global-variables): of the process
+// NOLINTNEXTLINE(cppcoreguidelines-avoid-non-const-global-variables): one for the process
 int fontCount = 0;
 
 struct Range {
@@ -23,8 +23,8 @@ struct Range {
     char16_t last;
 };
 
-// Scripts whose units stand one beside the other: no combining marks, no surrogates, nothing that
-// joins its neighbours or runs from right to left.
+// Scripts whose units are placed side by side. They contain no combining marks, no surrogates, and
+// no units that join their neighbours or run from right to left.
 constexpr std::array simpleRanges = {
     Range{0x0020, 0x007E}, Range{0x00A0, 0x00AC}, Range{0x00AE, 0x02FF}, Range{0x0370, 0x0482},
     Range{0x048A, 0x0556}, Range{0x1E00, 0x1FFF}, Range{0x2010, 0x2027}, Range{0x2030, 0x205E},
@@ -75,8 +75,8 @@ void ScreenFont::Ends(TextView text, std::span<int> ends) const {
     Measure(text, [&](int end) { *next++ = end; });
 }
 
-// Words and blanks are measured each by themselves, so that a text may be broken at blanks without
-// being measured anew.
+// Words and blanks are measured separately, so that a text can be broken at blanks without
+// measuring it again.
 template <typename Put>
 int ScreenFont::Measure(TextView text, Put&& put) const {
     int width = 0;
@@ -117,7 +117,7 @@ const ScreenFont::Page& ScreenFont::PageOf(char16_t unit) const {
     return *page;
 }
 
-// A unit has a width of its own if it is as wide between its neighbours one way round as the other.
+// A unit has a fixed width if it is equally wide when the order of its neighbours is reversed.
 std::unique_ptr<ScreenFont::Page> ScreenFont::NewPage(unsigned number) const {
     auto page = std::make_unique<Page>();
     page->fill(unknown);
@@ -148,7 +148,7 @@ std::unique_ptr<ScreenFont::Page> ScreenFont::NewPage(unsigned number) const {
     return page;
 }
 
-// The extent as a whole may be larger: it includes the overhang of the last unit.
+// The extent of the whole text may be larger, because it includes the overhang of the last unit.
 int ScreenFont::AskPlatform(TextView text) const {
     scratch_.assign(text.size(), 0);
     int width = 0;

@@ -11,32 +11,32 @@
 
 namespace lumenkit::win32 {
 
-/// A font as the platform realises it, with its measures: lengths are in logical units of the
-/// design, pixels for a design made for the screen. Belongs to one thread.
+/// A font realised by the platform, with its measures. Lengths are in logical units of the design,
+/// which are pixels for a design made for the screen. Used only on one thread.
 ///
-/// Widths come from tables wherever units stand beside each other without heeding their
-/// neighbours, which is found out for each font; other words are measured by the platform.
-/// Those that a FontCache made are shared.
+/// Units whose width does not depend on their neighbours are measured with tables; each font
+/// determines which units these are. The platform measures all other words. Fonts created by a
+/// FontCache are shared.
 class ScreenFont final : public std::enable_shared_from_this<ScreenFont> {
  public:
-    /// Raises 7 when the platform has no more fonts.
+    /// Raises 7 if the platform cannot create more fonts.
     explicit ScreenFont(const LOGFONTW& design);
     ~ScreenFont();
     ScreenFont(const ScreenFont&) = delete;
     ScreenFont& operator=(const ScreenFont&) = delete;
 
-    /// Lives as long as this object.
+    /// The handle is valid as long as this object.
     HFONT Handle() const { return handle_; }
     const LOGFONTW& Design() const { return design_; }
     int LineHeight() const { return lineHeight_; }
     int AverageWidth() const { return averageWidth_; }
 
-    /// Width on one line: the sum of the widths of words and blanks.
+    /// Returns the width on one line, which is the sum of the widths of words and blanks.
     int Width(TextView text) const;
-    /// Puts the width of the first i + 1 units into ends[i]; there is one for each unit.
+    /// Stores the width of the first i + 1 units in ends[i]. `ends` has one element for each unit.
     void Ends(TextView text, std::span<int> ends) const;
 
-    /// How many exist in the process.
+    /// Returns the number of fonts in the process.
     static int Count();
 
  private:
@@ -48,7 +48,7 @@ class ScreenFont final : public std::enable_shared_from_this<ScreenFont> {
     int Measure(TextView text, Put&& put) const;
     template <typename Put>
     int MeasureWord(TextView word, int before, Put&& put) const;
-    /// Puts the ends as the platform says into the scratch buffer; returns the whole width.
+    /// Stores the ends that the platform reports in the scratch buffer. Returns the whole width.
     int AskPlatform(TextView text) const;
 
     LOGFONTW design_;

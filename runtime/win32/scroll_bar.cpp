@@ -9,7 +9,7 @@ namespace lumenkit::win32 {
 
 namespace {
 
-// How many small steps one notch of the wheel is worth; none for whole pages.
+// Returns the number of small steps per notch of the wheel, or nothing for whole pages.
 std::optional<int> StepsOfNotch() {
     UINT lines = 3;
     SystemParametersInfoW(SPI_GETWHEELSCROLLLINES, 0, &lines, 0);
@@ -54,7 +54,7 @@ void ScrollBar::SetSmallChange(std::int16_t step) {
     smallChange_ = step;
 }
 
-// The thumb stands for a page; the platform counts to the last page's end.
+// The thumb represents a page. The platform's maximum is the end of the last page.
 SCROLLINFO ScrollBar::Range() const {
     SCROLLINFO info = {};
     info.cbSize = sizeof info;
@@ -68,7 +68,7 @@ SCROLLINFO ScrollBar::Range() const {
 void ScrollBar::ShowRange() {
     SCROLLINFO info = Range();
     Ask(SBM_SETSCROLLINFO, TRUE, reinterpret_cast<LPARAM>(&info));
-    EnableWindow(Handle(), IsEnabled() ? TRUE : FALSE);  // which the range may have changed
+    EnableWindow(Handle(), IsEnabled() ? TRUE : FALSE);  // the new range may have changed it
 }
 
 void ScrollBar::Scroll(std::int32_t value) {

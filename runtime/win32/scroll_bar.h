@@ -8,7 +8,8 @@
 
 namespace lumenkit::win32 {
 
-/// From 0 to 32767 by steps of 1 at first. The value follows the thumb while it is dragged.
+/// A scroll bar, initially from 0 to 32767 in steps of 1. The value follows the thumb while it is
+/// dragged.
 class ScrollBar final : public BasicConstituent<host::ScrollBar> {
  public:
     ScrollBar(const Owner& owner, const host::Design& design, host::Orientation orientation,
@@ -30,7 +31,7 @@ class ScrollBar final : public BasicConstituent<host::ScrollBar> {
     std::optional<LRESULT> HandleNotification(UINT message, WPARAM wParam, LPARAM lParam) override;
 
  private:
-    /// To `value` or as near as the bar goes; may destroy the object.
+    /// Scrolls to `value`, or as near to it as the range allows. May destroy the object.
     void Scroll(std::int32_t value);
     void ScrollBy(WORD code, WORD position);
     LRESULT TurnWheel(UINT message, WPARAM wParam);
@@ -43,7 +44,7 @@ class ScrollBar final : public BasicConstituent<host::ScrollBar> {
     std::int16_t max_ = 32767;
     std::int16_t largeChange_ = 1;
     std::int16_t smallChange_ = 1;
-    int wheel_ = 0;  // turned, but not yet by a whole step
+    int wheel_ = 0;  // turned by less than a whole step so far
 };
 
 }  // namespace lumenkit::win32

@@ -8,7 +8,7 @@ namespace {
 
 constexpr int shortestThumb = 8;
 
-// Along the bar, from its beginning.
+// A range along the bar, measured from its beginning.
 struct Span {
     int begin;
     int end;
@@ -19,7 +19,7 @@ RECT Part(const RECT& area, bool vertical, Span span) {
                     : RECT{area.left + span.begin, area.top, area.left + span.end, area.bottom};
 }
 
-// How far the position may go.
+// Returns the largest position.
 int LastPosition(const SCROLLINFO& info) {
     return info.nMax - std::max(static_cast<int>(info.nPage) - 1, 0);
 }

@@ -4,7 +4,7 @@
 
 namespace lumenkit::win32 {
 
-/// Draws nothing; gathers the texts that are printed, line by line, for those who cannot see them.
+/// Draws nothing. Collects the printed texts, line by line, for screen readers.
 class ShownText final : public Canvas {
  public:
     void Clear(Color /*paper*/) override { text_.clear(); }

@@ -11,7 +11,7 @@ namespace lumenkit::win32 {
 
 namespace {
 
-// A window's client area as a device.
+// The device of a window's client area.
 class WindowDevice {
  public:
     explicit WindowDevice(HWND window) : window_(window), device_(GetDC(window)) {}
@@ -28,7 +28,7 @@ class WindowDevice {
 
 }  // namespace
 
-// The time in which the control paints on one canvas. Drawings may nest: a device can ask for one
+// The scope in which the control paints on one canvas. Paintings may nest: a device can request one
 // while the screen is painted.
 class Surface::Painting {
  public:
@@ -126,7 +126,7 @@ void Surface::DrawOn(Canvas& canvas) {
 Text Surface::ShownTexts() {
     ShownText texts;
     if (canvas_ != nullptr) {
-        return {};  // in the midst of it
+        return {};  // a painting is in progress
     }
     visibleBottom_ = std::numeric_limits<float>::infinity();
     const bool wasChanged = isChanged_;
@@ -148,7 +148,7 @@ void Surface::Refresh() {
     Invalidate();
     UpdateWindow(owner_.SurfaceWindow());
     if (!hasPainted_ && !autoRedraw_) {
-        ShownText unseen;  // the window is covered: the control paints all the same
+        ShownText unseen;  // the window is covered, but the control paints nevertheless
         DrawOn(unseen);
     }
 }
@@ -159,7 +159,7 @@ void Surface::Invalidate() {
     }
 }
 
-// Of what is kept; told once until the picture is drawn.
+// Called when the kept picture changed. Notifies once until the picture is drawn.
 void Surface::Changed() {
     if (!std::exchange(isChanged_, true)) {
         Invalidate();

@@ -17,12 +17,12 @@
 
 namespace lumenkit::win32 {
 
-/// What a surface needs of the control that it belongs to.
+/// The services that a surface needs from its control.
 class SurfaceOwner {
  public:
     virtual ~SurfaceOwner() = default;
 
-    /// The control's window; null when it is gone.
+    /// The control's window, or null if it was destroyed.
     virtual HWND SurfaceWindow() const = 0;
     /// Size of the control, border included, in pixels.
     virtual SIZE WholeSize() const = 0;
@@ -31,15 +31,15 @@ class SurfaceOwner {
     /// Runs UserControl_Paint.
     virtual void PaintControl() = 0;
     virtual void RequestSize(SIZE size) = 0;
-    /// The border has come or gone.
+    /// Called when the border was added or removed.
     virtual void BorderChanged() = 0;
     virtual void PictureChanged() = 0;
 };
 
-/// A control's drawing surface: the client area of its window. Where AutoRedraw is on, it keeps
-/// what was drawn since Cls as a list and draws that; where it is off, what is drawn while the
-/// control is asked to paint goes to the device at hand, and what is drawn at other times is seen
-/// on the screen until the next repaint.
+/// The drawing surface of a control: the client area of its window. With AutoRedraw it records all
+/// drawing since Cls as a list and draws that list. Without AutoRedraw, drawing inside
+/// UserControl_Paint goes to the current device; drawing at other times stays on the screen until
+/// the next repaint.
 class Surface final : public host::Surface, private FontListener {
  public:
     /// The owner must outlive the surface.
@@ -80,13 +80,13 @@ class Surface final : public host::Surface, private FontListener {
     std::int16_t Pointer() const override { return pointer_; }
     void SetPointer(std::int16_t pointer) override;
 
-    // For the runtime: no calls of the contract.
-    /// The drawing area in the control, both in pixels.
+    // Used by the runtime; not part of the host contract.
+    /// Returns the drawing area in coordinates of the control, in pixels.
     RECT Area() const;
-    /// Clears the canvas and draws the surface's picture on it; the pen stays where it is. Where
-    /// the surface does not keep its picture, the control paints.
+    /// Clears the canvas and draws the surface's picture on it. The pen does not move. If the
+    /// surface does not keep its picture, the control paints.
     void DrawOn(Canvas& canvas);
-    /// The texts that the picture shows, in lines.
+    /// Returns the texts that the picture shows, in lines.
     Text ShownTexts();
 
  private:
@@ -103,13 +103,13 @@ class Surface final : public host::Surface, private FontListener {
     Resolution resolution_;
     ThreadShared<FontCache> cache_;
     HeldFont font_;
-    ScreenFontRef realised_;    // null: not since the font changed
-    Canvas* canvas_ = nullptr;  // what the control paints on at present
+    ScreenFontRef realised_;    // null: not realised since the font changed
+    Canvas* canvas_ = nullptr;  // the canvas that the control paints on now
     KeptPicture kept_;
     std::vector<int> ends_;
     float currentX_ = 0;
     float currentY_ = 0;
-    float visibleBottom_ = -1;  // below 0: the drawing area's
+    float visibleBottom_ = -1;  // below 0: the bottom of the drawing area
     Color foreColor_ = Color::ButtonText;
     Color backColor_ = Color::ButtonFace;
     std::int16_t borderStyle_ = 0;

@@ -12,7 +12,7 @@ constexpr bool IsLowSurrogate(char16_t unit) {
     return (unit & 0xFC00) == 0xDC00;
 }
 
-/// The beginning of `text` that has at most `room` units and does not end inside a surrogate pair.
+/// Returns the beginning of `text` that has at most `room` units and splits no surrogate pair.
 inline TextView WithoutHalfPair(TextView text, std::size_t room) {
     if (room >= text.size()) {
         return text;

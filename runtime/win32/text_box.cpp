@@ -24,7 +24,7 @@ DWORD BarsOf(host::ScrollBars bars) {
     return 0;
 }
 
-// Without a horizontal bar lines wrap.
+// Lines wrap if there is no horizontal scroll bar.
 DWORD StyleOf(const host::TextBoxDesign& design) {
     return WS_TABSTOP | (design.multiLine ? ES_MULTILINE | ES_WANTRETURN | ES_AUTOVSCROLL |
                                                 BarsOf(design.scrollBars)
@@ -47,7 +47,7 @@ TextBox::~TextBox() {
     GiveBufferBack();
 }
 
-// A buffer that was asked for may count as ours; it is the edit control's to free.
+// After EM_GETHANDLE the buffer may count as the caller's. EM_SETHANDLE returns it to the box.
 void TextBox::GiveBufferBack() {
     if (multiLine_) {
         isAssigning_ = true;
@@ -61,7 +61,7 @@ std::int32_t TextBox::Length() const {
     return static_cast<std::int32_t>(Ask(WM_GETTEXTLENGTH));
 }
 
-// Without data where the edit control does not show its buffer.
+// Returns a view without data if the edit control does not expose its buffer.
 TextView TextBox::TextInPlace() const {
     const auto buffer = multiLine_ ? reinterpret_cast<HLOCAL>(Ask(EM_GETHANDLE)) : nullptr;
     if (buffer == nullptr) {
@@ -72,7 +72,7 @@ TextView TextBox::TextInPlace() const {
         return {};
     }
     const auto* const text = static_cast<const char16_t*>(LocalLock(buffer));
-    LocalUnlock(buffer);  // stays where it is: only the edit control moves it
+    LocalUnlock(buffer);  // only the edit control moves the buffer
     return text == nullptr ? TextView{} : TextView(text, length);
 }
 
@@ -105,7 +105,7 @@ void TextBox::SetText(TextView text) {
     }
 }
 
-// Whether the box lives on.
+// Returns whether the box still exists.
 bool TextBox::Assign(TextView text) {
     if (Handle() == nullptr) {
         copy_ = Text(text);
@@ -170,7 +170,7 @@ void TextBox::SetSelection(std::int32_t start, std::int32_t end) {
         Select(-1, 0);
         return;
     }
-    // The message's numbers are unsigned: what is negative lies beyond the end.
+    // The numbers of the message are unsigned: a negative position is beyond the end.
     const std::int32_t length = Length();
     const auto placed = [&](std::int32_t position) {
         return position < 0 ? length : std::min(position, length);

@@ -8,10 +8,10 @@
 
 namespace lumenkit::win32 {
 
-/// The platform's edit control. Keys reach a locked box too, but do not edit it. Its colours are
-/// those of a box that can be edited, also while it is locked or disabled.
+/// The platform's edit control. A locked box receives keys too, but they do not edit it. A locked
+/// or disabled box keeps the colours of an editable one.
 ///
-/// The platform's texts end at their first unit 0, and so do assigned ones.
+/// The platform's texts end at their first unit 0, and so do assigned texts.
 class TextBox final : public BasicTextConstituent<host::TextBox> {
  public:
     TextBox(const Owner& owner, const host::TextBoxDesign& design, host::TextBoxEvents& events);
@@ -61,7 +61,8 @@ class TextBox final : public BasicTextConstituent<host::TextBox> {
 
     LRESULT Pass(UINT message, WPARAM wParam, LPARAM lParam);
 
-    // The user acts: each answers a message. The object may be gone when they return.
+    // The user's actions; each method answers a message. The object may be destroyed when they
+    // return.
     LRESULT KeyGoesDown(UINT message, WPARAM wParam, LPARAM lParam);
     LRESULT KeyIsPressed(WPARAM wParam, LPARAM lParam);
     LRESULT KeyGoesUp(UINT message, WPARAM wParam, LPARAM lParam);
@@ -73,15 +74,15 @@ class TextBox final : public BasicTextConstituent<host::TextBox> {
     void Paste();
 
     host::TextBoxEvents& events_;
-    mutable Text copy_;              // where the text cannot be read in place
+    mutable Text copy_;              // used where the text cannot be read in place
     mutable bool isCopied_ = false;  // whether the copy is the text
     Color foreColor_ = Color::WindowText;
     std::int32_t maxLength_ = 0;
     host::MousePointer pointer_ = host::MousePointer::Default;
     bool multiLine_;
     bool locked_ = false;
-    bool isAssigning_ = false;     // what the edit control says now is not for the receiver
-    bool hasChanged_ = false;      // by what the edit control is doing
+    bool isAssigning_ = false;     // notifications of the edit control are not passed on
+    bool hasChanged_ = false;      // by the message in progress
     bool keyIsTaken_ = false;      // the key that is down enters nothing
     bool dropsSurrogate_ = false;  // there was no room for the first half of the pair
     bool isPressed_ = false;       // the left button went down in the box

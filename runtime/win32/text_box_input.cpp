@@ -1,4 +1,4 @@
-// What the user does to a text box: keys, mouse, clipboard.
+// User input of a text box: keys, mouse, clipboard.
 #include <limits>
 #include <utility>
 
@@ -59,7 +59,7 @@ LRESULT TextBox::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
             Paste();
             return 0;
         case WM_SETTEXT:
-            if (!isAssigning_) {  // another program's
+            if (!isAssigning_) {  // sent by another program
                 SetText(lParam == 0 ? TextView{} : AsText(reinterpret_cast<LPCWSTR>(lParam)));
                 return TRUE;
             }
@@ -72,7 +72,7 @@ LRESULT TextBox::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
             }
             return Pass(message, wParam, lParam);
         case WM_GETDLGCODE: {
-            // Not the edit control's own answer: it would act for the dialog from then on.
+            // The edit control's own answer would make it act for the dialog from then on.
             const auto* const asked = reinterpret_cast<const MSG*>(lParam);
             const bool wants = multiLine_ && asked != nullptr && asked->wParam == VK_RETURN;
             return DLGC_HASSETSEL | DLGC_WANTCHARS | DLGC_WANTARROWS |
@@ -91,7 +91,7 @@ LRESULT TextBox::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
     }
 }
 
-// Lets the edit control answer, then tells of what it changed: once, and when it has done.
+// Lets the edit control answer. Then notifies its changes of the text, once.
 LRESULT TextBox::Pass(UINT message, WPARAM wParam, LPARAM lParam) {
     const bool outerChange = std::exchange(hasChanged_, false);
     const Watch watch(*this);
@@ -120,7 +120,7 @@ LRESULT TextBox::KeyGoesDown(UINT message, WPARAM wParam, LPARAM lParam) {
         return 0;
     }
     keyIsTaken_ = keyCode == 0;
-    // A box with several lines would close the dialog that it lies in.
+    // Escape in a multi-line box would close the dialog that contains the box.
     const bool closes = multiLine_ && keyCode == VK_ESCAPE;
     return keyIsTaken_ || closes ? 0 : Pass(message, static_cast<WPARAM>(keyCode), lParam);
 }
@@ -143,8 +143,8 @@ LRESULT TextBox::KeyIsPressed(WPARAM wParam, LPARAM lParam) {
     return Pass(WM_CHAR, unit, lParam);
 }
 
-// Whether the edit control is to see the unit: not what it would only beep at, nor what leaves half
-// a pair.
+// Whether the edit control receives the unit. Units at which it would only beep are dropped, and so
+// are halves of surrogate pairs.
 bool TextBox::Takes(char16_t unit) {
     if (unit == 0 || unit == escape || unit == deleteCharacter) {
         return false;
@@ -168,8 +168,8 @@ LRESULT TextBox::KeyGoesUp(UINT message, WPARAM wParam, LPARAM lParam) {
     return watch.IsGone() || keyCode == 0 ? 0 : Pass(message, static_cast<WPARAM>(keyCode), lParam);
 }
 
-// The left button first does what it does in an edit control: it brings the focus and moves the
-// caret, so that the receiver sees what came of it. The others open menus, at last.
+// The edit control handles a press of the left button first, so that the receiver sees the new
+// focus and caret position. The other buttons open menus and are passed on last.
 LRESULT TextBox::ButtonGoesDown(UINT message, WPARAM wParam, LPARAM lParam) {
     host::MouseArguments mouse = MouseArgumentsOf(message, wParam, lParam, PixelsPerInch());
     const Watch watch(*this);
@@ -222,7 +222,7 @@ LRESULT TextBox::MouseMoves(UINT message, WPARAM wParam, LPARAM lParam) {
     return watch.IsGone() ? 0 : Pass(message, wParam, lParam);
 }
 
-// How many units may take the place of the selection.
+// Returns the number of units that may replace the selection.
 std::size_t TextBox::Room() const {
     if (maxLength_ == 0) {
         return std::numeric_limits<std::size_t>::max();
@@ -232,7 +232,8 @@ std::size_t TextBox::Room() const {
     return static_cast<std::size_t>(std::max(maxLength_ - kept, 0));
 }
 
-// In place of the edit control's own: no pair is split, and a single line takes one line only.
+// Replaces the edit control's own paste: no pair is split, and a single-line box takes one line
+// only.
 void TextBox::Paste() {
     if (locked_) {
         return;

@@ -4,8 +4,8 @@
 
 namespace lumenkit::win32 {
 
-/// A share in the one T of the current thread, which lives as long as somebody holds a share.
-/// Nothing is left to be destroyed when the thread or the program ends.
+/// A share in the current thread's only T, which lives as long as a share exists. Nothing remains
+/// to be destroyed when the thread or the program ends.
 template <typename T>
 class ThreadShared {
  public:
@@ -25,7 +25,7 @@ class ThreadShared {
     ThreadShared(const ThreadShared&) = delete;
     ThreadShared& operator=(const ThreadShared&) = delete;
 
-    /// The current thread's T; null where nobody holds a share.
+    /// Returns the current thread's T, or null if there is no share.
     static T* IfAny() { return instance; }
 
     T& operator*() const { return *instance_; }

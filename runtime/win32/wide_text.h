@@ -1,4 +1,4 @@
-// Texts as the platform's functions take and give them. Both sides are UTF-16; only the types
+// Conversion between texts and the strings of platform functions. Both are UTF-16; only the types
 // differ.
 #pragma once
 
@@ -11,12 +11,12 @@ namespace lumenkit::win32 {
 
 static_assert(sizeof(wchar_t) == sizeof(char16_t));
 
-/// For functions that want a terminating zero.
+/// For functions that need a terminating zero.
 inline std::wstring ToWide(TextView text) {
     return {text.begin(), text.end()};
 }
 
-/// The same memory, without a copy.
+/// Returns the same memory without a copy.
 inline const wchar_t* AsWide(const char16_t* text) {
     return reinterpret_cast<const wchar_t*>(text);
 }

@@ -13,10 +13,10 @@ namespace {
 
 constexpr const wchar_t* ownClass = L"lumenkitWindow";
 
-// NOLINTNEXTLINE(cppcoreguidelines-avoid-non-const-global-variables): of the process
+// NOLINTNEXTLINE(cppcoreguidelines-avoid-non-const-global-variables): one for the process
 int windowCount = 0;
 
-// The window that a notification to its parent comes from; null for other messages.
+// Returns the window that sent a notification to its parent; null for other messages.
 HWND Notifier(UINT message, WPARAM wParam, LPARAM lParam) {
     switch (message) {
         case WM_COMMAND:
@@ -120,7 +120,7 @@ void Window::LetGo() {
     SetWindowLongPtrW(handle, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(former_));
     --windowCount;
     ShowWindow(handle, SW_HIDE);
-    SetParent(handle, HWND_MESSAGE);  // so that it does not die with its parent before its time
+    SetParent(handle, HWND_MESSAGE);  // so that its parent does not destroy it too early
     PostMessageW(handle, WM_CLOSE, 0, 0);
 }
 
@@ -158,7 +158,7 @@ LRESULT Window::Answer(UINT message, WPARAM wParam, LPARAM lParam) {
         const std::optional<LRESULT> reflected = Reflect(message, wParam, lParam);
         return reflected ? *reflected : HandleMessage(message, wParam, lParam);
     } catch (...) {
-        // The platform cannot carry it on.
+        // The platform cannot propagate exceptions.
         return 0;
     }
 }
@@ -184,7 +184,7 @@ struct ParkingWindow {
     ParkingWindow& operator=(const ParkingWindow&) = delete;
 
     void Create(HINSTANCE module) {
-        // The desktop, another process's window, need not be told.
+        // The desktop belongs to another process and need not be notified.
         handle = CreateWindowExW(WS_EX_TOOLWINDOW | WS_EX_NOPARENTNOTIFY, L"STATIC", L"", WS_POPUP,
                                  0, 0, 1, 1, nullptr, nullptr, module, nullptr);
         if (handle == nullptr) {

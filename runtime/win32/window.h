@@ -12,29 +12,29 @@ namespace lumenkit::win32 {
 
 struct WindowDesign {
     HINSTANCE module = nullptr;
-    /// Null: a class of this library's own. Else a class of the platform's ("EDIT"), whose window
-    /// procedure answers what HandleMessage leaves to it.
+    /// Null: the window class of this library. Otherwise a class of the platform ("EDIT"), whose
+    /// window procedure answers the messages that HandleMessage does not handle.
     const wchar_t* className = nullptr;
     TextView text = {};
     DWORD style = 0;
     DWORD extendedStyle = 0;
     RECT place = {};  ///< pixels, in the parent
     HWND parent = nullptr;
-    /// Of the object that the window belongs to, kept while the window answers a message; null:
-    /// that of the parent, where it is a window of this library.
+    /// The Life of the object that owns the window, held while the window answers a message. Null:
+    /// the Life of the parent, if the parent is a window of this library.
     Life* life = nullptr;
 };
 
 class Window;
 
-/// The windows of this library on one thread. Every message asks whose it is: the platform would
-/// know, too, but at some price.
+/// The windows of this library on one thread. Every message looks up its window here, which is
+/// cheaper than asking the platform.
 using OwnWindows = std::unordered_map<HWND, Window*>;
 
-/// A window that lives as long as the object. Belongs to the thread that created it.
+/// A window that is destroyed with its object. Used only on the thread that created it.
 ///
-/// A window passes what its children notify it of (WM_COMMAND, WM_NOTIFY, WM_HSCROLL, WM_VSCROLL,
-/// WM_DRAWITEM, WM_CTLCOLOR...) on to the child, where that is such an object.
+/// A window passes the notifications of its children (WM_COMMAND, WM_NOTIFY, WM_HSCROLL,
+/// WM_VSCROLL, WM_DRAWITEM, WM_CTLCOLOR...) on to the child, if the child is a Window too.
 class Window {
  public:
     Window() = default;
@@ -42,18 +42,19 @@ class Window {
     Window(const Window&) = delete;
     Window& operator=(const Window&) = delete;
 
-    /// Null when there is none (any more): a container may destroy windows under us.
+    /// Null before Create and after the window was destroyed. A container may destroy it at any
+    /// time.
     HWND Handle() const { return handle_; }
-    /// The object behind a window of this library that belongs to the current thread; null for
-    /// others.
+    /// Returns the object of a window of this library that belongs to the current thread; null for
+    /// other windows.
     static Window* Of(HWND handle);
-    /// What is kept while the window answers; null where nothing is.
+    /// The Life that is held while the window answers a message, or null.
     Life* GetLife() const { return life_; }
-    /// How many windows of this library exist in the process.
+    /// Returns the number of this library's windows in the process.
     static int Count();
 
-    /// Tells whether the object still lives after a call that may have destroyed it, as every
-    /// notification may. Watches of one window end in the reverse order of their beginning.
+    /// Reports whether the object still exists after a call that may have destroyed it, as every
+    /// notification may. The watches of one window end in the reverse order of their creation.
     class Watch {
      public:
         explicit Watch(Window& window) : window_(&window), outer_(window.watches_) {
@@ -76,27 +77,27 @@ class Window {
     };
 
  protected:
-    /// Creates the window. Raises 7 when the platform refuses.
+    /// Creates the window. Raises 7 if the platform refuses.
     void Create(const WindowDesign& design);
-    /// While the platform's own window procedure is at work in the window, the window is only
-    /// hidden and let go; the platform destroys it when that is done.
+    /// Destroys the window. If the platform's window procedure is running in it, the window is only
+    /// hidden and detached from the object; it is destroyed when the procedure has returned.
     void Destroy();
-    /// Whether the platform's own window procedure is at work in any of the thread's windows, which
-    /// must not be destroyed with another one then.
+    /// Whether the platform's window procedure is running in any window of the thread. Such a
+    /// window must not be destroyed together with another one.
     bool IsPlatformAtWork() const;
 
-    /// Answers a message. What it does not answer it hands to Default. Nothing that it throws
-    /// leaves the window procedure: errors of event handlers end there. It may destroy the object.
+    /// Answers a message, or passes it to Default. No exception leaves the window procedure: errors
+    /// of event handlers end there. May destroy the object.
     virtual LRESULT HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
         return Default(message, wParam, lParam);
     }
-    /// Answers what this window's parent was notified of; nothing: the parent's default answer.
-    /// It may destroy the object.
+    /// Answers a notification that the parent received from this window. Without a result the
+    /// parent's default answer applies. May destroy the object.
     virtual std::optional<LRESULT> HandleNotification(UINT /*message*/, WPARAM /*wParam*/,
                                                       LPARAM /*lParam*/) {
         return std::nullopt;
     }
-    /// The answer of the window's class. The object may be gone when it returns.
+    /// Returns the answer of the window class. The object may be destroyed when the call returns.
     LRESULT Default(UINT message, WPARAM wParam, LPARAM lParam);
 
  private:
@@ -109,22 +110,22 @@ class Window {
     ThreadShared<OwnWindows> own_;
     HWND handle_ = nullptr;
     Life* life_ = nullptr;      // null: nothing waits for this window
-    WNDPROC former_ = nullptr;  // of the platform's class
-    int defaultCalls_ = 0;      // of the platform's class that have not returned
+    WNDPROC former_ = nullptr;  // the window procedure of the platform's class
+    int defaultCalls_ = 0;      // calls of former_ that have not returned
     Watch* watches_ = nullptr;  // the innermost
 };
 
-/// Removes the library's window class from the process, before its code is unloaded. There are no
-/// windows any more then.
+/// Removes the library's window class from the process before the code is unloaded. All windows are
+/// destroyed by then.
 void RemoveWindowClass(HINSTANCE module);
 
 struct ParkingWindow;
 
-/// A share in the invisible window on which the windows of controls lie that their containers do
-/// not show. There is one for each thread, as long as somebody has a share in it.
+/// A share in the hidden parking window, which is the parent of control windows that no container
+/// shows. Each thread has one parking window, as long as a share in it exists.
 class ParkingPlace {
  public:
-    /// Raises 7 when the platform has no more windows.
+    /// Raises 7 if the platform cannot create more windows.
     explicit ParkingPlace(HINSTANCE module);
     ~ParkingPlace();
     ParkingPlace(const ParkingPlace&) = delete;

@@ -1,4 +1,4 @@
-// The one way in which this runtime includes the platform's header.
+// The only place where this runtime includes the platform's header.
 #pragma once
 
 // The order matters.

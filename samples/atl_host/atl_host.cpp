@@ -1,5 +1,5 @@
-// Shows the three controls in one window, by way of the interfaces in the generated header.
-// Prints "ready" when the window has been painted. Returns 1 where a control is missing.
+// Shows the three controls in one window through the interfaces of the generated header. Prints
+// "ready" after the first painting of the window. Returns 1 if a control is missing.
 #include <cstdio>
 #include <string>
 
@@ -37,7 +37,7 @@ LRESULT CALLBACK FormProcedure(HWND window, UINT message, WPARAM wParam, LPARAM 
         case WM_SYSCOLORCHANGE:
         case WM_SETTINGCHANGE:
         case WM_THEMECHANGED:
-            // Only top-level windows are told.
+            // The system sends these messages only to top-level windows.
             for (HWND child = GetWindow(window, GW_CHILD); child != nullptr;
                  child = GetWindow(child, GW_HWNDNEXT)) {
                 SendMessageW(child, message, wParam, lParam);
@@ -68,7 +68,7 @@ HWND CreateFormWindow() {
                            nullptr, form.hInstance, nullptr);
 }
 
-// Pixels at 96 dpi, as the screen has them.
+// Converts pixels at 96 dpi to pixels of the screen.
 RECT Form::Place(int left, int top, int width, int height) const {
     HDC const screen = GetDC(nullptr);
     const int dpi = GetDeviceCaps(screen, LOGPIXELSX);
@@ -138,7 +138,7 @@ void Form::ShowChoice() {
     ControlIn<_VLabel>(label_)->put_Caption(caption);
 }
 
-// What is to be seen has been drawn when nothing is left to do for the first time.
+// Prints "ready" when the message queue is empty for the first time: everything is painted then.
 void SayReady() {
     MSG message = {};
     while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE) != FALSE) {

@@ -4,7 +4,7 @@ namespace atl_host {
 
 namespace {
 
-// Compilers other than Microsoft's have no header for these.
+// The functions of atl.dll, loaded at run time: only Microsoft's compiler has a header for them.
 struct AtlLibrary {
     using Init = BOOL(WINAPI*)();
     using GetControl = HRESULT(WINAPI*)(HWND, IUnknown**);
@@ -31,7 +31,7 @@ const AtlLibrary& Atl() {
     return library;
 }
 
-/// The window with a control that `window` is or lies in.
+/// Returns the child window of `form` that is `window` or contains it. Returns `form` for `form`.
 HWND HostOf(HWND window, HWND form) {
     while (window != nullptr && window != form && GetParent(window) != form) {
         window = GetParent(window);
@@ -53,7 +53,7 @@ HWND PlaceControl(HWND parent, const wchar_t* name, const RECT& place, IProperty
         WS_EX_CONTROLPARENT, L"AtlAxWin", nullptr, WS_CHILD | WS_VISIBLE | WS_CLIPCHILDREN,
         place.left, place.top, place.right - place.left, place.bottom - place.top, parent, nullptr,
         nullptr, nullptr);
-    // Wine attaches nothing unless it is asked for the site.
+    // Wine attaches the control only if the caller asks for the site.
     ComPtr<IUnknown> site;
     return SUCCEEDED(Atl().attach(control.Get(), window, &site)) ? window : nullptr;
 }

@@ -1,5 +1,5 @@
-// Controls in windows of the class AtlAxWin, which every Windows (and Wine) brings along in
-// atl.dll.
+// Places controls in windows of the class AtlAxWin, which atl.dll provides on every Windows and in
+// Wine.
 #pragma once
 
 #include <string>
@@ -13,11 +13,12 @@ namespace atl_host {
 
 using Microsoft::WRL::ComPtr;
 
-/// A child window with a control in it, loaded from `settings`. `name` is the control's
-/// programmatic identifier; `place` in pixels of `parent`. Null where there is no such control.
+/// Creates a child window with a control that loads its properties from `settings`. `name` is the
+/// ProgID of the control. `place` is in pixels of the client area of `parent`. Returns null if the
+/// control cannot be created.
 HWND PlaceControl(HWND parent, const wchar_t* name, const RECT& place, IPropertyBag& settings);
 
-/// The control in a window; null where there is none or it lacks the interface.
+/// Returns the control in a window, or null if there is no control or it lacks the interface.
 ComPtr<IUnknown> ControlIn(HWND window);
 template <typename Interface>
 ComPtr<Interface> ControlIn(HWND window) {
@@ -28,12 +29,12 @@ ComPtr<Interface> ControlIn(HWND window) {
     return found;
 }
 
-/// Lets `sink` hear the events of interface `events` until the control goes. False where the
-/// control has no such events.
+/// Connects `sink` to the events of interface `events` until the control is destroyed. Returns
+/// false if the control has no such events.
 bool Advise(HWND window, IDispatch& sink, REFIID events);
 
-/// Offers a message of the queue to the control that has the focus, then to the form as a dialog:
-/// this is what makes Tab, arrows and mnemonics work. True where the message was used up.
+/// Offers a key message to the control that has the focus, then to IsDialogMessage, which handles
+/// Tab, arrow keys and mnemonics. Returns true if the message was handled.
 bool TranslateKey(HWND form, MSG& message);
 
 }  // namespace atl_host

@@ -8,7 +8,8 @@
 
 namespace atl_host {
 
-/// Hears a control's events. The caller keeps it alive as long as the control.
+/// Receives the events of a control. AddRef and Release do nothing: the caller must keep the sink
+/// alive as long as the control.
 class EventSink final : public IDispatch {
  public:
     using Handler = std::function<void(DISPID event, const DISPPARAMS& arguments)>;

@@ -1,5 +1,5 @@
-// The generated interfaces. They name the standard library's Font, which some compilers' COM
-// headers (comdef.h) define too; the two must not meet.
+// Includes the generated interfaces. They name the Font of stdole, which the COM headers of some
+// compilers (comdef.h) define too. Renaming it avoids the clash.
 #pragma once
 
 #define Font LumenkitFont

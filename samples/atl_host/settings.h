@@ -9,7 +9,8 @@
 
 namespace atl_host {
 
-/// A control's saved settings, as a form keeps them. Lives on the stack while a control is loaded.
+/// The saved properties of a control, as in a form file. Usually a local variable: AddRef and
+/// Release do nothing.
 class Settings final : public IPropertyBag {
  public:
     Settings(std::initializer_list<std::pair<const std::wstring, _variant_t>> values)
@@ -27,7 +28,7 @@ class Settings final : public IPropertyBag {
     ULONG STDMETHODCALLTYPE Release() override { return 1; }
     HRESULT STDMETHODCALLTYPE Read(LPCOLESTR name, VARIANT* value, IErrorLog* /*log*/) override {
         const auto found = values_.find(name);
-        // Not there: the control takes its default.
+        // A missing property keeps its default.
         return found == values_.end() ? E_INVALIDARG : VariantCopy(value, &found->second);
     }
     HRESULT STDMETHODCALLTYPE Write(LPCOLESTR name, VARIANT* value) override {

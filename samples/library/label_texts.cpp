@@ -1,4 +1,4 @@
-// Prints what the labels of a form say: the texts that they draw, line by line, without commands.
+// Prints the texts that the labels of a form draw, line by line and without commands.
 //   label_texts FORM
 #include <cstdio>
 #include <exception>

@@ -1,8 +1,8 @@
 #!/usr/bin/env bash
-# Runs the scripts under Wine and compares what they say with expected.txt:
+# Runs the scripts under Wine and compares their output with expected.txt:
 #   scripts/wine.sh --screen samples/scripts/check.sh lumenkit.ocx
-# Wine's cscript is silent about errors in scripts; the last line of each shows that it came to its
-# end.
+# Wine's cscript does not report errors in scripts. The last line of output of each script shows that
+# the script ran to its end.
 set -euo pipefail
 
 server=$1

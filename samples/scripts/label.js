@@ -6,7 +6,7 @@ label.Caption = "|B:1|Opening hours|B:0||CR||before:60|* Mon |Fore:0,128,0|9-17"
 label.Font.Name = "Arial";
 label.Font.Size = 12;
 
-// As large as what it shows: a larger font needs more room.
+// Fits the label to its text: a larger font needs a higher label.
 function height() {
     label.SetIdealSize();
     return label.GetProperty("height");

@@ -1,4 +1,4 @@
-' Has a memo cut texts to its limits:  cscript //nologo memo.vbs
+' Assigns texts that are too long, which the memo cuts to its limits:  cscript //nologo memo.vbs
 Option Explicit
 
 Dim memo

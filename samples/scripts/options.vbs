@@ -1,4 +1,4 @@
-' Fills an option list and chooses from it:  cscript //nologo options.vbs
+' Fills an option list and selects its items:  cscript //nologo options.vbs
 Option Explicit
 
 Dim options, index
@@ -11,7 +11,7 @@ Next
 options.Text = "m"
 WScript.Echo options.ListIndex & ": " & options.Value
 
-' A caption of an item can be set, not read.
+' The caption of an item can be assigned but not read.
 options.ItemCaption(1) = "In between"
 On Error Resume Next
 WScript.Echo options.ItemCaption(1)

@@ -1,4 +1,4 @@
-// The examples of docs/caption-language.md, compiled by the built program.
+// Compiles the examples of docs/caption-language.md with the built program.
 #include <fstream>
 #include <string>
 #include <vector>
@@ -19,7 +19,7 @@ struct Example {
     std::string compiled;
 };
 
-/// In blocks called "compiled", "> " begins a caption and "< " a line of what it compiles to.
+/// Reads the blocks called "compiled". "> " begins a caption, "< " a line of its compiled form.
 std::vector<Example> ReadExamples() {
     std::ifstream file(document);
     std::vector<Example> examples;

@@ -1,4 +1,4 @@
-// "lumenkit compile", output against what was written by hand.
+// "lumenkit compile": compares its output with texts written by hand.
 #include <filesystem>
 
 #include <gmock/gmock.h>

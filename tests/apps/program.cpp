@@ -4,12 +4,13 @@
 #include <cstdio>
 #include <cstdlib>
 #include <fstream>
-#include <iterator>
 
 #include <gtest/gtest.h>
 #include <pty.h>
 #include <sys/wait.h>
 #include <unistd.h>
+
+#include "tests/support/file_bytes.h"
 
 namespace lumenkit::testing {
 
@@ -23,11 +24,6 @@ void Write(const std::string& path, const std::string& bytes) {
     std::ofstream(path, std::ios::binary) << bytes;
 }
 
-std::string Read(const std::string& path) {
-    std::ifstream file(path, std::ios::binary);
-    return {std::istreambuf_iterator<char>(file), {}};
-}
-
 }  // namespace
 
 Outcome RunProgram(const std::string& arguments, const std::string& input) {
@@ -38,7 +34,8 @@ Outcome RunProgram(const std::string& arguments, const std::string& input) {
     const std::string command =
         LUMENKIT_PROGRAM " " + arguments + " <" + in + " >" + out + " 2>" + errors;
     const int result = std::system(command.c_str());
-    Outcome outcome{WIFEXITED(result) ? WEXITSTATUS(result) : -1, Read(out), Read(errors)};
+    Outcome outcome{WIFEXITED(result) ? WEXITSTATUS(result) : -1, FileBytes(out),
+                    FileBytes(errors)};
     for (const std::string& path : {in, out, errors}) {
         std::remove(path.c_str());
     }
@@ -56,7 +53,7 @@ Outcome RunOnTerminal(const std::string& arguments, const std::string& variables
     }
     Outcome outcome;
     std::array<char, 4096> block{};
-    // Reading fails once nobody is at the other end.
+    // read() fails when the program has closed the other end.
     for (ssize_t count = 1; count > 0;) {
         count = read(terminal, block.data(), block.size());
         outcome.output.append(block.data(), count > 0 ? static_cast<std::size_t>(count) : 0);

@@ -1,4 +1,4 @@
-// The built command-line program, run as a person would run it.
+// Runs the built command-line program as a user does.
 #pragma once
 
 #include <string>
@@ -14,12 +14,13 @@ struct Outcome {
 /// Runs the program with `arguments`, written as in a shell, and `input` as its standard input.
 Outcome RunProgram(const std::string& arguments, const std::string& input = "");
 
-/// The same on a terminal of its own, which is the program's input, output and error stream alike:
-/// `output` is all that it would show. `variables` go before the program, as in a shell; TERM is
-/// xterm and NO_COLOR is not set unless they say so.
+/// The same on a separate terminal, which is the program's input, output and error stream. `output`
+/// is everything that the terminal would show. `variables` precede the program, as in a shell. TERM
+/// is xterm and NO_COLOR is not set unless `variables` set them.
 Outcome RunOnTerminal(const std::string& arguments, const std::string& variables = "");
 
-/// A file with these bytes for the test at hand; its path needs no quoting.
+/// Writes a file with these bytes for the current test and returns its path, which needs no
+/// quoting.
 std::string FileWith(const std::string& bytes);
 
 }  // namespace lumenkit::testing

@@ -1,4 +1,4 @@
-// What a control runtime must offer to be held to the host contract's documented behaviour.
+// The interface through which the tests of the host contract use a control runtime.
 #pragma once
 
 #include <cstdint>
@@ -18,17 +18,17 @@ namespace lumenkit::contract {
 
 using EventHandler = std::function<void(TextView name, std::span<Value> arguments)>;
 
-/// One runtime with one control on its container. What belongs to the user takes constituents that
-/// this runtime made, on a control that is shown. Lengths are in twips.
+/// One runtime with one control in its container. The user's functions take constituents that this
+/// runtime made, on a control that is shown. Lengths are in twips.
 class ContractRuntime {
  public:
     virtual ~ContractRuntime() = default;
 
-    // The container. A control is placed in run mode, named "probe", with the tag "its tag", 3000
-    // by 1500 twips large, and shown; a later one takes the place of the former.
+    // The container. A control is placed in run mode, named "probe", with the tag "its tag" and a
+    // size of 3000 by 1500 twips, and is shown. It replaces the control placed before.
     virtual void PlaceNew(const ClassDescriptor& type) = 0;
     virtual void PlaceSaved(const ClassDescriptor& type, host::PropertyBag& bag) = 0;
-    /// To a size of whole pixels.
+    /// The size must be a whole number of pixels.
     virtual void Resize(float width, float height) = 0;
     virtual void Repaint() = 0;
     virtual void Save(host::PropertyBag& bag) = 0;
@@ -39,7 +39,7 @@ class ContractRuntime {
     virtual std::unique_ptr<host::PropertyBag> NewBag() = 0;
     virtual host::FontRef NewFont(TextView name, float points) = 0;
 
-    // The user. Each does nothing where the thing cannot be used.
+    // The user. Each function does nothing if the constituent cannot be used.
     virtual void Focus(host::TextBox& box) = 0;
     virtual void Type(host::TextBox& box, TextView text) = 0;
     virtual void Select(host::TextBox& box, std::int32_t start, std::int32_t length) = 0;
@@ -51,7 +51,7 @@ class ContractRuntime {
     virtual void ClickSurface() = 0;
 };
 
-/// A runtime under test. `create` gets the classes that it may create controls of.
+/// A runtime under test. `create` receives the classes whose controls the runtime may create.
 struct RuntimeKind {
     const char* name;
     std::unique_ptr<ContractRuntime> (*create)(const ClassTable& classes);
@@ -61,7 +61,7 @@ inline std::ostream& operator<<(std::ostream& out, const RuntimeKind& kind) {
     return out << kind.name;
 }
 
-/// The one that a test program is linked with.
+/// Returns the runtime to which the test program is linked.
 RuntimeKind RuntimeUnderTest();
 
 }  // namespace lumenkit::contract

@@ -1,4 +1,4 @@
-// The fixture that every part of the suite stands on.
+// The fixture for all tests of the host contract.
 #pragma once
 
 #include <cstdint>
@@ -17,7 +17,7 @@ namespace lumenkit::contract {
 using Lines = std::vector<std::string>;
 using Integers = std::vector<std::int16_t>;
 
-/// A newly placed probe on a runtime of the kind under test.
+/// A newly placed probe on the runtime under test.
 class ContractTest : public ::testing::TestWithParam<RuntimeKind> {
  protected:
     ContractTest() : runtime_(GetParam().create(ProbeClasses())) {
@@ -28,7 +28,7 @@ class ContractTest : public ::testing::TestWithParam<RuntimeKind> {
     const ControlHost& Host() { return Probe().Host(); }
     host::Surface& Surface() { return Host().surface; }
     host::Constituents& Parts() { return Host().constituents; }
-    /// What rounding to whole pixels may cost.
+    /// The largest error of rounding to whole pixels, in twips.
     float Pixel() { return Host().screen.TwipsPerPixelX(); }
 
     std::unique_ptr<ContractRuntime> runtime_;

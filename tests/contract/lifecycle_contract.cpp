@@ -8,7 +8,7 @@ namespace {
 
 class LifecycleContract : public ContractTest {
  protected:
-    // Repaints come when the runtime sees fit.
+    // Each runtime decides when to repaint.
     Lines WithoutPaints() {
         Lines lines = Probe().Take();
         std::erase(lines, "Paint");

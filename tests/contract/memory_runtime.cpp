@@ -1,4 +1,4 @@
-// The contract held against the memory runtime.
+// Runs the contract tests on the memory runtime.
 #include "runtime/memory/check_box.h"
 #include "runtime/memory/command_button.h"
 #include "runtime/memory/option_button.h"

@@ -1,5 +1,5 @@
-// The contract held against the component server: a control in a real container, with the
-// container's own bags, events and extender.
+// Runs the contract tests on the component server: a control in a real container, with the
+// container's bags, events and extender.
 #include <memory>
 #include <utility>
 
@@ -19,7 +19,7 @@ namespace {
 
 using ole::ComPtr;
 
-// A container's bag, read and written as controls do.
+// A property bag of the container, which tests read and write through the interface for controls.
 class ComBag final : public host::PropertyBag {
  public:
     Value ReadProperty(TextView name, const Value& defaultValue) override {
@@ -98,7 +98,7 @@ class OleRuntime final : public WindowsUser {
         site_ = std::make_unique<container::Site>(form_);
         site_->SetTag(u"its tag");
         site_->Take(Create(type));
-        // As large as the contract says.
+        // 3000 by 1500 twips in hundredths of a millimetre.
         SIZEL size = {5292, 2646};
         ole::Check(site_->As<IOleObject>()->SetExtent(DVASPECT_CONTENT, &size));
         Listen();
@@ -110,7 +110,7 @@ class OleRuntime final : public WindowsUser {
         ole::Check(factory->CreateInstance(nullptr, IID_PPV_ARGS(&object)));
         return object;
     }
-    // The probe's events have no identifier of their own in the world.
+    // The probe's event interface has no identifier: IID_NULL finds its connection point.
     void Listen() {
         const auto points = site_->As<IConnectionPointContainer>();
         ole::Check(points->FindConnectionPoint(IID_NULL, &eventPoint_));

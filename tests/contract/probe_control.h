@@ -9,13 +9,13 @@
 
 namespace lumenkit::contract {
 
-/// A control that does nothing but write down what its container asks of it, and show its host.
+/// A control that records the calls of its container and gives access to its host.
 class ProbeControl final : public Control {
  public:
     explicit ProbeControl(const ControlHost& host);
     ~ProbeControl() override;
 
-    /// The one made last that still exists; null when there is none.
+    /// Returns the control created last that still exists; null if there is none.
     static ProbeControl* Last();
 
     Object& Automation() override { return automation_; }

@@ -31,7 +31,7 @@ TEST_P(PropertyBagContract, DoesNotStoreADefault) {
 }
 
 TEST_P(PropertyBagContract, StoresAFontsAttributes) {
-    // Of whole pixels: the font objects of some platforms know no other sizes.
+    // The size is a whole number of pixels: font objects of some platforms have no other sizes.
     const host::FontRef font = runtime_->NewFont(u"Arial", 14.25F);
     font->SetBold(true);
     font->SetUnderline(true);

@@ -1,5 +1,5 @@
-// The contract held against the Qt runtime, with the property bags of form files. The user's acts
-// are events of Qt.
+// Runs the contract tests on the Qt runtime, with the property bags of form files. The user's
+// actions are Qt events.
 #include <QApplication>
 #include <QClipboard>
 #include <QMainWindow>
@@ -37,7 +37,7 @@ host::FontRef MakeFont(const forms::FontDescription& description) {
     return font;
 }
 
-// The bag of one control on a form of its own.
+// A property bag over the outermost block of a separate form.
 class OwnBag final : public host::PropertyBag {
  public:
     Value ReadProperty(TextView name, const Value& defaultValue) override {
@@ -137,7 +137,7 @@ class QtRuntime final : public ContractRuntime, public qt::ControlSite, private 
     Color BackColor() const override { return Color::ButtonFace; }
 
     static qt::TextEdit& Edit(host::TextBox& box) { return static_cast<qt::TextBox&>(box).Edit(); }
-    // In the place where all of them have something to click.
+    // Clicks near the left edge, where every kind of button reacts.
     static void Click(QWidget& widget) {
         if (widget.isVisible()) {
             QTest::mouseClick(&widget, Qt::LeftButton, {}, {8, widget.height() / 2});

@@ -9,7 +9,7 @@
 namespace lumenkit::contract {
 namespace {
 
-// Writes down what happens to the box, and interferes as told.
+// Records the events of the box, and reacts as the test says.
 class Recorder final : public host::TextBoxEvents {
  public:
     void Change() override {
@@ -58,7 +58,7 @@ class TextBoxContract : public ContractTest {
                                   recorder_);
         return *box_;
     }
-    // The same with the focus, so that only what follows is written down.
+    // A box that has the focus. The record is emptied, so that it holds only later events.
     host::TextBox& FocusedBox(TextView text, bool multiLine = true) {
         host::TextBox& box = Box(text, multiLine);
         runtime_->Focus(box);

@@ -1,4 +1,4 @@
-// The contract held against the Windows runtime.
+// Runs the contract tests on the Windows runtime.
 #include <memory>
 #include <utility>
 

@@ -16,7 +16,7 @@ HWND WindowOf(Constituent& constituent) {
     return dynamic_cast<win32::Window&>(constituent).Handle();
 }
 
-// Whether a person at the screen can use the window.
+// Whether the user can use the window.
 bool IsUsable(HWND window) {
     for (HWND at = window; at != nullptr; at = GetAncestor(at, GA_PARENT)) {
         if (at == GetDesktopWindow()) {
@@ -40,7 +40,7 @@ void ClickInside(HWND window) {
     SendMessageW(window, WM_LBUTTONUP, 0, centre);
 }
 
-// The keys held while a key is typed, as the platform tells them.
+// Sets the state of Ctrl for this thread while a key is typed.
 class HeldControl {
  public:
     explicit HeldControl(bool isHeld) {
@@ -58,8 +58,8 @@ class HeldControl {
     BYTE former_[256] = {};
 };
 
-// A key's messages as the queue holds them: its character comes behind the message that it went
-// down, unless whoever deals with that takes it away.
+// Delivers the messages of a key in the order of a real queue. WM_CHAR waits in the queue while
+// WM_KEYDOWN is handled, so that the handler can remove it.
 void Strike(HWND window, char16_t unit) {
     const bool isControl = unit < 0x20 && unit != u'\b' && unit != u'\t' && unit != u'\r';
     const HeldControl held(isControl);
@@ -85,7 +85,7 @@ void PutOnClipboard(HWND owner, TextView text) {
     CloseClipboard();
 }
 
-// Whether the window can be used; it has the focus then.
+// Gives the window the focus. Returns false if the user cannot use the window.
 bool Reach(HWND window) {
     if (!IsUsable(window)) {
         return false;

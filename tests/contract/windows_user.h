@@ -5,8 +5,7 @@
 
 namespace lumenkit::contract {
 
-/// The part of a runtime on the platform's windows that belongs to the user: messages to the
-/// windows of its constituents.
+/// The user's part of a runtime in real windows: sends messages to the windows of constituents.
 class WindowsUser : public ContractRuntime {
  public:
     void Focus(host::TextBox& box) override;

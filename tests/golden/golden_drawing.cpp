@@ -30,7 +30,7 @@ class Reader {
             Fail("there is no line \"" + expected + "\" where one should be");
         }
     }
-    /// What follows `key` and a blank on the next line.
+    /// Reads the next line, which must begin with `key` and a blank, and returns the rest of it.
     std::string Setting(const std::string& key) {
         const std::string line = Line();
         if (!line.starts_with(key + " ")) {
@@ -49,7 +49,7 @@ class Reader {
     std::ifstream stream_;
 };
 
-// Takes `word` off the end of `text`.
+// Removes `word` and the blank before it from the end of `text`. Returns false if it is not there.
 bool TakeLast(std::string& text, const std::string& word) {
     if (!text.ends_with(" " + word)) {
         return false;

@@ -29,18 +29,18 @@
 namespace lumenkit::testing {
 
 struct GoldenDrawing {
-    std::string about;  ///< what the caption shows, one line
+    std::string about;  ///< what the caption shows, in one line
     LabelScene scene;
-    std::string drawing;  ///< as ToLines gives it
+    std::string drawing;  ///< in the form of ToLines
 };
 
 /// All golden drawings, in order of their names.
 std::vector<std::filesystem::path> GoldenFiles();
 
-/// Throws std::runtime_error for a file that is not in the form above.
+/// Throws std::runtime_error if the file does not have the form above.
 GoldenDrawing ReadGolden(const std::filesystem::path& file);
 
-/// The whole file.
+/// Returns the contents of the whole file.
 std::string ToText(const GoldenDrawing& golden);
 
 }  // namespace lumenkit::testing

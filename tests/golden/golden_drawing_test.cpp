@@ -1,4 +1,4 @@
-// Each golden drawing against the label, and against the literal model, which knows nothing of it.
+// Compares each golden drawing with the label and, separately, with the literal model.
 #include "tests/golden/golden_drawing.h"
 
 #include <fstream>

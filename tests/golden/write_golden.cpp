@@ -1,4 +1,4 @@
-// Draws the caption of every golden file anew and writes what comes of it, for review.
+// Draws the caption of every golden file again and writes the result to the file, for review.
 #include <cstdio>
 #include <exception>
 #include <fstream>

@@ -9,12 +9,12 @@
 
 namespace lumenkit::testing {
 
-/// Compiles captions with the compiler and with its literal model. The compiler is one and the
-/// same for all of them, so what a caption leaves behind would show in the next.
+/// Compiles captions with the compiler and with its literal model. One compiler is used for all
+/// captions, so that state left by one caption shows in the next.
 class CaptionComparison {
  public:
-    /// Where the two disagree on `caption`, lines, commands or error reports; empty where they
-    /// do not.
+    /// Returns the first differences between the two for `caption`, in lines, commands and error
+    /// reports; empty if there are none.
     std::string Difference(TextView caption);
 
     /// The model's result for the last caption.
@@ -26,8 +26,8 @@ class CaptionComparison {
     LiteralCaption literal_;
 };
 
-/// The bytes of a corpus file as a caption: UTF-8 or, where they are not that, a unit for each
-/// byte.
+/// Returns the bytes of a corpus file as a caption: decoded from UTF-8, or one unit for each byte
+/// if they are not valid UTF-8.
 Text CaptionFromBytes(std::string_view bytes);
 
 }  // namespace lumenkit::testing

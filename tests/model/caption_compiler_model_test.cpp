@@ -1,4 +1,4 @@
-// The compiler against its literal model, on generated captions.
+// Compares the compiler with its literal model on generated captions.
 #include <algorithm>
 #include <functional>
 #include <regex>
@@ -41,7 +41,8 @@ bool Reported(const LiteralCaption& literal, TextView procedure) {
            literal.reports.end();
 }
 
-// What must have been seen among the captions, lest the generator lose what it is for.
+// Features that must occur among the captions. If the generator stops producing one, the test
+// fails.
 class Features {
  public:
     void See(TextView caption, const LiteralCaption& literal) {
@@ -229,7 +230,8 @@ class CaptionCompilerModel : public ::testing::Test {
         }
     }
 
-    // Each tail at each place around the last position, behind nothing, a caption and many lines.
+    // Puts each tail at each position around the last one: after padding, after a caption, after a
+    // line and a caption. Also puts it far behind many lines.
     void CompareNearLastPosition() {
         for (const TextView tail : {u"", u"|CR|", u"|CR|x", u"|", u"||", u"|b:1", u"|b:1|", u"|Q|",
                                     u"|Q|CR|", u"|CR|CR|", u"|before:+5"}) {

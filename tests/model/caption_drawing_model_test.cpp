@@ -1,4 +1,4 @@
-// The label against the literal model of its drawing, on generated captions and settings.
+// Compares the label with the literal model of its drawing on generated captions and settings.
 #include <array>
 #include <string_view>
 #include <vector>
@@ -18,7 +18,7 @@ namespace {
 constexpr int sceneCount = 100'000;
 constexpr int longSceneCount = 200;
 
-// Every branch of the model, so that the generator cannot lose what it is for.
+// All branches of the model. If the generator stops producing one, the test fails.
 constexpr std::string_view everyBranch[] = {
     "an error is reported",
     "before",
@@ -84,7 +84,7 @@ TEST(CaptionDrawingModel, AgreesOnGeneratedScenes) {
     }
 }
 
-// What the fuzzers start from and what they have found.
+// The corpus holds the seeds and the findings of the fuzzers.
 TEST(CaptionDrawingModel, AgreesOnTheCorpus) {
     DrawingComparison comparison;
     ForEachCorpusFile("drawing", [&](std::string_view bytes) {
@@ -92,8 +92,8 @@ TEST(CaptionDrawingModel, AgreesOnTheCorpus) {
     });
 }
 
-// Runs that take about a thousand steps, at the start of a line and behind other text, where one
-// step goes into a new line.
+// Runs that need about a thousand wrapping steps, at the start of a line and after other text.
+// After other text, one of the steps starts a new line.
 TEST(CaptionDrawingModel, AgreesWhereWrappingGivesUp) {
     DrawingComparison comparison;
     for (const TextView before : {u"", u"x|I:1|", u"xxxxxxxxxxxxxxx|I:1|"}) {

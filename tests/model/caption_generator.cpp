@@ -25,7 +25,7 @@ Text CaptionGenerator::Piece() {
                     : PieceWithoutSeparator();
 }
 
-// On its own, that is; two of them may make one.
+// Returns a piece without a separator. Two adjacent pieces may still form one.
 Text CaptionGenerator::PieceWithoutSeparator() {
     switch (Below(9)) {
         case 0:
@@ -137,7 +137,7 @@ Text CaptionGenerator::Digits(std::size_t most, std::size_t radix) {
     return digits;
 }
 
-// With blanks and other units strewn in.
+// Inserts blanks and other units into the number.
 Text CaptionGenerator::Blurred(TextView number) {
     Text blurred;
     for (const char16_t unit : number) {

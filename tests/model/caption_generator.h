@@ -8,14 +8,14 @@
 
 namespace lumenkit::testing {
 
-/// Captions made of the language's parts, whole, broken and run into one another.
+/// Generates captions from parts of the language: whole, broken and run together.
 class CaptionGenerator {
  public:
     explicit CaptionGenerator(std::uint32_t seed) : random_(seed) {}
 
     Text Caption();
 
-    /// A caption of `count` lines.
+    /// Returns a caption of `count` lines.
     Text Lines(int count);
 
  private:

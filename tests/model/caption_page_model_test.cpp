@@ -1,5 +1,5 @@
-// The caption page's shortcuts and magnifier against their literal models, on generated captions
-// and selections.
+// Compares the caption page's shortcuts and magnifier with their literal models on generated
+// captions and selections.
 #include <array>
 #include <map>
 #include <random>

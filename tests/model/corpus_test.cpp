@@ -1,4 +1,4 @@
-// What the fuzzers start from and what they have found, compiled by both.
+// Compiles the fuzzers' seeds and findings with the compiler and with its literal model.
 #include "tests/support/corpus.h"
 
 #include <string_view>

@@ -21,7 +21,7 @@ std::string Describe(const LabelScene& scene) {
            ToLine(scene.visibleBottom) + "\n";
 }
 
-// The picture without what begins where nothing can be seen.
+// Removes the texts that begin below the visible area.
 LabelPicture Visible(LabelPicture picture, float visibleBottom) {
     std::erase_if(picture.items, [&](const PictureItem& item) {
         const auto* print = std::get_if<PrintedText>(&item);

@@ -9,14 +9,14 @@
 
 namespace lumenkit::testing {
 
-/// Draws scenes with a label and with the literal model of its drawing. The label is one and the
-/// same for all of them, so what a scene leaves behind would show in the next.
+/// Draws scenes with a label and with the literal model of its drawing. One label is used for all
+/// scenes, so that state left by one scene shows in the next.
 class DrawingComparison {
  public:
     DrawingComparison() { label_.Placed().StartNew(); }
 
-    /// Where the two disagree on `scene`, on the part of it that can be seen, or on the size that
-    /// the label gives itself for it; empty where they do not.
+    /// Returns the differences between the two for `scene`: in the drawing of its visible part, in
+    /// the whole drawing, and in the size that SetIdealSize sets; empty if there are none.
     std::string Difference(LabelScene scene);
 
     /// The branches that the model has taken so far.
@@ -29,7 +29,7 @@ class DrawingComparison {
     LiteralLabel model_;
 };
 
-/// A fuzzer's input as a scene: settings, the bullet prefix as a line, and the caption.
+/// Converts a fuzzer's input to a scene: settings, the bullet prefix as a line, and the caption.
 LabelScene SceneFromBytes(std::string_view bytes);
 
 }  // namespace lumenkit::testing

@@ -6,7 +6,7 @@
 
 namespace lumenkit::testing {
 
-/// Takes an input of the fuzzers apart, from the front. Past its end there are zeros.
+/// Reads a fuzzer's input from the front. Past the end, bytes read as 0.
 class InputBytes {
  public:
     explicit InputBytes(std::string_view bytes) : left_(bytes) {}
@@ -24,7 +24,7 @@ class InputBytes {
         return static_cast<std::uint16_t>(low | Byte() << 8U);
     }
     std::int16_t Integer() { return static_cast<std::int16_t>(Word()); }
-    /// Up to the next line feed, which is taken too.
+    /// Reads the bytes up to the next line feed and skips the line feed.
     std::string_view Line() {
         const std::size_t end = left_.find('\n');
         const std::string_view line = left_.substr(0, end);

@@ -111,7 +111,7 @@ Text LabelSceneGenerator::Command() {
         case 8:
             return u"|Before:" + Text(TextOf({u"+", u"-"})) + number + u"|";
         case 9:
-            // Beyond what a font, a height, or single precision can be.
+            // Values beyond the range of a font size, a height or single precision.
             return OneIn(8) ? Text(TextOf({u"|Size:2161|", u"|Size:1E39|", u"|Before:33000|",
                                            u"|Before:3E38|", u"|Before:1E39|", u"|Fore:1E99|"}))
                             : Text(u"|Before:0|");

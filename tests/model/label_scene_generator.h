@@ -10,14 +10,14 @@
 
 namespace lumenkit::testing {
 
-/// Captions that are mostly in order, on labels of all kinds of settings.
+/// Generates mostly valid captions, on labels with all kinds of settings.
 class LabelSceneGenerator {
  public:
     explicit LabelSceneGenerator(std::uint32_t seed) : random_(seed) {}
 
     LabelScene Scene();
 
-    /// A wrapping label with a run of more than a thousand words.
+    /// Returns a wrapping label with a run of more than a thousand words.
     LabelScene LongScene();
 
  private:

@@ -1,5 +1,5 @@
-// The caption compiler's slow twin: every step is done for itself, on texts that are searched from
-// the start and rebuilt each time. It shares no code with the compiler beyond frame/.
+// A slow, literal model of the caption compiler. Each step is separate; texts are searched from the
+// start and rebuilt each time. It shares no code with the compiler except frame/.
 #pragma once
 
 #include <string>

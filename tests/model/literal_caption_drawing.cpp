@@ -16,7 +16,7 @@ namespace {
 constexpr std::int16_t twipsPerPixelX = 15;
 constexpr std::int16_t twipsPerPixelY = 15;
 
-// The k-th entry, counted from 1.
+// Returns the k-th entry, counted from 1.
 const Text& Entry(const std::vector<Text>& list, std::int16_t k) {
     if (k < 1 || static_cast<std::size_t>(k) > list.size()) {
         Raise(ErrorNumber::SubscriptOutOfRange);

@@ -1,5 +1,5 @@
-// The label's drawing as its slow twin: every step done for itself, on texts that are cut and
-// copied, on a surface of a few lines. It shares no code with the control beyond frame/.
+// A slow, literal model of the label's drawing. Each step is separate, on texts that are cut and
+// copied, on a surface of a few lines of code. It shares no code with the control except frame/.
 #pragma once
 
 #include <cstdint>
@@ -13,11 +13,11 @@
 
 namespace lumenkit::testing {
 
-/// How often each branch was taken, by its name.
+/// The number of times that each branch was taken, by the name of the branch.
 using BranchCounts = std::map<std::string_view, long>;
 
-/// A surface of fixed metrics: a unit is 10 (bold: 11) times the font's size wide, a line 24 times
-/// the size high, in twips. It keeps all that is drawn.
+/// A surface with fixed metrics in twips. A unit is 10 times the font size wide, a bold one 11
+/// times; a line is 24 times the font size high. The surface records everything that is drawn.
 struct LiteralSurface {
     std::vector<PictureItem> items;
     float CurrentX = 0;
@@ -31,19 +31,19 @@ struct LiteralSurface {
     void Box(float x1, float y1, float x2, float y2);
     float TextWidth(TextView text) const;
     float TextHeight(TextView text) const;
-    /// Raises 380 as the runtime's font does.
+    /// Raises 380 for sizes up to 0 and above 2160, as the runtime's font does.
     void SetSize(float points);
 };
 
 class LiteralLabel {
  public:
-    /// The scene's visibleBottom plays no part.
+    /// Ignores the scene's visibleBottom.
     void SetUp(const LabelScene& scene);
 
     void DisplayCaption();
     void SetIdealSize();
 
-    /// What is drawn, and what was reported since the last call.
+    /// Returns the picture, with the reports since the last call.
     LabelPicture Picture();
     float Width() const { return scene_.width; }
     float Height() const { return scene_.height; }

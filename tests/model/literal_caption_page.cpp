@@ -8,12 +8,12 @@ long LengthOf(const Text& text) {
     return static_cast<long>(text.size());
 }
 
-// The unit at a place from 0.
+// Returns the unit at `place`, counted from 0.
 char16_t UnitAt(const Text& text, long place) {
     return text.at(static_cast<std::size_t>(place));
 }
 
-// Units from place `start` up to, not including, `end`, as far as there are any.
+// Returns the existing units from `start` up to, but not including, `end`.
 Text Part(const Text& text, long start, long end) {
     Text part;
     for (long place = start; place < end && place < LengthOf(text); ++place) {
@@ -24,7 +24,8 @@ Text Part(const Text& text, long start, long end) {
     return part;
 }
 
-// The position from 1 of the first `unit` at `start` (from 1) or later; 0: none.
+// Returns the position of the first `unit` at or after `start`, or 0 if there is none. Both are
+// counted from 1.
 long PositionOf(char16_t unit, const Text& text, long start) {
     for (long position = start; position <= LengthOf(text); ++position) {
         if (UnitAt(text, position - 1) == unit) {
@@ -34,7 +35,7 @@ long PositionOf(char16_t unit, const Text& text, long start) {
     return 0;
 }
 
-// The edit control's set-selection message.
+// Acts as the edit control does on EM_SETSEL.
 void SetSelection(LiteralCaptionBox& box, long start, long end) {
     const long length = LengthOf(box.text);
     box.SelStart = start > length ? length : start;

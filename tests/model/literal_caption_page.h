@@ -1,5 +1,5 @@
-// The slow twin of the caption page's shortcuts and magnifier: every step done for itself, unit by
-// unit. It shares nothing with the page but the type of its texts.
+// A slow, literal model of the caption page's shortcuts and magnifier. Each step is separate and
+// works unit by unit. It shares nothing with the page except the type of its texts.
 #pragma once
 
 #include <string>
@@ -8,7 +8,7 @@
 
 namespace lumenkit::testing {
 
-/// A caption box as the page's keys leave it. Places are in units from 0, the end exclusive.
+/// The state of a caption box. Places are in units from 0; the end is exclusive.
 struct LiteralCaptionBox {
     Text text;
     long SelStart = 0;
@@ -16,7 +16,7 @@ struct LiteralCaptionBox {
     int beeps = 0;
 };
 
-/// Presses the key with this character code; says which of the ways was gone.
+/// Presses the key with this character code. Returns the name of the branch taken.
 std::string PressLiterally(LiteralCaptionBox& box, int code);
 
 struct LiteralMagnifier {

@@ -216,12 +216,12 @@ void LiteralMemo::Replace(Box& box, const Text& replacement) {
     }
 }
 
-// ---- The person at the screen
+// ---- The user
 
 void LiteralMemo::Type(char16_t unit) {
     Box& box = Active();
     m_KeyDownSelStart = box.selStart;
-    m_LastKeyCode = unit == u'\r' ? 13 : 1;  // of the others only that they are no Enter
+    m_LastKeyCode = unit == u'\r' ? 13 : 1;  // other keys: any code but Enter's
     RaiseEvent("KeyDown");
     RaiseEvent("KeyPress");
     const int kept = Length(box.text) - box.selLength;

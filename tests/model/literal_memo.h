@@ -1,4 +1,4 @@
-// A memo with its four boxes and its container, step by step: what the control must be seen to do.
+// A literal model of a memo, with its four boxes and its container, step by step.
 #pragma once
 
 #include <array>
@@ -12,7 +12,7 @@
 
 namespace lumenkit::testing {
 
-/// What is kept of a memo when it is saved.
+/// The saved properties of a memo.
 struct SavedMemo {
     Text text;
     bool locked = false;
@@ -33,17 +33,17 @@ class LiteralMemo {
         bool visible = false;
     };
 
-    /// A new one.
+    /// Makes a new memo.
     LiteralMemo() { boxes[0].visible = true; }
-    /// A saved one.
+    /// Makes a memo from its saved properties.
     explicit LiteralMemo(const SavedMemo& saved);
 
-    // The person at the screen uses the active box.
+    // Actions of the user in the active box.
     void Type(char16_t unit);
     void Paste(const Text& text);
     void Select(int start, int length);
 
-    // The container.
+    // Calls of the container.
     void LetText(const Text& text);
     void LetMaxCharsPerLine(int count);
     void LetMaxLines(int count);
@@ -54,13 +54,13 @@ class LiteralMemo {
     void LetPageWidth(double width, double letter);
     SavedMemo Save() const;
 
-    /// Whether Text may change.
+    /// Whether the container lets Text change.
     bool canChangeText = true;
-    /// Called after an event was logged.
+    /// Called after each event is logged.
     std::function<void(const std::string&)> onEvent = [](const std::string&) {};
-    /// What the container saw, as TakeLogLines says it.
+    /// What the container heard, in the form of TakeLogLines.
     std::vector<std::string> log;
-    /// How often something worth testing happened.
+    /// The number of times that each situation occurred. Tests check that it did.
     std::map<std::string, int> seen;
 
     std::array<Box, 4> boxes;

@@ -29,7 +29,7 @@ float FitSingle(double number) {
     return single;
 }
 
-// The letters that tests use, beyond ASCII those of three alphabets.
+// Lowers the letters that the tests use: ASCII, and one letter each of Latin-1, Greek and Cyrillic.
 char16_t InOneCase(char16_t unit) {
     if (unit >= u'A' && unit <= u'Z') {
         return static_cast<char16_t>(unit - u'A' + u'a');
@@ -219,8 +219,8 @@ void LiteralOptionList::LetContents(const Text& contents) {
     }
 }
 
-// A walk that an error ends has loaded elements that loadedCount_ does not know of. They are there
-// all the same: no later walk loads them again, and where they are surplus they are hidden.
+// If an error ends a walk, elements exist that loadedCount_ does not include. Later walks do not
+// load them again, and hide them where they are surplus.
 void LiteralOptionList::Load(int index) {
     if (index < static_cast<int>(buttons_.size())) {
         See(ListFeature::LeftOverUsed);
@@ -376,7 +376,7 @@ void LiteralOptionList::Option1_Click() {
     }
 }
 
-// The group of option buttons: one becomes selected in place of all others and clicks.
+// Selects a button of the group, deselects all others and clicks it.
 void LiteralOptionList::Select(int index) {
     for (LiteralButton& button : buttons_) {
         button.selected = false;

@@ -1,5 +1,5 @@
-// A slow, literal model of the option list: its documented steps one after another, string by
-// string, with constituents of its own.
+// A slow, literal model of the option list. Its steps run one after another, string by string, on
+// constituents of the model.
 #pragma once
 
 #include <array>
@@ -15,7 +15,7 @@
 
 namespace lumenkit::testing {
 
-/// What a run of the model has come across.
+/// The situations that a run of the model can meet.
 enum class ListFeature {
     SelectedByIndex,
     SelectedByText,
@@ -79,7 +79,7 @@ struct LiteralFrame {
     host::Placement place;
 };
 
-/// A property bag: what is not stored has no value.
+/// A property bag. A property that is not stored has no value.
 struct LiteralBag {
     std::optional<bool> Enabled;
     std::optional<LiteralFont> Font;
@@ -98,7 +98,7 @@ struct LiteralBag {
     std::optional<float> TopMargin;
 };
 
-/// What surrounds the control.
+/// The control's surroundings: its mode, its size and its container.
 struct LiteralHost {
     bool userMode = true;
     bool textMayChange = true;
@@ -106,7 +106,8 @@ struct LiteralHost {
     float height = 1500;
     LiteralFont ambientFont{.size = 10};
     std::function<void()> onClick = {};
-    /// "changed Text", "event Click", "error 6 in SetupControls".
+    /// What the container and the user hear: "changed Text", "event Click",
+    /// "error 6 in SetupControls".
     std::vector<std::string> log = {};
 };
 
@@ -114,13 +115,14 @@ class LiteralOptionList {
  public:
     LiteralOptionList(LiteralHost& host, ListFeatures& features);
 
-    // The container's calls.
+    // Calls of the container.
     void InitProperties();
     void ReadProperties(const LiteralBag& bag);
     LiteralBag WriteProperties();
     void Resize();
 
-    // Properties; those that only hand on what the frame or the first button has are read there.
+    // Properties. A property that only passes on a value of the frame or of the first button has no
+    // function here. Tests read the frame or the button.
     void LetEnabled(bool enabled);
     void SetFont(std::shared_ptr<LiteralFont> font);
     void LetBorderStyle(int style);
@@ -146,9 +148,9 @@ class LiteralOptionList {
 
     const Text& Contents() const { return contents_; }
     const LiteralFrame& Frame() const { return frame_; }
-    /// All that exist.
+    /// Returns all buttons that exist, hidden ones included.
     const std::vector<LiteralButton>& Buttons() const { return buttons_; }
-    /// The person clicks a button; false when it cannot be used.
+    /// Clicks a button as the user does. Returns false if it cannot be clicked.
     bool UserClick(std::size_t index);
 
  private:

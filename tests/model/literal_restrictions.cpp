@@ -6,30 +6,30 @@ namespace {
 
 using Position = long long;
 
-Position Length(const Text& s) {
+Position CountOf(const Text& s) {
     return static_cast<Position>(s.size());
 }
 
-// The characters of s from position `from`, at most `count`.
+// Returns the characters of s from position `from`, at most `count`.
 Text Characters(const Text& s, Position from, Position count) {
     Text part;
-    for (Position p = from; p < from + count && p <= Length(s); ++p) {
+    for (Position p = from; p < from + count && p <= CountOf(s); ++p) {
         part += s[static_cast<std::size_t>(p - 1)];
     }
     return part;
 }
 
 Text ToTheEnd(const Text& s, Position from) {
-    return Characters(s, from, Length(s));
+    return Characters(s, from, CountOf(s));
 }
 
 Position FirstCrLf(const Text& s, Position start) {
-    for (Position p = start; p <= Length(s); ++p) {
+    for (Position p = start; p <= CountOf(s); ++p) {
         if (Characters(s, p, 2) == u"\r\n") {
             return p;
         }
     }
-    return Length(s) + 1;
+    return CountOf(s) + 1;
 }
 
 Text WithoutOuterSpaces(Text s) {
@@ -42,9 +42,9 @@ Text WithoutOuterSpaces(Text s) {
     return s;
 }
 
-// The pattern [! CR LF]: one character that is none of the three.
+// Whether s matches the pattern [! CR LF]: one character other than blank, CR and LF.
 bool MatchesPattern(const Text& s) {
-    return Length(s) == 1 && s != u" " && s != u"\r" && s != u"\n";
+    return CountOf(s) == 1 && s != u" " && s != u"\r" && s != u"\n";
 }
 
 }  // namespace
@@ -74,10 +74,10 @@ LiteralRestriction RestrictLiterally(const Text& text, int maxCharsPerLine, int 
             }
             s = Characters(s, 1, cut - 1) + ToTheEnd(s, pos);
             wasCut = true;
-            result.lateEnds += pos > Length(s) && FirstCrLf(s, cut) <= Length(s) ? 1 : 0;
+            result.lateEnds += pos > CountOf(s) && FirstCrLf(s, cut) <= CountOf(s) ? 1 : 0;
         }
         ++lines;
-        if (lines == maxLines && pos <= Length(s)) {
+        if (lines == maxLines && pos <= CountOf(s)) {
             if (MatchesPattern(ToTheEnd(s, pos))) {
                 ++result.patternMatches;
                 result.refused = true;
@@ -93,7 +93,7 @@ LiteralRestriction RestrictLiterally(const Text& text, int maxCharsPerLine, int 
         }
         const Position lineEnd = FirstCrLf(s, start);
         start = pos + 2;
-        if (start > Length(s)) {
+        if (start > CountOf(s)) {
             return result;
         }
         result.skippedPositions += wasCut ? 1 : 0;

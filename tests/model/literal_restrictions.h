@@ -10,14 +10,14 @@ struct LiteralRestriction {
     bool refused = false;
     bool trimmed = false;
 
-    // What happened on the way.
-    int realCuts = 0;          ///< lines cut with more than blanks in the surplus
-    int blankCuts = 0;         ///< lines cut with only blanks
-    int skippedPositions = 0;  ///< searches that went on from behind a cut
-    int overlookedBreaks = 0;  ///< of these, ones that passed over a line break
-    int lateEnds = 0;          ///< cuts that left the position behind the end
+    // The number of times that each situation occurred.
+    int realCuts = 0;          ///< lines cut whose surplus was not only blanks
+    int blankCuts = 0;         ///< lines cut whose surplus was only blanks
+    int skippedPositions = 0;  ///< searches that went on too far after a cut
+    int overlookedBreaks = 0;  ///< of these, searches that passed over a line break
+    int lateEnds = 0;          ///< cuts that left the position past the end
     int linesDropped = 0;      ///< surplus lines cut
-    int patternMatches = 0;    ///< surplus lines of one real character
+    int patternMatches = 0;    ///< surplus lines of one non-blank character
 };
 
 /// `maxCharsPerLine` and `maxLines` are not negative and not both 0.

@@ -1,4 +1,4 @@
-// The memo and its engine against their literal models, on generated texts and sessions.
+// Compares the memo and its engine with their literal models on generated texts and sessions.
 #include <algorithm>
 #include <array>
 #include <map>
@@ -89,7 +89,7 @@ TEST(MemoModelTest, TheEngineDoesWhatTheStepsSay) {
                       "positions behind the end", "lines dropped", "pattern matches"});
 }
 
-// What the fuzzers start from and what they have found.
+// The corpus holds the seeds and the findings of the fuzzers.
 TEST(MemoModelTest, TheEngineDoesSoOnTheCorpus) {
     RestrictionComparison comparison;
     ForEachCorpusFile("restriction", [&](std::string_view bytes) {
@@ -99,7 +99,7 @@ TEST(MemoModelTest, TheEngineDoesSoOnTheCorpus) {
 
 // ---- The control
 
-// A memo and its model, to which the same is done.
+// A memo and its model. Each step is done to both.
 class Session {
  public:
     Session(Generator& generator, std::map<std::string, int>& seen)
@@ -135,7 +135,7 @@ class Session {
     std::unique_ptr<LiteralMemo> model_ = std::make_unique<LiteralMemo>();
     std::array<memory::TextBox*, 4> boxes_{};
     std::string done_;
-    // The container assigns a text at the next event of that name, once.
+    // A text that the container assigns once, at the next event with the name `armed_`.
     std::string armed_;
     Text assigned_;
     bool realArmed_ = false;
@@ -213,7 +213,8 @@ void Session::Edit() {
     }
 }
 
-// As many lines as there may be, the last one full and with some blanks too many, and a unit more.
+// Returns the maximum number of lines, the last one full and with some extra blanks, and then a
+// line break and one more unit.
 Text Session::BarelyTooMuch() {
     Text text;
     for (int line = 1; line < model_->m_MaxLines; ++line) {

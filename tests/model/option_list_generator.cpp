@@ -41,7 +41,7 @@ std::vector<ListStep> OptionListGenerator::Steps() {
     return steps;
 }
 
-// What matters most comes most often.
+// The most important actions come most often.
 ListAction OptionListGenerator::Action() {
     const int draw = Number(100);
     if (draw < 25) {
@@ -127,7 +127,7 @@ Text OptionListGenerator::Contents() {
     }
     Text contents;
     if (OneIn(3) && !contents_.empty() && contents_.size() < 100) {
-        contents = contents_;  // the same again but for one unit
+        contents = contents_;  // the same again with one unit changed
         contents[static_cast<std::size_t>(Number(static_cast<int>(contents.size())))] =
             Any(looseUnits);
         return contents;
@@ -146,7 +146,7 @@ Text OptionListGenerator::Contents() {
     return contents + (OneIn(6) ? u"|" : u"");
 }
 
-// A few items and then one that reaches about as far as positions can count.
+// Returns a few items and then one that ends near 32767, the last position that can be counted.
 Text OptionListGenerator::LongContents() {
     Text contents;
     const int items = Number(8);

@@ -23,7 +23,7 @@ enum class ListAction {
     Caption,
     NewFont,  ///< of the frame
     NoFont,
-    ChangeFont,  ///< through the object that Font gives
+    ChangeFont,  ///< through the object that Font returns
     ItemAlignment,
     ItemFontBold,
     ItemFontItalic,
@@ -34,14 +34,14 @@ enum class ListAction {
     Spacing,
     TopMargin,
     Width,      ///< of the control
-    AllowText,  ///< what the container answers when asked whether Text may change
-    OnClick,    ///< what the container does on Click: one of ListReaction
+    AllowText,  ///< whether the container lets Text change
+    OnClick,    ///< the container's reaction to Click, a ListReaction
     Count,
 };
 
 enum class ListReaction { Nothing, Deselect, SelectFirst, AssignText, AssignContents };
 
-/// One action with its argument, of which only the fitting ones count.
+/// One action with its arguments. Each action reads only some of them.
 struct ListStep {
     ListAction action = ListAction::Contents;
     std::int16_t number = 0;
@@ -49,7 +49,7 @@ struct ListStep {
     Text text = {};
 };
 
-/// For messages; long texts are cut.
+/// Describes a step for messages. Long texts are cut.
 std::string Describe(const ListStep& step);
 
 class OptionListGenerator {
@@ -59,7 +59,7 @@ class OptionListGenerator {
     std::vector<ListStep> Steps();
 
  private:
-    /// 0 to below - 1.
+    /// Returns a number from 0 to below - 1.
     int Number(int below);
     bool OneIn(int count) { return Number(count) == 0; }
     template <typename T, std::size_t count>

@@ -1,4 +1,4 @@
-// The option list against its literal model, on generated uses.
+// Compares the option list with its literal model on generated uses.
 #include <string>
 #include <string_view>
 
@@ -28,7 +28,7 @@ TEST(OptionListModel, TheControlDoesWhatTheModelDoes) {
     }
 }
 
-// What the fuzzers start from and what they have found.
+// The corpus holds the seeds and the findings of the fuzzers.
 TEST(OptionListModel, TheControlDoesSoOnTheCorpus) {
     ListFeatures features{};
     ForEachCorpusFile("contents", [&](std::string_view bytes) {

@@ -168,7 +168,8 @@ void OptionListTwins::Do(const ListStep& step) {
     }
 }
 
-// Makes the container answer and act as it should.
+// Applies the container's settings to the control and to the model: whether Text may change, and
+// the reaction to Click.
 void OptionListTwins::Connect() {
     placed_->Placed().Site().AllowChange(u"Text", host_.textMayChange);
     placed_->Placed().Site().SetEventHandler([this](TextView, std::span<Value>) {
@@ -386,7 +387,7 @@ std::vector<ListStep> StepsFromBytes(std::string_view bytes) {
                             ? 3e38F
                             : 25.5F * static_cast<float>(step.number);
         if (step.action == ListAction::Width) {
-            step.distance = std::abs(step.distance);  // containers refuse less
+            step.distance = std::abs(step.distance);  // containers allow no negative width
         }
         step.text = CaptionFromBytes(input.Line());
         steps.push_back(std::move(step));

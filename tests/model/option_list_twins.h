@@ -13,16 +13,16 @@
 
 namespace lumenkit::testing {
 
-/// A control and its literal model, used alike.
+/// A control and its literal model. Each step is done to both.
 class OptionListTwins {
  public:
-    /// Counts in `features`, which must outlive this, what it comes across.
+    /// Counts the situations that occur in `features`, which must outlive this object.
     explicit OptionListTwins(ListFeatures& features);
 
     void Do(const ListStep& step);
-    /// What is not the same; empty when all is.
+    /// Returns what differs; empty if nothing does.
     std::string Difference();
-    /// The same for what can be read as properties. Reading may be refused, and so be logged.
+    /// The same for everything that can be read as a property. A refused read is logged.
     std::string PropertyDifference();
 
  private:
@@ -38,14 +38,15 @@ class OptionListTwins {
     std::unique_ptr<LiteralOptionList> literal_;
     std::unique_ptr<PlacedOptionList> placed_;
     ListReaction reaction_ = ListReaction::Nothing;
-    std::string found_;             // what was not the same on the way
+    std::string found_;             // differences found during a step
     std::vector<std::string> log_;  // of the control
 };
 
-/// Does `steps` one after another; what is not the same then, and what was done. Empty when all is.
+/// Does `steps` one after another. Returns the first difference and the steps up to it; empty if
+/// there is none.
 std::string DifferenceAfter(const std::vector<ListStep>& steps, ListFeatures& features);
 
-/// A fuzzer's input as uses of an option list, a line each: an action, a number and a text.
+/// Converts a fuzzer's input to steps, one a line: an action, a number and a text.
 std::vector<ListStep> StepsFromBytes(std::string_view bytes);
 
 }  // namespace lumenkit::testing

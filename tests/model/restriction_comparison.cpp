@@ -21,7 +21,7 @@ std::string Describe(bool refused, bool trimmed, const Text& text) {
     return Quoted(text) + (refused ? " refused" : "") + (trimmed ? " trimmed" : "");
 }
 
-// Small limits mostly, and the largest one.
+// Mostly small limits, and the largest possible one.
 std::int16_t Limit(std::uint8_t byte) {
     return byte == std::numeric_limits<std::uint8_t>::max()
                ? std::numeric_limits<std::int16_t>::max()

@@ -17,7 +17,7 @@ struct RestrictionCase {
 /// Restricts texts with the engine and with its literal model.
 class RestrictionComparison {
  public:
-    /// Where the two disagree; empty where they do not.
+    /// Returns the difference between the two; empty if there is none.
     std::string Difference(const RestrictionCase& given);
 
     /// The model's result for the last case.
@@ -27,10 +27,10 @@ class RestrictionComparison {
     LiteralRestriction literal_;
 };
 
-/// For messages: control characters are named.
+/// Quotes a text for messages. Some control characters are named.
 std::string Quoted(const Text& text);
 
-/// A fuzzer's input as a case: limits, mode and the text.
+/// Converts a fuzzer's input to a case: mode, limits and text.
 RestrictionCase RestrictionFromBytes(std::string_view bytes);
 
 }  // namespace lumenkit::testing

@@ -13,13 +13,13 @@ import sys
 from pathlib import Path
 
 EXPORTS = ["DllCanUnloadNow", "DllGetClassObject", "DllRegisterServer", "DllUnregisterServer"]
-# What every Windows has, and nothing of a compiler.
+# Libraries that every Windows has. Libraries of a compiler are not among them.
 SYSTEM_LIBRARIES = {
     "advapi32.dll", "comctl32.dll", "gdi32.dll", "kernel32.dll", "msvcrt.dll", "ole32.dll",
     "oleaut32.dll", "shell32.dll", "user32.dll", "uxtheme.dll",
 }
 MACHINES = {32: 0x14C, 64: 0x8664}
-SYSTEM_KINDS = {32: 1, 64: 3}  # of a type library
+SYSTEM_KINDS = {32: 1, 64: 3}  # the system kind in a type library
 
 
 def headers(data):

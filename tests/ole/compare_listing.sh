@@ -1,8 +1,8 @@
 #!/usr/bin/env bash
-# Whether a program's listing of type libraries is the golden one:
+# Compares a program's listing of type libraries with the golden listing:
 #   compare_listing.sh list_type_library.exe golden.txt library...
-# For libraries that are made for a machine whose programs do not run here: any program can list
-# them. Run it where the libraries lie.
+# Used for libraries that are made for a machine whose programs do not run here: a program for any
+# machine can list them. Run it in the folder of the libraries.
 set -euo pipefail
 lister=$1
 golden=$2

@@ -1,4 +1,4 @@
-// What the component server's file carries for installers, designers and the loader.
+// The parts of the component server's file that installers, designers and the loader read.
 #include <algorithm>
 #include <cstddef>
 #include <cstring>
@@ -22,10 +22,10 @@ namespace {
 using Microsoft::WRL::ComPtr;
 
 const std::filesystem::path server = std::filesystem::path(LUMENKIT_BINARY_DIR) / "lumenkit.ocx";
-// The resource type as a wide name, which the headers have for UNICODE programs only.
+// The resource type as a wide name. The headers define it for UNICODE programs only.
 LPCWSTR const bitmapType = MAKEINTRESOURCEW(2);
 
-/// What a program that brings the server along says in its manifest.
+/// The manifest of a program that is installed together with the server.
 constexpr const char* clientManifest =
     "<?xml version=\"1.0\" encoding=\"UTF-8\" standalone=\"yes\"?>\n"
     "<assembly xmlns=\"urn:schemas-microsoft-com:asm.v1\" manifestVersion=\"1.0\">\n"
@@ -64,7 +64,7 @@ TEST(ServerFile, TellsItsVersion) {
     EXPECT_EQ(VersionText(information, L"FileVersion"), L"7.1.0.0");
     EXPECT_EQ(VersionText(information, L"ProductName"), L"lumenkit");
     EXPECT_EQ(VersionText(information, L"OriginalFilename"), L"lumenkit.ocx");
-    // Installers register what has this entry.
+    // Installers register a file that has this entry.
     EXPECT_EQ(VersionText(information, L"OLESelfRegister"), L"");
 }
 
@@ -108,7 +108,7 @@ TEST_F(LoadedServer, HasAToolboxBitmapForEachControl) {
     }
 }
 
-/// With such a manifest in force for this thread, beside the server.
+/// Activates such a manifest for this thread, in the folder of the server.
 class SideBySide : public ::testing::Test {
  protected:
     void SetUp() override {
@@ -135,7 +135,7 @@ class SideBySide : public ::testing::Test {
     ULONG_PTR cookie_ = 0;
 };
 
-/// By the name alone, as a program that knows nothing else of the class.
+/// Creates an object by its class name, as a program does that knows nothing else of the class.
 ComPtr<IUnknown> Create(const ClassDescriptor& type) {
     const Text name = Text(lumenkitClasses.libraryName) + u"." + Text(type.name);
     CLSID found = {};

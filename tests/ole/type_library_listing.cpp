@@ -34,7 +34,7 @@ std::string ToUtf8(const wchar_t* text, UINT length) {
     return bytes;
 }
 
-/// A string of the platform, freed at the end.
+/// A string of the platform, freed when it is destroyed.
 class Name {
  public:
     Name() = default;
@@ -151,7 +151,7 @@ std::string InvokeName(INVOKEKIND kind) {
     return "?";
 }
 
-/// Of one type description.
+/// Lists one type description.
 class TypeListing {
  public:
     TypeListing(ITypeInfo& info, std::string& text) : info_(info), text_(text) {
@@ -241,8 +241,8 @@ class TypeListing {
         Check(result, "GetDocumentation");
     }
 
-    /// False where there is no such function: the dispatch view of a dual interface counts the
-    /// seven of IDispatch, but not every platform has them in it.
+    /// Returns false if there is no such function. The dispatch view of a dual interface counts the
+    /// seven functions of IDispatch, but some platforms do not include them in it.
     bool Function(UINT index) {
         FUNCDESC* found = nullptr;
         const HRESULT result = info_.GetFuncDesc(index, &found);
@@ -285,7 +285,8 @@ class TypeListing {
         Help(2, help);
     }
 
-    /// The function's own, then those of its parameters; what a property is set to has none.
+    /// Returns the name of the function, then those of its parameters. The value assigned to a
+    /// property has none.
     std::vector<std::string> Names(const FUNCDESC& description) {
         const auto count = static_cast<UINT>(description.cParams) + 1;
         std::vector<BSTR> texts(count, nullptr);
@@ -302,7 +303,7 @@ class TypeListing {
         return names;
     }
 
-    /// The name of a type, with that of its library unless it is the same.
+    /// Returns the name of a type, with the name of its library if that is another one.
     std::string ReferredName(HREFTYPE reference) const {
         ComPtr<ITypeInfo> referred;
         Check(info_.GetRefTypeInfo(reference, &referred), "GetRefTypeInfo");

@@ -1,5 +1,5 @@
-// The type libraries as clients see them. The golden listing shows changes for review; the tables
-// here say what must not change, whatever the listing says.
+// The type libraries as clients see them. The golden listing shows changes for review. The tables
+// here hold the facts that must not change.
 #include <filesystem>
 #include <fstream>
 #include <map>
@@ -52,7 +52,7 @@ TEST(TypeLibrary, LiesInTheServer) {
 constexpr long userProperty = 1745027072;
 constexpr long userMethod = 1610809344;
 
-/// One member or event: what a client learns from all its functions together.
+/// One member or event: the information that all its functions give to a client.
 struct Fact {
     long identifier;
     std::string name;
@@ -68,7 +68,7 @@ std::ostream& operator<<(std::ostream& stream, const Fact& fact) {
                   << fact.type << ", \"" << fact.help << "\"}";
 }
 
-/// ASCII text; the names and help strings of the library are that.
+/// Returns ASCII text. The names and help strings of the library contain no other characters.
 std::string TakeText(BSTR text) {
     std::string taken;
     for (UINT i = 0; i < SysStringLen(text); ++i) {
@@ -185,7 +185,7 @@ class TypeLibraryFacts : public ::testing::Test {
         return facts;
     }
 
-    /// "kind flags", then "name:flags" of what a class implements.
+    /// Returns "kind flags", then "name:flags" for each interface that the class implements.
     std::string Shape(const std::wstring& name) {
         const ComPtr<ITypeInfo> info = Find(name);
         TYPEATTR* attributes = nullptr;
@@ -256,7 +256,7 @@ TEST_F(TypeLibraryFacts, TwelveDescriptions) {
     for (const wchar_t* name : {L"__VLabel", L"__VMemo", L"__VOptList"}) {
         EXPECT_EQ(Shape(name), "dispatch hidden");
     }
-    // 1 is the default, 3 the default source.
+    // The flag 1 marks the default interface, 3 the default source.
     EXPECT_EQ(Shape(L"VLabel"), "class cancreate control, _VLabel:1, __VLabel:3");
     EXPECT_EQ(Shape(L"VMemo"), "class cancreate control, _VMemo:1, __VMemo:3");
     EXPECT_EQ(Shape(L"VOptList"), "class cancreate control, _VOptList:1, __VOptList:3");

@@ -7,13 +7,13 @@ namespace lumenkit::testing {
 
 namespace {
 
-std::int64_t count = 0;
-std::int64_t live = 0;
+std::int64_t allocations = 0;
+std::int64_t liveCount = 0;
 std::size_t bytes = 0;
 std::int64_t untilFailure = 0;
 
 void* Allocate(std::size_t size) {
-    ++count;
+    ++allocations;
     bytes += size;
     if (untilFailure > 0 && --untilFailure == 0) {
         throw std::bad_alloc();
@@ -22,23 +22,23 @@ void* Allocate(std::size_t size) {
     if (memory == nullptr) {
         throw std::bad_alloc();
     }
-    ++live;
+    ++liveCount;
     return memory;
 }
 
 void Free(void* memory) {
-    live -= memory != nullptr ? 1 : 0;
+    liveCount -= memory != nullptr ? 1 : 0;
     std::free(memory);
 }
 
 }  // namespace
 
 std::int64_t AllocationCount() {
-    return count;
+    return allocations;
 }
 
 std::int64_t LiveAllocations() {
-    return live;
+    return liveCount;
 }
 
 std::size_t AllocatedBytes() {
@@ -55,7 +55,7 @@ bool AllocationFailurePending() {
 
 }  // namespace lumenkit::testing
 
-// The nothrow forms end in these. Nothing here is over-aligned.
+// The nothrow forms call these. The aligned forms stay as they are: no type here is over-aligned.
 void* operator new(std::size_t size) {
     return lumenkit::testing::Allocate(size);
 }

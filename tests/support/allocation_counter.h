@@ -1,4 +1,4 @@
-// Counts the allocations of the program that it is linked to, by replacing operator new.
+// Counts the allocations of the program to which it is linked. It replaces operator new.
 #pragma once
 
 #include <cstddef>
@@ -6,20 +6,20 @@
 
 namespace lumenkit::testing {
 
-/// Allocations so far.
+/// Returns the number of allocations so far.
 std::int64_t AllocationCount();
 
-/// Allocations that have not been given back yet.
+/// Returns the number of allocations that have not been freed.
 std::int64_t LiveAllocations();
 
-/// Bytes asked for so far; never less when they are given back.
+/// Returns the number of bytes requested so far. Freeing memory does not reduce it.
 std::size_t AllocatedBytes();
 
-/// Lets the `ordinal`-th allocation from now on (1 is the next one) fail with std::bad_alloc; 0
-/// lets none fail. A failure happens once.
+/// Makes an allocation fail with std::bad_alloc: 1 is the next allocation, 2 the one after it. Only
+/// that allocation fails. 0 makes none fail.
 void FailAllocation(std::int64_t ordinal);
 
-/// Whether the failure asked for has not happened yet.
+/// Whether the requested failure has not happened yet.
 bool AllocationFailurePending();
 
 }  // namespace lumenkit::testing

@@ -9,7 +9,7 @@ namespace lumenkit::testing {
 
 namespace {
 
-// What stands between `label` and the end of its line.
+// Returns the text after `label` up to the end of the line.
 std::string Field(const std::string& message, const std::string& label) {
     const std::size_t found = message.find(label);
     if (found == std::string::npos) {

@@ -6,8 +6,8 @@
 
 namespace lumenkit::testing {
 
-/// An error report in a few words, "error 6 in DisplayCaption", where `message` is just what the
-/// module `fileName` shows for one of the runtime's own errors; otherwise the whole message.
+/// Returns "error 6 in DisplayCaption" if `message` is exactly the report that the module
+/// `fileName` shows for one of the runtime's own errors. Otherwise returns the whole message.
 std::string BriefReport(TextView fileName, TextView message);
 
 }  // namespace lumenkit::testing

@@ -11,7 +11,7 @@
 
 namespace lumenkit::testing {
 
-/// Hands the content of each file of fuzz/corpus/`name` to `check`. There must be some.
+/// Passes the content of each file of fuzz/corpus/`name` to `check`. Fails if there are too few.
 inline void ForEachCorpusFile(const std::string& name,
                               const std::function<void(std::string_view)>& check) {
     constexpr int fewest = 5;

@@ -1,5 +1,5 @@
-// Stands for the control that a caption page edits: an object of no class, known by its members'
-// names alone.
+// A test double for the control that a caption page edits. It is an object without a class; the
+// page finds its members by name.
 #pragma once
 
 #include <map>
@@ -12,27 +12,28 @@
 namespace lumenkit::testing {
 
 /// Has a Caption, BulletPrefix, BulletIndent, WordWrap, BackColor, ForeColor, Font and
-/// GetProperty("Width" / "Height"), and notes how they are used.
+/// GetProperty("Width" / "Height"), and records how they are used.
 class EditedDouble final : public Object {
  public:
-    /// `font` is its Font; width and height are in twips.
+    /// `font` is the value of Font. Width and height are in twips.
     explicit EditedDouble(ObjectRef font, float width = 3000, float height = 1500);
 
     std::optional<std::int32_t> FindMember(TextView name) const override;
     Value Invoke(std::int32_t identifier, InvokeKind kind, std::span<Value> arguments) override;
 
-    /// What the member holds. Nothing is noted.
+    /// Accesses the value of the member without recording it.
     Value& Held(TextView name) { return values_.at(Text(name)); }
-    /// Takes the member away.
+    /// Removes the member.
     void Remove(TextView name) { values_.erase(Text(name)); }
-    /// From now on the member raises `error` when it is read or called / assigned.
+    /// Makes the member raise `error` from now on: FailRead when it is read or called, FailAssign
+    /// when it is assigned.
     void FailRead(TextView name, const RuntimeError& error) { readErrors_.emplace(name, error); }
     void FailAssign(TextView name, const RuntimeError& error) {
         assignErrors_.emplace(name, error);
     }
     void StopFailing();
 
-    /// What was done since the last call: "get Caption", "call GetProperty Width",
+    /// Returns the uses since the last call: "get Caption", "call GetProperty Width",
     /// "let BulletIndent Integer 12".
     std::vector<std::string> TakeLog();
 
@@ -48,7 +49,7 @@ class EditedDouble final : public Object {
     std::vector<std::string> log_;
 };
 
-/// "Boolean True", "Integer 12", "String x", "Object".
+/// Returns the value with its type: "Boolean True", "Integer 12", "String x", "Object".
 std::string TypedText(const Value& value);
 
 }  // namespace lumenkit::testing

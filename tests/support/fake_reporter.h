@@ -1,4 +1,4 @@
-// A host that notes what the error reporter shows.
+// A host that records the messages of the error reporter.
 #pragma once
 
 #include <optional>
@@ -24,7 +24,7 @@ class FakeReporter final : public host::Application, public host::Interaction {
     std::vector<Text> messages;
 };
 
-/// A module whose error reports are noted.
+/// A module whose error reports are recorded.
 class ReportingModule {
  public:
     explicit ReportingModule(TextView fileName) : module_(errors_, fileName) {}
@@ -38,7 +38,7 @@ class ReportingModule {
     Module module_;
 };
 
-/// The message that a report of one of the runtime's own errors shows.
+/// Returns the message of a report of one of the runtime's own errors.
 inline Text ReportMessage(TextView fileName, TextView procedure, ErrorNumber number) {
     const auto code = static_cast<std::int32_t>(number);
     Text message = u"Exe = lumenkit\r\nForm = ";

@@ -23,7 +23,7 @@ std::string Describe(Cleared) {
     return "Cls";
 }
 
-// The font's name never changes while a caption is drawn, so it is left out.
+// The font's name is left out: it never changes while a caption is drawn.
 std::string Describe(const PrintedText& print) {
     return "Print " + Point(print.x, print.y) + " \"" + ToUtf8(print.text) + "\" " +
            Style(print.font) + " " + ToLine(print.color);

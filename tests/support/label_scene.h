@@ -1,4 +1,4 @@
-// A caption with everything that decides how it is drawn, and what is seen once it is.
+// A caption with all settings that affect its drawing, and the picture that results.
 #pragma once
 
 #include <cstdint>
@@ -60,7 +60,7 @@ using PictureItem = std::variant<Cleared, PrintedText, FilledBox>;
 
 struct LabelPicture {
     std::vector<PictureItem> items;
-    // What the drawing leaves.
+    // The state after drawing.
     float penX = 0;
     float penY = 0;
     float maxLineX = 0;
@@ -72,7 +72,7 @@ struct LabelPicture {
     friend bool operator==(const LabelPicture&, const LabelPicture&) = default;
 };
 
-/// One line for each item, then what the drawing leaves.
+/// One line for each item, then the state after drawing.
 std::string ToLines(const LabelPicture& picture);
 
 /// "MS Sans Serif 10 bold italic underline".

@@ -8,9 +8,9 @@
 
 namespace lumenkit::testing {
 
-/// What the container and the person at the screen saw, and empties the log: "changed Caption",
-/// "event Click", "error 6 in SetIdealSize" (a beep, then the whole message of the module
-/// `fileName` in its box), or whatever else was shown.
+/// Returns the log as lines and empties it: "changed Caption", "event Click", "message ..." for a
+/// message box. A beep and an error box of the module `fileName` give "error 6 in SetIdealSize", or
+/// the whole text if the box has an unexpected text.
 std::vector<std::string> TakeLogLines(memory::Log& log, TextView fileName);
 
 }  // namespace lumenkit::testing

@@ -1,6 +1,6 @@
-// allocation_counter.h for programs on shared libraries that memory must not run out in: counts,
-// and lets fail, what the code of the program asks for, with the templates that it is made of. What
-// the libraries ask for is given.
+// Implements allocation_counter.h for programs that use shared libraries which cannot handle lack
+// of memory. Counts, and makes fail, only the allocations of the program's own code, including the
+// templates instantiated in it. Allocations of the libraries are neither counted nor made to fail.
 #include <cstddef>
 #include <cstdlib>
 #include <functional>
@@ -8,7 +8,7 @@
 
 #include "tests/support/allocation_counter.h"
 
-// Where the program's own code begins and ends; the linker knows.
+// The linker defines these at the start and at the end of the program's own code.
 extern "C" {
 // NOLINTBEGIN(bugprone-reserved-identifier,cppcoreguidelines-avoid-non-const-global-variables)
 extern const char __executable_start;
@@ -21,11 +21,12 @@ namespace lumenkit::testing {
 namespace {
 
 std::int64_t count = 0;
-std::int64_t live = 0;
+std::int64_t liveCount = 0;
 std::size_t bytes = 0;
 std::int64_t untilFailure = 0;
 
-// Before each piece of memory: whose it is, for whoever gives it back.
+// Precedes each block of memory. Free() reads it, because a library may free a block of the
+// program.
 union Owner {
     bool isOwn;
     std::max_align_t alignment;
@@ -42,7 +43,7 @@ void CountOwn(std::size_t size) {
     if (untilFailure > 0 && --untilFailure == 0) {
         throw std::bad_alloc();
     }
-    ++live;
+    ++liveCount;
 }
 
 void* Allocate(std::size_t size, const void* caller) {
@@ -63,7 +64,7 @@ void Free(void* memory) {
         return;
     }
     Owner* const owner = static_cast<Owner*>(memory) - 1;
-    live -= owner->isOwn ? 1 : 0;
+    liveCount -= owner->isOwn ? 1 : 0;
     std::free(owner);
 }
 
@@ -74,7 +75,7 @@ std::int64_t AllocationCount() {
 }
 
 std::int64_t LiveAllocations() {
-    return live;
+    return liveCount;
 }
 
 std::size_t AllocatedBytes() {
@@ -91,7 +92,7 @@ bool AllocationFailurePending() {
 
 }  // namespace lumenkit::testing
 
-// The nothrow forms end in these. Nothing here is over-aligned.
+// The nothrow forms call these. The aligned forms stay as they are: no type here is over-aligned.
 void* operator new(std::size_t size) {
     return lumenkit::testing::Allocate(size, __builtin_return_address(0));
 }

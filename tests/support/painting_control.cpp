@@ -7,7 +7,7 @@ namespace lumenkit::testing {
 
 namespace {
 
-PaintingControl* last = nullptr;
+PaintingControl* lastMade = nullptr;
 
 constexpr InterfaceTable interfaceTable = {u"_Painting", {}};
 
@@ -19,18 +19,18 @@ std::string Number(float number) {
 
 PaintingControl::PaintingControl(const ControlHost& host)
     : host_(host), automation_(interfaceTable, this) {
-    last = this;
+    lastMade = this;
 }
 
 PaintingControl::~PaintingControl() {
-    last = last == this ? nullptr : last;
+    lastMade = lastMade == this ? nullptr : lastMade;
 }
 
 PaintingControl& PaintingControl::Last() {
-    if (last == nullptr) {
+    if (lastMade == nullptr) {
         throw std::logic_error("there is no painting control");
     }
-    return *last;
+    return *lastMade;
 }
 
 void PaintingControl::UserControl_Paint() {

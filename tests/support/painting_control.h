@@ -9,14 +9,13 @@
 
 namespace lumenkit::testing {
 
-/// A control that paints and makes constituents as a test says, and writes down what the mouse
-/// does.
+/// A control that paints with `onPaint`, gives tests its host, and records mouse events in `heard`.
 class PaintingControl final : public Control {
  public:
     explicit PaintingControl(const ControlHost& host);
     ~PaintingControl() override;
 
-    /// The one made last; it must exist.
+    /// Returns the control created last, which must exist.
     static PaintingControl& Last();
 
     Object& Automation() override { return automation_; }

@@ -12,7 +12,7 @@ BITMAPINFOHEADER HeaderOf(int width, int height) {
     BITMAPINFOHEADER header = {};
     header.biSize = sizeof header;
     header.biWidth = width;
-    header.biHeight = -height;  // the first row is the upper one
+    header.biHeight = -height;  // the first row is the top row
     header.biPlanes = 1;
     header.biBitCount = 32;
     header.biCompression = BI_RGB;

@@ -1,4 +1,4 @@
-// Pictures in memory, to look at what was drawn.
+// Bitmaps in memory, on which tests draw and whose pixels they inspect.
 #pragma once
 
 #include <cstdint>
@@ -12,7 +12,7 @@ namespace lumenkit::testing {
 /// A bitmap with a device to draw on. Lengths are in pixels.
 class Picture {
  public:
-    /// White all over.
+    /// All pixels are white at first.
     Picture(int width, int height);
     ~Picture();
     Picture(const Picture&) = delete;
@@ -24,14 +24,14 @@ class Picture {
     void Fill(COLORREF color);
 
     COLORREF At(int x, int y) const;
-    /// How many pixels of `area` have the colour.
+    /// Returns the number of pixels of `area` that have the colour.
     int Count(COLORREF color, const RECT& area) const;
     int Count(COLORREF color) const { return Count(color, {0, 0, width_, height_}); }
-    /// The smallest box around all pixels that have another colour; empty where none has.
+    /// Returns the smallest rectangle with all pixels of other colours; empty if there are none.
     RECT BoundsOfOthers(COLORREF color) const;
     /// The pixels, row by row.
     std::vector<std::uint32_t> Pixels() const;
-    /// False where the file cannot be written.
+    /// Returns false if the file cannot be written.
     bool SaveAsBmp(const std::string& path) const;
 
  private:

@@ -1,4 +1,4 @@
-// A caption page on the memory runtime, with what tests look at.
+// A caption page on the memory runtime, with accessors for tests.
 #pragma once
 
 #include <cstdint>
@@ -42,13 +42,14 @@ class PlacedCaptionPage {
     memory::EmbeddedControl& PreviewPart() { return Part<memory::EmbeddedControl>(u"VLabel1"); }
     /// The preview as automation clients see it.
     Object& Preview() { return PreviewPart().Inner().Automation(); }
-    /// One of its properties as text.
+    /// Returns a property of the preview as text.
     std::string Previewed(TextView property);
 
-    /// What the magnifier shows, as "left|middle|right"; "[middle]" where it is a selection.
+    /// Returns the magnifier's text as "left|middle|right", with "[middle]" if the middle is a
+    /// selection.
     std::string Magnifier();
     bool IsMagnifierVisible();
-    /// "start-end" of the caption box's selection.
+    /// Returns the selection of the caption box as "start-end".
     std::string Selection();
 
     std::shared_ptr<EditedDouble> NewEdited(float width = 3000, float height = 1500) {

@@ -1,4 +1,4 @@
-// A label on the memory runtime, with what tests look at.
+// A label on the memory runtime, with accessors for tests.
 #pragma once
 
 #include <string>
@@ -13,7 +13,7 @@ namespace lumenkit::testing {
 
 class PlacedLabel {
  public:
-    /// The control is created, not started yet: see PlacedControl::StartNew and StartSaved.
+    /// Creates the control without starting it: see PlacedControl::StartNew and StartSaved.
     explicit PlacedLabel(const memory::Placing& placing = {});
 
     VLabel& Label() { return static_cast<VLabel&>(placed_.GetControl()); }
@@ -23,17 +23,18 @@ class PlacedLabel {
     memory::FaultPlan& Faults() { return form_.Faults(); }
     memory::Surface& Surface() { return placed_.Drawing(); }
 
-    /// Gives the control all of the scene, without a repaint. It is hidden then.
+    /// Hides the control and applies the whole scene to it, so that nothing is repainted.
     void SetUp(const LabelScene& scene);
-    /// Shows the control and has it paint.
+    /// Shows the control and makes it paint.
     void Paint();
-    /// What is on the surface now, and what the control and the log say. Empties the log.
+    /// Returns the contents of the surface, the control's state and the reports in the log. Empties
+    /// the log.
     LabelPicture Picture();
 
     std::vector<std::string> TakeLog();
 
-    /// Whether `action` calls `member` ("Surface.Size") at least `times` times. The call that
-    /// answers it fails.
+    /// Whether `action` calls `member` ("Surface.Size") at least `times` times. The call with that
+    /// number fails.
     template <typename Action>
     bool Uses(TextView member, int times, Action&& action) {
         Faults().FailCall(member, times, ErrorNumber::InternalError);
@@ -48,7 +49,7 @@ class PlacedLabel {
     memory::PlacedControl placed_;
 };
 
-/// SetUp, Paint and Picture in one.
+/// Calls SetUp, Paint and Picture.
 LabelPicture Draw(PlacedLabel& label, const LabelScene& scene);
 
 }  // namespace lumenkit::testing

@@ -1,4 +1,4 @@
-// A memo on the memory runtime, with what tests look at.
+// A memo on the memory runtime, with accessors for tests.
 #pragma once
 
 #include <cstdint>
@@ -16,9 +16,9 @@ namespace lumenkit::testing {
 
 class PlacedMemo {
  public:
-    /// A newly placed control.
+    /// Makes a new control.
     explicit PlacedMemo(const memory::Placing& placing = {});
-    /// One that was saved into `bag`.
+    /// Loads a control from `bag`.
     explicit PlacedMemo(host::PropertyBag& bag, const memory::Placing& placing = {});
 
     VMemo& Memo() { return static_cast<VMemo&>(placed_.GetControl()); }
@@ -32,13 +32,13 @@ class PlacedMemo {
         return placed_.Parts().Get<memory::TextBox>(u"Text1", index);
     }
     memory::TextBox& ActiveBox();
-    /// The indices of the boxes that can be seen.
+    /// Returns the indices of the visible boxes.
     std::vector<std::int16_t> VisibleBoxes();
-    /// Of the active box.
+    /// The contents and the caret position of the active box.
     Text Shown() { return ActiveBox().Contents(); }
     std::int32_t Caret();
 
-    // The person at the screen uses the active box.
+    // Actions of the user in the active box.
     bool PutCaret(std::int32_t position) { return Select(position, 0); }
     bool Select(std::int32_t start, std::int32_t length) {
         return user_.Select(ActiveBox(), start, length);
@@ -47,7 +47,7 @@ class PlacedMemo {
     bool Paste(TextView text) { return user_.Paste(ActiveBox(), text); }
     memory::User& User() { return user_; }
 
-    /// What happened since the last call: see TakeLogLines.
+    /// Returns the log since the last call: see TakeLogLines.
     std::vector<std::string> TakeLog();
 
  private:

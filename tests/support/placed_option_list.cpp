@@ -17,7 +17,7 @@ memory::Placing InMode(PlacedOptionList::Mode mode, memory::Placing placing) {
     return placing;
 }
 
-// What stands between `label` and the end of its line.
+// Returns the text after `label` up to the end of the line.
 std::string Field(const std::string& message, const std::string& label) {
     const std::size_t found = message.find(label);
     if (found == std::string::npos) {

@@ -1,4 +1,4 @@
-// An option list on the memory runtime, with what tests look at.
+// An option list on the memory runtime, with accessors for tests.
 #pragma once
 
 #include <memory>
@@ -30,7 +30,7 @@ class PlacedOptionList {
  public:
     enum class Mode { Design, Run };
 
-    /// The control is created, not started yet: see StartNew, StartSaved.
+    /// Creates the control without starting it: see StartNew and StartSaved.
     explicit PlacedOptionList(Mode mode, const memory::Placing& placing = {});
 
     static std::unique_ptr<PlacedOptionList> New(Mode mode, const memory::Placing& placing = {});
@@ -45,21 +45,21 @@ class PlacedOptionList {
     void SetMode(Mode mode) { placed_.GetAmbient().SetUserMode(mode == Mode::Run); }
 
     memory::Frame& Frame() { return placed_.Parts().Get<memory::Frame>(u"Frame1"); }
-    /// All elements, hidden ones included.
+    /// Returns all buttons, hidden ones included.
     std::vector<memory::OptionButton*> Buttons() const;
     memory::OptionButton& Button(std::size_t index) const { return *Buttons().at(index); }
-    /// "value;caption" of each button; " *" follows where it is selected, hidden ones are in
-    /// parentheses.
+    /// Returns "value;caption" for each button, followed by " *" if it is selected, and in
+    /// parentheses if it is hidden.
     std::vector<std::string> Items() const;
-    /// The person at the screen clicks a button; false when it cannot be clicked.
+    /// Clicks a button as the user does. Returns false if it cannot be clicked.
     bool Click(std::size_t index) { return memory::User(form_).Click(Button(index)); }
 
-    /// What the container and the person at the screen have seen since the last call: "changed
-    /// Contents", "event Click", "error 387 in pLetText" (a beep and the whole message of the
-    /// module VOPTLIST), or whatever else was shown.
+    /// Returns the log since the last call: "changed Contents", "event Click", "message ..." for a
+    /// message box, "error 387 in pLetText" for an error box of the module VOPTLIST. "no beep, "
+    /// precedes the line of a box that is shown without a beep.
     std::vector<std::string> TakeLog();
 
-    /// Whether `action` calls `member` ("Frame.Place"). If it does, that call fails.
+    /// Whether `action` calls `member` ("Frame.Place"). The first such call fails.
     template <typename Action>
     bool Uses(TextView member, Action&& action) {
         Faults().FailCall(member, 1, ErrorNumber::InternalError);

@@ -1,5 +1,5 @@
-// Linked into test programs that need a Qt application: it lives while the tests run. Without
-// QT_QPA_PLATFORM no screen is used.
+// Linked into test programs that need a QApplication. It exists while the tests run. If
+// QT_QPA_PLATFORM is not set, Qt uses no screen.
 #include <QApplication>
 #include <QtGlobal>
 #include <array>

@@ -13,7 +13,7 @@
 
 namespace lumenkit::testing {
 
-/// Beeps and messages, written down instead of shown.
+/// Records beeps and messages instead of showing them.
 class WrittenInteraction final : public host::Interaction {
  public:
     void Beep() override { said.emplace_back(u"(beep)"); }
@@ -25,21 +25,21 @@ class WrittenInteraction final : public host::Interaction {
     std::vector<Text> said;
 };
 
-/// An active window with controls of any class table, by their names alone: "VLabel".
+/// An active window with controls of any class table. Controls are placed by class name: "VLabel".
 class QtForm final : public qt::ControlSite, private host::Ambient {
  public:
     explicit QtForm(const ClassTable& classes, bool userMode = true);
 
-    /// A newly placed one; the form keeps it.
+    /// Places a new control. The form owns it.
     qt::ControlWidget& Place(TextView className, const host::Placement& placement);
-    /// Not shown; the caller keeps it.
+    /// Creates a page without showing it. The caller owns it.
     std::unique_ptr<qt::PageWidget> Page(TextView className);
     void Remove(qt::ControlWidget& control);
 
     QMainWindow window;
     WrittenInteraction interaction;
-    std::vector<RuntimeError> errors;  ///< that left handlers of events
-    std::vector<Text> events;          ///< by name, as they are raised
+    std::vector<RuntimeError> errors;  ///< errors that event handlers let out
+    std::vector<Text> events;          ///< names of the events raised, in order
     std::function<void(TextView name, std::span<Value> arguments)> onEvent;
 
  private:

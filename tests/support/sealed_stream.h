@@ -1,4 +1,4 @@
-// Streams of settings that lie under a check that is right.
+// Streams of settings with a valid checksum.
 #pragma once
 
 #include <cstddef>
@@ -7,8 +7,8 @@
 
 namespace lumenkit::testing {
 
-/// `stream` with its last four bytes replaced by the check of all before them. The check of zip,
-/// written here once more on purpose.
+/// Returns `stream` with its last four bytes replaced by the CRC-32 of all bytes before them. The
+/// checksum is implemented again here, so that the tests do not rely on the code under test.
 inline std::vector<std::uint8_t> Sealed(std::vector<std::uint8_t> stream) {
     constexpr std::size_t checkSize = 4;
     std::uint32_t sum = 0xFFFFFFFF;

@@ -1,5 +1,5 @@
-// How long a generated test runs. LUMENKIT_TEST_SHARE=n has it do one in n of its rounds, for tools
-// under which programs are slow.
+// The number of rounds of generated tests. With LUMENKIT_TEST_SHARE=n a test runs one in n of its
+// rounds. Use it with tools that make programs slow.
 #pragma once
 
 #include <algorithm>
@@ -13,12 +13,12 @@ inline int RoundShare() {
     return given != nullptr ? std::stoi(given) : 1;
 }
 
-/// How many rounds there are of so many, at least one.
+/// Returns the number of rounds to run out of `all`, at least one.
 inline int Rounds(int all) {
     return std::max(all / RoundShare(), 1);
 }
 
-/// Whether a test has run for long enough to have seen whatever its generator can make.
+/// Whether the test runs all its rounds, so that its generator produces every kind of case.
 inline bool RunsAllRounds() {
     return RoundShare() == 1;
 }

@@ -1,4 +1,4 @@
-// The seed of a random test: LUMENKIT_TEST_SEED where it is set, otherwise a new one each time.
+// The seed of a random test: LUMENKIT_TEST_SEED if it is set, otherwise a new one each time.
 #pragma once
 
 #include <cstdint>
@@ -9,7 +9,7 @@
 
 namespace lumenkit::testing {
 
-/// Printed, so that a failure can be had again.
+/// Prints the seed, so that a failure can be reproduced.
 inline std::uint32_t TestSeed() {
     const char* const given = std::getenv("LUMENKIT_TEST_SEED");
     const std::uint32_t seed =

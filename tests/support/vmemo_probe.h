@@ -7,7 +7,7 @@
 
 namespace lumenkit {
 
-/// The fields of a memo that no member shows.
+/// Reads fields of a memo that no member of it shows.
 class VMemoProbe {
  public:
     /// The memo must outlive the probe.

@@ -1,4 +1,4 @@
-// A form on the platform's windows, to place controls of the Windows runtime on.
+// A form in a real window, on which tests place controls of the Windows runtime.
 #pragma once
 
 #include <memory>
@@ -16,8 +16,8 @@
 
 namespace lumenkit::testing {
 
-/// A visible top-level window that has the focus, and what its controls share. Messages are
-/// answered at once and logged.
+/// A visible top-level window with the focus, and the services that its controls share. Message
+/// boxes are logged and answered at once.
 class WindowsForm {
  public:
     explicit WindowsForm(const ClassTable& classes);
@@ -31,7 +31,7 @@ class WindowsForm {
     memory::FaultPlan& Faults() { return faults_; }
     memory::Log& GetLog() { return log_; }
     win32::Resolution PixelsPerInch() const { return resolution_; }
-    /// Deals with all messages that wait.
+    /// Dispatches all messages in the queue.
     static void Pump();
 
  private:
@@ -48,7 +48,7 @@ class WindowsForm {
 
 class FormControl;
 
-/// The extender's members, as the interface table wants them.
+/// The members of the extender, in the form that the interface table binds.
 struct FormExtender {
     FormControl& control;
 
@@ -63,7 +63,7 @@ struct FormExtender {
     void Move(float left, float top, float width, float height);
 };
 
-/// A control on a form, with its container's side: a name, a tag, a place. Lengths are in pixels.
+/// A control on a form, and its container: a name, a tag, a place. Lengths are in pixels.
 class FormControl final : public win32::ControlSite, private host::Ambient {
  public:
     FormControl(WindowsForm& form, const ClassDescriptor& type, SIZE size);
@@ -71,7 +71,7 @@ class FormControl final : public win32::ControlSite, private host::Ambient {
     FormControl(const FormControl&) = delete;
     FormControl& operator=(const FormControl&) = delete;
 
-    /// As a new control, or from `bag`; then attached to the form's window.
+    /// Starts the control as new, or from `bag`, and attaches it to the form's window.
     void Start(host::PropertyBag* bag = nullptr);
     void MoveTo(const RECT& place);
 
@@ -85,7 +85,7 @@ class FormControl final : public win32::ControlSite, private host::Ambient {
     host::Container& GetContainer() override { return site_; }
     host::Ambient& GetAmbient() override { return *this; }
     Object& GetExtender() override { return extender_; }
-    /// Agrees, unless told otherwise.
+    /// Applies the size while `agreesToSize` is true.
     void RequestSize(SIZE size) override;
     void PictureChanged() override { ++pictureChanges; }
     void FocusChanged(bool inside) override;

@@ -15,8 +15,8 @@
 
 namespace lumenkit::form {
 
-/// What a block says of its control, as the type that the property has. A value that does not
-/// convert is a FormError with its place. Document and block must outlive the reader.
+/// Reads the properties of a block, converted to their types. Throws FormError with the place of a
+/// value that does not convert. Document and block must outlive the reader.
 class BlockReader {
  public:
     BlockReader(const forms::Document& document, forms::Block& block)
@@ -25,16 +25,15 @@ class BlockReader {
     bool Has(TextView name) const { return block_.FindProperty(name) != nullptr; }
     float Number(TextView name, float otherwise) const;
     std::int32_t Whole(TextView name, std::int32_t otherwise) const;
-    /// One of `count` numbered choices, from 0; a number that is none of them counts as
-    /// `otherwise`.
+    /// Returns a choice from 0 to `count` - 1, or `otherwise` for any other number.
     std::int32_t Choice(TextView name, std::int32_t count, std::int32_t otherwise) const;
     bool Flag(TextView name, bool otherwise) const;
     Text String(TextView name, TextView otherwise = {}) const;
     Color ColorOf(TextView name, Color otherwise) const;
-    /// The group Font; null where there is none.
+    /// Returns the font in the group Font, or null if there is no such group.
     std::shared_ptr<qt::Font> Font() const;
-    /// The companion's record behind a property, valid as long as the document; empty where the
-    /// property is absent or no reference.
+    /// Returns the record in the companion file that the property refers to, valid as long as the
+    /// document. Empty if the property is missing or is no reference.
     std::string_view Record(TextView name) const;
 
     const forms::Document& Document() const { return document_; }
@@ -48,13 +47,13 @@ class BlockReader {
     forms::Block& block_;
 };
 
-/// A font of this runtime as a form describes it. Raises 380 for a size that no font has.
+/// Creates a font of this runtime from a form's description. Raises 380 for an invalid size.
 std::shared_ptr<qt::Font> MakeFont(const forms::FontDescription& description);
 
-/// The property bag of a control, with fonts of this runtime; see forms::FormBag.
+/// Returns the property bag of a control, with fonts of this runtime. See forms::FormBag.
 forms::FormBag BagOf(const forms::Document& document, forms::Block& block);
 
-/// The error of the runtime as one of the form, at `place`.
+/// Throws a FormError at `place` for an error of the runtime.
 [[noreturn]] void Refuse(const forms::Document& document, forms::Position place, TextView what,
                          TextView why);
 

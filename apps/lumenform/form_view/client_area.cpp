@@ -13,8 +13,9 @@ namespace lumenkit::form {
 
 namespace {
 
-// Of several option buttons in one container, Tab stops at the chosen one, or where there is none
-// at the first. What the buttons themselves say of Tab depends on where the keyboard was last.
+// Among the option buttons of a container, Tab stops at the selected one, or at the first if none
+// is selected. The focus policies of the buttons are no guide: they depend on where the focus was
+// last.
 bool IsStopOfGroup(const QRadioButton& button) {
     const auto group =
         button.parentWidget()->findChildren<QRadioButton*>(QString(), Qt::FindDirectChildrenOnly);
@@ -43,7 +44,7 @@ ClientArea::Route ClientArea::FindRoute() const {
     for (const auto& control : controls_) {
         order.push_back(control.get());
     }
-    // Those without an index come last.
+    // Controls without a TabIndex come last.
     std::ranges::stable_sort(order, [](const LiveControl* left, const LiveControl* right) {
         return left->TabIndex() && (!right->TabIndex() || *left->TabIndex() < *right->TabIndex());
     });
@@ -73,8 +74,8 @@ std::size_t ClientArea::Route::TurnOf(const QWidget* widget) const {
     return turns.size();
 }
 
-// Where the keyboard is at no stop, as at an option button that was clicked, the way goes on from
-// its control.
+// If the focus is not at a stop, as on an option button that was clicked, continues from the
+// control that contains it.
 QWidget* ClientArea::Route::Next(const QWidget* from) const {
     auto to = std::ranges::find(stops, from, &Stop::widget);
     to =
@@ -109,7 +110,7 @@ bool ClientArea::focusNextPrevChild(bool next) {
     return true;
 }
 
-// A key that nobody took who lies in the form.
+// Handles a key that no child widget used.
 void ClientArea::keyPressEvent(QKeyEvent* event) {
     for (const auto& control : controls_) {
         auto* const button = dynamic_cast<CommandButton*>(&control->Widget());

@@ -11,16 +11,17 @@
 
 namespace lumenkit::form {
 
-/// The inside of a form: its background, Tab going round its controls by their TabIndex, from the
-/// last to the first and not to what else is in the window, and the buttons for Enter and Esc.
+/// The client area of a form. Paints the background, moves the focus through the controls by
+/// TabIndex with Tab, and clicks the buttons for Enter and Esc. Tab goes from the last control to
+/// the first and does not leave the form.
 class ClientArea final : public QWidget {
  public:
     using Controls = std::vector<std::unique_ptr<LiveControl>>;
 
-    /// `controls` is who is there whenever Tab is pressed; it must outlive this.
+    /// `controls` may change later. It must outlive this object.
     ClientArea(Color backColor, const Controls& controls, QWidget* parent);
 
-    /// What Tab stops at, in its order.
+    /// The widgets at which Tab stops, in tab order.
     std::vector<QWidget*> TabStops() const;
 
     bool focusNextPrevChild(bool next) override;
@@ -31,14 +32,14 @@ class ClientArea final : public QWidget {
 
  private:
     struct Stop {
-        std::size_t turn;  // of its control
+        std::size_t turn;  // position of its control in the tab order
         QWidget* widget;
     };
-    // The way that Tab goes.
+    // The tab order.
     struct Route {
-        // That of the control that `widget` is a part of; one beyond the last where it is of none.
+        // Returns the turn of the control that contains `widget`, or one more than the last turn.
         std::size_t TurnOf(const QWidget* widget) const;
-        // There must be stops.
+        // Next and Previous need at least one stop.
         QWidget* Next(const QWidget* from) const;
         QWidget* Previous(const QWidget* from) const;
 

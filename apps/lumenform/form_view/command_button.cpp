@@ -5,10 +5,10 @@ namespace lumenkit::form {
 void CommandButton::SetKeys(Keys keys) {
     keys_ = keys;
     setDefault(keys.enter);
-    setAutoDefault(true);  // Enter presses the one that has the keyboard
+    setAutoDefault(true);  // Enter clicks the button that has the focus
 }
 
-// Outside dialogs Qt takes every button that loses the keyboard for an ordinary one.
+// Outside dialogs, Qt resets the default state of a button that loses the focus.
 void CommandButton::focusOutEvent(QFocusEvent* event) {
     QPushButton::focusOutEvent(event);
     setDefault(keys_.enter);

@@ -4,8 +4,8 @@
 
 namespace lumenkit::form {
 
-/// A button that Enter, Esc or both press wherever the keyboard is in its form, unless the control
-/// that has it uses the key itself.
+/// A button that Enter, Esc or both click, wherever the focus is in the form, unless the control
+/// with the focus uses the key.
 class CommandButton final : public QPushButton {
  public:
     struct Keys {

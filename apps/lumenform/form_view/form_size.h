@@ -4,7 +4,7 @@
 
 namespace lumenkit::form {
 
-/// How large a form is inside, in twips.
+/// The size of a form's client area, in twips.
 struct FormSize {
     float width = 0;
     float height = 0;
@@ -12,7 +12,8 @@ struct FormSize {
     friend bool operator==(const FormSize&, const FormSize&) = default;
 };
 
-/// As its block says, in twips or in the form's own units. Throws FormError for less than nothing.
+/// Reads the size from ClientWidth and ClientHeight in twips, or from ScaleWidth and ScaleHeight in
+/// the form's units. Throws FormError for a negative size.
 FormSize ClientSizeOf(const BlockReader& form);
 
 }  // namespace lumenkit::form

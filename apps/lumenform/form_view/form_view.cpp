@@ -24,8 +24,8 @@ Color UsualBackColor(const forms::Block& form) {
                                                                           : Color::ButtonFace;
 }
 
-// From the file's order, in which the first is in front; what is drawn by its container is behind
-// all others.
+// Sets the z-order: the first control in the file is in front, and the controls of the back layer
+// are behind all others.
 void Stack(const std::vector<LiveControl*>& controls) {
     for (const bool inBack : {false, true}) {
         for (LiveControl* control : controls) {
@@ -43,7 +43,7 @@ QSize PixelsOf(FormSize size) {
             std::clamp(qt::ToPixels(size.height, twips.y), 1, largest)};
 }
 
-// Who takes the keyboard in a control; null where nobody does.
+// Returns the first widget of a control that takes the focus, or null.
 QWidget* FirstStop(const LiveControl& control) {
     QWidget& widget = control.Widget();
     const auto takes = [&widget](const QWidget* part) {
@@ -63,7 +63,7 @@ QWidget* FirstStop(const LiveControl& control) {
 FormView::FormView(const qt::Context& context, forms::Document& document, Mode mode,
                    QWidget* parent)
     : QWidget(parent), stage_{.context = context, .document = document, .mode = mode, .raise = {}} {
-    setBackgroundRole(QPalette::Window);  // wherever it lies
+    setBackgroundRole(QPalette::Window);  // whatever the parent's role is
     const BlockReader form(document, document.Root());
     caption_ = form.String(u"Caption");
     const Color backColor = form.ColorOf(u"BackColor", UsualBackColor(document.Root()));
@@ -91,7 +91,7 @@ FormView::FormView(const qt::Context& context, forms::Document& document, Mode m
 
 FormView::~FormView() {
     while (!controls_.empty()) {
-        controls_.pop_back();  // what lies in another one goes first
+        controls_.pop_back();  // children go before their containers
     }
 }
 
@@ -107,7 +107,7 @@ void FormView::AddControls(const forms::Block& block, const Surroundings& around
     Stack(added);
 }
 
-// The mnemonic of a label leads to the control behind it.
+// Makes the mnemonic of a label move the focus to the next control in tab order.
 void FormView::MarkLabels() {
     const auto turnOf = [](const LiveControl& control) { return control.TabIndex().value_or(-1); };
     for (const auto& control : controls_) {

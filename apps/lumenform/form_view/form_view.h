@@ -15,11 +15,11 @@
 
 namespace lumenkit::form {
 
-/// A form file on the screen: menus, background and controls, as large as the file says. The
-/// document stays the truth; Save brings it up to date with what the controls hold.
+/// Shows a form file with its menus, background and controls, at the size in the file. Changes to
+/// the controls reach the document only through Save.
 class FormView final : public QWidget {
  public:
-    /// Throws FormError for what a control refuses. Context and document must outlive the view.
+    /// Throws FormError if a control rejects a value. Context and document must outlive the view.
     FormView(const qt::Context& context, forms::Document& document, Mode mode,
              QWidget* parent = nullptr);
     ~FormView() override;
@@ -27,21 +27,22 @@ class FormView final : public QWidget {
     FormView& operator=(const FormView&) = delete;
 
     forms::Document& Document() const { return stage_.document; }
-    /// What stands in the form's title bar.
+    /// The text of the form's title bar.
     const Text& Caption() const { return caption_; }
     ClientArea& Client() const { return *client_; }
-    /// What those controls see that lie on the form itself.
+    /// The surroundings of the controls that are directly on the form.
     const Surroundings& Inside() const { return *inside_; }
-    /// In the order of the file, each before those that lie in it.
+    /// In the order of the file: a container comes before its controls.
     const ClientArea::Controls& Controls() const { return controls_; }
-    /// By the name in code, "VMemo1(2)", without regard to case; null when there is none.
+    /// Finds a control by its name in code, such as "VMemo1(2)", ignoring case. Returns null if
+    /// there is none.
     LiveControl* Find(TextView name) const;
 
-    /// Gives the keyboard to the first control, as when a form is opened.
+    /// Moves the focus to the first control in tab order, as when a form is opened.
     void FocusFirst();
-    /// Writes into the document what the controls hold now, and nothing that is as it was.
+    /// Writes the changed properties of the controls into the document.
     void Save();
-    /// Hears of all that the controls raise from now on.
+    /// Sets the listener for all events that the controls raise from now on.
     void OnRaised(std::function<void(const RaisedEvent&)> listener);
 
  protected:

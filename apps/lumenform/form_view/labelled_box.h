@@ -5,7 +5,7 @@
 
 namespace lumenkit::form {
 
-/// Stands for a control of a class that is not known: its name and class in a dashed frame.
+/// Represents a control of an unknown class: its name and class in a dashed frame.
 class LabelledBox final : public QWidget {
  public:
     LabelledBox(QString name, QString className);

@@ -6,7 +6,7 @@
 
 namespace lumenkit::form {
 
-/// "{6B1A…}#7.1#0": how a form names the type library of the classes.
+/// Returns the reference with which a form names the type library of the classes: "{6B1A…}#7.1#0".
 std::string LibraryName(const ClassTable& classes);
 
 }  // namespace lumenkit::form

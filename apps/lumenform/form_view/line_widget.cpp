@@ -9,12 +9,12 @@ LineWidget::LineWidget(const Stroke& stroke, bool rises) : stroke_(stroke), rise
 }
 
 int LineWidget::Reach() const {
-    constexpr int roomToClick = 2;  // a level line has no height
+    constexpr int roomToClick = 2;  // room for the mouse: a horizontal line has no height
     return stroke_.width / 2 + roomToClick;
 }
 
 void LineWidget::paintEvent(QPaintEvent* /*event*/) {
-    const qreal middle = Reach() + 0.5;  // of the pixel in the corner
+    const qreal middle = Reach() + 0.5;  // centre of the pixel in the corner
     const QRectF box = QRectF(rect()).adjusted(middle, middle, 1 - middle, 1 - middle);
     QPainter painter(this);
     painter.setPen(stroke_.Pen());

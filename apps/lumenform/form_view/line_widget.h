@@ -6,13 +6,13 @@
 
 namespace lumenkit::form {
 
-/// A line from one corner to the opposite one.
+/// Draws a line from one corner of its box to the opposite one.
 class LineWidget final : public QWidget {
  public:
-    /// \param rises from left to right
+    /// \param rises whether the line rises from left to right
     LineWidget(const Stroke& stroke, bool rises);
 
-    /// How many pixels it goes beyond the box between its ends on each side.
+    /// The number of pixels by which the widget exceeds the box between the ends on each side.
     int Reach() const;
 
  protected:

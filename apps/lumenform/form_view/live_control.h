@@ -13,54 +13,55 @@
 
 namespace lumenkit::form {
 
-/// A block of the form together with the widget that shows it. The block stays the truth: what it
-/// says is kept as it is written until something else is to be saved. The widget is a child of the
-/// one that it lies on, and goes with the live control or before it.
+/// A block of the form with the widget that shows it. The block keeps its text until Save writes a
+/// changed value. The widget is a child of its container's widget and is destroyed with the live
+/// control or before it.
 class LiveControl {
  public:
     virtual ~LiveControl() = default;
     LiveControl(const LiveControl&) = delete;
     LiveControl& operator=(const LiveControl&) = delete;
 
-    /// One of our own controls where the block's class is one, a plain equivalent otherwise.
-    /// Throws FormError for what the block says and the control refuses.
+    /// Creates a control of this library if the block has one of its classes, and a plain
+    /// equivalent otherwise. Throws FormError if the control rejects a value of the block.
     static std::unique_ptr<LiveControl> Make(const Stage& stage, const Surroundings& around,
                                              forms::Block& block);
 
     forms::Block& Block() const { return reader_.Block(); }
-    /// As code calls it: "VMemo1", "optSize(2)".
+    /// The name in code: "VMemo1", "optSize(2)".
     const Text& Name() const { return name_; }
-    /// Its turn when Tab is pressed; nothing for what takes none.
+    /// The position in the tab order; empty for controls without a TabIndex.
     std::optional<std::int32_t> TabIndex() const { return tabIndex_; }
     bool TabStop() const { return tabStop_; }
 
     virtual QWidget& Widget() const = 0;
-    /// What those controls see that lie in it.
+    /// The surroundings of the controls in this one.
     virtual const Surroundings& Inside() const = 0;
-    /// One of our controls; null for an equivalent.
+    /// The widget of a control of this library; null for an equivalent.
     virtual qt::ControlWidget* Own() const { return nullptr; }
-    /// Whether others can be put into it.
+    /// Whether the control can contain other controls.
     virtual bool IsContainer() const { return false; }
-    /// Whether it lies behind all that are not so, as labels and pictures do.
+    /// Whether the control is in the back layer, like labels and pictures: all controls outside
+    /// that layer are in front of it.
     virtual bool IsInBack() const { return false; }
 
-    /// The units in which the form says where it lies.
+    /// The units in which the form saves the control's place.
     const Scale& Units() const { return scale_; }
-    /// In twips, from the upper left corner of what it lies in.
+    /// In twips, relative to the upper left corner of the container.
     virtual host::Placement Place() const = 0;
     /// Raises 380 for a negative width or height.
     virtual void Move(const host::Placement& place) = 0;
-    /// The application's palette is another.
+    /// Called after the palette of the application has changed.
     virtual void PaletteChanged() {}
 
-    /// Writes into the block what is no more as it was; see forms::BlockKeeper.
+    /// Writes changed values into the block. See forms::BlockKeeper.
     virtual void Save();
 
  protected:
     LiveControl(const Stage& stage, const Surroundings& around, forms::Block& block);
 
     const BlockReader& Reader() const { return reader_; }
-    /// Where the block has it, in twips; `otherwise` says how large it is if the block does not.
+    /// Returns the place in the block, in twips. `otherwise` replaces missing values.
     host::Placement SavedPlace(const host::Placement& otherwise) const;
 
  private:
@@ -71,7 +72,7 @@ class LiveControl {
     Text name_;
     std::optional<std::int32_t> tabIndex_;
     bool tabStop_;
-    std::optional<host::Placement> keptPlace_;  // that the block says
+    std::optional<host::Placement> keptPlace_;  // as in the block
 };
 
 }  // namespace lumenkit::form

@@ -1,4 +1,4 @@
-// Fonts and colours of forms on plain widgets.
+// Applies fonts and colours of forms to plain widgets.
 #pragma once
 
 #include <QWidget>
@@ -8,7 +8,8 @@
 
 namespace lumenkit::form {
 
-/// A widget's colours. One that is the usual for its kind is left to the palette, which also greys.
+/// The colours of a widget. A colour that is usual for the kind of widget comes from the palette,
+/// which also provides the disabled colours.
 struct Colors {
     Color fore = Color::ButtonText;
     Color back = Color::ButtonFace;
@@ -16,7 +17,7 @@ struct Colors {
     friend bool operator==(Colors, Colors) = default;
 };
 
-/// Shows the widget in these colours under the application's palette as it is now.
+/// Sets the colours of the widget for the present palette of the application.
 void ApplyColors(QWidget& widget, Colors colors, Colors usual);
 
 void ApplyFont(QWidget& widget, const qt::Font& font);

@@ -8,14 +8,14 @@
 
 namespace lumenkit::form {
 
-/// Whether the block is a menu or an entry of one.
+/// Returns whether the block is a menu or a menu entry.
 bool IsMenu(const forms::Block& block);
 
-/// The menus of a form as a bar; null where it has none that are seen.
+/// Creates a menu bar with the menus of a form. Returns null if no menu is visible.
 std::unique_ptr<QMenuBar> MakeMenuBar(const Stage& stage, const forms::Block& form);
 
-/// What a menu's key is called in Qt: "^N" is Ctrl+N, "+^{F12}" is Ctrl+Shift+F12. Empty for what
-/// is no key.
+/// Converts a menu shortcut to Qt's: "^N" is Ctrl+N, "+^{F12}" is Ctrl+Shift+F12. Returns an empty
+/// sequence for an unknown shortcut.
 QKeySequence KeysOf(TextView shortcut);
 
 }  // namespace lumenkit::form

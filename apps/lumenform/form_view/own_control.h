@@ -10,7 +10,7 @@
 
 namespace lumenkit::form {
 
-/// One of our controls on a form.
+/// A control of this library on a form.
 class OwnControl final : public LiveControl, private qt::ControlSite, private host::Ambient {
  public:
     OwnControl(const Stage& stage, const Surroundings& around, forms::Block& block,
@@ -37,7 +37,7 @@ class OwnControl final : public LiveControl, private qt::ControlSite, private ho
     void Raise(const EventTable& table, TextView event, std::span<Value> arguments);
 
     const Stage& stage_;
-    std::shared_ptr<qt::Font> font_;  // of what it lies in
+    std::shared_ptr<qt::Font> font_;  // of the container
     Color backColor_;
     qt::FormContainer container_;
     QPointer<qt::ControlWidget> widget_;

@@ -8,8 +8,8 @@
 
 namespace lumenkit::form {
 
-/// A control of somebody else's, as a plain widget that looks like it. Its block is left alone but
-/// for its place.
+/// A control of another library, shown as a plain widget that looks like it. Only its place is
+/// written to its block.
 class PlainControl final : public LiveControl {
  public:
     PlainControl(const Stage& stage, const Surroundings& around, forms::Block& block);

@@ -190,7 +190,7 @@ PlainWidget MakePictureBox(const BlockReader& reader, const PlainSink& /*raise*/
     auto inside = std::make_unique<QLabel>();
     inside->setAlignment(Qt::AlignLeft | Qt::AlignTop);
     inside->setPixmap(PictureIn(reader.Record(u"Picture")));
-    inside->setMinimumSize(1, 1);  // the picture is cut where the box ends
+    inside->setMinimumSize(1, 1);  // the box clips the picture
     auto* const layout = new QVBoxLayout(frame.get());
     layout->setContentsMargins(0, 0, 0, 0);
     PlainWidget made{std::move(frame), inside.get()};
@@ -268,7 +268,7 @@ constexpr std::array kinds = {
     PlainKind{.className = u"VB.VScrollBar", .make = MakeScrollBar<Qt::Vertical>},
 };
 constexpr PlainKind unknown = {.className = {}, .make = MakeBox};
-// A component that saves no size has nothing to show.
+// A component without a saved size is invisible at run time.
 constexpr PlainKind unseen = {
     .className = {}, .make = MakeBox, .place = iconPlace, .isSeen = false};
 

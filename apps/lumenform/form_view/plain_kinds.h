@@ -1,4 +1,4 @@
-// Which plain widget stands for which class of control.
+// The plain widget for each class of control.
 #pragma once
 
 #include <QWidget>
@@ -15,32 +15,33 @@ namespace lumenkit::form {
 
 struct PlainWidget {
     std::unique_ptr<QWidget> widget;
-    QWidget* inside = nullptr;  ///< what others lie on; null: the widget
-    int reach = 0;              ///< pixels that it goes beyond the control's place on each side
+    QWidget* inside = nullptr;  ///< parent of contained controls; null: the widget
+    int reach = 0;              ///< pixels by which it exceeds the control's place on each side
 };
 
-/// Tells that the person did something: the event's name.
+/// Reports an action of the user, with the name of the event.
 using PlainSink = std::function<void(TextView event)>;
 
-/// What Tab has to do with the controls of a class.
+/// The role of a class's controls in the tab order.
 enum class TabRole : std::uint8_t {
     None,   ///< they have no TabIndex
-    Index,  ///< they have one, and Tab passes over them
+    Index,  ///< they have a TabIndex, and Tab skips them
     Stop,
 };
 
 struct PlainKind {
-    TextView className;  ///< empty: any other
+    TextView className;  ///< empty: any other class
     PlainWidget (*make)(const BlockReader& reader, const PlainSink& raise);
     Colors usual = {};
-    host::Placement place = {.width = 1215, .height = 495};  ///< where the block has none
+    host::Placement place = {.width = 1215, .height = 495};  ///< default for the block's place
     TabRole tab = TabRole::Stop;
     bool isInBack = false;
     bool isContainer = false;
-    bool isSeen = true;  ///< whether the form's users see it
+    bool isSeen = true;  ///< whether it is visible at run time
 };
 
-/// Never fails: what is not known is a box with its name and class.
+/// Returns the kind of a block's class. An unknown class is a box with the control's name and
+/// class.
 const PlainKind& PlainKindOf(const forms::Block& block);
 
 }  // namespace lumenkit::form

@@ -35,7 +35,7 @@ Stretch Between(const BlockReader& reader, Ends names, Stretch otherwise) {
 
 void StoreEnds(const BlockReader& reader, Ends names, Stretch former, Stretch now) {
     if (former == now) {
-        return;  // adding up could make another number of the same place
+        return;  // the sum could round to a different number for the same place
     }
     const float first = reader.Number(names.first, former.start);
     const float second = reader.Number(names.second, former.start + former.length);

@@ -5,18 +5,18 @@
 
 namespace lumenkit::form {
 
-/// Whether a control is placed by its two ends, X1 to Y2, as lines are; others are by left, top,
-/// width and height.
+/// Returns whether a control saves its two ends, X1 to Y2, as lines do. Other controls save left,
+/// top, width and height.
 bool HasEnds(const forms::Block& block);
 
-/// Whether the line of a control with ends goes up from left to right.
+/// Returns whether the line of a control with ends rises from left to right.
 bool Rises(const BlockReader& reader);
 
-/// Where the block has its control, in the container's units; `otherwise` stands in for what it
-/// does not say. A control with ends has the box between them.
+/// Returns the place in the block, in the container's units. `otherwise` replaces missing values.
+/// The place of a control with ends is the box between them.
 host::Placement SavedPlace(const BlockReader& reader, const host::Placement& otherwise);
 
-/// Writes into the block what is another now. Ends stay in the corners that they are in.
+/// Writes the changed values into the block. Ends keep their corners of the box.
 void StorePlace(const BlockReader& reader, const host::Placement& former,
                 const host::Placement& now);
 

@@ -17,7 +17,7 @@ bool IsEqualSided(ShapeWidget::Form form) {
     return form == Form::Square || form == Form::Circle || form == Form::RoundedSquare;
 }
 
-// The largest square in the middle.
+// Returns the largest square in the middle of `room`.
 QRectF SquareIn(const QRectF& room) {
     const qreal side = std::min(room.width(), room.height());
     QRectF square(0, 0, side, side);
@@ -48,7 +48,7 @@ ShapeWidget::ShapeWidget(Form form, const Stroke& stroke, const Filling& filling
     setAttribute(Qt::WA_TransparentForMouseEvents);
 }
 
-// What the border follows.
+// The line that the border follows.
 QRectF ShapeWidget::Outline() const {
     const qreal inset = stroke_.style == Stroke::InsideSolid ? stroke_.width / 2.0 : Reach() + 0.5;
     const QRectF room = QRectF(rect()).adjusted(inset, inset, -inset, -inset);

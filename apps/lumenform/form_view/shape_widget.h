@@ -8,9 +8,9 @@
 
 namespace lumenkit::form {
 
-/// How the inside of a shape is filled, as BackColor, BackStyle, FillColor and FillStyle say.
+/// The filling of a shape, from BackColor, BackStyle, FillColor and FillStyle.
 struct Filling {
-    std::optional<Color> ground;  ///< behind hatches; none: what lies behind is seen
+    std::optional<Color> ground;  ///< behind hatches; empty: transparent
     Color color = Rgb(0, 0, 0);
     Qt::BrushStyle style = Qt::NoBrush;
 
@@ -31,7 +31,7 @@ class ShapeWidget final : public QWidget {
 
     ShapeWidget(Form form, const Stroke& stroke, const Filling& filling);
 
-    /// How many pixels the border goes beyond the shape on each side.
+    /// The number of pixels by which the border exceeds the shape on each side.
     int Reach() const { return stroke_.Reach(); }
 
  protected:

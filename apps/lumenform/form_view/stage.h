@@ -17,28 +17,28 @@
 namespace lumenkit::form {
 
 enum class Mode {
-    Run,     ///< as the form's users see it
-    Design,  ///< neither mouse nor keyboard reaches the controls; hidden ones are seen
+    Run,     ///< as the users of the form see it
+    Design,  ///< controls get no mouse and keyboard input; hidden ones are visible
 };
 
-/// Something that a control tells the program behind the form.
+/// An event that a control raises.
 struct RaisedEvent {
     const forms::Block& block;
-    TextView control;  ///< as code calls it: "VMemo1", "optSize(2)"
+    TextView control;  ///< the name in code: "VMemo1", "optSize(2)"
     TextView name;
     std::span<const Parameter> parameters;
-    std::span<Value> arguments;  ///< as many as there are parameters; may be written to
+    std::span<Value> arguments;  ///< one per parameter; may be written to
 };
 
-/// What all controls of one form share. It outlives them.
+/// The data that all controls of a form share. It must outlive them.
 struct Stage {
     const qt::Context& context;
     forms::Document& document;
     Mode mode = Mode::Run;
-    std::function<void(const RaisedEvent&)> raise;  ///< empty: nobody listens
+    std::function<void(const RaisedEvent&)> raise;  ///< empty: no listener
 };
 
-/// A form or control as those see it that lie in it.
+/// The properties that a form or control passes on to the controls it contains.
 struct Surroundings {
     QWidget& widget;
     Color backColor;

@@ -7,7 +7,7 @@ namespace lumenkit::form {
 
 namespace {
 
-// The record's length, "lt", two NULs and the picture's own length.
+// The header: the length of the record, "lt", two NULs and the length of the picture.
 constexpr std::size_t headSize = 12;
 constexpr std::string_view mark("lt\0\0", 4);
 

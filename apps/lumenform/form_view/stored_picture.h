@@ -5,8 +5,9 @@
 
 namespace lumenkit::form {
 
-/// The picture in a companion's record: BMP, GIF, JPEG, ICO and what else Qt reads. Null for any
-/// other record, for one that is damaged and for a picture of more than 64 million pixels.
+/// Returns the picture in a record of a companion file: BMP, GIF, JPEG, ICO or another format that
+/// Qt reads. Null for any other record, for a damaged picture and for one of more than 64 million
+/// pixels.
 QPixmap PictureIn(std::string_view record);
 
 }  // namespace lumenkit::form

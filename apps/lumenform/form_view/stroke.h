@@ -8,7 +8,7 @@
 
 namespace lumenkit::form {
 
-/// How lines and the borders of shapes are drawn, as BorderColor, BorderStyle and BorderWidth say.
+/// The pen of lines and of the borders of shapes, from BorderColor, BorderStyle and BorderWidth.
 struct Stroke {
     enum Style : std::int32_t { Transparent, Solid, Dash, Dot, DashDot, DashDotDot, InsideSolid };
 
@@ -16,12 +16,12 @@ struct Stroke {
     Style style = Solid;
     int width = 1;  ///< in pixels
 
-    /// Styles that are not known are solid.
+    /// Reads the stroke from a block. Unknown styles are solid.
     static Stroke Of(const BlockReader& reader);
 
-    /// Only what is a pixel wide is dashed.
+    /// The pen for painting. Only lines of one pixel are dashed.
     QPen Pen() const;
-    /// How many pixels it goes beyond the line that it follows.
+    /// The number of pixels by which the stroke exceeds the line that it follows.
     int Reach() const;
 };
 

@@ -8,10 +8,11 @@
 
 namespace lumenkit::form {
 
-/// The items of a list box or combo box, from the companion's record behind its property List: the
-/// number of items and a reserved number, then each item behind its length in bytes; all numbers
-/// have two bytes, the lower first. A record that is cut gives the items that are whole.
-/// The texts are in `codePage`; 1252 stands in for UTF-8, which companions are never in.
+/// Returns the items of a list box or combo box from the record that its property List refers to.
+/// The record holds the number of items, a reserved number, and for each item its length in bytes
+/// and its text. All numbers have two bytes, the lower byte first. From a truncated record, returns
+/// the complete items. The texts are in `codePage`. If that is UTF-8, they are read as 1252,
+/// because companion files are never in UTF-8.
 std::vector<Text> ItemsOf(std::string_view record, int codePage);
 
 }  // namespace lumenkit::form

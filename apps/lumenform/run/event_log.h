@@ -6,7 +6,8 @@
 
 namespace lumenkit::form {
 
-/// What the controls of a form raise, a line each: control, event, arguments. The last thousand.
+/// A list of the last thousand events that the controls of a form raised, one per line: control,
+/// event and arguments.
 class EventLog final : public QTreeWidget {
  public:
     static constexpr int longest = 1000;

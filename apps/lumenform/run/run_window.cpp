@@ -12,7 +12,7 @@ namespace lumenkit::form {
 
 namespace {
 
-// Scrolls only where the screen is too small for the form.
+// Scrolls the form only if the screen is too small for it.
 class FormArea final : public QScrollArea {
  public:
     explicit FormArea(QWidget* form) {
@@ -44,7 +44,7 @@ void RunWindow::AddLog() {
     AddMenus(*dock);
 }
 
-// The form's own menus lie on the form; these are the program's.
+// The menus of the program. The form shows its own menus itself.
 void RunWindow::AddMenus(QDockWidget& dock) {
     QMenu* const file = menuBar()->addMenu(tr("&File"));
     QAction* const close = file->addAction(tr("&Close"), this, &QWidget::close);

@@ -9,7 +9,7 @@
 
 namespace lumenkit::form {
 
-/// A form in run mode at its size, and under it the log of what its controls raise.
+/// Shows a form in run mode at its size, with the log of its events below.
 class RunWindow final : public QMainWindow {
  public:
     /// Throws FormError as FormView does. Context and document must outlive the window.

@@ -35,7 +35,7 @@ TextView NearestCommand(TextView written) {
     return Nearest(written, names);
 }
 
-// The value for a switch that a word was probably meant to be.
+// The switch value that `written` was probably meant to be.
 TextView NearestSwitch(TextView written) {
     using Meaning = std::pair<TextView, TextView>;
     constexpr std::array meanings = {
@@ -122,7 +122,7 @@ class CommandChecker {
         }
     }
 
-    // What stands between two bars by mistake: |b|, |b=1|, | CR |.
+    // The probable intention of text between two bars that is no command: |b|, |b=1|, | CR |.
     std::string MeantBetweenBars() const {
         constexpr std::array<TextView, 2> marks = {u"CR", u"Q"};
         if (const TextView mark = Nearest(command_.text, marks); !mark.empty()) {
@@ -194,7 +194,7 @@ class CommandChecker {
         }
     }
 
-    // One that is left out counts as 0 on purpose.
+    // A missing number is a valid 0.
     void CheckNumber(TextView number) {
         if (!Trim(number).empty() && IsNoNumber(number)) {
             Add(rules::unconvertedValue, Quote(number) + " is no number and counts as 0");

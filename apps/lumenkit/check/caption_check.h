@@ -5,7 +5,7 @@
 
 namespace lumenkit::check {
 
-/// What is wrong with a label's caption, from front to back.
+/// Returns the mistakes in a label's caption, in the order of the text.
 Remarks CheckCaption(TextView caption);
 
 }  // namespace lumenkit::check

@@ -16,7 +16,7 @@ namespace lumenkit::check {
 
 namespace {
 
-// Takes down what the compiler would show to the person at the screen.
+// Records the errors that the compiler would show to the user.
 class CompilerErrors final : private host::Application,
                              private host::Interaction,
                              public ModuleErrors {
@@ -27,14 +27,14 @@ class CompilerErrors final : private host::Application,
 
     void TraceProc(TextView /*moduleFileName*/, TextView procedureName,
                    const Object* /*formObject*/) override {
-        if (procedureName == u"CompileCommand") {  // entered or left
+        if (procedureName == u"CompileCommand") {  // called on entry and on exit
             inCommand_ = !inCommand_;
             commandCount_ += inCommand_ ? 1 : 0;
         }
     }
 
     bool CaptionFailed() const { return captionFailed_; }
-    /// Commands count from 0.
+    /// Commands are numbered from 0.
     bool CommandFailed(std::size_t command) const { return failedCommands_.contains(command); }
 
  private:
@@ -71,7 +71,8 @@ void ReadLine(CaptionReader& reader, std::vector<WrittenCommand>& commands) {
     }
 }
 
-// Whether there is a further line; one that begins where no position can be is none.
+// Moves to the next line. Returns false at the end of the caption and when the next line begins
+// beyond the largest position.
 bool NextLine(CaptionReader& reader) {
     try {
         return reader.NextLine();

@@ -1,5 +1,4 @@
-// A caption's commands with the places where they are written, as the label's own compiler reads
-// and understands them.
+// The commands of a caption and their places, as the label's compiler reads and understands them.
 #pragma once
 
 #include <cstddef>
@@ -10,19 +9,19 @@
 namespace lumenkit::check {
 
 struct WrittenCommand {
-    std::size_t offset = 0;  ///< of its opening bar, in UTF-16 units from 0
+    std::size_t offset = 0;  ///< of the opening bar, in UTF-16 units from 0
     Text text;               ///< as written, without bars; "|Q|" is a quotation mark
     bool closed = false;     ///< whether a bar closes it
-    bool kept = false;       ///< false where the compiler reported an overflow in it
-    Text parameter;          ///< as the compiler stored it; empty where the command is not kept
+    bool kept = false;       ///< false if the compiler reported an overflow in it
+    Text parameter;          ///< as the compiler stored it; empty if not `kept`
 };
 
 struct CaptionOutline {
-    std::vector<WrittenCommand> commands;  ///< of the lines that compile, in order
-    std::size_t lines = 0;                 ///< how many lines compile
-    bool overflows = false;                ///< whether the compiler gave up at a position
-    bool goesOn = false;                   ///< whether there are lines that the compiler ignores
-    std::size_t end = 0;                   ///< where the lines that compile end
+    std::vector<WrittenCommand> commands;  ///< those in the compiled lines, in order
+    std::size_t lines = 0;                 ///< number of compiled lines
+    bool overflows = false;                ///< whether the compiler stopped at a position overflow
+    bool goesOn = false;                   ///< whether lines follow that the compiler ignores
+    std::size_t end = 0;                   ///< offset of the end of the compiled lines
 };
 
 CaptionOutline OutlineOf(TextView caption);

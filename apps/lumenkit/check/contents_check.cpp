@@ -14,7 +14,7 @@ namespace lumenkit::check {
 
 namespace {
 
-// A list has one item before its contents are read, and keeps it where they cannot be.
+// A new list has one item. It keeps that item if its contents cannot be read.
 constexpr std::int16_t itemCountAtFirst = 1;
 
 class ContentsChecker {
@@ -68,7 +68,7 @@ class ContentsChecker {
     TextView contents_;
     ContentsCheck result_;
     Int16 count_ = 0;
-    std::size_t end_ = 0;  // of the item looked at last
+    std::size_t end_ = 0;  // of the last item checked
     std::map<Text, std::int16_t> firstOf_;
 };
 

@@ -9,13 +9,13 @@ namespace lumenkit::check {
 
 struct ContentsCheck {
     Remarks remarks;
-    std::int16_t itemCount = 0;  ///< how many items an option list has once it is loaded
+    std::int16_t itemCount = 0;  ///< number of items of the option list after loading
 };
 
-/// What is wrong with an option list's contents, from front to back.
+/// Checks the contents of an option list. The remarks are in the order of the text.
 ContentsCheck CheckContents(TextView contents);
 
-/// What is wrong with a saved selection, of a list of so many items; at offset 0.
+/// Checks a saved ListIndex of a list with `itemCount` items. The remarks have offset 0.
 Remarks CheckListIndex(std::int16_t listIndex, std::int16_t itemCount);
 
 }  // namespace lumenkit::check

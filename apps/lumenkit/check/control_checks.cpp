@@ -12,7 +12,7 @@ namespace lumenkit::check {
 
 namespace {
 
-// As the memo puts limits right before it uses them.
+// The memo uses a negative limit as 0.
 std::int16_t Limit(const Value& value) {
     return std::max<std::int16_t>(ToInteger(value), 0);
 }

@@ -1,4 +1,4 @@
-// The checks of what a form saves, one for each kind of control and one for all of them.
+// The checks of the saved properties of a control: one for each class and one for all classes.
 #pragma once
 
 #include "apps/lumenkit/check/saved_control.h"
@@ -9,7 +9,7 @@ void CheckLabel(SavedControl& control);
 void CheckMemo(SavedControl& control);
 void CheckOptionList(SavedControl& control);
 
-/// Names that are saved but never read, whichever the control.
+/// Reports saved names that the control never reads.
 void CheckNames(SavedControl& control);
 
 }  // namespace lumenkit::check

@@ -9,11 +9,10 @@
 
 namespace lumenkit::check {
 
-/// What is wrong with the controls of a form that are of a class in `classes`, in the order of the
-/// file.
+/// Checks the controls of a form whose class is in `classes`, in the order of the file.
 Findings CheckForm(const forms::Document& document, const ClassTable& classes);
 
-/// What is wrong with a caption that is the text of the file `name`.
+/// Checks a caption that is the whole text of the file `name`.
 Findings CheckCaptionFile(const std::string& name, TextView caption);
 
 }  // namespace lumenkit::check

@@ -1,4 +1,4 @@
-// What a check found, and where.
+// The results of checks, with their places.
 #pragma once
 
 #include <cstddef>
@@ -11,27 +11,27 @@
 
 namespace lumenkit::check {
 
-/// Something to say about a text. All texts are UTF-8.
+/// A remark about a text. All strings are UTF-8.
 struct Remark {
-    std::string_view rule;   ///< a name of Rules()
+    std::string_view rule;   ///< the name of one of Rules()
     std::size_t offset = 0;  ///< in the text, UTF-16 units from 0
     std::string message;
-    std::string suggestion;  ///< what was probably meant, empty where nobody knows
+    std::string suggestion;  ///< the probable intention; empty if unknown
 };
 
 using Remarks = std::vector<Remark>;
 
-/// Something to say about a file.
+/// A remark about a place in a file.
 struct Finding {
-    std::string_view rule;  ///< a name of Rules()
-    std::string file;       ///< as it was named
-    forms::Position place;  ///< in the file
-    std::string control;    ///< "VLabel1", "VLabel1(2)"; empty for a caption that is a file
-    std::string property;   ///< "Caption"
-    std::optional<std::size_t> offset;  ///< in the property's text, where the finding lies in one
+    std::string_view rule;              ///< the name of one of Rules()
+    std::string file;                   ///< as named by the caller
+    forms::Position place;              ///< in the file
+    std::string control;                ///< "VLabel1", "VLabel1(2)"; empty for a caption file
+    std::string property;               ///< "Caption"
+    std::optional<std::size_t> offset;  ///< in the text of the property, if it is about a text
     std::string message;
     std::string suggestion;
-    bool isElsewhere = false;  ///< whether the text does not stand at the place itself
+    bool isElsewhere = false;  ///< whether the text is not written at `place`
 
     friend bool operator==(const Finding&, const Finding&) = default;
 };

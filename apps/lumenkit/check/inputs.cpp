@@ -23,14 +23,15 @@ bool IsOfKind(const fs::path& file, InputKind kind) {
                : std::find(forms.begin(), forms.end(), extension) != forms.end();
 }
 
-// A link that leads nowhere is one too: that it cannot be read is worth knowing.
+// A dangling link counts as a file, so that the check reports that it cannot be read.
 bool IsFile(const fs::directory_entry& entry) {
     std::error_code unknown;
     const fs::file_status status = entry.status(unknown);
     return fs::is_regular_file(status) || status.type() == fs::file_type::not_found;
 }
 
-// A folder that cannot be read is an error, and the ones beside it go on.
+// Adds the files of a folder and its subfolders. An unreadable folder is recorded as an error, and
+// the search continues with the other folders.
 void AddFolder(const fs::path& folder, InputKind kind, Inputs& inputs) {
     std::vector<fs::directory_entry> entries;
     std::error_code error;

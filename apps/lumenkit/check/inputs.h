@@ -1,4 +1,4 @@
-// Which files a check is asked to look at.
+// Finds the files to check.
 #pragma once
 
 #include <string>
@@ -7,8 +7,8 @@
 namespace lumenkit::check {
 
 enum class InputKind {
-    Forms,     ///< in a folder, *.frm, *.ctl, *.pag and *.dob
-    Captions,  ///< in a folder, *.txt
+    Forms,     ///< *.frm, *.ctl, *.pag and *.dob of a folder
+    Captions,  ///< *.txt of a folder
 };
 
 struct UnreadableFolder {
@@ -21,9 +21,9 @@ struct Inputs {
     std::vector<UnreadableFolder> errors;
 };
 
-/// The files among `paths` as they are, and those of the kind in the folders among them, at
-/// whatever depth and in the order of their names. Links to folders are not followed, and what is
-/// no file (pipes, devices) is left out there.
+/// Returns the paths in `paths` that are not folders, and the files of `kind` in the folders and
+/// their subfolders, sorted by name within a folder. Does not follow links to folders inside a
+/// folder, and skips pipes and devices there.
 Inputs FindInputs(const std::vector<std::string>& paths, InputKind kind);
 
 }  // namespace lumenkit::check

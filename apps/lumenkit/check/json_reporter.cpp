@@ -49,7 +49,7 @@ void JsonReporter::Report(const FileError& error) {
 
 void JsonReporter::Finish(std::size_t files) {
     const Json report = {{"files", files}, {"findings", findings_}, {"errors", errors_}};
-    // File names need not be UTF-8.
+    // A file name may contain bytes that are not UTF-8: they are replaced.
     output_ << report.dump(-1, ' ', false, Json::error_handler_t::replace) << '\n';
 }
 

@@ -16,11 +16,11 @@ bool Fits(TextView text, TextLimits limits) {
 
 struct Line {
     std::size_t number = 0;  // from 1
-    std::size_t begin = 0;   // offset
+    std::size_t begin = 0;   // offset in UTF-16 units
     std::size_t length = 0;
 };
 
-// The first line that `stop` wants; the last one where it wants none.
+// Returns the first line for which `stop` is true, or the last line.
 template <typename Stop>
 Line FindLine(TextView text, Stop stop) {
     LineBreakScanner scanner(text);
@@ -36,8 +36,8 @@ Line FindLine(TextView text, Stop stop) {
     }
 }
 
-// What becomes of a text that loading leaves as it is. An edit that is refused puts the box back to
-// what was accepted last, and nothing was.
+// Describes the effect of the first edit on a text over its limits, which loading does not cut. A
+// refused edit restores the last accepted text, and at that moment there is none.
 std::string Outlook(TextView text, TextLimits limits) {
     const bool refuses = Restrict(text, limits, RestrictionMode::Apply).refused;
     return refuses

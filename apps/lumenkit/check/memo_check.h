@@ -6,8 +6,8 @@
 
 namespace lumenkit::check {
 
-/// Where a memo's saved text is beyond its limits: the first line that is too long, and the first
-/// line that is one too many.
+/// Checks a memo's saved text against its limits. Reports the first line that is too long and the
+/// first line over the maximum number.
 Remarks CheckMemoText(TextView text, TextLimits limits);
 
 }  // namespace lumenkit::check

@@ -1,4 +1,4 @@
-// Names of properties that are saved for a control but that nobody reads.
+// Reports saved names of a control's properties that are never read.
 #include <algorithm>
 #include <array>
 #include <memory>
@@ -20,7 +20,7 @@ namespace lumenkit::check {
 
 namespace {
 
-// What form designers keep in a control's block for themselves.
+// The names that form designers write into the block of a control for their own use.
 constexpr std::array<TextView, 31> containersNames = {
     u"Align",        u"Cancel",        u"CausesValidation",
     u"DataBindings", u"DataChanged",   u"DataField",

@@ -6,19 +6,19 @@
 
 namespace lumenkit::check {
 
-/// How far a long run has got, as one line of a terminal that is drawn over and over.
+/// Shows the progress of a long run as one line of a terminal, which is drawn over and over.
 class ProgressBar {
  public:
-    /// Nothing is ever drawn where not `shown`. The stream must outlive the bar.
+    /// Draws nothing unless `shown`. The stream must outlive the bar.
     ProgressBar(std::ostream& terminal, std::size_t total, bool shown)
         : terminal_(terminal), total_(total), shown_(shown) {}
     ProgressBar(const ProgressBar&) = delete;
     ProgressBar& operator=(const ProgressBar&) = delete;
     ~ProgressBar() { Hide(); }
 
-    /// Draws the bar where it differs from the one that is seen; `done` is at most the total.
+    /// Draws the bar if it differs from the visible one. `done` is at most the total.
     void Show(std::size_t done);
-    /// Takes it from the terminal, so that other lines can be written.
+    /// Erases the bar, so that other lines can be written.
     void Hide();
 
  private:
@@ -27,7 +27,7 @@ class ProgressBar {
     std::ostream& terminal_;
     std::size_t total_;
     bool shown_;
-    std::string seen_;  // empty while it is hidden
+    std::string seen_;  // empty while the bar is hidden
 };
 
 }  // namespace lumenkit::check

@@ -15,7 +15,7 @@ bool IsBetween(char16_t unit, char16_t first, char16_t last) {
     return unit >= first && unit <= last;
 }
 
-// Control characters, line separators and what turns the direction of writing.
+// Whether the unit is a control character, a line separator or a mark of the writing direction.
 bool IsUnseen(char16_t unit) {
     return unit < blank || IsBetween(unit, u'\x7F', u'\x9F') || unit == u'\u061C' ||
            IsBetween(unit, u'\u200B', u'\u200F') || IsBetween(unit, u'\u2028', u'\u202E') ||
@@ -46,7 +46,7 @@ std::string Escaped(TextView text) {
     return image;
 }
 
-// Byte by byte, as long as it takes to find the next well-formed part.
+// Replaces each malformed byte by U+FFFD and continues after it.
 Text Decode(std::string_view bytes) {
     Text text;
     while (!bytes.empty()) {

@@ -1,4 +1,4 @@
-// Texts from files as messages show them: nothing in them can command a terminal.
+// Prepares texts from files for messages, so that nothing in them can control a terminal.
 #pragma once
 
 #include <string>
@@ -8,11 +8,12 @@
 
 namespace lumenkit::check {
 
-/// In quotation marks, cut behind 40 units; what cannot be seen or turns the writing direction is
-/// written as \uXXXX.
+/// Returns the text in quotation marks, cut after 40 UTF-16 units. Invisible characters and marks
+/// of the writing direction become \uXXXX.
 std::string Quote(TextView text);
 
-/// UTF-8 with the same replaced, neither quoted nor cut. What is not UTF-8 becomes U+FFFD.
+/// Returns the whole UTF-8 text with the same replacements, without quotation marks. Malformed
+/// bytes become U+FFFD.
 std::string Printable(std::string_view text);
 
 }  // namespace lumenkit::check

@@ -1,4 +1,4 @@
-// How findings reach the person or the program that asked for them.
+// Writes findings for a person or a program.
 #pragma once
 
 #include <cstddef>
@@ -14,9 +14,9 @@ namespace lumenkit::check {
 /// A file that could not be checked.
 struct FileError {
     std::string file;
-    forms::Position place;    ///< line 0 where no place is known
+    forms::Position place;    ///< line 0 if unknown
     std::string description;  ///< without the place
-    std::string text;         ///< all in one: "file:line:column: description"
+    std::string text;         ///< complete: "file:line:column: description"
 };
 
 class Reporter {
@@ -25,22 +25,22 @@ class Reporter {
 
     virtual void Report(const Findings& findings) = 0;
     virtual void Report(const FileError& error) = 0;
-    /// At the end; `files` is how many could be checked.
+    /// Called at the end. `files` is the number of checked files.
     virtual void Finish(std::size_t files) = 0;
 };
 
-/// Which of its streams a reporter may colour.
+/// The streams that a reporter may colour.
 struct Colors {
     bool output = false;
     bool errors = false;
 };
 
-/// One line a finding, as it is found, and a summary.
+/// Writes one line per finding, as it arrives, and a summary.
 ///
 ///     order.frm:9:32: VLabel1.Caption: unknown command "bld"; did you mean "b"? [unknown-command]
 class TextReporter final : public Reporter {
  public:
-    /// Errors have a stream of their own. Both must outlive the reporter.
+    /// Errors go to a separate stream. Both streams must outlive the reporter.
     TextReporter(std::ostream& output, std::ostream& errors, Colors colors)
         : output_(output), errors_(errors), colors_(colors) {}
 
@@ -58,7 +58,7 @@ class TextReporter final : public Reporter {
     std::size_t errorCount_ = 0;
 };
 
-/// One JSON object, in one line, at the end:
+/// Writes one JSON object in one line at the end:
 /// {"files":N,"findings":[...],"errors":[...]}
 class JsonReporter final : public Reporter {
  public:

@@ -1,4 +1,4 @@
-// What the checks look for. The names are what people filter by: they stay.
+// The rules that the checks apply. People filter by the names, so they do not change.
 #pragma once
 
 #include <span>
@@ -39,7 +39,7 @@ inline constexpr Rule unreadableValue{"unreadable-value",
 
 }  // namespace rules
 
-/// Every rule there is.
+/// All rules.
 std::span<const Rule> Rules();
 
 }  // namespace lumenkit::check

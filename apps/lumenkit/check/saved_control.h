@@ -1,4 +1,4 @@
-// One control of a form as the checks look at it.
+// One control of a form as the checks see it.
 #pragma once
 
 #include <optional>
@@ -16,8 +16,8 @@
 
 namespace lumenkit::check {
 
-/// Reads what the form saves for the control and turns remarks about it into findings with their
-/// places. Whatever it is made from must outlive it.
+/// Reads the saved properties of a control and turns remarks about them into findings with places.
+/// The constructor's arguments must outlive this object.
 class SavedControl {
  public:
     /// `type` is a control of the library.
@@ -27,8 +27,8 @@ class SavedControl {
     const forms::Block& Block() const { return block_; }
     const ClassDescriptor& Type() const { return type_; }
 
-    /// The saved value or the control's own default, as `convert` makes it. Where it does not
-    /// convert there is a finding, and nothing is given.
+    /// Returns the saved value, or the control's default, converted by `convert`. If the conversion
+    /// fails, adds a finding and returns nothing.
     template <typename Convert>
     auto Read(TextView name, Convert convert)
         -> std::optional<decltype(convert(std::declval<const Value&>()))> {
@@ -40,11 +40,11 @@ class SavedControl {
         }
     }
 
-    /// Remarks about the text of a property. There are none about one that is not saved.
+    /// Adds remarks about the text of a property. Does nothing if the property is not saved.
     void Add(TextView property, TextView text, const Remarks& remarks);
-    /// Remarks about the property as a whole.
+    /// Adds remarks about a property as a whole. Does nothing if the property is not saved.
     void AddWhole(TextView property, const Remarks& remarks);
-    /// A remark about a name that stands at `place`.
+    /// Adds a remark about the name at `place`.
     void AddAt(TextView property, forms::Position place, const Remark& remark);
 
  private:

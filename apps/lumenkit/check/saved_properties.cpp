@@ -12,7 +12,7 @@ namespace lumenkit::check {
 
 namespace {
 
-// An empty bag that takes down what it is asked for.
+// An empty bag that records the requested names.
 class AskedBag final : public host::PropertyBag {
  public:
     Value ReadProperty(TextView name, const Value& defaultValue) override {

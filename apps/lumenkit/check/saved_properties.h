@@ -1,4 +1,5 @@
-// What each control reads when it is loaded and writes when it is saved, learnt from the control.
+// The properties that each control reads when it is loaded and writes when it is saved, as reported
+// by the control.
 #pragma once
 
 #include <vector>
@@ -11,19 +12,19 @@ namespace lumenkit::check {
 
 struct SavedProperty {
     Text name;
-    Value defaultValue;  ///< what counts where nothing is saved
+    Value defaultValue;  ///< used if nothing is saved
 };
 
-/// Each in the order in which the control asks for them.
+/// Both lists are in the order of the control's calls.
 struct SavedProperties {
     std::vector<SavedProperty> read;
     std::vector<SavedProperty> written;
 };
 
-/// Valid for the life of the program.
+/// The reference stays valid until the program ends.
 const SavedProperties& PropertiesOf(const ClassDescriptor& type);
 
-/// The one with this name, without regard to case; null when there is none.
+/// Finds a property by name, ignoring case. Returns null if there is none.
 const SavedProperty* Find(const std::vector<SavedProperty>& properties, TextView name);
 
 }  // namespace lumenkit::check

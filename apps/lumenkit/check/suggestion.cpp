@@ -14,8 +14,8 @@ std::size_t Forgiven(TextView word) {
     return word.size() <= 2 ? 0 : word.size() <= 5 ? 1 : 2;
 }
 
-// How many slips lie between two words in lower case. Three rows of the usual table: a swap of
-// neighbours looks two rows back.
+// The number of slips between two lower-case words. Keeps three rows of the usual table, because a
+// swap of neighbours refers to the row before the previous one.
 std::size_t Slips(TextView written, TextView meant) {
     std::vector<std::size_t> twoBefore;
     std::vector<std::size_t> before(meant.size() + 1);

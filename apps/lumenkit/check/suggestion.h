@@ -6,10 +6,11 @@
 
 namespace lumenkit::check {
 
-/// The word that `written` was probably meant to be, without regard to case and to blanks around
-/// it: the same one, or the nearest by letters left out, put in, replaced or swapped with their
-/// neighbour. Of words up to 2 units none, up to 5 one, of longer ones two such slips are forgiven.
-/// Empty where no word is near. `written` and the words are looked at in full only up to 40 units.
+/// Returns the word that `written` was probably meant to be, ignoring case and surrounding blanks:
+/// the same word, or the nearest one. A slip is a missing, extra or wrong letter or a swap of
+/// neighbours. Words of up to 2 units allow no slip, up to 5 units one, longer words two. Returns
+/// an empty text if no word is near or `written` is longer than 40 units. Ignores words of more
+/// than 40 units.
 TextView Nearest(TextView written, std::span<const TextView> words);
 
 }  // namespace lumenkit::check

@@ -8,15 +8,15 @@
 
 namespace lumenkit::check {
 
-/// Where the units of a text stand in the file that it comes from.
+/// Maps the units of a text to places in the file that contains it.
 class TextPlaces {
  public:
-    /// Of a file's whole text.
+    /// For the whole text of a file.
     static TextPlaces InFile(TextView text);
-    /// Of a text that stands at `value` in a form, between quotation marks and with its own
+    /// For a text in quotation marks at `value` in a form, where quotation marks in the text are
     /// doubled.
     static TextPlaces Quoted(TextView text, forms::Position value);
-    /// Of a text that does not stand in the form itself: all of it is at `value`.
+    /// For a text that is not in the form file itself: all units are at `value`.
     static TextPlaces Elsewhere(forms::Position value);
 
     /// `offset` counts UTF-16 units from 0.

@@ -1,7 +1,5 @@
 #include "apps/lumenkit/drive/json.h"
 
-#include <array>
-#include <charconv>
 #include <cmath>
 #include <concepts>
 #include <cstdint>
@@ -11,25 +9,22 @@
 #include <variant>
 
 #include "frame/host/font.h"
+#include "frame/numbers.h"
 #include "frame/utf8.h"
 
 namespace lumenkit::cli {
 
 namespace {
 
-// As a double with the same decimal digits: 8.4 rather than 8.39999961853.
+// Returns the double with the same decimal digits: 8.4 and not 8.39999961853.
 template <std::floating_point Number>
 double Shortest(Number number) {
-    std::array<char, 32> image{};
-    const auto end = std::to_chars(image.data(), image.data() + image.size(), number).ptr;
-    double shortest = 0;
-    std::from_chars(image.data(), end, shortest);
-    return shortest;
+    return std::isfinite(number) ? ParseNumber(Str(number)) : number;
 }
 
 template <std::floating_point Number>
 Json NumberToJson(Number number) {
-    // Whole numbers without a point: 300, not 300.0.
+    // Whole numbers have no decimal point: 300, not 300.0.
     constexpr Number wholeBelow = 1e15F;
     const bool whole = std::abs(number) < wholeBelow && std::trunc(number) == number;
     return whole ? Json(static_cast<std::int64_t>(number)) : Json(Shortest(number));

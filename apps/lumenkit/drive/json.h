@@ -1,4 +1,4 @@
-// What the controls hold and do, as the drive command's answers say it.
+// Converts the values, log, drawing and properties of controls to JSON for the drive command.
 #pragma once
 
 #include <nlohmann/json.hpp>
@@ -11,13 +11,13 @@
 
 namespace lumenkit::cli {
 
-/// Members in the order in which they are put in.
+/// Keeps the members in insertion order.
 using Json = nlohmann::ordered_json;
 
-// Texts are UTF-8, where U+FFFD stands for half of a surrogate pair.
+// Texts are UTF-8. U+FFFD replaces half of a surrogate pair.
 
-/// Whole numbers have no point, single-precision ones the fewest digits that read back as the same;
-/// fonts are objects; what is no value is null.
+/// Whole numbers have no decimal point. Single-precision numbers have the fewest digits that read
+/// back as the same number. Fonts are objects. Empty values are null.
 Json ToJson(const Value& value);
 Json ToJson(const memory::Log& log);
 Json ToJson(const memory::DisplayList& list);

@@ -55,7 +55,7 @@ std::unique_ptr<memory::PlacedPage> NewPage(ScriptedContainer& container,
     return page;
 }
 
-// An embedded control's own properties beside those of a constituent.
+// Adds the properties of an embedded control to those that every constituent has.
 void AddMembers(Json& state, memory::PlacedControl& control) {
     for (const Member& member : control.Type().interfaceTable->members) {
         if (member.read != nullptr && member.parameters.empty()) {

@@ -1,4 +1,4 @@
-// A form file whose controls live on the scripted container.
+// A form file whose controls are on the scripted container.
 #pragma once
 
 #include <memory>
@@ -16,8 +16,8 @@
 
 namespace lumenkit::cli {
 
-/// Puts into the file what its controls hold, and leaves what they held from the start as it is
-/// written: a form of which nothing was changed is saved as the same bytes, whoever wrote it.
+/// Saves the controls of a form file into the file. Properties that have not changed keep their
+/// bytes: an unchanged form is saved as the same bytes, whichever program wrote it.
 class LoadedForm {
  public:
     struct Living {
@@ -25,20 +25,20 @@ class LoadedForm {
         std::unique_ptr<memory::PlacedControl> control;
     };
 
-    /// Throws BadRequest for two controls of one name. What `classes` refers to must outlive the
-    /// loaded form.
+    /// Throws BadRequest if two controls have the same name. The objects that `classes` refers to
+    /// must outlive the loaded form.
     LoadedForm(forms::Document document, const ClassTable& classes);
 
-    /// The names of the controls that are of one of the classes, "VMemo1" or "VMemo1(2)", in the
+    /// The names of the controls whose class is known, such as "VMemo1" or "VMemo1(2)", in the
     /// order of the file.
     std::vector<std::string> Ids() const;
 
-    /// Has these controls come to life with what the file saves for them. The caller keeps them;
-    /// they must outlive every call of Update. Raises 13 and 6 for a place, size, Tag or visibility
-    /// that does not convert, 380 for a negative size. Call it once.
+    /// Creates these controls from their saved properties. The caller owns them, and they must
+    /// outlive every call of Update. Raises 13 or 6 if a place, size, Tag or visibility does not
+    /// convert, and 380 for a negative size. Call it once.
     std::vector<Living> Start(memory::Form& form, bool userMode);
 
-    /// Writes into the document what the controls hold now.
+    /// Writes the present property values of the controls into the document.
     void Update();
 
     const forms::Document& Document() const { return document_; }

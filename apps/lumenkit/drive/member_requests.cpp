@@ -10,7 +10,7 @@ namespace lumenkit::cli::requests {
 
 namespace {
 
-// What a request says of a member: whose, which, with which indices or arguments.
+// The use of a member in a request: the object, the member and its indices or arguments.
 struct Use {
     Object& target;
     std::int32_t member;

@@ -17,7 +17,7 @@ std::string Quoted(std::string_view key) {
     return '"' + std::string(key) + '"';
 }
 
-// The column of the byte at `offset`, both from 1.
+// Describes the column of the byte at `offset`. Both count from 1.
 std::string ColumnOf(std::string_view line, std::size_t offset) {
     const std::string_view before = line.substr(0, offset - 1);
     const auto characters = std::count_if(before.begin(), before.end(),
@@ -35,7 +35,8 @@ std::string WhyNoJson(std::string_view line, std::size_t offset) {
                                 : "not valid JSON at " + ColumnOf(line, offset);
 }
 
-// `depth` is how many arrays and objects what begins or ends lies in.
+// Callback of the parser. `depth` is the number of arrays and objects around the present element.
+// Throws BadRequest if it is too large.
 bool IsShallow(int depth, RequestJson::parse_event_t event, RequestJson& /*parsed*/) {
     const bool opens = event == RequestJson::parse_event_t::object_start ||
                        event == RequestJson::parse_event_t::array_start;
@@ -48,7 +49,7 @@ bool IsShallow(int depth, RequestJson::parse_event_t event, RequestJson& /*parse
 }  // namespace
 
 RequestJson ParseRequest(std::string_view line) {
-    // The parser would take a NUL for the end.
+    // The parser would treat a NUL as the end.
     if (const std::size_t nul = line.find('\0'); nul != std::string_view::npos) {
         throw BadRequest(WhyNoJson(line, nul + 1));
     }

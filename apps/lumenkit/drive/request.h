@@ -1,4 +1,4 @@
-// Requests as they come in: JSON, read with every type checked, and the controls' values in it.
+// Reads requests: JSON with checked types, and the values of controls in it.
 #pragma once
 
 #include <concepts>
@@ -20,25 +20,25 @@
 
 namespace lumenkit::cli {
 
-/// A request that cannot be served; what() tells the person why.
+/// A request that cannot be served; what() says why.
 class BadRequest : public std::runtime_error {
  public:
     using std::runtime_error::runtime_error;
 };
 
-/// Finds members fast, however many there are.
+/// Finds members fast in objects of any size.
 using RequestJson = nlohmann::json;
 
-/// The JSON in `line`. Throws BadRequest with the place (columns are characters, from 1) where it
-/// is none, and where it nests deeper than any request needs.
+/// Parses `line`. Throws BadRequest if it is not JSON, with the column (in characters, from 1), or
+/// if it is nested too deeply.
 RequestJson ParseRequest(std::string_view line);
 
-/// The members of a JSON object. Every reader throws BadRequest where the member is of another
-/// type; those without a fallback also where there is no such member.
+/// The members of a JSON object. Every reader throws BadRequest if the member has another type.
+/// Readers without a fallback also throw if there is no such member.
 class Fields {
  public:
-    /// `what` names the object in messages: "the request". Throws BadRequest for what is no object.
-    /// Both must outlive the fields.
+    /// `what` names the object in messages: "the request". Throws BadRequest if `json` is not an
+    /// object. Both arguments must outlive this object.
     Fields(const RequestJson& json, std::string_view what);
 
     bool Has(std::string_view key) const { return json_.contains(key); }
@@ -52,9 +52,9 @@ class Fields {
     float Single(std::string_view key) const;
     float Single(std::string_view key, float fallback) const;
     std::vector<std::string> Strings(std::string_view key) const;
-    /// The elements of an array; none where there is no such member.
+    /// The elements of an array; empty if there is no such member.
     std::vector<RequestJson> List(std::string_view key) const;
-    /// A whole number in the range of `Integer`; 3.0 is one too.
+    /// A whole number in the range of `Integer`. 3.0 counts as whole.
     template <std::integral Integer>
     Integer Whole(std::string_view key) const {
         using Limits = std::numeric_limits<Integer>;
@@ -73,14 +73,15 @@ class Fields {
     std::string_view what_;
 };
 
-/// Whether controls are to be at run time, as "mode" says; they are unless it says "design".
+/// Returns whether "mode" is "run", which is the default, and not "design".
 bool IsUserMode(const Fields& request);
-/// A value of the controls: an object is a font, null is Empty. Throws BadRequest for an array.
+/// Converts JSON to a value of a control: an object becomes a font, null becomes Empty. Throws
+/// BadRequest for an array.
 Value ValueOf(const RequestJson& json, memory::Form& form);
-/// Name and Size are those of the form's ambient font, the rest false, unless given. Throws
-/// BadRequest for what is no font; raises 380 for a size that fonts refuse.
+/// Converts JSON to a font. The defaults are Name and Size of the form's ambient font and false for
+/// the rest. Throws BadRequest if `json` is not a font. Raises 380 for an invalid size.
 std::shared_ptr<memory::Font> FontOf(const RequestJson& json, memory::Form& form);
-/// Throws BadRequest for what is no object.
+/// Converts an object to a property bag. Throws BadRequest if `json` is not an object.
 memory::PropertyBag BagOf(const RequestJson& json, memory::Form& form);
 
 }  // namespace lumenkit::cli

@@ -1,4 +1,4 @@
-// The requests, one function each; docs/drive.md describes them.
+// The request handlers, one function per request. docs/drive.md describes the requests.
 #pragma once
 
 #include <optional>
@@ -9,10 +9,10 @@
 
 namespace lumenkit::cli::requests {
 
-/// What a request comes to; nothing where there is no result.
+/// The value in the answer; empty if the request has no result.
 using Result = std::optional<Json>;
 
-// The controls' life and looks (life_requests.cpp).
+// Creation, saving, size and drawing of controls (life_requests.cpp).
 Result New(ScriptedContainer& container, const Fields& request);
 Result Save(ScriptedContainer& container, const Fields& request);
 Result Resize(ScriptedContainer& container, const Fields& request);
@@ -20,12 +20,12 @@ Result Apply(ScriptedContainer& container, const Fields& request);
 Result Draw(ScriptedContainer& container, const Fields& request);
 Result State(ScriptedContainer& container, const Fields& request);
 
-// Their members (member_requests.cpp).
+// Members of controls (member_requests.cpp).
 Result Get(ScriptedContainer& container, const Fields& request);
 Result Let(ScriptedContainer& container, const Fields& request);
 Result Call(ScriptedContainer& container, const Fields& request);
 
-// The user (user_requests.cpp); the result says whether what is meant could be used.
+// Actions of the user (user_requests.cpp). The result says whether the target could be used.
 Result Type(ScriptedContainer& container, const Fields& request);
 Result Select(ScriptedContainer& container, const Fields& request);
 Result Paste(ScriptedContainer& container, const Fields& request);

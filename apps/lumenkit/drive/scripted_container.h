@@ -1,4 +1,4 @@
-// The form that requests work on: who is on it, by identifier.
+// The form that requests work on, with its controls and pages by identifier.
 #pragma once
 
 #include <map>
@@ -17,17 +17,17 @@
 
 namespace lumenkit::cli {
 
-/// Controls and pages live as long as the container. What looks one up throws BadRequest where
-/// there is none, or none of the kind asked for.
+/// Owns the controls and pages. Functions that look one up throw BadRequest if there is none or it
+/// is of the other kind.
 class ScriptedContainer {
  public:
-    /// What `classes` refers to must outlive the container.
+    /// The objects that `classes` refers to must outlive the container.
     explicit ScriptedContainer(const ClassTable& classes) : form_(classes) {}
 
     memory::Form& GetForm() { return form_; }
     memory::User& GetUser() { return user_; }
 
-    /// Throws BadRequest where the identifier is taken.
+    /// Throws BadRequest if the identifier is in use.
     void RequireFree(const std::string& id) const;
     void Add(const std::string& id, std::unique_ptr<memory::PlacedControl> control);
     void Add(const std::string& id, std::unique_ptr<memory::PlacedPage> page);
@@ -36,11 +36,11 @@ class ScriptedContainer {
     memory::PlacedControl& Control(const std::string& id) const;
     memory::PlacedPage& Page(const std::string& id) const;
 
-    // Of a control or a page.
+    // For a control or a page.
     Object& Automation(const std::string& id) const;
     memory::Constituents& Parts(const std::string& id) const;
 
-    /// The form file that was loaded; null before one was.
+    /// The loaded form file; null before one is loaded.
     LoadedForm* Loaded() const { return loaded_.get(); }
     void SetLoaded(std::unique_ptr<LoadedForm> loaded) { loaded_ = std::move(loaded); }
 
@@ -50,7 +50,7 @@ class ScriptedContainer {
  private:
     memory::Form form_;
     memory::User user_{form_};
-    // Pages refer to controls and so must go first.
+    // Pages refer to controls and so must be destroyed first.
     std::map<std::string, std::unique_ptr<memory::PlacedControl>> controls_;
     std::map<std::string, std::unique_ptr<memory::PlacedPage>> pages_;
     std::unique_ptr<LoadedForm> loaded_;

@@ -1,4 +1,4 @@
-// A scripted container: controls on a windowless form, driven by requests.
+// A session of `lumenkit drive`: controls on a windowless form, driven by requests.
 #pragma once
 
 #include <string>
@@ -9,16 +9,16 @@
 
 namespace lumenkit::cli {
 
-/// One run of `lumenkit drive`; docs/drive.md describes the requests and answers.
+/// One run of `lumenkit drive`. docs/drive.md describes the requests and answers.
 class DriveSession {
  public:
-    /// What `classes` refers to must outlive the session.
+    /// The objects that `classes` refers to must outlive the session.
     explicit DriveSession(const ClassTable& classes) : container_(classes) {}
 
-    /// Serves one line, a request in JSON, and gives the answer, without a line break. Whatever is
-    /// wrong with the request is said in the answer.
+    /// Serves one line, a request in JSON, and returns the answer without a line break. Errors in
+    /// the request are part of the answer.
     std::string Serve(std::string_view line);
-    /// Whether a request was to quit.
+    /// Whether "quit" has been requested.
     bool HasQuit() const { return container_.HasQuit(); }
 
  private:

@@ -16,13 +16,14 @@ memory::Element& On(ScriptedContainer& container, const Fields& request) {
     return *element;
 }
 
-// Whom the user reaches where the request does not say it: the visible text box, if there is one.
+// The element that the user acts on: the one named by "on", or the visible text box. May be null.
 memory::Element* Reached(ScriptedContainer& container, const Fields& request) {
     return request.Has("on") ? &On(container, request)
                              : container.Parts(request.String("id")).VisibleTextBox();
 }
 
-// Has `act` done to whom the user reaches; without any, to the control's own surface.
+// Applies `act` to the element that the user acts on, or to the surface of the control if there is
+// none.
 template <typename Act>
 bool ActOn(ScriptedContainer& container, const Fields& request, Act act) {
     memory::Element* element = Reached(container, request);

@@ -13,7 +13,7 @@ using ::testing::HasSubstr;
 using ::testing::IsEmpty;
 using ::testing::SizeIs;
 
-std::vector<std::string> RulesIn(TextView caption) {
+std::vector<std::string> RulesInCaption(TextView caption) {
     return Described(CheckCaption(caption));
 }
 
@@ -39,12 +39,12 @@ TEST(CaptionCheck, FindsNothingInGoodCaptions) {
              u"|size:1.01|a|size:9.5pt|b|before:-60|c|before:+ 6 0|d|before:0|",
              u"|Q|quoted|Q||CR||cr||CR|",
          }) {
-        EXPECT_THAT(RulesIn(good), IsEmpty()) << ::testing::PrintToString(good);
+        EXPECT_THAT(RulesInCaption(good), IsEmpty()) << ::testing::PrintToString(good);
     }
 }
 
 TEST(CaptionCheck, FindsUnknownCommands) {
-    EXPECT_THAT(RulesIn(u"a|Blink:1|b|c:d|"),
+    EXPECT_THAT(RulesInCaption(u"a|Blink:1|b|c:d|"),
                 ElementsAre("unknown-command@1", "unknown-command@11"));
     EXPECT_THAT(CheckCaption(u"|Blink:1|").front().message, HasSubstr("\"Blink\""));
 }
@@ -59,7 +59,8 @@ TEST(CaptionCheck, SuggestsCommands) {
 }
 
 TEST(CaptionCheck, FindsLoneBars) {
-    EXPECT_THAT(RulesIn(u"a|b|CR|c||d|e|"), ElementsAre("lone-bar@1", "lone-bar@8", "lone-bar@11"));
+    EXPECT_THAT(RulesInCaption(u"a|b|CR|c||d|e|"),
+                ElementsAre("lone-bar@1", "lone-bar@8", "lone-bar@11"));
     EXPECT_EQ(SuggestionFor(u"|b|x"), "|b:1|");
     EXPECT_EQ(SuggestionFor(u"|Fore=1,2,3|x"), "|fore:1,2,3|");
     EXPECT_EQ(SuggestionFor(u"|size|x"), "");
@@ -68,19 +69,19 @@ TEST(CaptionCheck, FindsLoneBars) {
 }
 
 TEST(CaptionCheck, FindsUnterminatedCommandsLineByLine) {
-    EXPECT_THAT(RulesIn(u"|b:1|CR||b:0"),
+    EXPECT_THAT(RulesInCaption(u"|b:1|CR||b:0"),
                 ElementsAre("unterminated-command@0", "unterminated-command@8"));
-    EXPECT_THAT(RulesIn(u"|b:1 a|Q|"),
+    EXPECT_THAT(RulesInCaption(u"|b:1 a|Q|"),
                 ElementsAre("unconverted-value@0", "unterminated-command@0"));
 }
 
 TEST(CaptionCheck, FindsUnderlining) {
-    EXPECT_THAT(RulesIn(u"|u:1|a|U:0|"),
+    EXPECT_THAT(RulesInCaption(u"|u:1|a|U:0|"),
                 ElementsAre("underline-is-italic@0", "underline-is-italic@6"));
 }
 
 TEST(CaptionCheck, FindsValuesThatAreNotConverted) {
-    EXPECT_THAT(RulesIn(u"|b:yes|a|i:2|b|u:|c|b: 1|"),
+    EXPECT_THAT(RulesInCaption(u"|b:yes|a|i:2|b|u:|c|b: 1|"),
                 ElementsAre("unconverted-value@0", "unconverted-value@8", "underline-is-italic@14",
                             "unconverted-value@14", "unconverted-value@19"));
     EXPECT_EQ(SuggestionFor(u"|b:YES|"), "1");
@@ -97,57 +98,60 @@ TEST(CaptionCheck, SaysThatWordsNeedTheClosingBar) {
 }
 
 TEST(CaptionCheck, FindsWordsForNumbers) {
-    EXPECT_THAT(RulesIn(u"|fore:red,,x|a|before:+|"),
+    EXPECT_THAT(RulesInCaption(u"|fore:red,,x|a|before:+|"),
                 ElementsAre("unconverted-value@0", "unconverted-value@0", "unconverted-value@14"));
 }
 
 TEST(CaptionCheck, FindsSizesThatDoNothing) {
-    EXPECT_THAT(RulesIn(u"|size:1|a|size:0.5|b|size:-9|c|size:|d|size:large|e|size:1.5|"),
+    EXPECT_THAT(RulesInCaption(u"|size:1|a|size:0.5|b|size:-9|c|size:|d|size:large|e|size:1.5|"),
                 ElementsAre("ineffective-size@0", "ineffective-size@9", "ineffective-size@20",
                             "ineffective-size@30", "ineffective-size@38"));
 }
 
 TEST(CaptionCheck, FindsColorsOutOfRange) {
-    EXPECT_THAT(RulesIn(u"|fore:256,0,0|a|fore:0,-1,0|b|fore:255.5|c|fore:255.4|d|fore:9e9|"),
-                ElementsAre("color-out-of-range@0", "color-out-of-range@15",
-                            "color-out-of-range@29", "color-out-of-range@55"));
+    EXPECT_THAT(
+        RulesInCaption(u"|fore:256,0,0|a|fore:0,-1,0|b|fore:255.5|c|fore:255.4|d|fore:9e9|"),
+        ElementsAre("color-out-of-range@0", "color-out-of-range@15", "color-out-of-range@29",
+                    "color-out-of-range@55"));
     EXPECT_EQ(CheckCaption(u"|fore:256,-1,0|").front().message,
               "red 256 is drawn as 0, green -1 is drawn as 255");
 }
 
 TEST(CaptionCheck, FindsNumbersBeyondTheirRange) {
-    EXPECT_THAT(RulesIn(u"|size:1e999|a|before:1e39|"),
+    EXPECT_THAT(RulesInCaption(u"|size:1e999|a|before:1e39|"),
                 ElementsAre("number-overflow@0", "number-overflow@13"));
 }
 
-// Each is in range by itself: only the compiler, which adds them up, knows.
+// Each number is in range by itself. Only the compiler, which adds them up, finds the overflow.
 TEST(CaptionCheck, FindsRelativeSpacingThatGrowsTooLarge) {
-    EXPECT_THAT(RulesIn(u"|before:+3e38|a|before:+3e38|b|b:1|"), ElementsAre("number-overflow@15"));
+    EXPECT_THAT(RulesInCaption(u"|before:+3e38|a|before:+3e38|b|b:1|"),
+                ElementsAre("number-overflow@15"));
 }
 
 TEST(CaptionCheck, CountsLines) {
-    EXPECT_THAT(RulesIn(Repeated(u"x|CR|", 300)), IsEmpty());
-    EXPECT_THAT(RulesIn(Repeated(u"x|CR|", 301)), ElementsAre("too-many-lines@1505"));
-    // What the compiler ignores is not looked at.
-    EXPECT_THAT(RulesIn(Repeated(u"x|CR|", 301) + u"|blod:1|"), ElementsAre("too-many-lines@1505"));
+    EXPECT_THAT(RulesInCaption(Repeated(u"x|CR|", 300)), IsEmpty());
+    EXPECT_THAT(RulesInCaption(Repeated(u"x|CR|", 301)), ElementsAre("too-many-lines@1505"));
+    // Text that the compiler ignores is not checked.
+    EXPECT_THAT(RulesInCaption(Repeated(u"x|CR|", 301) + u"|blod:1|"),
+                ElementsAre("too-many-lines@1505"));
 }
 
 TEST(CaptionCheck, CountsUnits) {
-    EXPECT_THAT(RulesIn(Text(32767, u'x')), IsEmpty());
-    EXPECT_THAT(RulesIn(Text(32768, u'x')), ElementsAre("text-too-long@0"));
-    EXPECT_THAT(RulesIn(u"|blod:1|a|CR|" + Text(32768, u'x')),
+    EXPECT_THAT(RulesInCaption(Text(32767, u'x')), IsEmpty());
+    EXPECT_THAT(RulesInCaption(Text(32768, u'x')), ElementsAre("text-too-long@0"));
+    EXPECT_THAT(RulesInCaption(u"|blod:1|a|CR|" + Text(32768, u'x')),
                 ElementsAre("unknown-command@0", "text-too-long@13"));
-    EXPECT_THAT(RulesIn(Repeated(u"x|CR|", 301) + Text(40000, u'x')),
+    EXPECT_THAT(RulesInCaption(Repeated(u"x|CR|", 301) + Text(40000, u'x')),
                 ElementsAre("too-many-lines@1505", "text-too-long@1505"));
-    // The end of the line stands for the closing bar, and has no position.
-    EXPECT_THAT(RulesIn(Text(32764, u'x') + u"|b:"), ElementsAre("text-too-long@0"));
+    // The end of the line acts as the closing bar, which has no position.
+    EXPECT_THAT(RulesInCaption(Text(32764, u'x') + u"|b:"), ElementsAre("text-too-long@0"));
 }
 
 TEST(CaptionCheck, TakesTheWorstCaptionsInItsStride) {
-    EXPECT_THAT(RulesIn(Text(32766, u'|')), SizeIs(16383));
+    EXPECT_THAT(RulesInCaption(Text(32766, u'|')), SizeIs(16383));
     // A command in every four units; the last one is not closed.
-    EXPECT_THAT(RulesIn(Repeated(u"|:", 16383)), SizeIs(8192 + 1));
-    EXPECT_THAT(RulesIn(u"|" + Text(32000, u'b') + u":1|"), SizeIs(1));
+    EXPECT_THAT(RulesInCaption(Repeated(u"|:", 16383)), SizeIs(8192 + 1));
+    EXPECT_THAT(RulesInCaption(u"|" + Text(32000, u'b') + u":1|"), SizeIs(1));
 }
 
 TEST(CaptionOutline, GivesCommandsWithTheirPlaces) {

@@ -1,7 +1,6 @@
-// "lumenkit check", output against what was written by hand.
+// "lumenkit check": compares its output with texts written by hand.
 #include <filesystem>
 #include <fstream>
-#include <iterator>
 #include <string>
 
 #include <gmock/gmock.h>
@@ -10,6 +9,7 @@
 #include <unistd.h>
 
 #include "tests/apps/program.h"
+#include "tests/support/file_bytes.h"
 
 namespace lumenkit::testing {
 
@@ -25,12 +25,7 @@ using Json = nlohmann::ordered_json;
 
 const std::string here = LUMENKIT_SOURCE_DIR "/tests/apps/check/";
 
-std::string Read(const std::string& path) {
-    std::ifstream file(path, std::ios::binary);
-    return {std::istreambuf_iterator<char>(file), {}};
-}
-
-// What is written by hand names files as from this folder.
+// The texts written by hand give paths relative to this folder.
 std::string FromHere(std::string output) {
     for (auto at = output.find(here); at != std::string::npos; at = output.find(here)) {
         output.erase(at, here.size());
@@ -42,7 +37,7 @@ std::string Compact(const std::string& json) {
     return Json::parse(json).dump() + '\n';
 }
 
-// A folder of its own for each test, gone with it.
+// A separate folder for each test, removed with it.
 class CheckFolder : public ::testing::Test {
  protected:
     CheckFolder()
@@ -75,21 +70,21 @@ class CheckFolder : public ::testing::Test {
 
 TEST(CheckCommand, TellsWhatIsWrongWithForms) {
     const Outcome outcome = RunProgram("check " + here + "forms");
-    EXPECT_EQ(FromHere(outcome.output), Read(here + "forms_expected.txt"));
+    EXPECT_EQ(FromHere(outcome.output), FileBytes(here + "forms_expected.txt"));
     EXPECT_EQ(outcome.errors, "");
     EXPECT_EQ(outcome.status, 1);
 }
 
 TEST(CheckCommand, TellsWhatIsWrongWithCaptionsInJson) {
     const Outcome outcome = RunProgram("check --json --caption " + here + "captions");
-    EXPECT_EQ(FromHere(outcome.output), Compact(Read(here + "captions_expected.json")));
+    EXPECT_EQ(FromHere(outcome.output), Compact(FileBytes(here + "captions_expected.json")));
     EXPECT_EQ(outcome.errors, "");
     EXPECT_EQ(outcome.status, 1);
 }
 
 TEST(CheckCommand, GoesOnBehindAFormThatCannotBeRead) {
     const Outcome json = RunProgram("check --json " + here + "broken");
-    EXPECT_EQ(FromHere(json.output), Compact(Read(here + "broken_expected.json")));
+    EXPECT_EQ(FromHere(json.output), Compact(FileBytes(here + "broken_expected.json")));
     EXPECT_EQ(json.errors, "");
     EXPECT_EQ(json.status, 2);
 
@@ -162,7 +157,7 @@ TEST(CheckCommand, ShowsHelpWithExamples) {
 }
 
 TEST_F(CheckFolder, CountsColumnsInTheCodePage) {
-    // In Windows-1250 every byte is a unit; as UTF-8 the two bytes of "ä" are one.
+    // In Windows-1250 every byte is a unit. In UTF-8 the two bytes of "ä" are one unit.
     Write("a.frm", FormWith("\xF8|blod:1|"));
     EXPECT_THAT(Check("--code-page 1250").output, HasSubstr("a.frm:4:15: "));
     Write("a.frm", FormWith("\xC3\xA4|blod:1|"));
@@ -187,7 +182,7 @@ TEST_F(CheckFolder, FollowsNoLinksInCircles) {
 
 TEST_F(CheckFolder, AFolderThatCannotBeReadIsAnError) {
     if (geteuid() == 0) {
-        // Permissions do not hold root back: a name that is too long does.
+        // Permissions do not stop root, so the test uses a name that is too long.
         const Outcome outcome = RunProgram("check " + std::string(5000, 'x'));
         EXPECT_EQ(outcome.status, 2);
         return;
@@ -228,7 +223,7 @@ TEST_F(CheckFolder, ShowsABarAndColorsOnATerminal) {
     const Outcome outcome = RunOnTerminal("check " + folder.string());
     EXPECT_THAT(outcome.output, StartsWith("\r\x1b[K[" + std::string(30, '.') + "] 0%"));
     EXPECT_THAT(outcome.output, HasSubstr("#"));
-    // The bar is gone before a finding is written, and at the end.
+    // The bar is erased before a finding is written, and at the end.
     EXPECT_THAT(outcome.output, HasSubstr("%\r\x1b[K\x1b[1m" + folder.string()));
     EXPECT_THAT(outcome.output, HasSubstr("\x1b[33munknown command \"blod\"\x1b[0m"));
     EXPECT_THAT(outcome.output, EndsWith("\r\n31 files checked: 1 finding\r\n"));
@@ -255,9 +250,9 @@ TEST_F(CheckFolder, EachStreamHasColorsOfItsOwn) {
     const std::string arguments = "check " + folder.string();
     const std::string elsewhere = (folder / "elsewhere").string();
     EXPECT_THAT(RunOnTerminal(arguments + " 2>" + elsewhere).output, HasSubstr("\x1b[1m"));
-    EXPECT_THAT(Read(elsewhere), AllOf(StartsWith("lumenkit: "), Not(HasSubstr("\x1b"))));
+    EXPECT_THAT(FileBytes(elsewhere), AllOf(StartsWith("lumenkit: "), Not(HasSubstr("\x1b"))));
     EXPECT_THAT(RunOnTerminal(arguments + " >" + elsewhere).output, StartsWith("\x1b[31mlumenkit"));
-    EXPECT_THAT(Read(elsewhere), Not(HasSubstr("\x1b")));
+    EXPECT_THAT(FileBytes(elsewhere), Not(HasSubstr("\x1b")));
 }
 
 TEST_F(CheckFolder, WaitsForNoPipe) {
@@ -273,8 +268,8 @@ TEST_F(CheckFolder, TheBarIsTheErrorStreamsOwn) {
     const std::string found = (folder / "found").string();
     const Outcome outcome = RunOnTerminal("check " + folder.string() + " >" + found);
     EXPECT_THAT(outcome.output, HasSubstr("] 0%"));
-    EXPECT_THAT(Read(found), Not(HasSubstr("\x1b")));
-    EXPECT_THAT(Read(found), EndsWith("\n30 files checked: 30 findings\n"));
+    EXPECT_THAT(FileBytes(found), Not(HasSubstr("\x1b")));
+    EXPECT_THAT(FileBytes(found), EndsWith("\n30 files checked: 30 findings\n"));
 }
 
 }  // namespace

@@ -1,4 +1,5 @@
-// The checks against the literal models of what they look at, on generated texts.
+// Compares the checks with literal models of the compiler, of restrictions and of contents, on
+// generated texts.
 #include <algorithm>
 #include <array>
 #include <random>
@@ -27,7 +28,7 @@ namespace {
 using lumenkit::testing::CompileLiterally;
 using lumenkit::testing::LiteralCaption;
 
-// Whether every command draws something, going by the compiled lists alone.
+// Whether every command draws something, judged by the compiled lists only.
 bool DrawsAll(const LiteralCaption& literal) {
     for (std::size_t i = 0; i < literal.CommandNames.size(); ++i) {
         const Text& name = literal.CommandNames[i];
@@ -44,7 +45,7 @@ bool DrawsAll(const LiteralCaption& literal) {
     return literal.reports.empty();
 }
 
-// Whether one of the remarks is about something that the compiled lists show.
+// Whether one of the remarks is about a fault that the compiled lists show.
 bool FaultsCommands(const Remarks& remarks) {
     const std::set<std::string_view> rules = {
         rules::unknownCommand.name, rules::ineffectiveSize.name, rules::numberOverflow.name};
@@ -68,7 +69,7 @@ void CheckOutline(TextView caption, const LiteralCaption& literal) {
             parameters.push_back(command.parameter);
         }
     }
-    // A line that does not compile to its end leaves its commands behind.
+    // A line that does not compile to its end leaves its commands in the compiled lists.
     ASSERT_LE(parameters.size(), literal.CommandParams.size());
     EXPECT_TRUE(std::equal(parameters.begin(), parameters.end(), literal.CommandParams.begin()));
     EXPECT_TRUE(outline.overflows || parameters.size() == literal.CommandParams.size());
@@ -133,7 +134,7 @@ TEST(CheckModel, MemosAreFaultedWhereRestrictingChangesThem) {
     EXPECT_GT(faulted, 1000);
 }
 
-// The grammar once more, unit by unit.
+// Splits contents by the same grammar, unit by unit.
 std::vector<Text> ValuesLiterally(const Text& contents) {
     std::vector<Text> values(1);
     bool inCaption = false;

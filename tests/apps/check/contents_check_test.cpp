@@ -27,7 +27,7 @@ TEST(ContentsCheck, FindsValuesThatAreThereAlready) {
     EXPECT_THAT(RulesIn(u"a|a|a"), ElementsAre("duplicate-value@2", "duplicate-value@4"));
 }
 
-// Text is matched without regard to case.
+// Values are compared without regard to case.
 TEST(ContentsCheck, CaseTellsNoValuesApart) {
     EXPECT_THAT(RulesIn(u"red;1|RED;2|Ä|ä"),
                 ElementsAre("duplicate-value@6", "duplicate-value@14"));
@@ -44,7 +44,7 @@ TEST(ContentsCheck, CountsUnits) {
     EXPECT_THAT(RulesIn(fits), IsEmpty());
     EXPECT_EQ(CheckContents(fits).itemCount, 2);
     EXPECT_THAT(RulesIn(fits + u'x'), ElementsAre("text-too-long@2"));
-    EXPECT_EQ(CheckContents(fits + u'x').itemCount, 1);  // as before loading
+    EXPECT_EQ(CheckContents(fits + u'x').itemCount, 1);  // the count before anything is loaded
     EXPECT_THAT(RulesIn(Text(40000, u'x')), ElementsAre("text-too-long@0"));
 }
 

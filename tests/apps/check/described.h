@@ -1,4 +1,4 @@
-// Remarks in short, for comparing: "rule@offset".
+// Short forms of remarks for comparison: "rule@offset".
 #pragma once
 
 #include <string>

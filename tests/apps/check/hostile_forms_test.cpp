@@ -1,7 +1,5 @@
-// Forms that were made to break things: each is refused or checked, and never anything else.
+// Malformed forms: each one is either refused or checked.
 #include <filesystem>
-#include <fstream>
-#include <iterator>
 #include <random>
 #include <string>
 #include <vector>
@@ -10,18 +8,15 @@
 
 #include "apps/lumenkit/check/file_checks.h"
 #include "project/lumenkit_classes.h"
+#include "tests/support/file_bytes.h"
 #include "tests/support/test_seed.h"
 
 namespace lumenkit::check {
 namespace {
 
+using lumenkit::testing::FileBytes;
 namespace fs = std::filesystem;
 using ::testing::SizeIs;
-
-std::string Read(const fs::path& path) {
-    std::ifstream file(path, std::ios::binary);
-    return {std::istreambuf_iterator<char>(file), {}};
-}
 
 std::vector<fs::path> FilesIn(const std::string& folder) {
     std::vector<fs::path> files;
@@ -33,7 +28,7 @@ std::vector<fs::path> FilesIn(const std::string& folder) {
     return files;
 }
 
-// Whether it could be read.
+// Returns whether the form could be read.
 bool Check(const std::string& form, const std::string& companion = {}) {
     try {
         const auto document = forms::Document::Parse(
@@ -52,7 +47,7 @@ TEST(HostileForms, WhatTheFuzzerFoundInteresting) {
     int count = 0;
     int read = 0;
     for (const fs::path& file : FilesIn("/fuzz/corpus/form")) {
-        const std::string bytes = Read(file);
+        const std::string bytes = FileBytes(file);
         const std::size_t end = bytes.find(mark);
         const bool whole = end == std::string::npos;
         read += Check(bytes.substr(0, end), whole ? "" : bytes.substr(end + mark.size())) ? 1 : 0;
@@ -62,7 +57,7 @@ TEST(HostileForms, WhatTheFuzzerFoundInteresting) {
     EXPECT_GT(read, 5);
 }
 
-// Bytes changed, doubled and left out in the forms of the samples and of these tests.
+// Changes, doubles and removes bytes in the forms of the samples and of these tests.
 TEST(HostileForms, DamagedForms) {
     std::mt19937 random(lumenkit::testing::TestSeed());
     const auto below = [&](std::size_t bound) { return random() % bound; };
@@ -72,8 +67,8 @@ TEST(HostileForms, DamagedForms) {
             if (file.extension() != ".frm") {
                 continue;
             }
-            const std::string whole = Read(file);
-            const std::string companion = Read(fs::path(file).replace_extension(".frx"));
+            const std::string whole = FileBytes(file);
+            const std::string companion = FileBytes(fs::path(file).replace_extension(".frx"));
             for (int i = 0; i < 60; ++i) {
                 std::string form = whole;
                 for (std::size_t changes = 1 + below(3); changes > 0; --changes) {

@@ -1,4 +1,4 @@
-// Quotations, suggestions and progress: what messages are made of.
+// The parts of messages: quotations, suggestions and the progress bar.
 #include <array>
 #include <sstream>
 
@@ -39,8 +39,8 @@ TEST(Suggestion, ForgivesSlipsByLength) {
     constexpr std::array<TextView, 5> words = {u"b", u"bold", u"italic", u"color", u"Caption"};
     EXPECT_EQ(Nearest(u"blod", words), u"bold");      // swapped
     EXPECT_EQ(Nearest(u"bld", words), u"bold");       // left out
-    EXPECT_EQ(Nearest(u"boold", words), u"bold");     // put in
-    EXPECT_EQ(Nearest(u"bulk", words), u"");          // two
+    EXPECT_EQ(Nearest(u"boold", words), u"bold");     // inserted
+    EXPECT_EQ(Nearest(u"bulk", words), u"");          // two errors
     EXPECT_EQ(Nearest(u"italci", words), u"italic");  // swapped
     EXPECT_EQ(Nearest(u"itlci", words), u"italic");   // swapped and left out
     EXPECT_EQ(Nearest(u"CAPTIN", words), u"Caption");

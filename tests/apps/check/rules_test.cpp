@@ -1,25 +1,20 @@
-// Every rule is told of in the manual, and shown by a form or caption of these tests.
+// Checks that the manual and the help list every rule and that an example shows it.
 #include "apps/lumenkit/check/rules.h"
 
-#include <fstream>
-#include <iterator>
 #include <set>
 #include <string>
 
 #include <gmock/gmock.h>
 
 #include "tests/apps/program.h"
+#include "tests/support/file_bytes.h"
 
 namespace lumenkit::check {
 namespace {
 
+using lumenkit::testing::FileBytes;
 using ::testing::HasSubstr;
 using ::testing::SizeIs;
-
-std::string Read(const std::string& path) {
-    std::ifstream file(path, std::ios::binary);
-    return {std::istreambuf_iterator<char>(file), {}};
-}
 
 TEST(Rules, HaveNamesOfTheirOwn) {
     std::set<std::string_view> names;
@@ -30,7 +25,7 @@ TEST(Rules, HaveNamesOfTheirOwn) {
 }
 
 TEST(Rules, AreInTheManualAndTheHelp) {
-    const std::string manual = Read(LUMENKIT_SOURCE_DIR "/docs/check.md");
+    const std::string manual = FileBytes(LUMENKIT_SOURCE_DIR "/docs/check.md");
     const std::string help = lumenkit::testing::RunProgram("check --help").output;
     for (const Rule& rule : Rules()) {
         EXPECT_THAT(manual, HasSubstr("| `" + std::string(rule.name) + "` |"));
@@ -40,7 +35,7 @@ TEST(Rules, AreInTheManualAndTheHelp) {
 
 TEST(Rules, AreShownByAnExample) {
     const std::string expected =
-        Read(LUMENKIT_SOURCE_DIR "/tests/apps/check/forms_expected.txt") +
+        FileBytes(LUMENKIT_SOURCE_DIR "/tests/apps/check/forms_expected.txt") +
         lumenkit::testing::RunProgram("check --caption -", std::string(32768, 'x')).output +
         lumenkit::testing::RunProgram("check --caption " LUMENKIT_SOURCE_DIR
                                       "/tests/apps/check/captions/too_many_lines.txt")

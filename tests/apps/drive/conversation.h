@@ -1,4 +1,4 @@
-// The built program at the other end of two pipes, as a client would talk to it.
+// Runs the built program and talks to it through two pipes, as a client does.
 #pragma once
 
 #include <optional>
@@ -17,9 +17,9 @@ class Conversation {
     Conversation& operator=(const Conversation&) = delete;
 
     void Say(const std::string& bytes);
-    /// The next line; nothing where none comes within seconds or the program has ended.
+    /// Returns the next line; nothing if none comes within 30 seconds or the program has ended.
     std::optional<std::string> Hear();
-    /// Ends the input and waits for the program; its exit status.
+    /// Closes the input, waits for the program to end and returns its exit status.
     int End();
 
  private:

@@ -36,7 +36,7 @@ std::string AnswerFault(const std::string& line) {
 
 class Session {
  public:
-    /// Serves one request; says what is wrong with the answer.
+    /// Serves one request. Returns what is wrong with the answer; empty if nothing is.
     std::string Fault(std::string_view request) {
         try {
             answer_ = session_.Serve(request);

@@ -5,8 +5,9 @@
 
 namespace lumenkit::testing {
 
-/// What is wrong with how a session serves `requests`, one a line, empty when nothing is: each must
-/// get one well-formed answer and leave a session that serves on. Needs forms_in_memory.cpp.
+/// Serves `requests`, one a line, and returns what goes wrong; empty if nothing does. Each request
+/// must get one well-formed answer, and the session must still serve a request at the end. Needs
+/// forms_in_memory.cpp.
 std::string DriveFault(std::string_view requests);
 
 }  // namespace lumenkit::testing

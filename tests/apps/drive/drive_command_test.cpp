@@ -1,4 +1,4 @@
-// "lumenkit drive" as a process: how it reads, when it answers, how it ends.
+// "lumenkit drive" as a process: how it reads, when it answers and how it ends.
 #include <cstdlib>
 #include <string>
 

@@ -1,4 +1,4 @@
-// What the fuzzers start from and what they have found.
+// Serves the seeds and the findings of the fuzzers.
 #include <gtest/gtest.h>
 
 #include "tests/apps/drive/drive_check.h"

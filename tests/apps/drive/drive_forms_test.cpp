@@ -2,7 +2,6 @@
 #include <filesystem>
 #include <fstream>
 #include <initializer_list>
-#include <iterator>
 #include <string>
 #include <utility>
 
@@ -10,6 +9,7 @@
 
 #include "apps/lumenkit/drive/session.h"
 #include "project/lumenkit_classes.h"
+#include "tests/support/file_bytes.h"
 
 namespace lumenkit::testing {
 
@@ -20,12 +20,7 @@ using ::testing::HasSubstr;
 using ::testing::StartsWith;
 
 const fs::path samples = LUMENKIT_SOURCE_DIR "/samples/forms";
-constexpr const char* served = R"({"ok":true,)";
-
-std::string Read(const fs::path& path) {
-    std::ifstream file(path, std::ios::binary);
-    return {std::istreambuf_iterator<char>(file), {}};
-}
+constexpr const char* servedStart = R"({"ok":true,)";
 
 class DriveForms : public ::testing::Test {
  protected:
@@ -57,7 +52,7 @@ class DriveForms : public ::testing::Test {
     cli::DriveSession session{lumenkitClasses};
 };
 
-// The sample with these lines instead of those; each must stand there once.
+// Replaces the first text of each pair by the second one. Each first text must occur exactly once.
 std::string With(std::string form,
                  std::initializer_list<std::pair<std::string, std::string>> lines) {
     for (const auto& [old, now] : lines) {
@@ -84,13 +79,13 @@ TEST_F(DriveForms, UneditedFormsComeBackByteForByte) {
             cli::DriveSession fresh(lumenkitClasses);
             ASSERT_THAT(fresh.Serve(R"({"do":"form","mode":")" + mode + R"(","file":")" +
                                     entry.path().string() + "\"}"),
-                        StartsWith(served));
+                        StartsWith(servedStart));
             ASSERT_THAT(fresh.Serve(R"({"do":"write","file":")" + (folder / name).string() + "\"}"),
-                        StartsWith(served));
-            EXPECT_TRUE(Read(folder / name) == Read(entry.path())) << name;
+                        StartsWith(servedStart));
+            EXPECT_TRUE(FileBytes(folder / name) == FileBytes(entry.path())) << name;
             for (const auto& written : fs::directory_iterator(folder)) {
                 const fs::path original = samples / written.path().filename();
-                EXPECT_TRUE(Read(written.path()) == Read(original)) << written.path();
+                EXPECT_TRUE(FileBytes(written.path()) == FileBytes(original)) << written.path();
             }
         }
         ++count;
@@ -104,9 +99,9 @@ TEST_F(DriveForms, ChangedPropertiesChangeTheirLines) {
     Let("VOptList1", "ListIndex", "0");
     Let("VOptList1", "ItemForeColor", "255");
     Let("VOptList1", "Spacing", "240");  // the default
-    EXPECT_THAT(Write("options.frm"), StartsWith(served));
-    EXPECT_EQ(Read(folder / "options.frm"),
-              With(Read(samples / "options.frm"),
+    EXPECT_THAT(Write("options.frm"), StartsWith(servedStart));
+    EXPECT_EQ(FileBytes(folder / "options.frm"),
+              With(FileBytes(samples / "options.frm"),
                    {{"\"S;Small|M;Medium|L;Large\"", R"("S;Small|L;""Large""")"},
                     {"      ListIndex       =   1\r\n", "      ListIndex       =   0\r\n"},
                     {"&H00800000&", "&H000000FF&"},
@@ -118,9 +113,9 @@ TEST_F(DriveForms, NewPropertiesStandWhereTheControlWritesThem) {
     Let("VMemo1", "MaxLines", "3");
     Let("VMemo1", "Locked", "false");
     Let("VLabel1", "WordWrap", "true");
-    EXPECT_THAT(Write("all_three.frm"), StartsWith(served));
-    EXPECT_EQ(Read(folder / "all_three.frm"),
-              With(Read(samples / "all_three.frm"),
+    EXPECT_THAT(Write("all_three.frm"), StartsWith(servedStart));
+    EXPECT_EQ(FileBytes(folder / "all_three.frm"),
+              With(FileBytes(samples / "all_three.frm"),
                    {{"      Text            =   \"One line\"\r\n",
                      "      Text            =   \"One line\"\r\n"
                      "      MaxLines        =   3\r\n"},
@@ -134,26 +129,26 @@ TEST_F(DriveForms, TextsOfSeveralLinesGoToTheCompanion) {
     Load(samples / "memo.frm");
     Let("VMemo1", "Text", R"("a\r\nb")");
     Let("VMemo1", "FontSize", "12");
-    EXPECT_THAT(Write("memo.frm"), StartsWith(served));
-    const std::string companion = Read(samples / "memo.frx");
+    EXPECT_THAT(Write("memo.frm"), StartsWith(servedStart));
+    const std::string companion = FileBytes(samples / "memo.frx");
     ASSERT_EQ(companion.size(), 0x30U);
     EXPECT_EQ(
-        Read(folder / "memo.frm"),
-        With(Read(samples / "memo.frm"),
+        FileBytes(folder / "memo.frm"),
+        With(FileBytes(samples / "memo.frm"),
              {{"         Size            =   9.75\r\n", "         Size            =   12\r\n"},
               {"      FontSize        =   9.75\r\n", "      FontSize        =   12\r\n"},
               {"$\"memo.frx\":0000", "$\"memo.frx\":0030"}}));
-    EXPECT_EQ(Read(folder / "memo.frx"), companion + "\x04" + "a\r\nb");
+    EXPECT_EQ(FileBytes(folder / "memo.frx"), companion + "\x04" + "a\r\nb");
 }
 
 TEST_F(DriveForms, WhatIsPutBackIsWrittenAsItWas) {
     Load(samples / "options.frm");
     Let("VOptList1", "Caption", R"("New")");
     Write("options.frm");
-    EXPECT_THAT(Read(folder / "options.frm"), HasSubstr("\"New\""));
+    EXPECT_THAT(FileBytes(folder / "options.frm"), HasSubstr("\"New\""));
     Let("VOptList1", "Caption", R"("Size")");
     Write("options.frm");
-    EXPECT_EQ(Read(folder / "options.frm"), Read(samples / "options.frm"));
+    EXPECT_EQ(FileBytes(folder / "options.frm"), FileBytes(samples / "options.frm"));
 }
 
 TEST_F(DriveForms, WhatTheUserTypesIsWritten) {
@@ -163,12 +158,13 @@ TEST_F(DriveForms, WhatTheUserTypesIsWritten) {
     Serve(R"({"do":"select","id":"M","start":2,"length":0})");
     Serve(R"({"do":"type","id":"M","text":"c"})");
     Write("y.frm");
-    EXPECT_EQ(Read(folder / "y.frm"),
+    EXPECT_EQ(FileBytes(folder / "y.frm"),
               "VERSION 5.00\nBegin VB.Form F\n Begin lumenkit.VMemo M\n"
               "  Text = \"abc\"\n End\nEnd\n");
 }
 
-// Values at their defaults, out of range, of a wrong kind, and names that nobody reads.
+// The form has values at their defaults, out of range and of a wrong type, and names that no
+// control reads.
 TEST_F(DriveForms, WhatADesignerWouldNotWriteStays) {
     const std::string form =
         "VERSION 5.00\nBegin VB.Form F\n"
@@ -179,10 +175,10 @@ TEST_F(DriveForms, WhatADesignerWouldNotWriteStays) {
         "End\n";
     EXPECT_THAT(LoadText(form), HasSubstr(R"("value":["L","O","M"])"));
     Write("y.frm");
-    EXPECT_EQ(Read(folder / "y.frm"), form);
+    EXPECT_EQ(FileBytes(folder / "y.frm"), form);
     Let("L", "AutoSize", "true");
     Write("y.frm");
-    EXPECT_EQ(Read(folder / "y.frm"),
+    EXPECT_EQ(FileBytes(folder / "y.frm"),
               With(form, {{"  WordWrap = 0 'no\n",
                            "  WordWrap = 0 'no\n    AutoSize        =   -1  'True\n"}}));
 }
@@ -190,7 +186,7 @@ TEST_F(DriveForms, WhatADesignerWouldNotWriteStays) {
 TEST_F(DriveForms, ControlArraysHaveTheirIndicesInTheirIds) {
     EXPECT_THAT(Load(samples / "long_texts.frm"),
                 HasSubstr(R"v(["VMemo1(0)","VMemo1(1)","VMemo1(2)","VMemo1(3)","VMemo1(4)"])v"));
-    EXPECT_THAT(Serve(R"v({"do":"get","id":"VMemo1(0)","name":"Text"})v"), StartsWith(served));
+    EXPECT_THAT(Serve(R"v({"do":"get","id":"VMemo1(0)","name":"Text"})v"), StartsWith(servedStart));
 }
 
 TEST_F(DriveForms, InvisibleControlsAreNotShown) {
@@ -233,7 +229,7 @@ TEST_F(DriveForms, ReadInAnotherCodePage) {
     EXPECT_FALSE(fs::exists(folder / "y.frm"));
     Let("L", "Caption", R"("ć")");
     Write("y.frm");
-    EXPECT_EQ(Read(folder / "y.frm"), form);
+    EXPECT_EQ(FileBytes(folder / "y.frm"), form);
 }
 
 }  // namespace

@@ -1,4 +1,4 @@
-// What the controls hold and do, in JSON.
+// The values, logs, drawings and properties of controls in JSON.
 #include <limits>
 #include <string>
 

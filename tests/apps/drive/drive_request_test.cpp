@@ -1,4 +1,4 @@
-// Requests read with every type checked.
+// Reads requests, with every type checked.
 #include <functional>
 #include <string>
 #include <variant>
@@ -13,7 +13,7 @@ namespace lumenkit::cli {
 
 namespace {
 
-// What the person is told; nothing where all is well.
+// Returns the message for the client; empty if there is none.
 std::string Complaint(const std::function<void()>& act) {
     try {
         act();

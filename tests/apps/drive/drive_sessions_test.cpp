@@ -1,7 +1,5 @@
-// Written sessions and the examples of docs/drive.md, replayed against the built program.
+// Replays written sessions and the examples of docs/drive.md with the built program.
 #include <filesystem>
-#include <fstream>
-#include <iterator>
 #include <set>
 #include <string>
 
@@ -9,6 +7,7 @@
 
 #include "tests/apps/drive/session_script.h"
 #include "tests/apps/program.h"
+#include "tests/support/file_bytes.h"
 
 namespace lumenkit::testing {
 
@@ -16,11 +15,6 @@ namespace {
 
 using ::testing::ContainerEq;
 using ::testing::SizeIs;
-
-std::string Read(const std::filesystem::path& path) {
-    std::ifstream file(path, std::ios::binary);
-    return {std::istreambuf_iterator<char>(file), {}};
-}
 
 void Replay(const Script& script, const std::string& name) {
     ASSERT_FALSE(script.empty()) << name;
@@ -39,7 +33,7 @@ void Replay(const Script& script, const std::string& name) {
     }
 }
 
-// Sessions and examples are replayed in a folder of their own, in which they find the sample forms.
+// Sessions and examples are replayed in a separate folder that holds the sample forms.
 class InScratchFolder : public ::testing::Test {
  protected:
     InScratchFolder() {
@@ -70,7 +64,7 @@ std::vector<std::filesystem::path> SessionFiles() {
     return files;
 }
 
-// The requests that `text` names, written as {"do":NAME.
+// Returns the requests in `text`, which are written as {"do":NAME.
 std::set<std::string> RequestsIn(const std::string& text) {
     const std::string opening = "{\"do\":\"";
     std::set<std::string> names;
@@ -85,14 +79,14 @@ TEST_F(DriveSessions, Replay) {
     const auto files = SessionFiles();
     EXPECT_THAT(files, SizeIs(8));
     for (const auto& file : files) {
-        Replay(ParseScript(Read(file)), file.filename().string());
+        Replay(ParseScript(FileBytes(file)), file.filename().string());
     }
 }
 
 TEST_F(DriveSessions, EveryRequestSucceedsInOne) {
     std::string served;
     for (const auto& file : SessionFiles()) {
-        for (const Exchange& exchange : ParseScript(Read(file))) {
+        for (const Exchange& exchange : ParseScript(FileBytes(file))) {
             if (exchange.answer.find("\"ok\":false") == std::string::npos) {
                 served += exchange.request;
             }
@@ -102,7 +96,7 @@ TEST_F(DriveSessions, EveryRequestSucceedsInOne) {
 }
 
 TEST_F(DriveDocument, ExamplesReplay) {
-    const auto scripts = ScriptsIn(Read(LUMENKIT_SOURCE_DIR "/docs/drive.md"));
+    const auto scripts = ScriptsIn(FileBytes(LUMENKIT_SOURCE_DIR "/docs/drive.md"));
     ASSERT_FALSE(scripts.empty());
     for (const Script& script : scripts) {
         Replay(script, "docs/drive.md");
@@ -110,7 +104,7 @@ TEST_F(DriveDocument, ExamplesReplay) {
 }
 
 TEST_F(DriveDocument, ShowsEveryRequest) {
-    EXPECT_THAT(RequestsIn(Read(LUMENKIT_SOURCE_DIR "/docs/drive.md")),
+    EXPECT_THAT(RequestsIn(FileBytes(LUMENKIT_SOURCE_DIR "/docs/drive.md")),
                 ContainerEq(RequestsIn(RunProgram("drive --help").output)));
 }
 

@@ -1,10 +1,10 @@
-// Stands in for forms/file.cpp where requests are generated, which must not reach the disk: forms
-// are loaded from the samples and from what was written in memory.
+// Takes the place of forms/file.cpp in programs that serve generated requests, which must not reach
+// the disk. Forms are loaded from the samples and from the forms written in memory.
 #pragma once
 
 namespace lumenkit::testing {
 
-/// Forgets what was written.
+/// Forgets the forms written in memory.
 void RestoreForms();
 
 }  // namespace lumenkit::testing

@@ -10,7 +10,7 @@ namespace {
 
 using Json = nlohmann::ordered_json;
 
-// Whether `whole` has all that `part` has; arrays must be of the same length.
+// Whether `whole` has all members of `part`. Arrays must have the same length.
 bool Holds(const Json& whole, const Json& part) {
     if (part.is_object() && whole.is_object()) {
         return std::all_of(part.items().begin(), part.items().end(), [&](const auto& member) {

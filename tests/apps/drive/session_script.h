@@ -1,7 +1,7 @@
 // Written conversations with "lumenkit drive".
 //
-// "> " begins a request; the lines that follow with "< " are, joined, the answer expected. "<~ "
-// instead expects an answer that holds at least these members. Anything else is a remark.
+// "> " begins a request. The lines with "< " that follow it are joined to the expected answer.
+// "<~ " instead gives members that the answer must have. Any other line is a remark.
 #pragma once
 
 #include <string>
@@ -12,7 +12,7 @@
 namespace lumenkit::testing {
 
 struct Exchange {
-    int line = 0;  ///< where the request stands, from 1
+    int line = 0;  ///< the line of the request, from 1
     std::string request = {};
     std::string answer = {};
     bool isPartial = false;
@@ -22,10 +22,10 @@ using Script = std::vector<Exchange>;
 
 Script ParseScript(const std::string& text);
 
-/// One script for each block that a Markdown text fences as "```session".
+/// Returns one script for each block that a Markdown text fences as "```session".
 std::vector<Script> ScriptsIn(const std::string& markdown);
 
-/// Nothing where `answer` is what the exchange expects, else what differs.
+/// Returns what differs from the expected answer; empty if nothing does.
 std::string Difference(const Exchange& exchange, const std::string& answer);
 
 std::vector<std::string> LinesOf(const std::string& text);

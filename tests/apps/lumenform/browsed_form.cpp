@@ -77,7 +77,7 @@ void BrowsedForm::Choose(TextView property, const std::string& label) {
     }
     QTest::keyClicks(box, QString::fromStdString(label));
     QTest::keyClick(box, Qt::Key_Return);
-    QApplication::processEvents();  // which is when boxes give what was chosen
+    QApplication::processEvents();  // the box reports the choice in the event loop
 }
 
 void BrowsedForm::PressMore(TextView property) const {

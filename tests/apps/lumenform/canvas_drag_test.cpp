@@ -1,4 +1,4 @@
-// Moving and sizing on the canvas, by mouse and by keyboard.
+// Moving and sizing controls on the canvas by mouse and by keyboard.
 #include <QTest>
 
 #include <gmock/gmock.h>
@@ -14,7 +14,7 @@ using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 using ::testing::UnorderedElementsAre;
 
-const std::string form =
+const std::string threeControls =
     "   Begin VB.CommandButton A\n      Height = 495\n      Left = 130\n      Top = 240\n"
     "      Width = 1215\n   End\n"
     "   Begin VB.Frame F\n      Height = 1800\n      Left = 1800\n      Top = 120\n"
@@ -30,7 +30,7 @@ constexpr Placement placeOfM{.left = 240, .top = 360, .width = 1200, .height = 6
 constexpr Placement placeOfT{.left = 150, .top = 1200, .width = 900, .height = 300};
 
 TEST(CanvasDrag, MovesToTheGridInOneStep) {
-    DesignedForm canvas(form);
+    DesignedForm canvas(threeControls);
     const std::string before = canvas.Saved();
     canvas.Drag(canvas.MiddleOf(u"A"), {30, 17});
     EXPECT_EQ(canvas.PlaceOf(u"A"), (Placement{600, 480, 1215, 495}));
@@ -46,7 +46,7 @@ TEST(CanvasDrag, MovesToTheGridInOneStep) {
 }
 
 TEST(CanvasDrag, AnAxisThatWasNotDraggedStays) {
-    DesignedForm canvas(form);
+    DesignedForm canvas(threeControls);
     const std::string before = canvas.Saved();
     canvas.Drag(canvas.MiddleOf(u"A"), {0, 17});
     EXPECT_EQ(canvas.PlaceOf(u"A"), (Placement{130, 480, 1215, 495}));
@@ -54,7 +54,7 @@ TEST(CanvasDrag, AnAxisThatWasNotDraggedStays) {
 }
 
 TEST(CanvasDrag, AltHoldsTheGridOff) {
-    DesignedForm canvas(form);
+    DesignedForm canvas(threeControls);
     canvas.Drag(canvas.MiddleOf(u"A"), {30, 17}, Qt::AltModifier);
     EXPECT_EQ(canvas.PlaceOf(u"A"), (Placement{580, 495, 1215, 495}));
     canvas.canvas->SetGrid({.step = 120, .isShown = true, .snaps = false});
@@ -63,7 +63,7 @@ TEST(CanvasDrag, AltHoldsTheGridOff) {
 }
 
 TEST(CanvasDrag, TheGridHasAnyStep) {
-    DesignedForm canvas(form);
+    DesignedForm canvas(threeControls);
     canvas.canvas->SetGrid({.step = 100});
     canvas.Drag(canvas.MiddleOf(u"A"), {30, 17});
     EXPECT_EQ(canvas.PlaceOf(u"A"), (Placement{600, 500, 1215, 495}));
@@ -72,14 +72,14 @@ TEST(CanvasDrag, TheGridHasAnyStep) {
 }
 
 TEST(CanvasDrag, BelowTheThresholdItIsAClick) {
-    DesignedForm canvas(form);
+    DesignedForm canvas(threeControls);
     canvas.Drag(canvas.MiddleOf(u"A"), {2, 1});
     EXPECT_EQ(canvas.PlaceOf(u"A"), placeOfA);
     EXPECT_EQ(canvas.design.History().count(), 0);
 }
 
 TEST(CanvasDrag, BackToWhereItBeganIsNoStep) {
-    DesignedForm canvas(form);
+    DesignedForm canvas(threeControls);
     const QPoint at = canvas.MiddleOf(u"A");
     canvas.Press(at);
     canvas.MoveTo(at + QPoint(50, 50));
@@ -90,7 +90,7 @@ TEST(CanvasDrag, BackToWhereItBeganIsNoStep) {
 }
 
 TEST(CanvasDrag, AllSelectedOnesGoAlong) {
-    DesignedForm canvas(form);
+    DesignedForm canvas(threeControls);
     const std::string before = canvas.Saved();
     canvas.Select({u"A", u"T"});
     canvas.Drag(canvas.MiddleOf(u"A"), {30, 17});
@@ -103,7 +103,7 @@ TEST(CanvasDrag, AllSelectedOnesGoAlong) {
 }
 
 TEST(CanvasDrag, WhatLiesInASelectedContainerGoesWithIt) {
-    DesignedForm canvas(form);
+    DesignedForm canvas(threeControls);
     const std::string before = canvas.Saved();
     canvas.Select({u"F", u"M"});
     canvas.Drag(canvas.MiddleOf(u"M"), {-16, 8});
@@ -123,7 +123,7 @@ TEST(CanvasDrag, InAContainerTheGridIsItsOwn) {
 }
 
 TEST(CanvasDrag, MovesLiveAndWritesAtTheEnd) {
-    DesignedForm canvas(form);
+    DesignedForm canvas(threeControls);
     const std::string before = canvas.Saved();
     const QPoint at = canvas.MiddleOf(u"A");
     int edits = 0;
@@ -138,7 +138,7 @@ TEST(CanvasDrag, MovesLiveAndWritesAtTheEnd) {
 }
 
 TEST(CanvasDrag, TellsThePlace) {
-    DesignedForm canvas(form);
+    DesignedForm canvas(threeControls);
     const auto* label = canvas.canvas->findChild<form::PlaceLabel*>();
     EXPECT_FALSE(label->isVisible());
     const QPoint at = canvas.MiddleOf(u"A");
@@ -151,7 +151,7 @@ TEST(CanvasDrag, TellsThePlace) {
 }
 
 TEST(CanvasDrag, TellsWhereTheMouseIs) {
-    DesignedForm canvas(form);
+    DesignedForm canvas(threeControls);
     std::vector<QPointF> told;
     QObject::connect(canvas.canvas, &form::Canvas::PointerMoved,
                      [&](QPointF twips) { told.push_back(twips); });
@@ -161,7 +161,7 @@ TEST(CanvasDrag, TellsWhereTheMouseIs) {
 }
 
 TEST(CanvasDrag, EscPutsEverythingBack) {
-    DesignedForm canvas(form);
+    DesignedForm canvas(threeControls);
     const std::string before = canvas.Saved();
     canvas.Select({u"A", u"M"});
     const QPoint at = canvas.MiddleOf(u"A");
@@ -180,7 +180,7 @@ TEST(CanvasDrag, EscPutsEverythingBack) {
 }
 
 TEST(CanvasDrag, AnUndoInTheMiddleEndsTheDrag) {
-    DesignedForm canvas(form);
+    DesignedForm canvas(threeControls);
     canvas.Drag(canvas.MiddleOf(u"T"), {80, 0});
     const QPoint at = canvas.MiddleOf(u"A");
     canvas.Press(at);
@@ -195,14 +195,14 @@ TEST(CanvasDrag, AnUndoInTheMiddleEndsTheDrag) {
 struct HandleCase {
     int across;
     int down;
-    Placement expected;  // after (16, 17) pixels, that is 240 and 255 twips
+    Placement expected;  // after a drag by (16, 17) pixels: 240 and 255 twips
 };
 
 class CanvasHandle : public ::testing::TestWithParam<HandleCase> {};
 
 TEST_P(CanvasHandle, SizesByItsEdges) {
     const HandleCase& handle = GetParam();
-    DesignedForm canvas(form);
+    DesignedForm canvas(threeControls);
     const std::string before = canvas.Saved();
     canvas.Select({u"M"});
     canvas.Drag(canvas.HandleOf(u"M", handle.across, handle.down), {16, 17});
@@ -224,7 +224,7 @@ INSTANTIATE_TEST_SUITE_P(All, CanvasHandle,
                                            HandleCase{1, 1, {240, 360, 1440, 840}}));
 
 TEST(CanvasDrag, NoSizeFallsBelowZero) {
-    DesignedForm canvas(form);
+    DesignedForm canvas(threeControls);
     canvas.Select({u"T"});
     canvas.Drag(canvas.HandleOf(u"T", 1, 1), {-150, -150});
     EXPECT_EQ(canvas.PlaceOf(u"T"), (Placement{150, 1200, 0, 0}));
@@ -235,7 +235,7 @@ TEST(CanvasDrag, NoSizeFallsBelowZero) {
 }
 
 TEST(CanvasDrag, SeveralAreSizedTogether) {
-    DesignedForm canvas(form);
+    DesignedForm canvas(threeControls);
     canvas.Select({u"T", u"A"});
     canvas.Drag(canvas.HandleOf(u"A", 1, 0), {16, 0}, Qt::AltModifier);
     EXPECT_EQ(canvas.PlaceOf(u"A").width, 1455);
@@ -243,7 +243,7 @@ TEST(CanvasDrag, SeveralAreSizedTogether) {
 }
 
 TEST(CanvasKeys, ArrowsMoveByTheGridAndCtrlByAPixel) {
-    DesignedForm canvas(form);
+    DesignedForm canvas(threeControls);
     const std::string before = canvas.Saved();
     canvas.Select({u"A", u"M"});
     canvas.Key(Qt::Key_Right);
@@ -258,7 +258,7 @@ TEST(CanvasKeys, ArrowsMoveByTheGridAndCtrlByAPixel) {
 }
 
 TEST(CanvasKeys, ShiftSizesAndStopsAtNothing) {
-    DesignedForm canvas(form);
+    DesignedForm canvas(threeControls);
     canvas.Select({u"T"});
     canvas.Key(Qt::Key_Right, Qt::ShiftModifier);
     canvas.Key(Qt::Key_Down, Qt::ShiftModifier | Qt::ControlModifier);
@@ -270,7 +270,7 @@ TEST(CanvasKeys, ShiftSizesAndStopsAtNothing) {
 }
 
 TEST(CanvasKeys, NudgesOfOthersAreStepsOfTheirOwn) {
-    DesignedForm canvas(form);
+    DesignedForm canvas(threeControls);
     canvas.Select({u"A"});
     canvas.Key(Qt::Key_Right);
     canvas.Select({u"T"});
@@ -279,7 +279,7 @@ TEST(CanvasKeys, NudgesOfOthersAreStepsOfTheirOwn) {
 }
 
 TEST(CanvasDrag, TheCursorTellsWhatAHandleDoes) {
-    DesignedForm canvas(form);
+    DesignedForm canvas(threeControls);
     canvas.Select({u"M"});
     const auto shapeAt = [&](QPoint at) {
         canvas.MoveTo(at);

@@ -15,7 +15,7 @@ using host::Placement;
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 
-// Hears what is drawn.
+// Records the controls that are drawn.
 class Drawing {
  public:
     explicit Drawing(const std::string& inner) : canvas(inner) {

@@ -1,4 +1,4 @@
-// What the canvas shows: the form on its desk, the grid under the controls, the handles over them.
+// The look of the canvas: the form on its desk, the grid under the controls, the handles over them.
 #include <QApplication>
 #include <QScrollBar>
 
@@ -9,7 +9,8 @@
 namespace lumenkit::testing {
 namespace {
 
-// The form's inside as it is on the screen, in the device's own pixels.
+// The form as it is on the screen, in device pixels. Points count from the corner of its client
+// area.
 class Picture {
  public:
     explicit Picture(const DesignedForm& canvas)
@@ -17,11 +18,11 @@ class Picture {
           desk_(canvas.canvas->widget()),
           image_(desk_->grab().toImage()) {}
 
-    // At a point from the corner of the form's inside.
+    // Returns the colour at a point.
     QColor At(QPoint onForm) const { return image_.pixelColor(OnImage(onForm)); }
 
-    // Whether something of another colour than the background is there, or on a scaled screen in
-    // the next pixel of the device.
+    // Whether a pixel at this point has another colour than the background. On a scaled screen, the
+    // adjacent pixels of the device count too.
     bool HasDotAt(QPoint onForm, QColor background) const {
         const QPoint at = OnImage(onForm);
         const int reach = image_.devicePixelRatioF() == 1 ? 0 : 1;

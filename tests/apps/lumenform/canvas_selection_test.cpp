@@ -1,4 +1,4 @@
-// What mouse and keyboard select on the canvas.
+// Selecting controls on the canvas by mouse and by keyboard.
 #include <QAbstractButton>
 #include <QAction>
 #include <QApplication>
@@ -17,8 +17,8 @@ namespace {
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 
-// A and B side by side, under them the frame F with C and D in it; E lies half under A.
-const std::string form =
+// A and B are side by side. Below them is the frame F with C and D in it. A covers half of E.
+const std::string nestedControls =
     "   Begin VB.CommandButton A\n Left = 150\n Top = 150\n Width = 900\n Height = 450\n"
     " TabIndex = 2\n End\n"
     "   Begin VB.TextBox B\n Left = 1500\n Top = 150\n Width = 900\n Height = 450\n"
@@ -31,7 +31,7 @@ const std::string form =
     "   End\n"
     "   Begin VB.Label E\n Left = 600\n Top = 300\n Width = 600\n Height = 450\n End\n";
 
-// Collects what of a widget is painted anew.
+// Collects the repainted region of a widget.
 class Painted final : public QObject {
  public:
     explicit Painted(QWidget& widget) { widget.installEventFilter(this); }
@@ -48,7 +48,7 @@ class Painted final : public QObject {
 };
 
 TEST(CanvasSelection, AClickSelectsTheTopmostControl) {
-    DesignedForm canvas(form);
+    DesignedForm canvas(nestedControls);
     canvas.Click({50, 30});
     EXPECT_THAT(canvas.Selected(), ElementsAre("A"));
     canvas.Click({60, 48});
@@ -60,7 +60,7 @@ TEST(CanvasSelection, AClickSelectsTheTopmostControl) {
 }
 
 TEST(CanvasSelection, AClickOnTheBackgroundSelectsTheForm) {
-    DesignedForm canvas(form);
+    DesignedForm canvas(nestedControls);
     canvas.Select({u"A"});
     canvas.Click({250, 20});
     EXPECT_THAT(canvas.Selected(), IsEmpty());
@@ -70,7 +70,7 @@ TEST(CanvasSelection, AClickOnTheBackgroundSelectsTheForm) {
 }
 
 TEST(CanvasSelection, ShiftAndCtrlAddAndRemove) {
-    DesignedForm canvas(form);
+    DesignedForm canvas(nestedControls);
     for (const Qt::KeyboardModifier held : {Qt::ShiftModifier, Qt::ControlModifier}) {
         canvas.Click(canvas.MiddleOf(u"B"));
         canvas.Click(canvas.MiddleOf(u"C"), held);
@@ -83,14 +83,14 @@ TEST(CanvasSelection, ShiftAndCtrlAddAndRemove) {
 }
 
 TEST(CanvasSelection, AClickOnOneOfSeveralMakesItTheLast) {
-    DesignedForm canvas(form);
+    DesignedForm canvas(nestedControls);
     canvas.Select({u"A", u"B", u"C"});
     canvas.Click(canvas.MiddleOf(u"B"));
     EXPECT_THAT(canvas.Selected(), ElementsAre("A", "C", "B"));
 }
 
 TEST(CanvasSelection, ABandSelectsWhatItTouches) {
-    DesignedForm canvas(form);
+    DesignedForm canvas(nestedControls);
     canvas.Drag({250, 5}, {-195, 30});
     EXPECT_THAT(canvas.Selected(), ElementsAre("A", "B", "E"));
     canvas.Drag({250, 5}, {-60, 20});
@@ -99,7 +99,7 @@ TEST(CanvasSelection, ABandSelectsWhatItTouches) {
 }
 
 TEST(CanvasSelection, ABandIsWipedWhenItEnds) {
-    DesignedForm canvas(form);
+    DesignedForm canvas(nestedControls);
     form::Glass& glass = canvas.canvas->GetGlass();
     for (const bool isCancelled : {false, true}) {
         canvas.Press({250, 20});
@@ -118,7 +118,7 @@ TEST(CanvasSelection, ABandIsWipedWhenItEnds) {
 }
 
 TEST(CanvasSelection, ABandTakesTheControlsOfOneContainerOnly) {
-    DesignedForm canvas(form);
+    DesignedForm canvas(nestedControls);
     canvas.Drag({250, 30}, {-240, 100});
     EXPECT_THAT(canvas.Selected(), ElementsAre("A", "B", "F", "E"));
     canvas.Select({});
@@ -127,14 +127,14 @@ TEST(CanvasSelection, ABandTakesTheControlsOfOneContainerOnly) {
 }
 
 TEST(CanvasSelection, ABandWithShiftAdds) {
-    DesignedForm canvas(form);
+    DesignedForm canvas(nestedControls);
     canvas.Select({u"B", u"C"});
     canvas.Drag({250, 5}, {-240, 30}, Qt::ShiftModifier);
     EXPECT_THAT(canvas.Selected(), ElementsAre("B", "C", "A", "E"));
 }
 
 TEST(CanvasSelection, TabGoesRoundByTabIndex) {
-    DesignedForm canvas(form);
+    DesignedForm canvas(nestedControls);
     std::vector<std::string> way;
     for (int step = 0; step < 7; ++step) {
         canvas.Key(Qt::Key_Tab);
@@ -154,13 +154,13 @@ TEST(CanvasSelection, TabLeavesAnEmptyForm) {
 }
 
 TEST(CanvasSelection, CtrlATakesAll) {
-    DesignedForm canvas(form);
+    DesignedForm canvas(nestedControls);
     canvas.Key(Qt::Key_A, Qt::ControlModifier);
     EXPECT_THAT(canvas.Selected(), ElementsAre("A", "B", "F", "C", "D", "E"));
 }
 
 TEST(CanvasSelection, EscGoesOutwards) {
-    DesignedForm canvas(form);
+    DesignedForm canvas(nestedControls);
     canvas.Select({u"A", u"C"});
     canvas.Key(Qt::Key_Escape);
     EXPECT_THAT(canvas.Selected(), ElementsAre("F"));
@@ -171,7 +171,7 @@ TEST(CanvasSelection, EscGoesOutwards) {
 }
 
 TEST(CanvasSelection, IsToldToScreenReaders) {
-    DesignedForm canvas(form);
+    DesignedForm canvas(nestedControls);
     canvas.Select({u"A", u"C"});
     EXPECT_EQ(canvas.canvas->GetGlass().accessibleDescription(), "Selected: A, C");
     canvas.Select({});
@@ -180,7 +180,7 @@ TEST(CanvasSelection, IsToldToScreenReaders) {
 }
 
 TEST(CanvasSelection, DoubleClickAndEnterActivate) {
-    DesignedForm canvas(form);
+    DesignedForm canvas(nestedControls);
     std::vector<std::string> activated;
     QObject::connect(
         canvas.canvas, &form::Canvas::Activated,
@@ -202,7 +202,7 @@ TEST(CanvasSelection, DoubleClickAndEnterActivate) {
 }
 
 TEST(CanvasSelection, TheMenuIsForWhatLiesUnderTheMouse) {
-    DesignedForm canvas(form);
+    DesignedForm canvas(nestedControls);
     std::vector<QPoint> asked;
     QObject::connect(canvas.canvas, &form::Canvas::MenuRequested,
                      [&](QPoint at) { asked.push_back(at); });
@@ -224,12 +224,12 @@ TEST(CanvasSelection, TheMenuIsForWhatLiesUnderTheMouse) {
 }
 
 TEST(CanvasSelection, NothingReachesTheControls) {
-    DesignedForm canvas(form);
+    DesignedForm canvas(nestedControls);
     canvas.Click(canvas.MiddleOf(u"B"));
     QTest::keyClicks(&canvas.canvas->GetGlass(), "typed");
     EXPECT_EQ(QApplication::focusWidget(), &canvas.canvas->GetGlass());
     EXPECT_EQ(canvas.design.History().count(), 0);
-    EXPECT_EQ(canvas.Saved(), FormWith(form).Write().form);
+    EXPECT_EQ(canvas.Saved(), FormWith(nestedControls).Write().form);
 }
 
 TEST(CanvasSelection, KeysOfTheFormAreNotThoseOfTheDesigner) {

@@ -1,4 +1,4 @@
-// What the designer does to a form: steps, selection, new controls, arranging, copies.
+// Changes to a form in the designer: steps, selection, new controls, arranging, copies.
 #include <gmock/gmock.h>
 
 #include "apps/lumenform/design/model/arrange.h"
@@ -283,12 +283,12 @@ TEST(Arrange, MakesTheSameSizeCentersSpacesAndSizesToTheGrid) {
     EXPECT_EQ(edited.PlaceOf(u"cmdA"), "1000 x 495 at 120, 120");
     form::MakeSameSize(edited.design, form::Dimension::Height);
     EXPECT_EQ(edited.PlaceOf(u"cmdA"), "1000 x 700 at 120, 120");
-    // 4500 wide: the two together are 3280 wide.
+    // The form is 4500 wide. The two controls together span 3280.
     form::CenterOnContainer(edited.design, Qt::Horizontal);
     EXPECT_EQ(edited.PlaceOf(u"cmdA"), "1000 x 700 at 610, 120");
     EXPECT_EQ(edited.PlaceOf(u"cmdC"), "1000 x 700 at 2890, 2000");
     edited.Select({u"cmdA", u"cmdC", u"cmdB"});
-    // From 120 to 2700: 700 + 495 + 700 of controls and two gaps of 342.5.
+    // From 120 to 2700: controls of 700 + 495 + 700 and two gaps of 342.5.
     form::SpaceEvenly(edited.design, Qt::Vertical);
     EXPECT_EQ(edited.PlaceOf(u"cmdB"), "1215 x 495 at 600, 1163");
     form::SizeToGrid(edited.design, 120);

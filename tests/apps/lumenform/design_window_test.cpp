@@ -1,4 +1,4 @@
-// The designer as people meet it: first screen, files, questions, running, menus.
+// The designer's window: first screen, files, questions, running, menus.
 #include "apps/lumenform/design/window/design_window.h"
 
 #include <QAction>
@@ -13,7 +13,6 @@
 #include <QTimer>
 #include <fstream>
 #include <functional>
-#include <iterator>
 
 #include <gmock/gmock.h>
 
@@ -22,6 +21,7 @@
 #include "project/lumenkit_classes.h"
 #include "runtime/qt/element.h"
 #include "tests/apps/lumenform/loaded_view.h"
+#include "tests/support/file_bytes.h"
 #include "tests/support/qt_keys.h"
 
 namespace lumenkit::testing {
@@ -32,12 +32,7 @@ using ::testing::ElementsAre;
 using ::testing::HasSubstr;
 using ::testing::Not;
 
-std::string Bytes(const fs::path& path) {
-    std::ifstream file(path, std::ios::binary);
-    return {std::istreambuf_iterator<char>(file), {}};
-}
-
-// Presses a button of the next question, and notes what it said.
+// Presses a button of the next question, and records its text.
 class Answer {
  public:
     explicit Answer(const QString& button) {
@@ -82,7 +77,7 @@ class DesignWindowTest : public ::testing::Test {
 
     QString Path(const QString& name) const { return folder.filePath(name); }
     fs::path File(const QString& name) const { return form::PathOf(Path(name)); }
-    // A copy of a sample, with its companion.
+    // Copies a sample and its companion. Returns the path of the copy.
     QString Copy(const std::string& name) {
         for (const fs::path& source :
              {sampleForms / (name + ".frm"), sampleForms / (name + ".frx")}) {
@@ -102,7 +97,7 @@ class DesignWindowTest : public ::testing::Test {
         QTest::keyClick(QApplication::focusWidget(), Qt::Key_A, Qt::ControlModifier);
         QTest::keyClicks(QApplication::focusWidget(), QLatin1String(text));
     }
-    // A command of any menu by its title.
+    // Returns a command of any menu by its title.
     QAction& Command(const QString& title) const {
         for (QAction* action : window.findChildren<QAction*>()) {
             if (action->text().remove(u'&') == title) {
@@ -170,7 +165,7 @@ TEST_F(DesignWindowTest, PutsAControlIntoTheMiddle) {
 
 TEST_F(DesignWindowTest, SavesAndOpensAgain) {
     const QString path = Copy("memo");
-    const std::string before = Bytes(File(QStringLiteral("memo.frm")));
+    const std::string before = FileBytes(File(QStringLiteral("memo.frm")));
     window.Load(path);
     EXPECT_EQ(window.windowTitle(), QStringLiteral("memo.frm[*] – lumenform"));
     Select(u"VMemo1");
@@ -178,7 +173,7 @@ TEST_F(DesignWindowTest, SavesAndOpensAgain) {
     EXPECT_TRUE(window.isWindowModified());
     EXPECT_TRUE(window.Save());
     EXPECT_FALSE(window.isWindowModified());
-    const std::string saved = Bytes(File(QStringLiteral("memo.frm")));
+    const std::string saved = FileBytes(File(QStringLiteral("memo.frm")));
     EXPECT_EQ(saved, Text());
     EXPECT_NE(saved, before);
     Command(QStringLiteral("Close the form")).trigger();
@@ -202,17 +197,17 @@ TEST_F(DesignWindowTest, UndoingWhatWasSavedIsAChange) {
 
 TEST_F(DesignWindowTest, SavingUnderAnotherNameLeavesTheFirstAlone) {
     window.Load(Copy("memo"));
-    const std::string form = Bytes(File(QStringLiteral("memo.frm")));
-    const std::string companion = Bytes(File(QStringLiteral("memo.frx")));
+    const std::string form = FileBytes(File(QStringLiteral("memo.frm")));
+    const std::string companion = FileBytes(File(QStringLiteral("memo.frx")));
     Select(u"VMemo1");
     Design().Edit(QStringLiteral("Text"), [&] {
         Design().View().Find(u"VMemo1")->Own()->Automation().Let(u"Text",
                                                                  lumenkit::Text(u"new\r\ntext"));
     });
     ASSERT_TRUE(window.SaveTo(Path(QStringLiteral("other.frm"))));
-    EXPECT_EQ(Bytes(File(QStringLiteral("memo.frm"))), form);
-    EXPECT_EQ(Bytes(File(QStringLiteral("memo.frx"))), companion);
-    EXPECT_THAT(Bytes(File(QStringLiteral("other.frm"))), HasSubstr("$\"other.frx\""));
+    EXPECT_EQ(FileBytes(File(QStringLiteral("memo.frm"))), form);
+    EXPECT_EQ(FileBytes(File(QStringLiteral("memo.frx"))), companion);
+    EXPECT_THAT(FileBytes(File(QStringLiteral("other.frm"))), HasSubstr("$\"other.frx\""));
     EXPECT_EQ(window.windowTitle(), QStringLiteral("other.frm[*] – lumenform"));
     window.Load(Path(QStringLiteral("other.frm")));
     EXPECT_EQ(
@@ -233,7 +228,7 @@ TEST_F(DesignWindowTest, AFailedSaveSaysSoAndLosesNothing) {
     EXPECT_EQ(Text(), text);
     EXPECT_EQ(window.windowTitle(), QStringLiteral("label.frm[*] – lumenform"));
     EXPECT_TRUE(window.Save());
-    EXPECT_EQ(Bytes(File(QStringLiteral("label.frm"))), text);
+    EXPECT_EQ(FileBytes(File(QStringLiteral("label.frm"))), text);
 }
 
 TEST_F(DesignWindowTest, ABadFileIsToldWithItsLineAndChangesNothing) {
@@ -251,7 +246,7 @@ TEST_F(DesignWindowTest, ABadFileIsToldWithItsLineAndChangesNothing) {
 TEST_F(DesignWindowTest, AsksBeforeChangesAreLost) {
     const QString path = Copy("label");
     window.Load(path);
-    const std::string before = Bytes(File(QStringLiteral("label.frm")));
+    const std::string before = FileBytes(File(QStringLiteral("label.frm")));
     EXPECT_TRUE(window.MayLeave());
     Select(u"VLabel1");
     Nudge();
@@ -261,19 +256,19 @@ TEST_F(DesignWindowTest, AsksBeforeChangesAreLost) {
         EXPECT_THAT(answer.said, HasSubstr("Save the changes to label.frm?"));
     }
     EXPECT_TRUE(window.isVisible());
-    EXPECT_EQ(Bytes(File(QStringLiteral("label.frm"))), before);
+    EXPECT_EQ(FileBytes(File(QStringLiteral("label.frm"))), before);
     {
         const Answer answer(QStringLiteral("Save"));
         EXPECT_TRUE(window.MayLeave());
     }
-    EXPECT_EQ(Bytes(File(QStringLiteral("label.frm"))), Text());
+    EXPECT_EQ(FileBytes(File(QStringLiteral("label.frm"))), Text());
     const std::string saved = Text();
     Nudge();
     {
         const Answer answer(QStringLiteral("Discard"));
         EXPECT_TRUE(window.close());
     }
-    EXPECT_EQ(Bytes(File(QStringLiteral("label.frm"))), saved);
+    EXPECT_EQ(FileBytes(File(QStringLiteral("label.frm"))), saved);
 }
 
 TEST_F(DesignWindowTest, AsksBeforeItReplacesWhatOthersWrote) {
@@ -281,18 +276,18 @@ TEST_F(DesignWindowTest, AsksBeforeItReplacesWhatOthersWrote) {
     Select(u"VLabel1");
     Nudge();
     std::ofstream(File(QStringLiteral("label.frm")), std::ios::app) << "' by others\r\n";
-    const std::string theirs = Bytes(File(QStringLiteral("label.frm")));
+    const std::string theirs = FileBytes(File(QStringLiteral("label.frm")));
     {
         Answer answer(QStringLiteral("Cancel"));
         EXPECT_FALSE(window.Save());
         EXPECT_THAT(answer.said, HasSubstr("Another program wrote"));
     }
-    EXPECT_EQ(Bytes(File(QStringLiteral("label.frm"))), theirs);
+    EXPECT_EQ(FileBytes(File(QStringLiteral("label.frm"))), theirs);
     {
         const Answer answer(QStringLiteral("Replace"));
         EXPECT_TRUE(window.Save());
     }
-    EXPECT_EQ(Bytes(File(QStringLiteral("label.frm"))), Text());
+    EXPECT_EQ(FileBytes(File(QStringLiteral("label.frm"))), Text());
     EXPECT_TRUE(window.Save());
 }
 
@@ -309,7 +304,7 @@ TEST_F(DesignWindowTest, RunsACopyAndComesBackToTheSame) {
     form::LiveControl& memo = *window.Running()->View().Find(u"memPrint");
     TypeKeys(*memo.Own()->Parts().Find(u"Text1", 0)->Widget(), u"x");
     EXPECT_GE(window.Running()->Log().topLevelItemCount(), 1);
-    // The desk around the form is dark, what lies on the form is not.
+    // The desk around the form is dark; the controls on the form are not.
     EXPECT_EQ(window.Running()->View().Find(u"lblPrint")->Widget().backgroundRole(),
               QPalette::Window);
     QTest::keyClick(&window, Qt::Key_F5);
@@ -359,21 +354,21 @@ TEST_F(DesignWindowTest, SavingTakesWhatIsBeingTyped) {
     window.Load(Copy("order"));
     TypeInto(u"Caption", "typed");
     Command(QStringLiteral("Save")).trigger();
-    EXPECT_THAT(Bytes(File(QStringLiteral("order.frm"))), HasSubstr("\"typed\""));
+    EXPECT_THAT(FileBytes(File(QStringLiteral("order.frm"))), HasSubstr("\"typed\""));
     EXPECT_FALSE(window.isWindowModified());
 }
 
 TEST_F(DesignWindowTest, NothingIsSavedWhileWhatIsTypedIsRefused) {
     window.Load(Copy("order"));
-    const std::string before = Bytes(File(QStringLiteral("order.frm")));
+    const std::string before = FileBytes(File(QStringLiteral("order.frm")));
     Select(u"txtName");
     Nudge();
     TypeInto(u"Height", "tall");
     Command(QStringLiteral("Save")).trigger();
-    EXPECT_EQ(Bytes(File(QStringLiteral("order.frm"))), before);
+    EXPECT_EQ(FileBytes(File(QStringLiteral("order.frm"))), before);
     EXPECT_THAT(window.Bench()->Properties().Message().toStdString(), HasSubstr("Height"));
     Command(QStringLiteral("Save")).trigger();
-    EXPECT_NE(Bytes(File(QStringLiteral("order.frm"))), before) << "the line was left";
+    EXPECT_NE(FileBytes(File(QStringLiteral("order.frm"))), before) << "the line was left";
 }
 
 TEST_F(DesignWindowTest, LeavingAsksForWhatIsBeingTyped) {

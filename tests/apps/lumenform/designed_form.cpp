@@ -32,7 +32,7 @@ std::vector<std::string> LinesOf(const std::string& text) {
     return lines;
 }
 
-// Handles lie around what they belong to.
+// Distance of the middle of a handle from the edge of its control, in pixels.
 constexpr int aside = 3;
 
 int HandleAt(int near, int length, int side) {

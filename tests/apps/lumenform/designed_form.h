@@ -18,27 +18,27 @@ void PrintTo(const Placement& place, std::ostream* out);
 
 namespace lumenkit::testing {
 
-/// A form on the canvas of an active window, and a person with mouse and keyboard. Points and
-/// distances are pixels at 96 an inch, so that one is 15 twips; points count from the upper left
-/// corner of the form's inside.
+/// A form on the canvas of an active window, and a user with mouse and keyboard. Points and
+/// distances are in pixels at 96 per inch, so that a pixel is 15 twips. Points count from the upper
+/// left corner of the form's client area.
 class DesignedForm {
  public:
     explicit DesignedForm(forms::Document loaded);
-    /// Without the lines before and behind: see FormWith.
+    /// Takes only the lines inside the form: see FormWith.
     explicit DesignedForm(const std::string& inner);
 
     form::LiveControl& Control(TextView name) const;
     host::Placement PlaceOf(TextView name) const { return Control(name).Place(); }
     std::vector<std::string> Selected() const;
     void Select(const std::vector<Text>& names) { design.SelectNamed(names); }
-    /// The form as it would be written now.
+    /// Returns the form as it would be written now.
     std::string Saved() const { return design.Document().Write().form; }
-    /// Its lines that are no more as they were in `before`, without blanks at their ends; one line
-    /// "(other lines)" where some came or went.
+    /// Returns the lines of the form that differ from `before`, without outer blanks; the one line
+    /// "(other lines)" if the number of lines differs.
     std::vector<std::string> ChangedSince(const std::string& before) const;
 
     QPoint MiddleOf(TextView name) const;
-    /// The middle of the handle: -1, 0 and 1 are the near edge, the middle and the far edge.
+    /// Returns the middle of a handle. -1, 0 and 1 are the near edge, the middle and the far edge.
     QPoint HandleOf(TextView name, int across, int down) const;
     QPoint FormHandle(int across, int down) const;
 
@@ -46,7 +46,7 @@ class DesignedForm {
     void MoveTo(QPoint at, Qt::KeyboardModifiers held = {});
     void Release(QPoint at, Qt::KeyboardModifiers held = {});
     void Click(QPoint at, Qt::KeyboardModifiers held = {});
-    /// From the press to the release, in a few moves.
+    /// Presses at `from`, moves to `from` + `by` in a few steps, and releases.
     void Drag(QPoint from, QPoint by, Qt::KeyboardModifiers held = {});
     void Key(Qt::Key key, Qt::KeyboardModifiers held = {});
 

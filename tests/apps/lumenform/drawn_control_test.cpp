@@ -1,4 +1,4 @@
-// Lines and shapes, which the form itself draws.
+// Lines and shapes, which the form draws itself.
 #include <gmock/gmock.h>
 
 #include "apps/lumenform/design/model/clipboard.h"
@@ -13,7 +13,7 @@ namespace {
 using ::testing::HasSubstr;
 using ::testing::Not;
 
-// Places are whole pixels at every scale that the tests run at.
+// In twips: a whole number of pixels at every scale at which the tests run.
 constexpr float step = 120;
 
 const QColor red(255, 0, 0);
@@ -28,16 +28,16 @@ std::string Line(int x1, int y1, int x2, int y2, const std::string& more = {}) {
            "\n X2 = " + twips(x2) + "\n Y1 = " + twips(y1) + "\n Y2 = " + twips(y2) + "\n End\n";
 }
 
-// Eight steps wide and four high, a step from the corner of the form.
+// A shape that is eight steps wide and four high, one step from the corner of the form.
 std::string Shape(const std::string& more) {
     return "   Begin VB.Shape S\n" + more +
            " Height = 480\n Left = 120\n Top = 120\n Width = 960\n End\n";
 }
 
-// What the form shows in the middle of a pixel.
-class Picture {
+// Reads the colours of the form in the middle of pixels. Points are in steps.
+class ScaledPicture {
  public:
-    explicit Picture(const std::string& inner) {
+    explicit ScaledPicture(const std::string& inner) {
         const LoadedView view(FormWith(inner));
         const QPixmap grabbed = view.view->Client().grab();
         ratio_ = grabbed.devicePixelRatio();
@@ -58,29 +58,30 @@ class Picture {
 };
 
 TEST(DrawnLine, GoesFromEndToEnd) {
-    const Picture level(Line(1, 2, 10, 2));
+    const ScaledPicture level(Line(1, 2, 10, 2));
     EXPECT_EQ(level.At(5, 2), red);
     EXPECT_NE(level.At(5, 2.5), red);
     EXPECT_NE(level.At(11, 2), red);
-    const Picture upright(Line(3, 12, 3, 1));
+    const ScaledPicture upright(Line(3, 12, 3, 1));
     EXPECT_EQ(upright.At(3, 6), red);
     EXPECT_NE(upright.At(4, 6), red);
     const std::string wide = " BorderWidth = 5\n";
     for (const std::string& falling : {Line(1, 1, 9, 9, wide), Line(9, 9, 1, 1, wide)}) {
-        const Picture picture(falling);
+        const ScaledPicture picture(falling);
         EXPECT_EQ(picture.At(3, 3), red);
         EXPECT_NE(picture.At(7, 3), red);
     }
     for (const std::string& rising : {Line(1, 9, 9, 1, wide), Line(9, 1, 1, 9, wide)}) {
-        const Picture picture(rising);
+        const ScaledPicture picture(rising);
         EXPECT_EQ(picture.At(7, 3), red);
         EXPECT_NE(picture.At(3, 3), red);
     }
 }
 
 TEST(DrawnLine, IsAsItsBorderSays) {
-    EXPECT_NE(Picture(Line(1, 2, 10, 2, " BorderStyle = 0\n BorderWidth = 5\n")).At(5, 2), red);
-    const Picture dotted(Line(1, 2, 20, 2, " BorderStyle = 3\n"));
+    EXPECT_NE(ScaledPicture(Line(1, 2, 10, 2, " BorderStyle = 0\n BorderWidth = 5\n")).At(5, 2),
+              red);
+    const ScaledPicture dotted(Line(1, 2, 20, 2, " BorderStyle = 3\n"));
     int drawn = 0;
     int left = 0;
     for (float x = 2; x < 19; x += 0.0625F) {
@@ -88,16 +89,16 @@ TEST(DrawnLine, IsAsItsBorderSays) {
     }
     EXPECT_GT(drawn, 10);
     EXPECT_GT(left, 10);
-    const Picture wide(Line(1, 5, 10, 5, " BorderStyle = 3\n BorderWidth = 9\n"));
+    const ScaledPicture wide(Line(1, 5, 10, 5, " BorderStyle = 3\n BorderWidth = 9\n"));
     for (float x = 2; x < 9; x += 0.0625F) {
-        EXPECT_EQ(wide.At(x, 5), red);  // wide ones have no gaps
+        EXPECT_EQ(wide.At(x, 5), red);  // wide lines have no gaps
     }
-    EXPECT_NE(Picture(Line(1, 2, 10, 2, " Visible = 0   'False\n")).At(5, 2), red);
+    EXPECT_NE(ScaledPicture(Line(1, 2, 10, 2, " Visible = 0   'False\n")).At(5, 2), red);
 }
 
 TEST(DrawnLine, LiesBehindOtherControls) {
     const std::string button = "   Begin VB.TextBox T\n Height = 480\n Width = 960\n End\n";
-    EXPECT_NE(Picture(Line(1, 2, 10, 2) + button).At(4, 2), red);
+    EXPECT_NE(ScaledPicture(Line(1, 2, 10, 2) + button).At(4, 2), red);
 }
 
 TEST(DrawnLine, IsMovedByItsEnds) {
@@ -124,17 +125,18 @@ TEST(DrawnLine, RefusesEndsThatAreNoNumbers) {
 }
 
 TEST(DrawnShape, HasABorderAndAFilling) {
-    const Picture rectangle(Shape(redBorder + blueFill));
+    const ScaledPicture rectangle(Shape(redBorder + blueFill));
     EXPECT_EQ(rectangle.At(1, 1), red);
     EXPECT_EQ(rectangle.At(5, 3), blue);
     EXPECT_NE(rectangle.At(9, 3), blue);
     EXPECT_NE(rectangle.At(0.5, 3), red);
-    const Picture empty(Shape(redBorder));
+    const ScaledPicture empty(Shape(redBorder));
     EXPECT_EQ(empty.At(1, 3), red);
     EXPECT_EQ(empty.At(5, 3), empty.At(20, 10));
-    const Picture opaque(Shape(" BackColor = &H0000FF00&\n BackStyle = 1\n BorderStyle = 0\n"));
+    const ScaledPicture opaque(
+        Shape(" BackColor = &H0000FF00&\n BackStyle = 1\n BorderStyle = 0\n"));
     EXPECT_EQ(opaque.At(5, 3), green);
-    const Picture hatched(
+    const ScaledPicture hatched(
         Shape(" BackColor = &H0000FF00&\n BackStyle = 1\n BorderStyle = 0\n"
               " FillColor = &H00FF0000&\n FillStyle = 3\n"));
     int ground = 0;
@@ -151,11 +153,11 @@ TEST(DrawnShape, HasTheFormThatIsAskedFor) {
     const auto shape = [](int form) {
         return Shape(" BorderStyle = 0\n" + blueFill + " Shape = " + std::to_string(form) + "\n");
     };
-    const auto isFilled = [](const Picture& picture, float x, float y) {
+    const auto isFilled = [](const ScaledPicture& picture, float x, float y) {
         return picture.At(x, y) == blue;
     };
-    for (int form = 0; form <= 6; ++form) {  // 6 is none and stands for a rectangle
-        const Picture picture(shape(form));
+    for (int form = 0; form <= 6; ++form) {  // 6 is no shape and is drawn as a rectangle
+        const ScaledPicture picture(shape(form));
         const bool equalSided = form == 1 || form == 3 || form == 5;
         const bool pointed = form == 0 || form == 1 || form == 6;
         EXPECT_TRUE(isFilled(picture, 5, 3)) << form;
@@ -167,8 +169,8 @@ TEST(DrawnShape, HasTheFormThatIsAskedFor) {
 
 TEST(DrawnShape, ABorderGoesBeyondItsPlaceUnlessItIsInside) {
     const std::string wide = redBorder + " BorderWidth = 9\n";
-    EXPECT_EQ(Picture(Shape(wide)).At(0.75, 3), red);
-    const Picture inside(Shape(wide + " BorderStyle = 6\n"));
+    EXPECT_EQ(ScaledPicture(Shape(wide)).At(0.75, 3), red);
+    const ScaledPicture inside(Shape(wide + " BorderStyle = 6\n"));
     EXPECT_NE(inside.At(0.75, 3), red);
     EXPECT_EQ(inside.At(1.5, 3), red);
 }

@@ -13,14 +13,14 @@ class EditedDesign {
     explicit EditedDesign(forms::Document document)
         : design(surface.context, std::move(document)) {}
 
-    /// Throws where there is none.
+    /// Throws if there is none.
     form::LiveControl& Control(TextView name) const;
     void Select(std::initializer_list<TextView> names);
-    /// The names of the controls that are selected, blanks between.
+    /// Returns the names of the selected controls, separated by blanks.
     std::string Selected() const;
-    /// The form as it would be saved.
+    /// Returns the form as it would be saved.
     std::string Text() const { return design.Document().Write().form; }
-    /// "1215 x 495 at 120, 240" in twips.
+    /// Returns "1215 x 495 at 120, 240", in twips.
     std::string PlaceOf(TextView name) const;
 
     Surface surface;

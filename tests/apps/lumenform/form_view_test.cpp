@@ -1,8 +1,6 @@
-// Forms on the screen: where things are, what they look like, and what is saved.
+// Forms on the screen: the places of controls, their look, and the saved form.
 #include <QApplication>
 #include <QTest>
-#include <fstream>
-#include <iterator>
 
 #include <gmock/gmock.h>
 
@@ -10,6 +8,7 @@
 #include "forms/form_error.h"
 #include "runtime/qt/palette_color.h"
 #include "tests/apps/lumenform/loaded_view.h"
+#include "tests/support/file_bytes.h"
 #include "tests/support/qt_keys.h"
 
 namespace lumenkit::testing {
@@ -18,11 +17,6 @@ namespace {
 namespace fs = std::filesystem;
 using ::testing::Contains;
 using ::testing::HasSubstr;
-
-std::string Bytes(const fs::path& path) {
-    std::ifstream file(path, std::ios::binary);
-    return {std::istreambuf_iterator<char>(file), {}};
-}
 
 bool IsForm(const fs::path& path) {
     const std::string extension = path.extension().string();
@@ -50,7 +44,7 @@ TEST(FormView, EverySampleOpensAndIsSavedAsItWas) {
         }
         for (const form::Mode mode : {form::Mode::Run, form::Mode::Design}) {
             LoadedView view(forms::Load(entry.path(), CodePageOf(entry.path())), mode);
-            EXPECT_EQ(view.Saved(), Bytes(entry.path())) << entry.path();
+            EXPECT_EQ(view.Saved(), FileBytes(entry.path())) << entry.path();
             EXPECT_TRUE(view.surface.interaction.said.empty()) << entry.path();
             EXPECT_TRUE(view.surface.errors.empty()) << entry.path();
         }

@@ -16,12 +16,12 @@ namespace lumenkit::testing {
 /// The folder with the sample forms.
 extern const std::filesystem::path sampleForms;
 
-/// A form from a text without a companion.
+/// Returns a form parsed from a text, without a companion.
 forms::Document FormOf(const std::string& text);
-/// The lines of `inner` within a form of 300 by 200 pixels at 96 pixels an inch.
+/// Returns a form of 300 by 200 pixels at 96 per inch that contains the lines of `inner`.
 forms::Document FormWith(const std::string& inner);
 
-/// What a form needs around it, with messages written down.
+/// The surroundings that a form needs. Messages are recorded.
 struct Surface {
     WrittenInteraction interaction;
     qt::Application application;
@@ -37,11 +37,11 @@ class LoadedView {
     explicit LoadedView(forms::Document loaded, form::Mode mode = form::Mode::Run);
 
     form::LiveControl& Control(TextView name) const;
-    /// The part of one of our controls that has this name.
+    /// Returns the part with this name of a control of this library.
     QWidget& Part(TextView control, TextView part, std::int16_t index = 0) const;
-    /// The form as it would be written now.
+    /// Returns the form as it would be written now.
     std::string Saved();
-    /// "VMemo1.Change"
+    /// The events raised so far: "VMemo1.Change".
     std::vector<std::string> raised;
 
     Surface surface;

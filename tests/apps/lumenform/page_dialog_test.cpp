@@ -1,4 +1,4 @@
-// Property pages for controls that are designed: OK, Cancel, Apply, and what is refused.
+// Property pages for controls in the designer: OK, Cancel, Apply, and refused values.
 #include "apps/lumenform/design/properties/page_dialog.h"
 
 #include <QApplication>
@@ -115,7 +115,7 @@ TEST_F(PageDialog, ARefusalKeepsItOpen) {
     EXPECT_TRUE(CanApply());
     EXPECT_EQ(Caption(), u"old");
     EXPECT_EQ(Steps(), 0);
-    // What was typed is still there, and goes to the control that is there now.
+    // The typed caption is still there, and is applied to the control that exists now.
     Replace(u"txtBulletIndent", u"123");
     Press(QDialogButtonBox::Ok);
     EXPECT_FALSE(dialog->isVisible());

@@ -1,4 +1,4 @@
-// Controls of others, as plain widgets.
+// Controls that are not of this library, as plain widgets.
 #include <QCheckBox>
 #include <QComboBox>
 #include <QLabel>

@@ -1,4 +1,4 @@
-// The property browser: what it lists, how values are edited, refused and undone.
+// The property browser: its list, and how values are edited, refused and undone.
 #include "apps/lumenform/design/properties/property_browser.h"
 
 #include <QApplication>
@@ -50,7 +50,7 @@ std::vector<std::string> NamesIn(const BrowsedForm& form) {
 
 class PropertyBrowser : public ::testing::Test {
  protected:
-    // What follows `name = ` on the line of the control's property; "" where there is none.
+    // Returns the text after `name = ` on the line of the control's property; "" if there is none.
     std::string Stored(TextView control, TextView property) const {
         const form::LiveControl* found = form.design.View().Find(control);
         const forms::Property* stored =
@@ -64,7 +64,7 @@ class PropertyBrowser : public ::testing::Test {
     BrowsedForm form{FormWith(controls)};
 };
 
-// ---- What is listed
+// ---- The list
 
 TEST_F(PropertyBrowser, ListsWhatTheInterfaceTableShows) {
     form.Select({u"List1"});
@@ -109,7 +109,7 @@ TEST_F(PropertyBrowser, ShowsEveryKindOfValue) {
     EXPECT_EQ(form.Shown(u"FontSize"), "8.25");
 }
 
-// ---- Our controls
+// ---- Controls of this library
 
 TEST_F(PropertyBrowser, ATypedTextIsAssignedInOneStep) {
     form.Select({u"Label1"});
@@ -309,7 +309,7 @@ TEST_F(PropertyBrowser, TextsWithLineBreaksAreEditedInAWindow) {
     EXPECT_EQ(ToText(form.Automation(u"Memo1").Get(u"Text")), u"one\r\ntwo");
     EXPECT_EQ(form.Shown(u"Text"), "one  two");
     EXPECT_THAT(form.Saved(), HasSubstr("Text            =   $\"x.frx\":0000\n"));
-    // In its one line it can be read only.
+    // The line in the list is read-only.
     QApplication::setActiveWindow(&form.window);
     form.browser->Edit(u"Text");
     auto* const line = qobject_cast<QLineEdit*>(QApplication::focusWidget());
@@ -385,7 +385,7 @@ TEST_F(PropertyBrowser, WhatOneRefusesIsSetForNone) {
     EXPECT_EQ(form.design.SelectedNames(), (std::vector<Text>{u"Text1", u"Label1"}));
 }
 
-// ---- What the container gives
+// ---- Properties that the container adds
 
 TEST_F(PropertyBrowser, PlacesAreInTheUnitsOfTheForm) {
     BrowsedForm pixels(
@@ -495,7 +495,7 @@ TEST_F(PropertyBrowser, ControlsWithAnIndexShareAName) {
     EXPECT_EQ(two.Shown(u"Index"), "1");
 }
 
-// ---- Controls of others, and the form
+// ---- Plain controls and the form
 
 TEST_F(PropertyBrowser, APlainControlShowsTheUsualPropertiesOfItsClass) {
     form.Select({u"Text1"});

@@ -1,4 +1,4 @@
-// "lumenform render" and what the program says when it cannot do its work.
+// "lumenform render", and the messages of the program when it fails.
 #include <QImage>
 #include <filesystem>
 
@@ -41,7 +41,7 @@ TEST_F(RenderCommand, DrawsAtEachScale) {
 }
 
 TEST_F(RenderCommand, DrawsTheControlsWhereTheyAre) {
-    // The label's background, a system colour, and the form's around it.
+    // The label's background is a system colour; around it is the background of the form.
     for (const int scale : {1, 2}) {
         const QImage picture = Drawn("label.frm", "--scale " + std::to_string(scale));
         EXPECT_EQ(picture.pixelColor(290 * scale, 80 * scale), QColor(Qt::white));

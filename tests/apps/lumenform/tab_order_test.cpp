@@ -1,4 +1,4 @@
-// Where Tab leads in a form.
+// The tab order of a form.
 #include <QApplication>
 #include <QTest>
 

@@ -9,7 +9,7 @@
 
 namespace lumenkit::container {
 
-/// A container's property bag: values by name, which is told apart without regard to case.
+/// A container's property bag: values by name, regardless of case.
 class Bag final : public Counted<IPropertyBag> {
  public:
     Bag() : Counted(IID_IPropertyBag) {}
@@ -19,7 +19,7 @@ class Bag final : public Counted<IPropertyBag> {
         ole::ToVariant(value, **variant);
         values_[name] = std::move(variant);
     }
-    /// Empty where there is none.
+    /// Returns Empty if there is no value.
     Value Get(const std::wstring& name) {
         const auto found = values_.find(name);
         return found == values_.end() ? Value(Empty{}) : ole::FromVariant(**found->second);

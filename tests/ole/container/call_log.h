@@ -7,7 +7,7 @@
 
 namespace lumenkit::container {
 
-/// What a control said to its container, call by call.
+/// Records the calls that a control makes to its container.
 class CallLog {
  public:
     using Lines = std::vector<std::string>;
@@ -18,7 +18,7 @@ class CallLog {
             heard(line);
         }
     }
-    /// Runs with each call, after it was written down.
+    /// Called for each call, after it is recorded.
     std::function<void(const std::string& line)> heard;
 
     Lines Take() { return std::exchange(lines_, {}); }

@@ -4,7 +4,8 @@
 
 namespace lumenkit::container {
 
-/// A COM object of one interface that lives as long as its owner, who can see who holds it.
+/// A COM object with one interface. Its owner decides how long it exists and can read the reference
+/// count.
 template <typename Interface>
 class Counted : public Interface {
  public:
@@ -24,7 +25,7 @@ class Counted : public Interface {
     ULONG STDMETHODCALLTYPE AddRef() override { return ++references_; }
     ULONG STDMETHODCALLTYPE Release() override { return --references_; }
 
-    /// References that others hold.
+    /// Returns the number of references that others hold.
     ULONG References() const { return references_; }
 
  private:

@@ -10,7 +10,7 @@ namespace lumenkit::container {
 
 namespace {
 
-// The members, with the site as the object behind them.
+// The members, bound to the members of the site.
 constexpr std::array moveParameters = {
     Parameter{u"Left", ValueType::Variant, false},
     Parameter{u"Top", ValueType::Variant, false},

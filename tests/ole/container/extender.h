@@ -7,7 +7,7 @@ namespace lumenkit::container {
 
 class Site;
 
-/// A control as this container extends it: Name, Tag, Left, Top, Width, Height, Visible, Move.
+/// The extender of a control in this container: Name, Tag, Left, Top, Width, Height, Visible, Move.
 class Extender final : public Counted<IDispatch> {
  public:
     explicit Extender(Site& site);

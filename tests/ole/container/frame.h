@@ -5,7 +5,7 @@
 
 namespace lumenkit::container {
 
-/// The container's frame, which the control with the keyboard talks to.
+/// The container's frame, which the UI-active control calls.
 class Frame final : public Counted<IOleInPlaceFrame> {
  public:
     explicit Frame(CallLog& log) : Counted(IID_IOleInPlaceFrame), log_(log) {}

@@ -1,4 +1,4 @@
-// Those whom a control tells of its events and changes.
+// The sinks for a control's events and notifications.
 #pragma once
 
 #include <functional>
@@ -9,7 +9,7 @@
 
 namespace lumenkit::container {
 
-/// Listens to an event interface.
+/// A sink for an event interface.
 class EventSink final : public Counted<IDispatch> {
  public:
     using Handler = std::function<HRESULT(DISPID event, DISPPARAMS& arguments)>;
@@ -35,7 +35,7 @@ class EventSink final : public Counted<IDispatch> {
     Handler handler_;
 };
 
-/// Listens to properties; refuses the changes that it is told to.
+/// A sink for property notifications. It refuses changes to the properties in `refused`.
 class PropertySink final : public Counted<IPropertyNotifySink> {
  public:
     explicit PropertySink(CallLog& log) : Counted(IID_IPropertyNotifySink), log_(log) {}
@@ -55,7 +55,7 @@ class PropertySink final : public Counted<IPropertyNotifySink> {
     CallLog& log_;
 };
 
-/// Told of a control's picture and life.
+/// A sink for notifications of a control's picture and lifetime.
 class AdviseSink final : public Counted<IAdviseSink> {
  public:
     explicit AdviseSink(CallLog& log) : Counted(IID_IAdviseSink), log_(log) {}

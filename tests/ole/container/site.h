@@ -8,10 +8,10 @@
 
 namespace lumenkit::container {
 
-/// The object's class factory makes it in this process, without the registry.
+/// Creates the object through its class factory in this process, without the registry.
 ole::ComPtr<IUnknown> Create(const ClassTable& classes, TextView name);
 
-/// A top-level window for controls to lie on.
+/// A top-level window that contains controls.
 class Form {
  public:
     Form();
@@ -25,11 +25,11 @@ class Form {
     HWND window_;
 };
 
-/// A container's place for one control, with everything a control may ask for. It writes the
-/// conversation down.
+/// A container's site for one control, with everything that a control may request. It records the
+/// control's calls.
 class Site final : public IUnknown {
  public:
-    /// The form must outlive it.
+    /// The form must outlive the site.
     explicit Site(Form& form);
     virtual ~Site();
     Site(const Site&) = delete;
@@ -41,11 +41,11 @@ class Site final : public IUnknown {
     IOleClientSite* ClientSite() { return &clientSite_; }
     ULONG References() const { return references_; }
 
-    /// Takes the object and gives it its site.
+    /// Keeps the object and sets its site.
     void Take(ole::ComPtr<IUnknown> object);
-    /// Ends the conversation in good order and lets the object go.
+    /// Closes the object, removes its site and releases it.
     void LetGo();
-    /// Lets the object go without a word.
+    /// Releases the object without closing it.
     void Drop();
     template <typename Interface>
     ole::ComPtr<Interface> As() const {
@@ -56,7 +56,7 @@ class Site final : public IUnknown {
     HRESULT DoVerb(LONG verb);
     void SetPlace(const RECT& place);
 
-    // As the extender shows it; lengths in twips.
+    // The members of the extender. Lengths are in twips.
     Text Name() const { return u"probe"; }
     Text Tag() const { return tag_; }
     void SetTag(TextView tag) { tag_ = tag; }
@@ -67,7 +67,7 @@ class Site final : public IUnknown {
     bool Visible() const { return true; }
     void Move(const Value& left, const Value& top, const Value& width, const Value& height);
 
-    // What the container does not have.
+    // The abilities of the container. Tests switch them off.
     bool hasExtender = true;
     bool allowsActivation = true;
     bool allowsMoving = true;

@@ -85,7 +85,7 @@ void PageFrame::Close() {
 void PageFrame::ShowDirt() {
     const bool isDirty = page_->IsPageDirty() == S_OK;
     if (!isDirty && GetFocus() == apply_) {
-        // A disabled window must not keep the keyboard.
+        // A disabled window must not keep the focus.
         SetFocus(GetNextDlgTabItem(window_, apply_, FALSE));
     }
     EnableWindow(apply_, isDirty ? TRUE : FALSE);

@@ -7,7 +7,7 @@
 
 namespace lumenkit::person {
 
-/// A window with one property page over the buttons Apply and Close, as designers have it.
+/// A window with one property page above the buttons Apply and Close, as designers show it.
 class PageFrame final : public IPropertyPageSite {
  public:
     /// Shows the page of class `type` for `control`.
@@ -16,7 +16,7 @@ class PageFrame final : public IPropertyPageSite {
     PageFrame(const PageFrame&) = delete;
     PageFrame& operator=(const PageFrame&) = delete;
 
-    /// Null once it was closed.
+    /// Null after the window was closed.
     HWND Window() const { return window_; }
     bool TranslateKey(MSG& message);
 

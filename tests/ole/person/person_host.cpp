@@ -1,9 +1,9 @@
-// A form for a person to work with: the three controls in AtlAxWin windows and a button, in this
-// tab order: memo, options, label, button. Keys for whoever watches:
-//     F12  writes a line of JSON: what there is to see, and the events since the last such line
+// A form for a user: the three controls in AtlAxWin windows, and a button. The tab order is memo,
+// options, label, button. Keys for the test:
+//     F12  writes a line of JSON: the visible windows, and the events since the last such line
 //     F9   opens the label's caption page in a frame of this program
 //     F8   opens it in the system's own frame
-//     F7   gives the system other colours, as a high-contrast scheme does
+//     F7   sets other system colours, as a high-contrast scheme does
 #include <array>
 #include <cstdio>
 #include <memory>
@@ -115,7 +115,7 @@ HWND Form::Place(const wchar_t* name, const RECT& place, Settings&& settings, Ev
     if (window == nullptr || !atl_host::Advise(window, sink, events)) {
         throw std::runtime_error("a control is missing");
     }
-    // Each comes after those before it in the tab order.
+    // Each control comes after the controls before it in the tab order.
     SetWindowPos(window, HWND_BOTTOM, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
     return window;
 }
@@ -126,7 +126,7 @@ bool Form::TranslateKey(MSG& message) {
 }
 
 void Form::HeardOfMouse(const char* event, const DISPPARAMS& arguments) {
-    // The last argument is the first in the array.
+    // The array holds the arguments in reverse order.
     const auto number = [&](UINT at) {
         _variant_t value;
         VariantChangeType(&value, &arguments.rgvarg[3 - at], 0, VT_I4);
@@ -226,7 +226,7 @@ bool Form::Watch(WPARAM key) {
     }
 }
 
-// Modal loops are the system's own: the keys are caught as they leave the queue.
+// Modal loops belong to the system, so the keys are caught when they leave the queue.
 LRESULT CALLBACK WatchQueue(int code, WPARAM wParam, LPARAM lParam) {
     auto& message = *reinterpret_cast<MSG*>(lParam);
     if (code == HC_ACTION && wParam == PM_REMOVE && message.message == WM_KEYDOWN &&

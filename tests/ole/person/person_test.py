@@ -52,7 +52,7 @@ class Program:
 
     def close_dialog(self, key, title_bar):
         screen("key", key)
-        # A key that comes while the dialog goes is lost with it.
+        # A key that comes while the dialog closes would be lost.
         time.sleep(1)
         self.activate(title_bar)
         return self.look()
@@ -91,7 +91,7 @@ class Program:
         return found[0] if found else None
 
     def picture(self, name):
-        time.sleep(0.3)  # until the screen has what was drawn
+        time.sleep(0.3)  # until the screen shows the drawing
         file = self.pictures / f"{name}.png"
         subprocess.run(["import", "-window", "root", file], check=True)
         subprocess.run(["convert", file, "-trim", "+repage", file], check=True)
@@ -138,7 +138,7 @@ def memo_copies_and_pastes(program, full):
     equal(program.keys("ctrl+End", "BackSpace")["memo"], full[:-1])
     equal(program.keys("ctrl+z")["memo"], full)
     equal(program.keys("ctrl+Home", "ctrl+shift+End", "Delete")["memo"], "")
-    # Lines that do not fit are cut, the rest of a paste stays.
+    # A paste is cut at the last line; the part that fits stays.
     program.type("1")
     program.keys("Return")
     program.type("2")
@@ -147,7 +147,7 @@ def memo_copies_and_pastes(program, full):
     program.keys("ctrl+Home", "ctrl+shift+End", "ctrl+c")
     equal(program.keys("ctrl+End", "ctrl+v")["memo"], "1\r\n2\r\n31")
     equal(program.focus()["selection"], [7, 7])
-    # An Enter in the middle of the last line drops what followed it.
+    # Enter in the middle of the last line drops the text after the caret.
     equal(program.keys("Return")["memo"], "1\r\n2\r\n3")
     equal(program.keys("ctrl+Home", "ctrl+shift+End", "ctrl+x")["memo"], "")
 
@@ -190,7 +190,7 @@ def label_hears_clicks(program):
           ["label.MouseDown 1 0 450 300", "label.MouseUp 1 0 450 300", "label.Click"])
     equal(program.click(label, button=3, at=at)["events"],
           ["label.MouseDown 2 0 450 300", "label.MouseUp 2 0 450 300", "label.Click"])
-    time.sleep(1)  # so that the next click is not the second of two
+    time.sleep(1)  # so that the next click does not become a double-click
     program.look()
     equal(program.click(label, at=at, times=2)["events"],
           ["label.MouseDown 1 0 450 300", "label.MouseUp 1 0 450 300", "label.Click",
@@ -202,7 +202,7 @@ def page_shows_the_caption(program):
     equal([w["text"] for w in program.state["page"] if w["kind"] == "Edit"], [CAPTION, "* ", "300"])
     program.click(program.find(CAPTION, "Edit", "page"))
     program.keys("ctrl+Home")
-    # The magnifier: the character behind the caret and the four that follow.
+    # The magnifier: the character after the caret and the four that follow.
     program.find("|", "Static", "page")
     program.find("B:1|", "Static", "page")
     for expected in ([0, 5], [5, 9], [9, 14], [14, 18]):
@@ -253,7 +253,7 @@ def page_checks_the_indent(program):
     program.close_dialog("Return", PAGE_TITLE_BAR)
     equal(program.state["dialog"], [])
     equal(program.state["indent"], 125)
-    # What was refused is still there to be mended and applied.
+    # The refused value is still there, to be corrected and applied.
     assert not program.find("Apply", where="page").get("disabled")
     program.click(indent)
     program.keys("End", "BackSpace", "BackSpace")

@@ -1,4 +1,4 @@
-// What a person sees of windows, as JSON.
+// The windows on the screen as JSON.
 #pragma once
 
 #include <string>
@@ -7,10 +7,10 @@
 
 namespace lumenkit::person {
 
-/// A JSON string.
+/// Returns a JSON string.
 std::string Quoted(const std::wstring& text);
 
-/// A JSON array of all visible windows in `top`, which may be null, in tab order.
+/// Returns a JSON array of all visible windows in `top`, which may be null, in tab order.
 std::string WindowsIn(HWND top);
 
 }  // namespace lumenkit::person

@@ -21,7 +21,7 @@ std::string ErrorOf(std::string_view form, const std::string& companion = {},
     }
 }
 
-// A form with one line in its block; the line is the third.
+// Returns a form with one line in its block. The line is the third of the form.
 std::string WithLine(const std::string& line) {
     return "VERSION 5.00\nBegin VB.Form Form1 \n" + line + "\nEnd\n";
 }
@@ -142,7 +142,7 @@ TEST(BrokenForms, PropertiesAreRefused) {
         {WithLine("   Shortcut = {F1"), "x.frm:3:18: expected '}', found the end of the line"},
         {WithLine("   Shortcut = ^{}"), "x.frm:3:17: expected the name of a key, found }"},
         {WithLine("   Format = {6B263850-900B}"), "x.frm:3:27: expected '-', found }"},
-        // the longest part of a line that an error shows
+        // the longest part of a line that an error quotes
         {WithLine("   Caption = abcdefghijklmnopqrstuvwxyz"),
          "x.frm:3:14: expected a value, found abcdefghijklmnopqrstuvwx"},
     });
@@ -210,7 +210,7 @@ TEST(BrokenForms, ShowWhatWasFoundInUtf8) {
                                "ber")),
               "x.frm:3:14: expected a value, found \xC3\x9C"
               "ber");
-    // 23 units, then a surrogate pair: it is shown whole
+    // 23 units, then a surrogate pair, which is quoted whole
     EXPECT_EQ(ErrorOf(WithLine("   Caption = abcdefghijklmnopqrstuvw\xF0\x9F\x98\x80z")),
               "x.frm:3:14: expected a value, found abcdefghijklmnopqrstuvw\xF0\x9F\x98\x80");
 }
@@ -248,7 +248,7 @@ TEST(BrokenForms, NestingIsBounded) {
         "x.frm:258:15: expected at most 256 blocks in one another");
 }
 
-// Not a measure of speed: anything worse than linear would take hours.
+// Not a measure of speed: if reading were worse than linear, the test would take hours.
 TEST(BrokenForms, LargeOnesEnd) {
     std::string properties;
     std::string names;

@@ -7,7 +7,7 @@ namespace {
 
 using namespace std::string_literals;
 
-// The first of these records; the second begins where `size` ends.
+// Returns the string in the first record of a companion whose records begin at `offsets`.
 std::string StringIn(const std::string& bytes, std::vector<std::uint32_t> offsets = {0}) {
     const Companion companion(bytes, std::move(offsets));
     return std::string(companion.String(0));
@@ -25,7 +25,7 @@ TEST(Companion, ReadsTheThreeShapesOfStrings) {
 }
 
 TEST(Companion, TellsTheShapeByTheNextRecord) {
-    // Four bytes 03 00 00 00 could begin a text of three NULs behind one byte as well.
+    // The four bytes 03 00 00 00 could also be a one-byte length and a text of three NULs.
     EXPECT_EQ(StringIn("\3\0\0\0"s + "abc", {0, 4}), "\0\0\0"s);
     EXPECT_EQ(StringIn("\3\0\0\0"s + "abc", {0, 7}), "abc");
     // A one-byte string whose neighbours look like a four-byte length.
@@ -36,7 +36,7 @@ TEST(Companion, ReadsStringsBeforeBytesThatNothingRefersTo) {
     EXPECT_EQ(StringIn("\3abc\4left"s), "abc");
     EXPECT_EQ(StringIn("\xFF\3\0abc\4left"s), "abc");
     EXPECT_EQ(StringIn("\3\0\0\0abc\4left"s), "abc");
-    // No text follows what would be a length of four bytes.
+    // With a length of four bytes, the text would contain a NUL or exceed the record.
     EXPECT_EQ(StringIn("\1\0\0\0\0\0"s), "\0"s);
     EXPECT_EQ(StringIn("\2ab\0"s), "ab");
 }

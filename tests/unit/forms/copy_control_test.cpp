@@ -74,7 +74,7 @@ TEST(DocumentRename, LeadsItsReferencesToACompanionOfItsOwn) {
     const FormBytes renamed = document.Write();
     EXPECT_EQ(renamed.form.find("memo.frx"), std::string::npos);
     EXPECT_EQ(renamed.companion, before.companion);
-    // An earlier state comes back under the present name.
+    // WithBytes restores an earlier state but keeps the present name.
     const Document earlier = document.WithBytes(before);
     EXPECT_EQ(earlier.Name(), "/somewhere/other.frm");
     EXPECT_EQ(earlier.Write().form, renamed.form);

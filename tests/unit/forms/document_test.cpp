@@ -189,7 +189,7 @@ TEST(Document, RefusesTextsWhereThereAreNone) {
     EXPECT_EQ(Refusal(pictures, *root.FindProperty(u"ClientTop")),
               "mdi_parent.frm:7:24: expected a text");
     EXPECT_THROW(pictures.RecordOf(*root.FindProperty(u"Caption")), FormError);
-    // A reference that came with an edit leads nowhere.
+    // A reference added by an edit refers to no record.
     const Property& added = root.Set(u"Tag", Reference{u"mdi_parent.frx", 99, true});
     EXPECT_EQ(
         Refusal(pictures, added),

@@ -8,10 +8,6 @@ namespace {
 
 using namespace std::string_literals;
 
-std::string Golden(const std::string& name) {
-    return ReadFile(std::filesystem::path(LUMENKIT_SOURCE_DIR) / "tests/golden/forms" / name);
-}
-
 std::string RefusalOf(const Document& document) {
     try {
         document.Write();
@@ -31,7 +27,7 @@ TEST(Edit, ReplacesInsertsAndRemovesProperties) {
     label.Set(u"ForeColor", HexNumber{0xFF});
     label.Set(u"Object.ToolTipText", Text(u"new"), u"forecolor");
     EXPECT_FALSE(label.Remove(u"Missing"));
-    EXPECT_EQ(document.Write().form, Golden("label_edited.frm"));
+    EXPECT_EQ(document.Write().form, GoldenForm("label_edited.frm"));
     EXPECT_EQ(label.FindProperty(u"BackStyle")->NamePlace(), Position{});
 }
 
@@ -48,7 +44,7 @@ TEST(Edit, AddsAndRemovesControlsAndLibraries) {
     EXPECT_TRUE(box.RemoveControl(old));
     document.Root().AddControl(u"VB.Timer", u"Timer1").Set(u"Interval", 500);
     document.AddLibrary(u"{00025600-0000-0000-C000-000000000046}#5.2#0", u"crystl32.ocx");
-    EXPECT_EQ(document.Write().form, Golden("all_three_edited.frm"));
+    EXPECT_EQ(document.Write().form, GoldenForm("all_three_edited.frm"));
     EXPECT_EQ(document.Libraries().size(), 2U);
 }
 
@@ -61,11 +57,11 @@ TEST(Edit, MovesTextsToTheCompanion) {
         longText += u"0123456789";
     }
     memo.Set(u"Tag", TextLiteral(longText));
-    // Writing twice gives the same: nothing is appended to what was appended.
+    // Writing twice gives the same result: the second time appends nothing more.
     for (int i = 0; i < 2; ++i) {
         const FormBytes written = document.Write();
-        EXPECT_EQ(written.form, Golden("memo_edited.frm"));
-        EXPECT_EQ(written.companion, Golden("memo_edited.frx"));
+        EXPECT_EQ(written.form, GoldenForm("memo_edited.frm"));
+        EXPECT_EQ(written.companion, GoldenForm("memo_edited.frx"));
     }
     EXPECT_EQ(document.TextOf(*memo.FindProperty(u"Tag")), longText);
 }
@@ -77,7 +73,7 @@ TEST(Edit, KeepsTheWaysOfAFormThatWasWrittenByHand) {
     label.Set(u"Caption", Text(u"|i|slanted"));
     label.Group(u"Font", u"").Set(u"Size", 12);
     label.Set(u"AutoSize", true);
-    EXPECT_EQ(document.Write().form, Golden("by_hand_edited.frm"));
+    EXPECT_EQ(document.Write().form, GoldenForm("by_hand_edited.frm"));
 }
 
 TEST(Edit, GivesAFormItsFirstCompanion) {
@@ -154,7 +150,7 @@ TEST(Edit, MovesControlsAmongTheirNeighbours) {
 
 TEST(Edit, RefusesWhatWouldBeReadAsUtf8) {
     const Document document = Sample("empty.frm").Parse();
-    document.Root().Set(u"Caption", Text(u"Ã©"));  // C3 A9, which UTF-8 has for é
+    document.Root().Set(u"Caption", Text(u"Ã©"));  // C3 A9, which is é in UTF-8
     EXPECT_EQ(RefusalOf(document),
               "empty.frm: all its characters beyond ASCII together would be read as UTF-8");
     document.Root().Set(u"Tag", Text(u"é"));
@@ -173,7 +169,7 @@ TEST(Edit, ChangesTheFirstOfSeveralOfOneName) {
 TEST(Edit, RefusesToLoseCharactersWithTheirPlace) {
     const Document document = Sample("empty.frm").Parse();
     document.Root().Set(u"Caption", Text(u"a 中"));
-    // Line 3, behind `   Caption         =   "a `.
+    // Line 3, after `   Caption         =   "a `.
     EXPECT_EQ(RefusalOf(document), "empty.frm:3:27: U+4E2D cannot be written in Windows-1252");
     document.Root().Set(u"Caption", Text(u"a ä"));
     EXPECT_EQ(RefusalOf(document), "none");

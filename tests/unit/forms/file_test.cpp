@@ -14,7 +14,7 @@ namespace {
 namespace fs = std::filesystem;
 using ::testing::ElementsAre;
 
-// A folder of its own for each test, gone with it.
+// A separate folder for each test, removed with it.
 class FileTest : public ::testing::Test {
  protected:
     FileTest()
@@ -109,7 +109,7 @@ TEST_F(FileTest, AFolderThatIsNotThereTakesNothing) {
     EXPECT_TRUE(Names().empty());
 }
 
-// What was to be written first is in the way of nothing when the second cannot be written.
+// If the second file cannot be written, the new version of the first one is discarded.
 TEST_F(FileTest, ACompanionThatCannotBeWrittenLeavesTheOldForm) {
     const fs::path path = folder / "memo.frm";
     WriteFile(path, "old");

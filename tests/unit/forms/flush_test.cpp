@@ -1,4 +1,4 @@
-// That saving asks the system, at the right moments, to write down what it holds.
+// Saving flushes the files to the disk at the right moments.
 #include "forms/flush.h"
 
 #include <cerrno>
@@ -21,7 +21,7 @@ namespace {
 namespace fs = std::filesystem;
 using ::testing::ElementsAre;
 
-// What happens in place of fsync while a test listens. Gives fsync's result.
+// Called instead of fsync while a test sets it. Returns the result of fsync.
 std::function<int(const fs::path&)> onFlush;
 
 fs::path PathOf(int handle) {
@@ -31,7 +31,7 @@ fs::path PathOf(int handle) {
 }  // namespace
 }  // namespace lumenkit::forms::testing
 
-// Taken before the C library's own by everything in this program.
+// The program uses this function instead of the C library's.
 extern "C" int fsync(int handle) {
     using lumenkit::forms::testing::onFlush;
     return onFlush ? onFlush(lumenkit::forms::testing::PathOf(handle)) : 0;
@@ -61,7 +61,7 @@ class FlushTest : public ::testing::Test {
     std::string StateOf(const std::string& name, const std::string& old) const {
         return name + (ReadFile(folder / name) == old ? " old" : " new");
     }
-    // Which of the two files are new already.
+    // Returns for each of the two files whether it is old or new.
     std::string State() const {
         return StateOf("memo.frm", Sample("memo.frm").form) + ", " +
                StateOf("memo.frx", Sample("memo.frm").companion);
@@ -110,7 +110,7 @@ TEST_F(FlushTest, AFolderThatCannotBeFlushedIsNoReasonToFail) {
 TEST_F(FlushTest, AFileThatIsNotThereCannotBeFlushed) {
     EXPECT_FALSE(FlushFile(folder / "none"));
     EXPECT_TRUE(FlushFile(path));
-    FlushFolder(folder / "none");  // of no consequence
+    FlushFolder(folder / "none");  // fails without effect
 }
 
 }  // namespace

@@ -8,10 +8,9 @@
 namespace lumenkit::forms::testing {
 namespace {
 
-using ::testing::Property;
 using ::testing::Throws;
 
-// A font that is its description.
+// A font that consists of its description only.
 class PlainFont final : public host::Font {
  public:
     explicit PlainFont(FontDescription font) : font_(std::move(font)) {}
@@ -52,11 +51,7 @@ FontDescription Courier() {
     return font;
 }
 
-std::string Golden(const std::string& name) {
-    return ReadFile(std::filesystem::path(LUMENKIT_SOURCE_DIR) / "tests/golden/forms" / name);
-}
-
-// A form, one block and the bag over it.
+// A form, one of its blocks, and the property bag over the block.
 struct Bagged {
     explicit Bagged(Document parsed, std::initializer_list<TextView> names)
         : document(std::move(parsed)), block(Find(document, names)) {}
@@ -130,7 +125,7 @@ TEST(FormBag, ReadsFontsAsNewFonts) {
     verdana.italic = true;
     EXPECT_EQ(Describe(*host::ToFont(root.bag.ReadProperty(u"Font", Empty()))), verdana);
 
-    // What a group does not say is as in a new form.
+    // Attributes that the group does not have take their defaults.
     Bagged byHand(Sample("by_hand.frm").Parse(), {u"VLabel1"});
     FontDescription arial;
     arial.name = u"Arial";
@@ -151,7 +146,7 @@ TEST(FormBag, RefusesFontsThatAreNone) {
     EXPECT_EQ(ErrorOf([&] { form.bag.ReadProperty(u"Font", Empty()); }), 13);
 }
 
-// As a label writes itself, some of it changed.
+// Writes properties in the order in which a label writes them. Some are changed.
 TEST(FormBag, WritesChangesInTheOrderOfWriting) {
     Bagged label(Sample("label.frm").Parse(), {u"VLabel1"});
     FontDescription font;
@@ -173,10 +168,10 @@ TEST(FormBag, WritesChangesInTheOrderOfWriting) {
     bag.WriteProperty(u"BulletPrefix", Text(u"* "), Text());
     bag.WriteProperty(u"AutoSize", true, false);
     bag.WriteProperty(u"BackStyle", std::int16_t{0}, std::int16_t{0});
-    EXPECT_EQ(label.document.Write().form, Golden("label_bag.frm"));
+    EXPECT_EQ(label.document.Write().form, GoldenForm("label_bag.frm"));
 }
 
-// As a memo writes itself into a block that knows only its scroll bars.
+// Writes a memo's properties to a block that has only the scroll bars.
 TEST(FormBag, WritesNewPropertiesBehindTheExtents) {
     Bagged memo(Sample("mdi_child.frm").Parse(), {u"VMemo1"});
     host::PropertyBag& bag = memo.bag;
@@ -190,8 +185,8 @@ TEST(FormBag, WritesNewPropertiesBehindTheExtents) {
     bag.WriteProperty(u"MaxLines", std::int16_t{4}, std::int16_t{0});
     bag.WriteProperty(u"ScrollBars", std::int32_t{3}, std::int32_t{0});
     const FormBytes written = memo.document.Write();
-    EXPECT_EQ(written.form, Golden("mdi_child_bag.frm"));
-    EXPECT_EQ(written.companion, Golden("mdi_child_bag.frx"));
+    EXPECT_EQ(written.form, GoldenForm("mdi_child_bag.frm"));
+    EXPECT_EQ(written.companion, GoldenForm("mdi_child_bag.frx"));
 }
 
 TEST(FormBag, KeepsLinesWhoseValueIsTheSame) {

@@ -1,5 +1,5 @@
-// A program that is killed while it saves a form, before each of its system calls: the
-// old or the new files are there, whole, and the next save is not in the way of what was left.
+// Kills a program before each system call of a save. Afterwards either the old or the new files
+// exist, complete, and files left by the killed program do not prevent the next save.
 #include <csignal>
 #include <cstdlib>
 #include <filesystem>
@@ -23,7 +23,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-// A copy of this program that does one thing and stops before each of its system calls.
+// A child process that calls `act` and stops before each of its system calls.
 class Traced {
  public:
     explicit Traced(const std::function<void()>& act) : process_(fork()) {
@@ -40,7 +40,7 @@ class Traced {
         Wait();
         ptrace(PTRACE_SETOPTIONS, process_, nullptr, PTRACE_O_TRACESYSGOOD | PTRACE_O_EXITKILL);
     }
-    /// Kills it.
+    /// Kills the process if it still runs.
     ~Traced() {
         if (isAlive_) {
             kill(process_, SIGKILL);
@@ -50,14 +50,14 @@ class Traced {
     Traced(const Traced&) = delete;
     Traced& operator=(const Traced&) = delete;
 
-    /// Goes on to the next system call; false when there is none any more.
+    /// Continues to the next system call. Returns false if the process has ended.
     bool Step() {
         do {
             ptrace(PTRACE_SYSCALL, process_, nullptr, nullptr);
         } while (Wait() && NextCall() < 0);
         return isAlive_;
     }
-    /// The number of the system call that begins here, -1 where one ends.
+    /// Returns the number of the system call that begins here, or -1 where one ends.
     long NextCall() const {
         __ptrace_syscall_info information = {};
         ptrace(PTRACE_GET_SYSCALL_INFO, process_, sizeof information, &information);
@@ -101,7 +101,8 @@ class KilledSave : public ::testing::Test {
         return bytes == old || bytes == now;
     }
 
-    // Kills a save of `document` at each step; the files must be those of `old` or its own.
+    // Kills a save of `document` at each step. The files must then be those of `old` or of
+    // `document`.
     void Sweep(const Document& document, const FormBytes& old, const Text& oldText);
     std::set<long> CallsOfASave(const Document& document, int& steps) const;
 
@@ -110,7 +111,7 @@ class KilledSave : public ::testing::Test {
     const fs::path companion;
 };
 
-// Counts the steps of a whole save and gives its system calls.
+// Returns the system calls of a complete save, and counts its steps.
 std::set<long> KilledSave::CallsOfASave(const Document& document, int& steps) const {
     Restore();
     std::set<long> calls;
@@ -166,7 +167,7 @@ TEST_F(KilledSave, LeavesTheOldOrTheNewForm) {
     Sweep(document, old, oldText);
 }
 
-// Too much for one write each.
+// The files are too long for one write each.
 TEST_F(KilledSave, LeavesTheOldOrTheNewFormHoweverLong) {
     constexpr std::size_t lines = 20'000;
     Restore();

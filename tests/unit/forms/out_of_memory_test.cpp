@@ -1,6 +1,6 @@
-// Everything that is done with a form, and in it every allocation made to fail in turn: the one
-// error comes out, the document and its files are as they were, what was asked for works the next
-// time, and nothing is leaked.
+// Runs all operations on forms and makes each of their allocations fail in turn. The operation must
+// raise std::bad_alloc and leave the document and its files unchanged, it must work the next time,
+// and nothing may leak.
 #include <cstdint>
 #include <filesystem>
 #include <functional>
@@ -31,7 +31,7 @@ using lumenkit::testing::FailAllocation;
 using lumenkit::testing::LiveAllocations;
 using ::testing::StartsWith;
 
-// Whether `act` ends in the failure of its `failing`-th allocation.
+// Whether `act` fails at its `failing`-th allocation.
 template <typename Act>
 bool RunsOut(std::int64_t failing, const Act& act) {
     FailAllocation(failing);
@@ -117,7 +117,7 @@ Block& Memo(const Document& document) {
     return Find(document, {u"VMemo1"});
 }
 
-// With a companion, a library, a font, code and two controls.
+// Returns a form with a companion, a library, a font, code and two controls.
 Document EditedForm() {
     Document document = Sample("memo.frm").Parse();
     document.Root().AddControl(u"lumenkit.VLabel", u"VLabel1").Set(u"Caption", Text(u"plain"));
@@ -159,7 +159,7 @@ const std::vector<Edit>& Edits() {
     return edits;
 }
 
-// Names are kept beside what is written.
+// Also compares the names, which are not part of the written bytes.
 void ExpectSame(const Document& document, const Document& expected) {
     EXPECT_EQ(Written(document), Written(expected));
     EXPECT_EQ(document.Name(), expected.Name());
@@ -212,7 +212,7 @@ TEST(FormOutOfMemory, ARecordThatFindsNoRoomLengthensNoOther) {
     EXPECT_EQ(document.RecordOf(document.Root().Set(u"Picture", added)), record);
 }
 
-// What went into the other form's companion before stays there.
+// If the copy fails, records already added to the other form's companion stay there.
 TEST(FormOutOfMemory, ACopyInAnotherFormIsMadeWholeOrNotAtAll) {
     const Document from = ParseBytes(
         "VERSION 5.00\nBegin A B\n   Begin C D\n      Picture = \"x.frx\":0005\n"
@@ -275,8 +275,8 @@ TEST(FormOutOfMemory, ReadingAPropertyHarmsNothing) {
     }
 }
 
-// Property by property, so that a save may stop half-way; each of them is whole, and the next save
-// completes what there is.
+// Properties are written one by one, so a failed save may stop half-way. Each property is written
+// completely or not at all, and the next save completes the rest.
 TEST(FormOutOfMemory, SavedPropertiesAreCompletedTheNextTime) {
     const auto save = [](const Document& document) {
         FormBag bag(document, Memo(document), MakeFont);
@@ -300,7 +300,7 @@ TEST(FormOutOfMemory, SavedPropertiesAreCompletedTheNextTime) {
     }
 }
 
-// Controls trap the errors of their procedures, so the keeper does not hear that saving stopped.
+// Controls trap the errors of their procedures, so the keeper does not see that saving stopped.
 TEST(FormOutOfMemory, AKeeperWritesTheNextTimeWhatAControlCouldNot) {
     const auto trapped = [](host::PropertyBag& bag) {
         try {
@@ -321,7 +321,7 @@ TEST(FormOutOfMemory, AKeeperWritesTheNextTimeWhatAControlCouldNot) {
         FailAllocation(failing);
         try {
             keeper.Update(trapped);
-        } catch (const std::bad_alloc&) {  // before or behind what the control does
+        } catch (const std::bad_alloc&) {  // before or after the control's part
             EXPECT_FALSE(AllocationFailurePending());
         }
         fired = !AllocationFailurePending();

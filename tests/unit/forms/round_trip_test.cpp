@@ -80,7 +80,7 @@ class Mutation {
     }
 
  private:
-    // A whole line goes elsewhere, so that the result is often sound.
+    // Moves a whole line, so that the result is often valid.
     void SwapLines(std::string& bytes) {
         const std::size_t start = bytes.find('\n', Below(bytes.size()));
         const std::size_t end = start == std::string::npos ? start : bytes.find('\n', start + 1);
@@ -116,7 +116,7 @@ TEST(RoundTrip, OrARefusalFollowsFromAnyDamage) {
         } catch (const FormError&) {
         }
     }
-    // The damage must leave enough forms sound for the other half of the promise to be tried.
+    // Enough damaged forms must still be valid, so that writing them back is tested too.
     EXPECT_GT(sound, runs / 20);
     EXPECT_LT(sound, runs);
 }

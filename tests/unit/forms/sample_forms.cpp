@@ -76,6 +76,10 @@ std::string ReadFile(const fs::path& path) {
     return {std::istreambuf_iterator<char>(stream), {}};
 }
 
+std::string GoldenForm(const std::string& name) {
+    return ReadFile(fs::path(LUMENKIT_SOURCE_DIR) / "tests/golden/forms" / name);
+}
+
 void WriteFile(const fs::path& path, std::string_view bytes) {
     std::ofstream stream(path, std::ios::binary);
     stream << bytes;

@@ -1,4 +1,4 @@
-// The forms in samples/forms, and short ways to forms in memory.
+// Access to the forms in samples/forms, and helpers for forms in memory.
 #pragma once
 
 #include <filesystem>
@@ -14,25 +14,28 @@ struct SampleForm {
     std::string name;  ///< "memo.frm"
     int codePage = defaultCodePage;
     std::string form;
-    std::string companion;  ///< empty when it has none
+    std::string companion;  ///< empty if it has none
 
     Document Parse() const;
 };
 
-/// Every sample, by name.
+/// Returns all samples, sorted by name.
 const std::vector<SampleForm>& SampleForms();
 const SampleForm& Sample(std::string_view name);
 
 std::filesystem::path SamplePath(std::string_view name);
-/// Fails the test where the file cannot be read.
+/// Fails the test if the file cannot be read.
 std::string ReadFile(const std::filesystem::path& path);
+/// A file of tests/golden/forms.
+std::string GoldenForm(const std::string& name);
 void WriteFile(const std::filesystem::path& path, std::string_view bytes);
 
-/// A form called "x.frm" in memory.
+/// Parses a form with the name "x.frm".
 Document ParseBytes(std::string_view form, std::string companion = {},
                     int codePage = defaultCodePage);
 
-/// The block that the names lead to from the outermost one; fails the test where there is none.
+/// Returns the block to which the names lead from the outermost block. Fails the test if there is
+/// none.
 Block& Find(const Document& document, std::initializer_list<TextView> names);
 
 }  // namespace lumenkit::forms::testing

@@ -19,7 +19,7 @@ namespace {
 constexpr double infinity = std::numeric_limits<double>::infinity();
 constexpr double notANumber = std::numeric_limits<double>::quiet_NaN();
 
-// The value of `calculate()`, or nothing when it overflows.
+// Returns the value of `calculate()`, or nothing if it overflows.
 template <typename Calculation>
 std::optional<std::int64_t> Outcome(Calculation&& calculate) {
     try {
@@ -38,7 +38,7 @@ std::optional<std::int64_t> Fitting(std::int64_t value) {
                : std::optional(value);
 }
 
-// Everything near the limits, near 0 and near what squares to the limits.
+// Returns all values near the limits, near 0 and near the square roots of the limits.
 template <typename Storage>
 std::vector<Storage> Samples() {
     constexpr std::int64_t low = std::numeric_limits<Storage>::min();

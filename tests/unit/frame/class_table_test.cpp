@@ -14,16 +14,16 @@ constexpr std::array classes = {
                     .kind = ClassKind::PropertyPage,
                     .interfaceTable = &emptyInterface},
 };
-constexpr ClassTable table = {u"lumenkit", classes};
+constexpr ClassTable classTable = {u"lumenkit", classes};
 
 TEST(ClassTable, FindsAClassByItsProgrammaticIdentifier) {
-    EXPECT_EQ(table.Find(u"lumenkit.VLabel"), &classes[0]);
-    EXPECT_EQ(table.Find(u"lumenkit.VLabelCaption"), &classes[1]);
+    EXPECT_EQ(classTable.Find(u"lumenkit.VLabel"), &classes[0]);
+    EXPECT_EQ(classTable.Find(u"lumenkit.VLabelCaption"), &classes[1]);
 }
 
 TEST(ClassTable, FindsItWithoutRegardToCase) {
-    EXPECT_EQ(table.Find(u"LUMENKIT.vlabel"), &classes[0]);
-    EXPECT_EQ(table.Find(u"LumenKit.VLABELCAPTION"), &classes[1]);
+    EXPECT_EQ(classTable.Find(u"LUMENKIT.vlabel"), &classes[0]);
+    EXPECT_EQ(classTable.Find(u"LumenKit.VLABELCAPTION"), &classes[1]);
 }
 
 TEST(ClassTable, FindsNothingElse) {
@@ -31,7 +31,7 @@ TEST(ClassTable, FindsNothingElse) {
          {u"", u".", u"VLabel", u"lumenkit", u"lumenkit.", u".VLabel", u"lumenkit.VLab",
           u"lumenkit.VLabels", u"lumenkit.VLabel.1", u"lumenkits.VLabel", u"lumenkit..VLabel",
           u"lumenkit VLabel", u" lumenkit.VLabel", u"other.VLabel"}) {
-        EXPECT_EQ(table.Find(identifier), nullptr);
+        EXPECT_EQ(classTable.Find(identifier), nullptr);
     }
 }
 

@@ -11,7 +11,7 @@
 namespace lumenkit {
 namespace {
 
-// What becomes of `original` when a handler puts `given` in its place.
+// Returns the argument after a handler has replaced `original` by `given`.
 Value Restored(const Value& original, const Value& given) {
     std::array arguments = {given};
     const std::array originals = {original};

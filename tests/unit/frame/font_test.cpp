@@ -79,7 +79,7 @@ TEST(Font, IsTheSameAsAnotherWithAllItsAttributes) {
     }
 }
 
-// An object that is no font.
+// An object that is not a font.
 class Stranger : public Object {
  public:
     std::optional<std::int32_t> FindMember(TextView /*name*/) const override { return {}; }

@@ -18,7 +18,7 @@ namespace {
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-// Everything that a person or a trace would notice, in order.
+// Everything that a user or a trace observes, in order.
 using Log = std::vector<std::string>;
 
 class LoggedScreen : public host::Interaction {

@@ -90,7 +90,7 @@ TEST(ParseNumber, StopsAtTheFirstOtherUnit) {
     EXPECT_EQ(ParseNumber(TextView(u"1\0002", 3)), 1);
 }
 
-// Numbers short enough for the quick way, and the first that are not.
+// Numbers that are short enough for the fast path, and the first that are not.
 TEST(ParseNumber, ReadsWholeNumbersOfAnyLengthBeforeACommaABarAndTheEnd) {
     for (const TextView behind : {u"", u",", u"|", u",7", u"|7"}) {
         EXPECT_EQ(ParseNumber(behind), 0);
@@ -264,7 +264,7 @@ TEST(ParseNumber, UnderflowsToZeroThroughDenormals) {
     EXPECT_EQ(ParseNumber(u"." + Text(1000, u'0') + u"1"), 0);
 }
 
-// What the C library makes of the same decimal number.
+// Compares with the result of the C library for the same decimal number.
 void ExpectAsStrtod(const std::string& image) {
     const double expected = std::strtod(image.c_str(), nullptr);
     const Text text = FromUtf8(image);
@@ -341,18 +341,32 @@ TEST(ParseNumber, AgreesWithStrtodBesideMidpointsOfEveryMagnitude) {
                   std::numeric_limits<long double>::min_exponent < -2000);
     Generator generator;
     for (int i = 0; i < testing::Rounds(5'000); ++i) {
-        // Half way from a double to the next; half of them denormal, whose midpoints are longest.
+        // Half-way between a double and the next one. Half of them are denormal; these have the
+        // longest midpoints.
         const auto mantissa = static_cast<std::int64_t>(generator.Bits() >> 11U) | 1;
         const int exponent = i % 2 == 0 ? -1075 : -1075 + generator.Below(2000);
         const long double midpoint = std::ldexp(static_cast<long double>(mantissa), exponent);
         char exact[900];
-        std::snprintf(exact, sizeof exact, "%.799Le", midpoint);  // 767 digits say it all
+        std::snprintf(exact, sizeof exact, "%.799Le", midpoint);  // 767 digits suffice
         const std::string image = exact;
         const std::size_t mark = image.find('e');
         ExpectAsStrtod(image);
         ExpectAsStrtod(image.substr(0, mark) + "1" + image.substr(mark));
         ExpectAsStrtod(image.substr(0, mark) + std::string(200, '0') + "1" + image.substr(mark));
     }
+}
+
+// Each product of the digits and the power of ten lies so close to the middle between two doubles
+// that rounding it to 64 bits first, as x87 registers do, leads to the wrong one of them. The
+// expected values were computed with exact fractions.
+TEST(ParseNumber, RoundsOnce) {
+    EXPECT_EQ(ParseNumber(u"2.920819527489981E+23"), 0x1.eece5ae6e5a2fp+77);
+    EXPECT_EQ(ParseNumber(u"-3.43810814461863E+23"), -0x1.2338161dd532dp+78);
+    EXPECT_EQ(ParseNumber(u"2.966148453968913E+23"), 0x1.f67c2f149d59dp+77);
+    EXPECT_EQ(ParseNumber(u"2.988438385757084E+23"), 0x1.fa42db0910ba7p+77);
+    EXPECT_EQ(ParseNumber(u"5270523302510905E6"), 0x1.1db7343b34553p+72);
+    EXPECT_EQ(ParseNumber(u"1720333184608236E13"), 0x1.bcb219c09ac89p+93);
+    EXPECT_EQ(ParseNumber(u"2234349659160504D21"), 0x1.ae51f183ea08dp+120);
 }
 
 TEST(NumericValue, IsTheNumberThatTheWholeTextIs) {
@@ -440,7 +454,8 @@ TEST(Str, WritesSingles) {
     }
 }
 
-// As digits of the whole number, with a point before the last two and without zeros at the end.
+// Writes the digits of the whole number, with a point before the last two and no trailing
+// zeros.
 Text Hundredths(int count) {
     const int size = std::abs(count);
     std::string image = std::to_string(size / 100);
@@ -456,7 +471,7 @@ TEST(Str, WritesHundredthsOfEverySize) {
     for (int count = -1'200'000; count <= 1'200'000;
          count += (std::abs(count) < 12'000 ? 1 : 13) * testing::RoundShare()) {
         ASSERT_EQ(Str(count / 100.0), Hundredths(count));
-        if (std::abs(count) < 1'000'000) {  // what six digits tell apart in single precision
+        if (std::abs(count) < 1'000'000) {  // single precision distinguishes six digits
             ASSERT_EQ(Str(static_cast<float>(count) / 100.0F), Hundredths(count));
         }
     }

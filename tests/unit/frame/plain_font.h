@@ -1,4 +1,4 @@
-// A font that is nothing but its attributes.
+// A font that consists of its attributes only.
 #pragma once
 
 #include <cstdint>

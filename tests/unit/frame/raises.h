@@ -1,4 +1,4 @@
-// What tests say about errors of the runtime.
+// Matchers for errors of the runtime.
 #pragma once
 
 #include <cstdint>

@@ -66,10 +66,10 @@ TEST(RuntimeError, HasTheRuntimesTextAndNoLineWhenMadeOfANumber) {
 
 TEST(Raise, ThrowsTheErrorWithItsText) {
     const auto described = [](std::int32_t number, const Text& text) {
-        return testing::Throws<RuntimeError>(
-            testing::AllOf(testing::Property(&RuntimeError::Number, number),
-                           testing::Property(&RuntimeError::Line, 0),
-                           testing::Property(&RuntimeError::Description, text)));
+        return ::testing::Throws<RuntimeError>(
+            ::testing::AllOf(::testing::Property(&RuntimeError::Number, number),
+                             ::testing::Property(&RuntimeError::Line, 0),
+                             ::testing::Property(&RuntimeError::Description, text)));
     };
     EXPECT_THAT([] { Raise(ErrorNumber::Overflow); }, described(6, u"Overflow"));
     EXPECT_THAT([] { Raise(380); }, described(380, u"Invalid property value"));
@@ -77,7 +77,7 @@ TEST(Raise, ThrowsTheErrorWithItsText) {
                 described(-2147467259, u"Application-defined or object-defined error"));
 }
 
-// What is known of `thrown` once it is in flight.
+// Throws `thrown` and returns the runtime error that CurrentError makes of it.
 template <typename Thrown>
 RuntimeError Seen(const Thrown& thrown) {
     try {

@@ -1,4 +1,4 @@
-// Letter case beside the table of the C library, where that one knows Unicode.
+// Compares letter case with the C library's Unicode table.
 #include <memory>
 #include <type_traits>
 

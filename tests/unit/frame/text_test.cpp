@@ -16,7 +16,7 @@ TEST(Len, CountsUtf16Units) {
 }
 
 TEST(Len, OverflowsBeyond32Bits) {
-    // Only the length is looked at, so the view may claim what is not there.
+    // Len reads only the length, so the view may extend past the unit.
     const char16_t unit = u'x';
     EXPECT_EQ(Len(TextView(&unit, 2147483647)), 2147483647);
     if constexpr (sizeof(std::size_t) > 4) {
@@ -171,10 +171,10 @@ TEST(LCase, LowersLettersFarBeyondAscii) {
 }
 
 TEST(LCase, NeverChangesTheLength) {
-    // Full mappings of these have two units, simple ones have one or none.
+    // LCase uses simple mappings. The full mapping of U+0130 has two units.
     EXPECT_EQ(LCase(u"\u0130"), u"i");
     EXPECT_EQ(LCase(u"ẞ"), u"ß");
-    // Letters outside the first plane are two surrogates, which have no lower case.
+    // Letters outside the first plane are two surrogates, which have no lower case mapping.
     EXPECT_EQ(LCase(u"\U00010400"), u"\U00010400");
 }
 
@@ -206,7 +206,7 @@ TEST(SameText, IgnoresCaseWhenTold) {
     EXPECT_FALSE(SameText(u"Caption", u"Captio", Compare::IgnoreCase));
     EXPECT_FALSE(SameText(u"Captio", u"Caption", Compare::IgnoreCase));
     EXPECT_FALSE(SameText(u"Strasse", u"Straße", Compare::IgnoreCase));
-    // '@' and '`', '[' and '{' differ as 'A' and 'a' do, but are no letters.
+    // '@' and '`', '[' and '{' differ by the same bit as 'A' and 'a', but are no letters.
     EXPECT_FALSE(SameText(u"@[", u"`{", Compare::IgnoreCase));
 }
 

@@ -16,7 +16,7 @@ struct Pair {
     Text utf16;
 };
 
-// Both edges of every length, by hand.
+// Both edges of every length, written by hand.
 const Pair pairs[] = {
     {"", u""},
     {"\0"s, Text(1, u'\0')},
@@ -64,7 +64,7 @@ TEST(Utf8, CarriesEveryCharacterThereAndBack) {
 
 TEST(Utf8, IsRefusedWhereItIsMalformedWithThePlace) {
     const std::string malformed[] = {
-        // a continuation that continues nothing
+        // a continuation byte without a first byte
         "\x80",
         "\xBF",
         // bytes that never occur
@@ -91,7 +91,7 @@ TEST(Utf8, IsRefusedWhereItIsMalformedWithThePlace) {
         "\xF0",
         "\xF0\x9F",
         "\xF0\x9F\x98",
-        // cut by something else
+        // cut by another byte
         "\xC3x",
         "\xC3\xC3\xA9",
         "\xE2xx",
@@ -103,12 +103,12 @@ TEST(Utf8, IsRefusedWhereItIsMalformedWithThePlace) {
     for (const std::string& sound : {""s, "ab"s, "\xC3\xA9"s, "\xF0\x9F\x98\x80"s}) {
         for (const std::string& bad : malformed) {
             EXPECT_THAT([&] { FromUtf8(sound + bad); },
-                        testing::Throws<MalformedUtf8>(testing::AllOf(
-                            testing::Field(&MalformedUtf8::offset, sound.size()),
-                            testing::Property(&MalformedUtf8::what,
-                                              testing::StrEq("not valid UTF-8 at byte " +
-                                                             std::to_string(sound.size()))))))
-                << testing::PrintToString(bad);
+                        ::testing::Throws<MalformedUtf8>(::testing::AllOf(
+                            ::testing::Field(&MalformedUtf8::offset, sound.size()),
+                            ::testing::Property(&MalformedUtf8::what,
+                                                ::testing::StrEq("not valid UTF-8 at byte " +
+                                                                 std::to_string(sound.size()))))))
+                << ::testing::PrintToString(bad);
         }
     }
 }

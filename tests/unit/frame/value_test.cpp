@@ -14,7 +14,7 @@
 namespace lumenkit {
 namespace {
 
-// An object with a default member and nothing else.
+// An object with only a default member.
 class Holder : public Object {
  public:
     explicit Holder(Value held) : held_(std::move(held)) {}
@@ -70,7 +70,7 @@ std::string Image(double number) {
     return Digits(number, 17);
 }
 
-// What `convert` makes of `value`: an image of the result, or "#" and the number of the error.
+// Returns the result of `convert` as text, or "#" and the number of the error.
 template <typename Convert>
 std::string Outcome(const Value& value, Convert convert) {
     try {

@@ -1,5 +1,5 @@
-// Every call of the contract that a session makes fails once; the control and the runtime must come
-// through each time.
+// Makes each call of the contract in a session fail once. The control and the runtime must survive
+// each failure.
 #include <stdexcept>
 
 #include <gtest/gtest.h>
@@ -14,7 +14,8 @@
 namespace lumenkit::memory {
 namespace {
 
-// Start, use, save, and start again from what was saved; nothing here calls the contract itself.
+// Starts, uses and saves a control, and starts another from the saved properties. It calls nothing
+// of the contract directly.
 void RunSession(Form& form) {
     PropertyBag bag;
     {
@@ -47,7 +48,8 @@ TEST(FaultSweep, EachCallOfASessionMayFail) {
         form.Faults().FailCall(failing, ErrorNumber::OutOfMemory);
         EXPECT_NO_THROW(RunSession(form)) << "call " << failing;
         EXPECT_FALSE(form.Faults().IsArmed()) << "call " << failing;
-        // A box or button that could not be made is missed by others too: one report at least.
+        // A box or button that could not be made causes further errors, so there may be several
+        // reports.
         ASSERT_FALSE(form.GetLog().Messages().empty()) << "call " << failing;
         EXPECT_EQ(form.GetLog().BeepCount(), form.GetLog().Messages().size());
         const Text& text = form.GetLog().Messages()[0]->text;

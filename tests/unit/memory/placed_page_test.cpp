@@ -18,7 +18,7 @@ namespace {
 
 using testing::Raises;
 
-// A page that edits the selected sample's caption and shows it in a sample of its own.
+// A page that edits the caption of the selected sample control and previews it in another one.
 class SamplePage final : public PropertyPage, private host::TextBoxEvents {
  public:
     explicit SamplePage(const PageHost& host) : host_(host) {}

@@ -45,7 +45,7 @@ TEST(MemoryPropertyBag, StoresWhatATestPutsIn) {
     EXPECT_EQ(bag.ReadProperty(u"CAPTION", Text(u"d")), Value(Text(u"x")));
 }
 
-// Against a plain list that is searched from the start.
+// Compares the bag with a plain list that is searched from the start.
 TEST(MemoryPropertyBag, KeepsOrderWhateverIsTakenAway) {
     std::mt19937 random(lumenkit::testing::TestSeed());
     PropertyBag bag;
@@ -62,7 +62,7 @@ TEST(MemoryPropertyBag, KeepsOrderWhateverIsTakenAway) {
             expected.emplace_back(name, value);
         }
         bag.WriteProperty(random() % 2 == 0 ? name : LCase(name), value, std::int32_t{0});
-        // A name that was stored in lower case first keeps that.
+        // The bag keeps the spelling with which a name was stored first.
         ASSERT_TRUE(
             std::ranges::equal(bag.Entries(), expected, [](const auto& one, const auto& other) {
                 return SameText(one.first, other.first, Compare::IgnoreCase) &&

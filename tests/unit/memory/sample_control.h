@@ -38,7 +38,7 @@ class SampleControl final : public Control,
     Text pGetTag();
     void Ask();
 
-    /// What the container called, in order: "Initialize", ...
+    /// The calls of the container, in order: "Initialize", ...
     std::vector<std::string> calls;
 
  private:
@@ -65,7 +65,8 @@ inline constexpr std::int32_t click = 3;     ///< Index
 inline constexpr std::int32_t mouseUp = 4;   ///< Button, X
 }  // namespace sample_event
 
-/// "sample.Sample", its designed state: Text1 with "start", Frame1 with Option1(0) and Option1(1).
+/// "sample.Sample". A new control has Text1 with "start", and Frame1 with Option1(0) and
+/// Option1(1).
 const ClassTable& SampleClasses();
 
 }  // namespace lumenkit::testing

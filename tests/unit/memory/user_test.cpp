@@ -15,7 +15,7 @@
 namespace lumenkit::memory {
 namespace {
 
-// Writes down what happens to a text box, and interferes as told.
+// Records the events of a text box, and changes keys as the test says.
 class Recorder final : public host::TextBoxEvents {
  public:
     void Change() override { lines.emplace_back("change"); }

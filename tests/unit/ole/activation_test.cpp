@@ -134,7 +134,7 @@ TEST_F(ActivationTest, DesignModeIsTheContainersToSay) {
     EXPECT_EQ(ToSingle(list.Get(L"Spacing")), 300.0F);
     site_->Ambient().Set(DISPID_AMBIENT_USERMODE, true);
     EXPECT_EQ(list.Put(L"Spacing", 400.0F), S_OK);
-    EXPECT_EQ(MessageBoxes::Take(), 1);  // refused at run time, and said so
+    EXPECT_EQ(MessageBoxes::Take(), 1);  // refused at run time, with a message
 }
 
 TEST_F(ActivationTest, TheExtendersTagReachesTheMemo) {
@@ -146,7 +146,7 @@ TEST_F(ActivationTest, TheExtendersTagReachesTheMemo) {
     EXPECT_EQ(ToLong(memo.Get(L"MaxLength")), 0);
     site_->hasExtender = false;
     memo.Get(L"MaxLength");
-    EXPECT_EQ(MessageBoxes::Take(), 1);  // there is no Tag then
+    EXPECT_EQ(MessageBoxes::Take(), 1);  // without an extender there is no Tag
 }
 
 TEST_F(ActivationTest, KeysGoToTheControlFirst) {

@@ -92,7 +92,7 @@ TEST_F(ClassFactoryTest, AnObjectHasOneIdentity) {
     EXPECT_EQ(object->QueryInterface(IID_IUnknown, nullptr), E_POINTER);
 }
 
-// An object around a control, as some containers make one.
+// An object that aggregates a control, as some containers do.
 class Around final : public IUnknown {
  public:
     virtual ~Around() = default;

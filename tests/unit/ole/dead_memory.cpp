@@ -1,4 +1,4 @@
-// What is freed is spoilt and never used again, so that whoever touches a dead object crashes.
+// Overwrites freed memory and never reuses it, so that the use of a dead object crashes.
 #include <cstddef>
 #include <cstdlib>
 #include <cstring>

@@ -107,12 +107,12 @@ TEST_F(DispatchTest, FollowsReferences) {
     V_VARIANTREF(&reference) = held.Get();
     EXPECT_EQ(label_.PutVariant(L"BulletIndent", reference), S_OK);
     EXPECT_EQ(Indent(), 34);
-    // A scripts' variable that refers to another.
+    // A script's variable that refers to another variable.
     VARIANT outer = {};
     outer.vt = VT_BYREF | VT_VARIANT;
     V_VARIANTREF(&outer) = &reference;
     EXPECT_EQ(label_.PutVariant(L"BulletIndent", outer), S_OK);
-    // A circle and a hole.
+    // A reference to itself, and null references.
     V_VARIANTREF(&outer) = &outer;
     EXPECT_EQ(label_.PutVariant(L"BulletIndent", outer), DISP_E_TYPEMISMATCH);
     for (const int type : {VT_VARIANT, VT_I2, VT_BSTR, VT_DECIMAL, VT_DISPATCH, VT_R8, VT_CY}) {
@@ -145,11 +145,11 @@ TEST_F(DispatchTest, RefusesWhatDoesNotConvertAndSaysWhich) {
     EXPECT_EQ(label_.PutVariant(L"BulletIndent", variant), DISP_E_TYPEMISMATCH);
     for (VARTYPE type = 0; type < 80; ++type) {
         if (type == VT_BSTR || type == VT_DISPATCH || type == VT_UNKNOWN) {
-            continue;  // what stands there is no pointer
+            continue;  // only types that hold no pointer
         }
         VARIANT odd = {};
         odd.vt = type;
-        label_.PutVariant(L"BulletIndent", odd);  // a result, not a crash
+        label_.PutVariant(L"BulletIndent", odd);  // any result, but no crash
     }
 }
 
@@ -261,7 +261,7 @@ TEST_F(DispatchTest, KeepsTheFontThatAClientSet) {
     EXPECT_EQ(result->vt, VT_DISPATCH);
     EXPECT_EQ(V_DISPATCH(result.Get()), font.Get());
     EXPECT_EQ(Late(font).Put(L"Bold", true), S_OK);
-    // Not a font, and a property that is no object.
+    // An object that is not a font, and a property that takes no object.
     V_DISPATCH(&variant) = label_.Get().Get();
     EXPECT_EQ(label_.Invoke(L"Font", DISPATCH_PROPERTYPUTREF, {variant}), DISP_E_TYPEMISMATCH);
     EXPECT_EQ(label_.Invoke(L"Caption", DISPATCH_PROPERTYPUTREF, {variant}), DISP_E_MEMBERNOTFOUND);

@@ -7,7 +7,7 @@
 namespace lumenkit::ole {
 namespace {
 
-// Calls an entry of an object's vtable as a program does that was compiled with the interface.
+// Calls an entry of an object's vtable, as a program does that was compiled with the interface.
 template <typename... Arguments>
 HRESULT Call(IDispatch* object, std::size_t entry, Arguments... arguments) {
     using Function = HRESULT(STDMETHODCALLTYPE*)(IDispatch*, Arguments...);
@@ -84,7 +84,7 @@ TEST_F(DualInterfaceTest, TakesSinglesAndIndices) {
     EXPECT_EQ(Call(list.Get(), 27, &size), S_OK);
     EXPECT_EQ(size, 8.25F);
     const ComPtr<IDispatch> memo = CreateDual(u"VMemo");
-    // The text box's font decides how many characters fit into an inch.
+    // The font of the text box decides how many characters fit into the page width.
     std::size_t pageWidth = 0;
     const std::vector<Slot> slots =
         SlotsOf(*lumenkitClasses.Find(u"lumenkit.VMemo")->interfaceTable);
@@ -128,7 +128,7 @@ TEST_F(DualInterfaceTest, ErrorsCarryInformation) {
     ASSERT_EQ(label.As(&support), S_OK);
     EXPECT_EQ(support->InterfaceSupportsErrorInfo(own), S_OK);
     EXPECT_EQ(support->InterfaceSupportsErrorInfo(IID_IOleObject), S_FALSE);
-    // Another object than a font.
+    // An object that is not a font.
     SetErrorInfo(0, nullptr);
     EXPECT_EQ(Call(label.Get(), 14, label.Get()), static_cast<HRESULT>(0x800A000D));
     ComPtr<IErrorInfo> information;

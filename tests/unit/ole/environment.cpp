@@ -1,4 +1,4 @@
-// COM on the tests' thread.
+// Initializes COM on the thread of the tests.
 #include <gtest/gtest.h>
 
 #include "runtime/ole/ole_header.h"

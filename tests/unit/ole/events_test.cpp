@@ -19,7 +19,7 @@ class EventsTest : public OleTest {
     ComPtr<IConnectionPoint> Events() {
         return Point(GuidOf(lumenkitClasses.Find(u"lumenkit.VMemo")->eventTable->uniqueIdentifier));
     }
-    // The memo's text box, for typing.
+    // Shows the memo and returns its text box.
     HWND Box() {
         HWND found = nullptr;
         site_.Take(memo_.Get());
@@ -45,7 +45,7 @@ class EventsTest : public OleTest {
 };
 
 constexpr DISPID keyPress = 4;
-constexpr DISPID change = 9;
+constexpr DISPID changeEvent = 9;
 
 TEST_F(EventsTest, ListenersMayChangeArguments) {
     container::EventSink first([&](DISPID event, DISPPARAMS& arguments) {
@@ -62,9 +62,9 @@ TEST_F(EventsTest, ListenersMayChangeArguments) {
             EXPECT_EQ(*V_I2REF(&arguments.rgvarg[0]), 'b');
             *V_I2REF(&arguments.rgvarg[0]) = 'c';
             log_.Add("KeyPress");
-            return E_FAIL;  // nobody's business but its own
+            return E_FAIL;  // the control ignores a listener's failure
         }
-        if (event == change) {
+        if (event == changeEvent) {
             log_.Add("Change");
         }
         return S_OK;
@@ -93,7 +93,7 @@ TEST_F(EventsTest, ListenersMayLeaveWhileTheyAreTold) {
         return S_OK;
     });
     container::EventSink first([&](DISPID event, DISPPARAMS&) {
-        if (event == change) {
+        if (event == changeEvent) {
             log_.Add("first");
             Events()->Unadvise(two);
             Events()->Unadvise(one);

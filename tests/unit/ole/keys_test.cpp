@@ -1,4 +1,4 @@
-// Keys on their way through a container: the control first, then the container.
+// Keys in a container: the control gets a key first, then the container.
 #include "tests/unit/ole/ole_test.h"
 
 namespace lumenkit::ole {
@@ -33,7 +33,7 @@ TEST_F(KeysTest, TabLeavesAMemoAndReturnStaysInIt) {
     const HWND box = GetFocus();
     EXPECT_EQ(Send(WM_KEYDOWN, VK_TAB), S_FALSE);
     EXPECT_EQ(site_.Log().Take(), Lines{"TranslateAccelerator"});
-    EXPECT_EQ(GetFocus(), box);  // it is the container's to move it
+    EXPECT_EQ(GetFocus(), box);  // the container moves the focus
     EXPECT_EQ(Send(WM_KEYDOWN, VK_RETURN), S_OK);
     EXPECT_EQ(site_.Log().Take(), Lines{});
     EXPECT_EQ(Send(WM_KEYDOWN, VK_ESCAPE), S_FALSE);
@@ -53,7 +53,7 @@ TEST_F(KeysTest, ArrowsStayInAnOptionListAndTabLeavesIt) {
     EXPECT_EQ(Send(WM_KEYDOWN, VK_UP), S_OK);
     EXPECT_EQ(ToLong(list.Get(L"ListIndex")), 0);
     EXPECT_EQ(GetFocus(), first);
-    EXPECT_EQ(Send(WM_KEYDOWN, VK_UP), S_OK);  // round the end
+    EXPECT_EQ(Send(WM_KEYDOWN, VK_UP), S_OK);  // wraps around at the end
     EXPECT_EQ(ToLong(list.Get(L"ListIndex")), 2);
     EXPECT_EQ(Send(WM_SYSCHAR, 'B'), S_OK);
     EXPECT_EQ(ToLong(list.Get(L"ListIndex")), 1);

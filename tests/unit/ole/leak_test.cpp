@@ -1,4 +1,4 @@
-// Nothing is left behind, however often controls are used.
+// Repeated use of controls leaves nothing behind.
 #include <atomic>
 #include <set>
 
@@ -10,7 +10,7 @@ extern "C" void STDMETHODCALLTYPE SetOaNoCache();
 namespace lumenkit::ole {
 namespace {
 
-// Counts the blocks of the platform's allocator, in which automation strings lie too.
+// Counts the blocks of the platform's allocator, which holds automation strings too.
 class BlockCounter final : public container::Counted<IMallocSpy> {
  public:
     BlockCounter() : Counted(IID_IMallocSpy) {}
@@ -52,7 +52,7 @@ class BlockCounter final : public container::Counted<IMallocSpy> {
 
 class LeakTest : public OleTest {
  protected:
-    // A life with everything that makes strings and objects.
+    // Creates a control and uses everything that makes strings and objects.
     static void Use(TextView name) {
         const ComPtr<IDispatch> dispatch = Create<IDispatch>(name);
         const Late control(dispatch);
@@ -70,7 +70,7 @@ class LeakTest : public OleTest {
         persist->Save(stream.Get(), TRUE);
         stream->Seek({}, STREAM_SEEK_SET, nullptr);
         persist->Load(stream.Get());
-        persist->Load(stream.Get());  // at its end
+        persist->Load(stream.Get());  // at the end of the stream
         ComPtr<IOleObject> object;
         dispatch.As(&object);
         LPOLESTR type = nullptr;
@@ -93,13 +93,13 @@ TEST_F(LeakTest, TenThousandControlsLeaveNothing) {
 TEST_F(LeakTest, StringsAndObjectsAreFreed) {
     SetOaNoCache();
     for (const TextView name : {u"VLabel", u"VMemo", u"VOptList"}) {
-        Use(name);  // whatever is made once
+        Use(name);  // makes everything that is made only once
     }
     BlockCounter counter;
     ASSERT_EQ(CoRegisterMallocSpy(&counter), S_OK);
     const long none = counter.Blocks();
     const BSTR seen = SysAllocString(L"a string of some length");
-    EXPECT_EQ(counter.Blocks(), none + 1);  // it does count
+    EXPECT_EQ(counter.Blocks(), none + 1);  // the counter works
     SysFreeString(seen);
     EXPECT_EQ(counter.Blocks(), none);
     for (const TextView name : {u"VLabel", u"VMemo", u"VOptList"}) {

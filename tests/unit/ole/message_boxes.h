@@ -7,7 +7,7 @@
 
 namespace lumenkit::ole {
 
-/// Keeps message boxes from opening on this thread and counts them.
+/// Prevents message boxes from opening on this thread, and counts them.
 class MessageBoxes {
  public:
     MessageBoxes();
@@ -15,7 +15,7 @@ class MessageBoxes {
     MessageBoxes(const MessageBoxes&) = delete;
     MessageBoxes& operator=(const MessageBoxes&) = delete;
 
-    /// How many were not shown since the last call.
+    /// Returns the number of boxes prevented since the last call.
     static int Take();
 
  private:

@@ -22,7 +22,7 @@ inline GUID ClassIdOf(TextView name) {
     return GuidOf(lumenkitClasses.Find(whole)->uniqueIdentifier);
 }
 
-/// Leaves no object behind, and shows nobody a message.
+/// Checks after each test that no object is left and that no unexpected message box was shown.
 class OleTest : public ::testing::Test {
  protected:
     static ComPtr<IUnknown> Create(TextView name) {
@@ -45,7 +45,7 @@ class OleTest : public ::testing::Test {
     MessageBoxes boxes_;
 };
 
-/// A control by its IDispatch, as late-bound clients use it.
+/// A control that is used through its IDispatch, as late-bound clients use it.
 class Late {
  public:
     explicit Late(ComPtr<IDispatch> dispatch) : dispatch_(std::move(dispatch)) {}
@@ -56,7 +56,7 @@ class Late {
         dispatch_->GetIDsOfNames(IID_NULL, &names, 1, LOCALE_USER_DEFAULT, &found);
         return found;
     }
-    /// With arguments in the order of automation.
+    /// The arguments are in the order of DISPPARAMS: the last one comes first.
     HRESULT Invoke(const std::wstring& name, WORD flags, std::vector<VARIANT> arguments,
                    VARIANT* result = nullptr, EXCEPINFO* exception = nullptr,
                    UINT* wrong = nullptr) const {

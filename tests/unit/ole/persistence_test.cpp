@@ -30,7 +30,7 @@ Bytes BytesOf(IStream& stream) {
 
 class PersistenceTest : public OleTest {
  protected:
-    // A label that differs from a new one in every kind of value.
+    // Returns a label that differs from a new one in every kind of value.
     static ComPtr<IDispatch> Edited() {
         ComPtr<IDispatch> label = Create<IDispatch>(u"VLabel");
         const Late late(label);
@@ -107,7 +107,7 @@ TEST_F(PersistenceTest, GoesThroughAStream) {
     EXPECT_EQ(loader->IsDirty(), S_FALSE);
     std::uint8_t next = 0;
     EXPECT_EQ(stream->Read(&next, 1, nullptr), S_OK);
-    EXPECT_EQ(next, 0xEE);  // what follows is left alone
+    EXPECT_EQ(next, 0xEE);  // the bytes that follow are not read
     ExpectEdited(loaded);
     EXPECT_EQ(Saved(loaded), bytes);
     EXPECT_EQ(Late(loaded).Put(L"Caption", Text(u"new")), S_OK);
@@ -134,7 +134,7 @@ TEST_F(PersistenceTest, GoesThroughABag) {
     container::Bag bag;
     const ComPtr<IDispatch> label = Edited();
     EXPECT_EQ(As<IPersistPropertyBag>(label)->Save(&bag, TRUE, FALSE), S_OK);
-    EXPECT_EQ(bag.Get(L"Enabled"), Value(Empty{}));  // a default
+    EXPECT_EQ(bag.Get(L"Enabled"), Value(Empty{}));  // a default is not saved
     EXPECT_EQ(bag.Get(L"WordWrap"), Value(true));
     const ComPtr<IDispatch> loaded = Create<IDispatch>(u"VLabel");
     EXPECT_EQ(As<IPersistPropertyBag>(loaded)->Load(&bag, nullptr), S_OK);
@@ -214,7 +214,7 @@ TEST_F(PersistenceTest, RecordsThatLieAreRefusedThoughTheCheckSumIsRight) {
             altered[index] = static_cast<std::uint8_t>(value);
             const ComPtr<IDispatch> label = Create<IDispatch>(u"VLabel");
             As<IPersistStreamInit>(label)->Load(StreamOf(testing::Sealed(altered)).Get());
-            Late(label).Get(L"Caption");  // a result and a usable control, whatever it is
+            Late(label).Get(L"Caption");  // any result, but the control stays usable
         }
     }
 }

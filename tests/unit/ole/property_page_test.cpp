@@ -35,7 +35,7 @@ class PropertyPageTest : public OleTest {
         EXPECT_EQ(page_->Activate(form_.Window(), &place, FALSE), S_OK);
         EXPECT_EQ(page_->Show(SW_SHOW), S_OK);
     }
-    // The page's first text box, which holds the caption.
+    // Returns the page's first text box, which holds the caption.
     HWND CaptionBox() const {
         const HWND page = GetWindow(form_.Window(), GW_CHILD);
         return FindWindowExW(page, nullptr, L"Edit", nullptr);
@@ -97,7 +97,7 @@ TEST_F(PropertyPageTest, TabGoesThroughThePageAndOutOfIt) {
         EXPECT_EQ(used == S_OK, GetFocus() != before);
     }
     EXPECT_GT(stops, 1);
-    EXPECT_LT(stops, 50);  // the last one is the container's
+    EXPECT_LT(stops, 50);  // at the last stop, the key goes to the container
     key.wParam = VK_ESCAPE;
     EXPECT_EQ(page_->TranslateAccelerator(&key), S_FALSE);
 }
@@ -105,7 +105,7 @@ TEST_F(PropertyPageTest, TabGoesThroughThePageAndOutOfIt) {
 TEST_F(PropertyPageTest, FailuresOfTheEditedControlGoToTheHost) {
     const ComPtr<IDispatch> memo = Create<IDispatch>(u"VMemo");
     IUnknown* object = memo.Get();
-    // It has no caption.
+    // A memo has no caption.
     EXPECT_EQ(page_->SetObjects(1, &object), static_cast<HRESULT>(0x800A0000 + 438));
     EXPECT_EQ(page_->SetObjects(0, nullptr), S_OK);
     EXPECT_EQ(page_->Apply(), E_UNEXPECTED);

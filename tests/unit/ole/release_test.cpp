@@ -1,4 +1,4 @@
-// The last reference to an object goes while the object is at work.
+// The last reference to an object is released while a function of the object runs.
 #include <algorithm>
 
 #include "tests/ole/container/sinks.h"
@@ -7,7 +7,7 @@
 namespace lumenkit::ole {
 namespace {
 
-// How a client parts from a control.
+// The way in which a client ends its use of a control.
 enum class Parting { InOrder, Abrupt, ClosedOnly };
 
 DISPID EventNumber(TextView control, TextView event) {
@@ -40,7 +40,7 @@ DISPID PropertyNumber(IDispatch& object, std::wstring name) {
     return found;
 }
 
-// Takes no reference of its own.
+// Takes no reference to the object.
 HRESULT Put(IDispatch& object, const wchar_t* property, const Value& value) {
     Variant variant;
     ToVariant(value, *variant);
@@ -56,7 +56,7 @@ class ReleaseTest : public OleTest, public ::testing::WithParamInterface<Parting
         site_.Take(Create(name));
         name_ = name;
     }
-    // Shows the control; the client parts from it in the event.
+    // Shows the control. In the event, the client ends its use of the control.
     HWND PartIn(TextView event) {
         awaited_ = EventNumber(name_, event);
         Text whole(u"lumenkit.");
@@ -88,7 +88,7 @@ class ReleaseTest : public OleTest, public ::testing::WithParamInterface<Parting
         }
         EXPECT_EQ(GetWindow(form_.Window(), GW_CHILD), nullptr);
     }
-    // No message has been taken out of a queue since.
+    // The objects must be gone before another message is dispatched.
     void ExpectGone() {
         EXPECT_EQ(partings_, 1);
         if (GetParam() == Parting::ClosedOnly) {
@@ -106,7 +106,7 @@ class ReleaseTest : public OleTest, public ::testing::WithParamInterface<Parting
     Text name_;
     DISPID awaited_ = DISPID_UNKNOWN;
     int partings_ = 0;
-    int later_ = 0;  // events after the parting
+    int later_ = 0;  // events after Part
     HWND window_ = nullptr;
     container::EventSink sink_{[this](DISPID event, DISPPARAMS& /*arguments*/) {
         if (partings_ != 0) {
@@ -133,7 +133,7 @@ TEST_P(ReleaseTest, InThePressOfAButton) {
     Click(PartIn(u"MouseUp"));
     ExpectGone();
     if (GetParam() != Parting::ClosedOnly) {
-        EXPECT_EQ(later_, 0);  // no click any more
+        EXPECT_EQ(later_, 0);  // no click follows
     }
 }
 
@@ -154,7 +154,7 @@ TEST_P(ReleaseTest, InAKeyOfAMemo) {
     key.hwnd = box;
     key.message = WM_KEYDOWN;
     key.wParam = VK_LEFT;
-    // Nobody but the site has it.
+    // Only the site holds a reference to the control.
     IOleInPlaceActiveObject* const active = site_.As<IOleInPlaceActiveObject>().Get();
     EXPECT_EQ(active->TranslateAccelerator(&key), S_OK);
     ExpectGone();
@@ -179,7 +179,8 @@ TEST_P(ReleaseTest, InAClickByCode) {
     ExpectGone();
 }
 
-// Whatever the control says while it is shown and gets the keyboard may be the last thing heard.
+// The client may end its use of the control in any call that the control makes while it is shown
+// and gets the focus.
 class VerbTest : public ReleaseTest {};
 
 INSTANTIATE_TEST_SUITE_P(Partings, VerbTest, ::testing::Values(Parting::InOrder, Parting::Abrupt));
@@ -210,7 +211,7 @@ TEST_P(VerbTest, InEveryCallOfTheContainer) {
 
 using LateTest = OleTest;
 
-// Somebody may be told of the control and take a reference when all were given back.
+// A client may take a new reference in a call from the control after all references were released.
 TEST_F(LateTest, AReferenceIsTakenAfterTheLastOne) {
     ComPtr<IOleObject> late;
     container::Form form;
@@ -254,7 +255,7 @@ TEST_P(VerbTest, WhenAPropertyChanges) {
     EXPECT_EQ(listener.References(), 0U);
 }
 
-// A site of a property page that lets the page go when it is told of a change.
+// A property page site that releases the page when it is told of a change.
 class ForgetfulSite final : public container::Counted<IPropertyPageSite> {
  public:
     explicit ForgetfulSite(ComPtr<IPropertyPage2>& page)
@@ -264,7 +265,7 @@ class ForgetfulSite final : public container::Counted<IPropertyPageSite> {
         if (page_ != nullptr && forgets) {
             page_.Reset();
             ++forgotten;
-            EXPECT_EQ(LiveObjects(lumenkitClasses), 2);  // the label too
+            EXPECT_EQ(LiveObjects(lumenkitClasses), 2);  // the page and the label
         }
         return S_OK;
     }
@@ -322,7 +323,7 @@ TEST_F(PageReleaseTest, WhileItTakesItsObjects) {
     ExpectGone();
 }
 
-// An object that has a control as a part of itself, and ends with its last reference.
+// An object that aggregates a control, and deletes itself when its last reference is released.
 class Whole final : public IUnknown {
  public:
     explicit Whole(bool& isGone) : isGone_(isGone) {

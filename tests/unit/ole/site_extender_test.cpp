@@ -11,7 +11,7 @@
 namespace lumenkit::ole {
 namespace {
 
-// A control as a container has it, with its core at hand.
+// A control in a container, with access to its core.
 class Probe final : public Root {
  public:
     Probe(Component& component, const ClassDescriptor& type)
@@ -84,7 +84,7 @@ TEST_F(SiteExtenderTest, BeforeActivationOnlyTheSizeIsKnown) {
     Put(u"Width", 4500.0F);
     EXPECT_EQ(Length(u"Width"), 4500.0F);
     EXPECT_EQ(Length(u"Height"), 1500.0F);
-    Put(u"Left", 600.0F);  // nobody to ask for it
+    Put(u"Left", 600.0F);  // no container can be asked yet
     EXPECT_EQ(Length(u"Left"), 0.0F);
     EXPECT_EQ(Length(u"Width"), 4500.0F);
 }

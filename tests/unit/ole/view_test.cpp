@@ -23,7 +23,7 @@ class ViewTest : public OleTest {
     }
 };
 
-// A bitmap of 32 bits to draw on, all of it in a colour that no control shows.
+// A 32-bit bitmap to draw on. It is filled with a colour that no control shows.
 class Canvas {
  public:
     static constexpr int width = 120;
@@ -172,7 +172,7 @@ TEST_F(ViewTest, ABitmapHoldsThePicture) {
     const auto* bytes = static_cast<const std::uint8_t*>(GlobalLock(medium.hGlobal));
     const auto* header = reinterpret_cast<const BITMAPINFOHEADER*>(bytes);
     EXPECT_EQ(header->biBitCount, 24);
-    // The lower left corner comes first; nothing is written there.
+    // The first pixel is the lower left corner, which shows only the background.
     EXPECT_EQ(bytes[header->biSize], 0x11);
     EXPECT_EQ(bytes[header->biSize + 1], 0x22);
     EXPECT_EQ(bytes[header->biSize + 2], 0x33);
@@ -249,7 +249,7 @@ TEST_F(ViewTest, HelpsPropertyBrowsers) {
 TEST_F(ViewTest, IsSafeAndRunning) {
     DWORD supported = 0;
     DWORD enabled = 0;
-    // The compiler's headers do not tie the interface to its identifier.
+    // The compiler's headers do not attach IObjectSafety's identifier to it.
     ComPtr<IObjectSafety> safety;
     EXPECT_EQ(
         label_->QueryInterface(IID_IObjectSafety, reinterpret_cast<void**>(safety.GetAddressOf())),

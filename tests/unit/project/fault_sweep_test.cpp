@@ -1,6 +1,7 @@
-// Everything that a container or a person can do with the controls and the page, and in it every
-// call of the contract and every allocation made to fail in turn: an error is reported once, or
-// raised by what has no trap; what was done works the next time; and nothing is leaked.
+// Runs every operation of a container or a user on the controls and the page, and makes each call
+// of the contract and each allocation in it fail in turn. An error must be reported once, or be
+// raised by a procedure without a trap. The operation must work the next time, and nothing may
+// leak.
 #include <cstdint>
 #include <functional>
 #include <memory>
@@ -25,7 +26,7 @@ namespace lumenkit::testing {
 
 namespace {
 
-// A form with one thing to try: a control, or a page beside the control that it edits.
+// A form with the object under test: a control, or a page together with the control that it edits.
 class Stage {
  public:
     explicit Stage(const ClassDescriptor& type);
@@ -46,7 +47,7 @@ class Stage {
     memory::User user_{form_};
 };
 
-// What a saved control has in its bag, of all classes: each takes its own.
+// Stores the properties of saved controls of all classes. Each control reads its own.
 void FillBag(memory::PropertyBag& bag, const memory::Form& form) {
     bag.Store(u"Caption",
               Text(u"|B:1|Title|B:0||CR||before:60|* one two |fore:0,128,0|three|u:1|"));
@@ -85,7 +86,7 @@ struct Operation {
 
 using Operations = std::vector<Operation>;
 
-// ---- What can be done
+// ---- Operations
 
 Value ArgumentFor(Stage& stage, ValueType type, TextView member) {
     switch (type) {
@@ -230,23 +231,23 @@ Operations OperationsOf(const ClassDescriptor& type) {
     return operations;
 }
 
-// ---- What comes of it
+// ---- Outcomes
 
 struct Outcome {
-    std::int64_t count = 0;  // of calls or allocations in the operation
+    std::int64_t count = 0;  // calls or allocations in the operation
     bool raised = false;
     bool fired = false;
     std::size_t reports = 0;
     bool isUsable = false;
 };
 
-// Makes the `failing`-th call of the contract or allocation fail; 0: none.
+// Makes one call of the contract or one allocation fail: the `failing`-th, or none for 0.
 class Fault {
  public:
     virtual ~Fault() = default;
     virtual std::int64_t Count(Stage& stage) const = 0;
     virtual void Arm(Stage& stage, std::int64_t failing) const = 0;
-    /// Whether it has happened.
+    /// Cancels a failure that is still to come. Returns whether it has happened.
     virtual bool Disarm(Stage& stage) const = 0;
 };
 
@@ -287,7 +288,7 @@ bool Raises(Stage& stage, const Operation& operation) {
     return false;
 }
 
-// How often out of memory was reported.
+// Counts the reports of "out of memory".
 std::size_t ReportsIn(const memory::Log& log) {
     std::size_t reports = 0;
     for (const memory::ShownMessage* const message : log.Messages()) {
@@ -296,7 +297,7 @@ std::size_t ReportsIn(const memory::Log& log) {
     return reports;
 }
 
-// Whether the same can be done again, and what every control must go through.
+// Whether the operation works when it is repeated, and resizing, painting and saving after it.
 bool WorksOn(Stage& stage, const Operation& operation) {
     stage.Form().GetLog().Clear();
     operation.run(stage);
@@ -322,9 +323,10 @@ Outcome RunWith(const ClassDescriptor& type, const Operation& operation, const F
 
 class FaultSweep : public ::testing::TestWithParam<const ClassDescriptor*> {
  protected:
-    // Each fault of the kind in each operation. Gives the operations that let an error out.
+    // Makes each fault of one kind happen in each operation. Returns the operations that raise an
+    // error.
     static std::set<std::string> Sweep(const Fault& fault);
-    // The operations with a procedure that has no trap, or where the constituents are made.
+    // The operations with a procedure without a trap, and those in which the constituents are made.
     static std::set<std::string> Untrapped();
 };
 
@@ -396,7 +398,7 @@ TEST_P(FaultSweep, LeavesNoEventOut) {
     }
     std::set<Text> all;
     for (const Event& event : GetParam()->eventTable->events) {
-        if (event.name != u"Validate") {  // which the control declares and never raises
+        if (event.name != u"Validate") {  // declared, but never raised
             all.emplace(event.name);
         }
     }

@@ -51,7 +51,7 @@ TEST(Published, ReferencePagesAreThoseOfTheTables) {
     }
 }
 
-/// The line of `text` that begins with `start`; empty when there is none.
+/// Returns the line of `text` that begins with `start`; empty if there is none.
 std::string LineOf(const std::string& text, const std::string& start) {
     const std::size_t position = text.find("\n" + start);
     return position == std::string::npos

@@ -1,4 +1,4 @@
-// Constituents on real widgets: keyboard, colours, accessibility, and the end of their lives.
+// Constituents on real widgets: keyboard, colours, accessibility and destruction.
 #include "runtime/qt/constituents.h"
 
 #include <QAccessible>
@@ -163,7 +163,7 @@ TEST_F(QtOptionsTest, BlanksAndMnemonicsSelect) {
     QTest::keyClick(&Button(1), Qt::Key_Space);
     EXPECT_TRUE(options_->Item(1).IsSelected());
     QTest::keyClick(&form_.window, Qt::Key_T, Qt::AltModifier);
-    QTest::qWait(150);  // a button that is shown pressed for a while
+    QTest::qWait(150);  // the button looks pressed for a while
     EXPECT_TRUE(options_->Item(3).IsSelected());
 }
 

@@ -15,7 +15,7 @@ std::shared_ptr<Face> FaceOf(TextView name, float size, double scale = 1) {
     return Face::For({.size = size, .name = Text(name)}, scale);
 }
 
-// What Qt makes of the whole text by itself.
+// Returns the width that Qt measures for the whole text.
 double MeasuredByQt(const Face& face, TextView text) {
     QTextLayout layout(ToQString(text), face.WidgetFont());
     layout.beginLayout();
@@ -105,7 +105,7 @@ TEST(FaceTest, GlyphsReachAsFarAsMeasured) {
     }
 }
 
-// The runs of simple characters as a layout of Qt's makes them, from the base line.
+// Returns the glyph runs that a QTextLayout makes of simple characters, relative to the baseline.
 QList<QGlyphRun> LaidOutByQt(const Face& face, TextView text) {
     QFont font = face.WidgetFont();
     font.setStyleStrategy(QFont::PreferNoShaping);

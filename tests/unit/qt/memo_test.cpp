@@ -1,4 +1,4 @@
-// VMemo and its text boxes under a user's hands.
+// VMemo and its text boxes, operated by a user.
 #include <QApplication>
 #include <QClipboard>
 #include <QInputMethodEvent>
@@ -145,7 +145,7 @@ TEST_F(QtMemoTest, UndoAndCutAreChangesToo) {
     EXPECT_EQ(Contents(), u"");
     EXPECT_EQ(Changes(), 3);
     EXPECT_EQ(QApplication::clipboard()->text(), QStringLiteral("word"));
-    Edit().undo();  // as the box's own menu does
+    Edit().undo();  // as the box's context menu does
     QApplication::processEvents();
     EXPECT_EQ(Contents(), u"word");
     EXPECT_EQ(Changes(), 4);
@@ -167,7 +167,7 @@ TEST_F(QtMemoTest, NothingOfAnOddTextIsLost) {
         u"a\rb\nc\r\n\0d\te\u2028f\u2029g\xD83D\xDE00h\xD800i\uFFFCj\uFDD0k\uFDD3l\r\n\r"s;
     Let(u"Text", odd);
     EXPECT_EQ(Contents(), odd);
-    // An edit before and one behind keep it too, and so does undoing.
+    // Edits before and after the text keep it, and so does the clipboard.
     Box().SetSelStart(0);
     TypeKeys(Edit(), u"X");
     EXPECT_EQ(Contents(), u"X" + odd);
@@ -299,7 +299,7 @@ TEST_F(QtMemoTest, AMillionUnitsAreTypedInto) {
     Let(u"Text", large);
     Box().SetSelStart(at);
     const Text held = Contents();
-    TypeKeys(Edit(), Text(strokes, u'y'));  // into a line that is full
+    TypeKeys(Edit(), Text(strokes, u'y'));  // into a full line
     EXPECT_EQ(Contents(), held);
 }
 

@@ -1,7 +1,7 @@
-// What a container and a person do with the controls and the page on Qt, and in it every allocation
-// of the controls and of the runtime made to fail in turn. Qt itself gets what it asks for: it does
-// not live without. No exception leaves an event, the error is told once, and the same can be done
-// the next time, with the outcome that it always has.
+// Runs operations of a container and a user on the controls and the page on Qt, and makes each
+// allocation of the controls and of the runtime fail in turn. Allocations of Qt do not fail,
+// because Qt does not handle their failure. No exception may leave an event, the error must be
+// reported once, and the operation must work the next time with its usual result.
 #include <QApplication>
 #include <QClipboard>
 #include <QPointer>
@@ -37,7 +37,7 @@ using testing::FailAllocation;
 using testing::LiveAllocations;
 using testing::TypeKeys;
 
-// A form with one thing to try: a control, or a page beside the label that it edits.
+// A form with the object under test: a control, or a page together with the label that it edits.
 class Stage {
  public:
     explicit Stage(TextView className)
@@ -79,7 +79,7 @@ class Stage {
 struct Act {
     const char* name;
     TextView className;
-    bool isEvent;  // Qt calls, so nothing may come out
+    bool isEvent;  // called by Qt, so it must not raise
     std::function<void(Stage&)> run;
     std::function<void(Stage&)> prepare;
 };
@@ -103,7 +103,7 @@ const Text caption =
     u"|B:1|Title|B:0||CR||before:60|* one two \u4F60\u597D |fore:0,128,0|three|u:1|four";
 const Text lines = u"first line, too long\r\n\u4F60 second\r\nthird";
 
-// A caption that was half compiled stays so until there is a new one.
+// A caption that is only half compiled stays so until a new one is assigned.
 void WithCaption(Stage& on) {
     on.Let(u"Caption", caption);
 }
@@ -263,12 +263,12 @@ bool Raises(Stage& stage, const Act& act) {
     return false;
 }
 
-// What is seen in the end, and what boxes hold.
+// The final picture, and the contents of text boxes.
 struct Result {
     QImage picture;
     QStringList texts;
     qsizetype widgets = 0;
-    bool isConsistent = true;  // whether boxes show what they hold
+    bool isConsistent = true;  // whether boxes show their contents
 };
 
 Result ResultOf(Stage& stage) {
@@ -292,11 +292,11 @@ struct Outcome {
     std::int64_t count = 0;
     bool fired = false;
     bool raised = false;
-    std::size_t told = 0;  // by message or to the form
+    std::size_t told = 0;  // reports by message or to the form
     bool raisedAgain = false;
-    std::size_t toldAgain = 0;  // also of other errors
+    std::size_t toldAgain = 0;  // messages of the repeated run, about any error
     Result result;
-    std::int64_t left = 0;  // allocations that nobody gives back
+    std::int64_t left = 0;  // allocations that are not freed
 };
 
 Outcome RunWith(const Act& act, std::int64_t failing) {
@@ -309,7 +309,7 @@ Outcome RunWith(const Act& act, std::int64_t failing) {
         FailAllocation(failing);
         outcome.raised = Raises(stage, act);
         QApplication::processEvents();
-        QApplication::processEvents();  // what was to be said while it painted
+        QApplication::processEvents();  // delivers the reports of painting
         outcome.fired = failing > 0 && !AllocationFailurePending();
         FailAllocation(0);
         outcome.count = AllocationCount() - before;
@@ -329,7 +329,7 @@ class QtOutOfMemory : public ::testing::TestWithParam<Act> {};
 
 TEST_P(QtOutOfMemory, EachAllocationMayFail) {
     const Act& act = GetParam();
-    RunWith(act, 1);  // caches are filled
+    RunWith(act, 1);  // fills the caches
     const Outcome whole = RunWith(act, 0);
     ASSERT_FALSE(whole.raised);
     ASSERT_EQ(whole.told, 0U);
@@ -338,11 +338,12 @@ TEST_P(QtOutOfMemory, EachAllocationMayFail) {
     for (std::int64_t failing = 1; failing <= whole.count; ++failing) {
         SCOPED_TRACE(failing);
         const Outcome outcome = RunWith(act, failing);
-        // What is painted otherwise than ever before is kept in caches.
+        // A picture that is painted for the first time adds entries to caches, so a leak must show
+        // twice.
         EXPECT_EQ(outcome.left == 0 ? 0 : RunWith(act, failing).left, 0);
         EXPECT_TRUE(outcome.fired);
         EXPECT_FALSE(outcome.raised && act.isEvent) << "out of an event";
-        // What fails while an error is being said has nobody left to hear of it.
+        // If the act itself reports an error, a failure during that report is not reported.
         const std::size_t told = outcome.told + (outcome.raised ? 1 : 0);
         EXPECT_TRUE(told == 1 || (told == 0 && whole.toldAgain > 0)) << told;
         EXPECT_FALSE(outcome.raisedAgain);

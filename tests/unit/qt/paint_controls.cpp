@@ -1,6 +1,6 @@
 // Paints the controls and the caption page with sample contents into PNG files:
 //   paint_controls folder [dark]
-// QT_SCALE_FACTOR says at which scale; without QT_QPA_PLATFORM no screen is used.
+// QT_SCALE_FACTOR sets the scale. If QT_QPA_PLATFORM is not set, no screen is used.
 #include <QApplication>
 #include <QPalette>
 #include <QStyleFactory>
@@ -66,7 +66,7 @@ class Painter {
         options.Automation().Let(u"Caption", Text(u"&Size"));
         options.Automation().Let(u"Contents", Text(u"S;&Small|M;&Medium|L;&Large"));
         options.Automation().Let(u"ListIndex", std::int16_t{1});
-        for (std::int16_t index = 0; index < 3; ++index) {  // below the caption, as a form does
+        for (std::int16_t index = 0; index < 3; ++index) {  // below the caption, as on a form
             auto& button =
                 dynamic_cast<host::Constituent&>(*options.Parts().Find(u"Option1", index));
             host::Placement place = button.Place();

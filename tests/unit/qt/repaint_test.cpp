@@ -1,4 +1,4 @@
-// A label draws its runs, and nothing besides.
+// A label draws exactly its glyph runs.
 #include <QImage>
 #include <QPaintEvent>
 #include <QPainter>
@@ -29,7 +29,7 @@ Text ThirtyLines() {
     return caption;
 }
 
-// The runs of such a line, placed as the label places them.
+// Returns the runs of ThirtyLines, placed as the label places them.
 std::vector<Drawn> RunsOf(Surface& surface, double scale) {
     struct Part {
         TextView text;

@@ -21,7 +21,7 @@ using testing::PaintingControl;
 constexpr Color red = Rgb(255, 0, 0);
 constexpr Color blue = Rgb(0, 0, 255);
 
-// A control that paints as the test says, on a white surface of 200 by 100 pixels.
+// A control that paints as the test says, with a white surface of 200 by 100 pixels.
 class QtSurfaceTest : public ::testing::Test {
  protected:
     QtSurfaceTest() : control_(form_.Place(u"Painting", {150, 75, 3000, 1500})) {
@@ -34,7 +34,7 @@ class QtSurfaceTest : public ::testing::Test {
         PaintingControl::Last().onPaint = std::move(paint);
         control_.Drawing().Area().repaint();
     }
-    // As it is on the screen, in real pixels.
+    // Returns the picture on the screen, in device pixels.
     QImage Picture() { return control_.Drawing().Area().grab().toImage(); }
     static int Count(const QImage& image, QColor color) {
         int count = 0;
@@ -45,7 +45,7 @@ class QtSurfaceTest : public ::testing::Test {
         }
         return count;
     }
-    // The rectangle of all pixels of that colour.
+    // Returns the rectangle that contains all pixels of the colour.
     static QRect Extent(const QImage& image, QColor color) {
         QRect extent;
         for (int y = 0; y < image.height(); ++y) {
@@ -58,7 +58,7 @@ class QtSurfaceTest : public ::testing::Test {
         return extent;
     }
     double Scale() { return control_.devicePixelRatioF(); }
-    // Twips to real pixels.
+    // Converts twips to device pixels.
     int Real(double twips) { return static_cast<int>(std::round(twips / 15 * Scale())); }
 
     testing::QtForm form_{testing::PaintingClasses()};
@@ -76,7 +76,7 @@ TEST_F(QtSurfaceTest, ABoxFillsWholePixelsBothCornersIncluded) {
 TEST_F(QtSurfaceTest, ABoxOfOnePixelIsOnePixel) {
     OnPaint([](host::Surface& surface) {
         surface.FillBox(150, 150, 150, 150, red);
-        surface.FillBox(450, 300, 400, 250, blue);  // corners the other way round
+        surface.FillBox(450, 300, 400, 250, blue);  // corners in reverse order
     });
     EXPECT_EQ(Count(Picture(), Qt::red), 1);
     EXPECT_EQ(Extent(Picture(), Qt::blue).bottomRight(), QPoint(Real(450), Real(300)));
@@ -213,7 +213,7 @@ TEST_F(QtSurfaceTest, AFontThatSomebodyElseChangesIsDrawnWith) {
     int paints = 0;
     OnPaint([&](host::Surface& surface) {
         ++paints;
-        surface.CurrentFont()->SetBold(true);  // a caption's own doings
+        surface.CurrentFont()->SetBold(true);  // a change during painting
         surface.Print(u"x");
         surface.CurrentFont()->SetBold(false);
     });
@@ -274,7 +274,7 @@ TEST_F(QtSurfaceTest, TwipsAreKeptAsSet) {
     control_.Move({1.5F, 2.25F, 1234.5F, 777.25F});
     EXPECT_EQ(control_.Place(), (host::Placement{1.5F, 2.25F, 1234.5F, 777.25F}));
     EXPECT_EQ(Surface().Width(), 1234.5F);
-    control_.resize(100, 50);  // by a layout or the mouse
+    control_.resize(100, 50);  // as a layout or the mouse does
     EXPECT_EQ(Surface().Width(), 1500);
     EXPECT_EQ(Surface().Height(), 750);
     control_.move(10, 20);

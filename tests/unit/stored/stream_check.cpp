@@ -27,7 +27,7 @@ struct ToValue {
             return form.NewFont(font.name,
                                 static_cast<float>(static_cast<double>(font.size) / unitsPerPoint));
         } catch (const RuntimeError&) {
-            return Empty();  // a size that no font has
+            return Empty();  // no font has this size
         }
     }
     template <typename T>

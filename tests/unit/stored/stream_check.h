@@ -7,12 +7,13 @@
 
 namespace lumenkit::testing {
 
-/// What is wrong with how a stream is read: it is refused, or comes back the same when it is
-/// written and read again, and every control can be started from it and saved. Empty when nothing
-/// is.
+/// Returns what is wrong with how a stream is read; empty if nothing is. The stream must be
+/// refused, or must be the same after it is written and read again, and every control must start
+/// from it and save.
 std::string StreamFault(const std::vector<std::uint8_t>& stream);
 
-/// A fuzzer's input as a stream: as it is, or as records under a header and a check that are right.
+/// Converts a fuzzer's input to a stream: the input itself, or records with a valid header and
+/// checksum.
 std::vector<std::uint8_t> StreamFromBytes(std::string_view bytes);
 
 }  // namespace lumenkit::testing

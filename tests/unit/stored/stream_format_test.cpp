@@ -49,14 +49,14 @@ TEST(StreamFormat, IsReadAsItWasWritten) {
     EXPECT_TRUE(Decode(Encode({})).empty());
 }
 
-// Byte by byte: files that exist must stay readable.
+// Compares byte by byte, because existing files must stay readable.
 TEST(StreamFormat, IsLaidOutAsDescribed) {
     const Bytes written = Encode({{u"Ab", std::int16_t{-2}}, {u"", Text(u"\u20AC")}});
     const Bytes expected = {
         'L', 'K', 'P', 'B', 1,   0, 2,   0, 22, 0,    0,    0,  // header: 2 records, 22 bytes
         2,   0,   0,   0,   'A', 0, 'b', 0, 2,  0xFE, 0xFF,     // a name, an integer
         0,   0,   0,   0,   6,   1, 0,   0, 0,  0xAC, 0x20,     // no name, a text
-        0,   0,   0,   0,                                       // the check
+        0,   0,   0,   0,                                       // the checksum
     };
     EXPECT_EQ(written, testing::Sealed(expected));
 }
@@ -128,7 +128,7 @@ TEST(StreamFormat, AnUnknownKindIsRefused) {
     EXPECT_THROW(Decode(testing::Sealed(bytes)), Corrupt);
 }
 
-// Under a check that is right, whatever the bytes say.
+// The changed bytes have a valid checksum.
 TEST(StreamFormat, RecordsThatLieDoNoHarm) {
     std::mt19937 random(testing::TestSeed());
     const Bytes bytes = Encode(OneOfEachKind());
@@ -141,7 +141,7 @@ TEST(StreamFormat, RecordsThatLieDoNoHarm) {
     }
 }
 
-// What the fuzzers start from and what they have found.
+// The corpus holds the seeds and the findings of the fuzzers.
 TEST(StreamFormat, IsReadOrRefusedFromTheCorpus) {
     testing::ForEachCorpusFile("stored", [](std::string_view bytes) {
         EXPECT_EQ(testing::StreamFault(testing::StreamFromBytes(bytes)), "");

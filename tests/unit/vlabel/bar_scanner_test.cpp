@@ -20,7 +20,7 @@ std::vector<std::size_t> BarsOf(TextView text) {
     return found;
 }
 
-// Sizes on both sides of two blocks, and every place and start in them.
+// Tests the sizes around one and two blocks, with every place of the bar and every start.
 TEST(BarScanner, FindsABarAtEveryPlaceFromEveryStart) {
     for (std::size_t size = 0; size <= 135; ++size) {
         for (std::size_t place = 0; place < size; ++place) {
@@ -55,7 +55,7 @@ TEST(BarScanner, MaySkipAhead) {
     EXPECT_EQ(bars.Next(text.size()), text.size());
 }
 
-// Units that differ from a bar in one bit, or that lie just above and below it in their lane.
+// Tests all other units. Some differ from a bar in one bit, or by one.
 TEST(BarScanner, TakesNoOtherUnitForABar) {
     for (int unit = 0; unit <= 0xFFFF; ++unit) {
         if (unit != u'|') {

@@ -1,5 +1,5 @@
-// The boxes of the marks. With pixels of one twip, a mark at (0, -1) has its origin at (0, 0), and
-// its boxes are the pixels themselves; R is the radius and one.
+// The boxes of bullets. With pixels of one twip, a bullet at (0, -1) has its origin at (0, 0), its
+// boxes are in pixels, and R is the radius plus one.
 #include "vlabel/bullet.h"
 
 #include <memory>

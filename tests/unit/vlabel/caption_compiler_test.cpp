@@ -37,13 +37,13 @@ Text Repeated(TextView text, int count) {
 
 class CaptionCompilerTest : public ::testing::Test {
  protected:
-    // The dump of the compiled form.
+    // Returns the dump of the compiled form.
     std::string Compile(TextView caption) {
         compiler_.CompileCaption(caption);
         return DumpCaption(compiler_.Compiled());
     }
 
-    // The parameter that a lone command is stored with.
+    // Returns the parameter that the compiler stores for a single command.
     Text Parameter(TextView command) {
         compiler_.CompileCaption(command);
         return Text(compiler_.Compiled().CommandParams.Item(1));
@@ -199,7 +199,8 @@ TEST_F(CaptionCompilerTest, WordsMustFitExactly) {
     EXPECT_EQ(Compile(u"|underline:1|"), "line \"|\"\n  underline = \"1|\"\n");
 }
 
-// The dotted capital is the one unit beyond ASCII whose lower case is a letter of a word.
+// The dotted capital I is the only unit beyond ASCII whose lower case is a letter of a command
+// word.
 TEST_F(CaptionCompilerTest, WordsInAnyCase) {
     for (const TextView name : {u"BEFORE", u"bEfOrE", u"before"}) {
         compiler_.CompileCaption(u"|" + Text(name) + u":1|");
@@ -291,7 +292,7 @@ TEST_F(CaptionCompilerTest, BeforeIsRelativeOnlyWhereTheSignComesFirst) {
     EXPECT_THAT(Params(), ElementsAre(u" 10", u" 5"));
 }
 
-// 16777216 is the first whole number whose successor single precision does not have.
+// 16777217, the successor of 16777216, has no representation in single precision.
 TEST_F(CaptionCompilerTest, BeforeAddsUpInSinglePrecision) {
     compiler_.CompileCaption(u"|before:16777216||before:+1||before:+1||before:-16777215|");
     EXPECT_THAT(Params(),
@@ -381,7 +382,7 @@ TEST_F(CaptionCompilerTest, UnterminatedCommandNeedsAPositionBehindIt) {
     EXPECT_THAT(Messages(), ElementsAre(OverflowIn(u"CompileCaption")));
 }
 
-// What is removed before it no longer counts.
+// A command that was removed earlier in the line no longer counts.
 TEST_F(CaptionCompilerTest, UnterminatedCommandCountsFromTheShortenedLine) {
     compiler_.CompileCaption(u"|b:1||" + Text(32761, u'x'));
     EXPECT_EQ(Names().size(), 2u);

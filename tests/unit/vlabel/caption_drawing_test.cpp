@@ -1,5 +1,5 @@
-// What a label draws, rule by rule. Expectations follow from the memory runtime's metrics: at 10
-// points a unit is 100 twips wide (bold 110) and a line 240 high.
+// The label's drawing, rule by rule. Expected values follow from the memory runtime's metrics: at
+// 10 points a unit is 100 twips wide (bold 110) and a line 240 high.
 #include <cmath>
 #include <initializer_list>
 #include <string>
@@ -23,8 +23,8 @@ class CaptionDrawing : public ::testing::Test {
  protected:
     CaptionDrawing() { label_.Placed().StartNew(); }
 
-    /// The items that `scene` puts on the cleared surface, one line each; colours are left out
-    /// where they are the label's own.
+    /// Returns the items that `scene` draws on the cleared surface, one line each. A colour is left
+    /// out if it is the label's own.
     std::vector<std::string> Drawn(const LabelScene& scene) {
         picture_ = Draw(label_, scene);
         std::string lines = ToLines(picture_);
@@ -146,12 +146,12 @@ Text Words(int count) {
     return words;
 }
 
-// Each step on the first line finds one blank further to the left, until "a" fits. A thousand
-// steps may fail, and one more may print.
+// Each step on the first line finds a blank further to the left, until "a" fits. A thousand steps
+// may fail, and one more may print.
 TEST_F(CaptionDrawing, WrapGivesUpAfterAThousandStepsWithoutPrinting) {
     const std::vector<std::string> drawn = Drawn(Wrapped(Words(1001) + u"b", 150));
     EXPECT_THAT(drawn, Contains("Print (0, 0) \"a \" 10"));
-    EXPECT_EQ(picture_.penY, 480);  // the break's line and the explicit one; nothing more printed
+    EXPECT_EQ(picture_.penY, 480);  // a line for the break and one at the end, without text
     EXPECT_EQ(drawn.size(), 1U);
 
     EXPECT_THAT(Drawn(Wrapped(Words(1002) + u"b", 150)), IsEmpty());
@@ -233,7 +233,7 @@ TEST_F(CaptionDrawing, BeforeSpacingIsForgottenWithTheNextDrawing) {
 TEST_F(CaptionDrawing, BeforeSpacingStartsAtZeroEachTime) {
     Drawn(Plain(u"a|CR||before:500|b"));
     EXPECT_EQ(picture_.penY, 980);
-    label_.Placed().Paint();  // the same compiled caption again
+    label_.Placed().Paint();  // draws the same compiled caption again
     EXPECT_EQ(label_.Picture().penY, 980);
 }
 
@@ -268,7 +268,7 @@ TEST_F(CaptionDrawing, IdealHeightBeyond16BitsIsReported) {
     EXPECT_THAT(picture_.reports, IsEmpty());
     Drawn(Plain(u"|before:32527.5|a"));
     EXPECT_THAT(picture_.reports, ElementsAre("error 6 in DisplayCaption"));
-    EXPECT_EQ(picture_.idealHeight, 32767);  // as it was
+    EXPECT_EQ(picture_.idealHeight, 32767);  // unchanged
 }
 
 // ---- Commands
@@ -280,7 +280,7 @@ TEST_F(CaptionDrawing, UnderlineCommandSwitchesItalics) {
                                           "Print (100, 0) \"b\" 10 underline"));
 }
 
-// Half a command at a line's end keeps its name, and has no parameter.
+// A command cut by the end of a line keeps its name and has no parameter.
 TEST_F(CaptionDrawing, HalfAnUnderlineCommandEndsTheUnderline) {
     LabelScene scene = Plain(u"a|u|CR|b");
     scene.font.underline = true;
@@ -313,7 +313,7 @@ TEST_F(CaptionDrawing, CommandsWithNumbersTooLargeAreReportedAndTheRestDrawn) {
     EXPECT_THAT(
         Drawn(Plain(u"a|size:1E39|b|before:1E39|c")),
         ElementsAre("Print (0, 0) \"a\" 10", "Print (100, 0) \"b\" 10", "Print (200, 0) \"c\" 10"));
-    // The compiler finds the spacing too large, and has no entry for the second bar.
+    // The compiler reports that the spacing is too large, and stores no entry for the second bar.
     EXPECT_THAT(picture_.reports,
                 ElementsAre("error 6 in CompileCommand", "error 6 in ExecuteNextCommand",
                             "error 9 in ExecuteNextCommand"));
@@ -379,7 +379,7 @@ TEST_F(CaptionDrawing, LineAbove15240TwipsHasNoMark) {
     EXPECT_THAT(Drawn(Bulleted(u"|size:636|* a")), Not(Contains(StartsWith("Box"))));
 }
 
-// ---- What cannot be seen
+// ---- Invisible lines
 
 TEST_F(CaptionDrawing, LinesBelowTheVisiblePartOnlyMoveThePen) {
     LabelScene scene = Plain(u"a|CR|bbbb|size:20|c|CR|d");

@@ -1,4 +1,4 @@
-// What drawing a caption allocates: nothing, once it was drawn.
+// Repainting a caption allocates nothing.
 #include <string>
 #include <vector>
 
@@ -36,7 +36,7 @@ TEST(DrawingAllocations, RepaintAllocatesNothing) {
         label.Placed().Paint();
         EXPECT_EQ(AllocationCount(), before);
         EXPECT_GT(label.Picture().items.size(), 10U);
-        EXPECT_GT(AllocationCount(), before);  // copies of what is drawn: they are counted
+        EXPECT_GT(AllocationCount(), before);  // Picture copies the items: the counter works
     }
 }
 
@@ -53,7 +53,7 @@ TEST(DrawingAllocations, RepaintAfterShorterCaptionsAllocatesNothing) {
     EXPECT_EQ(AllocationCount(), before);
 }
 
-// Whatever allocation fails, the person at the screen hears of it, and the label keeps its font.
+// Whichever allocation fails, the failure is reported to the user and the label keeps its font.
 TEST(DrawingAllocations, OutOfMemoryIsReportedAndNothingEscapes) {
     const LabelScene scene = MixedScene();
     PlacedLabel undisturbed;
@@ -75,7 +75,7 @@ TEST(DrawingAllocations, OutOfMemoryIsReportedAndNothingEscapes) {
         if (pending) {
             EXPECT_EQ(disturbed, whole);
         } else {
-            // A line or a command that was not kept may be missed later on.
+            // A line or a command that was not stored may cause further errors.
             EXPECT_GE(disturbed.reports.size(), 1U);
             EXPECT_THAT(disturbed.reports.at(0), StartsWith("error 7 in "));
         }

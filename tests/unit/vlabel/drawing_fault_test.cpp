@@ -1,4 +1,4 @@
-// Faults in the middle of a drawing: each call that the drawing makes fails in turn.
+// Makes each call of a drawing fail in turn.
 #include <functional>
 #include <memory>
 #include <set>
@@ -38,7 +38,7 @@ LabelScene MixedScene() {
     return scene;
 }
 
-// Shows messages to nobody, and may do as a host does meanwhile.
+// Records messages instead of showing them. `meanwhile` runs while a message is shown.
 class Person final : public host::Application, public host::Interaction {
  public:
     Text ExeName() override { return u"lumenkit"; }
@@ -54,13 +54,13 @@ class Person final : public host::Application, public host::Interaction {
     std::function<void()> meanwhile;
 };
 
-// Knows at each call of the surface which procedure makes it.
+// Records for each call of the surface which procedure makes it.
 class Tracer final : public ModuleErrors {
  public:
     Tracer(Person& person, const memory::FaultPlan& faults)
         : ModuleErrors(person, person), faults_(faults) {}
 
-    // No procedure of a drawing calls itself, so the second time is the way out.
+    // No procedure of a drawing calls itself, so the second trace of a name is the procedure's end.
     void TraceProc(TextView, TextView procedure, const Object*) override {
         Attribute();
         if (!entered_.empty() && entered_.back() == procedure) {
@@ -74,7 +74,7 @@ class Tracer final : public ModuleErrors {
         known_ = faults_.Calls();
         makers_.clear();
     }
-    /// The procedures that made the calls since Start, in order of the calls.
+    /// Returns the procedures that made the calls since Start, in the order of the calls.
     const std::vector<TextView>& Makers() const { return makers_; }
     bool IsBalanced() const { return entered_.empty(); }
 
@@ -91,7 +91,7 @@ class Tracer final : public ModuleErrors {
     std::int64_t known_ = 0;
 };
 
-// A renderer on a surface of its own.
+// A renderer with a separate surface.
 class TracedRenderer {
  public:
     explicit TracedRenderer(const LabelScene& scene)
@@ -190,7 +190,7 @@ TEST(DrawingFaults, FontAndForeColorAreAsBeforeAndTheNextDrawingIsWhole) {
     }
 }
 
-// What cannot be saved could not be put back.
+// State that cannot be saved cannot be restored.
 TEST(DrawingFaults, NothingIsDrawnWhereTheStateCannotBeSaved) {
     TracedRenderer renderer(MixedScene());
     renderer.Faults().FailCall(u"Font.Size", 1, ErrorNumber::InternalError);
@@ -199,10 +199,10 @@ TEST(DrawingFaults, NothingIsDrawnWhereTheStateCannotBeSaved) {
     EXPECT_THAT(renderer.Drawn(), IsEmpty());
 }
 
-// A message box lets windows be repainted and programs go on.
+// While a message box is open, windows are repainted and programs continue.
 TEST(DrawingFaults, HostMayPaintAndAssignWhileAReportIsShown) {
     LabelScene scene = MixedScene();
-    scene.caption = u"|before:1E39|a|CR|b|size:3000|c";  // compiling and drawing report
+    scene.caption = u"|before:1E39|a|CR|b|size:3000|c";  // compiling and drawing report errors
     TracedRenderer renderer(scene);
     int messages = 0;
     renderer.person.meanwhile = [&] {

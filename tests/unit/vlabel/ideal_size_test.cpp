@@ -26,7 +26,7 @@ class IdealSize : public ::testing::Test {
         return scene;
     }
 
-    /// "width x height" that a label of `scene` has after SetIdealSize.
+    /// Returns the size of a label of `scene` after SetIdealSize, as "width x height".
     std::string Fitted(const LabelScene& scene) {
         label_.SetUp(scene);
         label_->SetIdealSize();
@@ -36,7 +36,7 @@ class IdealSize : public ::testing::Test {
         return ToLine(label_.Surface().CurrentWidth()) + " x " +
                ToLine(label_.Surface().CurrentHeight());
     }
-    /// Whether `action` resizes the control, even to the size it has.
+    /// Whether `action` resizes the control, even to its present size.
     template <typename Action>
     bool Resizes(Action&& action) {
         return label_.Uses(u"Surface.Size", 1, action);
@@ -114,7 +114,7 @@ TEST_F(IdealSize, SumsBeyond16BitsAreReportedAndNothingResized) {
     EXPECT_EQ(Fitted(scene), "0 x 0");
     EXPECT_THAT(label_.TakeLog(), ElementsAre("error 6 in SetIdealSize"));
 
-    scene.caption = u"|before:32513|aaaa";  // and here one pixel more
+    scene.caption = u"|before:32513|aaaa";  // here one pixel more is too much
     EXPECT_EQ(Fitted(scene), "0 x 0");
     EXPECT_THAT(label_.TakeLog(), ElementsAre("error 6 in SetIdealSize"));
 }

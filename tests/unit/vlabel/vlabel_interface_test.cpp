@@ -1,4 +1,4 @@
-// The label's interface as clients see it: the listing of its members and events, and late binding.
+// The label's interface for clients: the listing of its members and events, and late binding.
 #include "vlabel/vlabel_interface.h"
 
 #include <functional>
@@ -217,7 +217,7 @@ TEST_F(VLabelLateBound, MethodsAreCalled) {
     Late().Call(u"SETIDEALSIZE");
     EXPECT_EQ(label_.Surface().CurrentWidth(), 328.5F);
     EXPECT_TRUE(label_.Uses(u"Surface.Refresh", 1, [&] { Late().Call(u"refresh"); }));
-    EXPECT_EQ(Late().Call(u"Caption"), Value(Text(u"abc")));  // clients do not tell the two apart
+    EXPECT_EQ(Late().Call(u"Caption"), Value(Text(u"abc")));  // calling a property reads it
 }
 
 TEST_F(VLabelLateBound, UnknownNamesAndIdentifiersAre438) {
@@ -254,7 +254,7 @@ TEST_F(VLabelLateBound, WrongNumbersOfArgumentsAre450) {
     EXPECT_EQ(Error([&] { Late().Call(u"Caption", {Text(u"a")}); }), 450);
 }
 
-// What the surface refuses is told to the person at the screen, not to the client.
+// Errors that the surface raises are shown to the user, not raised to the client.
 TEST_F(VLabelLateBound, ErrorsInTheControlDoNotReachTheClient) {
     EXPECT_EQ(Error([&] { Late().Let(u"BorderStyle", std::int16_t{2}); }), 0);
     EXPECT_THAT(label_.TakeLog(), ElementsAre("error 380 in pLetBorderStyle"));

@@ -1,4 +1,4 @@
-// What assigning the label's properties does, when it repaints, and its events.
+// The label's properties: effects of assigning them, repaints, persistence and events.
 #include <functional>
 #include <span>
 #include <string>
@@ -122,7 +122,7 @@ TEST_F(VLabelControl, AutoSizeChangesNothingOnTheScreen) {
     StartNewAndPaint();
     const std::int64_t calls = label_.Faults().Calls();
     label_->pLetAutoSize(true);
-    EXPECT_EQ(label_.Faults().Calls(), calls + 1);  // the container is told
+    EXPECT_EQ(label_.Faults().Calls(), calls + 1);  // the container is notified
     EXPECT_THAT(label_.TakeLog(), ElementsAre("changed AutoSize"));
     EXPECT_TRUE(label_->pGetAutoSize());
 }
@@ -146,7 +146,7 @@ class MeddlingBag final : public host::PropertyBag {
 };
 
 TEST_F(VLabelControl, CaptionAssignedWhileLoadingRepaintsNothingUntilTheFirstPaint) {
-    MeddlingBag bag(label_.Label(), u"WordWrap");  // "Caption" has been read by then
+    MeddlingBag bag(label_.Label(), u"WordWrap");  // "Caption" has already been read
     label_.Placed().Show();
     EXPECT_FALSE(Refreshes([&] { label_.Placed().ReadProperties(bag); }));
     EXPECT_EQ(FirstPrint(), "nothing");
@@ -257,7 +257,7 @@ TEST_F(VLabelControl, AssignmentsAreKeptToldAndRepaintedWhereTheyShow) {
 
 TEST_F(VLabelControl, OnlyTheCaptionIsCompiledAnew) {
     StartNewAndPaint();
-    label_->pLetCaption(u"|before:1E39|a");  // compiling it reports
+    label_->pLetCaption(u"|before:1E39|a");  // compiling it reports an error
     EXPECT_THAT(label_.TakeLog(), ElementsAre("changed Caption", "error 6 in CompileCommand",
                                               "error 9 in ExecuteNextCommand"));
     for (const Assignment& assignment : Assignments()) {
@@ -273,7 +273,7 @@ TEST_F(VLabelControl, OnlyTheCaptionIsCompiledAnew) {
                                               "error 9 in ExecuteNextCommand"));
 }
 
-// The surface's members fail under the names of their procedures; what follows does not happen.
+// An error of a surface member is reported under the name of the procedure and ends the procedure.
 TEST_F(VLabelControl, ErrorsInSurfacePropertiesAreReportedAndEndTheProcedure) {
     StartNewAndPaint();
     label_->pLetBorderStyle(7);
@@ -377,7 +377,7 @@ TEST_F(VLabelControl, PaintDraws) {
 
 // ---- Persistence
 
-// Notes the calls and has nothing stored.
+// Records the calls and stores nothing.
 class NotingBag final : public host::PropertyBag {
  public:
     Value ReadProperty(TextView name, const Value& defaultValue) override {
@@ -468,7 +468,7 @@ TEST_F(VLabelControl, WhatWasSavedIsReadBack) {
     EXPECT_EQ(other->pGetBulletPrefix(), u"- ");
     EXPECT_TRUE(other->pGetAutoSize());
     EXPECT_EQ(other->pGetBackStyle(), 2);
-    EXPECT_THAT(other.TakeLog(), IsEmpty());  // reading announces nothing
+    EXPECT_THAT(other.TakeLog(), IsEmpty());  // reading notifies nobody
 }
 
 TEST_F(VLabelControl, EmptyBagGivesTheDefaultsAndKeepsTheFont) {
@@ -495,7 +495,7 @@ TEST_F(VLabelControl, ClicksAreRaised) {
 TEST_F(VLabelControl, MouseEventsCarryTheirValuesAndBringBackTheHandlers) {
     StartNewAndPaint();
     label_.Placed().Site().SetEventHandler([](TextView, std::span<Value> arguments) {
-        arguments[0] = std::int32_t{4};  // comes back as the argument's own type
+        arguments[0] = std::int32_t{4};  // converted to the argument's own type
         arguments[1] = Text(u"3");
         arguments[2] = 1.5;
         arguments[3] = std::int16_t{-2};

@@ -55,11 +55,11 @@ TEST(NextSelection, FindsWordsAndCommands) {
         {u"a|", 0, 0, 1},
         {u"x\ty z|", 0, 0, 3},  // only the blank ends a word
         {u"x\r\ny|", 0, 0, 4},
-        // A word that no command follows reaches to the end, whatever blanks follow.
+        // A word without a command after it extends to the end, over any blanks.
         {u"one two", 0, 0, -1},
         {u"one two", 4, 4, -1},
         {u"|b:1|one two", 5, 5, -1},
-        // A blank just before the bar ends the word; so does the bar before the blank.
+        // A blank just before the bar ends the word. A bar before the blank ends it too.
         {u"one |b:1|", 0, 0, 3},
         {u"one|b 1|", 0, 0, 3},
         // Commands.

@@ -1,4 +1,4 @@
-// Applying: what is checked and what is written.
+// Applying: the checks and the assignments.
 #include <memory>
 #include <string>
 #include <vector>
@@ -23,7 +23,8 @@ class PageApply : public ::testing::Test {
         page_.Form().GetLog().Clear();
     }
 
-    // Whether the indent is refused, with a beep, the message and nothing written.
+    // Whether the indent is refused. Checks that a refusal beeps, shows the message and writes
+    // nothing.
     bool IsRefused() {
         page_.Page().Apply();
         if (page_.Form().GetLog().Entries().empty()) {
@@ -88,7 +89,7 @@ TEST_F(PageApply, RefusesAnyOtherIndent) {
     }
 }
 
-// The preview cannot show such a number; applying refuses it like any other.
+// The preview cannot show such a number. Applying refuses it like any other invalid number.
 TEST_F(PageApply, RefusesNumbersBeyondThePreviewsRangeAndBeyondAllRange) {
     for (const TextView text :
          {u"32768", u"&HFFFF&", u"1e300", u"1e400", u"-1e400", u"&HFFFFFFFFF"}) {
@@ -108,7 +109,7 @@ TEST_F(PageApply, LeavesTheChangedFlagAlone) {
     }
 }
 
-// Only a plain check mark is applied, though the preview wraps for a greyed one too.
+// Applying treats only a checked box as wrapped. The preview also wraps if the box is greyed.
 TEST_F(PageApply, AppliesAGreyedWordWrapBoxAsNotWrapped) {
     page_.Wrap().SetCheckState(2);
     page_.Page().Apply();

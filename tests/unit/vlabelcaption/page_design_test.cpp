@@ -1,4 +1,4 @@
-// What the page consists of and how it is laid out.
+// The parts of the page and their layout.
 #include <algorithm>
 #include <cmath>
 #include <string>
@@ -78,7 +78,7 @@ TEST_F(PageDesign, WritesTheMagnifierInCourier) {
     EXPECT_EQ(Property(Part(u"labSelect"), u"AutoSize"), Value(true));
 }
 
-// Whatever font the surroundings have.
+// The ambient font has no effect.
 TEST_F(PageDesign, WritesThePreviewInMsSansSerif) {
     page_.Form().AmbientFont().SetName(u"Times New Roman");
     memory::PlacedPage page(page_.Form(), page_.Form().FindClass(u"VLabelCaption"));
@@ -131,7 +131,7 @@ TEST_F(PageDesign, OverlapsNothingAndStaysOnThePage) {
     }
 }
 
-// At 15 twips a pixel and finer.
+// Lengths are multiples of 15 twips.
 TEST_F(PageDesign, LiesOnWholePixels) {
     for (const TextView name : onPage) {
         const host::Placement& place = Where(name);
@@ -141,8 +141,8 @@ TEST_F(PageDesign, LiesOnWholePixels) {
     }
 }
 
-// A character of MS Sans Serif is about 75 twips wide and a line 195 high; other fonts are up to a
-// fifth wider and higher.
+// A character of MS Sans Serif is about 75 twips wide and a line 195 high. Other fonts are up to
+// 20% wider and 15% higher.
 TEST_F(PageDesign, HasRoomForItsCaptions) {
     constexpr double unitWidth = 75 * 1.2;
     constexpr double lineHeight = 195 * 1.15;
@@ -168,7 +168,7 @@ bool TakesFocus(const memory::Element& element) {
     return element.Kind() != u"Label" && element.Kind() != u"PictureBox";
 }
 
-// From top to bottom, and within a row from left to right.
+// The tab order goes from top to bottom, and within a row from left to right.
 TEST_F(PageDesign, IsTabbedThroughAsTheEyeGoes) {
     constexpr float sameRow = 200;
     const memory::Element* last = nullptr;

@@ -1,4 +1,4 @@
-// Failures: they reach the host as they are, and the page goes on working.
+// Errors reach the host unchanged, and the page stays usable.
 #include <functional>
 #include <memory>
 #include <optional>
@@ -34,7 +34,7 @@ class PageErrors : public ::testing::Test {
         EXPECT_EQ(error->Description(), expected.Description());
     }
 
-    // Select, edit, shortcut and apply all do what they should.
+    // Checks that selecting, editing, shortcuts and applying work.
     void ExpectUsable() {
         const std::shared_ptr<EditedDouble> edited = page_.NewEdited(10000, 5000);
         page_.Select(edited);
@@ -81,7 +81,7 @@ TEST_F(PageErrors, WhatTheControlRaisesWhenAssignedReachesTheHost) {
     edited_->TakeLog();
     edited_->FailAssign(u"BulletIndent", failure_);
     ExpectSame(ErrorOf([&] { page_.Page().Apply(); }), failure_);
-    // What comes behind is not written any more.
+    // The properties after it are not written.
     EXPECT_THAT(edited_->TakeLog(),
                 ElementsAre("let BulletPrefix String * ", "let BulletIndent Integer 240"));
     edited_->StopFailing();
@@ -116,8 +116,8 @@ TEST_F(PageErrors, WithoutTheClassOfThePreviewThereIsNoPage) {
                 Raises(429));
 }
 
-// Each call that the page makes of the runtime fails once. What the preview reports by itself, as
-// every control does, does not come to the host.
+// Makes each call of the page to the runtime fail once. Errors that the preview reports itself, as
+// every control does, do not reach the host.
 class PageFaults : public PageErrors {
  protected:
     static constexpr ErrorNumber fault = ErrorNumber::InternalError;
@@ -133,7 +133,7 @@ class PageFaults : public PageErrors {
         return false;
     }
 
-    // `prepare` brings the page to where `action` does its work.
+    // `prepare` brings the page to the state in which `action` is tested.
     void FailEachCall(const std::function<void()>& prepare, const std::function<void()>& action) {
         memory::FaultPlan& faults = page_.Form().Faults();
         faults.CountReporting(true);

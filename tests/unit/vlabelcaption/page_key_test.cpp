@@ -1,4 +1,4 @@
-// The shortcuts of the caption box, and the help on them.
+// The shortcuts of the caption box, and their help.
 #include <map>
 #include <string>
 
@@ -29,7 +29,7 @@ class PageKeys : public ::testing::Test {
         page_.User().Select(page_.Caption(), start, length);
     }
     void Press(TextView keys) { page_.User().Type(page_.Caption(), keys); }
-    /// The caption with its selection.
+    /// Returns the caption with its selection.
     std::string Shown() { return ToUtf8(page_.Caption().Contents()) + " " + page_.Selection(); }
     std::size_t Beeps() { return page_.Form().GetLog().BeepCount(); }
 
@@ -127,7 +127,7 @@ const std::map<int, Key>& KeyTable() {
     return table;
 }
 
-// Every code there is, as the box delivers it, before the box itself does anything with the key.
+// Passes every code to the page as the box does, before the box handles the key.
 class PageKeyCodes : public ::testing::Test {
  protected:
     struct Outcome {
@@ -196,7 +196,7 @@ TEST_F(PageKeyCodes, DoWhatTheTableSaysWithASelection) {
     }
 }
 
-// With the box doing its part: what a key without a meaning of its own types.
+// Here the box handles the key too: a key that is no shortcut types its character.
 TEST_F(PageKeys, LeaveAllOtherKeysToTheBox) {
     for (int unit = 32; unit <= 0xFFFF; ++unit) {
         if (unit == 34 || unit == 127) {

@@ -15,7 +15,7 @@ class PageMagnifier : public ::testing::Test {
         page_.User().MoveFocusTo(page_.Caption());
     }
 
-    // The selection as the person leaves it by mouse.
+    // Selects as the user does with the mouse, and returns the magnifier's text.
     std::string At(std::int32_t start, std::int32_t length = 0) {
         page_.User().Select(page_.Caption(), start, length);
         page_.User().Mouse(page_.Caption(), memory::MouseAction::Up, {});

@@ -13,8 +13,8 @@ namespace {
 
 constexpr int hidden = -1;
 
-// Inside, the viewport measures 6900 x 2460 twips; beside the vertical bar 6645 and above the
-// horizontal bar 2205 of them are to be seen.
+// The viewport measures 6900 x 2460 twips inside. A visible vertical bar leaves a width of 6645, a
+// visible horizontal bar a height of 2205.
 struct Geometry {
     float width;
     float height;
@@ -56,7 +56,7 @@ TEST_P(PreviewGeometry, FollowsTheControlsSize) {
     ExpectPreview(GetParam());
 }
 
-// The same from a state in which both bars are shown and scrolled.
+// The same, starting with both bars visible and scrolled.
 TEST_P(PreviewGeometry, FollowsTheControlsSizeFromAScrolledPreview) {
     page_.Select(page_.NewEdited(20000, 20000));
     page_.User().Scroll(page_.Horizontal(), 700);
@@ -67,18 +67,20 @@ TEST_P(PreviewGeometry, FollowsTheControlsSizeFromAScrolledPreview) {
 INSTANTIATE_TEST_SUITE_P(
     Thresholds, PreviewGeometry,
     ::testing::Values(
-        // Smaller than the viewport: no bars, stretched to its visible height.
+        // Smaller than the viewport: no bars. The preview is stretched to the visible height.
         Geometry{3000, 1500, hidden, hidden, 2205}, Geometry{0, 0, hidden, hidden, 2205},
         Geometry{6645, 2204.5F, hidden, hidden, 2205}, Geometry{6645, 2205, hidden, hidden, 2205},
         Geometry{6645, 2205.5F, hidden, hidden, 2205.5F},
-        // Beyond one bar's edge only, which nothing makes appear.
+        // Larger than the area that bars would leave, but not larger than the viewport: no bars.
         Geometry{6900, 2205, hidden, hidden, 2205}, Geometry{6645, 2460, hidden, hidden, 2460},
         Geometry{6900, 2460, hidden, hidden, 2460},
-        // Wider than the viewport: the horizontal bar, and the vertical one where that takes room.
+        // Wider than the viewport: the horizontal bar, and the vertical bar if the height left is
+        // too small.
         Geometry{6900.5F, 1000, 256, hidden, 2205}, Geometry{6901, 2204, 256, hidden, 2205},
         Geometry{6901, 2205, 256, hidden, 2205}, Geometry{6901, 2206, 256, 1, 2206},
         Geometry{6901, 2460, 256, 255, 2460}, Geometry{6901, 2461, 256, 256, 2461},
-        // Higher than the viewport: the vertical bar, and the horizontal one where that takes room.
+        // Higher than the viewport: the vertical bar, and the horizontal bar if the width left is
+        // too small.
         Geometry{6644, 2461, hidden, 256, 2461}, Geometry{6645, 2461, hidden, 256, 2461},
         Geometry{6646, 2461, 1, 256, 2461}, Geometry{6900, 2461, 255, 256, 2461},
         Geometry{10000, 5000, 3355, 2795, 5000},
@@ -86,7 +88,7 @@ INSTANTIATE_TEST_SUITE_P(
         Geometry{6645.5F, 2461, 0, 256, 2461}, Geometry{6646.5F, 2461, 2, 256, 2461},
         Geometry{6647.5F, 2461.5F, 2, 256, 2461.5F}, Geometry{6901, 2206.5F, 256, 2, 2206.5F},
         Geometry{6901, 2205.5F, 256, 0, 2205.5F},
-        // As far as 16 bits go: 6645 + 32767 and 2205 + 32767.
+        // The largest 16-bit values: 6645 + 32767 and 2205 + 32767.
         Geometry{39412, 34972, 32767, 32767, 34972},
         Geometry{39411.5F, 34971.5F, 32766, 32766, 34971.5F}));
 
@@ -115,7 +117,7 @@ TEST(PreviewScrolling, RaisesAnOverflowBeyond16Bits) {
     EXPECT_THAT([&] { page.Select(page.NewEdited(39413, 1000)); }, Raises(6));
     EXPECT_THAT([&] { page.Select(page.NewEdited(1000, 34973)); }, Raises(6));
     EXPECT_THAT([&] { page.Select(page.NewEdited(10000, 34973)); }, Raises(6));
-    // The page goes on working.
+    // The page stays usable.
     page.Select(page.NewEdited(10000, 5000));
     EXPECT_EQ(page.Horizontal().Max(), 3355);
     EXPECT_EQ(page.Vertical().Max(), 2795);

@@ -1,4 +1,4 @@
-// Selecting controls, and editing with the preview following.
+// Selecting controls, and editing with a live preview.
 #include <memory>
 #include <string>
 #include <vector>
@@ -69,7 +69,7 @@ TEST_F(PageSelection, ShowsTheEditedControlInThePreview) {
     EXPECT_EQ(previewed->Get(u"Size"), Value(14.25F));
     EXPECT_EQ(previewed->Get(u"Bold"), Value(true));
     EXPECT_EQ(previewed->Get(u"Italic"), Value(true));
-    // Copied one by one: nothing else, and no sharing.
+    // Only these attributes are copied, and the font object is not shared.
     EXPECT_EQ(previewed->Get(u"Underline"), Value(false));
     font->Let(u"Size", 20.0F);
     EXPECT_EQ(previewed->Get(u"Size"), Value(14.25F));
@@ -83,10 +83,10 @@ TEST_F(PageSelection, SetsThePreviewUpByIdentifierInOrder) {
     page.Select(edited);
     EXPECT_THAT(page.Taps().TakePreviewNotes(),
                 ElementsAre(
-                    // The fields are filled.
+                    // The page fills its fields.
                     "let " + bulletPrefix + " String * ", "let " + bulletIndent + " Integer 240",
                     "let " + wordWrap + " Boolean True", "let 0 String Hello",
-                    // The preview is rebuilt.
+                    // The page rebuilds the preview.
                     "let 0 String .", "move 0 0 7000 2205", "get -512", "let -501 Long 197121",
                     "let -513 Long -2147483640", "let " + bulletIndent + " Integer 240",
                     "let " + bulletPrefix + " String * ", "let " + wordWrap + " Boolean True",
@@ -121,7 +121,7 @@ TEST_F(PageSelection, KeepsNoReferenceToTheEditedControlBetweenEvents) {
     const std::weak_ptr<EditedDouble> control = edited_;
     const std::weak_ptr<Object> font = ToObject(edited_->Held(u"Font"));
     edited_.reset();
-    EXPECT_FALSE(control.expired());  // the selection itself holds it
+    EXPECT_FALSE(control.expired());  // the selection holds a reference
     page_.User().Type(page_.Caption(), u"x\u0013");
     page_.Page().Apply();
     page_.Page().Selected().Assign({});
@@ -171,7 +171,7 @@ TEST_F(PageEditing, FollowsTheWordWrapBox) {
     ExpectChangedWithoutTouchingTheControl();
 }
 
-// What the preview makes of the indent as it is typed is the number that the text begins with.
+// While the indent is typed, the preview uses the number with which the text begins.
 TEST_F(PageEditing, PreviewsTheNumberThatTheIndentBeginsWith) {
     struct Reading {
         TextView text;

@@ -1,4 +1,5 @@
-// Constituents of the memory runtime with a tap on the caption page's caption box and preview.
+// Constituents of the memory runtime that record the use of the caption page's caption box and
+// preview.
 #pragma once
 
 #include <memory>
@@ -15,7 +16,7 @@ namespace lumenkit::testing {
 
 using Notes = std::vector<std::string>;
 
-/// Notes how an object is used: "find Caption", "let 0 String .", "get -512".
+/// Records the uses of an object: "find Caption", "let 0 String .", "get -512".
 class TappedObject final : public Object {
  public:
     TappedObject(Object& object, Notes& notes) : object_(object), notes_(notes) {}
@@ -36,7 +37,7 @@ class TappedObject final : public Object {
     Notes& notes_;
 };
 
-/// Notes how an embedded control is used: "move 0 0 3000 1500", and see TappedObject.
+/// Records the uses of an embedded control: "move 0 0 3000 1500", and see TappedObject.
 class TappedControl final : public host::EmbeddedControl {
  public:
     TappedControl(std::unique_ptr<host::EmbeddedControl> control, Notes& notes)
@@ -69,9 +70,9 @@ class TappedConstituents final : public host::Constituents {
  public:
     explicit TappedConstituents(host::Constituents& parts) : parts_(parts) {}
 
-    /// What the caption box tells the page.
+    /// Returns the object that receives the caption box's events.
     host::TextBoxEvents& CaptionEvents() { return *captionEvents_; }
-    /// How the preview was used since the last call.
+    /// Returns the uses of the preview since the last call.
     Notes TakePreviewNotes() { return std::exchange(previewNotes_, {}); }
 
     std::unique_ptr<host::TextBox> AddTextBox(const host::TextBoxDesign& design,

@@ -12,7 +12,7 @@
 
 namespace lumenkit::testing {
 
-/// A caption page whose caption box and preview are tapped.
+/// A caption page whose constituents are TappedConstituents.
 class TappedPage {
  public:
     TappedPage() { page_->PropertyPage_Initialize(); }

@@ -8,7 +8,7 @@
 
 namespace lumenkit::testing {
 
-/// A surface in whose fonts letters have no width.
+/// A surface with fonts whose letters have no width.
 class FlatSurface final : public host::Surface {
  public:
     explicit FlatSurface(host::Surface& real) : real_(real) {}

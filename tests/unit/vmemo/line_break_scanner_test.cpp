@@ -50,7 +50,7 @@ TEST(LineBreakScannerTest, DoesNotTakeUnitsForALineBreakThatShareItsBytes) {
                 ElementsAre());
 }
 
-// Of several blocks, with and without line breaks in each.
+// Uses texts of several blocks, with and without line breaks in each block.
 TEST(LineBreakScannerTest, FindsWhatASearchFinds) {
     std::mt19937 random(testing::TestSeed());
     for (int round = 0; round < testing::Rounds(3000); ++round) {

@@ -36,7 +36,7 @@ Outcome Plain(TextView text, TextLimits limits) {
     return {VerdictOf(restriction), Text(restriction.Of(text))};
 }
 
-// Of a refused edit there is no text.
+// If the edit is refused, the text is empty.
 Outcome Apply(TextView text, TextLimits limits) {
     const Restriction restriction = Restrict(text, limits, RestrictionMode::Apply);
     return {VerdictOf(restriction), Text(restriction.Of(text))};
@@ -59,7 +59,7 @@ constexpr TextLimits Lines(std::int16_t count) {
     return {.maxLines = count};
 }
 
-// ---- What fits
+// ---- Texts that fit
 
 TEST(RestrictionEngineTest, TextWithinBothLimitsFits) {
     EXPECT_EQ(Plain(u"abc\r\nde", {3, 2}), Fits(u"abc\r\nde"));
@@ -152,14 +152,14 @@ TEST(RestrictionEngineTest, EnterInTheLastPermittedLineDropsWhatFollowsTheCaret)
     EXPECT_EQ(Apply(u"ab\r\nc\r\nd", Lines(2)), Trimmed(u"ab\r\nc"));
 }
 
-// ---- The position that a cut leaves behind
+// ---- The position after a cut
 
 TEST(RestrictionEngineTest, TheLineAfterACutIsMeasuredFromTooFarOn) {
     EXPECT_EQ(Plain(u"abcdefgh\r\nxyz1234567\r\nq", Chars(5)), Refused(u"abcde\r\nxyz12345\r\nq"));
 }
 
 TEST(RestrictionEngineTest, LineBreaksNearACutAreOverlooked) {
-    // Six units go, so the search goes on six units behind the line break: at the last y.
+    // Six units are cut, so the search continues six units past the line break: at the last y.
     EXPECT_EQ(Plain(u"abcdefghi\r\nx\r\nyyyy", Chars(3)), Refused(u"abc\r\nx\r\nyyyy"));
 }
 
@@ -239,11 +239,11 @@ TEST(RestrictionEngineTest, ACutTextIsCopiedOnce) {
 }
 
 TEST(RestrictionEngineTest, AHundredThousandCutsInTenMegabytes) {
-    // Each line but the first is measured from one unit too far on, so a second blank makes it lose
-    // one too.
+    // Each line except the first is measured from one unit too far on. So it loses one unit only if
+    // it has a second surplus blank.
     Text text = Text(48, u'x') + u" \r\n";
     Text expected = Text(48, u'x') + u"\r\n";
-    for (int line = 1; line < 100000; ++line) {  // of ten megabytes in all
+    for (int line = 1; line < 100000; ++line) {  // ten megabytes in all
         text.append(48, u'x').append(u"  \r\n");
         expected.append(48, u'x').append(u" \r\n");
     }
@@ -252,7 +252,7 @@ TEST(RestrictionEngineTest, AHundredThousandCutsInTenMegabytes) {
 }
 
 TEST(RestrictionEngineTest, APositionBeyond32BitsIsAnOverflow) {
-    // Address space that nothing may read.
+    // Address space that must not be read.
     constexpr std::size_t size = std::size_t{1} << 31;
     void* const memory = mmap(nullptr, size * sizeof(char16_t), PROT_NONE,
                               MAP_PRIVATE | MAP_ANONYMOUS | MAP_NORESERVE, -1, 0);

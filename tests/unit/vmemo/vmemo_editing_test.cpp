@@ -1,4 +1,4 @@
-// Every way in which text gets into a memo, and how the limits hold it there.
+// All ways in which text gets into a memo, and how the limits restrict it.
 #include <gmock/gmock.h>
 
 #include "tests/support/placed_memo.h"
@@ -219,7 +219,7 @@ TEST_F(VMemoEditingTest, APasteThatDoesNotFitIsRefusedAsAWhole) {
 
 TEST_F(VMemoEditingTest, APastePutsTheCaretWhereTheLastKeyWentDown) {
     Start(4, 0, u"");
-    memo_.Type(u"ab");  // b went down at 1
+    memo_.Type(u"ab");  // b was pressed at position 1
     memo_.PutCaret(2);
     memo_.Paste(u"longer");
     EXPECT_EQ(memo_.Shown(), u"ab");
@@ -325,7 +325,7 @@ TEST_F(VMemoEditingTest, ALimitSetByTheChangeHandlerHoldsFromTheNextEditOn) {
     EXPECT_EQ(memo_.Shown(), u"");
 }
 
-// ---- What is not done
+// ---- Cases without a change
 
 TEST_F(VMemoEditingTest, NewLimitsDoNotTouchTheText) {
     Start(0, 0, u"abcdef\r\ngh\r\nij");

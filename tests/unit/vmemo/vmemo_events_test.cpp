@@ -1,4 +1,4 @@
-// What the boxes tell and what the container does with it.
+// The events of the boxes, and the container's handlers for them.
 #include <array>
 #include <stdexcept>
 
@@ -49,7 +49,7 @@ TEST(VMemoEventsTest, KeyEventsCarryCodeAndShift) {
     EXPECT_EQ(events[3]->name, u"KeyUp");
 }
 
-// A key handler of the container that puts another code in place.
+// Makes the container replace the code of a key event.
 void Replace(PlacedMemo& memo, TextView event, std::int16_t code) {
     memo.Placed().Site().SetEventHandler(
         [event = Text(event), code](TextView name, std::span<Value> arguments) {
@@ -120,7 +120,7 @@ TEST(VMemoEventsTest, AHiddenBoxIsHeldToTheLimitsByItself) {
     EXPECT_EQ(memo.Box(0).Contents(), u"abc");
 }
 
-// Constituents of the memory runtime, with the receivers that the control gave for its boxes.
+// Constituents of the memory runtime. Records the objects that receive the events of the boxes.
 class OverheardConstituents final : public host::Constituents {
  public:
     explicit OverheardConstituents(host::Constituents& real) : real_(real) {}

@@ -1,4 +1,4 @@
-// Errors end in one report, not in the container, and leave a memo that works.
+// Each error is reported once or raised to the caller, and leaves a usable memo.
 #include <functional>
 #include <set>
 #include <string>
@@ -16,7 +16,8 @@ namespace {
 struct Operation {
     std::string name;
     std::function<void(PlacedMemo&)> run;
-    /// The procedures that report; none: the error goes to the caller.
+    /// The procedures that report the error. "" stands for the caller, to which the error is
+    /// raised.
     std::set<std::string> procedures;
 };
 
@@ -91,7 +92,7 @@ std::vector<Operation> Operations() {
     };
 }
 
-// A memo that shows "ab", holds lines to three characters and texts to three lines.
+// Makes a memo that shows "ab", with limits of three characters a line and three lines.
 void Prepare(PlacedMemo& memo) {
     memo->pLetMaxCharsPerLine(3);
     memo->pLetMaxLines(3);
@@ -110,7 +111,7 @@ std::int64_t CallsOf(const Operation& operation) {
     return memo.Faults().Calls() - before;
 }
 
-// Where the error of the operation was reported, "" where it came out.
+// Returns the procedure that reports the error, or "" if the error is raised to the caller.
 std::string Reporter(PlacedMemo& memo, const Operation& operation) {
     try {
         operation.run(memo);

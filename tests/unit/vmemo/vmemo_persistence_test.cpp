@@ -1,4 +1,4 @@
-// How a memo begins, is loaded and is saved.
+// How a memo is started, loaded and saved.
 #include <string>
 #include <vector>
 
@@ -23,7 +23,7 @@ std::string Describe(const Value& value) {
     return ToUtf8(ToText(value));
 }
 
-// Notes what is asked of it, keeps nothing.
+// Records the calls and stores nothing.
 class NotingBag final : public host::PropertyBag {
  public:
     Value ReadProperty(TextView name, const Value& defaultValue) override {

@@ -14,7 +14,7 @@ using ::testing::IsEmpty;
 
 class VMemoPropertiesTest : public ::testing::Test {
  protected:
-    // All boxes' value of something.
+    // Returns a value of each box.
     template <typename Read>
     auto OfBoxes(Read&& read) {
         return std::array{read(memo_.Box(0)), read(memo_.Box(1)), read(memo_.Box(2)),
@@ -153,7 +153,7 @@ TEST_F(VMemoPropertiesTest, TheOtherBoxesAreAlreadyDressedAlike) {
     EXPECT_EQ(memo_->pGetMaxLength(), 5);
 }
 
-// ---- PageWidth: "A" is ten times the size wide, in twips
+// ---- PageWidth: in twips, "A" is ten times the font size wide
 
 TEST_F(VMemoPropertiesTest, PageWidthIsSoManyLetters) {
     memo_->pSetFont(memo_.Form().NewFont(u"Courier", 12));

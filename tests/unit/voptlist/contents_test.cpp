@@ -21,7 +21,7 @@ using ::testing::SizeIs;
 
 constexpr std::size_t longest = 32766;
 
-/// "value / caption" of each item; "overflow" stands where the walk raises 6.
+/// Returns "value / caption" for each item, and "overflow" where the walk raises 6.
 std::vector<std::string> Items(TextView contents, std::size_t begin = 0) {
     std::vector<std::string> items;
     ContentsWalk walk(contents, begin);
@@ -111,11 +111,11 @@ TEST(Contents, StaysAtTheEnd) {
 TEST(Contents, LongestTextWorks) {
     EXPECT_THAT(Items(Text(longest, u'x')),
                 ElementsAre(std::string(longest, 'x') + " / " + std::string(longest, 'x')));
-    // An item before the last bar, and one behind it that ends at the last position.
+    // An item before the last bar, and one after it that ends at the last position.
     EXPECT_THAT(Items(Text(longest - 2, u'x') + u"|y"), SizeIs(2));
     // A bar at the last position.
     EXPECT_THAT(Items(Text(longest - 1, u'x') + u"|"), SizeIs(1));
-    // As many items as there can be.
+    // The largest possible number of items.
     EXPECT_THAT(Items(Text(longest, u'|')), SizeIs(longest));
 }
 
@@ -143,7 +143,7 @@ TEST(Contents, BarBeyondThe16BitPositionsOverflows) {
     EXPECT_THAT(Items(Text(100'000, u'x') + u"|b"), ElementsAre("overflow"));
 }
 
-// The items of `contents`, of which only those are walked over that a change from `former` has.
+// Returns the items of `contents`. Walks only over the part that a change from `former` affects.
 std::vector<std::string> ItemsAfterChange(TextView former, TextView contents) {
     const ContentsChange change = FindChange(former, contents);
     std::vector<std::string> items = Items(former);
@@ -157,7 +157,7 @@ std::vector<std::string> ItemsAfterChange(TextView former, TextView contents) {
     return items;
 }
 
-// Of such few different units that any two have much in common.
+// Uses few different units, so that any two contents have much in common.
 Text AnyContents(std::mt19937& random, std::size_t longestText) {
     constexpr TextView units = u"||;ab";
     Text contents(random() % (longestText + 1), u'x');

@@ -1,5 +1,5 @@
-// Every call that the control makes to its host fails once, in every public operation: one report
-// under the name of the procedure at fault, and a control that works on.
+// Makes every call of the control to its host fail once, in every public operation. The failing
+// procedure must report the error once, and the control must stay usable.
 #include <functional>
 #include <memory>
 #include <string>
@@ -24,7 +24,7 @@ struct Operation {
     std::string name;
     Mode mode;
     std::function<void(PlacedOptionList&)> run;
-    /// The procedures that report as the failing call moves from the first one to the last.
+    /// The procedures that report, in order, as the failing call moves from the first to the last.
     std::vector<std::string> procedures;
 };
 
@@ -34,7 +34,7 @@ void PrintTo(const Operation& operation, std::ostream* out) {
 
 class Faults : public ::testing::TestWithParam<Operation> {
  protected:
-    // Two items, the first of them selected.
+    // Returns a list of two items. The first one is selected.
     static std::unique_ptr<PlacedOptionList> Place() {
         auto placed = PlacedOptionList::New(Mode::Design);
         placed->List().pLetContents(u"a;A|b;B");
@@ -215,7 +215,7 @@ INSTANTIATE_TEST_SUITE_P(
                   {"UserControl_Resize", "MoveControls"}}),
     [](const auto& operation) { return operation.param.name; });
 
-// The click handler traps nothing: what fails there goes to what clicked.
+// The click handler has no trap, so its errors are raised to the code that clicks.
 TEST(ClickFault, OfTheUserGoesToTheRuntime) {
     const auto placed = PlacedOptionList::New(Mode::Run);
     placed->Faults().FailCall(u"Container.RaiseEvent", 1, ErrorNumber::OutOfMemory);
@@ -233,7 +233,7 @@ TEST(ClickFault, InTheNotificationIsReported) {
         ElementsAre("changed ListIndex", "error 7 in NotifyChangedListIndexText", "event Click"));
 }
 
-// A button that cannot be made leaves the ones before it, to be used by the next contents.
+// If a button cannot be made, the buttons before it stay, and the next contents use them.
 TEST(LoadFault, LeavesAUsableControl) {
     const auto placed = PlacedOptionList::New(Mode::Run);
     placed->Faults().FailCall(u"OptionButtons.Load", 3, ErrorNumber::OutOfMemory);

@@ -58,7 +58,7 @@ TEST(OptionListInterface, IsPublishedAsThis) {
         lines.push_back(Line(member));
     }
     EXPECT_EQ(voptlistInterface.name, u"_VOptList");
-    // 1745027072 + n for properties, 1610809344 + n for methods.
+    // Identifiers are 1745027072 + n for properties and 1610809344 + n for methods.
     EXPECT_THAT(
         lines,
         ElementsAre(
@@ -114,7 +114,7 @@ class LateBound : public ::testing::Test {
  protected:
     LateBound() { object.Let(u"Contents", Text(u"a;A|b;B")); }
 
-    /// The number of the error that `use` raises; 0 when it raises none.
+    /// Returns the number of the error that `use` raises, or 0 if it raises none.
     template <typename Use>
     static std::int32_t ErrorOf(Use&& use) {
         try {

@@ -1,4 +1,4 @@
-// The option buttons: loaded, made alike, placed, shown and hidden.
+// The option buttons: loading, copying of properties, placing, showing and hiding.
 #include <algorithm>
 #include <functional>
 #include <memory>
@@ -21,7 +21,7 @@ using ::testing::IsEmpty;
 using ::testing::SizeIs;
 using Mode = PlacedOptionList::Mode;
 
-// Members that one of the procedures calls, and none of the others.
+// Members that one of the procedures calls, and the others do not.
 constexpr TextView setupControls = u"OptionButton.Tag";
 constexpr TextView copyProperties = u"OptionButton.Alignment";
 constexpr TextView moveControls = u"Screen.TwipsPerPixelX";
@@ -36,7 +36,7 @@ class Layout : public ::testing::Test {
         return places;
     }
 
-    // 3000 wide: the buttons are 3000 - 2 * 15 wide.
+    // The control is 3000 wide, so the buttons are 3000 - 2 * 15 wide.
     std::unique_ptr<PlacedOptionList> placed = PlacedOptionList::New(Mode::Design);
     VOptList* list = &placed->List();
 };
@@ -117,7 +117,7 @@ TEST_F(Layout, ReturningItemsLoadNothingAndKeepTheirPlaces) {
 
 TEST_F(Layout, ContentsThatAddNothingMoveNothing) {
     list->pLetContents(u"1|2|3");
-    placed->Placed().Resize(40, 300);  // too narrow: from here on the rows lie elsewhere
+    placed->Placed().Resize(40, 300);  // too narrow: the rows keep their places
     list->pLetSpacing(500);
     const std::vector<Placement> before = Places();
     placed->Frame().Move({.width = 1000, .height = 300});
@@ -184,7 +184,7 @@ void PrintTo(const Caller& caller, std::ostream* out) {
 
 class WhoCallsWhat : public ::testing::TestWithParam<Caller> {
  protected:
-    // Two items at design time, so that each procedure has something to do.
+    // Uses two items at design time, so that each procedure has something to do.
     bool Calls(TextView procedure) {
         const auto placed = PlacedOptionList::New(Mode::Design);
         placed->List().pLetContents(u"1|2");
@@ -228,7 +228,7 @@ INSTANTIATE_TEST_SUITE_P(
         Caller{"Refresh", [](auto& p) { p->Refresh(); }, false, false, false}),
     [](const auto& caller) { return caller.param.name; });
 
-// What assigning costs: only what is different is put.
+// The cost of assigning contents: only different properties are set.
 class Reassigning : public ::testing::Test {
  protected:
     Reassigning() {
@@ -249,13 +249,13 @@ class Reassigning : public ::testing::Test {
         return joined;
     }
 
-    /// Whether assigning the contents puts `member` exactly `count` times on buttons.
+    /// Whether assigning the contents calls `member` exactly `count` times.
     bool Puts(TextView member, std::int64_t count) {
         const bool reachesCount = count == 0 || Reaches(member, count);
         return reachesCount && !Reaches(member, count + 1);
     }
 
-    // On a list of its own, which an injected fault may leave half done.
+    // Uses another list, because an injected fault may leave it half assigned.
     bool Reaches(TextView member, std::int64_t count) {
         const auto other = PlacedOptionList::New(Mode::Design);
         other->List().pLetContents(list->pGetContents());
@@ -324,7 +324,7 @@ class ManyItems : public Layout {
         return contents.substr(1);
     }
 
-    /// Calls of the contract that assigning that many items to a new list takes.
+    /// Returns the number of contract calls when so many items are assigned to a new list.
     static std::int64_t Calls(int count) {
         const auto placed = PlacedOptionList::New(Mode::Design);
         const std::int64_t before = placed->Faults().Calls();
@@ -357,7 +357,7 @@ TEST_F(ManyItems, AsManyAsThereCanBe) {
     EXPECT_EQ(list->pGetListIndex(), 32765);
 }
 
-// Contents of one unit more than positions can count.
+// Contents at the largest countable position, and one unit beyond it.
 class TooLong : public Layout {
  protected:
     static Text Long(std::size_t units) { return u"1;One|2;Two|3;Three|" + Text(units - 20, u'x'); }

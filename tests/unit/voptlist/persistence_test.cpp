@@ -27,7 +27,7 @@ std::string Describe(const Value& value) {
     return ToUtf8(ToText(value));
 }
 
-// Notes what is asked of it, with the defaults and their types.
+// Records the calls, with the defaults and their types, and stores nothing.
 class NotingBag final : public host::PropertyBag {
  public:
     Value ReadProperty(TextView name, const Value& defaultValue) override {
@@ -57,7 +57,7 @@ std::vector<std::size_t> DocumentedTypes() {
     return types;
 }
 
-// A list in which nothing has its default.
+// Returns a list in which no property has its default.
 std::unique_ptr<PlacedOptionList> Changed() {
     auto placed = PlacedOptionList::New(Mode::Design);
     VOptList& list = placed->List();
@@ -246,7 +246,7 @@ TEST(Persistence, AValueThatDoesNotConvertIsReported) {
     }
 }
 
-// The reports of what fails while clicks are ignored can fail themselves.
+// The report of an error that occurs while clicks are ignored can itself fail.
 TEST(Persistence, ClicksCountAfterReadingHasFailed) {
     PlacedOptionList placed(Mode::Run);
     memory::PropertyBag bag;

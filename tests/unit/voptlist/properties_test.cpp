@@ -1,4 +1,4 @@
-// The properties: where they live, whom they tell, when they are refused.
+// The properties: where they are stored, whom they notify, and when they are refused.
 #include <functional>
 #include <memory>
 #include <string>

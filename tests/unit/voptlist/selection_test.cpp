@@ -1,4 +1,4 @@
-// The selection as ListIndex, Text and Value, and what the container hears of it.
+// The selection as ListIndex, Text and Value, and its notifications to the container.
 #include <functional>
 #include <memory>
 #include <string>
@@ -271,8 +271,8 @@ TEST_F(Selection, TheButtonOfANewControlHasItsCaptionButNoValue) {
     EXPECT_EQ(fresh->List().pGetText(), u"0");
 }
 
-// Calls the control while its buttons are placed: the one moment of reading properties in which
-// something outside runs while clicks are ignored.
+// Calls the control while its buttons are placed. While properties are read and clicks are ignored,
+// no other outside code runs.
 class CallingScreen final : public host::Screen {
  public:
     std::int16_t TwipsPerPixelX() const override {
@@ -296,7 +296,7 @@ class WhileReading : public ::testing::Test {
         placed.TakeLog();
     }
 
-    /// Reads the same properties again and calls `action` on the way.
+    /// Reads the same properties again, and calls `action` during the reading.
     std::vector<std::string> ReadAnd(std::function<void()> action) {
         screen.call = std::move(action);
         list.UserControl_ReadProperties(bag);

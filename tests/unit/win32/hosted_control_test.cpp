@@ -1,4 +1,4 @@
-// A control's window in its container: showing, the mouse, the keyboard, and the end.
+// A control's window in its container: showing, mouse, keyboard and destruction.
 #include "runtime/win32/hosted_control.h"
 
 #include <array>
@@ -21,7 +21,7 @@ namespace {
 
 using Lines = std::vector<std::string>;
 
-constexpr SIZE size = {200, 100};
+constexpr SIZE startSize = {200, 100};
 
 template <typename Constituent>
 HWND WindowOf(Constituent& constituent) {
@@ -42,7 +42,7 @@ class HostedControlTest : public ::testing::Test {
     void Send(UINT message, WPARAM keys, int x, int y) {
         SendMessageW(Window(), message, keys, MAKELPARAM(x, y));
     }
-    // A key as the container's message loop sees it.
+    // Passes a key to the control, as the container's message loop does.
     bool Key(WPARAM key, UINT message = WM_KEYDOWN) {
         MSG queued = {};
         queued.hwnd = GetFocus();
@@ -56,10 +56,10 @@ class HostedControlTest : public ::testing::Test {
 
     WindowsForm form_{PaintedClasses()};
     std::unique_ptr<FormControl> control_ =
-        std::make_unique<FormControl>(form_, PaintedClasses().classes[0], size);
+        std::make_unique<FormControl>(form_, PaintedClasses().classes[0], startSize);
 };
 
-// The keys that are held, as the platform tells them.
+// Holds a key down in the keyboard state of this thread.
 class Held {
  public:
     explicit Held(int key) {
@@ -97,8 +97,8 @@ TEST_F(HostedControlTest, IsToldThatItIsShownWheneverItWasNot) {
 }
 
 TEST_F(HostedControlTest, IsShownOnceItIsStarted) {
-    control_ = std::make_unique<FormControl>(form_, PaintedClasses().classes[0], size);
-    Hosted().Attach(form_.Window(), {0, 0, size.cx, size.cy});
+    control_ = std::make_unique<FormControl>(form_, PaintedClasses().classes[0], startSize);
+    Hosted().Attach(form_.Window(), {0, 0, startSize.cx, startSize.cy});
     EXPECT_EQ(Painted().shows, 0);
     EXPECT_FALSE(Hosted().IsStarted());
     Hosted().StartNew();
@@ -131,9 +131,9 @@ TEST_F(HostedControlTest, ShowsOnlyWhatIsNotClipped) {
         RECT box = {};
         GetRgnBox(region, &box);
         DeleteObject(region);
-        return kind == ERROR || box.right - box.left == size.cx;
+        return kind == ERROR || box.right - box.left == startSize.cx;
     };
-    const RECT place = {20, 20, 20 + size.cx, 20 + size.cy};
+    const RECT place = {20, 20, 20 + startSize.cx, 20 + startSize.cy};
     Hosted().Place(place, {0, 0, 1000, 1000});
     EXPECT_TRUE(isWhole());
     Hosted().Place(place, {0, 0, 60, 1000});
@@ -146,7 +146,7 @@ TEST_F(HostedControlTest, RefusesWhatIsNoControl) {
     const ClassDescriptor page = {.name = u"Page", .kind = ClassKind::PropertyPage};
     const int windows = win32::Window::Count();
     try {
-        const FormControl refused(form_, page, size);
+        const FormControl refused(form_, page, startSize);
         FAIL();
     } catch (const RuntimeError& error) {
         EXPECT_EQ(error.Number(), 429);
@@ -187,15 +187,15 @@ TEST_F(HostedControlTest, DrawsItsConstituentsToo) {
         {{.name = u"L", .parent = frame.get(), .placement = {.width = 450, .height = 300}}, u""});
     label->SetBackColor(Rgb(255, 0, 0));
     Hosted().Detach();
-    Picture plain(size.cx, size.cy);
-    Hosted().Draw(plain.Device(), {0, 0, size.cx, size.cy});
+    Picture plain(startSize.cx, startSize.cy);
+    Hosted().Draw(plain.Device(), {0, 0, startSize.cx, startSize.cy});
     EXPECT_EQ(plain.Count(RGB(255, 0, 0)), 30 * 20);
     EXPECT_EQ(plain.Count(RGB(255, 0, 0), {20, 20, 50, 40}), 30 * 20);
-    Picture large(size.cx * 2, size.cy * 2);
-    Hosted().Draw(large.Device(), {0, 0, size.cx * 2, size.cy * 2});
+    Picture large(startSize.cx * 2, startSize.cy * 2);
+    Hosted().Draw(large.Device(), {0, 0, startSize.cx * 2, startSize.cy * 2});
     EXPECT_EQ(large.Count(RGB(255, 0, 0), {40, 40, 100, 80}), 60 * 40);
     label->SetVisible(false);
-    Hosted().Draw(plain.Device(), {0, 0, size.cx, size.cy});
+    Hosted().Draw(plain.Device(), {0, 0, startSize.cx, startSize.cy});
     EXPECT_EQ(plain.Count(RGB(255, 0, 0)), 0);
 }
 
@@ -416,7 +416,7 @@ TEST_F(KeyboardTest, KeysThatEditAreNotTheContainers) {
     EXPECT_FALSE(Key(VK_TAB)) << "the focus is elsewhere";
 }
 
-// What a dialog's message loop does by itself.
+// The message loop of a dialog finds the constituents by itself.
 TEST_F(KeyboardTest, DialogsFindTheConstituents) {
     EXPECT_EQ(GetNextDlgTabItem(form_.Window(), nullptr, FALSE), WindowOf(*text_));
     SetFocus(WindowOf(*check_));
@@ -452,7 +452,7 @@ TEST(Mnemonics, AreMarkedOnce) {
     EXPECT_FALSE(win32::AnswersTo(L"", L'x'));
 }
 
-// ---- The end
+// ---- Destruction
 
 TEST_F(HostedControlTest, LeavesNothingBehind) {
     control_.reset();
@@ -460,7 +460,7 @@ TEST_F(HostedControlTest, LeavesNothingBehind) {
     const int fonts = win32::ScreenFont::Count();
     const DWORD handles = GetGuiResources(GetCurrentProcess(), GR_GDIOBJECTS);
     for (int round = 0; round < 1000; ++round) {
-        control_ = std::make_unique<FormControl>(form_, PaintedClasses().classes[0], size);
+        control_ = std::make_unique<FormControl>(form_, PaintedClasses().classes[0], startSize);
         control_->Start();
         Painted().paint = [](host::Surface& surface) {
             surface.CurrentFont()->SetBold(true);

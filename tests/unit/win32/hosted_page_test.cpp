@@ -1,4 +1,4 @@
-// Property pages in windows, and all classes of the library once through.
+// Property pages in windows, and a test of every class of the library.
 #include "runtime/win32/hosted_page.h"
 
 #include <memory>
@@ -17,7 +17,7 @@
 namespace lumenkit::testing {
 namespace {
 
-constexpr SIZE size = {200, 100};
+constexpr SIZE labelSize = {200, 100};
 
 class Site final : public host::PropertyPageSite {
  public:
@@ -62,7 +62,7 @@ class HostedPageTest : public ::testing::Test {
     }
 
     WindowsForm form_{lumenkitClasses};
-    FormControl label_{form_, Class(u"VLabel"), size};
+    FormControl label_{form_, Class(u"VLabel"), labelSize};
     Site site_;
     Selected selected_{label_.Hosted().Automation()};
 };
@@ -148,7 +148,7 @@ TEST_F(HostedPageTest, OutlivesItsWindow) {
     try {
         page->GetPage().PropertyPage_SelectionChanged();
     } catch (const RuntimeError&) {
-        // Errors of a page are for its host to show.
+        // The host of a page shows the errors of the page.
     }
 }
 
@@ -157,24 +157,24 @@ TEST_F(HostedPageTest, RefusesWhatIsNoPage) {
                  RuntimeError);
 }
 
-// A text that a person sees is on the screen: something else than the background is drawn.
+// Whether the control draws anything other than its background.
 bool ShowsSomething(win32::HostedControl& control) {
-    Picture picture(size.cx, size.cy);
-    control.Draw(picture.Device(), {0, 0, size.cx, size.cy});
-    const COLORREF background = picture.At(size.cx - 30, size.cy - 30);
-    return picture.Count(background) < size.cx * size.cy;
+    Picture picture(labelSize.cx, labelSize.cy);
+    control.Draw(picture.Device(), {0, 0, labelSize.cx, labelSize.cy});
+    const COLORREF background = picture.At(labelSize.cx - 30, labelSize.cy - 30);
+    return picture.Count(background) < labelSize.cx * labelSize.cy;
 }
 
 class Products : public HostedPageTest, public ::testing::WithParamInterface<const char16_t*> {};
 INSTANTIATE_TEST_SUITE_P(Controls, Products, ::testing::Values(u"VLabel", u"VMemo", u"VOptList"));
 
 TEST_P(Products, AreShownSavedAndShownAgain) {
-    FormControl control(form_, Class(GetParam()), size);
+    FormControl control(form_, Class(GetParam()), labelSize);
     control.Start();
     EXPECT_TRUE(ShowsSomething(control.Hosted()));
     memory::PropertyBag bag;
     control.Hosted().Save(bag);
-    FormControl again(form_, Class(GetParam()), size);
+    FormControl again(form_, Class(GetParam()), labelSize);
     again.Start(&bag);
     EXPECT_TRUE(ShowsSomething(again.Hosted()));
     again.Hosted().Detach();
@@ -188,7 +188,7 @@ TEST_P(Products, LeaveNothingBehind) {
     const int windows = win32::Window::Count();
     const int fonts = win32::ScreenFont::Count();
     for (int round = 0; round < 250; ++round) {
-        FormControl control(form_, Class(GetParam()), size);
+        FormControl control(form_, Class(GetParam()), labelSize);
         control.Start();
         control.Hosted().Focus();
         UpdateWindow(control.Hosted().Window());

@@ -25,7 +25,7 @@ std::wstring TextOf(HWND window) {
     return text;
 }
 
-// Another person at the screen, who waits for a message box, looks at it and presses OK.
+// Acts as a user: waits for a message box, records it and presses OK.
 class Dismisser {
  public:
     Dismisser() : thread_([this] { Run(); }) {}

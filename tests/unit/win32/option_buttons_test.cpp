@@ -9,7 +9,7 @@
 namespace lumenkit::win32 {
 namespace {
 
-class Recorder final : public host::OptionButtonEvents {
+class ClickRecorder final : public host::OptionButtonEvents {
  public:
     void Click(std::int16_t index) override {
         clicked.push_back(index);
@@ -43,7 +43,7 @@ class OptionButtonsWindowTest : public PartsTest {
     bool IsChecked(std::int16_t index) {
         return SendMessageW(At(index), BM_GETCHECK, 0, 0) == BST_CHECKED;
     }
-    // The elements that Tab leads to.
+    // Returns the elements that are tab stops.
     Indices TabStops() {
         Indices stops;
         for (const std::int16_t index : Indices{0, 1, 2, 3}) {
@@ -54,7 +54,7 @@ class OptionButtonsWindowTest : public PartsTest {
         return stops;
     }
 
-    Recorder recorder_;
+    ClickRecorder recorder_;
     std::unique_ptr<host::Frame> frame_ = Parts().AddFrame(
         {{.name = u"Frame1", .placement = {.width = 3000, .height = 3000}}, u"&Frame"});
     std::unique_ptr<host::OptionButtons> options_ = Parts().AddOptionButtons(

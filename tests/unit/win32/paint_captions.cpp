@@ -1,6 +1,7 @@
-// Paints captions as labels on Windows' own devices, to be looked at:
+// Paints captions as labels on real devices of Windows, for inspection:
 //   paint_captions picture.bmp caption.txt...
-// Each label is drawn as its window is painted, then half as large again, then bordered.
+// Each label is drawn as its window is painted, then at one and a half times the size, then with a
+// border.
 #include <cstdio>
 #include <fstream>
 #include <iterator>
@@ -32,7 +33,7 @@ void PaintOne(WindowsForm& form, const Text& caption, Picture& picture, int top)
     FormControl control(form, *lumenkitClasses.Find(u"lumenkit.VLabel"), labelSize);
     control.Start();
     Object& label = control.Hosted().Automation();
-    // An outline font: Wine does not scale the platform's old bitmaps.
+    // An outline font: Wine does not scale the platform's old bitmap fonts.
     label.Set(u"Font", ObjectRef(form.Fonts().NewFont(u"Arial", 10)));
     label.Let(u"BulletPrefix", Text(u"* "));
     label.Let(u"BulletIndent", std::int16_t{240});

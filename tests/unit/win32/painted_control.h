@@ -10,13 +10,13 @@
 
 namespace lumenkit::testing {
 
-/// A control that paints what a test wants, and writes down what the person does to it.
+/// A control that paints as a test says, and records the mouse events.
 class PaintedControl final : public Control {
  public:
     explicit PaintedControl(const ControlHost& host);
     ~PaintedControl() override;
 
-    /// The one made last; null when that is gone.
+    /// Returns the control created last; null if it no longer exists.
     static PaintedControl* Last();
 
     Object& Automation() override { return automation_; }

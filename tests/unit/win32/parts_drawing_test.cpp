@@ -1,4 +1,4 @@
-// Constituents on devices of which they know nothing, while no window is shown.
+// Constituents drawn on devices other than their windows, while no window is shown.
 #include <memory>
 
 #include "frame/host/option_buttons.h"
@@ -23,7 +23,7 @@ class PartsDrawingTest : public PartsTest {
         DrawChildren(panel_->Handle(), picture_.Device());
         return picture_;
     }
-    // In pixels.
+    // Takes pixels.
     host::Placement At(int left, int top, int width, int height) {
         return ToTwips({left, top, left + width, top + height}, form_.PixelsPerInch());
     }

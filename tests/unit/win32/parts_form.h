@@ -1,4 +1,4 @@
-// A form with constituents on it, and a user who uses them.
+// A form with constituents, and the actions of a user.
 #pragma once
 
 #include <cstdint>
@@ -17,7 +17,8 @@ namespace lumenkit::win32 {
 
 using Lines = std::vector<std::string>;
 
-/// The window of the control that constituents lie on. Counts how often the focus came and left.
+/// The window of the control that contains the constituents. Counts how often the focus comes and
+/// leaves.
 class Panel final : public Window {
  public:
     Panel(HINSTANCE module, HWND parent);
@@ -34,7 +35,7 @@ class PartsTest : public ::testing::Test {
     explicit PartsTest(const ClassTable& classes = {}) : form_(classes) {}
 
     Constituents& Parts() { return parts_; }
-    /// The window of a constituent.
+    /// Returns the window of a constituent.
     template <typename Constituent>
     static HWND WindowOf(Constituent& constituent) {
         return dynamic_cast<Window&>(constituent).Handle();
@@ -47,17 +48,17 @@ class PartsTest : public ::testing::Test {
     Constituents parts_{form_.Context(), *panel_, true};
 };
 
-/// A key goes down and up; between them comes its character, if it has one.
+/// Presses and releases a key. In between, sends its character if it has one.
 void Strike(HWND window, WORD key, char16_t unit = 0);
 /// Types letters, digits and line breaks (CR).
 void TypeText(HWND window, TextView text);
-/// In pixels of the client area.
+/// Places are in pixels of the client area.
 void PressButton(HWND window, POINT place);
 void LiftButton(HWND window, POINT place);
 void ClickAt(HWND window, POINT place);
 void PutOnClipboard(HWND owner, TextView text);
 
-/// Holds a key for the platform as long as it lives.
+/// Holds a key down in the keyboard state of this thread while the object exists.
 class HeldKey {
  public:
     explicit HeldKey(int key);

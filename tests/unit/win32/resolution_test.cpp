@@ -1,4 +1,4 @@
-// Surfaces on screens of other resolutions than this one's.
+// Surfaces on screens with other resolutions than this one.
 #include <random>
 #include <vector>
 

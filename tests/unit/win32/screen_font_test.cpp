@@ -24,7 +24,7 @@ LOGFONTW Design(const wchar_t* name, int height, int weight = FW_NORMAL, bool it
     return design;
 }
 
-// What the platform says of a text as a whole, asked afresh.
+// Returns the extent that the platform measures for the whole text, on a new device context.
 SIZE Extent(const ScreenFont& font, TextView text) {
     const HDC device = CreateCompatibleDC(nullptr);
     const HGDIOBJ former = SelectObject(device, font.Handle());
@@ -57,7 +57,7 @@ std::string NameOf(const LOGFONTW& design) {
            (design.lfItalic != 0 ? " italic" : "");
 }
 
-// Any unit of the plane, but mostly those that people write, and blanks.
+// Returns units of the whole plane, but mostly common letters and blanks.
 Text RandomText(std::mt19937& random) {
     std::uniform_int_distribution<int> kind(0, 9);
     std::uniform_int_distribution<int> ascii(0x20, 0x7E);
@@ -88,8 +88,8 @@ TEST(ScreenFont, MeasuresAsThePlatformDoes) {
     }
 }
 
-// Words that the tables do not serve are measured by the platform; the sum over words and blanks is
-// the width.
+// The platform measures the words that the tables do not cover. The width is the sum over words and
+// blanks.
 TEST(ScreenFont, MeasuresWordsAndBlanksEachByItself) {
     std::mt19937 random(testing::TestSeed());
     for (const LOGFONTW& design : Designs()) {
@@ -136,7 +136,7 @@ TEST(ScreenFont, TheEndsServeEveryBreakAtABlank) {
 TEST(ScreenFont, MeasuresLongTexts) {
     const ScreenFont font(Design(L"Arial", -13));
     EXPECT_EQ(font.Width(Text(30000, u'm')), 30000 * font.Width(u"m"));
-    // Combining marks: one word of what the tables do not serve.
+    // Combining marks: one long word that the tables do not cover.
     Text marked;
     for (int i = 0; i < 10000; ++i) {
         marked += u"e\u0301";
@@ -159,7 +159,7 @@ TEST(FontCache, MakesAFontOnceAndReleasesAllAtTheEnd) {
         EXPECT_NE(same->Find(Design(L"Arial", -13, FW_BOLD)), font);
         EXPECT_EQ(ScreenFont::Count(), before + 2);
         LOGFONTW unclean = Design(L"Arial", -13);
-        unclean.lfFaceName[20] = L'?';  // behind the name's end
+        unclean.lfFaceName[20] = L'?';  // after the end of the name
         EXPECT_EQ(same->Find(unclean), font);
     }
     EXPECT_EQ(ScreenFont::Count(), before);

@@ -1,4 +1,4 @@
-// A control's surface on real devices: what the shared contract cannot see.
+// A control's surface on real devices: behaviour that the shared contract tests cannot check.
 #include <cmath>
 #include <memory>
 #include <string>
@@ -17,7 +17,7 @@
 namespace lumenkit::testing {
 namespace {
 
-constexpr SIZE size = {200, 100};
+constexpr SIZE paintedSize = {200, 100};
 constexpr COLORREF red = RGB(255, 0, 0);
 constexpr COLORREF blue = RGB(0, 0, 255);
 
@@ -30,16 +30,16 @@ class SurfaceTest : public ::testing::Test {
     HWND Window() { return control_.Hosted().Window(); }
     float Pixels(int count) { return win32::ToTwips(count, form_.PixelsPerInch().x); }
 
-    // What the window shows, or would draw on a device of its size.
+    // OnScreen() returns the picture in the window. Drawn() draws on another device.
     std::unique_ptr<Picture> OnScreen() {
         UpdateWindow(Window());
-        auto picture = std::make_unique<Picture>(size.cx, size.cy);
+        auto picture = std::make_unique<Picture>(paintedSize.cx, paintedSize.cy);
         const HDC device = GetDC(Window());
-        BitBlt(picture->Device(), 0, 0, size.cx, size.cy, device, 0, 0, SRCCOPY);
+        BitBlt(picture->Device(), 0, 0, paintedSize.cx, paintedSize.cy, device, 0, 0, SRCCOPY);
         ReleaseDC(Window(), device);
         return picture;
     }
-    std::unique_ptr<Picture> Drawn(SIZE scaled = size) {
+    std::unique_ptr<Picture> Drawn(SIZE scaled = paintedSize) {
         auto picture = std::make_unique<Picture>(scaled.cx, scaled.cy);
         control_.Hosted().Draw(picture->Device(), {0, 0, scaled.cx, scaled.cy});
         return picture;
@@ -50,7 +50,7 @@ class SurfaceTest : public ::testing::Test {
     }
 
     WindowsForm form_{PaintedClasses()};
-    FormControl control_{form_, PaintedClasses().classes[0], size};
+    FormControl control_{form_, PaintedClasses().classes[0], paintedSize};
 };
 
 TEST_F(SurfaceTest, ABoxIncludesBothCorners) {
@@ -109,10 +109,10 @@ TEST_F(SurfaceTest, SystemColoursAreThoseOfThePlatform) {
     EXPECT_EQ(win32::ToColorRef(Color::WindowBackground), GetSysColor(COLOR_WINDOW));
     EXPECT_EQ(win32::ToColorRef(Rgb(1, 2, 3)), RGB(1, 2, 3));
     Surface().SetBackColor(Color::Highlight);
-    EXPECT_EQ(OnScreen()->Count(GetSysColor(COLOR_HIGHLIGHT)), size.cx * size.cy);
+    EXPECT_EQ(OnScreen()->Count(GetSysColor(COLOR_HIGHLIGHT)), paintedSize.cx * paintedSize.cy);
 }
 
-// A scheme of other colours, as high contrast is one.
+// Uses other system colours, as a high-contrast scheme does.
 TEST_F(SurfaceTest, FollowsChangedSystemColours) {
     Surface().SetBackColor(Color::WindowBackground);
     OnScreen();
@@ -121,7 +121,7 @@ TEST_F(SurfaceTest, FollowsChangedSystemColours) {
     const COLORREF black = RGB(0, 0, 0);
     SetSysColors(1, &element, &black);
     SendMessageW(Window(), WM_SYSCOLORCHANGE, 0, 0);
-    EXPECT_EQ(OnScreen()->Count(black), size.cx * size.cy);
+    EXPECT_EQ(OnScreen()->Count(black), paintedSize.cx * paintedSize.cy);
     SetSysColors(1, &element, &former);
 }
 
@@ -133,16 +133,16 @@ TEST_F(SurfaceTest, TheBorderTakesItsRoomFromTheDrawingArea) {
     EXPECT_EQ(Painted().resizes, 1);
     const int edge = GetSystemMetrics(SM_CXEDGE);
     EXPECT_EQ(Surface().ScaleWidth(), width - Pixels(2 * edge));
-    EXPECT_EQ(Surface().Width(), Pixels(size.cx));
+    EXPECT_EQ(Surface().Width(), Pixels(paintedSize.cx));
     RECT client = {};
     GetClientRect(Window(), &client);
     EXPECT_EQ(Pixels(client.right), Surface().ScaleWidth());
     EXPECT_EQ(Pixels(client.bottom), Surface().ScaleHeight());
     const auto picture = Drawn();
-    EXPECT_EQ(picture->Count(red), (size.cx - 2 * edge) * (size.cy - 2 * edge));
+    EXPECT_EQ(picture->Count(red), (paintedSize.cx - 2 * edge) * (paintedSize.cy - 2 * edge));
     EXPECT_EQ(picture->At(edge, edge), red);
     EXPECT_EQ(picture->At(0, 0), GetSysColor(COLOR_BTNSHADOW));
-    EXPECT_EQ(picture->At(size.cx - 1, size.cy - 1), GetSysColor(COLOR_BTNHIGHLIGHT));
+    EXPECT_EQ(picture->At(paintedSize.cx - 1, paintedSize.cy - 1), GetSysColor(COLOR_BTNHIGHLIGHT));
     Surface().SetBorderStyle(0);
     EXPECT_EQ(Surface().ScaleWidth(), width);
 }
@@ -160,7 +160,7 @@ TEST_F(SurfaceTest, KeepsWhatIsDrawnWhereItShall) {
     EXPECT_EQ(OnScreen()->Count(red), 0);
     Surface().FillBox(0, 0, Pixels(9), Pixels(9), Rgb(255, 0, 0));
     Surface().SetBackColor(Rgb(0, 0, 255));
-    EXPECT_EQ(OnScreen()->Count(blue), size.cx * size.cy) << "another background clears it";
+    EXPECT_EQ(OnScreen()->Count(blue), paintedSize.cx * paintedSize.cy) << "another background clears it";
 }
 
 TEST_F(SurfaceTest, WhatIsDrawnBetweenPaintsIsSeenUntilTheNext) {
@@ -182,7 +182,7 @@ TEST_F(SurfaceTest, DrawsAtAnyScaleAndPlace) {
     picture.Fill(blue);
     control_.Hosted().Draw(picture.Device(), {50, 60, 250, 160});
     EXPECT_EQ(picture.Count(red, {60, 80, 70, 90}), 100);
-    EXPECT_EQ(picture.Count(blue), 300 * 300 - size.cx * size.cy) << "nothing beside its place";
+    EXPECT_EQ(picture.Count(blue), 300 * 300 - paintedSize.cx * paintedSize.cy) << "nothing beside its place";
 }
 
 TEST_F(SurfaceTest, TextKeepsItsPlaceAtAnyScale) {
@@ -194,7 +194,7 @@ TEST_F(SurfaceTest, TextKeepsItsPlaceAtAnyScale) {
     });
     const RECT plain = Drawn()->BoundsOfOthers(RGB(255, 255, 255));
     const RECT large = Drawn({600, 300})->BoundsOfOthers(RGB(255, 255, 255));
-    constexpr int tolerance = 9;  // three pixels of the plain one
+    constexpr int tolerance = 9;  // three pixels of the unscaled picture
     EXPECT_NEAR(large.left, plain.left * 3, tolerance);
     EXPECT_NEAR(large.right, plain.right * 3, tolerance);
     EXPECT_NEAR(large.bottom, plain.bottom * 3, tolerance);
@@ -205,11 +205,11 @@ TEST_F(SurfaceTest, TextKeepsItsPlaceAtAnyScale) {
 
 TEST_F(SurfaceTest, DrawsInUnitsThatRunUpwards) {
     PaintBy([&](host::Surface& surface) {
-        surface.FillBox(0, 0, Pixels(size.cx), Pixels(49), Rgb(255, 0, 0));
+        surface.FillBox(0, 0, Pixels(paintedSize.cx), Pixels(49), Rgb(255, 0, 0));
     });
-    Picture picture(size.cx, size.cy);
+    Picture picture(paintedSize.cx, paintedSize.cy);
     SetMapMode(picture.Device(), MM_HIMETRIC);
-    POINT corners[2] = {{0, 0}, {size.cx, size.cy}};
+    POINT corners[2] = {{0, 0}, {paintedSize.cx, paintedSize.cy}};
     DPtoLP(picture.Device(), corners, 2);
     control_.Hosted().Draw(picture.Device(),
                            {corners[0].x, corners[0].y, corners[1].x, corners[1].y});
@@ -228,7 +228,7 @@ TEST_F(SurfaceTest, DrawsIntoAMetafile) {
         surface.Print(u"text");
     });
     const HDC recorder = CreateEnhMetaFileW(nullptr, nullptr, nullptr, nullptr);
-    control_.Hosted().Draw(recorder, {0, 0, size.cx, size.cy});
+    control_.Hosted().Draw(recorder, {0, 0, paintedSize.cx, paintedSize.cy});
     const HENHMETAFILE file = CloseEnhMetaFile(recorder);
     int texts = 0;
     EnumEnhMetaFile(
@@ -251,13 +251,13 @@ TEST_F(SurfaceTest, DrawsIntoAnOldMetafileAsContainersKeepIt) {
     });
     const HDC recorder = CreateMetaFileW(nullptr);
     SetWindowOrgEx(recorder, 0, 0, nullptr);
-    SetWindowExtEx(recorder, size.cx, size.cy, nullptr);
-    control_.Hosted().Draw(recorder, {0, 0, size.cx, size.cy});
+    SetWindowExtEx(recorder, paintedSize.cx, paintedSize.cy, nullptr);
+    control_.Hosted().Draw(recorder, {0, 0, paintedSize.cx, paintedSize.cy});
     const HMETAFILE file = CloseMetaFile(recorder);
-    Picture picture(size.cx * 2, size.cy * 2);
+    Picture picture(paintedSize.cx * 2, paintedSize.cy * 2);
     SaveDC(picture.Device());
     SetMapMode(picture.Device(), MM_ANISOTROPIC);
-    SetViewportExtEx(picture.Device(), size.cx * 2, size.cy * 2, nullptr);
+    SetViewportExtEx(picture.Device(), paintedSize.cx * 2, paintedSize.cy * 2, nullptr);
     PlayMetaFile(picture.Device(), file);
     RestoreDC(picture.Device(), -1);
     DeleteMetaFile(file);
@@ -286,7 +286,7 @@ TEST_F(SurfaceTest, DrawsWhileItIsParked) {
 }
 
 TEST_F(SurfaceTest, RefreshPaintsEvenWhereNothingOfItIsSeen) {
-    control_.MoveTo({-500, -500, -500 + size.cx, -500 + size.cy});
+    control_.MoveTo({-500, -500, -500 + paintedSize.cx, -500 + paintedSize.cy});
     Painted().paints = 0;
     Surface().Refresh();
     EXPECT_EQ(Painted().paints, 1);
@@ -302,7 +302,7 @@ TEST_F(SurfaceTest, AskingForARepaintWhilePaintingDoesNothing) {
 TEST_F(SurfaceTest, TheSizeIsTheContainersToGive) {
     control_.agreesToSize = false;
     Surface().Size(Pixels(50), Pixels(50));
-    EXPECT_EQ(Surface().Width(), Pixels(size.cx));
+    EXPECT_EQ(Surface().Width(), Pixels(paintedSize.cx));
     control_.agreesToSize = true;
     Surface().Size(Pixels(50) + 1, Pixels(60) - 1);
     EXPECT_EQ(Surface().Width(), Pixels(50));

@@ -42,7 +42,7 @@ class Recorder final : public host::TextBoxEvents {
     void Note(const std::string& line) {
         lines.push_back(line);
         if (onEvent) {
-            const auto handler = onEvent;  // it may destroy what it lies in
+            const auto handler = onEvent;  // it may destroy this object
             handler(line);
         }
     }
@@ -52,7 +52,7 @@ class Recorder final : public host::TextBoxEvents {
     }
 };
 
-// In lines: the edit control of Wine takes seconds to wrap a long word.
+// The text consists of lines, because Wine's edit control takes seconds to wrap a long word.
 Text LongText(std::size_t length) {
     Text text;
     while (text.size() < length) {
@@ -404,7 +404,7 @@ TEST_F(TextBoxTest, TheMouseIsToldInTwips) {
     SendMessageW(Handle(), WM_MOUSEMOVE, MK_LBUTTON | MK_RBUTTON, MAKELPARAM(-5, 7));
     EXPECT_EQ(recorder_.Take(), Lines{"mousemove 3 0"});
     EXPECT_EQ(recorder_.mouse.x, ToTwips(-5, resolution.x));
-    PutOnClipboard(form_.Window(), u"");  // which Wine would insert
+    PutOnClipboard(form_.Window(), u"");  // Wine would insert the clipboard's text
     SendMessageW(Handle(), WM_MBUTTONDOWN, MK_MBUTTON, MAKELPARAM(1, 1));
     SendMessageW(Handle(), WM_MBUTTONUP, 0, MAKELPARAM(1, 1));
     EXPECT_EQ(recorder_.Take(), (Lines{"mousedown 4 0", "mouseup 4 0"}));
@@ -475,7 +475,7 @@ TEST_F(TextBoxTest, AsADialogSeesIt) {
     EXPECT_NE(code(&enter) & DLGC_WANTMESSAGE, 0);
     MSG tab = KeyDownOf(VK_TAB);
     EXPECT_EQ(code(&tab) & (DLGC_WANTMESSAGE | DLGC_WANTALLKEYS | DLGC_WANTTAB), 0);
-    // An edit control that knows of a dialog would have its parent closed.
+    // An edit control that knows that it is in a dialog would close its parent.
     Focus();
     Strike(Handle(), VK_ESCAPE, 27);
     Pump();

@@ -6,10 +6,10 @@
 
 namespace lumenkit::form {
 
-/// Selects what the rectangle touches that is drawn over a container.
+/// Selects the controls of a container that a dragged rectangle touches.
 class BandGesture final : public Gesture {
  public:
-    /// `adds`: to what is selected already.
+    /// With `adds`, keeps the present selection.
     BandGesture(const Ground& ground, const LiveControl* container, QPoint pressedAt, bool adds);
 
     void DragTo(QPoint at, bool snaps) override;

@@ -10,8 +10,8 @@
 
 namespace lumenkit::form {
 
-/// Where a form is designed by mouse and keyboard: controls are selected, moved, sized and drawn.
-/// What the canvas changes it changes through the design, a step of its history each time.
+/// The area in which a form is designed by mouse and keyboard: controls are selected, moved, sized
+/// and drawn. All changes go through the design, and each is a step of its history.
 class Canvas final : public QScrollArea {
     Q_OBJECT
 
@@ -23,39 +23,40 @@ class Canvas final : public QScrollArea {
     Canvas& operator=(const Canvas&) = delete;
 
     const Grid& GetGrid() const { return grid_; }
-    /// A step of less than a twip is one twip.
+    /// Sets the grid, with a step of at least one twip.
     void SetGrid(const Grid& grid);
 
-    /// The next drag or click draws a control of the class; then Drawn tells where.
+    /// Starts drawing: the next drag or click emits Drawn for a control of the class.
     void BeginDrawing(const Text& className);
-    /// Gives up drawing, as Esc does.
+    /// Cancels drawing, as Esc does.
     void EndDrawing();
     bool IsDrawing() const { return glass_->IsDrawing(); }
 
-    /// Whether the controls show their TabIndex, and get it by clicking one after the other.
+    /// Turns the tab order mode on or off: controls show their TabIndex and get a new one when they
+    /// are clicked in turn.
     void SetTabOrderMode(bool on);
     bool IsTabOrderMode() const { return glass_->IsTabOrderMode(); }
 
-    /// What the mouse reaches: what the form lies under.
+    /// The widget over the form that receives mouse input.
     Glass& GetGlass() const { return *glass_; }
 
  Q_SIGNALS:
-    /// By a double click or Enter: the control, or the form itself.
+    /// A double click or Enter activated a control or the form itself.
     void Activated(lumenkit::form::LiveControl& control);
     void FormActivated();
-    /// What the menu is for is selected.
+    /// A context menu is requested for the present selection.
     void MenuRequested(QPoint globalPosition);
-    /// A control of the class was drawn within `container`, which is null for the form, at a place
-    /// in twips.
+    /// A control of the class was drawn in `container` at a place in twips. `container` is null for
+    /// the form.
     void Drawn(const lumenkit::Text& className, lumenkit::form::LiveControl* container,
                const lumenkit::host::Placement& place);
-    /// Drawing is over, with or without a control.
+    /// Drawing has ended, with or without a control.
     void DrawingEnded();
     void TabOrderModeChanged(bool on);
-    /// Where the mouse is, in twips from the upper left corner of the form's inside.
+    /// The position of the mouse, in twips from the upper left corner of the form's client area.
     void PointerMoved(QPointF twips);
     void PointerLeft();
-    /// Something could not be done, and everything is as it was before.
+    /// An action failed and had no effect.
     void Refused(const QString& why);
 
  private:

@@ -22,7 +22,7 @@ QColor DeskColor(const QPalette& palette) {
     return window.darker(qGray(window.rgb()) >= middle ? shade : tint);
 }
 
-// What other programs put into their own windows has no title bar.
+// Controls, property pages and documents are shown inside other windows and have no title bar.
 bool HasTitle(const forms::Block& form) {
     return SameText(form.ClassName(), u"VB.Form", Compare::IgnoreCase) ||
            SameText(form.ClassName(), u"VB.MDIForm", Compare::IgnoreCase);
@@ -40,7 +40,7 @@ Desk::~Desk() {
 
 void Desk::Show(FormView& view) {
     view_ = &view;
-    // A window within the window: its keys and mnemonics are live only while it has the keyboard.
+    // A subwindow: its shortcuts and mnemonics work only while it has the focus.
     view.setParent(this, Qt::SubWindow);
     view.lower();
     view.layout()->activate();
@@ -62,7 +62,8 @@ void Desk::resizeEvent(QResizeEvent* /*event*/) {
 }
 
 bool Desk::eventFilter(QObject* watched, QEvent* event) {
-    // In this order: a view that is being destroyed also sends events, but is no view any more.
+    // The event type is checked first: a view also sends events while it is destroyed, when it is
+    // no longer a FormView.
     if (event->type() == QEvent::Resize && watched == view_) {
         Arrange();
     }

@@ -7,8 +7,7 @@
 
 namespace lumenkit::form {
 
-/// The neutral ground that a form lies on while it is designed, and the title bar and border that
-/// show it as a form.
+/// The neutral background of a form in the designer. Draws the title bar and border of the form.
 class Desk final : public QWidget {
  public:
     explicit Desk(QWidget* parent = nullptr);
@@ -16,10 +15,11 @@ class Desk final : public QWidget {
     Desk(const Desk&) = delete;
     Desk& operator=(const Desk&) = delete;
 
-    /// Puts the view on the desk, which does not own it: it is given back in the end.
+    /// Puts the view on the desk. The desk does not own the view: its destructor removes the view
+    /// from it.
     void Show(FormView& view);
 
-    /// Keeps `cover`, a child of the desk, over all of it.
+    /// Keeps `cover`, a child of the desk, at the size of the desk.
     void SetCover(QWidget& cover);
 
     bool eventFilter(QObject* watched, QEvent* event) override;

@@ -7,13 +7,13 @@
 
 namespace lumenkit::form {
 
-/// Draws the place of a new control.
+/// Draws the rectangle for a new control.
 class DrawingGesture final : public Gesture {
  public:
     using Done = std::function<void(LiveControl* container, const host::Placement& place)>;
 
-    /// `done` hears the place in the container, which is null for the form itself. A press without
-    /// a drag gives the place the size that the class usually has.
+    /// `done` receives the place in the container, which is null for the form. A press without a
+    /// drag gives the usual size of the class.
     DrawingGesture(const Ground& ground, Text className, QPoint pressedAt, Done done);
 
     void DragTo(QPoint at, bool snaps) override;

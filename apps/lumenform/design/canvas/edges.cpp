@@ -6,7 +6,7 @@ namespace lumenkit::form {
 
 namespace {
 
-// One dimension: where it begins and how long it is.
+// Shifts the edges of one dimension.
 void Shift(float& start, float& length, bool near, bool far, float by) {
     if (near && far) {
         start += by;

@@ -4,7 +4,7 @@
 
 namespace lumenkit::form {
 
-/// Which edges of a rectangle go along: some of them size it, all of them move it.
+/// The edges of a rectangle that move: some edges size it, all edges move it.
 struct Edges {
     bool left = false;
     bool top = false;
@@ -16,8 +16,8 @@ struct Edges {
 
 constexpr Edges allEdges{true, true, true, true};
 
-/// The place once these edges went that far, in twips. An edge that alone would pass the one across
-/// stops there.
+/// Returns the place after these edges have moved by a distance in twips. A single edge stops at
+/// the opposite edge.
 host::Placement Shifted(const host::Placement& place, Edges edges, float across, float down);
 
 }  // namespace lumenkit::form

@@ -8,8 +8,8 @@ namespace lumenkit::form {
 
 namespace {
 
-// The innermost widget at a point of `widget`. QWidget::childAt passes over what the mouse does
-// not reach.
+// Returns the innermost widget at a point of `widget`. QWidget::childAt skips widgets that are
+// transparent for mouse events.
 const QWidget& InnermostAt(const QWidget& widget, QPoint at) {
     const QObjectList& children = widget.children();
     const auto liesThere = [at](const QObject* child) {
@@ -49,7 +49,7 @@ QPoint FormMap::OriginOf(const LiveControl* container) const {
     return InsideOf(design_, container).widget.mapTo(&desk_, QPoint());
 }
 
-// The control that the widget is or is a part of.
+// Returns the control whose widget is `widget` or contains it, or null.
 LiveControl* FormMap::Find(const QWidget* widget) const {
     for (; widget != nullptr && widget != &design_.View(); widget = widget->parentWidget()) {
         if (const auto found = controls_.find(widget); found != controls_.end()) {

@@ -10,28 +10,28 @@
 
 namespace lumenkit::form {
 
-/// Where the form and its controls lie on the desk, in the desk's pixels. As a container, null is
-/// the form itself.
+/// The places of the form and its controls in pixels of the desk. A null container is the form
+/// itself.
 class FormMap {
  public:
     /// Both must outlive the map.
     FormMap(const Design& design, const QWidget& desk);
 
-    /// The design's view is another one.
+    /// Called when the design has a new view.
     void Update();
 
     QRect ClientRect() const;
     QRect RectOf(const LiveControl& control) const;
-    /// The point that places within the container count from.
+    /// The origin of places in the container.
     QPoint OriginOf(const LiveControl* container) const;
 
-    /// The topmost control there; null where there is none.
+    /// Returns the topmost control at a point, or null.
     LiveControl* ControlAt(QPoint at) const;
-    /// The innermost container there.
+    /// Returns the innermost container at a point.
     LiveControl* ContainerAt(QPoint at) const;
-    /// Those that lie in the container itself and have a part in the rectangle.
+    /// Returns the direct children of the container that intersect the rectangle.
     std::vector<LiveControl*> Touched(const LiveControl* container, const QRect& area) const;
-    /// All, by their TabIndex; those without one come last.
+    /// Returns all controls in the order of TabIndex. Controls without one come last.
     std::vector<LiveControl*> InTabOrder() const;
 
  private:

@@ -18,7 +18,7 @@ struct Names {
     TextView scaled;
 };
 
-// One dimension; `scaled` is its length in the form's units.
+// Stores the length of one dimension. `scaled` is the length in the form's units.
 void Store(const BlockReader& form, const Names& names, float former, float now, float scaled) {
     if (former == now) {
         return;

@@ -5,13 +5,13 @@
 
 namespace lumenkit::form {
 
-/// As the document says now.
+/// Returns the present size in the document.
 FormSize ClientSizeOf(const Design& design);
 
-/// Makes the form so large inside, at least a pixel. Its lines change for it: ClientWidth and
-/// ClientHeight, and where the form has them Width and Height, which count the borders, and
-/// ScaleWidth and ScaleHeight, which count in its units. The units stay as large as they are. One
-/// step of the history. Throws as Design::Restructure does.
+/// Sets the size of the form's client area, at least one pixel. Changes ClientWidth and
+/// ClientHeight. If the form has them, also changes Width and Height, which include the borders,
+/// and ScaleWidth and ScaleHeight, which are in the form's units. The size of a unit does not
+/// change. One step of the history. Throws as Design::Restructure does.
 void ResizeForm(Design& design, FormSize size);
 
 }  // namespace lumenkit::form

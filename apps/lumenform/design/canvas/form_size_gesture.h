@@ -22,7 +22,7 @@ class FormSizeGesture final : public Gesture {
     Ground ground_;
     Edges edges_;
     QPoint pressedAt_;
-    host::Placement former_;  // of the inside, from 0, 0
+    host::Placement former_;  // of the client area, from 0, 0
     host::Placement place_;
 };
 

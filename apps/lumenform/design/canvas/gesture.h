@@ -11,14 +11,15 @@
 
 namespace lumenkit::form {
 
-/// What gestures happen on. All of it outlives them, but for the view: gestures end with it.
+/// The objects that gestures work on. All must outlive the gestures, except for the view: gestures
+/// end with it.
 struct Ground {
     Design& design;
     const FormMap& map;
     const Grid& grid;
 };
 
-/// What the mouse does from the press to the release. Points are pixels of the desk.
+/// A mouse action from the press to the release. Points are in pixels of the desk.
 class Gesture {
  public:
     Gesture() = default;
@@ -26,16 +27,17 @@ class Gesture {
     Gesture(const Gesture&) = delete;
     Gesture& operator=(const Gesture&) = delete;
 
-    /// The mouse is there; `snaps`: to the lines of the grid.
+    /// Called when the mouse has moved. With `snaps`, the dragged edges stop at the lines of the
+    /// grid.
     virtual void DragTo(QPoint at, bool snaps) = 0;
-    /// The button was released. Throws as Design does.
+    /// Called when the button is released. Throws as Design does.
     virtual void Finish() = 0;
-    /// Puts everything back.
+    /// Restores the former state.
     virtual void Cancel() {}
 
-    /// To tell while dragging: in twips, within the container.
+    /// The place to show during the drag, in twips within the container.
     virtual std::optional<host::Placement> Place() const { return std::nullopt; }
-    /// To be drawn while dragging; empty: nothing.
+    /// The rectangle to draw during the drag; may be empty.
     virtual QRect Band() const { return {}; }
 };
 

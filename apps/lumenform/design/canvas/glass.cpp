@@ -20,7 +20,7 @@ namespace lumenkit::form {
 
 namespace {
 
-constexpr int dragDistance = 4;  // pixels; what is less is a click
+constexpr int dragDistance = 4;  // pixels; a shorter drag is a click
 
 bool Adds(Qt::KeyboardModifiers held) {
     return (held & (Qt::ShiftModifier | Qt::ControlModifier)) != 0;
@@ -44,7 +44,7 @@ Glass::Glass(Design& design, const Grid& grid, QWidget& desk)
     setMouseTracking(true);
     setAccessibleName(tr("Form"));
     connect(&design, &Design::SelectionChanged, this, &Glass::TellSelection);
-    // Whatever changed the form in the middle of a drag, undo for one, has the last word.
+    // Any other change to the form during a drag, such as undo, ends the drag.
     connect(&design, &Design::Edited, this, &Glass::EndGesture);
 }
 
@@ -225,7 +225,7 @@ void Glass::mouseReleaseEvent(QMouseEvent* event) {
     UpdateCursor(event->position().toPoint());
 }
 
-// Forgets the drag and gives it away; what it did so far stays.
+// Ends the drag and returns its gesture. Its effects so far remain.
 Glass::GestureRef Glass::EndGesture() {
     if (gesture_ != nullptr) {
         update(Grown(gesture_->Band()));
@@ -269,7 +269,8 @@ void Glass::contextMenuEvent(QContextMenuEvent* event) {
     Q_EMIT MenuRequested(event->globalPos());
 }
 
-// A menu over one of several selected controls is for them all.
+// Selects the control under the menu. If it is selected already, the menu is for all selected
+// controls.
 void Glass::SelectForMenu(LiveControl* control) {
     if (control == nullptr) {
         design_.Select({});
@@ -350,7 +351,7 @@ bool Glass::focusNextPrevChild(bool next) {
     return true;
 }
 
-// ---- What is seen
+// ---- Painting and accessibility
 
 void Glass::TellSelection() {
     QStringList names;

@@ -15,19 +15,19 @@
 
 namespace lumenkit::form {
 
-/// Lies over the form while it is designed. Mouse and keyboard end here, and what marks the
-/// selection is drawn here.
+/// A transparent widget over the form in the designer. It receives all mouse and keyboard input and
+/// draws the marks of the selection.
 class Glass final : public QWidget {
     Q_OBJECT
 
  public:
-    /// `desk`, the parent, carries the form at the same place. All must outlive the glass.
+    /// `desk`, the parent, shows the form at the same place. All arguments must outlive the glass.
     Glass(Design& design, const Grid& grid, QWidget& desk);
     ~Glass() override;
     Glass(const Glass&) = delete;
     Glass& operator=(const Glass&) = delete;
 
-    /// The design's view is another one.
+    /// Called when the design has a new view.
     void FollowView();
 
     void BeginDrawing(const Text& className);
@@ -37,7 +37,7 @@ class Glass final : public QWidget {
     bool IsTabOrderMode() const { return isTabOrderMode_; }
 
  Q_SIGNALS:
-    // As those of Canvas.
+    // See the signals of Canvas.
     void Activated(LiveControl& control);
     void FormActivated();
     void MenuRequested(QPoint globalPosition);
@@ -47,7 +47,7 @@ class Glass final : public QWidget {
     void PointerMoved(QPointF twips);
     void PointerLeft();
     void Refused(const QString& why);
-    /// To be scrolled to.
+    /// Requests scrolling to the rectangle.
     void Wanted(const QRect& rect);
 
  protected:
@@ -63,14 +63,14 @@ class Glass final : public QWidget {
 
  private:
     using GestureRef = std::unique_ptr<Gesture>;
-    // A button that is down, and what comes of it: a drag, or else a click.
+    // A pressed button and the actions it can start: a drag, or else a click.
     struct Press {
         QPoint at;
         std::function<GestureRef()> drag;
         std::function<void()> click;
     };
     struct Grip {
-        LiveControl* control = nullptr;  // the form
+        LiveControl* control = nullptr;  // null: the form
         Edges edges;
     };
 
@@ -103,7 +103,7 @@ class Glass final : public QWidget {
     GestureRef gesture_;
     Text drawnClass_;
     bool isTabOrderMode_ = false;
-    QRegion marks_;  // as they are on the screen
+    QRegion marks_;  // as painted last
 };
 
 }  // namespace lumenkit::form

@@ -2,13 +2,13 @@
 
 namespace lumenkit::form {
 
-/// The grid of a form that is designed. It begins in the upper left corner of each container.
+/// The grid of a form in the designer. Its origin is the upper left corner of each container.
 struct Grid {
-    float step = 120;  ///< twips from dot to dot, at least 1
+    float step = 120;  ///< twips between dots, at least 1
     bool isShown = true;
-    bool snaps = true;  ///< what is dragged stops at its lines only
+    bool snaps = true;  ///< dragged edges stop only at grid lines
 
-    /// The nearest line.
+    /// Returns the nearest grid line.
     float Nearest(float twips) const;
 
     friend bool operator==(const Grid&, const Grid&) = default;

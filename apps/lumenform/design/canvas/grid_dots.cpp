@@ -12,9 +12,10 @@ namespace lumenkit::form {
 
 namespace {
 
-constexpr double closest = 3;  // pixels; dots that lie closer would be a grey
+constexpr double closest = 3;  // pixels; closer dots would look grey
 
-// How many steps, one way, make whole pixels of the device, so that tiles of them join.
+// The number of grid steps, in one direction, that is nearest to a whole number of device pixels,
+// so that tiles of them join.
 int StepsInTile(double step, double pixelRatio) {
     constexpr double longest = 1024;  // pixels
     constexpr double longEnough = 128;

@@ -16,16 +16,16 @@ class GridDots final : public QObject {
     /// The grid must outlive the dots.
     explicit GridDots(const Grid& grid) : grid_(grid) {}
 
-    /// From now on the dots are on this view.
+    /// Draws the dots on this view from now on.
     void Follow(const FormView& view);
-    /// The grid is another.
+    /// Called when the grid has changed.
     void Refresh();
 
     bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
     struct Ground {
-        bool paintsItself;  // its background, in its own paint event
+        bool paintsItself;  // paints its background in its paint event
         Color backColor;
     };
 

@@ -8,7 +8,7 @@ namespace lumenkit::form {
 namespace {
 
 constexpr int size = 7;
-constexpr int reach = 2;  // pixels around a handle that still take hold of it
+constexpr int reach = 2;  // pixels around a handle that count as part of it
 
 QRect SquareAt(int x, int y) {
     return {x, y, size, size};

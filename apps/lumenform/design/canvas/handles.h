@@ -1,4 +1,4 @@
-// The small squares around what is selected, by which it is sized.
+// The small squares around a selected control, with which it is sized.
 #pragma once
 
 #include <QPainter>
@@ -11,22 +11,22 @@
 namespace lumenkit::form {
 
 struct Handle {
-    Edges edges;  ///< that go along with it
+    Edges edges;  ///< the edges that it moves
     QRect rect;
 };
 
-/// Those of a control, around its rectangle; fewer where there is no room for those in the middle.
+/// The handles around a control's rectangle. Small controls have no middle handles.
 std::vector<Handle> HandlesOf(const QRect& control);
-/// Those of the form, which stays where it is: right, bottom and between them.
+/// The handles of the form at the right and bottom edges and their corner. The form does not move.
 std::vector<Handle> FormHandlesOf(const QRect& client);
 
-/// What a pointer there takes hold of.
+/// Returns the edges of the handle at a point, if there is one.
 std::optional<Edges> EdgesAt(const std::vector<Handle>& handles, QPoint at);
-/// What all of them lie in: one rectangle is repainted faster than the few pixels of each of them.
+/// The bounding rectangle of all handles. Repainting it is faster than repainting each handle.
 QRect BoundsOf(const std::vector<Handle>& handles);
 Qt::CursorShape CursorFor(Edges edges);
 
-/// Filled ones are those of what the others are aligned with.
+/// Paints the handles. Those of the control that the others are aligned with are filled.
 void PaintHandles(QPainter& painter, const std::vector<Handle>& handles, bool filled,
                   const QPalette& palette);
 

@@ -6,8 +6,9 @@
 
 namespace lumenkit::form {
 
-/// What an arrow key does: alone it moves what is selected, with Shift it sizes it, by a step of
-/// the grid or with Ctrl by a pixel. False for another key. Throws as Design does.
+/// Handles an arrow key: it moves the selected controls, or with Shift sizes them, by a grid step
+/// or with Ctrl by a pixel. With Shift, it also sizes the form if no control is selected. Returns
+/// false for another key. Throws as Design does.
 bool Nudge(const Ground& ground, const QKeyEvent& key);
 
 }  // namespace lumenkit::form

@@ -6,7 +6,7 @@
 
 namespace lumenkit::form {
 
-/// Tells a place in twips beside the pointer.
+/// Shows a place in twips beside the mouse pointer.
 class PlaceLabel final : public QLabel {
  public:
     explicit PlaceLabel(QWidget* parent);

@@ -10,7 +10,7 @@ namespace lumenkit::form {
 
 namespace {
 
-// How far an edge goes that lies at `edge` and is dragged by so many twips.
+// Returns the distance that an edge at `edge` moves when it is dragged by `dragged` twips.
 float Distance(float edge, float dragged, const Grid& grid, bool snaps) {
     return snaps && dragged != 0 ? grid.Nearest(edge + dragged) - edge : dragged;
 }

@@ -7,8 +7,8 @@
 
 namespace lumenkit::form {
 
-/// Moves or sizes what is selected, by so much as the control under the mouse. That one keeps to
-/// the grid, the others to their distance from it.
+/// Moves or sizes the selected controls by the same distance as the control under the mouse. Only
+/// that control snaps to the grid.
 class PlacingGesture final : public Gesture {
  public:
     /// `grabbed` is one of the selected controls.

@@ -1,4 +1,4 @@
-// Who is selected next.
+// Changes to the selection.
 #pragma once
 
 #include "apps/lumenform/design/canvas/form_map.h"
@@ -6,13 +6,13 @@
 
 namespace lumenkit::form {
 
-/// Adds the control to what is selected, or takes it out.
+/// Adds the control to the selection, or removes it.
 void Toggle(Design& design, LiveControl& control);
-/// The others are aligned with this one of the selected controls from now on.
+/// Makes this control the last selected one, with which the others are aligned.
 void MakeLast(Design& design, LiveControl& control);
-/// The control behind the last selected one in the tab order, or before it, and around.
+/// Selects the control after or before the last selected one in the tab order, and wraps around.
 void SelectNext(Design& design, const FormMap& map, bool forward);
-/// What the last selected control lies in.
+/// Selects the container of the last selected control.
 void SelectContainer(Design& design);
 void SelectAll(Design& design);
 

@@ -9,16 +9,16 @@
 
 namespace lumenkit::form {
 
-/// The mode in which clicking the controls one after the other gives them their turn with Tab.
+/// Paints the TabIndex of each control and assigns new ones in the order of clicks.
 class TabBadges {
  public:
-    /// All must outlive this.
+    /// All arguments must outlive this object.
     TabBadges(Design& design, const FormMap& map, const QWidget& desk)
         : design_(design), map_(map), desk_(desk) {}
 
-    /// Begins to count from 0.
+    /// Restarts the numbers from 0.
     void Start() { next_ = 0; }
-    /// The control takes the next number. Throws as Design::Restructure does.
+    /// Assigns the next number to the control. Throws as Design::Restructure does.
     void Number(const LiveControl& control);
 
     void Paint(QPainter& painter) const;

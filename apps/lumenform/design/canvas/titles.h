@@ -1,4 +1,4 @@
-// What the steps of the history are called.
+// The names of the steps in the history.
 #pragma once
 
 #include <QString>
@@ -8,7 +8,7 @@
 
 namespace lumenkit::form {
 
-/// `one` gives its name where it is the only one.
+/// Names the control `one` if it is the only one.
 QString MoveTitle(std::size_t count, const LiveControl& one);
 QString SizeTitle(std::size_t count, const LiveControl& one);
 QString SizeFormTitle();

@@ -30,7 +30,7 @@ std::vector<Item> Items(const Design& design) {
     return items;
 }
 
-// From and to are on the form; the control's place is told by what it lies in.
+// Moves a control to a place on the form. The control itself counts its place from its container.
 void MoveTo(const Item& item, const Placement& onForm) {
     Placement place = item.control->Place();
     place.left += onForm.left - item.onForm.left;
@@ -42,7 +42,7 @@ void MoveTo(const Item& item, const Placement& onForm) {
 
 using Follow = std::function<Placement(const Placement& place, const Placement& leader)>;
 
-// All but the leader take the place that `follow` gives them.
+// Moves all controls but the last selected one to the places that `follow` returns.
 void FollowLast(Design& design, const char* title, const Follow& follow) {
     const std::vector<Item> items = Items(design);
     if (items.size() < 2) {
@@ -79,7 +79,7 @@ Placement Aligned(Placement place, const Placement& leader, Alignment alignment)
     return place;
 }
 
-// One direction of a placement, so that rows and columns are treated alike.
+// One direction of a placement: rows and columns share their code.
 struct Axis {
     float Placement::*start;
     float Placement::*length;

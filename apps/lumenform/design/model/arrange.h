@@ -1,5 +1,5 @@
-// Where selected controls stand beside one another. Each function is one step of the history; the
-// last control that was selected is the one that the others follow.
+// Arranges the selected controls. Each change is one step of the history. The other controls follow
+// the one that was selected last.
 #pragma once
 
 #include <vector>
@@ -12,24 +12,25 @@ namespace lumenkit::form {
 enum class Alignment { Left, Center, Right, Top, Middle, Bottom };
 enum class Dimension { Width, Height, Both };
 
-/// The selected controls without those that lie in another selected one.
+/// The selected controls that are not inside another selected control.
 std::vector<LiveControl*> OutermostSelected(const Design& design);
-/// What the control lies in; null: the form itself.
+/// Returns the container of the control, or null for the form.
 LiveControl* ContainerOf(const Design& design, const LiveControl& control);
-/// The surroundings of what lies in `container`; null stands for the form.
+/// The surroundings of the controls in `container`. Null means the form.
 const Surroundings& InsideOf(const Design& design, const LiveControl* container);
-/// The block of `container`; null stands for the form.
+/// The block of `container`. Null means the form.
 forms::Block& BlockOf(const Design& design, const LiveControl* container);
-/// Where the control is in twips from the upper left corner of the form.
+/// The place of the control in twips from the upper left corner of the form's client area.
 host::Placement PlaceOnForm(const Design& design, const LiveControl& control);
 
 void Align(Design& design, Alignment alignment);
 void MakeSameSize(Design& design, Dimension dimension);
-/// The selected controls as a whole into the middle of what they lie in.
+/// Moves the selected controls as a group to the middle of their container.
 void CenterOnContainer(Design& design, Qt::Orientation orientation);
-/// The same gap between all neighbours; the outer ones stay. At least three controls.
+/// Makes all gaps between neighbours equal. The outer controls do not move. Does nothing for fewer
+/// than three controls.
 void SpaceEvenly(Design& design, Qt::Orientation orientation);
-/// Edges onto multiples of `grid` twips; no side becomes shorter than one of them.
+/// Moves the edges to multiples of `grid` twips. Width and height are at least `grid`.
 void SizeToGrid(Design& design, float grid);
 
 }  // namespace lumenkit::form

@@ -6,8 +6,8 @@
 
 namespace lumenkit::form {
 
-/// Does what may be refused, and gives the reason of a control or the form, with the place in the
-/// file where there is one; nothing when it was done.
+/// Runs `work` and returns the reason if a control or the form rejects it, with the place in the
+/// file if known. Returns nothing on success.
 std::optional<QString> Attempt(const std::function<void()>& work);
 
 }  // namespace lumenkit::form

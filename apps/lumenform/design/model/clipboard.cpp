@@ -80,8 +80,8 @@ bool HoldsContainers(const forms::Document& copied) {
     });
 }
 
-// What pasted controls go into; null: the form. Containers go beside the selected one, not into it,
-// as it may be the one that was pasted just before.
+// Returns the container for pasted controls; null is the form. Containers are pasted beside the
+// selected container and not into it, because it may be the one that was pasted last.
 const LiveControl* PasteTarget(const Design& design, const forms::Document& copied) {
     if (design.Selected().empty()) {
         return nullptr;
@@ -92,7 +92,7 @@ const LiveControl* PasteTarget(const Design& design, const forms::Document& copi
     return goesInside ? &last : ContainerOf(design, last);
 }
 
-// Whether something else in the container stands just where the control does.
+// Whether another control of the container is at the same left and top.
 bool IsOccupied(const forms::Document& document, const forms::Block& container,
                 forms::Block& control) {
     const host::Placement taken = SavedPlace(BlockReader(document, control), {});
@@ -104,7 +104,7 @@ bool IsOccupied(const forms::Document& document, const forms::Block& container,
     });
 }
 
-// All by the same steps, so that they keep their places beside one another.
+// Moves all pasted controls by the same distance until none is at the place of another control.
 void StepAside(const forms::Document& document, const forms::Block& container,
                const std::vector<forms::Block*>& pasted, const Scale& scale) {
     const host::Placement origin = scale.FromTwips({});
@@ -118,7 +118,7 @@ void StepAside(const forms::Document& document, const forms::Block& container,
             now.left += step.left - origin.left;
             now.top += step.top - origin.top;
             if (now == former) {
-                return;  // so far out that a step is lost in rounding
+                return;  // so far away that rounding loses the step
             }
             StorePlace(reader, former, now);
         }

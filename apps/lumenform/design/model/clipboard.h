@@ -1,4 +1,4 @@
-// Controls on the clipboard: a small form of them alone, with its companion.
+// Controls on the clipboard: a form that contains only them, with its companion file.
 #pragma once
 
 #include <QMimeData>
@@ -8,22 +8,22 @@
 
 namespace lumenkit::form {
 
-/// How copied controls are called on the clipboard.
+/// The MIME type of copied controls.
 extern const char* const controlsFormat;
 
-/// The selected controls with all that lies in them, also as the text of a form; null when none is
+/// Returns the selected controls with their contents, also as the text of a form. Null if none is
 /// selected.
 std::unique_ptr<QMimeData> CopySelected(const Design& design);
 
 bool HoldsControls(const QMimeData* data);
 
-/// Puts copies of the controls into the selected container, or beside what is selected, and selects
-/// them: with names of their own where theirs are taken, elements of control arrays with free
-/// indices, and a little aside of what stands there already. One step of the history. Throws
-/// FormError for what is damaged, and as Design::Restructure does.
+/// Pastes copies of the controls into the selected container or beside the selected control, and
+/// selects them. Copies get new names if theirs are taken, elements of control arrays get free
+/// indices, and the copies move aside from controls at the same place. One step of the history.
+/// Throws FormError for damaged data, and as Design::Restructure does.
 void Paste(Design& design, const QMimeData& data);
 
-/// Copy and paste without the clipboard.
+/// Copies and pastes without the clipboard.
 void DuplicateSelected(Design& design);
 
 }  // namespace lumenkit::form

@@ -8,7 +8,8 @@
 
 namespace lumenkit::form {
 
-// What was done has been done before the history gets the step.
+// A step of the history. The first redo does nothing, because the change is complete before the
+// history gets the step.
 class Design::Step final : public QUndoCommand {
  public:
     Step(Design& design, const QString& title, SharedSnapshot before, Merging merging)

@@ -14,11 +14,11 @@
 
 namespace lumenkit::form {
 
-/// Whether a step may become one with the step of the same kind just before it.
+/// Whether a step can merge with the previous step of the same kind.
 enum class Merging { None, Nudges };
 
-/// A form that is being designed: its document, its view in design mode, what is selected, and the
-/// steps that can be undone. The document says at any time what would be saved.
+/// A form in the designer: its document, its view in design mode, the selection and the undo
+/// history. The document always holds the state that would be saved.
 class Design final : public QObject {
     Q_OBJECT
 
@@ -33,40 +33,40 @@ class Design final : public QObject {
 
     const qt::Context& Context() const { return context_; }
     forms::Document& Document() const { return *document_; }
-    /// The form on the screen; replaced by another one when blocks came, went or changed. The
-    /// design owns it: whoever makes it a child of his own takes it out before he goes.
+    /// The form on the screen. A new view replaces it when blocks are added, removed or changed.
+    /// The design owns it: a widget that becomes its parent must remove it before the widget is
+    /// destroyed.
     FormView& View() const { return *view_; }
 
-    /// The controls that are selected, in the order in which they were; the last one is what others
-    /// are aligned with. Empty: the form itself.
+    /// The selected controls in the order of selection. The others are aligned with the last one.
+    /// Empty if the form itself is selected.
     const std::vector<LiveControl*>& Selected() const { return selected_; }
     std::vector<Text> SelectedNames() const;
     bool IsSelected(const LiveControl& control) const;
     void Select(std::vector<LiveControl*> controls);
-    /// By their names in code; what is not there is left out.
+    /// Selects controls by their names in code. Ignores unknown names.
     void SelectNamed(const std::vector<Text>& names);
 
-    /// Changes what live controls hold: places and properties. The document follows, and the change
-    /// becomes a step of the history unless it changed nothing. What the change throws
-    /// (RuntimeError), and FormError for a text that the form's encoding does not have, goes on to
-    /// the caller; then everything is as it was before.
+    /// Changes places and properties of live controls. The document follows, and the change becomes
+    /// a step of the history unless it has no effect. If `change` throws (RuntimeError), or a text
+    /// is not in the form's encoding (FormError), restores the former state and rethrows.
     void Edit(const QString& title, const std::function<void()>& change,
               Merging merging = Merging::None);
-    /// The same for changes to the document's blocks, after which the view is made anew. `change`
-    /// gives the names of the controls that are selected then. A FormError of the new view also
-    /// takes everything back.
+    /// Does the same for changes to the document's blocks, and then creates a new view. `change`
+    /// returns the names of the controls to select. Also restores the former state if the new view
+    /// throws a FormError.
     void Restructure(const QString& title, const std::function<std::vector<Text>()>& change);
 
-    /// Undo, redo, and whether there is something to save.
+    /// Undo, redo, and whether there are unsaved changes.
     QUndoStack& History() { return history_; }
-    /// The document goes by another file name from now on; see forms::Document::Rename.
+    /// Changes the file name of the document. See forms::Document::Rename.
     void Rename(const std::string& name);
 
  Q_SIGNALS:
-    /// View() is another one, and so is everything in it.
+    /// View() and everything in it is new.
     void ViewReplaced();
     void SelectionChanged();
-    /// The document changed, by an edit, undo or redo.
+    /// The document has changed by an edit, undo or redo.
     void Edited();
 
  private:
@@ -81,7 +81,7 @@ class Design final : public QObject {
     std::unique_ptr<forms::Document> document_;
     std::unique_ptr<FormView> view_;
     std::vector<LiveControl*> selected_;
-    SharedSnapshot now_;  // what the document is
+    SharedSnapshot now_;  // the present document
     QUndoStack history_;
 };
 

@@ -5,11 +5,11 @@
 
 namespace lumenkit::form {
 
-/// Sees to it that the form names the library of `classes`.
+/// Adds the library of `classes` to the form if it is missing.
 void RequireLibrary(forms::Document& form, const ClassTable& classes);
 
-/// Sees to it that the form names the libraries that the controls of `clip` need. Which of its
-/// libraries a class of others is from is not to be seen: then all of them come along.
+/// Adds the libraries that the controls of `clip` need to the form. If `clip` has a control of
+/// another library, adds all its libraries, because a class name does not show its library file.
 void RequireLibrariesOf(const forms::Document& clip, forms::Document& form,
                         const ClassTable& classes);
 

@@ -21,7 +21,7 @@ bool IsPartOfName(char16_t unit) {
     return IsLetter(unit) || (unit >= u'0' && unit <= u'9') || unit == u'_';
 }
 
-// One more than the highest whole number that the property has in one of the blocks.
+// Returns one more than the highest whole number that the property has in a counted block.
 template <typename Counts>
 std::int32_t OneMore(const forms::Block& form, TextView property, const Counts& counts) {
     std::int32_t next = 0;

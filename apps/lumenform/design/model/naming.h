@@ -8,20 +8,20 @@
 
 namespace lumenkit::form {
 
-/// Whether code can call something so: a letter, then letters, digits and underscores, at most 40
-/// in all.
+/// Whether the text is a valid name in code: a letter, then letters, digits and underscores, at
+/// most 40 characters.
 bool IsName(TextView name);
 
-/// Whether the control, menu or form has the name, without regard to case.
+/// Whether the control, menu or form has this name, ignoring case.
 bool Bears(const forms::Block& block, TextView name);
 
 /// "VLabel" of "lumenkit.VLabel".
 TextView ShortClassName(TextView className);
 
-/// Whether a control or menu of the form, or the form itself, has the name.
+/// Whether a control or menu of the form, or the form itself, has this name.
 bool IsTaken(const forms::Block& form, TextView name);
 
-/// The class's short name with the lowest number, from 1, that is taken in none of the forms.
+/// The short name of the class with the lowest number, from 1, that makes it unused in all `forms`.
 Text FreshName(std::initializer_list<const forms::Block*> forms, TextView className);
 
 /// One more than the highest index of the control array `name`.

@@ -56,7 +56,7 @@ void SetPlace(forms::Block& block, const host::Placement& place, std::int32_t ta
     block.Set(u"Width", forms::NumberLiteral(place.width));
 }
 
-// A control that is set up as a new one, off the form, for its properties to be saved.
+// Creates a new control outside the form, to save its initial properties.
 class Prototype final : private qt::ControlSite, private host::Ambient {
  public:
     Prototype(const qt::Context& context, const ClassDescriptor& type, const Surroundings& around,

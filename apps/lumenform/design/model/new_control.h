@@ -9,14 +9,14 @@
 
 namespace lumenkit::form {
 
-/// The classes that can be put on a form: ours first, then the plain ones.
+/// The classes that can be added to a form: those of this library first, then the plain ones.
 std::vector<Text> NewControlClasses(const ClassTable& classes);
 
-/// How large a control of the class is unless it is drawn otherwise; left and top are 0. In twips.
+/// The default size of a control of the class, in twips. Left and top are 0.
 host::Placement UsualPlace(const ClassTable& classes, TextView className);
 
-/// Puts a new control in front of all others in `container` (null: the form) and selects it. A
-/// control of ours is set up as its class sets up new ones. One step of the history.
+/// Adds a new control in front of all others in `container` (null: the form) and selects it. A
+/// class of this library initializes its new controls itself. One step of the history.
 void AddNewControl(Design& design, TextView className, const LiveControl* container,
                    const host::Placement& place);
 

@@ -14,7 +14,7 @@ bool IsLetter(char character) {
     return (character >= 'a' && character <= 'z') || (character >= 'A' && character <= 'Z');
 }
 
-bool IsPartOfName(char character) {
+bool MayStandInName(char character) {
     return IsLetter(character) || (character >= '0' && character <= '9') || character == '_';
 }
 
@@ -27,7 +27,7 @@ std::string LibraryLine(const ClassTable& classes) {
 std::string FormName(std::string_view fileStem) {
     constexpr std::size_t longest = 40;
     std::string name;
-    std::ranges::copy_if(fileStem, std::back_inserter(name), IsPartOfName);
+    std::ranges::copy_if(fileStem, std::back_inserter(name), MayStandInName);
     if (name.empty() || !IsLetter(name.front())) {
         name.insert(0, "frm");
     }

@@ -7,12 +7,12 @@
 
 namespace lumenkit::form {
 
-/// The text of an empty form of the name `name`, with lines that end in CR LF, which may hold the
-/// controls of `classes`.
+/// Returns the text of an empty form named `name` that can contain the controls of `classes`. Lines
+/// end in CR LF.
 std::string NewForm(std::string_view name, const ClassTable& classes);
 
-/// A name for code from a file's: its letters, digits and underscores, at most 40, behind "frm"
-/// where it does not begin with a letter.
+/// Makes a name in code from a file name: its letters, digits and underscores, at most 40, after
+/// "frm" if they do not begin with a letter.
 std::string FormName(std::string_view fileStem);
 
 }  // namespace lumenkit::form

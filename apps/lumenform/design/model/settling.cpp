@@ -48,7 +48,7 @@ class Settling {
     }
 
  private:
-    // By something that is no element of an array.
+    // Whether the name belongs to the form or to a control or menu outside a control array.
     bool IsTakenByOne(TextView name) const {
         return Bears(form_, name) ||
                std::ranges::any_of(forms::AllControls(form_), [&](const forms::Block* block) {
@@ -69,7 +69,7 @@ class Settling {
         }
     }
 
-    // The elements of one array stay one.
+    // The elements of an array keep a common name.
     Text NewName(const forms::Block& block) {
         const bool isElement = NumberOf(block, u"Index") != nullptr;
         if (const auto known = arrays_.find(block.Name()); isElement && known != arrays_.end()) {

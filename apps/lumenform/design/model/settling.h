@@ -4,8 +4,8 @@
 
 namespace lumenkit::form {
 
-/// Makes the controls of `clip` ready to come into `form`: names that are taken there become fresh
-/// ones, elements of control arrays get free indices, and the tab order goes on behind the form's.
+/// Prepares the controls of `clip` for insertion into `form`: renames controls whose names are
+/// taken, gives elements of control arrays free indices, and continues the tab order of the form.
 void SettleInto(const forms::Block& form, const forms::Block& clip);
 
 }  // namespace lumenkit::form

@@ -9,11 +9,11 @@
 
 namespace lumenkit::form {
 
-/// A document as it was at some time, in the bytes that would have been saved.
+/// The state of a document at one moment, in the bytes that would have been saved.
 class Snapshot {
  public:
-    /// Shares with `earlier`, which may be null, what is the same. Throws FormError as
-    /// Document::Write does.
+    /// Shares equal bytes with `earlier`, which may be null. Throws FormError as Document::Write
+    /// does.
     Snapshot(const forms::Document& document, std::vector<Text> selected, const Snapshot* earlier);
 
     /// The same document with another selection.
@@ -21,12 +21,12 @@ class Snapshot {
 
     bool HoldsTheSameAs(const Snapshot& other) const;
     forms::FormBytes Bytes() const { return {*form_, *companion_}; }
-    /// The names of the controls that were selected.
+    /// The names of the selected controls.
     const std::vector<Text>& Selected() const { return selected_; }
 
  private:
     std::shared_ptr<const std::string> form_;
-    std::shared_ptr<const std::string> companion_;  // pictures make it large
+    std::shared_ptr<const std::string> companion_;  // large if it has pictures
     std::vector<Text> selected_;
 };
 

@@ -16,7 +16,7 @@ struct Stacked {
     forms::Block& block;
 };
 
-// In the order of the file, whatever the order of selection.
+// Returns the blocks in the order of the file, not of selection.
 std::vector<Stacked> SelectedBlocks(const Design& design) {
     const std::vector<LiveControl*> selected = OutermostSelected(design);
     std::vector<Stacked> blocks;

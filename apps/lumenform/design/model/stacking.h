@@ -1,4 +1,4 @@
-// Which control lies in front of which: the first in the file is the foremost.
+// The z-order of controls: the first one in the file is in front.
 #pragma once
 
 #include "apps/lumenform/design/model/design.h"
@@ -6,13 +6,15 @@
 
 namespace lumenkit::form {
 
-/// The block of `container` before which a control stands in front of all others; null: at the end.
+/// Returns the block of `container` before which a new block is in front of all others, or null for
+/// the end.
 const forms::Block* Foremost(const forms::Block& container);
-/// The block before which a control stands behind all others, as menus come last; null: at the end.
+/// Returns the block before which a new block is behind all other controls, because menus come
+/// last. Null for the end.
 const forms::Block* BehindAll(const forms::Block& container);
 
-/// The selected controls, which keep their order, in front of all others that lie beside them. One
-/// step of the history, as the next.
+/// Moves the selected controls in front of their siblings and keeps their order. Each of the
+/// following changes is one step of the history.
 void BringToFront(Design& design);
 void SendToBack(Design& design);
 void DeleteSelected(Design& design);

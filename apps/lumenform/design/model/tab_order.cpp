@@ -21,7 +21,7 @@ struct Stop {
     std::int32_t turn;
 };
 
-// All but `without`, in their order.
+// Returns all stops except `without`, in tab order.
 std::vector<Stop> StopsOf(const forms::Document& document, const forms::Block& without) {
     std::vector<Stop> stops;
     for (forms::Block* block : forms::AllControls(document.Root())) {

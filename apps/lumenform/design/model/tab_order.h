@@ -5,9 +5,9 @@
 
 namespace lumenkit::form {
 
-/// Gives a control of the form the turn `turn`, from 0, when Tab is pressed; one beyond the last is
-/// the last. The others keep their order; a TabIndex changes only where it must. Raises 380 for a
-/// negative turn.
+/// Moves a control to the position `turn`, from 0, in the tab order. A position beyond the end is
+/// the last one. The others keep their order. Changes as few TabIndex values as possible. Raises
+/// 380 if `turn` is negative.
 void GiveTurn(const forms::Document& document, forms::Block& control, std::int32_t turn);
 
 }  // namespace lumenkit::form

@@ -28,7 +28,8 @@ constexpr TextView tabStopHelp = u"Whether Tab stops at the control.";
 constexpr TextView tagHelp = u"A text for the program's own use.";
 constexpr TextView visibleHelp = u"Whether the control is seen when the form runs.";
 
-// The name of each property and group of the block, but for the identifiers that designers keep.
+// Returns the names of the properties and groups of the block, without names that begin with an
+// underscore, which are for designers.
 std::vector<Text> NamesIn(const forms::Block& block) {
     std::vector<Text> names;
     for (const forms::Block::Item& item : block.Items()) {
@@ -43,8 +44,9 @@ std::vector<Text> NamesIn(const forms::Block& block) {
     return names;
 }
 
-// What a new property is to stand behind: designers keep them in order, those of a component in two
-// runs, the container's before the component's extents.
+// Returns the property after which a new one is inserted. Designers keep properties in alphabetical
+// order. In blocks of components, the properties of the container come first and end at the
+// extents.
 Text Predecessor(const forms::Block& block, TextView name) {
     Text found;
     const Text sought = LCase(name);
@@ -73,7 +75,7 @@ void Write(Design& design, forms::Block& block, TextView name, const Value& valu
     bag.WriteProperty(name, value, otherwise);
 }
 
-// A setting of the block with a value of its own type.
+// A property of the block, its type and its default.
 struct BlockSetting {
     Text name;
     TextView help;
@@ -116,7 +118,7 @@ Setting MakeSetting(Design& design, forms::Block& block, const BlockSetting& wha
     return setting;
 }
 
-// ---- What controls have from their container
+// ---- Settings from the container
 
 Setting NameSetting(Design& design, forms::Block& block) {
     return {.name = u"(Name)",
@@ -181,7 +183,7 @@ Setting PlaceSetting(Design& design, LiveControl& control, TextView name, TextVi
                 }};
 }
 
-// ---- What stands in blocks
+// ---- Settings in blocks
 
 Value Otherwise(const UsualProperty& usual) {
     return std::visit(
@@ -197,7 +199,7 @@ Value Otherwise(const UsualProperty& usual) {
         usual.otherwise);
 }
 
-// The class's own colours and the font of what the control lies in.
+// The colours of the class and the font of the container.
 struct Inherited {
     Colors colors;
     std::shared_ptr<qt::Font> font;
@@ -262,7 +264,7 @@ bool NamesColor(TextView name) {
     return name.ends_with(u"Color");
 }
 
-// A property that no class is known to have, by the way its value is written.
+// Makes a setting for an unknown property. The form of its value determines its kind.
 Setting UnknownSetting(Design& design, forms::Block& block, const forms::Property& property) {
     const forms::Literal& literal = property.Literal();
     const auto* reference = std::get_if<forms::Reference>(&literal);
@@ -329,12 +331,12 @@ bool IsSeen(const LiveControl& control) {
     return control.Own() != nullptr || PlainKindOf(control.Block()).isSeen;
 }
 
-// Our own controls are stops, as those are that are not known.
+// Controls of this library and of unknown classes are tab stops.
 TabRole TabRoleOf(const LiveControl& control) {
     return IsSeen(control) ? PlainKindOf(control.Block()).tab : TabRole::None;
 }
 
-// A form's coordinates go as far as its inside, unless it has some of its own.
+// Scales a form's ScaleWidth or ScaleHeight with the client area, unless the form has custom units.
 void StretchScale(const Design& design, TextView client, TextView scale, float former, float now) {
     forms::Block& form = design.Document().Root();
     const BlockReader reader(design.Document(), form);

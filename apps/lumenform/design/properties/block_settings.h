@@ -7,14 +7,13 @@
 
 namespace lumenkit::form {
 
-// The settings below must not outlive the design's view and document.
+// These settings must not outlive the view and the document of the design.
 
-/// What a control has from what it lies in: (Name), Left, Top, ..., Visible, as far as its class
-/// has it.
+/// The properties that a control has from its container, as far as they apply to its class: (Name),
+/// Left, Top, ..., Visible.
 std::vector<Setting> ContainerSettings(Design& design, LiveControl& control);
 
-/// The properties of a plain control: those that stand in its block, and the usual ones of its
-/// class.
+/// The properties of a plain control: those in its block and the usual ones of its class.
 std::vector<Setting> PlainSettings(Design& design, LiveControl& control);
 
 /// The same for the form.

@@ -19,7 +19,7 @@ void ChoiceBox::keyPressEvent(QKeyEvent* event) {
     const QScopedValueRollback byKeys(byKeys_, true);
     QComboBox::keyPressEvent(event);
     if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
-        event->accept();  // the delegate commits; the list is not to start anew
+        event->accept();  // the delegate commits; the list must not start editing again
     }
 }
 

@@ -4,8 +4,8 @@
 
 namespace lumenkit::form {
 
-/// A combo box in a list: the wheel scrolls the list, and what the keyboard does to it is no choice
-/// yet.
+/// A combo box in a list. The mouse wheel scrolls the list, and moving through the entries by
+/// keyboard does not pick one.
 class ChoiceBox final : public QComboBox {
     Q_OBJECT
 
@@ -13,7 +13,7 @@ class ChoiceBox final : public QComboBox {
     explicit ChoiceBox(QWidget* parent);
 
  Q_SIGNALS:
-    /// An entry was picked from the open list.
+    /// The user has picked an entry from the open list.
     void Picked();
 
  protected:

@@ -24,7 +24,8 @@ QFont ToQFont(const forms::FontDescription& description) {
     return font;
 }
 
-// `former` with what is different between what the dialog showed at first and in the end.
+// Returns `former` with the attributes that differ between the first and the last font of the
+// dialog.
 forms::FontDescription Changed(forms::FontDescription former, const QFont& first,
                                const QFont& last) {
     if (last.family() != first.family()) {

@@ -8,8 +8,9 @@
 
 namespace lumenkit::form {
 
-/// Has the person choose a font; `chosen` hears of it unless he gives up. What he leaves alone
-/// stays as `former`, which may be null, has it, also where the system has no such font.
+/// Opens a dialog to choose a font. Calls `chosen` unless the user cancels. Attributes that the
+/// user does not change keep the values of `former`, even if the system lacks that font. `former`
+/// may be null.
 void ChooseFont(QWidget& parent, const QString& title, const host::Font* former,
                 std::function<void(std::shared_ptr<qt::Font>)> chosen);
 

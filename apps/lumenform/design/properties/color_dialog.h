@@ -9,15 +9,15 @@
 
 namespace lumenkit::form {
 
-/// Chooses one of the system's colours by name, one of a palette, or any other.
+/// A dialog to choose a system colour by name, a colour of a palette or any other colour.
 class ColorDialog final : public QDialog {
     Q_OBJECT
 
  public:
-    /// `former` is where it starts; nothing: several.
+    /// `former` is the initial colour; empty if several controls have different ones.
     ColorDialog(const QString& title, std::optional<Color> former, QWidget* parent);
 
-    /// What is chosen; nothing as long as nothing is.
+    /// The chosen colour; empty if none is chosen yet.
     std::optional<Color> Result() const { return chosen_; }
 
     QListWidget& SystemList() const { return *system_; }

@@ -44,7 +44,7 @@ constexpr std::array systemColors = {
     Named(0x18, u"Tool tip"),
 };
 
-// White, greys and black are the first column.
+// The first column contains white, greys and black.
 constexpr std::array paletteColors = {
     Rgb(255, 255, 255), Rgb(255, 192, 192), Rgb(255, 224, 192), Rgb(255, 255, 192),
     Rgb(192, 255, 192), Rgb(192, 255, 255), Rgb(192, 192, 255), Rgb(255, 192, 255),
@@ -82,7 +82,7 @@ Value ColorFromText(TextView text) {
     if (digits.empty() || !std::ranges::all_of(digits, IsHexDigit)) {
         return Text(text);
     }
-    // Of up to 16 bits, a number without & would be signed.
+    // Without the &, a number of up to 16 bits would be signed.
     return Text(prefix) + Text(digits) + u'&';
 }
 

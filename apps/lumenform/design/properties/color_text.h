@@ -8,11 +8,12 @@
 
 namespace lumenkit::form {
 
-/// "&H8000000F&"
+/// Returns the colour as "&H8000000F&".
 Text ColorText(Color color);
 
-/// What a person typed for a colour, ready to be assigned: "&H" and hexadecimal digits are all of
-/// the colour, whether or not an & follows; anything else is left to who converts it.
+/// Converts a typed colour to a value that can be assigned. "&H" and hexadecimal digits are a
+/// colour with or without a final &. Any other text is returned unchanged, for the property to
+/// convert.
 Value ColorFromText(TextView text);
 
 struct NamedColor {
@@ -20,10 +21,10 @@ struct NamedColor {
     Color color;
 };
 
-/// The system's colours by name, in the order of their numbers.
+/// The names of the system colours, in the order of their numbers.
 std::span<const NamedColor> SystemColors();
 
-/// Five rows of eight, each of one brightness, from white to black.
+/// Five rows of eight colours from light to dark, each row of one brightness.
 std::span<const Color> PaletteColors();
 
 }  // namespace lumenkit::form

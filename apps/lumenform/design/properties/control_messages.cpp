@@ -6,7 +6,7 @@ namespace lumenkit::form {
 
 namespace {
 
-// Behind the names of program, module and procedure.
+// Returns the error in a report, which follows the names of program, module and procedure.
 TextView ErrorIn(TextView report) {
     constexpr TextView before = u"\r\nMessage: ";
     const std::size_t found = report.find(before);

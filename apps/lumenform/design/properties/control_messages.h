@@ -7,16 +7,16 @@
 
 namespace lumenkit::form {
 
-/// What controls and pages say to the person, on its way to another interaction. While somebody
-/// listens, it is kept for him instead: so an editor learns that a control refused something, since
-/// controls report their errors and do not raise them.
+/// Forwards the messages of controls and pages to another interaction. While a listener exists, it
+/// collects the messages instead. With it, an editor learns that a control rejected a value,
+/// because controls report their errors and do not raise them.
 class ControlMessages final : public host::Interaction {
  public:
-    /// `shown` must outlive this.
+    /// `shown` must outlive this object.
     explicit ControlMessages(host::Interaction& shown) : shown_(shown) {}
 
-    /// Listens as long as it lives; of several, the one that was made last. The messages must
-    /// outlive it.
+    /// Collects messages during its lifetime. If several exist, the newest one collects them. The
+    /// ControlMessages object must outlive it.
     class Listener {
      public:
         explicit Listener(ControlMessages& messages);
@@ -24,7 +24,8 @@ class ControlMessages final : public host::Interaction {
         Listener(const Listener&) = delete;
         Listener& operator=(const Listener&) = delete;
 
-        /// What was said so far: of an error report the error alone, other messages as they stand.
+        /// The messages so far. An error report is reduced to the error; other messages are
+        /// complete.
         const std::vector<Text>& Heard() const { return heard_; }
 
      private:

@@ -14,7 +14,7 @@ namespace {
                        u"A font is written like this: Arial, 9.75 pt bold italic");
 }
 
-// Takes the first word off `text`.
+// Removes the first word from `text` and returns it.
 TextView TakeWord(TextView& text) {
     text = Trim(text);
     const TextView word = text.substr(0, text.find(blank));
@@ -40,7 +40,7 @@ void SetStyle(qt::Font& font, TextView style) {
     }
 }
 
-// "8.25", with "pt" close behind it or as the next word.
+// Reads "8.25", followed by "pt" directly or as the next word.
 float TakeSize(TextView& text) {
     constexpr TextView unit = u"pt";
     TextView word = TakeWord(text);
@@ -93,7 +93,7 @@ std::shared_ptr<qt::Font> FontFromText(TextView text, const host::Font* former) 
         SetStyle(*font, style);
     }
     if (former != nullptr && former->Bold() == font->Bold()) {
-        font->SetWeight(former->Weight());  // a light one stays light
+        font->SetWeight(former->Weight());  // keeps a light weight
     }
     return font;
 }

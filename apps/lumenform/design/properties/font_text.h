@@ -6,12 +6,12 @@
 
 namespace lumenkit::form {
 
-/// A font in words: "MS Sans Serif, 8.25 pt bold italic". Empty for nothing.
+/// Returns the font as text: "MS Sans Serif, 8.25 pt bold italic". Empty if `font` is null.
 Text FontText(const host::Font* font);
 
-/// The font that such words stand for, with what they do not say (the character set) as `former`,
-/// which may be null, has it. Raises 380 with the reason for what are no such words, and for a size
-/// that no font has.
+/// Returns the font that such a text describes. The character set, which is not in the text, is
+/// that of `former`, which may be null. Raises 380 with the reason if the text is malformed or the
+/// size invalid.
 std::shared_ptr<qt::Font> FontFromText(TextView text, const host::Font* former);
 
 }  // namespace lumenkit::form

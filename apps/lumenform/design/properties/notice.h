@@ -5,14 +5,14 @@
 
 namespace lumenkit::form {
 
-/// A line that says what went wrong, with a sign before it, and is not there when all is well.
+/// A line that shows an error with an icon. It is hidden if there is no error.
 class Notice final : public QFrame {
     Q_OBJECT
 
  public:
     explicit Notice(QWidget* parent);
 
-    /// Empty: hides it.
+    /// Shows the text, or hides the line if the text is empty.
     void Say(const QString& text);
     QString Text() const { return text_->text(); }
 

@@ -61,7 +61,7 @@ std::vector<Choice> ChoicesOf(ValueType type, const EnumerationLibrary* enumerat
     return choices;
 }
 
-// Fonts are shared: each control gets one of its own.
+// Fonts are shared objects, so each control gets a copy.
 Value OwnFont(const Value& value) {
     const auto* object = std::get_if<ObjectRef>(&value);
     return object == nullptr ? value : ObjectRef(qt::Font::From(host::ToFont(value))->Clone());

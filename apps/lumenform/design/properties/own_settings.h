@@ -8,7 +8,7 @@
 
 namespace lumenkit::form {
 
-/// The properties of one of our controls that a designer can see, as its interface table has them:
+/// The properties of a control of this library that a designer can see, from its interface table:
 /// without hidden, write-only and indexed ones. `enumerations` may be null. The control must
 /// outlive the settings.
 std::vector<Setting> OwnSettings(qt::ControlWidget& control,

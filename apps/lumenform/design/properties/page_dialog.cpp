@@ -12,7 +12,8 @@ namespace lumenkit::form {
 
 namespace {
 
-// A control by its name: its widget is made anew now and then, the page's selection is not.
+// Refers to a control by name: the design sometimes replaces the widget, but the page keeps its
+// selection.
 class NamedControl final : public Object {
  public:
     NamedControl(const Design& design, Text name) : design_(design), name_(std::move(name)) {}
@@ -82,12 +83,13 @@ PageDialog::PageDialog(Design& design, ControlMessages& messages, const ClassDes
         selection.push_back(std::make_shared<NamedControl>(design, name));
     }
     page_->Select(std::move(selection));
-    page_->SetChanged(false);  // what it was filled with is no change
+    page_->SetChanged(false);  // the initial values are no change
     apply->setEnabled(false);
     FocusPage();
 }
 
-// Not a button, which would take the first blank that is typed for a click.
+// Moves the focus into the page. A button with the focus would react to the first space that is
+// typed.
 void PageDialog::FocusPage() {
     for (QWidget* widget = page_->nextInFocusChain(); widget != page_;
          widget = widget->nextInFocusChain()) {

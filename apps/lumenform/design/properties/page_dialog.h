@@ -11,23 +11,24 @@
 
 namespace lumenkit::form {
 
-/// A property page for controls of a design, with OK, Cancel and Apply. What is applied is one step
-/// of the history; what the page or a control refuses is said in the dialog, which stays then.
+/// A property page for controls of a design, with OK, Cancel and Apply. Each Apply is one step of
+/// the history. If the page or a control rejects a value, the dialog shows the reason and stays
+/// open.
 class PageDialog final : public QDialog {
     Q_OBJECT
 
  public:
-    /// `controls` are the names of some of our controls, at least one. Raises what the page raises
-    /// as it starts. Design and messages must outlive the dialog.
+    /// `controls` are the names of controls of this library, at least one. Raises the errors that
+    /// the page raises when it starts. Design and messages must outlive the dialog.
     PageDialog(Design& design, ControlMessages& messages, const ClassDescriptor& page,
                const std::vector<Text>& controls, QWidget* parent = nullptr);
 
     qt::PageWidget& Page() const { return *page_; }
     const QDialogButtonBox& Buttons() const { return *buttons_; }
-    /// Why something was refused; empty when nothing was.
+    /// The reason for the last rejection, or an empty text.
     QString Message() const { return notice_->Text(); }
 
-    /// False when it was refused. Does nothing when nothing was changed.
+    /// Returns false if a value was rejected. Does nothing if nothing has changed.
     bool Apply();
     void accept() override;
 

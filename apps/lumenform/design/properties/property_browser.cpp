@@ -29,7 +29,7 @@ bool HasColor(const PropertyRow& row) {
     return row.value && !std::holds_alternative<Empty>(*row.value);
 }
 
-// The name in code and the class.
+// Returns the name in code and the class.
 QString DescribeBlock(const Text& name, TextView className) {
     return qt::ToQString(name) + QStringLiteral("  ") + qt::ToQString(ShortClassName(className));
 }
@@ -98,7 +98,7 @@ void PropertyBrowser::changeEvent(QEvent* event) {
 
 void PropertyBrowser::Refresh() {
     if (isAssigning_) {
-        return;  // when it is done
+        return;  // Assign refreshes afterwards
     }
     const QScopedValueRollback refreshing(isRefreshing_, true);
     model_.Refresh();
@@ -112,13 +112,13 @@ void PropertyBrowser::FollowSelection() {
         return;
     }
     if (QWidget* const editor = table_->indexWidget(table_->currentIndex())) {
-        delegate_->Close(editor);  // what it holds is meant for others
+        delegate_->Close(editor);  // its text is for the former selection
     }
     notice_->Say({});
     Refresh();
 }
 
-// To the row where the person was, in case the rows are others.
+// Returns to the row of the property that was current, because the rows may have changed.
 void PropertyBrowser::GoBack() {
     const int row = model_.Find(wanted_);
     if (row != table_->currentIndex().row() || row < 0) {
@@ -205,7 +205,7 @@ bool PropertyBrowser::FinishEditing() {
     return notice_->Text().isEmpty();
 }
 
-// ---- Windows of their own
+// ---- Editors in separate windows
 
 void PropertyBrowser::OpenMore(int row) {
     if (row < 0 || row >= model_.rowCount()) {

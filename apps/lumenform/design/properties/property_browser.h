@@ -15,38 +15,38 @@ namespace lumenkit::form {
 class PageDialog;
 class PropertyDelegate;
 
-/// Shows and edits the properties of what is selected in a design.
+/// Shows and edits the properties that the selected controls of a design have in common.
 class PropertyBrowser final : public QWidget {
     Q_OBJECT
 
  public:
-    /// `messages` is the interaction of the design's context: what controls say while a property is
-    /// set stands below the list. Both must outlive the browser.
+    /// `messages` is the interaction of the design's context. Messages of controls while a property
+    /// is set are shown below the list. Both must outlive the browser.
     PropertyBrowser(Design& design, ControlMessages& messages, QWidget* parent = nullptr);
 
-    /// The property page that all selected controls have; null when there is none.
+    /// The property page that all selected controls have, or null.
     const ClassDescriptor* Page() const;
-    /// Opens that page for them, and gives the dialog, which deletes itself. Null where there is no
-    /// page, and where it refuses to start, which is said below the list.
+    /// Opens that page for the selected controls and returns the dialog, which deletes itself.
+    /// Returns null if there is no page, or if it fails to start; then the reason is shown below
+    /// the list.
     PageDialog* EditWithPage();
 
-    /// Makes a property the current one, and starts editing it. False where there is none of the
-    /// name.
+    /// Makes a property current and starts editing it. Returns false if there is no such property.
     bool Edit(TextView property);
-    /// Takes what is being typed into a line as its value. False if it is refused, which is said
-    /// below the list.
+    /// Assigns the text in the open editor. Returns false if it is rejected; then the reason is
+    /// shown below the list.
     bool FinishEditing();
 
     PropertyTable& Table() const { return *table_; }
     const PropertyModel& Model() const { return model_; }
-    /// What the selection is called above the list.
+    /// The description of the selection above the list.
     QString Heading() const { return heading_->text(); }
-    /// Why a value was refused; empty when none was.
+    /// The reason for the last rejection, or an empty text.
     QString Message() const { return notice_->Text(); }
     QString Help() const { return help_->text(); }
 
  Q_SIGNALS:
-    /// A value was refused. Message() says why too, until something else is selected.
+    /// A value was rejected. Message() also returns the reason until the selection changes.
     void Refused(const QString& why);
 
  protected:
@@ -77,7 +77,7 @@ class PropertyBrowser final : public QWidget {
     PropertyDelegate* delegate_;
     Notice* notice_;
     QLabel* help_;
-    Text wanted_ = u"Caption";  // the row that the person was in last
+    Text wanted_ = u"Caption";  // the property that was current last
     bool isRefreshing_ = false;
     bool isAssigning_ = false;
 };

@@ -21,7 +21,7 @@ bool HasControlCharacters(TextView text) {
     return std::ranges::any_of(text, [](char16_t unit) { return unit < blank; });
 }
 
-// What a line was edited to, as the property takes it.
+// Converts the text of an editor to the value that is assigned to the property.
 Value TypedValue(const PropertyRow& row, const QString& text) {
     return row.kind == SettingKind::Color ? ColorFromText(qt::ViewOf(text))
                                           : Value(qt::ToText(text));
@@ -41,8 +41,7 @@ PropertyDelegate::PropertyDelegate(const PropertyModel& model, QObject* parent)
     : QStyledItemDelegate(parent), model_(model) {}
 
 PropertyDelegate& PropertyDelegate::Self() const {
-    // Qt has editors made by a constant delegate, which their events and signals change.
-    // NOLINTNEXTLINE(cppcoreguidelines-pro-type-const-cast)
+    // Qt creates editors through a constant delegate, but their events and signals change it.
     return const_cast<PropertyDelegate&>(*this);
 }
 
@@ -99,7 +98,7 @@ QWidget* PropertyDelegate::NewValueEditor(QWidget* parent, const PropertyRow& ro
     editor->Line().installEventFilter(&Self());
     editor->Line().setAccessibleName(qt::ToQString(row.name));
     editor->Line().setAccessibleDescription(qt::ToQString(row.help));
-    // A line cannot hold line breaks.
+    // A line edit cannot contain line breaks.
     editor->Line().setReadOnly(HasControlCharacters(EditedValue(row)));
     connect(editor, &ValueEditor::MoreWanted, this, [this, editor, index] {
         Finish(editor);
@@ -144,7 +143,7 @@ void PropertyDelegate::updateEditorGeometry(QWidget* editor, const QStyleOptionV
 void PropertyDelegate::Close(QWidget* editor) const {
     PropertyDelegate& self = Self();
     if (const auto* typed = qobject_cast<ValueEditor*>(editor)) {
-        typed->Line().removeEventFilter(&self);  // it is left once
+        typed->Line().removeEventFilter(&self);  // prevents a second commit
     }
     Q_EMIT self.closeEditor(editor);
 }
@@ -209,7 +208,7 @@ bool PropertyDelegate::eventFilter(QObject* object, QEvent* event) {
         case QEvent::KeyPress:
             return HandleKey(*editor, *static_cast<QKeyEvent*>(event));
         case QEvent::FocusOut:
-            // A menu of the line's own is no leaving.
+            // The context menu of the line edit does not end editing.
             if (QApplication::activePopupWidget() == nullptr) {
                 Finish(editor);
             }

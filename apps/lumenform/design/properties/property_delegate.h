@@ -11,7 +11,7 @@ namespace lumenkit::form {
 class ChoiceBox;
 class ValueEditor;
 
-/// Whether the property is also edited in a window of its own.
+/// Whether the property also has an editor in a separate window.
 bool HasMore(const PropertyRow& row);
 
 /// Draws and edits the values of a property model.
@@ -29,16 +29,16 @@ class PropertyDelegate final : public QStyledItemDelegate {
     void updateEditorGeometry(QWidget* editor, const QStyleOptionViewItem& option,
                               const QModelIndex& index) const override;
 
-    /// Takes an editor away; what was typed is lost.
+    /// Closes an editor and discards the text.
     void Close(QWidget* editor) const;
-    /// Takes an editor away; what was typed is told by Changed.
+    /// Closes an editor and emits Changed if the text was edited.
     void Finish(QWidget* editor) const;
 
  Q_SIGNALS:
-    /// Another value was typed or chosen.
+    /// The user has typed or chosen another value.
     void Changed(int row, const lumenkit::Value& value) const;
     void MoreWanted(int row) const;
-    /// The person goes on to the row above (-1) or below (1).
+    /// The user moves to the row above (-1) or below (1).
     void StepWanted(int rows);
 
  protected:

@@ -31,7 +31,7 @@ bool IsSameProperty(const Setting& one, const Setting& other) {
            one.choices == other.choices;
 }
 
-// The settings of this property in all lists; fewer where one has none.
+// Returns the settings of this property in all lists; fewer than lists if one lacks it.
 std::vector<Setting> Gather(const Setting& sought, const std::vector<std::vector<Setting>>& lists) {
     std::vector<Setting> found;
     for (const std::vector<Setting>& list : lists) {
@@ -53,7 +53,7 @@ void ReadValue(PropertyRow& row) {
                 return;
             }
         }
-    } catch (const RuntimeError&) {  // what is kept in the companion and is no text
+    } catch (const RuntimeError&) {  // the value in the companion file is no text
         row.kind = SettingKind::Text;
         row.canSet = false;
         row.value = Text(u"(companion)");
@@ -138,7 +138,7 @@ void PropertyList::Apply(const std::vector<Setting>& settings, const Value& valu
     }
 }
 
-// The blocks themselves stay while they are changed; their names may not.
+// Blocks remain valid during the change, but their names may change.
 void PropertyList::ApplyToBlocks(const std::vector<Setting>& settings, const Value& value) {
     const QString title = qt::ToQString(settings.front().name);
     design_.Restructure(title, [&] {
@@ -147,7 +147,7 @@ void PropertyList::ApplyToBlocks(const std::vector<Setting>& settings, const Val
             selected.push_back(&control->Block());
         }
         Apply(settings, value);
-        design_.View().Save();  // what was set on live controls among them
+        design_.View().Save();  // writes the changes to live controls
         std::vector<Text> names;
         names.reserve(selected.size());
         for (const forms::Block* block : selected) {
@@ -158,7 +158,7 @@ void PropertyList::ApplyToBlocks(const std::vector<Setting>& settings, const Val
 }
 
 void PropertyList::Assign(std::size_t row, const Value& value) {
-    const std::vector<Setting> settings = rows_.at(row).settings;  // the rows change meanwhile
+    const std::vector<Setting> settings = rows_.at(row).settings;  // a copy: the rows change
     const bool inBlocks = std::ranges::any_of(
         settings, [](const Setting& setting) { return setting.place == SettingPlace::Block; });
     if (inBlocks) {

@@ -12,7 +12,7 @@
 
 namespace lumenkit::form {
 
-/// One property that everything that is selected has.
+/// A property that all selected objects have.
 struct PropertyRow {
     Text name;
     Text help;
@@ -20,23 +20,23 @@ struct PropertyRow {
     std::vector<Choice> choices;
     bool canSet = false;
     bool isOnPage = false;
-    std::optional<Value> value;  ///< nothing: it is not the same everywhere
+    std::optional<Value> value;  ///< empty if the objects have different values
     std::vector<Setting> settings;
 };
 
-/// The properties that everything that is selected has in common, by their names.
+/// The properties that all selected objects have in common, sorted by name.
 class PropertyList {
  public:
-    /// Both must outlive the list.
+    /// Both arguments must outlive the list.
     PropertyList(Design& design, ControlMessages& messages);
 
-    /// The rows of what is selected, as it is now. They are valid until the design says that
-    /// something changed; others must be taken then before anything else is done with the list.
+    /// Reads the rows of the present selection. They are valid until the design signals a change;
+    /// after that, new rows must be passed to Take before any other use of the list.
     std::vector<PropertyRow> Read() const;
     void Take(std::vector<PropertyRow> rows) { rows_ = std::move(rows); }
     const std::vector<PropertyRow>& Rows() const { return rows_; }
-    /// Gives all that is selected the value, in one step. What refuses it raises RuntimeError or
-    /// FormError, and nothing was changed.
+    /// Assigns the value to all selected objects in one step of the history. If one rejects it,
+    /// raises RuntimeError or FormError and changes nothing.
     void Assign(std::size_t row, const Value& value);
 
  private:

@@ -6,7 +6,7 @@
 
 namespace lumenkit::form {
 
-/// The property list for a table: names in the first column, values in the second.
+/// A table model of the property list: names in the first column, values in the second.
 class PropertyModel final : public QAbstractTableModel {
     Q_OBJECT
 
@@ -15,10 +15,10 @@ class PropertyModel final : public QAbstractTableModel {
 
     explicit PropertyModel(PropertyList& list) : list_(list) {}
 
-    /// Reads the list anew.
+    /// Reads the list again.
     void Refresh();
     const PropertyRow& Row(int row) const;
-    /// The row of this name, -1 where there is none.
+    /// Returns the row with this name, or -1.
     int Find(TextView name) const;
 
     int rowCount(const QModelIndex& parent = {}) const override;

@@ -31,7 +31,7 @@ PropertyTable::PropertyTable(QWidget* parent) : QTableView(parent) {
 
 void PropertyTable::setModel(QAbstractItemModel* model) {
     QTableView::setModel(model);
-    FitRows();  // which needs the columns
+    FitRows();  // needs the columns
 }
 
 void PropertyTable::FitRows() {
@@ -79,7 +79,7 @@ QModelIndex PropertyTable::moveCursor(CursorAction action, Qt::KeyboardModifiers
     }
 }
 
-// Keys that mean something here go before shortcuts of the window: Delete is for the value.
+// Overrides window shortcuts for the keys of the table: Delete edits the value.
 bool PropertyTable::event(QEvent* event) {
     if (event->type() == QEvent::ShortcutOverride) {
         const auto& key = static_cast<const QKeyEvent&>(*event);

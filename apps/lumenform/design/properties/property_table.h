@@ -4,7 +4,7 @@
 
 namespace lumenkit::form {
 
-/// The list of properties: one row is current, and what is typed goes into its value.
+/// The list of properties. One row is current, and typed text goes to its value.
 class PropertyTable final : public QTableView {
     Q_OBJECT
 
@@ -12,13 +12,13 @@ class PropertyTable final : public QTableView {
     explicit PropertyTable(QWidget* parent);
 
     void setModel(QAbstractItemModel* model) override;
-    /// Makes a row the current one; one beyond the ends is the first or the last.
+    /// Makes a row current. A number beyond the ends selects the first or last row.
     void GoTo(int row);
     /// Starts editing the value of the current row, if it can be edited.
     void EditCurrent();
 
  Q_SIGNALS:
-    /// F4 or Alt+Down.
+    /// F4 or Alt+Down was pressed.
     void MoreWanted(int row);
 
  protected:

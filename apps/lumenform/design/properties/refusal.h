@@ -5,7 +5,7 @@
 
 namespace lumenkit::form {
 
-/// Runs a change of a design and says why it was refused; empty when it was not.
+/// Runs a change of a design and returns the reason if it is rejected, or an empty text.
 QString RefusalOf(const std::function<void()>& change);
 
 }  // namespace lumenkit::form

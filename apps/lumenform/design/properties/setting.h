@@ -12,7 +12,7 @@ namespace lumenkit::form {
 enum class SettingKind {
     Text,
     LongText,  ///< a text that may have line breaks
-    Items,     ///< a text whose parts are divided by bars
+    Items,     ///< a text with items separated by bars
     Number,
     Choice,  ///< one of the setting's choices
     Color,
@@ -26,29 +26,29 @@ struct Choice {
     friend bool operator==(const Choice&, const Choice&) = default;
 };
 
-/// What a change of a setting changes.
+/// The place that a setting changes.
 enum class SettingPlace {
-    Live,   ///< what the live control holds
-    Block,  ///< the document's blocks: the view is made anew
+    Live,   ///< the live control
+    Block,  ///< the document's blocks; the view is created again
 };
 
-/// One property of one control, or of the form. Valid until the view or the selection is another.
+/// A property of a control or of the form. Valid until the view or the selection changes.
 struct Setting {
     Text name;
     Text help = {};
     SettingKind kind = SettingKind::Text;
     std::vector<Choice> choices = {};
     SettingPlace place = SettingPlace::Block;
-    bool isOwn = false;     ///< of one control alone, not to be set for several
-    bool isOnPage = false;  ///< the control's property page edits it too
-    /// Empty where there is no value.
+    bool isOwn = false;     ///< cannot be set for several controls
+    bool isOnPage = false;  ///< also on the control's property page
+    /// Returns Empty if there is no value.
     std::function<Value()> get = {};
-    /// Takes a text for everything but fonts. Raises the errors of conversions and what the control
-    /// raises. Null for what can only be read.
+    /// Accepts a text for every kind but fonts. Raises the errors of conversions and of the
+    /// control. Null if the property is read-only.
     std::function<void(const Value&)> set = {};
 };
 
-/// True and False.
+/// The choices True and False.
 std::vector<Choice> TruthChoices();
 
 }  // namespace lumenkit::form

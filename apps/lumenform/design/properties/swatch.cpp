@@ -15,7 +15,7 @@ QIcon Swatch(const QColor& color, QSize size, double scale) {
     painter.drawRect(QRectF(0.5, 0.5, size.width() - 1, size.height() - 1));
     painter.end();
     QIcon icon(picture);
-    icon.addPixmap(picture, QIcon::Selected);  // not tinted
+    icon.addPixmap(picture, QIcon::Selected);  // without a selection tint
     return icon;
 }
 

@@ -6,8 +6,8 @@
 
 namespace lumenkit::form {
 
-/// A field of a colour with an edge that is seen on any background, for a screen of that many
-/// pixels a unit.
+/// Returns a field of the colour with a border that is visible on any background. `scale` is the
+/// number of device pixels per pixel.
 QIcon Swatch(const QColor& color, QSize size, double scale);
 
 }  // namespace lumenkit::form

@@ -62,7 +62,7 @@ Text TextDialog::Result() const {
     if (!edit_->document()->isModified()) {
         return text_;
     }
-    // Unlike its plain text, this keeps what is no plain blank.
+    // The raw text keeps no-break spaces, which the plain text replaces.
     QString now = edit_->document()->toRawText();
     now.replace(QChar::ParagraphSeparator, qt::ToQString(divider_));
     return qt::ToText(now);

@@ -7,7 +7,8 @@
 
 namespace lumenkit::form {
 
-/// Edits a text with its line breaks, or the parts of one that bars divide, one a line.
+/// A dialog to edit a text with line breaks, or a text with items separated by bars, one item per
+/// line.
 class TextDialog final : public QDialog {
     Q_OBJECT
 
@@ -16,7 +17,7 @@ class TextDialog final : public QDialog {
 
     TextDialog(const QString& title, Text text, Lines lines, QWidget* parent);
 
-    /// The text as it was, unless it was edited.
+    /// Returns the edited text, or the unchanged original.
     Text Result() const;
 
  private:

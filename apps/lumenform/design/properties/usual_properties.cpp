@@ -232,7 +232,7 @@ constexpr std::array classes = {
     UsualClass{u"VB.VScrollBar", scrollBar},
 };
 
-// What means the same wherever it stands.
+// Properties with the same meaning in every class.
 constexpr std::array common = {backColor, caption, enabled, font, foreColor, toolTip};
 
 }  // namespace

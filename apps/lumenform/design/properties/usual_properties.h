@@ -1,4 +1,4 @@
-// What the designers' own classes have, whether a form says it or not.
+// The properties of the designer's built-in classes, whether or not a form has values for them.
 #pragma once
 
 #include <cstdint>
@@ -10,22 +10,22 @@
 
 namespace lumenkit::form {
 
-/// A property that a class has. Colours have the usual ones of the class where nothing is said,
-/// fonts that of what the control lies in.
+/// A property of a class. Colours default to those of the class, fonts to that of the container.
 struct UsualProperty {
     TextView name;
     TextView help = {};
     SettingKind kind = SettingKind::Text;
-    /// Its value where nothing is said; none: it is always said, or unknown.
+    /// The default value; monostate if the property has none or it is unknown.
     std::variant<std::monostate, bool, std::int32_t, TextView> otherwise = {};
-    std::span<const TextView> choices = {};  ///< named by their numbers, from 0
+    std::span<const TextView> choices = {};  ///< indexed by their values, from 0
 };
 
-/// The usual properties of a class, "VB.TextBox", besides those that containers give to all
-/// controls. None for a class that is not known.
+/// The usual properties of a class such as "VB.TextBox", without those that containers give to all
+/// controls. Empty for an unknown class.
 std::span<const UsualProperty> UsualPropertiesOf(TextView className);
 
-/// What a property of this name is in every class that has it; null where that is not known.
+/// Returns the property that has the same meaning in every class, or null if there is none of this
+/// name.
 const UsualProperty* FindCommonProperty(TextView name);
 
 }  // namespace lumenkit::form

@@ -5,7 +5,7 @@
 
 namespace lumenkit::form {
 
-/// A line to type a value into and, where there is more to it, a button "..." beside it.
+/// A line edit for a value, with a button "..." if there is a separate editor.
 class ValueEditor final : public QWidget {
     Q_OBJECT
 
@@ -14,7 +14,7 @@ class ValueEditor final : public QWidget {
 
     QLineEdit& Line() const { return *line_; }
     bool HasMore() const { return hasMore_; }
-    /// What was typed since; always false for a line that is only read.
+    /// Whether the user has edited the text. Always false if the line is read-only.
     bool IsModified() const { return line_->isModified() && !line_->isReadOnly(); }
 
  Q_SIGNALS:

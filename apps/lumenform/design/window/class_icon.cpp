@@ -8,7 +8,7 @@ namespace lumenkit::form {
 
 namespace {
 
-constexpr int side = 20;  // of the square that the drawings below fill
+constexpr int side = 20;  // of the square in which the icons are drawn
 constexpr int sharpness = 4;
 
 struct Pen {

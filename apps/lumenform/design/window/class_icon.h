@@ -7,7 +7,7 @@
 
 namespace lumenkit::form {
 
-/// A small picture of a class of control, in the palette's colours, sharp at any scale.
+/// Returns an icon of a control class in the palette's colours, sharp at any scale.
 QIcon ClassIcon(TextView className, const QPalette& palette);
 
 }  // namespace lumenkit::form

@@ -25,7 +25,7 @@ QString GeometryKey() {
     return QStringLiteral("window/geometry");
 }
 
-// The file that is dropped on the window; empty for anything else.
+// Returns the file that is dropped on the window, or an empty text for other data.
 QString DroppedFile(const QMimeData& data) {
     const QList<QUrl> urls = data.urls();
     return urls.size() == 1 ? urls.front().toLocalFile() : QString();

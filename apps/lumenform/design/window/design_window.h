@@ -22,7 +22,7 @@
 
 namespace lumenkit::form {
 
-/// The designer: one form at a time, opened, changed, tried out and saved.
+/// The designer window. It opens, edits, runs and saves one form at a time.
 class DesignWindow final : public QMainWindow {
     Q_OBJECT
 
@@ -30,34 +30,34 @@ class DesignWindow final : public QMainWindow {
     struct Setup {
         const ClassTable& classes;
         host::Application& application;
-        host::Interaction& interaction;         ///< for what controls say while nobody listens
-        QSettings& settings;                    ///< what is remembered from one time to the next
-        int codePage = forms::defaultCodePage;  ///< of forms that are opened
+        host::Interaction& interaction;         ///< for messages without a listener
+        QSettings& settings;                    ///< stored between sessions
+        int codePage = forms::defaultCodePage;  ///< of opened forms
     };
 
-    /// All that the setup refers to must outlive the window.
+    /// The objects that `setup` refers to must outlive the window.
     explicit DesignWindow(const Setup& setup);
     ~DesignWindow() override;
     DesignWindow(const DesignWindow&) = delete;
     DesignWindow& operator=(const DesignWindow&) = delete;
 
-    /// Shows the form in the place of what is shown now, without asking whether that is to be
-    /// saved. Throws forms::FormError for what cannot be read; then nothing changes.
+    /// Opens a form in place of the present one, without asking to save. Throws forms::FormError if
+    /// it cannot be read; then nothing changes.
     void Load(const QString& path);
     void StartNew();
-    /// False when it was not saved: the person knows why or did not want it.
+    /// Returns false if the form was not saved. The user then knows why or has cancelled.
     bool Save();
     bool SaveAs();
-    /// Into this file, which is the form's from then on.
+    /// Saves to this file, which becomes the file of the form.
     bool SaveTo(const QString& path);
-    /// Asks whether changes are to be saved. False when the person wants to stay.
+    /// Asks whether to save changes. Returns false if the user cancels.
     bool MayLeave();
-    /// Tries the form out, or ends that.
+    /// Starts or ends a trial run of the form.
     void Run(bool on);
 
-    /// Null when no form is open.
+    /// Null if no form is open.
     Workbench* Bench() const { return bench_.get(); }
-    /// Null when the form does not run.
+    /// Null if the form is not running.
     RunPage* Running() const { return run_.get(); }
     StartPage& Start() const { return *start_; }
     FormCommands& Commands() const { return *commands_; }

@@ -78,7 +78,7 @@ void FormCommands::FillEdit() {
     tabOrder_->setToolTip(tr("Click the controls in the order in which Tab goes round them"));
 }
 
-// What is being typed is the newest step of the history.
+// Makes undo and redo finish the edit in progress first: it is the newest step of the history.
 void FormCommands::FinishEditingBefore(QAction& action, void (QUndoGroup::*step)()) {
     action.disconnect(&history_);
     connect(&action, &QAction::triggered, this, [this, step] {

@@ -9,8 +9,7 @@
 
 namespace lumenkit::form {
 
-/// What can be done with the form that is under work, as menus. It is greyed where it cannot be
-/// done now.
+/// The menus with the commands for the open form. Commands that are not available are disabled.
 class FormCommands final : public QObject {
     Q_OBJECT
 
@@ -24,11 +23,11 @@ class FormCommands final : public QObject {
     QAction& CaptionAction() const { return *caption_; }
     QAction& TabOrderAction() const { return *tabOrder_; }
 
-    /// The commands are for this workbench from now on; null: there is nothing to do.
+    /// Uses this workbench from now on. Null disables all commands.
     void Follow(Workbench* workbench);
 
  private:
-    /// What must be there for a command to make sense.
+    /// The condition for a command to be enabled.
     enum class Needs { Form, Selection, Two, Three, Page, Clipboard };
     struct Command {
         QAction* action;

@@ -1,4 +1,4 @@
-// What the designer asks and tells.
+// The questions and messages of the designer.
 #pragma once
 
 #include <QString>
@@ -6,16 +6,16 @@
 
 namespace lumenkit::form {
 
-/// Empty when the person changed his mind, as is the next.
+/// The first two return an empty text if the user cancels.
 QString AskForFormToOpen(QWidget& window, const QString& folder);
-/// With the extension of a form unless another one was typed.
+/// Adds the extension of a form unless the user has typed another one.
 QString AskForPlaceToSave(QWidget& window, const QString& proposed);
 
 enum class SaveAnswer { Save, Discard, Cancel };
 SaveAnswer AskWhetherToSave(QWidget& window, const QString& form);
 bool AskWhetherToOverwrite(QWidget& window, const QString& path);
 
-/// `heading` says what did not happen, `why` has the file and the line where there are some.
+/// `heading` names the action that failed. `why` contains the reason, with file and line if known.
 void Warn(QWidget& window, const QString& heading, const QString& why);
 
 }  // namespace lumenkit::form

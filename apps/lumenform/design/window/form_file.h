@@ -9,21 +9,22 @@
 
 namespace lumenkit::form {
 
-/// Where a form that is being designed is kept. It knows when somebody else wrote the file.
+/// The file of a form in the designer. Detects when another program has written the file.
 class FormFile {
  public:
-    /// A form that was never saved.
+    /// For a form that was never saved.
     FormFile() = default;
-    /// The form was just read from this file.
+    /// For a form that was just read from this file.
     explicit FormFile(const QString& path);
 
     bool HasPath() const { return !path_.isEmpty(); }
     const QString& Path() const { return path_; }
-    /// Whether the file is no more as it was read or written last. One that is gone is not.
+    /// Whether the file differs from the state last read or written. False if it no longer exists.
     bool WasChangedByOthers() const;
 
-    /// Writes the design into its file, or into another one, which is its file from then on. Throws
-    /// forms::FormError as forms::Save does; then the design and its files are as they were.
+    /// Save writes the design to its file. SaveAs writes it to another file, which becomes its
+    /// file. Both throw forms::FormError as forms::Save does; then the design and its files are
+    /// unchanged.
     void Save(Design& design);
     void SaveAs(Design& design, const QString& path);
 

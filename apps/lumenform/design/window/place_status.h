@@ -7,7 +7,7 @@
 
 namespace lumenkit::form {
 
-/// The line below a form under work: where the mouse is, what is selected and where it is, in
+/// The status bar of the designer: the position of the mouse, the selection and its place, in
 /// twips.
 class PlaceStatus final : public QStatusBar {
     Q_OBJECT
@@ -15,7 +15,7 @@ class PlaceStatus final : public QStatusBar {
  public:
     explicit PlaceStatus(QWidget* parent = nullptr);
 
-    /// Null: there is nothing to tell.
+    /// Shows the state of this workbench. Null clears the status bar.
     void Follow(Workbench* workbench);
 
  private:

@@ -5,15 +5,15 @@
 
 namespace lumenkit::form {
 
-/// The forms that were opened last, the latest first, as the settings keep them.
+/// The forms that were opened last, newest first, in the settings.
 class RecentFiles {
  public:
     static constexpr int most = 9;
 
-    /// The settings must outlive this.
+    /// The settings must outlive this object.
     explicit RecentFiles(QSettings& settings) : settings_(settings) {}
 
-    /// Those that are still there, as absolute paths.
+    /// The files that still exist, as absolute paths.
     QStringList Existing() const;
     void Add(const QString& path);
     void Clear();

@@ -33,7 +33,7 @@ RunPage::RunPage(const qt::Context& context, const forms::Document& design, QWid
     view_->OnRaised([this](const RaisedEvent& event) { log_->Add(event); });
 }
 
-// The view must go before the document that it shows.
+// The view must be destroyed before its document.
 RunPage::~RunPage() {
     delete view_;
 }

@@ -10,8 +10,7 @@
 
 namespace lumenkit::form {
 
-/// A copy of a form that runs within the designer: whatever is done there, the design stays as it
-/// is.
+/// Runs a copy of a form inside the designer. It never changes the design.
 class RunPage final : public QWidget {
     Q_OBJECT
 

@@ -7,7 +7,7 @@ class QVBoxLayout;
 
 namespace lumenkit::form {
 
-/// The first screen: what can be done, and the forms that were opened last.
+/// The start screen: the possible actions and the forms that were opened last.
 class StartPage final : public QWidget {
     Q_OBJECT
 

@@ -6,20 +6,20 @@
 
 namespace lumenkit::form {
 
-/// The classes of control that can be put on a form. Choosing one begins drawing it.
+/// The list of control classes that can be added to a form. Choosing one starts drawing it.
 class Toolbox final : public QListWidget {
     Q_OBJECT
 
  public:
     explicit Toolbox(const ClassTable& classes, QWidget* parent = nullptr);
 
-    /// No class is chosen any more.
+    /// Clears the choice.
     void Release();
 
  Q_SIGNALS:
-    /// To be drawn on the form.
+    /// A class was chosen to be drawn on the form.
     void Chosen(const QString& className);
-    /// To be put on the form at once, as by a double click or Enter.
+    /// A double click or Enter requests a new control of the class at once.
     void PutDown(const QString& className);
 
  protected:

@@ -7,7 +7,8 @@
 
 namespace lumenkit::form {
 
-/// How the grid is: remembered from one time to the next, and the same for all forms.
+/// The menu for the grid. The settings keep the grid between sessions, and it is the same for all
+/// forms.
 class ViewMenu final : public QMenu {
     Q_OBJECT
 
@@ -15,7 +16,7 @@ class ViewMenu final : public QMenu {
     /// The settings must outlive the menu.
     explicit ViewMenu(QSettings& settings, QWidget* parent = nullptr);
 
-    /// The canvas has this grid from now on, and every change of it; null: there is none.
+    /// Applies the grid and its later changes to this canvas. Null means none.
     void Follow(Canvas* canvas);
     const Grid& GetGrid() const { return grid_; }
 

@@ -14,7 +14,7 @@ namespace lumenkit::form {
 
 namespace {
 
-// Into the middle of what it is to lie in, on the grid.
+// Moves a place to the middle of its container, on the grid.
 host::Placement Centered(const Surroundings& around, host::Placement place, const Grid& grid) {
     const qt::TwipsPerPixel& twips = qt::TwipsPerPixel::OfScreens();
     const auto start = [&](int pixels, double twipsPerPixel, float length) {
@@ -40,7 +40,7 @@ Workbench::Workbench(const qt::Context& context, ControlMessages& messages,
     ConnectParts();
 }
 
-// What looks at the design goes before it.
+// Destroys the users of the design before the design.
 Workbench::~Workbench() {
     delete canvas_;
     delete properties_;

@@ -11,7 +11,8 @@
 
 namespace lumenkit::form {
 
-/// A form under work: the toolbox, the form on its canvas, and the properties of what is selected.
+/// The workbench for a form: the toolbox, the form on its canvas, and the properties of the
+/// selection.
 class Workbench final : public QSplitter {
     Q_OBJECT
 
@@ -29,16 +30,18 @@ class Workbench final : public QSplitter {
     Toolbox& GetToolbox() const { return *toolbox_; }
     PropertyBrowser& Properties() const { return *properties_; }
 
-    /// Opens the page of what is selected, or where there is none goes to its properties.
+    /// Opens the property page of the selected controls, or moves to their properties if there is
+    /// none.
     void EditSelected();
-    /// Takes what is being typed into a property as its value. False if it is refused; then Refused
-    /// tells why.
+    /// Assigns the text in the open property editor. Returns false if it is rejected; then emits
+    /// Refused with the reason.
     bool FinishEditing();
-    /// Does what may be refused; then Refused tells why and everything is as it was.
+    /// Runs an action. If it is rejected, emits Refused with the reason and restores the former
+    /// state.
     void Try(const std::function<void()>& action);
 
  Q_SIGNALS:
-    /// Something could not be done.
+    /// An action failed.
     void Refused(const QString& why);
 
  private:

@@ -1,5 +1,5 @@
-// Controls come and go by the thousand and leave nothing behind: no windows, no drawing objects, no
-// strings, no server in memory.
+// Thousands of controls are created and destroyed and leave nothing behind: no windows, no drawing
+// objects, no strings, no loaded server.
 #include <array>
 #include <vector>
 
@@ -9,7 +9,7 @@
 
 #include "tests/ole/clients/support/com.h"
 
-// Of the automation library; no header has it.
+// The automation library exports this function, but no header declares it.
 extern "C" void WINAPI SetOaNoCache();
 
 namespace lumenkit::clients {
@@ -18,7 +18,7 @@ namespace {
 
 constexpr std::array controls = {L"lumenkit.VLabel", L"lumenkit.VMemo", L"lumenkit.VOptList"};
 
-// Counts what is allocated from the platform's allocator and not freed.
+// Counts the blocks of the platform's allocator that are not freed.
 class Spy final : public IMallocSpy {
  public:
     virtual ~Spy() = default;
@@ -67,7 +67,7 @@ BOOL CALLBACK CountWindow(HWND window, LPARAM counted) {
     return TRUE;
 }
 
-// All windows of this process, whatever they lie on, message-only ones included.
+// Counts all windows of this process: top-level, child and message-only windows.
 int Windows() {
     int count = 0;
     const auto counted = reinterpret_cast<LPARAM>(&count);
@@ -80,7 +80,8 @@ int Windows() {
     return count;
 }
 
-// How many more drawing objects this process may have. Not every platform says how many it has.
+// Returns how many more drawing objects this process may create. Not every platform reports how
+// many it has.
 int FreeDrawingObjects() {
     constexpr std::size_t most = 100000;
     std::vector<HBRUSH> brushes;
@@ -103,7 +104,7 @@ HRESULT CanUnload() {
         reinterpret_cast<void*>(GetProcAddress(server, "DllCanUnloadNow")))();
 }
 
-// A short life: some properties, a picture, saved and loaded.
+// Creates a control, sets properties, saves and loads it, and takes its picture.
 void Live(const wchar_t* name, bool thoroughly) {
     const ComPtr<IDispatch> object = Create(name);
     ASSERT_NE(object, nullptr);
@@ -133,13 +134,13 @@ void Live(const wchar_t* name, bool thoroughly) {
     ReleaseStgMedium(&medium);
 }
 
-// Strings are counted as they are freed, not kept for reuse.
+// Turns off the cache of automation strings, so that a freed string counts as freed at once.
 class Lifetime : public OleTest {
  protected:
     static void SetUpTestSuite() { SetOaNoCache(); }
 };
 
-// What counts must count: one of each kind left behind is noticed.
+// The counters must notice one leftover of each kind.
 TEST_F(Lifetime, LeftoversAreNoticed) {
     static Spy spy;
     ASSERT_EQ(CoRegisterMallocSpy(&spy), S_OK);
@@ -148,7 +149,7 @@ TEST_F(Lifetime, LeftoversAreNoticed) {
     SysFreeString(text);
     EXPECT_EQ(spy.Alive(), 0);
     EXPECT_EQ(CoRevokeMallocSpy(), S_OK);
-    // With the first window of a thread the platform makes some of its own.
+    // With the first window of a thread, the platform creates further windows.
     const HWND first = CreateWindowExW(0, L"Static", L"", WS_POPUP, 0, 0, 1, 1, nullptr, nullptr,
                                        nullptr, nullptr);
     const int windows = Windows();
@@ -172,7 +173,7 @@ TEST_F(Lifetime, LeftoversAreNoticed) {
 }
 
 TEST_F(Lifetime, TenThousandControlsLeaveNothingBehind) {
-    // The server stays loaded, so that what it keeps for all controls is not taken for a leak.
+    // The server stays loaded, so that the data it keeps for all controls does not count as a leak.
     const ComPtr<IDispatch> first = Create(controls[0]);
     for (int round = 0; round < 30; ++round) {
         Live(controls[round % 3], true);
@@ -208,7 +209,7 @@ TEST_F(Lifetime, TheServerIsUnloadedAndLoadedAgain) {
     }
 }
 
-// Whoever holds a part of a control holds the server.
+// A reference to a part of a control keeps the server loaded.
 TEST_F(Lifetime, APartKeepsTheServer) {
     {
         ComPtr<IConnectionPoint> point;

@@ -1,4 +1,4 @@
-// Clients that call wrongly get a result that says so. Nothing breaks.
+// Wrong calls by clients return an error and break nothing.
 #include <array>
 #include <climits>
 #include <cmath>
@@ -17,8 +17,8 @@ namespace {
 
 constexpr std::array controls = {L"lumenkit.VLabel", L"lumenkit.VMemo", L"lumenkit.VOptList"};
 
-// All that a VARIANT can say it holds: every simple type, by value, by reference, by a null
-// reference, and as an array both ways. What is referred to is a zero of any type.
+// VARIANTs of every type: by value, by reference, by a null reference, as an array, and as a
+// reference to an array. References refer to bytes that are zero in every type.
 class Arguments {
  public:
     explicit Arguments(IDispatch& object) {
@@ -28,11 +28,11 @@ class Arguments {
             VARIANT value = {};
             value.vt = type;
             if (type == VT_DISPATCH || type == VT_UNKNOWN) {
-                all_.push_back(value);  // no object
+                all_.push_back(value);  // a null object
                 value.pdispVal = &object;
             }
             if (type == VT_VARIANT || type == VT_RECORD || type == VT_VECTOR) {
-                value.vt = VT_EMPTY;  // not to be had by value
+                value.vt = VT_EMPTY;  // has no form by value
             }
             all_.push_back(value);
             value = {};
@@ -157,7 +157,7 @@ TEST_P(WrongCalls, AnyNumberOfArgumentsGetsAResult) {
                         object_->Invoke(member, IID_NULL, 0, static_cast<WORD>(way), &parameters,
                                         nullptr, nullptr, nullptr);
                     EXPECT_TRUE(IsResult(outcome)) << member << " " << count << " " << named;
-                    // No member takes more than two, its new value included.
+                    // No member takes more than two arguments, the new value included.
                     if (count > 2 || named > 2 || named > count) {
                         EXPECT_NE(outcome, S_OK) << member << " " << count << " " << named;
                     }
@@ -207,7 +207,7 @@ TEST_P(WrongCalls, NothingWhereSomethingIsNeededIsRefused) {
     EXPECT_EQ(object_->QueryInterface(IID_IUnknown, nullptr), E_POINTER);
 }
 
-// Every interface, without and with a site that is not one.
+// Calls the methods of every interface with null pointers and other invalid arguments.
 TEST_P(WrongCalls, NullPointersAreRefusedByEveryInterface) {
     const auto as = [&]<typename Interface>(Interface** /*which*/) {
         ComPtr<Interface> found;
@@ -304,7 +304,7 @@ TEST_P(WrongCalls, NullPointersAreRefusedByEveryInterface) {
     EXPECT_TRUE(boxes_.Errors().empty());
 }
 
-// It has no place to be, but its properties work all the same.
+// A stream with invalid contents is refused, and the control stays usable.
 TEST_P(WrongCalls, StreamsOfRubbishAreRefused) {
     ComPtr<IPersistStreamInit> stream;
     ASSERT_EQ(object_.As(&stream), S_OK);

@@ -1,4 +1,4 @@
-// Controls in real windows, made by the platform's template library, used by keyboard and mouse.
+// Controls in real windows of the platform's template library, used by keyboard and mouse.
 #include <gmock/gmock.h>
 
 #include "tests/ole/clients/support/atl_window.h"
@@ -25,7 +25,7 @@ SIZE SizeOf(HWND window) {
     return {place.right - place.left, place.bottom - place.top};
 }
 
-// No mouse message gets to a window that lies on a disabled one.
+// A window gets no mouse messages if it or a parent is disabled.
 bool CanBeClicked(HWND window) {
     for (; window != nullptr; window = GetAncestor(window, GA_PARENT)) {
         if (!IsWindowEnabled(window)) {
@@ -55,7 +55,7 @@ TEST_F(AtlHost, EachControlGetsAWindowOfItsSize) {
         window.Resize(400, 300);
         EXPECT_EQ(SizeOf(own).cx, 400);
         window.Close();
-        // What is left of it is out of sight, and can still be asked.
+        // The closed control is not visible, but its properties can still be read.
         EXPECT_FALSE(IsWindow(own) && IsWindowVisible(own));
         EXPECT_EQ(TextOf(*control.Get(), L"Enabled"), L"True");
         control.Reset();
@@ -142,7 +142,7 @@ TEST_F(AtlHost, ClickedOptionsAreSelected) {
     SendMessageW(options[0], WM_LBUTTONUP, 0, MAKELPARAM(5, 5));
     EXPECT_EQ(TextOf(*list.Get(), L"Value"), L"r");
     EXPECT_THAT(events, ElementsAre(1, 1));
-    // Selected already.
+    // This option is already selected.
     SendMessageW(options[0], BM_CLICK, 0, 0);
     EXPECT_EQ(TextOf(*list.Get(), L"ListIndex"), L"0");
     ASSERT_EQ(Put(*list.Get(), L"Enabled", Variant(0L)), S_OK);
@@ -194,7 +194,7 @@ TEST_F(AtlHost, TheMouseOverALabelIsReported) {
     SendMessageW(own, WM_LBUTTONDOWN, MK_LBUTTON | MK_SHIFT, MAKELPARAM(20, 10));
     SendMessageW(own, WM_LBUTTONUP, MK_SHIFT, MAKELPARAM(20, 10));
     EXPECT_THAT(events, ElementsAre(3, 5, 1));
-    // 1440 twips an inch.
+    // A twip is 1/1440 inch.
     const HDC screen = GetDC(nullptr);
     EXPECT_THAT(places,
                 ElementsAre(20.0F * 1440 / static_cast<float>(GetDeviceCaps(screen, LOGPIXELSX)),

@@ -1,5 +1,5 @@
-// The conversation as a form designer holds it: not in user mode; properties browsed, changed and
-// heard of; saved in a storage and in a stream, and loaded again.
+// Uses the controls as a form designer does. It is not in user mode; it browses, changes and
+// observes properties, saves to a storage and to a stream, and loads again.
 #include <gmock/gmock.h>
 
 #include "tests/ole/clients/containers/site.h"
@@ -103,7 +103,7 @@ TEST_F(Designer, BrowsesProperties) {
 TEST_F(Designer, TakesTheContainersBackground) {
     const ComPtr<IDispatch> label = New(L"lumenkit.VLabel");
     EXPECT_EQ(Put(*label.Get(), L"BackStyle", Variant(1L)), S_OK);
-    // Its own colour stays.
+    // The label keeps its own colour.
     EXPECT_EQ(TextOf(*label.Get(), L"BackColor"), std::to_wstring(long(0x80000005)));
     Leave(label);
 }

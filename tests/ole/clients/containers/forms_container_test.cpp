@@ -1,6 +1,6 @@
-// The conversation as managed forms hold it with a control that they wrap: look at the status, give
-// the site, start it anew or from a stream, size it in hundredths of millimetres, activate it, move
-// it, take it down.
+// Uses the controls as managed forms do when they wrap a control. They query the status, set the
+// site, start the control as new or from a stream, size it in hundredths of a millimetre, activate
+// it, move it and close it.
 #include <gmock/gmock.h>
 
 #include "tests/ole/clients/containers/site.h"
@@ -14,7 +14,7 @@ using ::testing::ElementsAre;
 
 class FormsContainer : public OleTest, public ::testing::WithParamInterface<const wchar_t*> {};
 
-// In pixels, from hundredths of millimetres.
+// Converts hundredths of a millimetre to pixels.
 int Pixels(LONG himetric) {
     const HDC screen = GetDC(nullptr);
     const int pixels = MulDiv(static_cast<int>(himetric), GetDeviceCaps(screen, LOGPIXELSX), 2540);

@@ -1,5 +1,5 @@
-// The conversation as a page of hypertext holds it with an object in it: is it safe, here are your
-// parameters, as text, in a bag; show yourself; here comes a script.
+// Uses the controls as a hypertext page does. It checks that the object is safe, passes parameters
+// as text in a property bag, activates the object and reads its properties.
 #include <map>
 
 #include <gmock/gmock.h>
@@ -13,7 +13,7 @@ namespace {
 
 constexpr DWORD safe = INTERFACESAFE_FOR_UNTRUSTED_CALLER | INTERFACESAFE_FOR_UNTRUSTED_DATA;
 
-// The parameters of the page: all are text, and names are found in any case.
+// The parameters of the page. All are text; names are found regardless of case.
 class Parameters final : public IPropertyBag {
  public:
     explicit Parameters(std::map<std::wstring, std::wstring> values) : values_(std::move(values)) {}
@@ -46,7 +46,7 @@ class Parameters final : public IPropertyBag {
 
 class PageContainer : public OleTest {
  protected:
-    // As far as the parameters.
+    // Sets the control up and passes it the parameters.
     ComPtr<IDispatch> Load(const wchar_t* name, Site& site, Parameters& parameters) {
         ComPtr<IDispatch> control = Create(name);
         ComPtr<IObjectSafety> safety;
@@ -70,7 +70,7 @@ class PageContainer : public OleTest {
         ComPtr<IUnknown> second;
         EXPECT_EQ(control.As(&object), S_OK);
         EXPECT_EQ(object->SetClientSite(site.Client()), S_OK);
-        // Pages that find this one never load anything by the other.
+        // A page that finds IPersistPropertyBag2 does not load through IPersistPropertyBag.
         EXPECT_EQ(control->QueryInterface(IID_IPersistPropertyBag2,
                                           reinterpret_cast<void**>(second.GetAddressOf())),
                   E_NOINTERFACE);
@@ -107,7 +107,7 @@ TEST_F(PageContainer, ALabelTakesItsParameters) {
     ASSERT_EQ(label.As(&object), S_OK);
     SIZEL extent = {};
     EXPECT_EQ(object->GetExtent(DVASPECT_CONTENT, &extent), S_OK);
-    EXPECT_NEAR(extent.cx, 5080, 27);  // a pixel
+    EXPECT_NEAR(extent.cx, 5080, 27);  // within a pixel
     EXPECT_EQ(object->DoVerb(OLEIVERB_INPLACEACTIVATE, nullptr, site.Client(), 0, site.Window(),
                              &site.place),
               S_OK);
@@ -120,7 +120,7 @@ TEST_F(PageContainer, AnOptionListTakesItsParameters) {
         {{L"Contents", L"1;One|2;Two|3;Three"}, {L"ListIndex", L"1"}, {L"ItemFontSize", L"12"}});
     const ComPtr<IDispatch> list = Load(L"lumenkit.VOptList", site, parameters);
     EXPECT_EQ(TextOf(*list.Get(), L"Value"), L"2");
-    EXPECT_EQ(TextOf(*list.Get(), L"Caption"), L"Frame1");  // not that of a new one
+    EXPECT_EQ(TextOf(*list.Get(), L"Caption"), L"Frame1");  // not the caption of a new control
     Leave(list);
 }
 

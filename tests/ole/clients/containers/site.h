@@ -1,4 +1,4 @@
-// A container's side of the conversation with one control, as little of it as containers have.
+// A container's site for one control, with as few services as containers offer.
 #pragma once
 
 #include <string>
@@ -8,7 +8,7 @@
 
 namespace lumenkit::clients {
 
-/// Lies in a window of its own. Lives longer than the control holds it.
+/// Has a separate window. Must outlive the control's references to it.
 class Site final : public IOleClientSite,
                    public IOleInPlaceSite,
                    public IOleControlSite,
@@ -23,7 +23,7 @@ class Site final : public IOleClientSite,
     HWND Window() const { return window_; }
     IOleClientSite* Client() { return this; }
     const std::vector<std::string>& Calls() const { return calls_; }
-    /// The properties that were announced to have changed.
+    /// The properties that the control reported as changed.
     std::vector<DISPID> changed;
     RECT place = {10, 20, 210, 120};
 
@@ -109,7 +109,7 @@ class Site final : public IOleClientSite,
     long references_ = 0;
 };
 
-/// Has the site hear of the control's properties; ends when it is destroyed.
+/// Connects the site to the control's property notifications until it is destroyed.
 class Notices {
  public:
     Notices(IUnknown& control, Site& site);

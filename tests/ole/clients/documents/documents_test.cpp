@@ -1,5 +1,5 @@
-// Controls as objects in documents: saved and loaded by the platform's functions, drawn by them
-// into pictures and metafiles, put into rich text.
+// Controls as objects in documents: saved, loaded and drawn into pictures and metafiles by the
+// platform's functions, and embedded in rich text.
 #include <gmock/gmock.h>
 #include <richedit.h>
 #include <richole.h>
@@ -24,7 +24,7 @@ ComPtr<IStorage> NewStorage() {
     return storage;
 }
 
-// Blue letters on red.
+// A label with blue letters on red.
 ComPtr<IDispatch> ColourfulLabel() {
     ComPtr<IDispatch> label = Create(L"lumenkit.VLabel");
     EXPECT_EQ(Put(*label.Get(), L"BackColor", Variant(long(red))), S_OK);
@@ -76,7 +76,7 @@ TEST_F(Documents, AStreamKeepsTheClassAndTheControl) {
     ComPtr<IStream> stream;
     ASSERT_EQ(label.As(&persisted), S_OK);
     ASSERT_EQ(CreateStreamOnHGlobal(nullptr, TRUE, &stream), S_OK);
-    // The two interfaces begin alike, and the function does not look further.
+    // The two interfaces begin with the same methods, and the function uses only these.
     ASSERT_EQ(OleSaveToStream(reinterpret_cast<IPersistStream*>(persisted.Get()), stream.Get()),
               S_OK);
     stream->Seek({}, STREAM_SEEK_SET, nullptr);

@@ -1,11 +1,11 @@
-// Pixels to draw on and to count.
+// A bitmap to draw on, whose pixels can be counted.
 #pragma once
 
 #include <windows.h>
 
 namespace lumenkit::clients {
 
-/// Grey where nothing was drawn.
+/// All pixels are grey at first.
 class Picture {
  public:
     Picture(int width, int height);

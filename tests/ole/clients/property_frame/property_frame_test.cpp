@@ -1,4 +1,5 @@
-// The caption page in the platform's property frame, and in a frame of our own that applies.
+// The caption page in the platform's property frame, and in a frame of this test that applies
+// changes.
 #include <algorithm>
 #include <thread>
 #include <vector>
@@ -35,7 +36,7 @@ BOOL CALLBACK Collect(HWND window, LPARAM list) {
     return TRUE;
 }
 
-// The page's text box that holds this.
+// Returns the page's text box that contains the text.
 HWND EditWith(HWND page, const std::wstring& text) {
     std::vector<HWND> edits;
     EnumChildWindows(page, &Collect, reinterpret_cast<LPARAM>(&edits));
@@ -79,7 +80,7 @@ ComPtr<IDispatch> NewLabel() {
     return label;
 }
 
-// The page that the control itself asks for.
+// Returns the class of the page that the control specifies.
 CLSID PageOf(IDispatch& label) {
     ComPtr<ISpecifyPropertyPages> specifies;
     CAUUID pages = {};
@@ -133,7 +134,7 @@ TEST_F(PropertyFrame, ThePlatformsFrameShowsThePage) {
     EXPECT_EQ(TextOf(*label.Get(), L"Caption"), L"|B|to be edited");
 }
 
-// What a frame offers its pages.
+// The site that a frame gives its page.
 class PageSite final : public IPropertyPageSite {
  public:
     virtual ~PageSite() { EXPECT_EQ(references_, 0); }
@@ -219,7 +220,7 @@ TEST_F(OwnFrame, WhatIsEditedIsApplied) {
     EXPECT_EQ(TextOf(*label_.Get(), L"BulletIndent"), L"14");
     EXPECT_EQ(TextOf(*label_.Get(), L"WordWrap"), L"True");
     EXPECT_EQ(page_->IsPageDirty(), S_FALSE);
-    // Only the first of those selected is written to.
+    // Only the first selected control is written to.
     EXPECT_EQ(TextOf(*other_.Get(), L"Caption"), L"|B|to be edited");
 }
 

@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # register.sh wine.sh server folder
-# Registers the server. Fails unless it can then be found by all that clients look for, and unless
-# unregistering takes all of that away again and nothing else.
+# Registers the server. Fails unless the registry then has all keys that clients look for, and unless
+# unregistering removes exactly what registering added.
 set -euo pipefail
 . "$(dirname "$0")/registry.sh"
 
@@ -32,5 +32,5 @@ demand '^\[HKEY_CLASSES_ROOT.CLSID.[^\\]*\]' 4
 demand '^\[HKEY_CLASSES_ROOT.CLSID.*\\InprocServer32\]' 4
 demand '^\[HKEY_CLASSES_ROOT.CLSID.*\\Control\]' 3
 demand '^\[HKEY_CLASSES_ROOT.TypeLib.[^\\]*\]' 2
-# Four interfaces of the classes, three of events.
+# Four interfaces of the classes, and three of their events.
 demand '^\[HKEY_CLASSES_ROOT.Interface.[^\\]*\]' 7

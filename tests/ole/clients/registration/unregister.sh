@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # unregister.sh wine.sh server folder
-# Unregisters the server and fails if a key is left of those that registering added. Clients may have
-# registered things of their own meanwhile.
+# Unregisters the server. Fails if a key is left that registering added. Other new keys are allowed,
+# because clients may have registered something meanwhile.
 set -euo pipefail
 . "$(dirname "$0")/registry.sh"
 

@@ -1,18 +1,18 @@
-// What all scripts use. No conversion takes place: "1" is not 1.
+// Shared by all scripts. Values are compared without conversion: "1" is not 1.
 function equal(what, expected, found) {
     if (expected !== found) {
         WScript.Echo("failed: " + what + " is " + typeof found + " [" + found + "], not [" + expected + "]");
     }
 }
 
-// Sizes of fonts are those of the screen's nearest font: within a pixel of what was asked for.
+// A font takes the nearest size of the screen, so its size may differ by a pixel.
 function equalSize(what, expected, found) {
     if (typeof found !== "number" || Math.abs(expected - found) > 0.75) {
         WScript.Echo("failed: " + what + " is [" + found + "], not about [" + expected + "]");
     }
 }
 
-// Some engines hand automation's own codes on, others the numbers that scripts know them by.
+// Some engines pass on the codes of automation, others the numbers that scripts use.
 var automationCodes = {3: 438, 5: 13, 6: 438, 10: 6, 14: 450, 15: 449};
 
 function numberOf(error) {
@@ -20,7 +20,7 @@ function numberOf(error) {
     return facility === 2 ? automationCodes[low] : low;
 }
 
-// Runs what should raise the error.
+// Runs an action that must raise the error.
 function raises(what, number, action) {
     try {
         action();

@@ -1,9 +1,9 @@
 Option Explicit
 
-' Objects are made by WScript.CreateObject: Wine's own CreateObject wants to give an object that takes
-' a site one that cscript has not got.
+' Objects are created by WScript.CreateObject. Wine's CreateObject tries to give the object a site,
+' which cscript does not have.
 
-' What all scripts use. A type is checked too: 1 is an Integer, CLng(1) a Long.
+' Shared by all scripts. The type is compared too: 1 is an Integer, CLng(1) a Long.
 Sub Equal(what, expected, found)
     If VarType(expected) <> VarType(found) Then
         WScript.Echo "failed: " & what & " is a " & TypeName(found) & ", not a " & TypeName(expected)
@@ -12,7 +12,7 @@ Sub Equal(what, expected, found)
     End If
 End Sub
 
-' Sizes of fonts are those of the screen's nearest font: within a pixel of what was asked for.
+' A font takes the nearest size of the screen, so its size may differ by a pixel.
 Sub EqualSize(what, expected, found)
     Equal "the type of " & what, VarType(expected), VarType(found)
     If Abs(expected - found) > 0.75 Then
@@ -20,7 +20,7 @@ Sub EqualSize(what, expected, found)
     End If
 End Sub
 
-' Right after what should raise the error, under On Error Resume Next.
+' Call this right after the statement that must raise the error, under On Error Resume Next.
 Sub Raised(what, number)
     If Err.Number <> number Then
         WScript.Echo "failed: " & what & " raised " & Err.Number & ", not " & number

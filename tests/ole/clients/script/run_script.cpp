@@ -1,6 +1,6 @@
 // run_script [--expect complaint] target source...
-// Joins the sources into the script `target`, runs it with cscript and tells what is wrong.
-// Succeeds where nothing is, or just the complaint that is expected.
+// Joins the sources into the script `target`, runs it with cscript and prints the complaints.
+// Succeeds if there are none, or if the expected one is the only one.
 #include <cstdio>
 #include <filesystem>
 #include <fstream>
@@ -30,7 +30,7 @@ int wmain(int count, wchar_t** arguments) {
         std::puts("run_script [--expect complaint] target source...");
         return 2;
     }
-    // A name that starts with a slash would be taken for an option.
+    // cscript takes a name that starts with a slash for an option.
     const std::filesystem::path target = std::filesystem::absolute(arguments[first]);
     Join(target, count - first - 1, arguments + first + 1);
     std::filesystem::path output = target;

@@ -1,6 +1,6 @@
 var label = new ActiveXObject("lumenkit.VLabel");
 
-// A new one. Colours are signed: 0x80000005 is 5 - 2^31.
+// A new control. Colours are signed: 0x80000005 is 5 - 2^31.
 equal("BackColor", 5 - 2147483648, label.BackColor);
 equal("ForeColor", 18 - 2147483648, label.ForeColor);
 equal("Enabled", true, label.Enabled);

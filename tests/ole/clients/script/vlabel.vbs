@@ -1,7 +1,7 @@
 Dim label
 Set label = WScript.CreateObject("lumenkit.VLabel")
 
-' A new one.
+' A new control.
 Equal "BackColor", &H80000005, label.BackColor
 Equal "ForeColor", &H80000012, label.ForeColor
 Equal "Enabled", True, label.Enabled
@@ -15,7 +15,7 @@ Equal "BulletPrefix", "", label.BulletPrefix
 Equal "AutoSize", False, label.AutoSize
 Equal "BackStyle", 0, label.BackStyle
 
-' Each assigned and read again.
+' Each property, assigned and read again.
 label.BackColor = RGB(1, 2, 3)
 Equal "BackColor", CLng(1 + 2 * 256 + 3 * 65536), label.BackColor
 label.ForeColor = &H80000008
@@ -42,12 +42,12 @@ label.BackStyle = 1
 Equal "BackStyle", 1, label.BackStyle
 label.Refresh
 
-' The default member, and names in any case.
+' The default member. Names are found in any case.
 Equal "the default member", "|B|bold||b| plain", "" & label
 label.cAPTION = "x"
 Equal "CAPTION", "x", label.CAPTION
 
-' What converts: numbers to text, text to numbers, halves to the even neighbour, all but 0 to True.
+' Conversions: numbers to text, text to numbers, halves to the even neighbour, all but 0 to True.
 label.Caption = 12
 Equal "Caption", "12", label.Caption
 label.BulletIndent = "34"
@@ -59,7 +59,7 @@ Equal "BulletIndent", 4, label.BulletIndent
 label.WordWrap = 5
 Equal "WordWrap", True, label.WordWrap
 
-' The font is one object, whoever holds it.
+' All controls and variables with the font share one object.
 Dim font, other
 Set font = label.Font
 font.Name = "Arial"
@@ -82,7 +82,7 @@ font.Size = 9
 EqualSize "Font.Size", CCur(9), label.Font.Size
 EqualSize "the other's font size", CCur(18), other.Font.Size
 
-' Sizes: any case of the name; nothing for names that are not sizes.
+' GetProperty takes a name in any case, and returns nothing for a name that is not a size.
 Dim width, height
 label.WordWrap = False
 label.BulletIndent = 0
@@ -115,7 +115,7 @@ label.Test wanted
 Equal "Caption", "to |Q|verify|Q|", label.Caption
 Equal "the tested text", "to |Q|verify|Q|", wanted
 
-' What the surface refuses is shown; the script goes on.
+' Values that the surface refuses show an error box, and the script continues.
 Box "VLABEL pLetBorderStyle 380"
 label.BorderStyle = 2
 Equal "BorderStyle", 1, label.BorderStyle
@@ -126,7 +126,7 @@ Box "VLABEL pSetFont 91"
 Set label.Font = Nothing
 Equal "Font.Name", "Arial", label.Font.Name
 
-' Misuse is the script's own error.
+' Misuse raises an error in the script.
 On Error Resume Next
 label.NoSuchMember
 Raised "an unknown method", 438

@@ -1,6 +1,6 @@
 var memo = new ActiveXObject("lumenkit.VMemo");
 
-// A new one.
+// A new control.
 equal("Text", "VMemo\r\n", memo.Text);
 equal("ForeColor", 8 - 2147483648, memo.ForeColor);
 equal("Enabled", true, memo.Enabled);

@@ -1,7 +1,7 @@
 Dim memo
 Set memo = WScript.CreateObject("lumenkit.VMemo")
 
-' A new one.
+' A new control.
 Equal "Text", "VMemo" & vbCrLf, memo.Text
 Equal "ForeColor", &H80000008, memo.ForeColor
 Equal "Enabled", True, memo.Enabled
@@ -14,11 +14,11 @@ Equal "ScrollBars", CLng(0), memo.ScrollBars
 Equal "MaxCharsPerLine", 0, memo.MaxCharsPerLine
 Equal "MaxLines", 0, memo.MaxLines
 
-' Its container could ask for the window's handle by a Tag. Nobody here has one.
+' A container can request the window's handle by a Tag. Here there is no extender with a Tag.
 Box "VMEMO pGetMaxLength 438"
 Equal "MaxLength", CLng(0), memo.MaxLength
 
-' Each assigned and read again.
+' Each property, assigned and read again.
 memo.ForeColor = RGB(255, 0, 0)
 Equal "ForeColor", CLng(255), memo.ForeColor
 memo.Enabled = False
@@ -46,7 +46,7 @@ memo.Refresh
 ' The default member.
 Equal "the default member", "some text", "" & memo
 
-' The limits hold for what is assigned from now on.
+' Limits apply to text that is assigned after them.
 memo.MaxCharsPerLine = 5
 Equal "MaxCharsPerLine", 5, memo.MaxCharsPerLine
 Equal "Text", "some text", memo.Text
@@ -66,7 +66,7 @@ memo.Text = ""
 Equal "MaxLines", 0, memo.MaxLines
 Equal "Text", "", memo.Text
 
-' A page twice as wide takes twice the characters, or one more or less: halves are rounded.
+' A page twice as wide takes twice as many characters, plus or minus one: halves are rounded.
 Dim columns
 memo.PageWidth = 20000
 columns = memo.MaxCharsPerLine
@@ -91,14 +91,14 @@ Set memo.Font = font
 Equal "FontName", "Courier New", memo.FontName
 EqualSize "FontSize", CSng(9), memo.FontSize
 
-' What goes wrong inside is shown; the script goes on.
+' Errors inside the control show an error box, and the script continues.
 Box "VMEMO TestMessage 11"
 memo.TestMessage
 Box "VMEMO pLetScrollBars 340"
 memo.ScrollBars = 4
 Equal "ScrollBars", CLng(1), memo.ScrollBars
 
-' Misuse is the script's own error.
+' Misuse raises an error in the script.
 On Error Resume Next
 columns = memo.PageWidth
 Raised "reading what is only written", 438

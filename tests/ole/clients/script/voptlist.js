@@ -1,6 +1,6 @@
 var options = new ActiveXObject("lumenkit.VOptList");
 
-// A new one.
+// A new control.
 equal("Enabled", true, options.Enabled);
 equal("BorderStyle", 1, options.BorderStyle);
 equal("Caption", "Caption", options.Caption);

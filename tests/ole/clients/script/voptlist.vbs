@@ -1,7 +1,7 @@
 Dim options
 Set options = WScript.CreateObject("lumenkit.VOptList")
 
-' A new one: the list is not yet parsed.
+' A new control. Its list is not yet parsed.
 Equal "Enabled", True, options.Enabled
 Equal "BorderStyle", 1, options.BorderStyle
 Equal "Caption", "Caption", options.Caption
@@ -16,7 +16,7 @@ Equal "Value", "", options.Value
 Equal "the type of ItemFontName", vbString, VarType(options.ItemFontName)
 Equal "the type of ItemFontSize", vbSingle, VarType(options.ItemFontSize)
 
-' Each assigned and read again.
+' Each property, assigned and read again.
 options.Enabled = False
 Equal "Enabled", False, options.Enabled
 options.Enabled = True
@@ -28,7 +28,7 @@ options.Contents = "r;Red|g;Green|b;Blue|g;Grass"
 Equal "Contents", "r;Red|g;Green|b;Blue|g;Grass", options.Contents
 options.Refresh
 
-' Three faces of one selection.
+' Three properties give the same selection.
 Equal "ListIndex", -1, options.ListIndex
 options.ListIndex = 2
 Equal "ListIndex", 2, options.ListIndex
@@ -48,7 +48,7 @@ options.ListIndex = 3
 options.ListIndex = -2
 Equal "ListIndex", -1, options.ListIndex
 
-' What the contents mean.
+' The meaning of the contents.
 options.ListIndex = 3
 options.Contents = "a|b"
 Equal "ListIndex", -1, options.ListIndex
@@ -66,7 +66,7 @@ options.ListIndex = 0
 Equal "Text", " 1 ", options.Text
 options.Contents = "1;a;b|2;c"
 
-' Captions are written only, one at a time; those that are not there are ignored.
+' Captions can only be assigned, one at a time. Captions of items that do not exist are ignored.
 options.ItemCaption(1) = "B"
 options.ItemCaption(7) = "nobody"
 options.ItemCaption(-1) = "nobody"
@@ -80,7 +80,7 @@ Set font = WScript.CreateObject("lumenkit.VMemo").Font
 Set options.Font = font
 Equal "Font.Name", "Courier", options.Font.Name
 
-' The look of items and the layout belong to the designer. Refusals are shown.
+' The look of items and the layout can be changed in design mode only. A refusal shows an error box.
 Box "VOPTLIST pLetItemAlignment 382"
 options.ItemAlignment = 1
 Equal "ItemAlignment", 0, options.ItemAlignment
@@ -110,7 +110,7 @@ options.TopMargin = 100
 Box "VOPTLIST pGetTopMargin 393"
 Equal "TopMargin", CSng(0), options.TopMargin
 
-' Misuse is the script's own error.
+' Misuse raises an error in the script.
 Dim nothingAtAll
 On Error Resume Next
 options.Value = "r"

@@ -1,4 +1,4 @@
-// The platform's ScriptControl: objects given to it by name, code added and run.
+// The platform's ScriptControl: it gets objects by name, and code is added to it and run.
 #include <initializer_list>
 #include <vector>
 

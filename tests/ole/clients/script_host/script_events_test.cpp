@@ -1,4 +1,5 @@
-// Scripts that hear the controls' events, as in a page or a form: procedures called Name_Event.
+// Scripts that handle the controls' events, as in a page or a form, by procedures called
+// Name_Event.
 #include <gmock/gmock.h>
 
 #include "tests/ole/clients/script_host/script_host.h"
@@ -62,7 +63,7 @@ TEST_F(ScriptEvents, AScriptSeesAndChangesTheKeysOfAMemo) {
     EXPECT_EQ(TextOf(*window.Control().Get(), L"Text"), L"aB");
     EXPECT_EQ(host.Variable(L"heard"), L"d65 p97 u65 d66 p98 u66 d88 p120 u88 ");
     EXPECT_EQ(host.Variable(L"changes"), L"2");
-    // What code assigns is no change of the person's.
+    // A text assigned by code raises no Change event.
     EXPECT_EQ(Put(*window.Control().Get(), L"Text", Variant(L"by code")), S_OK);
     EXPECT_EQ(host.Variable(L"changes"), L"2");
     EXPECT_THAT(host.Errors(), IsEmpty());

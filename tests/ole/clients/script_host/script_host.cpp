@@ -6,7 +6,7 @@ namespace lumenkit::clients {
 
 namespace {
 
-// What the class calls the event.
+// Returns the name of the event in the control's class.
 std::wstring EventName(IDispatch& control, DISPID event) {
     ComPtr<IProvideClassInfo> provider;
     ComPtr<ITypeInfo> type;
@@ -21,7 +21,8 @@ std::wstring EventName(IDispatch& control, DISPID event) {
     return name.Read();
 }
 
-// Arguments as the script wants them: each a VARIANT that it may assign.
+// The arguments as scripts take them: each one is a reference to a VARIANT that the script may
+// assign.
 class Passed {
  public:
     explicit Passed(const DISPPARAMS& original) : original_(original) {
@@ -36,7 +37,7 @@ class Passed {
         parameters_ = {references_.data(), nullptr, original.cArgs, 0};
     }
     DISPPARAMS* Get() { return &parameters_; }
-    // All events' arguments are small numbers by reference.
+    // Copies the values of 16-bit arguments back to the caller.
     void HandBack() {
         for (UINT index = 0; index < original_.cArgs; ++index) {
             const VARIANT& place = original_.rgvarg[index];

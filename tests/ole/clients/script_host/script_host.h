@@ -1,4 +1,4 @@
-// A small host of scripts: it gives controls names and calls a script's procedures Name_Event.
+// A small host of scripts. It gives controls names and calls the procedures Name_Event of a script.
 #pragma once
 
 #include <map>
@@ -20,12 +20,12 @@ class ScriptHost final : public IActiveScriptSite {
     ScriptHost(const ScriptHost&) = delete;
     ScriptHost& operator=(const ScriptHost&) = delete;
 
-    /// Before Run.
+    /// Must be called before Run.
     void Add(const std::wstring& name, const ComPtr<IDispatch>& control);
-    /// What the script says at its top level happens now.
+    /// Runs the statements at the top level of the script.
     void Run(const wchar_t* script);
     std::wstring Variable(const wchar_t* name);
-    /// What went wrong in scripts, with the line.
+    /// The errors in scripts, with their lines.
     const std::vector<std::wstring>& Errors() const { return errors_; }
 
     HRESULT STDMETHODCALLTYPE QueryInterface(REFIID iid, void** object) override;

@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # side_by_side.sh wine.sh folder-of-the-server folder-of-the-programs
-# Runs each program with a manifest, and without, where it must not find the server.
+# Runs each program with a manifest and without one. Without it, the program must not find the server.
 set -euo pipefail
 wine=$1
 server=$2
@@ -39,7 +39,7 @@ cp "$server/lumenkit.manifest" cscript.exe.manifest
 check "manifest beside" VLabel "$wine" plain_program.exe
 check "manifest beside, script" VLabel120 "$wine" cscript.exe //nologo label.vbs
 
-# A manifest alone does not make a control.
+# A manifest without the server creates no control.
 rm lumenkit.ocx
 check "no server" "" "$wine" plain_program.exe
 exit "$failed"

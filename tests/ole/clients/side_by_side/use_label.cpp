@@ -1,4 +1,4 @@
-// Makes a label by its name, uses it and says what it holds.
+// Creates a label by its class name, reads its caption and prints it.
 #include <cstdio>
 
 #include <ole2.h>

@@ -6,7 +6,7 @@ namespace lumenkit::clients {
 
 namespace {
 
-// The library has no import library in all tool chains.
+// Some tool chains have no import library for atl.dll.
 template <typename Function>
 Function Entry(const char* name) {
     static const HMODULE library = LoadLibraryW(L"atl.dll");
@@ -19,13 +19,13 @@ using GetControl = HRESULT(WINAPI*)(HWND, IUnknown**);
 using CreateControlEx = HRESULT(WINAPI*)(LPCOLESTR, HWND, IStream*, IUnknown**, IUnknown**, REFIID,
                                          IUnknown*);
 
-struct Search {
+struct WindowSearch {
     const wchar_t* windowClass;
     std::vector<HWND> found;
 };
 
 BOOL CALLBACK Find(HWND window, LPARAM parameter) {
-    auto& search = *reinterpret_cast<Search*>(parameter);
+    auto& search = *reinterpret_cast<WindowSearch*>(parameter);
     wchar_t name[64] = {};
     GetClassNameW(window, name, 64);
     if (lstrcmpiW(name, search.windowClass) == 0 && IsWindowVisible(window)) {
@@ -82,7 +82,7 @@ HRESULT AtlWindow::CreateControl(const wchar_t* name, IStream* saved) {
 }
 
 std::vector<HWND> AtlWindow::Visible(const wchar_t* windowClass) const {
-    Search search = {windowClass, {}};
+    WindowSearch search = {windowClass, {}};
     EnumChildWindows(host_, &Find, reinterpret_cast<LPARAM>(&search));
     std::ranges::sort(search.found, {}, &TopOf);
     return search.found;

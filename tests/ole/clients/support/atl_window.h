@@ -1,4 +1,4 @@
-// Controls in the windows that the platform's template library makes for them.
+// Controls in windows that the platform's template library makes for them.
 #pragma once
 
 #include <array>
@@ -9,24 +9,25 @@
 
 namespace lumenkit::clients {
 
-/// A top-level window with a window of the class "AtlAxWin" in it, 200 pixels by 100.
+/// A top-level window that contains a window of the class "AtlAxWin", 200 by 100 pixels in size.
 class AtlWindow {
  public:
-    /// `text`: what the window is to hold, as its class takes it: a class's name, or nothing yet.
+    /// `text` is the text of the "AtlAxWin" window: the class name of the control to create, or
+    /// empty.
     explicit AtlWindow(const std::wstring& text);
     ~AtlWindow();
     AtlWindow(const AtlWindow&) = delete;
     AtlWindow& operator=(const AtlWindow&) = delete;
 
     HWND Host() const { return host_; }
-    /// Null where there is none.
+    /// Returns null if there is no control.
     ComPtr<IDispatch> Control() const;
-    /// Puts a control in. `saved`: what it is loaded from; null for a new one.
+    /// Creates a control in the window. It is loaded from `saved`, or is new if `saved` is null.
     HRESULT CreateControl(const wchar_t* name, IStream* saved);
 
-    /// The visible windows of a class in it, from top to bottom.
+    /// Returns the visible windows of a class inside, from top to bottom.
     std::vector<HWND> Visible(const wchar_t* windowClass) const;
-    /// Types into the window as a keyboard would: down, character, up.
+    /// Sends the messages of a keystroke to the window: key down, character, key up.
     static void Type(HWND window, wchar_t character);
     void Resize(int width, int height);
     void Close();
@@ -36,7 +37,7 @@ class AtlWindow {
     HWND host_;
 };
 
-/// A key that is down as long as this lives, for this thread.
+/// Holds a key down in the keyboard state of this thread while the object exists.
 class HeldKey {
  public:
     explicit HeldKey(int key);

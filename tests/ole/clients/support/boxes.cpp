@@ -7,7 +7,7 @@ namespace lumenkit::clients {
 
 namespace {
 
-constexpr DWORD pause = 10;      // milliseconds between two looks
+constexpr DWORD searchPause = 10;      // milliseconds between two searches
 constexpr UINT patience = 2000;  // milliseconds that a window may take to answer
 
 std::wstring TextIn(HWND window) {
@@ -24,14 +24,14 @@ bool HasClass(HWND window, const wchar_t* wanted) {
     return lstrcmpiW(name.data(), wanted) == 0;
 }
 
-struct Search {
+struct BoxSearch {
     DWORD process;
     HWND found = nullptr;
 };
 
-// A dialog box with nothing to press but one button.
+// Finds a visible dialog box of the process that is not a property sheet.
 BOOL CALLBACK FindBox(HWND window, LPARAM parameter) {
-    auto& search = *reinterpret_cast<Search*>(parameter);
+    auto& search = *reinterpret_cast<BoxSearch*>(parameter);
     DWORD process = 0;
     GetWindowThreadProcessId(window, &process);
     const bool isBox = process == search.process && HasClass(window, L"#32770") &&
@@ -55,7 +55,8 @@ std::wstring LongestLabel(HWND box) {
     return longest;
 }
 
-// Cuts `prefix` and the rest of its line off the front; nothing where the text starts otherwise.
+// Removes the first line if it begins with `prefix`, and returns the rest of it. Otherwise returns
+// nothing.
 std::optional<std::wstring> TakeLine(std::wstring& text, const std::wstring& prefix) {
     const std::size_t end = text.find(L"\r\n");
     if (!text.starts_with(prefix) || end == std::wstring::npos) {
@@ -69,15 +70,15 @@ std::optional<std::wstring> TakeLine(std::wstring& text, const std::wstring& pre
 }  // namespace
 
 std::optional<Box> CloseBox(DWORD process) {
-    Search search{process};
+    BoxSearch search{process};
     EnumWindows(&FindBox, reinterpret_cast<LPARAM>(&search));
     if (search.found == nullptr) {
         return std::nullopt;
     }
     Box box = {TextIn(search.found), LongestLabel(search.found)};
     PostMessageW(search.found, WM_COMMAND, IDOK, 0);
-    for (UINT waited = 0; IsWindow(search.found) && waited < patience; waited += pause) {
-        Sleep(pause);
+    for (UINT waited = 0; IsWindow(search.found) && waited < patience; waited += searchPause) {
+        Sleep(searchPause);
     }
     return box;
 }
@@ -130,7 +131,7 @@ std::vector<std::wstring> BoxCloser::AwaitErrors() {
 
 DWORD BoxCloser::Run(void* self) {
     auto& closer = *static_cast<BoxCloser*>(self);
-    while (WaitForSingleObject(closer.end_, pause) == WAIT_TIMEOUT) {
+    while (WaitForSingleObject(closer.end_, searchPause) == WAIT_TIMEOUT) {
         const std::optional<Box> box = CloseBox(GetCurrentProcessId());
         if (!box) {
             continue;

@@ -1,4 +1,4 @@
-// Message boxes of a process under test, read and closed as a person would.
+// Message boxes of a process under test, read and closed as a user does.
 #pragma once
 
 #include <optional>
@@ -14,14 +14,14 @@ struct Box {
     std::wstring text;
 };
 
-/// Reads a box that the process shows and presses its button; nothing where there is none.
+/// Reads a message box of the process and presses its button. Returns nothing if there is no box.
 std::optional<Box> CloseBox(DWORD process);
 
-/// What an error box says of its error; empty where the box is not one of the error reporter's in
-/// every detail: "VLABEL pLetFont 13".
+/// Returns the error in an error box as "VLABEL pLetFont 13". Returns an empty text if the box
+/// differs in any detail from the boxes of the error reporter.
 std::wstring ErrorIn(const Box& box);
 
-/// Closes the boxes of this process from a thread of its own, until it ends.
+/// Closes the message boxes of this process on a separate thread until it is destroyed.
 class BoxCloser {
  public:
     BoxCloser();
@@ -29,10 +29,10 @@ class BoxCloser {
     BoxCloser(const BoxCloser&) = delete;
     BoxCloser& operator=(const BoxCloser&) = delete;
 
-    /// The errors shown since it was last asked, oldest first.
+    /// Returns the errors shown since the last call, oldest first. Other boxes give "title: text".
     std::vector<std::wstring> Errors();
-    /// The same, once there is one: what was shown may still be on its way when a call returns.
-    /// Empty when there is none for ten seconds.
+    /// The same, but waits up to ten seconds for the first error: a box may still be open when a
+    /// call returns.
     std::vector<std::wstring> AwaitErrors();
 
  private:

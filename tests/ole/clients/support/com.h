@@ -1,4 +1,4 @@
-// What all programs that are clients of the server need.
+// Helpers for all programs that are clients of the server.
 #pragma once
 
 #include <string>
@@ -14,7 +14,7 @@ namespace lumenkit::clients {
 
 using Microsoft::WRL::ComPtr;
 
-/// A string of automation.
+/// An automation string.
 class Text {
  public:
     explicit Text(const wchar_t* text) : text_(SysAllocString(text)) {}
@@ -24,7 +24,7 @@ class Text {
     Text& operator=(const Text&) = delete;
 
     BSTR Get() const { return text_; }
-    /// Frees what it holds, to be filled anew.
+    /// Frees the string and returns its address, so that it can be filled again.
     BSTR* Out() {
         SysFreeString(text_);
         text_ = nullptr;
@@ -36,7 +36,7 @@ class Text {
     BSTR text_ = nullptr;
 };
 
-/// A VARIANT that is cleared in the end.
+/// A VARIANT that is cleared when it is destroyed.
 class Variant : public VARIANT {
  public:
     Variant() : VARIANT() { VariantInit(this); }
@@ -63,7 +63,7 @@ class Variant : public VARIANT {
     }
 };
 
-/// By the class's name, as programs do that know no more of it.
+/// Creates an object by its class name, as programs do that know nothing else of the class.
 template <typename Interface = IDispatch>
 ComPtr<Interface> Create(const wchar_t* name) {
     CLSID type = {};
@@ -87,7 +87,7 @@ inline HRESULT Read(IDispatch& object, const wchar_t* name, Variant& value) {
                          DISPATCH_PROPERTYGET, &none, &value, nullptr, nullptr);
 }
 
-/// A property as text: "True" and "False", decimals.
+/// Returns a property as text: "True" and "False" for Booleans, decimals for numbers.
 inline std::wstring TextOf(IDispatch& object, const wchar_t* name) {
     Variant value;
     EXPECT_EQ(Read(object, name, value), S_OK) << name;
@@ -109,7 +109,7 @@ inline HRESULT Call(IDispatch& object, const wchar_t* name) {
                          &none, nullptr, nullptr, nullptr);
 }
 
-/// Lets the windows of this thread do what was posted to them.
+/// Dispatches all messages in the queue of this thread.
 inline void RunMessages() {
     for (MSG message; PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE);) {
         TranslateMessage(&message);

@@ -1,4 +1,4 @@
-// A listener to a control's events that keeps their numbers.
+// A sink for a control's events that passes them to a function.
 #pragma once
 
 #include <functional>
@@ -8,7 +8,7 @@
 
 namespace lumenkit::clients {
 
-/// Lives as long as its owner says, whoever holds on to it.
+/// Its owner determines its lifetime. The reference count is only checked at the end.
 class EventSink final : public IDispatch {
  public:
     using Listener = std::function<void(DISPID event, DISPPARAMS& arguments)>;
@@ -47,7 +47,7 @@ class EventSink final : public IDispatch {
     long references_ = 0;
 };
 
-/// The control's events, as its class names them.
+/// Returns the identifier of the control's event interface.
 inline IID EventsOf(IDispatch& control) {
     ComPtr<IProvideClassInfo2> information;
     IID events = {};
@@ -56,7 +56,7 @@ inline IID EventsOf(IDispatch& control) {
     return events;
 }
 
-/// A connection that ends with it.
+/// Connects a sink to a control until it is destroyed.
 class Connection {
  public:
     Connection(IDispatch& control, EventSink& sink) {

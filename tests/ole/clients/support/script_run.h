@@ -1,4 +1,4 @@
-// A script run by a program of the platform's, held to what it says of itself.
+// Runs a script in a program of the platform and checks its output.
 #pragma once
 
 #include <filesystem>
@@ -9,17 +9,17 @@ namespace lumenkit::clients {
 
 struct ScriptRun {
     unsigned long exitCode = 0;
-    std::vector<std::string> lines;    ///< what it wrote
-    std::vector<std::wstring> errors;  ///< what the error boxes said, see ErrorIn
+    std::vector<std::string> lines;    ///< lines of output
+    std::vector<std::wstring> errors;  ///< errors in the error boxes, see ErrorIn
 };
 
 /// Runs `program` with the arguments and closes each message box that it shows.
 ScriptRun RunScript(const std::wstring& program, const std::wstring& arguments,
                     const std::filesystem::path& output);
 
-/// What is wrong with a run; nothing when all is well. A script writes "failed: ..." for each check
-/// that fails, "box: VLABEL pLetFont 13" for each error box that it is about to cause, and
-/// "all done" in the end: hosts of scripts are silent when one breaks off.
+/// Returns what is wrong with a run; empty if nothing is. A script writes "failed: ..." for each
+/// check that fails, "box: VLABEL pLetFont 13" before each error box that it causes, and "all done"
+/// at the end. Without the last line, a script that breaks off would go unnoticed.
 std::vector<std::string> Complaints(const ScriptRun& run);
 
 }  // namespace lumenkit::clients

@@ -1,5 +1,5 @@
-// Every member of the three interfaces, called as a compiled program calls them: through the table
-// of functions, by the header that the interface compiler makes of the definitions.
+// Calls every member of the three interfaces as a compiled program does: through the vtable, with
+// the header that the interface compiler makes from the definitions.
 #include <limits>
 
 #include <gmock/gmock.h>
@@ -37,7 +37,7 @@ std::wstring Got(const ComPtr<Interface>& object,
     return value.Read();
 }
 
-// Assigns and reads again.
+// Assigns a value and reads the property again.
 template <typename Interface, typename T>
 T After(const ComPtr<Interface>& object, HRESULT (STDMETHODCALLTYPE Interface::*put)(T),
         HRESULT (STDMETHODCALLTYPE Interface::*get)(T*), T value) {
@@ -60,8 +60,8 @@ ComPtr<Font> FontOf(const ComPtr<Interface>& object) {
     return font;
 }
 
-// Puts the other's font into the object, where it is then the same, and something else, which is
-// refused and explained.
+// Sets the object's font to the font of the other object, which both then share. Then sets an
+// object that is not a font, which is refused with an error description.
 template <typename Interface, typename Other>
 void CheckFont(const ComPtr<Interface>& object, const ComPtr<Other>& other) {
     const ComPtr<Font> font = FontOf(other);
@@ -94,7 +94,7 @@ class VtableClient : public OleTest {
  protected:
     ~VtableClient() override { EXPECT_THAT(boxes_.Errors(), IsEmpty()); }
 
-    // What the message boxes said; they are on their way when the call returns.
+    // Returns the errors in message boxes, which may still be open when a call returns.
     std::vector<std::wstring> Errors() {
         Sleep(50);
         return boxes_.AwaitErrors();
@@ -154,7 +154,7 @@ TEST_F(VtableClient, CallsAllOfALabel) {
     EXPECT_EQ(testedByReference, tested.Get());
 
     CheckFont(label, Create<_VMemo>(L"lumenkit.VMemo"));
-    // No text at all is the empty text.
+    // A null string is the empty text.
     EXPECT_EQ(label->put_Caption(nullptr), S_OK);
     EXPECT_EQ(Got(label, &L::get_Caption), L"");
     EXPECT_EQ(label->get_Caption(nullptr), E_POINTER);
@@ -191,7 +191,7 @@ TEST_F(VtableClient, CallsAllOfAMemo) {
     EXPECT_EQ(After(memo, &M::put_CausesValidation, &M::get_CausesValidation, VARIANT_FALSE),
               VARIANT_TRUE);
     EXPECT_EQ(After(memo, &M::put_FontName, &M::get_FontName, L"Arial"), L"Arial");
-    // A pixel more or less: the screen has its own sizes.
+    // Within a pixel, because the screen has only certain sizes.
     EXPECT_NEAR(After(memo, &M::put_FontSize, &M::get_FontSize, 18.0F), 18.0F, 0.75F);
     EXPECT_EQ(After(memo, &M::put_Locked, &M::get_Locked, VARIANT_TRUE), VARIANT_TRUE);
     EXPECT_EQ(memo->put_MaxLength(70000), S_OK);
@@ -210,7 +210,7 @@ TEST_F(VtableClient, CallsAllOfAMemo) {
     EXPECT_EQ(memo->Refresh(), S_OK);
     EXPECT_EQ(memo->TestMessage(), S_OK);
     EXPECT_THAT(Errors(), ElementsAre(L"VMEMO TestMessage 11"));
-    // An argument that is no number does not get as far as the control.
+    // An argument that is not a number does not reach the control.
     EXPECT_EQ(memo->put_PageWidth(std::numeric_limits<float>::quiet_NaN()), overflow);
     int outside = 4;
     EXPECT_EQ(memo->put_ScrollBars(static_cast<ScrollBarChoices>(outside)), S_OK);
