@@ -2,13 +2,14 @@
 # Compiles all native sources with the versions of clang that Debian has, as far as their warnings
 # go: nothing is optimised or linked.
 #   scripts/compilers.sh [clang++-N...]      these; else all of them
-# The tests and the fuzz targets are read by the oldest and the newest alone.
+# The oldest and the newest read the tests and the benchmarks too.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 
 compilers=(clang++-14 clang++-15 clang++-16 clang++-19)
 
-# commands BUILD: how each source is compiled, one a line. What Qt generates is left out.
+# commands BUILD: how each unit is compiled, one a line. What Qt generates is left out. A local may
+# shadow a name of another source in its unit; the builds with g++ and clang tell of the others.
 commands() {
     python3 - "$1/compile_commands.json" <<'PYTHON'
 import json
@@ -16,19 +17,20 @@ import sys
 
 for entry in json.load(open(sys.argv[1], encoding="utf-8")):
     if not entry["file"].endswith("mocs_compilation.cpp"):
-        print(entry["command"], "-fsyntax-only")
+        print(entry["command"], "-fsyntax-only -Wno-shadow")
 PYTHON
 }
 
-# Several sources are one unit, as in the other builds, which is most of what makes this quick.
+# All sources of a target are one unit, which is most of what makes this quick.
 read_with() {
     local compiler=$1 build=build/compilers/$1 everything=OFF count
     case $compiler in
         "${compilers[0]}" | "${compilers[-1]}") everything=ON ;;
     esac
     rm -rf "$build"
-    cmake --preset native -B "$build" -DCMAKE_CXX_COMPILER="$compiler" -DCMAKE_DISABLE_PRECOMPILE_HEADERS=ON \
-        -DLUMENKIT_TESTS=$everything -DLUMENKIT_FUZZ=$everything -DLUMENKIT_BENCH=$everything >/dev/null
+    cmake --preset native -B "$build" -DCMAKE_CXX_COMPILER="$compiler" \
+        -DCMAKE_UNITY_BUILD_BATCH_SIZE=0 -DCMAKE_DISABLE_PRECOMPILE_HEADERS=ON \
+        -DLUMENKIT_TESTS=$everything -DLUMENKIT_BENCH=$everything >/dev/null
     commands "$build" >"$build/commands"
     count=$(wc -l <"$build/commands")
     [ "$count" -gt 20 ]
