@@ -6,7 +6,7 @@ cd "$(dirname "$0")/.."
 preset=$1
 shift
 case $preset in
-    native) scripts/setup.sh build qt ;;
+    native | dev) scripts/setup.sh build qt ;;
     native-asan) scripts/setup.sh build qt fuzz ;;
     coverage) scripts/setup.sh build coverage ;;
     mingw-*) scripts/setup.sh build windows ;;

@@ -4,7 +4,7 @@
     scripts/mutate.py [--seconds N] [--jobs N] [--built] [FILE[:FIRST-LAST]...]
 
 Without files: the compiler of captions, their wrapping, and the memo's restrictions. Each mutant is
-compiled by itself and linked with the tests that TESTS names for its folder, in build/native; the
+compiled by itself and linked with the tests that TESTS names for its folder, in build/dev; the
 sources stay as they are. Lists the mutants that every test passes with; the status is 1 if there are
 any. A mutant that runs for more than N seconds (default 20) counts as noticed, one that does not
 compile as none. --built: the tests are as the sources are and need no build.
@@ -20,7 +20,7 @@ import tempfile
 from pathlib import Path
 
 ROOT = Path(__file__).resolve().parent.parent
-BUILD = ROOT / "build" / "native"
+BUILD = ROOT / "build" / "dev"
 # The small tests that a change in a folder should break, the quickest first.
 TESTS = {
     "vlabel": ["vlabel_test", "caption_model_test", "caption_drawing_model_test"],
@@ -157,7 +157,7 @@ def main():
     mutants = [mutant for file in arguments.files for mutant in mutants_of(file)]
     tests = {test for file in arguments.files for test in tests_for(file)}
     if not arguments.built:
-        subprocess.run([ROOT / "scripts" / "build.sh", "native", *sorted(tests)], check=True)
+        subprocess.run([ROOT / "scripts" / "build.sh", "dev", *sorted(tests)], check=True)
     for file in arguments.files:
         file = file.partition(":")[0]
         first = (ROOT / file).read_text(encoding="utf-8").splitlines()[0]
