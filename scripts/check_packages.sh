@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# Tries packages as they are, unpacked in a folder of their own:
+# Unpacks packages in a temporary folder and runs their programs:
 #   scripts/check_packages.sh debian FILE.deb...
 #   scripts/check_packages.sh windows FILE.zip
 set -euo pipefail
@@ -28,7 +28,7 @@ check_debian() {
     [ -z "$(dpkg-deb -f "$(printf '%s\n' "$@" | grep /lumenkit_)" Depends | grep -i qt)" ] ||
         fail "the command line depends on Qt"
     desktop-file-validate "$share/applications/lumenform.desktop"
-    # A form is known by its extension, and by its content where that says nothing.
+    # Files that end in .frm have the MIME type of forms.
     update-mime-database "$share/mime" 2>"$work/mime.log" || fail "$(cat "$work/mime.log")"
     grep -qF 'application/x-lumenkit-form:*.frm' "$share/mime/globs" || fail ".frm has no type"
     xmllint --noout "$share/icons/hicolor/scalable/apps/lumenform.svg"
@@ -50,7 +50,7 @@ check_windows() {
     scripts/wine.sh --screen scripts/shoot.sh "$work/free.png" wine "$files/x64/atl_host_free.exe"
     [ -s "$work/free.png" ] || fail "atl_host_free.exe shows nothing"
     [ -s "$files/include/lumenkit.h" ] || fail "there is no header"
-    # Registered, it serves the scripts of the archive.
+    # Registers the server and runs the scripts of the archive.
     cp samples/scripts/check.sh samples/scripts/expected.txt "$files/samples/scripts/"
     scripts/wine.sh --screen "$files/samples/scripts/check.sh" "$files/x64/lumenkit.ocx"
     echo "Windows archive: unpacked and run under Wine"
