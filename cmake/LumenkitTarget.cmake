@@ -20,9 +20,9 @@ if(WIN32)
     target_compile_definitions(lumenkit_settings INTERFACE UNICODE NOMINMAX _WIN32_WINNT=0x0601)
 endif()
 if(MINGW)
-    # Programs and servers stand alone: the compiler's own libraries go into them.
+    # Link the libraries of the compiler statically, so that programs and servers do not need them.
     target_link_options(lumenkit_settings INTERFACE -static)
-    # The same bytes wherever they are built.
+    # The same bytes in every build folder.
     target_compile_options(lumenkit_settings INTERFACE "-ffile-prefix-map=${PROJECT_SOURCE_DIR}=.")
 endif()
 if(LUMENKIT_SANITIZE)
@@ -39,8 +39,8 @@ endif()
 include(SharedHeaders)
 
 # lumenkit_library(NAME SOURCES file... LINKS target...)
-# A static library lumenkit_NAME, known to others as lumenkit::NAME. Each of its headers also
-# compiles alone, so that none leans on what a neighbour happens to include.
+# Adds a static library lumenkit_NAME with the alias lumenkit::NAME. Its headers are also compiled
+# alone, so that none depends on includes of another header.
 function(lumenkit_library name)
     cmake_parse_arguments(ARG "" "" "SOURCES;LINKS" ${ARGN})
     add_library(lumenkit_${name} STATIC ${ARG_SOURCES})
@@ -50,8 +50,9 @@ function(lumenkit_library name)
     lumenkit_headers_compile_alone(lumenkit_${name} ${ARG_LINKS})
 endfunction()
 
-# What a program's own sources do, reading the command line above all, is done once; the library for
-# that takes long to optimise, and with sanitizers more so.
+# lumenkit_command_line(NAME)
+# Links a program with CLI11 and compiles its sources with little optimisation. They run once, and
+# CLI11 takes long to optimise, even more so with sanitizers.
 function(lumenkit_command_line name)
     target_link_libraries(${name} PRIVATE CLI11::CLI11)
     if(LUMENKIT_SANITIZE)
