@@ -8,9 +8,7 @@
 #include <olectl.h>
 
 #include "tests/ole/clients/support/com.h"
-
-// Of the automation library; no header has it.
-extern "C" void WINAPI SetOaNoCache();
+#include "tests/ole/string_cache.h"
 
 namespace lumenkit::clients {
 
