@@ -75,6 +75,16 @@ Debug::NoLocking "true";
 END
 }
 
+# What Wine's package does when it is installed: it takes the compression library in, with the mark by
+# which Wine knows its own.
+set_up() {
+    {
+        head -c 64 "$2"
+        printf 'Wine builtin DLL\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0'
+        tail -c +97 "$2"
+    } >"$1/i386-windows/zlib1.dll"
+}
+
 # Not by halves: errors do not end a function whose result is asked for.
 make_root() {
     local work=$1/work package
@@ -89,13 +99,14 @@ make_root() {
         dpkg-deb --fsys-tarfile "$package" |
             tar -x -C "$1" --keep-directory-symlink --no-same-owner || return
     done
-    rm -rf "$work" "$1/usr/share"/{doc,man,locale}
+    set_up "$1/usr/lib/i386-linux-gnu/wine" "$1/usr/i686-w64-mingw32/lib/zlib1.dll" &&
+        rm -rf "$work" "$1/usr/share"/{doc,man,locale} "$1/usr/lib/i386-linux-gnu/wine/x86_64-windows"
 }
 
 # Made by one, awaited by the others. One that was made differently lies elsewhere.
 root=$cache/wine32-$(
     {
-        declare -f write_source write_settings unpacking_apt make_root
+        declare -f write_source write_settings unpacking_apt set_up make_root
         echo "$packages $release"
     } | sha256sum | cut -c1-16
 )
