@@ -44,7 +44,8 @@ HRESULT PropertyPageFace::Deactivate() {
 
 HRESULT PropertyPageFace::GetPageInfo(PROPPAGEINFO* information) {
     return Guarded([&] {
-        // There is one version of the structure. Some frames leave its size unset, so it tells nothing.
+        // There is one version of the structure. Some frames leave its size unset, so it tells
+        // nothing.
         Checked(information) = {};
         information->cb = sizeof(PROPPAGEINFO);
         const TextView title = core_.Type().pageTitle;

@@ -218,8 +218,8 @@ TEST_F(SurfaceTest, DrawsInUnitsThatRunUpwards) {
     EXPECT_EQ(GetMapMode(picture.Device()), MM_HIMETRIC);
 }
 
-int CALLBACK CountTextsOfFour(HDC /*device*/, HANDLETABLE* /*handles*/,
-                              const ENHMETARECORD* record, int /*handleCount*/, LPARAM count) {
+int CALLBACK CountTextsOfFour(HDC /*device*/, HANDLETABLE* /*handles*/, const ENHMETARECORD* record,
+                              int /*handleCount*/, LPARAM count) {
     if (record->iType == EMR_EXTTEXTOUTW) {
         const auto* text = reinterpret_cast<const EMREXTTEXTOUTW*>(record);
         *reinterpret_cast<int*>(count) += text->emrtext.nChars == 4 ? 1 : 0;
