@@ -7,6 +7,7 @@ set -euo pipefail
 
 picture=$1
 shift
+mkdir -p "$(dirname "$picture")"
 rm -f "$picture"
 coproc "$@"
 program=$COPROC_PID

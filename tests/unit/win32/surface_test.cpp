@@ -218,6 +218,15 @@ TEST_F(SurfaceTest, DrawsInUnitsThatRunUpwards) {
     EXPECT_EQ(GetMapMode(picture.Device()), MM_HIMETRIC);
 }
 
+int CALLBACK CountTextsOfFour(HDC /*device*/, HANDLETABLE* /*handles*/, const ENHMETARECORD* record,
+                              int /*handleCount*/, LPARAM count) {
+    if (record->iType == EMR_EXTTEXTOUTW) {
+        const auto* text = reinterpret_cast<const EMREXTTEXTOUTW*>(record);
+        *reinterpret_cast<int*>(count) += text->emrtext.nChars == 4 ? 1 : 0;
+    }
+    return 1;
+}
+
 TEST_F(SurfaceTest, DrawsIntoAMetafile) {
     PaintBy([&](host::Surface& surface) {
         surface.SetBackColor(Rgb(255, 255, 255));
@@ -231,16 +240,7 @@ TEST_F(SurfaceTest, DrawsIntoAMetafile) {
     control_.Hosted().Draw(recorder, {0, 0, paintedSize.cx, paintedSize.cy});
     const HENHMETAFILE file = CloseEnhMetaFile(recorder);
     int texts = 0;
-    EnumEnhMetaFile(
-        nullptr, file,
-        [](HDC, HANDLETABLE*, const ENHMETARECORD* record, int, LPARAM count) {
-            if (record->iType == EMR_EXTTEXTOUTW) {
-                const auto* text = reinterpret_cast<const EMREXTTEXTOUTW*>(record);
-                *reinterpret_cast<int*>(count) += text->emrtext.nChars == 4 ? 1 : 0;
-            }
-            return 1;
-        },
-        &texts, nullptr);
+    EnumEnhMetaFile(nullptr, file, &CountTextsOfFour, &texts, nullptr);
     EXPECT_EQ(texts, 1) << "as text, no picture of it";
     DeleteEnhMetaFile(file);
 }
