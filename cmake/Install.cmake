@@ -7,46 +7,46 @@
 include(GNUInstallDirs)
 include(CMakePackageConfigHelpers)
 
-# A package installs what was built before, not all there is.
-set(CMAKE_SKIP_INSTALL_ALL_DEPENDENCY ON)
-
-# The core in one archive: the controls, the class table, the windowless runtime and form files.
-set(core_parts frame vlabel vmemo voptlist vlabelcaption project memory forms)
-add_library(lumenkit_core STATIC ${where_needed})
-foreach(part IN LISTS core_parts)
-    target_sources(lumenkit_core PRIVATE $<TARGET_OBJECTS:lumenkit_${part}>)
-endforeach()
-set_target_properties(lumenkit_core PROPERTIES
-    OUTPUT_NAME lumenkit
-    EXPORT_NAME lumenkit
-    LINKER_LANGUAGE CXX)
-target_compile_features(lumenkit_core INTERFACE cxx_std_20)
-
-# Headers name each other from the top of the tree. A folder of their own keeps "frame/text.h" and
-# its like out of everybody's sight who did not ask for them.
+# Where the build leaves the core out, so does an installation that does not ask for it.
 set(header_folder "${CMAKE_INSTALL_INCLUDEDIR}/lumenkit")
 target_include_directories(lumenkit_core INTERFACE "$<INSTALL_INTERFACE:${header_folder}>")
 install(TARGETS lumenkit_core EXPORT lumenkit
-    ARCHIVE DESTINATION "${CMAKE_INSTALL_LIBDIR}" COMPONENT development)
-# Controls are made through the class table and used late-bound; their own headers stay at home.
-install(DIRECTORY frame forms DESTINATION "${header_folder}" COMPONENT development
-    FILES_MATCHING PATTERN "*.h")
-install(DIRECTORY runtime/memory DESTINATION "${header_folder}/runtime" COMPONENT development
-    FILES_MATCHING PATTERN "*.h")
-install(FILES project/lumenkit_classes.h DESTINATION "${header_folder}/project"
-    COMPONENT development)
+    ARCHIVE DESTINATION "${CMAKE_INSTALL_LIBDIR}" COMPONENT development ${where_needed})
+foreach(path IN LISTS public_folders)
+    cmake_path(GET path PARENT_PATH folder)
+    install(DIRECTORY ${path} DESTINATION "${header_folder}/${folder}"
+        COMPONENT development ${where_needed}
+        FILES_MATCHING PATTERN "*.h")
+endforeach()
+foreach(path IN LISTS public_headers)
+    cmake_path(GET path PARENT_PATH folder)
+    install(FILES ${path} DESTINATION "${header_folder}/${folder}"
+        COMPONENT development ${where_needed})
+endforeach()
 
 set(package_folder "${CMAKE_INSTALL_LIBDIR}/cmake/lumenkit")
-write_basic_package_version_file(lumenkitConfigVersion.cmake COMPATIBILITY SameMajorVersion)
+write_basic_package_version_file("${PROJECT_BINARY_DIR}/lumenkitConfigVersion.cmake"
+    COMPATIBILITY SameMajorVersion)
 install(EXPORT lumenkit NAMESPACE lumenkit:: FILE lumenkitConfig.cmake
-    DESTINATION "${package_folder}" COMPONENT development)
-install(FILES "${CMAKE_CURRENT_BINARY_DIR}/lumenkitConfigVersion.cmake"
-    DESTINATION "${package_folder}" COMPONENT development)
-# From the file itself to where the installation begins, wherever it is moved.
-file(RELATIVE_PATH up "${CMAKE_INSTALL_FULL_LIBDIR}/pkgconfig" "${CMAKE_INSTALL_PREFIX}")
-configure_file(cmake/lumenkit.pc.in lumenkit.pc @ONLY)
-install(FILES "${CMAKE_CURRENT_BINARY_DIR}/lumenkit.pc"
-    DESTINATION "${CMAKE_INSTALL_LIBDIR}/pkgconfig" COMPONENT development)
+    DESTINATION "${package_folder}" COMPONENT development ${where_needed})
+install(FILES "${PROJECT_BINARY_DIR}/lumenkitConfigVersion.cmake"
+    DESTINATION "${package_folder}" COMPONENT development ${where_needed})
+
+# What pkg-config tells holds wherever the installation is moved: the prefix is found from the file
+# itself. Folders that are given from the root stay where they are.
+cmake_path(IS_ABSOLUTE CMAKE_INSTALL_LIBDIR libraries_stay)
+if(libraries_stay)
+    set(pc_prefix "${CMAKE_INSTALL_PREFIX}")
+else()
+    cmake_path(RELATIVE_PATH CMAKE_INSTALL_PREFIX
+        BASE_DIRECTORY "${CMAKE_INSTALL_FULL_LIBDIR}/pkgconfig" OUTPUT_VARIABLE up)
+    set(pc_prefix "\${pcfiledir}/${up}")
+endif()
+cmake_path(APPEND pc_libdir "\${prefix}" "${CMAKE_INSTALL_LIBDIR}")
+cmake_path(APPEND pc_includedir "\${prefix}" "${CMAKE_INSTALL_INCLUDEDIR}" lumenkit)
+configure_file("${PROJECT_SOURCE_DIR}/cmake/lumenkit.pc.in" "${PROJECT_BINARY_DIR}/lumenkit.pc" @ONLY)
+install(FILES "${PROJECT_BINARY_DIR}/lumenkit.pc"
+    DESTINATION "${CMAKE_INSTALL_LIBDIR}/pkgconfig" COMPONENT development ${where_needed})
 
 if(TARGET lumenkit)
     install(TARGETS lumenkit RUNTIME COMPONENT lumenkit)

@@ -1,20 +1,37 @@
 # Settings that every target of the project shares, and the functions that make its libraries.
+# Others get none of them: variables end with this folder, and libraries use them privately.
 
-set(CMAKE_CXX_STANDARD 20)
-set(CMAKE_CXX_STANDARD_REQUIRED ON)
+if(NOT DEFINED CMAKE_CXX_STANDARD)
+    set(CMAKE_CXX_STANDARD 20)
+endif()
 set(CMAKE_CXX_EXTENSIONS OFF)
 set(CMAKE_CXX_VISIBILITY_PRESET hidden)
 set(CMAKE_VISIBILITY_INLINES_HIDDEN ON)
-set(CMAKE_POSITION_INDEPENDENT_CODE ON)
-set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
+if(NOT DEFINED CMAKE_POSITION_INDEPENDENT_CODE)
+    set(CMAKE_POSITION_INDEPENDENT_CODE ON)
+endif()
+if(PROJECT_IS_TOP_LEVEL)
+    set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
+endif()
 
 add_library(lumenkit_settings INTERFACE)
 target_include_directories(lumenkit_settings INTERFACE "${PROJECT_SOURCE_DIR}")
+target_compile_features(lumenkit_settings INTERFACE cxx_std_20)
+set(warnings -Wall -Wextra -Wpedantic -Wconversion -Wshadow)
+if(LUMENKIT_WERROR)
+    target_compile_options(lumenkit_settings INTERFACE ${warnings} -Werror)
+elseif(PROJECT_IS_TOP_LEVEL)
+    target_compile_options(lumenkit_settings INTERFACE ${warnings})
+else()
+    # A parent that makes warnings errors means its own sources.
+    target_compile_options(lumenkit_settings INTERFACE -Wno-error)
+endif()
 target_compile_options(lumenkit_settings INTERFACE
-    -Wall -Wextra -Wpedantic -Wconversion -Wshadow -Werror
     # g++ 12 sees overlaps in its own string's operator+ that are not there (its bug 105651), and
     # does not see that a local object takes its pointer back when it is destroyed (Window::Watch).
-    $<$<AND:$<CXX_COMPILER_ID:GNU>,$<VERSION_LESS:$<CXX_COMPILER_VERSION>,13>>:-Wno-restrict;-Wno-dangling-pointer>)
+    $<$<AND:$<CXX_COMPILER_ID:GNU>,$<VERSION_LESS:$<CXX_COMPILER_VERSION>,13>>:-Wno-restrict;-Wno-dangling-pointer>
+    # clang 17 and later report that the library's own stable_sort uses what the library deprecates.
+    $<$<AND:$<CXX_COMPILER_ID:Clang>,$<VERSION_GREATER_EQUAL:$<CXX_COMPILER_VERSION>,17>>:-Wno-deprecated-declarations>)
 if(WIN32)
     # The platform's headers: wide characters, no macros named as functions of C++, Windows 7.
     target_compile_definitions(lumenkit_settings INTERFACE UNICODE NOMINMAX _WIN32_WINNT=0x0601)
@@ -36,7 +53,7 @@ if(LUMENKIT_COVERAGE)
     target_link_options(lumenkit_settings INTERFACE --coverage)
 endif()
 
-include(SharedHeaders)
+include("${PROJECT_SOURCE_DIR}/cmake/SharedHeaders.cmake")
 
 # lumenkit_library(NAME SOURCES file... LINKS target...)
 # Adds a static library lumenkit_NAME with the alias lumenkit::NAME. Its headers are also compiled
@@ -45,7 +62,9 @@ function(lumenkit_library name)
     cmake_parse_arguments(ARG "" "" "SOURCES;LINKS" ${ARGN})
     add_library(lumenkit_${name} STATIC ${ARG_SOURCES})
     add_library(lumenkit::${name} ALIAS lumenkit_${name})
-    target_link_libraries(lumenkit_${name} PUBLIC lumenkit_settings ${ARG_LINKS})
+    target_include_directories(lumenkit_${name} PUBLIC "${PROJECT_SOURCE_DIR}")
+    target_compile_features(lumenkit_${name} PUBLIC cxx_std_20)
+    target_link_libraries(lumenkit_${name} PRIVATE lumenkit_settings PUBLIC ${ARG_LINKS})
     lumenkit_reuse_headers(lumenkit_${name})
     lumenkit_headers_compile_alone(lumenkit_${name} ${ARG_LINKS})
 endfunction()

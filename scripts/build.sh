@@ -1,8 +1,15 @@
 #!/usr/bin/env bash
-# Configures and builds one preset:  scripts/build.sh native [target...]
+# Configures and builds one preset:  scripts/build.sh PRESET [target...]
 set -euo pipefail
 cd "$(dirname "$0")/.."
 
+usage() {
+    sed -n '2s/^# //p' "$0"
+    cmake --list-presets
+    exit 2
+} >&2
+
+[ $# -gt 0 ] || usage
 preset=$1
 shift
 case $preset in
@@ -10,6 +17,7 @@ case $preset in
     native-asan) scripts/setup.sh build qt fuzz ;;
     coverage) scripts/setup.sh build coverage ;;
     mingw-*) scripts/setup.sh build windows ;;
+    *) usage ;;
 esac
 cmake --preset "$preset" >/dev/null
 # Quiet unless something goes wrong.

@@ -26,7 +26,7 @@ std::string Differ(const Parts&... parts) {
     return line.str();
 }
 
-std::string ToLine(const host::Placement& place) {
+std::string PlaceText(const host::Placement& place) {
     std::ostringstream line;
     PrintTo(place, &line);
     return line.str();
@@ -312,8 +312,8 @@ std::string OptionListTwins::ButtonDifference(std::size_t index, const LiteralBu
                       button.IsSelected(), " expected ", literal.visible, literal.selected);
     }
     if (button.Where() != literal.place) {
-        return Differ("button ", index, ": at ", ToLine(button.Where()), " expected ",
-                      ToLine(literal.place));
+        return Differ("button ", index, ": at ", PlaceText(button.Where()), " expected ",
+                      PlaceText(literal.place));
     }
     const bool shared = button.CurrentFont() == placed_->Button(0).CurrentFont();
     const bool literalShared = literal.font == literal_->Buttons()[0].font;

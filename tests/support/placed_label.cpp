@@ -9,7 +9,7 @@ namespace lumenkit::testing {
 
 namespace {
 
-const ClassTable classes = {.libraryName = u"lumenkit", .classes = {&vlabelClass, 1}};
+const ClassTable labelClasses = {.libraryName = u"lumenkit", .classes = {&vlabelClass, 1}};
 
 FontState StateOf(const memory::Font::Attributes& font) {
     return {.name = font.name,
@@ -42,7 +42,7 @@ PictureItem Copy(const memory::BoxItem& box) {
 }  // namespace
 
 PlacedLabel::PlacedLabel(const memory::Placing& placing)
-    : form_(classes), placed_(form_, vlabelClass, placing) {}
+    : form_(labelClasses), placed_(form_, vlabelClass, placing) {}
 
 void PlacedLabel::SetUp(const LabelScene& scene) {
     placed_.Hide();

@@ -6,12 +6,12 @@ namespace lumenkit::testing {
 
 namespace {
 
-const ClassTable classes = {.libraryName = u"lumenkit", .classes = {&vmemoClass, 1}};
+const ClassTable memoClasses = {.libraryName = u"lumenkit", .classes = {&vmemoClass, 1}};
 
 }  // namespace
 
 PlacedMemo::PlacedMemo(const memory::Placing& placing, Start)
-    : form_(classes), placed_(form_, vmemoClass, placing), user_(form_) {}
+    : form_(memoClasses), placed_(form_, vmemoClass, placing), user_(form_) {}
 
 PlacedMemo::PlacedMemo(const memory::Placing& placing) : PlacedMemo(placing, Start::Later) {
     placed_.StartNew();

@@ -10,7 +10,7 @@ namespace lumenkit::testing {
 
 namespace {
 
-const ClassTable classes = {.libraryName = u"lumenkit", .classes = {&voptlistClass, 1}};
+const ClassTable optionListClasses = {.libraryName = u"lumenkit", .classes = {&voptlistClass, 1}};
 
 memory::Placing InMode(PlacedOptionList::Mode mode, memory::Placing placing) {
     placing.userMode = mode == PlacedOptionList::Mode::Run;
@@ -41,7 +41,7 @@ std::string Describe(const memory::ShownMessage& shown) {
 }  // namespace
 
 PlacedOptionList::PlacedOptionList(Mode mode, const memory::Placing& placing)
-    : form_(classes), placed_(form_, voptlistClass, InMode(mode, placing)) {}
+    : form_(optionListClasses), placed_(form_, voptlistClass, InMode(mode, placing)) {}
 
 std::unique_ptr<PlacedOptionList> PlacedOptionList::New(Mode mode, const memory::Placing& placing) {
     auto list = std::make_unique<PlacedOptionList>(mode, placing);

@@ -47,10 +47,10 @@ Scale Scale::Of(const BlockReader& container, float width, float height) {
     if (mode == User) {
         scale.left_ = container.Number(u"ScaleLeft", 0);
         scale.top_ = container.Number(u"ScaleTop", 0);
-        const float across = container.Number(u"ScaleWidth", width);
-        const float down = container.Number(u"ScaleHeight", height);
-        if (across != 0 && down != 0 && width > 0 && height > 0) {
-            unit = {width / across, height / down};
+        const float unitsAcross = container.Number(u"ScaleWidth", width);
+        const float unitsDown = container.Number(u"ScaleHeight", height);
+        if (unitsAcross != 0 && unitsDown != 0 && width > 0 && height > 0) {
+            unit = {width / unitsAcross, height / unitsDown};
         }
     }
     scale.x_ = unit.x;

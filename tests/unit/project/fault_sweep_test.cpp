@@ -208,8 +208,8 @@ void AddControlEvents(Operations& operations) {
     for (const auto& [name, action] : {std::pair("mouse down", memory::MouseAction::Down),
                                        std::pair("mouse move", memory::MouseAction::Move),
                                        std::pair("mouse up", memory::MouseAction::Up)}) {
-        operations.push_back({name, [action = action](Stage& stage) {
-                                  memory::User::Mouse(stage.Control(), action, {.button = 1});
+        operations.push_back({name, [kind = action](Stage& stage) {
+                                  memory::User::Mouse(stage.Control(), kind, {.button = 1});
                               }});
     }
 }

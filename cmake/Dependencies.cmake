@@ -1,0 +1,32 @@
+# Finds what the chosen parts need from elsewhere. Whatever is missing is reported together, with
+# the option that builds without it.
+set(missing "")
+
+# lumenkit_needs(OPTION "Debian packages" package [as find_package goes on...])
+# A macro, because the folders below need what find_package sets.
+macro(lumenkit_needs option debian package)
+    find_package(${package} ${ARGN} QUIET)
+    if(NOT ${package}_FOUND)
+        string(APPEND missing
+            "  ${package}: install ${debian}, or configure with -D${option}=OFF\n")
+    endif()
+endmacro()
+
+if(LUMENKIT_APPS)
+    lumenkit_needs(LUMENKIT_APPS libcli11-dev CLI11)
+    lumenkit_needs(LUMENKIT_APPS nlohmann-json3-dev nlohmann_json)
+endif()
+if(LUMENKIT_QT)
+    lumenkit_needs(LUMENKIT_QT "qt6-base-dev (6.4 or newer)" Qt6 6.4 COMPONENTS Widgets)
+endif()
+if(LUMENKIT_TESTS AND NOT WIN32)
+    lumenkit_needs(LUMENKIT_TESTS "libgtest-dev and libgmock-dev" GTest)
+endif()
+if(LUMENKIT_BENCH AND NOT WIN32)
+    lumenkit_needs(LUMENKIT_BENCH libbenchmark-dev benchmark)
+    lumenkit_needs(LUMENKIT_BENCH pkg-config PkgConfig)
+endif()
+
+if(missing)
+    message(FATAL_ERROR "lumenkit needs packages that are not here (by their names on Debian):\n${missing}")
+endif()
