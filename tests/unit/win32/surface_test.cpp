@@ -160,7 +160,8 @@ TEST_F(SurfaceTest, KeepsWhatIsDrawnWhereItShall) {
     EXPECT_EQ(OnScreen()->Count(red), 0);
     Surface().FillBox(0, 0, Pixels(9), Pixels(9), Rgb(255, 0, 0));
     Surface().SetBackColor(Rgb(0, 0, 255));
-    EXPECT_EQ(OnScreen()->Count(blue), paintedSize.cx * paintedSize.cy) << "another background clears it";
+    EXPECT_EQ(OnScreen()->Count(blue), paintedSize.cx * paintedSize.cy)
+        << "another background clears it";
 }
 
 TEST_F(SurfaceTest, WhatIsDrawnBetweenPaintsIsSeenUntilTheNext) {
@@ -182,7 +183,8 @@ TEST_F(SurfaceTest, DrawsAtAnyScaleAndPlace) {
     picture.Fill(blue);
     control_.Hosted().Draw(picture.Device(), {50, 60, 250, 160});
     EXPECT_EQ(picture.Count(red, {60, 80, 70, 90}), 100);
-    EXPECT_EQ(picture.Count(blue), 300 * 300 - paintedSize.cx * paintedSize.cy) << "nothing beside its place";
+    EXPECT_EQ(picture.Count(blue), 300 * 300 - paintedSize.cx * paintedSize.cy)
+        << "nothing beside its place";
 }
 
 TEST_F(SurfaceTest, TextKeepsItsPlaceAtAnyScale) {
