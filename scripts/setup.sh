@@ -12,6 +12,7 @@ declare -A groups=(
     [format]="clang-format"
     [lint]="clang-tidy"
     [fuzz]="clang libclang-rt-14-dev"
+    [compilers]="clang-14 clang-15 clang-16 clang-19"
     [coverage]="gcovr"
     [analyse]="valgrind cppcheck"
     [windows]="g++-mingw-w64-x86-64-posix g++-mingw-w64-i686-posix mingw-w64-tools libwine-dev googletest"

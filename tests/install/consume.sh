@@ -99,7 +99,7 @@ contained() {
     # Its installation is that of a package: another folder for libraries, and below DESTDIR.
     configure_consumer add_subdirectory -DLUMENKIT_BY=add_subdirectory -DLUMENKIT_TREE="$top" \
         -DLUMENKIT_INSTALL=ON -DCMAKE_INSTALL_PREFIX=/opt/consumer -DCMAKE_INSTALL_LIBDIR=lib64 \
-        -DCMAKE_UNITY_BUILD="${CONSUME_UNITY:-ON}"
+        -DCMAKE_UNITY_BUILD="${CONSUME_UNITY:-ON}" -DCMAKE_UNITY_BUILD_BATCH_SIZE=0
     build_quietly add_subdirectory
     expect_texts "$work/add_subdirectory/label_texts"
     DESTDIR=$work/staged cmake --install "$work/add_subdirectory" >/dev/null

@@ -1,0 +1,44 @@
+#!/usr/bin/env bash
+# Compiles all native sources with the versions of clang that Debian has, as far as their warnings
+# go: nothing is optimised or linked.
+#   scripts/compilers.sh [clang++-N...]      these; else all of them
+# The tests and the fuzz targets are read by the oldest and the newest alone.
+set -euo pipefail
+cd "$(dirname "$0")/.."
+
+compilers=(clang++-14 clang++-15 clang++-16 clang++-19)
+
+# commands BUILD: how each source is compiled, one a line. What Qt generates is left out.
+commands() {
+    python3 - "$1/compile_commands.json" <<'PYTHON'
+import json
+import sys
+
+for entry in json.load(open(sys.argv[1], encoding="utf-8")):
+    if not entry["file"].endswith("mocs_compilation.cpp"):
+        print(entry["command"], "-fsyntax-only")
+PYTHON
+}
+
+# Several sources are one unit, as in the other builds, which is most of what makes this quick.
+read_with() {
+    local compiler=$1 build=build/compilers/$1 everything=OFF count
+    case $compiler in
+        "${compilers[0]}" | "${compilers[-1]}") everything=ON ;;
+    esac
+    rm -rf "$build"
+    cmake --preset native -B "$build" -DCMAKE_CXX_COMPILER="$compiler" -DCMAKE_DISABLE_PRECOMPILE_HEADERS=ON \
+        -DLUMENKIT_TESTS=$everything -DLUMENKIT_FUZZ=$everything -DLUMENKIT_BENCH=$everything >/dev/null
+    commands "$build" >"$build/commands"
+    count=$(wc -l <"$build/commands")
+    [ "$count" -gt 20 ]
+    (cd "$build" && xargs -a commands -d '\n' -P "$(nproc)" -n 1 sh -c)
+    echo "$compiler: $count units without a warning, in $SECONDS s"
+}
+
+scripts/setup.sh build qt bench compilers
+[ $# -gt 0 ] || set -- "${compilers[@]}"
+for compiler in "$@"; do
+    SECONDS=0
+    read_with "$compiler"
+done
