@@ -8,7 +8,7 @@ run: ## do the main job: open a form with the three controls in the designer
 test: ## what a change must pass: all tests, native and for Windows (x64)
 	@scripts/test.sh
 
-prove: ## what a release must pass besides: x86, sanitizers, fuzzing, lint, reproducibility, packages
+prove: ## what a release must pass as well: x86, sanitizers, fuzzing, lint, reproducibility, packages
 	@scripts/prove.sh
 
 bench: ## measure, and print each figure as a ratio to a peer or a bound
@@ -38,13 +38,13 @@ lint: ## clang-tidy over all sources
 format: ## reformat all sources
 	@scripts/format.sh
 
-golden: ## write the golden files anew, for review in the diff
+golden: ## regenerate the golden files; review the diff
 	@scripts/golden.sh
 
-published: ## write the interface definitions, manifest and reference pages anew, for review in the diff
+published: ## regenerate the interface definitions, manifest and reference pages; review the diff
 	@scripts/published.sh
 
-screenshots: ## draw the pictures of the documents anew, to be looked at
+screenshots: ## redraw the pictures of the documents; look at them
 	@scripts/screenshots.sh
 
 clean: ## remove everything that was built

@@ -1,9 +1,9 @@
-# What an installation consists of, by component:
+# The components of an installation:
 #   development  the core for programs in C++: one library, its headers, CMake and pkg-config files
 #   lumenkit     the command line
-#   lumenform    forms on Qt, with what a desktop wants to know
-#   server       the component server for Windows, one build's
-#   server_more  what goes with it whatever the build
+#   lumenform    the form designer, with its desktop entry, MIME type and icon
+#   server       the component server for Windows, from one build
+#   server_more  files for the server that do not depend on the build
 include(GNUInstallDirs)
 include(CMakePackageConfigHelpers)
 

@@ -1,9 +1,9 @@
-# The packages that cpack makes: for Debian one a component, for Windows an archive of both builds
-# (scripts/package.sh joins them).
+# The packages that cpack builds: one Debian package per component, or one archive for Windows with
+# the x64 and x86 builds, which scripts/package.sh combines.
 set(CPACK_PACKAGE_NAME lumenkit)
 set(CPACK_PACKAGE_VENDOR "the lumenkit authors")
 set(CPACK_PACKAGE_CONTACT "the lumenkit authors")
-# Each package has a summary of its own.
+# Each package sets its own summary below.
 set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "")
 set(CPACK_PACKAGE_CHECKSUM SHA256)
 set(CPACK_VERBATIM_VARIABLES ON)
@@ -43,8 +43,8 @@ endif()
 if(TARGET lumenform)
     debian_package(lumenform lumenform devel
         "designs, runs and draws form files with lumenkit's controls"
-        "A designer for forms (.frm and kin) that shows them with their controls at work and draws them into pictures.")
-    # Forms name fonts that these stand in for.
+        "A designer for form files (.frm, .ctl, .pag, .dob) that runs them with their controls and draws them into pictures.")
+    # Substitutes for the fonts that forms name, such as Arial.
     set(CPACK_DEBIAN_LUMENFORM_PACKAGE_RECOMMENDS fonts-liberation2)
 endif()
 debian_package(development liblumenkit-dev libdevel

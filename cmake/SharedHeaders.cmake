@@ -1,9 +1,10 @@
-# Headers that nearly every source includes, compiled once for all libraries; in the builds for
-# Windows the platform's alone, for what exists nowhere else, which so prove that the portable
-# sources include what they need.
+# Precompiled headers that all libraries share. The builds for Windows use them only for the Windows
+# runtimes. Their portable sources are compiled without precompiled headers, which proves that each
+# source includes the headers that it needs.
 option(LUMENKIT_PRECOMPILE "Compile common headers once for all libraries" OFF)
 
-# The fuzzers see which ways through the libraries an input takes.
+# lumenkit_watch(TARGET)
+# Instruments a library for the fuzzers, so that they see which code an input reaches.
 function(lumenkit_watch target)
     if(LUMENKIT_FUZZ)
         target_compile_options(${target} PRIVATE -fsanitize=fuzzer-no-link)
@@ -11,7 +12,7 @@ function(lumenkit_watch target)
 endfunction()
 
 # lumenkit_shared_headers(NAME LINKS target... HEADERS header...)
-# A target to reuse the compiled headers from.
+# Adds a target that compiles the headers, from which other targets reuse them.
 function(lumenkit_shared_headers name)
     cmake_parse_arguments(ARG "" "" "LINKS;HEADERS" ${ARGN})
     file(CONFIGURE OUTPUT ${name}.cpp CONTENT "")
@@ -22,7 +23,7 @@ function(lumenkit_shared_headers name)
 endfunction()
 
 if(LUMENKIT_PRECOMPILE)
-    # In compiled headers g++ 12 also tells what it believes to see inside its own library.
+    # With precompiled headers g++ 12 also reports false warnings about its own standard library.
     if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_LESS 13)
         target_compile_options(lumenkit_settings INTERFACE
             -Wno-array-bounds -Wno-stringop-overflow -Wno-stringop-overread)
@@ -46,7 +47,8 @@ if(LUMENKIT_PRECOMPILE)
     endif()
 endif()
 
-# For the libraries of the folder that is being read.
+# lumenkit_reuse_headers(TARGET)
+# Makes a library of the current source folder reuse the precompiled headers of that folder.
 function(lumenkit_reuse_headers target)
     lumenkit_watch(${target})
     if(NOT LUMENKIT_PRECOMPILE)

@@ -1,12 +1,12 @@
 # lumenkit_type_library(TARGET IDL file OUTPUT file [USES target...])
-# A target that compiles interface definitions. USES: the targets of the libraries that they import,
-# which must lie in the folder of OUTPUT. The result depends on the definitions alone, not on when
-# and where it was made.
+# Adds a target that compiles the interface definitions IDL into the type library OUTPUT. USES: the
+# targets of the type libraries that the definitions import; their files must be in the folder of
+# OUTPUT. The result depends only on the definitions, not on the time or folder of the build.
 find_program(LUMENKIT_WIDL ${CMAKE_SYSTEM_PROCESSOR}-w64-mingw32-widl REQUIRED)
-# What the standard library is compiled from, and that library.
+# The definitions of the standard types, and the type library compiled from them.
 find_path(LUMENKIT_IDL_FOLDER oaidl.idl PATHS /usr/include/wine/wine/windows
     REQUIRED NO_CMAKE_FIND_ROOT_PATH)
-# The latter serves all machines: only its identifiers are of interest.
+# The type library of any processor will do: only its identifiers are used.
 file(GLOB lumenkit_wine_folders /usr/lib/*/wine/*-windows)
 find_path(LUMENKIT_STDOLE_FOLDER stdole2.tlb PATHS ${lumenkit_wine_folders}
     REQUIRED NO_CMAKE_FIND_ROOT_PATH)
@@ -22,7 +22,7 @@ function(lumenkit_type_library target)
     endforeach()
     file(GLOB all_definitions CONFIGURE_DEPENDS "${definitions}/*.idl")
     add_custom_command(OUTPUT "${ARG_OUTPUT}"
-        # The compiler notes when it ran.
+        # The compiler writes the build time into the library, so it gets a fixed one.
         COMMAND ${CMAKE_COMMAND} -E env TZ=UTC WIDL_TIME_OVERRIDE=946684800
             "${LUMENKIT_WIDL}" -t $<IF:$<EQUAL:${CMAKE_SIZEOF_VOID_P},8>,-m64,-m32> "-I${LUMENKIT_IDL_FOLDER}"
             "-I${definitions}" "-L${LUMENKIT_STDOLE_FOLDER}" "-L${folder}"

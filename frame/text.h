@@ -1,7 +1,7 @@
 // Text as the controls use it: UTF-16 units, with positions counted from 1.
 //
 // Each function behaves as the platform's string function of the same name. A function that returns
-// a view returns a part of its argument; only those that return or append to a Text allocate
+// a view returns a part of its argument. Only functions that return or append to a Text allocate
 // memory.
 #pragma once
 

@@ -1,12 +1,12 @@
 #!/usr/bin/env bash
-# cppcheck over the core, and the core's tests under Valgrind. Nothing may be found but what
-# scripts/cppcheck.suppressions lists, with its reasons.
+# Runs cppcheck over the core and the tests of the core under Valgrind. Fails on any finding that
+# scripts/cppcheck.suppressions does not list.
 #   scripts/analyse.sh [cppcheck|valgrind]
 set -euo pipefail
 cd "$(dirname "$0")/.."
 
 folders=(frame vlabel vmemo voptlist vlabelcaption project runtime/memory runtime/stored forms apps/lumenkit)
-# A program cannot be killed at its system calls under Valgrind.
+# killed_save_test is missing: a program cannot be killed at its system calls under Valgrind.
 tests=(frame_test memory_test vlabel_test vlabel_control_test vmemo_test voptlist_test
     vlabelcaption_test project_test fault_sweep_test stored_test forms_test
     forms_out_of_memory_test contract_memory_test golden_drawing_test caption_model_test
@@ -19,8 +19,8 @@ run_cppcheck() {
         -j "$(nproc)" "${folders[@]}"
 }
 
-# Several tests have an operator new of their own, which Valgrind must not replace. Generated tests
-# do one in a hundred of their rounds.
+# Several tests define their own operator new, which Valgrind must not replace. Tests with generated
+# input run one in a hundred of their rounds.
 run_valgrind() {
     local test program
     scripts/build.sh native "${tests[@]}"

@@ -1,8 +1,8 @@
 #!/usr/bin/env bash
-# Prints the table of ratios, first of programs for Linux, then of programs for Windows under Wine;
-# see docs/performance.md for what each row means.
+# Prints the table of ratios: the programs for Linux, then the programs for Windows under Wine.
+# docs/performance.md explains the rows.
 #   scripts/bench.sh [--benchmark_filter=expression]
-# Fails where a program fails: the two sides of a row did not do the same, or took far too long.
+# Fails if a program fails: the two sides of a row had different results, or took far too long.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 
@@ -22,4 +22,4 @@ trap 'scripts/wine.sh --end' EXIT
     for bench in build/mingw-x64/bench/*_bench.exe; do
         scripts/wine.sh "$bench" "$@"
     done
-} | awk '{ sub(/\r$/, "") } !/^\| (what|---)/ || !seen[$0]++'  # one heading for all
+} | awk '{ sub(/\r$/, "") } !/^\| (what|---)/ || !seen[$0]++'  # one heading for all programs

@@ -13,7 +13,7 @@ usage() {
 preset=$1
 shift
 case $preset in
-    native) scripts/setup.sh build qt ;;
+    native | dev) scripts/setup.sh build qt ;;
     native-asan) scripts/setup.sh build qt fuzz ;;
     coverage) scripts/setup.sh build coverage ;;
     mingw-*) scripts/setup.sh build windows ;;

@@ -1,9 +1,9 @@
 #!/usr/bin/env python3
-"""Checks what the Markdown documents point at.
+"""Checks the links, make targets and file names in the Markdown documents.
 
-Links and images that lead into the tree must find their file, and its heading where they name one;
-what stands in code must exist too, of shells and in the text: the targets of "make", and files
-named by their path from the top of the tree. --self-test proves that the check can fail.
+The target of a relative link or image must be a file of the tree, and its anchor a heading of that
+file. In code spans and shell code, the targets of "make" and the files named by their path from the
+top of the tree must exist. --self-test proves that the check can fail.
 """
 import re
 import subprocess
@@ -27,7 +27,7 @@ PATH = re.compile(r"(?<![\w./~$-])[\w.-]+(?:/[\w.*-]+)+/?")
 
 
 def code_and_prose(text):
-    """The document's pieces of code without samples of output and the like, and its prose."""
+    """Returns the shell code and code spans of a document, and its text without code."""
     code = [match[0].rsplit("\n", 1)[0] for match in FENCE.finditer(text)]
     code = [piece.split("\n", 1)[1] for piece in code if piece.startswith("```sh\n")]
     text = FENCE.sub("", text)
@@ -36,7 +36,7 @@ def code_and_prose(text):
 
 
 def anchors(text):
-    """What the headings of a document can be linked by, as the forges derive it."""
+    """Returns the anchors that Git hosting sites derive from the headings of a document."""
     found = set()
     for heading in HEADING.findall(FENCE.sub("", text)):
         heading = re.sub(r"\[([^\]]*)\]\([^)]*\)", r"\1", heading)
@@ -50,7 +50,7 @@ def anchors(text):
 
 
 def link_fault(root, document, link):
-    """What is wrong with one link, or None."""
+    """Returns the fault of a link, or None."""
     if OUTSIDE.match(link):
         return None
     path, _, anchor = link.partition("#")
@@ -72,7 +72,7 @@ def make_faults(targets, code):
 
 
 def path_faults(root, folders, code):
-    """Only paths that begin with a folder of the tree; the rest are somebody else's."""
+    """Checks the paths that begin with a folder of the tree; other paths are outside it."""
     for path in PATH.findall(code):
         path = path.rstrip(".")
         if path.split("/")[0] in folders and not any(root.glob(path.rstrip("/"))):

@@ -1,10 +1,10 @@
 #!/usr/bin/env python3
-"""Holds the include rule: includes run inwards only.
+"""Checks the include rule: a folder includes only the folders that it may depend on.
 
-Each folder may include the folders listed for it and the standard library; other libraries and
-the Windows headers only where the table allows them. A source file includes the header of its own
-name first, and so shows that it compiles alone; a header guards itself. --self-test proves that
-the check can fail.
+A folder may include its own headers, the folders that the table lists for it and the standard
+library. Other libraries and the Windows headers are allowed only in the folders listed for them. A
+source file includes the header of the same name first, which shows that the header compiles alone.
+A header contains #pragma once. --self-test proves that the check can fail.
 """
 import re
 import subprocess
@@ -12,7 +12,7 @@ import sys
 import tempfile
 from pathlib import Path
 
-# Folder -> project folders whose headers it may include, besides its own.
+# Folder -> other project folders whose headers it may include. None: all folders.
 ALLOWED = {
     "frame": [],
     "vlabel": ["frame"],
@@ -25,11 +25,11 @@ ALLOWED = {
     "runtime/qt": ["frame"],
     "runtime/stored": ["frame"],
     "runtime/ole": ["frame", "runtime/stored", "runtime/win32"],
-    # The one place that knows all classes.
+    # The only folder that lists all classes.
     "project": ["frame", "vlabel", "vmemo", "voptlist", "vlabelcaption"],
-    # Exports only: hands the class table to the runtime.
+    # The exports of the server, which pass the class table to the runtime.
     "server": ["project", "runtime/ole"],
-    # Join things, as their purpose asks.
+    # Programs and tests, which combine the libraries.
     "apps": None,
     "tests": None,
     "bench": None,
@@ -38,11 +38,11 @@ ALLOWED = {
 }
 # Folders that may use the headers of a platform or of another library.
 OTHER_LIBRARIES = ["runtime/win32", "runtime/qt", "runtime/ole", "server", "apps", "tests", "bench", "fuzz", "samples"]
-# Single files elsewhere that call the system or the processor, and the headers they may use for it.
+# Files in other folders that call the system or use processor instructions, with their headers.
 SYSTEM_HEADERS = {
-    # Nothing in the standard library makes sure that a file is on the disk.
+    # The standard library cannot flush a file to the disk.
     "forms/flush.cpp": {"fcntl.h", "io.h", "unistd.h"},
-    # No compiler gathers comparisons in a bit mask by itself.
+    # Compilers do not gather comparisons in a bit mask by themselves.
     "vlabel/bar_scanner.cpp": {"emmintrin.h"},
     "vmemo/line_break_scanner.cpp": {"emmintrin.h"},
 }
@@ -54,7 +54,7 @@ SOURCE_SUFFIXES = {".h", ".cpp", ".inc", ".rc"}
 
 
 def folder_of(path):
-    """The longest folder of the table that `path` lies in."""
+    """Returns the deepest folder of the table that contains `path`, or None."""
     fitting = [folder for folder in ALLOWED if path.startswith(folder + "/")]
     return max(fitting, key=len, default=None)
 
@@ -64,7 +64,7 @@ def standard_header(name):
 
 
 def fault(path, quoted, name):
-    """What is wrong with one include, or None."""
+    """Returns the fault of an include, or None."""
     home = folder_of(path)
     if home is None:
         return "the folder is not in the table of scripts/check_includes.py"
@@ -86,7 +86,7 @@ def fault(path, quoted, name):
 
 
 def shape_fault(root, path, text):
-    """What is wrong with a file as a whole, or None."""
+    """Returns the fault of a file as a whole, or None."""
     if path.endswith(".h"):
         return None if "#pragma once" in text else "does not guard itself"
     header = path.removesuffix(".cpp") + ".h"

@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# Tries packages as they are, unpacked in a folder of their own:
+# Unpacks packages in a temporary folder and runs their programs:
 #   scripts/check_packages.sh debian FILE.deb...
 #   scripts/check_packages.sh windows FILE.zip
 set -euo pipefail
@@ -28,11 +28,15 @@ check_debian() {
     [ -z "$(dpkg-deb -f "$(printf '%s\n' "$@" | grep /lumenkit_)" Depends | grep -i qt)" ] ||
         fail "the command line depends on Qt"
     desktop-file-validate "$share/applications/lumenform.desktop"
-    # A form is known by its extension, and by its content where that says nothing.
+    # Files that end in .frm have the MIME type of forms.
     update-mime-database "$share/mime" 2>"$work/mime.log" || fail "$(cat "$work/mime.log")"
     grep -qF 'application/x-lumenkit-form:*.frm' "$share/mime/globs" || fail ".frm has no type"
     xmllint --noout "$share/icons/hicolor/scalable/apps/lumenform.svg"
     echo "Debian packages: unpacked and run"
+}
+
+wine_bits() { # x64 or x86
+    [ "$1" = x86 ] && echo 32 || echo 64
 }
 
 check_windows() {
@@ -44,15 +48,19 @@ check_windows() {
             [ -s "$files/$bits/$file" ] || fail "$bits/$file is not there"
         done
         cmp "$files/$bits/lumenkit.ocx" "build/mingw-$bits/lumenkit.ocx"
+        # The program finds the controls beside it: nothing is registered in this prefix.
+        LUMENKIT_WINE_BITS=$(wine_bits "$bits") scripts/wine.sh --screen \
+            scripts/shoot.sh "$work/$bits.png" wine "$files/$bits/atl_host_free.exe"
+        [ -s "$work/$bits.png" ] || fail "$bits/atl_host_free.exe shows nothing"
     done
     [ -s "$files/README.md" ] && [ -s "$files/LICENSE" ] || fail "there is no README or LICENSE"
-    # The program finds the controls beside it: nothing is registered in this prefix.
-    scripts/wine.sh --screen scripts/shoot.sh "$work/free.png" wine "$files/x64/atl_host_free.exe"
-    [ -s "$work/free.png" ] || fail "atl_host_free.exe shows nothing"
     [ -s "$files/include/lumenkit.h" ] || fail "there is no header"
-    # Registered, it serves the scripts of the archive.
+    # Registers the server and runs the scripts of the archive.
     cp samples/scripts/check.sh samples/scripts/expected.txt "$files/samples/scripts/"
-    scripts/wine.sh --screen "$files/samples/scripts/check.sh" "$files/x64/lumenkit.ocx"
+    for bits in x64 x86; do
+        LUMENKIT_WINE_BITS=$(wine_bits "$bits") scripts/wine.sh --screen \
+            "$files/samples/scripts/check.sh" "$files/$bits/lumenkit.ocx"
+    done
     echo "Windows archive: unpacked and run under Wine"
 }
 

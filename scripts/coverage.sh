@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# Runs the tests of the core with counters, and prints which part of each folder's lines and branches
-# they reach. build/coverage/unreached.txt lists what they do not.
+# Runs the tests of the core with coverage counters. Prints the share of lines and branches that
+# they reach in each folder and writes the unreached ones into build/coverage/unreached.txt.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 

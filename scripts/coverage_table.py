@@ -1,10 +1,10 @@
 #!/usr/bin/env python3
-"""Tells from gcovr's records which part of each folder's lines and branches tests reach.
+"""Prints from the records of gcovr the share of lines and branches that tests reach in each folder.
 
     scripts/coverage_table.py RECORDS.json UNREACHED.txt FOLDER...
 
-Prints a line for each folder and writes the lines that nothing reaches, and those where a branch is
-never taken, into UNREACHED.txt.
+Prints one line per folder. Writes the lines that no test reaches, and the lines with a branch that
+is never taken, into UNREACHED.txt.
 """
 import json
 import sys
@@ -18,7 +18,7 @@ def branches_of(line):
 
 
 class Reach:
-    """How many of the lines and branches of some files are reached."""
+    """The number of lines and branches in some files, and how many of them are reached."""
 
     def __init__(self, files):
         lines = [line for file in files for line in file["lines"] if not line["gcovr/noncode"]]

@@ -1,11 +1,12 @@
 #!/usr/bin/env python3
-"""Draws the pictures of a document about captions from the examples beside them.
+"""Draws the pictures of a document about captions from the examples in the document.
 
     draw_captions.py LUMENFORM DOCUMENT
 
-An example is a block of code that assigns properties of "label", with the picture's <img> below it,
-or a row of a table whose first code is the caption. Each becomes a form, which LUMENFORM renders at
-twice the size; the pictures are cropped to what was drawn, and the <img> are told their width.
+An example is a code block that assigns properties of "label", followed by the <img> of its picture,
+or a table row with the caption as code in its first cell and the <img> in the second. LUMENFORM
+renders a form with the label at twice the size. The script crops the picture to the drawing and
+sets the width of the <img>.
 """
 import re
 import subprocess
@@ -14,8 +15,8 @@ import tempfile
 from pathlib import Path
 
 SCALE = 2
-MARGIN = 8  # pixels around what was drawn
-WIDTH, HEIGHT = 9000, 3600  # twips: room enough for each label
+MARGIN = 8  # pixels around the drawing
+WIDTH, HEIGHT = 9000, 3600  # twips; the form has room for every label
 
 IMAGE = r'<img src="(?P<file>images/[\w-]+\.png)"(?: width="\d+")?'
 BLOCK = re.compile(r"```vb\n(?P<code>(?:label\.\w+ = .*\n)+)```\n" + IMAGE)
@@ -55,7 +56,7 @@ BOOLEANS = {"True": "-1", "False": "0"}
 
 
 def examples(document):
-    """File and properties, as a form keeps them, of each picture."""
+    """Yields the file of each picture and the properties of its label, as saved in a form."""
     for match in BLOCK.finditer(document):
         yield match["file"], dict(ASSIGNMENT.findall(match["code"]))
     for match in ROW.finditer(document):
@@ -76,7 +77,7 @@ def draw(lumenform, properties, picture):
         source = Path(folder) / "caption.frm"
         source.write_text(form(properties), encoding="utf-8")
         subprocess.run([lumenform, "render", source, "-o", picture, "--scale", str(SCALE)], check=True)
-    # Nothing in the file but the picture, so that the same picture is the same file.
+    # No metadata, so that equal pictures are equal files.
     subprocess.run(["convert", picture, "-trim", "+repage", "-bordercolor", "white",
                     "-border", str(MARGIN), "-strip", "-define", "png:exclude-chunks=date,time",
                     picture], check=True)

@@ -1,14 +1,14 @@
 #!/usr/bin/env python3
 """Draws the toolbox bitmaps of the component server (server/toolbox, 16 x 15 pixels, 16 colours).
 
-Designers show the colour of the lowest left pixel as transparent. --check only says whether the
-kept files are these.
+Designers show the colour of the bottom left pixel as transparent. --check writes nothing and fails
+if a stored file differs.
 """
 import struct
 import sys
 from pathlib import Path
 
-# The platform's 16 colours, by the letters that stand for some of them here.
+# The 16 standard colours of Windows, and the letters of the colours used below.
 PALETTE = [
     (0, 0, 0), (128, 0, 0), (0, 128, 0), (128, 128, 0), (0, 0, 128), (128, 0, 128), (0, 128, 128),
     (192, 192, 192), (128, 128, 128), (255, 0, 0), (0, 255, 0), (255, 255, 0), (0, 0, 255),

@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# Reformats all sources, or with --check only says which are not formatted.
+# Reformats all sources. With --check, lists the sources that are not formatted and fails if any.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 

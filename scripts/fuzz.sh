@@ -1,7 +1,8 @@
 #!/usr/bin/env bash
-# Fuzzes each target, or those named, for FUZZ_SECONDS seconds (default 600), one after another and
-# starting from its kept corpus. New inputs stay in build/fuzz/corpus; a finding stops the run and
-# is left in build/fuzz. An input that takes more than 10 seconds is one too.
+# Fuzzes all targets, or the named ones, for FUZZ_SECONDS seconds each (default 600), one after
+# another. Each target starts from its corpus in fuzz/corpus and adds new inputs to
+# build/fuzz/corpus. A finding stops the script and is written to build/fuzz. An input that takes
+# more than 10 seconds is also a finding.
 #   scripts/fuzz.sh [--short] [target...]
 # --short: 30 seconds each, two at a time.
 set -euo pipefail
@@ -23,7 +24,7 @@ fi
 
 scripts/build.sh native-asan "${targets[@]/%/_fuzz}"
 
-# fuzz NAME: the run's whole output is in build/fuzz/NAME.log.
+# fuzz NAME: runs one target. Its output is in build/fuzz/NAME.log.
 fuzz() {
     local name=$1 log=build/fuzz/$1.log dictionary=()
     mkdir -p "build/fuzz/corpus/$name"

@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
-"""Writes frame/letter_case_table.inc: the simple lower-case mapping of every UTF-16 unit.
+"""Generates frame/letter_case_table.inc: the simple lower-case mapping of every UTF-16 unit.
 
-Needs Debian's unicode-data package. Run it only to move to a newer Unicode version:
+Requires the Debian package unicode-data. Run it only to change to a newer Unicode version:
     scripts/generate_case_table.py > frame/letter_case_table.inc
 """
 import sys
@@ -17,7 +17,7 @@ def lower_deltas():
             fields = line.split(";")
             unit, lower = int(fields[0], 16), fields[13]
             if unit < 0x10000 and lower:
-                # Added modulo 65536: every lower-case form lies in the same plane.
+                # A difference modulo 65536: every lower-case form is in the same plane.
                 deltas[unit] = (int(lower, 16) - unit) & 0xFFFF
     return deltas
 

@@ -1,8 +1,9 @@
 #!/usr/bin/env python3
-"""Writes forms/code_page_tables.inc: the upper halves of the Windows code pages 1250 to 1258.
+"""Generates forms/code_page_tables.inc: the upper halves of the Windows code pages 1250 to 1258.
 
-A byte that a page does not define becomes what Windows makes of it: the control unit of the same
-number below 0xA0, a private-use unit above. So every byte has a unit of its own.
+A byte that a code page does not define is mapped as on Windows: below 0xA0 to the control character
+of the same number, above to a private-use character (0xCA of code page 1255: U+05BA). The bytes of
+a page therefore map to different units.
 """
 import pathlib
 

@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# Writes all golden files anew: drawings of captions, and the listing of the type libraries. Review
-# the diff before you keep it.
+# Regenerates all golden files: the drawings of captions and the listing of the type libraries.
+# Review the diff before you commit it.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 

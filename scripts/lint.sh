@@ -28,7 +28,7 @@ configure_windows() {
 # make_headers BUILD: the headers that are generated or that clang precompiles, and nothing else.
 make_headers() {
     ninja -C "$1" -t targets all |
-        sed -nE 's/^([^:]*(\.h|cmake_pch\.hxx\.pch|_autogen)): .*/\1/p' |
+        sed -nE 's/^([^/:][^:]*(\.h|cmake_pch\.hxx\.pch|_autogen)): .*/\1/p' |
         xargs -r ninja -C "$1" >"$1/build.log" 2>&1 || {
         cat "$1/build.log"
         exit 1
@@ -64,7 +64,9 @@ else
 fi | sort -u >"$lists/all"
 sources_in linux | comm -12 - "$lists/all" >"$lists/linux"
 sources_in windows | comm -12 - "$lists/all" | comm -23 - "$lists/linux" >"$lists/windows"
-sort "$lists/linux" "$lists/windows" | comm -13 - "$lists/all" >"$lists/none"
+# Programs that use the installed library; tests/install builds them.
+git ls-files 'samples/library/*.cpp' 'tests/install/*.cpp' | comm -12 - "$lists/all" >"$lists/users"
+sort "$lists/linux" "$lists/windows" "$lists/users" | comm -13 - "$lists/all" >"$lists/none"
 if [ -s "$lists/none" ]; then
     echo "compiled by no build, so not checked:" >&2
     cat "$lists/none" >&2
@@ -74,6 +76,7 @@ fi
 compiler=x86_64-w64-mingw32-g++-posix
 library=$(dirname "$("$compiler" -print-libgcc-file-name)")/include/c++
 status=0
+xargs -r -I{} clang-tidy --quiet --warnings-as-errors='*' {} -- -std=c++20 -I. <"$lists/users" || status=1
 check linux <"$lists/linux" || status=1
 check windows --extra-arg=--target=x86_64-w64-mingw32 --extra-arg=-Wno-unused-command-line-argument \
     --extra-arg=-nostdinc++ "--extra-arg=-isystem$library" \

@@ -1,13 +1,14 @@
 #!/usr/bin/env python3
-"""Changes the named source files in one place at a time and looks whether their tests notice.
+"""Changes source files in one place at a time and checks whether their tests fail.
 
     scripts/mutate.py [--seconds N] [--jobs N] [--built] [FILE[:FIRST-LAST]...]
 
-Without files: the compiler of captions, their wrapping, and the memo's restrictions. Each mutant is
-compiled by itself and linked with the tests that TESTS names for its folder, in build/native; the
-sources stay as they are. Lists the mutants that every test passes with; the status is 1 if there are
-any. A mutant that runs for more than N seconds (default 20) counts as noticed, one that does not
-compile as none. --built: the tests are as the sources are and need no build.
+Without files, it changes the caption compiler, word wrapping and the restriction engine of the
+memo. Each mutant is compiled in a temporary folder and linked with the tests that TESTS lists for
+its folder, with the settings of build/dev; the source files do not change. Prints the mutants with
+which all tests pass. The exit status is 1 if there are any. A mutant whose test runs for more than
+N seconds of processor time (default 20) counts as noticed. A mutant that does not compile is
+counted separately. --built: the tests in build/dev are up to date and are not built.
 """
 import argparse
 import concurrent.futures
@@ -20,8 +21,8 @@ import tempfile
 from pathlib import Path
 
 ROOT = Path(__file__).resolve().parent.parent
-BUILD = ROOT / "build" / "native"
-# The small tests that a change in a folder should break, the quickest first.
+BUILD = ROOT / "build" / "dev"
+# The small tests that a change in a folder should break, the fastest first.
 TESTS = {
     "vlabel": ["vlabel_test", "caption_model_test", "caption_drawing_model_test"],
     "vmemo": ["vmemo_test", "memo_model_test"],
@@ -33,9 +34,9 @@ DEFAULT_FILES = [
     "vlabel/color_parameter.cpp", "vlabel/command_word.cpp", "vlabel/word_wrap.cpp",
     "vmemo/line_break_scanner.cpp", "vmemo/restriction_engine.cpp",
 ]
-MEMORY_LIMIT = 6 << 30  # a test of the engine maps more than 4
+MEMORY_LIMIT = 6 << 30  # bytes; a test of the restriction engine maps more than 4 GiB
 
-# Operators stand between blanks, which tells them from templates, pointers and references.
+# A binary operator has blanks on both sides, unlike templates, pointers and references.
 REPLACEMENTS = [
     (re.compile(re.escape(f" {old} ")), f" {new} ")
     for old, new in [
@@ -65,7 +66,7 @@ class Mutant:
 
 
 def changes(line):
-    """The line with one change each. Comments, texts and characters stay as they are."""
+    """Yields copies of the line with one change each, outside comments and literals."""
     visible = HIDDEN.sub(lambda match: "\0" * len(match[0]), line)
     if visible.lstrip().startswith("#"):
         return
@@ -104,7 +105,7 @@ def run(command, seconds, **options):
 
 
 def compile_command(file, source, result):
-    """How the build compiles `file`, without optimising and without a cache."""
+    """Returns the compile command of `file`, without optimisation and compiler cache."""
     database = json.loads((BUILD / "compile_commands.json").read_text(encoding="utf-8"))
     words = next(each["command"] for each in database if each["file"] == str(ROOT / file)).split()
     if words[0].endswith("ccache"):
@@ -116,7 +117,10 @@ def compile_command(file, source, result):
 
 
 def link_command(test, mutant, result):
-    """How the build links `test`, with the mutant before the libraries, whose own is not taken then."""
+    """Returns the link command of `test`, with the mutant before the libraries.
+
+    The linker then does not take the original from its library.
+    """
     commands = subprocess.run(["ninja", "-C", BUILD, "-t", "commands", test], check=True,
                               capture_output=True, text=True).stdout.splitlines()
     linking = commands[-1].removeprefix(": && ").split(" && ")[0].split()
@@ -157,7 +161,7 @@ def main():
     mutants = [mutant for file in arguments.files for mutant in mutants_of(file)]
     tests = {test for file in arguments.files for test in tests_for(file)}
     if not arguments.built:
-        subprocess.run([ROOT / "scripts" / "build.sh", "native", *sorted(tests)], check=True)
+        subprocess.run([ROOT / "scripts" / "build.sh", "dev", *sorted(tests)], check=True)
     for file in arguments.files:
         file = file.partition(":")[0]
         first = (ROOT / file).read_text(encoding="utf-8").splitlines()[0]

@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# Cross-compiles the component server for Windows, 64 and 32 bits.
+# Cross-compiles the component server for Windows x64 and x86.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 

@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# Runs a program on a screen in memory, with a window manager, so that windows become active:
+# Runs a program on a virtual X display with a window manager, so that windows become active:
 #   scripts/on_screen.sh PROGRAM [ARGUMENT...]
 set -euo pipefail
 

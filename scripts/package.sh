@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# Makes the packages in build/package and tries them:
-#   scripts/package.sh [debian|windows]      one kind; else both
+# Builds the packages in build/package and checks them:
+#   scripts/package.sh [debian|windows]      one kind; both by default
 set -euo pipefail
 cd "$(dirname "$0")/.."
 

@@ -15,8 +15,8 @@ names() {
 }
 
 step "Packages (downloads)"
-scripts/setup.sh build qt format screen windows wine bench fuzz lint compilers analyse package
-scripts/wine-root.sh
+scripts/setup.sh build qt format screen windows wine wine32 bench fuzz lint compilers analyse package
+scripts/wine-root.sh --make >/dev/null
 
 step "Build for Windows (x64, x86)"
 scripts/build.sh mingw-x64

@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# Writes what is made from the interface tables anew. Review the diff before you keep it.
+# Regenerates the files made from the interface tables. Review the diff before you commit it.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 

@@ -1,14 +1,14 @@
 #!/usr/bin/env bash
-# Whether the component server comes out the same, byte for byte, when it is built again.
-#   scripts/reproducible.sh              what is made at the end: resources, type libraries, linking
-#   scripts/reproducible.sh --elsewhere  all of it, from a copy of the committed sources in another
-#                                        folder (x64 only; takes as long as a whole build)
+# Checks that a second build of the component server produces the same bytes.
+#   scripts/reproducible.sh              repeats resources, type libraries and linking
+#   scripts/reproducible.sh --elsewhere  builds the committed sources in another folder (x64 only;
+#                                        takes as long as a full build)
 set -euo pipefail
 cd "$(dirname "$0")/.."
 
 files=(lumenkit.ocx lumenkit.tlb lumenkit_runtime.tlb lumenkit.manifest)
 
-# compare FOLDER FOLDER
+# compare FOLDER FOLDER: fails if the files in the folders differ.
 compare() {
     local file
     for file in "${files[@]}"; do

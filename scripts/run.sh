@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
-# Opens a form with the three controls in lumenform's designer: on the display that there is, else
-# into pictures in build/run, of the form as its users see it and of the designer with the caption
-# page open. The form is a copy, to be tried things out on.
+# Opens a form with the three controls in the designer of lumenform. Without a display, draws two
+# pictures in build/run: the form as its users see it, and the designer with the caption page open.
+# The form is a copy and may be edited.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 

@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# Draws the pictures of the documents anew. Look at those that the diff names before you keep them.
+# Redraws the pictures of the documents. Look at the changed pictures before you commit them.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 
@@ -11,7 +11,7 @@ for form in docs/images/*.frm; do
     "$lumenform" render "$form" -o "${form%.frm}.png" --scale 2
 done
 
-# Light, dark and at 200 %.
+# draw_looks NAME [option...]: draws the form with a light palette, a dark palette and at 200 %.
 draw_looks() {
     local name=$1
     shift
@@ -25,7 +25,7 @@ draw_looks caption --design --page
 "$lumenform" render -o docs/images/lumenform-start.png --design
 
 scripts/run-ocx.sh --picture >/dev/null
-# Without the time at which it was taken, so that the same picture is the same file.
+# No date and time in the file, so that equal pictures are equal files.
 convert build/run/ocx.png -strip -define png:exclude-chunks=date,time docs/images/lumenkit-ocx.png
 
 git --no-pager diff --stat -- docs

@@ -3,6 +3,9 @@
 #   scripts/setup.sh build bench
 set -euo pipefail
 
+# Wine runs programs of the machine's own bitness; the others': scripts/wine-root.sh.
+wine=wine64
+[ "$(dpkg --print-architecture)" != i386 ] || wine=wine32
 declare -A groups=(
     [build]="g++ cmake ninja-build make pkg-config python3 libgtest-dev libgmock-dev libcli11-dev nlohmann-json3-dev"
     [bench]="libbenchmark-dev libpango1.0-dev"
@@ -13,21 +16,22 @@ declare -A groups=(
     [coverage]="gcovr"
     [analyse]="valgrind cppcheck"
     [windows]="g++-mingw-w64-x86-64-posix g++-mingw-w64-i686-posix mingw-w64-tools libwine-dev googletest"
-    [wine]="wine wine64 fonts-wine fonts-liberation2"
+    [wine]="wine $wine fonts-wine fonts-liberation2"
+    [wine32]="bubblewrap"
     [qt]="qt6-base-dev qt6-qpa-plugins fonts-liberation2 fonts-dejavu-core"
     [package]="dpkg-dev desktop-file-utils shared-mime-info libxml2-utils unzip"
     [screen]="xvfb xauth xdotool imagemagick openbox"
 )
 
-installed() {
-    dpkg-query -W -f='${Status}' "$1" 2>/dev/null | grep -q '^install ok installed$'
-}
-
-missing=()
+packages=()
 for group in "$@"; do
-    for package in ${groups[$group]:?"no such group: $group"}; do
-        installed "$package" || missing+=("$package")
-    done
+    packages+=(${groups[$group]:?"no such group: $group"})
+done
+installed=$(dpkg-query -W -f='${Status} ${Package}\n' "${packages[@]}" 2>/dev/null |
+    sed -n 's/^install ok installed //p') || true
+missing=()
+for package in "${packages[@]}"; do
+    grep -Fqx "$package" <<<"$installed" || missing+=("$package")
 done
 [ ${#missing[@]} -eq 0 ] && exit 0
 

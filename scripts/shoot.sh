@@ -1,11 +1,13 @@
 #!/usr/bin/env bash
-# Runs a program that prints "ready" once it can be seen, takes a picture of the screen and ends it:
+# Runs a program that prints "ready" when its window is visible, takes a picture of the screen and
+# ends the program:
 #   scripts/shoot.sh picture.png program [argument...]
-# Edges of one colour are cut off.
+# Cuts off edges of a single colour.
 set -euo pipefail
 
 picture=$1
 shift
+mkdir -p "$(dirname "$picture")"
 rm -f "$picture"
 coproc "$@"
 program=$COPROC_PID
@@ -19,7 +21,7 @@ if [ "${line:-}" != ready ]; then
     kill "$program" 2>/dev/null || true
     exit 1
 fi
-sleep 0.5  # until the screen has what was drawn
+sleep 0.5  # until the screen shows the drawing
 import -window root "$picture"
 convert "$picture" -trim +repage "$picture"
 kill "$program" 2>/dev/null || true

@@ -4,6 +4,8 @@
 #   scripts/wine.sh --screen [command...]                on a screen of its own (Xvfb)
 #   scripts/wine.sh --prefix                             prints the prefix, made if need be
 #   scripts/wine.sh --end                                ends what Wine left running
+# A file that is a program runs in Wine of its own bitness. LUMENKIT_WINE_BITS=32 asks for 32 bits
+# where no file tells: for programs of Wine, Linux commands and the prefix (default 64).
 # The Wine prefixes are made at first use, in build/. LUMENKIT_WINE_PREFIX names another folder for
 # the one in use; LUMENKIT_WINE_SECONDS limits how long a program may run (default 300).
 # --screen with a file that ends in .exe runs that; anything else is run as a Linux command that
@@ -16,9 +18,44 @@ if [ "${1:-}" = --screen ]; then
     screen=yes
     shift
 fi
-prefix=${LUMENKIT_WINE_PREFIX:-$top/build/wine-prefix${screen:+-screen}}
+
+number_at() { # file offset bytes
+    od -An -v -t "u$3" -j "$2" -N "$3" "$1" | tr -d ' '
+}
+
+# The bits of a program: its header tells the machine that it is for.
+bits_of() {
+    local header
+    header=$(number_at "$1" 60 4)
+    case $(number_at "$1" $((header + 4)) 2) in
+        332) echo 32 ;;
+        34404) echo 64 ;;
+        *) echo "wine.sh: $1 is no program for x86 or x64" >&2 && return 1 ;;
+    esac
+}
+
+bits=${LUMENKIT_WINE_BITS:-64}
+case ${1:-} in
+    *.exe) [ ! -f "$1" ] || bits=$(bits_of "$1") ;;
+esac
+machine=$(dpkg --print-architecture)
+case $bits-$machine in
+    32-i386 | 64-amd64) ;;
+    # The commands wine and wineserver are then those of the other bitness.
+    32-amd64) export PATH=$top/scripts/wine32:$PATH ;;
+    *)
+        echo "wine.sh: $bits-bit programs for Windows do not run on $machine" >&2
+        exit 1
+        ;;
+esac
+# By bits.
+declare -A prefixes=(
+    [64]=$top/build/wine-prefix${screen:+-screen}
+    [32]=$top/build/wine-prefix-32${screen:+-screen}
+)
+prefix=${LUMENKIT_WINE_PREFIX:-${prefixes[$bits]}}
 seconds=${LUMENKIT_WINE_SECONDS:-300}
-export WINEPREFIX=$prefix WINEARCH=win64 WINEDEBUG=${WINEDEBUG:--all}
+export LUMENKIT_WINE_BITS=$bits WINEPREFIX=$prefix WINEARCH=win$bits WINEDEBUG=${WINEDEBUG:--all}
 export WINEDLLOVERRIDES="mscoree,mshtml=" LC_ALL=C.UTF-8
 unset DISPLAY WAYLAND_DISPLAY
 
@@ -31,6 +68,14 @@ end_wine() {
     # Only the server of this prefix; it ends all programs that run in it.
     wineserver -k || true
     wineserver -w
+}
+
+# A server also ends those of the other bitness.
+end_all() {
+    local folder
+    for folder in "${LUMENKIT_WINE_PREFIX:-${prefixes[64]}}" "${prefixes[32]}"; do
+        [ ! -d "$folder" ] || WINEPREFIX=$folder end_wine
+    done
 }
 
 settings() {
@@ -73,14 +118,15 @@ make_prefix() {
 # Made by one, awaited by the others. A prefix that was made differently is made anew.
 ready=$prefix/made-by-$(declare -f settings make_prefix | sha256sum | cut -c1-16)
 ensure_prefix() {
-    [ -e "$ready" ] && return
     "$top/scripts/setup.sh" wine ${screen:+screen}
+    [ "$bits-$machine" != 32-amd64 ] || "$top/scripts/wine-root.sh" --make >/dev/null
+    [ ! -e "$ready" ] || return 0
     mkdir -p "$(dirname "$prefix")"
     exec 9>"$prefix.lock"
     flock 9
     if [ ! -e "$ready" ]; then
         make_prefix 9>&- </dev/null >"$prefix.log" 2>&1 || {
-            cat "$prefix.log"
+            cat "$prefix.log" >&2
             exit 1
         }
         touch "$ready"
@@ -107,14 +153,14 @@ run_on_screen() {
 
 case ${1:-} in
     --end)
-        [ ! -d "$prefix" ] || end_wine
+        end_all
         ;;
     --prefix)
         ensure_prefix
         echo "$prefix"
         ;;
     "" | -*)
-        sed -n '2,10s/^# \{0,1\}//p' "$0"
+        sed -n '2,12s/^# \{0,1\}//p' "$0"
         exit 2
         ;;
     *)

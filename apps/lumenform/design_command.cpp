@@ -33,13 +33,14 @@ int DesignForm(const DesktopOptions& options) {
 }  // namespace
 
 void AddDesignCommand(CLI::App& program, int& status) {
-    CLI::App* const command = program.add_subcommand("design", "Change a form, and try it out");
+    CLI::App* const command = program.add_subcommand("design", "Edit a form in the designer");
     const auto options = std::make_shared<DesktopOptions>();
     command->add_option("FORM", options->form,
-                        "The form: .frm, .ctl, .pag or .dob; none: the first screen");
+                        "The form (.frm, .ctl, .pag, .dob); without it, the start screen");
     AddDesktopOptions(*command, *options);
     command->footer(
-        R"(What is not changed is saved byte for byte as it was. "lumenform" alone shows the first screen.
+        R"(Unchanged parts of the form are saved byte for byte. "lumenform" without arguments opens the
+start screen.
 
 Examples:
   lumenform design samples/forms/order.frm

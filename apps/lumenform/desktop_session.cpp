@@ -14,7 +14,7 @@
 namespace lumenkit::form {
 
 void AddDesktopOptions(CLI::App& command, DesktopOptions& options) {
-    command.add_flag("--dark", options.dark, "With a dark palette");
+    command.add_flag("--dark", options.dark, "Use a dark palette");
     cli::AddCodePageOption(command, options.codePage);
 }
 

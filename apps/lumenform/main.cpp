@@ -15,14 +15,15 @@ namespace lumenkit::form {
 namespace {
 
 int Run(int argc, char** argv) {
-    CLI::App program("Designs, runs and draws form files with lumenkit's controls.", "lumenform");
+    CLI::App program("Designs, runs and draws form files with the controls of lumenkit.",
+                     "lumenform");
     program.set_version_flag("--version", LUMENKIT_VERSION);
     program.require_subcommand(0, 1);
     program.footer(
-        R"(Without a command it shows the designer's first screen.
+        R"(Without a command, lumenform opens the start screen of the designer.
 
-Exit status: 0 when it is done, 1 when a control reported an error meanwhile, 2 for wrong
-arguments and for files that cannot be read or written.
+Exit status: 0 on success, 1 if a control reported an error, 2 for wrong arguments and for
+files that cannot be read or written.
 
 Examples:
   lumenform new order.frm

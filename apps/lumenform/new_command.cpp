@@ -29,7 +29,7 @@ int Create(const std::string& file) {
         throw std::runtime_error(file + ": the name of a form ends in .frm");
     }
     if (IsThere(path)) {
-        throw std::runtime_error(file + " is there already; it is left as it is");
+        throw std::runtime_error(file + " is there already; it is not overwritten");
     }
     const std::string text = NewForm(FormName(path.stem().string()), lumenkitClasses);
     forms::Save(forms::Document::Parse(file, text, {}), path);
@@ -41,10 +41,13 @@ int Create(const std::string& file) {
 void AddNewCommand(CLI::App& program, int& status) {
     CLI::App* const command = program.add_subcommand("new", "Write an empty form");
     const auto file = std::make_shared<std::string>();
-    command->add_option("NAME", *file, "The file to make, NAME.frm; one that is there stays")
+    command
+        ->add_option("NAME", *file,
+                     "The file to create, NAME.frm; an existing file is not overwritten")
         ->required();
     command->footer(
-        R"(The form is named after its file and refers to lumenkit.ocx, so that it can hold the controls.
+        R"(The form is named after its file. It refers to lumenkit.ocx, so that it can contain the
+controls.
 
 Examples:
   lumenform new order.frm

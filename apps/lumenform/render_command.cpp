@@ -90,24 +90,26 @@ void AddRenderCommand(CLI::App& program, int& status) {
     CLI::App* const command = program.add_subcommand("render", "Draw a form into a PNG file");
     const auto options = std::make_shared<Options>();
     command->add_option("FORM", options->form,
-                        "The form: .frm, .ctl, .pag or .dob; none: the designer's first screen");
+                        "The form (.frm, .ctl, .pag, .dob); --design without it draws the start "
+                        "screen");
     command
-        ->add_option("-o,--output", options->picture, "The picture; one that is there is replaced")
+        ->add_option("-o,--output", options->picture,
+                     "The picture, a PNG file; an existing file is replaced")
         ->required();
-    command->add_option("--scale", options->scale, "Real pixels to a pixel, each way")
+    command->add_option("--scale", options->scale, "Scale factor of width and height")
         ->capture_default_str()
         ->check(CLI::Range(smallestScale, largestScale));
-    CLI::Option* const design = command->add_flag("--design", options->design,
-                                                  "The designer with the form, not the form alone");
+    CLI::Option* const design =
+        command->add_flag("--design", options->design, "Draw the designer with the form in it");
     command
         ->add_flag("--page", options->page,
-                   "With the property page of the first control that has one")
+                   "Open the property page of the first control that has one")
         ->needs(design);
-    command->add_flag("--dark", options->dark, "With a dark palette");
+    command->add_flag("--dark", options->dark, "Use a dark palette");
     cli::AddCodePageOption(*command, options->codePage);
     command->footer(
-        R"(The picture shows the inside of the form, with its menus and without its title bar, at 96
-pixels an inch. No display is needed.
+        R"(The picture shows the client area and the menus of the form, without the title bar, at 96
+pixels per inch. No display is needed.
 
 Examples:
   lumenform render samples/forms/all_three.frm -o all_three.png

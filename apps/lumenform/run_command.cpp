@@ -20,13 +20,14 @@ int RunForm(const DesktopOptions& options) {
 }  // namespace
 
 void AddRunCommand(CLI::App& program, int& status) {
-    CLI::App* const command = program.add_subcommand(
-        "run", "Show a form as its users see it, and what its controls raise");
+    CLI::App* const command =
+        program.add_subcommand("run", "Show a form as its users see it, with a log of its events");
     const auto options = std::make_shared<DesktopOptions>();
-    command->add_option("FORM", options->form, "The form: .frm, .ctl, .pag or .dob")->required();
+    command->add_option("FORM", options->form, "The form (.frm, .ctl, .pag, .dob)")->required();
     AddDesktopOptions(*command, *options);
     command->footer(
-        R"(The form's code does not run, and nothing is saved. F12 hides and shows the event log.
+        R"(The code of the form does not run, and nothing is saved. F12 hides and shows the event
+log.
 
 Examples:
   lumenform run samples/forms/all_three.frm

@@ -118,7 +118,7 @@ int Check(const CheckOptions& options) {
 }
 
 std::string Help() {
-    std::string help = "Rules, by the names that findings bear:\n";
+    std::string help = "Rules and their names in findings:\n";
     for (const check::Rule& rule : check::Rules()) {
         constexpr std::size_t column = 26;
         std::string line = "  " + std::string(rule.name);
@@ -127,12 +127,12 @@ std::string Help() {
     }
     return help +
            "\n"
-           "Lines and columns count from 1, offsets in a text from 0, in UTF-16 units. A text "
-           "that\n"
-           "lies in a binary companion is at the place of its property. docs/check.md says more.\n"
+           "Lines and columns count from 1, offsets in a text from 0. Columns and offsets are in\n"
+           "UTF-16 units. A text in a binary companion file is reported at the place of its\n"
+           "property. See docs/check.md for details.\n"
            "\n"
-           "Exit status: 0 when nothing is found, 1 when something is, 2 when a file could not be\n"
-           "read (the others are checked all the same).\n"
+           "Exit status: 0 without findings, 1 with findings, 2 if a file could not be read (all\n"
+           "other files are checked) or the findings could not be written.\n"
            "\n"
            "Examples:\n"
            "  lumenkit check order.frm\n"
@@ -146,17 +146,17 @@ std::string Help() {
 
 void AddCheckCommand(CLI::App& program, int& status) {
     CLI::App* const command = program.add_subcommand(
-        "check", "Find mistakes in form files and in captions, with their places");
+        "check", "Find mistakes in captions and form files and print their places");
     const auto options = std::make_shared<CheckOptions>();
     command
         ->add_option("PATH", options->paths,
-                     "Forms (.frm, .ctl, .pag, .dob) and folders, which are searched for such "
-                     "files with all they contain")
+                     "Forms (.frm, .ctl, .pag, .dob), or folders to search for such files, "
+                     "including all subfolders")
         ->required();
     command->add_flag("--caption", options->captions,
-                      "The files are captions, one each, in UTF-8: - reads the standard input, "
-                      "folders are searched for .txt. One line break at the very end is no part of "
-                      "a caption");
+                      "Each file contains one caption in UTF-8; - is the standard input. Folders "
+                      "are searched for .txt files. One line break at the end of a file is not "
+                      "part of the caption");
     command->add_flag("--json", options->json,
                       R"(Print {"files":N,"findings":[{"rule":...,"file":...,"line":...,)"
                       R"("column":...,...},...],"errors":[...]})");

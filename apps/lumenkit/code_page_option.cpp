@@ -18,7 +18,7 @@ std::string RequireCodePage(const std::string& number) {
         }
         return {};
     } catch (const std::logic_error&) {
-        return number + " is no code page that is known";
+        return number + " is not a supported code page";
     }
 }
 
@@ -27,7 +27,7 @@ std::string RequireCodePage(const std::string& number) {
 void AddCodePageOption(CLI::App& command, int& codePage) {
     command
         .add_option("--code-page", codePage,
-                    "What forms are written in unless they are UTF-8: 1250 to 1258 or 65001")
+                    "Code page of forms that are not UTF-8: 1250 to 1258 or 65001")
         ->capture_default_str()
         ->check(RequireCodePage, "");
 }

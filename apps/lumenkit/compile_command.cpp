@@ -60,17 +60,17 @@ void AddCompileCommand(CLI::App& program, int& status) {
         program.add_subcommand("compile", "Compile a caption and print its compiled form");
     const auto options = std::make_shared<CompileOptions>();
     command->add_option("FILE", options->file,
-                        "The caption, in UTF-8; - or nothing reads the standard input. One line "
-                        "break at its very end is no part of it.");
+                        "The caption file, in UTF-8; without it, or for -, the standard input. "
+                        "One line break at the end is not part of the caption");
     CLI::Option* const json =
         command->add_flag("--json", options->json,
                           R"(Print {"lines":[...],"commands":[{"name":...,"parameter":...},...]})");
     command->add_flag("--text")
-        ->description("Print each line and its commands under it (the default)")
+        ->description("Print each line with its commands below it (the default)")
         ->excludes(json);
     command->footer(
-        "Exit status: 0 when all is well, 1 when the compiler reported an error (what it could\n"
-        "compile is printed all the same), 2 when the caption cannot be read.\n"
+        "Exit status: 0 on success, 1 if the compiler reported an error (the compiled part is\n"
+        "still printed), 2 if the caption cannot be read.\n"
         "\n"
         "Examples:\n"
         "  lumenkit compile samples/captions/headline.txt\n"

@@ -12,45 +12,46 @@ namespace lumenkit::cli {
 namespace {
 
 constexpr const char* help =
-    R"help(Each line of the input is a request; each answer is one line, written at once. Blank
-lines are skipped. A request that cannot be served gets an answer that says why, and the
-next one is served.
+    R"help(Each input line is one request. Each request gets one line as its answer, written at
+once. Blank lines are skipped. The answer to a failed request contains the error, and drive
+continues with the next line.
 
 Answers: {"ok":true,"value":...,"log":[...]} or
-  {"ok":false,"error":{"number":...,"text":...},"log":[...]}; "value" where there is a
-  result, "number" where the error has one. The log lists what the container saw:
-  {"event":NAME,"args":[...]}, {"changed":NAME}, {"message":{"text":...,"title":...,
-  "style":...}}, {"beep":true}.
+  {"ok":false,"error":{"number":...,"text":...},"log":[...]}. "value" is absent if there is
+  no result, "number" if the error is not a runtime error. "log" lists the notifications to
+  the container: {"event":NAME,"args":[...]}, {"changed":NAME},
+  {"message":{"text":...,"title":...,"style":...}}, {"beep":true}.
 
-Requests (keys after the bar may be left out):
-  {"do":"new","class","id" | "mode","bag","width","height","tag"}    a control
-  {"do":"new","class":"VLabelCaption","id","select":[ID...]}         the caption page
+Requests (keys after the bar are optional):
+  {"do":"new","class","id" | "mode","bag","width","height","tag"}    create a control
+  {"do":"new","class":"VLabelCaption","id","select":[ID...]}         open the caption page
   {"do":"get","id","name" | "dispid","index"}      read a property
   {"do":"let","id","name","value" | "dispid","index"}  assign a property
   {"do":"call","id","name" | "dispid","args"}      call a method
-  {"do":"save","id"}                               what its property bag holds
-  {"do":"apply","id"}                              have a page write to its control
-  {"do":"resize","id","width","height"}            in twips
-  {"do":"draw","id"}                               what it draws
-  {"do":"state","id"}                              its constituents
-  {"do":"type","id","text" | "on"}                 keys; \r is Enter, \b Backspace
+  {"do":"save","id"}                               return the saved properties
+  {"do":"apply","id"}                              apply a page to its first control
+  {"do":"resize","id","width","height"}            resize the control, in twips
+  {"do":"draw","id"}                               return the display list
+  {"do":"state","id"}                              return the constituents
+  {"do":"type","id","text" | "on"}                 type keys; \r is Enter, \b is Backspace
   {"do":"select","id","start","length" | "on"}     select text
   {"do":"paste","id","text" | "on"}                replace the selection
   {"do":"click","id" | "on"}, {"do":"dblclick","id" | "on"}
   {"do":"mouse","id","event" | "on","button","shift","x","y"}
   {"do":"scroll","id","on","value"}
-  {"do":"focus" | "id","on"}                       without "on", to elsewhere
-  {"do":"ambient" | "BackColor","Font"}            what controls see around them
-  {"do":"allow","id","name","value"}               whether a property may change
+  {"do":"focus" | "id","on"}                       without "on", leave the control
+  {"do":"ambient" | "BackColor","Font"}            set the ambient colour and font
+  {"do":"allow","id","name","value"}               allow or refuse changes of a property
   {"do":"form","file" | "mode","codePage"}         load a form with its controls
-  {"do":"write","file"}                            save it with what they hold now
-  {"do":"quit"}
+  {"do":"write","file"}                            save the form with the current values
+  {"do":"quit"}                                    end the program
 
-"on" names a constituent, "Text1(0)"; without it the user reaches the visible text box or,
-where there is none, the control's own surface. docs/drive.md says it all.
+"on" is the name of a constituent, such as "Text1(0)". Without "on", a request goes to the
+visible text box. If there is none, clicks and mouse events go to the surface of the control.
+See docs/drive.md for details.
 
-Exit status: 0 when the input ends or asks to quit, 2 when it cannot be read or the answers
-cannot be written.
+Exit status: 0 at the end of the input or after quit, 2 if the requests cannot be read or the
+answers cannot be written.
 
 Examples:
   echo '{"do":"new","class":"VMemo","id":"m"}' | lumenkit drive
@@ -85,7 +86,7 @@ int Drive() {
 
 void AddDriveCommand(CLI::App& program, int& status) {
     CLI::App* const command = program.add_subcommand(
-        "drive", "Drive controls without a screen: one JSON request a line in, one answer out");
+        "drive", "Drive controls without a display, by JSON requests on the standard input");
     command->footer(help);
     command->callback([&status] { status = Drive(); });
 }

@@ -14,7 +14,10 @@ namespace lumenkit::cli {
 namespace {
 
 int Run(int argc, char** argv) {
-    CLI::App program("Works with lumenkit's captions and controls without a screen.", "lumenkit");
+    CLI::App program(
+        "Compiles captions, checks captions and form files, and drives controls "
+        "without a display.",
+        "lumenkit");
     program.set_version_flag("--version", LUMENKIT_VERSION);
     program.require_subcommand(1);
     program.footer(R"(Examples:

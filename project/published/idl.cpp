@@ -7,12 +7,13 @@
 #include "frame/utf8.h"
 #include "project/published/idl_text.h"
 
-// Three rules shape what is written. A type library keeps each name once, without regard to case
-// and in the spelling that comes first: the parameters named here are named as no member is. The
-// types of other libraries must be declared before they can be referred to; what ends in the type
-// library is the reference to the library that really defines them, found by identifier. And a dual
-// interface comes before all event interfaces: the compiler (widl 10) spoils the library's
-// identifier otherwise.
+// The output follows three rules:
+// - A type library stores each name once, regardless of case, in the spelling of its first
+//   occurrence. The parameter names that the writer adds therefore differ from all member names.
+// - Types of other libraries are declared before their first use. The compiler replaces such a
+//   declaration by a reference to the library that defines the identifier.
+// - The first interface is a dual interface, before any event interface. Otherwise the compiler
+//   (widl 10) writes a wrong identifier for the library.
 
 namespace lumenkit {
 
@@ -77,13 +78,13 @@ class ClassLibraryWriter {
     }
 
     void Prelude() {
-        Line("// Made from the interface tables by write_published; change those.");
+        Line("// Generated from the interface tables by write_published. Edit the tables instead.");
         Line("import \"oaidl.idl\";");
         if (classes_.enumerations != nullptr) {
             Line("import \"" + std::string(enumerationsIdlFile) + "\";");
         }
         Line("");
-        Line("// Names for what the standard library defines.");
+        Line("// Types that stdole2.tlb defines.");
         Line("[uuid(bef6e003-a874-101a-8bba-00aa00300cab)]");
         Line("dispinterface Font {");
         Line("properties:");
@@ -245,7 +246,7 @@ std::string WriteIdl(const ClassTable& classes) {
 
 std::string WriteIdl(const EnumerationLibrary& library) {
     std::string text =
-        "// Made from the runtime's enumerations by write_published; change those.\n";
+        "// Generated from the enumeration tables by write_published. Edit the tables instead.\n";
     text += Attributes()
                 .Add(Uuid(library.uniqueIdentifier))
                 .Add(Version(library.majorVersion, library.minorVersion))

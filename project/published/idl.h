@@ -1,4 +1,4 @@
-// The interface tables as interface definitions, from which the type libraries are compiled.
+// Writes the interface definitions from which the type libraries are compiled.
 #pragma once
 
 #include <string>
@@ -8,16 +8,16 @@
 
 namespace lumenkit {
 
-/// Where the definitions lie, and what the libraries compiled from them are called.
+/// File names of the definitions and of a type library compiled from them.
 inline constexpr const char* classesIdlFile = "lumenkit.idl";
 inline constexpr const char* enumerationsIdlFile = "lumenkit_runtime.idl";
 inline constexpr const char* enumerationsTypeLibraryFile = "lumenkit_runtime.tlb";
 
-/// UTF-8 text, lines end in LF. Refers to the definitions of `classes.enumerations` as to
-/// `enumerationsIdlFile` and `enumerationsTypeLibraryFile`.
+/// Returns the definitions of the classes, in UTF-8 with LF line ends. If `classes.enumerations` is
+/// set, the definitions import `enumerationsIdlFile` and `enumerationsTypeLibraryFile`.
 std::string WriteIdl(const ClassTable& classes);
 
-/// UTF-8 text, lines end in LF.
+/// Returns the definitions of the enumerations, in UTF-8 with LF line ends.
 std::string WriteIdl(const EnumerationLibrary& library);
 
 }  // namespace lumenkit

@@ -1,4 +1,4 @@
-// Pieces of interface definitions.
+// Helpers that format parts of an interface definition.
 #pragma once
 
 #include <string>
@@ -9,25 +9,25 @@
 
 namespace lumenkit::idl {
 
-/// Attributes in the order in which they were added, written "[a, b]".
+/// A list of attributes in the order of addition, formatted as "[a, b]".
 class Attributes {
  public:
     Attributes& Add(std::string attribute);
     Attributes& AddIf(bool condition, std::string_view attribute);
-    /// Adds nothing where `help` is empty.
+    /// Adds a help string. Adds nothing if `help` is empty.
     Attributes& AddHelp(TextView help);
 
-    /// Nothing at all without attributes.
+    /// Returns the formatted list; an empty text if there are no attributes.
     std::string Written() const;
 
  private:
     std::vector<std::string> attributes_;
 };
 
-/// A literal, quoted and escaped.
+/// Returns `text` as a string literal in UTF-8, quoted and escaped.
 std::string Quoted(TextView text);
 
-/// "a, b, c".
+/// Returns the items separated by commas: "a, b, c".
 std::string Listed(const std::vector<std::string>& items);
 
 }  // namespace lumenkit::idl

@@ -10,7 +10,7 @@ namespace lumenkit {
 
 namespace {
 
-// How the platform's own code carries calls to such an interface from one thread to another.
+// Marshalers of Windows that carry calls to a dual or a dispatch interface between threads.
 constexpr std::string_view dualMarshaler = "{00020424-0000-0000-c000-000000000046}";
 constexpr std::string_view dispatchMarshaler = "{00020420-0000-0000-c000-000000000046}";
 
@@ -34,7 +34,8 @@ class ManifestWriter {
     std::string Write() {
         text_ =
             "<?xml version=\"1.0\" encoding=\"UTF-8\" standalone=\"yes\"?>\n"
-            "<!-- Made from the interface tables by write_published; change those. -->\n"
+            "<!-- Generated from the interface tables by write_published. Edit the tables instead. "
+            "-->\n"
             "<assembly xmlns=\"urn:schemas-microsoft-com:asm.v1\" manifestVersion=\"1.0\">\n";
         text_ +=
             "  <assemblyIdentity" + Attribute("type", "win32") +
@@ -48,7 +49,7 @@ class ManifestWriter {
         TypeLibrary(classes_.uniqueIdentifier, classes_.majorVersion, classes_.minorVersion);
         text_ += "  </file>\n";
         if (const EnumerationLibrary* library = classes_.enumerations) {
-            // Not all loaders find a second library in the server, so it comes as a file.
+            // Not all loaders find a second type library in the server, so it is a separate file.
             text_ += "  <file" + Attribute("name", enumerationsTypeLibraryFile) + ">\n";
             TypeLibrary(library->uniqueIdentifier, library->majorVersion, library->minorVersion);
             text_ += "  </file>\n";

@@ -1,5 +1,5 @@
-// The classes as a side-by-side assembly: a program whose manifest names it may create them though
-// they are not registered.
+// Writes the manifest of the side-by-side assembly. A program whose manifest refers to the assembly
+// can create the classes without registration.
 #pragma once
 
 #include <string>
@@ -10,8 +10,9 @@ namespace lumenkit {
 
 inline constexpr const char* manifestFile = "lumenkit.manifest";
 
-/// Of the assembly that consists of the component server `serverFile`, which holds its type
-/// library, and the type library of `classes.enumerations`. UTF-8, lines end in LF.
+/// Returns the manifest of an assembly with two files: the component server `serverFile`, which
+/// contains the type library of the classes, and the type library of `classes.enumerations`. The
+/// text is UTF-8 with LF line ends.
 std::string WriteManifest(const ClassTable& classes, const std::string& serverFile);
 
 }  // namespace lumenkit

@@ -1,4 +1,4 @@
-// Pieces of Markdown.
+// Helpers that format Markdown.
 #pragma once
 
 #include <string>
@@ -8,16 +8,16 @@
 
 namespace lumenkit::markdown {
 
-/// What reads as `text` itself, in a paragraph or in the cell of a table.
+/// Escapes `text` for a paragraph or a table cell, so that it is displayed unchanged.
 std::string Plain(TextView text);
 
-/// As code. There must be neither bar nor backtick in the text.
+/// Returns a code span. The text must not contain bars or backticks.
 std::string Code(const std::string& text);
 
-/// A row of a table, ended. The cells are Markdown.
+/// Returns a table row with its line end. The cells are Markdown.
 std::string Row(const std::vector<std::string>& cells);
 
-/// The row of headings and the rule below it.
+/// Returns the heading row of a table and the rule below it.
 std::string Head(const std::vector<std::string>& headings);
 
 }  // namespace lumenkit::markdown

@@ -24,9 +24,12 @@ class ReferenceWriter {
         : classes_(classes), type_(type) {}
 
     std::string Write(const std::string& prose) {
-        text_ += "<!-- Made from the interface tables by write_published; change those. -->\n";
+        text_ +=
+            "<!-- Generated from the interface tables by write_published. Edit the tables instead. "
+            "-->\n";
         text_ += "# " + ToUtf8(type_.name) + " reference\n\n";
-        text_ += "What it does is told in [" + prose + "](../" + prose + ").\n";
+        text_ += "This page lists the interfaces of the class. [" + prose + "](../" + prose +
+                 ") describes its behaviour.\n";
         Identity();
         Members();
         Events();
@@ -65,7 +68,7 @@ class ReferenceWriter {
         Page();
     }
 
-    /// Which page edits the control.
+    // Writes which properties the property page of the control edits.
     void Page() {
         if (type_.propertyPage.empty()) {
             return;
@@ -82,12 +85,12 @@ class ReferenceWriter {
         Heading("Members");
         const std::span<const Member> members = type_.interfaceTable->members;
         if (members.empty()) {
-            text_ += "None beyond those of `IDispatch`.\n";
+            text_ += "The interface has no members except those of `IDispatch`.\n";
             return;
         }
         text_ +=
-            "An Integer has 16 bits, a Long 32; a Single is a floating-point number of 32 bits. "
-            "`get` reads, `let` assigns a value, `set` an object.\n\n";
+            "Integer is a 16-bit integer, Long a 32-bit integer and Single a 32-bit floating-point "
+            "number. `get` reads the property, `let` assigns a value, `set` assigns an object.\n\n";
         text_ += Head({"member", "kind", "type", "identifier", "access", "flags", "help string"});
         for (const Member& member : members) {
             text_ += Row({Signature(member.name, member.parameters),
@@ -125,7 +128,7 @@ class ReferenceWriter {
 
     void Enumeration(const EnumerationTable& enumeration) {
         Heading(ToUtf8(enumeration.name));
-        text_ += Plain(enumeration.help) + ", an enumeration of the type library " +
+        text_ += Plain(enumeration.help) + ". This enumeration is defined in the type library " +
                  Code(ToUtf8(classes_.enumerations->name)) + ".\n\n";
         text_ += Head({"member", "value"});
         for (const EnumerationMember& member : enumeration.members) {

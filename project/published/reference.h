@@ -1,4 +1,4 @@
-// The interface tables as reference pages for people, in Markdown: one page a class.
+// Writes the interface tables as reference pages in Markdown, one page per class.
 #pragma once
 
 #include <array>
@@ -8,7 +8,7 @@
 
 namespace lumenkit {
 
-/// A class's page, and the page beside its folder that says in prose what the class does.
+/// The reference page of a class, and the page in the parent folder that describes the class.
 struct ReferencePage {
     TextView className;
     const char* file = nullptr;
@@ -22,7 +22,8 @@ inline constexpr std::array referencePages = {
     ReferencePage{u"VLabelCaption", "vlabelcaption.md", "caption-page.md"},
 };
 
-/// UTF-8 text, lines end in LF. Throws std::invalid_argument where `classes` has no such class.
+/// Returns the page, in UTF-8 with LF line ends. Throws std::invalid_argument if `classes` does not
+/// contain the class.
 std::string WriteReference(const ClassTable& classes, const ReferencePage& page);
 
 }  // namespace lumenkit

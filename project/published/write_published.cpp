@@ -1,5 +1,5 @@
-// Writes what is published about the library: definitions and manifest into the folder that the
-// first argument names, reference pages into that of the second.
+// Writes the published files: the definitions and the manifest into the folder of the first
+// argument, the reference pages into the folder of the second.
 #include <exception>
 #include <filesystem>
 #include <fstream>

@@ -13,8 +13,8 @@
 
 namespace lumenkit::memory {
 
-/// A control raised an event. The arguments are those that it passed, before a handler assigned
-/// them.
+/// A control raised an event. The arguments have the values that the control passed, before any
+/// assignment by a handler.
 struct RaisedEvent {
     Text control;  ///< the control's name
     Text name;     ///< from the class's event table

@@ -44,12 +44,10 @@ HRESULT PropertyPageFace::Deactivate() {
 
 HRESULT PropertyPageFace::GetPageInfo(PROPPAGEINFO* information) {
     return Guarded([&] {
-        const ULONG size = Checked(information).cb;
-        if (size < sizeof(PROPPAGEINFO)) {
-            return E_INVALIDARG;
-        }
-        *information = {};
-        information->cb = size;
+        // There is one version of the structure. Some frames leave its size unset, so it tells
+        // nothing.
+        Checked(information) = {};
+        information->cb = sizeof(PROPPAGEINFO);
         const TextView title = core_.Type().pageTitle;
         information->pszTitle = NewTaskText(title.empty() ? core_.Type().name : title);
         information->size = core_.Hosted().Size();

@@ -1,5 +1,5 @@
-// Golden drawings: files that hold a caption with its settings and what it draws, to be read by
-// people and compared line by line.
+// Golden drawings: text files with a caption, its settings and its display list. The tests compare
+// them line by line.
 //
 //     Bold begins and ends where the commands stand.
 //
@@ -29,7 +29,7 @@
 namespace lumenkit::testing {
 
 struct GoldenDrawing {
-    std::string about;  ///< what the caption shows, in one line
+    std::string about;  ///< one line that describes the caption
     LabelScene scene;
     std::string drawing;  ///< in the form of ToLines
 };

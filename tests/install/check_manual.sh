@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# A program's manual page tells of each of its commands:  check_manual.sh PROGRAM PAGE
+# Checks that a manual page describes every command of the program:  check_manual.sh PROGRAM PAGE
 set -euo pipefail
 
 commands=$("$1" --help | sed -n '/^Subcommands:/,/^$/s/^  \([a-z-]*\) .*/\1/p')

@@ -58,7 +58,7 @@ class LiteralMemo {
     bool canChangeText = true;
     /// Called after each event is logged.
     std::function<void(const std::string&)> onEvent = [](const std::string&) {};
-    /// What the container heard, in the form of TakeLogLines.
+    /// The notifications to the container, in the form of TakeLogLines.
     std::vector<std::string> log;
     /// The number of times that each situation occurred. Tests check that it did.
     std::map<std::string, int> seen;

@@ -106,7 +106,7 @@ struct LiteralHost {
     float height = 1500;
     LiteralFont ambientFont{.size = 10};
     std::function<void()> onClick = {};
-    /// What the container and the user hear: "changed Text", "event Click",
+    /// The notifications to the container and the user: "changed Text", "event Click",
     /// "error 6 in SetupControls".
     std::vector<std::string> log = {};
 };

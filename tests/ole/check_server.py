@@ -1,10 +1,10 @@
 #!/usr/bin/env python3
-"""Checks a component server's file without running it: what it exports, imports and embeds.
+"""Checks the exports, imports and embedded type libraries of a component server file.
 
     check_server.py OBJDUMP BITS SERVER TYPE_LIBRARY...
 
-BITS is 32 or 64; the type libraries are those that must lie in the server, unchanged. --self-test
-OBJDUMP SERVER proves that the check can fail.
+BITS is 32 or 64. The server must contain each TYPE_LIBRARY unchanged. The server is not run.
+--self-test OBJDUMP SERVER proves that the check can fail.
 """
 import re
 import struct
@@ -13,7 +13,7 @@ import sys
 from pathlib import Path
 
 EXPORTS = ["DllCanUnloadNow", "DllGetClassObject", "DllRegisterServer", "DllUnregisterServer"]
-# Libraries that every Windows has. Libraries of a compiler are not among them.
+# Libraries of Windows itself. The libraries of a compiler are not allowed.
 SYSTEM_LIBRARIES = {
     "advapi32.dll", "comctl32.dll", "gdi32.dll", "kernel32.dll", "msvcrt.dll", "ole32.dll",
     "oleaut32.dll", "shell32.dll", "user32.dll", "uxtheme.dll",
@@ -23,7 +23,7 @@ SYSTEM_KINDS = {32: 1, 64: 3}  # the system kind in a type library
 
 
 def headers(data):
-    """Machine, time stamp and number of symbols of a portable executable."""
+    """Returns the machine, time stamp and number of symbols of a portable executable."""
     start = struct.unpack_from("<I", data, 0x3C)[0]
     assert data[start:start + 4] == b"PE\0\0", "no portable executable"
     machine, _, stamp, _, symbols = struct.unpack_from("<HHIII", data, start + 4)

@@ -1,4 +1,4 @@
-// The rules that the checks apply. People filter by the names, so they do not change.
+// The rules that the checks apply. Users filter findings by rule name, so the names do not change.
 #pragma once
 
 #include <span>
@@ -13,29 +13,31 @@ struct Rule {
 
 namespace rules {
 
-inline constexpr Rule unknownCommand{"unknown-command", "a command that means nothing"};
+inline constexpr Rule unknownCommand{"unknown-command", "a command that does not exist"};
 inline constexpr Rule unterminatedCommand{
-    "unterminated-command", "a command without its closing bar hides the line's rest"};
-inline constexpr Rule loneBar{"lone-bar", "a bar that opens no command hides what follows it"};
-inline constexpr Rule underlineIsItalic{"underline-is-italic", "u draws italic"};
+    "unterminated-command", "a command without its closing bar: the rest of the line is not drawn"};
+inline constexpr Rule loneBar{"lone-bar",
+                              "a bar that opens no command: the text after it is not drawn"};
+inline constexpr Rule underlineIsItalic{"underline-is-italic", "the command u draws italics"};
 inline constexpr Rule unconvertedValue{"unconverted-value",
-                                       "a value that is not understood and counts as off or 0"};
-inline constexpr Rule ineffectiveSize{"ineffective-size", "a size of 1 or less does nothing"};
-inline constexpr Rule colorOutOfRange{"color-out-of-range", "a colour's number outside 0 to 255"};
+                                       "a value that cannot be converted and counts as off or 0"};
+inline constexpr Rule ineffectiveSize{"ineffective-size",
+                                      "a size of 1 or less, which has no effect"};
+inline constexpr Rule colorOutOfRange{"color-out-of-range", "a colour component outside 0 to 255"};
 inline constexpr Rule numberOverflow{"number-overflow",
-                                     "a number beyond its range: drawing reports an error"};
+                                     "a number out of range: the label reports an error"};
 inline constexpr Rule tooManyLines{"too-many-lines", "a caption of more than 301 lines"};
-inline constexpr Rule textTooLong{"text-too-long", "a text longer than positions can count"};
+inline constexpr Rule textTooLong{"text-too-long", "a text too long for 16-bit positions"};
 inline constexpr Rule duplicateValue{"duplicate-value",
-                                     "two items of one value: Text reaches only the first"};
+                                     "two items with the same value: Text selects only the first"};
 inline constexpr Rule listIndexOutOfRange{"list-index-out-of-range",
-                                          "a ListIndex without an item selects none"};
-inline constexpr Rule textOverLimits{"text-over-limits",
-                                     "a memo's text beyond its limits, which loading does not cut"};
+                                          "a ListIndex without an item: no item is selected"};
+inline constexpr Rule textOverLimits{
+    "text-over-limits", "a text beyond the limits of its memo, which loading does not cut"};
 inline constexpr Rule unreadProperty{"unread-property",
                                      "a saved name that the control never reads"};
 inline constexpr Rule unreadableValue{"unreadable-value",
-                                      "a saved value of the wrong kind: loading reports an error"};
+                                      "a saved value of the wrong type: loading reports an error"};
 
 }  // namespace rules
 

@@ -55,7 +55,7 @@ std::unique_ptr<memory::PlacedPage> NewPage(ScriptedContainer& container,
     return page;
 }
 
-// Adds the properties of an embedded control to those that every constituent has.
+// Adds the properties of an embedded control to the common properties of a constituent.
 void AddMembers(Json& state, memory::PlacedControl& control) {
     for (const Member& member : control.Type().interfaceTable->members) {
         if (member.read != nullptr && member.parameters.empty()) {

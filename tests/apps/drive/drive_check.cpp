@@ -36,7 +36,7 @@ std::string AnswerFault(const std::string& line) {
 
 class Session {
  public:
-    /// Serves one request. Returns what is wrong with the answer; empty if nothing is.
+    /// Serves one request. Returns the fault of the answer; empty if there is none.
     std::string Fault(std::string_view request) {
         try {
             answer_ = session_.Serve(request);

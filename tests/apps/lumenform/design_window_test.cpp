@@ -1,4 +1,4 @@
-// The designer's window: first screen, files, questions, running, menus.
+// The designer's window: start screen, files, questions, running, menus.
 #include "apps/lumenform/design/window/design_window.h"
 
 #include <QAction>

@@ -1,10 +1,10 @@
 #!/usr/bin/env python3
-"""Works with the controls as a person does: keys and mouse of an X server, real windows.
+"""Operates the controls with the keyboard and mouse of an X server, in real windows.
 
     person_test.py PROGRAM PICTURES
 
-Runs PROGRAM (person_host) under Wine on the display that there is, and leaves pictures of what was
-to be seen in the folder PICTURES. What must come out was written by hand.
+Runs PROGRAM (person_host) under Wine on the current display and writes pictures of the screen into
+the folder PICTURES. The expected values are written by hand.
 """
 import json
 import os
@@ -26,7 +26,7 @@ def screen(*command):
 
 
 class Program:
-    """The program, and what it says it shows."""
+    """The running program, and the state that it last reported."""
 
     def __init__(self, path, pictures):
         self.pictures = pictures
@@ -46,7 +46,7 @@ class Program:
         return self.lines.get(timeout=SECONDS)
 
     def activate(self, title_bar):
-        """Without a window manager nobody but a click gives the keyboard to a window for sure."""
+        """Clicks the title bar: without a window manager, only a click reliably moves the focus."""
         screen("mousemove", *title_bar)
         screen("click", 1)
 
@@ -58,7 +58,7 @@ class Program:
         return self.look()
 
     def look(self):
-        """The keys and clicks before it have been dealt with when the answer is there."""
+        """Returns the state after the program has processed all earlier keys and clicks."""
         screen("key", "F12")
         line = self._line()
         assert line.startswith("{"), line

@@ -356,7 +356,7 @@ TEST(ParseNumber, AgreesWithStrtodBesideMidpointsOfEveryMagnitude) {
     }
 }
 
-// Each product of the digits and the power of ten lies so close to the middle between two doubles
+// Each product of the digits and the power of ten is so close to the middle between two doubles
 // that rounding it to 64 bits first, as x87 registers do, leads to the wrong one of them. The
 // expected values were computed with exact fractions.
 TEST(ParseNumber, RoundsOnce) {

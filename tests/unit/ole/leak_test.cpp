@@ -3,9 +3,8 @@
 #include <set>
 
 #include "runtime/win32/window.h"
+#include "tests/ole/string_cache.h"
 #include "tests/unit/ole/ole_test.h"
-
-extern "C" void STDMETHODCALLTYPE SetOaNoCache();
 
 namespace lumenkit::ole {
 namespace {

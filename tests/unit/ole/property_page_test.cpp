@@ -1,3 +1,5 @@
+#include <cstring>
+
 #include "tests/unit/ole/ole_test.h"
 
 namespace lumenkit::ole {
@@ -52,7 +54,6 @@ class PropertyPageTest : public OleTest {
 
 TEST_F(PropertyPageTest, SaysWhatItIs) {
     PROPPAGEINFO information = {};
-    EXPECT_EQ(page_->GetPageInfo(&information), E_INVALIDARG);
     information.cb = sizeof information;
     ASSERT_EQ(page_->GetPageInfo(&information), S_OK);
     EXPECT_STREQ(information.pszTitle, L"Caption");
@@ -60,6 +61,21 @@ TEST_F(PropertyPageTest, SaysWhatItIs) {
     EXPECT_EQ(information.size.cy, 372);
     CoTaskMemFree(information.pszTitle);
     EXPECT_EQ(page_->GetPageInfo(nullptr), E_POINTER);
+}
+
+// As the platform's frame asks under Wine: with whatever lay on the stack.
+TEST_F(PropertyPageTest, SaysWhatItIsInAStructureThatWasNeverFilled) {
+    for (const ULONG size : {0UL, 7UL, 0xFFFFFFFFUL}) {
+        PROPPAGEINFO information;
+        std::memset(&information, 0xA5, sizeof information);
+        information.cb = size;
+        ASSERT_EQ(page_->GetPageInfo(&information), S_OK) << size;
+        EXPECT_EQ(information.cb, sizeof information);
+        EXPECT_STREQ(information.pszTitle, L"Caption");
+        EXPECT_EQ(information.pszDocString, nullptr);
+        EXPECT_EQ(information.pszHelpFile, nullptr);
+        CoTaskMemFree(information.pszTitle);
+    }
 }
 
 TEST_F(PropertyPageTest, EditsALabel) {

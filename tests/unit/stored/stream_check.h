@@ -7,7 +7,7 @@
 
 namespace lumenkit::testing {
 
-/// Returns what is wrong with how a stream is read; empty if nothing is. The stream must be
+/// Returns the fault in the handling of a stream; empty if there is none. The stream must be
 /// refused, or must be the same after it is written and read again, and every control must start
 /// from it and save.
 std::string StreamFault(const std::vector<std::uint8_t>& stream);

@@ -468,7 +468,7 @@ TEST_F(VLabelControl, WhatWasSavedIsReadBack) {
     EXPECT_EQ(other->pGetBulletPrefix(), u"- ");
     EXPECT_TRUE(other->pGetAutoSize());
     EXPECT_EQ(other->pGetBackStyle(), 2);
-    EXPECT_THAT(other.TakeLog(), IsEmpty());  // reading notifies nobody
+    EXPECT_THAT(other.TakeLog(), IsEmpty());  // reading sends no notification
 }
 
 TEST_F(VLabelControl, EmptyBagGivesTheDefaultsAndKeepsTheFont) {

@@ -160,7 +160,8 @@ TEST_F(SurfaceTest, KeepsWhatIsDrawnWhereItShall) {
     EXPECT_EQ(OnScreen()->Count(red), 0);
     Surface().FillBox(0, 0, Pixels(9), Pixels(9), Rgb(255, 0, 0));
     Surface().SetBackColor(Rgb(0, 0, 255));
-    EXPECT_EQ(OnScreen()->Count(blue), paintedSize.cx * paintedSize.cy) << "another background clears it";
+    EXPECT_EQ(OnScreen()->Count(blue), paintedSize.cx * paintedSize.cy)
+        << "another background clears it";
 }
 
 TEST_F(SurfaceTest, WhatIsDrawnBetweenPaintsIsSeenUntilTheNext) {
@@ -182,7 +183,8 @@ TEST_F(SurfaceTest, DrawsAtAnyScaleAndPlace) {
     picture.Fill(blue);
     control_.Hosted().Draw(picture.Device(), {50, 60, 250, 160});
     EXPECT_EQ(picture.Count(red, {60, 80, 70, 90}), 100);
-    EXPECT_EQ(picture.Count(blue), 300 * 300 - paintedSize.cx * paintedSize.cy) << "nothing beside its place";
+    EXPECT_EQ(picture.Count(blue), 300 * 300 - paintedSize.cx * paintedSize.cy)
+        << "nothing beside its place";
 }
 
 TEST_F(SurfaceTest, TextKeepsItsPlaceAtAnyScale) {
@@ -218,6 +220,15 @@ TEST_F(SurfaceTest, DrawsInUnitsThatRunUpwards) {
     EXPECT_EQ(GetMapMode(picture.Device()), MM_HIMETRIC);
 }
 
+int CALLBACK CountTextsOfFour(HDC /*device*/, HANDLETABLE* /*handles*/, const ENHMETARECORD* record,
+                              int /*handleCount*/, LPARAM count) {
+    if (record->iType == EMR_EXTTEXTOUTW) {
+        const auto* text = reinterpret_cast<const EMREXTTEXTOUTW*>(record);
+        *reinterpret_cast<int*>(count) += text->emrtext.nChars == 4 ? 1 : 0;
+    }
+    return 1;
+}
+
 TEST_F(SurfaceTest, DrawsIntoAMetafile) {
     PaintBy([&](host::Surface& surface) {
         surface.SetBackColor(Rgb(255, 255, 255));
@@ -231,16 +242,7 @@ TEST_F(SurfaceTest, DrawsIntoAMetafile) {
     control_.Hosted().Draw(recorder, {0, 0, paintedSize.cx, paintedSize.cy});
     const HENHMETAFILE file = CloseEnhMetaFile(recorder);
     int texts = 0;
-    EnumEnhMetaFile(
-        nullptr, file,
-        [](HDC, HANDLETABLE*, const ENHMETARECORD* record, int, LPARAM count) {
-            if (record->iType == EMR_EXTTEXTOUTW) {
-                const auto* text = reinterpret_cast<const EMREXTTEXTOUTW*>(record);
-                *reinterpret_cast<int*>(count) += text->emrtext.nChars == 4 ? 1 : 0;
-            }
-            return 1;
-        },
-        &texts, nullptr);
+    EnumEnhMetaFile(nullptr, file, &CountTextsOfFour, &texts, nullptr);
     EXPECT_EQ(texts, 1) << "as text, no picture of it";
     DeleteEnhMetaFile(file);
 }

@@ -20,8 +20,8 @@ struct UsualProperty {
     std::span<const TextView> choices = {};  ///< indexed by their values, from 0
 };
 
-/// The usual properties of a class such as "VB.TextBox", without those that containers give to all
-/// controls. Empty for an unknown class.
+/// The usual properties of a class such as "VB.TextBox", without the properties that containers
+/// add to all controls. Empty for an unknown class.
 std::span<const UsualProperty> UsualPropertiesOf(TextView className);
 
 /// Returns the property that has the same meaning in every class, or null if there is none of this

@@ -8,9 +8,7 @@
 #include <olectl.h>
 
 #include "tests/ole/clients/support/com.h"
-
-// The automation library exports this function, but no header declares it.
-extern "C" void WINAPI SetOaNoCache();
+#include "tests/ole/string_cache.h"
 
 namespace lumenkit::clients {
 

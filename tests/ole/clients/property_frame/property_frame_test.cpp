@@ -44,21 +44,22 @@ HWND EditWith(HWND page, const std::wstring& text) {
     return found == edits.end() ? nullptr : *found;
 }
 
+struct Search {
+    const wchar_t* text;
+    HWND found;
+};
+
+BOOL CALLBACK FindText(HWND window, LPARAM parameter) {
+    auto& search = *reinterpret_cast<Search*>(parameter);
+    if (TextIn(window) == search.text) {
+        search.found = window;
+    }
+    return TRUE;
+}
+
 HWND ButtonWith(HWND page, const wchar_t* text) {
-    struct Search {
-        const wchar_t* text;
-        HWND found;
-    } search = {text, nullptr};
-    EnumChildWindows(
-        page,
-        [](HWND window, LPARAM parameter) -> BOOL {
-            auto& wanted = *reinterpret_cast<Search*>(parameter);
-            if (TextIn(window) == wanted.text) {
-                wanted.found = window;
-            }
-            return TRUE;
-        },
-        reinterpret_cast<LPARAM>(&search));
+    Search search = {text, nullptr};
+    EnumChildWindows(page, &FindText, reinterpret_cast<LPARAM>(&search));
     return search.found;
 }
 

@@ -5,7 +5,7 @@
 set -euo pipefail
 . "$(dirname "$0")/registry.sh"
 
-"$wine" regsvr32 /s /u "Z:$server" || true # what an interrupted run left behind
+"$wine" regsvr32 /s /u "Z:$server" || true # removes the keys of an interrupted run
 dump before
 "$wine" regsvr32 /s "Z:$server"
 dump registered

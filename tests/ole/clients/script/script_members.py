@@ -1,8 +1,8 @@
 #!/usr/bin/env python3
 """script_members.py listing folder
 
-Fails unless each script in the folder uses every member of its class's interface in every way that
-the listing of the type library gives it: reads, assigns, sets, calls.
+Fails unless the scripts of each class use every member of its interface in every way that the
+listing of the type library shows: reads, assigns, sets, calls.
 """
 import pathlib
 import re
@@ -13,7 +13,7 @@ LANGUAGES = ("vbs", "js")
 
 
 def members(listing, class_name):
-    """The (kind, name) of each member of the class's dispatch interface."""
+    """Returns the (kind, name) of each member of the dispatch interface of the class."""
     section = re.search(
         rf"^\d+ dispatch _{class_name}\n(.*?)(?=^  as interface)", listing, re.S | re.M
     )
@@ -23,7 +23,7 @@ def members(listing, class_name):
 
 
 def usage(kind, object_name, member, language):
-    """What a line that uses the member so looks like."""
+    """Returns the pattern of a line that uses the member in this way."""
     call = rf"\b{object_name}\.{member}\b"
     indices = r"(?:\([^()]*\))?"
     if kind == "propput":
@@ -36,7 +36,7 @@ def usage(kind, object_name, member, language):
 
 
 def code_of(text, language):
-    """The script's lines without comments and without what is meant to fail."""
+    """Returns the lines of the script without comments and without statements that must fail."""
     comment = "'" if language == "vbs" else "//"
     lines = [line for line in text.splitlines() if not line.lstrip().startswith(comment)]
     if language == "vbs":

@@ -7,8 +7,8 @@ namespace lumenkit::clients {
 
 namespace {
 
-constexpr DWORD searchPause = 10;      // milliseconds between two searches
-constexpr UINT patience = 2000;  // milliseconds that a window may take to answer
+constexpr DWORD searchPause = 10;  // milliseconds between two searches
+constexpr UINT patience = 2000;    // milliseconds that a window may take to answer
 
 std::wstring TextIn(HWND window) {
     std::array<wchar_t, 2048> text = {};

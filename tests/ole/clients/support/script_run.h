@@ -17,7 +17,7 @@ struct ScriptRun {
 ScriptRun RunScript(const std::wstring& program, const std::wstring& arguments,
                     const std::filesystem::path& output);
 
-/// Returns what is wrong with a run; empty if nothing is. A script writes "failed: ..." for each
+/// Returns the faults of a run; empty if there are none. A script writes "failed: ..." for each
 /// check that fails, "box: VLABEL pLetFont 13" before each error box that it causes, and "all done"
 /// at the end. Without the last line, a script that breaks off would go unnoticed.
 std::vector<std::string> Complaints(const ScriptRun& run);
