@@ -32,9 +32,12 @@ target_compile_options(lumenkit_settings INTERFACE
     $<$<AND:$<CXX_COMPILER_ID:GNU>,$<VERSION_LESS:$<CXX_COMPILER_VERSION>,13>>:-Wno-restrict;-Wno-dangling-pointer>
     # clang 17 and later report that the library's own stable_sort uses what the library deprecates.
     $<$<AND:$<CXX_COMPILER_ID:Clang>,$<VERSION_GREATER_EQUAL:$<CXX_COMPILER_VERSION>,17>>:-Wno-deprecated-declarations>)
-# Collecting its garbage takes g++ a tenth of its time. This much memory, in KiB, lasts for any source.
-target_compile_options(lumenkit_settings INTERFACE
-    $<$<CXX_COMPILER_ID:GNU>:--param=ggc-min-heapsize=1000000>)
+if(PROJECT_IS_TOP_LEVEL)
+    # Collecting its garbage takes g++ a tenth of its time. This much memory, in KiB, lasts for any
+    # source; a parent may compile more of them at once than it lasts for.
+    target_compile_options(lumenkit_settings INTERFACE
+        $<$<CXX_COMPILER_ID:GNU>:--param=ggc-min-heapsize=1000000>)
+endif()
 if(CMAKE_SIZEOF_VOID_P EQUAL 4 AND CMAKE_SYSTEM_PROCESSOR MATCHES "^(i.86|x86|x86_64|AMD64)$")
     # Arithmetic of float and double that rounds each result to its type, as on all other machines.
     target_compile_options(lumenkit_settings INTERFACE -msse2 -mfpmath=sse)
