@@ -50,7 +50,7 @@ Side PerByte(std::function<void()> round, const Text& text) {
 
 // Restricts a text to limits that it does not exceed: the length of its longest line and, for texts
 // of up to a megabyte, a number of lines.
-Side Holding(std::shared_ptr<const Text> text, int lineLength) {
+Side Holding(const std::shared_ptr<const Text>& text, int lineLength) {
     const TextLimits limits = {
         .maxCharsPerLine = static_cast<std::int16_t>(lineLength + lineLength / 2),
         .maxLines = static_cast<std::int16_t>(text->size() <= megabyte ? 32767 : 0)};
@@ -65,7 +65,7 @@ Side Holding(std::shared_ptr<const Text> text, int lineLength) {
         *text);
 }
 
-Side Copying(std::shared_ptr<const Text> text) {
+Side Copying(const std::shared_ptr<const Text>& text) {
     return PerByte(
         [text, copy = std::make_shared<Text>(*text)] {
             std::memcpy(copy->data(), text->data(), text->size() * sizeof(char16_t));
@@ -74,7 +74,7 @@ Side Copying(std::shared_ptr<const Text> text) {
         *text);
 }
 
-Side Searching(std::shared_ptr<const Text> text) {
+Side Searching(const std::shared_ptr<const Text>& text) {
     return PerByte(
         [text] {
             std::size_t lines = 0;

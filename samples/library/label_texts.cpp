@@ -55,14 +55,14 @@ void PrintLabels(const forms::Document& document) {
 
 int main(int count, char** arguments) {
     if (count != 2) {
-        std::fputs("usage: label_texts FORM\n", stderr);
+        static_cast<void>(std::fputs("usage: label_texts FORM\n", stderr));
         return 2;
     }
     try {
         PrintLabels(forms::Load(arguments[1]));
         return 0;
     } catch (const std::exception& error) {
-        std::fprintf(stderr, "label_texts: %s\n", error.what());
+        static_cast<void>(std::fprintf(stderr, "label_texts: %s\n", error.what()));
         return 1;
     }
 }

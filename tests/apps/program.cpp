@@ -66,7 +66,7 @@ Outcome RunOnTerminal(const std::string& arguments, const std::string& variables
 }
 
 std::string FileWith(const std::string& bytes) {
-    const std::string path = PathOf("caption.txt");
+    std::string path = PathOf("caption.txt");
     Write(path, bytes);
     return path;
 }

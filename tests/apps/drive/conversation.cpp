@@ -45,6 +45,7 @@ Conversation::Conversation() {
     fromProgram_ = out[0];
 }
 
+// NOLINTNEXTLINE(bugprone-exception-escape): a program that does not end fails the test anyway
 Conversation::~Conversation() {
     if (toProgram_ >= 0) {
         End();

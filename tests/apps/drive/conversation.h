@@ -12,7 +12,7 @@ class Conversation {
  public:
     /// Starts "lumenkit drive".
     Conversation();
-    ~Conversation();
+    ~Conversation();  // NOLINT(bugprone-exception-escape)
     Conversation(const Conversation&) = delete;
     Conversation& operator=(const Conversation&) = delete;
 

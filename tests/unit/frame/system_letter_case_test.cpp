@@ -3,8 +3,8 @@
 #include <type_traits>
 
 #include <gmock/gmock.h>
-#include <locale.h>
-#include <wctype.h>
+#include <locale.h>  // NOLINT(modernize-deprecated-headers): newlocale is not in <clocale>
+#include <wctype.h>  // NOLINT(modernize-deprecated-headers): towlower_l is not in <cwctype>
 
 #include "frame/text.h"
 

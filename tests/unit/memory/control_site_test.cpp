@@ -25,7 +25,7 @@ TEST_F(MemoryControlSite, LogsWhatItSawInOrder) {
     site_.PropertyChanged(u"Caption");
     site_.RaiseEvent(sample_event::change, {});
 
-    ASSERT_EQ(log_.Entries().size(), 3u);
+    ASSERT_EQ(log_.Entries().size(), 3U);
     const auto& raised = std::get<RaisedEvent>(log_.Entries()[0]);
     EXPECT_EQ(raised.control, u"Sample1");
     EXPECT_EQ(raised.name, u"KeyPress");
@@ -33,8 +33,8 @@ TEST_F(MemoryControlSite, LogsWhatItSawInOrder) {
     EXPECT_EQ(std::get<ChangedProperty>(log_.Entries()[1]),
               (ChangedProperty{.control = u"Sample1", .name = u"Caption"}));
     EXPECT_EQ(std::get<RaisedEvent>(log_.Entries()[2]).name, u"Change");
-    EXPECT_EQ(log_.Events().size(), 2u);
-    EXPECT_EQ(log_.Changes().size(), 1u);
+    EXPECT_EQ(log_.Events().size(), 2U);
+    EXPECT_EQ(log_.Changes().size(), 1U);
     log_.Clear();
     EXPECT_TRUE(log_.Entries().empty());
 }

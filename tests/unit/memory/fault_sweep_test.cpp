@@ -75,10 +75,10 @@ TEST(FaultSweep, OneNamedCallFails) {
     Form form(testing::SampleClasses());
     const auto control = PlaceControl(form, u"Sample");
     form.Faults().FailCall(u"Surface.Print", 2, ErrorNumber::OutOfMemory);
-    EXPECT_EQ(control->Paint().Size(), 3u);
-    EXPECT_EQ(control->Paint().Size(), 2u) << "all but the text";
-    EXPECT_EQ(form.GetLog().Messages().size(), 1u);
-    EXPECT_EQ(control->Paint().Size(), 3u);
+    EXPECT_EQ(control->Paint().Size(), 3U);
+    EXPECT_EQ(control->Paint().Size(), 2U) << "all but the text";
+    EXPECT_EQ(form.GetLog().Messages().size(), 1U);
+    EXPECT_EQ(control->Paint().Size(), 3U);
 }
 
 }  // namespace

@@ -54,14 +54,14 @@ TEST_F(MemoryPlacedControl, SavesWhatIsNoDefault) {
     control->Automation().Let(u"Caption", Text(u"other"));
     form_.AmbientFont().SetSize(20);
     const PropertyBag bag = control->Save();
-    ASSERT_EQ(bag.Entries().size(), 2u);
+    ASSERT_EQ(bag.Entries().size(), 2U);
     EXPECT_EQ(bag.Entries()[0], (PropertyBag::Entry{u"Caption", Text(u"other")}));
     EXPECT_EQ(bag.Entries()[1].first, u"Font");
 }
 
 TEST_F(MemoryPlacedControl, PaintsOnRequest) {
     const auto control = PlaceControl(form_, u"Sample");
-    EXPECT_EQ(control->Drawing().Drawn().Size(), 0u);
+    EXPECT_EQ(control->Drawing().Drawn().Size(), 0U);
     const std::vector<DisplayItem> expected = {
         ClsItem{},
         BoxItem{.x1 = 15, .y1 = 15, .x2 = 30, .y2 = 45, .color = Color::ButtonText},
@@ -76,7 +76,7 @@ TEST_F(MemoryPlacedControl, PaintsOnRequest) {
     EXPECT_EQ(control->Paint().Items(), expected);
     control->Hide();
     control->Paint();
-    EXPECT_EQ(CallsOf(*control).size(), 4u + 2u);
+    EXPECT_EQ(CallsOf(*control).size(), 4U + 2U);
 }
 
 TEST_F(MemoryPlacedControl, ResizesItsConstituents) {
@@ -108,7 +108,7 @@ TEST_F(MemoryPlacedControl, FindsConstituentsByName) {
 TEST_F(MemoryPlacedControl, LogsMessagesAndBeeps) {
     const auto control = PlaceControl(form_, u"Sample");
     control->Automation().Call(u"Ask");
-    ASSERT_EQ(form_.GetLog().Entries().size(), 2u);
+    ASSERT_EQ(form_.GetLog().Entries().size(), 2U);
     EXPECT_TRUE(std::holds_alternative<HeardBeep>(form_.GetLog().Entries()[0]));
     EXPECT_EQ(std::get<ShownMessage>(form_.GetLog().Entries()[1]),
               (ShownMessage{.text = u"Sure?", .title = std::nullopt}));
@@ -124,7 +124,7 @@ TEST_F(MemoryPlacedControl, AnEventHandlerMayCallTheControlAgain) {
     User user(form_);
     EXPECT_TRUE(user.Type(control->Parts().Get<TextBox>(u"Text1"), u"x"));
     EXPECT_EQ(control->Automation().Get(u"Caption"), Value(Text(u"from the event")));
-    ASSERT_EQ(form_.GetLog().Changes().size(), 1u);
+    ASSERT_EQ(form_.GetLog().Changes().size(), 1U);
     EXPECT_EQ(form_.GetLog().Changes()[0]->name, u"Caption");
 }
 

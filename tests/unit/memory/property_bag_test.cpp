@@ -22,7 +22,7 @@ TEST(MemoryPropertyBag, KeepsTypesAndOrder) {
     bag.WriteProperty(u"Zebra", std::int16_t{3}, std::int16_t{0});
     bag.WriteProperty(u"Ant", true, false);
     bag.WriteProperty(u"ZEBRA", std::int32_t{4}, std::int32_t{0});
-    ASSERT_EQ(bag.Entries().size(), 2u);
+    ASSERT_EQ(bag.Entries().size(), 2U);
     EXPECT_EQ(bag.Entries()[0], (PropertyBag::Entry{u"Zebra", std::int32_t{4}}));
     EXPECT_EQ(bag.Entries()[1], (PropertyBag::Entry{u"Ant", true}));
     EXPECT_EQ(bag.ReadProperty(u"ant", false), Value(true));

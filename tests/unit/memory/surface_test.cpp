@@ -44,7 +44,7 @@ TEST_F(MemorySurface, StartsInTheDocumentedState) {
     EXPECT_EQ(surface_.ScaleWidth(), 3000);
     EXPECT_EQ(surface_.ScaleHeight(), 1500);
     EXPECT_TRUE(std::isinf(surface_.VisibleBottom()));
-    EXPECT_EQ(surface_.Drawn().Size(), 0u);
+    EXPECT_EQ(surface_.Drawn().Size(), 0U);
 }
 
 TEST_F(MemorySurface, RecordsWhatIsDrawnWithWhat) {
@@ -111,7 +111,7 @@ TEST_F(MemorySurface, MeasuresInTheCurrentFont) {
 TEST_F(MemorySurface, ANewBackColorClearsWhatIsDrawn) {
     surface_.Print(u"x");
     surface_.SetBackColor(Color::WindowBackground);
-    EXPECT_EQ(surface_.Drawn().Size(), 0u);
+    EXPECT_EQ(surface_.Drawn().Size(), 0U);
 }
 
 TEST_F(MemorySurface, RefreshPaintsWhereNothingIsKeptAndTheControlShows) {
@@ -121,12 +121,12 @@ TEST_F(MemorySurface, RefreshPaintsWhereNothingIsKeptAndTheControlShows) {
     surface_.Print(u"old");
     surface_.Refresh();
     EXPECT_EQ(control_.paints, 1);
-    EXPECT_EQ(surface_.Drawn().Size(), 0u) << "a repaint starts from an erased surface";
+    EXPECT_EQ(surface_.Drawn().Size(), 0U) << "a repaint starts from an erased surface";
     surface_.SetAutoRedraw(true);
     surface_.Print(u"kept");
     surface_.Refresh();
     EXPECT_EQ(control_.paints, 1);
-    EXPECT_EQ(surface_.Drawn().Size(), 1u);
+    EXPECT_EQ(surface_.Drawn().Size(), 1U);
 }
 
 TEST_F(MemorySurface, ANewSizeResizesTheControl) {
@@ -142,7 +142,7 @@ TEST_F(MemorySurface, ANewSizeResizesTheControl) {
 TEST_F(MemorySurface, AFailingCallDoesNothing) {
     faults_->FailCall(u"Surface.Print", 1, ErrorNumber::OutOfMemory);
     EXPECT_TRUE(testing::Raises(ErrorNumber::OutOfMemory, [&] { surface_.Print(u"x"); }));
-    EXPECT_EQ(surface_.Drawn().Size(), 0u);
+    EXPECT_EQ(surface_.Drawn().Size(), 0U);
     EXPECT_EQ(surface_.CurrentX(), 0);
 }
 

@@ -225,7 +225,7 @@ TEST_F(MemoryUser, ALockedBoxGetsKeysButNoEdits) {
     EXPECT_TRUE(user_.Type(*box, u"x\b\r"));
     EXPECT_FALSE(user_.Paste(*box, u"x"));
     EXPECT_EQ(box->Contents(), u"abc");
-    EXPECT_EQ(recorder_.lines.size(), 9u);
+    EXPECT_EQ(recorder_.lines.size(), 9U);
 }
 
 TEST_F(MemoryUser, MouseAndClicksReachTheBox) {
@@ -292,7 +292,7 @@ TEST_F(MemoryUserOnAControl, ClicksAnOptionButton) {
     EXPECT_TRUE(user_.Click(button));
     EXPECT_TRUE(user_.Click(button));
     EXPECT_TRUE(button.IsSelected());
-    ASSERT_EQ(form_.GetLog().Events().size(), 1u);
+    ASSERT_EQ(form_.GetLog().Events().size(), 1U);
     EXPECT_EQ(form_.GetLog().Events()[0]->arguments, std::vector<Value>{std::int16_t{1}});
 }
 
@@ -323,7 +323,7 @@ TEST_F(MemoryUserOnAControl, UsesTheSurface) {
     EXPECT_TRUE(user_.Mouse(*control_, MouseAction::Up, {.button = 2, .x = 1.5F}));
     EXPECT_EQ(sample_.calls,
               (std::vector<std::string>{"Click", "DblClick", "MouseDown", "MouseMove", "MouseUp"}));
-    ASSERT_EQ(form_.GetLog().Events().size(), 1u);
+    ASSERT_EQ(form_.GetLog().Events().size(), 1U);
     EXPECT_EQ(form_.GetLog().Events()[0]->arguments, (std::vector<Value>{std::int16_t{2}, 1.5F}));
     control_->Drawing().SetEnabled(false);
     EXPECT_FALSE(user_.Click(*control_));

@@ -420,6 +420,7 @@ TEST(ValueThatCannotBeCopied, LeavesNothingBehind) {
     const Value value = Text(100, u'x');
     const std::int64_t live = LiveAllocations();
     FailAllocation(1);
+    // NOLINTNEXTLINE(performance-unnecessary-copy-initialization): copying is what throws
     EXPECT_THROW(const Value copy(value), std::bad_alloc);
     FailAllocation(0);
     EXPECT_EQ(LiveAllocations(), live);

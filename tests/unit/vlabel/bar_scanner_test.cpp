@@ -37,7 +37,7 @@ TEST(BarScanner, FindsABarAtEveryPlaceFromEveryStart) {
 TEST(BarScanner, FindsAllBars) {
     EXPECT_THAT(BarsOf(u""), IsEmpty());
     EXPECT_THAT(BarsOf(u"ab|||cd|"), ElementsAre(2, 3, 4, 7));
-    EXPECT_EQ(BarsOf(Text(1000, u'|')).size(), 1000u);
+    EXPECT_EQ(BarsOf(Text(1000, u'|')).size(), 1000U);
 }
 
 TEST(BarScanner, LooksIntoLaterBlocks) {
@@ -48,10 +48,10 @@ TEST(BarScanner, LooksIntoLaterBlocks) {
 TEST(BarScanner, MaySkipAhead) {
     const Text text = u"|" + Text(100, u'|') + Text(100, u'x') + u"|";
     BarScanner bars(text);
-    EXPECT_EQ(bars.Next(0), 0u);
-    EXPECT_EQ(bars.Next(90), 90u);
-    EXPECT_EQ(bars.Next(90), 90u);
-    EXPECT_EQ(bars.Next(150), 201u);
+    EXPECT_EQ(bars.Next(0), 0U);
+    EXPECT_EQ(bars.Next(90), 90U);
+    EXPECT_EQ(bars.Next(90), 90U);
+    EXPECT_EQ(bars.Next(150), 201U);
     EXPECT_EQ(bars.Next(text.size()), text.size());
 }
 
@@ -60,7 +60,7 @@ TEST(BarScanner, TakesNoOtherUnitForABar) {
     for (int unit = 0; unit <= 0xFFFF; ++unit) {
         if (unit != u'|') {
             const Text text(17, static_cast<char16_t>(unit));
-            ASSERT_EQ(BarScanner(text).Next(0), 17u) << unit;
+            ASSERT_EQ(BarScanner(text).Next(0), 17U) << unit;
         }
     }
 }

@@ -88,7 +88,7 @@ TEST_F(CaptionCompilerTest, LineBreaksOfTheTextArePlainText) {
 
 TEST_F(CaptionCompilerTest, CaptionOf302LinesCompilesToTheFirst301Only) {
     compiler_.CompileCaption(Repeated(u"x|CR|", 300) + u"301|CR|302 |b:1|");
-    ASSERT_EQ(Lines().size(), 301u);
+    ASSERT_EQ(Lines().size(), 301U);
     EXPECT_EQ(Lines()[300], u"301");
     EXPECT_THAT(Names(), IsEmpty());
     EXPECT_THAT(Messages(), IsEmpty());
@@ -96,7 +96,7 @@ TEST_F(CaptionCompilerTest, CaptionOf302LinesCompilesToTheFirst301Only) {
 
 TEST_F(CaptionCompilerTest, CaptionOf301LinesCompilesToAllOfThem) {
     compiler_.CompileCaption(Repeated(u"x|CR|", 300) + u"last");
-    ASSERT_EQ(Lines().size(), 301u);
+    ASSERT_EQ(Lines().size(), 301U);
     EXPECT_EQ(Lines()[300], u"last");
 }
 
@@ -329,7 +329,7 @@ TEST_F(CaptionCompilerTest, BeforeBeyondSinglePrecisionKeepsTheValueSoFar) {
 TEST_F(CaptionCompilerTest, NumberBeyondItsRangeIsReported) {
     compiler_.CompileCaption(u"|size:1E400||size:&HFFFFFFFFF||before:1E400||size:10|");
     EXPECT_THAT(Params(), ElementsAre(u" 10"));
-    EXPECT_EQ(Messages().size(), 3u);
+    EXPECT_EQ(Messages().size(), 3U);
 }
 
 TEST_F(CaptionCompilerTest, CaptionOf32767UnitsCompiles) {
@@ -385,13 +385,13 @@ TEST_F(CaptionCompilerTest, UnterminatedCommandNeedsAPositionBehindIt) {
 // A command that was removed earlier in the line no longer counts.
 TEST_F(CaptionCompilerTest, UnterminatedCommandCountsFromTheShortenedLine) {
     compiler_.CompileCaption(u"|b:1||" + Text(32761, u'x'));
-    EXPECT_EQ(Names().size(), 2u);
+    EXPECT_EQ(Names().size(), 2U);
     EXPECT_THAT(Messages(), IsEmpty());
 }
 
 TEST_F(CaptionCompilerTest, LinesWithinReachOfALongerCaptionCompile) {
     compiler_.CompileCaption(Repeated(u"x|CR|", 301) + Text(40000, u'x'));
-    EXPECT_EQ(Lines().size(), 301u);
+    EXPECT_EQ(Lines().size(), 301U);
     EXPECT_THAT(Messages(), IsEmpty());
 }
 
@@ -403,10 +403,10 @@ TEST_F(CaptionCompilerTest, UsedAgainItAllocatesNothing) {
         99);
     compiler_.CompileCaption(caption);
     const std::int64_t before = testing::AllocationCount();
-    ASSERT_GT(before, 0u);
+    ASSERT_GT(before, 0U);
     compiler_.CompileCaption(caption);
     EXPECT_EQ(testing::AllocationCount(), before);
-    EXPECT_EQ(Lines().size(), 100u);
+    EXPECT_EQ(Lines().size(), 100U);
 }
 
 }  // namespace

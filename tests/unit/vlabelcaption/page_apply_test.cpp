@@ -31,7 +31,7 @@ class PageApply : public ::testing::Test {
             return false;
         }
         const memory::Log& log = page_.Form().GetLog();
-        EXPECT_EQ(log.Entries().size(), 2u);
+        EXPECT_EQ(log.Entries().size(), 2U);
         EXPECT_TRUE(std::holds_alternative<memory::HeardBeep>(log.Entries().front()));
         EXPECT_EQ(*log.Messages().at(0),
                   (memory::ShownMessage{.text = u"Illegal indent. Must be 0 to 9999",

@@ -86,7 +86,7 @@ TEST_F(PageErrors, WhatTheControlRaisesWhenAssignedReachesTheHost) {
                 ElementsAre("let BulletPrefix String * ", "let BulletIndent Integer 240"));
     edited_->StopFailing();
     page_.Page().Apply();
-    EXPECT_EQ(edited_->TakeLog().size(), 4u);
+    EXPECT_EQ(edited_->TakeLog().size(), 4U);
     ExpectUsable();
 }
 

@@ -67,15 +67,15 @@ TEST_F(PageKeys, EnterASeparatorForEnter) {
     Show(u"ab", 1);
     Press(enterKey);
     EXPECT_EQ(Shown(), "a|CR|b 5-5");
-    EXPECT_EQ(Beeps(), 0u);
+    EXPECT_EQ(Beeps(), 0U);
 }
 
 TEST_F(PageKeys, BeepForEnterWithASelection) {
     Show(u"ab", 0, 1);
     Press(enterKey);
     EXPECT_EQ(Shown(), "ab 0-1");
-    EXPECT_EQ(Beeps(), 1u);
-    EXPECT_EQ(page_.Form().GetLog().Entries().size(), 1u);
+    EXPECT_EQ(Beeps(), 1U);
+    EXPECT_EQ(page_.Form().GetLog().Entries().size(), 1U);
 }
 
 TEST_F(PageKeys, EnterAQuoteForADoubleQuote) {
@@ -169,7 +169,7 @@ TEST_F(PageKeyCodes, DoWhatTheTableSaysWithNothingSelected) {
             ASSERT_EQ(outcome.shown, number == 19 ? "ab cd 1-5" : "ab cd 1-1") << number;
             ASSERT_EQ(outcome.code, code) << number;
         }
-        ASSERT_EQ(outcome.beeps, 0u) << number;
+        ASSERT_EQ(outcome.beeps, 0U) << number;
     }
 }
 
@@ -181,7 +181,7 @@ TEST_F(PageKeyCodes, DoWhatTheTableSaysWithASelection) {
         if (number == 13) {
             EXPECT_EQ(outcome.shown, "ab cd| 0-2");
             EXPECT_EQ(outcome.code, 0);
-            EXPECT_EQ(outcome.beeps, 1u);
+            EXPECT_EQ(outcome.beeps, 1U);
             continue;
         }
         if (key != KeyTable().end()) {
@@ -192,7 +192,7 @@ TEST_F(PageKeyCodes, DoWhatTheTableSaysWithASelection) {
             ASSERT_EQ(outcome.shown, number == 19 ? "ab cd| 3-5" : "ab cd| 0-2") << number;
             ASSERT_EQ(outcome.code, code) << number;
         }
-        ASSERT_EQ(outcome.beeps, 0u) << number;
+        ASSERT_EQ(outcome.beeps, 0U) << number;
     }
 }
 
@@ -212,7 +212,7 @@ TEST_F(PageKeys, LeaveAllOtherKeysToTheBox) {
 TEST_F(PageKeys, AreExplainedByTheHelpButton) {
     page_.User().Click(page_.Part<memory::CommandButton>(u"cmdHelp"));
     const memory::Log& log = page_.Form().GetLog();
-    ASSERT_EQ(log.Entries().size(), 1u);
+    ASSERT_EQ(log.Entries().size(), 1U);
     EXPECT_EQ(*log.Messages().at(0),
               (memory::ShownMessage{.text = Text(MarkupKeysHelp()),
                                     .title = u"Shortcut Keys (while editing caption)",

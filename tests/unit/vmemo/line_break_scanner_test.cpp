@@ -98,14 +98,14 @@ TEST(LineBreakScannerTest, StartsAnywhere) {
 TEST(LineBreakScannerTest, SkipsLineBreaksThatLieBeforeTheStart) {
     const TextView text = u"a\r\nb\r\nc\r\nd";
     LineBreakScanner scanner(text);
-    EXPECT_EQ(scanner.Next(0), 1u);
-    EXPECT_EQ(scanner.Next(5), 7u);
+    EXPECT_EQ(scanner.Next(0), 1U);
+    EXPECT_EQ(scanner.Next(5), 7U);
     EXPECT_EQ(scanner.Next(8), text.size());
 }
 
 TEST(LineBreakScannerTest, ToleratesAStartBehindTheEnd) {
     LineBreakScanner scanner(u"a\r\n");
-    EXPECT_EQ(scanner.Next(7), 3u);
+    EXPECT_EQ(scanner.Next(7), 3U);
 }
 
 }  // namespace

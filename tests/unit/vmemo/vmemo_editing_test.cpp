@@ -26,7 +26,7 @@ class VMemoEditingTest : public ::testing::Test {
         return {memo_.Box(0).Contents(), memo_.Box(1).Contents(), memo_.Box(2).Contents(),
                 memo_.Box(3).Contents()};
     }
-    void OnEvent(TextView event, std::function<void()> act) {
+    void OnEvent(TextView event, const std::function<void()>& act) {
         memo_.Placed().Site().SetEventHandler(
             [event = Text(event), act](TextView name, std::span<Value>) {
                 if (name == event) {

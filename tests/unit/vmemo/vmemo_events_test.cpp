@@ -27,7 +27,7 @@ TEST(VMemoEventsTest, MouseEventsCarryWhatTheBoxSaid) {
     PlacedMemo memo;
     memo.User().Mouse(memo.Box(0), memory::MouseAction::Down, {1, 2, 30.5F, 40});
     const std::vector<const memory::RaisedEvent*> events = memo.Form().GetLog().Events();
-    ASSERT_EQ(events.size(), 1u);
+    ASSERT_EQ(events.size(), 1U);
     EXPECT_EQ(events[0]->name, u"MouseDown");
     EXPECT_THAT(events[0]->arguments, ElementsAre(Value(std::int16_t{1}), Value(std::int16_t{2}),
                                                   Value(30.5F), Value(40.0F)));
@@ -39,7 +39,7 @@ TEST(VMemoEventsTest, KeyEventsCarryCodeAndShift) {
     memo.TakeLog();
     memo.Type(u"A");
     const std::vector<const memory::RaisedEvent*> events = memo.Form().GetLog().Events();
-    ASSERT_EQ(events.size(), 4u);
+    ASSERT_EQ(events.size(), 4U);
     EXPECT_EQ(events[0]->name, u"KeyDown");
     EXPECT_THAT(events[0]->arguments, ElementsAre(Value(std::int16_t{65}), ::testing::_));
     EXPECT_EQ(events[1]->name, u"KeyPress");
@@ -175,7 +175,7 @@ TEST(VMemoEventsTest, AllArgumentsPassByReferenceBothWays) {
                 .application = real.application,
                 .interaction = real.interaction,
                 .constituents = constituents});
-    ASSERT_EQ(constituents.boxes.size(), 4u);
+    ASSERT_EQ(constituents.boxes.size(), 4U);
     placed.Placed().Site().SetEventHandler([](TextView, std::span<Value> arguments) {
         for (Value& argument : arguments) {
             argument = ToDouble(argument) + 1;

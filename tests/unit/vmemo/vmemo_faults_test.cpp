@@ -128,7 +128,7 @@ std::string Reporter(PlacedMemo& memo, const Operation& operation) {
             reports.push_back(line.substr(prefix.size()));
         }
     }
-    EXPECT_EQ(reports.size(), 1u);
+    EXPECT_EQ(reports.size(), 1U);
     return reports.empty() ? "nobody" : reports.front();
 }
 

@@ -112,12 +112,12 @@ TEST_F(VMemoPropertiesTest, RefreshRepaintsTheActiveBoxOnly) {
 
 TEST_F(VMemoPropertiesTest, TestMessageEndsInTheErrorReport) {
     memo_->TestMessage();
-    ASSERT_EQ(memo_.Form().GetLog().Messages().size(), 1u);
+    ASSERT_EQ(memo_.Form().GetLog().Messages().size(), 1U);
     EXPECT_EQ(memo_.Form().GetLog().Messages()[0]->text,
               u"Exe = lumenkit\r\nForm = VMEMO\r\nProc = TestMessage\r\nError Line =0\r\n"
               u"Error Code =11\r\nMessage: Division by zero");
     EXPECT_EQ(memo_.Form().GetLog().Messages()[0]->title, u"LUMENKIT ERROR");
-    EXPECT_EQ(memo_.Form().GetLog().BeepCount(), 1u);
+    EXPECT_EQ(memo_.Form().GetLog().BeepCount(), 1U);
 }
 
 // ---- ScrollBars

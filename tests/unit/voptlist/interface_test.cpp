@@ -28,9 +28,9 @@ std::string Access(const Member& member) {
     if (member.kind == MemberKind::Method) {
         return "method";
     }
-    const std::string assigned = member.assignment == Assignment::Set   ? "set"
-                                 : member.assignment == Assignment::Let ? "let"
-                                                                        : "";
+    std::string assigned = member.assignment == Assignment::Set   ? "set"
+                           : member.assignment == Assignment::Let ? "let"
+                                                                  : "";
     EXPECT_EQ(assigned.empty(), member.assign == nullptr);
     if (member.read == nullptr) {
         return assigned;

@@ -42,6 +42,7 @@ PropertyDelegate::PropertyDelegate(const PropertyModel& model, QObject* parent)
 
 PropertyDelegate& PropertyDelegate::Self() const {
     // Qt creates editors through a constant delegate, but their events and signals change it.
+    // NOLINTNEXTLINE(cppcoreguidelines-pro-type-const-cast)
     return const_cast<PropertyDelegate&>(*this);
 }
 
