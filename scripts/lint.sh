@@ -24,7 +24,7 @@ configure_windows() {
 
 # configure PRESET NAME [option...]
 configure() {
-    cmake --preset "$1" -B "$databases/$2" -DCMAKE_UNITY_BUILD_BATCH_SIZE=16 -DLUMENKIT_BENCH=ON \
+    cmake --preset "$1" -B "$databases/$2" -DLUMENKIT_BENCH=ON \
         -DCMAKE_DISABLE_PRECOMPILE_HEADERS=ON "${@:3}" >/dev/null
     copy_settings "$2"
 }
