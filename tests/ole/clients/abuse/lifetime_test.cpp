@@ -173,7 +173,7 @@ TEST_F(Lifetime, LeftoversAreNoticed) {
 TEST_F(Lifetime, TenThousandControlsLeaveNothingBehind) {
     // The server stays loaded, so that the data it keeps for all controls does not count as a leak.
     const ComPtr<IDispatch> first = Create(controls[0]);
-    for (int round = 0; round < 30; ++round) {
+    for (std::size_t round = 0; round < 30; ++round) {
         Live(controls[round % 3], true);
     }
     RunMessages();
@@ -181,7 +181,7 @@ TEST_F(Lifetime, TenThousandControlsLeaveNothingBehind) {
     const int windows = Windows();
     const int drawingObjects = FreeDrawingObjects();
     ASSERT_EQ(CoRegisterMallocSpy(&spy), S_OK);
-    for (int round = 0; round < 10000 && !HasFailure(); ++round) {
+    for (std::size_t round = 0; round < 10000 && !HasFailure(); ++round) {
         Live(controls[round % 3], round % 10 == 0);
     }
     RunMessages();
@@ -192,7 +192,7 @@ TEST_F(Lifetime, TenThousandControlsLeaveNothingBehind) {
 }
 
 TEST_F(Lifetime, TheServerIsUnloadedAndLoadedAgain) {
-    for (int round = 0; round < 5; ++round) {
+    for (std::size_t round = 0; round < 5; ++round) {
         {
             const ComPtr<IDispatch> object = Create(controls[round % 3]);
             ComPtr<IDispatch> page = Create(L"lumenkit.VLabelCaption");

@@ -203,7 +203,7 @@ TEST_F(Documents, RichTextShowsItAsAnObject) {
         const ComPtr<IStorage> storage = NewStorage();
         REOBJECT inserted = {};
         inserted.cbStruct = sizeof inserted;
-        inserted.cp = REO_CP_SELECTION;
+        inserted.cp = static_cast<LONG>(REO_CP_SELECTION);
         inserted.poleobj = object.Get();
         inserted.pstg = storage.Get();
         inserted.polesite = site.Get();

@@ -5,7 +5,7 @@
 namespace lumenkit::clients {
 
 Picture::Picture(int width, int height)
-    : width_(width), height_(height), device_(CreateCompatibleDC(nullptr)), bitmap_(), former_() {
+    : width_(width), height_(height), device_(CreateCompatibleDC(nullptr)) {
     BITMAPINFO format = {};
     format.bmiHeader = {sizeof format.bmiHeader, width, -height, 1, 32, BI_RGB, 0, 0, 0, 0, 0};
     void* pixels = nullptr;

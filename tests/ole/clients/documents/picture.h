@@ -23,8 +23,8 @@ class Picture {
     int width_;
     int height_;
     HDC device_;
-    HBITMAP bitmap_;
-    HGDIOBJ former_;
+    HBITMAP bitmap_ = nullptr;
+    HGDIOBJ former_ = nullptr;
     DWORD* pixels_ = nullptr;
 };
 

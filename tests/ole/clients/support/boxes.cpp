@@ -97,8 +97,7 @@ std::wstring ErrorIn(const Box& box) {
     return complete ? *form + L" " + *procedure + L" " + *number : std::wstring();
 }
 
-BoxCloser::BoxCloser()
-    : end_(CreateEventW(nullptr, TRUE, FALSE, nullptr)), thread_(nullptr), lock_() {
+BoxCloser::BoxCloser() : end_(CreateEventW(nullptr, TRUE, FALSE, nullptr)), lock_() {
     InitializeCriticalSection(&lock_);
     thread_ = CreateThread(nullptr, 0, &Run, this, 0, nullptr);
 }

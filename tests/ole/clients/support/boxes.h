@@ -39,7 +39,7 @@ class BoxCloser {
     static DWORD WINAPI Run(void* self);
 
     HANDLE end_;
-    HANDLE thread_;
+    HANDLE thread_ = nullptr;
     CRITICAL_SECTION lock_;
     std::vector<std::wstring> errors_;
 };

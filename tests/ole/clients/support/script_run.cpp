@@ -99,7 +99,7 @@ std::vector<std::string> Complaints(const ScriptRun& run) {
         }
     }
     if (run.lines.empty() || run.lines.back() != "all done") {
-        complaints.push_back("broke off");
+        complaints.emplace_back("broke off");
     }
     if (run.exitCode != 0) {
         complaints.push_back("ended with " + std::to_string(run.exitCode));
