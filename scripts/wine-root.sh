@@ -129,7 +129,8 @@ ensure_root() {
     exec 8>&-
 }
 
-# What is mounted where: this /usr, all else from the machine. A line has kind, source and place.
+# Prints the mounts of the view: /usr from the root, all other folders from the machine. Each line has
+# the kind (bind or link), the source and the place, separated by tabs.
 places() {
     local place
     printf 'bind\t%s\t/usr\n' "$root/usr"
