@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# What a release must pass besides scripts/test.sh. Fails at the first step that does not hold.
+# What a release must pass in addition to scripts/test.sh. Stops at the first step that fails.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 source scripts/steps.sh
@@ -27,20 +27,14 @@ diff <(names mingw-x64) <(names mingw-x86)
 echo "$(names mingw-x86 | wc -l) tests each"
 
 step "Sanitized build, beside the tests for x86 under Wine"
-trap 'scripts/wine.sh --end' EXIT
-wine_log=build/mingw-x86/test.log
-ctest --preset mingw-x86 -j "$(nproc)" >"$wine_log" 2>&1 &
-wine_tests=$!
+begin_wine_tests mingw-x86
 scripts/build.sh native-asan
 
 step "Sanitized tests"
 ctest --preset native-asan -j "$(nproc)"
 
 step "Tests for x86: the rest of them"
-wine_status=0
-wait "$wine_tests" || wine_status=$?
-cat "$wine_log"
-[ "$wine_status" -eq 0 ] || exit "$wine_status"
+end_wine_tests
 
 step "Fuzzing, 30 seconds a target"
 scripts/fuzz.sh --short

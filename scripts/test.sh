@@ -1,11 +1,11 @@
 #!/usr/bin/env bash
-# What a change must pass: all tests, native and for Windows. Fails at the first step that does not.
-# scripts/prove.sh does what a release needs besides.
+# What a change must pass: all tests, native and for Windows. Stops at the first step that fails.
+# A release must also pass scripts/prove.sh.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 source scripts/steps.sh
 
-# The server for the other kind of processor is scripts/prove.sh's.
+# The server for the other bitness is tested by scripts/prove.sh.
 windows=mingw-x64
 [ "$(dpkg --print-architecture)" != i386 ] || windows=mingw-x86
 
@@ -26,21 +26,14 @@ python3 scripts/check_docs.py
 step "Build for Windows ($windows)"
 scripts/build.sh "$windows"
 
-# Programs for Windows share one processor and mostly wait, so the compiler has the rest.
 step "Native build, beside the tests under Wine"
-trap 'scripts/wine.sh --end' EXIT
-wine_log=build/$windows/test.log
-ctest --preset "$windows" -j "$(nproc)" >"$wine_log" 2>&1 &
-wine_tests=$!
+begin_wine_tests "$windows"
 scripts/build.sh native
 
 step "Native tests"
 ctest --preset native -j "$(nproc)"
 
 step "Tests under Wine: the rest of them"
-wine_status=0
-wait "$wine_tests" || wine_status=$?
-cat "$wine_log"
-[ "$wine_status" -eq 0 ] || exit "$wine_status"
+end_wine_tests
 
 all_steps_done

@@ -85,7 +85,7 @@ set_up() {
     } >"$1/i386-windows/zlib1.dll"
 }
 
-# Not by halves: errors do not end a function whose result is asked for.
+# Commands are joined by &&: in a function whose status is tested, set -e has no effect.
 make_root() {
     local work=$1/work package
     rm -rf "$1"

@@ -101,7 +101,7 @@ EOF
     fi
 }
 
-# Not by halves: errors do not end a function whose result is asked for.
+# Commands are joined by &&: in a function whose status is tested, set -e has no effect.
 make_prefix() {
     local quiet=(xvfb-run -a)
     [ -n "$screen" ] || quiet=()

@@ -230,7 +230,7 @@ void ControlCore::Move(const RECT& place) {
     if (activation_.IsActive()) {
         ComPtr<IOleInPlaceSite>(activation_.InPlaceSite())->OnPosRectChange(&place);
     } else {
-        RequestSize(SizeOf(place));
+        RequestSize(win32::SizeOf(place));
     }
 }
 

@@ -32,9 +32,6 @@ class Extent {
     SIZEL himetric_;
 };
 
-inline SIZE SizeOf(const RECT& place) {
-    return {place.right - place.left, place.bottom - place.top};
-}
 inline bool SameSize(const SIZE& left, const SIZE& right) {
     return left.cx == right.cx && left.cy == right.cy;
 }

@@ -4,14 +4,6 @@
 
 namespace lumenkit::win32 {
 
-namespace {
-
-SIZE SizeOf(const RECT& place) {
-    return {place.right - place.left, place.bottom - place.top};
-}
-
-}  // namespace
-
 EmbeddedControl::EmbeddedControl(const Owner& owner, const host::Design& design,
                                  const ClassDescriptor& type, bool userMode)
     : owner_(owner.window.Handle()),

@@ -37,10 +37,6 @@ bool IsEmpty(SIZE size) {
     return size.cx <= 0 || size.cy <= 0;
 }
 
-SIZE SizeOf(const RECT& box) {
-    return {box.right - box.left, box.bottom - box.top};
-}
-
 class ScreenDevice {
  public:
     ScreenDevice() : device_(GetDC(nullptr)) {}

@@ -14,6 +14,10 @@ struct Resolution {
     static Resolution OfScreen();
 };
 
+inline SIZE SizeOf(const RECT& box) {
+    return {box.right - box.left, box.bottom - box.top};
+}
+
 inline constexpr int twipsPerInch = 1440;
 
 /// Rounds to the nearest whole pixel in the platform's range. Returns 0 for a NaN.
