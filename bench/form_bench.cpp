@@ -28,7 +28,7 @@ using lumenkit::bench::QtStage;
 using lumenkit::bench::Ratio;
 using lumenkit::bench::Side;
 using lumenkit::bench::StageWindow;
-namespace form = lumenkit::form;
+namespace lumenform = lumenkit::lumenform;
 namespace forms = lumenkit::forms;
 namespace host = lumenkit::host;
 
@@ -94,7 +94,8 @@ std::unique_ptr<QWidget> NewPlainForm(QWidget* window) {
 Side OpeningForm(QtStage& stage) {
     return {[&stage, text = FormText(), window = std::make_shared<StageWindow>()] {
                 forms::Document document = ParseForm(text);
-                form::FormView view(stage.Context(), document, form::Mode::Run, window.get());
+                lumenform::FormView view(stage.Context(), document, lumenform::Mode::Run,
+                                         window.get());
                 view.show();
                 QApplication::processEvents();
             },
@@ -117,7 +118,7 @@ constexpr int distance = 80;
 class Dragged {
  public:
     explicit Dragged(QtStage& stage) : design_(stage.Context(), ParseForm(FormText())) {
-        auto* const canvas = new form::Canvas(design_);
+        auto* const canvas = new lumenform::Canvas(design_);
         auto* const layout = new QVBoxLayout(&window_);
         layout->setContentsMargins(0, 0, 0, 0);
         layout->addWidget(canvas);
@@ -140,9 +141,9 @@ class Dragged {
         QApplication::sendEvent(glass_, &event);
     }
 
-    form::Design design_;
+    lumenform::Design design_;
     StageWindow window_;
-    form::Glass* glass_;
+    lumenform::Glass* glass_;
     QPoint start_;
 };
 

@@ -17,8 +17,8 @@
 #include "bench/ratio_table.h"
 #include "frame/utf8.h"
 #include "runtime/memory/form.h"
+#include "runtime/memory/hosted_control.h"
 #include "runtime/memory/metrics.h"
-#include "runtime/memory/placed_control.h"
 #include "vlabel/vlabel.h"
 #include "vlabel/vlabel_interface.h"
 
@@ -68,7 +68,7 @@ class PlacedLabel {
 
  private:
     memory::Form form_{classes};
-    memory::PlacedControl placed_{form_, lumenkit::vlabelClass, {.isLogged = false}};
+    memory::HostedControl placed_{form_, lumenkit::vlabelClass, {.isLogged = false}};
 };
 
 std::shared_ptr<PlacedLabel> NewLabel(const Text& caption) {

@@ -10,7 +10,7 @@
 #include "bench/ratio_table.h"
 #include "frame/numbers.h"
 #include "runtime/memory/form.h"
-#include "runtime/memory/placed_control.h"
+#include "runtime/memory/hosted_control.h"
 #include "voptlist/contents.h"
 #include "voptlist/voptlist.h"
 #include "voptlist/voptlist_interface.h"
@@ -51,7 +51,7 @@ class PlacedList {
 
  private:
     memory::Form form_{classes};
-    memory::PlacedControl placed_{form_, lumenkit::voptlistClass, {.isLogged = false}};
+    memory::HostedControl placed_{form_, lumenkit::voptlistClass, {.isLogged = false}};
 };
 
 // Repeats short lists until a round has handled `many` items.

@@ -124,10 +124,10 @@ class Label {
     }
     void Assign(const Text& caption) { label_->Automation().Let(u"Caption", caption); }
     void LetWrap() { label_->Automation().Let(u"WordWrap", true); }
-    void PaintOn(QImage& image, const QRect& exposed) {
+    void DrawOn(QImage& image, const QRect& exposed) {
         QPainter painter(&image);
         painter.setClipRect(exposed);
-        label_->Drawing().PaintOn(painter, exposed);
+        label_->Drawing().DrawOn(painter, exposed);
     }
     QSize Size() const { return label_->size(); }
     std::vector<Drawn> Glyphs(const std::vector<StyledLine>& lines) {
@@ -136,7 +136,7 @@ class Label {
 
  private:
     StageWindow window_;
-    std::unique_ptr<qt::ControlWidget> label_;
+    std::unique_ptr<qt::HostedControl> label_;
 };
 
 std::vector<StyledLine> Lines(int count) {
@@ -149,13 +149,13 @@ Side Repaint(QtStage& stage, int count, QRect exposed = {}) {
     auto label = std::make_shared<Label>(stage, CaptionOf(Lines(count)));
     auto image = std::make_shared<QImage>(NewImage(label->Size()));
     const QRect part = exposed.isNull() ? image->rect() : exposed;
-    return {[label, image, part] { label->PaintOn(*image, part); }};
+    return {[label, image, part] { label->DrawOn(*image, part); }};
 }
 
 Side ReplayOf(QtStage& stage, int count) {
     Label label(stage, CaptionOf(Lines(count)));
     auto image = std::make_shared<QImage>(NewImage(label.Size()));
-    label.PaintOn(*image, image->rect());
+    label.DrawOn(*image, image->rect());
     const QImage painted = *image;
     const auto replay = [image, drawn = label.Glyphs(Lines(count))] {
         QPainter painter(image.get());

@@ -68,7 +68,7 @@ class Memo {
 
  private:
     StageWindow window_;
-    std::unique_ptr<qt::ControlWidget> memo_;
+    std::unique_ptr<qt::HostedControl> memo_;
     qt::TextEdit& edit_ = dynamic_cast<qt::TextBox&>(*memo_->Parts().Find(u"Text1", 2)).Edit();
 };
 

@@ -82,7 +82,7 @@ Side MakingBare(int items) {
 Side ChangingOne(QtStage& stage, int items) {
     struct List {
         StageWindow window;
-        std::unique_ptr<lumenkit::qt::ControlWidget> control;
+        std::unique_ptr<lumenkit::qt::HostedControl> control;
         std::array<Text, 2> contents;
         std::size_t next = 0;
     };

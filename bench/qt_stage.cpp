@@ -30,7 +30,7 @@ QtStage::QtStage()
       component_(lumenkitClasses),
       context_{.classes = lumenkitClasses, .application = component_, .interaction = *this} {}
 
-std::unique_ptr<qt::ControlWidget> QtStage::Place(TextView className,
+std::unique_ptr<qt::HostedControl> QtStage::Place(TextView className,
                                                   const host::Placement& placement, QWidget& window,
                                                   host::PropertyBag* saved) {
     const ClassDescriptor* type =
@@ -38,7 +38,7 @@ std::unique_ptr<qt::ControlWidget> QtStage::Place(TextView className,
     if (type == nullptr) {
         throw std::out_of_range("no such class");
     }
-    auto control = std::make_unique<qt::ControlWidget>(
+    auto control = std::make_unique<qt::HostedControl>(
         context_, *type, *this, qt::Placing{.name = className, .placement = placement}, &window);
     if (saved != nullptr) {
         control->StartSaved(*saved);

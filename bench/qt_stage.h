@@ -10,7 +10,7 @@
 #include "frame/host/container.h"
 #include "frame/host/property_bag.h"
 #include "runtime/qt/application.h"
-#include "runtime/qt/control_widget.h"
+#include "runtime/qt/hosted_control.h"
 
 namespace lumenkit::bench {
 
@@ -28,7 +28,7 @@ class QtStage final : public qt::ControlSite,
     /// Creates and starts a control of the class (such as "VLabel") in `window`, with its place in
     /// twips. With `saved`, the control loads its properties from that bag. The control must not
     /// outlive the stage.
-    std::unique_ptr<qt::ControlWidget> Place(TextView className, const host::Placement& placement,
+    std::unique_ptr<qt::HostedControl> Place(TextView className, const host::Placement& placement,
                                              QWidget& window, host::PropertyBag* saved = nullptr);
 
  private:

@@ -23,8 +23,8 @@ ALLOWED = {
     "runtime/memory": ["frame"],
     "runtime/win32": ["frame"],
     "runtime/qt": ["frame"],
-    "runtime/stored": ["frame"],
-    "runtime/ole": ["frame", "runtime/stored", "runtime/win32"],
+    "runtime/ole/stored": ["frame"],
+    "runtime/ole": ["frame", "runtime/ole/stored", "runtime/win32"],
     # The only folder that lists all classes.
     "project": ["frame", "vlabel", "vmemo", "voptlist", "vlabelcaption"],
     # The exports of the server, which pass the class table to the runtime.

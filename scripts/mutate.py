@@ -27,7 +27,7 @@ TESTS = {
     "vlabel": ["vlabel_test", "caption_model_test", "caption_drawing_model_test"],
     "vmemo": ["vmemo_test", "memo_model_test"],
     "voptlist": ["voptlist_test", "option_list_model_test"],
-    "runtime/stored": ["stored_test"],
+    "runtime/ole/stored": ["stored_test"],
 }
 DEFAULT_FILES = [
     "vlabel/bar_scanner.cpp", "vlabel/caption_compiler.cpp", "vlabel/caption_reader.cpp",

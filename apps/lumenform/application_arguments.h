@@ -2,7 +2,7 @@
 
 #include <array>
 
-namespace lumenkit::form {
+namespace lumenkit::lumenform {
 
 /// The command line that a QApplication receives: only the program's name, which is also its name
 /// on the desktop. Must outlive the application.
@@ -17,4 +17,4 @@ struct ApplicationArguments {
     int count = 1;
 };
 
-}  // namespace lumenkit::form
+}  // namespace lumenkit::lumenform

@@ -7,7 +7,7 @@
 #include "apps/lumenform/design/window/design_window.h"
 #include "apps/lumenform/desktop_session.h"
 
-namespace lumenkit::form {
+namespace lumenkit::lumenform {
 
 namespace {
 
@@ -53,4 +53,4 @@ Examples:
     });
 }
 
-}  // namespace lumenkit::form
+}  // namespace lumenkit::lumenform

@@ -5,7 +5,7 @@
 #include <QStyleFactory>
 #include <cstdio>
 
-namespace lumenkit::form {
+namespace lumenkit::lumenform {
 
 namespace {
 
@@ -64,4 +64,4 @@ void UseOwnStyle(bool dark) {
     QApplication::setPalette(dark ? DarkPalette() : QApplication::style()->standardPalette());
 }
 
-}  // namespace lumenkit::form
+}  // namespace lumenkit::lumenform

@@ -2,7 +2,7 @@
 // created.
 #pragma once
 
-namespace lumenkit::form {
+namespace lumenkit::lumenform {
 
 /// Returns whether there is a display to show windows on.
 bool HasDisplay();
@@ -16,4 +16,4 @@ void DrawAt(double scale);
 /// Uses the same style on every desktop, with a light or dark palette. Needs the application.
 void UseOwnStyle(bool dark);
 
-}  // namespace lumenkit::form
+}  // namespace lumenkit::lumenform

@@ -11,7 +11,7 @@
 #include "runtime/qt/application.h"
 #include "runtime/qt/interaction.h"
 
-namespace lumenkit::form {
+namespace lumenkit::lumenform {
 
 void AddDesktopOptions(CLI::App& command, DesktopOptions& options) {
     command.add_flag("--dark", options.dark, "Use a dark palette");
@@ -37,4 +37,4 @@ int ShowOnDesktop(const DesktopOptions& options, const char* instead, const Make
     return QApplication::exec() == 0 ? cli::exitDone : cli::exitUnusable;
 }
 
-}  // namespace lumenkit::form
+}  // namespace lumenkit::lumenform

@@ -11,7 +11,7 @@
 #include "forms/encoding.h"
 #include "runtime/qt/context.h"
 
-namespace lumenkit::form {
+namespace lumenkit::lumenform {
 
 struct DesktopOptions {
     std::string form;
@@ -28,4 +28,4 @@ using MakeWindow = std::function<std::unique_ptr<QWidget>(const qt::Context& con
 /// an error that ends with `instead`, the alternative.
 int ShowOnDesktop(const DesktopOptions& options, const char* instead, const MakeWindow& make);
 
-}  // namespace lumenkit::form
+}  // namespace lumenkit::lumenform

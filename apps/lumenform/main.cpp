@@ -10,7 +10,7 @@
 #include "apps/lumenform/run_command.h"
 #include "apps/lumenkit/exit_status.h"
 
-namespace lumenkit::form {
+namespace lumenkit::lumenform {
 
 namespace {
 
@@ -46,11 +46,11 @@ Examples:
 
 }  // namespace
 
-}  // namespace lumenkit::form
+}  // namespace lumenkit::lumenform
 
 int main(int argc, char** argv) {
     try {
-        return lumenkit::form::Run(argc, argv);
+        return lumenkit::lumenform::Run(argc, argv);
     } catch (const std::exception& error) {
         static_cast<void>(std::fprintf(stderr, "lumenform: %s\n", error.what()));
         return lumenkit::cli::exitUnusable;

@@ -11,7 +11,7 @@
 #include "forms/file.h"
 #include "project/lumenkit_classes.h"
 
-namespace lumenkit::form {
+namespace lumenkit::lumenform {
 
 namespace {
 
@@ -55,4 +55,4 @@ Examples:
     command->callback([file, &status] { status = Create(*file); });
 }
 
-}  // namespace lumenkit::form
+}  // namespace lumenkit::lumenform

@@ -17,7 +17,7 @@
 #include "forms/file.h"
 #include "project/lumenkit_classes.h"
 
-namespace lumenkit::form {
+namespace lumenkit::lumenform {
 
 namespace {
 
@@ -123,4 +123,4 @@ Examples:
     });
 }
 
-}  // namespace lumenkit::form
+}  // namespace lumenkit::lumenform

@@ -2,10 +2,10 @@
 
 #include <CLI/CLI.hpp>
 
-namespace lumenkit::form {
+namespace lumenkit::lumenform {
 
 /// Adds "lumenform render" to the program. If the command is given, parsing runs it and sets
 /// `status`.
 void AddRenderCommand(CLI::App& program, int& status);
 
-}  // namespace lumenkit::form
+}  // namespace lumenkit::lumenform

@@ -8,14 +8,14 @@
 #include "apps/lumenform/design/properties/page_dialog.h"
 #include "apps/lumenform/design/window/design_window.h"
 
-namespace lumenkit::form {
+namespace lumenkit::lumenform {
 
 namespace {
 
 // Selects the first control of this library, or with `page` the first one that has a property page.
 void SelectFirst(Workbench& bench, bool page) {
     for (const auto& control : bench.GetDesign().View().Controls()) {
-        const qt::ControlWidget* own = control->Own();
+        const qt::HostedControl* own = control->Own();
         if (own != nullptr && (!page || !own->Type().propertyPage.empty())) {
             bench.GetDesign().Select({control.get()});
             return;
@@ -74,4 +74,4 @@ QPixmap DesignPicture(const qt::Context& context, const QString& form, int codeP
     return picture;
 }
 
-}  // namespace lumenkit::form
+}  // namespace lumenkit::lumenform

@@ -6,7 +6,7 @@
 #include "apps/lumenform/run/run_window.h"
 #include "forms/file.h"
 
-namespace lumenkit::form {
+namespace lumenkit::lumenform {
 
 namespace {
 
@@ -35,4 +35,4 @@ Examples:
     command->callback([options, &status] { status = RunForm(*options); });
 }
 
-}  // namespace lumenkit::form
+}  // namespace lumenkit::lumenform

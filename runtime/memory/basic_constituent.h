@@ -41,7 +41,7 @@ class BasicConstituent : public Interface, public Element {
     }
     void Refresh() override {
         Call(u"Refresh");
-        CountRefresh();
+        RepaintNow();
     }
 
  protected:
@@ -59,7 +59,7 @@ class BasicTextConstituent : public BasicConstituent<Interface> {
     void SetCurrentFont(host::FontRef font) override {
         this->Call(u"SetCurrentFont");
         font_ = Font::From(std::move(font));
-        FontChanged();
+        ShowFont();
     }
 
     PropertyList Properties() const override {
@@ -74,7 +74,7 @@ class BasicTextConstituent : public BasicConstituent<Interface> {
           font_(owner.GetForm().NewFont(design.fontName, design.fontSize)) {}
 
     /// Called when the constituent has another font object.
-    virtual void FontChanged() {}
+    virtual void ShowFont() {}
     const Font::Attributes& FontNow() const { return font_->Now(); }
 
  private:
@@ -91,7 +91,7 @@ class BasicCaptioned : public BasicTextConstituent<Interface> {
     void SetCaption(TextView caption) override {
         this->Call(u"SetCaption");
         caption_ = caption;
-        CaptionChanged();
+        ShowCaption();
     }
 
     PropertyList Properties() const override {
@@ -104,7 +104,7 @@ class BasicCaptioned : public BasicTextConstituent<Interface> {
     BasicCaptioned(Constituents& owner, TextView kind, const host::Design& design, TextView caption)
         : BasicTextConstituent<Interface>(owner, kind, design), caption_(caption) {}
 
-    virtual void CaptionChanged() {}
+    virtual void ShowCaption() {}
     const Text& CaptionNow() const { return caption_; }
 
  private:

@@ -7,7 +7,7 @@
 #include "runtime/memory/command_button.h"
 #include "runtime/memory/embedded_control.h"
 #include "runtime/memory/form.h"
-#include "runtime/memory/frame.h"
+#include "runtime/memory/frame_box.h"
 #include "runtime/memory/label.h"
 #include "runtime/memory/option_buttons.h"
 #include "runtime/memory/picture_box.h"
@@ -45,7 +45,7 @@ std::unique_ptr<host::OptionButtons> Constituents::AddOptionButtons(
 
 std::unique_ptr<host::Frame> Constituents::AddFrame(const host::CaptionDesign& design) {
     Call(u"AddFrame");
-    return std::make_unique<Frame>(*this, design);
+    return std::make_unique<FrameBox>(*this, design);
 }
 
 std::unique_ptr<host::Label> Constituents::AddLabel(const host::CaptionDesign& design) {

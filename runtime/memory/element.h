@@ -62,7 +62,7 @@ class Element {
     void MoveTo(const host::Placement& placement);
     void BecomeVisible(bool visible) { visible_ = visible; }
     void BecomeEnabled(bool enabled) { enabled_ = enabled; }
-    void CountRefresh() { ++refreshes_; }
+    void RepaintNow() { ++refreshes_; }
 
  private:
     Constituents& owner_;

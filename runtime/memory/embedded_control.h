@@ -4,7 +4,7 @@
 
 #include "frame/host/simple_constituents.h"
 #include "runtime/memory/basic_constituent.h"
-#include "runtime/memory/placed_control.h"
+#include "runtime/memory/hosted_control.h"
 
 namespace lumenkit::memory {
 
@@ -21,10 +21,10 @@ class EmbeddedControl final : public BasicConstituent<host::EmbeddedControl> {
     void Refresh() override;
     Object& Automation() override;
 
-    PlacedControl& Inner() { return inner_; }
+    HostedControl& Inner() { return inner_; }
 
  private:
-    PlacedControl inner_;
+    HostedControl inner_;
 };
 
 }  // namespace lumenkit::memory

@@ -1,6 +1,6 @@
 #include "runtime/memory/extender.h"
 
-#include "runtime/memory/placed_control.h"
+#include "runtime/memory/hosted_control.h"
 
 namespace lumenkit::memory {
 

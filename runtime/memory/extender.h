@@ -7,12 +7,12 @@
 
 namespace lumenkit::memory {
 
-class PlacedControl;
+class HostedControl;
 
 /// The extender of a placed control. Its calls count for the planned faults of the form.
 class Extender final : public host::Extender {
  public:
-    explicit Extender(PlacedControl& control) : control_(control) {}
+    explicit Extender(HostedControl& control) : control_(control) {}
 
     Value Invoke(std::int32_t identifier, InvokeKind kind, std::span<Value> arguments) override;
 
@@ -29,7 +29,7 @@ class Extender final : public host::Extender {
     bool IsVisible() const override;
     void SetVisible(bool visible) override;
 
-    PlacedControl& control_;
+    HostedControl& control_;
     bool supportsTag_ = true;
 };
 

@@ -21,8 +21,8 @@ class Label final : public BasicCaptioned<host::Label> {
     PropertyList Properties() const override;
 
  private:
-    void FontChanged() override { FitToCaption(); }
-    void CaptionChanged() override { FitToCaption(); }
+    void ShowFont() override { FitToCaption(); }
+    void ShowCaption() override { FitToCaption(); }
     void FitToCaption();
 
     Color foreColor_ = Color::ButtonText;

@@ -1,7 +1,7 @@
 #include "runtime/memory/user.h"
 
 #include "runtime/memory/form.h"
-#include "runtime/memory/placed_control.h"
+#include "runtime/memory/hosted_control.h"
 #include "runtime/memory/scroll_bar.h"
 #include "runtime/memory/text_box.h"
 
@@ -58,7 +58,7 @@ bool User::Mouse(Element& element, MouseAction action, const host::MouseArgument
     return true;
 }
 
-bool User::Click(PlacedControl& control) {
+bool User::Click(HostedControl& control) {
     if (!control.Drawing().AcceptsInput()) {
         return false;
     }
@@ -66,7 +66,7 @@ bool User::Click(PlacedControl& control) {
     return true;
 }
 
-bool User::DblClick(PlacedControl& control) {
+bool User::DblClick(HostedControl& control) {
     if (!control.Drawing().AcceptsInput()) {
         return false;
     }
@@ -74,7 +74,7 @@ bool User::DblClick(PlacedControl& control) {
     return true;
 }
 
-bool User::Mouse(PlacedControl& control, MouseAction action, const host::MouseArguments& mouse) {
+bool User::Mouse(HostedControl& control, MouseAction action, const host::MouseArguments& mouse) {
     if (!control.Drawing().AcceptsInput()) {
         return false;
     }

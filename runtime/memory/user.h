@@ -9,7 +9,7 @@
 namespace lumenkit::memory {
 
 class Form;
-class PlacedControl;
+class HostedControl;
 class ScrollBar;
 class TextBox;
 
@@ -44,9 +44,9 @@ class User {
     bool DblClick(Element& element);
     bool Mouse(Element& element, MouseAction action, const host::MouseArguments& mouse);
     /// The same for the surface of a control.
-    static bool Click(PlacedControl& control);
-    static bool DblClick(PlacedControl& control);
-    static bool Mouse(PlacedControl& control, MouseAction action,
+    static bool Click(HostedControl& control);
+    static bool DblClick(HostedControl& control);
+    static bool Mouse(HostedControl& control, MouseAction action,
                       const host::MouseArguments& mouse);
 
     /// Moves the thumb to `value`, or as near as the range allows.

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "runtime/ole/ole_font.h"
-#include "runtime/stored/setting.h"
+#include "runtime/ole/stored/setting.h"
 
 namespace lumenkit::ole {
 

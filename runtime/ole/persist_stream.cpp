@@ -5,8 +5,8 @@
 
 #include "runtime/ole/identifiers.h"
 #include "runtime/ole/result.h"
+#include "runtime/ole/stored/stream_format.h"
 #include "runtime/ole/stored_properties.h"
-#include "runtime/stored/stream_format.h"
 
 namespace lumenkit::ole {
 

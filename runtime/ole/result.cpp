@@ -3,7 +3,7 @@
 #include <array>
 #include <new>
 
-#include "runtime/stored/stream_format.h"
+#include "runtime/ole/stored/stream_format.h"
 #include "runtime/win32/wide_text.h"
 
 namespace lumenkit::ole {

@@ -3,7 +3,7 @@
 #include <utility>
 
 #include "frame/host/property_bag.h"
-#include "runtime/stored/setting.h"
+#include "runtime/ole/stored/setting.h"
 
 namespace lumenkit::ole {
 

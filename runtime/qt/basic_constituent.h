@@ -16,9 +16,9 @@ class BasicConstituent : public Interface, public Element {
     host::Placement Place() const override { return Where(); }
     void Move(const host::Placement& placement) override { MoveTo(placement); }
     bool Visible() const override { return IsVisible(); }
-    void SetVisible(bool visible) override { ShowOrHide(visible); }
+    void SetVisible(bool visible) override { BecomeVisible(visible); }
     bool Enabled() const override { return IsEnabled(); }
-    void SetEnabled(bool enabled) override { EnableOrDisable(enabled); }
+    void SetEnabled(bool enabled) override { BecomeEnabled(enabled); }
     void Refresh() override { RepaintNow(); }
 
  protected:
@@ -40,11 +40,11 @@ class BasicTextConstituent : public BasicConstituent<Interface> {
     BasicTextConstituent(Constituents& owner, const host::Design& design)
         : BasicConstituent<Interface>(owner, design),
           font_(
-              std::make_shared<Font>(design.fontName, design.fontSize), [this] { ApplyFont(); },
+              std::make_shared<Font>(design.fontName, design.fontSize), [this] { ShowFont(); },
               this->Errors()) {}
 
     /// Called when the font is replaced or one of its attributes changes.
-    virtual void ApplyFont() {
+    virtual void ShowFont() {
         if (QWidget* widget = this->Widget()) {
             widget->setFont(CurrentFace().WidgetFont());
         }

@@ -29,7 +29,7 @@ CheckBox::CheckBox(Constituents& owner, const host::CaptionDesign& design,
     auto box = std::make_unique<CheckBoxWidget>(&ParentFor(owner, design));
     box->clicked_ = [this] { HandleEvent(Errors(), [this] { Change(state_ == 0 ? 1 : 0); }); };
     Adopt(std::move(box));
-    ApplyFont();
+    ShowFont();
     ShowCaption();
 }
 

@@ -14,7 +14,7 @@ CommandButton::CommandButton(Constituents& owner, const host::CaptionDesign& des
     QObject::connect(button.get(), &QPushButton::clicked, button.get(),
                      [this, &events] { HandleEvent(Errors(), [&events] { events.Click(); }); });
     Adopt(std::move(button));
-    ApplyFont();
+    ShowFont();
     ShowCaption();
 }
 

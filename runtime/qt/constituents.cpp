@@ -8,7 +8,7 @@
 #include "runtime/qt/check_box.h"
 #include "runtime/qt/command_button.h"
 #include "runtime/qt/embedded_control.h"
-#include "runtime/qt/frame.h"
+#include "runtime/qt/frame_box.h"
 #include "runtime/qt/label.h"
 #include "runtime/qt/option_buttons.h"
 #include "runtime/qt/picture_box.h"
@@ -28,7 +28,7 @@ std::unique_ptr<host::OptionButtons> Constituents::AddOptionButtons(
 }
 
 std::unique_ptr<host::Frame> Constituents::AddFrame(const host::CaptionDesign& design) {
-    return std::make_unique<Frame>(*this, design);
+    return std::make_unique<FrameBox>(*this, design);
 }
 
 std::unique_ptr<host::Label> Constituents::AddLabel(const host::CaptionDesign& design) {
@@ -89,9 +89,9 @@ void Constituents::Disconnect() {
     }
 }
 
-void Constituents::ApplyColors() {
+void Constituents::ShowColors() {
     for (Element* element : elements_) {
-        element->ApplyColors();
+        element->ShowColors();
     }
 }
 

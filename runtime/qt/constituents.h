@@ -50,7 +50,7 @@ class Constituents final : public host::Constituents {
     /// Stops the notifications of all constituents. Called before their control is destroyed.
     void Disconnect();
     /// Called when the colours of the area's palette changed.
-    void ApplyColors();
+    void ShowColors();
 
     /// Makes `element` the buddy of a label that was created just before it.
     void Name(const Element& element) const;

@@ -76,7 +76,7 @@ void Element::MoveTo(const host::Placement& placement) {
     Cause([widget = widget_.data(), &placement] { widget->setGeometry(ToPixels(placement)); });
 }
 
-void Element::ShowOrHide(bool visible) {
+void Element::BecomeVisible(bool visible) {
     visible_ = visible;
     // A handler may destroy this object.
     Cause([widget = widget_.data(), visible] {
@@ -85,7 +85,7 @@ void Element::ShowOrHide(bool visible) {
     });
 }
 
-void Element::EnableOrDisable(bool enabled) {
+void Element::BecomeEnabled(bool enabled) {
     enabled_ = enabled;
     Cause([widget = widget_.data(), enabled] {
         widget->setEnabled(enabled);

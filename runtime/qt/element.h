@@ -28,7 +28,7 @@ class Element {
     /// The parent widget for constituents inside this one.
     virtual QWidget& Inside() const { return *widget_; }
     /// Called when the colours of the palette changed.
-    virtual void ApplyColors() {}
+    virtual void ShowColors() {}
     /// Stops the notifications of the widget. Called when their receiver or the element itself is
     /// destroyed; the widget may be deleted a little later.
     virtual void Disconnect() {}
@@ -48,9 +48,9 @@ class Element {
     const host::Placement& Where() const { return placement_; }
     void MoveTo(const host::Placement& placement);
     bool IsVisible() const { return visible_; }
-    void ShowOrHide(bool visible);
+    void BecomeVisible(bool visible);
     bool IsEnabled() const { return enabled_; }
-    void EnableOrDisable(bool enabled);
+    void BecomeEnabled(bool enabled);
     void RepaintNow();
     Constituents& Owner() const { return owner_; }
     const ErrorSink& Errors() const { return owner_.GetContext().errors; }

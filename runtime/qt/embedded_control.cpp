@@ -30,7 +30,7 @@ class EmbeddedControl::Surroundings final : public ControlSite,
 EmbeddedControl::EmbeddedControl(Constituents& owner, const host::Design& design,
                                  const ClassDescriptor& type)
     : BasicConstituent(owner, design), surroundings_(std::make_unique<Surroundings>(owner)) {
-    AdoptHidden(std::make_unique<ControlWidget>(
+    AdoptHidden(std::make_unique<HostedControl>(
         owner.GetContext(), type, *surroundings_,
         Placing{.name = design.name, .placement = design.placement, .visible = design.visible},
         &ParentFor(owner, design)));

@@ -3,7 +3,7 @@
 #include "frame/host/ambient.h"
 #include "frame/host/simple_constituents.h"
 #include "runtime/qt/basic_constituent.h"
-#include "runtime/qt/control_widget.h"
+#include "runtime/qt/hosted_control.h"
 
 namespace lumenkit::qt {
 
@@ -22,7 +22,7 @@ class EmbeddedControl final : public BasicConstituent<host::EmbeddedControl> {
     void Refresh() override;
     Object& Automation() override { return Inner().Automation(); }
 
-    ControlWidget& Inner() const { return static_cast<ControlWidget&>(*Widget()); }
+    HostedControl& Inner() const { return static_cast<HostedControl&>(*Widget()); }
 
  private:
     class Surroundings;

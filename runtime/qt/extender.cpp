@@ -1,6 +1,6 @@
 #include "runtime/qt/extender.h"
 
-#include "runtime/qt/control_widget.h"
+#include "runtime/qt/hosted_control.h"
 
 namespace lumenkit::qt {
 

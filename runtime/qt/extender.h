@@ -4,12 +4,12 @@
 
 namespace lumenkit::qt {
 
-class ControlWidget;
+class HostedControl;
 
 /// The extender of a control on a form.
 class Extender final : public host::Extender {
  public:
-    explicit Extender(ControlWidget& control) : control_(control) {}
+    explicit Extender(HostedControl& control) : control_(control) {}
 
  private:
     Text Name() const override;
@@ -20,7 +20,7 @@ class Extender final : public host::Extender {
     bool IsVisible() const override;
     void SetVisible(bool visible) override;
 
-    ControlWidget& control_;
+    HostedControl& control_;
 };
 
 }  // namespace lumenkit::qt

@@ -28,8 +28,8 @@ Label::Label(Constituents& owner, const host::CaptionDesign& design)
     label->setAlignment(Qt::AlignLeft | Qt::AlignTop);
     label->setAutoFillBackground(true);
     Adopt(std::move(label));
-    ApplyFont();
-    ApplyColors();
+    ShowFont();
+    ShowColors();
     ShowCaption();
 }
 
@@ -51,15 +51,15 @@ void Label::SetAutoSize(bool autoSize) {
 
 void Label::SetForeColor(Color color) {
     foreColor_ = color;
-    ApplyColors();
+    ShowColors();
 }
 
 void Label::SetBackColor(Color color) {
     backColor_ = color;
-    ApplyColors();
+    ShowColors();
 }
 
-void Label::ApplyColors() {
+void Label::ShowColors() {
     const QPalette& base = Owner().Area().palette();
     QPalette palette = Shown().palette();
     palette.setColor(QPalette::WindowText, ToQColor(foreColor_, base));
@@ -67,8 +67,8 @@ void Label::ApplyColors() {
     Shown().setPalette(palette);
 }
 
-void Label::ApplyFont() {
-    BasicCaptioned::ApplyFont();
+void Label::ShowFont() {
+    BasicCaptioned::ShowFont();
     FitToCaption();
 }
 

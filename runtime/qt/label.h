@@ -25,14 +25,14 @@ class Label final : public BasicCaptioned<host::Label> {
     Color BackColor() const override { return backColor_; }
     void SetBackColor(Color color) override;
 
-    void ApplyColors() override;
+    void ShowColors() override;
     /// Sets the widget that the label names.
     void SetBuddy(QWidget* widget);
     bool HasMnemonicNow() const;
 
  private:
     QLabel& Shown() const;
-    void ApplyFont() override;
+    void ShowFont() override;
     void ShowCaption() override;
     void FitToCaption();
 

@@ -95,8 +95,8 @@ OptionButton::OptionButton(Constituents& owner, const host::OptionButtonDesign& 
         HandleEvent(Errors(), [this, direction] { group_.GoFrom(*this, direction); });
     };
     Adopt(std::move(button));
-    ApplyFont();
-    ApplyColors();
+    ShowFont();
+    ShowColors();
     ShowCaption();
 }
 
@@ -152,10 +152,10 @@ void OptionButton::SetAlignment(std::int16_t alignment) {
 
 void OptionButton::SetForeColor(Color color) {
     foreColor_ = color;
-    ApplyColors();
+    ShowColors();
 }
 
-void OptionButton::ApplyColors() {
+void OptionButton::ShowColors() {
     const QPalette& base = Owner().Area().palette();
     if (foreColor_ == Color::ButtonText) {
         if (Button().testAttribute(Qt::WA_SetPalette)) {

@@ -29,7 +29,7 @@ class OptionButton final : public BasicCaptioned<host::OptionButton> {
     Color ForeColor() const override { return foreColor_; }
     void SetForeColor(Color color) override;
 
-    void ApplyColors() override;
+    void ShowColors() override;
     /// Sets the mark only, without a notification.
     void Mark(bool selected);
     /// Whether the user can move the focus to the button.

@@ -214,7 +214,7 @@ void Surface::SetAutoRedraw(bool keep) {
 
 // ---- Painting
 
-void Surface::PaintOn(QPainter& painter, const QRect& exposed) {
+void Surface::DrawOn(QPainter& painter, const QRect& exposed) {
     UpdateScale();
     hasPainted_ = true;
     if (autoRedraw_) {
@@ -225,11 +225,11 @@ void Surface::PaintOn(QPainter& painter, const QRect& exposed) {
     }
     painter.fillRect(exposed, Shown(backColor_));
     exposed_ = exposed;
-    RunPaint(&painter);
+    PaintControl(&painter);
 }
 
 // With a null painter nothing is drawn, but UserControl_Paint still runs.
-void Surface::RunPaint(QPainter* painter) {
+void Surface::PaintControl(QPainter* painter) {
     if (control_ == nullptr) {
         return;
     }
@@ -262,7 +262,7 @@ void Surface::Refresh() {
     hasPainted_ = false;
     Cause([&] { area_->repaint(); });
     if (!hasPainted_ && !autoRedraw_ && area_->isVisible()) {
-        RunPaint(nullptr);  // shown, but not on the screen yet
+        PaintControl(nullptr);  // shown, but not on the screen yet
     }
 }
 

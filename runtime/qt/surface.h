@@ -92,7 +92,7 @@ class Surface final : public host::Surface {
     Control* GetControl() const { return control_; }
     bool IsPainting() const { return painter_ != nullptr; }
     /// Paints the content of the area, at least in `exposed` (pixels of the area).
-    void PaintOn(QPainter& painter, const QRect& exposed);
+    void DrawOn(QPainter& painter, const QRect& exposed);
     /// Returns the texts of the last painting, with a line break where the vertical position
     /// changed.
     QString PaintedText() const;
@@ -119,7 +119,7 @@ class Surface final : public host::Surface {
     Run& NextRun(TextView text, const std::shared_ptr<Face>& face);
     void DrawRun(QPainter& painter, Run& run);
     void UsePen(QPainter& painter, Color color);
-    void RunPaint(QPainter* painter);
+    void PaintControl(QPainter* painter);
     void Touch(const QRectF& pixels);
     void FontChanged();
     QRect WholeArea() const;

@@ -97,7 +97,7 @@ void SurfaceWidget::paintEvent(QPaintEvent* event) {
     HandleEvent(errors_, [&] {
         if (surface_ != nullptr && !surface_->IsPainting()) {
             QPainter painter(this);
-            surface_->PaintOn(painter, event->rect());
+            surface_->DrawOn(painter, event->rect());
         }
     });
 }

@@ -12,8 +12,8 @@ TextBox::TextBox(Constituents& owner, const host::TextBoxDesign& design,
                  host::TextBoxEvents& events)
     : BasicTextConstituent(owner, design) {
     Adopt(std::make_unique<TextEdit>(&ParentFor(owner, design), design, events, Errors()));
-    ApplyFont();
-    ApplyColors();
+    ShowFont();
+    ShowColors();
 }
 
 void TextBox::Disconnect() {
@@ -66,10 +66,10 @@ void TextBox::SetSelection(std::int32_t start, std::int32_t end) {
 
 void TextBox::SetForeColor(Color color) {
     foreColor_ = color;
-    ApplyColors();
+    ShowColors();
 }
 
-void TextBox::ApplyColors() {
+void TextBox::ShowColors() {
     if (foreColor_ == Color::WindowText) {
         Edit().setPalette({});  // the palette greys it when it is disabled
         return;

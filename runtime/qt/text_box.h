@@ -37,7 +37,7 @@ class TextBox final : public BasicTextConstituent<host::TextBox> {
     /// Creates a native window for the box at the first call.
     std::int32_t WindowHandle() const override;
 
-    void ApplyColors() override;
+    void ShowColors() override;
     TextEdit& Edit() const { return static_cast<TextEdit&>(*Widget()); }
     void Disconnect() override;
 

@@ -53,12 +53,12 @@ class BasicTextConstituent : public BasicConstituent<Interface>, private FontLis
 
     HFONT FontHandle() const { return font_.Get()->Handle(); }
     /// Called when the constituent draws with another font.
-    virtual void FontTaken() {}
+    virtual void ShowFont() {}
 
  private:
     void FontChanged() override {
         UseFont(true);
-        FontTaken();
+        ShowFont();
     }
     void UseFont(bool repaint) {
         this->Ask(WM_SETFONT, reinterpret_cast<WPARAM>(FontHandle()), repaint ? TRUE : FALSE);
@@ -77,7 +77,7 @@ class BasicCaptioned : public BasicTextConstituent<Interface> {
         }
         caption_ = caption;
         SetWindowTextW(this->Handle(), ToWide(caption).c_str());
-        CaptionChanged();
+        ShowCaption();
     }
 
  protected:
@@ -85,7 +85,7 @@ class BasicCaptioned : public BasicTextConstituent<Interface> {
                    TextView caption)
         : BasicTextConstituent<Interface>(owner, kind, design, caption), caption_(caption) {}
 
-    virtual void CaptionChanged() {}
+    virtual void ShowCaption() {}
     const Text& CaptionNow() const { return caption_; }
 
  private:

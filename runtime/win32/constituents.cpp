@@ -4,7 +4,7 @@
 #include "runtime/win32/check_box.h"
 #include "runtime/win32/command_button.h"
 #include "runtime/win32/embedded_control.h"
-#include "runtime/win32/frame.h"
+#include "runtime/win32/frame_box.h"
 #include "runtime/win32/label.h"
 #include "runtime/win32/option_buttons.h"
 #include "runtime/win32/picture_box.h"
@@ -24,7 +24,7 @@ std::unique_ptr<host::OptionButtons> Constituents::AddOptionButtons(
 }
 
 std::unique_ptr<host::Frame> Constituents::AddFrame(const host::CaptionDesign& design) {
-    return std::make_unique<Frame>(Owner{context_, owner_}, design);
+    return std::make_unique<FrameBox>(Owner{context_, owner_}, design);
 }
 
 std::unique_ptr<host::Label> Constituents::AddLabel(const host::CaptionDesign& design) {

@@ -21,8 +21,8 @@ class Label final : public BasicCaptioned<host::Label> {
     void SetBackColor(Color color) override;
 
  protected:
-    void CaptionChanged() override { FitToCaption(); }
-    void FontTaken() override { FitToCaption(); }
+    void ShowCaption() override { FitToCaption(); }
+    void ShowFont() override { FitToCaption(); }
     std::optional<LRESULT> HandleNotification(UINT message, WPARAM wParam, LPARAM lParam) override;
 
  private:

@@ -11,7 +11,7 @@
 #include "frame/utf8.h"
 #include "project/lumenkit_classes.h"
 #include "runtime/memory/form.h"
-#include "runtime/memory/placed_control.h"
+#include "runtime/memory/hosted_control.h"
 
 namespace {
 

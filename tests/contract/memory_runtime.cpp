@@ -1,8 +1,8 @@
 // Runs the contract tests on the memory runtime.
 #include "runtime/memory/check_box.h"
 #include "runtime/memory/command_button.h"
+#include "runtime/memory/hosted_control.h"
 #include "runtime/memory/option_button.h"
-#include "runtime/memory/placed_control.h"
 #include "runtime/memory/scroll_bar.h"
 #include "runtime/memory/text_box.h"
 #include "runtime/memory/user.h"
@@ -71,13 +71,13 @@ class MemoryRuntime final : public ContractRuntime {
  private:
     void Place(const ClassDescriptor& type) {
         control_.reset();
-        control_ = std::make_unique<memory::PlacedControl>(
+        control_ = std::make_unique<memory::HostedControl>(
             form_, type, memory::Placing{.name = u"probe", .tag = u"its tag"});
     }
 
     memory::Form form_;
     memory::User user_{form_};
-    std::unique_ptr<memory::PlacedControl> control_;
+    std::unique_ptr<memory::HostedControl> control_;
 };
 
 }  // namespace

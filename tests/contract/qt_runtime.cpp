@@ -13,8 +13,8 @@
 #include "runtime/qt/application.h"
 #include "runtime/qt/check_box.h"
 #include "runtime/qt/command_button.h"
-#include "runtime/qt/control_widget.h"
 #include "runtime/qt/form_container.h"
+#include "runtime/qt/hosted_control.h"
 #include "runtime/qt/interaction.h"
 #include "runtime/qt/option_button.h"
 #include "runtime/qt/qt_text.h"
@@ -147,7 +147,7 @@ class QtRuntime final : public ContractRuntime, public qt::ControlSite, private 
         control_.reset();
         container_ = std::make_unique<qt::FormContainer>(type.eventTable);
         container_->onPropertyChanged = [this](TextView name) { changed_.emplace_back(name); };
-        control_ = std::make_unique<qt::ControlWidget>(
+        control_ = std::make_unique<qt::HostedControl>(
             context_, type, *this, qt::Placing{.name = u"probe", .tag = u"its tag"}, &window_);
     }
 
@@ -159,7 +159,7 @@ class QtRuntime final : public ContractRuntime, public qt::ControlSite, private 
     QMainWindow window_;
     std::vector<Text> changed_;
     std::unique_ptr<qt::FormContainer> container_;
-    std::unique_ptr<qt::ControlWidget> control_;
+    std::unique_ptr<qt::HostedControl> control_;
 };
 
 }  // namespace

@@ -11,9 +11,9 @@
 #include "runtime/memory/command_button.h"
 #include "runtime/memory/embedded_control.h"
 #include "runtime/memory/form.h"
+#include "runtime/memory/hosted_page.h"
 #include "runtime/memory/label.h"
 #include "runtime/memory/picture_box.h"
-#include "runtime/memory/placed_page.h"
 #include "runtime/memory/scroll_bar.h"
 #include "runtime/memory/text_box.h"
 #include "runtime/memory/user.h"
@@ -26,7 +26,7 @@ class PlacedCaptionPage {
     PlacedCaptionPage() : page_(form_, form_.FindClass(u"VLabelCaption")) {}
 
     memory::Form& Form() { return form_; }
-    memory::PlacedPage& Page() { return page_; }
+    memory::HostedPage& Page() { return page_; }
     memory::User& User() { return user_; }
 
     template <typename T>
@@ -62,7 +62,7 @@ class PlacedCaptionPage {
     std::string LabelText(TextView label);
 
     memory::Form form_{lumenkitClasses};
-    memory::PlacedPage page_;
+    memory::HostedPage page_;
     memory::User user_{form_};
 };
 

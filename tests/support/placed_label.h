@@ -5,7 +5,7 @@
 #include <vector>
 
 #include "runtime/memory/form.h"
-#include "runtime/memory/placed_control.h"
+#include "runtime/memory/hosted_control.h"
 #include "tests/support/label_scene.h"
 #include "vlabel/vlabel.h"
 
@@ -13,12 +13,12 @@ namespace lumenkit::testing {
 
 class PlacedLabel {
  public:
-    /// Creates the control without starting it: see PlacedControl::StartNew and StartSaved.
+    /// Creates the control without starting it: see HostedControl::StartNew and StartSaved.
     explicit PlacedLabel(const memory::Placing& placing = {});
 
     VLabel& Label() { return static_cast<VLabel&>(placed_.GetControl()); }
     VLabel* operator->() { return &Label(); }
-    memory::PlacedControl& Placed() { return placed_; }
+    memory::HostedControl& Placed() { return placed_; }
     memory::Form& Form() { return form_; }
     memory::FaultPlan& Faults() { return form_.Faults(); }
     memory::Surface& Surface() { return placed_.Drawing(); }
@@ -46,7 +46,7 @@ class PlacedLabel {
 
  private:
     memory::Form form_;
-    memory::PlacedControl placed_;
+    memory::HostedControl placed_;
 };
 
 /// Calls SetUp, Paint and Picture.

@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "runtime/memory/form.h"
-#include "runtime/memory/placed_control.h"
+#include "runtime/memory/hosted_control.h"
 #include "runtime/memory/text_box.h"
 #include "runtime/memory/user.h"
 #include "tests/support/vmemo_probe.h"
@@ -24,7 +24,7 @@ class PlacedMemo {
     VMemo& Memo() { return static_cast<VMemo&>(placed_.GetControl()); }
     VMemo* operator->() { return &Memo(); }
     VMemoProbe Probe() { return VMemoProbe(Memo()); }
-    memory::PlacedControl& Placed() { return placed_; }
+    memory::HostedControl& Placed() { return placed_; }
     memory::Form& Form() { return form_; }
     memory::FaultPlan& Faults() { return form_.Faults(); }
 
@@ -55,7 +55,7 @@ class PlacedMemo {
     PlacedMemo(const memory::Placing& placing, Start);
 
     memory::Form form_;
-    memory::PlacedControl placed_;
+    memory::HostedControl placed_;
     memory::User user_;
 };
 

@@ -58,7 +58,7 @@ std::unique_ptr<PlacedOptionList> PlacedOptionList::Saved(Mode mode, host::Prope
 
 std::vector<memory::OptionButton*> PlacedOptionList::Buttons() const {
     std::vector<memory::OptionButton*> buttons;
-    for (memory::Element* element : const_cast<memory::PlacedControl&>(placed_).Parts().All()) {
+    for (memory::Element* element : const_cast<memory::HostedControl&>(placed_).Parts().All()) {
         if (auto* button = dynamic_cast<memory::OptionButton*>(element)) {
             buttons.push_back(button);
         }

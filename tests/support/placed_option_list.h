@@ -7,9 +7,9 @@
 #include <vector>
 
 #include "runtime/memory/form.h"
-#include "runtime/memory/frame.h"
+#include "runtime/memory/frame_box.h"
+#include "runtime/memory/hosted_control.h"
 #include "runtime/memory/option_button.h"
-#include "runtime/memory/placed_control.h"
 #include "runtime/memory/user.h"
 #include "voptlist/voptlist.h"
 #include "voptlist/voptlist_interface.h"
@@ -39,12 +39,12 @@ class PlacedOptionList {
 
     VOptList& List() { return static_cast<VOptList&>(placed_.GetControl()); }
     VOptList* operator->() { return &List(); }
-    memory::PlacedControl& Placed() { return placed_; }
+    memory::HostedControl& Placed() { return placed_; }
     memory::Form& Form() { return form_; }
     memory::FaultPlan& Faults() { return form_.Faults(); }
     void SetMode(Mode mode) { placed_.GetAmbient().SetUserMode(mode == Mode::Run); }
 
-    memory::Frame& Frame() { return placed_.Parts().Get<memory::Frame>(u"Frame1"); }
+    memory::FrameBox& Frame() { return placed_.Parts().Get<memory::FrameBox>(u"Frame1"); }
     /// Returns all buttons, hidden ones included.
     std::vector<memory::OptionButton*> Buttons() const;
     memory::OptionButton& Button(std::size_t index) const { return *Buttons().at(index); }
@@ -71,7 +71,7 @@ class PlacedOptionList {
 
  private:
     memory::Form form_;
-    memory::PlacedControl placed_;
+    memory::HostedControl placed_;
 };
 
 }  // namespace lumenkit::testing

@@ -28,7 +28,7 @@ const ClassDescriptor& QtForm::Class(TextView name) const {
     return *type;
 }
 
-qt::ControlWidget& QtForm::Place(TextView className, const host::Placement& placement) {
+qt::HostedControl& QtForm::Place(TextView className, const host::Placement& placement) {
     const ClassDescriptor& type = Class(className);
     containers_.push_back(std::make_unique<qt::FormContainer>(type.eventTable));
     containers_.back()->onEvent = [this](TextView name, std::span<Value> arguments) {
@@ -37,17 +37,17 @@ qt::ControlWidget& QtForm::Place(TextView className, const host::Placement& plac
             onEvent(name, arguments);
         }
     };
-    auto control = std::make_unique<qt::ControlWidget>(
+    auto control = std::make_unique<qt::HostedControl>(
         context_, type, *this, qt::Placing{.name = className, .placement = placement}, &window);
     control->StartNew();
     return *controls_.emplace_back(std::move(control));
 }
 
-std::unique_ptr<qt::PageWidget> QtForm::Page(TextView className) {
-    return std::make_unique<qt::PageWidget>(context_, Class(className));
+std::unique_ptr<qt::HostedPage> QtForm::Page(TextView className) {
+    return std::make_unique<qt::HostedPage>(context_, Class(className));
 }
 
-void QtForm::Remove(qt::ControlWidget& control) {
+void QtForm::Remove(qt::HostedControl& control) {
     std::erase_if(controls_, [&](const auto& one) { return one.get() == &control; });
 }
 

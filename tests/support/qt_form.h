@@ -7,9 +7,9 @@
 
 #include "frame/class_table.h"
 #include "runtime/qt/application.h"
-#include "runtime/qt/control_widget.h"
 #include "runtime/qt/form_container.h"
-#include "runtime/qt/page_widget.h"
+#include "runtime/qt/hosted_control.h"
+#include "runtime/qt/hosted_page.h"
 
 namespace lumenkit::testing {
 
@@ -31,10 +31,10 @@ class QtForm final : public qt::ControlSite, private host::Ambient {
     explicit QtForm(const ClassTable& classes, bool userMode = true);
 
     /// Places a new control. The form owns it.
-    qt::ControlWidget& Place(TextView className, const host::Placement& placement);
+    qt::HostedControl& Place(TextView className, const host::Placement& placement);
     /// Creates a page without showing it. The caller owns it.
-    std::unique_ptr<qt::PageWidget> Page(TextView className);
-    void Remove(qt::ControlWidget& control);
+    std::unique_ptr<qt::HostedPage> Page(TextView className);
+    void Remove(qt::HostedControl& control);
 
     QMainWindow window;
     WrittenInteraction interaction;
@@ -55,7 +55,7 @@ class QtForm final : public qt::ControlSite, private host::Ambient {
     qt::Application application_;
     qt::Context context_;
     std::vector<std::unique_ptr<qt::FormContainer>> containers_;
-    std::vector<std::unique_ptr<qt::ControlWidget>> controls_;
+    std::vector<std::unique_ptr<qt::HostedControl>> controls_;
 };
 
 }  // namespace lumenkit::testing

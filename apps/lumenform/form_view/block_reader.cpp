@@ -4,7 +4,7 @@
 #include "frame/runtime_error.h"
 #include "frame/utf8.h"
 
-namespace lumenkit::form {
+namespace lumenkit::lumenform {
 
 namespace {
 
@@ -84,4 +84,4 @@ std::string_view BlockReader::Record(TextView name) const {
     return document_.RecordOf(*property);
 }
 
-}  // namespace lumenkit::form
+}  // namespace lumenkit::lumenform

@@ -13,7 +13,7 @@
 #include "frame/text.h"
 #include "runtime/qt/font.h"
 
-namespace lumenkit::form {
+namespace lumenkit::lumenform {
 
 /// Reads the properties of a block, converted to their types. Throws FormError with the place of a
 /// value that does not convert. Document and block must outlive the reader.
@@ -57,4 +57,4 @@ forms::FormBag BagOf(const forms::Document& document, forms::Block& block);
 [[noreturn]] void Refuse(const forms::Document& document, forms::Position place, TextView what,
                          TextView why);
 
-}  // namespace lumenkit::form
+}  // namespace lumenkit::lumenform

@@ -9,7 +9,7 @@
 #include "apps/lumenform/form_view/command_button.h"
 #include "runtime/qt/palette_color.h"
 
-namespace lumenkit::form {
+namespace lumenkit::lumenform {
 
 namespace {
 
@@ -127,4 +127,4 @@ void ClientArea::paintEvent(QPaintEvent* event) {
     painter.fillRect(event->rect(), qt::ToQColor(backColor_, palette()));
 }
 
-}  // namespace lumenkit::form
+}  // namespace lumenkit::lumenform

@@ -9,7 +9,7 @@
 #include "apps/lumenform/form_view/live_control.h"
 #include "frame/color.h"
 
-namespace lumenkit::form {
+namespace lumenkit::lumenform {
 
 /// The client area of a form. Paints the background, moves the focus through the controls by
 /// TabIndex with Tab, and clicks the buttons for Enter and Esc. Tab goes from the last control to
@@ -52,4 +52,4 @@ class ClientArea final : public QWidget {
     const Controls& controls_;
 };
 
-}  // namespace lumenkit::form
+}  // namespace lumenkit::lumenform

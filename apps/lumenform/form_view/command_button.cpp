@@ -1,6 +1,6 @@
 #include "apps/lumenform/form_view/command_button.h"
 
-namespace lumenkit::form {
+namespace lumenkit::lumenform {
 
 void CommandButton::SetKeys(Keys keys) {
     keys_ = keys;
@@ -26,4 +26,4 @@ bool CommandButton::IsPressedBy(int key) const {
     }
 }
 
-}  // namespace lumenkit::form
+}  // namespace lumenkit::lumenform

@@ -2,7 +2,7 @@
 
 #include <QPushButton>
 
-namespace lumenkit::form {
+namespace lumenkit::lumenform {
 
 /// A button that Enter, Esc or both click, wherever the focus is in the form, unless the control
 /// with the focus uses the key.
@@ -23,4 +23,4 @@ class CommandButton final : public QPushButton {
     Keys keys_;
 };
 
-}  // namespace lumenkit::form
+}  // namespace lumenkit::lumenform

@@ -3,7 +3,7 @@
 #include "apps/lumenform/form_view/scale.h"
 #include "frame/runtime_error.h"
 
-namespace lumenkit::form {
+namespace lumenkit::lumenform {
 
 FormSize ClientSizeOf(const BlockReader& form) {
     constexpr float usualWidth = 4800;
@@ -23,4 +23,4 @@ FormSize ClientSizeOf(const BlockReader& form) {
             length(u"ClientHeight", inUnits.height, usualHeight)};
 }
 
-}  // namespace lumenkit::form
+}  // namespace lumenkit::lumenform

@@ -2,7 +2,7 @@
 
 #include "apps/lumenform/form_view/block_reader.h"
 
-namespace lumenkit::form {
+namespace lumenkit::lumenform {
 
 /// The size of a form's client area, in twips.
 struct FormSize {
@@ -16,4 +16,4 @@ struct FormSize {
 /// the form's units. Throws FormError for a negative size.
 FormSize ClientSizeOf(const BlockReader& form);
 
-}  // namespace lumenkit::form
+}  // namespace lumenkit::lumenform

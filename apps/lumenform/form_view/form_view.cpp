@@ -13,7 +13,7 @@
 #include "runtime/qt/pixels.h"
 #include "runtime/qt/qt_text.h"
 
-namespace lumenkit::form {
+namespace lumenkit::lumenform {
 
 namespace {
 
@@ -163,4 +163,4 @@ void FormView::changeEvent(QEvent* event) {
     }
 }
 
-}  // namespace lumenkit::form
+}  // namespace lumenkit::lumenform

@@ -13,7 +13,7 @@
 #include "frame/text.h"
 #include "runtime/qt/context.h"
 
-namespace lumenkit::form {
+namespace lumenkit::lumenform {
 
 /// Shows a form file with its menus, background and controls, at the size in the file. Changes to
 /// the controls reach the document only through Save.
@@ -59,4 +59,4 @@ class FormView final : public QWidget {
     std::optional<Surroundings> inside_;
 };
 
-}  // namespace lumenkit::form
+}  // namespace lumenkit::lumenform

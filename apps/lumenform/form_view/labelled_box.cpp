@@ -3,7 +3,7 @@
 #include <QPainter>
 #include <utility>
 
-namespace lumenkit::form {
+namespace lumenkit::lumenform {
 
 LabelledBox::LabelledBox(QString name, QString className)
     : name_(std::move(name)), className_(std::move(className)) {
@@ -28,4 +28,4 @@ void LabelledBox::paintEvent(QPaintEvent* /*event*/) {
                      both ? fitted(name_) + u'\n' + fitted(className_) : fitted(name_));
 }
 
-}  // namespace lumenkit::form
+}  // namespace lumenkit::lumenform

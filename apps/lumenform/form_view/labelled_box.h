@@ -3,7 +3,7 @@
 #include <QString>
 #include <QWidget>
 
-namespace lumenkit::form {
+namespace lumenkit::lumenform {
 
 /// Represents a control of an unknown class: its name and class in a dashed frame.
 class LabelledBox final : public QWidget {
@@ -18,4 +18,4 @@ class LabelledBox final : public QWidget {
     QString className_;
 };
 
-}  // namespace lumenkit::form
+}  // namespace lumenkit::lumenform

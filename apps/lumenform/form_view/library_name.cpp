@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-namespace lumenkit::form {
+namespace lumenkit::lumenform {
 
 namespace {
 
@@ -21,4 +21,4 @@ std::string LibraryName(const ClassTable& classes) {
            std::to_string(classes.majorVersion) + '.' + std::to_string(classes.minorVersion) + "#0";
 }
 
-}  // namespace lumenkit::form
+}  // namespace lumenkit::lumenform

@@ -2,7 +2,7 @@
 
 #include <QPainter>
 
-namespace lumenkit::form {
+namespace lumenkit::lumenform {
 
 LineWidget::LineWidget(const Stroke& stroke, bool rises) : stroke_(stroke), rises_(rises) {
     setAttribute(Qt::WA_TransparentForMouseEvents);
@@ -26,4 +26,4 @@ void LineWidget::paintEvent(QPaintEvent* /*event*/) {
     }
 }
 
-}  // namespace lumenkit::form
+}  // namespace lumenkit::lumenform

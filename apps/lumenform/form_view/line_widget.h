@@ -4,7 +4,7 @@
 
 #include "apps/lumenform/form_view/stroke.h"
 
-namespace lumenkit::form {
+namespace lumenkit::lumenform {
 
 /// Draws a line from one corner of its box to the opposite one.
 class LineWidget final : public QWidget {
@@ -23,4 +23,4 @@ class LineWidget final : public QWidget {
     bool rises_;
 };
 
-}  // namespace lumenkit::form
+}  // namespace lumenkit::lumenform

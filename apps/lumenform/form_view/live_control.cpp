@@ -5,7 +5,7 @@
 #include "apps/lumenform/form_view/saved_place.h"
 #include "forms/controls.h"
 
-namespace lumenkit::form {
+namespace lumenkit::lumenform {
 
 namespace {
 
@@ -41,7 +41,7 @@ LiveControl::LiveControl(const Stage& stage, const Surroundings& around, forms::
 }
 
 host::Placement LiveControl::SavedPlace(const host::Placement& otherwise) const {
-    return scale_.ToTwips(form::SavedPlace(reader_, scale_.FromTwips(otherwise)));
+    return scale_.ToTwips(lumenform::SavedPlace(reader_, scale_.FromTwips(otherwise)));
 }
 
 void LiveControl::Save() {
@@ -59,4 +59,4 @@ void LiveControl::SavePlace() {
     keptPlace_ = place;
 }
 
-}  // namespace lumenkit::form
+}  // namespace lumenkit::lumenform

@@ -9,9 +9,9 @@
 #include "apps/lumenform/form_view/stage.h"
 #include "frame/class_table.h"
 #include "frame/host/constituent.h"
-#include "runtime/qt/control_widget.h"
+#include "runtime/qt/hosted_control.h"
 
-namespace lumenkit::form {
+namespace lumenkit::lumenform {
 
 /// A block of the form with the widget that shows it. The block keeps its text until Save writes a
 /// changed value. The widget is a child of its container's widget and is destroyed with the live
@@ -38,7 +38,7 @@ class LiveControl {
     /// The surroundings of the controls in this one.
     virtual const Surroundings& Inside() const = 0;
     /// The widget of a control of this library; null for an equivalent.
-    virtual qt::ControlWidget* Own() const { return nullptr; }
+    virtual qt::HostedControl* Own() const { return nullptr; }
     /// Whether the control can contain other controls.
     virtual bool IsContainer() const { return false; }
     /// Whether the control is in the back layer, like labels and pictures: all controls outside
@@ -75,4 +75,4 @@ class LiveControl {
     std::optional<host::Placement> keptPlace_;  // as in the block
 };
 
-}  // namespace lumenkit::form
+}  // namespace lumenkit::lumenform

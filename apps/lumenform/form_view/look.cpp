@@ -4,7 +4,7 @@
 
 #include "runtime/qt/palette_color.h"
 
-namespace lumenkit::form {
+namespace lumenkit::lumenform {
 
 void ApplyColors(QWidget& widget, Colors colors, Colors usual) {
     const QPalette base = QApplication::palette();
@@ -29,4 +29,4 @@ void ApplyFont(QWidget& widget, const qt::Font& font) {
     widget.setFont(font.FaceAt(widget.devicePixelRatioF())->WidgetFont());
 }
 
-}  // namespace lumenkit::form
+}  // namespace lumenkit::lumenform

@@ -6,7 +6,7 @@
 #include "frame/color.h"
 #include "runtime/qt/font.h"
 
-namespace lumenkit::form {
+namespace lumenkit::lumenform {
 
 /// The colours of a widget. A colour that is usual for the kind of widget comes from the palette,
 /// which also provides the disabled colours.
@@ -22,4 +22,4 @@ void ApplyColors(QWidget& widget, Colors colors, Colors usual);
 
 void ApplyFont(QWidget& widget, const qt::Font& font);
 
-}  // namespace lumenkit::form
+}  // namespace lumenkit::lumenform

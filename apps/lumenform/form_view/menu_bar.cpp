@@ -7,7 +7,7 @@
 #include "forms/controls.h"
 #include "runtime/qt/qt_text.h"
 
-namespace lumenkit::form {
+namespace lumenkit::lumenform {
 
 namespace {
 
@@ -119,4 +119,4 @@ std::unique_ptr<QMenuBar> MakeMenuBar(const Stage& stage, const forms::Block& fo
     return seen ? std::move(bar) : nullptr;
 }
 
-}  // namespace lumenkit::form
+}  // namespace lumenkit::lumenform

@@ -6,7 +6,7 @@
 #include "apps/lumenform/form_view/stage.h"
 #include "forms/block.h"
 
-namespace lumenkit::form {
+namespace lumenkit::lumenform {
 
 /// Returns whether the block is a menu or a menu entry.
 bool IsMenu(const forms::Block& block);
@@ -18,4 +18,4 @@ std::unique_ptr<QMenuBar> MakeMenuBar(const Stage& stage, const forms::Block& fo
 /// sequence for an unknown shortcut.
 QKeySequence KeysOf(TextView shortcut);
 
-}  // namespace lumenkit::form
+}  // namespace lumenkit::lumenform

@@ -4,7 +4,7 @@
 
 #include "frame/runtime_error.h"
 
-namespace lumenkit::form {
+namespace lumenkit::lumenform {
 
 OwnControl::OwnControl(const Stage& stage, const Surroundings& around, forms::Block& block,
                        const ClassDescriptor& type)
@@ -42,7 +42,7 @@ void OwnControl::Start(QWidget& parent, const ClassDescriptor& type) {
         .placement = SavedPlace(standard.placement),
         .tag = tag,
         .visible = stage_.mode == Mode::Design || Reader().Flag(u"Visible", true)};
-    widget_ = new qt::ControlWidget(stage_.context, type, *this, placing, &parent);
+    widget_ = new qt::HostedControl(stage_.context, type, *this, placing, &parent);
     forms::FormBag bag = BagOf(stage_.document, Block());
     widget_->StartSaved(bag);
     keeper_.emplace(stage_.document, Block(),
@@ -64,4 +64,4 @@ void OwnControl::Save() {
     keeper_->Update([this](host::PropertyBag& bag) { widget_->Save(bag); });
 }
 
-}  // namespace lumenkit::form
+}  // namespace lumenkit::lumenform

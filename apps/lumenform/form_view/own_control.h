@@ -8,7 +8,7 @@
 #include "frame/host/ambient.h"
 #include "runtime/qt/form_container.h"
 
-namespace lumenkit::form {
+namespace lumenkit::lumenform {
 
 /// A control of this library on a form.
 class OwnControl final : public LiveControl, private qt::ControlSite, private host::Ambient {
@@ -21,7 +21,7 @@ class OwnControl final : public LiveControl, private qt::ControlSite, private ho
 
     QWidget& Widget() const override { return *widget_; }
     const Surroundings& Inside() const override { return *inside_; }
-    qt::ControlWidget* Own() const override { return widget_; }
+    qt::HostedControl* Own() const override { return widget_; }
     host::Placement Place() const override { return widget_->Place(); }
     void Move(const host::Placement& place) override { widget_->Move(place); }
     void Save() override;
@@ -40,9 +40,9 @@ class OwnControl final : public LiveControl, private qt::ControlSite, private ho
     std::shared_ptr<qt::Font> font_;  // of the container
     Color backColor_;
     qt::FormContainer container_;
-    QPointer<qt::ControlWidget> widget_;
+    QPointer<qt::HostedControl> widget_;
     std::optional<Surroundings> inside_;
     std::optional<forms::BlockKeeper> keeper_;
 };
 
-}  // namespace lumenkit::form
+}  // namespace lumenkit::lumenform

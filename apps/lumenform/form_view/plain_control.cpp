@@ -4,7 +4,7 @@
 #include "runtime/qt/pixels.h"
 #include "runtime/qt/qt_text.h"
 
-namespace lumenkit::form {
+namespace lumenkit::lumenform {
 
 PlainControl::PlainControl(const Stage& stage, const Surroundings& around, forms::Block& block)
     : LiveControl(stage, around, block),
@@ -75,4 +75,4 @@ void PlainControl::PaletteChanged() {
     ApplyColors(*widget_, colors_, kind_.usual);
 }
 
-}  // namespace lumenkit::form
+}  // namespace lumenkit::lumenform

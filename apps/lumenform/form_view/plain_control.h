@@ -6,7 +6,7 @@
 #include "apps/lumenform/form_view/live_control.h"
 #include "apps/lumenform/form_view/plain_kinds.h"
 
-namespace lumenkit::form {
+namespace lumenkit::lumenform {
 
 /// A control of another library, shown as a plain widget that looks like it. Only its place is
 /// written to its block.
@@ -38,4 +38,4 @@ class PlainControl final : public LiveControl {
     std::optional<Surroundings> inside_;
 };
 
-}  // namespace lumenkit::form
+}  // namespace lumenkit::lumenform

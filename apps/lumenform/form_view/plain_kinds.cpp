@@ -23,7 +23,7 @@
 #include "runtime/qt/frame_widget.h"
 #include "runtime/qt/qt_text.h"
 
-namespace lumenkit::form {
+namespace lumenkit::lumenform {
 
 namespace {
 
@@ -286,4 +286,4 @@ const PlainKind& PlainKindOf(const forms::Block& block) {
     return hasSize ? unknown : unseen;
 }
 
-}  // namespace lumenkit::form
+}  // namespace lumenkit::lumenform

@@ -11,7 +11,7 @@
 #include "frame/host/constituent.h"
 #include "frame/text.h"
 
-namespace lumenkit::form {
+namespace lumenkit::lumenform {
 
 struct PlainWidget {
     std::unique_ptr<QWidget> widget;
@@ -44,4 +44,4 @@ struct PlainKind {
 /// class.
 const PlainKind& PlainKindOf(const forms::Block& block);
 
-}  // namespace lumenkit::form
+}  // namespace lumenkit::lumenform

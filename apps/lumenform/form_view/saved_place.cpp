@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
-namespace lumenkit::form {
+namespace lumenkit::lumenform {
 
 namespace {
 
@@ -83,4 +83,4 @@ void StorePlace(const BlockReader& reader, const host::Placement& former,
     Store(block, u"Height", former.height, now.height);
 }
 
-}  // namespace lumenkit::form
+}  // namespace lumenkit::lumenform

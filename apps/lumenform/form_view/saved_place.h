@@ -3,7 +3,7 @@
 #include "apps/lumenform/form_view/block_reader.h"
 #include "frame/host/constituent.h"
 
-namespace lumenkit::form {
+namespace lumenkit::lumenform {
 
 /// Returns whether a control saves its two ends, X1 to Y2, as lines do. Other controls save left,
 /// top, width and height.
@@ -20,4 +20,4 @@ host::Placement SavedPlace(const BlockReader& reader, const host::Placement& oth
 void StorePlace(const BlockReader& reader, const host::Placement& former,
                 const host::Placement& now);
 
-}  // namespace lumenkit::form
+}  // namespace lumenkit::lumenform

@@ -6,7 +6,7 @@
 
 #include "runtime/qt/pixels.h"
 
-namespace lumenkit::form {
+namespace lumenkit::lumenform {
 
 namespace {
 
@@ -77,4 +77,4 @@ std::int32_t ExtentOf(float twips) {
     return static_cast<std::int32_t>(std::lround(twips * perTwip));
 }
 
-}  // namespace lumenkit::form
+}  // namespace lumenkit::lumenform

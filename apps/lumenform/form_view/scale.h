@@ -5,7 +5,7 @@
 #include "apps/lumenform/form_view/block_reader.h"
 #include "frame/host/constituent.h"
 
-namespace lumenkit::form {
+namespace lumenkit::lumenform {
 
 /// The units in which a container's controls are placed, from its ScaleMode: twips, points, pixels,
 /// characters, inches, millimetres, centimetres or custom units.
@@ -30,4 +30,4 @@ class Scale {
 /// save their size.
 std::int32_t ExtentOf(float twips);
 
-}  // namespace lumenkit::form
+}  // namespace lumenkit::lumenform

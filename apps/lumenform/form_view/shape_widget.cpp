@@ -8,7 +8,7 @@
 
 #include "runtime/qt/palette_color.h"
 
-namespace lumenkit::form {
+namespace lumenkit::lumenform {
 
 namespace {
 
@@ -92,4 +92,4 @@ void ShapeWidget::paintEvent(QPaintEvent* /*event*/) {
     Draw(painter, outline);
 }
 
-}  // namespace lumenkit::form
+}  // namespace lumenkit::lumenform

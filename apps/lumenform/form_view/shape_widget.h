@@ -6,7 +6,7 @@
 
 #include "apps/lumenform/form_view/stroke.h"
 
-namespace lumenkit::form {
+namespace lumenkit::lumenform {
 
 /// The filling of a shape, from BackColor, BackStyle, FillColor and FillStyle.
 struct Filling {
@@ -46,4 +46,4 @@ class ShapeWidget final : public QWidget {
     Filling filling_;
 };
 
-}  // namespace lumenkit::form
+}  // namespace lumenkit::lumenform

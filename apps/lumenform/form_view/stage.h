@@ -14,7 +14,7 @@
 #include "runtime/qt/context.h"
 #include "runtime/qt/font.h"
 
-namespace lumenkit::form {
+namespace lumenkit::lumenform {
 
 enum class Mode {
     Run,     ///< as the users of the form see it
@@ -46,4 +46,4 @@ struct Surroundings {
     Scale scale;
 };
 
-}  // namespace lumenkit::form
+}  // namespace lumenkit::lumenform

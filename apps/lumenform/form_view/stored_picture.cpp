@@ -3,7 +3,7 @@
 #include <QBuffer>
 #include <QImageReader>
 
-namespace lumenkit::form {
+namespace lumenkit::lumenform {
 
 namespace {
 
@@ -30,4 +30,4 @@ QPixmap PictureIn(std::string_view record) {
     return QPixmap::fromImageReader(&reader);
 }
 
-}  // namespace lumenkit::form
+}  // namespace lumenkit::lumenform

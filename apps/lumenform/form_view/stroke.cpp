@@ -7,7 +7,7 @@
 
 #include "runtime/qt/palette_color.h"
 
-namespace lumenkit::form {
+namespace lumenkit::lumenform {
 
 namespace {
 
@@ -39,4 +39,4 @@ int Stroke::Reach() const {
     return style == Transparent || style == InsideSolid ? 0 : width / 2;
 }
 
-}  // namespace lumenkit::form
+}  // namespace lumenkit::lumenform

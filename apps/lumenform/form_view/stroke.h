@@ -6,7 +6,7 @@
 #include "apps/lumenform/form_view/block_reader.h"
 #include "frame/color.h"
 
-namespace lumenkit::form {
+namespace lumenkit::lumenform {
 
 /// The pen of lines and of the borders of shapes, from BorderColor, BorderStyle and BorderWidth.
 struct Stroke {
@@ -25,4 +25,4 @@ struct Stroke {
     int Reach() const;
 };
 
-}  // namespace lumenkit::form
+}  // namespace lumenkit::lumenform

@@ -6,7 +6,7 @@
 #include "forms/code_page.h"
 #include "forms/encoding.h"
 
-namespace lumenkit::form {
+namespace lumenkit::lumenform {
 
 namespace {
 
@@ -38,4 +38,4 @@ std::vector<Text> ItemsOf(std::string_view record, int codePage) {
     return items;
 }
 
-}  // namespace lumenkit::form
+}  // namespace lumenkit::lumenform

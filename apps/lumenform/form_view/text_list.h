@@ -6,7 +6,7 @@
 #include "forms/document.h"
 #include "frame/text.h"
 
-namespace lumenkit::form {
+namespace lumenkit::lumenform {
 
 /// Returns the items of a list box or combo box from the record that its property List refers to.
 /// The record holds the number of items, a reserved number, and for each item its length in bytes
@@ -15,4 +15,4 @@ namespace lumenkit::form {
 /// because companion files are never in UTF-8.
 std::vector<Text> ItemsOf(std::string_view record, int codePage);
 
-}  // namespace lumenkit::form
+}  // namespace lumenkit::lumenform

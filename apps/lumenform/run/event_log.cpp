@@ -9,7 +9,7 @@
 
 #include "runtime/qt/qt_text.h"
 
-namespace lumenkit::form {
+namespace lumenkit::lumenform {
 
 namespace {
 
@@ -73,4 +73,4 @@ void EventLog::Add(const RaisedEvent& event) {
     }
 }
 
-}  // namespace lumenkit::form
+}  // namespace lumenkit::lumenform

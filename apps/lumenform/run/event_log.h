@@ -4,7 +4,7 @@
 
 #include "apps/lumenform/form_view/stage.h"
 
-namespace lumenkit::form {
+namespace lumenkit::lumenform {
 
 /// A list of the last thousand events that the controls of a form raised, one per line: control,
 /// event and arguments.
@@ -19,4 +19,4 @@ class EventLog final : public QTreeWidget {
     QSize sizeHint() const override;
 };
 
-}  // namespace lumenkit::form
+}  // namespace lumenkit::lumenform

@@ -8,7 +8,7 @@
 
 #include "runtime/qt/qt_text.h"
 
-namespace lumenkit::form {
+namespace lumenkit::lumenform {
 
 namespace {
 
@@ -57,4 +57,4 @@ void RunWindow::AddMenus(QDockWidget& dock) {
     view->addAction(tr("&Clear the log"), log_, &QTreeWidget::clear);
 }
 
-}  // namespace lumenkit::form
+}  // namespace lumenkit::lumenform

@@ -7,7 +7,7 @@
 #include "forms/document.h"
 #include "runtime/qt/context.h"
 
-namespace lumenkit::form {
+namespace lumenkit::lumenform {
 
 /// Shows a form in run mode at its size, with the log of its events below.
 class RunWindow final : public QMainWindow {
@@ -26,4 +26,4 @@ class RunWindow final : public QMainWindow {
     EventLog* log_;
 };
 
-}  // namespace lumenkit::form
+}  // namespace lumenkit::lumenform

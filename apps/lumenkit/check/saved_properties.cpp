@@ -6,7 +6,7 @@
 
 #include "frame/host/property_bag.h"
 #include "runtime/memory/form.h"
-#include "runtime/memory/placed_control.h"
+#include "runtime/memory/hosted_control.h"
 
 namespace lumenkit::check {
 
@@ -31,7 +31,7 @@ class AskedBag final : public host::PropertyBag {
 
 SavedProperties AskControl(const ClassDescriptor& type) {
     memory::Form form({.libraryName = {}, .classes = std::span(&type, 1)});
-    memory::PlacedControl control(form, type);
+    memory::HostedControl control(form, type);
     AskedBag bag;
     control.ReadProperties(bag);
     control.Save(bag);

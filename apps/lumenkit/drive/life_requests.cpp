@@ -20,7 +20,7 @@ const ClassDescriptor& ClassNamed(const std::string& name, const memory::Form& f
     }
 }
 
-std::unique_ptr<memory::PlacedControl> NewControl(ScriptedContainer& container,
+std::unique_ptr<memory::HostedControl> NewControl(ScriptedContainer& container,
                                                   const ClassDescriptor& type,
                                                   const Fields& request) {
     const Text name = FromUtf8(request.String("id"));
@@ -35,7 +35,7 @@ std::unique_ptr<memory::PlacedControl> NewControl(ScriptedContainer& container,
     if (request.Has("bag")) {
         bag = BagOf(request.At("bag"), container.GetForm());
     }
-    auto control = std::make_unique<memory::PlacedControl>(container.GetForm(), type, placing);
+    auto control = std::make_unique<memory::HostedControl>(container.GetForm(), type, placing);
     if (bag) {
         control->StartSaved(*bag);
     } else {
@@ -44,19 +44,19 @@ std::unique_ptr<memory::PlacedControl> NewControl(ScriptedContainer& container,
     return control;
 }
 
-std::unique_ptr<memory::PlacedPage> NewPage(ScriptedContainer& container,
+std::unique_ptr<memory::HostedPage> NewPage(ScriptedContainer& container,
                                             const ClassDescriptor& type, const Fields& request) {
-    std::vector<memory::PlacedControl*> selected;
+    std::vector<memory::HostedControl*> selected;
     for (const std::string& id : request.Strings("select")) {
         selected.push_back(&container.Control(id));
     }
-    auto page = std::make_unique<memory::PlacedPage>(container.GetForm(), type);
+    auto page = std::make_unique<memory::HostedPage>(container.GetForm(), type);
     page->Select(selected);
     return page;
 }
 
 // Adds the properties of an embedded control to the common properties of a constituent.
-void AddMembers(Json& state, memory::PlacedControl& control) {
+void AddMembers(Json& state, memory::HostedControl& control) {
     for (const Member& member : control.Type().interfaceTable->members) {
         if (member.read != nullptr && member.parameters.empty()) {
             state[ToUtf8(member.name)] = ToJson(control.Automation().Get(member.identifier));

@@ -48,7 +48,7 @@ std::vector<std::string> LoadedForm::Ids() const {
     return ids;
 }
 
-std::unique_ptr<memory::PlacedControl> LoadedForm::Start(const Found& found, host::PropertyBag& bag,
+std::unique_ptr<memory::HostedControl> LoadedForm::Start(const Found& found, host::PropertyBag& bag,
                                                          memory::Form& form, bool userMode) {
     const Text tag = ToText(bag.ReadProperty(u"Tag", Text()));
     memory::Placing placing;
@@ -60,7 +60,7 @@ std::unique_ptr<memory::PlacedControl> LoadedForm::Start(const Found& found, hos
     placing.height = ToSingle(bag.ReadProperty(u"Height", placing.height));
     placing.tag = tag;
     placing.visible = ToBoolean(bag.ReadProperty(u"Visible", placing.visible));
-    auto control = std::make_unique<memory::PlacedControl>(form, found.type, placing);
+    auto control = std::make_unique<memory::HostedControl>(form, found.type, placing);
     control->StartSaved(bag);
     return control;
 }

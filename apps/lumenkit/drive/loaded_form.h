@@ -12,7 +12,7 @@
 #include "frame/host/property_bag.h"
 #include "frame/text.h"
 #include "runtime/memory/form.h"
-#include "runtime/memory/placed_control.h"
+#include "runtime/memory/hosted_control.h"
 
 namespace lumenkit::cli {
 
@@ -22,7 +22,7 @@ class LoadedForm {
  public:
     struct Living {
         std::string id;
-        std::unique_ptr<memory::PlacedControl> control;
+        std::unique_ptr<memory::HostedControl> control;
     };
 
     /// Throws BadRequest if two controls have the same name. The objects that `classes` refers to
@@ -50,11 +50,11 @@ class LoadedForm {
         Text name;
     };
     struct Saved {
-        memory::PlacedControl& control;
+        memory::HostedControl& control;
         forms::BlockKeeper keeper;
     };
 
-    static std::unique_ptr<memory::PlacedControl> Start(const Found& found, host::PropertyBag& bag,
+    static std::unique_ptr<memory::HostedControl> Start(const Found& found, host::PropertyBag& bag,
                                                         memory::Form& form, bool userMode);
 
     forms::Document document_;

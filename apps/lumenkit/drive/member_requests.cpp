@@ -57,7 +57,7 @@ Result Let(ScriptedContainer& container, const Fields& request) {
 Result Call(ScriptedContainer& container, const Fields& request) {
     Use use = UseOf(container, request);
     const Value result = use.target.Invoke(use.member, InvokeKind::Call, use.arguments);
-    const memory::PlacedControl& control = container.Control(request.String("id"));
+    const memory::HostedControl& control = container.Control(request.String("id"));
     const Member* member = control.Type().interfaceTable->Find(use.member);
     return member->type == ValueType::None ? std::nullopt : Result(ToJson(result));
 }

@@ -12,15 +12,15 @@ void ScriptedContainer::RequireFree(const std::string& id) const {
     }
 }
 
-void ScriptedContainer::Add(const std::string& id, std::unique_ptr<memory::PlacedControl> control) {
+void ScriptedContainer::Add(const std::string& id, std::unique_ptr<memory::HostedControl> control) {
     controls_.emplace(id, std::move(control));
 }
 
-void ScriptedContainer::Add(const std::string& id, std::unique_ptr<memory::PlacedPage> page) {
+void ScriptedContainer::Add(const std::string& id, std::unique_ptr<memory::HostedPage> page) {
     pages_.emplace(id, std::move(page));
 }
 
-memory::PlacedControl& ScriptedContainer::Control(const std::string& id) const {
+memory::HostedControl& ScriptedContainer::Control(const std::string& id) const {
     const auto found = controls_.find(id);
     if (found == controls_.end()) {
         throw BadRequest(IsPage(id) ? '"' + id + "\" is a page, not a control"
@@ -29,7 +29,7 @@ memory::PlacedControl& ScriptedContainer::Control(const std::string& id) const {
     return *found->second;
 }
 
-memory::PlacedPage& ScriptedContainer::Page(const std::string& id) const {
+memory::HostedPage& ScriptedContainer::Page(const std::string& id) const {
     const auto found = pages_.find(id);
     if (found == pages_.end()) {
         throw BadRequest(controls_.contains(id) ? '"' + id + "\" is a control, not a page"

@@ -11,8 +11,8 @@
 #include "frame/class_table.h"
 #include "runtime/memory/constituents.h"
 #include "runtime/memory/form.h"
-#include "runtime/memory/placed_control.h"
-#include "runtime/memory/placed_page.h"
+#include "runtime/memory/hosted_control.h"
+#include "runtime/memory/hosted_page.h"
 #include "runtime/memory/user.h"
 
 namespace lumenkit::cli {
@@ -29,12 +29,12 @@ class ScriptedContainer {
 
     /// Throws BadRequest if the identifier is in use.
     void RequireFree(const std::string& id) const;
-    void Add(const std::string& id, std::unique_ptr<memory::PlacedControl> control);
-    void Add(const std::string& id, std::unique_ptr<memory::PlacedPage> page);
+    void Add(const std::string& id, std::unique_ptr<memory::HostedControl> control);
+    void Add(const std::string& id, std::unique_ptr<memory::HostedPage> page);
 
     bool IsPage(const std::string& id) const { return pages_.contains(id); }
-    memory::PlacedControl& Control(const std::string& id) const;
-    memory::PlacedPage& Page(const std::string& id) const;
+    memory::HostedControl& Control(const std::string& id) const;
+    memory::HostedPage& Page(const std::string& id) const;
 
     // For a control or a page.
     Object& Automation(const std::string& id) const;
@@ -51,8 +51,8 @@ class ScriptedContainer {
     memory::Form form_;
     memory::User user_{form_};
     // Pages refer to controls and so must be destroyed first.
-    std::map<std::string, std::unique_ptr<memory::PlacedControl>> controls_;
-    std::map<std::string, std::unique_ptr<memory::PlacedPage>> pages_;
+    std::map<std::string, std::unique_ptr<memory::HostedControl>> controls_;
+    std::map<std::string, std::unique_ptr<memory::HostedPage>> pages_;
     std::unique_ptr<LoadedForm> loaded_;
     bool quit_ = false;
 };

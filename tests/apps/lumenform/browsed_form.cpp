@@ -19,7 +19,7 @@ BrowsedForm::BrowsedForm(forms::Document document)
               .interaction = messages,
               .errors = [this](const RuntimeError& error) { errors.push_back(error); }},
       design(context, std::move(document)),
-      browser(new form::PropertyBrowser(design, messages)) {
+      browser(new lumenform::PropertyBrowser(design, messages)) {
     window.setCentralWidget(browser);
     window.resize(360, 600);
     window.show();
@@ -37,8 +37,8 @@ int BrowsedForm::Row(TextView property) const {
 }
 
 std::string BrowsedForm::Shown(TextView property) const {
-    const form::PropertyModel& model = browser->Model();
-    return model.index(Row(property), form::PropertyModel::ValueColumn)
+    const lumenform::PropertyModel& model = browser->Model();
+    return model.index(Row(property), lumenform::PropertyModel::ValueColumn)
         .data()
         .toString()
         .toStdString();
@@ -46,13 +46,13 @@ std::string BrowsedForm::Shown(TextView property) const {
 
 bool BrowsedForm::CanEdit(TextView property) const {
     return browser->Model()
-        .index(Row(property), form::PropertyModel::ValueColumn)
+        .index(Row(property), lumenform::PropertyModel::ValueColumn)
         .flags()
         .testFlag(Qt::ItemIsEditable);
 }
 
 void BrowsedForm::Type(TextView property, const std::string& text) {
-    form::PropertyTable& table = browser->Table();
+    lumenform::PropertyTable& table = browser->Table();
     table.setFocus();
     table.GoTo(Row(property));
     QTest::keyClick(&table, Qt::Key_F2);
@@ -67,7 +67,7 @@ void BrowsedForm::Type(TextView property, const std::string& text) {
 }
 
 void BrowsedForm::Choose(TextView property, const std::string& label) {
-    form::PropertyTable& table = browser->Table();
+    lumenform::PropertyTable& table = browser->Table();
     table.setFocus();
     table.GoTo(Row(property));
     QTest::keyClick(&table, Qt::Key_F2);
@@ -81,7 +81,7 @@ void BrowsedForm::Choose(TextView property, const std::string& label) {
 }
 
 void BrowsedForm::PressMore(TextView property) const {
-    form::PropertyTable& table = browser->Table();
+    lumenform::PropertyTable& table = browser->Table();
     table.setFocus();
     table.GoTo(Row(property));
     QTest::keyClick(&table, Qt::Key_F4);

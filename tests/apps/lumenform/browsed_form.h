@@ -39,13 +39,13 @@ class BrowsedForm {
     Object& Automation(TextView control) const;
 
     WrittenInteraction interaction;
-    form::ControlMessages messages;
+    lumenform::ControlMessages messages;
     qt::Application application;
     std::vector<RuntimeError> errors;
     qt::Context context;
-    form::Design design;
+    lumenform::Design design;
     QMainWindow window;
-    form::PropertyBrowser* browser;
+    lumenform::PropertyBrowser* browser;
 
  private:
     void PressMore(TextView property) const;

@@ -127,7 +127,7 @@ TEST(CanvasDrag, MovesLiveAndWritesAtTheEnd) {
     const std::string before = canvas.Saved();
     const QPoint at = canvas.MiddleOf(u"A");
     int edits = 0;
-    QObject::connect(&canvas.design, &form::Design::Edited, [&] { ++edits; });
+    QObject::connect(&canvas.design, &lumenform::Design::Edited, [&] { ++edits; });
     canvas.Press(at);
     canvas.MoveTo(at + QPoint(30, 17));
     EXPECT_EQ(canvas.Control(u"A").Widget().pos(), QPoint(40, 32));
@@ -139,7 +139,7 @@ TEST(CanvasDrag, MovesLiveAndWritesAtTheEnd) {
 
 TEST(CanvasDrag, TellsThePlace) {
     DesignedForm canvas(threeControls);
-    const auto* label = canvas.canvas->findChild<form::PlaceLabel*>();
+    const auto* label = canvas.canvas->findChild<lumenform::PlaceLabel*>();
     EXPECT_FALSE(label->isVisible());
     const QPoint at = canvas.MiddleOf(u"A");
     canvas.Press(at);
@@ -153,7 +153,7 @@ TEST(CanvasDrag, TellsThePlace) {
 TEST(CanvasDrag, TellsWhereTheMouseIs) {
     DesignedForm canvas(threeControls);
     std::vector<QPointF> told;
-    QObject::connect(canvas.canvas, &form::Canvas::PointerMoved,
+    QObject::connect(canvas.canvas, &lumenform::Canvas::PointerMoved,
                      [&](QPointF twips) { told.push_back(twips); });
     canvas.MoveTo({10, 20});
     canvas.MoveTo({-2, 0});

@@ -19,15 +19,15 @@ using ::testing::IsEmpty;
 class Drawing {
  public:
     explicit Drawing(const std::string& inner) : canvas(inner) {
-        QObject::connect(
-            canvas.canvas, &form::Canvas::Drawn,
-            [this](const Text& className, form::LiveControl* container, const Placement& place) {
-                drawn.push_back(
-                    ToUtf8(className) + " in " +
-                    (container == nullptr ? std::string("the form") : ToUtf8(container->Name())));
-                places.push_back(place);
-            });
-        QObject::connect(canvas.canvas, &form::Canvas::DrawingEnded, [this] { ++ended; });
+        QObject::connect(canvas.canvas, &lumenform::Canvas::Drawn,
+                         [this](const Text& className, lumenform::LiveControl* container,
+                                const Placement& place) {
+                             drawn.push_back(ToUtf8(className) + " in " +
+                                             (container == nullptr ? std::string("the form")
+                                                                   : ToUtf8(container->Name())));
+                             places.push_back(place);
+                         });
+        QObject::connect(canvas.canvas, &lumenform::Canvas::DrawingEnded, [this] { ++ended; });
     }
 
     DesignedForm canvas;
@@ -75,7 +75,7 @@ TEST(CanvasDrawing, AClickGivesTheUsualSize) {
         drawing.canvas.canvas->BeginDrawing(Text(className));
         drawing.canvas.Click({9, 17});
         const Placement usual =
-            form::UsualPlace(drawing.canvas.design.Context().classes, className);
+            lumenform::UsualPlace(drawing.canvas.design.Context().classes, className);
         EXPECT_GT(usual.width, 0);
         EXPECT_EQ(drawing.places.back(), (Placement{120, 240, usual.width, usual.height}));
     }
@@ -104,11 +104,11 @@ TEST(CanvasDrawing, EscInTheMiddleOfTheDragEndsTheDragOnly) {
 
 TEST(CanvasDrawing, TheModelTakesWhatIsDrawn) {
     DesignedForm canvas(withFrame);
-    QObject::connect(
-        canvas.canvas, &form::Canvas::Drawn,
-        [&](const Text& className, const form::LiveControl* container, const Placement& place) {
-            form::AddNewControl(canvas.design, className, container, place);
-        });
+    QObject::connect(canvas.canvas, &lumenform::Canvas::Drawn,
+                     [&](const Text& className, const lumenform::LiveControl* container,
+                         const Placement& place) {
+                         lumenform::AddNewControl(canvas.design, className, container, place);
+                     });
     canvas.canvas->BeginDrawing(u"VB.CheckBox");
     canvas.Drag({100 + 8, 20 + 80}, {80, 24});
     EXPECT_THAT(canvas.Selected(), ElementsAre("CheckBox1"));
@@ -231,7 +231,7 @@ TEST(CanvasTabOrder, ANumberChangesOnlyWhereItMust) {
 TEST(CanvasTabOrder, EscEndsItAndItBeginsAnew) {
     DesignedForm canvas(numbered);
     std::vector<bool> told;
-    QObject::connect(canvas.canvas, &form::Canvas::TabOrderModeChanged,
+    QObject::connect(canvas.canvas, &lumenform::Canvas::TabOrderModeChanged,
                      [&](bool on) { told.push_back(on); });
     canvas.canvas->SetTabOrderMode(true);
     canvas.Click(canvas.MiddleOf(u"C"));

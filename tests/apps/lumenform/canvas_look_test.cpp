@@ -136,8 +136,8 @@ TEST(CanvasLook, ALargeFormScrolls) {
 
 TEST(CanvasLook, TheCanvasGivesTheViewBack) {
     Surface surface;
-    form::Design design(surface.context, FormWith("   Begin VB.Label A\n End\n"));
-    auto canvas = std::make_unique<form::Canvas>(design);
+    lumenform::Design design(surface.context, FormWith("   Begin VB.Label A\n End\n"));
+    auto canvas = std::make_unique<lumenform::Canvas>(design);
     EXPECT_TRUE(canvas->isAncestorOf(&design.View()));
     design.Restructure("Caption", [&] {
         design.Document().Root().Set(u"Caption", forms::TextLiteral(u"Another"));

@@ -100,7 +100,7 @@ TEST(CanvasSelection, ABandSelectsWhatItTouches) {
 
 TEST(CanvasSelection, ABandIsWipedWhenItEnds) {
     DesignedForm canvas(nestedControls);
-    form::Glass& glass = canvas.canvas->GetGlass();
+    lumenform::Glass& glass = canvas.canvas->GetGlass();
     for (const bool isCancelled : {false, true}) {
         canvas.Press({250, 20});
         canvas.MoveTo({260, 30});
@@ -182,12 +182,13 @@ TEST(CanvasSelection, IsToldToScreenReaders) {
 TEST(CanvasSelection, DoubleClickAndEnterActivate) {
     DesignedForm canvas(nestedControls);
     std::vector<std::string> activated;
-    QObject::connect(
-        canvas.canvas, &form::Canvas::Activated,
-        [&](const form::LiveControl& control) { activated.push_back(ToUtf8(control.Name())); });
-    QObject::connect(canvas.canvas, &form::Canvas::FormActivated,
+    QObject::connect(canvas.canvas, &lumenform::Canvas::Activated,
+                     [&](const lumenform::LiveControl& control) {
+                         activated.push_back(ToUtf8(control.Name()));
+                     });
+    QObject::connect(canvas.canvas, &lumenform::Canvas::FormActivated,
                      [&] { activated.emplace_back("form"); });
-    form::Glass& glass = canvas.canvas->GetGlass();
+    lumenform::Glass& glass = canvas.canvas->GetGlass();
     const auto doubleClick = [&](QPoint at) {
         canvas.Click(at);
         const QPoint onGlass = glass.mapFromGlobal(canvas.design.View().Client().mapToGlobal(at));
@@ -204,9 +205,9 @@ TEST(CanvasSelection, DoubleClickAndEnterActivate) {
 TEST(CanvasSelection, TheMenuIsForWhatLiesUnderTheMouse) {
     DesignedForm canvas(nestedControls);
     std::vector<QPoint> asked;
-    QObject::connect(canvas.canvas, &form::Canvas::MenuRequested,
+    QObject::connect(canvas.canvas, &lumenform::Canvas::MenuRequested,
                      [&](QPoint at) { asked.push_back(at); });
-    form::Glass& glass = canvas.canvas->GetGlass();
+    lumenform::Glass& glass = canvas.canvas->GetGlass();
     const auto ask = [&](QPoint at) {
         const QPoint global = canvas.design.View().Client().mapToGlobal(at);
         QContextMenuEvent event(QContextMenuEvent::Mouse, glass.mapFromGlobal(global), global);

@@ -33,8 +33,8 @@ EditedDesign ThreeButtons() {
 }
 
 void MoveBy(EditedDesign& edited, TextView name, float twips,
-            form::Merging merging = form::Merging::None) {
-    form::LiveControl& control = edited.Control(name);
+            lumenform::Merging merging = lumenform::Merging::None) {
+    lumenform::LiveControl& control = edited.Control(name);
     host::Placement place = control.Place();
     place.left += twips;
     edited.design.Edit(
@@ -67,11 +67,11 @@ TEST(Design, NudgesOfOneSelectionAreOneStep) {
     edited.Select({u"cmdA"});
     const std::string before = edited.Text();
     for (int i = 0; i < 3; ++i) {
-        MoveBy(edited, u"cmdA", 15, form::Merging::Nudges);
+        MoveBy(edited, u"cmdA", 15, lumenform::Merging::Nudges);
     }
     EXPECT_EQ(edited.design.History().count(), 1);
     edited.Select({u"cmdB"});
-    MoveBy(edited, u"cmdB", 15, form::Merging::Nudges);
+    MoveBy(edited, u"cmdB", 15, lumenform::Merging::Nudges);
     MoveBy(edited, u"cmdB", 15);
     EXPECT_EQ(edited.design.History().count(), 3);
     edited.design.History().undo();
@@ -121,9 +121,11 @@ TEST(Design, AViewThatCannotBeMadeTakesTheChangeBack) {
 TEST(Design, TellsWhatHappens) {
     EditedDesign edited = ThreeButtons();
     std::string told;
-    QObject::connect(&edited.design, &form::Design::Edited, [&] { told += "edited "; });
-    QObject::connect(&edited.design, &form::Design::SelectionChanged, [&] { told += "selected "; });
-    QObject::connect(&edited.design, &form::Design::ViewReplaced, [&] { told += "replaced "; });
+    QObject::connect(&edited.design, &lumenform::Design::Edited, [&] { told += "edited "; });
+    QObject::connect(&edited.design, &lumenform::Design::SelectionChanged,
+                     [&] { told += "selected "; });
+    QObject::connect(&edited.design, &lumenform::Design::ViewReplaced,
+                     [&] { told += "replaced "; });
     edited.Select({u"cmdA"});
     edited.Select({u"cmdA"});
     EXPECT_EQ(told, "selected ");
@@ -138,10 +140,10 @@ TEST(Design, TellsWhatHappens) {
 
 TEST(Design, KeepsTheLatestStepsOnly) {
     EditedDesign edited = ThreeButtons();
-    for (int i = 0; i <= form::Design::mostSteps; ++i) {
+    for (int i = 0; i <= lumenform::Design::mostSteps; ++i) {
         MoveBy(edited, u"cmdA", 15);
     }
-    EXPECT_EQ(edited.design.History().count(), form::Design::mostSteps);
+    EXPECT_EQ(edited.design.History().count(), lumenform::Design::mostSteps);
 }
 
 TEST(Design, UndoAfterSavingUnderAnotherNameKeepsToItsOwnCompanion) {
@@ -155,15 +157,15 @@ TEST(Design, UndoAfterSavingUnderAnotherNameKeepsToItsOwnCompanion) {
 }
 
 TEST(DesignNames, AreWhatCodeCanSay) {
-    EXPECT_TRUE(form::IsName(u"a"));
-    EXPECT_TRUE(form::IsName(u"cmd_OK2"));
-    EXPECT_TRUE(form::IsName(lumenkit::Text(40, u'x')));
-    EXPECT_FALSE(form::IsName(lumenkit::Text(41, u'x')));
-    EXPECT_FALSE(form::IsName(u""));
-    EXPECT_FALSE(form::IsName(u"2x"));
-    EXPECT_FALSE(form::IsName(u"_x"));
-    EXPECT_FALSE(form::IsName(u"a b"));
-    EXPECT_FALSE(form::IsName(u"ä"));
+    EXPECT_TRUE(lumenform::IsName(u"a"));
+    EXPECT_TRUE(lumenform::IsName(u"cmd_OK2"));
+    EXPECT_TRUE(lumenform::IsName(lumenkit::Text(40, u'x')));
+    EXPECT_FALSE(lumenform::IsName(lumenkit::Text(41, u'x')));
+    EXPECT_FALSE(lumenform::IsName(u""));
+    EXPECT_FALSE(lumenform::IsName(u"2x"));
+    EXPECT_FALSE(lumenform::IsName(u"_x"));
+    EXPECT_FALSE(lumenform::IsName(u"a b"));
+    EXPECT_FALSE(lumenform::IsName(u"ä"));
 }
 
 TEST(DesignNames, AreFreshBesideMenusAndWhatLiesInside) {
@@ -171,17 +173,17 @@ TEST(DesignNames, AreFreshBesideMenusAndWhatLiesInside) {
         FormWith("   Begin VB.Frame Frame1 \n      Begin VB.Label label1 \n      End\n   End\n"
                  "   Begin VB.Menu VMemo1 \n   End\n"));
     const forms::Block& root = edited.design.Document().Root();
-    EXPECT_EQ(form::FreshName({&root}, u"VB.Label"), u"Label2");
-    EXPECT_EQ(form::FreshName({&root}, u"lumenkit.VMemo"), u"VMemo2");
-    EXPECT_EQ(form::FreshName({&root}, u"VB.Timer"), u"Timer1");
-    EXPECT_EQ(form::FreshName({&root}, u"1.2"), u"Control1");
-    EXPECT_TRUE(form::IsTaken(root, u"FORM1"));
+    EXPECT_EQ(lumenform::FreshName({&root}, u"VB.Label"), u"Label2");
+    EXPECT_EQ(lumenform::FreshName({&root}, u"lumenkit.VMemo"), u"VMemo2");
+    EXPECT_EQ(lumenform::FreshName({&root}, u"VB.Timer"), u"Timer1");
+    EXPECT_EQ(lumenform::FreshName({&root}, u"1.2"), u"Control1");
+    EXPECT_TRUE(lumenform::IsTaken(root, u"FORM1"));
 }
 
 TEST(NewControl, IsSetUpAsItsClassSetsUpNewOnes) {
     EditedDesign edited(FormWith(""));
-    form::AddNewControl(edited.design, u"lumenkit.VLabel", nullptr,
-                        {.left = 120, .top = 240, .width = 2400, .height = 480});
+    lumenform::AddNewControl(edited.design, u"lumenkit.VLabel", nullptr,
+                             {.left = 120, .top = 240, .width = 2400, .height = 480});
     EXPECT_EQ(edited.Selected(), "VLabel1");
     EXPECT_EQ(edited.PlaceOf(u"VLabel1"), "2400 x 480 at 120, 240");
     const std::string text = edited.Text();
@@ -195,7 +197,8 @@ TEST(NewControl, IsSetUpAsItsClassSetsUpNewOnes) {
                                 "      Width           =   2400\n"
                                 "      _ExtentX        =   4233\n"
                                 "      _ExtentY        =   847\n"));
-    form::AddNewControl(edited.design, u"lumenkit.VLabel", nullptr, {.width = 1200, .height = 480});
+    lumenform::AddNewControl(edited.design, u"lumenkit.VLabel", nullptr,
+                             {.width = 1200, .height = 480});
     EXPECT_EQ(edited.Selected(), "VLabel2");
     EXPECT_EQ(edited.design.Document().Libraries().size(), 1U);
     edited.design.History().undo();
@@ -204,13 +207,13 @@ TEST(NewControl, IsSetUpAsItsClassSetsUpNewOnes) {
 }
 
 TEST(NewControl, EveryClassOfTheToolboxCanBePutIntoAFrame) {
-    for (const lumenkit::Text& className : form::NewControlClasses(lumenkitClasses)) {
+    for (const lumenkit::Text& className : lumenform::NewControlClasses(lumenkitClasses)) {
         EditedDesign edited(
             FormWith("   Begin VB.Frame fraOuter \n      Height = 2000\n"
                      "      Width = 3000\n   End\n   Begin VB.Menu mnu \n   End\n"));
-        host::Placement place = form::UsualPlace(lumenkitClasses, className);
+        host::Placement place = lumenform::UsualPlace(lumenkitClasses, className);
         place.left = 60;
-        form::AddNewControl(edited.design, className, &edited.Control(u"fraOuter"), place);
+        lumenform::AddNewControl(edited.design, className, &edited.Control(u"fraOuter"), place);
         const forms::Block& root = edited.design.Document().Root();
         ASSERT_EQ(root.Controls().size(), 2U);
         ASSERT_EQ(root.Controls().front()->Controls().size(), 1U);
@@ -225,7 +228,7 @@ TEST(NewControl, EveryClassOfTheToolboxCanBePutIntoAFrame) {
 TEST(NewControl, StandsInFrontAndBeforeTheMenus) {
     EditedDesign edited(
         FormWith(Block("VB.CommandButton", "cmdA", 0, 0) + "   Begin VB.Menu mnuFile \n   End\n"));
-    form::AddNewControl(edited.design, u"VB.Label", nullptr, {.width = 100, .height = 100});
+    lumenform::AddNewControl(edited.design, u"VB.Label", nullptr, {.width = 100, .height = 100});
     const auto controls = edited.design.Document().Root().Controls();
     ASSERT_EQ(controls.size(), 3U);
     EXPECT_EQ(controls[0]->Name(), u"Label1");
@@ -233,7 +236,7 @@ TEST(NewControl, StandsInFrontAndBeforeTheMenus) {
 }
 
 TEST(Arrange, AlignsWithTheLastSelected) {
-    using form::Alignment;
+    using lumenform::Alignment;
     const std::pair<Alignment, std::string> expected[] = {
         {Alignment::Left, "1215 x 495 at 600, 120"},
         {Alignment::Center, "1215 x 495 at 700, 120"},
@@ -248,7 +251,7 @@ TEST(Arrange, AlignsWithTheLastSelected) {
             edited.Control(u"cmdB").Move({.left = 600, .top = 900, .width = 1415, .height = 600});
         });
         edited.Select({u"cmdA", u"cmdB"});
-        form::Align(edited.design, alignment);
+        lumenform::Align(edited.design, alignment);
         EXPECT_EQ(edited.PlaceOf(u"cmdA"), place);
         EXPECT_EQ(edited.PlaceOf(u"cmdB"), "1415 x 600 at 600, 900");
         EXPECT_EQ(edited.design.History().count(), 2);
@@ -263,14 +266,15 @@ TEST(Arrange, AlignsAcrossContainers) {
                  "         Width = 1215\n      End\n   End\n" +
                  Block("VB.CommandButton", "cmdOut", 0, 0)));
     edited.Select({u"cmdOut", u"cmdIn"});
-    form::Align(edited.design, form::Alignment::Left);
+    lumenform::Align(edited.design, lumenform::Alignment::Left);
     EXPECT_EQ(edited.PlaceOf(u"cmdOut"), "1215 x 495 at 900, 0");
     EXPECT_EQ(edited.PlaceOf(u"cmdIn"), "1215 x 495 at 600, 600");
-    EXPECT_EQ(form::ContainerOf(edited.design, edited.Control(u"cmdIn")),
+    EXPECT_EQ(lumenform::ContainerOf(edited.design, edited.Control(u"cmdIn")),
               &edited.Control(u"fraOuter"));
-    EXPECT_EQ(form::ContainerOf(edited.design, edited.Control(u"cmdOut")), nullptr);
+    EXPECT_EQ(lumenform::ContainerOf(edited.design, edited.Control(u"cmdOut")), nullptr);
     edited.Select({u"fraOuter", u"cmdIn"});
-    EXPECT_THAT(form::OutermostSelected(edited.design), ElementsAre(&edited.Control(u"fraOuter")));
+    EXPECT_THAT(lumenform::OutermostSelected(edited.design),
+                ElementsAre(&edited.Control(u"fraOuter")));
 }
 
 TEST(Arrange, MakesTheSameSizeCentersSpacesAndSizesToTheGrid) {
@@ -279,19 +283,19 @@ TEST(Arrange, MakesTheSameSizeCentersSpacesAndSizesToTheGrid) {
     edited.design.Edit(QStringLiteral("Size"), [&] {
         edited.Control(u"cmdC").Move({.left = 2400, .top = 2000, .width = 1000, .height = 700});
     });
-    form::MakeSameSize(edited.design, form::Dimension::Width);
+    lumenform::MakeSameSize(edited.design, lumenform::Dimension::Width);
     EXPECT_EQ(edited.PlaceOf(u"cmdA"), "1000 x 495 at 120, 120");
-    form::MakeSameSize(edited.design, form::Dimension::Height);
+    lumenform::MakeSameSize(edited.design, lumenform::Dimension::Height);
     EXPECT_EQ(edited.PlaceOf(u"cmdA"), "1000 x 700 at 120, 120");
     // The form is 4500 wide. The two controls together span 3280.
-    form::CenterOnContainer(edited.design, Qt::Horizontal);
+    lumenform::CenterOnContainer(edited.design, Qt::Horizontal);
     EXPECT_EQ(edited.PlaceOf(u"cmdA"), "1000 x 700 at 610, 120");
     EXPECT_EQ(edited.PlaceOf(u"cmdC"), "1000 x 700 at 2890, 2000");
     edited.Select({u"cmdA", u"cmdC", u"cmdB"});
     // From 120 to 2700: controls of 700 + 495 + 700 and two gaps of 342.5.
-    form::SpaceEvenly(edited.design, Qt::Vertical);
+    lumenform::SpaceEvenly(edited.design, Qt::Vertical);
     EXPECT_EQ(edited.PlaceOf(u"cmdB"), "1215 x 495 at 600, 1163");
-    form::SizeToGrid(edited.design, 120);
+    lumenform::SizeToGrid(edited.design, 120);
     EXPECT_EQ(edited.PlaceOf(u"cmdB"), "1200 x 480 at 600, 1200");
 }
 
@@ -307,10 +311,10 @@ TEST(Stacking, BringsToTheFrontAndSendsToTheBack) {
         return names;
     };
     edited.Select({u"c", u"b"});
-    form::BringToFront(edited.design);
+    lumenform::BringToFront(edited.design);
     EXPECT_EQ(order(), "b c a mnu ");
     EXPECT_EQ(edited.Selected(), "c b");
-    form::SendToBack(edited.design);
+    lumenform::SendToBack(edited.design);
     EXPECT_EQ(order(), "a b c mnu ");
     edited.design.History().undo();
     EXPECT_EQ(order(), "b c a mnu ");
@@ -320,7 +324,7 @@ TEST(Stacking, DeletesWithWhatLiesInside) {
     EditedDesign edited(forms::Load(sampleForms / "all_three.frm"));
     const std::string before = edited.Text();
     edited.Select({u"fraLeft", u"VLabel1"});
-    form::DeleteSelected(edited.design);
+    lumenform::DeleteSelected(edited.design);
     EXPECT_THAT(edited.Text(), Not(HasSubstr("VOptList1")));
     EXPECT_THAT(edited.Text(), HasSubstr("VMemo1"));
     EXPECT_EQ(edited.Selected(), "");
@@ -332,20 +336,20 @@ TEST(Stacking, DeletesWithWhatLiesInside) {
 TEST(Clipboard, CopiesComeBesideTheirOriginals) {
     EditedDesign edited(forms::Load(sampleForms / "all_three.frm"));
     edited.Select({u"fraLeft"});
-    const auto data = form::CopySelected(edited.design);
-    ASSERT_TRUE(form::HoldsControls(data.get()));
+    const auto data = lumenform::CopySelected(edited.design);
+    ASSERT_TRUE(lumenform::HoldsControls(data.get()));
     EXPECT_THAT(data->text().toStdString(), HasSubstr("Begin VB.Frame fraLeft"));
     edited.Select({});
-    form::Paste(edited.design, *data);
+    lumenform::Paste(edited.design, *data);
     EXPECT_EQ(edited.Selected(), "Frame1");
     EXPECT_EQ(edited.PlaceOf(u"Frame1"), "2175 x 2895 at 240, 240");
     ASSERT_NE(edited.design.View().Find(u"VLabel2"), nullptr);
-    EXPECT_EQ(form::ContainerOf(edited.design, edited.Control(u"VLabel2")),
+    EXPECT_EQ(lumenform::ContainerOf(edited.design, edited.Control(u"VLabel2")),
               &edited.Control(u"PictureBox1"));
     EXPECT_EQ(edited.PlaceOf(u"VLabel2"), "1935 x 735 at 0, 0");
     EXPECT_EQ(edited.Control(u"VLabel2").TabIndex(), 7);
     EXPECT_EQ(edited.design.History().count(), 1);
-    form::Paste(edited.design, *data);
+    lumenform::Paste(edited.design, *data);
     EXPECT_EQ(edited.PlaceOf(u"Frame2"), "2175 x 2895 at 360, 360");
 }
 
@@ -353,15 +357,15 @@ TEST(Clipboard, GoesIntoASelectedContainerAndIntoAnotherForm) {
     EditedDesign from(forms::Load(sampleForms / "memo.frm"));
     from.Select({u"VMemo1"});
     const std::string text = from.Text();
-    const auto data = form::CopySelected(from.design);
+    const auto data = lumenform::CopySelected(from.design);
     EXPECT_EQ(from.Text(), text);
     EditedDesign to(
         FormWith("   Begin VB.Frame fraOuter \n      Height = 2000\n"
                  "      Width = 3000\n   End\n"));
     to.Select({u"fraOuter"});
-    form::Paste(to.design, *data);
+    lumenform::Paste(to.design, *data);
     EXPECT_EQ(to.Selected(), "VMemo1");
-    EXPECT_EQ(form::ContainerOf(to.design, to.Control(u"VMemo1")), &to.Control(u"fraOuter"));
+    EXPECT_EQ(lumenform::ContainerOf(to.design, to.Control(u"VMemo1")), &to.Control(u"fraOuter"));
     const auto textOf = [](const EditedDesign& edited) {
         return std::get<lumenkit::Text>(edited.Control(u"VMemo1").Own()->Automation().Get(u"Text"));
     };
@@ -383,8 +387,8 @@ TEST(Clipboard, BringsTheLibrariesThatTheControlsNeed) {
     const auto librariesWith = [&](TextView name) {
         from.Select({name});
         EditedDesign to(FormWith(""));
-        form::Paste(to.design, *form::CopySelected(from.design));
-        form::Paste(to.design, *form::CopySelected(from.design));
+        lumenform::Paste(to.design, *lumenform::CopySelected(from.design));
+        lumenform::Paste(to.design, *lumenform::CopySelected(from.design));
         std::string files;
         for (const forms::LibraryReference& library : to.design.Document().Libraries()) {
             files += ToUtf8(library.library) + ' ' + ToUtf8(library.file) + '\n';
@@ -403,7 +407,7 @@ TEST(Clipboard, ElementsOfArraysGetFreeIndices) {
     ASSERT_THAT(first, HasSubstr("("));
     edited.design.Select({edited.design.View().Controls().front().get()});
     const int count = static_cast<int>(edited.design.View().Controls().size());
-    form::DuplicateSelected(edited.design);
+    lumenform::DuplicateSelected(edited.design);
     EXPECT_EQ(edited.design.View().Controls().size(), static_cast<std::size_t>(count) + 1);
     const std::string array = first.substr(0, first.find('('));
     EXPECT_THAT(edited.Selected(), HasSubstr(array + '('));
@@ -414,11 +418,11 @@ TEST(Clipboard, WhatIsDamagedIsRefusedAndChangesNothing) {
     EditedDesign edited = ThreeButtons();
     const std::string before = edited.Text();
     QMimeData data;
-    data.setData(QLatin1String(form::controlsFormat), "nonsense");
-    EXPECT_THROW(form::Paste(edited.design, data), forms::FormError);
+    data.setData(QLatin1String(lumenform::controlsFormat), "nonsense");
+    EXPECT_THROW(lumenform::Paste(edited.design, data), forms::FormError);
     EXPECT_EQ(edited.Text(), before);
-    EXPECT_FALSE(form::HoldsControls(nullptr));
-    EXPECT_EQ(form::CopySelected(edited.design), nullptr);
+    EXPECT_FALSE(lumenform::HoldsControls(nullptr));
+    EXPECT_EQ(lumenform::CopySelected(edited.design), nullptr);
 }
 
 }  // namespace

@@ -76,7 +76,7 @@ class DesignWindowTest : public ::testing::Test {
     }
 
     QString Path(const QString& name) const { return folder.filePath(name); }
-    fs::path File(const QString& name) const { return form::PathOf(Path(name)); }
+    fs::path File(const QString& name) const { return lumenform::PathOf(Path(name)); }
     // Copies a sample and its companion. Returns the path of the copy.
     QString Copy(const std::string& name) {
         for (const fs::path& source :
@@ -88,7 +88,7 @@ class DesignWindowTest : public ::testing::Test {
         }
         return Path(QString::fromStdString(name + ".frm"));
     }
-    form::Design& Design() const { return window.Bench()->GetDesign(); }
+    lumenform::Design& Design() const { return window.Bench()->GetDesign(); }
     std::string Text() const { return Design().Document().Write().form; }
     void Select(TextView name) const { Design().SelectNamed({lumenkit::Text(name)}); }
     void Nudge() { QTest::keyClick(&window.Bench()->GetCanvas().GetGlass(), Qt::Key_Right); }
@@ -110,7 +110,7 @@ class DesignWindowTest : public ::testing::Test {
     QTemporaryDir folder;
     Surface surface;
     QSettings settings;
-    form::DesignWindow window;
+    lumenform::DesignWindow window;
 };
 
 TEST_F(DesignWindowTest, BeginsWithWhatCanBeDone) {
@@ -131,12 +131,12 @@ TEST_F(DesignWindowTest, BeginsWithWhatCanBeDone) {
 
 TEST_F(DesignWindowTest, DrawsAControlOfTheToolbox) {
     window.StartNew();
-    form::Toolbox& toolbox = window.Bench()->GetToolbox();
+    lumenform::Toolbox& toolbox = window.Bench()->GetToolbox();
     EXPECT_EQ(toolbox.item(0)->text(), QStringLiteral("VLabel"));
     const QRect first = toolbox.visualItemRect(toolbox.item(0));
     QTest::mouseClick(toolbox.viewport(), Qt::LeftButton, {}, first.center());
     EXPECT_TRUE(window.Bench()->GetCanvas().IsDrawing());
-    form::Glass& glass = window.Bench()->GetCanvas().GetGlass();
+    lumenform::Glass& glass = window.Bench()->GetCanvas().GetGlass();
     const QPoint origin = glass.mapFromGlobal(Design().View().Client().mapToGlobal(QPoint()));
     QTest::mousePress(&glass, Qt::LeftButton, {}, origin + QPoint(16, 16));
     QTest::mouseMove(&glass, origin + QPoint(100, 60));
@@ -152,7 +152,7 @@ TEST_F(DesignWindowTest, DrawsAControlOfTheToolbox) {
 
 TEST_F(DesignWindowTest, PutsAControlIntoTheMiddle) {
     window.StartNew();
-    form::Toolbox& toolbox = window.Bench()->GetToolbox();
+    lumenform::Toolbox& toolbox = window.Bench()->GetToolbox();
     toolbox.setFocus();
     toolbox.setCurrentRow(1);
     QTest::keyClick(&toolbox, Qt::Key_Return);
@@ -235,7 +235,7 @@ TEST_F(DesignWindowTest, ABadFileIsToldWithItsLineAndChangesNothing) {
     window.Load(Copy("label"));
     const std::string text = Text();
     std::ofstream(File(QStringLiteral("bad.frm"))) << "VERSION 5.00\nBegin VB.Form f\n   X\nEnd\n";
-    form::RecentFiles(settings).Add(Path(QStringLiteral("bad.frm")));
+    lumenform::RecentFiles(settings).Add(Path(QStringLiteral("bad.frm")));
     Answer answer(QStringLiteral("OK"));
     Q_EMIT window.Start().RecentWanted(Path(QStringLiteral("bad.frm")));
     EXPECT_THAT(answer.said, HasSubstr("bad.frm cannot be opened."));
@@ -301,7 +301,7 @@ TEST_F(DesignWindowTest, RunsACopyAndComesBackToTheSame) {
     EXPECT_THAT(window.windowTitle().toStdString(), HasSubstr("(running)"));
     EXPECT_FALSE(Command(QStringLiteral("Save")).isEnabled());
     EXPECT_FALSE(Command(QStringLiteral("Delete")).isEnabled());
-    form::LiveControl& memo = *window.Running()->View().Find(u"memPrint");
+    lumenform::LiveControl& memo = *window.Running()->View().Find(u"memPrint");
     TypeKeys(*memo.Own()->Parts().Find(u"Text1", 0)->Widget(), u"x");
     EXPECT_GE(window.Running()->Log().topLevelItemCount(), 1);
     // The desk around the form is dark; the controls on the form are not.
@@ -396,7 +396,7 @@ TEST_F(DesignWindowTest, RunningAndUndoTakeWhatIsBeingTyped) {
 TEST_F(DesignWindowTest, DeleteInThePropertyListIsForTheValue) {
     window.Load(Copy("order"));
     Select(u"txtName");
-    form::PropertyTable& table = window.Bench()->Properties().Table();
+    lumenform::PropertyTable& table = window.Bench()->Properties().Table();
     table.setFocus();
     QTest::keyClick(&table, Qt::Key_Delete);
     EXPECT_NE(Design().View().Find(u"txtName"), nullptr);
@@ -405,10 +405,10 @@ TEST_F(DesignWindowTest, DeleteInThePropertyListIsForTheValue) {
 TEST_F(DesignWindowTest, WhatIsRefusedStandsBelow) {
     window.StartNew();
     QString refused;
-    QObject::connect(window.Bench(), &form::Workbench::Refused,
+    QObject::connect(window.Bench(), &lumenform::Workbench::Refused,
                      [&](const QString& why) { refused = why; });
     auto data = std::make_unique<QMimeData>();
-    data->setData(QLatin1String(form::controlsFormat), "nonsense");
+    data->setData(QLatin1String(lumenform::controlsFormat), "nonsense");
     QApplication::clipboard()->setMimeData(data.release());
     const std::string before = Text();
     Command(QStringLiteral("Paste")).trigger();
@@ -432,20 +432,20 @@ TEST_F(DesignWindowTest, RemembersFormsAndTheGrid) {
     const QString path = Copy("label");
     window.Load(path);
     window.Load(Copy("options"));
-    form::RecentFiles recent(settings);
+    lumenform::RecentFiles recent(settings);
     EXPECT_EQ(recent.Existing(), (QStringList{Path(QStringLiteral("options.frm")), path}));
     fs::remove(File(QStringLiteral("options.frm")));
     EXPECT_EQ(recent.Existing(), QStringList{path});
     Command(QStringLiteral("60 twips")).trigger();
     Command(QStringLiteral("Snap to the grid")).trigger();
     EXPECT_EQ(window.Bench()->GetCanvas().GetGrid(),
-              (form::Grid{.step = 60, .isShown = true, .snaps = false}));
-    const form::DesignWindow next({.classes = lumenkitClasses,
-                                   .application = surface.application,
-                                   .interaction = surface.interaction,
-                                   .settings = settings});
-    EXPECT_EQ(form::ViewMenu(settings).GetGrid().step, 60);
-    EXPECT_FALSE(form::ViewMenu(settings).GetGrid().snaps);
+              (lumenform::Grid{.step = 60, .isShown = true, .snaps = false}));
+    const lumenform::DesignWindow next({.classes = lumenkitClasses,
+                                        .application = surface.application,
+                                        .interaction = surface.interaction,
+                                        .settings = settings});
+    EXPECT_EQ(lumenform::ViewMenu(settings).GetGrid().step, 60);
+    EXPECT_FALSE(lumenform::ViewMenu(settings).GetGrid().snaps);
 }
 
 TEST_F(DesignWindowTest, ADoubleClickOpensTheCaptionPage) {
@@ -458,7 +458,7 @@ TEST_F(DesignWindowTest, ADoubleClickOpensTheCaptionPage) {
             dialog->close();
         }
     });
-    form::Glass& glass = window.Bench()->GetCanvas().GetGlass();
+    lumenform::Glass& glass = window.Bench()->GetCanvas().GetGlass();
     const QWidget& label = Design().View().Find(u"VLabel1")->Widget();
     const QPoint middle = label.mapTo(&window, label.rect().center());
     QTest::mouseDClick(&glass, Qt::LeftButton, {}, glass.mapFrom(&window, middle));

@@ -42,8 +42,8 @@ int HandleAt(int near, int length, int side) {
 }  // namespace
 
 DesignedForm::DesignedForm(forms::Document loaded)
-    : design(surface.context, std::move(loaded)), canvas(new form::Canvas(design)) {
-    QObject::connect(canvas, &form::Canvas::Refused,
+    : design(surface.context, std::move(loaded)), canvas(new lumenform::Canvas(design)) {
+    QObject::connect(canvas, &lumenform::Canvas::Refused,
                      [this](const QString& why) { refused.push_back(why); });
     window.setCentralWidget(canvas);
     window.resize(700, 500);
@@ -55,8 +55,8 @@ DesignedForm::DesignedForm(forms::Document loaded)
 
 DesignedForm::DesignedForm(const std::string& inner) : DesignedForm(FormWith(inner)) {}
 
-form::LiveControl& DesignedForm::Control(TextView name) const {
-    form::LiveControl* control = design.View().Find(name);
+lumenform::LiveControl& DesignedForm::Control(TextView name) const {
+    lumenform::LiveControl* control = design.View().Find(name);
     if (control == nullptr) {
         throw std::out_of_range("no control " + ToUtf8(name));
     }
@@ -117,7 +117,7 @@ void DesignedForm::Press(QPoint at, Qt::KeyboardModifiers held) {
 }
 
 void DesignedForm::MoveTo(QPoint at, Qt::KeyboardModifiers held) {
-    form::Glass& glass = canvas->GetGlass();
+    lumenform::Glass& glass = canvas->GetGlass();
     const QPoint onGlass = OnGlass(at);
     QMouseEvent event(QEvent::MouseMove, onGlass, glass.mapToGlobal(onGlass), Qt::NoButton,
                       Qt::LeftButton, held);

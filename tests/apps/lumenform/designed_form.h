@@ -27,7 +27,7 @@ class DesignedForm {
     /// Takes only the lines inside the form: see FormWith.
     explicit DesignedForm(const std::string& inner);
 
-    form::LiveControl& Control(TextView name) const;
+    lumenform::LiveControl& Control(TextView name) const;
     host::Placement PlaceOf(TextView name) const { return Control(name).Place(); }
     std::vector<std::string> Selected() const;
     void Select(const std::vector<Text>& names) { design.SelectNamed(names); }
@@ -51,9 +51,9 @@ class DesignedForm {
     void Key(Qt::Key key, Qt::KeyboardModifiers held = {});
 
     Surface surface;
-    form::Design design;
+    lumenform::Design design;
     QMainWindow window;
-    form::Canvas* canvas;
+    lumenform::Canvas* canvas;
     std::vector<QString> refused;
 
  private:

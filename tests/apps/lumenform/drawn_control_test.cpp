@@ -102,9 +102,9 @@ TEST(DrawnLine, LiesBehindOtherControls) {
 }
 
 TEST(DrawnLine, IsMovedByItsEnds) {
-    LoadedView view(FormWith(Line(3, 1, 1, 4)), form::Mode::Design);
+    LoadedView view(FormWith(Line(3, 1, 1, 4)), lumenform::Mode::Design);
     const std::string before = view.Saved();
-    form::LiveControl& line = view.Control(u"L");
+    lumenform::LiveControl& line = view.Control(u"L");
     EXPECT_EQ(line.Place(), (host::Placement{120, 120, 240, 360}));
     line.Move({120, 240, 240, 360});
     const std::string moved = view.Saved();
@@ -197,7 +197,7 @@ TEST(DrawnControl, ADuplicateStepsAside) {
     form.Select({u"L"});
     const host::Placement before = form.design.Selected().front()->Place();
     DuplicateSelected(form.design);
-    const form::LiveControl& copy = *form.design.Selected().front();
+    const lumenform::LiveControl& copy = *form.design.Selected().front();
     EXPECT_GT(copy.Place().left, before.left);
     EXPECT_GT(copy.Place().top, before.top);
     EXPECT_EQ(copy.Place().width, before.width);

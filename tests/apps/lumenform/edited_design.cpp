@@ -6,8 +6,8 @@
 
 namespace lumenkit::testing {
 
-form::LiveControl& EditedDesign::Control(TextView name) const {
-    form::LiveControl* control = design.View().Find(name);
+lumenform::LiveControl& EditedDesign::Control(TextView name) const {
+    lumenform::LiveControl* control = design.View().Find(name);
     if (control == nullptr) {
         throw std::out_of_range("no control " + ToUtf8(name));
     }

@@ -14,7 +14,7 @@ class EditedDesign {
         : design(surface.context, std::move(document)) {}
 
     /// Throws if there is none.
-    form::LiveControl& Control(TextView name) const;
+    lumenform::LiveControl& Control(TextView name) const;
     void Select(std::initializer_list<TextView> names);
     /// Returns the names of the selected controls, separated by blanks.
     std::string Selected() const;
@@ -24,7 +24,7 @@ class EditedDesign {
     std::string PlaceOf(TextView name) const;
 
     Surface surface;
-    form::Design design;
+    lumenform::Design design;
 };
 
 }  // namespace lumenkit::testing

@@ -42,7 +42,7 @@ TEST(FormView, EverySampleOpensAndIsSavedAsItWas) {
         if (!IsForm(entry.path())) {
             continue;
         }
-        for (const form::Mode mode : {form::Mode::Run, form::Mode::Design}) {
+        for (const lumenform::Mode mode : {lumenform::Mode::Run, lumenform::Mode::Design}) {
             LoadedView view(forms::Load(entry.path(), CodePageOf(entry.path())), mode);
             EXPECT_EQ(view.Saved(), FileBytes(entry.path())) << entry.path();
             EXPECT_TRUE(view.surface.interaction.said.empty()) << entry.path();
@@ -82,7 +82,7 @@ TEST(FormView, TheFirstInTheFileIsInFrontAndLabelsAreBehind) {
         FormWith("   Begin VB.Label L\n Width = 900\n Height = 900\n End\n"
                  "   Begin VB.PictureBox First\n Width = 900\n Height = 900\n End\n"
                  "   Begin lumenkit.VMemo Second\n Width = 900\n Height = 900\n End\n"));
-    form::ClientArea& client = view.view->Client();
+    lumenform::ClientArea& client = view.view->Client();
     EXPECT_TRUE(view.Control(u"First").Widget().isAncestorOf(client.childAt(30, 30)));
     view.Control(u"First").Widget().hide();
     EXPECT_TRUE(view.Control(u"Second").Widget().isAncestorOf(client.childAt(30, 30)));
@@ -101,7 +101,7 @@ TEST(FormView, ControlsSeeTheColourAndFontOfWhatTheyLieIn) {
                  "      BeginProperty Font\n Name = \"Arial\"\n Size = 12\n EndProperty\n"
                  "      Begin lumenkit.VLabel A\n Width = 900\n Height = 900\n End\n"
                  "   End\n"));
-    const qt::ControlWidget& label = *view.Control(u"A").Own();
+    const qt::HostedControl& label = *view.Control(u"A").Own();
     EXPECT_EQ(label.Host().ambient.BackColor(), Rgb(255, 0, 0));
     EXPECT_EQ(label.Host().ambient.AmbientFont()->Name(), u"Arial");
     EXPECT_EQ(label.Host().ambient.AmbientFont()->Size(), 12.0F);
@@ -115,7 +115,7 @@ TEST(FormView, HiddenControlsAreSeenInDesignOnly) {
         "   Begin Some.Component C\n Left = 1\n End\n"
         "   Begin Some.Gauge D\n Left = 1\n Width = 100\n End\n";
     const LoadedView run(FormWith(inner));
-    const LoadedView design(FormWith(inner), form::Mode::Design);
+    const LoadedView design(FormWith(inner), lumenform::Mode::Design);
     for (const TextView name : {u"A", u"B", u"T", u"C"}) {
         EXPECT_FALSE(run.Control(name).Widget().isVisible());
         EXPECT_TRUE(design.Control(name).Widget().isVisible());

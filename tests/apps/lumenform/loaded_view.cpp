@@ -30,10 +30,10 @@ Surface::Surface()
               .interaction = interaction,
               .errors = [this](const RuntimeError& error) { errors.push_back(error); }} {}
 
-LoadedView::LoadedView(forms::Document loaded, form::Mode mode)
-    : document(std::move(loaded)), view(new form::FormView(surface.context, document, mode)) {
+LoadedView::LoadedView(forms::Document loaded, lumenform::Mode mode)
+    : document(std::move(loaded)), view(new lumenform::FormView(surface.context, document, mode)) {
     window.setCentralWidget(view);
-    view->OnRaised([this](const form::RaisedEvent& event) {
+    view->OnRaised([this](const lumenform::RaisedEvent& event) {
         raised.push_back(ToUtf8(event.control) + '.' + ToUtf8(event.name));
     });
     window.show();
@@ -41,8 +41,8 @@ LoadedView::LoadedView(forms::Document loaded, form::Mode mode)
     static_cast<void>(QTest::qWaitForWindowActive(&window));
 }
 
-form::LiveControl& LoadedView::Control(TextView name) const {
-    form::LiveControl* control = view->Find(name);
+lumenform::LiveControl& LoadedView::Control(TextView name) const {
+    lumenform::LiveControl* control = view->Find(name);
     if (control == nullptr) {
         throw std::out_of_range("no control " + ToUtf8(name));
     }

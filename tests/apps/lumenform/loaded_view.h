@@ -34,9 +34,9 @@ struct Surface {
 /// A form in an active window.
 class LoadedView {
  public:
-    explicit LoadedView(forms::Document loaded, form::Mode mode = form::Mode::Run);
+    explicit LoadedView(forms::Document loaded, lumenform::Mode mode = lumenform::Mode::Run);
 
-    form::LiveControl& Control(TextView name) const;
+    lumenform::LiveControl& Control(TextView name) const;
     /// Returns the part with this name of a control of this library.
     QWidget& Part(TextView control, TextView part, std::int16_t index = 0) const;
     /// Returns the form as it would be written now.
@@ -47,7 +47,7 @@ class LoadedView {
     Surface surface;
     forms::Document document;
     QMainWindow window;
-    form::FormView* view;
+    lumenform::FormView* view;
 };
 
 }  // namespace lumenkit::testing

@@ -42,7 +42,7 @@ class PageDialog : public ::testing::Test {
     BrowsedForm form{
         FormWith("   Begin lumenkit.VLabel A\n      Height          =   900\n"
                  "      Width           =   2000\n      Caption         =   \"old\"\n   End\n")};
-    form::PageDialog* dialog = nullptr;
+    lumenform::PageDialog* dialog = nullptr;
 };
 
 TEST_F(PageDialog, IsOpenedForControlsWithAPageOnly) {

@@ -48,7 +48,7 @@ TEST(PlainControl, ShowsWhatTheFormSays) {
     EXPECT_EQ(As<QScrollBar>(view, u"H").value(), 3);
     EXPECT_EQ(As<QPlainTextEdit>(view, u"M").verticalScrollBarPolicy(), Qt::ScrollBarAlwaysOn);
     EXPECT_FALSE(As<QComboBox>(view, u"L").isEditable());
-    EXPECT_EQ(As<form::LabelledBox>(view, u"X").accessibleName(), "X Other.Thing");
+    EXPECT_EQ(As<lumenform::LabelledBox>(view, u"X").accessibleName(), "X Other.Thing");
 }
 
 TEST(PlainControl, ShowsTheItemsOfLists) {
@@ -129,12 +129,13 @@ TEST(PlainControl, RefusesANegativeSize) {
 }
 
 TEST(TextList, ReadsWholeItemsOfAnyRecord) {
-    EXPECT_THAT(form::ItemsOf("\x02\0\x05\0\x01\0a\x02\0b\xE4"s, 1252), ElementsAre(u"a", u"bä"));
-    EXPECT_THAT(form::ItemsOf("\x02\0\x05\0\x01\0a\x09\0b"s, 1252), ElementsAre(u"a"));
-    EXPECT_THAT(form::ItemsOf("\x01\0\0\0\x01\0\xB9"s, 1250), ElementsAre(u"ą"));
-    EXPECT_THAT(form::ItemsOf("\x01\0\0\0\x01\0\xE4"s, 65001), ElementsAre(u"ä"));
+    EXPECT_THAT(lumenform::ItemsOf("\x02\0\x05\0\x01\0a\x02\0b\xE4"s, 1252),
+                ElementsAre(u"a", u"bä"));
+    EXPECT_THAT(lumenform::ItemsOf("\x02\0\x05\0\x01\0a\x09\0b"s, 1252), ElementsAre(u"a"));
+    EXPECT_THAT(lumenform::ItemsOf("\x01\0\0\0\x01\0\xB9"s, 1250), ElementsAre(u"ą"));
+    EXPECT_THAT(lumenform::ItemsOf("\x01\0\0\0\x01\0\xE4"s, 65001), ElementsAre(u"ä"));
     for (const std::string& record : {""s, "\x01"s, "\xFF\xFF"s, "\xFF\xFF\0\0\x01"s}) {
-        EXPECT_TRUE(form::ItemsOf(record, 1252).empty());
+        EXPECT_TRUE(lumenform::ItemsOf(record, 1252).empty());
     }
 }
 
@@ -144,21 +145,21 @@ TEST(StoredPicture, IsReadOrNothing) {
         "BM\x3E\0\0\0\0\0\0\0\x36\0\0\0\x28\0\0\0\x02\0\0\0\x01\0\0\0\x01\0\x18\0\0\0\0\0\x08\0\0\0"
         "\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\xFF\0\0\0\0\xFF\0\0"s;
     const std::string head = "\x46\0\0\0lt\0\0\x3E\0\0\0"s;
-    const QImage picture = form::PictureIn(head + bitmap).toImage();
+    const QImage picture = lumenform::PictureIn(head + bitmap).toImage();
     ASSERT_EQ(picture.size(), QSize(2, 1));
     EXPECT_EQ(picture.pixelColor(0, 0), QColor(0, 0, 255));
     EXPECT_EQ(picture.pixelColor(1, 0), QColor(255, 0, 0));
     for (const std::string& record :
          {""s, head, head + "BM", "\x46\0\0\0lx\0\0\x3E\0\0\0"s + bitmap}) {
-        EXPECT_TRUE(form::PictureIn(record).isNull());
+        EXPECT_TRUE(lumenform::PictureIn(record).isNull());
     }
 }
 
 TEST(MenuBar, HasTheKeysOfTheForm) {
-    EXPECT_EQ(form::KeysOf(u"^N"), QKeySequence(Qt::CTRL | Qt::Key_N));
-    EXPECT_EQ(form::KeysOf(u"+^{F12}"), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_F12));
-    EXPECT_EQ(form::KeysOf(u"{DEL}"), QKeySequence(Qt::Key_Delete));
-    EXPECT_TRUE(form::KeysOf(u"").isEmpty());
+    EXPECT_EQ(lumenform::KeysOf(u"^N"), QKeySequence(Qt::CTRL | Qt::Key_N));
+    EXPECT_EQ(lumenform::KeysOf(u"+^{F12}"), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_F12));
+    EXPECT_EQ(lumenform::KeysOf(u"{DEL}"), QKeySequence(Qt::Key_Delete));
+    EXPECT_TRUE(lumenform::KeysOf(u"").isEmpty());
 }
 
 TEST(MenuBar, TellsItsClicks) {

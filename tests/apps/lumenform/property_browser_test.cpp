@@ -41,7 +41,7 @@ constexpr const char* controls =
 
 std::vector<std::string> NamesIn(const BrowsedForm& form) {
     std::vector<std::string> names;
-    const form::PropertyModel& model = form.browser->Model();
+    const lumenform::PropertyModel& model = form.browser->Model();
     for (int row = 0; row < model.rowCount(); ++row) {
         names.push_back(ToUtf8(model.Row(row).name));
     }
@@ -52,7 +52,7 @@ class PropertyBrowser : public ::testing::Test {
  protected:
     // Returns the text after `name = ` on the line of the control's property; "" if there is none.
     std::string Stored(TextView control, TextView property) const {
-        const form::LiveControl* found = form.design.View().Find(control);
+        const lumenform::LiveControl* found = form.design.View().Find(control);
         const forms::Property* stored =
             (found == nullptr ? form.design.Document().Root() : found->Block())
                 .FindProperty(property);
@@ -125,7 +125,7 @@ TEST_F(PropertyBrowser, ATypedTextIsAssignedInOneStep) {
 
 TEST_F(PropertyBrowser, TypingStartsEditingAndEscTakesBack) {
     form.Select({u"Label1"});
-    form::PropertyTable& table = form.browser->Table();
+    lumenform::PropertyTable& table = form.browser->Table();
     table.GoTo(form.Row(u"BulletPrefix"));
     QTest::keyClicks(&table, "-");
     auto* const line = qobject_cast<QLineEdit*>(QApplication::focusWidget());
@@ -232,7 +232,7 @@ TEST_F(PropertyBrowser, ColoursAreTypedAsTheyAreWritten) {
 
 TEST_F(PropertyBrowser, ColoursAreChosenByName) {
     form.Select({u"Label1"});
-    auto* const dialog = form.More<form::ColorDialog>(u"BackColor");
+    auto* const dialog = form.More<lumenform::ColorDialog>(u"BackColor");
     ASSERT_NE(dialog, nullptr);
     EXPECT_EQ(dialog->SystemList().currentItem()->text(), "Window background");
     QTest::keyClicks(&dialog->SystemList(), "button f");
@@ -243,7 +243,7 @@ TEST_F(PropertyBrowser, ColoursAreChosenByName) {
 
 TEST_F(PropertyBrowser, ColoursAreChosenFromThePalette) {
     form.Select({u"List1"});
-    auto* const dialog = form.More<form::ColorDialog>(u"ItemForeColor");
+    auto* const dialog = form.More<lumenform::ColorDialog>(u"ItemForeColor");
     ASSERT_NE(dialog, nullptr);
     dialog->PaletteList().setCurrentRow(9);
     dialog->accept();
@@ -295,7 +295,7 @@ TEST_F(PropertyBrowser, EveryControlGetsAFontOfItsOwn) {
 
 TEST_F(PropertyBrowser, TextsWithLineBreaksAreEditedInAWindow) {
     form.Select({u"Memo1"});
-    auto* const dialog = form.More<form::TextDialog>(u"Text");
+    auto* const dialog = form.More<lumenform::TextDialog>(u"Text");
     ASSERT_NE(dialog, nullptr);
     QApplication::setActiveWindow(dialog);
     ASSERT_TRUE(QTest::qWaitForWindowActive(dialog));
@@ -321,7 +321,7 @@ TEST_F(PropertyBrowser, TextsWithLineBreaksAreEditedInAWindow) {
 
 TEST_F(PropertyBrowser, OptionListsAreEditedOneItemALine) {
     form.Select({u"List1"});
-    auto* const dialog = form.More<form::TextDialog>(u"Contents");
+    auto* const dialog = form.More<lumenform::TextDialog>(u"Contents");
     ASSERT_NE(dialog, nullptr);
     auto* const edit = dialog->findChild<QPlainTextEdit*>();
     EXPECT_EQ(edit->toPlainText(), "0;Item 0");
@@ -398,7 +398,7 @@ TEST_F(PropertyBrowser, PlacesAreInTheUnitsOfTheForm) {
     pixels.Type(u"Left", "12");
     EXPECT_THAT(pixels.Saved(), HasSubstr("Left = 12\n"));
     EXPECT_THAT(pixels.Saved(), HasSubstr("Top = 20\n"));
-    const form::LiveControl& memo = *pixels.design.View().Find(u"M");
+    const lumenform::LiveControl& memo = *pixels.design.View().Find(u"M");
     EXPECT_EQ(memo.Place().left,
               memo.Units().ToTwips({.left = 12, .top = 0, .width = 0, .height = 0}).left);
 }
@@ -603,7 +603,7 @@ TEST_F(PropertyBrowser, EverySampleCanBeLookedAtWithoutBeingChanged) {
 
 TEST_F(PropertyBrowser, TheRowStaysWhenTheSelectionIsAnother) {
     form.Select({u"Label1"});
-    form::PropertyTable& table = form.browser->Table();
+    lumenform::PropertyTable& table = form.browser->Table();
     table.GoTo(form.Row(u"Font"));
     form.Select({u"Memo1"});
     EXPECT_EQ(table.currentIndex().row(), form.Row(u"Font"));

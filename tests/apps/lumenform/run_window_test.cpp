@@ -23,7 +23,7 @@ class RunWindowTest : public ::testing::Test {
 
     Surface surface_;
     forms::Document document_ = forms::Load(sampleForms / "options.frm");
-    form::RunWindow window_{surface_.context, document_};
+    lumenform::RunWindow window_{surface_.context, document_};
 };
 
 TEST_F(RunWindowTest, BearsTheCaption) {
@@ -31,7 +31,7 @@ TEST_F(RunWindowTest, BearsTheCaption) {
 }
 
 TEST_F(RunWindowTest, AnOptionClickIsInTheLog) {
-    form::LiveControl& options = *window_.View().Find(u"VOptList1");
+    lumenform::LiveControl& options = *window_.View().Find(u"VOptList1");
     window_.Log().clear();
     QWidget& button = *options.Own()->Parts().Find(u"Option1", 2)->Widget();
     QTest::mouseClick(&button, Qt::LeftButton, {}, QPoint(5, button.height() / 2));
@@ -45,10 +45,10 @@ TEST_F(RunWindowTest, TheLogShowsArgumentsAndEndsSomewhere) {
     constexpr std::array parameters = {Parameter{u"KeyCode", ValueType::Integer},
                                        Parameter{u"Text", ValueType::String}};
     std::array<Value, 2> arguments = {std::int16_t{65}, Text(u"say \"a\"")};
-    for (int line = 0; line < form::EventLog::longest + 5; ++line) {
+    for (int line = 0; line < lumenform::EventLog::longest + 5; ++line) {
         window_.Log().Add({document_.Root(), u"A", u"KeyDown", parameters, arguments});
     }
-    EXPECT_EQ(window_.Log().topLevelItemCount(), form::EventLog::longest);
+    EXPECT_EQ(window_.Log().topLevelItemCount(), lumenform::EventLog::longest);
     EXPECT_EQ(window_.Log().topLevelItem(0)->text(2), R"(KeyCode = 65, Text = "say ""a""")");
 }
 

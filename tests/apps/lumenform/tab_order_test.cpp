@@ -84,7 +84,7 @@ TEST(TabOrder, LabelsLeadToTheControlBehindThem) {
 }
 
 TEST(TabOrder, NobodyTakesTheKeyboardInDesign) {
-    LoadedView view(FormWith(form), form::Mode::Design);
+    LoadedView view(FormWith(form), lumenform::Mode::Design);
     EXPECT_TRUE(view.view->Client().TabStops().empty());
 }
 

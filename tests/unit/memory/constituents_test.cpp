@@ -7,7 +7,7 @@
 #include "runtime/memory/check_box.h"
 #include "runtime/memory/command_button.h"
 #include "runtime/memory/form.h"
-#include "runtime/memory/frame.h"
+#include "runtime/memory/frame_box.h"
 #include "runtime/memory/label.h"
 #include "runtime/memory/option_buttons.h"
 #include "runtime/memory/picture_box.h"

@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "runtime/memory/placed_control.h"
+#include "runtime/memory/hosted_control.h"
 #include "tests/unit/memory/expect_error.h"
 #include "tests/unit/memory/sample_control.h"
 
@@ -14,7 +14,7 @@ using testing::Raises;
 class MemoryExtender : public ::testing::Test {
  protected:
     Form form_{testing::SampleClasses()};
-    std::unique_ptr<PlacedControl> control_ =
+    std::unique_ptr<HostedControl> control_ =
         PlaceControl(form_, u"Sample", {.name = u"s", .left = 10, .top = 20, .tag = u"a tag"});
     Object& extender_ = control_->GetExtender();
     std::vector<std::string>& calls_ =

@@ -4,8 +4,8 @@
 
 #include <gtest/gtest.h>
 
+#include "runtime/memory/hosted_control.h"
 #include "runtime/memory/option_button.h"
-#include "runtime/memory/placed_control.h"
 #include "runtime/memory/text_box.h"
 #include "runtime/memory/user.h"
 #include "tests/unit/memory/expect_error.h"
@@ -19,7 +19,7 @@ namespace {
 void RunSession(Form& form) {
     PropertyBag bag;
     {
-        PlacedControl control(form, form.FindClass(u"Sample"));
+        HostedControl control(form, form.FindClass(u"Sample"));
         control.StartNew();
         control.Automation().Let(u"Caption", Text(u"changed"));
         control.Automation().Get(u"TagSeen");
@@ -62,7 +62,7 @@ TEST(FaultSweep, AFaultInTheReportItselfReachesTheCaller) {
     for (const TextView call : {TextView(u"Interaction.Beep"), TextView(u"Application.ExeName"),
                                 TextView(u"Interaction.MsgBox")}) {
         Form form(testing::SampleClasses());
-        PlacedControl control(form, form.FindClass(u"Sample"), {.hasTag = false});
+        HostedControl control(form, form.FindClass(u"Sample"), {.hasTag = false});
         control.StartNew();
         form.Faults().FailCall(call, 1, ErrorNumber::InternalError);
         EXPECT_TRUE(testing::Raises(ErrorNumber::InternalError,

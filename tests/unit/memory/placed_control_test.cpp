@@ -1,9 +1,8 @@
-#include "runtime/memory/placed_control.h"
-
 #include <stdexcept>
 
 #include <gtest/gtest.h>
 
+#include "runtime/memory/hosted_control.h"
 #include "runtime/memory/option_button.h"
 #include "runtime/memory/text_box.h"
 #include "runtime/memory/user.h"
@@ -14,7 +13,7 @@ namespace {
 
 using testing::SampleControl;
 
-const std::vector<std::string>& CallsOf(PlacedControl& control) {
+const std::vector<std::string>& CallsOf(HostedControl& control) {
     return static_cast<SampleControl&>(control.GetControl()).calls;
 }
 
@@ -131,7 +130,7 @@ TEST_F(MemoryPlacedControl, AnEventHandlerMayCallTheControlAgain) {
 TEST_F(MemoryPlacedControl, RefusesMisuse) {
     EXPECT_THROW(PlaceControl(form_, u"Nothing"), std::out_of_range);
     const ClassDescriptor page = {.name = u"Page", .kind = ClassKind::PropertyPage};
-    EXPECT_THROW(PlacedControl(form_, page), std::logic_error);
+    EXPECT_THROW(HostedControl(form_, page), std::logic_error);
 }
 
 }  // namespace

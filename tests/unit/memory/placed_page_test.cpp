@@ -1,5 +1,3 @@
-#include "runtime/memory/placed_page.h"
-
 #include <array>
 #include <stdexcept>
 
@@ -7,7 +5,8 @@
 
 #include "frame/automation/member_binding.h"
 #include "runtime/memory/embedded_control.h"
-#include "runtime/memory/placed_control.h"
+#include "runtime/memory/hosted_control.h"
+#include "runtime/memory/hosted_page.h"
 #include "runtime/memory/text_box.h"
 #include "runtime/memory/user.h"
 #include "tests/unit/memory/expect_error.h"
@@ -71,9 +70,9 @@ class MemoryPlacedPage : public ::testing::Test {
     TextBox& Box() { return page_.Parts().Get<TextBox>(u"txtCaption"); }
 
     Form form_{testing::SampleClasses()};
-    std::unique_ptr<PlacedControl> first_ = PlaceControl(form_, u"Sample");
-    std::unique_ptr<PlacedControl> second_ = PlaceControl(form_, u"Sample");
-    PlacedPage page_{form_, pageClass};
+    std::unique_ptr<HostedControl> first_ = PlaceControl(form_, u"Sample");
+    std::unique_ptr<HostedControl> second_ = PlaceControl(form_, u"Sample");
+    HostedPage page_{form_, pageClass};
     User user_{form_};
 };
 
@@ -136,7 +135,7 @@ TEST_F(MemoryPlacedPage, TheFocusFollowsTheUser) {
 }
 
 TEST_F(MemoryPlacedPage, AControlIsNoPage) {
-    EXPECT_THROW(PlacedPage(form_, form_.FindClass(u"Sample")), std::logic_error);
+    EXPECT_THROW(HostedPage(form_, form_.FindClass(u"Sample")), std::logic_error);
 }
 
 }  // namespace

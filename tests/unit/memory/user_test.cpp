@@ -6,8 +6,8 @@
 #include <gtest/gtest.h>
 
 #include "runtime/memory/check_box.h"
+#include "runtime/memory/hosted_control.h"
 #include "runtime/memory/option_button.h"
-#include "runtime/memory/placed_control.h"
 #include "runtime/memory/scroll_bar.h"
 #include "runtime/memory/text_box.h"
 #include "tests/unit/memory/sample_control.h"
@@ -282,7 +282,7 @@ TEST_F(MemoryUser, TogglesACheckBox) {
 class MemoryUserOnAControl : public ::testing::Test {
  protected:
     Form form_{testing::SampleClasses()};
-    std::unique_ptr<PlacedControl> control_ = PlaceControl(form_, u"Sample");
+    std::unique_ptr<HostedControl> control_ = PlaceControl(form_, u"Sample");
     testing::SampleControl& sample_ = static_cast<testing::SampleControl&>(control_->GetControl());
     User user_{form_};
 };

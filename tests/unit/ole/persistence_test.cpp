@@ -1,7 +1,7 @@
 #include <random>
 
 #include "runtime/ole/persist_stream.h"
-#include "runtime/stored/stream_format.h"
+#include "runtime/ole/stored/stream_format.h"
 #include "tests/ole/container/bag.h"
 #include "tests/support/sealed_stream.h"
 #include "tests/unit/ole/ole_test.h"

@@ -15,8 +15,8 @@
 #include "frame/utf8.h"
 #include "project/lumenkit_classes.h"
 #include "runtime/memory/form.h"
-#include "runtime/memory/placed_control.h"
-#include "runtime/memory/placed_page.h"
+#include "runtime/memory/hosted_control.h"
+#include "runtime/memory/hosted_page.h"
 #include "runtime/memory/scroll_bar.h"
 #include "runtime/memory/text_box.h"
 #include "runtime/memory/user.h"
@@ -32,8 +32,8 @@ class Stage {
     explicit Stage(const ClassDescriptor& type);
 
     memory::Form& Form() { return form_; }
-    memory::PlacedControl& Control() { return *control_; }
-    memory::PlacedPage& Page() { return *page_; }
+    memory::HostedControl& Control() { return *control_; }
+    memory::HostedPage& Page() { return *page_; }
     Object& Automation() { return page_ ? page_->Automation() : control_->Automation(); }
     memory::Constituents& Parts() { return page_ ? page_->Parts() : control_->Parts(); }
     memory::User& User() { return user_; }
@@ -42,8 +42,8 @@ class Stage {
  private:
     memory::Form form_{lumenkitClasses};
     const ClassDescriptor& type_;
-    std::unique_ptr<memory::PlacedControl> control_;
-    std::unique_ptr<memory::PlacedPage> page_;
+    std::unique_ptr<memory::HostedControl> control_;
+    std::unique_ptr<memory::HostedPage> page_;
     memory::User user_{form_};
 };
 
@@ -73,7 +73,7 @@ Stage::Stage(const ClassDescriptor& type) : type_(type) {
     control_ = memory::PlaceControl(form_, placed.name, placing, &bag);
     control_->Paint();
     if (isPage) {
-        page_ = std::make_unique<memory::PlacedPage>(form_, type);
+        page_ = std::make_unique<memory::HostedPage>(form_, type);
         page_->Select({control_.get()});
     }
     form_.GetLog().Clear();
@@ -184,16 +184,16 @@ void AddParts(Operations& operations, const ClassDescriptor& type) {
 
 void AddControlEvents(Operations& operations) {
     operations.push_back({"start a new one", [](Stage& stage) {
-                              memory::PlacedControl(stage.Form(), stage.Type()).StartNew();
+                              memory::HostedControl(stage.Form(), stage.Type()).StartNew();
                           }});
     operations.push_back({"start a saved one", [](Stage& stage) {
                               memory::PropertyBag bag;
                               FillBag(bag, stage.Form());
-                              memory::PlacedControl(stage.Form(), stage.Type()).StartSaved(bag);
+                              memory::HostedControl(stage.Form(), stage.Type()).StartSaved(bag);
                           }});
     operations.push_back({"save", [](Stage& stage) { stage.Control().Save(); }});
     operations.push_back({"resize", [](Stage& stage) {
-                              memory::PlacedControl& control = stage.Control();
+                              memory::HostedControl& control = stage.Control();
                               const float width = control.Drawing().CurrentWidth();
                               control.Resize(width - 10, 900);
                           }});
@@ -216,7 +216,7 @@ void AddControlEvents(Operations& operations) {
 
 void AddPageEvents(Operations& operations) {
     operations.push_back(
-        {"make a page", [](Stage& stage) { memory::PlacedPage(stage.Form(), stage.Type()); }});
+        {"make a page", [](Stage& stage) { memory::HostedPage(stage.Form(), stage.Type()); }});
     operations.push_back({"select", [](Stage& stage) { stage.Page().Select({&stage.Control()}); }});
     operations.push_back({"apply", [](Stage& stage) { stage.Page().Apply(); }});
 }

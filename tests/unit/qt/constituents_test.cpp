@@ -99,7 +99,7 @@ class QtConstituentsTest : public ::testing::Test {
     }
 
     testing::QtForm form_{testing::PaintingClasses()};
-    ControlWidget& control_;
+    HostedControl& control_;
     Clicks clicks_;
     Edits edits_;
 };

@@ -48,7 +48,7 @@ class QtMemoTest : public ::testing::Test {
     }
 
     testing::QtForm form_{lumenkitClasses};
-    ControlWidget& memo_;
+    HostedControl& memo_;
 };
 
 TEST_F(QtMemoTest, AKeyTellsInOrder) {
@@ -261,7 +261,7 @@ TEST_F(QtMemoTest, EachSettingShowsItsScrollBars) {
 }
 
 TEST_F(QtMemoTest, TabLeavesTheBoxAndCtrlTabDoesNot) {
-    ControlWidget& other = form_.Place(u"VMemo", {0, 1800, 4500, 1800});
+    HostedControl& other = form_.Place(u"VMemo", {0, 1800, 4500, 1800});
     Edit().setFocus();
     QTest::keyClick(&Edit(), Qt::Key_Tab);
     EXPECT_FALSE(Edit().hasFocus());
@@ -315,7 +315,7 @@ TEST_F(QtMemoTest, AContainerThatSetsTheTextInItsEventIsObeyed) {
 
 TEST_F(QtMemoTest, InDesignModeItTakesNoKeysAndNoClicks) {
     testing::QtForm designer(lumenkitClasses, false);
-    ControlWidget& memo = designer.Place(u"VMemo", {0, 0, 4500, 1800});
+    HostedControl& memo = designer.Place(u"VMemo", {0, 0, 4500, 1800});
     auto& edit = dynamic_cast<TextBox&>(*memo.Parts().Find(u"Text1", 0)).Edit();
     EXPECT_EQ(edit.focusPolicy(), Qt::NoFocus);
     EXPECT_EQ(designer.window.childAt(20, 20), nullptr) << "the form itself is hit";

@@ -52,8 +52,8 @@ class Stage {
     }
 
     testing::QtForm& Form() { return form_; }
-    ControlWidget& Control() { return control_; }
-    PageWidget& Page() { return *page_; }
+    HostedControl& Control() { return control_; }
+    HostedPage& Page() { return *page_; }
     QWidget& Shown() { return isPage_ ? static_cast<QWidget&>(*page_) : control_; }
 
     void Let(TextView name, Value value) { control_.Automation().Let(name, std::move(value)); }
@@ -72,8 +72,8 @@ class Stage {
  private:
     testing::QtForm form_{lumenkitClasses};
     bool isPage_;
-    ControlWidget& control_;
-    std::unique_ptr<PageWidget> page_;
+    HostedControl& control_;
+    std::unique_ptr<HostedPage> page_;
 };
 
 struct Act {
@@ -202,7 +202,7 @@ const std::vector<Act>& Acts() {
          WithButtons},
         {"a page", u"VLabelCaption", call,
          [](Stage& on) {
-             const std::unique_ptr<PageWidget> page = on.Form().Page(u"VLabelCaption");
+             const std::unique_ptr<HostedPage> page = on.Form().Page(u"VLabelCaption");
              page->show();
              page->Select({on.Control().SharedAutomation()});
          },

@@ -7,8 +7,8 @@
 #include "project/lumenkit_classes.h"
 #include "runtime/qt/check_box.h"
 #include "runtime/qt/embedded_control.h"
+#include "runtime/qt/hosted_page.h"
 #include "runtime/qt/label.h"
-#include "runtime/qt/page_widget.h"
 #include "runtime/qt/scroll_bar.h"
 #include "runtime/qt/text_box.h"
 #include "tests/support/qt_form.h"
@@ -44,8 +44,8 @@ class QtPageTest : public ::testing::Test {
     }
 
     testing::QtForm form_{lumenkitClasses};
-    ControlWidget& label_;
-    std::unique_ptr<PageWidget> page_ = form_.Page(u"VLabelCaption");
+    HostedControl& label_;
+    std::unique_ptr<HostedPage> page_ = form_.Page(u"VLabelCaption");
     std::vector<bool> told_;
 };
 

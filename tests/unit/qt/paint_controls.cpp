@@ -35,7 +35,7 @@ class Painter {
     void PaintLabel(const std::string& name, const std::string& caption, TextView font,
                     float size) {
         testing::QtForm form(lumenkitClasses);
-        qt::ControlWidget& label = form.Place(u"VLabel", {0, 0, 5250, 3000});
+        qt::HostedControl& label = form.Place(u"VLabel", {0, 0, 5250, 3000});
         Object& members = label.Automation();
         members.Let(u"WordWrap", true);
         members.Let(u"BulletPrefix", Text(u"* "));
@@ -50,7 +50,7 @@ class Painter {
 
     void PaintMemo() {
         testing::QtForm form(lumenkitClasses);
-        qt::ControlWidget& memo = form.Place(u"VMemo", {0, 0, 4500, 1800});
+        qt::HostedControl& memo = form.Place(u"VMemo", {0, 0, 4500, 1800});
         memo.Automation().Let(u"ScrollBars", std::int32_t{2});
         memo.Automation().Let(
             u"Text",
@@ -62,7 +62,7 @@ class Painter {
 
     void PaintOptions() {
         testing::QtForm form(lumenkitClasses);
-        qt::ControlWidget& options = form.Place(u"VOptList", {0, 0, 3000, 1800});
+        qt::HostedControl& options = form.Place(u"VOptList", {0, 0, 3000, 1800});
         options.Automation().Let(u"Caption", Text(u"&Size"));
         options.Automation().Let(u"Contents", Text(u"S;&Small|M;&Medium|L;&Large"));
         options.Automation().Let(u"ListIndex", std::int16_t{1});
@@ -80,7 +80,7 @@ class Painter {
 
     void PaintPage() {
         testing::QtForm form(lumenkitClasses);
-        qt::ControlWidget& label = form.Place(u"VLabel", {0, 0, 6000, 4000});
+        qt::HostedControl& label = form.Place(u"VLabel", {0, 0, 6000, 4000});
         label.Automation().Let(u"Caption",
                                Text(u"|Size:16|A |B:1|bold|B:0| start|CR||Size:10|* one|"
                                     u"CR|* two |Fore:0,128,0|green"));

@@ -65,14 +65,14 @@ std::vector<Drawn> RunsOf(Surface& surface, double scale) {
 TEST(QtRepaintTest, DrawsWhatItsGlyphsDraw) {
     testing::QtForm form(lumenkitClasses);
     form.window.resize(700, 700);
-    ControlWidget& label = form.Place(u"VLabel", {0, 0, 10000, 9000});
+    HostedControl& label = form.Place(u"VLabel", {0, 0, 10000, 9000});
     label.Automation().Let(u"Caption", ThirtyLines());
     QImage image(label.size(), QImage::Format_ARGB32_Premultiplied);
     Surface& surface = label.Drawing();
     const std::vector<Drawn> runs = RunsOf(surface, label.devicePixelRatioF());
     {
         QPainter painter(&image);
-        surface.PaintOn(painter, QRect(QPoint(0, 0), image.size()));
+        surface.DrawOn(painter, QRect(QPoint(0, 0), image.size()));
     }
     QImage expected(image.size(), image.format());
     QPainter painter(&expected);

@@ -62,7 +62,7 @@ class QtSurfaceTest : public ::testing::Test {
     int Real(double twips) { return static_cast<int>(std::round(twips / 15 * Scale())); }
 
     testing::QtForm form_{testing::PaintingClasses()};
-    ControlWidget& control_;
+    HostedControl& control_;
 };
 
 TEST_F(QtSurfaceTest, ABoxFillsWholePixelsBothCornersIncluded) {

@@ -7,9 +7,9 @@
 #include "project/lumenkit_classes.h"
 #include "runtime/memory/font.h"
 #include "runtime/memory/form.h"
-#include "runtime/memory/placed_control.h"
+#include "runtime/memory/hosted_control.h"
 #include "runtime/memory/property_bag.h"
-#include "runtime/stored/stream_format.h"
+#include "runtime/ole/stored/stream_format.h"
 #include "tests/model/input_bytes.h"
 #include "tests/support/sealed_stream.h"
 

@@ -81,7 +81,7 @@ TEST_F(PageDesign, WritesTheMagnifierInCourier) {
 // The ambient font has no effect.
 TEST_F(PageDesign, WritesThePreviewInMsSansSerif) {
     page_.Form().AmbientFont().SetName(u"Times New Roman");
-    memory::PlacedPage page(page_.Form(), page_.Form().FindClass(u"VLabelCaption"));
+    memory::HostedPage page(page_.Form(), page_.Form().FindClass(u"VLabelCaption"));
     Object& preview = page.Parts().Get<memory::EmbeddedControl>(u"VLabel1").Inner().Automation();
     EXPECT_EQ(ToText(ToObject(preview.Get(u"Font"))->Get(u"Name")), u"MS Sans Serif");
 }

@@ -112,7 +112,7 @@ TEST_F(PageErrors, WithoutTheClassOfThePreviewThereIsNoPage) {
     const ClassTable classes = {.libraryName = u"lumenkit",
                                 .classes = lumenkitClasses.classes.last(1)};
     memory::Form form(classes);
-    EXPECT_THAT([&] { memory::PlacedPage page(form, form.FindClass(u"VLabelCaption")); },
+    EXPECT_THAT([&] { memory::HostedPage page(form, form.FindClass(u"VLabelCaption")); },
                 Raises(429));
 }
 
@@ -210,7 +210,7 @@ TEST_F(PageFaults, WhileScrolling) {
 TEST_F(PageFaults, WhileThePageIsMade) {
     FailEachCall(
         [] {},
-        [&] { memory::PlacedPage page(page_.Form(), page_.Form().FindClass(u"VLabelCaption")); });
+        [&] { memory::HostedPage page(page_.Form(), page_.Form().FindClass(u"VLabelCaption")); });
 }
 
 }  // namespace

@@ -2,7 +2,7 @@
 
 #include <utility>
 
-namespace lumenkit::form {
+namespace lumenkit::lumenform {
 
 BandGesture::BandGesture(const Ground& ground, const LiveControl* container, QPoint pressedAt,
                          bool adds)
@@ -25,4 +25,4 @@ void BandGesture::Finish() {
     ground_.design.Select(std::move(selected));
 }
 
-}  // namespace lumenkit::form
+}  // namespace lumenkit::lumenform

@@ -4,7 +4,7 @@
 
 #include "apps/lumenform/design/canvas/gesture.h"
 
-namespace lumenkit::form {
+namespace lumenkit::lumenform {
 
 /// Selects the controls of a container that a dragged rectangle touches.
 class BandGesture final : public Gesture {
@@ -24,4 +24,4 @@ class BandGesture final : public Gesture {
     QRect band_;
 };
 
-}  // namespace lumenkit::form
+}  // namespace lumenkit::lumenform

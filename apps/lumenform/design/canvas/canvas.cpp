@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-namespace lumenkit::form {
+namespace lumenkit::lumenform {
 
 Canvas::Canvas(Design& design, QWidget* parent)
     : QScrollArea(parent),
@@ -66,4 +66,4 @@ void Canvas::SetTabOrderMode(bool on) {
     glass_->SetTabOrderMode(on);
 }
 
-}  // namespace lumenkit::form
+}  // namespace lumenkit::lumenform

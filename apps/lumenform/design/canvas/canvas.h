@@ -8,7 +8,7 @@
 #include "apps/lumenform/design/canvas/grid_dots.h"
 #include "apps/lumenform/design/model/design.h"
 
-namespace lumenkit::form {
+namespace lumenkit::lumenform {
 
 /// The area in which a form is designed by mouse and keyboard: controls are selected, moved, sized
 /// and drawn. All changes go through the design, and each is a step of its history.
@@ -42,13 +42,13 @@ class Canvas final : public QScrollArea {
 
  Q_SIGNALS:
     /// A double click or Enter activated a control or the form itself.
-    void Activated(lumenkit::form::LiveControl& control);
+    void Activated(lumenkit::lumenform::LiveControl& control);
     void FormActivated();
     /// A context menu is requested for the present selection.
     void MenuRequested(QPoint globalPosition);
     /// A control of the class was drawn in `container` at a place in twips. `container` is null for
     /// the form.
-    void Drawn(const lumenkit::Text& className, lumenkit::form::LiveControl* container,
+    void Drawn(const lumenkit::Text& className, lumenkit::lumenform::LiveControl* container,
                const lumenkit::host::Placement& place);
     /// Drawing has ended, with or without a control.
     void DrawingEnded();
@@ -70,4 +70,4 @@ class Canvas final : public QScrollArea {
     Glass* glass_;
 };
 
-}  // namespace lumenkit::form
+}  // namespace lumenkit::lumenform

@@ -7,7 +7,7 @@
 #include "forms/block.h"
 #include "runtime/qt/qt_text.h"
 
-namespace lumenkit::form {
+namespace lumenkit::lumenform {
 
 namespace {
 
@@ -123,4 +123,4 @@ void Desk::changeEvent(QEvent* event) {
     }
 }
 
-}  // namespace lumenkit::form
+}  // namespace lumenkit::lumenform

@@ -5,7 +5,7 @@
 
 #include "apps/lumenform/form_view/form_view.h"
 
-namespace lumenkit::form {
+namespace lumenkit::lumenform {
 
 /// The neutral background of a form in the designer. Draws the title bar and border of the form.
 class Desk final : public QWidget {
@@ -39,4 +39,4 @@ class Desk final : public QWidget {
     QWidget* cover_ = nullptr;
 };
 
-}  // namespace lumenkit::form
+}  // namespace lumenkit::lumenform

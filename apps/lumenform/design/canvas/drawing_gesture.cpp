@@ -7,7 +7,7 @@
 #include "apps/lumenform/design/model/new_control.h"
 #include "runtime/qt/pixels.h"
 
-namespace lumenkit::form {
+namespace lumenkit::lumenform {
 
 DrawingGesture::DrawingGesture(const Ground& ground, Text className, QPoint pressedAt, Done done)
     : ground_(ground),
@@ -52,4 +52,4 @@ QPointF DrawingGesture::TwipsAt(QPoint at) const {
     return {inside.x() * twips.x, inside.y() * twips.y};
 }
 
-}  // namespace lumenkit::form
+}  // namespace lumenkit::lumenform

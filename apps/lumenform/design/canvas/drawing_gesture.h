@@ -5,7 +5,7 @@
 #include "apps/lumenform/design/canvas/gesture.h"
 #include "frame/text.h"
 
-namespace lumenkit::form {
+namespace lumenkit::lumenform {
 
 /// Draws the rectangle for a new control.
 class DrawingGesture final : public Gesture {
@@ -34,4 +34,4 @@ class DrawingGesture final : public Gesture {
     bool isDragged_ = false;
 };
 
-}  // namespace lumenkit::form
+}  // namespace lumenkit::lumenform

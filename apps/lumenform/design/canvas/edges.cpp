@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-namespace lumenkit::form {
+namespace lumenkit::lumenform {
 
 namespace {
 
@@ -28,4 +28,4 @@ host::Placement Shifted(const host::Placement& place, Edges edges, float across,
     return shifted;
 }
 
-}  // namespace lumenkit::form
+}  // namespace lumenkit::lumenform

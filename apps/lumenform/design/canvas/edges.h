@@ -2,7 +2,7 @@
 
 #include "frame/host/constituent.h"
 
-namespace lumenkit::form {
+namespace lumenkit::lumenform {
 
 /// The edges of a rectangle that move: some edges size it, all edges move it.
 struct Edges {
@@ -20,4 +20,4 @@ constexpr Edges allEdges{true, true, true, true};
 /// the opposite edge.
 host::Placement Shifted(const host::Placement& place, Edges edges, float across, float down);
 
-}  // namespace lumenkit::form
+}  // namespace lumenkit::lumenform

@@ -4,7 +4,7 @@
 
 #include "apps/lumenform/design/model/arrange.h"
 
-namespace lumenkit::form {
+namespace lumenkit::lumenform {
 
 namespace {
 
@@ -95,4 +95,4 @@ std::vector<LiveControl*> FormMap::InTabOrder() const {
     return order;
 }
 
-}  // namespace lumenkit::form
+}  // namespace lumenkit::lumenform

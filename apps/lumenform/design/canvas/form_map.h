@@ -8,7 +8,7 @@
 
 #include "apps/lumenform/design/model/design.h"
 
-namespace lumenkit::form {
+namespace lumenkit::lumenform {
 
 /// The places of the form and its controls in pixels of the desk. A null container is the form
 /// itself.
@@ -42,4 +42,4 @@ class FormMap {
     std::unordered_map<const QWidget*, LiveControl*> controls_;
 };
 
-}  // namespace lumenkit::form
+}  // namespace lumenkit::lumenform

@@ -8,7 +8,7 @@
 #include "forms/literal.h"
 #include "runtime/qt/pixels.h"
 
-namespace lumenkit::form {
+namespace lumenkit::lumenform {
 
 namespace {
 
@@ -62,4 +62,4 @@ void ResizeForm(Design& design, FormSize size) {
     });
 }
 
-}  // namespace lumenkit::form
+}  // namespace lumenkit::lumenform

@@ -3,7 +3,7 @@
 #include "apps/lumenform/design/model/design.h"
 #include "apps/lumenform/form_view/form_size.h"
 
-namespace lumenkit::form {
+namespace lumenkit::lumenform {
 
 /// Returns the present size in the document.
 FormSize ClientSizeOf(const Design& design);
@@ -14,4 +14,4 @@ FormSize ClientSizeOf(const Design& design);
 /// change. One step of the history. Throws as Design::Restructure does.
 void ResizeForm(Design& design, FormSize size);
 
-}  // namespace lumenkit::form
+}  // namespace lumenkit::lumenform

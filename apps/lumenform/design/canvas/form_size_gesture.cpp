@@ -6,7 +6,7 @@
 #include "apps/lumenform/design/canvas/titles.h"
 #include "runtime/qt/pixels.h"
 
-namespace lumenkit::form {
+namespace lumenkit::lumenform {
 
 namespace {
 
@@ -52,4 +52,4 @@ void FormSizeGesture::Show(const host::Placement& place) const {
     view.layout()->activate();
 }
 
-}  // namespace lumenkit::form
+}  // namespace lumenkit::lumenform

@@ -4,7 +4,7 @@
 #include "apps/lumenform/design/canvas/form_size.h"
 #include "apps/lumenform/design/canvas/gesture.h"
 
-namespace lumenkit::form {
+namespace lumenkit::lumenform {
 
 /// Sizes the form by its right and bottom edges.
 class FormSizeGesture final : public Gesture {
@@ -26,4 +26,4 @@ class FormSizeGesture final : public Gesture {
     host::Placement place_;
 };
 
-}  // namespace lumenkit::form
+}  // namespace lumenkit::lumenform

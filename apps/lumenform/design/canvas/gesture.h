@@ -9,7 +9,7 @@
 #include "apps/lumenform/design/model/design.h"
 #include "frame/host/constituent.h"
 
-namespace lumenkit::form {
+namespace lumenkit::lumenform {
 
 /// The objects that gestures work on. All must outlive the gestures, except for the view: gestures
 /// end with it.
@@ -41,4 +41,4 @@ class Gesture {
     virtual QRect Band() const { return {}; }
 };
 
-}  // namespace lumenkit::form
+}  // namespace lumenkit::lumenform

@@ -16,7 +16,7 @@
 #include "runtime/qt/pixels.h"
 #include "runtime/qt/qt_text.h"
 
-namespace lumenkit::form {
+namespace lumenkit::lumenform {
 
 namespace {
 
@@ -412,4 +412,4 @@ void Glass::PaintMarks(QPainter& painter) const {
     }
 }
 
-}  // namespace lumenkit::form
+}  // namespace lumenkit::lumenform

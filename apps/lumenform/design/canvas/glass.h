@@ -13,7 +13,7 @@
 #include "apps/lumenform/design/canvas/tab_badges.h"
 #include "apps/lumenform/design/model/design.h"
 
-namespace lumenkit::form {
+namespace lumenkit::lumenform {
 
 /// A transparent widget over the form in the designer. It receives all mouse and keyboard input and
 /// draws the marks of the selection.
@@ -106,4 +106,4 @@ class Glass final : public QWidget {
     QRegion marks_;  // as painted last
 };
 
-}  // namespace lumenkit::form
+}  // namespace lumenkit::lumenform

@@ -2,10 +2,10 @@
 
 #include <cmath>
 
-namespace lumenkit::form {
+namespace lumenkit::lumenform {
 
 float Grid::Nearest(float twips) const {
     return std::round(twips / step) * step;
 }
 
-}  // namespace lumenkit::form
+}  // namespace lumenkit::lumenform

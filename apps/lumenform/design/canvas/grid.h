@@ -1,6 +1,6 @@
 #pragma once
 
-namespace lumenkit::form {
+namespace lumenkit::lumenform {
 
 /// The grid of a form in the designer. Its origin is the upper left corner of each container.
 struct Grid {
@@ -14,4 +14,4 @@ struct Grid {
     friend bool operator==(const Grid&, const Grid&) = default;
 };
 
-}  // namespace lumenkit::form
+}  // namespace lumenkit::lumenform

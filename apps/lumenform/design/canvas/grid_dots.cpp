@@ -8,7 +8,7 @@
 #include "runtime/qt/palette_color.h"
 #include "runtime/qt/pixels.h"
 
-namespace lumenkit::form {
+namespace lumenkit::lumenform {
 
 namespace {
 
@@ -122,4 +122,4 @@ const QPixmap& GridDots::TileFor(const QWidget& widget, bool isBright) {
     return tile;
 }
 
-}  // namespace lumenkit::form
+}  // namespace lumenkit::lumenform

@@ -8,7 +8,7 @@
 #include "apps/lumenform/design/canvas/grid.h"
 #include "apps/lumenform/form_view/form_view.h"
 
-namespace lumenkit::form {
+namespace lumenkit::lumenform {
 
 /// Draws the dots of the grid on a form and on its containers, under the controls.
 class GridDots final : public QObject {
@@ -38,4 +38,4 @@ class GridDots final : public QObject {
     std::map<std::tuple<double, float, bool>, QPixmap> tiles_;  // by pixel ratio, step, brightness
 };
 
-}  // namespace lumenkit::form
+}  // namespace lumenkit::lumenform

@@ -3,7 +3,7 @@
 #include <QPalette>
 #include <algorithm>
 
-namespace lumenkit::form {
+namespace lumenkit::lumenform {
 
 namespace {
 
@@ -89,4 +89,4 @@ void PaintHandles(QPainter& painter, const std::vector<Handle>& handles, bool fi
     }
 }
 
-}  // namespace lumenkit::form
+}  // namespace lumenkit::lumenform

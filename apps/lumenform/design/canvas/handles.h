@@ -8,7 +8,7 @@
 
 #include "apps/lumenform/design/canvas/edges.h"
 
-namespace lumenkit::form {
+namespace lumenkit::lumenform {
 
 struct Handle {
     Edges edges;  ///< the edges that it moves
@@ -30,4 +30,4 @@ Qt::CursorShape CursorFor(Edges edges);
 void PaintHandles(QPainter& painter, const std::vector<Handle>& handles, bool filled,
                   const QPalette& palette);
 
-}  // namespace lumenkit::form
+}  // namespace lumenkit::lumenform

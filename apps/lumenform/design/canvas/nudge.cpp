@@ -8,7 +8,7 @@
 #include "apps/lumenform/design/model/arrange.h"
 #include "runtime/qt/pixels.h"
 
-namespace lumenkit::form {
+namespace lumenkit::lumenform {
 
 namespace {
 
@@ -70,4 +70,4 @@ bool Nudge(const Ground& ground, const QKeyEvent& key) {
     return true;
 }
 
-}  // namespace lumenkit::form
+}  // namespace lumenkit::lumenform

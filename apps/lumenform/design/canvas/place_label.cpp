@@ -3,7 +3,7 @@
 #include <QToolTip>
 #include <cmath>
 
-namespace lumenkit::form {
+namespace lumenkit::lumenform {
 
 PlaceLabel::PlaceLabel(QWidget* parent) : QLabel(parent) {
     constexpr int margin = 3;
@@ -30,4 +30,4 @@ void PlaceLabel::Tell(const host::Placement& place, QPoint pointer) {
     show();
 }
 
-}  // namespace lumenkit::form
+}  // namespace lumenkit::lumenform

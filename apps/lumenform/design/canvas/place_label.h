@@ -4,7 +4,7 @@
 
 #include "frame/host/constituent.h"
 
-namespace lumenkit::form {
+namespace lumenkit::lumenform {
 
 /// Shows a place in twips beside the mouse pointer.
 class PlaceLabel final : public QLabel {
@@ -14,4 +14,4 @@ class PlaceLabel final : public QLabel {
     void Tell(const host::Placement& place, QPoint pointer);
 };
 
-}  // namespace lumenkit::form
+}  // namespace lumenkit::lumenform

@@ -6,7 +6,7 @@
 #include "apps/lumenform/design/model/arrange.h"
 #include "runtime/qt/pixels.h"
 
-namespace lumenkit::form {
+namespace lumenkit::lumenform {
 
 namespace {
 
@@ -60,4 +60,4 @@ void PlacingGesture::Cancel() {
     }
 }
 
-}  // namespace lumenkit::form
+}  // namespace lumenkit::lumenform

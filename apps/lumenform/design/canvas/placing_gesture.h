@@ -5,7 +5,7 @@
 #include "apps/lumenform/design/canvas/edges.h"
 #include "apps/lumenform/design/canvas/gesture.h"
 
-namespace lumenkit::form {
+namespace lumenkit::lumenform {
 
 /// Moves or sizes the selected controls by the same distance as the control under the mouse. Only
 /// that control snaps to the grid.
@@ -33,4 +33,4 @@ class PlacingGesture final : public Gesture {
     const Target* grabbed_ = nullptr;
 };
 
-}  // namespace lumenkit::form
+}  // namespace lumenkit::lumenform

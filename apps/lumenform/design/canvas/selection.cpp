@@ -6,7 +6,7 @@
 
 #include "apps/lumenform/design/model/arrange.h"
 
-namespace lumenkit::form {
+namespace lumenkit::lumenform {
 
 void Toggle(Design& design, LiveControl& control) {
     std::vector<LiveControl*> selected = design.Selected();
@@ -53,4 +53,4 @@ void SelectAll(Design& design) {
     design.Select(std::move(all));
 }
 
-}  // namespace lumenkit::form
+}  // namespace lumenkit::lumenform

@@ -4,7 +4,7 @@
 #include "apps/lumenform/design/canvas/form_map.h"
 #include "apps/lumenform/design/model/design.h"
 
-namespace lumenkit::form {
+namespace lumenkit::lumenform {
 
 /// Adds the control to the selection, or removes it.
 void Toggle(Design& design, LiveControl& control);
@@ -16,4 +16,4 @@ void SelectNext(Design& design, const FormMap& map, bool forward);
 void SelectContainer(Design& design);
 void SelectAll(Design& design);
 
-}  // namespace lumenkit::form
+}  // namespace lumenkit::lumenform

@@ -5,7 +5,7 @@
 #include "apps/lumenform/design/canvas/titles.h"
 #include "apps/lumenform/design/model/tab_order.h"
 
-namespace lumenkit::form {
+namespace lumenkit::lumenform {
 
 void TabBadges::Number(const LiveControl& control) {
     if (!control.TabIndex()) {
@@ -53,4 +53,4 @@ QRect TabBadges::BadgeOf(const LiveControl& control) const {
     return {map_.RectOf(control).topLeft(), QSize(std::max(text + 2 * margin, height), height)};
 }
 
-}  // namespace lumenkit::form
+}  // namespace lumenkit::lumenform

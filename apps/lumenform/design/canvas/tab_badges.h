@@ -7,7 +7,7 @@
 #include "apps/lumenform/design/canvas/form_map.h"
 #include "apps/lumenform/design/model/design.h"
 
-namespace lumenkit::form {
+namespace lumenkit::lumenform {
 
 /// Paints the TabIndex of each control and assigns new ones in the order of clicks.
 class TabBadges {
@@ -33,4 +33,4 @@ class TabBadges {
     int next_ = 0;
 };
 
-}  // namespace lumenkit::form
+}  // namespace lumenkit::lumenform

@@ -4,7 +4,7 @@
 
 #include "runtime/qt/qt_text.h"
 
-namespace lumenkit::form {
+namespace lumenkit::lumenform {
 
 QString MoveTitle(std::size_t count, const LiveControl& one) {
     return count == 1 ? QObject::tr("Move %1").arg(qt::ToQString(one.Name()))
@@ -24,4 +24,4 @@ QString TabOrderTitle() {
     return QObject::tr("Tab order");
 }
 
-}  // namespace lumenkit::form
+}  // namespace lumenkit::lumenform

@@ -6,7 +6,7 @@
 
 #include "apps/lumenform/form_view/live_control.h"
 
-namespace lumenkit::form {
+namespace lumenkit::lumenform {
 
 /// Names the control `one` if it is the only one.
 QString MoveTitle(std::size_t count, const LiveControl& one);
@@ -14,4 +14,4 @@ QString SizeTitle(std::size_t count, const LiveControl& one);
 QString SizeFormTitle();
 QString TabOrderTitle();
 
-}  // namespace lumenkit::form
+}  // namespace lumenkit::lumenform

@@ -7,7 +7,7 @@
 
 #include "runtime/qt/pixels.h"
 
-namespace lumenkit::form {
+namespace lumenkit::lumenform {
 
 namespace {
 
@@ -220,4 +220,4 @@ void SizeToGrid(Design& design, float grid) {
     });
 }
 
-}  // namespace lumenkit::form
+}  // namespace lumenkit::lumenform

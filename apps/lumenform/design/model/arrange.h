@@ -7,7 +7,7 @@
 #include "apps/lumenform/design/model/design.h"
 #include "apps/lumenform/form_view/live_control.h"
 
-namespace lumenkit::form {
+namespace lumenkit::lumenform {
 
 enum class Alignment { Left, Center, Right, Top, Middle, Bottom };
 enum class Dimension { Width, Height, Both };
@@ -33,4 +33,4 @@ void SpaceEvenly(Design& design, Qt::Orientation orientation);
 /// Moves the edges to multiples of `grid` twips. Width and height are at least `grid`.
 void SizeToGrid(Design& design, float grid);
 
-}  // namespace lumenkit::form
+}  // namespace lumenkit::lumenform

@@ -4,7 +4,7 @@
 #include "frame/runtime_error.h"
 #include "runtime/qt/qt_text.h"
 
-namespace lumenkit::form {
+namespace lumenkit::lumenform {
 
 std::optional<QString> Attempt(const std::function<void()>& work) {
     try {
@@ -17,4 +17,4 @@ std::optional<QString> Attempt(const std::function<void()>& work) {
     }
 }
 
-}  // namespace lumenkit::form
+}  // namespace lumenkit::lumenform

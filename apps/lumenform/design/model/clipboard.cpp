@@ -19,7 +19,7 @@
 #include "forms/controls.h"
 #include "forms/copy_control.h"
 
-namespace lumenkit::form {
+namespace lumenkit::lumenform {
 
 const char* const controlsFormat = "application/x-lumenform-controls";
 
@@ -176,4 +176,4 @@ void DuplicateSelected(Design& design) {
     }
 }
 
-}  // namespace lumenkit::form
+}  // namespace lumenkit::lumenform

@@ -6,7 +6,7 @@
 
 #include "apps/lumenform/design/model/design.h"
 
-namespace lumenkit::form {
+namespace lumenkit::lumenform {
 
 /// The MIME type of copied controls.
 extern const char* const controlsFormat;
@@ -26,4 +26,4 @@ void Paste(Design& design, const QMimeData& data);
 /// Copies and pastes without the clipboard.
 void DuplicateSelected(Design& design);
 
-}  // namespace lumenkit::form
+}  // namespace lumenkit::lumenform

@@ -6,7 +6,7 @@
 
 #include "frame/text.h"
 
-namespace lumenkit::form {
+namespace lumenkit::lumenform {
 
 // A step of the history. The first redo does nothing, because the change is complete before the
 // history gets the step.
@@ -150,4 +150,4 @@ void Design::Rename(const std::string& name) {
     now_ = std::make_shared<const Snapshot>(*document_, SelectedNames(), now_.get());
 }
 
-}  // namespace lumenkit::form
+}  // namespace lumenkit::lumenform

@@ -12,7 +12,7 @@
 #include "frame/text.h"
 #include "runtime/qt/context.h"
 
-namespace lumenkit::form {
+namespace lumenkit::lumenform {
 
 /// Whether a step can merge with the previous step of the same kind.
 enum class Merging { None, Nudges };
@@ -85,4 +85,4 @@ class Design final : public QObject {
     QUndoStack history_;
 };
 
-}  // namespace lumenkit::form
+}  // namespace lumenkit::lumenform

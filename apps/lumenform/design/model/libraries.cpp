@@ -7,7 +7,7 @@
 #include "frame/text.h"
 #include "frame/utf8.h"
 
-namespace lumenkit::form {
+namespace lumenkit::lumenform {
 
 namespace {
 
@@ -56,4 +56,4 @@ void RequireLibrariesOf(const forms::Document& clip, forms::Document& form,
     }
 }
 
-}  // namespace lumenkit::form
+}  // namespace lumenkit::lumenform

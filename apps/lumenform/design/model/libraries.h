@@ -3,7 +3,7 @@
 #include "forms/document.h"
 #include "frame/class_table.h"
 
-namespace lumenkit::form {
+namespace lumenkit::lumenform {
 
 /// Adds the library of `classes` to the form if it is missing.
 void RequireLibrary(forms::Document& form, const ClassTable& classes);
@@ -13,4 +13,4 @@ void RequireLibrary(forms::Document& form, const ClassTable& classes);
 void RequireLibrariesOf(const forms::Document& clip, forms::Document& form,
                         const ClassTable& classes);
 
-}  // namespace lumenkit::form
+}  // namespace lumenkit::lumenform

@@ -7,7 +7,7 @@
 #include "forms/controls.h"
 #include "frame/numbers.h"
 
-namespace lumenkit::form {
+namespace lumenkit::lumenform {
 
 namespace {
 
@@ -80,4 +80,4 @@ std::int32_t FreshTabIndex(const forms::Block& form) {
     return OneMore(form, u"TabIndex", [](const forms::Block&) { return true; });
 }
 
-}  // namespace lumenkit::form
+}  // namespace lumenkit::lumenform

@@ -6,7 +6,7 @@
 #include "forms/block.h"
 #include "frame/text.h"
 
-namespace lumenkit::form {
+namespace lumenkit::lumenform {
 
 /// Whether the text is a valid name in code: a letter, then letters, digits and underscores, at
 /// most 40 characters.
@@ -30,4 +30,4 @@ std::int32_t FreshIndex(const forms::Block& form, TextView name);
 /// One more than the highest TabIndex.
 std::int32_t FreshTabIndex(const forms::Block& form);
 
-}  // namespace lumenkit::form
+}  // namespace lumenkit::lumenform

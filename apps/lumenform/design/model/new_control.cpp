@@ -10,11 +10,11 @@
 #include "apps/lumenform/design/model/stacking.h"
 #include "apps/lumenform/form_view/block_reader.h"
 #include "frame/host/ambient.h"
-#include "runtime/qt/control_widget.h"
 #include "runtime/qt/form_container.h"
+#include "runtime/qt/hosted_control.h"
 #include "runtime/qt/qt_text.h"
 
-namespace lumenkit::form {
+namespace lumenkit::lumenform {
 
 namespace {
 
@@ -81,7 +81,7 @@ class Prototype final : private qt::ControlSite, private host::Ambient {
 
     const Surroundings& around_;
     qt::FormContainer container_;
-    qt::ControlWidget widget_;
+    qt::HostedControl widget_;
 };
 
 }  // namespace
@@ -135,4 +135,4 @@ void AddNewControl(Design& design, TextView className, const LiveControl* contai
     });
 }
 
-}  // namespace lumenkit::form
+}  // namespace lumenkit::lumenform

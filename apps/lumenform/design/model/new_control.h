@@ -7,7 +7,7 @@
 #include "frame/host/constituent.h"
 #include "frame/text.h"
 
-namespace lumenkit::form {
+namespace lumenkit::lumenform {
 
 /// The classes that can be added to a form: those of this library first, then the plain ones.
 std::vector<Text> NewControlClasses(const ClassTable& classes);
@@ -20,4 +20,4 @@ host::Placement UsualPlace(const ClassTable& classes, TextView className);
 void AddNewControl(Design& design, TextView className, const LiveControl* container,
                    const host::Placement& place);
 
-}  // namespace lumenkit::form
+}  // namespace lumenkit::lumenform

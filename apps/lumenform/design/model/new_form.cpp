@@ -6,7 +6,7 @@
 #include "apps/lumenform/form_view/library_name.h"
 #include "frame/utf8.h"
 
-namespace lumenkit::form {
+namespace lumenkit::lumenform {
 
 namespace {
 
@@ -64,4 +64,4 @@ std::string NewForm(std::string_view name, const ClassTable& classes) {
     return text;
 }
 
-}  // namespace lumenkit::form
+}  // namespace lumenkit::lumenform

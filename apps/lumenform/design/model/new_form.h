@@ -5,7 +5,7 @@
 
 #include "frame/class_table.h"
 
-namespace lumenkit::form {
+namespace lumenkit::lumenform {
 
 /// Returns the text of an empty form named `name` that can contain the controls of `classes`. Lines
 /// end in CR LF.
@@ -15,4 +15,4 @@ std::string NewForm(std::string_view name, const ClassTable& classes);
 /// "frm" if they do not begin with a letter.
 std::string FormName(std::string_view fileStem);
 
-}  // namespace lumenkit::form
+}  // namespace lumenkit::lumenform

@@ -9,7 +9,7 @@
 #include "apps/lumenform/design/model/naming.h"
 #include "forms/controls.h"
 
-namespace lumenkit::form {
+namespace lumenkit::lumenform {
 
 namespace {
 
@@ -95,4 +95,4 @@ void SettleInto(const forms::Block& form, const forms::Block& clip) {
     settling.SettleTabOrder();
 }
 
-}  // namespace lumenkit::form
+}  // namespace lumenkit::lumenform

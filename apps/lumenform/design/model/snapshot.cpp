@@ -2,7 +2,7 @@
 
 #include <utility>
 
-namespace lumenkit::form {
+namespace lumenkit::lumenform {
 
 namespace {
 
@@ -31,4 +31,4 @@ bool Snapshot::HoldsTheSameAs(const Snapshot& other) const {
     return form_ == other.form_ && companion_ == other.companion_;
 }
 
-}  // namespace lumenkit::form
+}  // namespace lumenkit::lumenform

@@ -7,7 +7,7 @@
 #include "forms/document.h"
 #include "frame/text.h"
 
-namespace lumenkit::form {
+namespace lumenkit::lumenform {
 
 /// The state of a document at one moment, in the bytes that would have been saved.
 class Snapshot {
@@ -32,4 +32,4 @@ class Snapshot {
 
 using SharedSnapshot = std::shared_ptr<const Snapshot>;
 
-}  // namespace lumenkit::form
+}  // namespace lumenkit::lumenform

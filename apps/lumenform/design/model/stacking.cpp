@@ -7,7 +7,7 @@
 #include "apps/lumenform/design/model/arrange.h"
 #include "apps/lumenform/form_view/menu_bar.h"
 
-namespace lumenkit::form {
+namespace lumenkit::lumenform {
 
 namespace {
 
@@ -82,4 +82,4 @@ void DeleteSelected(Design& design) {
     });
 }
 
-}  // namespace lumenkit::form
+}  // namespace lumenkit::lumenform

@@ -4,7 +4,7 @@
 #include "apps/lumenform/design/model/design.h"
 #include "forms/block.h"
 
-namespace lumenkit::form {
+namespace lumenkit::lumenform {
 
 /// Returns the block of `container` before which a new block is in front of all others, or null for
 /// the end.
@@ -19,4 +19,4 @@ void BringToFront(Design& design);
 void SendToBack(Design& design);
 void DeleteSelected(Design& design);
 
-}  // namespace lumenkit::form
+}  // namespace lumenkit::lumenform

@@ -9,7 +9,7 @@
 #include "forms/literal.h"
 #include "frame/runtime_error.h"
 
-namespace lumenkit::form {
+namespace lumenkit::lumenform {
 
 namespace {
 
@@ -57,4 +57,4 @@ void GiveTurn(const forms::Document& document, forms::Block& control, std::int32
     }
 }
 
-}  // namespace lumenkit::form
+}  // namespace lumenkit::lumenform

@@ -14,7 +14,7 @@
 #include "forms/controls.h"
 #include "frame/runtime_error.h"
 
-namespace lumenkit::form {
+namespace lumenkit::lumenform {
 
 namespace {
 
@@ -429,4 +429,4 @@ std::vector<Setting> FormSettings(Design& design) {
     return settings;
 }
 
-}  // namespace lumenkit::form
+}  // namespace lumenkit::lumenform

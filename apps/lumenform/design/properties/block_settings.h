@@ -5,7 +5,7 @@
 #include "apps/lumenform/design/model/design.h"
 #include "apps/lumenform/design/properties/setting.h"
 
-namespace lumenkit::form {
+namespace lumenkit::lumenform {
 
 // These settings must not outlive the view and the document of the design.
 
@@ -19,4 +19,4 @@ std::vector<Setting> PlainSettings(Design& design, LiveControl& control);
 /// The same for the form.
 std::vector<Setting> FormSettings(Design& design);
 
-}  // namespace lumenkit::form
+}  // namespace lumenkit::lumenform

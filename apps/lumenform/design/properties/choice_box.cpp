@@ -4,7 +4,7 @@
 #include <QScopedValueRollback>
 #include <QWheelEvent>
 
-namespace lumenkit::form {
+namespace lumenkit::lumenform {
 
 ChoiceBox::ChoiceBox(QWidget* parent) : QComboBox(parent) {
     setAutoFillBackground(true);
@@ -27,4 +27,4 @@ void ChoiceBox::wheelEvent(QWheelEvent* event) {
     event->ignore();
 }
 
-}  // namespace lumenkit::form
+}  // namespace lumenkit::lumenform

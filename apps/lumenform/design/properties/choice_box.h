@@ -2,7 +2,7 @@
 
 #include <QComboBox>
 
-namespace lumenkit::form {
+namespace lumenkit::lumenform {
 
 /// A combo box in a list. The mouse wheel scrolls the list, and moving through the entries by
 /// keyboard does not pick one.
@@ -24,4 +24,4 @@ class ChoiceBox final : public QComboBox {
     bool byKeys_ = false;
 };
 
-}  // namespace lumenkit::form
+}  // namespace lumenkit::lumenform

@@ -7,7 +7,7 @@
 #include "forms/font_description.h"
 #include "runtime/qt/qt_text.h"
 
-namespace lumenkit::form {
+namespace lumenkit::lumenform {
 
 namespace {
 
@@ -67,4 +67,4 @@ void ChooseFont(QWidget& parent, const QString& title, const host::Font* former,
     dialog->open();
 }
 
-}  // namespace lumenkit::form
+}  // namespace lumenkit::lumenform

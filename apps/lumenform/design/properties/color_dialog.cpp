@@ -10,7 +10,7 @@
 #include "runtime/qt/palette_color.h"
 #include "runtime/qt/qt_text.h"
 
-namespace lumenkit::form {
+namespace lumenkit::lumenform {
 
 namespace {
 
@@ -134,4 +134,4 @@ void ColorDialog::ChooseOther() {
     dialog->open();
 }
 
-}  // namespace lumenkit::form
+}  // namespace lumenkit::lumenform

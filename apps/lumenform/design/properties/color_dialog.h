@@ -7,7 +7,7 @@
 
 #include "frame/color.h"
 
-namespace lumenkit::form {
+namespace lumenkit::lumenform {
 
 /// A dialog to choose a system colour by name, a colour of a palette or any other colour.
 class ColorDialog final : public QDialog {
@@ -35,4 +35,4 @@ class ColorDialog final : public QDialog {
     QListWidget* palette_;
 };
 
-}  // namespace lumenkit::form
+}  // namespace lumenkit::lumenform

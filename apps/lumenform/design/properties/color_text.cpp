@@ -6,7 +6,7 @@
 
 #include "forms/literal.h"
 
-namespace lumenkit::form {
+namespace lumenkit::lumenform {
 
 namespace {
 
@@ -94,4 +94,4 @@ std::span<const Color> PaletteColors() {
     return paletteColors;
 }
 
-}  // namespace lumenkit::form
+}  // namespace lumenkit::lumenform

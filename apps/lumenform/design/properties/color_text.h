@@ -6,7 +6,7 @@
 #include "frame/color.h"
 #include "frame/text.h"
 
-namespace lumenkit::form {
+namespace lumenkit::lumenform {
 
 /// Returns the colour as "&H8000000F&".
 Text ColorText(Color color);
@@ -27,4 +27,4 @@ std::span<const NamedColor> SystemColors();
 /// Five rows of eight colours from light to dark, each row of one brightness.
 std::span<const Color> PaletteColors();
 
-}  // namespace lumenkit::form
+}  // namespace lumenkit::lumenform

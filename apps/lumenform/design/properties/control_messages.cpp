@@ -2,7 +2,7 @@
 
 #include <utility>
 
-namespace lumenkit::form {
+namespace lumenkit::lumenform {
 
 namespace {
 
@@ -37,4 +37,4 @@ void ControlMessages::MsgBox(TextView message, host::MessageStyle style,
     }
 }
 
-}  // namespace lumenkit::form
+}  // namespace lumenkit::lumenform

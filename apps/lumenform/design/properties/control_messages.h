@@ -5,7 +5,7 @@
 #include "frame/host/interaction.h"
 #include "frame/text.h"
 
-namespace lumenkit::form {
+namespace lumenkit::lumenform {
 
 /// Forwards the messages of controls and pages to another interaction. While a listener exists, it
 /// collects the messages instead. With it, an editor learns that a control rejected a value,
@@ -43,4 +43,4 @@ class ControlMessages final : public host::Interaction {
     Listener* listener_ = nullptr;
 };
 
-}  // namespace lumenkit::form
+}  // namespace lumenkit::lumenform

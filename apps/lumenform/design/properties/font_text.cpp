@@ -5,7 +5,7 @@
 #include "frame/numbers.h"
 #include "frame/runtime_error.h"
 
-namespace lumenkit::form {
+namespace lumenkit::lumenform {
 
 namespace {
 
@@ -98,4 +98,4 @@ std::shared_ptr<qt::Font> FontFromText(TextView text, const host::Font* former) 
     return font;
 }
 
-}  // namespace lumenkit::form
+}  // namespace lumenkit::lumenform

@@ -4,7 +4,7 @@
 #include "frame/text.h"
 #include "runtime/qt/font.h"
 
-namespace lumenkit::form {
+namespace lumenkit::lumenform {
 
 /// Returns the font as text: "MS Sans Serif, 8.25 pt bold italic". Empty if `font` is null.
 Text FontText(const host::Font* font);
@@ -14,4 +14,4 @@ Text FontText(const host::Font* font);
 /// size invalid.
 std::shared_ptr<qt::Font> FontFromText(TextView text, const host::Font* former);
 
-}  // namespace lumenkit::form
+}  // namespace lumenkit::lumenform

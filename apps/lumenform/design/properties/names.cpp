@@ -7,7 +7,7 @@
 #include "forms/literal.h"
 #include "frame/runtime_error.h"
 
-namespace lumenkit::form {
+namespace lumenkit::lumenform {
 
 namespace {
 
@@ -71,4 +71,4 @@ void SetIndexIn(forms::Block& form, forms::Block& control, std::optional<std::in
     RequireRoom(form, control);
 }
 
-}  // namespace lumenkit::form
+}  // namespace lumenkit::lumenform

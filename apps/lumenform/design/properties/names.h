@@ -7,7 +7,7 @@
 #include "forms/document.h"
 #include "frame/text.h"
 
-namespace lumenkit::form {
+namespace lumenkit::lumenform {
 
 /// Renames a control of a form, or the form itself. Raises 380 with the reason if the name is
 /// invalid or taken. Elements of a control array of the same class share their name.
@@ -17,4 +17,4 @@ void RenameIn(forms::Document& document, forms::Block& block, TextView name);
 /// with the reason if another control has the same name and no index, or the same name and index.
 void SetIndexIn(forms::Block& form, forms::Block& control, std::optional<std::int32_t> index);
 
-}  // namespace lumenkit::form
+}  // namespace lumenkit::lumenform

@@ -4,7 +4,7 @@
 #include <QHBoxLayout>
 #include <QStyle>
 
-namespace lumenkit::form {
+namespace lumenkit::lumenform {
 
 Notice::Notice(QWidget* parent) : QFrame(parent), text_(new QLabel(this)) {
     const int side = style()->pixelMetric(QStyle::PM_SmallIconSize);
@@ -30,4 +30,4 @@ void Notice::Say(const QString& text) {
     }
 }
 
-}  // namespace lumenkit::form
+}  // namespace lumenkit::lumenform

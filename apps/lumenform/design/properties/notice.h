@@ -3,7 +3,7 @@
 #include <QFrame>
 #include <QLabel>
 
-namespace lumenkit::form {
+namespace lumenkit::lumenform {
 
 /// A line that shows an error with an icon. It is hidden if there is no error.
 class Notice final : public QFrame {
@@ -20,4 +20,4 @@ class Notice final : public QFrame {
     QLabel* text_;
 };
 
-}  // namespace lumenkit::form
+}  // namespace lumenkit::lumenform

@@ -6,7 +6,7 @@
 #include "frame/numbers.h"
 #include "runtime/qt/font.h"
 
-namespace lumenkit::form {
+namespace lumenkit::lumenform {
 
 namespace {
 
@@ -69,7 +69,7 @@ Value OwnFont(const Value& value) {
 
 }  // namespace
 
-std::vector<Setting> OwnSettings(qt::ControlWidget& control,
+std::vector<Setting> OwnSettings(qt::HostedControl& control,
                                  const EnumerationLibrary* enumerations) {
     const ClassDescriptor& type = control.Type();
     std::vector<Setting> settings;
@@ -97,4 +97,4 @@ std::vector<Setting> OwnSettings(qt::ControlWidget& control,
     return settings;
 }
 
-}  // namespace lumenkit::form
+}  // namespace lumenkit::lumenform

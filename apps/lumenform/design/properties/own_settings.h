@@ -4,14 +4,14 @@
 
 #include "apps/lumenform/design/properties/setting.h"
 #include "frame/automation/runtime_enumerations.h"
-#include "runtime/qt/control_widget.h"
+#include "runtime/qt/hosted_control.h"
 
-namespace lumenkit::form {
+namespace lumenkit::lumenform {
 
 /// The properties of a control of this library that a designer can see, from its interface table:
 /// without hidden, write-only and indexed ones. `enumerations` may be null. The control must
 /// outlive the settings.
-std::vector<Setting> OwnSettings(qt::ControlWidget& control,
+std::vector<Setting> OwnSettings(qt::HostedControl& control,
                                  const EnumerationLibrary* enumerations);
 
-}  // namespace lumenkit::form
+}  // namespace lumenkit::lumenform

@@ -8,7 +8,7 @@
 #include "frame/runtime_error.h"
 #include "runtime/qt/qt_text.h"
 
-namespace lumenkit::form {
+namespace lumenkit::lumenform {
 
 namespace {
 
@@ -64,7 +64,7 @@ PageDialog::PageDialog(Design& design, ControlMessages& messages, const ClassDes
       notice_(new Notice(this)),
       buttons_(new QDialogButtonBox(
           QDialogButtonBox::Ok | QDialogButtonBox::Cancel | QDialogButtonBox::Apply, this)),
-      page_(new qt::PageWidget(context_, page, this)) {
+      page_(new qt::HostedPage(context_, page, this)) {
     setWindowTitle(TitleOf(page, controls));
     setWindowModality(Qt::WindowModal);
     auto* const layout = new QVBoxLayout(this);
@@ -128,4 +128,4 @@ void PageDialog::accept() {
     }
 }
 
-}  // namespace lumenkit::form
+}  // namespace lumenkit::lumenform

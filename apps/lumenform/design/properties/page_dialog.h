@@ -7,9 +7,9 @@
 #include "apps/lumenform/design/model/design.h"
 #include "apps/lumenform/design/properties/control_messages.h"
 #include "apps/lumenform/design/properties/notice.h"
-#include "runtime/qt/page_widget.h"
+#include "runtime/qt/hosted_page.h"
 
-namespace lumenkit::form {
+namespace lumenkit::lumenform {
 
 /// A property page for controls of a design, with OK, Cancel and Apply. Each Apply is one step of
 /// the history. If the page or a control rejects a value, the dialog shows the reason and stays
@@ -23,7 +23,7 @@ class PageDialog final : public QDialog {
     PageDialog(Design& design, ControlMessages& messages, const ClassDescriptor& page,
                const std::vector<Text>& controls, QWidget* parent = nullptr);
 
-    qt::PageWidget& Page() const { return *page_; }
+    qt::HostedPage& Page() const { return *page_; }
     const QDialogButtonBox& Buttons() const { return *buttons_; }
     /// The reason for the last rejection, or an empty text.
     QString Message() const { return notice_->Text(); }
@@ -42,7 +42,7 @@ class PageDialog final : public QDialog {
     QString title_;
     Notice* notice_;
     QDialogButtonBox* buttons_;
-    qt::PageWidget* page_;
+    qt::HostedPage* page_;
 };
 
-}  // namespace lumenkit::form
+}  // namespace lumenkit::lumenform

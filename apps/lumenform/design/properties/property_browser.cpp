@@ -16,7 +16,7 @@
 #include "apps/lumenform/design/properties/text_dialog.h"
 #include "runtime/qt/qt_text.h"
 
-namespace lumenkit::form {
+namespace lumenkit::lumenform {
 
 namespace {
 
@@ -294,4 +294,4 @@ PageDialog* PropertyBrowser::EditWithPage() {
     return dialog;
 }
 
-}  // namespace lumenkit::form
+}  // namespace lumenkit::lumenform

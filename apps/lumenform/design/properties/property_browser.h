@@ -10,7 +10,7 @@
 #include "apps/lumenform/design/properties/property_model.h"
 #include "apps/lumenform/design/properties/property_table.h"
 
-namespace lumenkit::form {
+namespace lumenkit::lumenform {
 
 class PageDialog;
 class PropertyDelegate;
@@ -82,4 +82,4 @@ class PropertyBrowser final : public QWidget {
     bool isAssigning_ = false;
 };
 
-}  // namespace lumenkit::form
+}  // namespace lumenkit::lumenform

@@ -13,7 +13,7 @@
 #include "runtime/qt/palette_color.h"
 #include "runtime/qt/qt_text.h"
 
-namespace lumenkit::form {
+namespace lumenkit::lumenform {
 
 namespace {
 
@@ -219,4 +219,4 @@ bool PropertyDelegate::eventFilter(QObject* object, QEvent* event) {
     }
 }
 
-}  // namespace lumenkit::form
+}  // namespace lumenkit::lumenform

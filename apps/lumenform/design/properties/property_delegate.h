@@ -6,7 +6,7 @@
 
 class QKeyEvent;
 
-namespace lumenkit::form {
+namespace lumenkit::lumenform {
 
 class ChoiceBox;
 class ValueEditor;
@@ -54,4 +54,4 @@ class PropertyDelegate final : public QStyledItemDelegate {
     const PropertyModel& model_;
 };
 
-}  // namespace lumenkit::form
+}  // namespace lumenkit::lumenform

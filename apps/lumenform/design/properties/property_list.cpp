@@ -11,7 +11,7 @@
 #include "frame/runtime_error.h"
 #include "runtime/qt/qt_text.h"
 
-namespace lumenkit::form {
+namespace lumenkit::lumenform {
 
 namespace {
 
@@ -180,4 +180,4 @@ Text ShownValue(const PropertyRow& row) {
     return text;
 }
 
-}  // namespace lumenkit::form
+}  // namespace lumenkit::lumenform

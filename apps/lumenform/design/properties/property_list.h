@@ -10,7 +10,7 @@
 #include "apps/lumenform/design/properties/setting.h"
 #include "frame/text.h"
 
-namespace lumenkit::form {
+namespace lumenkit::lumenform {
 
 /// A property that all selected objects have.
 struct PropertyRow {
@@ -55,4 +55,4 @@ Text ShownValue(const PropertyRow& row);
 /// The value as it is edited in one line.
 Text EditedValue(const PropertyRow& row);
 
-}  // namespace lumenkit::form
+}  // namespace lumenkit::lumenform

@@ -5,7 +5,7 @@
 
 #include "runtime/qt/qt_text.h"
 
-namespace lumenkit::form {
+namespace lumenkit::lumenform {
 
 namespace {
 
@@ -80,4 +80,4 @@ Qt::ItemFlags PropertyModel::flags(const QModelIndex& index) const {
     return flags;
 }
 
-}  // namespace lumenkit::form
+}  // namespace lumenkit::lumenform

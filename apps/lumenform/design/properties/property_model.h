@@ -4,7 +4,7 @@
 
 #include "apps/lumenform/design/properties/property_list.h"
 
-namespace lumenkit::form {
+namespace lumenkit::lumenform {
 
 /// A table model of the property list: names in the first column, values in the second.
 class PropertyModel final : public QAbstractTableModel {
@@ -31,4 +31,4 @@ class PropertyModel final : public QAbstractTableModel {
     PropertyList& list_;
 };
 
-}  // namespace lumenkit::form
+}  // namespace lumenkit::lumenform

@@ -6,7 +6,7 @@
 
 #include "apps/lumenform/design/properties/property_model.h"
 
-namespace lumenkit::form {
+namespace lumenkit::lumenform {
 
 PropertyTable::PropertyTable(QWidget* parent) : QTableView(parent) {
     setAccessibleName(tr("Properties"));
@@ -102,4 +102,4 @@ void PropertyTable::keyPressEvent(QKeyEvent* event) {
     }
 }
 
-}  // namespace lumenkit::form
+}  // namespace lumenkit::lumenform

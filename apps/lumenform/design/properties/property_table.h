@@ -2,7 +2,7 @@
 
 #include <QTableView>
 
-namespace lumenkit::form {
+namespace lumenkit::lumenform {
 
 /// The list of properties. One row is current, and typed text goes to its value.
 class PropertyTable final : public QTableView {
@@ -31,4 +31,4 @@ class PropertyTable final : public QTableView {
     void FitRows();
 };
 
-}  // namespace lumenkit::form
+}  // namespace lumenkit::lumenform

@@ -4,7 +4,7 @@
 #include "frame/runtime_error.h"
 #include "runtime/qt/qt_text.h"
 
-namespace lumenkit::form {
+namespace lumenkit::lumenform {
 
 QString RefusalOf(const std::function<void()>& change) {
     try {
@@ -17,4 +17,4 @@ QString RefusalOf(const std::function<void()>& change) {
     }
 }
 
-}  // namespace lumenkit::form
+}  // namespace lumenkit::lumenform

@@ -3,9 +3,9 @@
 #include <QString>
 #include <functional>
 
-namespace lumenkit::form {
+namespace lumenkit::lumenform {
 
 /// Runs a change of a design and returns the reason if it is rejected, or an empty text.
 QString RefusalOf(const std::function<void()>& change);
 
-}  // namespace lumenkit::form
+}  // namespace lumenkit::lumenform

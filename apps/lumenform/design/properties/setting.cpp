@@ -1,9 +1,9 @@
 #include "apps/lumenform/design/properties/setting.h"
 
-namespace lumenkit::form {
+namespace lumenkit::lumenform {
 
 std::vector<Choice> TruthChoices() {
     return {{u"True", true}, {u"False", false}};
 }
 
-}  // namespace lumenkit::form
+}  // namespace lumenkit::lumenform

@@ -6,7 +6,7 @@
 #include "frame/automation/value.h"
 #include "frame/text.h"
 
-namespace lumenkit::form {
+namespace lumenkit::lumenform {
 
 /// How the value of a property is shown and edited.
 enum class SettingKind {
@@ -51,4 +51,4 @@ struct Setting {
 /// The choices True and False.
 std::vector<Choice> TruthChoices();
 
-}  // namespace lumenkit::form
+}  // namespace lumenkit::lumenform

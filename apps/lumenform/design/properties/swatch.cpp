@@ -3,7 +3,7 @@
 #include <QPainter>
 #include <QPixmap>
 
-namespace lumenkit::form {
+namespace lumenkit::lumenform {
 
 QIcon Swatch(const QColor& color, QSize size, double scale) {
     QPixmap picture(size * scale);
@@ -19,4 +19,4 @@ QIcon Swatch(const QColor& color, QSize size, double scale) {
     return icon;
 }
 
-}  // namespace lumenkit::form
+}  // namespace lumenkit::lumenform

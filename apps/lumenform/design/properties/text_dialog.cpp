@@ -11,7 +11,7 @@
 
 #include "runtime/qt/qt_text.h"
 
-namespace lumenkit::form {
+namespace lumenkit::lumenform {
 
 namespace {
 
@@ -68,4 +68,4 @@ Text TextDialog::Result() const {
     return qt::ToText(now);
 }
 
-}  // namespace lumenkit::form
+}  // namespace lumenkit::lumenform

@@ -5,7 +5,7 @@
 
 #include "frame/text.h"
 
-namespace lumenkit::form {
+namespace lumenkit::lumenform {
 
 /// A dialog to edit a text with line breaks, or a text with items separated by bars, one item per
 /// line.
@@ -26,4 +26,4 @@ class TextDialog final : public QDialog {
     QPlainTextEdit* edit_;
 };
 
-}  // namespace lumenkit::form
+}  // namespace lumenkit::lumenform

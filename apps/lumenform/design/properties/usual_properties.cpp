@@ -5,7 +5,7 @@
 
 #include "frame/automation/stock_members.h"
 
-namespace lumenkit::form {
+namespace lumenkit::lumenform {
 
 namespace {
 
@@ -251,4 +251,4 @@ const UsualProperty* FindCommonProperty(TextView name) {
     return found == common.end() ? nullptr : &*found;
 }
 
-}  // namespace lumenkit::form
+}  // namespace lumenkit::lumenform

@@ -8,7 +8,7 @@
 #include "apps/lumenform/design/properties/setting.h"
 #include "frame/text.h"
 
-namespace lumenkit::form {
+namespace lumenkit::lumenform {
 
 /// A property of a class. Colours default to those of the class, fonts to that of the container.
 struct UsualProperty {
@@ -28,4 +28,4 @@ std::span<const UsualProperty> UsualPropertiesOf(TextView className);
 /// name.
 const UsualProperty* FindCommonProperty(TextView name);
 
-}  // namespace lumenkit::form
+}  // namespace lumenkit::lumenform

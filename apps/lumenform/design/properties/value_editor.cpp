@@ -3,7 +3,7 @@
 #include <QHBoxLayout>
 #include <QToolButton>
 
-namespace lumenkit::form {
+namespace lumenkit::lumenform {
 
 ValueEditor::ValueEditor(bool hasMore, QWidget* parent)
     : QWidget(parent), line_(new QLineEdit(this)), hasMore_(hasMore) {
@@ -26,4 +26,4 @@ ValueEditor::ValueEditor(bool hasMore, QWidget* parent)
     }
 }
 
-}  // namespace lumenkit::form
+}  // namespace lumenkit::lumenform

@@ -3,7 +3,7 @@
 #include <QLineEdit>
 #include <QWidget>
 
-namespace lumenkit::form {
+namespace lumenkit::lumenform {
 
 /// A line edit for a value, with a button "..." if there is a separate editor.
 class ValueEditor final : public QWidget {
@@ -25,4 +25,4 @@ class ValueEditor final : public QWidget {
     bool hasMore_;
 };
 
-}  // namespace lumenkit::form
+}  // namespace lumenkit::lumenform

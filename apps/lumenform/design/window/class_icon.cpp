@@ -4,7 +4,7 @@
 #include <algorithm>
 #include <array>
 
-namespace lumenkit::form {
+namespace lumenkit::lumenform {
 
 namespace {
 
@@ -158,4 +158,4 @@ QIcon ClassIcon(TextView className, const QPalette& palette) {
     return pixmap;
 }
 
-}  // namespace lumenkit::form
+}  // namespace lumenkit::lumenform

@@ -5,9 +5,9 @@
 
 #include "frame/text.h"
 
-namespace lumenkit::form {
+namespace lumenkit::lumenform {
 
 /// Returns an icon of a control class in the palette's colours, sharp at any scale.
 QIcon ClassIcon(TextView className, const QPalette& palette);
 
-}  // namespace lumenkit::form
+}  // namespace lumenkit::lumenform

@@ -15,7 +15,7 @@
 #include "forms/form_error.h"
 #include "runtime/qt/qt_text.h"
 
-namespace lumenkit::form {
+namespace lumenkit::lumenform {
 
 namespace {
 
@@ -325,4 +325,4 @@ void DesignWindow::dropEvent(QDropEvent* event) {
     Open(DroppedFile(*event->mimeData()));
 }
 
-}  // namespace lumenkit::form
+}  // namespace lumenkit::lumenform

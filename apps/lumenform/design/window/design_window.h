@@ -20,7 +20,7 @@
 #include "frame/host/interaction.h"
 #include "runtime/qt/context.h"
 
-namespace lumenkit::form {
+namespace lumenkit::lumenform {
 
 /// The designer window. It opens, edits, runs and saves one form at a time.
 class DesignWindow final : public QMainWindow {
@@ -105,4 +105,4 @@ class DesignWindow final : public QMainWindow {
     std::unique_ptr<RunPage> run_;
 };
 
-}  // namespace lumenkit::form
+}  // namespace lumenkit::lumenform

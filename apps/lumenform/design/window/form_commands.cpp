@@ -10,7 +10,7 @@
 #include "apps/lumenform/design/model/clipboard.h"
 #include "apps/lumenform/design/model/stacking.h"
 
-namespace lumenkit::form {
+namespace lumenkit::lumenform {
 
 namespace {
 
@@ -195,4 +195,4 @@ void FormCommands::Update() {
     }
 }
 
-}  // namespace lumenkit::form
+}  // namespace lumenkit::lumenform

@@ -7,7 +7,7 @@
 
 #include "apps/lumenform/design/window/workbench.h"
 
-namespace lumenkit::form {
+namespace lumenkit::lumenform {
 
 /// The menus with the commands for the open form. Commands that are not available are disabled.
 class FormCommands final : public QObject {
@@ -57,4 +57,4 @@ class FormCommands final : public QObject {
     QAction* tabOrder_ = nullptr;
 };
 
-}  // namespace lumenkit::form
+}  // namespace lumenkit::lumenform

@@ -6,7 +6,7 @@
 #include <QMessageBox>
 #include <QPushButton>
 
-namespace lumenkit::form {
+namespace lumenkit::lumenform {
 
 namespace {
 
@@ -67,4 +67,4 @@ void Warn(QWidget& window, const QString& heading, const QString& why) {
     box.exec();
 }
 
-}  // namespace lumenkit::form
+}  // namespace lumenkit::lumenform

@@ -4,7 +4,7 @@
 #include <QString>
 #include <QWidget>
 
-namespace lumenkit::form {
+namespace lumenkit::lumenform {
 
 /// The first two return an empty text if the user cancels.
 QString AskForFormToOpen(QWidget& window, const QString& folder);
@@ -18,4 +18,4 @@ bool AskWhetherToOverwrite(QWidget& window, const QString& path);
 /// `heading` names the action that failed. `why` contains the reason, with file and line if known.
 void Warn(QWidget& window, const QString& heading, const QString& why);
 
-}  // namespace lumenkit::form
+}  // namespace lumenkit::lumenform

@@ -5,7 +5,7 @@
 
 #include "forms/file.h"
 
-namespace lumenkit::form {
+namespace lumenkit::lumenform {
 
 std::filesystem::path PathOf(const QString& name) {
     return {name.toStdU16String()};
@@ -50,4 +50,4 @@ void FormFile::SaveAs(Design& design, const QString& path) {
     }
 }
 
-}  // namespace lumenkit::form
+}  // namespace lumenkit::lumenform

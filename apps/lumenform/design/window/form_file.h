@@ -7,7 +7,7 @@
 #include "apps/lumenform/design/model/design.h"
 #include "forms/document.h"
 
-namespace lumenkit::form {
+namespace lumenkit::lumenform {
 
 /// The file of a form in the designer. Detects when another program has written the file.
 class FormFile {
@@ -42,4 +42,4 @@ class FormFile {
 
 std::filesystem::path PathOf(const QString& name);
 
-}  // namespace lumenkit::form
+}  // namespace lumenkit::lumenform

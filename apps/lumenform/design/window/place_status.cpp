@@ -4,7 +4,7 @@
 
 #include "runtime/qt/qt_text.h"
 
-namespace lumenkit::form {
+namespace lumenkit::lumenform {
 
 PlaceStatus::PlaceStatus(QWidget* parent)
     : QStatusBar(parent), pointer_(new QLabel), selection_(new QLabel) {
@@ -50,4 +50,4 @@ void PlaceStatus::ShowSelection() {
                                                    .arg(name, where));
 }
 
-}  // namespace lumenkit::form
+}  // namespace lumenkit::lumenform

@@ -5,7 +5,7 @@
 
 #include "apps/lumenform/design/window/workbench.h"
 
-namespace lumenkit::form {
+namespace lumenkit::lumenform {
 
 /// The status bar of the designer: the position of the mouse, the selection and its place, in
 /// twips.
@@ -26,4 +26,4 @@ class PlaceStatus final : public QStatusBar {
     QLabel* selection_;
 };
 
-}  // namespace lumenkit::form
+}  // namespace lumenkit::lumenform

@@ -2,7 +2,7 @@
 
 #include <QFileInfo>
 
-namespace lumenkit::form {
+namespace lumenkit::lumenform {
 
 namespace {
 
@@ -30,4 +30,4 @@ void RecentFiles::Clear() {
     settings_.remove(Key());
 }
 
-}  // namespace lumenkit::form
+}  // namespace lumenkit::lumenform

@@ -3,7 +3,7 @@
 #include <QSettings>
 #include <QStringList>
 
-namespace lumenkit::form {
+namespace lumenkit::lumenform {
 
 /// The forms that were opened last, newest first, in the settings.
 class RecentFiles {
@@ -22,4 +22,4 @@ class RecentFiles {
     QSettings& settings_;
 };
 
-}  // namespace lumenkit::form
+}  // namespace lumenkit::lumenform

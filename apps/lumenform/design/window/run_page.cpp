@@ -7,7 +7,7 @@
 #include <QSplitter>
 #include <QVBoxLayout>
 
-namespace lumenkit::form {
+namespace lumenkit::lumenform {
 
 RunPage::RunPage(const qt::Context& context, const forms::Document& design, QWidget* parent)
     : QWidget(parent),
@@ -49,4 +49,4 @@ QWidget* RunPage::MakeBanner() const {
     return banner;
 }
 
-}  // namespace lumenkit::form
+}  // namespace lumenkit::lumenform

@@ -8,7 +8,7 @@
 #include "forms/document.h"
 #include "runtime/qt/context.h"
 
-namespace lumenkit::form {
+namespace lumenkit::lumenform {
 
 /// Runs a copy of a form inside the designer. It never changes the design.
 class RunPage final : public QWidget {
@@ -35,4 +35,4 @@ class RunPage final : public QWidget {
     EventLog* log_;
 };
 
-}  // namespace lumenkit::form
+}  // namespace lumenkit::lumenform

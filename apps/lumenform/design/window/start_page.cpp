@@ -6,7 +6,7 @@
 #include <QLabel>
 #include <QVBoxLayout>
 
-namespace lumenkit::form {
+namespace lumenkit::lumenform {
 
 namespace {
 
@@ -86,4 +86,4 @@ void StartPage::ShowRecent(const QStringList& paths) {
     column_->insertWidget(column_->count() - 1, recent_);
 }
 
-}  // namespace lumenkit::form
+}  // namespace lumenkit::lumenform

@@ -5,7 +5,7 @@
 
 class QVBoxLayout;
 
-namespace lumenkit::form {
+namespace lumenkit::lumenform {
 
 /// The start screen: the possible actions and the forms that were opened last.
 class StartPage final : public QWidget {
@@ -29,4 +29,4 @@ class StartPage final : public QWidget {
     QWidget* recent_ = nullptr;
 };
 
-}  // namespace lumenkit::form
+}  // namespace lumenkit::lumenform

@@ -7,7 +7,7 @@
 #include "apps/lumenform/design/window/class_icon.h"
 #include "runtime/qt/qt_text.h"
 
-namespace lumenkit::form {
+namespace lumenkit::lumenform {
 
 namespace {
 
@@ -65,4 +65,4 @@ void Toolbox::DrawIcons() {
     }
 }
 
-}  // namespace lumenkit::form
+}  // namespace lumenkit::lumenform

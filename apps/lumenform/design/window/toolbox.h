@@ -4,7 +4,7 @@
 
 #include "frame/class_table.h"
 
-namespace lumenkit::form {
+namespace lumenkit::lumenform {
 
 /// The list of control classes that can be added to a form. Choosing one starts drawing it.
 class Toolbox final : public QListWidget {
@@ -30,4 +30,4 @@ class Toolbox final : public QListWidget {
     void DrawIcons();
 };
 
-}  // namespace lumenkit::form
+}  // namespace lumenkit::lumenform

@@ -3,7 +3,7 @@
 #include <QActionGroup>
 #include <array>
 
-namespace lumenkit::form {
+namespace lumenkit::lumenform {
 
 namespace {
 
@@ -87,4 +87,4 @@ void ViewMenu::Change(const Grid& grid) {
     }
 }
 
-}  // namespace lumenkit::form
+}  // namespace lumenkit::lumenform

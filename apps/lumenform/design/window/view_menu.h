@@ -5,7 +5,7 @@
 
 #include "apps/lumenform/design/canvas/canvas.h"
 
-namespace lumenkit::form {
+namespace lumenkit::lumenform {
 
 /// The menu for the grid. The settings keep the grid between sessions, and it is the same for all
 /// forms.
@@ -29,4 +29,4 @@ class ViewMenu final : public QMenu {
     Canvas* canvas_ = nullptr;
 };
 
-}  // namespace lumenkit::form
+}  // namespace lumenkit::lumenform

@@ -10,7 +10,7 @@
 #include "runtime/qt/pixels.h"
 #include "runtime/qt/qt_text.h"
 
-namespace lumenkit::form {
+namespace lumenkit::lumenform {
 
 namespace {
 
@@ -107,4 +107,4 @@ void Workbench::Try(const std::function<void()>& action) {
     }
 }
 
-}  // namespace lumenkit::form
+}  // namespace lumenkit::lumenform

@@ -9,7 +9,7 @@
 #include "apps/lumenform/design/window/toolbox.h"
 #include "forms/document.h"
 
-namespace lumenkit::form {
+namespace lumenkit::lumenform {
 
 /// The workbench for a form: the toolbox, the form on its canvas, and the properties of the
 /// selection.
@@ -56,4 +56,4 @@ class Workbench final : public QSplitter {
     PropertyBrowser* properties_;
 };
 
-}  // namespace lumenkit::form
+}  // namespace lumenkit::lumenform

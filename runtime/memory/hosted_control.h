@@ -30,14 +30,14 @@ struct Placing {
 
 /// A control on a form, together with the container that drives it. The control is never repainted
 /// automatically: call Paint to get its drawing.
-class PlacedControl {
+class HostedControl {
  public:
     /// Creates the control and runs UserControl_Initialize. Throws std::logic_error for a class
     /// that is not a control. The form must outlive it.
-    PlacedControl(Form& form, const ClassDescriptor& type, const Placing& placing = {});
-    ~PlacedControl();
-    PlacedControl(const PlacedControl&) = delete;
-    PlacedControl& operator=(const PlacedControl&) = delete;
+    HostedControl(Form& form, const ClassDescriptor& type, const Placing& placing = {});
+    ~HostedControl();
+    HostedControl(const HostedControl&) = delete;
+    HostedControl& operator=(const HostedControl&) = delete;
 
     /// Completes the start of a new control: runs UserControl_InitProperties, _Resize and, unless
     /// it was placed invisible, _Show.
@@ -107,7 +107,7 @@ class PlacedControl {
 
 /// Creates a control of the class `className` (see Form::FindClass) and starts it from `bag`, or as
 /// a new control if `bag` is null.
-std::unique_ptr<PlacedControl> PlaceControl(Form& form, TextView className,
+std::unique_ptr<HostedControl> PlaceControl(Form& form, TextView className,
                                             const Placing& placing = {},
                                             host::PropertyBag* bag = nullptr);
 

@@ -9,15 +9,15 @@ namespace lumenkit::win32 {
 
 /// A group box with its own background, initially with a fixed single border. Without a border it
 /// shows no caption either.
-class Frame final : public BasicCaptioned<host::Frame> {
+class FrameBox final : public BasicCaptioned<host::Frame> {
  public:
-    Frame(const Owner& owner, const host::CaptionDesign& design);
+    FrameBox(const Owner& owner, const host::CaptionDesign& design);
 
     std::int16_t BorderStyle() const override { return borderStyle_; }
     void SetBorderStyle(std::int16_t style) override;
 
  protected:
-    void CaptionChanged() override { Invalidate(); }
+    void ShowCaption() override { Invalidate(); }
     LRESULT HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
 
  private:

@@ -1,4 +1,4 @@
-#include "runtime/memory/placed_control.h"
+#include "runtime/memory/hosted_control.h"
 
 #include <stdexcept>
 
@@ -6,7 +6,7 @@
 
 namespace lumenkit::memory {
 
-PlacedControl::PlacedControl(Form& form, const ClassDescriptor& type, const Placing& placing)
+HostedControl::HostedControl(Form& form, const ClassDescriptor& type, const Placing& placing)
     : form_(form),
       type_(type),
       name_(placing.name.empty() ? form.NewName(type.name) : Text(placing.name)),
@@ -36,79 +36,79 @@ PlacedControl::PlacedControl(Form& form, const ClassDescriptor& type, const Plac
     control_->UserControl_Initialize();
 }
 
-PlacedControl::~PlacedControl() {
+HostedControl::~HostedControl() {
     surface_.SetControl(nullptr);
 }
 
-void PlacedControl::StartNew() {
+void HostedControl::StartNew() {
     InitProperties();
     FinishStart();
 }
 
-void PlacedControl::StartSaved(host::PropertyBag& bag) {
+void HostedControl::StartSaved(host::PropertyBag& bag) {
     ReadProperties(bag);
     FinishStart();
 }
 
-void PlacedControl::FinishStart() {
+void HostedControl::FinishStart() {
     control_->UserControl_Resize();
     if (startsVisible_) {
         Show();
     }
 }
 
-void PlacedControl::InitProperties() {
+void HostedControl::InitProperties() {
     control_->UserControl_InitProperties();
 }
 
-void PlacedControl::ReadProperties(host::PropertyBag& bag) {
+void HostedControl::ReadProperties(host::PropertyBag& bag) {
     CountedBag counted(form_.Faults(), bag);
     control_->UserControl_ReadProperties(counted);
 }
 
-void PlacedControl::Show() {
+void HostedControl::Show() {
     if (!surface_.IsShown()) {
         surface_.SetShown(true);
         control_->UserControl_Show();
     }
 }
 
-void PlacedControl::Hide() {
+void HostedControl::Hide() {
     surface_.SetShown(false);
 }
 
-void PlacedControl::Resize(float width, float height) {
+void HostedControl::Resize(float width, float height) {
     surface_.Resize(width, height);
 }
 
-void PlacedControl::Move(float left, float top) {
+void HostedControl::Move(float left, float top) {
     left_ = left;
     top_ = top;
 }
 
-PropertyBag PlacedControl::Save() {
+PropertyBag HostedControl::Save() {
     PropertyBag bag;
     Save(bag);
     return bag;
 }
 
-void PlacedControl::Save(host::PropertyBag& bag) {
+void HostedControl::Save(host::PropertyBag& bag) {
     CountedBag counted(form_.Faults(), bag);
     control_->UserControl_WriteProperties(counted);
 }
 
-const DisplayList& PlacedControl::Paint() {
+const DisplayList& HostedControl::Paint() {
     surface_.Paint();
     return surface_.Drawn();
 }
 
-ObjectRef PlacedControl::SharedAutomation() {
+ObjectRef HostedControl::SharedAutomation() {
     return {ObjectRef(), &Automation()};
 }
 
-std::unique_ptr<PlacedControl> PlaceControl(Form& form, TextView className, const Placing& placing,
+std::unique_ptr<HostedControl> PlaceControl(Form& form, TextView className, const Placing& placing,
                                             host::PropertyBag* bag) {
-    auto control = std::make_unique<PlacedControl>(form, form.FindClass(className), placing);
+    auto control = std::make_unique<HostedControl>(form, form.FindClass(className), placing);
     if (bag == nullptr) {
         control->StartNew();
     } else {

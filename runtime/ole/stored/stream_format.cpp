@@ -1,4 +1,4 @@
-#include "runtime/stored/stream_format.h"
+#include "runtime/ole/stored/stream_format.h"
 
 #include <algorithm>
 #include <array>

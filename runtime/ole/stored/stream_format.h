@@ -25,7 +25,7 @@
 #include <span>
 #include <vector>
 
-#include "runtime/stored/setting.h"
+#include "runtime/ole/stored/setting.h"
 
 namespace lumenkit::stored {
 

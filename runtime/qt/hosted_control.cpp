@@ -1,4 +1,4 @@
-#include "runtime/qt/control_widget.h"
+#include "runtime/qt/hosted_control.h"
 
 #include <QPainter>
 #include <QStyle>
@@ -10,7 +10,7 @@
 
 namespace lumenkit::qt {
 
-ControlWidget::ControlWidget(const Context& context, const ClassDescriptor& type, ControlSite& site,
+HostedControl::HostedControl(const Context& context, const ClassDescriptor& type, ControlSite& site,
                              const Placing& placing, QWidget* parent)
     : QWidget(parent),
       context_(context),
@@ -46,13 +46,13 @@ ControlWidget::ControlWidget(const Context& context, const ClassDescriptor& type
     control_->UserControl_Initialize();
 }
 
-ControlWidget::~ControlWidget() {
+HostedControl::~HostedControl() {
     surface_.SetControl(nullptr);
     constituents_.Disconnect();
     QWidget::setVisible(false);  // hides all constituents in one step
 }
 
-void ControlWidget::StartNew() {
+void HostedControl::StartNew() {
     {
         const Notifying notifying;
         control_->UserControl_InitProperties();
@@ -60,7 +60,7 @@ void ControlWidget::StartNew() {
     FinishStart();
 }
 
-void ControlWidget::StartSaved(host::PropertyBag& bag) {
+void HostedControl::StartSaved(host::PropertyBag& bag) {
     {
         const Notifying notifying;
         control_->UserControl_ReadProperties(bag);
@@ -68,7 +68,7 @@ void ControlWidget::StartSaved(host::PropertyBag& bag) {
     FinishStart();
 }
 
-void ControlWidget::FinishStart() {
+void HostedControl::FinishStart() {
     {
         const Notifying notifying;
         control_->UserControl_Resize();
@@ -79,18 +79,18 @@ void ControlWidget::FinishStart() {
     }
 }
 
-void ControlWidget::Save(host::PropertyBag& bag) {
+void HostedControl::Save(host::PropertyBag& bag) {
     const Notifying notifying;
     control_->UserControl_WriteProperties(bag);
 }
 
 // ---- Place and size
 
-host::Placement ControlWidget::Place() const {
+host::Placement HostedControl::Place() const {
     return {.left = left_, .top = top_, .width = surface_.Width(), .height = surface_.Height()};
 }
 
-void ControlWidget::Move(const host::Placement& placement) {
+void HostedControl::Move(const host::Placement& placement) {
     const host::Placement former = Place();
     left_ = placement.left;
     top_ = placement.top;
@@ -102,30 +102,30 @@ void ControlWidget::Move(const host::Placement& placement) {
     site_.PlacementChanged();
 }
 
-void ControlWidget::SurfaceResized() {
+void HostedControl::SurfaceResized() {
     ApplyPlacement();
     LayOutArea();
     update();
 }
 
-void ControlWidget::ApplyPlacement() {
+void HostedControl::ApplyPlacement() {
     setGeometry(ToPixels(Place()));
 }
 
-void ControlWidget::LayOutArea() {
+void HostedControl::LayOutArea() {
     const int border = BorderPixels(surface_.BorderStyle());
     surface_.Area().setGeometry(rect().adjusted(border, border, -border, -border));
 }
 
-float ControlWidget::BorderWidth(std::int16_t style) const {
+float HostedControl::BorderWidth(std::int16_t style) const {
     return static_cast<float>(BorderPixels(style) * TwipsPerPixel::OfScreens().x);
 }
 
-int ControlWidget::BorderPixels(std::int16_t style) const {
+int HostedControl::BorderPixels(std::int16_t style) const {
     return style == 0 ? 0 : QWidget::style()->pixelMetric(QStyle::PM_DefaultFrameWidth);
 }
 
-void ControlWidget::resizeEvent(QResizeEvent* /*event*/) {
+void HostedControl::resizeEvent(QResizeEvent* /*event*/) {
     LayOutArea();
     if (size() == ToPixels(Place()).size()) {
         return;  // the placement set this size
@@ -138,7 +138,7 @@ void ControlWidget::resizeEvent(QResizeEvent* /*event*/) {
     });
 }
 
-void ControlWidget::moveEvent(QMoveEvent* /*event*/) {
+void HostedControl::moveEvent(QMoveEvent* /*event*/) {
     if (pos() == ToPixels(Place()).topLeft()) {
         return;
     }
@@ -150,7 +150,7 @@ void ControlWidget::moveEvent(QMoveEvent* /*event*/) {
 
 // ---- Showing
 
-void ControlWidget::SetShown(bool shown) {
+void HostedControl::SetShown(bool shown) {
     if (shown == shown_) {
         return;
     }
@@ -159,13 +159,13 @@ void ControlWidget::SetShown(bool shown) {
     site_.PlacementChanged();
 }
 
-void ControlWidget::showEvent(QShowEvent* event) {
+void HostedControl::showEvent(QShowEvent* event) {
     if (!event->spontaneous()) {
         HandleEvent(context_.errors, [&] { control_->UserControl_Show(); });
     }
 }
 
-void ControlWidget::paintEvent(QPaintEvent* /*event*/) {
+void HostedControl::paintEvent(QPaintEvent* /*event*/) {
     if (surface_.BorderStyle() == 0) {
         return;
     }
@@ -178,20 +178,20 @@ void ControlWidget::paintEvent(QPaintEvent* /*event*/) {
     style()->drawControl(QStyle::CE_ShapedFrame, &option, &painter, this);
 }
 
-void ControlWidget::changeEvent(QEvent* event) {
+void HostedControl::changeEvent(QEvent* event) {
     QWidget::changeEvent(event);
     if (event->type() == QEvent::StyleChange) {
         HandleEvent(context_.errors, [&] { SurfaceResized(); });
     }
 }
 
-void ControlWidget::PaletteChanged() {
+void HostedControl::PaletteChanged() {
     if (control_ != nullptr) {
-        constituents_.ApplyColors();
+        constituents_.ShowColors();
     }
 }
 
-bool ControlWidget::FocusFirst() {
+bool HostedControl::FocusFirst() {
     for (Element* element : constituents_.All()) {
         QWidget* widget = element->Widget();
         if (widget != nullptr && widget->isVisible() && widget->isEnabled() &&

@@ -1,13 +1,13 @@
-#include "runtime/memory/placed_page.h"
+#include "runtime/memory/hosted_page.h"
 
 #include <stdexcept>
 #include <utility>
 
-#include "runtime/memory/placed_control.h"
+#include "runtime/memory/hosted_control.h"
 
 namespace lumenkit::memory {
 
-PlacedPage::PlacedPage(Form& form, const ClassDescriptor& type)
+HostedPage::HostedPage(Form& form, const ClassDescriptor& type)
     : site_(form.Faults()),
       selectedControls_(form.Faults()),
       constituents_(form, nullptr, true),
@@ -23,21 +23,21 @@ PlacedPage::PlacedPage(Form& form, const ClassDescriptor& type)
     page_->PropertyPage_Initialize();
 }
 
-void PlacedPage::Select(const std::vector<PlacedControl*>& controls) {
+void HostedPage::Select(const std::vector<HostedControl*>& controls) {
     std::vector<ObjectRef> objects;
     objects.reserve(controls.size());
-    for (PlacedControl* control : controls) {
+    for (HostedControl* control : controls) {
         objects.push_back(control->SharedAutomation());
     }
     SelectObjects(std::move(objects));
 }
 
-void PlacedPage::SelectObjects(std::vector<ObjectRef> controls) {
+void HostedPage::SelectObjects(std::vector<ObjectRef> controls) {
     selectedControls_.Assign(std::move(controls));
     page_->PropertyPage_SelectionChanged();
 }
 
-void PlacedPage::Apply() {
+void HostedPage::Apply() {
     page_->PropertyPage_ApplyChanges();
 }
 

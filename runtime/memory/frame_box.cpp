@@ -1,23 +1,23 @@
-#include "runtime/memory/frame.h"
+#include "runtime/memory/frame_box.h"
 
 #include "frame/host/accepted_values.h"
 
 namespace lumenkit::memory {
 
-Frame::Frame(Constituents& owner, const host::CaptionDesign& design)
+FrameBox::FrameBox(Constituents& owner, const host::CaptionDesign& design)
     : BasicCaptioned(owner, u"Frame", design, design.caption) {}
 
-std::int16_t Frame::BorderStyle() const {
+std::int16_t FrameBox::BorderStyle() const {
     Call(u"BorderStyle");
     return borderStyle_;
 }
 
-void Frame::SetBorderStyle(std::int16_t style) {
+void FrameBox::SetBorderStyle(std::int16_t style) {
     Call(u"SetBorderStyle");
     borderStyle_ = AcceptedNumber<std::int16_t>(style, 0, 1);
 }
 
-PropertyList Frame::Properties() const {
+PropertyList FrameBox::Properties() const {
     PropertyList list = BasicCaptioned::Properties();
     list.emplace_back(u"BorderStyle", borderStyle_);
     return list;

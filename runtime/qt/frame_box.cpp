@@ -1,4 +1,4 @@
-#include "runtime/qt/frame.h"
+#include "runtime/qt/frame_box.h"
 
 #include "frame/host/accepted_values.h"
 #include "runtime/qt/frame_widget.h"
@@ -6,22 +6,22 @@
 
 namespace lumenkit::qt {
 
-Frame::Frame(Constituents& owner, const host::CaptionDesign& design)
+FrameBox::FrameBox(Constituents& owner, const host::CaptionDesign& design)
     : BasicCaptioned(owner, design, design.caption) {
     Adopt(std::make_unique<FrameWidget>(&ParentFor(owner, design)));
-    ApplyFont();
+    ShowFont();
     ShowCaption();
 }
 
-FrameWidget& Frame::Box() const {
+FrameWidget& FrameBox::Box() const {
     return static_cast<FrameWidget&>(*Widget());
 }
 
-void Frame::ShowCaption() {
+void FrameBox::ShowCaption() {
     Box().setTitle(ToQString(CaptionNow()));
 }
 
-void Frame::SetBorderStyle(std::int16_t style) {
+void FrameBox::SetBorderStyle(std::int16_t style) {
     borderStyle_ = AcceptedNumber<std::int16_t>(style, 0, 1);
     Box().SetBordered(style == 1);
 }

@@ -11,12 +11,12 @@ class FrameWidget;
 
 /// A frame, initially with a fixed single border. Without a border the caption is not shown either.
 /// Constituents inside the frame are placed relative to its outer corner.
-class Frame final : public BasicCaptioned<host::Frame> {
+class FrameBox final : public BasicCaptioned<host::Frame> {
  public:
-    Frame(Constituents& owner, const host::CaptionDesign& design);
-    ~Frame() override { Release(); }
-    Frame(const Frame&) = delete;
-    Frame& operator=(const Frame&) = delete;
+    FrameBox(Constituents& owner, const host::CaptionDesign& design);
+    ~FrameBox() override { Release(); }
+    FrameBox(const FrameBox&) = delete;
+    FrameBox& operator=(const FrameBox&) = delete;
 
     std::int16_t BorderStyle() const override { return borderStyle_; }
     void SetBorderStyle(std::int16_t style) override;

@@ -1,4 +1,4 @@
-#include "runtime/qt/page_widget.h"
+#include "runtime/qt/hosted_page.h"
 
 #include <QEvent>
 
@@ -8,7 +8,7 @@
 
 namespace lumenkit::qt {
 
-void PageWidget::Site::SetChanged(bool value) {
+void HostedPage::Site::SetChanged(bool value) {
     if (changed == value) {
         return;
     }
@@ -18,14 +18,14 @@ void PageWidget::Site::SetChanged(bool value) {
     }
 }
 
-ObjectRef PageWidget::Selection::Item(std::int16_t index) {
+ObjectRef HostedPage::Selection::Item(std::int16_t index) {
     if (index < 0 || static_cast<std::size_t>(index) >= controls.size()) {
         Raise(ErrorNumber::SubscriptOutOfRange);
     }
     return controls[static_cast<std::size_t>(index)];
 }
 
-PageWidget::PageWidget(const Context& context, const ClassDescriptor& type, QWidget* parent)
+HostedPage::HostedPage(const Context& context, const ClassDescriptor& type, QWidget* parent)
     : QWidget(parent),
       screen_(*this),
       constituents_(context, *this, true),
@@ -43,21 +43,21 @@ PageWidget::PageWidget(const Context& context, const ClassDescriptor& type, QWid
     page_->PropertyPage_Initialize();
 }
 
-void PageWidget::Select(std::vector<ObjectRef> controls) {
+void HostedPage::Select(std::vector<ObjectRef> controls) {
     selection_.controls = std::move(controls);
     const Notifying notifying;
     page_->PropertyPage_SelectionChanged();
 }
 
-void PageWidget::Apply() {
+void HostedPage::Apply() {
     const Notifying notifying;
     page_->PropertyPage_ApplyChanges();
 }
 
-void PageWidget::changeEvent(QEvent* event) {
+void HostedPage::changeEvent(QEvent* event) {
     QWidget::changeEvent(event);
     if (event->type() == QEvent::PaletteChange) {
-        constituents_.ApplyColors();
+        constituents_.ShowColors();
     }
 }
 

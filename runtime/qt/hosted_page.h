@@ -16,14 +16,14 @@ namespace lumenkit::qt {
 
 /// One property page in its designed size. Errors of the page's procedures reach the caller; errors
 /// of its event handlers go to the context's sink.
-class PageWidget final : public QWidget {
+class HostedPage final : public QWidget {
  public:
     /// Creates the page and runs PropertyPage_Initialize. Raises 429 for a class that is not a
     /// page.
-    PageWidget(const Context& context, const ClassDescriptor& type, QWidget* parent = nullptr);
-    ~PageWidget() override { constituents_.Disconnect(); }
-    PageWidget(const PageWidget&) = delete;
-    PageWidget& operator=(const PageWidget&) = delete;
+    HostedPage(const Context& context, const ClassDescriptor& type, QWidget* parent = nullptr);
+    ~HostedPage() override { constituents_.Disconnect(); }
+    HostedPage(const HostedPage&) = delete;
+    HostedPage& operator=(const HostedPage&) = delete;
 
     /// Sets the controls that are selected in the designer and runs PropertyPage_SelectionChanged.
     /// The controls must live until the next selection.

@@ -42,15 +42,15 @@ struct Placing {
 /// or the user changes them in pixels, the new values are taken over. The control handles the
 /// errors of its own procedures. Inside a notification of the control, the widget must be destroyed
 /// with deleteLater.
-class ControlWidget final : public QWidget, private SurfaceOwner {
+class HostedControl final : public QWidget, private SurfaceOwner {
  public:
     /// Creates the control and runs UserControl_Initialize. Raises 429 for a class that is not a
     /// control and 380 for a negative width or height.
-    ControlWidget(const Context& context, const ClassDescriptor& type, ControlSite& site,
+    HostedControl(const Context& context, const ClassDescriptor& type, ControlSite& site,
                   const Placing& placing, QWidget* parent = nullptr);
-    ~ControlWidget() override;
-    ControlWidget(const ControlWidget&) = delete;
-    ControlWidget& operator=(const ControlWidget&) = delete;
+    ~HostedControl() override;
+    HostedControl(const HostedControl&) = delete;
+    HostedControl& operator=(const HostedControl&) = delete;
 
     /// Finishes the start of a new control: runs UserControl_InitProperties, _Resize and, once the
     /// widget is shown on the screen, _Show.

@@ -8,9 +8,9 @@
 namespace lumenkit::memory {
 
 /// Initially has a fixed single border.
-class Frame final : public BasicCaptioned<host::Frame> {
+class FrameBox final : public BasicCaptioned<host::Frame> {
  public:
-    Frame(Constituents& owner, const host::CaptionDesign& design);
+    FrameBox(Constituents& owner, const host::CaptionDesign& design);
 
     std::int16_t BorderStyle() const override;
     void SetBorderStyle(std::int16_t style) override;

@@ -12,21 +12,21 @@
 
 namespace lumenkit::memory {
 
-class PlacedControl;
+class HostedControl;
 
 /// A property page as a designer shows it. Errors of the page propagate to the caller.
-class PlacedPage {
+class HostedPage {
  public:
     /// Creates the page and runs PropertyPage_Initialize. Throws std::logic_error for a class that
     /// is not a page. The form must outlive it.
-    PlacedPage(Form& form, const ClassDescriptor& type);
-    ~PlacedPage() = default;
-    PlacedPage(const PlacedPage&) = delete;
-    PlacedPage& operator=(const PlacedPage&) = delete;
+    HostedPage(Form& form, const ClassDescriptor& type);
+    ~HostedPage() = default;
+    HostedPage(const HostedPage&) = delete;
+    HostedPage& operator=(const HostedPage&) = delete;
 
     /// Changes the selection of the designer and runs PropertyPage_SelectionChanged. The controls
     /// must outlive the page or the next selection.
-    void Select(const std::vector<PlacedControl*>& controls);
+    void Select(const std::vector<HostedControl*>& controls);
     void SelectObjects(std::vector<ObjectRef> controls);
     /// Runs PropertyPage_ApplyChanges. Does not change the Changed flag of the site.
     void Apply();

@@ -1,22 +1,22 @@
-#include "runtime/win32/frame.h"
+#include "runtime/win32/frame_box.h"
 
 #include "frame/host/accepted_values.h"
 
 namespace lumenkit::win32 {
 
-Frame::Frame(const Owner& owner, const host::CaptionDesign& design)
+FrameBox::FrameBox(const Owner& owner, const host::CaptionDesign& design)
     : BasicCaptioned(owner,
                      {.className = L"BUTTON",
                       .style = BS_GROUPBOX | WS_CLIPCHILDREN,
                       .extendedStyle = WS_EX_CONTROLPARENT},
                      design, design.caption) {}
 
-void Frame::SetBorderStyle(std::int16_t style) {
+void FrameBox::SetBorderStyle(std::int16_t style) {
     borderStyle_ = AcceptedNumber<std::int16_t>(style, 0, 1);
     Invalidate();
 }
 
-LRESULT Frame::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
+LRESULT FrameBox::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
     switch (message) {
         case WM_ERASEBKGND:
             FillBackground(reinterpret_cast<HDC>(wParam));
