@@ -1,7 +1,7 @@
 # The core in one archive: the controls, the class table, the windowless runtime and form files.
 # lumenkit::lumenkit is its name, for projects that have this one in them as for those that find it
 # installed.
-set(core_parts frame vlabel vmemo voptlist vlabelcaption project memory forms)
+set(core_parts frame vlabel vmemo voptlist vlabelcaption project shared memory forms)
 add_library(lumenkit_core STATIC ${where_needed})
 add_library(lumenkit::lumenkit ALIAS lumenkit_core)
 foreach(part IN LISTS core_parts)
@@ -17,7 +17,7 @@ target_compile_features(lumenkit_core INTERFACE cxx_std_20)
 # its like out of everybody's sight who did not ask for them, and the tree's other folders out of
 # everybody's sight. Controls are made through the class table and used late-bound; their own headers
 # stay at home.
-set(public_folders frame forms runtime/memory)
+set(public_folders frame forms runtime/memory runtime/shared)
 set(public_headers project/lumenkit_classes.h)
 set(build_headers "${PROJECT_BINARY_DIR}/include/lumenkit")
 foreach(path IN LISTS public_folders public_headers)

@@ -5,7 +5,7 @@
 set -euo pipefail
 cd "$(dirname "$0")/.."
 
-folders=(frame vlabel vmemo voptlist vlabelcaption project runtime/memory runtime/ole/stored forms apps/lumenkit)
+folders=(frame vlabel vmemo voptlist vlabelcaption project runtime/memory runtime/shared runtime/ole/stored forms apps/lumenkit)
 # killed_save_test is missing: a program cannot be killed at its system calls under Valgrind.
 tests=(frame_test memory_test vlabel_test vlabel_control_test vmemo_test voptlist_test
     vlabelcaption_test project_test fault_sweep_test stored_test forms_test

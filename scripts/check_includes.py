@@ -20,9 +20,10 @@ ALLOWED = {
     "voptlist": ["frame"],
     "vlabelcaption": ["frame"],
     "forms": ["frame"],
-    "runtime/memory": ["frame"],
-    "runtime/win32": ["frame"],
-    "runtime/qt": ["frame"],
+    "runtime/shared": ["frame"],
+    "runtime/memory": ["frame", "runtime/shared"],
+    "runtime/win32": ["frame", "runtime/shared"],
+    "runtime/qt": ["frame", "runtime/shared"],
     "runtime/ole/stored": ["frame"],
     "runtime/ole": ["frame", "runtime/ole/stored", "runtime/win32"],
     # The only folder that lists all classes.

@@ -4,7 +4,7 @@
 set -euo pipefail
 cd "$(dirname "$0")/.."
 
-folders=(frame vlabel vmemo voptlist vlabelcaption project runtime/memory runtime/ole/stored forms)
+folders=(frame vlabel vmemo voptlist vlabelcaption project runtime/memory runtime/shared runtime/ole/stored forms)
 tests=(caption_drawing_model_test caption_model_test caption_page_model_test contract_memory_test
     fault_sweep_test forms_out_of_memory_test forms_test frame_test golden_drawing_test
     killed_save_test memo_model_test memory_test option_list_model_test project_test stored_test

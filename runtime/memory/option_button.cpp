@@ -1,12 +1,11 @@
 #include "runtime/memory/option_button.h"
 
 #include "frame/host/accepted_values.h"
-#include "runtime/memory/option_buttons.h"
 
 namespace lumenkit::memory {
 
 OptionButton::OptionButton(Constituents& owner, const host::OptionButtonDesign& design,
-                           OptionButtons& group)
+                           OptionGroup& group)
     : BasicCaptioned(owner, u"OptionButton", design, design.caption), group_(group) {}
 
 Text OptionButton::Tag() const {
@@ -21,7 +20,7 @@ void OptionButton::SetTag(TextView tag) {
 
 bool OptionButton::IsSelected() const {
     Call(u"IsSelected");
-    return selected_;
+    return group_.IsSelected(*this);
 }
 
 void OptionButton::Select(bool selected) {
@@ -29,7 +28,7 @@ void OptionButton::Select(bool selected) {
     if (selected) {
         group_.Choose(*this);
     } else {
-        selected_ = false;
+        group_.Release(*this);
     }
 }
 
@@ -56,7 +55,7 @@ void OptionButton::SetForeColor(Color color) {
 PropertyList OptionButton::Properties() const {
     PropertyList list = BasicCaptioned::Properties();
     list.emplace_back(u"Tag", tag_);
-    list.emplace_back(u"Value", selected_);
+    list.emplace_back(u"Value", group_.IsSelected(*this));
     list.emplace_back(u"Alignment", alignment_);
     list.emplace_back(u"ForeColor", FromColor(foreColor_));
     return list;

@@ -4,15 +4,17 @@
 
 #include "frame/host/option_buttons.h"
 #include "runtime/memory/basic_constituent.h"
+#include "runtime/shared/option_array.h"
 
 namespace lumenkit::memory {
 
-class OptionButtons;
+class OptionButton;
+using OptionGroup = shared::OptionArray<OptionButton>;
 
 class OptionButton final : public BasicCaptioned<host::OptionButton> {
  public:
     /// `design.index` is the index of the element.
-    OptionButton(Constituents& owner, const host::OptionButtonDesign& design, OptionButtons& group);
+    OptionButton(Constituents& owner, const host::OptionButtonDesign& design, OptionGroup& group);
 
     Text Tag() const override;
     void SetTag(TextView tag) override;
@@ -26,16 +28,16 @@ class OptionButton final : public BasicCaptioned<host::OptionButton> {
     PropertyList Properties() const override;
     bool TakesFocus() const override { return true; }
     void ReceiveClick() override;
-    // Read and set the mark without notifications and without calls of the contract.
-    bool IsMarked() const { return selected_; }
-    void Mark(bool selected) { selected_ = selected; }
+
+    // Used by the group, which keeps which button is selected.
+    void Mark(bool /*selected*/) {}
+    void BecomeTabStop(bool /*stops*/) {}
 
  private:
-    OptionButtons& group_;
+    OptionGroup& group_;
     Text tag_;
     Color foreColor_ = Color::ButtonText;
     std::int16_t alignment_ = 0;
-    bool selected_ = false;
 };
 
 }  // namespace lumenkit::memory

@@ -1,15 +1,14 @@
 #pragma once
 
 #include <cstdint>
-#include <map>
-#include <memory>
 
 #include "frame/host/option_buttons.h"
 #include "runtime/memory/option_button.h"
+#include "runtime/shared/option_array.h"
 
 namespace lumenkit::memory {
 
-class OptionButtons final : public host::OptionButtons {
+class OptionButtons final : public shared::OptionArray<OptionButton> {
  public:
     OptionButtons(Constituents& owner, const host::OptionButtonDesign& design, host::Frame& frame,
                   host::OptionButtonEvents& events);
@@ -17,16 +16,8 @@ class OptionButtons final : public host::OptionButtons {
     OptionButton& Item(std::int16_t index) override;
     void Load(std::int16_t index) override;
 
-    /// If `button` is not selected, selects it, deselects all others and notifies Click.
-    void Choose(OptionButton& button);
-
  private:
     Constituents& owner_;
-    host::OptionButtonEvents& events_;
-    Text name_;
-    Text fontName_;
-    host::OptionButtonDesign design_;  // of elements to load; its texts refer to the fields above
-    std::map<std::int16_t, std::unique_ptr<OptionButton>> buttons_;
 };
 
 }  // namespace lumenkit::memory

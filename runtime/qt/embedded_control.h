@@ -1,18 +1,19 @@
 #pragma once
 
-#include "frame/host/ambient.h"
+#include "frame/class_table.h"
 #include "frame/host/simple_constituents.h"
 #include "runtime/qt/basic_constituent.h"
 #include "runtime/qt/hosted_control.h"
+#include "runtime/shared/embedded_site.h"
 
 namespace lumenkit::qt {
 
-/// A control on another control or on a page. The outer control or page is its container and
-/// ignores its notifications.
-class EmbeddedControl final : public BasicConstituent<host::EmbeddedControl> {
+/// A new control on another control or on a page, which is its container and ignores its
+/// notifications.
+class EmbeddedControl final : public BasicConstituent<host::EmbeddedControl>, private ControlSite {
  public:
     EmbeddedControl(Constituents& owner, const host::Design& design, const ClassDescriptor& type);
-    ~EmbeddedControl() override;
+    ~EmbeddedControl() override { Release(); }
     EmbeddedControl(const EmbeddedControl&) = delete;
     EmbeddedControl& operator=(const EmbeddedControl&) = delete;
 
@@ -25,9 +26,12 @@ class EmbeddedControl final : public BasicConstituent<host::EmbeddedControl> {
     HostedControl& Inner() const { return static_cast<HostedControl&>(*Widget()); }
 
  private:
-    class Surroundings;
+    // ControlSite
+    host::Container& GetContainer() override { return container_; }
+    host::Ambient& GetAmbient() override { return ambient_; }
 
-    std::unique_ptr<Surroundings> surroundings_;
+    shared::SilentContainer container_;
+    shared::EmbeddedAmbient ambient_;
 };
 
 }  // namespace lumenkit::qt

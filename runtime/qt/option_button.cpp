@@ -8,14 +8,12 @@
 #include <functional>
 
 #include "frame/host/accepted_values.h"
-#include "runtime/qt/option_buttons.h"
 #include "runtime/qt/palette_color.h"
 #include "runtime/qt/qt_text.h"
 
 namespace lumenkit::qt {
 
-// A radio button without Qt's grouping. Its callbacks ask the group to select it or to move to a
-// neighbour.
+// A radio button without Qt's grouping.
 class OptionWidget final : public QRadioButton {
  public:
     explicit OptionWidget(QWidget* parent) : QRadioButton(parent) { setAutoExclusive(false); }
@@ -26,7 +24,7 @@ class OptionWidget final : public QRadioButton {
     }
 
     std::function<void()> clicked_;
-    std::function<void(int)> arrow_;  // -1 or 1
+    std::function<void(bool forward)> arrow_;
 
  protected:
     void nextCheckState() override {
@@ -39,11 +37,11 @@ class OptionWidget final : public QRadioButton {
         switch (event->key()) {
             case Qt::Key_Up:
             case Qt::Key_Left:
-                GoTo(-1);
+                CallArrow(false);
                 break;
             case Qt::Key_Down:
             case Qt::Key_Right:
-                GoTo(1);
+                CallArrow(true);
                 break;
             default:
                 QRadioButton::keyPressEvent(event);
@@ -77,9 +75,9 @@ class OptionWidget final : public QRadioButton {
     }
 
  private:
-    void GoTo(int direction) const {
+    void CallArrow(bool forward) const {
         if (arrow_) {
-            arrow_(direction);
+            arrow_(forward);
         }
     }
 
@@ -87,17 +85,18 @@ class OptionWidget final : public QRadioButton {
 };
 
 OptionButton::OptionButton(Constituents& owner, const host::OptionButtonDesign& design,
-                           OptionButtons& group)
+                           OptionGroup& group)
     : BasicCaptioned(owner, design, design.caption), group_(group) {
     auto button = std::make_unique<OptionWidget>(&ParentFor(owner, design));
     button->clicked_ = [this] { HandleEvent(Errors(), [this] { group_.Choose(*this); }); };
-    button->arrow_ = [this](int direction) {
-        HandleEvent(Errors(), [this, direction] { group_.GoFrom(*this, direction); });
+    button->arrow_ = [this](bool forward) {
+        HandleEvent(Errors(), [this, forward] { Step(forward); });
     };
     Adopt(std::move(button));
     ShowFont();
     ShowColors();
     ShowCaption();
+    BecomeTabStop(false);
 }
 
 OptionWidget& OptionButton::Button() const {
@@ -117,29 +116,37 @@ void OptionButton::ShowCaption() {
 
 void OptionButton::SetVisible(bool visible) {
     BasicCaptioned::SetVisible(visible);
-    group_.UpdateTabStops(*this);
+    group_.PlaceTabStop();
 }
 
 void OptionButton::SetEnabled(bool enabled) {
     BasicCaptioned::SetEnabled(enabled);
-    group_.UpdateTabStops(*this);
+    group_.PlaceTabStop();
 }
 
 void OptionButton::Select(bool selected) {
+    const Notifying notifying;
     if (selected) {
         group_.Choose(*this);
     } else {
-        Mark(false);
-        group_.UpdateTabStops();
+        group_.Release(*this);
+    }
+}
+
+// Moves the focus to a neighbour and chooses it.
+void OptionButton::Step(bool forward) {
+    OptionButton* const next = group_.Neighbour(*this, forward);
+    if (next != nullptr && next != this) {
+        next->Widget()->setFocus(Qt::OtherFocusReason);
+        group_.Choose(*next);
     }
 }
 
 void OptionButton::Mark(bool selected) {
-    selected_ = selected;
     Button().setChecked(selected);
 }
 
-void OptionButton::SetTabStop(bool stops) {
+void OptionButton::BecomeTabStop(bool stops) {
     if (Owner().UserMode()) {
         Button().setFocusPolicy(stops ? Qt::StrongFocus : Qt::ClickFocus);
     }

@@ -4,16 +4,18 @@
 
 #include "frame/host/option_buttons.h"
 #include "runtime/qt/basic_constituent.h"
+#include "runtime/shared/option_array.h"
 
 namespace lumenkit::qt {
 
-class OptionButtons;
+class OptionButton;
 class OptionWidget;
+using OptionGroup = shared::OptionArray<OptionButton>;
 
 class OptionButton final : public BasicCaptioned<host::OptionButton> {
  public:
     /// `design.index` is the element's index.
-    OptionButton(Constituents& owner, const host::OptionButtonDesign& design, OptionButtons& group);
+    OptionButton(Constituents& owner, const host::OptionButtonDesign& design, OptionGroup& group);
     ~OptionButton() override { Release(); }
     OptionButton(const OptionButton&) = delete;
     OptionButton& operator=(const OptionButton&) = delete;
@@ -22,7 +24,7 @@ class OptionButton final : public BasicCaptioned<host::OptionButton> {
     void SetEnabled(bool enabled) override;
     Text Tag() const override { return tag_; }
     void SetTag(TextView tag) override { tag_ = tag; }
-    bool IsSelected() const override { return selected_; }
+    bool IsSelected() const override { return group_.IsSelected(*this); }
     void Select(bool selected) override;
     std::int16_t Alignment() const override { return alignment_; }
     void SetAlignment(std::int16_t alignment) override;
@@ -30,23 +32,22 @@ class OptionButton final : public BasicCaptioned<host::OptionButton> {
     void SetForeColor(Color color) override;
 
     void ShowColors() override;
-    /// Sets the mark only, without a notification.
-    void Mark(bool selected);
-    /// Whether the user can move the focus to the button.
-    bool IsReachable() const { return IsVisible() && IsEnabled(); }
-    /// Sets whether the Tab key stops here.
-    void SetTabStop(bool stops);
     void Disconnect() override;
+
+    // Used by the group.
+    void Mark(bool selected);
+    void BecomeTabStop(bool stops);
+    bool TakesFocus() const { return IsVisible() && IsEnabled(); }
 
  private:
     OptionWidget& Button() const;
     void ShowCaption() override;
+    void Step(bool forward);
 
-    OptionButtons& group_;
+    OptionGroup& group_;
     Text tag_;
     Color foreColor_ = Color::ButtonText;
     std::int16_t alignment_ = 0;
-    bool selected_ = false;
 };
 
 }  // namespace lumenkit::qt
