@@ -5,7 +5,6 @@
 #include <utility>
 
 #include "frame/host/constituent.h"
-#include "runtime/memory/constituents.h"
 #include "runtime/memory/element.h"
 #include "runtime/memory/font.h"
 #include "runtime/memory/form.h"
@@ -69,9 +68,9 @@ class BasicTextConstituent : public BasicConstituent<Interface> {
     }
 
  protected:
-    BasicTextConstituent(Constituents& owner, TextView kind, const host::Design& design)
-        : BasicConstituent<Interface>(owner, kind, design),
-          font_(owner.GetForm().NewFont(design.fontName, design.fontSize)) {}
+    BasicTextConstituent(Elements& elements, TextView kind, const host::Design& design)
+        : BasicConstituent<Interface>(elements, kind, design),
+          font_(elements.GetForm().NewFont(design.fontName, design.fontSize)) {}
 
     /// Called when the constituent has another font object.
     virtual void ShowFont() {}
@@ -101,8 +100,8 @@ class BasicCaptioned : public BasicTextConstituent<Interface> {
     }
 
  protected:
-    BasicCaptioned(Constituents& owner, TextView kind, const host::Design& design, TextView caption)
-        : BasicTextConstituent<Interface>(owner, kind, design), caption_(caption) {}
+    BasicCaptioned(Elements& elements, TextView kind, const host::Design& design, TextView caption)
+        : BasicTextConstituent<Interface>(elements, kind, design), caption_(caption) {}
 
     virtual void ShowCaption() {}
     const Text& CaptionNow() const { return caption_; }

@@ -4,9 +4,8 @@
 
 namespace lumenkit::memory {
 
-CheckBox::CheckBox(Constituents& owner, const host::CaptionDesign& design,
-                   host::ClickEvents& events)
-    : BasicCaptioned(owner, u"CheckBox", design, design.caption), events_(events) {}
+CheckBox::CheckBox(Elements& elements, const host::CaptionDesign& design, host::ClickEvents& events)
+    : BasicCaptioned(elements, u"CheckBox", design, design.caption), events_(events) {}
 
 std::int16_t CheckBox::CheckState() const {
     Call(u"CheckState");

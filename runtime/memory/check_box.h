@@ -11,7 +11,7 @@ namespace lumenkit::memory {
 /// other.
 class CheckBox final : public BasicCaptioned<host::CheckBox> {
  public:
-    CheckBox(Constituents& owner, const host::CaptionDesign& design, host::ClickEvents& events);
+    CheckBox(Elements& elements, const host::CaptionDesign& design, host::ClickEvents& events);
 
     std::int16_t CheckState() const override;
     void SetCheckState(std::int16_t state) override;

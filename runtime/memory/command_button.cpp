@@ -2,9 +2,9 @@
 
 namespace lumenkit::memory {
 
-CommandButton::CommandButton(Constituents& owner, const host::CaptionDesign& design,
+CommandButton::CommandButton(Elements& elements, const host::CaptionDesign& design,
                              host::ClickEvents& events)
-    : BasicCaptioned(owner, u"CommandButton", design, design.caption), events_(events) {}
+    : BasicCaptioned(elements, u"CommandButton", design, design.caption), events_(events) {}
 
 void CommandButton::ReceiveClick() {
     events_.Click();

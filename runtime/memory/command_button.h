@@ -7,8 +7,7 @@ namespace lumenkit::memory {
 
 class CommandButton final : public BasicCaptioned<host::CommandButton> {
  public:
-    CommandButton(Constituents& owner, const host::CaptionDesign& design,
-                  host::ClickEvents& events);
+    CommandButton(Elements& elements, const host::CaptionDesign& design, host::ClickEvents& events);
 
     bool TakesFocus() const override { return true; }
     void ReceiveClick() override;

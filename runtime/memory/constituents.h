@@ -5,22 +5,27 @@
 #include <memory>
 #include <stdexcept>
 
+#include "frame/class_table.h"
 #include "frame/host/constituents.h"
 #include "runtime/memory/element.h"
+#include "runtime/memory/elements.h"
 
 namespace lumenkit::memory {
 
-class Form;
-class Surface;
 class TextBox;
+
+/// Creates a new control of the class `type` on a control or page.
+using EmbedFunction = std::unique_ptr<host::EmbeddedControl> (*)(Elements& elements,
+                                                                 const host::Design& design,
+                                                                 const ClassDescriptor& type);
 
 /// Creates and finds the constituents of one control or page.
 class Constituents final : public host::Constituents {
  public:
-    /// `surface` is that of the control, null for a page. `userMode` is passed to embedded
-    /// controls. All arguments must outlive the constituents, and so must this object.
-    Constituents(Form& form, const Surface* surface, bool userMode)
-        : form_(form), surface_(surface), userMode_(userMode) {}
+    /// The first three arguments are those of Elements. `embed` creates the constituents that are
+    /// controls themselves. This object must outlive the constituents.
+    Constituents(Form& form, const Surface* surface, bool userMode, EmbedFunction embed)
+        : elements_(form, surface, userMode), embed_(embed) {}
 
     std::unique_ptr<host::TextBox> AddTextBox(const host::TextBoxDesign& design,
                                               host::TextBoxEvents& events) override;
@@ -40,12 +45,8 @@ class Constituents final : public host::Constituents {
     std::unique_ptr<host::EmbeddedControl> AddControl(const host::Design& design,
                                                       TextView programmaticIdentifier) override;
 
-    Form& GetForm() const { return form_; }
-    /// Returns whether the control that contains the constituents accepts input.
-    bool AcceptInput() const;
-
     /// Returns the existing constituents, in the order of creation.
-    const std::list<Element*>& All() const { return elements_; }
+    const std::list<Element*>& All() const { return elements_.All(); }
     /// Returns the constituent with this full name ("Text1(0)", "labChar"), compared without regard
     /// to case; null when there is none.
     Element* Find(TextView fullName) const;
@@ -62,18 +63,12 @@ class Constituents final : public host::Constituents {
     /// Returns the first visible text box; null when there is none.
     TextBox* VisibleTextBox() const;
 
-    // Called by the elements when they are created and destroyed.
-    std::list<Element*>::iterator Register(Element& element);
-    void Unregister(std::list<Element*>::iterator position);
-
  private:
     Element* Find(TextView name, std::int16_t index) const;
     void Call(TextView member) const;
 
-    Form& form_;
-    const Surface* surface_;
-    bool userMode_;
-    std::list<Element*> elements_;
+    Elements elements_;
+    EmbedFunction embed_;
 };
 
 }  // namespace lumenkit::memory

@@ -1,11 +1,5 @@
 #include "runtime/memory/control_site.h"
 
-#include <stdexcept>
-#include <vector>
-
-#include "frame/automation/event_arguments.h"
-#include "frame/runtime_error.h"
-
 namespace lumenkit::memory {
 
 void ControlSite::PropertyChanged(TextView name) {
@@ -27,29 +21,30 @@ void ControlSite::AllowChange(TextView name, bool allowed) {
 
 void ControlSite::RaiseEvent(std::int32_t event, std::span<Value> arguments) {
     faults_.Call(u"Container", u"RaiseEvent");
-    const Event* description = events_ == nullptr ? nullptr : events_->Find(event);
-    if (description == nullptr || description->parameters.size() != arguments.size()) {
-        throw std::logic_error("the class raises no such event");
-    }
+    const Event& raised = shared::FindRaisedEvent(events_, event, arguments);
     if (log_ != nullptr) {
         log_->Add(RaisedEvent{.control = controlName_,
-                              .name = Text(description->name),
+                              .name = Text(raised.name),
                               .arguments = {arguments.begin(), arguments.end()}});
     }
     if (handler_) {
-        RunHandler(description->name, arguments);
+        shared::RunEventHandler(handler_, raised.name, arguments);
     }
 }
 
-void ControlSite::RunHandler(TextView name, std::span<Value> arguments) {
-    const std::vector<Value> originals(arguments.begin(), arguments.end());
-    const EventHandler handler = handler_;  // a copy: the handler may be replaced while it runs
-    try {
-        handler(name, arguments);
-    } catch (const RuntimeError&) {
-        // Errors of the handler are not passed to the control.
-    }
-    RestoreTypes(arguments, originals);
+bool Ambient::UserMode() const {
+    form_.Faults().Call(u"Ambient", u"UserMode");
+    return userMode_;
+}
+
+host::FontRef Ambient::AmbientFont() const {
+    form_.Faults().Call(u"Ambient", u"AmbientFont");
+    return form_.AmbientFont().Clone();
+}
+
+Color Ambient::BackColor() const {
+    form_.Faults().Call(u"Ambient", u"BackColor");
+    return form_.AmbientBackColor();
 }
 
 }  // namespace lumenkit::memory

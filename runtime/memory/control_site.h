@@ -1,20 +1,21 @@
 #pragma once
 
 #include <cstdint>
-#include <functional>
 #include <map>
 #include <span>
+#include <utility>
 
 #include "frame/automation/interface_table.h"
+#include "frame/host/ambient.h"
 #include "frame/host/container.h"
 #include "runtime/memory/fault_plan.h"
+#include "runtime/memory/form.h"
 #include "runtime/memory/log.h"
+#include "runtime/shared/event_handler.h"
 
 namespace lumenkit::memory {
 
-/// Receives an event by name. It may assign the arguments and call the control. A RuntimeError that
-/// it throws is swallowed.
-using EventHandler = std::function<void(TextView name, std::span<Value> arguments)>;
+using shared::EventHandler;
 
 /// The container's interface for one control.
 class ControlSite final : public host::Container {
@@ -37,14 +38,28 @@ class ControlSite final : public host::Container {
     void SetEventHandler(EventHandler handler) { handler_ = std::move(handler); }
 
  private:
-    void RunHandler(TextView name, std::span<Value> arguments);
-
     FaultPlan& faults_;
     Log* log_;
     const EventTable* events_;
     Text controlName_;
     std::map<Text, bool> allowed_;  // by lower-case name
     EventHandler handler_;
+};
+
+/// The ambient properties of a form for one control.
+class Ambient final : public host::Ambient {
+ public:
+    Ambient(Form& form, bool userMode) : form_(form), userMode_(userMode) {}
+
+    bool UserMode() const override;
+    host::FontRef AmbientFont() const override;
+    Color BackColor() const override;
+
+    void SetUserMode(bool userMode) { userMode_ = userMode; }
+
+ private:
+    Form& form_;
+    bool userMode_;
 };
 
 }  // namespace lumenkit::memory

@@ -4,7 +4,6 @@
 
 #include "frame/host/accepted_values.h"
 #include "frame/numbers.h"
-#include "runtime/memory/constituents.h"
 #include "runtime/memory/form.h"
 
 namespace lumenkit::memory {
@@ -34,9 +33,9 @@ Text FullNameOf(const host::Design& design) {
 
 }  // namespace
 
-Element::Element(Constituents& owner, TextView kind, const host::Design& design)
-    : owner_(owner),
-      faults_(owner.GetForm().Faults()),
+Element::Element(Elements& elements, TextView kind, const host::Design& design)
+    : elements_(elements),
+      faults_(elements.GetForm().Faults()),
       kind_(kind),
       name_(design.name),
       index_(design.index),
@@ -44,11 +43,11 @@ Element::Element(Constituents& owner, TextView kind, const host::Design& design)
       parent_(ParentOf(design)),
       placement_(design.placement),
       visible_(design.visible),
-      position_(owner.Register(*this)) {}
+      position_(elements.Register(*this)) {}
 
 Element::~Element() {
-    owner_.GetForm().GetFocus().Forget(*this);
-    owner_.Unregister(position_);
+    elements_.GetForm().GetFocus().Forget(*this);
+    elements_.Unregister(position_);
 }
 
 bool Element::AcceptsInput() const {
@@ -57,7 +56,7 @@ bool Element::AcceptsInput() const {
             return false;
         }
     }
-    return owner_.AcceptInput();
+    return elements_.AcceptInput();
 }
 
 PropertyList Element::Properties() const {

@@ -9,11 +9,11 @@
 #include "frame/host/constituent.h"
 #include "frame/host/mouse.h"
 #include "frame/text.h"
+#include "runtime/memory/elements.h"
 #include "runtime/memory/fault_plan.h"
+#include "runtime/memory/focus.h"
 
 namespace lumenkit::memory {
-
-class Constituents;
 
 /// Names and values in a fixed order. The names are literals.
 using PropertyList = std::vector<std::pair<TextView, Value>>;
@@ -22,9 +22,9 @@ enum class MouseAction { Down, Move, Up };
 
 /// The data that the runtime keeps for every kind of constituent, and the functions that deliver
 /// user input to it. None of the functions counts as a call of the host contract.
-class Element {
+class Element : public FocusTarget {
  public:
-    virtual ~Element();
+    ~Element() override;
     Element(const Element&) = delete;
     Element& operator=(const Element&) = delete;
 
@@ -47,15 +47,13 @@ class Element {
 
     // Deliver user input; a kind that does not respond to it does nothing.
     virtual bool TakesFocus() const { return false; }
-    virtual void ReceiveFocus() {}
-    virtual void LoseFocus() {}
     virtual void ReceiveClick() {}
     virtual void ReceiveDblClick() {}
     virtual void ReceiveMouse(MouseAction /*action*/, host::MouseArguments /*mouse*/) {}
 
  protected:
     /// `kind` is a literal. Throws std::logic_error for a parent of another runtime.
-    Element(Constituents& owner, TextView kind, const host::Design& design);
+    Element(Elements& elements, TextView kind, const host::Design& design);
 
     void Call(TextView member) const { faults_.Call(kind_, member); }
     /// Raises 380 for a negative width or height.
@@ -65,7 +63,7 @@ class Element {
     void RepaintNow() { ++refreshes_; }
 
  private:
-    Constituents& owner_;
+    Elements& elements_;
     FaultPlan& faults_;
     TextView kind_;
     Text name_;
@@ -76,7 +74,7 @@ class Element {
     bool visible_;
     bool enabled_ = true;
     std::int32_t refreshes_ = 0;
-    std::list<Element*>::iterator position_;  // in the owner's list
+    std::list<Element*>::iterator position_;  // in the list of elements_
 };
 
 }  // namespace lumenkit::memory

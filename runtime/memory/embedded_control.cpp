@@ -17,26 +17,26 @@ Placing PlacingOf(const host::Design& design, bool userMode) {
 
 }  // namespace
 
-EmbeddedControl::EmbeddedControl(Constituents& owner, const host::Design& design,
-                                 const ClassDescriptor& type, bool userMode)
-    : BasicConstituent(owner, u"EmbeddedControl", design),
-      inner_(owner.GetForm(), type, PlacingOf(design, userMode)) {
+std::unique_ptr<host::EmbeddedControl> EmbedControl(Elements& elements, const host::Design& design,
+                                                    const ClassDescriptor& type) {
+    return std::make_unique<EmbeddedControl>(elements, design, type);
+}
+
+EmbeddedControl::EmbeddedControl(Elements& elements, const host::Design& design,
+                                 const ClassDescriptor& type)
+    : BasicConstituent(elements, u"EmbeddedControl", design),
+      inner_(elements.GetForm(), type, PlacingOf(design, elements.UserMode())) {
     inner_.StartNew();
 }
 
 void EmbeddedControl::Move(const host::Placement& placement) {
     BasicConstituent::Move(placement);
-    inner_.Move(placement.left, placement.top);
-    inner_.Resize(placement.width, placement.height);
+    inner_.Move(placement);
 }
 
 void EmbeddedControl::SetVisible(bool visible) {
     BasicConstituent::SetVisible(visible);
-    if (visible) {
-        inner_.Show();
-    } else {
-        inner_.Hide();
-    }
+    inner_.SetShown(visible);
 }
 
 void EmbeddedControl::Refresh() {

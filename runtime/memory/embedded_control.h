@@ -12,8 +12,7 @@ namespace lumenkit::memory {
 /// the outer control, which ignores them.
 class EmbeddedControl final : public BasicConstituent<host::EmbeddedControl> {
  public:
-    EmbeddedControl(Constituents& owner, const host::Design& design, const ClassDescriptor& type,
-                    bool userMode);
+    EmbeddedControl(Elements& elements, const host::Design& design, const ClassDescriptor& type);
 
     /// Resizes the control too.
     void Move(const host::Placement& placement) override;

@@ -1,25 +1,23 @@
 #include "runtime/memory/focus.h"
 
-#include "runtime/memory/element.h"
-
 namespace lumenkit::memory {
 
-void Focus::MoveTo(Element* element) {
-    if (element == holder_) {
+void Focus::MoveTo(FocusTarget* target) {
+    if (target == holder_) {
         return;
     }
-    Element* loser = holder_;
-    holder_ = element;
+    FocusTarget* loser = holder_;
+    holder_ = target;
     if (loser != nullptr) {
         loser->LoseFocus();
     }
-    if (element != nullptr && holder_ == element) {
-        element->ReceiveFocus();
+    if (target != nullptr && holder_ == target) {
+        target->ReceiveFocus();
     }
 }
 
-void Focus::Forget(const Element& element) {
-    if (holder_ == &element) {
+void Focus::Forget(const FocusTarget& target) {
+    if (holder_ == &target) {
         holder_ = nullptr;
     }
 }

@@ -2,20 +2,29 @@
 
 namespace lumenkit::memory {
 
-class Element;
+/// A constituent as the focus reaches it.
+class FocusTarget {
+ public:
+    FocusTarget() = default;
+    virtual ~FocusTarget() = default;
+    FocusTarget(const FocusTarget&) = delete;
+    FocusTarget& operator=(const FocusTarget&) = delete;
+
+    virtual void ReceiveFocus() {}
+    virtual void LoseFocus() {}
+};
 
 /// Keeps track of the constituent that has the focus.
 class Focus {
  public:
-    Element* Holder() const { return holder_; }
-    /// Moves the focus to `element`, or to nothing if it is null: notifies the holder that it loses
-    /// the focus, then `element` that it gets it. Does nothing if `element` has the focus already.
-    void MoveTo(Element* element);
-    /// Removes the focus from `element`, which is being destroyed, without notifying it.
-    void Forget(const Element& element);
+    /// Moves the focus to `target`, or to nothing if it is null: notifies the holder that it loses
+    /// the focus, then `target` that it gets it. Does nothing if `target` has the focus already.
+    void MoveTo(FocusTarget* target);
+    /// Removes the focus from `target`, which is being destroyed, without notifying it.
+    void Forget(const FocusTarget& target);
 
  private:
-    Element* holder_ = nullptr;
+    FocusTarget* holder_ = nullptr;
 };
 
 }  // namespace lumenkit::memory

@@ -4,8 +4,8 @@
 
 namespace lumenkit::memory {
 
-FrameBox::FrameBox(Constituents& owner, const host::CaptionDesign& design)
-    : BasicCaptioned(owner, u"Frame", design, design.caption) {}
+FrameBox::FrameBox(Elements& elements, const host::CaptionDesign& design)
+    : BasicCaptioned(elements, u"Frame", design, design.caption) {}
 
 std::int16_t FrameBox::BorderStyle() const {
     Call(u"BorderStyle");

@@ -10,7 +10,7 @@ namespace lumenkit::memory {
 /// Initially has a fixed single border.
 class FrameBox final : public BasicCaptioned<host::Frame> {
  public:
-    FrameBox(Constituents& owner, const host::CaptionDesign& design);
+    FrameBox(Elements& elements, const host::CaptionDesign& design);
 
     std::int16_t BorderStyle() const override;
     void SetBorderStyle(std::int16_t style) override;

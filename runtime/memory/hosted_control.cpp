@@ -18,7 +18,7 @@ HostedControl::HostedControl(Form& form, const ClassDescriptor& type, const Plac
       site_(form.Faults(), placing.isLogged ? &form.GetLog() : nullptr, type.eventTable, name_),
       ambient_(form, placing.userMode),
       extender_(*this),
-      constituents_(form, &surface_, placing.userMode),
+      constituents_(form, &surface_, placing.userMode, EmbedControl),
       host_{.surface = surface_,
             .container = site_,
             .ambient = ambient_,
@@ -53,7 +53,7 @@ void HostedControl::StartSaved(host::PropertyBag& bag) {
 void HostedControl::FinishStart() {
     control_->UserControl_Resize();
     if (startsVisible_) {
-        Show();
+        SetShown(true);
     }
 }
 
@@ -66,24 +66,29 @@ void HostedControl::ReadProperties(host::PropertyBag& bag) {
     control_->UserControl_ReadProperties(counted);
 }
 
-void HostedControl::Show() {
-    if (!surface_.IsShown()) {
-        surface_.SetShown(true);
-        control_->UserControl_Show();
-    }
+host::Placement HostedControl::Place() const {
+    return {.left = left_,
+            .top = top_,
+            .width = surface_.CurrentWidth(),
+            .height = surface_.CurrentHeight()};
 }
 
-void HostedControl::Hide() {
-    surface_.SetShown(false);
+void HostedControl::Move(const host::Placement& placement) {
+    left_ = placement.left;
+    top_ = placement.top;
+    Resize(placement.width, placement.height);
 }
 
 void HostedControl::Resize(float width, float height) {
     surface_.Resize(width, height);
 }
 
-void HostedControl::Move(float left, float top) {
-    left_ = left;
-    top_ = top;
+void HostedControl::SetShown(bool shown) {
+    const bool appears = shown && !surface_.IsShown();
+    surface_.SetShown(shown);
+    if (appears) {
+        control_->UserControl_Show();
+    }
 }
 
 PropertyBag HostedControl::Save() {
@@ -98,12 +103,20 @@ void HostedControl::Save(host::PropertyBag& bag) {
 }
 
 const DisplayList& HostedControl::Paint() {
-    surface_.Paint();
+    surface_.PaintControl();
     return surface_.Drawn();
 }
 
 ObjectRef HostedControl::SharedAutomation() {
     return {ObjectRef(), &Automation()};
+}
+
+Value HostedControl::Extender::Invoke(std::int32_t identifier, InvokeKind kind,
+                                      std::span<Value> arguments) {
+    if (const Member* member = Known(identifier)) {
+        control_.form_.Faults().Call(u"Extender", member->name);
+    }
+    return host::Extender::Invoke(identifier, kind, arguments);
 }
 
 std::unique_ptr<HostedControl> PlaceControl(Form& form, TextView className, const Placing& placing,

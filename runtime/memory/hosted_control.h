@@ -1,13 +1,14 @@
 #pragma once
 
+#include <cstdint>
 #include <memory>
+#include <span>
 
 #include "frame/class_table.h"
 #include "frame/control.h"
-#include "runtime/memory/ambient.h"
+#include "frame/host/extender.h"
 #include "runtime/memory/constituents.h"
 #include "runtime/memory/control_site.h"
-#include "runtime/memory/extender.h"
 #include "runtime/memory/form.h"
 #include "runtime/memory/property_bag.h"
 #include "runtime/memory/surface.h"
@@ -32,6 +33,30 @@ struct Placing {
 /// automatically: call Paint to get its drawing.
 class HostedControl {
  public:
+    /// The container's extender of the control. Its calls count for the planned faults of the form.
+    class Extender final : public host::Extender {
+     public:
+        explicit Extender(HostedControl& control) : control_(control) {}
+
+        Value Invoke(std::int32_t identifier, InvokeKind kind, std::span<Value> arguments) override;
+
+        /// Sets whether the container provides Tag.
+        void SupportTag(bool supported) { supportsTag_ = supported; }
+
+     private:
+        Text Name() const override { return control_.name_; }
+        bool HasTag() const override { return supportsTag_; }
+        Text Tag() const override { return control_.tag_; }
+        void SetTag(TextView tag) override { control_.tag_ = tag; }
+        host::Placement Place() const override { return control_.Place(); }
+        void Move(const host::Placement& place) override { control_.Move(place); }
+        bool IsVisible() const override { return control_.IsShown(); }
+        void SetVisible(bool visible) override { control_.SetShown(visible); }
+
+        HostedControl& control_;
+        bool supportsTag_ = true;
+    };
+
     /// Creates the control and runs UserControl_Initialize. Throws std::logic_error for a class
     /// that is not a control. The form must outlive it.
     HostedControl(Form& form, const ClassDescriptor& type, const Placing& placing = {});
@@ -49,12 +74,6 @@ class HostedControl {
     // The single steps of a start.
     void InitProperties();
     void ReadProperties(host::PropertyBag& bag);
-    /// Makes the control visible; runs UserControl_Show if it was not.
-    void Show();
-    void Hide();
-    /// Runs UserControl_Resize if the size changes. Raises 380 for a negative width or height.
-    void Resize(float width, float height);
-    void Move(float left, float top);
 
     /// Run UserControl_WriteProperties with a new bag / with `bag`.
     PropertyBag Save();
@@ -72,12 +91,18 @@ class HostedControl {
     const ClassDescriptor& Type() const { return type_; }
     Form& GetForm() { return form_; }
 
+    // The container's properties.
     const Text& Name() const { return name_; }
-    float Left() const { return left_; }
-    float Top() const { return top_; }
-    bool IsVisible() const { return surface_.IsShown(); }
     const Text& Tag() const { return tag_; }
     void SetTag(TextView tag) { tag_ = tag; }
+    host::Placement Place() const;
+    /// Moves and resizes the control. UserControl_Resize runs if the size changes. Raises 380 for a
+    /// negative width or height.
+    void Move(const host::Placement& placement);
+    void Resize(float width, float height);
+    bool IsShown() const { return surface_.IsShown(); }
+    /// Shows or hides the control. UserControl_Show runs if it was hidden.
+    void SetShown(bool shown);
 
     Surface& Drawing() { return surface_; }
     ControlSite& Site() { return site_; }
@@ -104,6 +129,11 @@ class HostedControl {
     ControlHost host_;
     std::unique_ptr<Control> control_;
 };
+
+/// Creates a new control of the class `type` on another control or page. The function is in
+/// embedded_control.cpp: a control creates its constituents, which may be controls again.
+std::unique_ptr<host::EmbeddedControl> EmbedControl(Elements& elements, const host::Design& design,
+                                                    const ClassDescriptor& type);
 
 /// Creates a control of the class `className` (see Form::FindClass) and starts it from `bag`, or as
 /// a new control if `bag` is null.

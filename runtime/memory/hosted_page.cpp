@@ -10,7 +10,7 @@ namespace lumenkit::memory {
 HostedPage::HostedPage(Form& form, const ClassDescriptor& type)
     : site_(form.Faults()),
       selectedControls_(form.Faults()),
-      constituents_(form, nullptr, true),
+      constituents_(form, nullptr, true, EmbedControl),
       host_{.site = site_,
             .selectedControls = selectedControls_,
             .screen = form.GetScreen(),

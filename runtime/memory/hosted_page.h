@@ -8,7 +8,6 @@
 #include "runtime/memory/constituents.h"
 #include "runtime/memory/form.h"
 #include "runtime/memory/page_site.h"
-#include "runtime/memory/selected_controls.h"
 
 namespace lumenkit::memory {
 

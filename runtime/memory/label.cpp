@@ -2,8 +2,8 @@
 
 namespace lumenkit::memory {
 
-Label::Label(Constituents& owner, const host::CaptionDesign& design)
-    : BasicCaptioned(owner, u"Label", design, design.caption) {}
+Label::Label(Elements& elements, const host::CaptionDesign& design)
+    : BasicCaptioned(elements, u"Label", design, design.caption) {}
 
 bool Label::AutoSize() const {
     Call(u"AutoSize");

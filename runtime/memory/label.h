@@ -9,7 +9,7 @@ namespace lumenkit::memory {
 /// and the height of one line. A later Move is kept until the next such change.
 class Label final : public BasicCaptioned<host::Label> {
  public:
-    Label(Constituents& owner, const host::CaptionDesign& design);
+    Label(Elements& elements, const host::CaptionDesign& design);
 
     bool AutoSize() const override;
     void SetAutoSize(bool autoSize) override;

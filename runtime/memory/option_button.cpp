@@ -4,9 +4,9 @@
 
 namespace lumenkit::memory {
 
-OptionButton::OptionButton(Constituents& owner, const host::OptionButtonDesign& design,
+OptionButton::OptionButton(Elements& elements, const host::OptionButtonDesign& design,
                            OptionGroup& group)
-    : BasicCaptioned(owner, u"OptionButton", design, design.caption), group_(group) {}
+    : BasicCaptioned(elements, u"OptionButton", design, design.caption), group_(group) {}
 
 Text OptionButton::Tag() const {
     Call(u"Tag");

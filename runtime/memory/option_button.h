@@ -14,7 +14,7 @@ using OptionGroup = shared::OptionArray<OptionButton>;
 class OptionButton final : public BasicCaptioned<host::OptionButton> {
  public:
     /// `design.index` is the index of the element.
-    OptionButton(Constituents& owner, const host::OptionButtonDesign& design, OptionGroup& group);
+    OptionButton(Elements& elements, const host::OptionButtonDesign& design, OptionGroup& group);
 
     Text Tag() const override;
     void SetTag(TextView tag) override;

@@ -10,14 +10,14 @@ namespace lumenkit::memory {
 
 class OptionButtons final : public shared::OptionArray<OptionButton> {
  public:
-    OptionButtons(Constituents& owner, const host::OptionButtonDesign& design, host::Frame& frame,
+    OptionButtons(Elements& elements, const host::OptionButtonDesign& design, host::Frame& frame,
                   host::OptionButtonEvents& events);
 
     OptionButton& Item(std::int16_t index) override;
     void Load(std::int16_t index) override;
 
  private:
-    Constituents& owner_;
+    Elements& elements_;
 };
 
 }  // namespace lumenkit::memory

@@ -14,8 +14,8 @@ float InsideBorder(float outer) {
 
 }  // namespace
 
-PictureBox::PictureBox(Constituents& owner, const host::Design& design)
-    : BasicConstituent(owner, u"PictureBox", design) {}
+PictureBox::PictureBox(Elements& elements, const host::Design& design)
+    : BasicConstituent(elements, u"PictureBox", design) {}
 
 float PictureBox::ScaleWidth() const {
     Call(u"ScaleWidth");

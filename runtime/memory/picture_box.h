@@ -8,7 +8,7 @@ namespace lumenkit::memory {
 /// A picture box with a border of two pixels on each side.
 class PictureBox final : public BasicConstituent<host::PictureBox> {
  public:
-    PictureBox(Constituents& owner, const host::Design& design);
+    PictureBox(Elements& elements, const host::Design& design);
 
     float ScaleWidth() const override;
     float ScaleHeight() const override;

@@ -6,9 +6,11 @@
 
 namespace lumenkit::memory {
 
-ScrollBar::ScrollBar(Constituents& owner, const host::Design& design, host::Orientation orientation,
+ScrollBar::ScrollBar(Elements& elements, const host::Design& design, host::Orientation orientation,
                      host::ScrollBarEvents& events)
-    : BasicConstituent(owner, u"ScrollBar", design), events_(events), orientation_(orientation) {}
+    : BasicConstituent(elements, u"ScrollBar", design),
+      events_(events),
+      orientation_(orientation) {}
 
 std::int16_t ScrollBar::ScrollValue() const {
     Call(u"ScrollValue");

@@ -10,7 +10,7 @@ namespace lumenkit::memory {
 /// Initially from 0 to 32767 with steps of 1.
 class ScrollBar final : public BasicConstituent<host::ScrollBar> {
  public:
-    ScrollBar(Constituents& owner, const host::Design& design, host::Orientation orientation,
+    ScrollBar(Elements& elements, const host::Design& design, host::Orientation orientation,
               host::ScrollBarEvents& events);
 
     std::int16_t ScrollValue() const override;

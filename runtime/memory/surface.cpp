@@ -142,10 +142,10 @@ void Surface::SetAutoRedraw(bool keep) {
 
 void Surface::Refresh() {
     Call(u"Refresh");
-    Paint();
+    PaintControl();
 }
 
-void Surface::Paint() {
+void Surface::PaintControl() {
     if (autoRedraw_ || !shown_ || control_ == nullptr) {
         return;
     }

@@ -66,7 +66,7 @@ class Surface final : public host::Surface {
     /// Same as Size.
     void Resize(float width, float height);
     /// If the control is shown and draws on demand, erases the surface and lets the control paint.
-    void Paint();
+    void PaintControl();
     bool IsShown() const { return shown_; }
     void SetShown(bool shown) { shown_ = shown; }
     bool AcceptsInput() const { return shown_ && enabled_; }

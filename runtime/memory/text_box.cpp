@@ -35,12 +35,11 @@ TextView Fitting(TextView text, std::size_t room) {
 
 }  // namespace
 
-TextBox::TextBox(Constituents& owner, const host::TextBoxDesign& design,
-                 host::TextBoxEvents& events)
-    : BasicTextConstituent(owner, u"TextBox", design),
+TextBox::TextBox(Elements& elements, const host::TextBoxDesign& design, host::TextBoxEvents& events)
+    : BasicTextConstituent(elements, u"TextBox", design),
       events_(events),
       text_(design.text),
-      windowHandle_(owner.GetForm().NewWindowHandle()),
+      windowHandle_(elements.GetForm().NewWindowHandle()),
       scrollBars_(design.scrollBars),
       multiLine_(design.multiLine) {}
 

@@ -10,7 +10,7 @@ namespace lumenkit::memory {
 /// A text box without a window. A locked box receives keys too, but they do not edit it.
 class TextBox final : public BasicTextConstituent<host::TextBox> {
  public:
-    TextBox(Constituents& owner, const host::TextBoxDesign& design, host::TextBoxEvents& events);
+    TextBox(Elements& elements, const host::TextBoxDesign& design, host::TextBoxEvents& events);
 
     TextView GetText() const override;
     void SetText(TextView text) override;

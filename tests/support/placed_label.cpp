@@ -45,7 +45,7 @@ PlacedLabel::PlacedLabel(const memory::Placing& placing)
     : form_(labelClasses), placed_(form_, vlabelClass, placing) {}
 
 void PlacedLabel::SetUp(const LabelScene& scene) {
-    placed_.Hide();
+    placed_.SetShown(false);
     placed_.Resize(scene.width, scene.height);
     Surface().SetVisibleBottom(scene.visibleBottom);
     const host::FontRef font = Surface().CurrentFont();
@@ -63,7 +63,7 @@ void PlacedLabel::SetUp(const LabelScene& scene) {
 }
 
 void PlacedLabel::Paint() {
-    placed_.Show();
+    placed_.SetShown(true);
     placed_.Paint();
 }
 

@@ -8,6 +8,7 @@
 #include "runtime/memory/command_button.h"
 #include "runtime/memory/form.h"
 #include "runtime/memory/frame_box.h"
+#include "runtime/memory/hosted_control.h"
 #include "runtime/memory/label.h"
 #include "runtime/memory/option_buttons.h"
 #include "runtime/memory/picture_box.h"
@@ -32,7 +33,7 @@ class MemoryConstituents : public ::testing::Test {
     }
 
     Form form_{testing::SampleClasses()};
-    Constituents parts_{form_, nullptr, true};
+    Constituents parts_{form_, nullptr, true, EmbedControl};
     host::TextBoxEvents textEvents_;
     host::ClickEvents clickEvents_;
     host::ScrollBarEvents scrollEvents_;

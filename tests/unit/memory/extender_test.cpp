@@ -1,5 +1,3 @@
-#include "runtime/memory/extender.h"
-
 #include <gtest/gtest.h>
 
 #include "runtime/memory/hosted_control.h"
@@ -45,8 +43,8 @@ TEST_F(MemoryExtender, SizesTheControl) {
     extender_.Let(u"Top", Text(u"2"));
     EXPECT_EQ(control_->Drawing().Width(), 600);
     EXPECT_EQ(control_->Drawing().Height(), 300);
-    EXPECT_EQ(control_->Left(), 1.5F);
-    EXPECT_EQ(control_->Top(), 2);
+    EXPECT_EQ(control_->Place().left, 1.5F);
+    EXPECT_EQ(control_->Place().top, 2);
     EXPECT_EQ(calls_, (std::vector<std::string>{"Resize", "Resize"}));
 }
 
@@ -54,12 +52,12 @@ TEST_F(MemoryExtender, MovesWithOneToFourArguments) {
     calls_.clear();
     extender_.Call(u"Move", {1.0F});
     extender_.Call(u"Move", {2.0F, Missing{}, 600.0F});
-    EXPECT_EQ(control_->Left(), 2);
-    EXPECT_EQ(control_->Top(), 20);
+    EXPECT_EQ(control_->Place().left, 2);
+    EXPECT_EQ(control_->Place().top, 20);
     EXPECT_EQ(control_->Drawing().Width(), 600);
     EXPECT_EQ(control_->Drawing().Height(), 1500);
     extender_.Call(u"Move", {5.0F, 6.0F, 700.0F, 800.0F});
-    EXPECT_EQ(control_->Top(), 6);
+    EXPECT_EQ(control_->Place().top, 6);
     EXPECT_EQ(control_->Drawing().Height(), 800);
     EXPECT_EQ(calls_, (std::vector<std::string>{"Resize", "Resize"}));
     EXPECT_TRUE(Raises(ErrorNumber::WrongNumberOfArguments, [&] { extender_.Call(u"Move"); }));
@@ -71,7 +69,7 @@ TEST_F(MemoryExtender, MovesWithOneToFourArguments) {
 TEST_F(MemoryExtender, ShowsAndHides) {
     calls_.clear();
     extender_.Let(u"Visible", false);
-    EXPECT_FALSE(control_->IsVisible());
+    EXPECT_FALSE(control_->IsShown());
     extender_.Let(u"Visible", true);
     extender_.Let(u"Visible", true);
     EXPECT_EQ(calls_, std::vector<std::string>{"Show"});

@@ -61,7 +61,7 @@ class MemoryUser : public ::testing::Test {
 
     std::unique_ptr<TextBox> NewBox(bool multiLine, TextView text) {
         auto box = std::make_unique<TextBox>(
-            parts_, host::TextBoxDesign{{.name = u"T"}, multiLine, host::ScrollBars::None, text},
+            elements_, host::TextBoxDesign{{.name = u"T"}, multiLine, host::ScrollBars::None, text},
             recorder_);
         user_.MoveFocusTo(*box);
         recorder_.lines.clear();
@@ -69,7 +69,7 @@ class MemoryUser : public ::testing::Test {
     }
 
     Form form_{testing::SampleClasses()};
-    Constituents parts_{form_, nullptr, true};
+    Elements elements_{form_, nullptr, true};
     Recorder recorder_;
     User user_{form_};
 };
@@ -253,7 +253,7 @@ TEST_F(MemoryUser, ScrollsAsFarAsTheBarGoes) {
         void Change() override { ++changes; }
         int changes = 0;
     } counter;
-    ScrollBar bar(parts_, {.name = u"S"}, host::Orientation::Vertical, counter);
+    ScrollBar bar(elements_, {.name = u"S"}, host::Orientation::Vertical, counter);
     bar.SetMax(100);
     EXPECT_TRUE(user_.Scroll(bar, 40));
     EXPECT_TRUE(user_.Scroll(bar, 40));
@@ -269,7 +269,7 @@ TEST_F(MemoryUser, ScrollsAsFarAsTheBarGoes) {
 
 TEST_F(MemoryUser, TogglesACheckBox) {
     host::ClickEvents events;
-    CheckBox box(parts_, {{.name = u"C"}}, events);
+    CheckBox box(elements_, {{.name = u"C"}}, events);
     user_.Click(box);
     EXPECT_EQ(box.CheckState(), 1);
     user_.Click(box);
@@ -308,9 +308,9 @@ TEST_F(MemoryUserOnAControl, ADisabledFrameKeepsItsButtonsFromTheUser) {
     control_->Drawing().SetEnabled(false);
     EXPECT_FALSE(user_.Click(button));
     control_->Drawing().SetEnabled(true);
-    control_->Hide();
+    control_->SetShown(false);
     EXPECT_FALSE(user_.Click(button));
-    control_->Show();
+    control_->SetShown(true);
     EXPECT_TRUE(user_.Click(button));
 }
 

@@ -198,8 +198,8 @@ void AddControlEvents(Operations& operations) {
                               control.Resize(width - 10, 900);
                           }});
     operations.push_back({"show", [](Stage& stage) {
-                              stage.Control().Hide();
-                              stage.Control().Show();
+                              stage.Control().SetShown(false);
+                              stage.Control().SetShown(true);
                           }});
     operations.push_back({"paint", [](Stage& stage) { stage.Control().Paint(); }});
     operations.push_back({"click", [](Stage& stage) { memory::User::Click(stage.Control()); }});

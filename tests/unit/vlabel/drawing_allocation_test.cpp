@@ -64,7 +64,7 @@ TEST(DrawingAllocations, OutOfMemoryIsReportedAndNothingEscapes) {
         PlacedLabel label;
         label.Placed().StartNew();
         label.SetUp(scene);
-        label.Placed().Show();
+        label.Placed().SetShown(true);
         FailAllocation(failed + 1);
         label.Placed().Paint();
         pending = AllocationFailurePending();

@@ -170,13 +170,13 @@ TEST(DrawingFaults, FontAndForeColorAreAsBeforeAndTheNextDrawingIsWhole) {
         label.Placed().StartNew();
         const LabelPicture undisturbed = Draw(label, scene);
         label.SetUp(scene);
-        label.Placed().Show();
+        label.Placed().SetShown(true);
         const std::int64_t before = label.Faults().Calls();
         label.Placed().Paint();
         const std::int64_t calls = label.Faults().Calls() - before;
         for (std::int64_t call = 1; call <= calls; ++call) {
             label.SetUp(scene);
-            label.Placed().Show();
+            label.Placed().SetShown(true);
             label.Faults().FailCall(call, ErrorNumber::InvalidProcedureCall);
             label.Placed().Paint();
             EXPECT_FALSE(label.Faults().IsArmed());

@@ -147,7 +147,7 @@ class MeddlingBag final : public host::PropertyBag {
 
 TEST_F(VLabelControl, CaptionAssignedWhileLoadingRepaintsNothingUntilTheFirstPaint) {
     MeddlingBag bag(label_.Label(), u"WordWrap");  // "Caption" has already been read
-    label_.Placed().Show();
+    label_.Placed().SetShown(true);
     EXPECT_FALSE(Refreshes([&] { label_.Placed().ReadProperties(bag); }));
     EXPECT_EQ(FirstPrint(), "nothing");
     label_.Paint();

@@ -5,8 +5,8 @@
 #include "project/lumenkit_classes.h"
 #include "runtime/memory/constituents.h"
 #include "runtime/memory/form.h"
+#include "runtime/memory/hosted_control.h"
 #include "runtime/memory/page_site.h"
-#include "runtime/memory/selected_controls.h"
 #include "runtime/memory/text_box.h"
 #include "tests/unit/vlabelcaption/tapped_constituents.h"
 
@@ -30,7 +30,7 @@ class TappedPage {
     memory::Form form_{lumenkitClasses};
     memory::PageSite site_{form_.Faults()};
     memory::SelectedControls selected_{form_.Faults()};
-    memory::Constituents parts_{form_, nullptr, true};
+    memory::Constituents parts_{form_, nullptr, true, memory::EmbedControl};
     TappedConstituents taps_{parts_};
     PageHost host_{.site = site_,
                    .selectedControls = selected_,

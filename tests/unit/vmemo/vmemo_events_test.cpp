@@ -165,7 +165,7 @@ class OverheardConstituents final : public host::Constituents {
 TEST(VMemoEventsTest, AllArgumentsPassByReferenceBothWays) {
     PlacedMemo placed;
     const ControlHost& real = placed.Placed().Host();
-    memory::Constituents made(placed.Form(), nullptr, true);
+    memory::Constituents made(placed.Form(), nullptr, true, memory::EmbedControl);
     OverheardConstituents constituents(made);
     VMemo memo({.surface = real.surface,
                 .container = real.container,

@@ -197,7 +197,7 @@ TEST_F(VMemoPropertiesTest, ANegativePageWidthIsANegativeLimit) {
 TEST_F(VMemoPropertiesTest, ALetterWithoutWidthIsADivisionByZero) {
     const ControlHost& real = memo_.Placed().Host();
     FlatSurface surface(real.surface);
-    memory::Constituents constituents(memo_.Form(), nullptr, true);
+    memory::Constituents constituents(memo_.Form(), nullptr, true, memory::EmbedControl);
     const ControlHost host{.surface = surface,
                            .container = real.container,
                            .ambient = real.ambient,

@@ -1,4 +1,4 @@
-#include "runtime/memory/selected_controls.h"
+#include "runtime/memory/page_site.h"
 
 #include "frame/runtime_error.h"
 

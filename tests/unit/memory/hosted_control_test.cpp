@@ -1,8 +1,9 @@
+#include "runtime/memory/hosted_control.h"
+
 #include <stdexcept>
 
 #include <gtest/gtest.h>
 
-#include "runtime/memory/hosted_control.h"
 #include "runtime/memory/option_button.h"
 #include "runtime/memory/text_box.h"
 #include "runtime/memory/user.h"
@@ -42,7 +43,7 @@ TEST_F(MemoryPlacedControl, ASavedControlReadsItsBag) {
     EXPECT_EQ(CallsOf(*control),
               (std::vector<std::string>{"Initialize", "ReadProperties", "Resize"}));
     EXPECT_EQ(control->Name(), u"mine");
-    EXPECT_FALSE(control->IsVisible());
+    EXPECT_FALSE(control->IsShown());
     EXPECT_FALSE(control->GetAmbient().UserMode());
     EXPECT_EQ(control->Automation().Get(u"Caption"), Value(Text(u"stored")));
 }
@@ -73,7 +74,7 @@ TEST_F(MemoryPlacedControl, PaintsOnRequest) {
     };
     EXPECT_EQ(control->Paint().Items(), expected);
     EXPECT_EQ(control->Paint().Items(), expected);
-    control->Hide();
+    control->SetShown(false);
     control->Paint();
     EXPECT_EQ(CallsOf(*control).size(), 4U + 2U);
 }

@@ -1,3 +1,5 @@
+#include "runtime/memory/hosted_page.h"
+
 #include <array>
 #include <stdexcept>
 
@@ -6,7 +8,6 @@
 #include "frame/automation/member_binding.h"
 #include "runtime/memory/embedded_control.h"
 #include "runtime/memory/hosted_control.h"
-#include "runtime/memory/hosted_page.h"
 #include "runtime/memory/text_box.h"
 #include "runtime/memory/user.h"
 #include "tests/unit/memory/expect_error.h"
@@ -113,7 +114,7 @@ TEST_F(MemoryPlacedPage, MovesShowsAndPaintsTheEmbeddedControl) {
     EXPECT_EQ(calls, (std::vector<std::string>{"Initialize", "InitProperties", "Resize", "Show"}));
     calls.clear();
     preview.Move({.left = -30, .top = -15, .width = 600, .height = 150});
-    EXPECT_EQ(preview.Inner().Left(), -30);
+    EXPECT_EQ(preview.Inner().Place().left, -30);
     EXPECT_EQ(preview.Inner().Drawing().Width(), 600);
     preview.Refresh();
     preview.SetVisible(false);
