@@ -37,8 +37,8 @@ class BasicTextConstituent : public BasicConstituent<Interface> {
     }
 
  protected:
-    BasicTextConstituent(Constituents& owner, const host::Design& design)
-        : BasicConstituent<Interface>(owner, design),
+    BasicTextConstituent(Elements& elements, const host::Design& design)
+        : BasicConstituent<Interface>(elements, design),
           font_(
               std::make_shared<Font>(design.fontName, design.fontSize), [this] { ShowFont(); },
               this->Errors()) {}
@@ -49,7 +49,9 @@ class BasicTextConstituent : public BasicConstituent<Interface> {
             widget->setFont(CurrentFace().WidgetFont());
         }
     }
-    Face& CurrentFace() const { return *font_.Get()->FaceAt(this->Widget()->devicePixelRatioF()); }
+    FontFace& CurrentFace() const {
+        return *font_.Get()->FaceAt(this->Widget()->devicePixelRatioF());
+    }
 
  private:
     HeldFont font_;
@@ -65,8 +67,8 @@ class BasicCaptioned : public BasicTextConstituent<Interface> {
     }
 
  protected:
-    BasicCaptioned(Constituents& owner, const host::Design& design, TextView caption)
-        : BasicTextConstituent<Interface>(owner, design), caption_(caption) {}
+    BasicCaptioned(Elements& elements, const host::Design& design, TextView caption)
+        : BasicTextConstituent<Interface>(elements, design), caption_(caption) {}
 
     virtual void ShowCaption() = 0;
     const Text& CaptionNow() const { return caption_; }

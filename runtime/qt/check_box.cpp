@@ -23,10 +23,9 @@ class CheckBoxWidget final : public QCheckBox {
     }
 };
 
-CheckBox::CheckBox(Constituents& owner, const host::CaptionDesign& design,
-                   host::ClickEvents& events)
-    : BasicCaptioned(owner, design, design.caption), events_(events) {
-    auto box = std::make_unique<CheckBoxWidget>(&ParentFor(owner, design));
+CheckBox::CheckBox(Elements& elements, const host::CaptionDesign& design, host::ClickEvents& events)
+    : BasicCaptioned(elements, design, design.caption), events_(events) {
+    auto box = std::make_unique<CheckBoxWidget>(&ParentFor(elements, design));
     box->clicked_ = [this] { HandleEvent(Errors(), [this] { Change(state_ == 0 ? 1 : 0); }); };
     Adopt(std::move(box));
     ShowFont();

@@ -13,7 +13,7 @@ class CheckBoxWidget;
 /// clears a checked or greyed one.
 class CheckBox final : public BasicCaptioned<host::CheckBox> {
  public:
-    CheckBox(Constituents& owner, const host::CaptionDesign& design, host::ClickEvents& events);
+    CheckBox(Elements& elements, const host::CaptionDesign& design, host::ClickEvents& events);
     ~CheckBox() override { Release(); }
     CheckBox(const CheckBox&) = delete;
     CheckBox& operator=(const CheckBox&) = delete;

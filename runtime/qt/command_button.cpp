@@ -6,10 +6,10 @@
 
 namespace lumenkit::qt {
 
-CommandButton::CommandButton(Constituents& owner, const host::CaptionDesign& design,
+CommandButton::CommandButton(Elements& elements, const host::CaptionDesign& design,
                              host::ClickEvents& events)
-    : BasicCaptioned(owner, design, design.caption) {
-    auto button = std::make_unique<QPushButton>(&ParentFor(owner, design));
+    : BasicCaptioned(elements, design, design.caption) {
+    auto button = std::make_unique<QPushButton>(&ParentFor(elements, design));
     button->setAutoDefault(false);
     QObject::connect(button.get(), &QPushButton::clicked, button.get(),
                      [this, &events] { HandleEvent(Errors(), [&events] { events.Click(); }); });

@@ -9,8 +9,7 @@ namespace lumenkit::qt {
 
 class CommandButton final : public BasicCaptioned<host::CommandButton> {
  public:
-    CommandButton(Constituents& owner, const host::CaptionDesign& design,
-                  host::ClickEvents& events);
+    CommandButton(Elements& elements, const host::CaptionDesign& design, host::ClickEvents& events);
     ~CommandButton() override { Release(); }
     CommandButton(const CommandButton&) = delete;
     CommandButton& operator=(const CommandButton&) = delete;

@@ -1,24 +1,30 @@
 #pragma once
 
-#include <QPointer>
 #include <QWidget>
+#include <cstdint>
 #include <list>
+#include <memory>
 
+#include "frame/class_table.h"
 #include "frame/host/constituents.h"
-#include "runtime/qt/context.h"
+#include "runtime/qt/element.h"
+#include "runtime/qt/elements.h"
 
 namespace lumenkit::qt {
 
-class Element;
+/// Creates a new control of the class `type` on a control or page.
+using EmbedFunction = std::unique_ptr<host::EmbeddedControl> (*)(Elements& elements,
+                                                                 const host::Design& design,
+                                                                 const ClassDescriptor& type);
 
-/// Creates the constituents of one control or page as widgets on its drawing area.
+/// Creates and finds the constituents of one control or page, which are widgets on its drawing
+/// area.
 class Constituents final : public host::Constituents {
  public:
-    /// `area` is the drawing area of the control, or the page. `userMode` is reported to embedded
-    /// controls; where it is false, no constituent takes the keyboard focus. The arguments and this
-    /// object must outlive the constituents.
-    Constituents(const Context& context, QWidget& area, bool userMode)
-        : context_(context), area_(area), userMode_(userMode) {}
+    /// The first three arguments are those of Elements. `embed` creates the constituents that are
+    /// controls themselves. This object must outlive the constituents.
+    Constituents(const Context& context, QWidget& area, bool userMode, EmbedFunction embed)
+        : elements_(context, area, userMode), embed_(embed) {}
 
     std::unique_ptr<host::TextBox> AddTextBox(const host::TextBoxDesign& design,
                                               host::TextBoxEvents& events) override;
@@ -38,11 +44,8 @@ class Constituents final : public host::Constituents {
     std::unique_ptr<host::EmbeddedControl> AddControl(const host::Design& design,
                                                       TextView programmaticIdentifier) override;
 
-    const Context& GetContext() const { return context_; }
-    QWidget& Area() const { return area_; }
-    bool UserMode() const { return userMode_; }
     /// The existing constituents in the order of their creation.
-    const std::list<Element*>& All() const { return elements_; }
+    const std::list<Element*>& All() const { return elements_.All(); }
     /// Returns the constituent with this name and this index in a control array (-1 outside of
     /// one), or null if there is none. The case of the name does not matter.
     Element* Find(TextView name, std::int16_t index = -1) const;
@@ -52,18 +55,9 @@ class Constituents final : public host::Constituents {
     /// Called when the colours of the area's palette changed.
     void ShowColors();
 
-    /// Makes `element` the buddy of a label that was created just before it.
-    void Name(const Element& element) const;
-
-    // Called by the elements when they are created and destroyed.
-    std::list<Element*>::iterator Register(Element& element);
-    void Unregister(std::list<Element*>::iterator position) { elements_.erase(position); }
-
  private:
-    const Context& context_;
-    QWidget& area_;
-    bool userMode_;
-    std::list<Element*> elements_;
+    Elements elements_;
+    EmbedFunction embed_;
 };
 
 }  // namespace lumenkit::qt

@@ -1,5 +1,6 @@
 #include "runtime/qt/element.h"
 
+#include <iterator>
 #include <stdexcept>
 #include <utility>
 
@@ -20,25 +21,25 @@ void LeaveFocus(QWidget& widget, bool usable) {
 
 }  // namespace
 
-Element::Element(Constituents& owner, const host::Design& design)
-    : owner_(owner),
+Element::Element(Elements& elements, const host::Design& design)
+    : elements_(elements),
       name_(design.name),
       index_(design.index),
       placement_(design.placement),
       visible_(design.visible),
-      position_(owner.Register(*this)) {}
+      position_(elements.Register(*this)) {}
 
 Element::~Element() {
-    owner_.Unregister(position_);
+    elements_.Unregister(position_);
     if (widget_ != nullptr) {  // the derived constructor threw
         widget_->hide();
         DeleteSafely(widget_);
     }
 }
 
-QWidget& Element::ParentFor(const Constituents& owner, const host::Design& design) {
+QWidget& Element::ParentFor(const Elements& elements, const host::Design& design) {
     if (design.parent == nullptr) {
-        return owner.Area();
+        return elements.Area();
     }
     const auto* parent = dynamic_cast<const Element*>(design.parent);
     if (parent == nullptr) {
@@ -49,11 +50,13 @@ QWidget& Element::ParentFor(const Constituents& owner, const host::Design& desig
 
 void Element::AdoptHidden(std::unique_ptr<QWidget> widget) {
     widget_ = widget.release();  // its parent widget owns it from here on
-    if (!owner_.UserMode()) {
+    if (!UserMode()) {
         widget_->setFocusPolicy(Qt::NoFocus);
     }
     widget_->lower();
-    owner_.Name(*this);
+    if (position_ != elements_.All().begin()) {
+        (*std::prev(position_))->NameNext(*widget_);
+    }
 }
 
 void Element::Adopt(std::unique_ptr<QWidget> widget) {

@@ -8,7 +8,7 @@
 
 #include "frame/host/constituent.h"
 #include "frame/text.h"
-#include "runtime/qt/constituents.h"
+#include "runtime/qt/elements.h"
 #include "runtime/qt/font.h"
 
 namespace lumenkit::qt {
@@ -29,16 +29,18 @@ class Element {
     virtual QWidget& Inside() const { return *widget_; }
     /// Called when the colours of the palette changed.
     virtual void ShowColors() {}
+    /// Called with the widget of the constituent that is created next.
+    virtual void NameNext(QWidget& /*widget*/) {}
     /// Stops the notifications of the widget. Called when their receiver or the element itself is
     /// destroyed; the widget may be deleted a little later.
     virtual void Disconnect() {}
 
  protected:
-    Element(Constituents& owner, const host::Design& design);
+    Element(Elements& elements, const host::Design& design);
 
     /// Returns the parent widget for a constituent with this design. Throws std::logic_error for a
     /// parent of another runtime.
-    static QWidget& ParentFor(const Constituents& owner, const host::Design& design);
+    static QWidget& ParentFor(const Elements& elements, const host::Design& design);
     /// Takes over the widget, puts it behind its siblings, and places and shows it as designed.
     void Adopt(std::unique_ptr<QWidget> widget);
     /// Does the same without placing or showing the widget.
@@ -52,18 +54,19 @@ class Element {
     bool IsEnabled() const { return enabled_; }
     void BecomeEnabled(bool enabled);
     void RepaintNow();
-    Constituents& Owner() const { return owner_; }
-    const ErrorSink& Errors() const { return owner_.GetContext().errors; }
+    QWidget& Area() const { return elements_.Area(); }
+    bool UserMode() const { return elements_.UserMode(); }
+    const ErrorSink& Errors() const { return elements_.GetContext().errors; }
 
  private:
-    Constituents& owner_;
+    Elements& elements_;
     Text name_;
     std::int16_t index_;
     host::Placement placement_;
     bool visible_;
     bool enabled_ = true;
     QPointer<QWidget> widget_;
-    std::list<Element*>::iterator position_;  // in the owner's list
+    std::list<Element*>::iterator position_;  // in the list of elements_
 };
 
 }  // namespace lumenkit::qt

@@ -4,16 +4,21 @@
 
 namespace lumenkit::qt {
 
-EmbeddedControl::EmbeddedControl(Constituents& owner, const host::Design& design,
+std::unique_ptr<host::EmbeddedControl> EmbedControl(Elements& elements, const host::Design& design,
+                                                    const ClassDescriptor& type) {
+    return std::make_unique<EmbeddedControl>(elements, design, type);
+}
+
+EmbeddedControl::EmbeddedControl(Elements& elements, const host::Design& design,
                                  const ClassDescriptor& type)
-    : BasicConstituent(owner, design),
+    : BasicConstituent(elements, design),
       ambient_([](TextView name, float points) { return std::make_shared<Font>(name, points); },
-               owner.UserMode()) {
+               elements.UserMode()) {
     ControlSite& site = *this;
     AdoptHidden(std::make_unique<HostedControl>(
-        owner.GetContext(), type, site,
+        elements.GetContext(), type, site,
         Placing{.name = design.name, .placement = design.placement, .visible = design.visible},
-        &ParentFor(owner, design)));
+        &ParentFor(elements, design)));
     Inner().StartNew();
 }
 

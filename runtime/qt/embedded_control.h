@@ -3,6 +3,7 @@
 #include "frame/class_table.h"
 #include "frame/host/simple_constituents.h"
 #include "runtime/qt/basic_constituent.h"
+#include "runtime/qt/control_site.h"
 #include "runtime/qt/hosted_control.h"
 #include "runtime/shared/embedded_site.h"
 
@@ -12,7 +13,7 @@ namespace lumenkit::qt {
 /// notifications.
 class EmbeddedControl final : public BasicConstituent<host::EmbeddedControl>, private ControlSite {
  public:
-    EmbeddedControl(Constituents& owner, const host::Design& design, const ClassDescriptor& type);
+    EmbeddedControl(Elements& elements, const host::Design& design, const ClassDescriptor& type);
     ~EmbeddedControl() override { Release(); }
     EmbeddedControl(const EmbeddedControl&) = delete;
     EmbeddedControl& operator=(const EmbeddedControl&) = delete;

@@ -84,8 +84,10 @@ std::shared_ptr<Font> Font::Clone() const {
     return clone;
 }
 
-const std::shared_ptr<Face>& Font::FaceAt(double scale) const {
-    const auto fits = [&](const std::shared_ptr<Face>& face) { return face->IsFor(now_, scale); };
+const std::shared_ptr<FontFace>& Font::FaceAt(double scale) const {
+    const auto fits = [&](const std::shared_ptr<FontFace>& face) {
+        return face->IsFor(now_, scale);
+    };
     if (face_ && fits(face_)) {
         return face_;
     }
@@ -97,7 +99,7 @@ const std::shared_ptr<Face>& Font::FaceAt(double scale) const {
     if (recent_.size() == mostRecent) {
         recent_.erase(recent_.begin());
     }
-    face_ = Face::For(now_, scale);
+    face_ = FontFace::For(now_, scale);
     recent_.push_back(face_);
     return face_;
 }

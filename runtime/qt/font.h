@@ -8,7 +8,7 @@
 
 #include "frame/host/font.h"
 #include "runtime/qt/boundary.h"
-#include "runtime/qt/face.h"
+#include "runtime/qt/font_face.h"
 
 namespace lumenkit::qt {
 
@@ -48,8 +48,8 @@ class Font final : public host::Font {
     std::shared_ptr<Font> Clone() const;
 
     const FontAttributes& Now() const { return now_; }
-    /// Returns the face for measuring and drawing; see Face::For.
-    const std::shared_ptr<Face>& FaceAt(double scale) const;
+    /// Returns the face for measuring and drawing; see FontFace::For.
+    const std::shared_ptr<FontFace>& FaceAt(double scale) const;
 
     /// Notifies the listener until it is removed. A listener must be removed before it is
     /// destroyed.
@@ -66,8 +66,8 @@ class Font final : public host::Font {
 
     FontAttributes now_;
     std::vector<FontListener*> listeners_;
-    mutable std::shared_ptr<Face> face_;
-    mutable std::vector<std::shared_ptr<Face>> recent_;
+    mutable std::shared_ptr<FontFace> face_;
+    mutable std::vector<std::shared_ptr<FontFace>> recent_;
 };
 
 /// Holds the font of a surface or constituent. While a caption is drawn, a font may change many

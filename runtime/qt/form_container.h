@@ -6,6 +6,7 @@
 
 #include "frame/automation/interface_table.h"
 #include "frame/host/container.h"
+#include "runtime/shared/event_handler.h"
 
 namespace lumenkit::qt {
 
@@ -26,9 +27,7 @@ class FormContainer final : public host::Container {
 
     std::function<void(TextView name)> onPropertyChanged;
     std::function<bool(TextView name)> mayPropertyChange;
-    /// Called with the name of an event. It may write to the arguments. Runtime errors that it
-    /// raises are dropped.
-    std::function<void(TextView name, std::span<Value> arguments)> onEvent;
+    shared::EventHandler onEvent;
 
  private:
     const EventTable* events_;

@@ -6,9 +6,9 @@
 
 namespace lumenkit::qt {
 
-FrameBox::FrameBox(Constituents& owner, const host::CaptionDesign& design)
-    : BasicCaptioned(owner, design, design.caption) {
-    Adopt(std::make_unique<FrameWidget>(&ParentFor(owner, design)));
+FrameBox::FrameBox(Elements& elements, const host::CaptionDesign& design)
+    : BasicCaptioned(elements, design, design.caption) {
+    Adopt(std::make_unique<FrameWidget>(&ParentFor(elements, design)));
     ShowFont();
     ShowCaption();
 }

@@ -13,7 +13,7 @@ class FrameWidget;
 /// Constituents inside the frame are placed relative to its outer corner.
 class FrameBox final : public BasicCaptioned<host::Frame> {
  public:
-    FrameBox(Constituents& owner, const host::CaptionDesign& design);
+    FrameBox(Elements& elements, const host::CaptionDesign& design);
     ~FrameBox() override { Release(); }
     FrameBox(const FrameBox&) = delete;
     FrameBox& operator=(const FrameBox&) = delete;

@@ -5,8 +5,6 @@
 #include <QStyleOptionFrame>
 
 #include "frame/runtime_error.h"
-#include "runtime/qt/element.h"
-#include "runtime/qt/surface_widget.h"
 
 namespace lumenkit::qt {
 
@@ -25,7 +23,7 @@ HostedControl::HostedControl(const Context& context, const ClassDescriptor& type
       screen_(*this),
       interaction_(context.interaction, [this] { return surface_.IsPainting(); }),
       extender_(*this),
-      constituents_(context, surface_.Area(), site.GetAmbient().UserMode()),
+      constituents_(context, surface_.Area(), site.GetAmbient().UserMode(), EmbedControl),
       host_{.surface = surface_,
             .container = site.GetContainer(),
             .ambient = site.GetAmbient(),

@@ -5,26 +5,15 @@
 
 #include "frame/class_table.h"
 #include "frame/control.h"
+#include "frame/host/extender.h"
 #include "runtime/qt/constituents.h"
 #include "runtime/qt/context.h"
-#include "runtime/qt/extender.h"
+#include "runtime/qt/control_site.h"
 #include "runtime/qt/interaction.h"
 #include "runtime/qt/screen.h"
 #include "runtime/qt/surface.h"
 
 namespace lumenkit::qt {
-
-/// The services that a control needs from its form. The site must outlive the control's widget.
-class ControlSite {
- public:
-    virtual ~ControlSite() = default;
-
-    virtual host::Container& GetContainer() = 0;
-    virtual host::Ambient& GetAmbient() = 0;
-    /// Called after the control was moved or resized, by code or by the user, and after code showed
-    /// or hid it.
-    virtual void PlacementChanged() {}
-};
 
 /// The initial placement of a control. Lengths are in twips.
 struct Placing {
@@ -95,10 +84,29 @@ class HostedControl final : public QWidget, private SurfaceOwner {
     void changeEvent(QEvent* event) override;
 
  private:
+    // The container's extender of the control.
+    class Extender final : public host::Extender {
+     public:
+        explicit Extender(HostedControl& control) : control_(control) {}
+
+     private:
+        Text Name() const override { return control_.name_; }
+        Text Tag() const override { return control_.tag_; }
+        void SetTag(TextView tag) override { control_.tag_ = tag; }
+        host::Placement Place() const override { return control_.Place(); }
+        void Move(const host::Placement& place) override { control_.Move(place); }
+        bool IsVisible() const override { return control_.IsShown(); }
+        void SetVisible(bool visible) override { control_.SetShown(visible); }
+
+        HostedControl& control_;
+    };
+
+    // SurfaceOwner
     QWidget& Outside() override { return *this; }
     void SurfaceResized() override;
     float BorderWidth(std::int16_t style) const override;
     void PaletteChanged() override;
+
     int BorderPixels(std::int16_t style) const;
     void FinishStart();
     void ApplyPlacement();
@@ -121,5 +129,10 @@ class HostedControl final : public QWidget, private SurfaceOwner {
     ControlHost host_;
     std::unique_ptr<Control> control_;
 };
+
+/// Creates a new control of the class `type` on another control or page. The function is in
+/// embedded_control.cpp: a control creates its constituents, which may be controls again.
+std::unique_ptr<host::EmbeddedControl> EmbedControl(Elements& elements, const host::Design& design,
+                                                    const ClassDescriptor& type);
 
 }  // namespace lumenkit::qt

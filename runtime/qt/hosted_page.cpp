@@ -4,6 +4,7 @@
 
 #include "frame/runtime_error.h"
 #include "runtime/qt/boundary.h"
+#include "runtime/qt/hosted_control.h"
 #include "runtime/qt/pixels.h"
 
 namespace lumenkit::qt {
@@ -28,7 +29,7 @@ ObjectRef HostedPage::Selection::Item(std::int16_t index) {
 HostedPage::HostedPage(const Context& context, const ClassDescriptor& type, QWidget* parent)
     : QWidget(parent),
       screen_(*this),
-      constituents_(context, *this, true),
+      constituents_(context, *this, true, EmbedControl),
       host_{.site = site_,
             .selectedControls = selection_,
             .screen = screen_,

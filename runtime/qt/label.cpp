@@ -1,6 +1,7 @@
 #include "runtime/qt/label.h"
 
 #include <QLabel>
+#include <QPlainTextEdit>
 #include <algorithm>
 #include <cmath>
 
@@ -20,9 +21,9 @@ float WholeTwips(double pixels, double perPixel) {
 
 }  // namespace
 
-Label::Label(Constituents& owner, const host::CaptionDesign& design)
-    : BasicCaptioned(owner, design, design.caption) {
-    auto label = std::make_unique<QLabel>(&ParentFor(owner, design));
+Label::Label(Elements& elements, const host::CaptionDesign& design)
+    : BasicCaptioned(elements, design, design.caption) {
+    auto label = std::make_unique<QLabel>(&ParentFor(elements, design));
     label->setTextFormat(Qt::PlainText);
     label->setWordWrap(true);
     label->setAlignment(Qt::AlignLeft | Qt::AlignTop);
@@ -60,7 +61,7 @@ void Label::SetBackColor(Color color) {
 }
 
 void Label::ShowColors() {
-    const QPalette& base = Owner().Area().palette();
+    const QPalette& base = Area().palette();
     QPalette palette = Shown().palette();
     palette.setColor(QPalette::WindowText, ToQColor(foreColor_, base));
     palette.setColor(QPalette::Window, ToQColor(backColor_, base));
@@ -76,7 +77,7 @@ void Label::FitToCaption() {
     if (!autoSize_ || Widget() == nullptr) {
         return;
     }
-    Face& face = CurrentFace();
+    FontFace& face = CurrentFace();
     double width = 0;
     const QStringList lines = WithoutMnemonic(ToQString(CaptionNow())).split(QLatin1String("\r\n"));
     for (const QString& line : lines) {
@@ -91,13 +92,14 @@ void Label::FitToCaption() {
     MoveTo(fitting);
 }
 
-void Label::SetBuddy(QWidget* widget) {
-    Shown().setBuddy(widget);
-    ShowCaption();
-}
-
-bool Label::HasMnemonicNow() const {
-    return HasMnemonic(ToQString(CaptionNow()));
+void Label::NameNext(QWidget& widget) {
+    const bool takesFocus = widget.focusPolicy() != Qt::NoFocus;
+    if (takesFocus && Shown().parentWidget() == widget.parentWidget() &&
+        (qobject_cast<QPlainTextEdit*>(&widget) != nullptr ||
+         HasMnemonic(ToQString(CaptionNow())))) {
+        Shown().setBuddy(&widget);
+        ShowCaption();
+    }
 }
 
 }  // namespace lumenkit::qt

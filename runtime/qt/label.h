@@ -13,7 +13,7 @@ namespace lumenkit::qt {
 /// focus.
 class Label final : public BasicCaptioned<host::Label> {
  public:
-    Label(Constituents& owner, const host::CaptionDesign& design);
+    Label(Elements& elements, const host::CaptionDesign& design);
     ~Label() override { Release(); }
     Label(const Label&) = delete;
     Label& operator=(const Label&) = delete;
@@ -26,9 +26,7 @@ class Label final : public BasicCaptioned<host::Label> {
     void SetBackColor(Color color) override;
 
     void ShowColors() override;
-    /// Sets the widget that the label names.
-    void SetBuddy(QWidget* widget);
-    bool HasMnemonicNow() const;
+    void NameNext(QWidget& widget) override;
 
  private:
     QLabel& Shown() const;

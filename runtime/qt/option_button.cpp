@@ -84,10 +84,10 @@ class OptionWidget final : public QRadioButton {
     bool markRight_ = false;
 };
 
-OptionButton::OptionButton(Constituents& owner, const host::OptionButtonDesign& design,
+OptionButton::OptionButton(Elements& elements, const host::OptionButtonDesign& design,
                            OptionGroup& group)
-    : BasicCaptioned(owner, design, design.caption), group_(group) {
-    auto button = std::make_unique<OptionWidget>(&ParentFor(owner, design));
+    : BasicCaptioned(elements, design, design.caption), group_(group) {
+    auto button = std::make_unique<OptionWidget>(&ParentFor(elements, design));
     button->clicked_ = [this] { HandleEvent(Errors(), [this] { group_.Choose(*this); }); };
     button->arrow_ = [this](bool forward) {
         HandleEvent(Errors(), [this, forward] { Step(forward); });
@@ -147,7 +147,7 @@ void OptionButton::Mark(bool selected) {
 }
 
 void OptionButton::BecomeTabStop(bool stops) {
-    if (Owner().UserMode()) {
+    if (UserMode()) {
         Button().setFocusPolicy(stops ? Qt::StrongFocus : Qt::ClickFocus);
     }
 }
@@ -163,7 +163,7 @@ void OptionButton::SetForeColor(Color color) {
 }
 
 void OptionButton::ShowColors() {
-    const QPalette& base = Owner().Area().palette();
+    const QPalette& base = Area().palette();
     if (foreColor_ == Color::ButtonText) {
         if (Button().testAttribute(Qt::WA_SetPalette)) {
             Button().setPalette({});  // the palette greys it when it is disabled

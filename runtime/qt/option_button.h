@@ -15,7 +15,7 @@ using OptionGroup = shared::OptionArray<OptionButton>;
 class OptionButton final : public BasicCaptioned<host::OptionButton> {
  public:
     /// `design.index` is the element's index.
-    OptionButton(Constituents& owner, const host::OptionButtonDesign& design, OptionGroup& group);
+    OptionButton(Elements& elements, const host::OptionButtonDesign& design, OptionGroup& group);
     ~OptionButton() override { Release(); }
     OptionButton(const OptionButton&) = delete;
     OptionButton& operator=(const OptionButton&) = delete;

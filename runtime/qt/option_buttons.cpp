@@ -4,11 +4,11 @@
 
 namespace lumenkit::qt {
 
-OptionButtons::OptionButtons(Constituents& owner, const host::OptionButtonDesign& design,
+OptionButtons::OptionButtons(Elements& elements, const host::OptionButtonDesign& design,
                              host::Frame& frame, host::OptionButtonEvents& events)
     : OptionArray(
-          [&owner](const host::OptionButtonDesign& element, OptionGroup& group) {
-              return std::make_unique<OptionButton>(owner, element, group);
+          [&elements](const host::OptionButtonDesign& element, OptionGroup& group) {
+              return std::make_unique<OptionButton>(elements, element, group);
           },
           design, frame, events) {}
 

@@ -11,7 +11,7 @@ namespace lumenkit::qt {
 /// The Tab order of the buttons is the order of their indices.
 class OptionButtons final : public shared::OptionArray<OptionButton> {
  public:
-    OptionButtons(Constituents& owner, const host::OptionButtonDesign& design, host::Frame& frame,
+    OptionButtons(Elements& elements, const host::OptionButtonDesign& design, host::Frame& frame,
                   host::OptionButtonEvents& events);
 
     void Load(std::int16_t index) override;

@@ -7,9 +7,9 @@
 
 namespace lumenkit::qt {
 
-PictureBox::PictureBox(Constituents& owner, const host::Design& design)
-    : BasicConstituent(owner, design) {
-    auto box = std::make_unique<QFrame>(&ParentFor(owner, design));
+PictureBox::PictureBox(Elements& elements, const host::Design& design)
+    : BasicConstituent(elements, design) {
+    auto box = std::make_unique<QFrame>(&ParentFor(elements, design));
     box->setFrameStyle(QFrame::StyledPanel | QFrame::Sunken);
     auto inside = std::make_unique<QWidget>(box.get());
     inside_ = inside.release();  // owned by the box

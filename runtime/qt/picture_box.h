@@ -9,7 +9,7 @@ namespace lumenkit::qt {
 /// border.
 class PictureBox final : public BasicConstituent<host::PictureBox> {
  public:
-    PictureBox(Constituents& owner, const host::Design& design);
+    PictureBox(Elements& elements, const host::Design& design);
     ~PictureBox() override { Release(); }
     PictureBox(const PictureBox&) = delete;
     PictureBox& operator=(const PictureBox&) = delete;

@@ -31,12 +31,12 @@ class BarWidget final : public QScrollBar {
 
 }  // namespace
 
-ScrollBar::ScrollBar(Constituents& owner, const host::Design& design, host::Orientation orientation,
+ScrollBar::ScrollBar(Elements& elements, const host::Design& design, host::Orientation orientation,
                      host::ScrollBarEvents& events)
-    : BasicConstituent(owner, design), events_(events) {
+    : BasicConstituent(elements, design), events_(events) {
     auto bar = std::make_unique<BarWidget>(
         orientation == host::Orientation::Horizontal ? Qt::Horizontal : Qt::Vertical,
-        &ParentFor(owner, design));
+        &ParentFor(elements, design));
     bar->setFocusPolicy(Qt::StrongFocus);
     bar->setRange(0, max_);
     bar->setSingleStep(1);

@@ -13,7 +13,7 @@ namespace lumenkit::qt {
 /// the user drags the thumb.
 class ScrollBar final : public BasicConstituent<host::ScrollBar> {
  public:
-    ScrollBar(Constituents& owner, const host::Design& design, host::Orientation orientation,
+    ScrollBar(Elements& elements, const host::Design& design, host::Orientation orientation,
               host::ScrollBarEvents& events);
     ~ScrollBar() override { Release(); }
     ScrollBar(const ScrollBar&) = delete;

@@ -8,7 +8,6 @@
 #include "runtime/qt/input.h"
 #include "runtime/qt/palette_color.h"
 #include "runtime/qt/qt_text.h"
-#include "runtime/qt/surface_widget.h"
 
 namespace lumenkit::qt {
 
@@ -74,7 +73,7 @@ void Surface::Cls() {
 }
 
 void Surface::Print(TextView text) {
-    const std::shared_ptr<Face>& face = CurrentFace();
+    const std::shared_ptr<FontFace>& face = CurrentFace();
     double width = 0;
     if (QPainter* painter = Target()) {
         Run& run = NextRun(text, face);
@@ -88,7 +87,7 @@ void Surface::Print(TextView text) {
 
 // Returns the run that was printed at this place in the last painting, if it is the same. Otherwise
 // the new run replaces it.
-Surface::Run& Surface::NextRun(TextView text, const std::shared_ptr<Face>& face) {
+Surface::Run& Surface::NextRun(TextView text, const std::shared_ptr<FontFace>& face) {
     if (nextRun_ == runs_.size()) {
         runs_.emplace_back();
     }

@@ -15,10 +15,9 @@
 #include "runtime/qt/boundary.h"
 #include "runtime/qt/font.h"
 #include "runtime/qt/pixels.h"
+#include "runtime/qt/surface_widget.h"
 
 namespace lumenkit::qt {
-
-class SurfaceWidget;
 
 /// The owner of a surface: the control's widget, which draws the border of the surface.
 class SurfaceOwner {
@@ -40,7 +39,7 @@ class SurfaceOwner {
 /// Without AutoRedraw, drawing has an effect only during UserControl_Paint. At other times the pen
 /// moves and nothing is drawn. Repeating the previous painting does not measure or shape its text
 /// again: the glyphs of each run are kept, in the order of drawing.
-class Surface final : public host::Surface {
+class Surface final : public host::Surface, public ShownSurface {
  public:
     /// Lengths are in twips. `owner` and `errors` must outlive the surface. Raises 380 for a
     /// negative width or height.
@@ -89,34 +88,32 @@ class Surface final : public host::Surface {
     SurfaceWidget& Area() { return *area_; }
     /// Sets the control that is notified of painting and of a changed size. Null: no control yet.
     void SetControl(Control* control) { control_ = control; }
-    Control* GetControl() const { return control_; }
-    bool IsPainting() const { return painter_ != nullptr; }
-    /// Paints the content of the area, at least in `exposed` (pixels of the area).
-    void DrawOn(QPainter& painter, const QRect& exposed);
-    /// Returns the texts of the last painting, with a line break where the vertical position
-    /// changed.
-    QString PaintedText() const;
-    /// Called when the scale of the screen may have changed.
-    void UpdateScale();
-    void PaletteChanged();
+
+    // ShownSurface
+    Control* GetControl() const override { return control_; }
+    bool IsPainting() const override { return painter_ != nullptr; }
+    void DrawOn(QPainter& painter, const QRect& exposed) override;
+    QString PaintedText() const override;
+    void UpdateScale() override;
+    void PaletteChanged() override;
 
  private:
     // One printed text, kept for drawing it again.
     struct Run {
         Text text;
-        std::shared_ptr<Face> face;
+        std::shared_ptr<FontFace> face;
         std::optional<GlyphLine> glyphs;
         double width = 0;  // pixels
         float y = 0;
     };
 
-    const std::shared_ptr<Face>& CurrentFace() const { return font_.Get()->FaceAt(scale_); }
+    const std::shared_ptr<FontFace>& CurrentFace() const { return font_.Get()->FaceAt(scale_); }
     QPainter* Target();
     QPainter& PicturePainter();
     void FinishPicture();
     void FitPicture();
     QImage NewPicture() const;
-    Run& NextRun(TextView text, const std::shared_ptr<Face>& face);
+    Run& NextRun(TextView text, const std::shared_ptr<FontFace>& face);
     void DrawRun(QPainter& painter, Run& run);
     void UsePen(QPainter& painter, Color color);
     void PaintControl(QPainter* painter);

@@ -8,7 +8,6 @@
 #include <utility>
 
 #include "runtime/qt/input.h"
-#include "runtime/qt/surface.h"
 
 namespace lumenkit::qt {
 
@@ -54,7 +53,7 @@ void OfferAccessibility() {
 
 }  // namespace
 
-SurfaceWidget::SurfaceWidget(QWidget& outside, Surface& surface, ErrorSink errors)
+SurfaceWidget::SurfaceWidget(QWidget& outside, ShownSurface& surface, ErrorSink errors)
     : QWidget(&outside), surface_(&surface), errors_(std::move(errors)) {
     OfferAccessibility();
     setAttribute(Qt::WA_OpaquePaintEvent);

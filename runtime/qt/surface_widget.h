@@ -7,13 +7,30 @@
 
 namespace lumenkit::qt {
 
-class Surface;
+/// The surface that a SurfaceWidget shows.
+class ShownSurface {
+ public:
+    virtual ~ShownSurface() = default;
+
+    /// Returns the control that receives the mouse events, or null if there is none yet.
+    virtual Control* GetControl() const = 0;
+    virtual bool IsPainting() const = 0;
+    /// Draws the content of the area, at least in `exposed` (pixels of the area).
+    virtual void DrawOn(QPainter& painter, const QRect& exposed) = 0;
+    /// Returns the texts of the last painting, with a line break where the vertical position
+    /// changed.
+    virtual QString PaintedText() const = 0;
+    /// Called when the scale of the screen may have changed.
+    virtual void UpdateScale() = 0;
+    /// Called when the colours of the area's palette changed.
+    virtual void PaletteChanged() = 0;
+};
 
 /// The drawing area of a control, inside its border. It is the parent of the constituents and
 /// receives the mouse events. Screen readers read the painted text from it.
 class SurfaceWidget final : public QWidget {
  public:
-    SurfaceWidget(QWidget& outside, Surface& surface, ErrorSink errors);
+    SurfaceWidget(QWidget& outside, ShownSurface& surface, ErrorSink errors);
 
     /// Receives the errors that reach no caller.
     const ErrorSink& Errors() const { return errors_; }
@@ -37,7 +54,7 @@ class SurfaceWidget final : public QWidget {
     void Tell(MouseHandler handler, host::MouseArguments mouse);
     void Tell(void (Control::*handler)());
 
-    Surface* surface_;
+    ShownSurface* surface_;
     ErrorSink errors_;
     bool isPressed_ = false;
 };

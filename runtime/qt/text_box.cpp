@@ -8,10 +8,9 @@
 
 namespace lumenkit::qt {
 
-TextBox::TextBox(Constituents& owner, const host::TextBoxDesign& design,
-                 host::TextBoxEvents& events)
-    : BasicTextConstituent(owner, design) {
-    Adopt(std::make_unique<TextEdit>(&ParentFor(owner, design), design, events, Errors()));
+TextBox::TextBox(Elements& elements, const host::TextBoxDesign& design, host::TextBoxEvents& events)
+    : BasicTextConstituent(elements, design) {
+    Adopt(std::make_unique<TextEdit>(&ParentFor(elements, design), design, events, Errors()));
     ShowFont();
     ShowColors();
 }
@@ -74,7 +73,7 @@ void TextBox::ShowColors() {
         Edit().setPalette({});  // the palette greys it when it is disabled
         return;
     }
-    const QPalette& base = Owner().Area().palette();
+    const QPalette& base = Area().palette();
     QPalette palette = base;
     palette.setColor(QPalette::Text, ToQColor(foreColor_, base));
     Edit().setPalette(palette);

@@ -13,7 +13,7 @@ namespace lumenkit::qt {
 /// code of a key by the code of another moving or editing key, the box acts on that key.
 class TextBox final : public BasicTextConstituent<host::TextBox> {
  public:
-    TextBox(Constituents& owner, const host::TextBoxDesign& design, host::TextBoxEvents& events);
+    TextBox(Elements& elements, const host::TextBoxDesign& design, host::TextBoxEvents& events);
     ~TextBox() override { Release(); }
     TextBox(const TextBox&) = delete;
     TextBox& operator=(const TextBox&) = delete;

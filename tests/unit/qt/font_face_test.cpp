@@ -1,4 +1,4 @@
-#include "runtime/qt/face.h"
+#include "runtime/qt/font_face.h"
 
 #include <QFontMetricsF>
 #include <QTextLayout>
@@ -11,12 +11,12 @@
 namespace lumenkit::qt {
 namespace {
 
-std::shared_ptr<Face> FaceOf(TextView name, float size, double scale = 1) {
-    return Face::For({.size = size, .name = Text(name)}, scale);
+std::shared_ptr<FontFace> FaceOf(TextView name, float size, double scale = 1) {
+    return FontFace::For({.size = size, .name = Text(name)}, scale);
 }
 
 // Returns the width that Qt measures for the whole text.
-double MeasuredByQt(const Face& face, TextView text) {
+double MeasuredByQt(const FontFace& face, TextView text) {
     QTextLayout layout(ToQString(text), face.WidgetFont());
     layout.beginLayout();
     QTextLine line = layout.createLine();
@@ -106,7 +106,7 @@ TEST(FaceTest, GlyphsReachAsFarAsMeasured) {
 }
 
 // Returns the glyph runs that a QTextLayout makes of simple characters, relative to the baseline.
-QList<QGlyphRun> LaidOutByQt(const Face& face, TextView text) {
+QList<QGlyphRun> LaidOutByQt(const FontFace& face, TextView text) {
     QFont font = face.WidgetFont();
     font.setStyleStrategy(QFont::PreferNoShaping);
     QTextLayout layout(ToQString(text), font);
@@ -130,7 +130,7 @@ TEST(FaceTest, SimpleCharactersAreDrawnByTheGlyphsOfALayout) {
     for (const TextView name : {u"MS Sans Serif", u"Courier", u"Times New Roman", u"System"}) {
         for (const float size : {8.25F, 9.75F, 12.0F, 33.3F}) {
             for (const bool marked : {false, true}) {
-                const auto face = Face::For(
+                const auto face = FontFace::For(
                     {.size = size,
                      .weight = marked ? FontAttributes::boldWeight : FontAttributes::regularWeight,
                      .italic = marked,
@@ -147,7 +147,7 @@ TEST(FaceTest, SimpleCharactersAreDrawnByTheGlyphsOfALayout) {
 }
 
 TEST(FaceTest, UnderlinedTextKeepsItsLine) {
-    const auto face = Face::For({.size = 12, .underline = true, .name = u"Arial"}, 1);
+    const auto face = FontFace::For({.size = 12, .underline = true, .name = u"Arial"}, 1);
     const GlyphLine line = face->GlyphsOf(u"word");
     ASSERT_EQ(line.runs.size(), 1);
     EXPECT_TRUE(line.runs.front().underline());

@@ -1,4 +1,4 @@
-#include "runtime/qt/face.h"
+#include "runtime/qt/font_face.h"
 
 #include <QCoreApplication>
 #include <QFontMetricsF>
@@ -66,8 +66,8 @@ QFont FontFor(const FontAttributes& attributes) {
 }
 
 // Most recently used first.
-std::list<std::shared_ptr<Face>>& Faces() {
-    static std::list<std::shared_ptr<Face>> faces;
+std::list<std::shared_ptr<FontFace>>& Faces() {
+    static std::list<std::shared_ptr<FontFace>> faces;
     return faces;
 }
 
@@ -82,7 +82,7 @@ void ForgetFacesAtEnd() {
 
 }  // namespace
 
-std::shared_ptr<Face> Face::For(const FontAttributes& attributes, double scale) {
+std::shared_ptr<FontFace> FontFace::For(const FontAttributes& attributes, double scale) {
     auto& faces = Faces();
     const auto found = std::ranges::find_if(
         faces, [&](const auto& face) { return face->IsFor(attributes, scale); });
@@ -91,15 +91,15 @@ std::shared_ptr<Face> Face::For(const FontAttributes& attributes, double scale) 
         return faces.front();
     }
     ForgetFacesAtEnd();
-    faces.push_front(std::make_shared<Face>(attributes, scale));
-    std::shared_ptr<Face> made = faces.front();
+    faces.push_front(std::make_shared<FontFace>(attributes, scale));
+    std::shared_ptr<FontFace> made = faces.front();
     if (faces.size() > mostFaces) {
         faces.pop_back();
     }
     return made;
 }
 
-Face::Face(const FontAttributes& attributes, double scale)
+FontFace::FontFace(const FontAttributes& attributes, double scale)
     : attributes_(attributes), scale_(scale), simple_(FontFor(attributes)), shaped_(simple_) {
     simple_.setStyleStrategy(QFont::PreferNoShaping);
     const QFontMetricsF metrics(shaped_);
@@ -119,7 +119,7 @@ Face::Face(const FontAttributes& attributes, double scale)
 }
 
 // Whether the single advances add up to the width that Qt measures for a whole text.
-bool Face::AddsUp(TextView text) {
+bool FontFace::AddsUp(TextView text) {
     double sum = 0;
     for (const char16_t unit : text) {
         sum += AdvanceOf(unit);
@@ -127,7 +127,7 @@ bool Face::AddsUp(TextView text) {
     return sum == QFontMetricsF(simple_).horizontalAdvance(ToQString(text));
 }
 
-double Face::AdvanceOf(char16_t unit) {
+double FontFace::AdvanceOf(char16_t unit) {
     const char16_t drawn = IsUndrawn(unit) ? blank : unit;
     double& advance = advances_[drawn];
     if (advance < 0) {
@@ -137,7 +137,7 @@ double Face::AdvanceOf(char16_t unit) {
 }
 
 // Returns 0 if the glyph of the unit comes from another font.
-std::uint32_t Face::GlyphOf(char16_t unit) {
+std::uint32_t FontFace::GlyphOf(char16_t unit) {
     const char16_t drawn = IsUndrawn(unit) ? blank : unit;
     std::uint32_t& glyph = glyphs_[drawn];
     if (glyph == unknownGlyph) {
@@ -151,13 +151,13 @@ std::uint32_t Face::GlyphOf(char16_t unit) {
 }
 
 // Whether the single glyphs equal Qt's layout of the whole text: font, glyphs and positions.
-bool Face::HasGlyphsOfLayout(TextView text) {
+bool FontFace::HasGlyphsOfLayout(TextView text) {
     const std::optional<GlyphLine> own = FromTable(text);
     const GlyphLine laidOut = LaidOut(text);
     return own && laidOut.runs.size() == 1 && own->runs.front() == laidOut.runs.front();
 }
 
-void Face::LayOut(QTextLayout& layout) {
+void FontFace::LayOut(QTextLayout& layout) {
     layout.setCacheEnabled(true);
     QTextOption option;
     option.setWrapMode(QTextOption::NoWrap);
@@ -168,7 +168,7 @@ void Face::LayOut(QTextLayout& layout) {
     layout.endLayout();
 }
 
-const Face::WordEnds& Face::Measured(TextView word) {
+const FontFace::WordEnds& FontFace::Measured(TextView word) {
     if (words_.size() >= mostWords) {
         words_.clear();
     }
@@ -190,7 +190,7 @@ const Face::WordEnds& Face::Measured(TextView word) {
 
 // Calls `take` with the end of each unit in turn.
 template <typename Take>
-void Face::WalkWords(TextView text, Take&& take) {
+void FontFace::WalkWords(TextView text, Take&& take) {
     double x = 0;
     for (std::size_t start = 0; start < text.size();) {
         const std::size_t end = std::min(text.find(blank, start), text.size());
@@ -217,7 +217,7 @@ void Face::WalkWords(TextView text, Take&& take) {
 // Does the same for a text of simple characters that were all measured before. Returns false for
 // any other text; `take` may have been called for some of its units by then.
 template <typename Take>
-bool Face::WalkKnown(TextView text, Take&& take) const {
+bool FontFace::WalkKnown(TextView text, Take&& take) const {
     if (!trustsTable_) {
         return false;
     }
@@ -233,7 +233,7 @@ bool Face::WalkKnown(TextView text, Take&& take) const {
     return true;
 }
 
-double Face::WidthOf(TextView text) {
+double FontFace::WidthOf(TextView text) {
     double width = 0;
     if (WalkKnown(text, [&](double end) { width = end; })) {
         return width;
@@ -243,7 +243,7 @@ double Face::WidthOf(TextView text) {
     return width;
 }
 
-void Face::Ends(TextView text, double factor, std::span<double> ends) {
+void FontFace::Ends(TextView text, double factor, std::span<double> ends) {
     std::size_t index = 0;
     if (WalkKnown(text, [&](double end) { ends[index++] = end * factor; })) {
         return;
@@ -252,12 +252,12 @@ void Face::Ends(TextView text, double factor, std::span<double> ends) {
     WalkWords(text, [&](double end) { ends[index++] = end * factor; });
 }
 
-GlyphLine Face::GlyphsOf(TextView text) {
+GlyphLine FontFace::GlyphsOf(TextView text) {
     std::optional<GlyphLine> glyphs = FromTable(text);
     return glyphs ? *std::move(glyphs) : LaidOut(text);
 }
 
-std::optional<GlyphLine> Face::FromTable(TextView text) {
+std::optional<GlyphLine> FontFace::FromTable(TextView text) {
     if (!glyphFont_.isValid() || !IsSimple(text)) {
         return std::nullopt;
     }
@@ -286,7 +286,7 @@ std::optional<GlyphLine> Face::FromTable(TextView text) {
     return GlyphLine{.runs = {run}};
 }
 
-GlyphLine Face::LaidOut(TextView text) const {
+GlyphLine FontFace::LaidOut(TextView text) const {
     QTextLayout layout(Drawable(text), IsSimple(text) ? simple_ : shaped_);
     LayOut(layout);
     const QTextLine line = layout.lineAt(0);

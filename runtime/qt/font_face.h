@@ -47,14 +47,14 @@ struct GlyphLine {
 /// shapes and measures all other words. A text of simple characters that the font contains is drawn
 /// by single glyphs, provided that Qt's own layout produces the same glyphs. Characters without a
 /// glyph (control characters, line separators) count as blanks.
-class Face {
+class FontFace {
  public:
     /// Returns one shared face for equal arguments. `scale` is the number of device pixels per
     /// pixel.
-    static std::shared_ptr<Face> For(const FontAttributes& attributes, double scale);
+    static std::shared_ptr<FontFace> For(const FontAttributes& attributes, double scale);
 
     /// Use For instead.
-    Face(const FontAttributes& attributes, double scale);
+    FontFace(const FontAttributes& attributes, double scale);
 
     bool IsFor(const FontAttributes& attributes, double scale) const {
         return scale == scale_ && attributes == attributes_;
