@@ -25,7 +25,7 @@ HRESULT ActiveObject::GetWindow(HWND* window) {
         if (!core_.GetActivation().IsActive()) {
             return E_FAIL;
         }
-        *window = core_.Hosted().Window();
+        *window = core_.Hosted().Handle();
         return S_OK;
     });
 }

@@ -217,7 +217,7 @@ RECT ControlCore::Place() const {
 }
 
 bool ControlCore::IsVisible() const {
-    return activation_.IsActive() && IsWindowVisible(hosted_->Window()) != FALSE;
+    return activation_.IsActive() && IsWindowVisible(hosted_->Handle()) != FALSE;
 }
 
 void ControlCore::SetVisible(bool visible) {

@@ -10,7 +10,7 @@ HRESULT InPlaceObject::GetWindow(HWND* window) {
         if (!core_.GetActivation().IsActive()) {
             return E_FAIL;
         }
-        *window = core_.Hosted().Window();
+        *window = core_.Hosted().Handle();
         return S_OK;
     });
 }

@@ -63,13 +63,13 @@ HRESULT OleControl::GetControlInfo(CONTROLINFO* information) {
         if (Checked(information).cb != sizeof(CONTROLINFO)) {
             return E_INVALIDARG;
         }
-        std::vector<ACCEL> keys = AcceleratorsOf(win32::MnemonicsInside(core_.Started().Window()));
+        std::vector<ACCEL> keys = AcceleratorsOf(win32::MnemonicsInside(core_.Started().Handle()));
         table_.reset(keys.empty()
                          ? nullptr
                          : CreateAcceleratorTableW(keys.data(), static_cast<int>(keys.size())));
         information->hAccel = table_.get();
         information->cAccel = table_ == nullptr ? WORD{0} : static_cast<WORD>(keys.size());
-        information->dwFlags = EatsReturn(core_.Hosted().Window()) ? CTRLINFO_EATS_RETURN : 0;
+        information->dwFlags = EatsReturn(core_.Hosted().Handle()) ? CTRLINFO_EATS_RETURN : 0;
         return S_OK;
     });
 }
@@ -79,7 +79,7 @@ HRESULT OleControl::OnMnemonic(MSG* message) {
         const wchar_t unit = UnitOf(Checked(message));
         core_.GetActivation().ActivateUI();
         if (unit != 0 && core_.GetActivation().IsActive()) {
-            win32::UseMnemonicInside(core_.Hosted().Window(), unit);
+            win32::UseMnemonicInside(core_.Hosted().Handle(), unit);
         }
     });
 }

@@ -124,7 +124,7 @@ HRESULT PropertyPageFace::EditProperty(DISPID /*property*/) {
         if (!active_) {
             return E_UNEXPECTED;
         }
-        SetFocus(GetNextDlgTabItem(core_.Hosted().Window(), nullptr, FALSE));
+        SetFocus(GetNextDlgTabItem(core_.Hosted().Handle(), nullptr, FALSE));
         return S_OK;
     });
 }

@@ -73,7 +73,7 @@ HGLOBAL RenderMetafilePicture(win32::HostedControl& control, const SIZEL& size) 
     const HDC device = Made(CreateMetaFileW(nullptr));
     SetWindowOrgEx(device, 0, 0, nullptr);
     SetWindowExtEx(device, static_cast<int>(size.cx), static_cast<int>(size.cy), nullptr);
-    control.Draw(device, WholeOf(size));
+    control.DrawOn(device, WholeOf(size));
     METAFILEPICT picture = {};
     picture.mm = MM_ANISOTROPIC;
     picture.xExt = size.cx;
@@ -89,7 +89,7 @@ HENHMETAFILE RenderEnhancedMetafile(win32::HostedControl& control, const SIZEL& 
     const HDC device = Made(CreateEnhMetaFileW(nullptr, nullptr, &frame, nullptr));
     // In pixels of the reference device, which is the screen.
     const SIZE pixels = control.Size();
-    control.Draw(device, {0, 0, pixels.cx, pixels.cy});
+    control.DrawOn(device, {0, 0, pixels.cx, pixels.cy});
     return Made(CloseEnhMetaFile(device));
 }
 
@@ -101,7 +101,7 @@ HGLOBAL RenderBitmap(win32::HostedControl& control, const SIZE& size) {
         Made(CreateDIBSection(device.get(), reinterpret_cast<const BITMAPINFO*>(&header),
                               DIB_RGB_COLORS, &pixels, nullptr, 0)));
     const HGDIOBJ former = SelectObject(device.get(), bitmap.get());
-    control.Draw(device.get(), {0, 0, size.cx, size.cy});
+    control.DrawOn(device.get(), {0, 0, size.cx, size.cy});
     GdiFlush();
     Memory memory(sizeof header + header.biSizeImage);
     memory.Put(0, &header, sizeof header);

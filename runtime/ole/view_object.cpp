@@ -44,7 +44,7 @@ HRESULT ViewObject::Draw(DWORD aspect, LONG index, void* /*aspectInfo*/, DVTARGE
         if (device == nullptr) {
             return E_INVALIDARG;
         }
-        core_.Started().Draw(device, RectOf(Checked(place)));
+        core_.Started().DrawOn(device, RectOf(Checked(place)));
         return S_OK;
     });
 }
