@@ -27,7 +27,6 @@ class Activation {
     explicit Activation(Activated& control) : control_(control) {}
 
     bool IsActive() const { return site_ != nullptr; }
-    bool IsUIActive() const { return uiActive_; }
     /// The position in the container's window, in pixels. Meaningful only while active.
     const RECT& Place() const { return place_; }
     const ComPtr<IOleInPlaceSite>& InPlaceSite() const { return site_; }

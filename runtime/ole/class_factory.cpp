@@ -6,26 +6,6 @@
 
 namespace lumenkit::ole {
 
-HRESULT ClassFactory::QueryInterface(REFIID interfaceId, void** object) {
-    if (object == nullptr) {
-        return E_POINTER;
-    }
-    *object = interfaceId == IID_IUnknown || interfaceId == IID_IClassFactory ? this : nullptr;
-    if (*object == nullptr) {
-        return E_NOINTERFACE;
-    }
-    AddRef();
-    return S_OK;
-}
-
-ULONG ClassFactory::Release() {
-    const ULONG left = --references_;
-    if (left == 0) {
-        delete this;
-    }
-    return left;
-}
-
 HRESULT ClassFactory::CreateInstance(IUnknown* outer, REFIID interfaceId, void** object) {
     return Guarded([&] {
         Checked(object) = nullptr;

@@ -70,6 +70,13 @@ win32::HostedControl& ControlCore::Started() {
     return *hosted_;
 }
 
+HWND ControlCore::ActiveWindow() const {
+    if (!activation_.IsActive()) {
+        throw ComError(E_FAIL);
+    }
+    return hosted_->Handle();
+}
+
 void ControlCore::StartNew() {
     if (startedOnPurpose_) {
         throw ComError(E_UNEXPECTED);

@@ -31,9 +31,7 @@ FORMATETC FormatOf(const Rendering& rendering) {
 
 // Throws the error that the platform defines for a `format` that is not available.
 const Rendering& RenderingFor(const FORMATETC& format) {
-    if (format.dwAspect != DVASPECT_CONTENT) {
-        throw ComError(DV_E_DVASPECT);
-    }
+    CheckAspect(format.dwAspect);
     if (format.lindex != -1) {
         throw ComError(DV_E_LINDEX);
     }

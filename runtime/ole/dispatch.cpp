@@ -4,7 +4,7 @@
 #include <vector>
 
 #include "frame/runtime_error.h"
-#include "runtime/ole/basic_string.h"
+#include "runtime/ole/exception_info.h"
 #include "runtime/ole/result.h"
 #include "runtime/ole/variant.h"
 #include "runtime/win32/wide_text.h"
@@ -219,14 +219,6 @@ HRESULT InvokeMember(const InterfaceTable& table, Object& object,
         }
         return Run(*member, object, KindOf(*member, call), call);
     });
-}
-
-void Describe(const RuntimeError& error, EXCEPINFO& exception) {
-    exception = {};
-    BasicString description(error.Description());
-    exception.bstrSource = BasicString(u"lumenkit").Detach();
-    exception.bstrDescription = description.Detach();
-    exception.scode = ResultOf(error);
 }
 
 }  // namespace lumenkit::ole

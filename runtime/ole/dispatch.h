@@ -2,7 +2,6 @@
 #pragma once
 
 #include "frame/automation/interface_table.h"
-#include "frame/runtime_error.h"
 #include "runtime/ole/ole_header.h"
 
 namespace lumenkit::ole {
@@ -27,8 +26,5 @@ struct DispatchCall {
 /// DISP_E_EXCEPTION with the number of the error.
 HRESULT InvokeMember(const InterfaceTable& table, Object& object,
                      const DispatchCall& call) noexcept;
-
-/// Fills in the known data of a runtime error.
-void Describe(const RuntimeError& error, EXCEPINFO& exception);
 
 }  // namespace lumenkit::ole

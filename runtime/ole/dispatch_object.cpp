@@ -4,7 +4,8 @@
 #include <vector>
 
 #include "frame/runtime_error.h"
-#include "runtime/ole/basic_string.h"
+#include "runtime/ole/exception_info.h"
+#include "runtime/ole/ole_font.h"
 #include "runtime/ole/result.h"
 #include "runtime/ole/variant.h"
 #include "runtime/win32/wide_text.h"
@@ -26,29 +27,6 @@ WORD FlagsOf(InvokeKind kind) {
     }
     return DISPATCH_METHOD | DISPATCH_PROPERTYGET;
 }
-
-// An EXCEPINFO that owns its strings.
-struct Exception {
-    EXCEPINFO information = {};
-
-    Exception() = default;
-    ~Exception() {
-        SysFreeString(information.bstrDescription);
-        SysFreeString(information.bstrSource);
-        SysFreeString(information.bstrHelpFile);
-    }
-    Exception(const Exception&) = delete;
-    Exception& operator=(const Exception&) = delete;
-
-    [[noreturn]] void Raise() {
-        if (information.pfnDeferredFillIn != nullptr) {
-            information.pfnDeferredFillIn(&information);
-        }
-        const TextView description = TextOf(information.bstrDescription);
-        throw information.wCode != 0 ? RuntimeError(information.wCode, Text(description))
-                                     : ErrorOf(information.scode, description);
-    }
-};
 
 // The arguments in the order of automation: the last one first.
 class Arguments {
@@ -90,11 +68,11 @@ std::optional<std::int32_t> DispatchObject::FindMember(TextView name) const {
 Value DispatchObject::Invoke(std::int32_t identifier, InvokeKind kind, std::span<Value> arguments) {
     Arguments passed(arguments, kind == InvokeKind::Let || kind == InvokeKind::Set);
     Variant result;
-    Exception exception;
+    ExceptionInfo exception;
     UINT wrongArgument = 0;
     const HRESULT outcome =
         dispatch_->Invoke(identifier, IID_NULL, LOCALE_USER_DEFAULT, FlagsOf(kind), passed.Get(),
-                          result.Get(), &exception.information, &wrongArgument);
+                          result.Get(), exception.Get(), &wrongArgument);
     if (outcome == DISP_E_EXCEPTION) {
         exception.Raise();
     }
@@ -102,6 +80,21 @@ Value DispatchObject::Invoke(std::int32_t identifier, InvokeKind kind, std::span
         throw ErrorOf(outcome);
     }
     return FromVariant(*result);
+}
+
+ObjectRef ObjectOf(IUnknown* object) {
+    if (object == nullptr) {
+        return nullptr;
+    }
+    ComPtr<IFont> font;
+    if (SUCCEEDED(object->QueryInterface(IID_PPV_ARGS(&font)))) {
+        return OleFont::Of(font.Get());
+    }
+    ComPtr<IDispatch> dispatch;
+    if (FAILED(object->QueryInterface(IID_PPV_ARGS(&dispatch)))) {
+        Raise(ErrorNumber::TypeMismatch);
+    }
+    return std::make_shared<DispatchObject>(dispatch.Get());
 }
 
 bool DispatchObject::IsSame(const Object& other) const {

@@ -1,11 +1,10 @@
 // The platform's enumerators over a list that is fixed when they are created.
 #pragma once
 
-#include <atomic>
 #include <memory>
 #include <vector>
 
-#include "runtime/ole/ole_header.h"
+#include "runtime/ole/counted.h"
 #include "runtime/ole/result.h"
 
 namespace lumenkit::ole {
@@ -23,38 +22,15 @@ struct InterfaceItem {
 };
 
 template <typename Interface, const IID& interfaceId, typename Item, typename Policy>
-class Enumerator final : public Interface {
+class Enumerator final : public Counted<Interface, interfaceId> {
  public:
     using List = std::vector<typename Policy::Kept>;
 
     explicit Enumerator(std::shared_ptr<const List> list, std::size_t position = 0)
         : list_(std::move(list)), position_(position) {}
-    virtual ~Enumerator() = default;
-    Enumerator(const Enumerator&) = delete;
-    Enumerator& operator=(const Enumerator&) = delete;
 
     static ComPtr<Interface> Over(List list) {
         return Adopted<Interface>(new Enumerator(std::make_shared<const List>(std::move(list))));
-    }
-
-    HRESULT STDMETHODCALLTYPE QueryInterface(REFIID iid, void** object) override {
-        if (object == nullptr) {
-            return E_POINTER;
-        }
-        *object = iid == IID_IUnknown || iid == interfaceId ? this : nullptr;
-        if (*object == nullptr) {
-            return E_NOINTERFACE;
-        }
-        AddRef();
-        return S_OK;
-    }
-    ULONG STDMETHODCALLTYPE AddRef() override { return ++references_; }
-    ULONG STDMETHODCALLTYPE Release() override {
-        const ULONG left = --references_;
-        if (left == 0) {
-            delete this;
-        }
-        return left;
     }
 
     HRESULT STDMETHODCALLTYPE Next(ULONG count, Item* items, ULONG* fetched) override {
@@ -88,7 +64,6 @@ class Enumerator final : public Interface {
  private:
     std::shared_ptr<const List> list_;
     std::size_t position_;
-    std::atomic<ULONG> references_ = 1;
 };
 
 }  // namespace lumenkit::ole

@@ -3,6 +3,7 @@
 #include <memory>
 #include <vector>
 
+#include "runtime/ole/exception_info.h"
 #include "runtime/ole/variant.h"
 
 namespace lumenkit::ole {
@@ -36,14 +37,11 @@ class EventArguments {
 };
 
 void Call(IDispatch& listener, const Event& event, EventArguments& arguments) {
-    EXCEPINFO exception = {};
+    ExceptionInfo exception;
     UINT wrongArgument = 0;
     Variant result;
     listener.Invoke(event.identifier, IID_NULL, LOCALE_USER_DEFAULT, DISPATCH_METHOD,
-                    arguments.Get(), result.Get(), &exception, &wrongArgument);
-    SysFreeString(exception.bstrDescription);
-    SysFreeString(exception.bstrSource);
-    SysFreeString(exception.bstrHelpFile);
+                    arguments.Get(), result.Get(), exception.Get(), &wrongArgument);
 }
 
 }  // namespace

@@ -1,12 +1,11 @@
 #include "runtime/ole/font_maker.h"
 
 #include "frame/runtime_error.h"
-#include "runtime/ole/font_size.h"
 #include "runtime/win32/wide_text.h"
 
 namespace lumenkit::ole {
 
-stored::FontAttributes AttributesOf(const host::Font& font) {
+stored::FontRecord RecordOf(const host::Font& font) {
     return {.name = font.Name(),
             .size = FontSize(font.Size()).int64,
             .weight = font.Weight(),
@@ -16,7 +15,7 @@ stored::FontAttributes AttributesOf(const host::Font& font) {
             .strikethrough = font.Strikethrough()};
 }
 
-std::shared_ptr<OleFont> NewOleFont(const stored::FontAttributes& attributes) {
+std::shared_ptr<OleFont> NewOleFont(const stored::FontRecord& attributes) {
     std::wstring name = win32::ToWide(attributes.name);
     FONTDESC description = {};
     description.cbSizeofstruct = sizeof description;

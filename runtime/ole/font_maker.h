@@ -1,14 +1,14 @@
 #pragma once
 
 #include "runtime/ole/ole_font.h"
-#include "runtime/ole/stored/setting.h"
+#include "runtime/ole/stored/record.h"
 
 namespace lumenkit::ole {
 
-stored::FontAttributes AttributesOf(const host::Font& font);
+stored::FontRecord RecordOf(const host::Font& font);
 
 /// Returns a separate standard font object. Raises 380 for attributes that the platform refuses.
-std::shared_ptr<OleFont> NewOleFont(const stored::FontAttributes& attributes);
+std::shared_ptr<OleFont> NewOleFont(const stored::FontRecord& attributes);
 
 class FontMaker final : public win32::FontMaker {
  public:

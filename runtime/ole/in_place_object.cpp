@@ -7,11 +7,7 @@ namespace lumenkit::ole {
 HRESULT InPlaceObject::GetWindow(HWND* window) {
     return Guarded([&] {
         Checked(window) = nullptr;
-        if (!core_.GetActivation().IsActive()) {
-            return E_FAIL;
-        }
-        *window = core_.Hosted().Handle();
-        return S_OK;
+        *window = core_.ActiveWindow();
     });
 }
 

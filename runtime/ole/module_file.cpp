@@ -1,7 +1,6 @@
 #include "runtime/ole/module_file.h"
 
-#include "runtime/ole/result.h"
-#include "runtime/win32/wide_text.h"
+#include "runtime/win32/application.h"
 
 namespace lumenkit::ole {
 
@@ -13,15 +12,8 @@ HINSTANCE OwnModule() {
     return module;
 }
 
-Text ModulePath() {
-    constexpr std::size_t longestPath = 32768;
-    std::wstring path(longestPath, L'\0');
-    const DWORD length =
-        GetModuleFileNameW(OwnModule(), path.data(), static_cast<DWORD>(path.size()));
-    if (length == 0) {
-        throw ComError(HRESULT_FROM_WIN32(GetLastError()));
-    }
-    return Text(win32::AsText({path.data(), length}));
+std::wstring OwnPath() {
+    return win32::PathOf(OwnModule());
 }
 
 }  // namespace lumenkit::ole

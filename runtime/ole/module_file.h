@@ -1,13 +1,14 @@
 // The module that this code is linked into: the component server, not the program.
 #pragma once
 
-#include "frame/text.h"
+#include <string>
+
 #include "runtime/ole/ole_header.h"
 
 namespace lumenkit::ole {
 
 HINSTANCE OwnModule();
 /// Returns the full path of the module's file.
-Text ModulePath();
+std::wstring OwnPath();
 
 }  // namespace lumenkit::ole

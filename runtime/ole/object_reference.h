@@ -16,6 +16,8 @@ class ComBacked {
 
 /// Returns a font for a standard font object, the object through its IDispatch for any other, and
 /// nothing for null. Raises 13 for an object that does not support late binding.
+/// dispatch_object.cpp defines it, because a call of such an object passes values, and a value may
+/// be an object again.
 ObjectRef ObjectOf(IUnknown* object);
 
 /// Returns the COM object behind `object`, and null for nothing. Raises 13 if there is none.

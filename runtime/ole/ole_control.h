@@ -3,7 +3,7 @@
 #include <memory>
 
 #include "runtime/ole/control_core.h"
-#include "runtime/ole/held_facet.h"
+#include "runtime/ole/facet.h"
 
 namespace lumenkit::ole {
 

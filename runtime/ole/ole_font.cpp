@@ -1,18 +1,23 @@
 #include "runtime/ole/ole_font.h"
 
-#include <algorithm>
-#include <atomic>
 #include <utility>
 
 #include "frame/checked_integer.h"
 #include "frame/runtime_error.h"
 #include "runtime/ole/basic_string.h"
-#include "runtime/ole/font_size.h"
+#include "runtime/ole/counted.h"
 #include "runtime/ole/result.h"
 
 namespace lumenkit::ole {
 
 namespace {
+
+constexpr double fontSizeUnit = 10000.0;
+constexpr double largestFontSize = 2160.0;
+
+float FontPoints(CY size) {
+    return static_cast<float>(static_cast<double>(size.int64) / fontSizeUnit);
+}
 
 // Raises the runtime error for a value that the font object refuses.
 void CheckValue(HRESULT result) {
@@ -30,37 +35,26 @@ T Attribute(IFont& font, HRESULT (STDMETHODCALLTYPE IFont::*get)(T*)) {
 
 }  // namespace
 
+CY FontSize(float points) {
+    const double units = RoundHalfToEven(static_cast<double>(points) * fontSizeUnit);
+    if (!(units > 0 && units <= largestFontSize * fontSizeUnit)) {
+        Raise(ErrorNumber::InvalidPropertyValue);
+    }
+    CY size = {};
+    size.int64 = static_cast<LONGLONG>(units);
+    return size;
+}
+
 // Receives the changes of the font as long as its owner lives.
-class OleFont::Sink final : public IPropertyNotifySink {
+class OleFont::Sink final : public Counted<IPropertyNotifySink, IID_IPropertyNotifySink> {
  public:
     explicit Sink(OleFont& owner) : owner_(&owner) {}
-    virtual ~Sink() = default;
     void Forget() { owner_ = nullptr; }
 
-    HRESULT STDMETHODCALLTYPE QueryInterface(REFIID iid, void** object) override {
-        if (object == nullptr) {
-            return E_POINTER;
-        }
-        if (iid != IID_IUnknown && iid != IID_IPropertyNotifySink) {
-            *object = nullptr;
-            return E_NOINTERFACE;
-        }
-        *object = static_cast<IPropertyNotifySink*>(this);
-        AddRef();
-        return S_OK;
-    }
-    ULONG STDMETHODCALLTYPE AddRef() override { return ++references_; }
-    ULONG STDMETHODCALLTYPE Release() override {
-        const ULONG left = --references_;
-        if (left == 0) {
-            delete this;
-        }
-        return left;
-    }
     HRESULT STDMETHODCALLTYPE OnChanged(DISPID /*property*/) override {
         return Guarded([&] {
             if (owner_ != nullptr) {
-                owner_->Notify();
+                owner_->listeners_.Tell();
             }
         });
     }
@@ -68,7 +62,6 @@ class OleFont::Sink final : public IPropertyNotifySink {
 
  private:
     OleFont* owner_;
-    std::atomic<ULONG> references_ = 0;
 };
 
 std::shared_ptr<OleFont> OleFont::Of(IFont* font) {
@@ -172,18 +165,15 @@ HFONT OleFont::Handle() const {
 }
 
 void OleFont::Add(win32::FontListener& listener) {
-    listeners_.push_back(&listener);
+    listeners_.Add(listener);
     if (point_ == nullptr) {
         Connect();
     }
 }
 
 void OleFont::Remove(win32::FontListener& listener) {
-    const auto found = std::ranges::find(listeners_, &listener);
-    if (found != listeners_.end()) {
-        listeners_.erase(found);
-    }
-    if (listeners_.empty()) {
+    listeners_.Remove(listener);
+    if (listeners_.IsEmpty()) {
         Disconnect();
     }
 }
@@ -194,7 +184,7 @@ void OleFont::Connect() {
         FAILED(container->FindConnectionPoint(IID_IPropertyNotifySink, &point_))) {
         return;  // a font that never changes
     }
-    sink_ = new Sink(*this);
+    sink_ = Adopted(new Sink(*this));
     if (FAILED(point_->Advise(sink_.Get(), &connection_))) {
         sink_.Reset();
         point_.Reset();
@@ -208,16 +198,6 @@ void OleFont::Disconnect() {
     }
     sink_.Reset();
     point_.Reset();
-}
-
-void OleFont::Notify() {
-    // Listeners may be added and removed while they are notified.
-    const std::vector<win32::FontListener*> told = listeners_;
-    for (win32::FontListener* listener : told) {
-        if (std::ranges::find(listeners_, listener) != listeners_.end()) {
-            listener->FontChanged();
-        }
-    }
 }
 
 }  // namespace lumenkit::ole

@@ -1,13 +1,16 @@
 #pragma once
 
 #include <memory>
-#include <vector>
 
 #include "runtime/ole/object_reference.h"
 #include "runtime/ole/ole_header.h"
 #include "runtime/win32/font.h"
 
 namespace lumenkit::ole {
+
+/// Converts a size in points to the platform's fixed-point number. Raises 380 for a size that is
+/// not above 0 after rounding to four decimal places, or above 2160.
+CY FontSize(float points);
 
 /// The platform's standard font object. Several instances may wrap the same font object. All of
 /// them see each other's changes and the changes of clients.
@@ -52,12 +55,10 @@ class OleFont final : public win32::Font, public ComBacked {
 
     void Connect();
     void Disconnect();
-    void Notify();
 
     ComPtr<IFont> font_;
     ComPtr<IDispatch> dispatch_;
-    // A listener may be listed more than once. It is notified once for each entry.
-    std::vector<win32::FontListener*> listeners_;
+    win32::FontListeners listeners_;
     ComPtr<Sink> sink_;
     ComPtr<IConnectionPoint> point_;
     DWORD connection_ = 0;

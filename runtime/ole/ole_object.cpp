@@ -4,6 +4,7 @@
 #include "runtime/ole/identifiers.h"
 #include "runtime/ole/misc_status.h"
 #include "runtime/ole/property_page_of.h"
+#include "runtime/ole/rendering.h"
 #include "runtime/ole/result.h"
 #include "runtime/ole/task_memory.h"
 #include "runtime/win32/wide_text.h"
@@ -25,12 +26,6 @@ struct VerbItem {
 };
 
 using Verbs = Enumerator<IEnumOLEVERB, IID_IEnumOLEVERB, OLEVERB, VerbItem>;
-
-void CheckAspect(DWORD aspect) {
-    if (aspect != DVASPECT_CONTENT) {
-        throw ComError(DV_E_DVASPECT);
-    }
-}
 
 }  // namespace
 

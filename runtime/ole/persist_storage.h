@@ -1,7 +1,7 @@
 #pragma once
 
 #include "runtime/ole/control_core.h"
-#include "runtime/ole/held_facet.h"
+#include "runtime/ole/facet.h"
 
 namespace lumenkit::ole {
 

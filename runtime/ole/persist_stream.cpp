@@ -29,7 +29,7 @@ void Read(IStream& stream, std::size_t count, std::vector<std::uint8_t>& bytes) 
 std::vector<std::uint8_t> Saved(ControlCore& core) {
     StoredProperties properties;
     core.Save(properties);
-    return stored::Encode(properties.Settings());
+    return stored::Encode(properties.GetRecords());
 }
 
 }  // namespace

@@ -2,6 +2,7 @@
 
 #include "frame/host/font.h"
 #include "frame/runtime_error.h"
+#include "runtime/ole/exception_info.h"
 #include "runtime/ole/font_maker.h"
 #include "runtime/ole/result.h"
 #include "runtime/ole/variant.h"
@@ -35,22 +36,16 @@ void Log(IErrorLog* log, const wchar_t* name, const RuntimeError& error) {
     if (log == nullptr) {
         return;
     }
-    std::wstring description = win32::ToWide(error.Description());
-    std::wstring source = L"lumenkit";
-    EXCEPINFO information = {};
-    information.bstrSource = SysAllocString(source.c_str());
-    information.bstrDescription = SysAllocString(description.c_str());
-    information.scode = ResultOf(error);
-    log->AddError(name, &information);
-    SysFreeString(information.bstrSource);
-    SysFreeString(information.bstrDescription);
+    ExceptionInfo information;
+    Describe(error, *information.Get());
+    log->AddError(name, information.Get());
 }
 
 // Returns a separate copy of a font, so that later changes to the font do not affect the bag.
 Value Copy(const Value& value) {
     const auto* object = std::get_if<ObjectRef>(&value);
     const auto font = object == nullptr ? nullptr : std::dynamic_pointer_cast<host::Font>(*object);
-    return font == nullptr ? value : ObjectRef(NewOleFont(AttributesOf(*font)));
+    return font == nullptr ? value : ObjectRef(NewOleFont(RecordOf(*font)));
 }
 
 }  // namespace

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "runtime/ole/held_facet.h"
+#include "runtime/ole/facet.h"
 #include "runtime/ole/page_core.h"
 
 namespace lumenkit::ole {

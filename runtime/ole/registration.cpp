@@ -111,7 +111,7 @@ class Steps {
 }  // namespace
 
 void Register(const ClassTable& classes) {
-    const std::wstring path = win32::ToWide(ModulePath());
+    const std::wstring path = OwnPath();
     for (const std::wstring& library : LibraryPaths(classes, path)) {
         RegisterLibrary(library);
     }

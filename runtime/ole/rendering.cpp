@@ -1,24 +1,14 @@
 #include "runtime/ole/rendering.h"
 
 #include <cstring>
-#include <memory>
-#include <new>
+#include <utility>
 
 #include "runtime/ole/result.h"
+#include "runtime/win32/device.h"
 
 namespace lumenkit::ole {
 
 namespace {
-
-struct DeleteDevice {
-    void operator()(HDC device) const { DeleteDC(device); }
-};
-using Device = std::unique_ptr<std::remove_pointer_t<HDC>, DeleteDevice>;
-
-struct DeleteBitmap {
-    void operator()(HBITMAP bitmap) const { DeleteObject(bitmap); }
-};
-using Bitmap = std::unique_ptr<std::remove_pointer_t<HBITMAP>, DeleteBitmap>;
 
 template <typename Handle>
 Handle Made(Handle handle) {
@@ -69,6 +59,12 @@ BITMAPINFOHEADER HeaderFor(const SIZE& size) {
 
 }  // namespace
 
+void CheckAspect(DWORD aspect) {
+    if (aspect != DVASPECT_CONTENT) {
+        throw ComError(DV_E_DVASPECT);
+    }
+}
+
 HGLOBAL RenderMetafilePicture(win32::HostedControl& control, const SIZEL& size) {
     const HDC device = Made(CreateMetaFileW(nullptr));
     SetWindowOrgEx(device, 0, 0, nullptr);
@@ -95,18 +91,17 @@ HENHMETAFILE RenderEnhancedMetafile(win32::HostedControl& control, const SIZEL& 
 
 HGLOBAL RenderBitmap(win32::HostedControl& control, const SIZE& size) {
     const BITMAPINFOHEADER header = HeaderFor(size);
-    const Device device(Made(CreateCompatibleDC(nullptr)));
+    const win32::OwnDevice device(Made(CreateCompatibleDC(nullptr)));
     void* pixels = nullptr;
-    const Bitmap bitmap(
+    const win32::OwnBitmap bitmap(
         Made(CreateDIBSection(device.get(), reinterpret_cast<const BITMAPINFO*>(&header),
                               DIB_RGB_COLORS, &pixels, nullptr, 0)));
-    const HGDIOBJ former = SelectObject(device.get(), bitmap.get());
+    const win32::Selection selection(device.get(), bitmap.get());
     control.DrawOn(device.get(), {0, 0, size.cx, size.cy});
     GdiFlush();
     Memory memory(sizeof header + header.biSizeImage);
     memory.Put(0, &header, sizeof header);
     memory.Put(sizeof header, pixels, header.biSizeImage);
-    SelectObject(device.get(), former);
     return memory.Detach();
 }
 

@@ -6,6 +6,9 @@
 
 namespace lumenkit::ole {
 
+/// A control has one picture, its content. Raises a ComError for any other aspect of it.
+void CheckAspect(DWORD aspect);
+
 /// Returns a metafile packed for the clipboard (METAFILEPICT). `size` is in hundredths of a
 /// millimetre.
 HGLOBAL RenderMetafilePicture(win32::HostedControl& control, const SIZEL& size);

@@ -33,7 +33,7 @@ bool SiteAmbient::UserMode() const {
 host::FontRef SiteAmbient::AmbientFont() const {
     const auto copied = AmbientAs(site_, DISPID_AMBIENT_FONT, [](const Value& value) {
         const host::FontRef font = host::ToFont(value);
-        return font == nullptr ? nullptr : host::FontRef(NewOleFont(AttributesOf(*font)));
+        return font == nullptr ? nullptr : host::FontRef(NewOleFont(RecordOf(*font)));
     });
     return copied && *copied != nullptr ? *copied
                                         : fonts_.NewFont(defaultFontName, defaultFontSize);

@@ -1,10 +1,8 @@
 #include "runtime/ole/slot_call.h"
 
 #include <algorithm>
-#include <bit>
+#include <cstring>
 
-#include "runtime/ole/basic_string.h"
-#include "runtime/ole/object_reference.h"
 #include "runtime/ole/result.h"
 #include "runtime/ole/variant.h"
 
@@ -25,46 +23,6 @@ T& At(std::uintptr_t word) {
     return Checked(reinterpret_cast<T*>(word));
 }
 
-// The upper halves of the words are undefined.
-Value ByValue(std::uintptr_t word, ValueType type) {
-    switch (type) {
-        case ValueType::Integer:
-            return static_cast<std::int16_t>(word);
-        case ValueType::Boolean:
-            return static_cast<std::int16_t>(word) != 0;
-        case ValueType::Single:
-            return std::bit_cast<float>(static_cast<std::uint32_t>(word));
-        case ValueType::String:
-            return Text(TextOf(reinterpret_cast<BSTR>(word)));
-        case ValueType::Font:
-            return Convert(ObjectOf(reinterpret_cast<IUnknown*>(word)), type);
-        case ValueType::None:
-        case ValueType::Variant:
-            throw ComError(E_NOTIMPL);
-        case ValueType::Long:
-        case ValueType::Color:
-        case ValueType::MousePointer:
-        case ValueType::ScrollBars:
-            break;
-    }
-    return static_cast<std::int32_t>(word);
-}
-
-Value ByReference(std::uintptr_t word, ValueType type) {
-    switch (type) {
-        case ValueType::Integer:
-        case ValueType::Boolean:
-            return ByValue(static_cast<std::uint16_t>(At<SHORT>(word)), type);
-        case ValueType::String:
-        case ValueType::Font:
-            return ByValue(At<std::uintptr_t>(word), type);
-        case ValueType::Variant:
-            return FromVariant(At<VARIANT>(word));
-        default:
-            return ByValue(static_cast<std::uint32_t>(At<LONG>(word)), type);
-    }
-}
-
 // Returns a VARIANT that refers to the target of a parameter by reference.
 VARIANT ReferenceTo(std::uintptr_t word, ValueType type) {
     VARIANT reference;
@@ -74,50 +32,62 @@ VARIANT ReferenceTo(std::uintptr_t word, ValueType type) {
     return reference;
 }
 
-// Initialises the caller's result, so that it can be released even if the call fails.
-void ClearResult(std::uintptr_t word, ValueType type) {
-    switch (type) {
-        case ValueType::Integer:
-        case ValueType::Boolean:
-            At<SHORT>(word) = 0;
-            break;
-        case ValueType::String:
-        case ValueType::Font:
-            At<void*>(word) = nullptr;
-            break;
-        case ValueType::Variant:
-            VariantInit(&At<VARIANT>(word));
-            break;
+// Returns a VARIANT with the bits of a word, whose upper part may be undefined. The caller owns the
+// text or object in it.
+VARIANT Borrowed(std::uintptr_t word, ValueType type) {
+    VARIANT borrowed;
+    VariantInit(&borrowed);
+    borrowed.vt = VarTypeOf(type);
+    V_BYREF(&borrowed) = reinterpret_cast<void*>(word);
+    return borrowed;
+}
+
+Value ByValue(std::uintptr_t word, ValueType type) {
+    if (type == ValueType::Variant || type == ValueType::None) {
+        throw ComError(E_NOTIMPL);
+    }
+    const Value value = FromVariant(Borrowed(word, type));
+    return type == ValueType::Font ? Convert(value, type) : value;
+}
+
+Value ByReference(std::uintptr_t word, ValueType type) {
+    const Value value = FromVariant(ReferenceTo(word, type));
+    return type == ValueType::Font ? Convert(value, type) : value;
+}
+
+// Returns the number of bytes of a result that is not a VARIANT.
+std::size_t ResultSize(ValueType type) {
+    switch (VarTypeOf(type)) {
+        case VT_I2:
+        case VT_BOOL:
+            return sizeof(SHORT);
+        case VT_BSTR:
+        case VT_DISPATCH:
+            return sizeof(void*);
         default:
-            At<LONG>(word) = 0;
-            break;
+            return sizeof(LONG);
     }
 }
 
-void WriteResult(const Value& value, std::uintptr_t word, ValueType type) {
-    switch (type) {
-        case ValueType::Integer:
-            At<SHORT>(word) = ToInteger(value);
-            break;
-        case ValueType::Boolean:
-            At<VARIANT_BOOL>(word) = ToBoolean(value) ? VARIANT_TRUE : VARIANT_FALSE;
-            break;
-        case ValueType::Single:
-            At<float>(word) = ToSingle(value);
-            break;
-        case ValueType::String:
-            At<BSTR>(word) = BasicString(ToText(value)).Detach();
-            break;
-        case ValueType::Font:
-            At<IDispatch*>(word) = DispatchOf(ToObject(value)).Detach();
-            break;
-        case ValueType::Variant:
-            ToVariant(value, At<VARIANT>(word));
-            break;
-        default:
-            At<LONG>(word) = ToLong(value);
-            break;
+// Initialises the caller's result, so that it can be released even if the call fails.
+void ClearResult(std::uintptr_t word, ValueType type) {
+    if (type == ValueType::Variant) {
+        VariantInit(&At<VARIANT>(word));
+    } else {
+        std::memset(&At<char>(word), 0, ResultSize(type));
     }
+}
+
+// The caller owns the text or object in the result.
+void WriteResult(const Value& value, std::uintptr_t word, ValueType type) {
+    if (type == ValueType::Variant) {
+        ToVariant(value, At<VARIANT>(word));
+        return;
+    }
+    char& place = At<char>(word);
+    VARIANT result;
+    ToVariant(Convert(value, type), result);
+    std::memcpy(&place, &V_I8(&result), ResultSize(type));
 }
 
 Value Argument(const Parameter& parameter, std::uintptr_t word) {

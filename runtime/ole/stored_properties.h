@@ -3,7 +3,7 @@
 #include <utility>
 
 #include "frame/host/property_bag.h"
-#include "runtime/ole/stored/setting.h"
+#include "runtime/ole/stored/record.h"
 
 namespace lumenkit::ole {
 
@@ -13,16 +13,16 @@ namespace lumenkit::ole {
 class StoredProperties final : public host::PropertyBag {
  public:
     StoredProperties() = default;
-    explicit StoredProperties(stored::Settings settings) : settings_(std::move(settings)) {}
+    explicit StoredProperties(stored::Records records) : records_(std::move(records)) {}
 
     Value ReadProperty(TextView name, const Value& defaultValue) override;
     /// Raises 13 for an object that is not a font, and for Null and Missing.
     void WriteProperty(TextView name, const Value& value, const Value& defaultValue) override;
 
-    const stored::Settings& Settings() const { return settings_; }
+    const stored::Records& GetRecords() const { return records_; }
 
  private:
-    stored::Settings settings_;
+    stored::Records records_;
 };
 
 }  // namespace lumenkit::ole

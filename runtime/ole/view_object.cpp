@@ -1,16 +1,11 @@
 #include "runtime/ole/view_object.h"
 
+#include "runtime/ole/rendering.h"
 #include "runtime/ole/result.h"
 
 namespace lumenkit::ole {
 
 namespace {
-
-void CheckAspect(DWORD aspect) {
-    if (aspect != DVASPECT_CONTENT) {
-        throw ComError(DV_E_DVASPECT);
-    }
-}
 
 // Only the whole control can be drawn.
 void CheckIndex(LONG index) {

@@ -1,4 +1,4 @@
-#include "tests/unit/stored/stream_check.h"
+#include "tests/unit/ole/stored/stream_check.h"
 
 #include <exception>
 #include <memory>
@@ -21,7 +21,7 @@ struct ToValue {
     const memory::Form& form;
 
     Value operator()(std::monostate /*nothing*/) const { return Empty(); }
-    Value operator()(const stored::FontAttributes& font) const {
+    Value operator()(const stored::FontRecord& font) const {
         constexpr double unitsPerPoint = 10000;
         try {
             return form.NewFont(font.name,
@@ -36,11 +36,11 @@ struct ToValue {
     }
 };
 
-void StartAndSave(TextView className, const stored::Settings& settings) {
+void StartAndSave(TextView className, const stored::Records& records) {
     memory::Form form(lumenkitClasses);
     memory::PropertyBag bag;
-    for (const stored::Setting& setting : settings) {
-        bag.Store(setting.name, std::visit(ToValue{form}, setting.value));
+    for (const stored::Record& record : records) {
+        bag.Store(record.name, std::visit(ToValue{form}, record.value));
     }
     const auto control = memory::PlaceControl(form, className, {}, &bag);
     control->Paint();
@@ -51,13 +51,13 @@ void StartAndSave(TextView className, const stored::Settings& settings) {
 
 std::string StreamFault(const std::vector<std::uint8_t>& stream) {
     try {
-        const stored::Settings settings = stored::Decode(stream);
-        const std::vector<std::uint8_t> written = stored::Encode(settings);
+        const stored::Records records = stored::Decode(stream);
+        const std::vector<std::uint8_t> written = stored::Encode(records);
         if (stored::Encode(stored::Decode(written)) != written) {
             return "what was read is not read back";
         }
         for (const TextView className : {u"VLabel", u"VMemo", u"VOptList"}) {
-            StartAndSave(className, settings);
+            StartAndSave(className, records);
         }
     } catch (const stored::Corrupt&) {
         return {};

@@ -10,7 +10,7 @@
 namespace lumenkit::stored {
 
 /// All attributes of a font.
-struct FontAttributes {
+struct FontRecord {
     static constexpr std::int16_t regularWeight = 400;
 
     Text name;
@@ -21,18 +21,19 @@ struct FontAttributes {
     bool underline = false;
     bool strikethrough = false;
 
-    friend bool operator==(const FontAttributes&, const FontAttributes&) = default;
+    friend bool operator==(const FontRecord&, const FontRecord&) = default;
 };
 
-struct Setting {
+/// One setting.
+struct Record {
     /// std::monostate represents a null object.
     using Value = std::variant<std::monostate, bool, std::int16_t, std::int32_t, float, double,
-                               Text, FontAttributes>;
+                               Text, FontRecord>;
 
     Text name;
     Value value;
 };
 
-using Settings = std::vector<Setting>;
+using Records = std::vector<Record>;
 
 }  // namespace lumenkit::stored

@@ -10,14 +10,14 @@
 #include "tests/support/sealed_stream.h"
 #include "tests/support/test_rounds.h"
 #include "tests/support/test_seed.h"
-#include "tests/unit/stored/stream_check.h"
+#include "tests/unit/ole/stored/stream_check.h"
 
 namespace lumenkit::stored {
 namespace {
 
 using Bytes = std::vector<std::uint8_t>;
 
-Settings OneOfEachKind() {
+Records OneOfEachKind() {
     return {
         {u"Nothing", std::monostate()},
         {u"Yes", true},
@@ -28,18 +28,18 @@ Settings OneOfEachKind() {
         {u"Double", -1e300},
         {u"Text", Text(u"caf\u00E9\0\r\n\U0001F600", 9)},
         {u"", Text()},
-        {u"Font", FontAttributes{.name = u"Arial",
-                                 .size = 82500,
-                                 .weight = 700,
-                                 .charset = 204,
-                                 .italic = true,
-                                 .underline = false,
-                                 .strikethrough = true}},
+        {u"Font", FontRecord{.name = u"Arial",
+                             .size = 82500,
+                             .weight = 700,
+                             .charset = 204,
+                             .italic = true,
+                             .underline = false,
+                             .strikethrough = true}},
     };
 }
 
-bool Same(const Settings& left, const Settings& right) {
-    return std::ranges::equal(left, right, [](const Setting& one, const Setting& other) {
+bool Same(const Records& left, const Records& right) {
+    return std::ranges::equal(left, right, [](const Record& one, const Record& other) {
         return one.name == other.name && one.value == other.value;
     });
 }
@@ -62,13 +62,13 @@ TEST(StreamFormat, IsLaidOutAsDescribed) {
 }
 
 TEST(StreamFormat, FontsAreLaidOutAsDescribed) {
-    const FontAttributes font = {.name = u"F",
-                                 .size = 0x0102030405060708,
-                                 .weight = 400,
-                                 .charset = -1,
-                                 .italic = true,
-                                 .underline = true,
-                                 .strikethrough = false};
+    const FontRecord font = {.name = u"F",
+                             .size = 0x0102030405060708,
+                             .weight = 400,
+                             .charset = -1,
+                             .italic = true,
+                             .underline = true,
+                             .strikethrough = false};
     const Bytes expected = {
         'L', 'K', 'P', 'B', 1, 0, 1, 0, 26, 0, 0, 0, 1,    0, 0,    0,    'x', 0, 7, 1, 0,
         0,   0,   'F', 0,   8, 7, 6, 5, 4,  3, 2, 1, 0x90, 1, 0xFF, 0xFF, 3,   0, 0, 0, 0,
