@@ -1,8 +1,8 @@
 #include "runtime/ole/class_factory.h"
 
-#include "runtime/ole/control_object.h"
-#include "runtime/ole/page_object.h"
-#include "runtime/ole/result.h"
+#include "runtime/ole/control/control_object.h"
+#include "runtime/ole/page/page_object.h"
+#include "runtime/ole/values/result.h"
 
 namespace lumenkit::ole {
 

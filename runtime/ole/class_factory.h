@@ -1,7 +1,7 @@
 #pragma once
 
-#include "runtime/ole/component.h"
-#include "runtime/ole/counted.h"
+#include "runtime/ole/objects/component.h"
+#include "runtime/ole/values/counted.h"
 
 namespace lumenkit::ole {
 

@@ -1,9 +1,9 @@
 #include "runtime/ole/entries.h"
 
 #include "runtime/ole/class_factory.h"
-#include "runtime/ole/identifiers.h"
-#include "runtime/ole/registration.h"
-#include "runtime/ole/result.h"
+#include "runtime/ole/module/identifiers.h"
+#include "runtime/ole/module/registration.h"
+#include "runtime/ole/values/result.h"
 #include "runtime/win32/window.h"
 
 namespace lumenkit::ole {
