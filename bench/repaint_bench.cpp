@@ -216,7 +216,7 @@ struct Stage {
         : height((runs + runsOfALine - 1) / runsOfALine * lineHeight),
           control(form, *lumenkitClasses.Find(u"lumenkit.VLabel"), {width, height}),
           calls(Draw(runs)) {
-        const std::vector<std::uint32_t> label = PixelsOf(control.Hosted().Window());
+        const std::vector<std::uint32_t> label = PixelsOf(control.Hosted().Handle());
         Require(Ink(label) > 0, "the label shows nothing");
         Require(PixelsOf(byHeart.Handle()) == label, "the replay shows something else");
         constexpr double noticeable = 0.1;
@@ -232,7 +232,7 @@ struct Stage {
         Object& label = control.Hosted().Automation();
         label.Set(u"Font", ObjectRef(form.Fonts().NewFont(u"Arial", 9)));
         label.Let(u"Caption", CaptionOf(runs));
-        static_cast<win32::Surface&>(control.Hosted().Drawing()).DrawOn(recorder);
+        control.Hosted().Drawing().DrawOn(recorder);
         return recorder.calls;
     }
 
@@ -254,7 +254,7 @@ Side Repainting(std::shared_ptr<Stage> stage, HWND window) {
 
 void Compare(int runs, const std::string& name) {
     const auto stage = std::make_shared<Stage>(runs);
-    const HWND label = stage->control.Hosted().Window();
+    const HWND label = stage->control.Hosted().Handle();
     AddComparison({.what = "Wine: repaint " + name + ", against replaying the calls",
                    .unit = "repaint",
                    .ours = Repainting(stage, label),

@@ -87,7 +87,7 @@ class Desk {
         memo.Let(u"MaxCharsPerLine", std::int16_t{100});
         memo.Let(u"MaxLines", std::int16_t{32'000});
         memo.Let(u"Text", text);
-        memoEdit_ = ShownEdit(memo_.Hosted().Window());
+        memoEdit_ = ShownEdit(memo_.Hosted().Handle());
         bareEdit_ = NewBareEdit(form_.Window(), memoEdit_);
         for (const HWND edit : {memoEdit_, bareEdit_}) {
             SetFocus(edit);

@@ -73,7 +73,7 @@ Side Making(WindowsForm& form, int items, Until until) {
             list.Hosted().StartSaved(*saved);
         } else {
             list.Start(saved.get());
-            ShowNow(list.Hosted().Window());
+            ShowNow(list.Hosted().Handle());
         }
     });
 }
@@ -166,7 +166,7 @@ ListPlan PlanOfItems(WindowsForm& form, int items) {
     memory::PropertyBag saved;
     saved.Store(u"Contents", Contents(items));
     list.Start(&saved);
-    ListPlan plan = PlanOfList(GetWindow(list.Hosted().Window(), GW_CHILD));
+    ListPlan plan = PlanOfList(GetWindow(list.Hosted().Handle(), GW_CHILD));
     Require(plan.buttons.size() == static_cast<std::size_t>(items) &&
                 plan.buttons.back().text == win32::ToWide(Caption(items - 1)),
             "the list has other items");

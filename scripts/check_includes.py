@@ -25,7 +25,16 @@ ALLOWED = {
     "runtime/win32": ["frame", "runtime/shared"],
     "runtime/qt": ["frame", "runtime/shared"],
     "runtime/ole/stored": ["frame"],
-    "runtime/ole": ["frame", "runtime/ole/stored", "runtime/win32"],
+    # The layers of the component runtime, from the lowest.
+    "runtime/ole/values": ["frame", "runtime/ole/stored", "runtime/win32"],
+    "runtime/ole/module": ["frame", "runtime/ole/values", "runtime/win32"],
+    "runtime/ole/objects": ["frame", "runtime/ole/values", "runtime/ole/module", "runtime/win32"],
+    "runtime/ole/control": [
+        "frame", "runtime/ole/stored", "runtime/ole/values", "runtime/ole/module", "runtime/ole/objects", "runtime/win32"],
+    "runtime/ole/page": ["frame", "runtime/ole/values", "runtime/ole/module", "runtime/ole/objects", "runtime/win32"],
+    "runtime/ole": [
+        "frame", "runtime/ole/values", "runtime/ole/module", "runtime/ole/objects", "runtime/ole/control",
+        "runtime/ole/page", "runtime/win32"],
     # The only folder that lists all classes.
     "project": ["frame", "vlabel", "vmemo", "voptlist", "vlabelcaption"],
     # The exports of the server, which pass the class table to the runtime.
@@ -38,7 +47,8 @@ ALLOWED = {
     "samples": None,
 }
 # Folders that may use the headers of a platform or of another library.
-OTHER_LIBRARIES = ["runtime/win32", "runtime/qt", "runtime/ole", "server", "apps", "tests", "bench", "fuzz", "samples"]
+COM_FOLDERS = [folder for folder in ALLOWED if folder.startswith("runtime/ole") and folder != "runtime/ole/stored"]
+OTHER_LIBRARIES = ["runtime/win32", "runtime/qt", *COM_FOLDERS, "server", "apps", "tests", "bench", "fuzz", "samples"]
 # Files in other folders that call the system or use processor instructions, with their headers.
 SYSTEM_HEADERS = {
     # The standard library cannot flush a file to the disk.
@@ -48,7 +58,7 @@ SYSTEM_HEADERS = {
     "vmemo/line_break_scanner.cpp": {"emmintrin.h"},
 }
 WINDOWS_HEADERS = re.compile(r"^(windows|windowsx|ole\w*|objbase|commctrl|wingdi|winuser|unknwn)\.h$", re.I)
-WINDOWS_FOLDERS = ["runtime/win32", "runtime/ole", "server", "tests", "bench", "samples"]
+WINDOWS_FOLDERS = ["runtime/win32", *COM_FOLDERS, "server", "tests", "bench", "samples"]
 
 INCLUDE = re.compile(r'^\s*#\s*include\s*(["<])([^">]+)[">]', re.M)
 SOURCE_SUFFIXES = {".h", ".cpp", ".inc", ".rc"}

@@ -1,30 +1,10 @@
 #include "runtime/ole/class_factory.h"
 
-#include "runtime/ole/control_object.h"
-#include "runtime/ole/page_object.h"
-#include "runtime/ole/result.h"
+#include "runtime/ole/control/control_object.h"
+#include "runtime/ole/page/page_object.h"
+#include "runtime/ole/values/result.h"
 
 namespace lumenkit::ole {
-
-HRESULT ClassFactory::QueryInterface(REFIID interfaceId, void** object) {
-    if (object == nullptr) {
-        return E_POINTER;
-    }
-    *object = interfaceId == IID_IUnknown || interfaceId == IID_IClassFactory ? this : nullptr;
-    if (*object == nullptr) {
-        return E_NOINTERFACE;
-    }
-    AddRef();
-    return S_OK;
-}
-
-ULONG ClassFactory::Release() {
-    const ULONG left = --references_;
-    if (left == 0) {
-        delete this;
-    }
-    return left;
-}
 
 HRESULT ClassFactory::CreateInstance(IUnknown* outer, REFIID interfaceId, void** object) {
     return Guarded([&] {

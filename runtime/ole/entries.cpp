@@ -1,10 +1,9 @@
 #include "runtime/ole/entries.h"
 
 #include "runtime/ole/class_factory.h"
-#include "runtime/ole/identifiers.h"
-#include "runtime/ole/live_objects.h"
-#include "runtime/ole/registration.h"
-#include "runtime/ole/result.h"
+#include "runtime/ole/module/identifiers.h"
+#include "runtime/ole/module/registration.h"
+#include "runtime/ole/values/result.h"
 #include "runtime/win32/window.h"
 
 namespace lumenkit::ole {
@@ -45,10 +44,6 @@ BOOL UserDllMain(const ClassTable& /*classes*/, HINSTANCE module, DWORD reason,
         win32::RemoveWindowClass(module);
     }
     return TRUE;
-}
-
-int LiveObjects(const ClassTable& classes) {
-    return Component::Of(classes).LiveObjects();
 }
 
 }  // namespace lumenkit::ole

@@ -5,7 +5,7 @@
 #pragma once
 
 #include "frame/class_table.h"
-#include "runtime/ole/ole_header.h"
+#include "runtime/ole/values/ole_header.h"
 
 namespace lumenkit::ole {
 

@@ -1,13 +1,9 @@
 #include "runtime/win32/application.h"
 
-#include <string>
-
 #include "frame/runtime_error.h"
 #include "runtime/win32/wide_text.h"
 
 namespace lumenkit::win32 {
-
-namespace {
 
 // A path may be longer than MAX_PATH.
 std::wstring PathOf(HINSTANCE module) {
@@ -26,8 +22,6 @@ std::wstring PathOf(HINSTANCE module) {
         path.resize(path.size() * 2);
     }
 }
-
-}  // namespace
 
 Text Application::ExeName() {
     const std::wstring path = PathOf(module_);

@@ -39,29 +39,26 @@ class BasicTextConstituent : public BasicConstituent<Interface>, private FontLis
         const std::shared_ptr<Font> former = font_.Get();  // keeps the handle
         font_.Assign(font);
         if (FontHandle() != before) {
-            FontChanged();
+            ShowFont();
         }
     }
 
  protected:
-    BasicTextConstituent(const Owner& owner, const Element::Kind& kind, const host::Design& design,
-                         TextView text)
-        : BasicConstituent<Interface>(owner, kind, design, text),
-          font_(*this, owner.context.fonts.NewFont(design.fontName, design.fontSize)) {
-        UseFont(false);
+    BasicTextConstituent(const Elements& elements, const Element::Kind& kind,
+                         const host::Design& design, TextView text)
+        : BasicConstituent<Interface>(elements, kind, design, text),
+          font_(*this, elements.context.fonts.NewFont(design.fontName, design.fontSize)) {
+        UseFont(FALSE);
     }
 
     HFONT FontHandle() const { return font_.Get()->Handle(); }
-    /// Called when the constituent draws with another font.
-    virtual void ShowFont() {}
+    /// Brings a changed font to the window.
+    virtual void ShowFont() { UseFont(TRUE); }
 
  private:
-    void FontChanged() override {
-        UseFont(true);
-        ShowFont();
-    }
-    void UseFont(bool repaint) {
-        this->Ask(WM_SETFONT, reinterpret_cast<WPARAM>(FontHandle()), repaint ? TRUE : FALSE);
+    void FontChanged() override { ShowFont(); }
+    void UseFont(BOOL repaint) {
+        this->Ask(WM_SETFONT, reinterpret_cast<WPARAM>(FontHandle()), repaint);
     }
 
     HeldFont font_;
@@ -76,16 +73,16 @@ class BasicCaptioned : public BasicTextConstituent<Interface> {
             return;
         }
         caption_ = caption;
-        SetWindowTextW(this->Handle(), ToWide(caption).c_str());
         ShowCaption();
     }
 
  protected:
-    BasicCaptioned(const Owner& owner, const Element::Kind& kind, const host::Design& design,
+    BasicCaptioned(const Elements& elements, const Element::Kind& kind, const host::Design& design,
                    TextView caption)
-        : BasicTextConstituent<Interface>(owner, kind, design, caption), caption_(caption) {}
+        : BasicTextConstituent<Interface>(elements, kind, design, caption), caption_(caption) {}
 
-    virtual void ShowCaption() {}
+    /// Brings a changed caption to the window.
+    virtual void ShowCaption() { SetWindowTextW(this->Handle(), ToWide(caption_).c_str()); }
     const Text& CaptionNow() const { return caption_; }
 
  private:

@@ -4,8 +4,9 @@
 
 namespace lumenkit::win32 {
 
-CheckBox::CheckBox(const Owner& owner, const host::CaptionDesign& design, host::ClickEvents& events)
-    : BasicCaptioned(owner, {.className = L"BUTTON", .style = BS_3STATE | WS_TABSTOP}, design,
+CheckBox::CheckBox(const Elements& elements, const host::CaptionDesign& design,
+                   host::ClickEvents& events)
+    : BasicCaptioned(elements, {.className = L"BUTTON", .style = BS_3STATE | WS_TABSTOP}, design,
                      design.caption),
       events_(events) {}
 

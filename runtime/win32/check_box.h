@@ -12,7 +12,8 @@ namespace lumenkit::win32 {
 /// clears a checked or greyed one.
 class CheckBox final : public BasicCaptioned<host::CheckBox> {
  public:
-    CheckBox(const Owner& owner, const host::CaptionDesign& design, host::ClickEvents& events);
+    CheckBox(const Elements& elements, const host::CaptionDesign& design,
+             host::ClickEvents& events);
 
     std::int16_t CheckState() const override { return state_; }
     void SetCheckState(std::int16_t state) override;

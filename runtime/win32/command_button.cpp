@@ -2,10 +2,10 @@
 
 namespace lumenkit::win32 {
 
-CommandButton::CommandButton(const Owner& owner, const host::CaptionDesign& design,
+CommandButton::CommandButton(const Elements& elements, const host::CaptionDesign& design,
                              host::ClickEvents& events)
-    : BasicCaptioned(owner, {.className = L"BUTTON", .style = BS_PUSHBUTTON | WS_TABSTOP}, design,
-                     design.caption),
+    : BasicCaptioned(elements, {.className = L"BUTTON", .style = BS_PUSHBUTTON | WS_TABSTOP},
+                     design, design.caption),
       events_(events) {}
 
 LRESULT CommandButton::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) {

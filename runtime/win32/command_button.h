@@ -10,7 +10,8 @@ namespace lumenkit::win32 {
 /// A command button that is pressed by the space bar and by Return.
 class CommandButton final : public BasicCaptioned<host::CommandButton> {
  public:
-    CommandButton(const Owner& owner, const host::CaptionDesign& design, host::ClickEvents& events);
+    CommandButton(const Elements& elements, const host::CaptionDesign& design,
+                  host::ClickEvents& events);
 
  protected:
     LRESULT HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) override;

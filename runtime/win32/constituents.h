@@ -1,20 +1,25 @@
 #pragma once
 
+#include <memory>
+
+#include "frame/class_table.h"
 #include "frame/host/constituents.h"
-#include "runtime/win32/context.h"
-#include "runtime/win32/windows_header.h"
+#include "runtime/win32/elements.h"
 
 namespace lumenkit::win32 {
 
-class Window;
+/// Creates a new control of the class `type` on a control or page.
+using EmbedFunction = std::unique_ptr<host::EmbeddedControl> (*)(const Elements& elements,
+                                                                 const host::Design& design,
+                                                                 const ClassDescriptor& type);
 
 /// Creates the constituents of one control or page as native windows inside its window.
 class Constituents final : public host::Constituents {
  public:
-    /// `owner` is the window of the control or page. It exists already and outlives the
-    /// constituents and this object. `userMode` is reported to embedded controls.
-    Constituents(const Context& context, Window& owner, bool userMode)
-        : context_(context), owner_(owner), userMode_(userMode) {}
+    /// The window of the control or page exists already. It and this object must outlive the
+    /// constituents. `embed` creates the constituents that are controls themselves.
+    Constituents(const Elements& elements, EmbedFunction embed)
+        : elements_(elements), embed_(embed) {}
 
     std::unique_ptr<host::TextBox> AddTextBox(const host::TextBoxDesign& design,
                                               host::TextBoxEvents& events) override;
@@ -35,9 +40,8 @@ class Constituents final : public host::Constituents {
                                                       TextView programmaticIdentifier) override;
 
  private:
-    const Context& context_;
-    Window& owner_;
-    bool userMode_;
+    Elements elements_;
+    EmbedFunction embed_;
 };
 
 }  // namespace lumenkit::win32

@@ -10,9 +10,6 @@ namespace lumenkit::win32 {
 
 namespace {
 
-// The platform draws no longer text. A text of this length is wider than any window.
-constexpr std::size_t longestAtOnce = 8192;
-
 int Scale(int pixel, LONG start, LONG end, LONG size) {
     if (size == 0 || end - start == size) {
         return static_cast<int>(start) + pixel;

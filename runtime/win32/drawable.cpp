@@ -1,6 +1,6 @@
 #include "runtime/win32/drawable.h"
 
-#include "runtime/win32/memory_device.h"
+#include "runtime/win32/device.h"
 #include "runtime/win32/window.h"
 
 namespace lumenkit::win32 {
@@ -24,7 +24,7 @@ void DrawChild(HWND parent, HWND child, HDC device) {
     const SIZE size = {place.right - place.left, place.bottom - place.top};
     const MemoryDevice own(device, size);
     BitBlt(own.Handle(), 0, 0, size.cx, size.cy, device, place.left, place.top, SRCCOPY);
-    drawable->DrawTo(own.Handle());
+    drawable->DrawOn(own.Handle());
     BitBlt(device, place.left, place.top, size.cx, size.cy, own.Handle(), 0, 0, SRCCOPY);
 }
 

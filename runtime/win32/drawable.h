@@ -12,7 +12,7 @@ class Drawable {
     /// Draws the window with its border and its children. The logical units of the device are the
     /// window's pixels; the origin is the window's upper left corner, border included. Restores the
     /// settings of the device. The caller is responsible for clipping.
-    virtual void DrawTo(HDC device) = 0;
+    virtual void DrawOn(HDC device) = 0;
 };
 
 /// Draws the child windows of `parent` that are Drawable and not hidden themselves, from back to

@@ -24,9 +24,9 @@ void DrawBorder(HWND window, HDC device) {
 
 }  // namespace
 
-HWND ParentWindow(const Owner& owner, const host::Design& design) {
+HWND ParentWindow(const Elements& elements, const host::Design& design) {
     if (design.parent == nullptr) {
-        return owner.window.Handle();
+        return elements.window.Handle();
     }
     const auto* const parent = dynamic_cast<const Element*>(design.parent);
     if (parent == nullptr) {
@@ -35,22 +35,23 @@ HWND ParentWindow(const Owner& owner, const host::Design& design) {
     return parent->Handle();
 }
 
-Element::Element(const Owner& owner, const Kind& kind, const host::Design& design, TextView text)
+Element::Element(const Elements& elements, const Kind& kind, const host::Design& design,
+                 TextView text)
     : name_(design.name),
       index_(design.index),
       placement_(design.placement),
       visible_(design.visible),
-      owner_(owner.window.Handle()),
-      resolution_(owner.resolution) {
+      owner_(elements.window.Handle()),
+      resolution_(elements.resolution) {
     RequireSize(placement_.width, placement_.height);
     const DWORD visible = visible_ ? WS_VISIBLE : 0;
-    Create({.module = owner.context.module,
+    Create({.module = elements.context.module,
             .className = kind.className,
             .text = text,
             .style = WS_CHILD | WS_CLIPSIBLINGS | visible | kind.style,
             .extendedStyle = kind.extendedStyle,
             .place = ToPixels(placement_, resolution_),
-            .parent = ParentWindow(owner, design)});
+            .parent = ParentWindow(elements, design)});
 }
 
 Element::~Element() {
@@ -144,7 +145,7 @@ LRESULT Element::AnswerColors(WPARAM device, Color text, Color background) {
     return reinterpret_cast<LRESULT>(GetStockObject(DC_BRUSH));
 }
 
-void Element::DrawTo(HDC device) {
+void Element::DrawOn(HDC device) {
     const int state = SaveDC(device);
     DrawBorder(Handle(), device);
     RECT inside = {};

@@ -5,28 +5,17 @@
 #include "frame/color.h"
 #include "frame/host/constituent.h"
 #include "frame/text.h"
-#include "runtime/win32/context.h"
 #include "runtime/win32/drawable.h"
+#include "runtime/win32/elements.h"
 #include "runtime/win32/pixels.h"
 #include "runtime/win32/window.h"
 #include "runtime/win32/windows_header.h"
 
 namespace lumenkit::win32 {
 
-/// Sent to the window of the control or page when the keyboard focus enters one of its constituents
-/// (wParam 1) or leaves it (wParam 0). The result is ignored.
-inline constexpr UINT constituentFocusMessage = WM_APP + 1;
-
-/// The owner of a constituent: the component, and the window of the control or page.
-struct Owner {
-    const Context& context;
-    Window& window;
-    Resolution resolution = Resolution::OfScreen();
-};
-
 /// Returns the parent window for a constituent of this design. Throws std::logic_error for a parent
 /// of another runtime.
-HWND ParentWindow(const Owner& owner, const host::Design& design);
+HWND ParentWindow(const Elements& elements, const host::Design& design);
 
 /// The window of a constituent, and the state that the runtime keeps for every kind. The placement
 /// is kept in twips as it was set, although windows have whole pixels.
@@ -42,7 +31,7 @@ class Element : public Window, public Drawable {
     bool IsEnabled() const { return enabled_; }    ///< regardless of its parents
 
     /// Draws the border, lets the window class draw the client area, and draws the children in it.
-    void DrawTo(HDC device) override;
+    void DrawOn(HDC device) override;
 
  protected:
     /// The window of a kind of constituent; see WindowDesign. It is a child window and visible if
@@ -54,7 +43,8 @@ class Element : public Window, public Drawable {
     };
     /// Throws std::logic_error for a parent of another runtime. Raises 7 if the platform cannot
     /// create more windows.
-    Element(const Owner& owner, const Kind& kind, const host::Design& design, TextView text = {});
+    Element(const Elements& elements, const Kind& kind, const host::Design& design,
+            TextView text = {});
 
     const host::Placement& Where() const { return placement_; }
     /// Raises 380 for a negative width or height.

@@ -1,22 +1,31 @@
 #include "runtime/win32/embedded_control.h"
 
 #include "frame/host/accepted_values.h"
+#include "runtime/win32/element.h"
 
 namespace lumenkit::win32 {
 
-EmbeddedControl::EmbeddedControl(const Owner& owner, const host::Design& design,
-                                 const ClassDescriptor& type, bool userMode)
-    : owner_(owner.window.Handle()),
-      parent_(ParentWindow(owner, design)),
-      resolution_(owner.resolution),
+std::unique_ptr<host::EmbeddedControl> EmbedControl(const Elements& elements,
+                                                    const host::Design& design,
+                                                    const ClassDescriptor& type) {
+    return std::make_unique<EmbeddedControl>(elements, design, type);
+}
+
+EmbeddedControl::EmbeddedControl(const Elements& elements, const host::Design& design,
+                                 const ClassDescriptor& type)
+    : owner_(elements.window.Handle()),
+      parent_(ParentWindow(elements, design)),
+      resolution_(elements.resolution),
       placement_(design.placement),
       visible_(design.visible),
-      ambient_(owner.context.fonts, userMode),
+      ambient_([&fonts = elements.context.fonts](
+                   TextView name, float points) { return fonts.NewFont(name, points); },
+               elements.userMode),
       extender_(*this, design.name) {
     RequireSize(placement_.width, placement_.height);
     ControlSite& site = *this;
-    control_.emplace(owner.context, type, site, SizeOf(ToPixels(placement_, resolution_)),
-                     owner.window.GetLife());
+    control_.emplace(elements.context, type, site, SizeOf(ToPixels(placement_, resolution_)),
+                     elements.window.GetLife());
     PlaceWindow();  // the control may have requested another size
     control_->StartNew();
     if (visible_) {
@@ -27,7 +36,7 @@ EmbeddedControl::EmbeddedControl(const Owner& owner, const host::Design& design,
 // Puts the window behind its existing siblings.
 void EmbeddedControl::Attach() {
     control_->Attach(parent_, ToPixels(placement_, resolution_));
-    SetWindowPos(control_->Window(), HWND_BOTTOM, 0, 0, 0, 0,
+    SetWindowPos(control_->Handle(), HWND_BOTTOM, 0, 0, 0, 0,
                  SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE | SWP_NOOWNERZORDER);
 }
 
@@ -64,12 +73,12 @@ void EmbeddedControl::SetVisible(bool visible) {
 
 void EmbeddedControl::SetEnabled(bool enabled) {
     enabled_ = enabled;
-    EnableWindow(control_->Window(), enabled ? TRUE : FALSE);
+    EnableWindow(control_->Handle(), enabled ? TRUE : FALSE);
 }
 
 void EmbeddedControl::Refresh() {
-    if (control_->Window() != nullptr) {
-        RedrawWindow(control_->Window(), nullptr, nullptr,
+    if (control_->Handle() != nullptr) {
+        RedrawWindow(control_->Handle(), nullptr, nullptr,
                      RDW_INVALIDATE | RDW_ERASE | RDW_FRAME | RDW_ALLCHILDREN | RDW_UPDATENOW);
     }
 }

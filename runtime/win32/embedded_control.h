@@ -4,8 +4,9 @@
 
 #include "frame/class_table.h"
 #include "frame/host/simple_constituents.h"
-#include "runtime/win32/element.h"
-#include "runtime/win32/embedded_site.h"
+#include "runtime/shared/embedded_site.h"
+#include "runtime/win32/control_site.h"
+#include "runtime/win32/elements.h"
 #include "runtime/win32/hosted_control.h"
 
 namespace lumenkit::win32 {
@@ -14,8 +15,8 @@ namespace lumenkit::win32 {
 /// ignores its notifications.
 class EmbeddedControl final : public host::EmbeddedControl, private ControlSite {
  public:
-    EmbeddedControl(const Owner& owner, const host::Design& design, const ClassDescriptor& type,
-                    bool userMode);
+    EmbeddedControl(const Elements& elements, const host::Design& design,
+                    const ClassDescriptor& type);
 
     host::Placement Place() const override { return placement_; }
     /// Resizes the embedded control too.
@@ -45,9 +46,9 @@ class EmbeddedControl final : public host::EmbeddedControl, private ControlSite 
     host::Placement placement_;
     bool visible_;
     bool enabled_ = true;
-    SilentContainer container_;
-    EmbeddedAmbient ambient_;
-    EmbeddedExtender extender_;
+    shared::SilentContainer container_;
+    shared::EmbeddedAmbient ambient_;
+    shared::EmbeddedExtender extender_;
     std::optional<HostedControl> control_;
 };
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <memory>
+#include <vector>
 
 #include "frame/host/font.h"
 #include "frame/text.h"
@@ -13,6 +14,22 @@ class FontListener {
  public:
     virtual ~FontListener() = default;
     virtual void FontChanged() = 0;
+};
+
+/// The listeners of a font, for its implementation. A listener that was added more than once is
+/// notified as often.
+class FontListeners {
+ public:
+    void Add(FontListener& listener) { listeners_.push_back(&listener); }
+    void Remove(FontListener& listener);
+    bool IsEmpty() const;
+    /// Notifies each listener. Listeners may be added and removed meanwhile; a new one is notified
+    /// from the next time on. Allocates nothing.
+    void Tell();
+
+ private:
+    std::vector<FontListener*> listeners_;  // null: removed during a notification
+    int telling_ = 0;
 };
 
 /// A font object that this runtime can draw with. Every font that reaches the runtime is one,

@@ -1,11 +1,12 @@
 #include "runtime/win32/frame_box.h"
 
 #include "frame/host/accepted_values.h"
+#include "runtime/win32/device.h"
 
 namespace lumenkit::win32 {
 
-FrameBox::FrameBox(const Owner& owner, const host::CaptionDesign& design)
-    : BasicCaptioned(owner,
+FrameBox::FrameBox(const Elements& elements, const host::CaptionDesign& design)
+    : BasicCaptioned(elements,
                      {.className = L"BUTTON",
                       .style = BS_GROUPBOX | WS_CLIPCHILDREN,
                       .extendedStyle = WS_EX_CONTROLPARENT},
@@ -16,6 +17,11 @@ void FrameBox::SetBorderStyle(std::int16_t style) {
     Invalidate();
 }
 
+void FrameBox::ShowCaption() {
+    BasicCaptioned::ShowCaption();
+    Invalidate();
+}
+
 LRESULT FrameBox::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
     switch (message) {
         case WM_ERASEBKGND:
@@ -23,9 +29,7 @@ LRESULT FrameBox::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
             return 1;
         case WM_PAINT:
             if (borderStyle_ == 0) {
-                PAINTSTRUCT paint = {};
-                BeginPaint(Handle(), &paint);  // erases
-                EndPaint(Handle(), &paint);
+                const PaintDevice erased(Handle());
                 return 0;
             }
             break;

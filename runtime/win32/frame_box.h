@@ -11,13 +11,13 @@ namespace lumenkit::win32 {
 /// shows no caption either.
 class FrameBox final : public BasicCaptioned<host::Frame> {
  public:
-    FrameBox(const Owner& owner, const host::CaptionDesign& design);
+    FrameBox(const Elements& elements, const host::CaptionDesign& design);
 
     std::int16_t BorderStyle() const override { return borderStyle_; }
     void SetBorderStyle(std::int16_t style) override;
 
  protected:
-    void ShowCaption() override { Invalidate(); }
+    void ShowCaption() override;
     LRESULT HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
 
  private:

@@ -28,39 +28,6 @@ float AcceptedSize(float points) {
 
 }  // namespace
 
-void FontListeners::Remove(FontListener& listener) {
-    const auto found = std::ranges::find(listeners_, &listener);
-    if (found == listeners_.end()) {
-        return;
-    }
-    if (telling_ == 0) {
-        listeners_.erase(found);
-    } else {
-        *found = nullptr;
-    }
-}
-
-void FontListeners::Tell() {
-    struct Telling {
-        FontListeners& self;
-        explicit Telling(FontListeners& listeners) : self(listeners) { ++self.telling_; }
-        ~Telling() {
-            if (--self.telling_ == 0) {
-                std::erase(self.listeners_, nullptr);
-            }
-        }
-        Telling(const Telling&) = delete;
-        Telling& operator=(const Telling&) = delete;
-    };
-    const Telling telling(*this);
-    // NOLINTNEXTLINE(modernize-loop-convert): listeners may be added meanwhile
-    for (std::size_t index = 0; index < listeners_.size(); ++index) {
-        if (FontListener* const listener = listeners_[index]) {
-            listener->FontChanged();
-        }
-    }
-}
-
 GdiFont::GdiFont(TextView name, float points, Resolution resolution)
     : name_(name), size_(AcceptedSize(points)), resolution_(resolution) {}
 

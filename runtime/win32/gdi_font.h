@@ -2,7 +2,6 @@
 
 #include <cstdint>
 #include <memory>
-#include <vector>
 
 #include "frame/text.h"
 #include "runtime/win32/font.h"
@@ -11,19 +10,6 @@
 #include "runtime/win32/thread_shared.h"
 
 namespace lumenkit::win32 {
-
-/// The listeners of a font. Listeners may be added and removed while they are notified.
-class FontListeners {
- public:
-    void Add(FontListener& listener) { listeners_.push_back(&listener); }
-    void Remove(FontListener& listener);
-    /// Notifies each listener. Allocates nothing.
-    void Tell();
-
- private:
-    std::vector<FontListener*> listeners_;  // null: removed during a notification
-    int telling_ = 0;
-};
 
 /// A font that uses only the platform's drawing interface. Sizes are rounded to four decimal
 /// places; a rounded size that is not above 0, or is above 2160 points, raises 380.

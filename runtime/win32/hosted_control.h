@@ -4,30 +4,17 @@
 
 #include "frame/class_table.h"
 #include "frame/control.h"
-#include "runtime/win32/context.h"
-#include "runtime/win32/life.h"
-#include "runtime/win32/windows_header.h"
+#include "runtime/win32/constituents.h"
+#include "runtime/win32/control_focus.h"
+#include "runtime/win32/control_mouse.h"
+#include "runtime/win32/control_painter.h"
+#include "runtime/win32/control_site.h"
+#include "runtime/win32/drawable.h"
+#include "runtime/win32/hosted_window.h"
+#include "runtime/win32/screen.h"
+#include "runtime/win32/surface.h"
 
 namespace lumenkit::win32 {
-
-/// The services that a hosted control needs from the object between it and its container. The site
-/// must outlive the control.
-class ControlSite {
- public:
-    virtual ~ControlSite() = default;
-
-    virtual host::Container& GetContainer() = 0;
-    virtual host::Ambient& GetAmbient() = 0;
-    virtual Object& GetExtender() = 0;
-
-    /// Requests another size for the control, in pixels, border included. If the container agrees,
-    /// HostedControl::SetSize has run before the call returns.
-    virtual void RequestSize(SIZE size) = 0;
-    /// Called when the picture that the control shows has changed.
-    virtual void PictureChanged() = 0;
-    /// Called when the keyboard focus entered one of the control's windows or left all of them.
-    virtual void FocusChanged(bool inside) = 0;
-};
 
 /// One control with its window, surface and constituents. It covers the life cycle of a control
 /// except for the component interfaces. The window is a child of the parking window until it is
@@ -42,15 +29,15 @@ class ControlSite {
 /// destruction. The container may destroy the control's window at any time.
 ///
 /// Used only on the thread that created it. Errors of the control's own procedures do not leave it.
-/// Construction raises 7 if the platform cannot create more windows.
-class HostedControl {
+class HostedControl final : public HostedWindow, public Drawable, private SurfaceOwner {
  public:
     /// Creates the control, `size` pixels large, border included, and runs UserControl_Initialize.
-    /// `type` must be a control; raises 429 for another class. `life` is held while one of the
-    /// control's windows answers a message. Any other caller of the control must hold it.
+    /// `type` must be a control; raises 429 for another class. Raises 7 if the platform cannot
+    /// create more windows. `life` is held while one of the control's windows answers a message.
+    /// Any other caller of the control must hold it.
     HostedControl(const Context& context, const ClassDescriptor& type, ControlSite& site, SIZE size,
                   Life* life = nullptr);
-    ~HostedControl();
+    ~HostedControl() override;
     HostedControl(const HostedControl&) = delete;
     HostedControl& operator=(const HostedControl&) = delete;
 
@@ -59,17 +46,17 @@ class HostedControl {
     /// Does the same for a saved control, with UserControl_ReadProperties. Errors that the bag
     /// raises reach the caller.
     void StartSaved(host::PropertyBag& bag);
-    bool IsStarted() const;
+    bool IsStarted() const { return isStarted_; }
     void Save(host::PropertyBag& bag);
 
-    Control& GetControl();
-    Object& Automation() { return GetControl().Automation(); }
-    const ClassDescriptor& Type() const;
-    host::Surface& Drawing();
-    const ControlHost& Host() const;
+    Control& GetControl() { return *control_; }
+    Object& Automation() { return control_->Automation(); }
+    const ClassDescriptor& Type() const { return type_; }
+    Surface& Drawing() { return surface_; }
+    const ControlHost& Host() const { return host_; }
 
     // Placement in the container. Sizes are in pixels, border included.
-    SIZE Size() const;
+    SIZE Size() const { return size_; }
     /// Resizes the control. UserControl_Resize runs if the size changed.
     void SetSize(SIZE size);
     /// Puts the window into `parent` at `place` and shows it. UserControl_Show runs if it was
@@ -82,18 +69,17 @@ class HostedControl {
     void SetVisible(bool visible);
     /// Moves the window back to the hidden parking window.
     void Detach();
-    bool IsAttached() const;
-    HWND Window() const;
 
     /// Draws the control, its border and constituents in their current state, scaled into `place`
     /// on any device, in that device's logical units. Runs UserControl_Paint if the surface does
     /// not keep its drawing. Nothing that is visible elsewhere changes.
-    void Draw(HDC device, const RECT& place);
+    void DrawOn(HDC device, const RECT& place);
+    void DrawOn(HDC device) override;
 
     // Keyboard.
     /// Gives the focus to the first (or last) constituent that takes it, otherwise to the control
     /// itself.
-    void Focus(bool last = false);
+    void Focus(bool last = false) { focus_.Take(last); }
     bool HasFocus() const;
     /// Returns whether the control used the message: Tab between its constituents, arrows, and
     /// other keys that its constituents need although a container would use them itself. Call it
@@ -104,8 +90,46 @@ class HostedControl {
     void AmbientChanged();
 
  private:
-    class Body;
-    std::unique_ptr<Body> body_;
+    // SurfaceOwner
+    HWND SurfaceWindow() const override { return Handle(); }
+    SIZE WholeSize() const override { return size_; }
+    bool IsShown() const override;
+    void PaintControl() override;
+    void RequestSize(SIZE size) override;
+    void BorderChanged() override;
+    void PictureChanged() override { site_.PictureChanged(); }
+
+    // Window
+    LRESULT HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
+    LRESULT FollowWindow(WPARAM wParam, LPARAM lParam);
+    LRESULT HandleMouse(UINT message, WPARAM wParam, LPARAM lParam);
+    LRESULT GiveText(std::size_t room, wchar_t* target);
+
+    void FinishStart();
+    void AdoptSize(SIZE size);
+    void BecomeVisible(bool visible);
+
+    const ClassDescriptor& type_;
+    ControlSite& site_;
+    SIZE size_;
+    Resolution resolution_ = Resolution::OfScreen();
+    Screen screen_{resolution_};
+    win32::Surface surface_;
+    ControlPainter painter_{*this, surface_};
+    ControlFocus focus_{*this, surface_, site_};
+    ControlMouse mouse_{*this, surface_, focus_, resolution_};
+    Constituents constituents_;
+    ControlHost host_;
+    std::unique_ptr<Control> control_;
+    int requests_ = 0;
+    bool isStarted_ = false;
+    bool isVisible_ = false;  // as set by the container
+    bool wasTold_ = false;    // whether it was notified that it is visible
 };
+
+/// Creates a new control on another control or on a page; see EmbedFunction.
+std::unique_ptr<host::EmbeddedControl> EmbedControl(const Elements& elements,
+                                                    const host::Design& design,
+                                                    const ClassDescriptor& type);
 
 }  // namespace lumenkit::win32

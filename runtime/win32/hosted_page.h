@@ -4,45 +4,49 @@
 
 #include "frame/class_table.h"
 #include "frame/control.h"
-#include "runtime/win32/context.h"
-#include "runtime/win32/life.h"
-#include "runtime/win32/windows_header.h"
+#include "runtime/win32/constituents.h"
+#include "runtime/win32/hosted_window.h"
+#include "runtime/win32/screen.h"
 
 namespace lumenkit::win32 {
 
 /// One property page with its window and constituents. Used only on the thread that created it.
 /// Errors of the page's procedures reach the caller, which shows them.
-class HostedPage {
+class HostedPage final : public HostedWindow {
  public:
     /// Creates the page and runs PropertyPage_Initialize. `type` must be a page; raises 429 for
     /// another class. `site` and `selectedControls` must outlive the page. `life` is used as in
     /// HostedControl.
     HostedPage(const Context& context, const ClassDescriptor& type, host::PropertyPageSite& site,
                host::SelectedControls& selectedControls, Life* life = nullptr);
-    ~HostedPage();
+    ~HostedPage() override;
     HostedPage(const HostedPage&) = delete;
     HostedPage& operator=(const HostedPage&) = delete;
 
-    PropertyPage& GetPage();
-    Object& Automation() { return GetPage().Automation(); }
+    PropertyPage& GetPage() { return *page_; }
+    Object& Automation() { return page_->Automation(); }
     /// The size that the page is designed for, in pixels.
-    SIZE Size() const;
+    SIZE Size() const { return size_; }
 
     /// Puts the window into `parent` at `place`, hidden.
-    void Attach(HWND parent, const RECT& place);
-    void Place(const RECT& place);
-    void SetVisible(bool visible);
+    void Attach(HWND parent, const RECT& place) { MoveInto(parent, place); }
+    void Place(const RECT& place) { MoveTo(place); }
+    void SetVisible(bool visible) { Show(visible); }
     /// Moves the window back to the hidden parking window.
-    void Detach();
-    HWND Window() const;
+    void Detach() { Park(); }
 
     /// Does the same as HostedControl::TranslateKey, and handles the mnemonics of the page's
     /// constituents.
     bool TranslateKey(const MSG& message);
 
  private:
-    class Body;
-    std::unique_ptr<Body> body_;
+    LRESULT HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
+
+    SIZE size_;
+    Screen screen_{Resolution::OfScreen()};
+    Constituents constituents_;
+    PageHost host_;
+    std::unique_ptr<PropertyPage> page_;
 };
 
 }  // namespace lumenkit::win32

@@ -21,14 +21,28 @@ HostedWindow::HostedWindow(HINSTANCE module, SIZE size, Life* life) : parking_(m
 }
 
 LRESULT HostedWindow::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
-    if (message == WM_PARENTNOTIFY && LOWORD(wParam) == WM_CREATE) {
-        // Dialogs search the children of a window with this style for one that takes the focus. A
-        // window without children must not have the style: some dialogs loop forever when such a
-        // window has the focus itself.
+    switch (message) {
+        case WM_PARENTNOTIFY:
+            FollowChildren(wParam);
+            return Default(message, wParam, lParam);
+        case WM_SYSCOLORCHANGE:
+        case WM_THEMECHANGED:
+        case WM_SETTINGCHANGE:
+            SettingsChanged(message, wParam, lParam);
+            return 0;
+        default:
+            return Default(message, wParam, lParam);
+    }
+}
+
+// Dialogs search the children of a window with this style for one that takes the focus. A window
+// without children must not have the style: some dialogs loop forever when such a window has the
+// focus itself.
+void HostedWindow::FollowChildren(WPARAM event) {
+    if (LOWORD(event) == WM_CREATE) {
         const LONG_PTR style = GetWindowLongPtrW(Handle(), GWL_EXSTYLE);
         SetWindowLongPtrW(Handle(), GWL_EXSTYLE, style | WS_EX_CONTROLPARENT);
     }
-    return Default(message, wParam, lParam);
 }
 
 bool HostedWindow::MoveInto(HWND parent, const RECT& place) {
@@ -51,6 +65,24 @@ void HostedWindow::MoveTo(const RECT& place) {
     }
 }
 
+void HostedWindow::Resize(SIZE size) {
+    if (Handle() != nullptr) {
+        SetWindowPos(Handle(), nullptr, 0, 0, size.cx, size.cy, quietly | SWP_NOMOVE);
+    }
+}
+
+void HostedWindow::SetEdge(bool sunken) {
+    if (Handle() == nullptr) {
+        return;
+    }
+    const LONG_PTR style = GetWindowLongPtrW(Handle(), GWL_EXSTYLE);
+    const LONG_PTR edge = WS_EX_CLIENTEDGE;
+    SetWindowLongPtrW(Handle(), GWL_EXSTYLE, sunken ? style | edge : style & ~edge);
+    SetWindowPos(Handle(), nullptr, 0, 0, 0, 0,
+                 quietly | SWP_NOMOVE | SWP_NOSIZE | SWP_FRAMECHANGED);
+    InvalidateRect(Handle(), nullptr, FALSE);
+}
+
 void HostedWindow::ClipTo(const RECT& clip) {
     if (!IsAttached()) {
         return;
@@ -70,14 +102,16 @@ void HostedWindow::ClipTo(const RECT& clip) {
     isClipped_ = !isWhole;
 }
 
-void HostedWindow::Show(bool visible) {
+bool HostedWindow::Show(bool visible) {
     if (Handle() == nullptr) {
-        return;
+        return false;
     }
-    if (!visible) {
+    const bool shows = visible && IsAttached();
+    if (!shows) {
         GiveFocusAway();
     }
-    ShowWindow(Handle(), visible ? SW_SHOWNA : SW_HIDE);
+    ShowWindow(Handle(), shows ? SW_SHOWNA : SW_HIDE);
+    return visible && IsAttached();
 }
 
 void HostedWindow::Park() {

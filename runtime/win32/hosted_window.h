@@ -20,18 +20,22 @@ class HostedWindow : public Window {
     /// Puts the window into `parent`, hidden. Returns false if the platform refuses.
     bool MoveInto(HWND parent, const RECT& place);
     void MoveTo(const RECT& place);
+    void Resize(SIZE size);
+    /// Gives the window a sunken border or removes it.
+    void SetEdge(bool sunken);
     /// Shows only the part inside `clip`, which is in the parent's coordinates.
     void ClipTo(const RECT& clip);
-    void Show(bool visible);
+    /// Shows the window if a container has it, or hides it. Returns whether it is shown then.
+    bool Show(bool visible);
     /// Moves the window back to the parking window, hidden.
     void Park();
     SIZE WindowSize() const;
 
+ private:
     /// Passes a change of the system settings on to the child windows and repaints the whole
     /// window.
     void SettingsChanged(UINT message, WPARAM wParam, LPARAM lParam);
-
- private:
+    void FollowChildren(WPARAM event);
     /// Moves the focus to the container, so that the focus does not get lost.
     void GiveFocusAway();
 

@@ -2,6 +2,8 @@
 
 #include <string>
 
+#include "runtime/win32/device.h"
+
 namespace lumenkit::win32 {
 
 namespace {
@@ -9,20 +11,19 @@ namespace {
 // The size is in pixels. An empty caption has the height of one line.
 SIZE SizeOf(const Text& caption, HFONT font) {
     const std::wstring wide = caption.empty() ? L" " : ToWide(caption);
-    const HDC screen = GetDC(nullptr);
-    const HGDIOBJ former = SelectObject(screen, font);
+    const WindowDevice screen(nullptr);
+    const Selection selection(screen.Handle(), font);
     RECT extent = {};
-    DrawTextW(screen, wide.c_str(), static_cast<int>(wide.size()), &extent,
+    DrawTextW(screen.Handle(), wide.c_str(), static_cast<int>(wide.size()), &extent,
               DT_CALCRECT | DT_LEFT | DT_EXPANDTABS);
-    SelectObject(screen, former);
-    ReleaseDC(nullptr, screen);
     return {caption.empty() ? 0 : extent.right, extent.bottom};
 }
 
 }  // namespace
 
-Label::Label(const Owner& owner, const host::CaptionDesign& design)
-    : BasicCaptioned(owner, {.className = L"STATIC", .style = SS_LEFT}, design, design.caption) {}
+Label::Label(const Elements& elements, const host::CaptionDesign& design)
+    : BasicCaptioned(elements, {.className = L"STATIC", .style = SS_LEFT}, design, design.caption) {
+}
 
 void Label::SetAutoSize(bool autoSize) {
     autoSize_ = autoSize;
@@ -37,6 +38,16 @@ void Label::SetForeColor(Color color) {
 void Label::SetBackColor(Color color) {
     backColor_ = color;
     Invalidate();
+}
+
+void Label::ShowCaption() {
+    BasicCaptioned::ShowCaption();
+    FitToCaption();
+}
+
+void Label::ShowFont() {
+    BasicCaptioned::ShowFont();
+    FitToCaption();
 }
 
 void Label::FitToCaption() {

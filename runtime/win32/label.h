@@ -11,7 +11,7 @@ namespace lumenkit::win32 {
 /// window in the tab order.
 class Label final : public BasicCaptioned<host::Label> {
  public:
-    Label(const Owner& owner, const host::CaptionDesign& design);
+    Label(const Elements& elements, const host::CaptionDesign& design);
 
     bool AutoSize() const override { return autoSize_; }
     void SetAutoSize(bool autoSize) override;
@@ -21,8 +21,8 @@ class Label final : public BasicCaptioned<host::Label> {
     void SetBackColor(Color color) override;
 
  protected:
-    void ShowCaption() override { FitToCaption(); }
-    void ShowFont() override { FitToCaption(); }
+    void ShowCaption() override;
+    void ShowFont() override;
     std::optional<LRESULT> HandleNotification(UINT message, WPARAM wParam, LPARAM lParam) override;
 
  private:

@@ -8,10 +8,6 @@ namespace lumenkit::win32 {
 
 namespace {
 
-constexpr std::int16_t leftButton = 1;
-constexpr std::int16_t rightButton = 2;
-constexpr std::int16_t middleButton = 4;
-
 std::int16_t ButtonsHeld(WPARAM keys) {
     return static_cast<std::int16_t>(((keys & MK_LBUTTON) != 0 ? leftButton : 0) |
                                      ((keys & MK_RBUTTON) != 0 ? rightButton : 0) |

@@ -1,4 +1,5 @@
-// Conversion of the platform's mouse messages to the arguments of the host contract.
+// Conversion of the platform's mouse messages to the arguments of the host contract. Containers use
+// the same numbers for held keys.
 #pragma once
 
 #include <cstdint>
@@ -8,6 +9,10 @@
 #include "runtime/win32/windows_header.h"
 
 namespace lumenkit::win32 {
+
+inline constexpr std::int16_t leftButton = 1;
+inline constexpr std::int16_t rightButton = 2;
+inline constexpr std::int16_t middleButton = 4;
 
 /// Returns the keys held when the current message was sent, as the sum of 1 for Shift, 2 for Ctrl
 /// and 4 for Alt.

@@ -3,13 +3,12 @@
 #include <uxtheme.h>
 
 #include "frame/host/accepted_values.h"
-#include "runtime/win32/option_buttons.h"
 
 namespace lumenkit::win32 {
 
-OptionButton::OptionButton(const Owner& owner, const host::OptionButtonDesign& design,
-                           OptionButtons& group)
-    : BasicCaptioned(owner, {.className = L"BUTTON", .style = BS_RADIOBUTTON}, design,
+OptionButton::OptionButton(const Elements& elements, const host::OptionButtonDesign& design,
+                           OptionGroup& group)
+    : BasicCaptioned(elements, {.className = L"BUTTON", .style = BS_RADIOBUTTON}, design,
                      design.caption),
       group_(group) {
     // Receiving the focus must not click the button.
@@ -24,10 +23,6 @@ void OptionButton::SetVisible(bool visible) {
 void OptionButton::SetEnabled(bool enabled) {
     BecomeEnabled(enabled);
     group_.PlaceTabStop();
-}
-
-bool OptionButton::IsSelected() const {
-    return group_.Selected() == this;
 }
 
 void OptionButton::Select(bool selected) {
@@ -66,16 +61,31 @@ void OptionButton::BecomeTabStop(bool stops) {
     SwitchStyle(WS_TABSTOP, stops);
 }
 
+// Moves the focus to the next (or previous) button that takes it, and chooses that button. May
+// destroy the object.
+void OptionButton::Step(bool forward) {
+    OptionGroup& group = group_;
+    OptionButton* const next = group.Neighbour(*this, forward);
+    if (next == nullptr) {
+        return;
+    }
+    const Watch watch(*next);
+    SetFocus(next->Handle());
+    if (!watch.IsGone()) {
+        group.Choose(*next);
+    }
+}
+
 LRESULT OptionButton::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
     if (message == WM_KEYDOWN) {
         switch (wParam) {
             case VK_DOWN:
             case VK_RIGHT:
-                group_.Step(*this, true);
+                Step(true);
                 return 0;
             case VK_UP:
             case VK_LEFT:
-                group_.Step(*this, false);
+                Step(false);
                 return 0;
             default:
                 break;

@@ -4,31 +4,34 @@
 #include <optional>
 
 #include "frame/host/option_buttons.h"
+#include "runtime/shared/option_array.h"
 #include "runtime/win32/basic_constituent.h"
 
 namespace lumenkit::win32 {
 
-class OptionButtons;
+class OptionButton;
+using OptionGroup = shared::OptionArray<OptionButton>;
 
 /// A radio button whose mark is set by its array, because the platform's groups do not correspond
 /// to arrays.
 class OptionButton final : public BasicCaptioned<host::OptionButton> {
  public:
     /// `design.index` is the element's index.
-    OptionButton(const Owner& owner, const host::OptionButtonDesign& design, OptionButtons& group);
+    OptionButton(const Elements& elements, const host::OptionButtonDesign& design,
+                 OptionGroup& group);
 
     void SetVisible(bool visible) override;
     void SetEnabled(bool enabled) override;
     Text Tag() const override { return tag_; }
     void SetTag(TextView tag) override { tag_ = tag; }
-    bool IsSelected() const override;
+    bool IsSelected() const override { return group_.IsSelected(*this); }
     void Select(bool selected) override;
     std::int16_t Alignment() const override { return alignment_; }
     void SetAlignment(std::int16_t alignment) override;
     Color ForeColor() const override { return foreColor_; }
     void SetForeColor(Color color) override;
 
-    // Used by the array.
+    // Used by the group.
     void Mark(bool selected);
     void BecomeTabStop(bool stops);
     bool TakesFocus() const { return IsVisible() && IsEnabled(); }
@@ -38,7 +41,9 @@ class OptionButton final : public BasicCaptioned<host::OptionButton> {
     std::optional<LRESULT> HandleNotification(UINT message, WPARAM wParam, LPARAM lParam) override;
 
  private:
-    OptionButtons& group_;
+    void Step(bool forward);
+
+    OptionGroup& group_;
     Text tag_;
     Color foreColor_ = Color::ButtonText;
     std::int16_t alignment_ = 0;

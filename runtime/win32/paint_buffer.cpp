@@ -1,36 +1,27 @@
 #include "runtime/win32/paint_buffer.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace lumenkit::win32 {
 
-PaintBuffer::~PaintBuffer() {
-    if (device_ != nullptr) {
-        SelectObject(device_, original_);
-        DeleteDC(device_);
-    }
-    DeleteObject(bitmap_);
-}
-
 HDC PaintBuffer::Take(HDC target, int width, int height) {
     if (device_ == nullptr) {
-        device_ = CreateCompatibleDC(target);
-        original_ = GetCurrentObject(device_, OBJ_BITMAP);
+        device_.reset(CreateCompatibleDC(target));
     }
     if (width > size_.cx || height > size_.cy) {
         const SIZE size = {std::max<LONG>(width, size_.cx), std::max<LONG>(height, size_.cy)};
-        const HBITMAP larger = CreateCompatibleBitmap(target, size.cx, size.cy);
+        OwnBitmap larger(CreateCompatibleBitmap(target, size.cx, size.cy));
         if (device_ == nullptr || larger == nullptr) {
-            DeleteObject(larger);
             return nullptr;
         }
-        SelectObject(device_, larger);
-        DeleteObject(bitmap_);
-        bitmap_ = larger;
+        selection_.reset();
+        bitmap_ = std::move(larger);
+        selection_.emplace(device_.get(), bitmap_.get());
         size_ = size;
     }
     isInUse_ = true;
-    return device_;
+    return device_.get();
 }
 
 PaintBuffer::Use::Use(PaintBuffer& buffer, HDC target, const RECT& shown)

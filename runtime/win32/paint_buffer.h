@@ -1,6 +1,8 @@
 #pragma once
 
-#include "runtime/win32/windows_header.h"
+#include <optional>
+
+#include "runtime/win32/device.h"
 
 namespace lumenkit::win32 {
 
@@ -8,11 +10,6 @@ namespace lumenkit::win32 {
 /// ThreadShared<PaintBuffer>. It grows as needed.
 class PaintBuffer {
  public:
-    PaintBuffer() = default;
-    ~PaintBuffer();
-    PaintBuffer(const PaintBuffer&) = delete;
-    PaintBuffer& operator=(const PaintBuffer&) = delete;
-
     /// Uses the buffer for one picture, which is shown when the use ends.
     class Use {
      public:
@@ -39,9 +36,9 @@ class PaintBuffer {
     /// Returns null if no buffer can be allocated.
     HDC Take(HDC target, int width, int height);
 
-    HDC device_ = nullptr;
-    HBITMAP bitmap_ = nullptr;
-    HGDIOBJ original_ = nullptr;
+    OwnDevice device_;
+    OwnBitmap bitmap_;
+    std::optional<Selection> selection_;
     SIZE size_ = {};
     bool isInUse_ = false;
 };

@@ -2,9 +2,9 @@
 
 namespace lumenkit::win32 {
 
-PictureBox::PictureBox(const Owner& owner, const host::Design& design)
+PictureBox::PictureBox(const Elements& elements, const host::Design& design)
     : BasicConstituent(
-          owner,
+          elements,
           {.style = WS_CLIPCHILDREN, .extendedStyle = WS_EX_CLIENTEDGE | WS_EX_CONTROLPARENT},
           design) {}
 

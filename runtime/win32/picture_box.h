@@ -8,7 +8,7 @@ namespace lumenkit::win32 {
 /// A window with a sunken border and the background colour of buttons.
 class PictureBox final : public BasicConstituent<host::PictureBox> {
  public:
-    PictureBox(const Owner& owner, const host::Design& design);
+    PictureBox(const Elements& elements, const host::Design& design);
 
     float ScaleWidth() const override;
     float ScaleHeight() const override;

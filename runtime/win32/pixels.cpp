@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <cmath>
 
+#include "runtime/win32/device.h"
+
 namespace lumenkit::win32 {
 
 namespace {
@@ -13,11 +15,8 @@ constexpr double farthest = 32767;
 }  // namespace
 
 Resolution Resolution::OfScreen() {
-    const HDC screen = GetDC(nullptr);
-    const Resolution resolution = {GetDeviceCaps(screen, LOGPIXELSX),
-                                   GetDeviceCaps(screen, LOGPIXELSY)};
-    ReleaseDC(nullptr, screen);
-    return resolution;
+    const WindowDevice screen(nullptr);
+    return {GetDeviceCaps(screen.Handle(), LOGPIXELSX), GetDeviceCaps(screen.Handle(), LOGPIXELSY)};
 }
 
 int ToPixels(float twips, int pixelsPerInch) {

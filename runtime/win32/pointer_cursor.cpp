@@ -29,14 +29,23 @@ constexpr std::array<WORD, 16> cursors = {
     32646,  // SizeAll
 };
 
-}  // namespace
-
+// The platform owns its cursors.
 HCURSOR CursorOf(host::MousePointer pointer) {
-    if (pointer == host::MousePointer::Default) {
-        return nullptr;
-    }
     const auto index = static_cast<std::size_t>(pointer);
     return LoadCursorW(nullptr, MAKEINTRESOURCEW(index < cursors.size() ? cursors[index] : arrow));
+}
+
+}  // namespace
+
+bool ShowPointer(HWND window, host::MousePointer pointer, WPARAM wParam, LPARAM lParam) {
+    const bool isOver = reinterpret_cast<HWND>(wParam) == window && LOWORD(lParam) == HTCLIENT;
+    const HCURSOR cursor =
+        isOver && pointer != host::MousePointer::Default ? CursorOf(pointer) : nullptr;
+    if (cursor == nullptr) {
+        return false;
+    }
+    SetCursor(cursor);
+    return true;
 }
 
 }  // namespace lumenkit::win32

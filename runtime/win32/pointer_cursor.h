@@ -5,8 +5,9 @@
 
 namespace lumenkit::win32 {
 
-/// Returns the platform's cursor for a pointer; the platform owns it. Returns null for Default,
-/// which is the window's usual cursor. Custom is an arrow, because no picture can be set for it.
-HCURSOR CursorOf(host::MousePointer pointer);
+/// Answers WM_SETCURSOR of `window`: shows the pointer over its client area. Custom is an arrow,
+/// because no picture can be set for it. Returns false where the window shows its usual cursor: for
+/// Default, over its border and over its children.
+bool ShowPointer(HWND window, host::MousePointer pointer, WPARAM wParam, LPARAM lParam);
 
 }  // namespace lumenkit::win32

@@ -12,9 +12,6 @@ namespace {
 
 constexpr std::int16_t unknown = -1;
 
-// The platform's functions accept no longer text.
-constexpr std::size_t longestAtOnce = 8192;
-
 // NOLINTNEXTLINE(cppcoreguidelines-avoid-non-const-global-variables): one for the process
 int fontCount = 0;
 
@@ -42,23 +39,19 @@ bool IsSimple(char16_t unit) {
 }  // namespace
 
 ScreenFont::ScreenFont(const LOGFONTW& design)
-    : design_(design), handle_(CreateFontIndirectW(&design)), device_(CreateCompatibleDC(nullptr)) {
-    if (handle_ == nullptr || device_ == nullptr) {
-        DeleteObject(handle_);
-        DeleteDC(device_);
+    : design_(design), font_(CreateFontIndirectW(&design)), device_(CreateCompatibleDC(nullptr)) {
+    if (font_ == nullptr || device_ == nullptr) {
         Raise(ErrorNumber::OutOfMemory);
     }
-    SelectObject(device_, handle_);
+    SelectObject(device_.get(), font_.get());
     TEXTMETRICW metrics = {};
-    GetTextMetricsW(device_, &metrics);
+    GetTextMetricsW(device_.get(), &metrics);
     lineHeight_ = static_cast<int>(metrics.tmHeight);
     averageWidth_ = static_cast<int>(metrics.tmAveCharWidth);
     ++fontCount;
 }
 
 ScreenFont::~ScreenFont() {
-    DeleteDC(device_);
-    DeleteObject(handle_);
     --fontCount;
 }
 
@@ -156,7 +149,7 @@ int ScreenFont::AskPlatform(TextView text) const {
         const TextView part = text.substr(at, longestAtOnce);
         const std::span<int> ends = std::span(scratch_).subspan(at, part.size());
         SIZE size = {};
-        GetTextExtentExPointW(device_, AsWide(part.data()), static_cast<int>(part.size()), 0,
+        GetTextExtentExPointW(device_.get(), AsWide(part.data()), static_cast<int>(part.size()), 0,
                               nullptr, ends.data(), &size);
         for (int& end : ends) {
             end += width;

@@ -1,15 +1,19 @@
 #pragma once
 
 #include <array>
+#include <cstddef>
 #include <cstdint>
 #include <memory>
 #include <span>
 #include <vector>
 
 #include "frame/text.h"
-#include "runtime/win32/windows_header.h"
+#include "runtime/win32/device.h"
 
 namespace lumenkit::win32 {
+
+/// The platform measures and draws no longer text in one call. It is wider than any window.
+inline constexpr std::size_t longestAtOnce = 8192;
 
 /// A font realised by the platform, with its measures. Lengths are in logical units of the design,
 /// which are pixels for a design made for the screen. Used only on one thread.
@@ -26,7 +30,7 @@ class ScreenFont final : public std::enable_shared_from_this<ScreenFont> {
     ScreenFont& operator=(const ScreenFont&) = delete;
 
     /// The handle is valid as long as this object.
-    HFONT Handle() const { return handle_; }
+    HFONT Handle() const { return font_.get(); }
     const LOGFONTW& Design() const { return design_; }
     int LineHeight() const { return lineHeight_; }
     int AverageWidth() const { return averageWidth_; }
@@ -52,8 +56,8 @@ class ScreenFont final : public std::enable_shared_from_this<ScreenFont> {
     int AskPlatform(TextView text) const;
 
     LOGFONTW design_;
-    HFONT handle_;
-    HDC device_;
+    OwnFont font_;
+    OwnDevice device_;
     int lineHeight_ = 0;
     int averageWidth_ = 0;
     mutable std::array<std::unique_ptr<Page>, 256> pages_;

@@ -18,10 +18,10 @@ std::optional<int> StepsOfNotch() {
 
 }  // namespace
 
-ScrollBar::ScrollBar(const Owner& owner, const host::Design& design, host::Orientation orientation,
-                     host::ScrollBarEvents& events)
+ScrollBar::ScrollBar(const Elements& elements, const host::Design& design,
+                     host::Orientation orientation, host::ScrollBarEvents& events)
     : BasicConstituent(
-          owner,
+          elements,
           {.className = L"SCROLLBAR",
            .style = WS_TABSTOP |
                     static_cast<DWORD>(orientation == host::Orientation::Vertical ? SBS_VERT
@@ -116,7 +116,7 @@ LRESULT ScrollBar::TurnWheel(UINT message, WPARAM wParam) {
     return 0;
 }
 
-void ScrollBar::DrawTo(HDC device) {
+void ScrollBar::DrawOn(HDC device) {
     RECT area = {};
     GetClientRect(Handle(), &area);
     DrawScrollBar(device, area, orientation_ == host::Orientation::Vertical, Range(), IsEnabled());

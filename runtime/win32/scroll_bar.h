@@ -12,7 +12,7 @@ namespace lumenkit::win32 {
 /// dragged.
 class ScrollBar final : public BasicConstituent<host::ScrollBar> {
  public:
-    ScrollBar(const Owner& owner, const host::Design& design, host::Orientation orientation,
+    ScrollBar(const Elements& elements, const host::Design& design, host::Orientation orientation,
               host::ScrollBarEvents& events);
 
     std::int16_t ScrollValue() const override { return value_; }
@@ -24,7 +24,7 @@ class ScrollBar final : public BasicConstituent<host::ScrollBar> {
     std::int16_t SmallChange() const override { return smallChange_; }
     void SetSmallChange(std::int16_t step) override;
 
-    void DrawTo(HDC device) override;
+    void DrawOn(HDC device) override;
 
  protected:
     LRESULT HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) override;

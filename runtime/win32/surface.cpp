@@ -4,26 +4,31 @@
 #include <utility>
 
 #include "frame/host/accepted_values.h"
+#include "runtime/win32/device.h"
 #include "runtime/win32/device_canvas.h"
-#include "runtime/win32/shown_text.h"
 
 namespace lumenkit::win32 {
 
 namespace {
 
-// The device of a window's client area.
-class WindowDevice {
+// Draws nothing. Collects the printed texts, line by line, for screen readers.
+class ShownText final : public Canvas {
  public:
-    explicit WindowDevice(HWND window) : window_(window), device_(GetDC(window)) {}
-    ~WindowDevice() { ReleaseDC(window_, device_); }
-    WindowDevice(const WindowDevice&) = delete;
-    WindowDevice& operator=(const WindowDevice&) = delete;
+    void Clear(Color /*paper*/) override { text_.clear(); }
+    void Print(const TextRun& run) override {
+        if (!text_.empty() && run.at.y != line_) {
+            text_ += crLf;
+        }
+        line_ = run.at.y;
+        text_ += run.text;
+    }
+    void Fill(const RECT& /*box*/, Color /*color*/) override {}
 
-    HDC Handle() const { return device_; }
+    const Text& Gathered() const { return text_; }
 
  private:
-    HWND window_;
-    HDC device_;
+    Text text_;
+    LONG line_ = 0;
 };
 
 }  // namespace

@@ -33,9 +33,10 @@ DWORD StyleOf(const host::TextBoxDesign& design) {
 
 }  // namespace
 
-TextBox::TextBox(const Owner& owner, const host::TextBoxDesign& design, host::TextBoxEvents& events)
+TextBox::TextBox(const Elements& elements, const host::TextBoxDesign& design,
+                 host::TextBoxEvents& events)
     : BasicTextConstituent(
-          owner,
+          elements,
           {.className = L"EDIT", .style = StyleOf(design), .extendedStyle = WS_EX_CLIENTEDGE},
           design, design.text),
       events_(events),
@@ -205,8 +206,8 @@ std::int32_t TextBox::WindowHandle() const {
     return static_cast<std::int32_t>(reinterpret_cast<std::intptr_t>(Handle()));
 }
 
-void TextBox::DrawTo(HDC device) {
-    BasicTextConstituent::DrawTo(device);
+void TextBox::DrawOn(HDC device) {
+    BasicTextConstituent::DrawOn(device);
     DrawWindowBars(Handle(), device);
 }
 

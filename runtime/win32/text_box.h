@@ -14,7 +14,8 @@ namespace lumenkit::win32 {
 /// The platform's texts end at their first unit 0, and so do assigned texts.
 class TextBox final : public BasicTextConstituent<host::TextBox> {
  public:
-    TextBox(const Owner& owner, const host::TextBoxDesign& design, host::TextBoxEvents& events);
+    TextBox(const Elements& elements, const host::TextBoxDesign& design,
+            host::TextBoxEvents& events);
     ~TextBox() override;
     TextBox(const TextBox&) = delete;
     TextBox& operator=(const TextBox&) = delete;
@@ -37,7 +38,7 @@ class TextBox final : public BasicTextConstituent<host::TextBox> {
     void SetPointer(host::MousePointer pointer) override;
     std::int32_t WindowHandle() const override;
 
-    void DrawTo(HDC device) override;
+    void DrawOn(HDC device) override;
 
  protected:
     LRESULT HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) override;

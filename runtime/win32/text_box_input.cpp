@@ -65,12 +65,8 @@ LRESULT TextBox::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
             }
             return Pass(message, wParam, lParam);
         case WM_SETCURSOR:
-            if (const HCURSOR cursor = CursorOf(pointer_);
-                cursor != nullptr && LOWORD(lParam) == HTCLIENT) {
-                SetCursor(cursor);
-                return TRUE;
-            }
-            return Pass(message, wParam, lParam);
+            return ShowPointer(Handle(), pointer_, wParam, lParam) ? TRUE
+                                                                   : Pass(message, wParam, lParam);
         case WM_GETDLGCODE: {
             // The edit control's own answer would make it act for the dialog from then on.
             const auto* const asked = reinterpret_cast<const MSG*>(lParam);

@@ -13,9 +13,6 @@ namespace {
 
 constexpr const wchar_t* ownClass = L"lumenkitWindow";
 
-// NOLINTNEXTLINE(cppcoreguidelines-avoid-non-const-global-variables): one for the process
-int windowCount = 0;
-
 // Returns the window that sent a notification to its parent; null for other messages.
 HWND Notifier(UINT message, WPARAM wParam, LPARAM lParam) {
     switch (message) {
@@ -55,10 +52,6 @@ Window* Window::Of(HWND handle) {
     return found == own->end() ? nullptr : found->second;
 }
 
-int Window::Count() {
-    return windowCount;
-}
-
 const wchar_t* Window::OwnClass(HINSTANCE module) {
     WNDCLASSEXW known = {};
     known.cbSize = sizeof known;
@@ -93,7 +86,6 @@ void Window::Create(const WindowDesign& design) {
         Raise(ErrorNumber::OutOfMemory);
     }
     own_->emplace(handle_, this);
-    ++windowCount;
     former_ = reinterpret_cast<WNDPROC>(
         SetWindowLongPtrW(handle_, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(&Procedure)));
 }
@@ -118,7 +110,6 @@ void Window::LetGo() {
     const HWND handle = std::exchange(handle_, nullptr);
     own_->erase(handle);
     SetWindowLongPtrW(handle, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(former_));
-    --windowCount;
     ShowWindow(handle, SW_HIDE);
     SetParent(handle, HWND_MESSAGE);  // so that its parent does not destroy it too early
     PostMessageW(handle, WM_CLOSE, 0, 0);
@@ -149,7 +140,6 @@ LRESULT CALLBACK Window::Procedure(HWND handle, UINT message, WPARAM wParam, LPA
     const LRESULT answer = window->Default(message, wParam, lParam);
     window->own_->erase(handle);
     window->handle_ = nullptr;
-    --windowCount;
     return answer;
 }
 

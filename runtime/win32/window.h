@@ -50,8 +50,6 @@ class Window {
     static Window* Of(HWND handle);
     /// The Life that is held while the window answers a message, or null.
     Life* GetLife() const { return life_; }
-    /// Returns the number of this library's windows in the process.
-    static int Count();
 
     /// Reports whether the object still exists after a call that may have destroyed it, as every
     /// notification may. The watches of one window end in the reverse order of their creation.

@@ -5,9 +5,9 @@
 
 #include "frame/runtime_error.h"
 #include "runtime/ole/class_factory.h"
-#include "runtime/ole/font_maker.h"
-#include "runtime/ole/property_bag.h"
-#include "runtime/ole/result.h"
+#include "runtime/ole/values/font_maker.h"
+#include "runtime/ole/values/property_bag.h"
+#include "runtime/ole/values/result.h"
 #include "runtime/win32/pixels.h"
 #include "tests/contract/windows_user.h"
 #include "tests/ole/container/bag.h"

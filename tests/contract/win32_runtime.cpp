@@ -25,8 +25,8 @@ class Win32Runtime final : public WindowsUser {
         control_->Hosted().SetSize(Pixels(width, height));
     }
     void Repaint() override {
-        InvalidateRect(control_->Hosted().Window(), nullptr, FALSE);
-        UpdateWindow(control_->Hosted().Window());
+        InvalidateRect(control_->Hosted().Handle(), nullptr, FALSE);
+        UpdateWindow(control_->Hosted().Handle());
     }
     void Save(host::PropertyBag& bag) override { control_->Hosted().Save(bag); }
     void SetEventHandler(EventHandler handler) override {
@@ -59,7 +59,7 @@ class Win32Runtime final : public WindowsUser {
         control_ = std::make_unique<testing::FormControl>(form_, type, Pixels(3000, 1500));
     }
     HWND FormWindow() override { return form_.Window(); }
-    HWND ControlWindow() override { return control_->Hosted().Window(); }
+    HWND ControlWindow() override { return control_->Hosted().Handle(); }
 
     testing::WindowsForm form_;
     std::unique_ptr<testing::FormControl> control_;

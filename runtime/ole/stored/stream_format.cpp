@@ -119,7 +119,7 @@ struct ValueWriter {
         Tag(Kind::Text);
         writer.Characters(value);
     }
-    void operator()(const FontAttributes& font) const {
+    void operator()(const FontRecord& font) const {
         Tag(Kind::Font);
         writer.Characters(font.name);
         writer.Number(static_cast<std::uint64_t>(font.size));
@@ -134,8 +134,8 @@ struct ValueWriter {
     void Tag(Kind kind) const { writer.Number(static_cast<std::uint8_t>(kind)); }
 };
 
-FontAttributes ReadFont(Reader& reader) {
-    FontAttributes font;
+FontRecord ReadFont(Reader& reader) {
+    FontRecord font;
     font.name = reader.Characters();
     font.size = static_cast<std::int64_t>(reader.Number<std::uint64_t>());
     font.weight = static_cast<std::int16_t>(reader.Number<std::uint16_t>());
@@ -147,7 +147,7 @@ FontAttributes ReadFont(Reader& reader) {
     return font;
 }
 
-Setting::Value ReadValue(Reader& reader) {
+Record::Value ReadValue(Reader& reader) {
     switch (static_cast<Kind>(reader.Number<std::uint8_t>())) {
         case Kind::Empty:
             return std::monostate();
@@ -171,18 +171,18 @@ Setting::Value ReadValue(Reader& reader) {
 
 }  // namespace
 
-std::vector<std::uint8_t> Encode(const Settings& settings) {
-    Writer records;
-    for (const Setting& setting : settings) {
-        records.Characters(setting.name);
-        std::visit(ValueWriter{records}, setting.value);
+std::vector<std::uint8_t> Encode(const Records& records) {
+    Writer body;
+    for (const Record& record : records) {
+        body.Characters(record.name);
+        std::visit(ValueWriter{body}, record.value);
     }
     Writer all;
     all.bytes.assign(magic.begin(), magic.end());
     all.Number(version);
-    all.Number(static_cast<std::uint16_t>(settings.size()));
-    all.Number(static_cast<std::uint32_t>(records.bytes.size()));
-    all.bytes.insert(all.bytes.end(), records.bytes.begin(), records.bytes.end());
+    all.Number(static_cast<std::uint16_t>(records.size()));
+    all.Number(static_cast<std::uint32_t>(body.bytes.size()));
+    all.bytes.insert(all.bytes.end(), body.bytes.begin(), body.bytes.end());
     all.Number(CheckSum(all.bytes));
     return std::move(all.bytes);
 }
@@ -200,7 +200,7 @@ std::size_t EncodedRest(std::span<const std::uint8_t> header) {
     return static_cast<std::size_t>(reader.Number<std::uint32_t>()) + encodedCheckSize;
 }
 
-Settings Decode(std::span<const std::uint8_t> bytes) {
+Records Decode(std::span<const std::uint8_t> bytes) {
     if (bytes.size() < encodedHeaderSize + encodedCheckSize ||
         bytes.size() - encodedHeaderSize != EncodedRest(bytes.first(encodedHeaderSize))) {
         Refuse();
@@ -211,15 +211,15 @@ Settings Decode(std::span<const std::uint8_t> bytes) {
     }
     auto count = Reader(checked.subspan(magic.size() + sizeof version)).Number<std::uint16_t>();
     Reader reader(checked.subspan(encodedHeaderSize));
-    Settings settings;
+    Records records;
     for (; count > 0; --count) {
         Text name = reader.Characters();
-        settings.push_back({std::move(name), ReadValue(reader)});
+        records.push_back({std::move(name), ReadValue(reader)});
     }
     if (!reader.AtEnd()) {
         Refuse();
     }
-    return settings;
+    return records;
 }
 
 }  // namespace lumenkit::stored

@@ -25,7 +25,7 @@
 #include <span>
 #include <vector>
 
-#include "runtime/ole/stored/setting.h"
+#include "runtime/ole/stored/record.h"
 
 namespace lumenkit::stored {
 
@@ -34,7 +34,7 @@ class Corrupt : public std::exception {};
 
 /// Encodes at most 65535 settings. Throws std::bad_alloc for a text longer than the format can
 /// count.
-std::vector<std::uint8_t> Encode(const Settings& settings);
+std::vector<std::uint8_t> Encode(const Records& records);
 
 inline constexpr std::size_t encodedHeaderSize = 12;
 inline constexpr std::size_t encodedCheckSize = 4;
@@ -44,6 +44,6 @@ inline constexpr std::size_t encodedCheckSize = 4;
 std::size_t EncodedRest(std::span<const std::uint8_t> header);
 
 /// Throws Corrupt for anything that Encode did not produce.
-Settings Decode(std::span<const std::uint8_t> bytes);
+Records Decode(std::span<const std::uint8_t> bytes);
 
 }  // namespace lumenkit::stored

@@ -2,8 +2,8 @@
 
 #include <map>
 
-#include "runtime/ole/facet.h"
-#include "runtime/ole/variant.h"
+#include "runtime/ole/objects/facet.h"
+#include "runtime/ole/values/variant.h"
 
 namespace lumenkit::container {
 

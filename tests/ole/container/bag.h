@@ -4,7 +4,7 @@
 #include <memory>
 #include <string>
 
-#include "runtime/ole/variant.h"
+#include "runtime/ole/values/variant.h"
 #include "tests/ole/container/counted.h"
 
 namespace lumenkit::container {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "runtime/ole/ole_header.h"
+#include "runtime/ole/values/ole_header.h"
 
 namespace lumenkit::container {
 

@@ -3,7 +3,7 @@
 #include <array>
 
 #include "frame/automation/member_binding.h"
-#include "runtime/ole/dispatch.h"
+#include "runtime/ole/objects/dispatch.h"
 #include "tests/ole/container/site.h"
 
 namespace lumenkit::container {

@@ -4,7 +4,7 @@
 #include <stdexcept>
 
 #include "runtime/ole/entries.h"
-#include "runtime/ole/identifiers.h"
+#include "runtime/ole/module/identifiers.h"
 #include "runtime/win32/pixels.h"
 
 namespace lumenkit::container {

@@ -1,7 +1,7 @@
 #include <limits>
 
 #include "frame/runtime_error.h"
-#include "runtime/ole/dispatch_object.h"
+#include "runtime/ole/values/dispatch_object.h"
 #include "tests/unit/ole/ole_test.h"
 
 namespace lumenkit::ole {

@@ -1,4 +1,4 @@
-#include "runtime/ole/dual_interface.h"
+#include "runtime/ole/objects/dual_interface.h"
 
 #include <bit>
 

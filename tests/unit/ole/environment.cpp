@@ -1,7 +1,7 @@
 // Initializes COM on the thread of the tests.
 #include <gtest/gtest.h>
 
-#include "runtime/ole/ole_header.h"
+#include "runtime/ole/values/ole_header.h"
 
 namespace {
 

@@ -4,6 +4,7 @@
 
 #include "runtime/win32/window.h"
 #include "tests/ole/string_cache.h"
+#include "tests/support/window_count.h"
 #include "tests/unit/ole/ole_test.h"
 
 namespace lumenkit::ole {
@@ -85,7 +86,7 @@ TEST_F(LeakTest, TenThousandControlsLeaveNothing) {
                                                                              : u"VOptList");
         Late(control).Put(L"Enabled", false);
     }
-    EXPECT_EQ(win32::Window::Count(), 0);
+    EXPECT_EQ(testing::WindowCount(), 0);
     EXPECT_LT(GetGuiResources(GetCurrentProcess(), GR_GDIOBJECTS), 500U);
 }
 

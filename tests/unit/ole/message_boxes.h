@@ -3,7 +3,7 @@
 #include <string>
 #include <vector>
 
-#include "runtime/ole/ole_header.h"
+#include "runtime/ole/values/ole_header.h"
 
 namespace lumenkit::ole {
 

@@ -4,15 +4,21 @@
 #include <gtest/gtest.h>
 
 #include "project/lumenkit_classes.h"
-#include "runtime/ole/basic_string.h"
 #include "runtime/ole/entries.h"
-#include "runtime/ole/identifiers.h"
-#include "runtime/ole/live_objects.h"
-#include "runtime/ole/variant.h"
+#include "runtime/ole/module/identifiers.h"
+#include "runtime/ole/objects/component.h"
+#include "runtime/ole/values/basic_string.h"
+#include "runtime/ole/values/variant.h"
 #include "tests/ole/container/site.h"
 #include "tests/unit/ole/message_boxes.h"
 
 namespace lumenkit::ole {
+
+/// Returns the number of objects of the table's classes, class factories included, that clients
+/// hold.
+inline int LiveObjects(const ClassTable& classes) {
+    return Component::Of(classes).LiveObjects();
+}
 
 using Lines = container::CallLog::Lines;
 

@@ -1,6 +1,6 @@
 #include <random>
 
-#include "runtime/ole/persist_stream.h"
+#include "runtime/ole/control/persist_stream.h"
 #include "runtime/ole/stored/stream_format.h"
 #include "tests/ole/container/bag.h"
 #include "tests/support/sealed_stream.h"

@@ -1,11 +1,11 @@
-#include "runtime/ole/site_extender.h"
+#include "runtime/ole/control/site_extender.h"
 
 #include "frame/runtime_error.h"
-#include "runtime/ole/active_object.h"
-#include "runtime/ole/data_object.h"
-#include "runtime/ole/in_place_object.h"
-#include "runtime/ole/ole_object.h"
-#include "runtime/ole/root.h"
+#include "runtime/ole/control/active_object.h"
+#include "runtime/ole/control/data_object.h"
+#include "runtime/ole/control/in_place_object.h"
+#include "runtime/ole/control/ole_object.h"
+#include "runtime/ole/objects/root.h"
 #include "tests/unit/ole/ole_test.h"
 
 namespace lumenkit::ole {

@@ -5,6 +5,7 @@
 
 #include "frame/runtime_error.h"
 #include "tests/contract/probe_control.h"
+#include "tests/support/window_count.h"
 #include "tests/unit/win32/parts_form.h"
 
 namespace lumenkit::win32 {
@@ -87,7 +88,7 @@ TEST_F(EmbeddedControlTest, LiesBehindWhatWasMadeBefore) {
 }
 
 TEST_F(EmbeddedControlTest, OutlivesTheWindowAroundIt) {
-    const int before = Window::Count();
+    const int before = testing::WindowCount();
     auto picture = Parts().AddPictureBox({.name = u"P"});
     auto control = Embed(
         {.name = u"Inner", .parent = picture.get(), .placement = {.width = 600, .height = 300}});
@@ -98,7 +99,7 @@ TEST_F(EmbeddedControlTest, OutlivesTheWindowAroundIt) {
     control->Refresh();
     EXPECT_EQ(control->Place().width, 900);
     control.reset();
-    EXPECT_EQ(Window::Count(), before);
+    EXPECT_EQ(testing::WindowCount(), before);
 }
 
 TEST_F(EmbeddedControlTest, HasTheSurroundingsOfADesignedForm) {

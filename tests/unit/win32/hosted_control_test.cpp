@@ -13,6 +13,7 @@
 #include "runtime/win32/keyboard.h"
 #include "runtime/win32/window.h"
 #include "tests/support/picture.h"
+#include "tests/support/window_count.h"
 #include "tests/support/windows_form.h"
 #include "tests/unit/win32/painted_control.h"
 
@@ -36,7 +37,7 @@ class HostedControlTest : public ::testing::Test {
     win32::HostedControl& Hosted() { return control_->Hosted(); }
     host::Surface& Surface() { return Hosted().Drawing(); }
     host::Constituents& Parts() { return Hosted().Host().constituents; }
-    HWND Window() { return Hosted().Window(); }
+    HWND Window() { return Hosted().Handle(); }
     Lines Take() { return std::exchange(Painted().lines, {}); }
 
     void Send(UINT message, WPARAM keys, int x, int y) {
@@ -144,14 +145,14 @@ TEST_F(HostedControlTest, ShowsOnlyWhatIsNotClipped) {
 
 TEST_F(HostedControlTest, RefusesWhatIsNoControl) {
     const ClassDescriptor page = {.name = u"Page", .kind = ClassKind::PropertyPage};
-    const int windows = win32::Window::Count();
+    const int windows = WindowCount();
     try {
         const FormControl refused(form_, page, startSize);
         FAIL();
     } catch (const RuntimeError& error) {
         EXPECT_EQ(error.Number(), 429);
     }
-    EXPECT_EQ(win32::Window::Count(), windows);
+    EXPECT_EQ(WindowCount(), windows);
 }
 
 TEST_F(HostedControlTest, OutlivesItsWindow) {
@@ -175,7 +176,7 @@ TEST_F(HostedControlTest, OutlivesItsWindow) {
     Surface().Print(u"text");
     Surface().Refresh();
     Picture picture(50, 50);
-    Hosted().Draw(picture.Device(), {0, 0, 50, 50});
+    Hosted().DrawOn(picture.Device(), {0, 0, 50, 50});
     EXPECT_EQ(Hosted().Size().cx, 10);
 }
 
@@ -188,14 +189,14 @@ TEST_F(HostedControlTest, DrawsItsConstituentsToo) {
     label->SetBackColor(Rgb(255, 0, 0));
     Hosted().Detach();
     Picture plain(startSize.cx, startSize.cy);
-    Hosted().Draw(plain.Device(), {0, 0, startSize.cx, startSize.cy});
+    Hosted().DrawOn(plain.Device(), {0, 0, startSize.cx, startSize.cy});
     EXPECT_EQ(plain.Count(RGB(255, 0, 0)), 30 * 20);
     EXPECT_EQ(plain.Count(RGB(255, 0, 0), {20, 20, 50, 40}), 30 * 20);
     Picture large(startSize.cx * 2, startSize.cy * 2);
-    Hosted().Draw(large.Device(), {0, 0, startSize.cx * 2, startSize.cy * 2});
+    Hosted().DrawOn(large.Device(), {0, 0, startSize.cx * 2, startSize.cy * 2});
     EXPECT_EQ(large.Count(RGB(255, 0, 0), {40, 40, 100, 80}), 60 * 40);
     label->SetVisible(false);
-    Hosted().Draw(plain.Device(), {0, 0, startSize.cx, startSize.cy});
+    Hosted().DrawOn(plain.Device(), {0, 0, startSize.cx, startSize.cy});
     EXPECT_EQ(plain.Count(RGB(255, 0, 0)), 0);
 }
 
@@ -456,7 +457,7 @@ TEST(Mnemonics, AreMarkedOnce) {
 
 TEST_F(HostedControlTest, LeavesNothingBehind) {
     control_.reset();
-    const int windows = win32::Window::Count();
+    const int windows = WindowCount();
     const int fonts = win32::ScreenFont::Count();
     const DWORD handles = GetGuiResources(GetCurrentProcess(), GR_GDIOBJECTS);
     for (int round = 0; round < 1000; ++round) {
@@ -470,10 +471,10 @@ TEST_F(HostedControlTest, LeavesNothingBehind) {
         };
         Surface().Refresh();
         Picture picture(30, 30);
-        Hosted().Draw(picture.Device(), {0, 0, 30, 30});
+        Hosted().DrawOn(picture.Device(), {0, 0, 30, 30});
         control_.reset();
     }
-    EXPECT_EQ(win32::Window::Count(), windows);
+    EXPECT_EQ(WindowCount(), windows);
     EXPECT_EQ(win32::ScreenFont::Count(), fonts);
     EXPECT_EQ(GetGuiResources(GetCurrentProcess(), GR_GDIOBJECTS), handles);
 }

@@ -12,6 +12,7 @@
 #include "runtime/win32/screen_font.h"
 #include "runtime/win32/window.h"
 #include "tests/support/picture.h"
+#include "tests/support/window_count.h"
 #include "tests/support/windows_form.h"
 
 namespace lumenkit::testing {
@@ -77,19 +78,19 @@ TEST_F(HostedPageTest, IsAsLargeAsItIsLaidOut) {
 TEST_F(HostedPageTest, ComesHiddenAndGoes) {
     const auto page = NewPage();
     page->Attach(form_.Window(), {5, 6, 205, 306});
-    EXPECT_EQ(GetParent(page->Window()), form_.Window());
-    EXPECT_EQ(IsWindowVisible(page->Window()), FALSE);
+    EXPECT_EQ(GetParent(page->Handle()), form_.Window());
+    EXPECT_EQ(IsWindowVisible(page->Handle()), FALSE);
     page->SetVisible(true);
-    EXPECT_NE(IsWindowVisible(page->Window()), FALSE);
+    EXPECT_NE(IsWindowVisible(page->Handle()), FALSE);
     page->Place({0, 0, 33, 44});
     RECT place = {};
-    GetWindowRect(page->Window(), &place);
+    GetWindowRect(page->Handle(), &place);
     EXPECT_EQ(place.right - place.left, 33);
     page->Detach();
-    EXPECT_EQ(IsWindowVisible(page->Window()), FALSE);
-    EXPECT_NE(GetParent(page->Window()), form_.Window());
+    EXPECT_EQ(IsWindowVisible(page->Handle()), FALSE);
+    EXPECT_NE(GetParent(page->Handle()), form_.Window());
     page->SetVisible(true);
-    EXPECT_EQ(IsWindowVisible(page->Window()), FALSE);
+    EXPECT_EQ(IsWindowVisible(page->Handle()), FALSE);
 }
 
 TEST_F(HostedPageTest, EditsTheSelectedControl) {
@@ -97,7 +98,7 @@ TEST_F(HostedPageTest, EditsTheSelectedControl) {
     page->GetPage().PropertyPage_SelectionChanged();
     page->Attach(form_.Window(), {0, 0, page->Size().cx, page->Size().cy});
     page->SetVisible(true);
-    const HWND box = Child(page->Window(), L"EDIT");
+    const HWND box = Child(page->Handle(), L"EDIT");
     wchar_t text[100] = L"";
     GetWindowTextW(box, text, 100);
     EXPECT_STREQ(text, L"|B:1|the label's");
@@ -121,7 +122,7 @@ TEST_F(HostedPageTest, TabGoesThroughThePageAndThenOn) {
         message.wParam = VK_TAB;
         return page->TranslateKey(message);
     };
-    SetFocus(Child(page->Window(), L"EDIT"));
+    SetFocus(Child(page->Handle(), L"EDIT"));
     int stops = 1;
     for (; tab(); ++stops) {
         ASSERT_LT(stops, 20);
@@ -137,8 +138,8 @@ TEST_F(HostedPageTest, TabGoesThroughThePageAndThenOn) {
 TEST_F(HostedPageTest, OutlivesItsWindow) {
     const auto page = NewPage();
     page->Attach(form_.Window(), {0, 0, 100, 100});
-    DestroyWindow(page->Window());
-    EXPECT_EQ(page->Window(), nullptr);
+    DestroyWindow(page->Handle());
+    EXPECT_EQ(page->Handle(), nullptr);
     page->SetVisible(true);
     page->Place({0, 0, 5, 5});
     page->Attach(form_.Window(), {0, 0, 5, 5});
@@ -160,7 +161,7 @@ TEST_F(HostedPageTest, RefusesWhatIsNoPage) {
 // Whether the control draws anything other than its background.
 bool ShowsSomething(win32::HostedControl& control) {
     Picture picture(labelSize.cx, labelSize.cy);
-    control.Draw(picture.Device(), {0, 0, labelSize.cx, labelSize.cy});
+    control.DrawOn(picture.Device(), {0, 0, labelSize.cx, labelSize.cy});
     const COLORREF background = picture.At(labelSize.cx - 30, labelSize.cy - 30);
     return picture.Count(background) < labelSize.cx * labelSize.cy;
 }
@@ -179,33 +180,33 @@ TEST_P(Products, AreShownSavedAndShownAgain) {
     EXPECT_TRUE(ShowsSomething(again.Hosted()));
     again.Hosted().Detach();
     EXPECT_TRUE(ShowsSomething(again.Hosted())) << "while it is parked too";
-    DestroyWindow(control.Hosted().Window());
+    DestroyWindow(control.Hosted().Handle());
     control.Hosted().Save(bag);
     EXPECT_TRUE(form_.GetLog().Messages().empty());
 }
 
 TEST_P(Products, LeaveNothingBehind) {
-    const int windows = win32::Window::Count();
+    const int windows = WindowCount();
     const int fonts = win32::ScreenFont::Count();
     for (int round = 0; round < 250; ++round) {
         FormControl control(form_, Class(GetParam()), labelSize);
         control.Start();
         control.Hosted().Focus();
-        UpdateWindow(control.Hosted().Window());
+        UpdateWindow(control.Hosted().Handle());
     }
-    EXPECT_EQ(win32::Window::Count(), windows);
+    EXPECT_EQ(WindowCount(), windows);
     EXPECT_LE(win32::ScreenFont::Count(), fonts + 10) << "some are kept for the next";
 }
 
 TEST_F(HostedPageTest, LeavesNothingBehind) {
-    const int windows = win32::Window::Count();
+    const int windows = WindowCount();
     for (int round = 0; round < 100; ++round) {
         const auto page = NewPage();
         page->Attach(form_.Window(), {0, 0, 400, 300});
         page->GetPage().PropertyPage_SelectionChanged();
         page->SetVisible(true);
     }
-    EXPECT_EQ(win32::Window::Count(), windows);
+    EXPECT_EQ(WindowCount(), windows);
 }
 
 }  // namespace

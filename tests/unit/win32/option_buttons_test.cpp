@@ -4,6 +4,7 @@
 #include <memory>
 #include <utility>
 
+#include "tests/support/window_count.h"
 #include "tests/unit/win32/parts_form.h"
 
 namespace lumenkit::win32 {
@@ -221,7 +222,7 @@ TEST_F(OptionButtonsWindowTest, ADisabledFrameGivesTheFocusAway) {
 }
 
 TEST_F(OptionButtonsWindowTest, AThousandAreThere) {
-    const int before = Window::Count();
+    const int before = testing::WindowCount();
     const auto start = GetTickCount64();
     for (std::int16_t index = 4; index < 1000; ++index) {
         options_->Load(index);
@@ -230,11 +231,11 @@ TEST_F(OptionButtonsWindowTest, AThousandAreThere) {
         options_->Item(index).Move({.top = 300.0F * index, .width = 1500, .height = 300});
     }
     EXPECT_LT(GetTickCount64() - start, 30000U) << "far more than it takes";
-    EXPECT_EQ(Window::Count(), before + 996);
+    EXPECT_EQ(testing::WindowCount(), before + 996);
     options_->Item(999).Select(true);
     EXPECT_TRUE(IsChecked(999));
     options_.reset();
-    EXPECT_EQ(Window::Count(), before - 4);
+    EXPECT_EQ(testing::WindowCount(), before - 4);
 }
 
 }  // namespace

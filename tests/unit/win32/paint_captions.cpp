@@ -39,17 +39,18 @@ void PaintOne(WindowsForm& form, const Text& caption, Picture& picture, int top)
     label.Let(u"BulletIndent", std::int16_t{240});
     label.Let(u"WordWrap", true);
     label.Let(u"Caption", caption);
-    UpdateWindow(control.Hosted().Window());
-    const HDC screen = GetDC(control.Hosted().Window());
+    UpdateWindow(control.Hosted().Handle());
+    const HDC screen = GetDC(control.Hosted().Handle());
     BitBlt(picture.Device(), gap, top, labelSize.cx, labelSize.cy, screen, 0, 0, SRCCOPY);
-    ReleaseDC(control.Hosted().Window(), screen);
+    ReleaseDC(control.Hosted().Handle(), screen);
     const int second = gap * 2 + labelSize.cx;
     const int larger = labelSize.cx * 3 / 2;
-    control.Hosted().Draw(picture.Device(),
-                          {second, top, second + larger, top + labelSize.cy * 3 / 2});
+    control.Hosted().DrawOn(picture.Device(),
+                            {second, top, second + larger, top + labelSize.cy * 3 / 2});
     label.Let(u"BorderStyle", std::int16_t{1});
     const int third = second + larger + gap;
-    control.Hosted().Draw(picture.Device(), {third, top, third + labelSize.cx, top + labelSize.cy});
+    control.Hosted().DrawOn(picture.Device(),
+                            {third, top, third + labelSize.cx, top + labelSize.cy});
 }
 
 }  // namespace

@@ -45,7 +45,7 @@ class PartsTest : public ::testing::Test {
     lumenkit::testing::WindowsForm form_;
     std::unique_ptr<Panel> panel_ =
         std::make_unique<Panel>(GetModuleHandleW(nullptr), form_.Window());
-    Constituents parts_{form_.Context(), *panel_, true};
+    Constituents parts_{{form_.Context(), *panel_, true}, &EmbedControl};
 };
 
 /// Presses and releases a key. In between, sends its character if it has one.

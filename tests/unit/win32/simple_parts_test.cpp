@@ -4,6 +4,7 @@
 
 #include "frame/host/simple_constituents.h"
 #include "runtime/win32/pixels.h"
+#include "tests/support/window_count.h"
 #include "tests/unit/win32/parts_form.h"
 
 namespace lumenkit::win32 {
@@ -107,7 +108,7 @@ TEST_F(SimplePartsTest, ParentsMustBeOfThisRuntime) {
 }
 
 TEST_F(SimplePartsTest, MayBeDestroyedInAnyOrder) {
-    const int before = Window::Count();
+    const int before = testing::WindowCount();
     auto picture = Parts().AddPictureBox({.name = u"P"});
     auto frame = Parts().AddFrame({{.name = u"F", .parent = picture.get()}, u"f"});
     auto button =
@@ -123,7 +124,7 @@ TEST_F(SimplePartsTest, MayBeDestroyedInAnyOrder) {
     label->SetAutoSize(true);
     label->SetCaption(u"no window");
     label.reset();
-    EXPECT_EQ(Window::Count(), before - 1);
+    EXPECT_EQ(testing::WindowCount(), before - 1);
 }
 
 // ---- Labels

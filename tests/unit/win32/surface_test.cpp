@@ -27,7 +27,7 @@ class SurfaceTest : public ::testing::Test {
 
     PaintedControl& Painted() { return *PaintedControl::Last(); }
     host::Surface& Surface() { return control_.Hosted().Drawing(); }
-    HWND Window() { return control_.Hosted().Window(); }
+    HWND Window() { return control_.Hosted().Handle(); }
     float Pixels(int count) { return win32::ToTwips(count, form_.PixelsPerInch().x); }
 
     // OnScreen() returns the picture in the window. Drawn() draws on another device.
@@ -41,7 +41,7 @@ class SurfaceTest : public ::testing::Test {
     }
     std::unique_ptr<Picture> Drawn(SIZE scaled = paintedSize) {
         auto picture = std::make_unique<Picture>(scaled.cx, scaled.cy);
-        control_.Hosted().Draw(picture->Device(), {0, 0, scaled.cx, scaled.cy});
+        control_.Hosted().DrawOn(picture->Device(), {0, 0, scaled.cx, scaled.cy});
         return picture;
     }
     void PaintBy(std::function<void(host::Surface&)> paint) {
@@ -181,7 +181,7 @@ TEST_F(SurfaceTest, DrawsAtAnyScaleAndPlace) {
     EXPECT_EQ(Drawn({100, 50})->Count(red), 25);
     Picture picture(300, 300);
     picture.Fill(blue);
-    control_.Hosted().Draw(picture.Device(), {50, 60, 250, 160});
+    control_.Hosted().DrawOn(picture.Device(), {50, 60, 250, 160});
     EXPECT_EQ(picture.Count(red, {60, 80, 70, 90}), 100);
     EXPECT_EQ(picture.Count(blue), 300 * 300 - paintedSize.cx * paintedSize.cy)
         << "nothing beside its place";
@@ -213,8 +213,8 @@ TEST_F(SurfaceTest, DrawsInUnitsThatRunUpwards) {
     SetMapMode(picture.Device(), MM_HIMETRIC);
     POINT corners[2] = {{0, 0}, {paintedSize.cx, paintedSize.cy}};
     DPtoLP(picture.Device(), corners, 2);
-    control_.Hosted().Draw(picture.Device(),
-                           {corners[0].x, corners[0].y, corners[1].x, corners[1].y});
+    control_.Hosted().DrawOn(picture.Device(),
+                             {corners[0].x, corners[0].y, corners[1].x, corners[1].y});
     EXPECT_EQ(picture.At(100, 20), red);
     EXPECT_NE(picture.At(100, 80), red);
     EXPECT_EQ(GetMapMode(picture.Device()), MM_HIMETRIC);
@@ -239,7 +239,7 @@ TEST_F(SurfaceTest, DrawsIntoAMetafile) {
         surface.Print(u"text");
     });
     const HDC recorder = CreateEnhMetaFileW(nullptr, nullptr, nullptr, nullptr);
-    control_.Hosted().Draw(recorder, {0, 0, paintedSize.cx, paintedSize.cy});
+    control_.Hosted().DrawOn(recorder, {0, 0, paintedSize.cx, paintedSize.cy});
     const HENHMETAFILE file = CloseEnhMetaFile(recorder);
     int texts = 0;
     EnumEnhMetaFile(nullptr, file, &CountTextsOfFour, &texts, nullptr);
@@ -254,7 +254,7 @@ TEST_F(SurfaceTest, DrawsIntoAnOldMetafileAsContainersKeepIt) {
     const HDC recorder = CreateMetaFileW(nullptr);
     SetWindowOrgEx(recorder, 0, 0, nullptr);
     SetWindowExtEx(recorder, paintedSize.cx, paintedSize.cy, nullptr);
-    control_.Hosted().Draw(recorder, {0, 0, paintedSize.cx, paintedSize.cy});
+    control_.Hosted().DrawOn(recorder, {0, 0, paintedSize.cx, paintedSize.cy});
     const HMETAFILE file = CloseMetaFile(recorder);
     Picture picture(paintedSize.cx * 2, paintedSize.cy * 2);
     SaveDC(picture.Device());

@@ -4,6 +4,7 @@
 #include <memory>
 #include <utility>
 
+#include "tests/support/window_count.h"
 #include "tests/unit/win32/parts_form.h"
 
 namespace lumenkit::win32 {
@@ -545,7 +546,7 @@ TEST_F(TextBoxTest, MayBeDestroyedByWhateverItNotifies) {
         {"mousemove 0 0", [](HWND window) { SendMessageW(window, WM_MOUSEMOVE, 0, 0); }},
         {"dblclick", [](HWND window) { SendMessageW(window, WM_LBUTTONDBLCLK, 1, 0); }},
     };
-    const int before = Window::Count();
+    const int before = testing::WindowCount();
     for (const bool multiLine : {true, false}) {
         for (const Case& one : cases) {
             Box(u"text", multiLine);
@@ -570,7 +571,7 @@ TEST_F(TextBoxTest, MayBeDestroyedByWhateverItNotifies) {
             recorder_.Take();
         }
     }
-    EXPECT_EQ(Window::Count(), before);
+    EXPECT_EQ(testing::WindowCount(), before);
 }
 
 TEST_F(TextBoxTest, MayBeDestroyedByAnAssignment) {

@@ -1,0 +1,28 @@
+#pragma once
+
+#include <utility>
+
+#include "frame/host/property_bag.h"
+#include "runtime/ole/stored/record.h"
+
+namespace lumenkit::ole {
+
+/// A control's settings as they are written to a stream. It is also the bag that the control reads
+/// them from and writes them to. The case of names does not matter. A font is stored by its
+/// attributes; each read returns a new font.
+class StoredProperties final : public host::PropertyBag {
+ public:
+    StoredProperties() = default;
+    explicit StoredProperties(stored::Records records) : records_(std::move(records)) {}
+
+    Value ReadProperty(TextView name, const Value& defaultValue) override;
+    /// Raises 13 for an object that is not a font, and for Null and Missing.
+    void WriteProperty(TextView name, const Value& value, const Value& defaultValue) override;
+
+    const stored::Records& GetRecords() const { return records_; }
+
+ private:
+    stored::Records records_;
+};
+
+}  // namespace lumenkit::ole
