@@ -25,6 +25,7 @@ struct CaptionDrawing {
     float BeforeSpacing = 0;        ///< added to it at explicit line ends, twips
     float MaxLineX = 0;             ///< largest X of the pen at the end of any line, twips
     std::int16_t IdealHeight = 0;   ///< Y of the pen after the last line, twips
+    /// True while a command is applied. Nothing reads it; it is a part of the documented state.
     bool InCommand = false;
 };
 

@@ -25,7 +25,7 @@ class VLabel final : public Control {
     Object& Automation() override { return automation_; }
 
     // Properties.
-    Color pGetBackColor() const { return BackColor_; }
+    Color pGetBackColor() const { return BackColor; }
     void pLetBackColor(Color color);
     Color pGetForeColor() const;
     void pLetForeColor(Color color);
@@ -47,9 +47,9 @@ class VLabel final : public Control {
     void pLetBulletIndent(std::int16_t indent);
     const Text& pGetBulletPrefix() const { return settings_.BulletPrefix; }
     void pLetBulletPrefix(TextView prefix);
-    bool pGetAutoSize() const { return AutoSize_; }
+    bool pGetAutoSize() const { return AutoSize; }
     void pLetAutoSize(bool autoSize);
-    std::int16_t pGetBackStyle() const { return BackStyle_; }
+    std::int16_t pGetBackStyle() const { return BackStyle; }
     void pLetBackStyle(std::int16_t style);
 
     // Methods.
@@ -101,12 +101,13 @@ class VLabel final : public Control {
     CaptionRenderer renderer_;
     TableObject automation_;
 
-    Color BackColor_ = Color::WindowBackground;
-    std::int16_t BackStyle_ = 0;
-    bool AutoSize_ = false;
+    Color BackColor = Color::WindowBackground;
+    std::int16_t BackStyle = 0;
+    bool AutoSize = false;
     /// False while properties are read: assignments then do not repaint.
-    bool IsReady_ = false;
-    /// False while Test assigns its caption.
+    bool IsReady = false;
+    /// False while Test assigns its caption. Nothing reads it; it is a part of the documented
+    /// state.
     bool NotTesting_ = false;
 };
 

@@ -74,7 +74,7 @@ VMemo::VMemo(const ControlHost& host)
                  BoxEvents(*this, 3)} {
     for (std::int16_t index = 0; index < boxCount; ++index) {
         const auto element = static_cast<std::size_t>(index);
-        text1_[element] = AddBox(host.constituents, index, boxEvents_[element]);
+        boxes_[element] = AddBox(host.constituents, index, boxEvents_[element]);
     }
 }
 
@@ -84,7 +84,7 @@ host::TextBox& VMemo::Text1(std::int32_t index) const {
     if (index < 0 || index >= boxCount) {
         Raise(ErrorNumber::NoSuchArrayElement);
     }
-    return *text1_[static_cast<std::size_t>(index)];
+    return *boxes_[static_cast<std::size_t>(index)];
 }
 
 template <typename Act>

@@ -151,7 +151,7 @@ class VMemo final : public Control {
 
     static constexpr std::int16_t boxCount = 4;
     std::array<BoxEvents, boxCount> boxEvents_;
-    std::array<std::unique_ptr<host::TextBox>, boxCount> text1_;
+    std::array<std::unique_ptr<host::TextBox>, boxCount> boxes_;
 };
 
 }  // namespace lumenkit
