@@ -4,7 +4,7 @@
 
 #include "frame/automation/raise_event.h"
 #include "frame/checked_integer.h"
-#include "frame/host/setting.h"
+#include "frame/persisted_property.h"
 #include "vlabel/vlabel_interface.h"
 
 namespace lumenkit {
@@ -14,19 +14,19 @@ namespace {
 // Names and default values are part of the file format; do not change them.
 namespace persisted {
 
-constexpr Setting<Color> backColor{u"BackColor", Color::WindowBackground};
-constexpr Setting<Color> foreColor{u"ForeColor", Color::ButtonText};
-constexpr Setting<bool> enabled{u"Enabled", true};
+constexpr PersistedProperty<Color> backColor{u"BackColor", Color::WindowBackground};
+constexpr PersistedProperty<Color> foreColor{u"ForeColor", Color::ButtonText};
+constexpr PersistedProperty<bool> enabled{u"Enabled", true};
 constexpr TextView font = u"Font";  // default: null, so it is always written
-constexpr Setting<std::int16_t> borderStyle{u"BorderStyle", 0};
-constexpr Setting<bool> fontTransparent{u"FontTransparent", true};
-constexpr Setting<std::int16_t> mousePointer{u"MousePointer", 0};
-constexpr TextSetting caption{u"Caption", u"VLabel"};
-constexpr Setting<bool> wordWrap{u"WordWrap", false};
-constexpr Setting<std::int16_t> bulletIndent{u"BulletIndent", 0};
-constexpr TextSetting bulletPrefix{u"BulletPrefix", u""};
-constexpr Setting<bool> autoSize{u"AutoSize", false};
-constexpr Setting<std::int16_t> backStyle{u"BackStyle", 0};
+constexpr PersistedProperty<std::int16_t> borderStyle{u"BorderStyle", 0};
+constexpr PersistedProperty<bool> fontTransparent{u"FontTransparent", true};
+constexpr PersistedProperty<std::int16_t> mousePointer{u"MousePointer", 0};
+constexpr PersistedText caption{u"Caption", u"VLabel"};
+constexpr PersistedProperty<bool> wordWrap{u"WordWrap", false};
+constexpr PersistedProperty<std::int16_t> bulletIndent{u"BulletIndent", 0};
+constexpr PersistedText bulletPrefix{u"BulletPrefix", u""};
+constexpr PersistedProperty<bool> autoSize{u"AutoSize", false};
+constexpr PersistedProperty<std::int16_t> backStyle{u"BackStyle", 0};
 
 }  // namespace persisted
 

@@ -2,6 +2,7 @@
 
 #include "frame/checked_integer.h"
 #include "frame/numbers.h"
+#include "frame/text_positions.h"
 #include "vlabelcaption/caption_shortcuts.h"
 #include "vlabelcaption/page_layout.h"
 #include "vlabelcaption/vlabelcaption_interface.h"

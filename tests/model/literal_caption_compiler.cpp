@@ -3,6 +3,7 @@
 #include "frame/checked_integer.h"
 #include "frame/numbers.h"
 #include "frame/runtime_error.h"
+#include "frame/text_positions.h"
 #include "tests/support/fake_reporter.h"
 
 namespace lumenkit::testing {

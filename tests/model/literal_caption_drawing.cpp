@@ -6,6 +6,7 @@
 #include "frame/checked_integer.h"
 #include "frame/numbers.h"
 #include "frame/runtime_error.h"
+#include "frame/text_positions.h"
 #include "tests/model/literal_caption_compiler.h"
 #include "tests/support/brief_report.h"
 

@@ -6,7 +6,7 @@
 
 #include <gmock/gmock.h>
 
-#include "frame/automation/object.h"
+#include "frame/automation/value.h"
 #include "frame/utf8.h"
 #include "tests/support/placed_label.h"
 
