@@ -5,7 +5,6 @@
 #include "frame/automation/raise_event.h"
 #include "frame/checked_integer.h"
 #include "frame/persisted_property.h"
-#include "vlabel/vlabel_interface.h"
 
 namespace lumenkit {
 

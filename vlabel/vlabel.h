@@ -4,19 +4,27 @@
 #include <cstdint>
 
 #include "frame/automation/interface_table.h"
+#include "frame/class_table.h"
 #include "frame/color.h"
 #include "frame/control.h"
 #include "frame/module.h"
 #include "frame/module_errors.h"
 #include "frame/text.h"
 #include "vlabel/caption_renderer.h"
-#include "vlabel/caption_settings.h"
-#include "vlabel/vlabel_interface.h"
 
 namespace lumenkit {
 
-/// The control. vlabel_interface.h documents the members. They report their own errors to the user
-/// and do not raise them; only an error that the container raises in a change notification can
+/// Identifiers of the events in the class's event table.
+enum class VLabelEvent : std::int32_t {
+    Click = 1,
+    DblClick = 2,
+    MouseDown = 3,
+    MouseMove = 4,
+    MouseUp = 5,
+};
+
+/// The control. vlabel_interface.cpp describes the members. They report their own errors to the
+/// user and do not raise them; only an error that the container raises in a change notification can
 /// propagate.
 class VLabel final : public Control {
  public:
@@ -110,5 +118,10 @@ class VLabel final : public Control {
     /// state.
     bool NotTesting_ = false;
 };
+
+// The published description of the class, in vlabel_interface.cpp.
+extern const InterfaceTable vlabelInterface;
+extern const EventTable vlabelEvents;
+extern const ClassDescriptor vlabelClass;
 
 }  // namespace lumenkit

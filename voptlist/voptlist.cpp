@@ -4,7 +4,6 @@
 
 #include "frame/persisted_property.h"
 #include "frame/raised_flag.h"
-#include "voptlist/voptlist_interface.h"
 
 namespace lumenkit {
 

@@ -1,6 +1,4 @@
 // The label's interface for clients: the listing of its members and events, and late binding.
-#include "vlabel/vlabel_interface.h"
-
 #include <functional>
 #include <string>
 
@@ -9,6 +7,7 @@
 #include "frame/automation/value.h"
 #include "frame/utf8.h"
 #include "tests/support/placed_label.h"
+#include "vlabel/vlabel.h"
 
 namespace lumenkit::testing {
 
