@@ -20,7 +20,6 @@
 #include "runtime/memory/hosted_control.h"
 #include "runtime/memory/metrics.h"
 #include "vlabel/vlabel.h"
-#include "vlabel/vlabel_interface.h"
 
 namespace {
 

@@ -13,7 +13,6 @@
 #include "runtime/memory/hosted_control.h"
 #include "voptlist/contents.h"
 #include "voptlist/voptlist.h"
-#include "voptlist/voptlist_interface.h"
 
 namespace {
 

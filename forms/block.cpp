@@ -172,8 +172,8 @@ bool Block::MoveControl(const Block& control, const Block* before) {
 void Block::Rename(TextView name) {
     constexpr TextView blanks = u" \t";
     constexpr TextView keyword = u"Begin";
-    const std::size_t behindKeyword = layout::IndentationOf(open_).size() + keyword.size();
-    const std::size_t classAt = open_.find_first_not_of(blanks, behindKeyword);
+    const std::size_t afterKeyword = layout::IndentationOf(open_).size() + keyword.size();
+    const std::size_t classAt = open_.find_first_not_of(blanks, afterKeyword);
     const std::size_t nameAt = open_.find_first_not_of(blanks, classAt + className_.size());
     Text renamed(name);
     open_.replace(nameAt, name_.size(), name);

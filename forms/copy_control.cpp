@@ -38,14 +38,15 @@ class Copying {
         if (copy.FindProperty(original.Name()) != nullptr) {
             return;  // of several properties with the same name, the first one counts
         }
-        Property& property = copy.Set(original.Name(), Carried(original));
-        const bool hasOne = std::holds_alternative<bool>(original.Literal());
-        if (!original.Comment().empty() && !hasOne) {
+        Property& property = copy.Set(original.Name(), CopiedLiteral(original));
+        // A Boolean writes its own comment.
+        const bool isBoolean = std::holds_alternative<bool>(original.Literal());
+        if (!original.Comment().empty() && !isBoolean) {
             property.AddComment(original.Comment());
         }
     }
 
-    Literal Carried(const Property& property) {
+    Literal CopiedLiteral(const Property& property) {
         const auto* reference = std::get_if<Reference>(&property.Literal());
         if (reference == nullptr || &from_ == &to_) {
             return property.Literal();

@@ -8,7 +8,6 @@
 
 #include "forms/literal.h"
 #include "forms/position.h"
-#include "forms/writer.h"
 #include "frame/utf8.h"
 
 namespace lumenkit::forms {
@@ -37,7 +36,7 @@ std::string FileNameOf(const std::string& path) {
     return separator == std::string::npos ? path : path.substr(separator + 1);
 }
 
-std::string DesignersCompanionName(const std::string& path) {
+std::string DefaultCompanionName(const std::string& path) {
     const std::string file = FileNameOf(path);
     const std::size_t dot = file.rfind('.');
     const std::string stem = file.substr(0, dot);
@@ -61,16 +60,17 @@ struct ChangedProperty {
 
 // Collects the references in `block` that must change to refer to `file`. The recursion is as deep
 // as the blocks are nested, which the parser and the editors limit.
-void LeadReferencesTo(const Text& file, const Block& block, std::vector<ChangedProperty>& led) {
+void CollectReferencesToChange(const Text& file, const Block& block,
+                               std::vector<ChangedProperty>& collected) {
     for (const Block::Item& item : block.Items()) {
         if (const auto* inner = std::get_if<std::unique_ptr<Block>>(&item)) {
-            LeadReferencesTo(file, **inner, led);
+            CollectReferencesToChange(file, **inner, collected);
         } else if (const auto* property = std::get_if<std::unique_ptr<Property>>(&item)) {
             const auto* reference = std::get_if<Reference>(&(*property)->Literal());
             if (reference != nullptr && reference->file != file) {
                 Property changed = **property;
                 changed.Set(Reference{file, reference->offset, reference->marked});
-                led.push_back({**property, std::move(changed)});
+                collected.push_back({**property, std::move(changed)});
             }
         }
     }
@@ -118,7 +118,7 @@ Document::Document(std::string name, Encoding encoding, ParsedForm form)
     : name_(std::move(name)),
       encoding_(std::move(encoding)),
       form_(std::move(form)),
-      companionName_(form_.references.empty() ? DesignersCompanionName(name_)
+      companionName_(form_.references.empty() ? DefaultCompanionName(name_)
                                               : ToUtf8(form_.references.front().reference.file)) {}
 
 void Document::Fail(Position position, const std::string& text) const {
@@ -213,7 +213,7 @@ Reference Document::AddRecord(std::string_view record) {
 }
 
 void Document::Rename(std::string name) {
-    UseCompanion(DesignersCompanionName(name));
+    UseCompanion(DefaultCompanionName(name));
     name_ = std::move(name);
 }
 
@@ -225,14 +225,14 @@ void Document::RenameForm(TextView name) {
 
 void Document::UseCompanion(std::string name) {
     const Text file = FromUtf8(name);
-    std::vector<ChangedProperty> led;
-    LeadReferencesTo(file, *form_.root, led);
+    std::vector<ChangedProperty> redirected;
+    CollectReferencesToChange(file, *form_.root, redirected);
     std::vector<PlacedReference> references = form_.references;
     for (PlacedReference& placed : references) {
         placed.reference.file = file;
     }
     // The following statements cannot fail.
-    for (ChangedProperty& replacement : led) {
+    for (ChangedProperty& replacement : redirected) {
         replacement.property = std::move(replacement.changed);
     }
     form_.references = std::move(references);

@@ -13,15 +13,10 @@
 #include "forms/form_error.h"
 #include "forms/parser.h"
 #include "forms/property.h"
+#include "forms/writer.h"
 #include "frame/text.h"
 
 namespace lumenkit::forms {
-
-/// The bytes of a form and of its companion.
-struct FormBytes {
-    std::string form;
-    std::string companion;
-};
 
 /// Returns the bytes of the companion, given as a plain file name in the folder of the form. Called
 /// at most once, and only if the form refers to a companion. Its exceptions propagate to the caller

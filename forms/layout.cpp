@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "frame/text_positions.h"
+
 namespace lumenkit::forms::layout {
 
 Text PropertyPrefix(TextView indentation, TextView name) {

@@ -4,13 +4,19 @@
 #include <string>
 
 #include "forms/block.h"
-#include "forms/document.h"
 #include "forms/encoding.h"
+#include "forms/form_error.h"
 #include "forms/parser.h"
 #include "forms/property.h"
 #include "frame/text.h"
 
 namespace lumenkit::forms {
+
+/// The bytes of a form and of its companion.
+struct FormBytes {
+    std::string form;
+    std::string companion;
+};
 
 /// Writes one form. `name` is the name of the form in error messages.
 class FormWriter {

@@ -1,7 +1,7 @@
 // The objects that a container drives: user controls and property pages.
 #pragma once
 
-#include "frame/automation/object.h"
+#include "frame/automation/value.h"
 #include "frame/host/ambient.h"
 #include "frame/host/application.h"
 #include "frame/host/constituents.h"

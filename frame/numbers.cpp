@@ -230,44 +230,21 @@ TextView WithoutSpaceAround(TextView text) {
     return text;
 }
 
-// `image` is a number without a sign, "d[.ddd]e±xx". Trailing zeros of its digits are dropped.
-void AppendUnsigned(Text& text, std::string_view image, int firstExponent) {
-    const std::size_t mark = image.find('e');
-    std::string_view exponentImage = image.substr(mark + 1);
-    exponentImage.remove_prefix(exponentImage.front() == '+' ? 1 : 0);
-    int exponent = 0;
-    std::from_chars(exponentImage.data(), exponentImage.data() + exponentImage.size(), exponent);
+using Image = std::array<char, 48>;
 
-    std::array<char16_t, 32> digits{};
-    int count = 0;
-    for (const char character : image.substr(0, mark)) {
-        if (character != '.') {
-            digits[static_cast<std::size_t>(count++)] = static_cast<char16_t>(character);
-        }
-    }
-    while (count > 1 && digits[static_cast<std::size_t>(count - 1)] == u'0') {
-        --count;
-    }
-    const auto appendDigits = [&](int from, int to) {
-        for (int i = from; i < to; ++i) {
-            text += i < count ? digits[static_cast<std::size_t>(i)] : u'0';
-        }
-    };
-    if (exponent >= firstExponent || exponent < -4) {
-        appendDigits(0, 1);
-        text += count > 1 ? TextView(u".") : TextView();
-        appendDigits(1, count);
-        text += exponent < 0 ? TextView(u"E-") : TextView(u"E+");
-        text += std::abs(exponent) < 10 ? TextView(u"0") : TextView();
-        AppendDecimal(text, std::abs(exponent));
-    } else if (exponent >= 0) {
-        appendDigits(0, exponent + 1);
-        text += count > exponent + 1 ? TextView(u".") : TextView();
-        appendDigits(exponent + 1, count);
-    } else {
-        text += u'.';
-        text.append(static_cast<std::size_t>(-exponent - 1), u'0');
-        appendDigits(0, count);
+// Writes `number`, which is not negative, as std::to_chars does, but with an upper-case E.
+template <typename Number, typename... Precision>
+std::string_view Write(Image& image, Number number, std::chars_format format,
+                       Precision... precision) {
+    char* const end =
+        std::to_chars(image.data(), image.data() + image.size(), number, format, precision...).ptr;
+    std::replace(image.data(), end, 'e', 'E');
+    return {image.data(), end};
+}
+
+void Append(Text& text, std::string_view ascii) {
+    for (const char character : ascii) {
+        text += static_cast<char16_t>(character);
     }
 }
 
@@ -288,7 +265,7 @@ void AppendHundredths(Text& text, std::int32_t hundredths) {
 }
 
 template <typename Number>
-void AppendStrOf(Text& text, Number number, int firstExponent) {
+void AppendStrOf(Text& text, Number number) {
     // Fast path for the common case: a number with at most two decimals and up to four digits
     // before the point. Six digits that read back as the number are the fewest.
     constexpr Number most = 9'999;
@@ -298,31 +275,29 @@ void AppendStrOf(Text& text, Number number, int firstExponent) {
         AppendHundredths(text, hundredths);
         return;
     }
+    constexpr auto leastInFull = Number(1e-4);
+    constexpr auto leastTooLong = Number(sizeof(Number) == sizeof(float) ? 1e7 : 1e15);
+    const Number magnitude = std::abs(number);
+    const bool inFull = magnitude >= leastInFull && magnitude < leastTooLong;
+    Image image{};
+    std::string_view digits =
+        Write(image, magnitude, inFull ? std::chars_format::fixed : std::chars_format::scientific);
+    digits.remove_prefix(digits.starts_with("0.") ? 1 : 0);
     text += number < 0 ? u'-' : blank;
-    std::array<char, 48> image{};
-    const auto end = std::to_chars(image.data(), image.data() + image.size(), std::abs(number),
-                                   std::chars_format::scientific);
-    AppendUnsigned(text, {image.data(), end.ptr}, firstExponent);
+    Append(text, digits);
 }
 
+// The general format uses an exponent for the same numbers as Str does.
 template <typename Number>
 Text NumberTextOf(Number number, int digits) {
     if (!std::isfinite(number)) {
         Raise(ErrorNumber::Overflow);
     }
-    std::array<char, 48> image{};
-    const auto end = std::to_chars(image.data(), image.data() + image.size(), std::abs(number),
-                                   std::chars_format::scientific, digits - 1);
-    Text text;
-    AppendUnsigned(text, {image.data(), end.ptr}, digits);
-    if (text.front() == u'.') {
-        text.insert(0, 1, u'0');
-    }
-    return number < 0 ? u'-' + text : text;
+    Image image{};
+    Text text(number < 0 ? 1 : 0, u'-');
+    Append(text, Write(image, std::abs(number), std::chars_format::general, digits));
+    return text;
 }
-
-constexpr int doubleDigits = 15;
-constexpr int singleDigits = 7;
 
 // Fast path for most numbers: a few digits, with or without a decimal point, followed by a comma, a
 // bar or the end.
@@ -370,11 +345,11 @@ std::optional<double> NumericValue(TextView text) {
 }
 
 void AppendStr(Text& text, double number) {
-    AppendStrOf(text, number, doubleDigits);
+    AppendStrOf(text, number);
 }
 
 void AppendStr(Text& text, float number) {
-    AppendStrOf(text, number, singleDigits);
+    AppendStrOf(text, number);
 }
 
 Text Str(double number) {
@@ -390,11 +365,11 @@ Text Str(float number) {
 }
 
 Text NumberText(double number) {
-    return NumberTextOf(number, doubleDigits);
+    return NumberTextOf(number, 15);
 }
 
 Text NumberText(float number) {
-    return NumberTextOf(number, singleDigits);
+    return NumberTextOf(number, 7);
 }
 
 void AppendDecimal(Text& text, std::int32_t number) {

@@ -2,10 +2,10 @@
 
 #include <array>
 
-#include "vlabel/vlabel_interface.h"
-#include "vlabelcaption/vlabelcaption_interface.h"
-#include "vmemo/vmemo_interface.h"
-#include "voptlist/voptlist_interface.h"
+#include "vlabel/vlabel.h"
+#include "vlabelcaption/vlabelcaption.h"
+#include "vmemo/vmemo.h"
+#include "voptlist/voptlist.h"
 
 namespace lumenkit {
 

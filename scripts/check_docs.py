@@ -3,7 +3,8 @@
 
 The target of a relative link or image must be a file of the tree, and its anchor a heading of that
 file. In code spans and shell code, the targets of "make" and the files named by their path from the
-top of the tree must exist. --self-test proves that the check can fail.
+top of the tree must exist. Under a heading "Name: folder" of docs/names.md, each name in a code span
+must occur in the sources of that folder. --self-test proves that the check can fail.
 """
 import re
 import subprocess
@@ -23,6 +24,9 @@ OUTSIDE = re.compile(r"^[a-z][a-z0-9+.-]*:", re.I)
 MAKE = re.compile(r"(?:^|[;&|]|\w=\S+)[ \t]*make((?:[ \t]+[\w=/.-]+)+)", re.M)
 TARGET = re.compile(r"^([a-z][\w-]*):", re.M)
 HEADING = re.compile(r"^#{1,6}\s+(.+?)\s*#*$", re.M)
+NAME = re.compile(r"[A-Za-z_]\w*")
+CLASS_HEADING = re.compile(r"^## [\w ]+: ([\w/]+)$", re.M)
+NAMES = "docs/names.md"
 PATH = re.compile(r"(?<![\w./~$-])[\w.-]+(?:/[\w.*-]+)+/?")
 
 
@@ -79,6 +83,19 @@ def path_faults(root, folders, code):
             yield f"{path}: there is no such file"
 
 
+def name_faults(root, text):
+    """Checks the names that a page lists for each folder against the sources of the folder."""
+    sections = CLASS_HEADING.split(text)[1:]
+    if not sections:
+        yield "lists no names"
+    for folder, section in zip(sections[::2], sections[1::2]):
+        sources = [path for suffix in ("h", "cpp") for path in (root / folder).rglob(f"*.{suffix}")]
+        words = {word for path in sources for word in NAME.findall(path.read_text("utf-8"))}
+        for span in CODE_SPAN.findall(section):
+            if NAME.fullmatch(span[1]) and span[1] not in words:
+                yield f"{span[1]}: does not occur in {folder}"
+
+
 def faults(root, documents, folders):
     targets = set(TARGET.findall((root / "Makefile").read_text("utf-8")))
     for document in documents:
@@ -90,6 +107,9 @@ def faults(root, documents, folders):
         for piece in code:
             for fault in (*make_faults(targets, piece), *path_faults(root, folders, piece)):
                 yield f"{document}: {fault}"
+    if NAMES in documents:
+        for fault in name_faults(root, (root / NAMES).read_text("utf-8")):
+            yield f"{NAMES}: {fault}"
 
 
 def listed(root):
@@ -138,6 +158,11 @@ def self_test():
                 (root / "README.md").write_text(text)
                 found = list(faults(root, ["README.md"], {"docs"}))
                 assert len(found) == expected, (text, found)
+        (root / "docs/a.h").write_text("void pGetA();\n")
+        for expected, text in ((0, "## A: docs\n`pGetA`\n"), (1, "## A: docs\n`pGetB`\n"), (1, "# A\n")):
+            (root / NAMES).write_text(text)
+            found = list(faults(root, [NAMES], {"docs"}))
+            assert len(found) == expected, (text, found)
     print("documents: the check tells good from bad")
 
 

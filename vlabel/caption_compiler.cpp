@@ -38,7 +38,7 @@ std::int32_t ColorOf(TextView written) {
 void CaptionCompiler::CompileCaption(TextView caption) {
     module_.Procedure(u"CompileCaption", [&] {
         compiled_.Clear();
-        BeforeSpacing_ = 0.0F;
+        BeforeSpacing = 0.0F;
         CaptionReader reader(caption);
         do {
             reader.CheckLineEnd();
@@ -96,7 +96,7 @@ void CaptionCompiler::AppendParameter(Text& entry, CommandWord::Parameter kind, 
             break;
         case Parameter::Before:
             ChangeBeforeSpacing(written);
-            AppendStr(entry, BeforeSpacing_);
+            AppendStr(entry, BeforeSpacing);
             break;
     }
 }
@@ -105,7 +105,7 @@ void CaptionCompiler::AppendParameter(Text& entry, CommandWord::Parameter kind, 
 void CaptionCompiler::ChangeBeforeSpacing(TextView written) {
     const bool relative = written.starts_with(u'+') || written.starts_with(u'-');
     const double number = ParseNumber(written);
-    BeforeSpacing_ = ToSingle(relative ? BeforeSpacing_ + number : number);
+    BeforeSpacing = ToSingle(relative ? BeforeSpacing + number : number);
 }
 
 }  // namespace lumenkit

@@ -38,7 +38,7 @@ class CaptionCompiler {
 
     const Module& module_;
     CompiledCaption compiled_;
-    float BeforeSpacing_ = 0.0F;
+    float BeforeSpacing = 0.0F;
     Text command_;  // scratch: the current command, if it contains quotes
 };
 

@@ -14,9 +14,21 @@
 #include "frame/module.h"
 #include "frame/text.h"
 #include "vlabel/caption_compiler.h"
-#include "vlabel/caption_settings.h"
 
 namespace lumenkit {
+
+/// The settings of a label that affect the drawing of its caption. The label owns and assigns them.
+struct CaptionSettings {
+    Text Caption;
+    Text BulletPrefix;
+    std::int16_t BulletIndent = 0;  ///< twips
+    bool WordWrap = false;
+    /// False after Caption changed: the next drawing compiles it first.
+    bool IsCompiled = false;
+    /// Pixel sizes of the screen when the control was initialised.
+    std::int16_t TwipsPerPixelX = 0;
+    std::int16_t TwipsPerPixelY = 0;
+};
 
 /// The state of one drawing pass, reset at its start.
 struct CaptionDrawing {
@@ -25,6 +37,7 @@ struct CaptionDrawing {
     float BeforeSpacing = 0;        ///< added to it at explicit line ends, twips
     float MaxLineX = 0;             ///< largest X of the pen at the end of any line, twips
     std::int16_t IdealHeight = 0;   ///< Y of the pen after the last line, twips
+    /// True while a command is applied. Nothing reads it; it is a part of the documented state.
     bool InCommand = false;
 };
 

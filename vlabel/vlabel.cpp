@@ -4,8 +4,7 @@
 
 #include "frame/automation/raise_event.h"
 #include "frame/checked_integer.h"
-#include "frame/host/setting.h"
-#include "vlabel/vlabel_interface.h"
+#include "frame/persisted_property.h"
 
 namespace lumenkit {
 
@@ -14,19 +13,19 @@ namespace {
 // Names and default values are part of the file format; do not change them.
 namespace persisted {
 
-constexpr Setting<Color> backColor{u"BackColor", Color::WindowBackground};
-constexpr Setting<Color> foreColor{u"ForeColor", Color::ButtonText};
-constexpr Setting<bool> enabled{u"Enabled", true};
+constexpr PersistedProperty<Color> backColor{u"BackColor", Color::WindowBackground};
+constexpr PersistedProperty<Color> foreColor{u"ForeColor", Color::ButtonText};
+constexpr PersistedProperty<bool> enabled{u"Enabled", true};
 constexpr TextView font = u"Font";  // default: null, so it is always written
-constexpr Setting<std::int16_t> borderStyle{u"BorderStyle", 0};
-constexpr Setting<bool> fontTransparent{u"FontTransparent", true};
-constexpr Setting<std::int16_t> mousePointer{u"MousePointer", 0};
-constexpr TextSetting caption{u"Caption", u"VLabel"};
-constexpr Setting<bool> wordWrap{u"WordWrap", false};
-constexpr Setting<std::int16_t> bulletIndent{u"BulletIndent", 0};
-constexpr TextSetting bulletPrefix{u"BulletPrefix", u""};
-constexpr Setting<bool> autoSize{u"AutoSize", false};
-constexpr Setting<std::int16_t> backStyle{u"BackStyle", 0};
+constexpr PersistedProperty<std::int16_t> borderStyle{u"BorderStyle", 0};
+constexpr PersistedProperty<bool> fontTransparent{u"FontTransparent", true};
+constexpr PersistedProperty<std::int16_t> mousePointer{u"MousePointer", 0};
+constexpr PersistedText caption{u"Caption", u"VLabel"};
+constexpr PersistedProperty<bool> wordWrap{u"WordWrap", false};
+constexpr PersistedProperty<std::int16_t> bulletIndent{u"BulletIndent", 0};
+constexpr PersistedText bulletPrefix{u"BulletPrefix", u""};
+constexpr PersistedProperty<bool> autoSize{u"AutoSize", false};
+constexpr PersistedProperty<std::int16_t> backStyle{u"BackStyle", 0};
 
 }  // namespace persisted
 
@@ -60,7 +59,7 @@ void VLabel::Let(ProcedureName procedure, TextView property, Repaint repaint, Pu
 
 void VLabel::PropertyChanged(TextView property, Repaint repaint) {
     container_.PropertyChanged(property);
-    if (repaint == Repaint::Yes && IsReady_) {
+    if (repaint == Repaint::Yes && IsReady) {
         RefreshControl(false);
     }
 }
@@ -78,7 +77,7 @@ void VLabel::RefreshControl(bool noRefresh) {
 
 void VLabel::ApplyBackColour() {
     module_.Procedure(u"ApplyBackColour", [&] {
-        surface_.SetBackColor(BackStyle_ != 0 ? ambient_.BackColor() : BackColor_);
+        surface_.SetBackColor(BackStyle != 0 ? ambient_.BackColor() : BackColor);
     });
 }
 
@@ -136,13 +135,13 @@ void VLabel::pLetMousePointer(std::int16_t pointer) {
 // ---- Properties of the control itself
 
 void VLabel::pLetBackColor(Color color) {
-    BackColor_ = color;
+    BackColor = color;
     ApplyBackColour();
     PropertyChanged(u"BackColor", Repaint::Yes);
 }
 
 void VLabel::pLetBackStyle(std::int16_t style) {
-    BackStyle_ = style;
+    BackStyle = style;
     ApplyBackColour();
     PropertyChanged(u"BackStyle", Repaint::Yes);
 }
@@ -151,7 +150,7 @@ void VLabel::pLetCaption(TextView caption) {
     settings_.Caption = caption;
     container_.PropertyChanged(u"Caption");
     settings_.IsCompiled = false;
-    if (IsReady_) {
+    if (IsReady) {
         RefreshControl(false);
     }
 }
@@ -172,7 +171,7 @@ void VLabel::pLetBulletPrefix(TextView prefix) {
 }
 
 void VLabel::pLetAutoSize(bool autoSize) {
-    AutoSize_ = autoSize;
+    AutoSize = autoSize;
     PropertyChanged(u"AutoSize", Repaint::No);
 }
 
@@ -259,17 +258,17 @@ void VLabel::UserControl_InitProperties() {
         settings_.IsCompiled = false;
         settings_.WordWrap = persisted::wordWrap.defaultValue;
         settings_.BulletIndent = persisted::bulletIndent.defaultValue;
-        AutoSize_ = persisted::autoSize.defaultValue;
-        BackColor_ = persisted::backColor.defaultValue;
-        BackStyle_ = persisted::backStyle.defaultValue;
+        AutoSize = persisted::autoSize.defaultValue;
+        BackColor = persisted::backColor.defaultValue;
+        BackStyle = persisted::backStyle.defaultValue;
         ApplyBackColour();
     });
 }
 
 void VLabel::UserControl_ReadProperties(host::PropertyBag& bag) {
     module_.Procedure(u"UserControl_ReadProperties", [&] {
-        IsReady_ = false;
-        BackColor_ = persisted::backColor.Read(bag);
+        IsReady = false;
+        BackColor = persisted::backColor.Read(bag);
         surface_.SetForeColor(persisted::foreColor.Read(bag));
         surface_.SetEnabled(persisted::enabled.Read(bag));
         // Without a saved font, the surface keeps its design-time font.
@@ -283,17 +282,17 @@ void VLabel::UserControl_ReadProperties(host::PropertyBag& bag) {
         settings_.WordWrap = persisted::wordWrap.Read(bag);
         settings_.BulletIndent = persisted::bulletIndent.Read(bag);
         settings_.BulletPrefix = persisted::bulletPrefix.Read(bag);
-        AutoSize_ = persisted::autoSize.Read(bag);
-        BackStyle_ = persisted::backStyle.Read(bag);
+        AutoSize = persisted::autoSize.Read(bag);
+        BackStyle = persisted::backStyle.Read(bag);
         settings_.IsCompiled = false;
-        IsReady_ = true;
+        IsReady = true;
         ApplyBackColour();
     });
 }
 
 void VLabel::UserControl_WriteProperties(host::PropertyBag& bag) {
     module_.Procedure(u"UserControl_WriteProperties", [&] {
-        persisted::backColor.Write(bag, BackColor_);
+        persisted::backColor.Write(bag, BackColor);
         persisted::foreColor.Write(bag, surface_.ForeColor());
         persisted::enabled.Write(bag, surface_.Enabled());
         bag.WriteProperty(persisted::font, surface_.CurrentFont(), ObjectRef());
@@ -304,8 +303,8 @@ void VLabel::UserControl_WriteProperties(host::PropertyBag& bag) {
         persisted::wordWrap.Write(bag, settings_.WordWrap);
         persisted::bulletIndent.Write(bag, settings_.BulletIndent);
         persisted::bulletPrefix.Write(bag, settings_.BulletPrefix);
-        persisted::autoSize.Write(bag, AutoSize_);
-        persisted::backStyle.Write(bag, BackStyle_);
+        persisted::autoSize.Write(bag, AutoSize);
+        persisted::backStyle.Write(bag, BackStyle);
     });
 }
 
@@ -320,7 +319,7 @@ void VLabel::UserControl_Show() {
 void VLabel::UserControl_Paint() {
     module_.Procedure(u"UserControl_Paint", [&] {
         renderer_.DisplayCaption();
-        IsReady_ = true;
+        IsReady = true;
     });
 }
 

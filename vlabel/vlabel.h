@@ -4,19 +4,27 @@
 #include <cstdint>
 
 #include "frame/automation/interface_table.h"
+#include "frame/class_table.h"
 #include "frame/color.h"
 #include "frame/control.h"
 #include "frame/module.h"
 #include "frame/module_errors.h"
 #include "frame/text.h"
 #include "vlabel/caption_renderer.h"
-#include "vlabel/caption_settings.h"
-#include "vlabel/vlabel_interface.h"
 
 namespace lumenkit {
 
-/// The control. vlabel_interface.h documents the members. They report their own errors to the user
-/// and do not raise them; only an error that the container raises in a change notification can
+/// Identifiers of the events in the class's event table.
+enum class VLabelEvent : std::int32_t {
+    Click = 1,
+    DblClick = 2,
+    MouseDown = 3,
+    MouseMove = 4,
+    MouseUp = 5,
+};
+
+/// The control. vlabel_interface.cpp describes the members. They report their own errors to the
+/// user and do not raise them; only an error that the container raises in a change notification can
 /// propagate.
 class VLabel final : public Control {
  public:
@@ -25,7 +33,7 @@ class VLabel final : public Control {
     Object& Automation() override { return automation_; }
 
     // Properties.
-    Color pGetBackColor() const { return BackColor_; }
+    Color pGetBackColor() const { return BackColor; }
     void pLetBackColor(Color color);
     Color pGetForeColor() const;
     void pLetForeColor(Color color);
@@ -47,9 +55,9 @@ class VLabel final : public Control {
     void pLetBulletIndent(std::int16_t indent);
     const Text& pGetBulletPrefix() const { return settings_.BulletPrefix; }
     void pLetBulletPrefix(TextView prefix);
-    bool pGetAutoSize() const { return AutoSize_; }
+    bool pGetAutoSize() const { return AutoSize; }
     void pLetAutoSize(bool autoSize);
-    std::int16_t pGetBackStyle() const { return BackStyle_; }
+    std::int16_t pGetBackStyle() const { return BackStyle; }
     void pLetBackStyle(std::int16_t style);
 
     // Methods.
@@ -101,13 +109,19 @@ class VLabel final : public Control {
     CaptionRenderer renderer_;
     TableObject automation_;
 
-    Color BackColor_ = Color::WindowBackground;
-    std::int16_t BackStyle_ = 0;
-    bool AutoSize_ = false;
+    Color BackColor = Color::WindowBackground;
+    std::int16_t BackStyle = 0;
+    bool AutoSize = false;
     /// False while properties are read: assignments then do not repaint.
-    bool IsReady_ = false;
-    /// False while Test assigns its caption.
+    bool IsReady = false;
+    /// False while Test assigns its caption. Nothing reads it; it is a part of the documented
+    /// state.
     bool NotTesting_ = false;
 };
+
+// The published description of the class, in vlabel_interface.cpp.
+extern const InterfaceTable vlabelInterface;
+extern const EventTable vlabelEvents;
+extern const ClassDescriptor vlabelClass;
 
 }  // namespace lumenkit

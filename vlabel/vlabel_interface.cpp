@@ -1,5 +1,4 @@
-#include "vlabel/vlabel_interface.h"
-
+// The automation interface of VLabel.
 #include <array>
 #include <memory>
 

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <array>
 
+#include "frame/text_positions.h"
+
 namespace lumenkit {
 
 namespace {

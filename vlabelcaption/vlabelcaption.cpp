@@ -2,9 +2,9 @@
 
 #include "frame/checked_integer.h"
 #include "frame/numbers.h"
+#include "frame/text_positions.h"
 #include "vlabelcaption/caption_shortcuts.h"
 #include "vlabelcaption/page_layout.h"
-#include "vlabelcaption/vlabelcaption_interface.h"
 
 namespace lumenkit {
 
@@ -56,9 +56,9 @@ host::CaptionDesign CaptionDesignOf(TextView name, const host::Placement& placem
 }
 
 // Adds a label of the magnifier, which is visible only while the caption box has the focus.
-std::unique_ptr<host::Label> AddMagnifier(host::Constituents& parts, TextView name,
-                                          const host::Placement& placement, TextView caption,
-                                          Color foreColor, Color backColor) {
+std::unique_ptr<host::Label> AddMagnifierLabel(host::Constituents& parts, TextView name,
+                                               const host::Placement& placement, TextView caption,
+                                               Color foreColor, Color backColor) {
     host::CaptionDesign design = CaptionDesignOf(name, placement, caption);
     design.fontName = u"Courier";
     design.fontSize = page_layout::magnifierFontSize;
@@ -71,13 +71,14 @@ std::unique_ptr<host::Label> AddMagnifier(host::Constituents& parts, TextView na
 
 std::unique_ptr<host::Label> AddSurroundings(host::Constituents& parts, TextView name,
                                              const host::Placement& placement, TextView caption) {
-    return AddMagnifier(parts, name, placement, caption, Color::WindowText,
-                        Color::WindowBackground);
+    return AddMagnifierLabel(parts, name, placement, caption, Color::WindowText,
+                             Color::WindowBackground);
 }
 
 std::unique_ptr<host::Label> AddMiddle(host::Constituents& parts, TextView name,
                                        const host::Placement& placement, TextView caption) {
-    return AddMagnifier(parts, name, placement, caption, Color::HighlightText, Color::Highlight);
+    return AddMagnifierLabel(parts, name, placement, caption, Color::HighlightText,
+                             Color::Highlight);
 }
 
 host::TextBoxDesign TextBoxDesignOf(TextView name, const host::Placement& placement) {
@@ -104,7 +105,14 @@ VLabelCaption::VLabelCaption(const PageHost& host)
       selectedControls_(host.selectedControls),
       interaction_(host.interaction),
       automation_(vlabelCaptionInterface, this) {
-    host::Constituents& parts = host.constituents;
+    // In tab order.
+    AddCaption(host.constituents);
+    AddMagnifier(host.constituents);
+    AddSettings(host.constituents);
+    AddPreview(host.constituents);
+}
+
+void VLabelCaption::AddCaption(host::Constituents& parts) {
     lblCaption =
         parts.AddLabel(CaptionDesignOf(u"lblCaption", page_layout::lblCaption, u"Caption:"));
     host::TextBoxDesign caption = TextBoxDesignOf(u"txtCaption", page_layout::txtCaption);
@@ -116,11 +124,17 @@ VLabelCaption::VLabelCaption(const PageHost& host)
         u" ^S=SelectNext, ^B=Bold, ^N=Normal, ^I=Italic on, ^O=italic Off, ^G=Green, ^L=Linespc"));
     cmdHelp = parts.AddCommandButton(
         CaptionDesignOf(u"cmdHelp", page_layout::cmdHelp, u"Keys Help"), helpEvents_);
+}
+
+void VLabelCaption::AddMagnifier(host::Constituents& parts) {
     labLeft = AddSurroundings(parts, u"labLeft", page_layout::labLeft, u"left");
     labChar = AddMiddle(parts, u"labChar", page_layout::labChar, u"C");
     labSelect = AddMiddle(parts, u"labSelect", page_layout::labSelect, u"select");
     labSelect->SetAutoSize(true);
     labRight = AddSurroundings(parts, u"labRight", page_layout::labRight, u"righ");
+}
+
+void VLabelCaption::AddSettings(host::Constituents& parts) {
     lblBulletPrefix = parts.AddLabel(
         CaptionDesignOf(u"lblBulletPrefix", page_layout::lblBulletPrefix, u"Bullet Prefix:"));
     txtBulletPrefix = parts.AddTextBox(
@@ -131,6 +145,9 @@ VLabelCaption::VLabelCaption(const PageHost& host)
         TextBoxDesignOf(u"txtBulletIndent", page_layout::txtBulletIndent), indentEvents_);
     chkWordWrap = parts.AddCheckBox(
         CaptionDesignOf(u"chkWordWrap", page_layout::chkWordWrap, u"Word Wrap"), wrapEvents_);
+}
+
+void VLabelCaption::AddPreview(host::Constituents& parts) {
     Picture1 = parts.AddPictureBox(DesignOf(u"Picture1", page_layout::Picture1));
     const host::Placement bar = {0, 0, page_layout::scrollBarSize, page_layout::scrollBarSize};
     HScroll1 = parts.AddScrollBar(DesignOf(u"HScroll1", bar, Picture1.get()),

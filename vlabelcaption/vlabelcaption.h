@@ -5,6 +5,7 @@
 #include <memory>
 
 #include "frame/automation/interface_table.h"
+#include "frame/class_table.h"
 #include "frame/control.h"
 #include "frame/host/constituents.h"
 #include "frame/text.h"
@@ -84,6 +85,12 @@ class VLabelCaption final : public PropertyPage {
     void VScroll1_Change();
     void cmdHelp_Click();
 
+    // Create the constituents.
+    void AddCaption(host::Constituents& parts);
+    void AddMagnifier(host::Constituents& parts);
+    void AddSettings(host::Constituents& parts);
+    void AddPreview(host::Constituents& parts);
+
     void RefreshPreview();
     void CopyAppearance(Object& edited);
     /// Size of the visible part of the preview, left of and above the scroll bars.
@@ -137,5 +144,9 @@ class VLabelCaption final : public PropertyPage {
     std::int32_t SelEnd = 0;
     bool NoSelection = true;
 };
+
+// The published description of the class, in vlabelcaption_interface.cpp.
+extern const InterfaceTable vlabelCaptionInterface;
+extern const ClassDescriptor vlabelCaptionClass;
 
 }  // namespace lumenkit

@@ -1,5 +1,4 @@
-#include "vlabelcaption/vlabelcaption_interface.h"
-
+// The automation interface of VLabelCaption, which has no members.
 #include <memory>
 
 #include "vlabelcaption/page_layout.h"

@@ -50,8 +50,8 @@ BreakUnits FindBreakUnits(const char16_t* units) {
 
 std::uint64_t BreaksOfBlock(const char16_t* units) {
     const BreakUnits found = FindBreakUnits(units);
-    const std::uint64_t feedBehind = units[blockSize] == u'\n' ? 1 : 0;
-    return found.returns & (found.feeds >> 1 | feedBehind << (blockSize - 1));
+    const std::uint64_t feedAfter = units[blockSize] == u'\n' ? 1 : 0;
+    return found.returns & (found.feeds >> 1 | feedAfter << (blockSize - 1));
 }
 
 #else

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "frame/checked_integer.h"
+#include "frame/text_positions.h"
 #include "vmemo/line_break_scanner.h"
 
 namespace lumenkit {

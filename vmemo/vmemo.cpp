@@ -5,7 +5,7 @@
 #include <utility>
 
 #include "frame/checked_integer.h"
-#include "frame/host/setting.h"
+#include "frame/persisted_property.h"
 #include "frame/raised_flag.h"
 #include "frame/runtime_error.h"
 
@@ -17,18 +17,19 @@ namespace {
 // are written for programs that inspect saved forms. They are not read, because Font contains both.
 namespace persisted {
 
-constexpr Setting<Color> foreColor{u"ForeColor", Color::WindowText};
-constexpr Setting<bool> enabled{u"Enabled", true};
+constexpr PersistedProperty<Color> foreColor{u"ForeColor", Color::WindowText};
+constexpr PersistedProperty<bool> enabled{u"Enabled", true};
 constexpr TextView font = u"Font";  // default: the container's font
-constexpr TextSetting fontName{u"FontName", u""};
-constexpr Setting<float> fontSize{u"FontSize", 0};
-constexpr Setting<bool> locked{u"Locked", false};
-constexpr Setting<std::int32_t> maxLength{u"MaxLength", 0};
-constexpr Setting<host::MousePointer> mousePointer{u"MousePointer", host::MousePointer::Default};
-constexpr TextSetting text{u"Text", u""};
-constexpr Setting<std::int16_t> maxCharsPerLine{u"MaxCharsPerLine", 0};
-constexpr Setting<std::int16_t> maxLines{u"MaxLines", 0};
-constexpr Setting<std::int32_t> scrollBars{u"ScrollBars", 0};
+constexpr PersistedText fontName{u"FontName", u""};
+constexpr PersistedProperty<float> fontSize{u"FontSize", 0};
+constexpr PersistedProperty<bool> locked{u"Locked", false};
+constexpr PersistedProperty<std::int32_t> maxLength{u"MaxLength", 0};
+constexpr PersistedProperty<host::MousePointer> mousePointer{u"MousePointer",
+                                                             host::MousePointer::Default};
+constexpr PersistedText text{u"Text", u""};
+constexpr PersistedProperty<std::int16_t> maxCharsPerLine{u"MaxCharsPerLine", 0};
+constexpr PersistedProperty<std::int16_t> maxLines{u"MaxLines", 0};
+constexpr PersistedProperty<std::int32_t> scrollBars{u"ScrollBars", 0};
 
 }  // namespace persisted
 
@@ -74,7 +75,7 @@ VMemo::VMemo(const ControlHost& host)
                  BoxEvents(*this, 3)} {
     for (std::int16_t index = 0; index < boxCount; ++index) {
         const auto element = static_cast<std::size_t>(index);
-        text1_[element] = AddBox(host.constituents, index, boxEvents_[element]);
+        boxes_[element] = AddBox(host.constituents, index, boxEvents_[element]);
     }
 }
 
@@ -84,7 +85,7 @@ host::TextBox& VMemo::Text1(std::int32_t index) const {
     if (index < 0 || index >= boxCount) {
         Raise(ErrorNumber::NoSuchArrayElement);
     }
-    return *text1_[static_cast<std::size_t>(index)];
+    return *boxes_[static_cast<std::size_t>(index)];
 }
 
 template <typename Act>

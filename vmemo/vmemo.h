@@ -6,6 +6,7 @@
 #include <memory>
 
 #include "frame/automation/interface_table.h"
+#include "frame/class_table.h"
 #include "frame/color.h"
 #include "frame/control.h"
 #include "frame/host/text_box.h"
@@ -13,9 +14,22 @@
 #include "frame/module_errors.h"
 #include "frame/text.h"
 #include "vmemo/restriction_engine.h"
-#include "vmemo/vmemo_interface.h"
 
 namespace lumenkit {
+
+/// Identifiers of the events in the class's event table.
+enum class VMemoEvent : std::int32_t {
+    Click = 1,
+    DblClick = 2,
+    KeyDown = 3,
+    KeyPress = 4,
+    KeyUp = 5,
+    MouseDown = 6,
+    MouseMove = 7,
+    MouseUp = 8,
+    Change = 9,
+    Validate = 10,  ///< never raised
+};
 
 /// The control. It contains four text boxes, one for each ScrollBars setting, and shows the one
 /// whose index is the current setting: the active box. Getters read the active box; setters write
@@ -151,7 +165,12 @@ class VMemo final : public Control {
 
     static constexpr std::int16_t boxCount = 4;
     std::array<BoxEvents, boxCount> boxEvents_;
-    std::array<std::unique_ptr<host::TextBox>, boxCount> text1_;
+    std::array<std::unique_ptr<host::TextBox>, boxCount> boxes_;
 };
+
+// The published description of the class, in vmemo_interface.cpp.
+extern const InterfaceTable vmemoInterface;
+extern const EventTable vmemoEvents;
+extern const ClassDescriptor vmemoClass;
 
 }  // namespace lumenkit

@@ -1,5 +1,4 @@
-#include "vmemo/vmemo_interface.h"
-
+// The automation interface of VMemo.
 #include <array>
 #include <memory>
 

@@ -4,6 +4,8 @@
 #include <cstdint>
 #include <cstring>
 
+#include "frame/text_positions.h"
+
 namespace lumenkit {
 
 namespace {

@@ -2,9 +2,8 @@
 
 #include <utility>
 
-#include "frame/host/setting.h"
+#include "frame/persisted_property.h"
 #include "frame/raised_flag.h"
-#include "voptlist/voptlist_interface.h"
 
 namespace lumenkit {
 
@@ -12,21 +11,21 @@ namespace {
 
 namespace persisted {
 
-constexpr Setting<bool> enabled{u"Enabled", true};
+constexpr PersistedProperty<bool> enabled{u"Enabled", true};
 constexpr TextView font = u"Font";  // default: the container's font
-constexpr Setting<std::int16_t> borderStyle{u"BorderStyle", 1};
-constexpr TextSetting caption{u"Caption", u"Frame1"};
-constexpr TextSetting contents{u"Contents", u"0;Item 0"};
-constexpr Setting<std::int16_t> itemAlignment{u"ItemAlignment", 0};
-constexpr Setting<bool> itemFontBold{u"ItemFontBold", false};
-constexpr Setting<bool> itemFontItalic{u"ItemFontItalic", false};
-constexpr TextSetting itemFontName{u"ItemFontName", u"MS Sans Serif"};
-constexpr Setting<float> itemFontSize{u"ItemFontSize", 8.25F};
-constexpr Setting<Color> itemForeColor{u"ItemForeColor", Color::ButtonText};
-constexpr Setting<float> leftMargin{u"LeftMargin", 0};
-constexpr Setting<std::int16_t> listIndex{u"ListIndex", -1};
-constexpr Setting<float> spacing{u"Spacing", 240};
-constexpr Setting<float> topMargin{u"TopMargin", 0};
+constexpr PersistedProperty<std::int16_t> borderStyle{u"BorderStyle", 1};
+constexpr PersistedText caption{u"Caption", u"Frame1"};
+constexpr PersistedText contents{u"Contents", u"0;Item 0"};
+constexpr PersistedProperty<std::int16_t> itemAlignment{u"ItemAlignment", 0};
+constexpr PersistedProperty<bool> itemFontBold{u"ItemFontBold", false};
+constexpr PersistedProperty<bool> itemFontItalic{u"ItemFontItalic", false};
+constexpr PersistedText itemFontName{u"ItemFontName", u"MS Sans Serif"};
+constexpr PersistedProperty<float> itemFontSize{u"ItemFontSize", 8.25F};
+constexpr PersistedProperty<Color> itemForeColor{u"ItemForeColor", Color::ButtonText};
+constexpr PersistedProperty<float> leftMargin{u"LeftMargin", 0};
+constexpr PersistedProperty<std::int16_t> listIndex{u"ListIndex", -1};
+constexpr PersistedProperty<float> spacing{u"Spacing", 240};
+constexpr PersistedProperty<float> topMargin{u"TopMargin", 0};
 
 }  // namespace persisted
 

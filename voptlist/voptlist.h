@@ -6,6 +6,7 @@
 #include <optional>
 
 #include "frame/automation/interface_table.h"
+#include "frame/class_table.h"
 #include "frame/color.h"
 #include "frame/control.h"
 #include "frame/module.h"
@@ -14,6 +15,11 @@
 #include "voptlist/contents.h"
 
 namespace lumenkit {
+
+/// Identifiers of the events in the class's event table.
+enum class VOptListEvent : std::int32_t {
+    Click = 1,
+};
 
 /// The control. An item is stored only in its option button: its caption is the caption of the
 /// button, its value is the Tag of the button, and it is selected when the button is.
@@ -150,5 +156,10 @@ class VOptList final : public Control, private host::OptionButtonEvents {
     std::unique_ptr<host::Frame> Frame1;
     std::unique_ptr<host::OptionButtons> Option1;
 };
+
+// The published description of the class, in voptlist_interface.cpp.
+extern const InterfaceTable voptlistInterface;
+extern const EventTable voptlistEvents;
+extern const ClassDescriptor voptlistClass;
 
 }  // namespace lumenkit

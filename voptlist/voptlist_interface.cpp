@@ -1,5 +1,4 @@
-#include "voptlist/voptlist_interface.h"
-
+// The automation interface of VOptList.
 #include <array>
 #include <memory>
 

@@ -1,7 +1,6 @@
 // Creates the option buttons from the items, copies the appearance of the first one to the others
 // and arranges them in rows.
 #include "frame/checked_integer.h"
-#include "voptlist/put_if_different.h"
 #include "voptlist/voptlist.h"
 
 namespace lumenkit {
@@ -12,6 +11,15 @@ using host::Placement;
 using host::TextConstituent;
 
 namespace {
+
+// Calls `put` with `value` unless `get` already returns it: a real window repaints on every
+// assignment, even of the same value. `get` and `put` are member functions of the target.
+template <typename Target, typename Get, typename Put, typename New>
+void PutIfDifferent(Target& target, Get get, Put put, const New& value) {
+    if ((target.*get)() != value) {
+        (target.*put)(value);
+    }
+}
 
 void PutPlace(Constituent& constituent, const Placement& place) {
     PutIfDifferent(constituent, &Constituent::Place, &Constituent::Move, place);

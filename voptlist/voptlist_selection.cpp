@@ -1,7 +1,6 @@
 // Reads and changes the selection through the option buttons and notifies the container.
 #include "frame/automation/raise_event.h"
 #include "voptlist/voptlist.h"
-#include "voptlist/voptlist_interface.h"
 
 namespace lumenkit {
 

@@ -7,7 +7,6 @@
 #include <optional>
 #include <span>
 
-#include "frame/automation/object.h"
 #include "frame/automation/value.h"
 #include "frame/automation/value_type.h"
 #include "frame/text.h"

@@ -1,14 +1,12 @@
 // The types of interface tables and their mapping to C++ types.
 #pragma once
 
+#include <array>
+#include <cstddef>
 #include <cstdint>
-#include <memory>
-#include <utility>
 
-#include "frame/automation/object.h"
 #include "frame/automation/value.h"
 #include "frame/host/enumerations.h"
-#include "frame/host/font.h"
 
 namespace lumenkit {
 
@@ -26,7 +24,48 @@ enum class ValueType {
     ScrollBars,    ///< the runtime's scroll-bar enumeration, 32 bits
 };
 
-/// Maps a C++ type to automation: its ValueType and the conversions in both directions.
+/// How the published interfaces name and pass the values of a type.
+struct TypeDescription {
+    ValueType type;
+    const char* name;            ///< in Basic; null for an enumeration, which has its own name
+    const char* definitionName;  ///< in interface definitions; null for an enumeration
+    ValueType passedAs;          ///< the type of the Value that carries it
+};
+
+/// Indexed by ValueType.
+inline constexpr std::array typeDescriptions = {
+    TypeDescription{ValueType::None, "", "void", ValueType::None},
+    TypeDescription{ValueType::Integer, "Integer", "short", ValueType::Integer},
+    TypeDescription{ValueType::Long, "Long", "long", ValueType::Long},
+    TypeDescription{ValueType::Single, "Single", "float", ValueType::Single},
+    TypeDescription{ValueType::Boolean, "Boolean", "VARIANT_BOOL", ValueType::Boolean},
+    TypeDescription{ValueType::String, "String", "BSTR", ValueType::String},
+    TypeDescription{ValueType::Color, "OLE_COLOR", "OLE_COLOR", ValueType::Long},
+    TypeDescription{ValueType::Font, "Font", "Font*", ValueType::Font},
+    TypeDescription{ValueType::Variant, "Variant", "VARIANT", ValueType::Variant},
+    TypeDescription{ValueType::MousePointer, nullptr, nullptr, ValueType::Long},
+    TypeDescription{ValueType::ScrollBars, nullptr, nullptr, ValueType::Long},
+};
+
+constexpr const TypeDescription& Describe(ValueType type) {
+    return typeDescriptions[static_cast<std::size_t>(type)];
+}
+
+static_assert([] {
+    for (std::size_t i = 0; i < typeDescriptions.size(); ++i) {
+        if (typeDescriptions[i].type != static_cast<ValueType>(i)) {
+            return false;
+        }
+    }
+    return true;
+}());
+
+constexpr bool IsEnumeration(ValueType type) {
+    return Describe(type).name == nullptr;
+}
+
+/// Maps a C++ type to automation: its ValueType and the conversions in both directions. The mapping
+/// of a class, such as that of fonts, is in the header of the class.
 template <typename T>
 struct Automation;
 
@@ -82,13 +121,6 @@ struct Automation<Color> {
     static Color From(const Value& value) { return ToColor(value); }
     static Value To(Color color) { return FromColor(color); }
 };
-template <>
-struct Automation<host::FontRef> {
-    static constexpr ValueType type = ValueType::Font;
-    static host::FontRef From(const Value& value) { return host::ToFont(value); }
-    static Value To(host::FontRef font) { return ObjectRef(std::move(font)); }
-};
-
 // The runtime's enumerations are passed as 32-bit numbers. Unknown values are passed too; the
 // property decides whether to accept them.
 template <typename Enumeration, ValueType valueType>

@@ -2,7 +2,6 @@
 
 #include <array>
 
-#include "frame/automation/interface_table.h"
 #include "frame/automation/member_binding.h"
 #include "frame/runtime_error.h"
 

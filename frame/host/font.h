@@ -2,8 +2,12 @@
 
 #include <cstdint>
 #include <memory>
+#include <optional>
+#include <span>
+#include <utility>
 
-#include "frame/automation/object.h"
+#include "frame/automation/value.h"
+#include "frame/automation/value_type.h"
 #include "frame/text.h"
 
 namespace lumenkit::host {
@@ -50,3 +54,14 @@ using FontRef = std::shared_ptr<Font>;
 FontRef ToFont(const Value& value);
 
 }  // namespace lumenkit::host
+
+namespace lumenkit {
+
+template <>
+struct Automation<host::FontRef> {
+    static constexpr ValueType type = ValueType::Font;
+    static host::FontRef From(const Value& value) { return host::ToFont(value); }
+    static Value To(host::FontRef font) { return ObjectRef(std::move(font)); }
+};
+
+}  // namespace lumenkit

@@ -2,7 +2,7 @@
 
 #include <cstdint>
 
-#include "frame/automation/object.h"
+#include "frame/automation/value.h"
 
 namespace lumenkit::host {
 

@@ -3,7 +3,7 @@
 
 #include <cstdint>
 
-#include "frame/automation/object.h"
+#include "frame/automation/value.h"
 #include "frame/color.h"
 #include "frame/host/constituent.h"
 #include "frame/text.h"

@@ -94,30 +94,8 @@ class ClassLibraryWriter {
     }
 
     std::string TypeName(ValueType type) const {
-        switch (type) {
-            case ValueType::None:
-                break;
-            case ValueType::Integer:
-                return "short";
-            case ValueType::Long:
-                return "long";
-            case ValueType::Single:
-                return "float";
-            case ValueType::Boolean:
-                return "VARIANT_BOOL";
-            case ValueType::String:
-                return "BSTR";
-            case ValueType::Color:
-                return "OLE_COLOR";
-            case ValueType::Font:
-                return "Font*";
-            case ValueType::Variant:
-                return "VARIANT";
-            case ValueType::MousePointer:
-            case ValueType::ScrollBars:
-                return Name(classes_.enumerations->Find(type)->name);
-        }
-        return "void";
+        return IsEnumeration(type) ? Name(classes_.enumerations->Find(type)->name)
+                                   : Describe(type).definitionName;
     }
 
     std::string Written(const Parameter& parameter) const {

@@ -95,8 +95,8 @@ class ReferenceWriter {
         for (const Member& member : members) {
             text_ += Row({Signature(member.name, member.parameters),
                           member.kind == MemberKind::Method ? "method" : "property",
-                          TypeName(member.type), std::to_string(member.identifier), Access(member),
-                          Flags(member), Plain(member.help)});
+                          Plain(FromUtf8(TypeName(member.type))), std::to_string(member.identifier),
+                          Access(member), Flags(member), Plain(member.help)});
         }
     }
 
@@ -147,30 +147,8 @@ class ReferenceWriter {
     }
 
     std::string TypeName(ValueType type) const {
-        switch (type) {
-            case ValueType::None:
-                break;
-            case ValueType::Integer:
-                return "Integer";
-            case ValueType::Long:
-                return "Long";
-            case ValueType::Single:
-                return "Single";
-            case ValueType::Boolean:
-                return "Boolean";
-            case ValueType::String:
-                return "String";
-            case ValueType::Color:
-                return "OLE\\_COLOR";
-            case ValueType::Font:
-                return "Font";
-            case ValueType::Variant:
-                return "Variant";
-            case ValueType::MousePointer:
-            case ValueType::ScrollBars:
-                return ToUtf8(classes_.enumerations->Find(type)->name);
-        }
-        return "";
+        return IsEnumeration(type) ? ToUtf8(classes_.enumerations->Find(type)->name)
+                                   : Describe(type).name;
     }
 
     static std::string Access(const Member& member) {

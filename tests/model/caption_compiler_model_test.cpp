@@ -7,6 +7,7 @@
 
 #include <gmock/gmock.h>
 
+#include "frame/text_positions.h"
 #include "tests/model/caption_comparison.h"
 #include "tests/model/caption_generator.h"
 #include "tests/support/test_rounds.h"

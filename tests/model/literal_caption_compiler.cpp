@@ -3,6 +3,7 @@
 #include "frame/checked_integer.h"
 #include "frame/numbers.h"
 #include "frame/runtime_error.h"
+#include "frame/text_positions.h"
 #include "tests/support/fake_reporter.h"
 
 namespace lumenkit::testing {
@@ -130,11 +131,11 @@ class LiteralCompiler {
     void NormaliseBefore(Text& parameter) {
         const TextView first = Left(parameter, 1);
         if (first == u"+" || first == u"-") {
-            BeforeSpacing_ = ToSingle(static_cast<double>(BeforeSpacing_) + ParseNumber(parameter));
+            BeforeSpacing = ToSingle(static_cast<double>(BeforeSpacing) + ParseNumber(parameter));
         } else {
-            BeforeSpacing_ = ToSingle(ParseNumber(parameter));
+            BeforeSpacing = ToSingle(ParseNumber(parameter));
         }
-        parameter = Str(BeforeSpacing_);
+        parameter = Str(BeforeSpacing);
     }
 
     void Report(TextView procedure, const RuntimeError& error) {
@@ -143,7 +144,7 @@ class LiteralCompiler {
     }
 
     LiteralCaption compiled_;
-    float BeforeSpacing_ = 0.0f;
+    float BeforeSpacing = 0.0f;
 };
 
 }  // namespace

@@ -6,6 +6,7 @@
 #include "frame/checked_integer.h"
 #include "frame/numbers.h"
 #include "frame/runtime_error.h"
+#include "frame/text_positions.h"
 #include "tests/model/literal_caption_compiler.h"
 #include "tests/support/brief_report.h"
 
@@ -65,15 +66,15 @@ void LiteralLabel::SetUp(const LabelScene& scene) {
     surface_.Font = scene.font;
     surface_.ForeColor = scene.foreColor;
     surface_.ScaleWidth = scene.width;
-    IsCompiled_ = false;
+    IsCompiled = false;
 }
 
 LabelPicture LiteralLabel::Picture() {
     return {.items = surface_.items,
             .penX = surface_.CurrentX,
             .penY = surface_.CurrentY,
-            .maxLineX = MaxLineX_,
-            .idealHeight = IdealHeight_,
+            .maxLineX = MaxLineX,
+            .idealHeight = IdealHeight,
             .font = surface_.Font,
             .foreColor = surface_.ForeColor,
             .reports = std::exchange(reports_, {})};
@@ -91,27 +92,27 @@ void LiteralLabel::Trap(const char* procedure, const Body& body) {
 
 void LiteralLabel::DisplayCaption() {
     Trap("DisplayCaption", [&] {
-        if (!IsCompiled_) {
+        if (!IsCompiled) {
             LiteralCaption compiled = CompileLiterally(scene_.caption);
-            CaptionLines_ = compiled.CaptionLines;
-            CommandNames_ = compiled.CommandNames;
-            CommandParams_ = compiled.CommandParams;
+            CaptionLines = compiled.CaptionLines;
+            CommandNames = compiled.CommandNames;
+            CommandParams = compiled.CommandParams;
             for (const Text& message : compiled.reports) {
                 Took("compiling reports");
                 reports_.push_back(BriefReport(u"VLABEL", message));
             }
-            IsCompiled_ = true;
+            IsCompiled = true;
         }
         SaveState();
         try {
             surface_.Cls();
-            CommandIndex_ = 0;
-            MaxLineX_ = 0;
-            BeforeSpacing_ = 0;
-            for (const Text& line : CaptionLines_) {
+            CommandIndex = 0;
+            MaxLineX = 0;
+            BeforeSpacing = 0;
+            for (const Text& line : CaptionLines) {
                 DrawLine(line);
             }
-            IdealHeight_ = RoundToInt16(surface_.CurrentY);
+            IdealHeight = RoundToInt16(surface_.CurrentY);
         } catch (const RuntimeError&) {
             Took("the drawing's own error");
             RestoreState();
@@ -122,7 +123,7 @@ void LiteralLabel::DisplayCaption() {
 }
 
 void LiteralLabel::DrawLine(Text line) {
-    LineHeight_ = surface_.TextHeight(line);
+    LineHeight = surface_.TextHeight(line);
     surface_.CurrentX = scene_.bulletIndent;
     for (;;) {
         const std::int32_t bar = InStr(1, line, u"|");
@@ -134,15 +135,15 @@ void LiteralLabel::DrawLine(Text line) {
             DisplayText(Text(Left(line, bar - 1)), false);
         }
         line = Text(Mid(line, bar + 1));
-        ExecuteNextCommand(line, LineHeight_);
+        ExecuteNextCommand(line, LineHeight);
     }
 }
 
 void LiteralLabel::ExecuteNextCommand(const Text& restOfLine, float& lineHeight) {
     Trap("ExecuteNextCommand", [&] {
-        CommandIndex_ = (Int16(CommandIndex_) + 1).Value();
-        const Text parameter = Entry(CommandParams_, CommandIndex_);
-        const Text name = Entry(CommandNames_, CommandIndex_);
+        CommandIndex = (Int16(CommandIndex) + 1).Value();
+        const Text parameter = Entry(CommandParams, CommandIndex);
+        const Text name = Entry(CommandNames, CommandIndex);
         if (name == u"b") {
             surface_.Font.bold = parameter == u"1";
             Took(surface_.Font.bold ? "bold on" : "bold off");
@@ -167,8 +168,8 @@ void LiteralLabel::ExecuteNextCommand(const Text& restOfLine, float& lineHeight)
                 Took("size is ignored");
             }
         } else if (name == u"before") {
-            BeforeSpacing_ = ToSingle(ParseNumber(parameter));
-            Took(BeforeSpacing_ < 0 ? "before is negative" : "before");
+            BeforeSpacing = ToSingle(ParseNumber(parameter));
+            Took(BeforeSpacing < 0 ? "before is negative" : "before");
         } else {
             Took("unknown command");
         }
@@ -181,10 +182,10 @@ void LiteralLabel::DisplayText(Text text, const bool& endOfLine) {
         const std::int32_t n = Len(scene_.bulletPrefix);
         if (x0 == static_cast<float>(scene_.bulletIndent) && n > 0 &&
             Left(text, n) == scene_.bulletPrefix) {
-            Took(surface_.items.size() > 1 && CommandIndex_ > 0 ? "bullet, commands before it"
-                                                                : "bullet");
+            Took(surface_.items.size() > 1 && CommandIndex > 0 ? "bullet, commands before it"
+                                                               : "bullet");
             const float y0 = surface_.CurrentY;
-            DrawBullet(LineHeight_ / 8, y0 + LineHeight_ / 2, LineHeight_ / 4);
+            DrawBullet(LineHeight / 8, y0 + LineHeight / 2, LineHeight / 4);
             surface_.CurrentX = x0;
             surface_.CurrentY = y0;
             text = Text(Mid(text, n + 1));
@@ -261,13 +262,13 @@ void LiteralLabel::Wrap(Text text, float& x0) {
 
 void LiteralLabel::StartNewLine(const std::int16_t& useBefore, float& newX) {
     Trap("StartNewLine", [&] {
-        if (surface_.CurrentX > MaxLineX_) {
-            MaxLineX_ = surface_.CurrentX;
+        if (surface_.CurrentX > MaxLineX) {
+            MaxLineX = surface_.CurrentX;
         }
         newX = scene_.bulletIndent;
         surface_.CurrentX = scene_.bulletIndent;
-        surface_.CurrentY = ToSingle(double{surface_.CurrentY} + double{LineHeight_} +
-                                     useBefore * double{BeforeSpacing_});
+        surface_.CurrentY = ToSingle(double{surface_.CurrentY} + double{LineHeight} +
+                                     useBefore * double{BeforeSpacing});
     });
 }
 
@@ -340,23 +341,23 @@ void LiteralLabel::SetIdealSize() {
         float H = scene_.height;
         DisplayCaption();
         bool changed = false;
-        if (static_cast<float>(double{MaxLineX_} + px) > W) {
-            W = static_cast<float>(MaxLineX_ + px * 1.1);
+        if (static_cast<float>(double{MaxLineX} + px) > W) {
+            W = static_cast<float>(MaxLineX + px * 1.1);
             changed = true;
             Took("ideal size: wider");
         }
-        if (static_cast<float>(MaxLineX_ + 2.0 * px) < W) {
-            W = static_cast<float>(MaxLineX_ + px * 1.9);
+        if (static_cast<float>(MaxLineX + 2.0 * px) < W) {
+            W = static_cast<float>(MaxLineX + px * 1.9);
             changed = true;
             Took("ideal size: narrower");
         }
-        if (H < (Int16(IdealHeight_) + py).Value()) {
-            H = static_cast<float>(IdealHeight_ + py * 1.1);
+        if (H < (Int16(IdealHeight) + py).Value()) {
+            H = static_cast<float>(IdealHeight + py * 1.1);
             changed = true;
             Took("ideal size: higher");
         }
-        if (H > (Int16(IdealHeight_) + Int16(2) * py).Value()) {
-            H = static_cast<float>(IdealHeight_ + py * 1.9);
+        if (H > (Int16(IdealHeight) + Int16(2) * py).Value()) {
+            H = static_cast<float>(IdealHeight + py * 1.9);
             changed = true;
             Took("ideal size: lower");
         }

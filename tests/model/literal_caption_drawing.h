@@ -75,15 +75,15 @@ class LiteralLabel {
     std::vector<std::string> reports_;
     BranchCounts branches_;
 
-    bool IsCompiled_ = false;
-    std::vector<Text> CaptionLines_;
-    std::vector<Text> CommandNames_;
-    std::vector<Text> CommandParams_;
-    std::int16_t CommandIndex_ = 0;
-    float LineHeight_ = 0;
-    float BeforeSpacing_ = 0;
-    float MaxLineX_ = 0;
-    std::int16_t IdealHeight_ = 0;
+    bool IsCompiled = false;
+    std::vector<Text> CaptionLines;
+    std::vector<Text> CommandNames;
+    std::vector<Text> CommandParams;
+    std::int16_t CommandIndex = 0;
+    float LineHeight = 0;
+    float BeforeSpacing = 0;
+    float MaxLineX = 0;
+    std::int16_t IdealHeight = 0;
     Saved saved_;
 };
 

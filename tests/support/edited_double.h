@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-#include "frame/automation/object.h"
+#include "frame/automation/value.h"
 #include "frame/runtime_error.h"
 
 namespace lumenkit::testing {

@@ -3,7 +3,7 @@
 #include <variant>
 
 #include "tests/support/log_lines.h"
-#include "vlabel/vlabel_interface.h"
+#include "vlabel/vlabel.h"
 
 namespace lumenkit::testing {
 

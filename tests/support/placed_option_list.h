@@ -12,7 +12,6 @@
 #include "runtime/memory/option_button.h"
 #include "runtime/memory/user.h"
 #include "voptlist/voptlist.h"
-#include "voptlist/voptlist_interface.h"
 
 namespace lumenkit::host {
 

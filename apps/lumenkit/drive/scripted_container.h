@@ -7,7 +7,7 @@
 #include <utility>
 
 #include "apps/lumenkit/drive/loaded_form.h"
-#include "frame/automation/object.h"
+#include "frame/automation/value.h"
 #include "frame/class_table.h"
 #include "runtime/memory/constituents.h"
 #include "runtime/memory/form.h"

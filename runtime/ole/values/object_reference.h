@@ -1,7 +1,7 @@
 // Conversion between objects of other components and late-bound objects of this component.
 #pragma once
 
-#include "frame/automation/object.h"
+#include "frame/automation/value.h"
 #include "runtime/ole/values/ole_header.h"
 
 namespace lumenkit::ole {

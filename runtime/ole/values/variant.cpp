@@ -5,6 +5,7 @@
 #include <limits>
 #include <new>
 
+#include "frame/host/font.h"
 #include "frame/runtime_error.h"
 #include "runtime/ole/values/basic_string.h"
 #include "runtime/ole/values/object_reference.h"

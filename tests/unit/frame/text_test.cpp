@@ -4,6 +4,7 @@
 
 #include <gmock/gmock.h>
 
+#include "frame/text_positions.h"
 #include "tests/unit/frame/raises.h"
 
 namespace lumenkit {

@@ -7,7 +7,6 @@
 
 #include <gmock/gmock.h>
 
-#include "frame/automation/object.h"
 #include "frame/utf8.h"
 #include "tests/unit/frame/raises.h"
 

@@ -1,14 +1,13 @@
 // The label's interface for clients: the listing of its members and events, and late binding.
-#include "vlabel/vlabel_interface.h"
-
 #include <functional>
 #include <string>
 
 #include <gmock/gmock.h>
 
-#include "frame/automation/object.h"
+#include "frame/automation/value.h"
 #include "frame/utf8.h"
 #include "tests/support/placed_label.h"
+#include "vlabel/vlabel.h"
 
 namespace lumenkit::testing {
 

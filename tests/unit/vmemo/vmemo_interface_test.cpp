@@ -1,5 +1,3 @@
-#include "vmemo/vmemo_interface.h"
-
 #include <map>
 #include <string>
 
@@ -8,6 +6,7 @@
 #include "frame/runtime_error.h"
 #include "frame/utf8.h"
 #include "tests/support/placed_memo.h"
+#include "vmemo/vmemo.h"
 
 namespace lumenkit::testing {
 

@@ -11,7 +11,7 @@ namespace lumenkit {
 
 /// `Default` is the type of the constant that holds the default value: T itself, except for texts.
 template <typename T, typename Default = T>
-struct Setting {
+struct PersistedProperty {
     TextView name;
     Default defaultValue;
 
@@ -27,6 +27,6 @@ struct Setting {
     Value DefaultValue() const { return Automation<T>::To(T(defaultValue)); }
 };
 
-using TextSetting = Setting<Text, TextView>;
+using PersistedText = PersistedProperty<Text, TextView>;
 
 }  // namespace lumenkit
