@@ -1,4 +1,4 @@
-#include "apps/lumenkit/console_host.h"
+#include "apps/command_line/console_host.h"
 
 #include <iostream>
 

@@ -1,4 +1,4 @@
-#include "apps/lumenkit/code_page_option.h"
+#include "apps/command_line/code_page_option.h"
 
 #include <stdexcept>
 #include <string>
