@@ -367,7 +367,8 @@ TEST(Clipboard, GoesIntoASelectedContainerAndIntoAnotherForm) {
     EXPECT_EQ(to.Selected(), "VMemo1");
     EXPECT_EQ(lumenform::ContainerOf(to.design, to.Control(u"VMemo1")), &to.Control(u"fraOuter"));
     const auto textOf = [](const EditedDesign& edited) {
-        return std::get<lumenkit::Text>(edited.Control(u"VMemo1").Own()->Automation().Get(u"Text"));
+        return std::get<lumenkit::Text>(
+            edited.Control(u"VMemo1").Hosted()->Automation().Get(u"Text"));
     };
     EXPECT_EQ(textOf(to), textOf(from));
     EXPECT_NE(textOf(to).find(u"\r\n"), lumenkit::Text::npos);

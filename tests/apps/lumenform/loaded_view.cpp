@@ -50,7 +50,7 @@ lumenform::LiveControl& LoadedView::Control(TextView name) const {
 }
 
 QWidget& LoadedView::Part(TextView control, TextView part, std::int16_t index) const {
-    return *Control(control).Own()->Parts().Find(part, index)->Widget();
+    return *Control(control).Hosted()->Parts().Find(part, index)->Widget();
 }
 
 std::string LoadedView::Saved() {

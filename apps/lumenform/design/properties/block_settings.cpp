@@ -328,7 +328,7 @@ std::vector<Setting> SettingsIn(Design& design, forms::Block& block, const Inher
 }
 
 bool IsSeen(const LiveControl& control) {
-    return control.Own() != nullptr || PlainKindOf(control.Block()).isSeen;
+    return control.Hosted() != nullptr || PlainKindOf(control.Block()).isSeen;
 }
 
 // Controls of this library and of unknown classes are tab stops.

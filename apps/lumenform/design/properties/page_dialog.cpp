@@ -28,10 +28,10 @@ class NamedControl final : public Object {
  private:
     Object& Control() const {
         const LiveControl* control = design_.View().Find(name_);
-        if (control == nullptr || control->Own() == nullptr) {
+        if (control == nullptr || control->Hosted() == nullptr) {
             Raise(ErrorNumber::ObjectNotSet);
         }
-        return control->Own()->Automation();
+        return control->Hosted()->Automation();
     }
 
     const Design& design_;

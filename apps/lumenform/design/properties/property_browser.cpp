@@ -270,7 +270,7 @@ const ClassDescriptor* PropertyBrowser::Page() const {
     TextView name;
     for (const LiveControl* control : selected) {
         const TextView page =
-            control->Own() == nullptr ? TextView() : control->Own()->Type().propertyPage;
+            control->Hosted() == nullptr ? TextView() : control->Hosted()->Type().propertyPage;
         if (page.empty() || (!name.empty() && page != name)) {
             return nullptr;
         }

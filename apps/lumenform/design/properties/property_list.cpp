@@ -17,8 +17,8 @@ namespace {
 
 std::vector<Setting> SettingsOf(Design& design, LiveControl& control) {
     std::vector<Setting> settings =
-        control.Own() != nullptr
-            ? OwnSettings(*control.Own(), design.Context().classes.enumerations)
+        control.Hosted() != nullptr
+            ? OwnSettings(*control.Hosted(), design.Context().classes.enumerations)
             : PlainSettings(design, control);
     for (Setting& setting : ContainerSettings(design, control)) {
         settings.push_back(std::move(setting));

@@ -1,4 +1,4 @@
-#include "apps/lumenform/form_view/own_control.h"
+#include "apps/lumenform/form_view/library_control.h"
 
 #include <algorithm>
 
@@ -6,15 +6,11 @@
 
 namespace lumenkit::lumenform {
 
-OwnControl::OwnControl(const Stage& stage, const Surroundings& around, forms::Block& block,
-                       const ClassDescriptor& type)
-    : LiveControl(stage, around, block),
-      stage_(stage),
-      font_(around.font),
-      backColor_(around.backColor),
-      container_(type.eventTable) {
+LibraryControl::LibraryControl(const Stage& stage, const Surroundings& around, forms::Block& block,
+                               const ClassDescriptor& type)
+    : LiveControl(stage, around, block), stage_(stage), site_(stage.mode, around, type.eventTable) {
     if (const EventTable* table = type.eventTable) {
-        container_.onEvent = [this, table](TextView event, std::span<Value> arguments) {
+        site_.GetContainer().onEvent = [this, table](TextView event, std::span<Value> arguments) {
             Raise(*table, event, arguments);
         };
     }
@@ -27,14 +23,15 @@ OwnControl::OwnControl(const Stage& stage, const Surroundings& around, forms::Bl
         delete widget_.data();
         throw;
     }
-    inside_.emplace(Surroundings{*widget_, backColor_, font_, Scale()});
+    inside_.emplace(Surroundings{*widget_, around.backColor, around.font, Scale()});
+    SetStoredPlace(widget_->Place());
 }
 
-OwnControl::~OwnControl() {
+LibraryControl::~LibraryControl() {
     qt::DeleteSafely(widget_.data());
 }
 
-void OwnControl::Start(QWidget& parent, const ClassDescriptor& type) {
+void LibraryControl::Start(QWidget& parent, const ClassDescriptor& type) {
     const qt::Placing standard;
     const Text tag = Reader().String(u"Tag");
     const qt::Placing placing{
@@ -42,14 +39,14 @@ void OwnControl::Start(QWidget& parent, const ClassDescriptor& type) {
         .placement = SavedPlace(standard.placement),
         .tag = tag,
         .visible = stage_.mode == Mode::Design || Reader().Flag(u"Visible", true)};
-    widget_ = new qt::HostedControl(stage_.context, type, *this, placing, &parent);
+    widget_ = new qt::HostedControl(stage_.context, type, site_, placing, &parent);
     forms::FormBag bag = BagOf(stage_.document, Block());
     widget_->StartSaved(bag);
     keeper_.emplace(stage_.document, Block(),
                     [this](host::PropertyBag& notes) { widget_->Save(notes); });
 }
 
-void OwnControl::Raise(const EventTable& table, TextView event, std::span<Value> arguments) {
+void LibraryControl::Raise(const EventTable& table, TextView event, std::span<Value> arguments) {
     if (!stage_.raise) {
         return;
     }
@@ -59,7 +56,7 @@ void OwnControl::Raise(const EventTable& table, TextView event, std::span<Value>
     }
 }
 
-void OwnControl::Save() {
+void LibraryControl::Save() {
     LiveControl::Save();
     keeper_->Update([this](host::PropertyBag& bag) { widget_->Save(bag); });
 }
