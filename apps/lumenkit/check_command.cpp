@@ -118,7 +118,7 @@ int Check(const CheckOptions& options) {
 
 std::string Help() {
     std::string help = "Rules and their names in findings:\n";
-    for (const check::Rule& rule : check::Rules()) {
+    for (const check::Rule& rule : check::allRules) {
         constexpr std::size_t column = 26;
         std::string line = "  " + std::string(rule.name);
         line.append(column - line.size(), ' ');
