@@ -151,7 +151,7 @@ void FormView::Save() {
     }
 }
 
-void FormView::OnRaised(std::function<void(const RaisedEvent&)> listener) {
+void FormView::OnRaised(std::function<void(const ControlEvent&)> listener) {
     stage_.raise = std::move(listener);
 }
 

@@ -121,10 +121,10 @@ TEST(Design, AViewThatCannotBeMadeTakesTheChangeBack) {
 TEST(Design, TellsWhatHappens) {
     EditedDesign edited = ThreeButtons();
     std::string told;
-    QObject::connect(&edited.design, &lumenform::Design::Edited, [&] { told += "edited "; });
-    QObject::connect(&edited.design, &lumenform::Design::SelectionChanged,
+    QObject::connect(&edited.design, &lumenform::FormDesign::Edited, [&] { told += "edited "; });
+    QObject::connect(&edited.design, &lumenform::FormDesign::SelectionChanged,
                      [&] { told += "selected "; });
-    QObject::connect(&edited.design, &lumenform::Design::ViewReplaced,
+    QObject::connect(&edited.design, &lumenform::FormDesign::ViewReplaced,
                      [&] { told += "replaced "; });
     edited.Select({u"cmdA"});
     edited.Select({u"cmdA"});
@@ -140,10 +140,10 @@ TEST(Design, TellsWhatHappens) {
 
 TEST(Design, KeepsTheLatestStepsOnly) {
     EditedDesign edited = ThreeButtons();
-    for (int i = 0; i <= lumenform::Design::mostSteps; ++i) {
+    for (int i = 0; i <= lumenform::FormDesign::mostSteps; ++i) {
         MoveBy(edited, u"cmdA", 15);
     }
-    EXPECT_EQ(edited.design.History().count(), lumenform::Design::mostSteps);
+    EXPECT_EQ(edited.design.History().count(), lumenform::FormDesign::mostSteps);
 }
 
 TEST(Design, UndoAfterSavingUnderAnotherNameKeepsToItsOwnCompanion) {

@@ -88,7 +88,7 @@ class DesignWindowTest : public ::testing::Test {
         }
         return Path(QString::fromStdString(name + ".frm"));
     }
-    lumenform::Design& Design() const { return window.Bench()->GetDesign(); }
+    lumenform::FormDesign& Design() const { return window.Bench()->GetDesign(); }
     std::string Text() const { return Design().Document().Write().form; }
     void Select(TextView name) const { Design().SelectNamed({lumenkit::Text(name)}); }
     void Nudge() { QTest::keyClick(&window.Bench()->GetCanvas().GetGlass(), Qt::Key_Right); }
@@ -280,7 +280,7 @@ TEST_F(DesignWindowTest, AsksBeforeItReplacesWhatOthersWrote) {
     {
         Answer answer(QStringLiteral("Cancel"));
         EXPECT_FALSE(window.Save());
-        EXPECT_THAT(answer.said, HasSubstr("Another program wrote"));
+        EXPECT_THAT(answer.said, HasSubstr("Another program has changed"));
     }
     EXPECT_EQ(FileBytes(File(QStringLiteral("label.frm"))), theirs);
     {

@@ -56,8 +56,9 @@ void SetPlace(forms::Block& block, const host::Placement& place, std::int32_t ta
 }
 
 // Saves the initial properties of a new control, which is created outside the form.
-void SavePrototype(const Design& design, const ClassDescriptor& type, const Surroundings& around,
-                   TextView name, const host::Placement& place, forms::Block& block) {
+void SavePrototype(const FormDesign& design, const ClassDescriptor& type,
+                   const Surroundings& around, TextView name, const host::Placement& place,
+                   forms::Block& block) {
     FormSite site(Mode::Design, around, type.eventTable);
     qt::HostedControl widget(design.Context(), type, site,
                              {.name = name, .placement = place, .visible = false});
@@ -88,7 +89,7 @@ host::Placement UsualPlace(const ClassTable& classes, TextView className) {
     return plain == nullptr ? host::Placement{.width = 1215, .height = 495} : plain->place;
 }
 
-void AddNewControl(Design& design, TextView className, const LiveControl* container,
+void AddNewControl(FormDesign& design, TextView className, const LiveControl* container,
                    const host::Placement& place) {
     const Surroundings& around = InsideOf(design, container);
     const ClassTable& classes = design.Context().classes;

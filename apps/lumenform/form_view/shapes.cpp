@@ -1,4 +1,4 @@
-#include "apps/lumenform/form_view/shape_widget.h"
+#include "apps/lumenform/form_view/shapes.h"
 
 #include <QApplication>
 #include <QPainter>
@@ -11,6 +11,14 @@
 namespace lumenkit::lumenform {
 
 namespace {
+
+Qt::PenStyle PenStyleOf(const Stroke& stroke) {
+    constexpr std::array<Qt::PenStyle, Stroke::InsideSolid + 1> styles = {
+        Qt::NoPen,       Qt::SolidLine,      Qt::DashLine, Qt::DotLine,
+        Qt::DashDotLine, Qt::DashDotDotLine, Qt::SolidLine};
+    const bool isWhole = stroke.width > 1 && stroke.style != Stroke::Transparent;
+    return isWhole ? Qt::SolidLine : styles[static_cast<std::size_t>(stroke.style)];
+}
 
 bool IsEqualSided(ShapeWidget::Form form) {
     using Form = ShapeWidget::Form;
@@ -26,6 +34,46 @@ QRectF SquareIn(const QRectF& room) {
 }
 
 }  // namespace
+
+Stroke Stroke::Of(const BlockReader& reader) {
+    constexpr std::int32_t widest = 1000;
+    Stroke stroke;
+    stroke.color = reader.ColorOf(u"BorderColor", stroke.color);
+    stroke.style = static_cast<Style>(reader.Choice(u"BorderStyle", InsideSolid + 1, stroke.style));
+    stroke.width = std::clamp(reader.Whole(u"BorderWidth", stroke.width), 1, widest);
+    return stroke;
+}
+
+QPen Stroke::Pen() const {
+    return {qt::ToQColor(color, QApplication::palette()), static_cast<qreal>(width),
+            PenStyleOf(*this), Qt::FlatCap, Qt::MiterJoin};
+}
+
+int Stroke::Reach() const {
+    return style == Transparent || style == InsideSolid ? 0 : width / 2;
+}
+
+LineWidget::LineWidget(const Stroke& stroke, bool rises) : stroke_(stroke), rises_(rises) {
+    setAttribute(Qt::WA_TransparentForMouseEvents);
+}
+
+int LineWidget::Reach() const {
+    constexpr int roomToClick = 2;  // room for the mouse: a horizontal line has no height
+    return stroke_.width / 2 + roomToClick;
+}
+
+void LineWidget::paintEvent(QPaintEvent* /*event*/) {
+    const qreal middle = Reach() + 0.5;  // centre of the pixel in the corner
+    const QRectF box = QRectF(rect()).adjusted(middle, middle, 1 - middle, 1 - middle);
+    QPainter painter(this);
+    painter.setPen(stroke_.Pen());
+    painter.setRenderHint(QPainter::Antialiasing, box.width() != 0 && box.height() != 0);
+    if (rises_) {
+        painter.drawLine(box.bottomLeft(), box.topRight());
+    } else {
+        painter.drawLine(box.topLeft(), box.bottomRight());
+    }
+}
 
 Filling Filling::Of(const BlockReader& reader) {
     constexpr std::array styles = {Qt::SolidPattern, Qt::NoBrush,         Qt::HorPattern,

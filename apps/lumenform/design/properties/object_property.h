@@ -9,12 +9,12 @@
 namespace lumenkit::lumenform {
 
 /// How the value of a property is shown and edited.
-enum class SettingKind {
+enum class PropertyKind {
     Text,
     LongText,  ///< a text that may have line breaks
     Items,     ///< a text with items separated by bars
     Number,
-    Choice,  ///< one of the setting's choices
+    Choice,  ///< one of the property's choices
     Color,
     Font,
 };
@@ -26,21 +26,22 @@ struct Choice {
     friend bool operator==(const Choice&, const Choice&) = default;
 };
 
-/// The place that a setting changes.
-enum class SettingPlace {
+/// What an assignment changes.
+enum class PropertyPlace {
     Live,   ///< the live control
     Block,  ///< the document's blocks; the view is created again
 };
 
-/// A property of a control or of the form. Valid until the view or the selection changes.
-struct Setting {
+/// A property of one control or of the form, as the property list reads and writes it. Valid until
+/// the view or the selection changes.
+struct ObjectProperty {
     Text name;
     Text help = {};
-    SettingKind kind = SettingKind::Text;
+    PropertyKind kind = PropertyKind::Text;
     std::vector<Choice> choices = {};
-    SettingPlace place = SettingPlace::Block;
-    bool isOwn = false;     ///< cannot be set for several controls
-    bool isOnPage = false;  ///< also on the control's property page
+    PropertyPlace place = PropertyPlace::Block;
+    bool isIndividual = false;  ///< cannot be set for several controls
+    bool isOnPage = false;      ///< also on the control's property page
     /// Returns Empty if there is no value.
     std::function<Value()> get = {};
     /// Accepts a text for every kind but fonts. Raises the errors of conversions and of the
@@ -49,6 +50,8 @@ struct Setting {
 };
 
 /// The choices True and False.
-std::vector<Choice> TruthChoices();
+inline std::vector<Choice> TruthChoices() {
+    return {{u"True", true}, {u"False", false}};
+}
 
 }  // namespace lumenkit::lumenform

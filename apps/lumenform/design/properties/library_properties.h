@@ -2,7 +2,7 @@
 
 #include <vector>
 
-#include "apps/lumenform/design/properties/setting.h"
+#include "apps/lumenform/design/properties/object_property.h"
 #include "frame/automation/runtime_enumerations.h"
 #include "runtime/qt/hosted_control.h"
 
@@ -10,8 +10,8 @@ namespace lumenkit::lumenform {
 
 /// The properties of a control of this library that a designer can see, from its interface table:
 /// without hidden, write-only and indexed ones. `enumerations` may be null. The control must
-/// outlive the settings.
-std::vector<Setting> OwnSettings(qt::HostedControl& control,
-                                 const EnumerationLibrary* enumerations);
+/// outlive the properties.
+std::vector<ObjectProperty> LibraryProperties(qt::HostedControl& control,
+                                              const EnumerationLibrary* enumerations);
 
 }  // namespace lumenkit::lumenform

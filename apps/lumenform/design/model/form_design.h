@@ -19,17 +19,17 @@ enum class Merging { None, Nudges };
 
 /// A form in the designer: its document, its view in design mode, the selection and the undo
 /// history. The document always holds the state that would be saved.
-class Design final : public QObject {
+class FormDesign final : public QObject {
     Q_OBJECT
 
  public:
     static constexpr int mostSteps = 200;
 
     /// Throws FormError as FormView does. The context must outlive the design.
-    Design(const qt::Context& context, forms::Document document);
-    ~Design() override;
-    Design(const Design&) = delete;
-    Design& operator=(const Design&) = delete;
+    FormDesign(const qt::Context& context, forms::Document document);
+    ~FormDesign() override;
+    FormDesign(const FormDesign&) = delete;
+    FormDesign& operator=(const FormDesign&) = delete;
 
     const qt::Context& Context() const { return context_; }
     forms::Document& Document() const { return *document_; }

@@ -1,4 +1,4 @@
-#include "apps/lumenform/design/model/attempt.h"
+#include "apps/lumenform/design/model/refusal.h"
 
 #include "forms/form_error.h"
 #include "frame/runtime_error.h"
@@ -14,6 +14,17 @@ std::optional<QString> Attempt(const std::function<void()>& work) {
         return qt::ToQString(error.Description());
     } catch (const forms::FormError& error) {
         return QString::fromUtf8(error.what());
+    }
+}
+
+QString RefusalOf(const std::function<void()>& change) {
+    try {
+        change();
+        return {};
+    } catch (const forms::FormError& error) {
+        return QString::fromStdString(error.Description());
+    } catch (...) {
+        return qt::ToQString(CurrentError().Description());
     }
 }
 

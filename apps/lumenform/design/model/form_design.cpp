@@ -1,4 +1,4 @@
-#include "apps/lumenform/design/model/design.h"
+#include "apps/lumenform/design/model/form_design.h"
 
 #include <QUndoCommand>
 #include <algorithm>
@@ -10,9 +10,9 @@ namespace lumenkit::lumenform {
 
 // A step of the history. The first redo does nothing, because the change is complete before the
 // history gets the step.
-class Design::Step final : public QUndoCommand {
+class FormDesign::Step final : public QUndoCommand {
  public:
-    Step(Design& design, const QString& title, SharedSnapshot before, Merging merging)
+    Step(FormDesign& design, const QString& title, SharedSnapshot before, Merging merging)
         : QUndoCommand(title),
           design_(design),
           before_(std::move(before)),
@@ -38,14 +38,14 @@ class Design::Step final : public QUndoCommand {
     }
 
  private:
-    Design& design_;
+    FormDesign& design_;
     SharedSnapshot before_;
     SharedSnapshot after_;
     Merging merging_;
     bool isDone_ = true;
 };
 
-Design::Design(const qt::Context& context, forms::Document document)
+FormDesign::FormDesign(const qt::Context& context, forms::Document document)
     : context_(context),
       document_(std::make_unique<forms::Document>(std::move(document))),
       view_(std::make_unique<FormView>(context, *document_, Mode::Design)),
@@ -53,9 +53,9 @@ Design::Design(const qt::Context& context, forms::Document document)
     history_.setUndoLimit(mostSteps);
 }
 
-Design::~Design() = default;
+FormDesign::~FormDesign() = default;
 
-std::vector<Text> Design::SelectedNames() const {
+std::vector<Text> FormDesign::SelectedNames() const {
     std::vector<Text> names;
     for (const LiveControl* control : selected_) {
         names.push_back(control->Name());
@@ -63,18 +63,18 @@ std::vector<Text> Design::SelectedNames() const {
     return names;
 }
 
-bool Design::IsSelected(const LiveControl& control) const {
+bool FormDesign::IsSelected(const LiveControl& control) const {
     return std::ranges::find(selected_, &control) != selected_.end();
 }
 
-void Design::Select(std::vector<LiveControl*> controls) {
+void FormDesign::Select(std::vector<LiveControl*> controls) {
     if (controls != selected_) {
         selected_ = std::move(controls);
         Q_EMIT SelectionChanged();
     }
 }
 
-void Design::SelectNamed(const std::vector<Text>& names) {
+void FormDesign::SelectNamed(const std::vector<Text>& names) {
     std::vector<LiveControl*> controls;
     for (const Text& name : names) {
         LiveControl* const control = view_->Find(name);
@@ -85,11 +85,11 @@ void Design::SelectNamed(const std::vector<Text>& names) {
     Select(std::move(controls));
 }
 
-SharedSnapshot Design::BeforeChange() const {
+SharedSnapshot FormDesign::BeforeChange() const {
     return std::make_shared<const Snapshot>(*now_, SelectedNames());
 }
 
-void Design::Edit(const QString& title, const std::function<void()>& change, Merging merging) {
+void FormDesign::Edit(const QString& title, const std::function<void()>& change, Merging merging) {
     const SharedSnapshot before = BeforeChange();
     try {
         change();
@@ -102,7 +102,8 @@ void Design::Edit(const QString& title, const std::function<void()>& change, Mer
     Push(title, before, merging);
 }
 
-void Design::Restructure(const QString& title, const std::function<std::vector<Text>()>& change) {
+void FormDesign::Restructure(const QString& title,
+                             const std::function<std::vector<Text>()>& change) {
     const SharedSnapshot before = BeforeChange();
     try {
         const std::vector<Text> selected = change();
@@ -119,21 +120,21 @@ void Design::Restructure(const QString& title, const std::function<std::vector<T
     Push(title, before, Merging::None);
 }
 
-void Design::Push(const QString& title, SharedSnapshot before, Merging merging) {
+void FormDesign::Push(const QString& title, SharedSnapshot before, Merging merging) {
     if (!now_->HoldsTheSameAs(*before)) {
         history_.push(new Step(*this, title, std::move(before), merging));
         Q_EMIT Edited();
     }
 }
 
-void Design::Restore(const SharedSnapshot& snapshot) {
+void FormDesign::Restore(const SharedSnapshot& snapshot) {
     now_ = snapshot;
     Replace(std::make_unique<forms::Document>(document_->WithBytes(snapshot->Bytes())));
     SelectNamed(snapshot->Selected());
     Q_EMIT Edited();
 }
 
-void Design::Replace(std::unique_ptr<forms::Document> document) {
+void FormDesign::Replace(std::unique_ptr<forms::Document> document) {
     auto view = std::make_unique<FormView>(context_, *document, Mode::Design);
     const bool hadSelection = !selected_.empty();
     selected_.clear();
@@ -145,7 +146,7 @@ void Design::Replace(std::unique_ptr<forms::Document> document) {
     }
 }
 
-void Design::Rename(const std::string& name) {
+void FormDesign::Rename(const std::string& name) {
     document_->Rename(name);
     now_ = std::make_shared<const Snapshot>(*document_, SelectedNames(), now_.get());
 }

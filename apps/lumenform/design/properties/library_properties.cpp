@@ -1,4 +1,4 @@
-#include "apps/lumenform/design/properties/own_settings.h"
+#include "apps/lumenform/design/properties/library_properties.h"
 
 #include <algorithm>
 #include <array>
@@ -15,36 +15,36 @@ bool IsShown(const Member& member) {
            member.parameters.empty() && !member.flags.hiddenFromBrowser;
 }
 
-SettingKind KindOfText(TextView name) {
+PropertyKind KindOfText(TextView name) {
     constexpr std::array<TextView, 2> longTexts = {u"Caption", u"Text"};
     if (name == u"Contents") {
-        return SettingKind::Items;
+        return PropertyKind::Items;
     }
-    return std::ranges::find(longTexts, name) == longTexts.end() ? SettingKind::Text
-                                                                 : SettingKind::LongText;
+    return std::ranges::find(longTexts, name) == longTexts.end() ? PropertyKind::Text
+                                                                 : PropertyKind::LongText;
 }
 
-SettingKind KindOf(const Member& member) {
+PropertyKind KindOf(const Member& member) {
     switch (member.type) {
         case ValueType::String:
             return KindOfText(member.name);
         case ValueType::Boolean:
         case ValueType::MousePointer:
         case ValueType::ScrollBars:
-            return SettingKind::Choice;
+            return PropertyKind::Choice;
         case ValueType::Color:
-            return SettingKind::Color;
+            return PropertyKind::Color;
         case ValueType::Font:
-            return SettingKind::Font;
+            return PropertyKind::Font;
         case ValueType::Integer:
         case ValueType::Long:
         case ValueType::Single:
-            return SettingKind::Number;
+            return PropertyKind::Number;
         case ValueType::None:
         case ValueType::Variant:
             break;
     }
-    return SettingKind::Text;
+    return PropertyKind::Text;
 }
 
 std::vector<Choice> ChoicesOf(ValueType type, const EnumerationLibrary* enumerations) {
@@ -69,32 +69,32 @@ Value OwnFont(const Value& value) {
 
 }  // namespace
 
-std::vector<Setting> OwnSettings(qt::HostedControl& control,
-                                 const EnumerationLibrary* enumerations) {
+std::vector<ObjectProperty> LibraryProperties(qt::HostedControl& control,
+                                              const EnumerationLibrary* enumerations) {
     const ClassDescriptor& type = control.Type();
-    std::vector<Setting> settings;
+    std::vector<ObjectProperty> properties;
     for (const Member& member : type.interfaceTable->members) {
         if (!IsShown(member)) {
             continue;
         }
         const std::int32_t identifier = member.identifier;
-        Setting setting{
+        ObjectProperty property{
             .name = Text(member.name),
             .help = Text(member.help),
             .kind = KindOf(member),
             .choices = ChoicesOf(member.type, enumerations),
-            .place = SettingPlace::Live,
+            .place = PropertyPlace::Live,
             .isOnPage =
                 std::ranges::find(type.pageProperties, member.name) != type.pageProperties.end(),
             .get = [&control, identifier] { return control.Automation().Get(identifier); }};
         if (member.assign != nullptr) {
-            setting.set = [&control, identifier](const Value& value) {
+            property.set = [&control, identifier](const Value& value) {
                 control.Automation().Let(identifier, OwnFont(value));
             };
         }
-        settings.push_back(std::move(setting));
+        properties.push_back(std::move(property));
     }
-    return settings;
+    return properties;
 }
 
 }  // namespace lumenkit::lumenform

@@ -1,4 +1,4 @@
-#include "apps/lumenform/design/properties/names.h"
+#include "apps/lumenform/design/model/renaming.h"
 
 #include <utility>
 
@@ -37,7 +37,7 @@ void RequireRoomBeside(const forms::Block& control, const forms::Block& other) {
 
 void RequireRoom(const forms::Block& form, const forms::Block& control) {
     if (&control != &form && Bears(form, control.Name())) {
-        RefuseName(u"The form itself is called \"" + form.Name() + u'"');
+        RefuseName(u"The form itself has the name \"" + form.Name() + u'"');
     }
     for (const forms::Block* other : forms::AllControls(form)) {
         if (other != &control && Bears(*other, control.Name())) {
@@ -50,7 +50,9 @@ void RequireRoom(const forms::Block& form, const forms::Block& control) {
 
 void RenameIn(forms::Document& document, forms::Block& block, TextView name) {
     if (!IsName(name)) {
-        RefuseName(u"A name is a letter, then letters, digits and underscores, at most 40 in all");
+        RefuseName(
+            u"A name begins with a letter, continues with letters, digits and underscores, and "
+            u"has at most 40 characters");
     }
     if (&block == &document.Root()) {
         document.RenameForm(name);
@@ -64,7 +66,7 @@ void SetIndexIn(forms::Block& form, forms::Block& control, std::optional<std::in
     if (!index) {
         control.Remove(u"Index");
     } else if (*index < 0 || *index > highestIndex) {
-        RefuseName(u"An index is 0 to 32767");
+        RefuseName(u"An index must be from 0 to 32767");
     } else {
         control.Set(u"Index", forms::Literal(*index), u"Height");
     }

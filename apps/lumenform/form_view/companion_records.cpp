@@ -1,5 +1,7 @@
-#include "apps/lumenform/form_view/text_list.h"
+#include "apps/lumenform/form_view/companion_records.h"
 
+#include <QBuffer>
+#include <QImageReader>
 #include <cstddef>
 #include <optional>
 
@@ -9,6 +11,12 @@
 namespace lumenkit::lumenform {
 
 namespace {
+
+// The header: the length of the record, "lt", two NULs and the length of the picture.
+constexpr std::size_t headSize = 12;
+constexpr std::string_view mark("lt\0\0", 4);
+
+constexpr qint64 mostPixels = 64'000'000;
 
 std::optional<std::size_t> TakeNumber(std::string_view& bytes) {
     if (bytes.size() < 2) {
@@ -21,6 +29,21 @@ std::optional<std::size_t> TakeNumber(std::string_view& bytes) {
 }
 
 }  // namespace
+
+QPixmap PictureIn(std::string_view record) {
+    if (record.size() <= headSize || record.substr(4, mark.size()) != mark) {
+        return {};
+    }
+    record.remove_prefix(headSize);
+    QByteArray bytes(record.data(), static_cast<qsizetype>(record.size()));
+    QBuffer buffer(&bytes);
+    QImageReader reader(&buffer);
+    const QSize size = reader.size();
+    if (qint64{size.width()} * size.height() > mostPixels) {
+        return {};
+    }
+    return QPixmap::fromImageReader(&reader);
+}
 
 std::vector<Text> ItemsOf(std::string_view record, int codePage) {
     const forms::CodePage page(codePage == forms::utf8CodePage ? forms::defaultCodePage : codePage);

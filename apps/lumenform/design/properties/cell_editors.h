@@ -1,9 +1,31 @@
+// The editors that the property list opens in its value column.
 #pragma once
 
+#include <QComboBox>
 #include <QLineEdit>
 #include <QWidget>
 
 namespace lumenkit::lumenform {
+
+/// A combo box in a list. The mouse wheel scrolls the list, and moving through the entries by
+/// keyboard does not pick one.
+class ChoiceBox final : public QComboBox {
+    Q_OBJECT
+
+ public:
+    explicit ChoiceBox(QWidget* parent);
+
+ Q_SIGNALS:
+    /// The user has picked an entry from the open list.
+    void Picked();
+
+ protected:
+    void keyPressEvent(QKeyEvent* event) override;
+    void wheelEvent(QWheelEvent* event) override;
+
+ private:
+    bool byKeys_ = false;
+};
 
 /// A line edit for a value, with a button "..." if there is a separate editor.
 class ValueEditor final : public QWidget {

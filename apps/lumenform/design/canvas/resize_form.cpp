@@ -1,8 +1,8 @@
-#include "apps/lumenform/design/canvas/form_size.h"
+#include "apps/lumenform/design/canvas/resize_form.h"
 
+#include <QObject>
 #include <algorithm>
 
-#include "apps/lumenform/design/canvas/titles.h"
 #include "apps/lumenform/form_view/block_reader.h"
 #include "apps/lumenform/form_view/scale.h"
 #include "forms/literal.h"
@@ -42,21 +42,21 @@ void Store(const BlockReader& form, FormSize now) {
           scaled.height);
 }
 
-BlockReader ReaderOf(const Design& design) {
+BlockReader ReaderOf(const FormDesign& design) {
     return {design.Document(), design.Document().Root()};
 }
 
 }  // namespace
 
-FormSize ClientSizeOf(const Design& design) {
+FormSize ClientSizeOf(const FormDesign& design) {
     return ClientSizeOf(ReaderOf(design));
 }
 
-void ResizeForm(Design& design, FormSize size) {
+void ResizeForm(FormDesign& design, FormSize size) {
     const qt::TwipsPerPixel& twips = qt::TwipsPerPixel::OfScreens();
     size.width = std::max(size.width, static_cast<float>(twips.x));
     size.height = std::max(size.height, static_cast<float>(twips.y));
-    design.Restructure(SizeFormTitle(), [&] {
+    design.Restructure(QObject::tr("Size the form"), [&] {
         Store(ReaderOf(design), size);
         return design.SelectedNames();
     });
