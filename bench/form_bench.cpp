@@ -14,7 +14,7 @@
 #include <utility>
 
 #include "apps/lumenform/design/canvas/canvas.h"
-#include "apps/lumenform/design/model/design.h"
+#include "apps/lumenform/design/model/form_design.h"
 #include "apps/lumenform/form_view/form_view.h"
 #include "bench/qt_stage.h"
 #include "bench/ratio_table.h"

@@ -39,8 +39,28 @@ ALLOWED = {
     "project": ["frame", "vlabel", "vmemo", "voptlist", "vlabelcaption"],
     # The exports of the server, which pass the class table to the runtime.
     "server": ["project", "runtime/ole"],
-    # Programs and tests, which combine the libraries.
-    "apps": None,
+    # The parts of the programs.
+    "apps/command_line": ["frame", "forms"],
+    "apps/lumenkit/check": ["frame", "vlabel", "vmemo", "voptlist", "forms", "runtime/memory"],
+    "apps/lumenkit/drive": ["frame", "forms", "runtime/memory"],
+    "apps/lumenkit": ["frame", "vlabel", "forms", "project", "apps/command_line",
+                      "apps/lumenkit/check", "apps/lumenkit/drive"],
+    "apps/lumenform/form_view": ["frame", "forms", "runtime/qt"],
+    "apps/lumenform/run": ["frame", "forms", "runtime/qt", "apps/lumenform/form_view"],
+    "apps/lumenform/design/model": ["frame", "forms", "runtime/qt", "apps/lumenform/form_view"],
+    "apps/lumenform/design/canvas": ["frame", "forms", "runtime/qt", "apps/lumenform/form_view",
+                                     "apps/lumenform/design/model"],
+    "apps/lumenform/design/properties": ["frame", "forms", "runtime/qt", "apps/lumenform/form_view",
+                                         "apps/lumenform/design/model"],
+    "apps/lumenform/design/window": ["frame", "forms", "runtime/qt", "apps/lumenform/form_view",
+                                     "apps/lumenform/run", "apps/lumenform/design/model",
+                                     "apps/lumenform/design/canvas",
+                                     "apps/lumenform/design/properties"],
+    "apps/lumenform": ["frame", "forms", "project", "runtime/qt", "apps/command_line",
+                       "apps/lumenform/form_view", "apps/lumenform/run",
+                       "apps/lumenform/design/model", "apps/lumenform/design/properties",
+                       "apps/lumenform/design/window"],
+    # Tests and samples, which combine the libraries.
     "tests": None,
     "bench": None,
     "fuzz": None,
@@ -48,7 +68,8 @@ ALLOWED = {
 }
 # Folders that may use the headers of a platform or of another library.
 COM_FOLDERS = [folder for folder in ALLOWED if folder.startswith("runtime/ole") and folder != "runtime/ole/stored"]
-OTHER_LIBRARIES = ["runtime/win32", "runtime/qt", *COM_FOLDERS, "server", "apps", "tests", "bench", "fuzz", "samples"]
+OTHER_LIBRARIES = ["runtime/win32", "runtime/qt", *COM_FOLDERS, "server", "tests", "bench", "fuzz", "samples"]
+OTHER_LIBRARIES += [folder for folder in ALLOWED if folder.startswith("apps/")]
 # Files in other folders that call the system or use processor instructions, with their headers.
 SYSTEM_HEADERS = {
     # The standard library cannot flush a file to the disk.
@@ -132,7 +153,7 @@ def self_test():
         "frame/text.cpp": '#include "frame/text.h"\n\n#include <string>\n',
         "vlabel/a.cpp": '#include "frame/text.h"\n#include "vlabel/x.h"\n',
         "runtime/ole/a.cpp": '#include <windows.h>\n#include "runtime/win32/a.h"\n',
-        "apps/x/main.cpp": '#include <CLI/CLI.hpp>\n#include "vmemo/a.h"\n',
+        "apps/lumenkit/main.cpp": '#include <CLI/CLI.hpp>\n#include "apps/lumenkit/check/a.h"\n',
         "forms/flush.cpp": "#include <unistd.h>\n",
         "frame/d.h": "#pragma once\n",
     }
@@ -147,6 +168,8 @@ def self_test():
         "runtime/qt/a.h": "#pragma once\n#include <windows.h>\n",
         "frame/c.h": '#pragma once\n#include "text.h"\n',
         "forms/a.cpp": "#include <unistd.h>\n",
+        "apps/lumenkit/check/a.h": '#pragma once\n#include "apps/lumenkit/commands.h"\n',
+        "apps/lumenform/design/canvas/a.cpp": '#include "apps/lumenform/design/properties/a.h"\n',
         "elsewhere/a.h": "#pragma once\n#include <string>\n",
         "frame/unguarded.h": "#include <string>\n",
         "frame/d.cpp": '#include <string>\n#include "frame/d.h"\n',

@@ -1,9 +1,8 @@
-#include "apps/lumenform/design_command.h"
-
 #include <QSettings>
 #include <memory>
 #include <optional>
 
+#include "apps/lumenform/commands.h"
 #include "apps/lumenform/design/window/design_window.h"
 #include "apps/lumenform/desktop_session.h"
 

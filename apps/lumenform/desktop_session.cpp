@@ -3,10 +3,9 @@
 #include <QApplication>
 #include <cstdio>
 
-#include "apps/lumenform/application_arguments.h"
+#include "apps/command_line/code_page_option.h"
+#include "apps/command_line/exit_status.h"
 #include "apps/lumenform/desktop.h"
-#include "apps/lumenkit/code_page_option.h"
-#include "apps/lumenkit/exit_status.h"
 #include "project/lumenkit_classes.h"
 #include "runtime/qt/application.h"
 #include "runtime/qt/interaction.h"

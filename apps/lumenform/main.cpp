@@ -4,11 +4,8 @@
 
 #include <CLI/CLI.hpp>
 
-#include "apps/lumenform/design_command.h"
-#include "apps/lumenform/new_command.h"
-#include "apps/lumenform/render_command.h"
-#include "apps/lumenform/run_command.h"
-#include "apps/lumenkit/exit_status.h"
+#include "apps/command_line/exit_status.h"
+#include "apps/lumenform/commands.h"
 
 namespace lumenkit::lumenform {
 

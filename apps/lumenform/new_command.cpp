@@ -1,13 +1,12 @@
-#include "apps/lumenform/new_command.h"
-
 #include <filesystem>
 #include <memory>
 #include <stdexcept>
 #include <string>
 #include <system_error>
 
+#include "apps/command_line/exit_status.h"
+#include "apps/lumenform/commands.h"
 #include "apps/lumenform/design/model/new_form.h"
-#include "apps/lumenkit/exit_status.h"
 #include "forms/file.h"
 #include "project/lumenkit_classes.h"
 

@@ -1,18 +1,16 @@
-#include "apps/lumenform/render_command.h"
-
 #include <QApplication>
 #include <cmath>
 #include <memory>
 #include <stdexcept>
 #include <string>
 
-#include "apps/lumenform/application_arguments.h"
+#include "apps/command_line/code_page_option.h"
+#include "apps/command_line/console_host.h"
+#include "apps/command_line/exit_status.h"
+#include "apps/lumenform/commands.h"
 #include "apps/lumenform/desktop.h"
 #include "apps/lumenform/form_view/form_view.h"
 #include "apps/lumenform/rendered_design.h"
-#include "apps/lumenkit/code_page_option.h"
-#include "apps/lumenkit/console_host.h"
-#include "apps/lumenkit/exit_status.h"
 #include "forms/encoding.h"
 #include "forms/file.h"
 #include "project/lumenkit_classes.h"

@@ -15,8 +15,8 @@ namespace {
 // Selects the first control of this library, or with `page` the first one that has a property page.
 void SelectFirst(Workbench& bench, bool page) {
     for (const auto& control : bench.GetDesign().View().Controls()) {
-        const qt::HostedControl* own = control->Own();
-        if (own != nullptr && (!page || !own->Type().propertyPage.empty())) {
+        const qt::HostedControl* hosted = control->Hosted();
+        if (hosted != nullptr && (!page || !hosted->Type().propertyPage.empty())) {
             bench.GetDesign().Select({control.get()});
             return;
         }

@@ -1,7 +1,6 @@
-#include "apps/lumenform/run_command.h"
-
 #include <memory>
 
+#include "apps/lumenform/commands.h"
 #include "apps/lumenform/desktop_session.h"
 #include "apps/lumenform/run/run_window.h"
 #include "forms/file.h"

@@ -1,17 +1,16 @@
-#include "apps/lumenkit/check_command.h"
-
 #include <iostream>
 #include <memory>
 #include <string>
 #include <vector>
 
+#include "apps/command_line/code_page_option.h"
+#include "apps/command_line/exit_status.h"
 #include "apps/lumenkit/check/file_checks.h"
 #include "apps/lumenkit/check/inputs.h"
 #include "apps/lumenkit/check/progress_bar.h"
 #include "apps/lumenkit/check/reporter.h"
 #include "apps/lumenkit/check/rules.h"
-#include "apps/lumenkit/code_page_option.h"
-#include "apps/lumenkit/exit_status.h"
+#include "apps/lumenkit/commands.h"
 #include "apps/lumenkit/terminal.h"
 #include "apps/lumenkit/text_input.h"
 #include "forms/encoding.h"
@@ -119,7 +118,7 @@ int Check(const CheckOptions& options) {
 
 std::string Help() {
     std::string help = "Rules and their names in findings:\n";
-    for (const check::Rule& rule : check::Rules()) {
+    for (const check::Rule& rule : check::allRules) {
         constexpr std::size_t column = 26;
         std::string line = "  " + std::string(rule.name);
         line.append(column - line.size(), ' ');

@@ -1,13 +1,12 @@
-#include "apps/lumenkit/compile_command.h"
-
 #include <iostream>
 #include <memory>
 #include <string>
 
 #include <nlohmann/json.hpp>
 
-#include "apps/lumenkit/console_host.h"
-#include "apps/lumenkit/exit_status.h"
+#include "apps/command_line/console_host.h"
+#include "apps/command_line/exit_status.h"
+#include "apps/lumenkit/commands.h"
 #include "apps/lumenkit/text_input.h"
 #include "frame/utf8.h"
 #include "vlabel/caption_compiler.h"

@@ -1,10 +1,9 @@
-#include "apps/lumenkit/drive_command.h"
-
 #include <iostream>
 #include <string>
 
+#include "apps/command_line/exit_status.h"
+#include "apps/lumenkit/commands.h"
 #include "apps/lumenkit/drive/session.h"
-#include "apps/lumenkit/exit_status.h"
 #include "project/lumenkit_classes.h"
 
 namespace lumenkit::cli {

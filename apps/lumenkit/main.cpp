@@ -4,10 +4,8 @@
 
 #include <CLI/CLI.hpp>
 
-#include "apps/lumenkit/check_command.h"
-#include "apps/lumenkit/compile_command.h"
-#include "apps/lumenkit/drive_command.h"
-#include "apps/lumenkit/exit_status.h"
+#include "apps/command_line/exit_status.h"
+#include "apps/lumenkit/commands.h"
 
 namespace lumenkit::cli {
 

@@ -36,18 +36,23 @@ bool TakesTab(const QWidget& widget) {
 
 }  // namespace
 
+std::vector<LiveControl*> InTabOrder(const std::vector<std::unique_ptr<LiveControl>>& controls) {
+    std::vector<LiveControl*> order;
+    order.reserve(controls.size());
+    for (const auto& control : controls) {
+        order.push_back(control.get());
+    }
+    std::ranges::stable_sort(order, [](const LiveControl* left, const LiveControl* right) {
+        return left->TabIndex() && (!right->TabIndex() || *left->TabIndex() < *right->TabIndex());
+    });
+    return order;
+}
+
 ClientArea::ClientArea(Color backColor, const Controls& controls, QWidget* parent)
     : QWidget(parent), backColor_(backColor), controls_(controls) {}
 
 ClientArea::Route ClientArea::FindRoute() const {
-    std::vector<const LiveControl*> order;
-    for (const auto& control : controls_) {
-        order.push_back(control.get());
-    }
-    // Controls without a TabIndex come last.
-    std::ranges::stable_sort(order, [](const LiveControl* left, const LiveControl* right) {
-        return left->TabIndex() && (!right->TabIndex() || *left->TabIndex() < *right->TabIndex());
-    });
+    const std::vector<LiveControl*> order = InTabOrder(controls_);
     Route route;
     for (std::size_t turn = 0; turn < order.size(); ++turn) {
         route.turns.emplace(&order[turn]->Widget(), turn);

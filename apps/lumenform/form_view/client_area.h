@@ -11,6 +11,9 @@
 
 namespace lumenkit::lumenform {
 
+/// Returns the controls in the order of TabIndex. Controls without one come last.
+std::vector<LiveControl*> InTabOrder(const std::vector<std::unique_ptr<LiveControl>>& controls);
+
 /// The client area of a form. Paints the background, moves the focus through the controls by
 /// TabIndex with Tab, and clicks the buttons for Enter and Esc. Tab goes from the last control to
 /// the first and does not leave the form.

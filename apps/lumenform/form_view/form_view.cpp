@@ -7,6 +7,7 @@
 #include <utility>
 
 #include "apps/lumenform/form_view/form_size.h"
+#include "apps/lumenform/form_view/make_control.h"
 #include "apps/lumenform/form_view/menu_bar.h"
 #include "forms/font_description.h"
 #include "runtime/qt/mnemonic.h"
@@ -53,7 +54,7 @@ QWidget* FirstStop(const LiveControl& control) {
         return &widget;
     }
     const auto parts =
-        control.Own() == nullptr ? QList<QWidget*>() : widget.findChildren<QWidget*>();
+        control.Hosted() == nullptr ? QList<QWidget*>() : widget.findChildren<QWidget*>();
     const auto found = std::ranges::find_if(parts, takes);
     return found == parts.end() ? nullptr : *found;
 }
@@ -99,7 +100,7 @@ void FormView::AddControls(const forms::Block& block, const Surroundings& around
     std::vector<LiveControl*> added;
     for (forms::Block* inner : block.Controls()) {
         if (!IsMenu(*inner)) {
-            controls_.push_back(LiveControl::Make(stage_, around, *inner));
+            controls_.push_back(MakeControl(stage_, around, *inner));
             added.push_back(controls_.back().get());
             AddControls(*inner, added.back()->Inside());
         }
@@ -150,7 +151,7 @@ void FormView::Save() {
     }
 }
 
-void FormView::OnRaised(std::function<void(const RaisedEvent&)> listener) {
+void FormView::OnRaised(std::function<void(const ControlEvent&)> listener) {
     stage_.raise = std::move(listener);
 }
 

@@ -43,7 +43,7 @@ class FormView final : public QWidget {
     /// Writes the changed properties of the controls into the document.
     void Save();
     /// Sets the listener for all events that the controls raise from now on.
-    void OnRaised(std::function<void(const RaisedEvent&)> listener);
+    void OnRaised(std::function<void(const ControlEvent&)> listener);
 
  protected:
     void changeEvent(QEvent* event) override;

@@ -1,7 +1,5 @@
 #include "apps/lumenform/form_view/live_control.h"
 
-#include "apps/lumenform/form_view/own_control.h"
-#include "apps/lumenform/form_view/plain_control.h"
 #include "apps/lumenform/form_view/saved_place.h"
 #include "forms/controls.h"
 
@@ -16,19 +14,6 @@ void StoreExtent(forms::Block& block, TextView name, float former, float now) {
 }
 
 }  // namespace
-
-std::unique_ptr<LiveControl> LiveControl::Make(const Stage& stage, const Surroundings& around,
-                                               forms::Block& block) {
-    const ClassDescriptor* type = stage.context.classes.Find(block.ClassName());
-    std::unique_ptr<LiveControl> control;
-    if (type != nullptr && type->kind == ClassKind::Control) {
-        control = std::make_unique<OwnControl>(stage, around, block, *type);
-    } else {
-        control = std::make_unique<PlainControl>(stage, around, block);
-    }
-    control->keptPlace_ = control->Place();
-    return control;
-}
 
 LiveControl::LiveControl(const Stage& stage, const Surroundings& around, forms::Block& block)
     : reader_(stage.document, block),
@@ -50,13 +35,13 @@ void LiveControl::Save() {
 
 void LiveControl::SavePlace() {
     const host::Placement place = Place();
-    if (keptPlace_ == place) {
+    if (storedPlace_ == place) {
         return;
     }
-    StorePlace(reader_, scale_.FromTwips(*keptPlace_), scale_.FromTwips(place));
-    StoreExtent(Block(), u"_ExtentX", keptPlace_->width, place.width);
-    StoreExtent(Block(), u"_ExtentY", keptPlace_->height, place.height);
-    keptPlace_ = place;
+    StorePlace(reader_, scale_.FromTwips(storedPlace_), scale_.FromTwips(place));
+    StoreExtent(Block(), u"_ExtentX", storedPlace_.width, place.width);
+    StoreExtent(Block(), u"_ExtentY", storedPlace_.height, place.height);
+    storedPlace_ = place;
 }
 
 }  // namespace lumenkit::lumenform

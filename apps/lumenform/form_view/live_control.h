@@ -2,12 +2,10 @@
 
 #include <QWidget>
 #include <cstdint>
-#include <memory>
 #include <optional>
 
 #include "apps/lumenform/form_view/block_reader.h"
 #include "apps/lumenform/form_view/stage.h"
-#include "frame/class_table.h"
 #include "frame/host/constituent.h"
 #include "runtime/qt/hosted_control.h"
 
@@ -22,11 +20,6 @@ class LiveControl {
     LiveControl(const LiveControl&) = delete;
     LiveControl& operator=(const LiveControl&) = delete;
 
-    /// Creates a control of this library if the block has one of its classes, and a plain
-    /// equivalent otherwise. Throws FormError if the control rejects a value of the block.
-    static std::unique_ptr<LiveControl> Make(const Stage& stage, const Surroundings& around,
-                                             forms::Block& block);
-
     forms::Block& Block() const { return reader_.Block(); }
     /// The name in code: "VMemo1", "optSize(2)".
     const Text& Name() const { return name_; }
@@ -37,8 +30,8 @@ class LiveControl {
     virtual QWidget& Widget() const = 0;
     /// The surroundings of the controls in this one.
     virtual const Surroundings& Inside() const = 0;
-    /// The widget of a control of this library; null for an equivalent.
-    virtual qt::HostedControl* Own() const { return nullptr; }
+    /// The hosted control, if this is a control of the library, or else null.
+    virtual qt::HostedControl* Hosted() const { return nullptr; }
     /// Whether the control can contain other controls.
     virtual bool IsContainer() const { return false; }
     /// Whether the control is in the back layer, like labels and pictures: all controls outside
@@ -63,6 +56,8 @@ class LiveControl {
     const BlockReader& Reader() const { return reader_; }
     /// Returns the place in the block, in twips. `otherwise` replaces missing values.
     host::Placement SavedPlace(const host::Placement& otherwise) const;
+    /// Called once with the initial place. Save writes only a place that differs from it.
+    void SetStoredPlace(const host::Placement& place) { storedPlace_ = place; }
 
  private:
     void SavePlace();
@@ -72,7 +67,7 @@ class LiveControl {
     Text name_;
     std::optional<std::int32_t> tabIndex_;
     bool tabStop_;
-    std::optional<host::Placement> keptPlace_;  // as in the block
+    host::Placement storedPlace_;  // the place that the block describes
 };
 
 }  // namespace lumenkit::lumenform

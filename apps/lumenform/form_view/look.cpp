@@ -6,7 +6,7 @@
 
 namespace lumenkit::lumenform {
 
-void ApplyColors(QWidget& widget, Colors colors, Colors usual) {
+void ApplyColors(QWidget& widget, WidgetColors colors, WidgetColors usual) {
     const QPalette base = QApplication::palette();
     QPalette palette;
     if (colors.fore != usual.fore) {

@@ -10,15 +10,15 @@ namespace lumenkit::lumenform {
 
 /// The colours of a widget. A colour that is usual for the kind of widget comes from the palette,
 /// which also provides the disabled colours.
-struct Colors {
+struct WidgetColors {
     Color fore = Color::ButtonText;
     Color back = Color::ButtonFace;
 
-    friend bool operator==(Colors, Colors) = default;
+    friend bool operator==(WidgetColors, WidgetColors) = default;
 };
 
 /// Sets the colours of the widget for the present palette of the application.
-void ApplyColors(QWidget& widget, Colors colors, Colors usual);
+void ApplyColors(QWidget& widget, WidgetColors colors, WidgetColors usual);
 
 void ApplyFont(QWidget& widget, const qt::Font& font);
 

@@ -31,6 +31,7 @@ PlainControl::PlainControl(const Stage& stage, const Surroundings& around, forms
     made.widget->setParent(&around.widget);
     widget_ = made.widget.release();
     SetUp(stage, *font);
+    SetStoredPlace(place_);
 }
 
 PlainControl::~PlainControl() {

@@ -31,7 +31,7 @@ class PlainControl final : public LiveControl {
     void SetUp(const Stage& stage, const qt::Font& font);
 
     const PlainKind& kind_;
-    Colors colors_;
+    WidgetColors colors_;
     host::Placement place_;
     int reach_ = 0;
     QPointer<QWidget> widget_;

@@ -13,12 +13,10 @@
 #include <array>
 
 #include "apps/lumenform/form_view/command_button.h"
+#include "apps/lumenform/form_view/companion_records.h"
 #include "apps/lumenform/form_view/labelled_box.h"
-#include "apps/lumenform/form_view/line_widget.h"
 #include "apps/lumenform/form_view/saved_place.h"
-#include "apps/lumenform/form_view/shape_widget.h"
-#include "apps/lumenform/form_view/stored_picture.h"
-#include "apps/lumenform/form_view/text_list.h"
+#include "apps/lumenform/form_view/shapes.h"
 #include "forms/controls.h"
 #include "runtime/qt/frame_widget.h"
 #include "runtime/qt/qt_text.h"
@@ -27,7 +25,7 @@ namespace lumenkit::lumenform {
 
 namespace {
 
-constexpr Colors windowColors = {Color::WindowText, Color::WindowBackground};
+constexpr WidgetColors windowColors = {Color::WindowText, Color::WindowBackground};
 
 QString Caption(const BlockReader& reader) {
     return qt::ToQString(reader.String(u"Caption"));

@@ -32,7 +32,7 @@ enum class TabRole : std::uint8_t {
 struct PlainKind {
     TextView className;  ///< empty: any other class
     PlainWidget (*make)(const BlockReader& reader, const PlainSink& raise);
-    Colors usual = {};
+    WidgetColors usual = {};
     host::Placement place = {.width = 1215, .height = 495};  ///< default for the block's place
     TabRole tab = TabRole::Stop;
     bool isInBack = false;

@@ -22,7 +22,7 @@ enum class Mode {
 };
 
 /// An event that a control raises.
-struct RaisedEvent {
+struct ControlEvent {
     const forms::Block& block;
     TextView control;  ///< the name in code: "VMemo1", "optSize(2)"
     TextView name;
@@ -35,7 +35,7 @@ struct Stage {
     const qt::Context& context;
     forms::Document& document;
     Mode mode = Mode::Run;
-    std::function<void(const RaisedEvent&)> raise;  ///< empty: no listener
+    std::function<void(const ControlEvent&)> raise;  ///< empty: no listener
 };
 
 /// The properties that a form or control passes on to the controls it contains.

@@ -31,7 +31,7 @@ QString Shown(const Value& value) {
         value);
 }
 
-QString ArgumentsOf(const RaisedEvent& event) {
+QString ArgumentsOf(const ControlEvent& event) {
     QStringList shown;
     for (std::size_t index = 0; index < event.arguments.size(); ++index) {
         shown.append(qt::ToQString(event.parameters[index].name) + QStringLiteral(" = ") +
@@ -61,7 +61,7 @@ QSize EventLog::sizeHint() const {
     return {QTreeWidget::sizeHint().width(), header()->sizeHint().height() + lines * line};
 }
 
-void EventLog::Add(const RaisedEvent& event) {
+void EventLog::Add(const ControlEvent& event) {
     const bool followed = verticalScrollBar()->value() == verticalScrollBar()->maximum();
     if (topLevelItemCount() == longest) {
         const std::unique_ptr<QTreeWidgetItem> oldest(takeTopLevelItem(0));

@@ -14,7 +14,7 @@ class EventLog final : public QTreeWidget {
 
     explicit EventLog(QWidget* parent = nullptr);
 
-    void Add(const RaisedEvent& event);
+    void Add(const ControlEvent& event);
 
     QSize sizeHint() const override;
 };

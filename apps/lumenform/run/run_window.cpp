@@ -32,7 +32,7 @@ RunWindow::RunWindow(const qt::Context& context, forms::Document& document)
     setWindowTitle(caption.isEmpty() ? qt::ToQString(document.Root().Name()) : caption);
     AddLog();
     resize(sizeHint().boundedTo(screen()->availableSize()));
-    view_->OnRaised([this](const RaisedEvent& event) { log_->Add(event); });
+    view_->OnRaised([this](const ControlEvent& event) { log_->Add(event); });
     view_->FocusFirst();
 }
 

@@ -79,8 +79,8 @@ class CommandChecker {
         }
         if (!command_.closed) {
             Add(rules::unterminatedCommand,
-                "the command has no closing bar: " + Quote(command_.text) +
-                    " is taken for the command and not drawn");
+                "the command " + Quote(command_.text) +
+                    " has no closing bar; it extends to the end of the line and is not drawn");
         }
     }
 
@@ -91,7 +91,8 @@ class CommandChecker {
 
     void CheckNamed(const CommandWord& word) {
         if (word.written == u"u") {
-            Add(rules::underlineIsItalic, "\"u\" draws italic, not underlined");
+            Add(rules::underlineIsItalic,
+                "the command \"u\" draws italic text, not underlined text");
         }
         switch (word.parameter) {
             case Parameter::Switch:
@@ -111,13 +112,14 @@ class CommandChecker {
 
     void CheckLoneBar() {
         if (!command_.closed) {
-            Add(rules::loneBar, "a lone bar: " + Quote(command_.text) +
-                                    ", all up to the end of the line, is not drawn");
+            Add(rules::loneBar, "the bar opens no command; the rest of the line, " +
+                                    Quote(command_.text) + ", is not drawn");
         } else if (command_.text.empty()) {
-            Add(rules::loneBar, "two bars with nothing between them draw nothing");
+            Add(rules::loneBar, "two bars without text between them draw nothing");
         } else {
             Add(rules::loneBar,
-                "no colon between two bars: " + Quote(command_.text) + " is not drawn",
+                "the text " + Quote(command_.text) +
+                    " between two bars has no colon and is not drawn",
                 MeantBetweenBars());
         }
     }
@@ -150,16 +152,17 @@ class CommandChecker {
         const std::string style = stored == u"b" ? "bold" : "italic";
         Add(rules::unconvertedValue,
             Quote(written_) +
-                (lacksBar ? " counts only with its closing bar" : " is not 0, 1, false or true") +
-                ": " + style + " goes off",
+                (lacksBar ? " has no effect without a closing bar"
+                          : " is not 0, 1, false or true") +
+                "; " + style + " is switched off",
             lacksBar ? ToUtf8(command_.text) + '|' : ToUtf8(NearestSwitch(written_)));
     }
 
     void CheckColor() {
         if (!command_.kept) {
             Add(rules::colorOutOfRange, Quote(written_) +
-                                            " has a number beyond 32 bits: drawing reports an "
-                                            "overflow and keeps the colour");
+                                            " contains a number of more than 32 bits; drawing "
+                                            "reports an overflow and does not change the colour");
             return;
         }
         CheckColorRange();
@@ -197,7 +200,7 @@ class CommandChecker {
     // A missing number is a valid 0.
     void CheckNumber(TextView number) {
         if (!Trim(number).empty() && IsNoNumber(number)) {
-            Add(rules::unconvertedValue, Quote(number) + " is no number and counts as 0");
+            Add(rules::unconvertedValue, Quote(number) + " is not a number and counts as 0");
         }
     }
 
@@ -206,7 +209,7 @@ class CommandChecker {
             AddOverflow();
         } else if (!(ParseNumber(command_.parameter) > 1)) {
             Add(rules::ineffectiveSize,
-                "size " + Quote(written_) + " does nothing: sizes above 1 count");
+                "size " + Quote(written_) + " has no effect; a size must be greater than 1");
         }
     }
 
@@ -214,14 +217,14 @@ class CommandChecker {
         if (!command_.kept) {
             AddOverflow();
         } else if (IsNoNumber(written_)) {
-            Add(rules::unconvertedValue, Quote(written_) + " is no number and counts as 0");
+            Add(rules::unconvertedValue, Quote(written_) + " is not a number and counts as 0");
         }
     }
 
     void AddOverflow() {
         Add(rules::numberOverflow, Quote(written_) +
-                                       " is beyond the range of numbers: drawing reports an "
-                                       "overflow and ignores the command");
+                                       " is out of range; drawing reports an overflow and "
+                                       "ignores the command");
     }
 
     const WrittenCommand& command_;
@@ -239,21 +242,20 @@ Remarks CheckCaption(TextView caption) {
         CommandChecker(command, remarks).Check();
     }
     if (outline.goesOn) {
-        remarks.push_back(
-            {rules::tooManyLines.name,
-             outline.end,
-             "more than " + std::to_string(outline.lines) + " lines: what follows is not drawn",
-             {}});
+        remarks.push_back({rules::tooManyLines.name,
+                           outline.end,
+                           "the caption has more than " + std::to_string(outline.lines) +
+                               " lines; further lines are not drawn",
+                           {}});
     }
     if (outline.overflows || caption.size() > lastPosition) {
-        const std::string length = std::to_string(caption.size()) +
+        const std::string length = "the caption has " + std::to_string(caption.size()) +
                                    " units, and positions end at " + std::to_string(lastPosition);
         remarks.push_back(
             {rules::textTooLong.name,
              outline.end,
-             length + (outline.overflows ? ": drawing reports an overflow, and what follows is not "
-                                           "drawn"
-                                         : ": what lies beyond cannot be drawn"),
+             length + (outline.overflows ? "; drawing reports an overflow and omits the rest"
+                                         : "; the text after that position cannot be drawn"),
              {}});
     }
     return remarks;

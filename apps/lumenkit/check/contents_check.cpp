@@ -49,7 +49,7 @@ class ContentsChecker {
                                        "items " + std::to_string(first->second) + " and " +
                                            std::to_string(count_.Value()) +
                                            " have the same value, " + Quote(item.value) +
-                                           ": setting Text to it selects the first",
+                                           "; assigning it to Text selects the first item",
                                        {}});
         }
     }
@@ -58,8 +58,8 @@ class ContentsChecker {
         const std::size_t next = count_.Value() == 0 ? 0 : end_ + 1;
         result_.remarks.push_back({rules::textTooLong.name,
                                    next,
-                                   std::to_string(contents_.size()) +
-                                       " units, and positions end at 32767: loading reports an "
+                                   "the contents have " + std::to_string(contents_.size()) +
+                                       " units, and positions end at 32767; loading reports an "
                                        "overflow, and the items from here on are missing",
                                    {}});
         result_.itemCount = itemCountAtFirst;
@@ -86,7 +86,7 @@ Remarks CheckListIndex(std::int16_t listIndex, std::int16_t itemCount) {
     return {{rules::listIndexOutOfRange.name,
              0,
              "there is no item " + std::to_string(listIndex) + " (the items are 0 to " + last +
-                 ", -1 is none): none is selected",
+                 ", and -1 means none); no item is selected",
              {}}};
 }
 

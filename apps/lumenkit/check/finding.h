@@ -13,7 +13,7 @@ namespace lumenkit::check {
 
 /// A remark about a text. All strings are UTF-8.
 struct Remark {
-    std::string_view rule;   ///< the name of one of Rules()
+    std::string_view rule;   ///< the name of a rule in rules.h
     std::size_t offset = 0;  ///< in the text, UTF-16 units from 0
     std::string message;
     std::string suggestion;  ///< the probable intention; empty if unknown
@@ -23,7 +23,7 @@ using Remarks = std::vector<Remark>;
 
 /// A remark about a place in a file.
 struct Finding {
-    std::string_view rule;              ///< the name of one of Rules()
+    std::string_view rule;              ///< the name of a rule in rules.h
     std::string file;                   ///< as named by the caller
     forms::Position place;              ///< in the file
     std::string control;                ///< "VLabel1", "VLabel1(2)"; empty for a caption file

@@ -40,9 +40,9 @@ Line FindLine(TextView text, Stop stop) {
 // refused edit restores the last accepted text, and at that moment there is none.
 std::string Outlook(TextView text, TextLimits limits) {
     const bool refuses = Restrict(text, limits, RestrictionMode::Apply).refused;
-    return refuses
-               ? "; loading does not cut it, and the first edit that leaves it so empties the box"
-               : "; loading does not cut it, the first edit does";
+    return refuses ? "; loading does not cut the text, and the first edit after which it still "
+                     "exceeds a limit empties the box"
+                   : "; loading does not cut the text, but the first edit does";
 }
 
 }  // namespace
@@ -58,13 +58,13 @@ Remarks CheckMemoText(TextView text, TextLimits limits) {
         const Line line = FindLine(text, [&](const Line& at) { return at.length > most; });
         add(line.begin + most, "line " + std::to_string(line.number) + " has " +
                                    std::to_string(line.length) +
-                                   " characters, MaxCharsPerLine is " + std::to_string(most));
+                                   " characters, but MaxCharsPerLine is " + std::to_string(most));
     }
     if (!Fits(text, {.maxLines = limits.maxLines})) {
         const auto most = static_cast<std::size_t>(limits.maxLines);
         const Line line = FindLine(text, [&](const Line& at) { return at.number == most; });
-        add(line.begin + line.length, "text goes on behind line " + std::to_string(most) +
-                                          ", and MaxLines is " + std::to_string(most));
+        add(line.begin + line.length, "the text continues after line " + std::to_string(most) +
+                                          ", but MaxLines is " + std::to_string(most));
     }
     return remarks;
 }

@@ -1,4 +1,5 @@
-// Reports saved names of a control's properties that are never read.
+#include "apps/lumenkit/check/name_check.h"
+
 #include <algorithm>
 #include <array>
 #include <memory>
@@ -8,7 +9,6 @@
 #include <variant>
 #include <vector>
 
-#include "apps/lumenkit/check/control_checks.h"
 #include "apps/lumenkit/check/quote.h"
 #include "apps/lumenkit/check/rules.h"
 #include "apps/lumenkit/check/saved_properties.h"
@@ -72,11 +72,11 @@ class NameChecker {
         const std::string type = ToUtf8(control_.Type().name);
         const std::string name = Quote(setting.name);
         if (!seen_.insert(LCase(setting.name)).second) {
-            Add(setting, "a second " + name + ": the first one counts", {});
+            Add(setting, name + " occurs twice; the first value counts", {});
         } else if (Find(properties_.read, setting.name) != nullptr) {
             return;
         } else if (Find(properties_.written, setting.name) != nullptr) {
-            Add(setting, type + " saves " + name + " but never reads it back", {});
+            Add(setting, type + " saves " + name + " but never reads it", {});
         } else if (!IsContainers(setting.name)) {
             Add(setting, type + " never reads " + name, ToUtf8(Nearest(setting.name, read_)));
         }

@@ -30,7 +30,7 @@ class Reporter {
 };
 
 /// The streams that a reporter may colour.
-struct Colors {
+struct ColoredStreams {
     bool output = false;
     bool errors = false;
 };
@@ -41,7 +41,7 @@ struct Colors {
 class TextReporter final : public Reporter {
  public:
     /// Errors go to a separate stream. Both streams must outlive the reporter.
-    TextReporter(std::ostream& output, std::ostream& errors, Colors colors)
+    TextReporter(std::ostream& output, std::ostream& errors, ColoredStreams colors)
         : output_(output), errors_(errors), colors_(colors) {}
 
     void Report(const Findings& findings) override;
@@ -53,7 +53,7 @@ class TextReporter final : public Reporter {
 
     std::ostream& output_;
     std::ostream& errors_;
-    Colors colors_;
+    ColoredStreams colors_;
     std::size_t findingCount_ = 0;
     std::size_t errorCount_ = 0;
 };

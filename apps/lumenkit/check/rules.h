@@ -1,7 +1,7 @@
 // The rules that the checks apply. Users filter findings by rule name, so the names do not change.
 #pragma once
 
-#include <span>
+#include <array>
 #include <string_view>
 
 namespace lumenkit::check {
@@ -15,10 +15,10 @@ namespace rules {
 
 inline constexpr Rule unknownCommand{"unknown-command", "a command that does not exist"};
 inline constexpr Rule unterminatedCommand{
-    "unterminated-command", "a command without its closing bar: the rest of the line is not drawn"};
+    "unterminated-command", "a command without a closing bar: the rest of the line is not drawn"};
 inline constexpr Rule loneBar{"lone-bar",
                               "a bar that opens no command: the text after it is not drawn"};
-inline constexpr Rule underlineIsItalic{"underline-is-italic", "the command u draws italics"};
+inline constexpr Rule underlineIsItalic{"underline-is-italic", "the command u draws italic text"};
 inline constexpr Rule unconvertedValue{"unconverted-value",
                                        "a value that cannot be converted and counts as off or 0"};
 inline constexpr Rule ineffectiveSize{"ineffective-size",
@@ -32,8 +32,8 @@ inline constexpr Rule duplicateValue{"duplicate-value",
                                      "two items with the same value: Text selects only the first"};
 inline constexpr Rule listIndexOutOfRange{"list-index-out-of-range",
                                           "a ListIndex without an item: no item is selected"};
-inline constexpr Rule textOverLimits{
-    "text-over-limits", "a text beyond the limits of its memo, which loading does not cut"};
+inline constexpr Rule textOverLimits{"text-over-limits",
+                                     "a text that exceeds the limits of its memo"};
 inline constexpr Rule unreadProperty{"unread-property",
                                      "a saved name that the control never reads"};
 inline constexpr Rule unreadableValue{"unreadable-value",
@@ -42,6 +42,11 @@ inline constexpr Rule unreadableValue{"unreadable-value",
 }  // namespace rules
 
 /// All rules.
-std::span<const Rule> Rules();
+inline constexpr std::array allRules = {
+    rules::unknownCommand,    rules::unterminatedCommand, rules::loneBar,
+    rules::underlineIsItalic, rules::unconvertedValue,    rules::ineffectiveSize,
+    rules::colorOutOfRange,   rules::numberOverflow,      rules::tooManyLines,
+    rules::textTooLong,       rules::duplicateValue,      rules::listIndexOutOfRange,
+    rules::textOverLimits,    rules::unreadProperty,      rules::unreadableValue};
 
 }  // namespace lumenkit::check

@@ -28,9 +28,9 @@ Value SavedControl::ValueOf(TextView name) {
 void SavedControl::Refuse(TextView name, const RuntimeError& error) {
     AddWhole(name, {{rules::unreadableValue.name,
                      0,
-                     "the value does not convert: loading reports error " +
+                     "the value cannot be converted; loading reports error " +
                          std::to_string(error.Number()) + " (" + ToUtf8(error.Description()) +
-                         ") and reads no further",
+                         ") and does not read the following properties",
                      {}}});
 }
 

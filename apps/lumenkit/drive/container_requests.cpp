@@ -1,8 +1,70 @@
+#include <cstdint>
+#include <filesystem>
+#include <memory>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "apps/lumenkit/drive/loaded_form.h"
 #include "apps/lumenkit/drive/requests.h"
+#include "forms/encoding.h"
+#include "forms/file.h"
+#include "forms/form_error.h"
 #include "frame/host/font.h"
 #include "frame/utf8.h"
 
 namespace lumenkit::cli::requests {
+
+namespace {
+
+std::filesystem::path FileOf(const Fields& request) {
+    const std::string name = request.String("file");
+    return std::u8string(name.begin(), name.end());
+}
+
+template <typename Act>
+auto WithForms(Act act) {
+    try {
+        return act();
+    } catch (const forms::FormError& error) {
+        throw BadRequest(error.what());
+    }
+}
+
+}  // namespace
+
+Result LoadForm(ScriptedContainer& container, const Fields& request) {
+    if (container.Loaded() != nullptr) {
+        throw BadRequest("there is a form already");
+    }
+    const bool userMode = IsUserMode(request);
+    const auto codePage = request.Whole<std::int32_t>("codePage", forms::defaultCodePage);
+    memory::Form& form = container.GetForm();
+    auto loaded = std::make_unique<LoadedForm>(
+        WithForms([&] { return forms::Load(FileOf(request), codePage); }), form.Classes());
+    for (const std::string& id : loaded->Ids()) {
+        container.RequireFree(id);
+    }
+    std::vector<LoadedForm::Living> living = loaded->Start(form, userMode);
+    Json ids = Json::array();
+    for (LoadedForm::Living& one : living) {
+        container.Add(one.id, std::move(one.control));
+        ids.push_back(one.id);
+    }
+    container.SetLoaded(std::move(loaded));
+    return ids;
+}
+
+Result WriteForm(ScriptedContainer& container, const Fields& request) {
+    LoadedForm* loaded = container.Loaded();
+    if (loaded == nullptr) {
+        throw BadRequest("there is no form to write");
+    }
+    const std::filesystem::path file = FileOf(request);
+    loaded->Update();
+    WithForms([&] { forms::Save(loaded->Document(), file); });
+    return std::nullopt;
+}
 
 Result SetAmbient(ScriptedContainer& container, const Fields& request) {
     memory::Form& form = container.GetForm();

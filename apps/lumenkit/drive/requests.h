@@ -35,11 +35,9 @@ Result Mouse(ScriptedContainer& container, const Fields& request);
 Result Scroll(ScriptedContainer& container, const Fields& request);
 Result Focus(ScriptedContainer& container, const Fields& request);
 
-// Form files (form_requests.cpp).
+// Form files and the container (container_requests.cpp).
 Result LoadForm(ScriptedContainer& container, const Fields& request);
 Result WriteForm(ScriptedContainer& container, const Fields& request);
-
-// The container (container_requests.cpp).
 Result SetAmbient(ScriptedContainer& container, const Fields& request);
 Result Allow(ScriptedContainer& container, const Fields& request);
 Result Quit(ScriptedContainer& container, const Fields& request);

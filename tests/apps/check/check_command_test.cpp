@@ -112,7 +112,8 @@ TEST(CheckCommand, SaysSoWhenNothingIsWrong) {
 TEST(CheckCommand, ReadsACaptionFromTheStandardInput) {
     const Outcome outcome = RunProgram("check --caption -", "a\n|U:1|b\n");
     EXPECT_EQ(outcome.output,
-              "-:2:1: Caption: \"u\" draws italic, not underlined [underline-is-italic]\n"
+              "-:2:1: Caption: the command \"u\" draws italic text, not underlined text "
+              "[underline-is-italic]\n"
               "1 file checked: 1 finding\n");
     EXPECT_EQ(outcome.status, 1);
     EXPECT_EQ(RunProgram("check --caption -").status, 0);

@@ -26,7 +26,7 @@ TEST(MemoCheck, FindsNothingWithinTheLimits) {
 TEST(MemoCheck, FindsTheFirstLineThatIsTooLong) {
     EXPECT_THAT(RulesInText(u"abc\r\nabcd\r\nabcdef", 3, 0), ElementsAre("text-over-limits@8"));
     EXPECT_THAT(CheckMemoText(u"abc\r\nabcd\r\nabcdef", {3, 0}).front().message,
-                HasSubstr("line 2 has 4 characters, MaxCharsPerLine is 3"));
+                HasSubstr("line 2 has 4 characters, but MaxCharsPerLine is 3"));
     // Only CR LF ends a line.
     EXPECT_THAT(RulesInText(u"a\nb\rc", 4, 0), ElementsAre("text-over-limits@4"));
 }
@@ -44,12 +44,12 @@ TEST(MemoCheck, FindsBoth) {
 
 TEST(MemoCheck, SaysThatLoadingDoesNotCutAndWhatEditsDo) {
     EXPECT_THAT(CheckMemoText(u"abcd", {3, 0}).front().message,
-                HasSubstr("; loading does not cut it, and the first edit that leaves it so "
-                          "empties the box"));
+                HasSubstr("; loading does not cut the text, and the first edit after which it "
+                          "still exceeds a limit empties the box"));
     EXPECT_THAT(CheckMemoText(u"abc ", {3, 0}).front().message,
-                HasSubstr("; loading does not cut it, the first edit does"));
+                HasSubstr("; loading does not cut the text, but the first edit does"));
     EXPECT_THAT(CheckMemoText(u"a\r\nb", {0, 1}).front().message,
-                HasSubstr("; loading does not cut it, the first edit does"));
+                HasSubstr("; loading does not cut the text, but the first edit does"));
 }
 
 }  // namespace

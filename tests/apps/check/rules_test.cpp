@@ -18,16 +18,16 @@ using ::testing::SizeIs;
 
 TEST(Rules, HaveNamesOfTheirOwn) {
     std::set<std::string_view> names;
-    for (const Rule& rule : Rules()) {
+    for (const Rule& rule : allRules) {
         names.insert(rule.name);
     }
-    EXPECT_THAT(names, SizeIs(Rules().size()));
+    EXPECT_THAT(names, SizeIs(allRules.size()));
 }
 
 TEST(Rules, AreInTheManualAndTheHelp) {
     const std::string manual = FileBytes(LUMENKIT_SOURCE_DIR "/docs/check.md");
     const std::string help = lumenkit::testing::RunProgram("check --help").output;
-    for (const Rule& rule : Rules()) {
+    for (const Rule& rule : allRules) {
         EXPECT_THAT(manual, HasSubstr("| `" + std::string(rule.name) + "` |"));
         EXPECT_THAT(help, HasSubstr("\n  " + std::string(rule.name) + ' '));
     }
@@ -40,7 +40,7 @@ TEST(Rules, AreShownByAnExample) {
         lumenkit::testing::RunProgram("check --caption " LUMENKIT_SOURCE_DIR
                                       "/tests/apps/check/captions/too_many_lines.txt")
             .output;
-    for (const Rule& rule : Rules()) {
+    for (const Rule& rule : allRules) {
         EXPECT_THAT(expected, HasSubstr(" [" + std::string(rule.name) + "]\n"));
     }
 }

@@ -89,7 +89,7 @@ void BrowsedForm::PressMore(TextView property) const {
 }
 
 Object& BrowsedForm::Automation(TextView control) const {
-    return design.View().Find(control)->Own()->Automation();
+    return design.View().Find(control)->Hosted()->Automation();
 }
 
 }  // namespace lumenkit::testing

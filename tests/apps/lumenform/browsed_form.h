@@ -3,7 +3,7 @@
 #include <QMainWindow>
 #include <string>
 
-#include "apps/lumenform/design/model/design.h"
+#include "apps/lumenform/design/model/form_design.h"
 #include "apps/lumenform/design/properties/control_messages.h"
 #include "apps/lumenform/design/properties/property_browser.h"
 #include "runtime/qt/application.h"
@@ -43,7 +43,7 @@ class BrowsedForm {
     qt::Application application;
     std::vector<RuntimeError> errors;
     qt::Context context;
-    lumenform::Design design;
+    lumenform::FormDesign design;
     QMainWindow window;
     lumenform::PropertyBrowser* browser;
 

@@ -127,7 +127,7 @@ TEST(CanvasDrag, MovesLiveAndWritesAtTheEnd) {
     const std::string before = canvas.Saved();
     const QPoint at = canvas.MiddleOf(u"A");
     int edits = 0;
-    QObject::connect(&canvas.design, &lumenform::Design::Edited, [&] { ++edits; });
+    QObject::connect(&canvas.design, &lumenform::FormDesign::Edited, [&] { ++edits; });
     canvas.Press(at);
     canvas.MoveTo(at + QPoint(30, 17));
     EXPECT_EQ(canvas.Control(u"A").Widget().pos(), QPoint(40, 32));

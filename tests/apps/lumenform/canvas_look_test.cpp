@@ -136,7 +136,7 @@ TEST(CanvasLook, ALargeFormScrolls) {
 
 TEST(CanvasLook, TheCanvasGivesTheViewBack) {
     Surface surface;
-    lumenform::Design design(surface.context, FormWith("   Begin VB.Label A\n End\n"));
+    lumenform::FormDesign design(surface.context, FormWith("   Begin VB.Label A\n End\n"));
     auto canvas = std::make_unique<lumenform::Canvas>(design);
     EXPECT_TRUE(canvas->isAncestorOf(&design.View()));
     design.Restructure("Caption", [&] {

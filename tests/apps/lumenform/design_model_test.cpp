@@ -121,10 +121,10 @@ TEST(Design, AViewThatCannotBeMadeTakesTheChangeBack) {
 TEST(Design, TellsWhatHappens) {
     EditedDesign edited = ThreeButtons();
     std::string told;
-    QObject::connect(&edited.design, &lumenform::Design::Edited, [&] { told += "edited "; });
-    QObject::connect(&edited.design, &lumenform::Design::SelectionChanged,
+    QObject::connect(&edited.design, &lumenform::FormDesign::Edited, [&] { told += "edited "; });
+    QObject::connect(&edited.design, &lumenform::FormDesign::SelectionChanged,
                      [&] { told += "selected "; });
-    QObject::connect(&edited.design, &lumenform::Design::ViewReplaced,
+    QObject::connect(&edited.design, &lumenform::FormDesign::ViewReplaced,
                      [&] { told += "replaced "; });
     edited.Select({u"cmdA"});
     edited.Select({u"cmdA"});
@@ -140,10 +140,10 @@ TEST(Design, TellsWhatHappens) {
 
 TEST(Design, KeepsTheLatestStepsOnly) {
     EditedDesign edited = ThreeButtons();
-    for (int i = 0; i <= lumenform::Design::mostSteps; ++i) {
+    for (int i = 0; i <= lumenform::FormDesign::mostSteps; ++i) {
         MoveBy(edited, u"cmdA", 15);
     }
-    EXPECT_EQ(edited.design.History().count(), lumenform::Design::mostSteps);
+    EXPECT_EQ(edited.design.History().count(), lumenform::FormDesign::mostSteps);
 }
 
 TEST(Design, UndoAfterSavingUnderAnotherNameKeepsToItsOwnCompanion) {
@@ -367,7 +367,8 @@ TEST(Clipboard, GoesIntoASelectedContainerAndIntoAnotherForm) {
     EXPECT_EQ(to.Selected(), "VMemo1");
     EXPECT_EQ(lumenform::ContainerOf(to.design, to.Control(u"VMemo1")), &to.Control(u"fraOuter"));
     const auto textOf = [](const EditedDesign& edited) {
-        return std::get<lumenkit::Text>(edited.Control(u"VMemo1").Own()->Automation().Get(u"Text"));
+        return std::get<lumenkit::Text>(
+            edited.Control(u"VMemo1").Hosted()->Automation().Get(u"Text"));
     };
     EXPECT_EQ(textOf(to), textOf(from));
     EXPECT_NE(textOf(to).find(u"\r\n"), lumenkit::Text::npos);

@@ -88,7 +88,7 @@ class DesignWindowTest : public ::testing::Test {
         }
         return Path(QString::fromStdString(name + ".frm"));
     }
-    lumenform::Design& Design() const { return window.Bench()->GetDesign(); }
+    lumenform::FormDesign& Design() const { return window.Bench()->GetDesign(); }
     std::string Text() const { return Design().Document().Write().form; }
     void Select(TextView name) const { Design().SelectNamed({lumenkit::Text(name)}); }
     void Nudge() { QTest::keyClick(&window.Bench()->GetCanvas().GetGlass(), Qt::Key_Right); }
@@ -201,8 +201,8 @@ TEST_F(DesignWindowTest, SavingUnderAnotherNameLeavesTheFirstAlone) {
     const std::string companion = FileBytes(File(QStringLiteral("memo.frx")));
     Select(u"VMemo1");
     Design().Edit(QStringLiteral("Text"), [&] {
-        Design().View().Find(u"VMemo1")->Own()->Automation().Let(u"Text",
-                                                                 lumenkit::Text(u"new\r\ntext"));
+        Design().View().Find(u"VMemo1")->Hosted()->Automation().Let(u"Text",
+                                                                    lumenkit::Text(u"new\r\ntext"));
     });
     ASSERT_TRUE(window.SaveTo(Path(QStringLiteral("other.frm"))));
     EXPECT_EQ(FileBytes(File(QStringLiteral("memo.frm"))), form);
@@ -210,9 +210,9 @@ TEST_F(DesignWindowTest, SavingUnderAnotherNameLeavesTheFirstAlone) {
     EXPECT_THAT(FileBytes(File(QStringLiteral("other.frm"))), HasSubstr("$\"other.frx\""));
     EXPECT_EQ(window.windowTitle(), QStringLiteral("other.frm[*] – lumenform"));
     window.Load(Path(QStringLiteral("other.frm")));
-    EXPECT_EQ(
-        std::get<lumenkit::Text>(Design().View().Find(u"VMemo1")->Own()->Automation().Get(u"Text")),
-        u"new\r\ntext");
+    EXPECT_EQ(std::get<lumenkit::Text>(
+                  Design().View().Find(u"VMemo1")->Hosted()->Automation().Get(u"Text")),
+              u"new\r\ntext");
 }
 
 TEST_F(DesignWindowTest, AFailedSaveSaysSoAndLosesNothing) {
@@ -280,7 +280,7 @@ TEST_F(DesignWindowTest, AsksBeforeItReplacesWhatOthersWrote) {
     {
         Answer answer(QStringLiteral("Cancel"));
         EXPECT_FALSE(window.Save());
-        EXPECT_THAT(answer.said, HasSubstr("Another program wrote"));
+        EXPECT_THAT(answer.said, HasSubstr("Another program has changed"));
     }
     EXPECT_EQ(FileBytes(File(QStringLiteral("label.frm"))), theirs);
     {
@@ -302,7 +302,7 @@ TEST_F(DesignWindowTest, RunsACopyAndComesBackToTheSame) {
     EXPECT_FALSE(Command(QStringLiteral("Save")).isEnabled());
     EXPECT_FALSE(Command(QStringLiteral("Delete")).isEnabled());
     lumenform::LiveControl& memo = *window.Running()->View().Find(u"memPrint");
-    TypeKeys(*memo.Own()->Parts().Find(u"Text1", 0)->Widget(), u"x");
+    TypeKeys(*memo.Hosted()->Parts().Find(u"Text1", 0)->Widget(), u"x");
     EXPECT_GE(window.Running()->Log().topLevelItemCount(), 1);
     // The desk around the form is dark; the controls on the form are not.
     EXPECT_EQ(window.Running()->View().Find(u"lblPrint")->Widget().backgroundRole(),

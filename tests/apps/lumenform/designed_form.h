@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "apps/lumenform/design/canvas/canvas.h"
-#include "apps/lumenform/design/model/design.h"
+#include "apps/lumenform/design/model/form_design.h"
 #include "tests/apps/lumenform/loaded_view.h"
 
 namespace lumenkit::host {
@@ -51,7 +51,7 @@ class DesignedForm {
     void Key(Qt::Key key, Qt::KeyboardModifiers held = {});
 
     Surface surface;
-    lumenform::Design design;
+    lumenform::FormDesign design;
     QMainWindow window;
     lumenform::Canvas* canvas;
     std::vector<QString> refused;

@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "apps/lumenform/design/model/design.h"
+#include "apps/lumenform/design/model/form_design.h"
 #include "tests/apps/lumenform/loaded_view.h"
 
 namespace lumenkit::testing {
@@ -24,7 +24,7 @@ class EditedDesign {
     std::string PlaceOf(TextView name) const;
 
     Surface surface;
-    lumenform::Design design;
+    lumenform::FormDesign design;
 };
 
 }  // namespace lumenkit::testing

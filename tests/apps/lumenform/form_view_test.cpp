@@ -101,7 +101,7 @@ TEST(FormView, ControlsSeeTheColourAndFontOfWhatTheyLieIn) {
                  "      BeginProperty Font\n Name = \"Arial\"\n Size = 12\n EndProperty\n"
                  "      Begin lumenkit.VLabel A\n Width = 900\n Height = 900\n End\n"
                  "   End\n"));
-    const qt::HostedControl& label = *view.Control(u"A").Own();
+    const qt::HostedControl& label = *view.Control(u"A").Hosted();
     EXPECT_EQ(label.Host().ambient.BackColor(), Rgb(255, 0, 0));
     EXPECT_EQ(label.Host().ambient.AmbientFont()->Name(), u"Arial");
     EXPECT_EQ(label.Host().ambient.AmbientFont()->Size(), 12.0F);
@@ -127,8 +127,8 @@ TEST(FormView, ControlsHaveTheirNamesAndTags) {
     const LoadedView view(
         FormWith("   Begin lumenkit.VMemo M\n Index = 2\n Tag = \"mine\"\n End\n"
                  "   Begin lumenkit.VMemo M\n Index = 0\n End\n"));
-    EXPECT_EQ(view.Control(u"m(2)").Own()->Tag(), u"mine");
-    EXPECT_EQ(view.Control(u"M(0)").Own()->Name(), u"M(0)");
+    EXPECT_EQ(view.Control(u"m(2)").Hosted()->Tag(), u"mine");
+    EXPECT_EQ(view.Control(u"M(0)").Hosted()->Name(), u"M(0)");
 }
 
 TEST(FormView, AMemoHoldsItsLimitUnderTheKeys) {
@@ -138,7 +138,7 @@ TEST(FormView, AMemoHoldsItsLimitUnderTheKeys) {
     QWidget& box = view.Part(u"M", u"Text1");
     box.setFocus();
     TypeKeys(box, u"abcdef");
-    EXPECT_EQ(ToText(view.Control(u"M").Own()->Automation().Get(u"Text")), u"abc");
+    EXPECT_EQ(ToText(view.Control(u"M").Hosted()->Automation().Get(u"Text")), u"abc");
     EXPECT_THAT(view.raised, Contains("M.Change"));
     EXPECT_THAT(view.Saved(), HasSubstr("      Text            =   \"abc\"\n"));
 }
@@ -153,7 +153,7 @@ TEST(FormView, WritesOnlyWhatWasChanged) {
         "   Begin VB.TextBox B\n      Left=15\n      Width=300\n   End\n";
     LoadedView view(FormWith(inner));
     const std::string before = view.Saved();
-    ToObject(view.Control(u"A").Own()->Automation().Get(u"Font"))->Let(u"Size", 12.0F);
+    ToObject(view.Control(u"A").Hosted()->Automation().Get(u"Font"))->Let(u"Size", 12.0F);
     view.Control(u"B").Move({.left = 30, .top = 0, .width = 300, .height = 495});
     std::string expected = before;
     expected.replace(expected.find("Size=9"), 6, "Size=12");

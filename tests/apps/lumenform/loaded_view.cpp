@@ -33,7 +33,7 @@ Surface::Surface()
 LoadedView::LoadedView(forms::Document loaded, lumenform::Mode mode)
     : document(std::move(loaded)), view(new lumenform::FormView(surface.context, document, mode)) {
     window.setCentralWidget(view);
-    view->OnRaised([this](const lumenform::RaisedEvent& event) {
+    view->OnRaised([this](const lumenform::ControlEvent& event) {
         raised.push_back(ToUtf8(event.control) + '.' + ToUtf8(event.name));
     });
     window.show();
@@ -50,7 +50,7 @@ lumenform::LiveControl& LoadedView::Control(TextView name) const {
 }
 
 QWidget& LoadedView::Part(TextView control, TextView part, std::int16_t index) const {
-    return *Control(control).Own()->Parts().Find(part, index)->Widget();
+    return *Control(control).Hosted()->Parts().Find(part, index)->Widget();
 }
 
 std::string LoadedView::Saved() {

@@ -12,10 +12,9 @@
 
 #include <gmock/gmock.h>
 
+#include "apps/lumenform/form_view/companion_records.h"
 #include "apps/lumenform/form_view/labelled_box.h"
 #include "apps/lumenform/form_view/menu_bar.h"
-#include "apps/lumenform/form_view/stored_picture.h"
-#include "apps/lumenform/form_view/text_list.h"
 #include "forms/file.h"
 #include "tests/apps/lumenform/loaded_view.h"
 

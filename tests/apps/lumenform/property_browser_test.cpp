@@ -457,12 +457,12 @@ TEST_F(PropertyBrowser, NamesThatAreNoneAreRefused) {
     const std::string before = form.Saved();
     for (const char* name : {"1st", "two words", "_x", "", "a-b"}) {
         form.Type(u"(Name)", name);
-        EXPECT_THAT(form.Message(), HasSubstr("A name is a letter")) << name;
+        EXPECT_THAT(form.Message(), HasSubstr("A name begins with a letter")) << name;
     }
     form.Type(u"(Name)", std::string(41, 'x'));
     EXPECT_THAT(form.Message(), HasSubstr("at most 40"));
     form.Type(u"(Name)", "form1");
-    EXPECT_THAT(form.Message(), HasSubstr("The form itself is called"));
+    EXPECT_THAT(form.Message(), HasSubstr("The form itself has the name"));
     form.Type(u"(Name)", "LABEL1");
     EXPECT_THAT(form.Message(), HasSubstr("\"Label1\" is already a control of another class"));
     EXPECT_EQ(form.Saved(), before);
@@ -491,7 +491,7 @@ TEST_F(PropertyBrowser, ControlsWithAnIndexShareAName) {
     two.Type(u"Index", "");
     EXPECT_THAT(two.Message(), HasSubstr("Give both an index"));
     two.Type(u"Index", "-1");
-    EXPECT_THAT(two.Message(), HasSubstr("An index is 0 to 32767"));
+    EXPECT_THAT(two.Message(), HasSubstr("An index must be from 0 to 32767"));
     EXPECT_EQ(two.Shown(u"Index"), "1");
 }
 

@@ -33,9 +33,9 @@ TEST_F(RunWindowTest, BearsTheCaption) {
 TEST_F(RunWindowTest, AnOptionClickIsInTheLog) {
     lumenform::LiveControl& options = *window_.View().Find(u"VOptList1");
     window_.Log().clear();
-    QWidget& button = *options.Own()->Parts().Find(u"Option1", 2)->Widget();
+    QWidget& button = *options.Hosted()->Parts().Find(u"Option1", 2)->Widget();
     QTest::mouseClick(&button, Qt::LeftButton, {}, QPoint(5, button.height() / 2));
-    EXPECT_EQ(ToInteger(options.Own()->Automation().Get(u"ListIndex")), 2);
+    EXPECT_EQ(ToInteger(options.Hosted()->Automation().Get(u"ListIndex")), 2);
     const auto lines = window_.Log().findItems("Click", Qt::MatchExactly, 1);
     ASSERT_EQ(lines.size(), 1);
     EXPECT_EQ(lines[0]->text(0), "VOptList1");

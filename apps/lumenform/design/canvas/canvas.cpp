@@ -4,7 +4,7 @@
 
 namespace lumenkit::lumenform {
 
-Canvas::Canvas(Design& design, QWidget* parent)
+Canvas::Canvas(FormDesign& design, QWidget* parent)
     : QScrollArea(parent),
       design_(design),
       dots_(grid_),
@@ -18,7 +18,7 @@ Canvas::Canvas(Design& design, QWidget* parent)
     setFocusProxy(glass_);
     dots_.Follow(design.View());
     glass_->FollowView();
-    connect(&design, &Design::ViewReplaced, this, &Canvas::FollowView);
+    connect(&design, &FormDesign::ViewReplaced, this, &Canvas::FollowView);
     ConnectGlass();
 }
 

@@ -6,7 +6,7 @@
 #include "apps/lumenform/design/canvas/glass.h"
 #include "apps/lumenform/design/canvas/grid.h"
 #include "apps/lumenform/design/canvas/grid_dots.h"
-#include "apps/lumenform/design/model/design.h"
+#include "apps/lumenform/design/model/form_design.h"
 
 namespace lumenkit::lumenform {
 
@@ -17,7 +17,7 @@ class Canvas final : public QScrollArea {
 
  public:
     /// The design must outlive the canvas.
-    explicit Canvas(Design& design, QWidget* parent = nullptr);
+    explicit Canvas(FormDesign& design, QWidget* parent = nullptr);
     ~Canvas() override;
     Canvas(const Canvas&) = delete;
     Canvas& operator=(const Canvas&) = delete;
@@ -63,7 +63,7 @@ class Canvas final : public QScrollArea {
     void FollowView();
     void ConnectGlass();
 
-    Design& design_;
+    FormDesign& design_;
     Grid grid_;
     GridDots dots_;
     Desk* desk_;

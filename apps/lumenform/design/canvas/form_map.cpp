@@ -26,7 +26,7 @@ const QWidget& InnermostAt(const QWidget& widget, QPoint at) {
 
 }  // namespace
 
-FormMap::FormMap(const Design& design, const QWidget& desk) : design_(design), desk_(desk) {}
+FormMap::FormMap(const FormDesign& design, const QWidget& desk) : design_(design), desk_(desk) {}
 
 void FormMap::Update() {
     controls_.clear();
@@ -82,17 +82,6 @@ std::vector<LiveControl*> FormMap::Touched(const LiveControl* container, const Q
         }
     }
     return touched;
-}
-
-std::vector<LiveControl*> FormMap::InTabOrder() const {
-    std::vector<LiveControl*> order;
-    for (const auto& control : design_.View().Controls()) {
-        order.push_back(control.get());
-    }
-    std::ranges::stable_sort(order, [](const LiveControl* left, const LiveControl* right) {
-        return left->TabIndex() && (!right->TabIndex() || *left->TabIndex() < *right->TabIndex());
-    });
-    return order;
 }
 
 }  // namespace lumenkit::lumenform

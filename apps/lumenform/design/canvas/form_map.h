@@ -6,7 +6,7 @@
 #include <unordered_map>
 #include <vector>
 
-#include "apps/lumenform/design/model/design.h"
+#include "apps/lumenform/design/model/form_design.h"
 
 namespace lumenkit::lumenform {
 
@@ -15,7 +15,7 @@ namespace lumenkit::lumenform {
 class FormMap {
  public:
     /// Both must outlive the map.
-    FormMap(const Design& design, const QWidget& desk);
+    FormMap(const FormDesign& design, const QWidget& desk);
 
     /// Called when the design has a new view.
     void Update();
@@ -31,13 +31,11 @@ class FormMap {
     LiveControl* ContainerAt(QPoint at) const;
     /// Returns the direct children of the container that intersect the rectangle.
     std::vector<LiveControl*> Touched(const LiveControl* container, const QRect& area) const;
-    /// Returns all controls in the order of TabIndex. Controls without one come last.
-    std::vector<LiveControl*> InTabOrder() const;
 
  private:
     LiveControl* Find(const QWidget* widget) const;
 
-    const Design& design_;
+    const FormDesign& design_;
     const QWidget& desk_;
     std::unordered_map<const QWidget*, LiveControl*> controls_;
 };

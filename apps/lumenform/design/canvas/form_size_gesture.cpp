@@ -3,14 +3,13 @@
 #include <QLayout>
 #include <algorithm>
 
-#include "apps/lumenform/design/canvas/titles.h"
 #include "runtime/qt/pixels.h"
 
 namespace lumenkit::lumenform {
 
 namespace {
 
-host::Placement InsideOfForm(const Design& design) {
+host::Placement InsideOfForm(const FormDesign& design) {
     const FormSize size = ClientSizeOf(design);
     return {.width = size.width, .height = size.height};
 }

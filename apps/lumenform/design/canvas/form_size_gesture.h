@@ -1,8 +1,8 @@
 #pragma once
 
 #include "apps/lumenform/design/canvas/edges.h"
-#include "apps/lumenform/design/canvas/form_size.h"
 #include "apps/lumenform/design/canvas/gesture.h"
+#include "apps/lumenform/design/canvas/resize_form.h"
 
 namespace lumenkit::lumenform {
 

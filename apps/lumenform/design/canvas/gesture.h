@@ -6,7 +6,7 @@
 
 #include "apps/lumenform/design/canvas/form_map.h"
 #include "apps/lumenform/design/canvas/grid.h"
-#include "apps/lumenform/design/model/design.h"
+#include "apps/lumenform/design/model/form_design.h"
 #include "frame/host/constituent.h"
 
 namespace lumenkit::lumenform {
@@ -14,7 +14,7 @@ namespace lumenkit::lumenform {
 /// The objects that gestures work on. All must outlive the gestures, except for the view: gestures
 /// end with it.
 struct Ground {
-    Design& design;
+    FormDesign& design;
     const FormMap& map;
     const Grid& grid;
 };
@@ -30,7 +30,7 @@ class Gesture {
     /// Called when the mouse has moved. With `snaps`, the dragged edges stop at the lines of the
     /// grid.
     virtual void DragTo(QPoint at, bool snaps) = 0;
-    /// Called when the button is released. Throws as Design does.
+    /// Called when the button is released. Throws as FormDesign does.
     virtual void Finish() = 0;
     /// Restores the former state.
     virtual void Cancel() {}

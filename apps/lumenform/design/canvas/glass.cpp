@@ -12,7 +12,7 @@
 #include "apps/lumenform/design/canvas/nudge.h"
 #include "apps/lumenform/design/canvas/placing_gesture.h"
 #include "apps/lumenform/design/canvas/selection.h"
-#include "apps/lumenform/design/model/attempt.h"
+#include "apps/lumenform/design/model/refusal.h"
 #include "runtime/qt/pixels.h"
 #include "runtime/qt/qt_text.h"
 
@@ -32,20 +32,19 @@ QRect Grown(const QRect& rect) {
 
 }  // namespace
 
-Glass::Glass(Design& design, const Grid& grid, QWidget& desk)
+Glass::Glass(FormDesign& design, const Grid& grid, QWidget& desk)
     : QWidget(&desk),
       design_(design),
       grid_(grid),
-      desk_(desk),
       map_(design, desk),
       badges_(design, map_, desk),
       label_(new PlaceLabel(this)) {
     setFocusPolicy(Qt::StrongFocus);
     setMouseTracking(true);
     setAccessibleName(tr("Form"));
-    connect(&design, &Design::SelectionChanged, this, &Glass::TellSelection);
+    connect(&design, &FormDesign::SelectionChanged, this, &Glass::TellSelection);
     // Any other change to the form during a drag, such as undo, ends the drag.
-    connect(&design, &Design::Edited, this, &Glass::EndGesture);
+    connect(&design, &FormDesign::Edited, this, &Glass::EndGesture);
 }
 
 Glass::~Glass() = default;
@@ -345,7 +344,7 @@ bool Glass::focusNextPrevChild(bool next) {
         return QWidget::focusNextPrevChild(next);
     }
     if (!press_ && !isTabOrderMode_) {
-        SelectNext(design_, map_, next);
+        SelectNext(design_, next);
         Q_EMIT Wanted(map_.RectOf(*design_.Selected().back()));
     }
     return true;

@@ -11,7 +11,7 @@
 #include "apps/lumenform/design/canvas/grid.h"
 #include "apps/lumenform/design/canvas/place_label.h"
 #include "apps/lumenform/design/canvas/tab_badges.h"
-#include "apps/lumenform/design/model/design.h"
+#include "apps/lumenform/design/model/form_design.h"
 
 namespace lumenkit::lumenform {
 
@@ -22,7 +22,7 @@ class Glass final : public QWidget {
 
  public:
     /// `desk`, the parent, shows the form at the same place. All arguments must outlive the glass.
-    Glass(Design& design, const Grid& grid, QWidget& desk);
+    Glass(FormDesign& design, const Grid& grid, QWidget& desk);
     ~Glass() override;
     Glass(const Glass&) = delete;
     Glass& operator=(const Glass&) = delete;
@@ -93,9 +93,8 @@ class Glass final : public QWidget {
     void PaintMarks(QPainter& painter) const;
     void Try(const std::function<void()>& work);
 
-    Design& design_;
+    FormDesign& design_;
     const Grid& grid_;
-    QWidget& desk_;
     FormMap map_;
     TabBadges badges_;
     PlaceLabel* label_;

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <cmath>
+
 namespace lumenkit::lumenform {
 
 /// The grid of a form in the designer. Its origin is the upper left corner of each container.
@@ -9,7 +11,7 @@ struct Grid {
     bool snaps = true;  ///< dragged edges stop only at grid lines
 
     /// Returns the nearest grid line.
-    float Nearest(float twips) const;
+    float Nearest(float twips) const { return std::round(twips / step) * step; }
 
     friend bool operator==(const Grid&, const Grid&) = default;
 };

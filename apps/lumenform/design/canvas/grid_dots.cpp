@@ -59,7 +59,7 @@ QPixmap MakeTile(double across, double down, double pixelRatio, bool isBright) {
 }  // namespace
 
 void GridDots::Follow(const FormView& view) {
-    grounds_.clear();
+    backgrounds_.clear();
     Watch(view.Inside(), true);
     for (const auto& control : view.Controls()) {
         if (control->IsContainer()) {
@@ -71,13 +71,13 @@ void GridDots::Follow(const FormView& view) {
 void GridDots::Watch(const Surroundings& container, bool paintsItself) {
     QWidget& widget = container.widget;
     widget.installEventFilter(this);
-    grounds_.emplace(&widget, Ground{paintsItself, container.backColor});
+    backgrounds_.emplace(&widget, Background{paintsItself, container.backColor});
     QObject::connect(&widget, &QObject::destroyed, this,
-                     [this, gone = &widget] { grounds_.erase(gone); });
+                     [this, gone = &widget] { backgrounds_.erase(gone); });
 }
 
 void GridDots::Refresh() {
-    for (const auto& [widget, ground] : grounds_) {
+    for (const auto& [widget, background] : backgrounds_) {
         widget->update();
     }
 }
@@ -87,16 +87,16 @@ bool GridDots::eventFilter(QObject* watched, QEvent* event) {
         return false;
     }
     QWidget& widget = *static_cast<QWidget*>(watched);
-    const auto found = grounds_.find(&widget);
-    if (found == grounds_.end()) {
+    const auto found = backgrounds_.find(&widget);
+    if (found == backgrounds_.end()) {
         return false;
     }
-    const Ground ground = found->second;
-    if (ground.paintsItself) {
+    const Background background = found->second;
+    if (background.paintsItself) {
         watched->event(event);
     }
-    Paint(widget, static_cast<QPaintEvent*>(event)->region(), ground.backColor);
-    return ground.paintsItself;
+    Paint(widget, static_cast<QPaintEvent*>(event)->region(), background.backColor);
+    return background.paintsItself;
 }
 
 void GridDots::Paint(QWidget& widget, const QRegion& region, Color backColor) {

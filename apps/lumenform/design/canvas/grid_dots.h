@@ -24,7 +24,7 @@ class GridDots final : public QObject {
     bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
-    struct Ground {
+    struct Background {
         bool paintsItself;  // paints its background in its paint event
         Color backColor;
     };
@@ -34,7 +34,7 @@ class GridDots final : public QObject {
     const QPixmap& TileFor(const QWidget& widget, bool isBright);
 
     const Grid& grid_;
-    std::map<QWidget*, Ground> grounds_;
+    std::map<QWidget*, Background> backgrounds_;
     std::map<std::tuple<double, float, bool>, QPixmap> tiles_;  // by pixel ratio, step, brightness
 };
 

@@ -7,29 +7,29 @@ namespace lumenkit::lumenform {
 
 namespace {
 
-constexpr int size = 7;
-constexpr int reach = 2;  // pixels around a handle that count as part of it
+constexpr int handleSize = 7;
+constexpr int handleReach = 2;  // pixels around a handle that count as part of it
 
 QRect SquareAt(int x, int y) {
-    return {x, y, size, size};
+    return {x, y, handleSize, handleSize};
 }
 
 }  // namespace
 
 std::vector<Handle> HandlesOf(const QRect& control) {
-    const int left = control.left() - size;
-    const int top = control.top() - size;
+    const int left = control.left() - handleSize;
+    const int top = control.top() - handleSize;
     const int right = control.left() + control.width();
     const int bottom = control.top() + control.height();
-    const int middle = control.left() + (control.width() - size) / 2;
-    const int centre = control.top() + (control.height() - size) / 2;
+    const int middle = control.left() + (control.width() - handleSize) / 2;
+    const int centre = control.top() + (control.height() - handleSize) / 2;
     std::vector<Handle> handles = {
         {{.left = true, .top = true}, SquareAt(left, top)},
         {{.top = true, .right = true}, SquareAt(right, top)},
         {{.right = true, .bottom = true}, SquareAt(right, bottom)},
         {{.left = true, .bottom = true}, SquareAt(left, bottom)},
     };
-    constexpr int room = size + 2 * reach;
+    constexpr int room = handleSize + 2 * handleReach;
     if (control.width() >= room) {
         handles.push_back({{.top = true}, SquareAt(middle, top)});
         handles.push_back({{.bottom = true}, SquareAt(middle, bottom)});
@@ -53,7 +53,8 @@ std::vector<Handle> FormHandlesOf(const QRect& client) {
 
 std::optional<Edges> EdgesAt(const std::vector<Handle>& handles, QPoint at) {
     const auto reaches = [at](const Handle& handle) {
-        return handle.rect.adjusted(-reach, -reach, reach, reach).contains(at);
+        return handle.rect.adjusted(-handleReach, -handleReach, handleReach, handleReach)
+            .contains(at);
     };
     const auto found = std::ranges::find_if(handles, reaches);
     return found == handles.end() ? std::nullopt : std::optional(found->edges);

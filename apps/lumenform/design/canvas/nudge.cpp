@@ -3,8 +3,8 @@
 #include <optional>
 
 #include "apps/lumenform/design/canvas/edges.h"
-#include "apps/lumenform/design/canvas/form_size.h"
-#include "apps/lumenform/design/canvas/titles.h"
+#include "apps/lumenform/design/canvas/placing_gesture.h"
+#include "apps/lumenform/design/canvas/resize_form.h"
 #include "apps/lumenform/design/model/arrange.h"
 #include "runtime/qt/pixels.h"
 
@@ -27,23 +27,21 @@ std::optional<QPoint> Direction(int key) {
     }
 }
 
-void NudgeForm(Design& design, float across, float down) {
+void NudgeForm(FormDesign& design, float across, float down) {
     const FormSize size = ClientSizeOf(design);
     const host::Placement place = Shifted({.width = size.width, .height = size.height},
                                           {.right = true, .bottom = true}, across, down);
     ResizeForm(design, {place.width, place.height});
 }
 
-void NudgeControls(Design& design, Edges edges, float across, float down) {
+void NudgeControls(FormDesign& design, Edges edges, float across, float down) {
     const std::vector<LiveControl*> controls = OutermostSelected(design);
-    const QString title = edges == allEdges ? MoveTitle(controls.size(), *controls.back())
-                                            : SizeTitle(controls.size(), *controls.back());
     const auto shift = [&] {
         for (LiveControl* control : controls) {
             control->Move(Shifted(control->Place(), edges, across, down));
         }
     };
-    design.Edit(title, shift, Merging::Nudges);
+    design.Edit(PlacingTitle(edges, controls.size(), *controls.back()), shift, Merging::Nudges);
 }
 
 }  // namespace

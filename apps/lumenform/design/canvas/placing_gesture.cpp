@@ -2,9 +2,9 @@
 
 #include <algorithm>
 
-#include "apps/lumenform/design/canvas/titles.h"
 #include "apps/lumenform/design/model/arrange.h"
 #include "runtime/qt/pixels.h"
+#include "runtime/qt/qt_text.h"
 
 namespace lumenkit::lumenform {
 
@@ -16,6 +16,16 @@ float Distance(float edge, float dragged, const Grid& grid, bool snaps) {
 }
 
 }  // namespace
+
+QString PlacingTitle(Edges edges, std::size_t count, const LiveControl& one) {
+    if (count == 1) {
+        const QString title = edges == allEdges ? QObject::tr("Move %1") : QObject::tr("Size %1");
+        return title.arg(qt::ToQString(one.Name()));
+    }
+    const QString title =
+        edges == allEdges ? QObject::tr("Move %1 controls") : QObject::tr("Size %1 controls");
+    return title.arg(count);
+}
 
 PlacingGesture::PlacingGesture(const Ground& ground, const LiveControl& grabbed, Edges edges,
                                QPoint pressedAt)
@@ -45,8 +55,7 @@ void PlacingGesture::DragTo(QPoint at, bool snaps) {
 }
 
 void PlacingGesture::Finish() {
-    const QString title = edges_ == allEdges ? MoveTitle(targets_.size(), *grabbed_->control)
-                                             : SizeTitle(targets_.size(), *grabbed_->control);
+    const QString title = PlacingTitle(edges_, targets_.size(), *grabbed_->control);
     ground_.design.Edit(title, [this] {
         for (const Target& target : targets_) {
             target.control->Move(target.place);

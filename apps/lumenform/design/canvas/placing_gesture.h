@@ -1,11 +1,17 @@
 #pragma once
 
+#include <QString>
+#include <cstddef>
 #include <vector>
 
 #include "apps/lumenform/design/canvas/edges.h"
 #include "apps/lumenform/design/canvas/gesture.h"
 
 namespace lumenkit::lumenform {
+
+/// The title of a step of the history that moves or sizes `count` controls. A single control is
+/// named: `one`.
+QString PlacingTitle(Edges edges, std::size_t count, const LiveControl& one);
 
 /// Moves or sizes the selected controls by the same distance as the control under the mouse. Only
 /// that control snaps to the grid.

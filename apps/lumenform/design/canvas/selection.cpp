@@ -8,7 +8,7 @@
 
 namespace lumenkit::lumenform {
 
-void Toggle(Design& design, LiveControl& control) {
+void Toggle(FormDesign& design, LiveControl& control) {
     std::vector<LiveControl*> selected = design.Selected();
     if (std::erase(selected, &control) == 0) {
         selected.push_back(&control);
@@ -16,15 +16,15 @@ void Toggle(Design& design, LiveControl& control) {
     design.Select(std::move(selected));
 }
 
-void MakeLast(Design& design, LiveControl& control) {
+void MakeLast(FormDesign& design, LiveControl& control) {
     std::vector<LiveControl*> selected = design.Selected();
     std::erase(selected, &control);
     selected.push_back(&control);
     design.Select(std::move(selected));
 }
 
-void SelectNext(Design& design, const FormMap& map, bool forward) {
-    std::vector<LiveControl*> order = map.InTabOrder();
+void SelectNext(FormDesign& design, bool forward) {
+    std::vector<LiveControl*> order = InTabOrder(design.View().Controls());
     if (order.empty()) {
         return;
     }
@@ -38,14 +38,14 @@ void SelectNext(Design& design, const FormMap& map, bool forward) {
     design.Select({next == order.end() ? order.front() : *next});
 }
 
-void SelectContainer(Design& design) {
+void SelectContainer(FormDesign& design) {
     if (!design.Selected().empty()) {
         LiveControl* const container = ContainerOf(design, *design.Selected().back());
         design.Select(container == nullptr ? std::vector<LiveControl*>() : std::vector{container});
     }
 }
 
-void SelectAll(Design& design) {
+void SelectAll(FormDesign& design) {
     std::vector<LiveControl*> all;
     for (const auto& control : design.View().Controls()) {
         all.push_back(control.get());

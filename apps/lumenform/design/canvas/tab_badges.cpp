@@ -2,7 +2,6 @@
 
 #include <algorithm>
 
-#include "apps/lumenform/design/canvas/titles.h"
 #include "apps/lumenform/design/model/tab_order.h"
 
 namespace lumenkit::lumenform {
@@ -11,7 +10,7 @@ void TabBadges::Number(const LiveControl& control) {
     if (!control.TabIndex()) {
         return;
     }
-    design_.Restructure(TabOrderTitle(), [&] {
+    design_.Restructure(QObject::tr("Tab order"), [&] {
         GiveTurn(design_.Document(), control.Block(), next_);
         return design_.SelectedNames();
     });

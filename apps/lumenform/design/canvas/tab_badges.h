@@ -5,7 +5,7 @@
 #include <QWidget>
 
 #include "apps/lumenform/design/canvas/form_map.h"
-#include "apps/lumenform/design/model/design.h"
+#include "apps/lumenform/design/model/form_design.h"
 
 namespace lumenkit::lumenform {
 
@@ -13,12 +13,12 @@ namespace lumenkit::lumenform {
 class TabBadges {
  public:
     /// All arguments must outlive this object.
-    TabBadges(Design& design, const FormMap& map, const QWidget& desk)
+    TabBadges(FormDesign& design, const FormMap& map, const QWidget& desk)
         : design_(design), map_(map), desk_(desk) {}
 
     /// Restarts the numbers from 0.
     void Start() { next_ = 0; }
-    /// Assigns the next number to the control. Throws as Design::Restructure does.
+    /// Assigns the next number to the control. Throws as FormDesign::Restructure does.
     void Number(const LiveControl& control);
 
     void Paint(QPainter& painter) const;
@@ -27,7 +27,7 @@ class TabBadges {
  private:
     QRect BadgeOf(const LiveControl& control) const;
 
-    Design& design_;
+    FormDesign& design_;
     const FormMap& map_;
     const QWidget& desk_;
     int next_ = 0;

@@ -22,7 +22,7 @@ struct Item {
     Placement onForm;
 };
 
-std::vector<Item> Items(const Design& design) {
+std::vector<Item> Items(const FormDesign& design) {
     std::vector<Item> items;
     for (LiveControl* control : OutermostSelected(design)) {
         items.push_back({control, PlaceOnForm(design, *control)});
@@ -43,7 +43,7 @@ void MoveTo(const Item& item, const Placement& onForm) {
 using Follow = std::function<Placement(const Placement& place, const Placement& leader)>;
 
 // Moves all controls but the last selected one to the places that `follow` returns.
-void FollowLast(Design& design, const char* title, const Follow& follow) {
+void FollowLast(FormDesign& design, const char* title, const Follow& follow) {
     const std::vector<Item> items = Items(design);
     if (items.size() < 2) {
         return;
@@ -99,7 +99,7 @@ float RoomIn(const Surroundings& around, Qt::Orientation orientation) {
 
 }  // namespace
 
-LiveControl* ContainerOf(const Design& design, const LiveControl& control) {
+LiveControl* ContainerOf(const FormDesign& design, const LiveControl& control) {
     const auto& all = design.View().Controls();
     const QWidget* const around = control.Widget().parentWidget();
     const auto found = std::ranges::find_if(
@@ -107,15 +107,15 @@ LiveControl* ContainerOf(const Design& design, const LiveControl& control) {
     return found == all.end() ? nullptr : found->get();
 }
 
-const Surroundings& InsideOf(const Design& design, const LiveControl* container) {
+const Surroundings& InsideOf(const FormDesign& design, const LiveControl* container) {
     return container == nullptr ? design.View().Inside() : container->Inside();
 }
 
-forms::Block& BlockOf(const Design& design, const LiveControl* container) {
+forms::Block& BlockOf(const FormDesign& design, const LiveControl* container) {
     return container == nullptr ? design.Document().Root() : container->Block();
 }
 
-std::vector<LiveControl*> OutermostSelected(const Design& design) {
+std::vector<LiveControl*> OutermostSelected(const FormDesign& design) {
     std::vector<LiveControl*> outermost;
     for (LiveControl* control : design.Selected()) {
         const LiveControl* container = ContainerOf(design, *control);
@@ -129,7 +129,7 @@ std::vector<LiveControl*> OutermostSelected(const Design& design) {
     return outermost;
 }
 
-Placement PlaceOnForm(const Design& design, const LiveControl& control) {
+Placement PlaceOnForm(const FormDesign& design, const LiveControl& control) {
     Placement place = control.Place();
     const qt::TwipsPerPixel& twips = qt::TwipsPerPixel::OfScreens();
     const QWidget& around = InsideOf(design, ContainerOf(design, control)).widget;
@@ -139,14 +139,14 @@ Placement PlaceOnForm(const Design& design, const LiveControl& control) {
     return place;
 }
 
-void Align(Design& design, Alignment alignment) {
+void Align(FormDesign& design, Alignment alignment) {
     FollowLast(design, QT_TRANSLATE_NOOP("arrange", "Align"),
                [&](const Placement& place, const Placement& leader) {
                    return Aligned(place, leader, alignment);
                });
 }
 
-void MakeSameSize(Design& design, Dimension dimension) {
+void MakeSameSize(FormDesign& design, Dimension dimension) {
     FollowLast(design, QT_TRANSLATE_NOOP("arrange", "Make the same size"),
                [&](Placement place, const Placement& leader) {
                    if (dimension != Dimension::Height) {
@@ -159,7 +159,7 @@ void MakeSameSize(Design& design, Dimension dimension) {
                });
 }
 
-void CenterOnContainer(Design& design, Qt::Orientation orientation) {
+void CenterOnContainer(FormDesign& design, Qt::Orientation orientation) {
     const std::vector<LiveControl*> controls = OutermostSelected(design);
     if (controls.empty()) {
         return;
@@ -182,7 +182,7 @@ void CenterOnContainer(Design& design, Qt::Orientation orientation) {
     });
 }
 
-void SpaceEvenly(Design& design, Qt::Orientation orientation) {
+void SpaceEvenly(FormDesign& design, Qt::Orientation orientation) {
     const Axis axis = Axis::Of(orientation);
     std::vector<Item> items = Items(design);
     if (items.size() < 3) {
@@ -206,7 +206,7 @@ void SpaceEvenly(Design& design, Qt::Orientation orientation) {
     });
 }
 
-void SizeToGrid(Design& design, float grid) {
+void SizeToGrid(FormDesign& design, float grid) {
     const std::vector<LiveControl*> controls = OutermostSelected(design);
     const auto snapped = [&](float twips) { return std::round(twips / grid) * grid; };
     design.Edit(Title(QT_TRANSLATE_NOOP("arrange", "Size to grid")), [&] {

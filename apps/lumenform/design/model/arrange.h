@@ -4,7 +4,7 @@
 
 #include <vector>
 
-#include "apps/lumenform/design/model/design.h"
+#include "apps/lumenform/design/model/form_design.h"
 #include "apps/lumenform/form_view/live_control.h"
 
 namespace lumenkit::lumenform {
@@ -13,24 +13,24 @@ enum class Alignment { Left, Center, Right, Top, Middle, Bottom };
 enum class Dimension { Width, Height, Both };
 
 /// The selected controls that are not inside another selected control.
-std::vector<LiveControl*> OutermostSelected(const Design& design);
+std::vector<LiveControl*> OutermostSelected(const FormDesign& design);
 /// Returns the container of the control, or null for the form.
-LiveControl* ContainerOf(const Design& design, const LiveControl& control);
+LiveControl* ContainerOf(const FormDesign& design, const LiveControl& control);
 /// The surroundings of the controls in `container`. Null means the form.
-const Surroundings& InsideOf(const Design& design, const LiveControl* container);
+const Surroundings& InsideOf(const FormDesign& design, const LiveControl* container);
 /// The block of `container`. Null means the form.
-forms::Block& BlockOf(const Design& design, const LiveControl* container);
+forms::Block& BlockOf(const FormDesign& design, const LiveControl* container);
 /// The place of the control in twips from the upper left corner of the form's client area.
-host::Placement PlaceOnForm(const Design& design, const LiveControl& control);
+host::Placement PlaceOnForm(const FormDesign& design, const LiveControl& control);
 
-void Align(Design& design, Alignment alignment);
-void MakeSameSize(Design& design, Dimension dimension);
+void Align(FormDesign& design, Alignment alignment);
+void MakeSameSize(FormDesign& design, Dimension dimension);
 /// Moves the selected controls as a group to the middle of their container.
-void CenterOnContainer(Design& design, Qt::Orientation orientation);
+void CenterOnContainer(FormDesign& design, Qt::Orientation orientation);
 /// Makes all gaps between neighbours equal. The outer controls do not move. Does nothing for fewer
 /// than three controls.
-void SpaceEvenly(Design& design, Qt::Orientation orientation);
+void SpaceEvenly(FormDesign& design, Qt::Orientation orientation);
 /// Moves the edges to multiples of `grid` twips. Width and height are at least `grid`.
-void SizeToGrid(Design& design, float grid);
+void SizeToGrid(FormDesign& design, float grid);
 
 }  // namespace lumenkit::lumenform

@@ -42,7 +42,7 @@ forms::Document Parsed(const Clip& clip) {
     return forms::Document::Parse("clipboard", clip.bytes.form, companion, clip.codePage);
 }
 
-Clip ClipOf(const Design& design) {
+Clip ClipOf(const FormDesign& design) {
     const forms::Document& document = design.Document();
     forms::Document clip = document.WithBytes({std::string(emptyForm), {}});
     clip.Rename("clipboard.frm");
@@ -82,7 +82,7 @@ bool HoldsContainers(const forms::Document& copied) {
 
 // Returns the container for pasted controls; null is the form. Containers are pasted beside the
 // selected container and not into it, because it may be the one that was pasted last.
-const LiveControl* PasteTarget(const Design& design, const forms::Document& copied) {
+const LiveControl* PasteTarget(const FormDesign& design, const forms::Document& copied) {
     if (design.Selected().empty()) {
         return nullptr;
     }
@@ -125,7 +125,7 @@ void StepAside(const forms::Document& document, const forms::Block& container,
     }
 }
 
-void PasteClip(Design& design, const Clip& clip, const QString& title) {
+void PasteClip(FormDesign& design, const Clip& clip, const QString& title) {
     const forms::Document copied = Parsed(clip);
     const LiveControl* const target = PasteTarget(design, copied);
     design.Restructure(title, [&] {
@@ -150,7 +150,7 @@ void PasteClip(Design& design, const Clip& clip, const QString& title) {
 
 }  // namespace
 
-std::unique_ptr<QMimeData> CopySelected(const Design& design) {
+std::unique_ptr<QMimeData> CopySelected(const FormDesign& design) {
     if (design.Selected().empty()) {
         return nullptr;
     }
@@ -165,12 +165,12 @@ bool HoldsControls(const QMimeData* data) {
     return data != nullptr && data->hasFormat(QLatin1String(controlsFormat));
 }
 
-void Paste(Design& design, const QMimeData& data) {
+void Paste(FormDesign& design, const QMimeData& data) {
     PasteClip(design, Unpacked(data.data(QLatin1String(controlsFormat))),
               QCoreApplication::translate("clipboard", "Paste"));
 }
 
-void DuplicateSelected(Design& design) {
+void DuplicateSelected(FormDesign& design) {
     if (!design.Selected().empty()) {
         PasteClip(design, ClipOf(design), QCoreApplication::translate("clipboard", "Duplicate"));
     }

@@ -4,7 +4,7 @@
 #include <QMimeData>
 #include <memory>
 
-#include "apps/lumenform/design/model/design.h"
+#include "apps/lumenform/design/model/form_design.h"
 
 namespace lumenkit::lumenform {
 
@@ -13,17 +13,17 @@ extern const char* const controlsFormat;
 
 /// Returns the selected controls with their contents, also as the text of a form. Null if none is
 /// selected.
-std::unique_ptr<QMimeData> CopySelected(const Design& design);
+std::unique_ptr<QMimeData> CopySelected(const FormDesign& design);
 
 bool HoldsControls(const QMimeData* data);
 
 /// Pastes copies of the controls into the selected container or beside the selected control, and
 /// selects them. Copies get new names if theirs are taken, elements of control arrays get free
 /// indices, and the copies move aside from controls at the same place. One step of the history.
-/// Throws FormError for damaged data, and as Design::Restructure does.
-void Paste(Design& design, const QMimeData& data);
+/// Throws FormError for damaged data, and as FormDesign::Restructure does.
+void Paste(FormDesign& design, const QMimeData& data);
 
 /// Copies and pastes without the clipboard.
-void DuplicateSelected(Design& design);
+void DuplicateSelected(FormDesign& design);
 
 }  // namespace lumenkit::lumenform

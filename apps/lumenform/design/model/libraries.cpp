@@ -2,22 +2,24 @@
 
 #include <algorithm>
 
-#include "apps/lumenform/form_view/library_name.h"
 #include "forms/controls.h"
-#include "frame/text.h"
 #include "frame/utf8.h"
 
 namespace lumenkit::lumenform {
 
 namespace {
 
+std::string UpperCased(std::string text) {
+    std::ranges::transform(text, text.begin(), [](char character) {
+        return character >= 'a' && character <= 'z' ? static_cast<char>(character - 'a' + 'A')
+                                                    : character;
+    });
+    return text;
+}
+
 bool IsFrom(TextView library, const forms::Block& control) {
     const TextView name = control.ClassName();
     return SameText(name.substr(0, name.find(u'.')), library, Compare::IgnoreCase);
-}
-
-Text FileOf(const ClassTable& classes) {
-    return Text(classes.libraryName) + u".ocx";
 }
 
 bool Names(const forms::Document& form, TextView file) {
@@ -28,8 +30,17 @@ bool Names(const forms::Document& form, TextView file) {
 
 }  // namespace
 
+std::string LibraryName(const ClassTable& classes) {
+    return "{" + UpperCased(ToString(classes.uniqueIdentifier)) + "}#" +
+           std::to_string(classes.majorVersion) + '.' + std::to_string(classes.minorVersion) + "#0";
+}
+
+Text LibraryFile(const ClassTable& classes) {
+    return Text(classes.libraryName) + u".ocx";
+}
+
 void RequireLibrary(forms::Document& form, const ClassTable& classes) {
-    const Text file = FileOf(classes);
+    const Text file = LibraryFile(classes);
     if (!Names(form, file)) {
         form.AddLibrary(FromUtf8(LibraryName(classes)), file);
     }
@@ -49,7 +60,7 @@ void RequireLibrariesOf(const forms::Document& clip, forms::Document& form,
         return;
     }
     for (const forms::LibraryReference& library : clip.Libraries()) {
-        const bool isOwn = SameText(library.file, FileOf(classes), Compare::IgnoreCase);
+        const bool isOwn = SameText(library.file, LibraryFile(classes), Compare::IgnoreCase);
         if (!isOwn && !Names(form, library.file)) {
             form.AddLibrary(library.library, library.file);
         }

@@ -9,8 +9,7 @@
 #include "apps/lumenform/design/model/naming.h"
 #include "apps/lumenform/design/model/stacking.h"
 #include "apps/lumenform/form_view/block_reader.h"
-#include "frame/host/ambient.h"
-#include "runtime/qt/form_container.h"
+#include "apps/lumenform/form_view/form_site.h"
 #include "runtime/qt/hosted_control.h"
 #include "runtime/qt/qt_text.h"
 
@@ -43,7 +42,7 @@ const PlainClass* FindPlain(TextView className) {
     return found == plainClasses.end() ? nullptr : found;
 }
 
-const ClassDescriptor* FindOwn(const ClassTable& classes, TextView className) {
+const ClassDescriptor* FindLibraryClass(const ClassTable& classes, TextView className) {
     const ClassDescriptor* type = classes.Find(className);
     return type != nullptr && type->kind == ClassKind::Control ? type : nullptr;
 }
@@ -56,33 +55,17 @@ void SetPlace(forms::Block& block, const host::Placement& place, std::int32_t ta
     block.Set(u"Width", forms::NumberLiteral(place.width));
 }
 
-// Creates a new control outside the form, to save its initial properties.
-class Prototype final : private qt::ControlSite, private host::Ambient {
- public:
-    Prototype(const qt::Context& context, const ClassDescriptor& type, const Surroundings& around,
-              TextView name, const host::Placement& place)
-        : around_(around),
-          container_(type.eventTable),
-          widget_(context, type, *this, {.name = name, .placement = place, .visible = false}) {
-        widget_.StartNew();
-    }
-
-    void SaveInto(const forms::Document& document, forms::Block& block) {
-        forms::FormBag bag = BagOf(document, block);
-        widget_.Save(bag);
-    }
-
- private:
-    host::Container& GetContainer() override { return container_; }
-    host::Ambient& GetAmbient() override { return *this; }
-    bool UserMode() const override { return false; }
-    host::FontRef AmbientFont() const override { return around_.font->Clone(); }
-    Color BackColor() const override { return around_.backColor; }
-
-    const Surroundings& around_;
-    qt::FormContainer container_;
-    qt::HostedControl widget_;
-};
+// Saves the initial properties of a new control, which is created outside the form.
+void SavePrototype(const FormDesign& design, const ClassDescriptor& type,
+                   const Surroundings& around, TextView name, const host::Placement& place,
+                   forms::Block& block) {
+    FormSite site(Mode::Design, around, type.eventTable);
+    qt::HostedControl widget(design.Context(), type, site,
+                             {.name = name, .placement = place, .visible = false});
+    widget.StartNew();
+    forms::FormBag bag = BagOf(design.Document(), block);
+    widget.Save(bag);
+}
 
 }  // namespace
 
@@ -99,18 +82,18 @@ std::vector<Text> NewControlClasses(const ClassTable& classes) {
 }
 
 host::Placement UsualPlace(const ClassTable& classes, TextView className) {
-    if (FindOwn(classes, className) != nullptr) {
+    if (FindLibraryClass(classes, className) != nullptr) {
         return {.width = 2415, .height = 1215};
     }
     const PlainClass* plain = FindPlain(className);
     return plain == nullptr ? host::Placement{.width = 1215, .height = 495} : plain->place;
 }
 
-void AddNewControl(Design& design, TextView className, const LiveControl* container,
+void AddNewControl(FormDesign& design, TextView className, const LiveControl* container,
                    const host::Placement& place) {
     const Surroundings& around = InsideOf(design, container);
     const ClassTable& classes = design.Context().classes;
-    const ClassDescriptor* const type = FindOwn(classes, className);
+    const ClassDescriptor* const type = FindLibraryClass(classes, className);
     design.Restructure(QCoreApplication::translate("new_control", "Add a control"), [&] {
         forms::Document& document = design.Document();
         forms::Block& parent = BlockOf(design, container);
@@ -123,7 +106,7 @@ void AddNewControl(Design& design, TextView className, const LiveControl* contai
             SetPlace(block, units, tabIndex);
             block.Set(u"_ExtentX", ExtentOf(place.width));
             block.Set(u"_ExtentY", ExtentOf(place.height));
-            Prototype(design.Context(), *type, around, name, place).SaveInto(document, block);
+            SavePrototype(design, *type, around, name, place, block);
         } else {
             const PlainClass* const plain = FindPlain(className);
             if (plain != nullptr && !plain->caption.empty()) {

@@ -2,7 +2,7 @@
 
 #include <vector>
 
-#include "apps/lumenform/design/model/design.h"
+#include "apps/lumenform/design/model/form_design.h"
 #include "apps/lumenform/form_view/live_control.h"
 #include "frame/host/constituent.h"
 #include "frame/text.h"
@@ -17,7 +17,7 @@ host::Placement UsualPlace(const ClassTable& classes, TextView className);
 
 /// Adds a new control in front of all others in `container` (null: the form) and selects it. A
 /// class of this library initializes its new controls itself. One step of the history.
-void AddNewControl(Design& design, TextView className, const LiveControl* container,
+void AddNewControl(FormDesign& design, TextView className, const LiveControl* container,
                    const host::Placement& place);
 
 }  // namespace lumenkit::lumenform

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <array>
 
-#include "apps/lumenform/form_view/library_name.h"
+#include "apps/lumenform/design/model/libraries.h"
 #include "frame/utf8.h"
 
 namespace lumenkit::lumenform {
@@ -19,7 +19,7 @@ bool MayStandInName(char character) {
 }
 
 std::string LibraryLine(const ClassTable& classes) {
-    return "Object = \"" + LibraryName(classes) + "\"; \"" + ToUtf8(classes.libraryName) + ".ocx\"";
+    return "Object = \"" + LibraryName(classes) + "\"; \"" + ToUtf8(LibraryFile(classes)) + '"';
 }
 
 }  // namespace

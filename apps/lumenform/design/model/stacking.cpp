@@ -17,7 +17,7 @@ struct Stacked {
 };
 
 // Returns the blocks in the order of the file, not of selection.
-std::vector<Stacked> SelectedBlocks(const Design& design) {
+std::vector<Stacked> SelectedBlocks(const FormDesign& design) {
     const std::vector<LiveControl*> selected = OutermostSelected(design);
     std::vector<Stacked> blocks;
     for (const auto& control : design.View().Controls()) {
@@ -42,7 +42,7 @@ const forms::Block* BehindAll(const forms::Block& container) {
     return menu == controls.end() ? nullptr : *menu;
 }
 
-void BringToFront(Design& design) {
+void BringToFront(FormDesign& design) {
     if (design.Selected().empty()) {
         return;
     }
@@ -57,7 +57,7 @@ void BringToFront(Design& design) {
     });
 }
 
-void SendToBack(Design& design) {
+void SendToBack(FormDesign& design) {
     if (design.Selected().empty()) {
         return;
     }
@@ -70,7 +70,7 @@ void SendToBack(Design& design) {
     });
 }
 
-void DeleteSelected(Design& design) {
+void DeleteSelected(FormDesign& design) {
     if (design.Selected().empty()) {
         return;
     }

@@ -1,7 +1,7 @@
 // The z-order of controls: the first one in the file is in front.
 #pragma once
 
-#include "apps/lumenform/design/model/design.h"
+#include "apps/lumenform/design/model/form_design.h"
 #include "forms/block.h"
 
 namespace lumenkit::lumenform {
@@ -15,8 +15,8 @@ const forms::Block* BehindAll(const forms::Block& container);
 
 /// Moves the selected controls in front of their siblings and keeps their order. Each of the
 /// following changes is one step of the history.
-void BringToFront(Design& design);
-void SendToBack(Design& design);
-void DeleteSelected(Design& design);
+void BringToFront(FormDesign& design);
+void SendToBack(FormDesign& design);
+void DeleteSelected(FormDesign& design);
 
 }  // namespace lumenkit::lumenform

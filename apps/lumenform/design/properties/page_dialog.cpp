@@ -4,7 +4,7 @@
 #include <QVBoxLayout>
 #include <utility>
 
-#include "apps/lumenform/design/properties/refusal.h"
+#include "apps/lumenform/design/model/refusal.h"
 #include "frame/runtime_error.h"
 #include "runtime/qt/qt_text.h"
 
@@ -16,7 +16,7 @@ namespace {
 // selection.
 class NamedControl final : public Object {
  public:
-    NamedControl(const Design& design, Text name) : design_(design), name_(std::move(name)) {}
+    NamedControl(const FormDesign& design, Text name) : design_(design), name_(std::move(name)) {}
 
     std::optional<std::int32_t> FindMember(TextView name) const override {
         return Control().FindMember(name);
@@ -28,13 +28,13 @@ class NamedControl final : public Object {
  private:
     Object& Control() const {
         const LiveControl* control = design_.View().Find(name_);
-        if (control == nullptr || control->Own() == nullptr) {
+        if (control == nullptr || control->Hosted() == nullptr) {
             Raise(ErrorNumber::ObjectNotSet);
         }
-        return control->Own()->Automation();
+        return control->Hosted()->Automation();
     }
 
-    const Design& design_;
+    const FormDesign& design_;
     Text name_;
 };
 
@@ -48,7 +48,7 @@ QString TitleOf(const ClassDescriptor& page, const std::vector<Text>& controls) 
 
 }  // namespace
 
-PageDialog::PageDialog(Design& design, ControlMessages& messages, const ClassDescriptor& page,
+PageDialog::PageDialog(FormDesign& design, ControlMessages& messages, const ClassDescriptor& page,
                        const std::vector<Text>& controls, QWidget* parent)
     : QDialog(parent),
       design_(design),

@@ -4,7 +4,7 @@
 #include <QDialogButtonBox>
 #include <vector>
 
-#include "apps/lumenform/design/model/design.h"
+#include "apps/lumenform/design/model/form_design.h"
 #include "apps/lumenform/design/properties/control_messages.h"
 #include "apps/lumenform/design/properties/notice.h"
 #include "runtime/qt/hosted_page.h"
@@ -19,8 +19,8 @@ class PageDialog final : public QDialog {
 
  public:
     /// `controls` are the names of controls of this library, at least one. Raises the errors that
-    /// the page raises when it starts. Design and messages must outlive the dialog.
-    PageDialog(Design& design, ControlMessages& messages, const ClassDescriptor& page,
+    /// the page raises when it starts. FormDesign and messages must outlive the dialog.
+    PageDialog(FormDesign& design, ControlMessages& messages, const ClassDescriptor& page,
                const std::vector<Text>& controls, QWidget* parent = nullptr);
 
     qt::HostedPage& Page() const { return *page_; }
@@ -36,7 +36,7 @@ class PageDialog final : public QDialog {
     void ApplyPage();
     void FocusPage();
 
-    Design& design_;
+    FormDesign& design_;
     ControlMessages& messages_;
     qt::Context context_;
     QString title_;

@@ -6,13 +6,13 @@
 #include <algorithm>
 
 #include "apps/lumenform/design/model/naming.h"
-#include "apps/lumenform/design/properties/choice_box.h"
+#include "apps/lumenform/design/model/refusal.h"
+#include "apps/lumenform/design/properties/cell_editors.h"
 #include "apps/lumenform/design/properties/choose_font.h"
 #include "apps/lumenform/design/properties/color_dialog.h"
 #include "apps/lumenform/design/properties/font_text.h"
 #include "apps/lumenform/design/properties/page_dialog.h"
 #include "apps/lumenform/design/properties/property_delegate.h"
-#include "apps/lumenform/design/properties/refusal.h"
 #include "apps/lumenform/design/properties/text_dialog.h"
 #include "runtime/qt/qt_text.h"
 
@@ -36,7 +36,7 @@ QString DescribeBlock(const Text& name, TextView className) {
 
 }  // namespace
 
-PropertyBrowser::PropertyBrowser(Design& design, ControlMessages& messages, QWidget* parent)
+PropertyBrowser::PropertyBrowser(FormDesign& design, ControlMessages& messages, QWidget* parent)
     : QWidget(parent),
       design_(design),
       messages_(messages),
@@ -57,9 +57,9 @@ PropertyBrowser::PropertyBrowser(Design& design, ControlMessages& messages, QWid
     connect(table_, &PropertyTable::MoreWanted, this, &PropertyBrowser::OpenMore);
     connect(table_->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
             [this] { ShowCurrent(); });
-    connect(&design_, &Design::ViewReplaced, this, &PropertyBrowser::Refresh);
-    connect(&design_, &Design::SelectionChanged, this, &PropertyBrowser::FollowSelection);
-    connect(&design_, &Design::Edited, this, &PropertyBrowser::Refresh);
+    connect(&design_, &FormDesign::ViewReplaced, this, &PropertyBrowser::Refresh);
+    connect(&design_, &FormDesign::SelectionChanged, this, &PropertyBrowser::FollowSelection);
+    connect(&design_, &FormDesign::Edited, this, &PropertyBrowser::Refresh);
     Refresh();
 }
 
@@ -160,7 +160,7 @@ QString PropertyBrowser::TryToAssign(int row, const Value& value) {
     const PropertyRow& changed = model_.Row(row);
     return RefusalOf([&] {
         const auto* text = std::get_if<Text>(&value);
-        const bool isFontText = changed.kind == SettingKind::Font && text != nullptr;
+        const bool isFontText = changed.kind == PropertyKind::Font && text != nullptr;
         list_.Assign(static_cast<std::size_t>(row),
                      isFontText ? ObjectRef(FontFromText(*text, FontOf(changed))) : value);
     });
@@ -212,7 +212,7 @@ void PropertyBrowser::OpenMore(int row) {
         return;
     }
     const PropertyRow& wanted = model_.Row(row);
-    if (wanted.kind == SettingKind::Choice) {
+    if (wanted.kind == PropertyKind::Choice) {
         table_->EditCurrent();
         if (auto* const box = table_->findChild<ChoiceBox*>()) {
             box->showPopup();
@@ -221,9 +221,9 @@ void PropertyBrowser::OpenMore(int row) {
         table_->EditCurrent();
     } else if (wanted.isOnPage && Page() != nullptr) {
         EditWithPage();
-    } else if (wanted.kind == SettingKind::Color) {
+    } else if (wanted.kind == PropertyKind::Color) {
         OpenColors(wanted);
-    } else if (wanted.kind == SettingKind::Font) {
+    } else if (wanted.kind == PropertyKind::Font) {
         OpenFonts(wanted);
     } else {
         OpenText(wanted);
@@ -232,7 +232,7 @@ void PropertyBrowser::OpenMore(int row) {
 
 void PropertyBrowser::OpenText(const PropertyRow& row) {
     const auto lines =
-        row.kind == SettingKind::Items ? TextDialog::Lines::Items : TextDialog::Lines::Breaks;
+        row.kind == PropertyKind::Items ? TextDialog::Lines::Items : TextDialog::Lines::Breaks;
     const Text former = EditedValue(row);
     auto* const dialog = new TextDialog(qt::ToQString(row.name), former, lines, this);
     dialog->setAttribute(Qt::WA_DeleteOnClose);
@@ -270,7 +270,7 @@ const ClassDescriptor* PropertyBrowser::Page() const {
     TextView name;
     for (const LiveControl* control : selected) {
         const TextView page =
-            control->Own() == nullptr ? TextView() : control->Own()->Type().propertyPage;
+            control->Hosted() == nullptr ? TextView() : control->Hosted()->Type().propertyPage;
         if (page.empty() || (!name.empty() && page != name)) {
             return nullptr;
         }

@@ -3,7 +3,7 @@
 #include <QLabel>
 #include <QWidget>
 
-#include "apps/lumenform/design/model/design.h"
+#include "apps/lumenform/design/model/form_design.h"
 #include "apps/lumenform/design/properties/control_messages.h"
 #include "apps/lumenform/design/properties/notice.h"
 #include "apps/lumenform/design/properties/property_list.h"
@@ -22,7 +22,7 @@ class PropertyBrowser final : public QWidget {
  public:
     /// `messages` is the interaction of the design's context. Messages of controls while a property
     /// is set are shown below the list. Both must outlive the browser.
-    PropertyBrowser(Design& design, ControlMessages& messages, QWidget* parent = nullptr);
+    PropertyBrowser(FormDesign& design, ControlMessages& messages, QWidget* parent = nullptr);
 
     /// The property page that all selected controls have, or null.
     const ClassDescriptor* Page() const;
@@ -68,7 +68,7 @@ class PropertyBrowser final : public QWidget {
     void OpenFonts(const PropertyRow& row);
     void FitHelp();
 
-    Design& design_;
+    FormDesign& design_;
     ControlMessages& messages_;
     PropertyList list_;
     PropertyModel model_;

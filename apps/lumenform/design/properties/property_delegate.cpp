@@ -6,10 +6,9 @@
 #include <QPainter>
 #include <algorithm>
 
-#include "apps/lumenform/design/properties/choice_box.h"
+#include "apps/lumenform/design/properties/cell_editors.h"
 #include "apps/lumenform/design/properties/color_text.h"
 #include "apps/lumenform/design/properties/swatch.h"
-#include "apps/lumenform/design/properties/value_editor.h"
 #include "runtime/qt/palette_color.h"
 #include "runtime/qt/qt_text.h"
 
@@ -23,17 +22,17 @@ bool HasControlCharacters(TextView text) {
 
 // Converts the text of an editor to the value that is assigned to the property.
 Value TypedValue(const PropertyRow& row, const QString& text) {
-    return row.kind == SettingKind::Color ? ColorFromText(qt::ViewOf(text))
-                                          : Value(qt::ToText(text));
+    return row.kind == PropertyKind::Color ? ColorFromText(qt::ViewOf(text))
+                                           : Value(qt::ToText(text));
 }
 
 }  // namespace
 
 bool HasMore(const PropertyRow& row) {
-    if (!row.canSet || row.kind == SettingKind::Choice) {
+    if (!row.canSet || row.kind == PropertyKind::Choice) {
         return false;
     }
-    const bool isPlain = row.kind == SettingKind::Text || row.kind == SettingKind::Number;
+    const bool isPlain = row.kind == PropertyKind::Text || row.kind == PropertyKind::Number;
     return !isPlain || row.isOnPage || HasControlCharacters(EditedValue(row));
 }
 
@@ -57,7 +56,7 @@ void PropertyDelegate::initStyleOption(QStyleOptionViewItem* option,
                                  option->palette.color(QPalette::Disabled, QPalette::Text));
     }
     const bool hasColor =
-        row.kind == SettingKind::Color && row.value && !std::holds_alternative<Empty>(*row.value);
+        row.kind == PropertyKind::Color && row.value && !std::holds_alternative<Empty>(*row.value);
     if (index.column() == PropertyModel::ValueColumn && hasColor) {
         const int side = option->fontMetrics.ascent();
         const QColor color = qt::ToQColor(ToColor(*row.value), option->widget->palette());
@@ -72,7 +71,7 @@ void PropertyDelegate::initStyleOption(QStyleOptionViewItem* option,
 QWidget* PropertyDelegate::createEditor(QWidget* parent, const QStyleOptionViewItem& /*option*/,
                                         const QModelIndex& index) const {
     const PropertyRow& row = model_.Row(index.row());
-    QWidget* const editor = row.kind == SettingKind::Choice
+    QWidget* const editor = row.kind == PropertyKind::Choice
                                 ? NewChoiceBox(parent, row)
                                 : NewValueEditor(parent, row, index.row());
     editor->setAccessibleName(qt::ToQString(row.name));

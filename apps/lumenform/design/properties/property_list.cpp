@@ -3,10 +3,11 @@
 #include <algorithm>
 #include <utility>
 
-#include "apps/lumenform/design/properties/block_settings.h"
 #include "apps/lumenform/design/properties/color_text.h"
+#include "apps/lumenform/design/properties/container_properties.h"
 #include "apps/lumenform/design/properties/font_text.h"
-#include "apps/lumenform/design/properties/own_settings.h"
+#include "apps/lumenform/design/properties/library_properties.h"
+#include "apps/lumenform/design/properties/plain_properties.h"
 #include "forms/controls.h"
 #include "frame/runtime_error.h"
 #include "runtime/qt/qt_text.h"
@@ -15,28 +16,29 @@ namespace lumenkit::lumenform {
 
 namespace {
 
-std::vector<Setting> SettingsOf(Design& design, LiveControl& control) {
-    std::vector<Setting> settings =
-        control.Own() != nullptr
-            ? OwnSettings(*control.Own(), design.Context().classes.enumerations)
-            : PlainSettings(design, control);
-    for (Setting& setting : ContainerSettings(design, control)) {
-        settings.push_back(std::move(setting));
+std::vector<ObjectProperty> PropertiesOf(FormDesign& design, LiveControl& control) {
+    std::vector<ObjectProperty> properties =
+        control.Hosted() != nullptr
+            ? LibraryProperties(*control.Hosted(), design.Context().classes.enumerations)
+            : PlainProperties(design, control);
+    for (ObjectProperty& property : ContainerProperties(design, control)) {
+        properties.push_back(std::move(property));
     }
-    return settings;
+    return properties;
 }
 
-bool IsSameProperty(const Setting& one, const Setting& other) {
+bool IsSameProperty(const ObjectProperty& one, const ObjectProperty& other) {
     return one.kind == other.kind && SameText(one.name, other.name, Compare::IgnoreCase) &&
            one.choices == other.choices;
 }
 
-// Returns the settings of this property in all lists; fewer than lists if one lacks it.
-std::vector<Setting> Gather(const Setting& sought, const std::vector<std::vector<Setting>>& lists) {
-    std::vector<Setting> found;
-    for (const std::vector<Setting>& list : lists) {
+// Returns the properties of this property in all lists; fewer than lists if one lacks it.
+std::vector<ObjectProperty> Gather(const ObjectProperty& sought,
+                                   const std::vector<std::vector<ObjectProperty>>& lists) {
+    std::vector<ObjectProperty> found;
+    for (const std::vector<ObjectProperty>& list : lists) {
         const auto match = std::ranges::find_if(
-            list, [&](const Setting& setting) { return IsSameProperty(sought, setting); });
+            list, [&](const ObjectProperty& property) { return IsSameProperty(sought, property); });
         if (match != list.end()) {
             found.push_back(*match);
         }
@@ -46,31 +48,32 @@ std::vector<Setting> Gather(const Setting& sought, const std::vector<std::vector
 
 void ReadValue(PropertyRow& row) {
     try {
-        row.value = row.settings.front().get();
-        for (const Setting& setting : row.settings) {
-            if (!SameValue(*row.value, setting.get())) {
+        row.value = row.properties.front().get();
+        for (const ObjectProperty& property : row.properties) {
+            if (!SameValue(*row.value, property.get())) {
                 row.value.reset();
                 return;
             }
         }
     } catch (const RuntimeError&) {  // the value in the companion file is no text
-        row.kind = SettingKind::Text;
+        row.kind = PropertyKind::Text;
         row.canSet = false;
         row.value = Text(u"(companion)");
     }
 }
 
-PropertyRow RowOf(std::vector<Setting> settings) {
-    const Setting& first = settings.front();
-    PropertyRow row{.name = first.name,
-                    .help = first.help,
-                    .kind = first.kind,
-                    .choices = first.choices,
-                    .canSet = std::ranges::all_of(
-                        settings, [](const Setting& setting) { return setting.set != nullptr; }),
-                    .isOnPage = std::ranges::all_of(settings, &Setting::isOnPage),
-                    .value = {},
-                    .settings = std::move(settings)};
+PropertyRow RowOf(std::vector<ObjectProperty> properties) {
+    const ObjectProperty& first = properties.front();
+    PropertyRow row{
+        .name = first.name,
+        .help = first.help,
+        .kind = first.kind,
+        .choices = first.choices,
+        .canSet = std::ranges::all_of(
+            properties, [](const ObjectProperty& property) { return property.set != nullptr; }),
+        .isOnPage = std::ranges::all_of(properties, &ObjectProperty::isOnPage),
+        .value = {},
+        .properties = std::move(properties)};
     ReadValue(row);
     return row;
 }
@@ -83,16 +86,16 @@ Text LabelOf(const std::vector<Choice>& choices, const Value& value) {
 
 Text TextOf(const PropertyRow& row, const Value& value) {
     switch (row.kind) {
-        case SettingKind::Choice:
+        case PropertyKind::Choice:
             return LabelOf(row.choices, value);
-        case SettingKind::Color:
+        case PropertyKind::Color:
             return ColorText(ToColor(value));
-        case SettingKind::Font:
+        case PropertyKind::Font:
             return FontText(host::ToFont(value).get());
-        case SettingKind::Text:
-        case SettingKind::LongText:
-        case SettingKind::Items:
-        case SettingKind::Number:
+        case PropertyKind::Text:
+        case PropertyKind::LongText:
+        case PropertyKind::Items:
+        case PropertyKind::Number:
             break;
     }
     return ToText(value);
@@ -100,26 +103,26 @@ Text TextOf(const PropertyRow& row, const Value& value) {
 
 }  // namespace
 
-PropertyList::PropertyList(Design& design, ControlMessages& messages)
+PropertyList::PropertyList(FormDesign& design, ControlMessages& messages)
     : design_(design), messages_(messages), rows_(Read()) {}
 
-std::vector<std::vector<Setting>> PropertyList::SettingsOfSelection() const {
-    std::vector<std::vector<Setting>> lists;
+std::vector<std::vector<ObjectProperty>> PropertyList::PropertiesOfSelection() const {
+    std::vector<std::vector<ObjectProperty>> lists;
     for (LiveControl* control : design_.Selected()) {
-        lists.push_back(SettingsOf(design_, *control));
+        lists.push_back(PropertiesOf(design_, *control));
     }
     if (lists.empty()) {
-        lists.push_back(FormSettings(design_));
+        lists.push_back(FormProperties(design_));
     }
     return lists;
 }
 
 std::vector<PropertyRow> PropertyList::Read() const {
-    const std::vector<std::vector<Setting>> lists = SettingsOfSelection();
+    const std::vector<std::vector<ObjectProperty>> lists = PropertiesOfSelection();
     std::vector<PropertyRow> rows;
-    for (const Setting& setting : lists.front()) {
-        std::vector<Setting> everywhere = Gather(setting, lists);
-        if (everywhere.size() == lists.size() && (lists.size() == 1 || !setting.isOwn)) {
+    for (const ObjectProperty& property : lists.front()) {
+        std::vector<ObjectProperty> everywhere = Gather(property, lists);
+        if (everywhere.size() == lists.size() && (lists.size() == 1 || !property.isIndividual)) {
             rows.push_back(RowOf(std::move(everywhere)));
         }
     }
@@ -127,10 +130,10 @@ std::vector<PropertyRow> PropertyList::Read() const {
     return rows;
 }
 
-void PropertyList::Apply(const std::vector<Setting>& settings, const Value& value) {
+void PropertyList::Apply(const std::vector<ObjectProperty>& properties, const Value& value) {
     const ControlMessages::Listener listener(messages_);
-    for (const Setting& setting : settings) {
-        setting.set(value);
+    for (const ObjectProperty& property : properties) {
+        property.set(value);
         if (!listener.Heard().empty()) {
             throw RuntimeError(static_cast<std::int32_t>(ErrorNumber::InvalidPropertyValue),
                                listener.Heard().front());
@@ -139,14 +142,15 @@ void PropertyList::Apply(const std::vector<Setting>& settings, const Value& valu
 }
 
 // Blocks remain valid during the change, but their names may change.
-void PropertyList::ApplyToBlocks(const std::vector<Setting>& settings, const Value& value) {
-    const QString title = qt::ToQString(settings.front().name);
+void PropertyList::ApplyToBlocks(const std::vector<ObjectProperty>& properties,
+                                 const Value& value) {
+    const QString title = qt::ToQString(properties.front().name);
     design_.Restructure(title, [&] {
         std::vector<const forms::Block*> selected;
         for (const LiveControl* control : design_.Selected()) {
             selected.push_back(&control->Block());
         }
-        Apply(settings, value);
+        Apply(properties, value);
         design_.View().Save();  // writes the changes to live controls
         std::vector<Text> names;
         names.reserve(selected.size());
@@ -158,13 +162,15 @@ void PropertyList::ApplyToBlocks(const std::vector<Setting>& settings, const Val
 }
 
 void PropertyList::Assign(std::size_t row, const Value& value) {
-    const std::vector<Setting> settings = rows_.at(row).settings;  // a copy: the rows change
-    const bool inBlocks = std::ranges::any_of(
-        settings, [](const Setting& setting) { return setting.place == SettingPlace::Block; });
+    const std::vector<ObjectProperty> properties =
+        rows_.at(row).properties;  // a copy: the rows change
+    const bool inBlocks = std::ranges::any_of(properties, [](const ObjectProperty& property) {
+        return property.place == PropertyPlace::Block;
+    });
     if (inBlocks) {
-        ApplyToBlocks(settings, value);
+        ApplyToBlocks(properties, value);
     } else {
-        design_.Edit(qt::ToQString(settings.front().name), [&] { Apply(settings, value); });
+        design_.Edit(qt::ToQString(properties.front().name), [&] { Apply(properties, value); });
     }
 }
 

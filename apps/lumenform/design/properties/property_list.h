@@ -5,9 +5,9 @@
 #include <utility>
 #include <vector>
 
-#include "apps/lumenform/design/model/design.h"
+#include "apps/lumenform/design/model/form_design.h"
 #include "apps/lumenform/design/properties/control_messages.h"
-#include "apps/lumenform/design/properties/setting.h"
+#include "apps/lumenform/design/properties/object_property.h"
 #include "frame/text.h"
 
 namespace lumenkit::lumenform {
@@ -16,19 +16,19 @@ namespace lumenkit::lumenform {
 struct PropertyRow {
     Text name;
     Text help;
-    SettingKind kind = SettingKind::Text;
+    PropertyKind kind = PropertyKind::Text;
     std::vector<Choice> choices;
     bool canSet = false;
     bool isOnPage = false;
     std::optional<Value> value;  ///< empty if the objects have different values
-    std::vector<Setting> settings;
+    std::vector<ObjectProperty> properties;
 };
 
 /// The properties that all selected objects have in common, sorted by name.
 class PropertyList {
  public:
     /// Both arguments must outlive the list.
-    PropertyList(Design& design, ControlMessages& messages);
+    PropertyList(FormDesign& design, ControlMessages& messages);
 
     /// Reads the rows of the present selection. They are valid until the design signals a change;
     /// after that, new rows must be passed to Take before any other use of the list.
@@ -40,11 +40,11 @@ class PropertyList {
     void Assign(std::size_t row, const Value& value);
 
  private:
-    std::vector<std::vector<Setting>> SettingsOfSelection() const;
-    void Apply(const std::vector<Setting>& settings, const Value& value);
-    void ApplyToBlocks(const std::vector<Setting>& settings, const Value& value);
+    std::vector<std::vector<ObjectProperty>> PropertiesOfSelection() const;
+    void Apply(const std::vector<ObjectProperty>& properties, const Value& value);
+    void ApplyToBlocks(const std::vector<ObjectProperty>& properties, const Value& value);
 
-    Design& design_;
+    FormDesign& design_;
     ControlMessages& messages_;
     std::vector<PropertyRow> rows_;
 };

@@ -36,38 +36,39 @@ constexpr std::array<TextView, 7> strokeStyles = {
     u"0 - Transparent", u"1 - Solid",        u"2 - Dash",        u"3 - Dot",
     u"4 - Dash-dot",    u"5 - Dash-dot-dot", u"6 - Inside solid"};
 constexpr std::array<TextView, 8> fillStyles = {
-    u"0 - Solid",           u"1 - Transparent",       u"2 - Level lines", u"3 - Upright lines",
-    u"4 - Upward diagonal", u"5 - Downward diagonal", u"6 - Cross",       u"7 - Diagonal cross"};
+    u"0 - Solid",          u"1 - Transparent",     u"2 - Horizontal lines",
+    u"3 - Vertical lines", u"4 - Upward diagonal", u"5 - Downward diagonal",
+    u"6 - Cross",          u"7 - Diagonal cross"};
 
 constexpr UsualProperty ChoiceOf(TextView name, TextView help, std::int32_t otherwise,
                                  std::span<const TextView> choices) {
-    return {name, help, SettingKind::Choice, otherwise, choices};
+    return {name, help, StoredType::Enumeration, otherwise, choices};
 }
 constexpr UsualProperty Truth(TextView name, TextView help, bool otherwise) {
-    return {name, help, SettingKind::Choice, otherwise, {}};
+    return {name, help, StoredType::Truth, otherwise, {}};
 }
 constexpr UsualProperty Number(TextView name, TextView help, std::int32_t otherwise) {
-    return {name, help, SettingKind::Number, otherwise, {}};
+    return {name, help, StoredType::Whole, otherwise, {}};
 }
 constexpr UsualProperty ColorOf(TextView name, TextView help, Color otherwise) {
-    return {name, help, SettingKind::Color, static_cast<std::int32_t>(otherwise), {}};
+    return {name, help, StoredType::Color, static_cast<std::int32_t>(otherwise), {}};
 }
-constexpr UsualProperty String(TextView name, TextView help, SettingKind kind = SettingKind::Text) {
-    return {name, help, kind, TextView(), {}};
+constexpr UsualProperty String(TextView name, TextView help, StoredType type = StoredType::Text) {
+    return {name, help, type, TextView(), {}};
 }
 
 constexpr UsualProperty textAlignment =
-    ChoiceOf(u"Alignment", u"Where the text stands.", 0, textAlignments);
-constexpr UsualProperty buttonAlignment =
-    ChoiceOf(u"Alignment", u"On which side of the mark the text ends.", 0, buttonAlignments);
-constexpr UsualProperty backColor = {u"BackColor", stock::backColorHelp, SettingKind::Color};
-constexpr UsualProperty foreColor = {u"ForeColor", stock::foreColorHelp, SettingKind::Color};
+    ChoiceOf(u"Alignment", u"The alignment of the text.", 0, textAlignments);
+constexpr UsualProperty buttonAlignment = ChoiceOf(
+    u"Alignment", u"The side of the text on which the mark is drawn.", 0, buttonAlignments);
+constexpr UsualProperty backColor = {u"BackColor", stock::backColorHelp, StoredType::Color};
+constexpr UsualProperty foreColor = {u"ForeColor", stock::foreColorHelp, StoredType::Color};
 constexpr UsualProperty caption =
-    String(u"Caption", u"The text that the object shows; the letter behind & is its key.");
+    String(u"Caption", u"The text of the object. The letter after & is its access key.");
 constexpr UsualProperty enabled = Truth(u"Enabled", stock::enabledHelp, true);
-constexpr UsualProperty font = {u"Font", stock::fontHelp, SettingKind::Font};
+constexpr UsualProperty font = {u"Font", stock::fontHelp, StoredType::Font};
 constexpr UsualProperty toolTip =
-    String(u"ToolTipText", u"The text that is shown when the mouse rests on the object.");
+    String(u"ToolTipText", u"The text that appears when the mouse rests on the object.");
 constexpr UsualProperty locked =
     Truth(u"Locked", u"Determines whether a control can be edited.", false);
 constexpr UsualProperty border = ChoiceOf(u"BorderStyle", stock::borderStyleHelp, 1, borderStyles);
@@ -76,68 +77,79 @@ constexpr UsualProperty noBorder =
 constexpr UsualProperty borderColor =
     ColorOf(u"BorderColor", u"The colour of the border.", Color::WindowText);
 constexpr UsualProperty borderWidth =
-    Number(u"BorderWidth", u"How wide the border is, in pixels.", 1);
+    Number(u"BorderWidth", u"The width of the border in pixels.", 1);
 constexpr UsualProperty strokeStyle =
-    ChoiceOf(u"BorderStyle", u"How the border is drawn; wider than a pixel it has no gaps.", 1,
-             strokeStyles);
+    ChoiceOf(u"BorderStyle",
+             u"The line style of the border. A border wider than one pixel is drawn without gaps.",
+             1, strokeStyles);
 constexpr UsualProperty scaleMode =
-    ChoiceOf(u"ScaleMode", u"The unit in which what lies inside is placed.", 1, scaleModes);
+    ChoiceOf(u"ScaleMode", u"The unit of measure for the positions of the contained controls.", 1,
+             scaleModes);
 constexpr UsualProperty clientHeight = {
-    u"ClientHeight", u"The height of the form's inside, in twips.", SettingKind::Number};
-constexpr UsualProperty clientWidth = {u"ClientWidth", u"The width of the form's inside, in twips.",
-                                       SettingKind::Number};
+    u"ClientHeight", u"The height of the form's client area in twips.", StoredType::Number};
+constexpr UsualProperty clientWidth = {
+    u"ClientWidth", u"The width of the form's client area in twips.", StoredType::Number};
 
-constexpr std::array checkBox = {buttonAlignment,
-                                 backColor,
-                                 caption,
-                                 enabled,
-                                 font,
-                                 foreColor,
-                                 toolTip,
-                                 ChoiceOf(u"Value", u"Whether it is checked.", 0, checkValues)};
+constexpr std::array checkBox = {
+    buttonAlignment,
+    backColor,
+    caption,
+    enabled,
+    font,
+    foreColor,
+    toolTip,
+    ChoiceOf(u"Value", u"The state of the check box.", 0, checkValues)};
 constexpr std::array comboBox = {
     backColor,
     enabled,
     font,
     foreColor,
     locked,
-    ChoiceOf(u"Style", u"How it is used: typed into, chosen from, or both.", 0, comboStyles),
+    ChoiceOf(u"Style", u"Determines whether the user can type a text, choose an item, or both.", 0,
+             comboStyles),
     String(u"Text", u"The text in the box."),
     toolTip};
 constexpr std::array commandButton = {
-    backColor, Truth(u"Cancel", u"Whether Esc presses it.", false),
-    caption,   Truth(u"Default", u"Whether Enter presses it.", false),
+    backColor, Truth(u"Cancel", u"Determines whether Esc presses the button.", false),
+    caption,   Truth(u"Default", u"Determines whether Enter presses the button.", false),
     enabled,   font,
     toolTip};
 constexpr std::array frame = {backColor, caption, enabled, font, foreColor, toolTip};
 constexpr std::array image = {
-    noBorder, enabled, Truth(u"Stretch", u"Whether the picture is made to fit.", false), toolTip};
+    noBorder, enabled,
+    Truth(u"Stretch", u"Determines whether the picture is stretched to the size of the control.",
+          false),
+    toolTip};
 constexpr std::array label = {
     textAlignment,
-    Truth(u"AutoSize", u"Whether it is as large as its text.", false),
+    Truth(u"AutoSize", u"Determines whether the label is resized to fit its text.", false),
     backColor,
-    ChoiceOf(u"BackStyle", u"Whether what lies behind it is seen.", 1, backStyles),
+    ChoiceOf(u"BackStyle", u"Determines whether the background is transparent or opaque.", 1,
+             backStyles),
     noBorder,
     caption,
     enabled,
     font,
     foreColor,
     toolTip,
-    Truth(u"WordWrap", u"With AutoSize: whether it grows downwards.", false)};
+    Truth(u"WordWrap",
+          u"With AutoSize: determines whether the label wraps its text and grows downwards.",
+          false)};
 constexpr std::array<UsualProperty, 7> line = {
     borderColor,
     strokeStyle,
     borderWidth,
-    {u"X1", u"How far from the left the line begins.", SettingKind::Number},
-    {u"X2", u"How far from the left the line ends.", SettingKind::Number},
-    {u"Y1", u"How far from the top the line begins.", SettingKind::Number},
-    {u"Y2", u"How far from the top the line ends.", SettingKind::Number}};
-constexpr std::array listBox = {backColor,
-                                enabled,
-                                font,
-                                foreColor,
-                                Truth(u"Sorted", u"Whether the items are in order.", false),
-                                toolTip};
+    {u"X1", u"The horizontal position of the first end of the line.", StoredType::Number},
+    {u"X2", u"The horizontal position of the second end of the line.", StoredType::Number},
+    {u"Y1", u"The vertical position of the first end of the line.", StoredType::Number},
+    {u"Y2", u"The vertical position of the second end of the line.", StoredType::Number}};
+constexpr std::array listBox = {
+    backColor,
+    enabled,
+    font,
+    foreColor,
+    Truth(u"Sorted", u"Determines whether the items are sorted.", false),
+    toolTip};
 constexpr std::array optionButton = {
     buttonAlignment,
     backColor,
@@ -146,23 +158,25 @@ constexpr std::array optionButton = {
     font,
     foreColor,
     toolTip,
-    Truth(u"Value", u"Whether it is the one that is chosen.", false)};
+    Truth(u"Value", u"Determines whether the option button is selected.", false)};
 constexpr std::array pictureBox = {backColor, border, enabled, font, foreColor, scaleMode, toolTip};
-constexpr std::array scrollBar = {enabled,
-                                  Number(u"LargeChange", u"How far a click into the bar leads.", 1),
-                                  Number(u"Max", u"The value at the right or lower end.", 32767),
-                                  Number(u"Min", u"The value at the left or upper end.", 0),
-                                  Number(u"SmallChange", u"How far a click on an arrow leads.", 1),
-                                  Number(u"Value", u"Where it stands.", 0)};
+constexpr std::array scrollBar = {
+    enabled,
+    Number(u"LargeChange", u"The change of the value when the user clicks the bar.", 1),
+    Number(u"Max", u"The value at the right or lower end.", 32767),
+    Number(u"Min", u"The value at the left or upper end.", 0),
+    Number(u"SmallChange", u"The change of the value when the user clicks an arrow.", 1),
+    Number(u"Value", u"The position of the scroll box.", 0)};
 constexpr std::array shape = {
     backColor,
-    ChoiceOf(u"BackStyle", u"Whether what lies behind it is seen.", 0, backStyles),
+    ChoiceOf(u"BackStyle", u"Determines whether the background is transparent or opaque.", 0,
+             backStyles),
     borderColor,
     strokeStyle,
     borderWidth,
-    ColorOf(u"FillColor", u"The colour of what fills the shape.", Rgb(0, 0, 0)),
-    ChoiceOf(u"FillStyle", u"What fills the shape.", 1, fillStyles),
-    ChoiceOf(u"Shape", u"Which shape it has.", 0, shapes)};
+    ColorOf(u"FillColor", u"The colour that fills the shape.", Rgb(0, 0, 0)),
+    ChoiceOf(u"FillStyle", u"The pattern that fills the shape.", 1, fillStyles),
+    ChoiceOf(u"Shape", u"The kind of shape.", 0, shapes)};
 constexpr std::array textBox = {
     textAlignment,
     backColor,
@@ -173,31 +187,34 @@ constexpr std::array textBox = {
     locked,
     Number(u"MaxLength",
            u"Returns/sets the maximum number of characters that can be entered in a control.", 0),
-    Truth(u"MultiLine", u"Whether it has more than one line.", false),
-    String(u"PasswordChar", u"What is shown in the place of each character."),
-    ChoiceOf(u"ScrollBars", u"Which scroll bars it has.", 0, scrollBars),
-    String(u"Text", u"Returns/sets the text contained in the control.", SettingKind::LongText),
+    Truth(u"MultiLine", u"Determines whether the text box can contain several lines.", false),
+    String(u"PasswordChar", u"The character that is shown in place of each typed character."),
+    ChoiceOf(u"ScrollBars", u"The scroll bars of the text box.", 0, scrollBars),
+    String(u"Text", u"Returns/sets the text contained in the control.", StoredType::LongText),
     toolTip};
-constexpr std::array timer = {enabled,
-                              Number(u"Interval", u"Milliseconds between two events; 0: none.", 0)};
+constexpr std::array timer = {
+    enabled, Number(u"Interval",
+                    u"The time between two events in milliseconds. 0 switches the timer off.", 0)};
 constexpr std::array form = {
     backColor,
     ChoiceOf(u"BorderStyle", stock::borderStyleHelp, 2, formBorderStyles),
     String(u"Caption", u"The text in the title bar."),
     clientHeight,
     clientWidth,
-    Truth(u"ControlBox", u"Whether the title bar has a menu and buttons.", true),
+    Truth(u"ControlBox", u"Determines whether the title bar has a system menu and buttons.", true),
     enabled,
     font,
     foreColor,
-    Truth(u"KeyPreview", u"Whether the form hears of keys before its controls.", false),
-    Truth(u"MaxButton", u"Whether it can be maximized.", true),
-    Truth(u"MDIChild", u"Whether it lies in another form.", false),
-    Truth(u"MinButton", u"Whether it can be minimized.", true),
+    Truth(u"KeyPreview", u"Determines whether the form receives key events before its controls.",
+          false),
+    Truth(u"MaxButton", u"Determines whether the form can be maximized.", true),
+    Truth(u"MDIChild", u"Determines whether the form is a child window of an MDI form.", false),
+    Truth(u"MinButton", u"Determines whether the form can be minimized.", true),
     scaleMode,
-    ChoiceOf(u"StartUpPosition", u"Where it is shown at first.", 3, startPositions),
-    Truth(u"Visible", u"Whether it is seen.", true),
-    ChoiceOf(u"WindowState", u"How it is shown at first.", 0, windowStates)};
+    ChoiceOf(u"StartUpPosition", u"The position of the form when it is first shown.", 3,
+             startPositions),
+    Truth(u"Visible", u"Determines whether the form is visible.", true),
+    ChoiceOf(u"WindowState", u"The state of the window when it is first shown.", 0, windowStates)};
 constexpr std::array mdiForm = {backColor, String(u"Caption", u"The text in the title bar."),
                                 clientHeight, clientWidth, enabled};
 // User controls, property pages and documents.

@@ -5,7 +5,7 @@
 #include <span>
 #include <variant>
 
-#include "apps/lumenform/design/properties/setting.h"
+#include "apps/lumenform/design/properties/stored_property.h"
 #include "frame/text.h"
 
 namespace lumenkit::lumenform {
@@ -14,7 +14,7 @@ namespace lumenkit::lumenform {
 struct UsualProperty {
     TextView name;
     TextView help = {};
-    SettingKind kind = SettingKind::Text;
+    StoredType type = StoredType::Text;
     /// The default value; monostate if the property has none or it is unknown.
     std::variant<std::monostate, bool, std::int32_t, TextView> otherwise = {};
     std::span<const TextView> choices = {};  ///< indexed by their values, from 0

@@ -115,7 +115,7 @@ void DesignWindow::AddRunMenu() {
     runForm_ = menu->addAction(tr("&Run the form"));
     runForm_->setCheckable(true);
     runForm_->setShortcut(Qt::Key_F5);
-    runForm_->setToolTip(tr("Try the form out; the same again goes back to the design (F5)"));
+    runForm_->setToolTip(tr("Run the form for a trial, or return to the designer (F5)"));
     connect(runForm_, &QAction::triggered, this, &DesignWindow::Run);
 }
 
@@ -141,9 +141,9 @@ void DesignWindow::Show(forms::Document document, const FormFile& file) {
     file_ = file;
     pages_->addWidget(bench_.get());
     pages_->setCurrentWidget(bench_.get());
-    Design& design = bench_->GetDesign();
+    FormDesign& design = bench_->GetDesign();
     connect(&design.History(), &QUndoStack::cleanChanged, this, &DesignWindow::UpdateTitle);
-    connect(&design, &Design::Edited, this, &DesignWindow::UpdateTitle);
+    connect(&design, &FormDesign::Edited, this, &DesignWindow::UpdateTitle);
     connect(bench_.get(), &Workbench::Refused, this,
             [this](const QString& why) { status_->showMessage(why, messageTime); });
     connect(&bench_->GetCanvas(), &Canvas::MenuRequested, this,

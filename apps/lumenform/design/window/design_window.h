@@ -61,7 +61,6 @@ class DesignWindow final : public QMainWindow {
     RunPage* Running() const { return run_.get(); }
     StartPage& Start() const { return *start_; }
     FormCommands& Commands() const { return *commands_; }
-    QAction& RunAction() const { return *runForm_; }
     const FormFile& File() const { return file_; }
 
  protected:

@@ -33,7 +33,6 @@ void PasteHere(Workbench& bench) {
 
 FormCommands::FormCommands(QWidget& window)
     : QObject(&window),
-      window_(window),
       edit_(new QMenu(tr("&Edit"), &window)),
       format_(new QMenu(tr("F&ormat"), &window)) {
     FillEdit();
@@ -75,7 +74,7 @@ void FormCommands::FillEdit() {
                         bench.GetCanvas().SetTabOrderMode(tabOrder_->isChecked());
                     });
     tabOrder_->setCheckable(true);
-    tabOrder_->setToolTip(tr("Click the controls in the order in which Tab goes round them"));
+    tabOrder_->setToolTip(tr("Click the controls in the tab order that they should have"));
 }
 
 // Makes undo and redo finish the edit in progress first: it is the newest step of the history.
@@ -156,11 +155,11 @@ void FormCommands::Follow(Workbench* workbench) {
     }
     workbench_ = workbench;
     if (workbench != nullptr) {
-        Design& design = workbench->GetDesign();
+        FormDesign& design = workbench->GetDesign();
         history_.addStack(&design.History());
         history_.setActiveStack(&design.History());
-        connect(&design, &Design::SelectionChanged, this, &FormCommands::Update);
-        connect(&design, &Design::Edited, this, &FormCommands::Update);
+        connect(&design, &FormDesign::SelectionChanged, this, &FormCommands::Update);
+        connect(&design, &FormDesign::Edited, this, &FormCommands::Update);
         connect(&workbench->GetCanvas(), &Canvas::TabOrderModeChanged, tabOrder_,
                 &QAction::setChecked);
     }

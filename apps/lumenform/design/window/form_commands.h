@@ -45,7 +45,6 @@ class FormCommands final : public QObject {
     bool IsThere(Needs needs) const;
     void Update();
 
-    QWidget& window_;
     Workbench* workbench_ = nullptr;
     QUndoGroup history_;
     std::vector<Command> commands_;

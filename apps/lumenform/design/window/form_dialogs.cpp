@@ -36,7 +36,7 @@ SaveAnswer AskWhetherToSave(QWidget& window, const QString& form) {
     QMessageBox box(QMessageBox::Question, Translated("Save changes?"),
                     Translated("Save the changes to %1?").arg(form),
                     QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel, &window);
-    box.setInformativeText(Translated("Otherwise they are lost."));
+    box.setInformativeText(Translated("Changes that are not saved are lost."));
     box.setDefaultButton(QMessageBox::Save);
     switch (box.exec()) {
         case QMessageBox::Save:
@@ -50,9 +50,9 @@ SaveAnswer AskWhetherToSave(QWidget& window, const QString& form) {
 
 bool AskWhetherToOverwrite(QWidget& window, const QString& path) {
     QMessageBox box(QMessageBox::Warning, Translated("The file was changed"),
-                    Translated("Another program wrote %1 since it was opened here.").arg(path),
+                    Translated("Another program has changed %1 since it was opened.").arg(path),
                     QMessageBox::Cancel, &window);
-    box.setInformativeText(Translated("Saving replaces what it wrote."));
+    box.setInformativeText(Translated("Saving overwrites these changes."));
     const QPushButton* const replace =
         box.addButton(Translated("&Replace"), QMessageBox::AcceptRole);
     box.exec();

@@ -26,13 +26,13 @@ bool FormFile::WasChangedByOthers() const {
     return now && now != known_;
 }
 
-void FormFile::Save(Design& design) {
+void FormFile::Save(FormDesign& design) {
     forms::Save(design.Document(), PathOf(path_));
     known_ = StateOf(path_);
     design.History().setClean();
 }
 
-void FormFile::SaveAs(Design& design, const QString& path) {
+void FormFile::SaveAs(FormDesign& design, const QString& path) {
     const std::string former = design.Document().Name();
     const QString formerPath = path_;
     path_ = path;

@@ -4,7 +4,7 @@
 #include <filesystem>
 #include <optional>
 
-#include "apps/lumenform/design/model/design.h"
+#include "apps/lumenform/design/model/form_design.h"
 #include "forms/document.h"
 
 namespace lumenkit::lumenform {
@@ -25,8 +25,8 @@ class FormFile {
     /// Save writes the design to its file. SaveAs writes it to another file, which becomes its
     /// file. Both throw forms::FormError as forms::Save does; then the design and its files are
     /// unchanged.
-    void Save(Design& design);
-    void SaveAs(Design& design, const QString& path);
+    void Save(FormDesign& design);
+    void SaveAs(FormDesign& design, const QString& path);
 
  private:
     struct State {

@@ -20,9 +20,9 @@ void PlaceStatus::Follow(Workbench* workbench) {
     workbench_ = workbench;
     pointer_->clear();
     if (workbench != nullptr) {
-        const Design& design = workbench->GetDesign();
-        connect(&design, &Design::SelectionChanged, this, &PlaceStatus::ShowSelection);
-        connect(&design, &Design::Edited, this, &PlaceStatus::ShowSelection);
+        const FormDesign& design = workbench->GetDesign();
+        connect(&design, &FormDesign::SelectionChanged, this, &PlaceStatus::ShowSelection);
+        connect(&design, &FormDesign::Edited, this, &PlaceStatus::ShowSelection);
         connect(&workbench->GetCanvas(), &Canvas::PointerMoved, pointer_, [this](QPointF twips) {
             pointer_->setText(tr("%1, %2").arg(std::lround(twips.x())).arg(std::lround(twips.y())));
         });

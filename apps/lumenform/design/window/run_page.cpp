@@ -30,7 +30,7 @@ RunPage::RunPage(const qt::Context& context, const forms::Document& design, QWid
     column->setSpacing(0);
     column->addWidget(MakeBanner());
     column->addWidget(parts, 1);
-    view_->OnRaised([this](const RaisedEvent& event) { log_->Add(event); });
+    view_->OnRaised([this](const ControlEvent& event) { log_->Add(event); });
 }
 
 // The view must be destroyed before its document.
@@ -41,7 +41,7 @@ RunPage::~RunPage() {
 QWidget* RunPage::MakeBanner() const {
     auto* const banner = new QWidget;
     auto* const row = new QHBoxLayout(banner);
-    row->addWidget(new QLabel(tr("The form runs. What happens to it here is not kept.")), 1);
+    row->addWidget(new QLabel(tr("The form is running. Changes made here are not saved.")), 1);
     auto* const back = new QPushButton(tr("Back to the &design"));
     back->setFocusPolicy(Qt::TabFocus);
     connect(back, &QAbstractButton::clicked, this, &RunPage::BackWanted);

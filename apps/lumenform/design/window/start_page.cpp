@@ -46,20 +46,20 @@ StartPage::StartPage(QWidget* parent) : QWidget(parent), column_(new QVBoxLayout
 void StartPage::AddHeading() {
     column_->addWidget(Heading(tr("lumenform"), 2));
     column_->addWidget(Paragraph(
-        tr("Designs and runs forms with lumenkit's controls. Open a form to see it as its users "
-           "do, move what is on it, and change what it says; what you do not touch is kept byte "
-           "for byte.")));
+        tr("Designs and runs forms with the controls of lumenkit. Open a form to see it as its "
+           "users do and to change its controls. Unchanged parts of the form are saved byte for "
+           "byte.")));
     column_->addSpacing(fontMetrics().height());
 }
 
 void StartPage::AddChoices() {
     auto* const open = new QCommandLinkButton(
-        tr("&Open a form"), tr("A text form file: .frm, .ctl, .pag or .dob. You can also drop one "
-                               "on this window."));
+        tr("&Open a form"),
+        tr("A form file (.frm, .ctl, .pag, .dob). You can also drop a file on this window."));
     connect(open, &QAbstractButton::clicked, this, &StartPage::OpenWanted);
     column_->addWidget(open);
     auto* const fresh = new QCommandLinkButton(
-        tr("&New form"), tr("Empty; pick a control from the toolbox and draw it."));
+        tr("&New form"), tr("An empty form. Choose a control in the toolbox and draw it."));
     connect(fresh, &QAbstractButton::clicked, this, &StartPage::NewWanted);
     column_->addWidget(fresh);
     column_->addSpacing(fontMetrics().height());
@@ -71,7 +71,7 @@ void StartPage::ShowRecent(const QStringList& paths) {
     auto* const list = new QVBoxLayout(recent_);
     list->setContentsMargins(0, 0, 0, 0);
     if (!paths.isEmpty()) {
-        list->addWidget(Heading(tr("Opened last"), 1));
+        list->addWidget(Heading(tr("Recent forms"), 1));
     }
     for (const QString& path : paths) {
         const QFileInfo file(path);

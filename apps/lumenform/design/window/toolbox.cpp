@@ -28,7 +28,7 @@ Toolbox::Toolbox(const ClassTable& classes, QWidget* parent) : QListWidget(paren
     for (const Text& name : NewControlClasses(classes)) {
         auto* const item = new QListWidgetItem(qt::ToQString(ShortClassName(name)), this);
         item->setData(classRole, qt::ToQString(name));
-        item->setToolTip(tr("%1: draw it on the form, or double-click to put it into the middle")
+        item->setToolTip(tr("%1: draw it on the form, or double-click to add it in the middle")
                              .arg(qt::ToQString(name)));
     }
     DrawIcons();

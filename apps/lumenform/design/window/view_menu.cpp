@@ -43,7 +43,7 @@ ViewMenu::ViewMenu(QSettings& settings, QWidget* parent)
         Change(grid);
     });
     QAction* const snaps = addAction(tr("&Snap to the grid"));
-    snaps->setToolTip(tr("Alt held while dragging does the opposite"));
+    snaps->setToolTip(tr("Hold Alt while dragging to do the opposite"));
     snaps->setCheckable(true);
     snaps->setChecked(grid_.snaps);
     connect(snaps, &QAction::toggled, this, [this](bool on) {

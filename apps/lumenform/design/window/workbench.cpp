@@ -5,8 +5,8 @@
 #include <cmath>
 
 #include "apps/lumenform/design/model/arrange.h"
-#include "apps/lumenform/design/model/attempt.h"
 #include "apps/lumenform/design/model/new_control.h"
+#include "apps/lumenform/design/model/refusal.h"
 #include "runtime/qt/pixels.h"
 #include "runtime/qt/qt_text.h"
 

@@ -3,7 +3,7 @@
 #include <QSplitter>
 
 #include "apps/lumenform/design/canvas/canvas.h"
-#include "apps/lumenform/design/model/design.h"
+#include "apps/lumenform/design/model/form_design.h"
 #include "apps/lumenform/design/properties/control_messages.h"
 #include "apps/lumenform/design/properties/property_browser.h"
 #include "apps/lumenform/design/window/toolbox.h"
@@ -17,7 +17,7 @@ class Workbench final : public QSplitter {
     Q_OBJECT
 
  public:
-    /// Throws FormError as Design does. `messages` is the interaction of the context; both must
+    /// Throws FormError as FormDesign does. `messages` is the interaction of the context; both must
     /// outlive the workbench.
     Workbench(const qt::Context& context, ControlMessages& messages, forms::Document document,
               QWidget* parent = nullptr);
@@ -25,7 +25,7 @@ class Workbench final : public QSplitter {
     Workbench(const Workbench&) = delete;
     Workbench& operator=(const Workbench&) = delete;
 
-    Design& GetDesign() { return design_; }
+    FormDesign& GetDesign() { return design_; }
     Canvas& GetCanvas() const { return *canvas_; }
     Toolbox& GetToolbox() const { return *toolbox_; }
     PropertyBrowser& Properties() const { return *properties_; }
@@ -50,7 +50,7 @@ class Workbench final : public QSplitter {
     void PutDown(const QString& className);
     void Add(const Text& className, const LiveControl* container, const host::Placement& place);
 
-    Design design_;
+    FormDesign design_;
     Toolbox* toolbox_;
     Canvas* canvas_;
     PropertyBrowser* properties_;

@@ -1,0 +1,154 @@
+#include "apps/lumenform/design/model/form_design.h"
+
+#include <QUndoCommand>
+#include <algorithm>
+#include <utility>
+
+#include "frame/text.h"
+
+namespace lumenkit::lumenform {
+
+// A step of the history. The first redo does nothing, because the change is complete before the
+// history gets the step.
+class FormDesign::Step final : public QUndoCommand {
+ public:
+    Step(FormDesign& design, const QString& title, SharedSnapshot before, Merging merging)
+        : QUndoCommand(title),
+          design_(design),
+          before_(std::move(before)),
+          after_(design.now_),
+          merging_(merging) {}
+
+    int id() const override { return merging_ == Merging::None ? -1 : static_cast<int>(merging_); }
+    bool mergeWith(const QUndoCommand* next) override {
+        const auto& step = dynamic_cast<const Step&>(*next);
+        if (step.before_->Selected() != before_->Selected()) {
+            return false;
+        }
+        after_ = step.after_;
+        return true;
+    }
+    void undo() override { design_.Restore(before_); }
+    void redo() override {
+        if (isDone_) {
+            isDone_ = false;
+        } else {
+            design_.Restore(after_);
+        }
+    }
+
+ private:
+    FormDesign& design_;
+    SharedSnapshot before_;
+    SharedSnapshot after_;
+    Merging merging_;
+    bool isDone_ = true;
+};
+
+FormDesign::FormDesign(const qt::Context& context, forms::Document document)
+    : context_(context),
+      document_(std::make_unique<forms::Document>(std::move(document))),
+      view_(std::make_unique<FormView>(context, *document_, Mode::Design)),
+      now_(std::make_shared<const Snapshot>(*document_, SelectedNames(), nullptr)) {
+    history_.setUndoLimit(mostSteps);
+}
+
+FormDesign::~FormDesign() = default;
+
+std::vector<Text> FormDesign::SelectedNames() const {
+    std::vector<Text> names;
+    for (const LiveControl* control : selected_) {
+        names.push_back(control->Name());
+    }
+    return names;
+}
+
+bool FormDesign::IsSelected(const LiveControl& control) const {
+    return std::ranges::find(selected_, &control) != selected_.end();
+}
+
+void FormDesign::Select(std::vector<LiveControl*> controls) {
+    if (controls != selected_) {
+        selected_ = std::move(controls);
+        Q_EMIT SelectionChanged();
+    }
+}
+
+void FormDesign::SelectNamed(const std::vector<Text>& names) {
+    std::vector<LiveControl*> controls;
+    for (const Text& name : names) {
+        LiveControl* const control = view_->Find(name);
+        if (control != nullptr && std::ranges::find(controls, control) == controls.end()) {
+            controls.push_back(control);
+        }
+    }
+    Select(std::move(controls));
+}
+
+SharedSnapshot FormDesign::BeforeChange() const {
+    return std::make_shared<const Snapshot>(*now_, SelectedNames());
+}
+
+void FormDesign::Edit(const QString& title, const std::function<void()>& change, Merging merging) {
+    const SharedSnapshot before = BeforeChange();
+    try {
+        change();
+        view_->Save();
+        now_ = std::make_shared<const Snapshot>(*document_, SelectedNames(), before.get());
+    } catch (...) {
+        Restore(before);
+        throw;
+    }
+    Push(title, before, merging);
+}
+
+void FormDesign::Restructure(const QString& title,
+                             const std::function<std::vector<Text>()>& change) {
+    const SharedSnapshot before = BeforeChange();
+    try {
+        const std::vector<Text> selected = change();
+        const Snapshot after(*document_, selected, before.get());
+        if (!after.HoldsTheSameAs(*before)) {
+            Replace(std::make_unique<forms::Document>(document_->WithBytes(after.Bytes())));
+        }
+        SelectNamed(selected);
+        now_ = std::make_shared<const Snapshot>(*document_, SelectedNames(), before.get());
+    } catch (...) {
+        Restore(before);
+        throw;
+    }
+    Push(title, before, Merging::None);
+}
+
+void FormDesign::Push(const QString& title, SharedSnapshot before, Merging merging) {
+    if (!now_->HoldsTheSameAs(*before)) {
+        history_.push(new Step(*this, title, std::move(before), merging));
+        Q_EMIT Edited();
+    }
+}
+
+void FormDesign::Restore(const SharedSnapshot& snapshot) {
+    now_ = snapshot;
+    Replace(std::make_unique<forms::Document>(document_->WithBytes(snapshot->Bytes())));
+    SelectNamed(snapshot->Selected());
+    Q_EMIT Edited();
+}
+
+void FormDesign::Replace(std::unique_ptr<forms::Document> document) {
+    auto view = std::make_unique<FormView>(context_, *document, Mode::Design);
+    const bool hadSelection = !selected_.empty();
+    selected_.clear();
+    view_ = std::move(view);
+    document_ = std::move(document);
+    Q_EMIT ViewReplaced();
+    if (hadSelection) {
+        Q_EMIT SelectionChanged();
+    }
+}
+
+void FormDesign::Rename(const std::string& name) {
+    document_->Rename(name);
+    now_ = std::make_shared<const Snapshot>(*document_, SelectedNames(), now_.get());
+}
+
+}  // namespace lumenkit::lumenform

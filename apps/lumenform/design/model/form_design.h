@@ -1,0 +1,88 @@
+#pragma once
+
+#include <QObject>
+#include <QUndoStack>
+#include <functional>
+#include <memory>
+#include <vector>
+
+#include "apps/lumenform/design/model/snapshot.h"
+#include "apps/lumenform/form_view/form_view.h"
+#include "forms/document.h"
+#include "frame/text.h"
+#include "runtime/qt/context.h"
+
+namespace lumenkit::lumenform {
+
+/// Whether a step can merge with the previous step of the same kind.
+enum class Merging { None, Nudges };
+
+/// A form in the designer: its document, its view in design mode, the selection and the undo
+/// history. The document always holds the state that would be saved.
+class FormDesign final : public QObject {
+    Q_OBJECT
+
+ public:
+    static constexpr int mostSteps = 200;
+
+    /// Throws FormError as FormView does. The context must outlive the design.
+    FormDesign(const qt::Context& context, forms::Document document);
+    ~FormDesign() override;
+    FormDesign(const FormDesign&) = delete;
+    FormDesign& operator=(const FormDesign&) = delete;
+
+    const qt::Context& Context() const { return context_; }
+    forms::Document& Document() const { return *document_; }
+    /// The form on the screen. A new view replaces it when blocks are added, removed or changed.
+    /// The design owns it: a widget that becomes its parent must remove it before the widget is
+    /// destroyed.
+    FormView& View() const { return *view_; }
+
+    /// The selected controls in the order of selection. The others are aligned with the last one.
+    /// Empty if the form itself is selected.
+    const std::vector<LiveControl*>& Selected() const { return selected_; }
+    std::vector<Text> SelectedNames() const;
+    bool IsSelected(const LiveControl& control) const;
+    void Select(std::vector<LiveControl*> controls);
+    /// Selects controls by their names in code. Ignores unknown names.
+    void SelectNamed(const std::vector<Text>& names);
+
+    /// Changes places and properties of live controls. The document follows, and the change becomes
+    /// a step of the history unless it has no effect. If `change` throws (RuntimeError), or a text
+    /// is not in the form's encoding (FormError), restores the former state and rethrows.
+    void Edit(const QString& title, const std::function<void()>& change,
+              Merging merging = Merging::None);
+    /// Does the same for changes to the document's blocks, and then creates a new view. `change`
+    /// returns the names of the controls to select. Also restores the former state if the new view
+    /// throws a FormError.
+    void Restructure(const QString& title, const std::function<std::vector<Text>()>& change);
+
+    /// Undo, redo, and whether there are unsaved changes.
+    QUndoStack& History() { return history_; }
+    /// Changes the file name of the document. See forms::Document::Rename.
+    void Rename(const std::string& name);
+
+ Q_SIGNALS:
+    /// View() and everything in it is new.
+    void ViewReplaced();
+    void SelectionChanged();
+    /// The document has changed by an edit, undo or redo.
+    void Edited();
+
+ private:
+    class Step;
+
+    SharedSnapshot BeforeChange() const;
+    void Push(const QString& title, SharedSnapshot before, Merging merging);
+    void Replace(std::unique_ptr<forms::Document> document);
+    void Restore(const SharedSnapshot& snapshot);
+
+    const qt::Context& context_;
+    std::unique_ptr<forms::Document> document_;
+    std::unique_ptr<FormView> view_;
+    std::vector<LiveControl*> selected_;
+    SharedSnapshot now_;  // the present document
+    QUndoStack history_;
+};
+
+}  // namespace lumenkit::lumenform

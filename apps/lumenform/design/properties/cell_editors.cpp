@@ -1,0 +1,53 @@
+#include "apps/lumenform/design/properties/cell_editors.h"
+
+#include <QHBoxLayout>
+#include <QKeyEvent>
+#include <QScopedValueRollback>
+#include <QToolButton>
+#include <QWheelEvent>
+
+namespace lumenkit::lumenform {
+
+ChoiceBox::ChoiceBox(QWidget* parent) : QComboBox(parent) {
+    setAutoFillBackground(true);
+    connect(this, &QComboBox::activated, this, [this] {
+        if (!byKeys_) {
+            Q_EMIT Picked();
+        }
+    });
+}
+
+void ChoiceBox::keyPressEvent(QKeyEvent* event) {
+    const QScopedValueRollback byKeys(byKeys_, true);
+    QComboBox::keyPressEvent(event);
+    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
+        event->accept();  // the delegate commits; the list must not start editing again
+    }
+}
+
+void ChoiceBox::wheelEvent(QWheelEvent* event) {
+    event->ignore();
+}
+
+ValueEditor::ValueEditor(bool hasMore, QWidget* parent)
+    : QWidget(parent), line_(new QLineEdit(this)), hasMore_(hasMore) {
+    setAutoFillBackground(true);
+    setFocusProxy(line_);
+    line_->setFrame(false);
+    auto* const layout = new QHBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(0);
+    layout->addWidget(line_);
+    if (hasMore) {
+        auto* const more = new QToolButton(this);
+        more->setText(QStringLiteral("..."));
+        more->setAccessibleName(tr("More"));
+        more->setToolTip(tr("More (F4)"));
+        more->setFocusPolicy(Qt::NoFocus);
+        more->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Ignored);
+        layout->addWidget(more);
+        connect(more, &QToolButton::clicked, this, &ValueEditor::MoreWanted);
+    }
+}
+
+}  // namespace lumenkit::lumenform

@@ -1,0 +1,100 @@
+#include "apps/lumenform/design/properties/library_properties.h"
+
+#include <algorithm>
+#include <array>
+
+#include "frame/numbers.h"
+#include "runtime/qt/font.h"
+
+namespace lumenkit::lumenform {
+
+namespace {
+
+bool IsShown(const Member& member) {
+    return member.kind == MemberKind::Property && member.read != nullptr &&
+           member.parameters.empty() && !member.flags.hiddenFromBrowser;
+}
+
+PropertyKind KindOfText(TextView name) {
+    constexpr std::array<TextView, 2> longTexts = {u"Caption", u"Text"};
+    if (name == u"Contents") {
+        return PropertyKind::Items;
+    }
+    return std::ranges::find(longTexts, name) == longTexts.end() ? PropertyKind::Text
+                                                                 : PropertyKind::LongText;
+}
+
+PropertyKind KindOf(const Member& member) {
+    switch (member.type) {
+        case ValueType::String:
+            return KindOfText(member.name);
+        case ValueType::Boolean:
+        case ValueType::MousePointer:
+        case ValueType::ScrollBars:
+            return PropertyKind::Choice;
+        case ValueType::Color:
+            return PropertyKind::Color;
+        case ValueType::Font:
+            return PropertyKind::Font;
+        case ValueType::Integer:
+        case ValueType::Long:
+        case ValueType::Single:
+            return PropertyKind::Number;
+        case ValueType::None:
+        case ValueType::Variant:
+            break;
+    }
+    return PropertyKind::Text;
+}
+
+std::vector<Choice> ChoicesOf(ValueType type, const EnumerationLibrary* enumerations) {
+    if (type == ValueType::Boolean) {
+        return TruthChoices();
+    }
+    const EnumerationTable* table = enumerations == nullptr ? nullptr : enumerations->Find(type);
+    std::vector<Choice> choices;
+    if (table != nullptr) {
+        for (const EnumerationMember& member : table->members) {
+            choices.push_back({Decimal(member.value) + u" - " + Text(member.name), member.value});
+        }
+    }
+    return choices;
+}
+
+// Fonts are shared objects, so each control gets a copy.
+Value OwnFont(const Value& value) {
+    const auto* object = std::get_if<ObjectRef>(&value);
+    return object == nullptr ? value : ObjectRef(qt::Font::From(host::ToFont(value))->Clone());
+}
+
+}  // namespace
+
+std::vector<ObjectProperty> LibraryProperties(qt::HostedControl& control,
+                                              const EnumerationLibrary* enumerations) {
+    const ClassDescriptor& type = control.Type();
+    std::vector<ObjectProperty> properties;
+    for (const Member& member : type.interfaceTable->members) {
+        if (!IsShown(member)) {
+            continue;
+        }
+        const std::int32_t identifier = member.identifier;
+        ObjectProperty property{
+            .name = Text(member.name),
+            .help = Text(member.help),
+            .kind = KindOf(member),
+            .choices = ChoicesOf(member.type, enumerations),
+            .place = PropertyPlace::Live,
+            .isOnPage =
+                std::ranges::find(type.pageProperties, member.name) != type.pageProperties.end(),
+            .get = [&control, identifier] { return control.Automation().Get(identifier); }};
+        if (member.assign != nullptr) {
+            property.set = [&control, identifier](const Value& value) {
+                control.Automation().Let(identifier, OwnFont(value));
+            };
+        }
+        properties.push_back(std::move(property));
+    }
+    return properties;
+}
+
+}  // namespace lumenkit::lumenform

@@ -1,0 +1,17 @@
+#pragma once
+
+#include <vector>
+
+#include "apps/lumenform/design/properties/object_property.h"
+#include "frame/automation/runtime_enumerations.h"
+#include "runtime/qt/hosted_control.h"
+
+namespace lumenkit::lumenform {
+
+/// The properties of a control of this library that a designer can see, from its interface table:
+/// without hidden, write-only and indexed ones. `enumerations` may be null. The control must
+/// outlive the properties.
+std::vector<ObjectProperty> LibraryProperties(qt::HostedControl& control,
+                                              const EnumerationLibrary* enumerations);
+
+}  // namespace lumenkit::lumenform

@@ -1,0 +1,206 @@
+#include "apps/lumenform/design/properties/plain_properties.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "apps/lumenform/design/model/arrange.h"
+#include "apps/lumenform/design/properties/container_properties.h"
+#include "apps/lumenform/design/properties/stored_property.h"
+#include "apps/lumenform/design/properties/usual_properties.h"
+#include "apps/lumenform/form_view/plain_kinds.h"
+#include "forms/controls.h"
+
+namespace lumenkit::lumenform {
+
+namespace {
+
+// Returns the names of the properties and groups of the block, without names that begin with an
+// underscore, which are for designers.
+std::vector<Text> NamesIn(const forms::Block& block) {
+    std::vector<Text> names;
+    for (const forms::Block::Item& item : block.Items()) {
+        if (const auto* property = std::get_if<std::unique_ptr<forms::Property>>(&item)) {
+            names.push_back((*property)->Name());
+        } else if (const auto* inner = std::get_if<std::unique_ptr<forms::Block>>(&item);
+                   inner != nullptr && (*inner)->Kind() == forms::BlockKind::Group) {
+            names.push_back((*inner)->Name());
+        }
+    }
+    std::erase_if(names, [](const Text& name) { return name.starts_with(u'_'); });
+    return names;
+}
+
+Value Otherwise(const UsualProperty& usual) {
+    return std::visit(
+        []<typename T>(const T& held) -> Value {
+            if constexpr (std::same_as<T, std::monostate>) {
+                return Empty();
+            } else if constexpr (std::same_as<T, TextView>) {
+                return Text(held);
+            } else {
+                return held;
+            }
+        },
+        usual.otherwise);
+}
+
+// The colours of the class and the font of the container.
+struct Inherited {
+    WidgetColors colors;
+    std::shared_ptr<qt::Font> font;
+
+    Value For(const UsualProperty& usual) const {
+        if (usual.name == u"BackColor") {
+            return FromColor(colors.back);
+        }
+        if (usual.name == u"ForeColor") {
+            return FromColor(colors.fore);
+        }
+        return usual.type == StoredType::Font ? ObjectRef(font) : Otherwise(usual);
+    }
+};
+
+std::vector<Choice> ChoicesOf(const UsualProperty& usual) {
+    std::vector<Choice> choices;
+    for (const TextView label : usual.choices) {
+        choices.push_back({Text(label), static_cast<std::int32_t>(choices.size())});
+    }
+    return choices;
+}
+
+ObjectProperty MakeUsualProperty(FormDesign& design, forms::Block& block,
+                                 const UsualProperty& usual, const Inherited& inherited) {
+    return MakeProperty(design, block,
+                        {.name = Text(usual.name),
+                         .help = usual.help,
+                         .type = usual.type,
+                         .otherwise = inherited.For(usual),
+                         .choices = ChoicesOf(usual)});
+}
+
+ObjectProperty Unchangeable(Text name, Text shown) {
+    return {.name = std::move(name),
+            .get = [shown = std::move(shown)]() -> Value { return shown; }};
+}
+
+bool NamesColor(TextView name) {
+    return name.ends_with(u"Color");
+}
+
+// Returns the type of an unknown property, which follows from its value and name.
+StoredType TypeOf(const forms::Property& property) {
+    const forms::Literal& literal = property.Literal();
+    if (std::holds_alternative<bool>(literal)) {
+        return StoredType::Truth;
+    }
+    if (NamesColor(property.Name())) {
+        return StoredType::Color;
+    }
+    const bool isText = std::holds_alternative<Text>(literal) ||
+                        std::holds_alternative<forms::CompanionText>(literal) ||
+                        std::holds_alternative<forms::Reference>(literal);
+    return isText ? StoredType::LongText : StoredType::Number;
+}
+
+ObjectProperty UnknownProperty(FormDesign& design, forms::Block& block,
+                               const forms::Property& property) {
+    const forms::Literal& literal = property.Literal();
+    const auto* reference = std::get_if<forms::Reference>(&literal);
+    if (reference != nullptr && !reference->marked) {
+        return Unchangeable(property.Name(), u"(companion)");
+    }
+    if (std::holds_alternative<forms::Shortcut>(literal) ||
+        std::holds_alternative<forms::Guid>(literal)) {
+        return Unchangeable(property.Name(), forms::SourceOf(literal));
+    }
+    return MakeProperty(design, block, {.name = property.Name(), .type = TypeOf(property)});
+}
+
+bool IsIn(std::span<const ObjectProperty> properties, TextView name) {
+    return std::ranges::any_of(properties, [&](const ObjectProperty& property) {
+        return SameText(property.name, name, Compare::IgnoreCase);
+    });
+}
+
+ObjectProperty StatedProperty(FormDesign& design, forms::Block& block, TextView name,
+                              const Inherited& inherited) {
+    if (const UsualProperty* known = FindCommonProperty(name)) {
+        return MakeUsualProperty(design, block, *known, inherited);
+    }
+    if (const forms::Property* property = block.FindProperty(name)) {
+        return UnknownProperty(design, block, *property);
+    }
+    return Unchangeable(Text(name), u"(group)");
+}
+
+std::vector<ObjectProperty> PropertiesIn(FormDesign& design, forms::Block& block,
+                                         const Inherited& inherited) {
+    std::vector<ObjectProperty> properties;
+    for (const UsualProperty& usual : UsualPropertiesOf(block.ClassName())) {
+        properties.push_back(MakeUsualProperty(design, block, usual, inherited));
+    }
+    for (const Text& name : NamesIn(block)) {
+        if (!IsIn(properties, name)) {
+            properties.push_back(StatedProperty(design, block, name, inherited));
+        }
+    }
+    return properties;
+}
+
+// Scales a form's ScaleWidth or ScaleHeight with the client area, unless the form has custom units.
+void StretchScale(const FormDesign& design, TextView client, TextView scale, float former,
+                  float now) {
+    forms::Block& form = design.Document().Root();
+    const BlockReader reader(design.Document(), form);
+    constexpr std::int32_t ownUnits = 0;
+    constexpr std::int32_t twips = 1;
+    if (!reader.Has(scale) || reader.Whole(u"ScaleMode", twips) == ownUnits || former <= 0) {
+        return;
+    }
+    form.Set(scale, forms::NumberLiteral(reader.Number(scale, former) * now / former), client);
+}
+
+void LetScaleFollow(ObjectProperty& property, FormDesign& design) {
+    const TextView scale = property.name == u"ClientWidth"    ? TextView(u"ScaleWidth")
+                           : property.name == u"ClientHeight" ? TextView(u"ScaleHeight")
+                                                              : TextView();
+    if (scale.empty()) {
+        return;
+    }
+    property.set = [&design, scale, client = property.name, get = property.get,
+                    set = property.set](const Value& value) {
+        const Value former = get();
+        set(value);
+        if (!std::holds_alternative<Empty>(former)) {
+            StretchScale(design, client, scale, ToSingle(former), ToSingle(value));
+        }
+    };
+}
+
+}  // namespace
+
+std::vector<ObjectProperty> PlainProperties(FormDesign& design, LiveControl& control) {
+    std::vector<ObjectProperty> properties = PropertiesIn(
+        design, control.Block(),
+        {PlainKindOf(control.Block()).usual, InsideOf(design, ContainerOf(design, control)).font});
+    std::erase_if(properties,
+                  [](const ObjectProperty& property) { return IsContainers(property.name); });
+    return properties;
+}
+
+std::vector<ObjectProperty> FormProperties(FormDesign& design) {
+    forms::Block& form = design.Document().Root();
+    const bool isDesktop = SameText(form.ClassName(), u"VB.MDIForm", Compare::IgnoreCase);
+    constexpr Color applicationWorkspace{0x8000000C};
+    const WidgetColors usual = {Color::ButtonText,
+                                isDesktop ? applicationWorkspace : Color::ButtonFace};
+    std::vector<ObjectProperty> properties =
+        PropertiesIn(design, form, {usual, MakeFont(forms::FontDescription())});
+    for (ObjectProperty& property : properties) {
+        LetScaleFollow(property, design);
+    }
+    properties.push_back(NameProperty(design, form));
+    return properties;
+}
+
+}  // namespace lumenkit::lumenform

@@ -1,0 +1,18 @@
+#pragma once
+
+#include <vector>
+
+#include "apps/lumenform/design/model/form_design.h"
+#include "apps/lumenform/design/properties/object_property.h"
+
+namespace lumenkit::lumenform {
+
+// These properties must not outlive the view and the document of the design.
+
+/// The properties of a plain control: those in its block and the usual ones of its class.
+std::vector<ObjectProperty> PlainProperties(FormDesign& design, LiveControl& control);
+
+/// The same for the form.
+std::vector<ObjectProperty> FormProperties(FormDesign& design);
+
+}  // namespace lumenkit::lumenform

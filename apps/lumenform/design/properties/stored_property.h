@@ -1,0 +1,35 @@
+// A property that is stored in a block of the document.
+#pragma once
+
+#include <cstdint>
+#include <vector>
+
+#include "apps/lumenform/design/model/form_design.h"
+#include "apps/lumenform/design/properties/object_property.h"
+
+namespace lumenkit::lumenform {
+
+/// The type of the value in the block.
+enum class StoredType : std::uint8_t {
+    Text,
+    LongText,  ///< a text that may have line breaks
+    Truth,
+    Whole,
+    Number,
+    Enumeration,
+    Color,
+    Font,
+};
+
+struct StoredProperty {
+    Text name;
+    TextView help = {};
+    StoredType type = StoredType::Text;
+    Value otherwise = {};              ///< the value that a block without the property means
+    std::vector<Choice> choices = {};  ///< of an enumeration
+};
+
+/// Makes the property of the block. Assigned values are converted to its type.
+ObjectProperty MakeProperty(FormDesign& design, forms::Block& block, StoredProperty property);
+
+}  // namespace lumenkit::lumenform

@@ -1,0 +1,64 @@
+#include "apps/lumenform/form_view/library_control.h"
+
+#include <algorithm>
+
+#include "frame/runtime_error.h"
+
+namespace lumenkit::lumenform {
+
+LibraryControl::LibraryControl(const Stage& stage, const Surroundings& around, forms::Block& block,
+                               const ClassDescriptor& type)
+    : LiveControl(stage, around, block), stage_(stage), site_(stage.mode, around, type.eventTable) {
+    if (const EventTable* table = type.eventTable) {
+        site_.GetContainer().onEvent = [this, table](TextView event, std::span<Value> arguments) {
+            Raise(*table, event, arguments);
+        };
+    }
+    try {
+        Start(around.widget, type);
+    } catch (const RuntimeError& error) {
+        delete widget_.data();
+        Refuse(stage.document, block.NamePlace(), Name(), error.Description());
+    } catch (...) {
+        delete widget_.data();
+        throw;
+    }
+    inside_.emplace(Surroundings{*widget_, around.backColor, around.font, Scale()});
+    SetStoredPlace(widget_->Place());
+}
+
+LibraryControl::~LibraryControl() {
+    qt::DeleteSafely(widget_.data());
+}
+
+void LibraryControl::Start(QWidget& parent, const ClassDescriptor& type) {
+    const qt::Placing standard;
+    const Text tag = Reader().String(u"Tag");
+    const qt::Placing placing{
+        .name = Name(),
+        .placement = SavedPlace(standard.placement),
+        .tag = tag,
+        .visible = stage_.mode == Mode::Design || Reader().Flag(u"Visible", true)};
+    widget_ = new qt::HostedControl(stage_.context, type, site_, placing, &parent);
+    forms::FormBag bag = BagOf(stage_.document, Block());
+    widget_->StartSaved(bag);
+    keeper_.emplace(stage_.document, Block(),
+                    [this](host::PropertyBag& notes) { widget_->Save(notes); });
+}
+
+void LibraryControl::Raise(const EventTable& table, TextView event, std::span<Value> arguments) {
+    if (!stage_.raise) {
+        return;
+    }
+    const auto found = std::ranges::find(table.events, event, &Event::name);
+    if (found != table.events.end()) {
+        stage_.raise({Block(), Name(), event, found->parameters, arguments});
+    }
+}
+
+void LibraryControl::Save() {
+    LiveControl::Save();
+    keeper_->Update([this](host::PropertyBag& bag) { widget_->Save(bag); });
+}
+
+}  // namespace lumenkit::lumenform

@@ -1,0 +1,13 @@
+// The commands of lumenkit. Each is in a separate source file.
+#pragma once
+
+#include <CLI/CLI.hpp>
+
+namespace lumenkit::cli {
+
+// Each function adds a command. Parsing runs the given command, which sets `status`.
+void AddCheckCommand(CLI::App& program, int& status);
+void AddCompileCommand(CLI::App& program, int& status);
+void AddDriveCommand(CLI::App& program, int& status);
+
+}  // namespace lumenkit::cli
