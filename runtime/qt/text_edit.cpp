@@ -15,34 +15,15 @@
 #include <memory>
 #include <utility>
 
-#include "frame/raised_flag.h"
+#include "runtime/qt/entered_units.h"
 #include "runtime/qt/input.h"
 #include "runtime/qt/pixels.h"
 #include "runtime/qt/qt_text.h"
-#include "runtime/qt/text_mirror.h"
+#include "runtime/qt/text_transfer.h"
 
 namespace lumenkit::qt {
 
 namespace {
-
-// Holds the text with all its units, for text boxes of this library. Other programs read the plain
-// text.
-constexpr QLatin1String exactFormat("application/x-lumenkit-text");
-
-namespace key {
-
-constexpr char16_t selectAll = 1;
-constexpr char16_t copy = 3;
-constexpr char16_t backspace = 8;
-constexpr char16_t tabulator = 9;
-constexpr char16_t lineFeed = 10;
-constexpr char16_t enter = 13;
-constexpr char16_t paste = 22;
-constexpr char16_t cut = 24;
-constexpr char16_t undo = 26;
-constexpr char16_t deleteWord = 127;
-
-}  // namespace key
 
 bool IsPair(char16_t first, char16_t second) {
     return (QChar::isHighSurrogate(first) && QChar::isLowSurrogate(second)) ||
@@ -62,59 +43,49 @@ TextView FirstLine(TextView text) {
     return text.substr(0, text.find_first_of(crLf));
 }
 
-// Converts text of another program: every line break becomes CR LF.
-Text WithLineBreaks(const QString& text) {
-    QString lines = text;
-    lines.replace(QLatin1String("\r\n"), QLatin1String("\n"));
-    lines.replace(QLatin1Char('\r'), QLatin1Char('\n'));
-    lines.replace(QLatin1Char('\n'), QLatin1String("\r\n"));
-    return ToText(lines);
+// Whether a position is between CR and LF.
+bool SplitsBreak(TextView text, std::size_t at) {
+    return at > 0 && text.substr(at - 1, 2) == crLf;
 }
 
-Text TextOf(const QMimeData& source) {
-    if (source.hasFormat(exactFormat)) {
-        const QByteArray bytes = source.data(exactFormat);
-        Text text(static_cast<std::size_t>(bytes.size()) / sizeof(char16_t), u'\0');
-        std::copy_n(bytes.constData(), text.size() * sizeof(char16_t),
-                    reinterpret_cast<char*>(text.data()));
-        return text;
+// The parts of two texts, both from `start`, in which alone the texts differ. They split no CR LF.
+struct Difference {
+    std::size_t start = 0;
+    std::size_t oldEnd = 0;
+    std::size_t newEnd = 0;
+};
+
+Difference DifferenceOf(TextView old, TextView text) {
+    const std::size_t shorter = std::min(old.size(), text.size());
+    auto same = static_cast<std::size_t>(
+        std::mismatch(old.begin(), old.begin() + static_cast<std::ptrdiff_t>(shorter), text.begin())
+            .first -
+        old.begin());
+    if (SplitsBreak(old, same) || SplitsBreak(text, same)) {
+        --same;
     }
-    return WithLineBreaks(source.text());
-}
-
-bool IsLetter(int pressed) {
-    return pressed >= Qt::Key_A && pressed <= Qt::Key_Z;
-}
-
-bool HoldsOnlyControl(const QKeyEvent& event) {
-    const auto held = event.modifiers() & ~(Qt::ShiftModifier | Qt::KeypadModifier);
-    return held == Qt::ControlModifier;
-}
-
-// Returns the units that the key enters, as KeyPress receives them; empty for keys that enter
-// nothing.
-Text EnteredBy(const QKeyEvent& event) {
-    const bool control = HoldsOnlyControl(event);
-    switch (event.key()) {
-        case Qt::Key_Return:
-        case Qt::Key_Enter:
-            return {control ? key::lineFeed : key::enter};
-        case Qt::Key_Backspace:
-            return {control ? key::deleteWord : key::backspace};
-        case Qt::Key_Tab:
-            return {key::tabulator};
-        case Qt::Key_Delete:
-            return {};
-        default:
-            break;
+    std::size_t tail = 0;
+    while (tail < shorter - same && old[old.size() - tail - 1] == text[text.size() - tail - 1]) {
+        ++tail;
     }
-    if (control && IsLetter(event.key())) {
-        return {static_cast<char16_t>(event.key() - Qt::Key_A + 1)};
+    if (tail > 0 &&
+        (SplitsBreak(old, old.size() - tail) || SplitsBreak(text, text.size() - tail))) {
+        --tail;
     }
-    const bool alt = event.modifiers().testFlag(Qt::AltModifier) &&
-                     !event.modifiers().testFlag(Qt::ControlModifier);
-    return alt ? Text() : ToText(event.text());
+    return {.start = same, .oldEnd = old.size() - tail, .newEnd = text.size() - tail};
 }
+
+// Counts a task as long as it runs.
+class Busy {
+ public:
+    explicit Busy(int& tasks) : tasks_(tasks) { ++tasks_; }
+    ~Busy() { --tasks_; }
+    Busy(const Busy&) = delete;
+    Busy& operator=(const Busy&) = delete;
+
+ private:
+    int& tasks_;
+};
 
 }  // namespace
 
@@ -123,8 +94,8 @@ TextEdit::TextEdit(QWidget* parent, const host::TextBoxDesign& design, host::Tex
     : QPlainTextEdit(parent),
       events_(&events),
       errors_(std::move(errors)),
-      text_(design.text),
-      multiLine_(design.multiLine) {
+      multiLine_(design.multiLine),
+      text_(*document(), multiLine_) {
     const auto policy = [&](host::ScrollBars bar) {
         return design.scrollBars == bar || design.scrollBars == host::ScrollBars::Both
                    ? Qt::ScrollBarAlwaysOn
@@ -137,179 +108,78 @@ TextEdit::TextEdit(QWidget* parent, const host::TextBoxDesign& design, host::Tex
     setTabChangesFocus(true);
     viewport()->setMouseTracking(true);
     document()->setDocumentMargin(1);
-    setPlainText(ToDocument(design.text, multiLine_));
     connect(document(), &QTextDocument::contentsChange, this,
             [this](int from, int /*removed*/, int added) { FollowDocument(from, added); });
-    const auto forget = [this] {
-        if (!isSetting_) {
-            exactly_.reset();
-        }
-    };
-    connect(this, &QPlainTextEdit::cursorPositionChanged, this, forget);
-    connect(this, &QPlainTextEdit::selectionChanged, this, forget);
+    const auto count = [this] { ++moves_; };
+    connect(this, &QPlainTextEdit::cursorPositionChanged, this, count);
+    connect(this, &QPlainTextEdit::selectionChanged, this, count);
+    Assign(design.text);
 }
 
-// ---- Positions
-
-std::int32_t TextEdit::Length() const {
-    return static_cast<std::int32_t>(text_.size());
-}
-
-std::int32_t TextEdit::ToUnit(int documentPosition) const {
-    return documentPosition + document()->findBlock(documentPosition).blockNumber();
-}
-
-int TextEdit::ToDocumentPosition(std::int32_t unit) const {
-    // Find the last block that begins at or before the unit.
-    int first = 0;
-    int last = document()->blockCount() - 1;
-    while (first < last) {
-        const int middle = first + (last - first + 1) / 2;
-        if (document()->findBlockByNumber(middle).position() + middle <= unit) {
-            first = middle;
-        } else {
-            last = middle - 1;
-        }
-    }
-    const QTextBlock block = document()->findBlockByNumber(first);
-    const int end = block.position() + block.length() - 1;
-    return std::min(unit - first, end);  // a position between CR and LF maps to the one before both
-}
+// ---- The selection
 
 TextEdit::Selection TextEdit::Selected() const {
-    if (exactly_) {
-        return *exactly_;
+    if (placed_ && placed_->version == text_.Version() && placed_->moves == moves_) {
+        return placed_->selection;
     }
     const QTextCursor cursor = textCursor();
-    return {.start = ToUnit(cursor.selectionStart()), .end = ToUnit(cursor.selectionEnd())};
+    return {.start = text_.ToUnit(cursor.selectionStart()),
+            .end = text_.ToUnit(cursor.selectionEnd())};
 }
 
 void TextEdit::Select(Selection selection) {
-    const RaisedFlag setting(isSetting_);
     QTextCursor cursor(document());
-    cursor.setPosition(ToDocumentPosition(selection.start));
-    cursor.setPosition(ToDocumentPosition(selection.end), QTextCursor::KeepAnchor);
+    cursor.setPosition(text_.ToDocumentPosition(selection.start));
+    cursor.setPosition(text_.ToDocumentPosition(selection.end), QTextCursor::KeepAnchor);
     setTextCursor(cursor);
-    exactly_ = selection;
+    placed_ = {.selection = selection, .version = text_.Version(), .moves = moves_};
 }
 
-// ---- The text and the document
+// ---- The text
 
 void TextEdit::SetContents(TextView text) {
-    if (hasLost_) {
-        ReadDocument();
-    }
-    if (text == text_) {
+    if (text == Contents()) {
         return;
     }
-    text_.reserve(text.size());  // nothing may fail after the document has changed
-    {
-        // Lay out only the part that differs. Do not split a CR LF.
-        const auto splits = [](TextView whole, std::size_t at) {
-            return at > 0 && at < whole.size() && whole[at - 1] == u'\r' && whole[at] == u'\n';
-        };
-        const std::size_t shorter = std::min(text.size(), text_.size());
-        auto same = static_cast<std::size_t>(
-            std::mismatch(text.begin(), text.begin() + static_cast<std::ptrdiff_t>(shorter),
-                          text_.begin())
-                .first -
-            text.begin());
-        if (splits(text, same) || splits(text_, same)) {
-            --same;
-        }
-        std::size_t tail = 0;
-        while (tail < shorter - same &&
-               text[text.size() - tail - 1] == text_[text_.size() - tail - 1]) {
-            ++tail;
-        }
-        if (tail > 0 && (splits(text, text.size() - tail) || splits(text_, text_.size() - tail))) {
-            --tail;
-        }
-        const TextView middle = text.substr(same, text.size() - same - tail);
-        const RaisedFlag setting(isSetting_);
-        QTextCursor cursor(document());
-        cursor.setPosition(ToDocumentPosition(static_cast<std::int32_t>(same)));
-        cursor.setPosition(ToDocumentPosition(static_cast<std::int32_t>(text_.size() - tail)),
-                           QTextCursor::KeepAnchor);
-        if (same == 0 && tail == 0) {
-            setPlainText(ToDocument(text, multiLine_));
-        } else {
-            cursor.insertText(ToDocument(middle, multiLine_));
-        }
-        text_.replace(same, text_.size() - same - tail, middle);
-        document()->clearUndoRedoStacks();
-        moveCursor(QTextCursor::Start);
-        exactly_.reset();
-    }
+    text_.Reserve(text.size());  // nothing may fail after the document has changed
+    Assign(text);
     if (events_ != nullptr) {
         const Notifying notifying;
         events_->Change();
     }
 }
 
-// Called when the user edited the document: `added` characters at `from` replaced others.
+// Replaces only the part of the text that differs, so that the rest keeps its layout. Forgets the
+// undo steps.
+void TextEdit::Assign(TextView text) {
+    const Busy busy(tasks_);
+    const int before = text_.Version();
+    const Difference differing = DifferenceOf(Contents(), text);
+    document()->setUndoRedoEnabled(false);
+    QTextCursor cursor(document());
+    cursor.beginEditBlock();
+    cursor.setPosition(text_.ToDocumentPosition(static_cast<std::int32_t>(differing.start)));
+    cursor.setPosition(text_.ToDocumentPosition(static_cast<std::int32_t>(differing.oldEnd)),
+                       QTextCursor::KeepAnchor);
+    text_.Insert(cursor, text.substr(differing.start, differing.newEnd - differing.start));
+    cursor.endEditBlock();
+    document()->setUndoRedoEnabled(true);
+    moveCursor(QTextCursor::Start);
+    notified_ += text_.Version() - before;  // code needs no notification by an event
+}
+
 void TextEdit::FollowDocument(int from, int added) {
-    if (isSetting_) {
-        return;
-    }
     HandleEvent(errors_, [&] {
-        const bool hadLost = std::exchange(hasLost_, true);  // reset on success
-        if (depth_ == 0) {                                   // a menu command, outside of any event
+        if (tasks_ == 0) {  // a menu command, outside of any event
             QMetaObject::invokeMethod(
                 this, [this] { NotifyChange(); }, Qt::QueuedConnection);
         }
-        if (hadLost) {
-            ReadDocument();
-        } else {
-            Follow(from, added);
-            hasLost_ = false;
-        }
+        text_.Follow(from, added);
     });
 }
 
-void TextEdit::ReadDocument() {
-    QTextCursor all(document());
-    all.select(QTextCursor::Document);
-    text_ = FromDocument(all.selectedText());
-    hasChanged_ = true;
-    hasLost_ = false;
-}
-
-void TextEdit::Follow(int from, int added) {
-    const int characters = document()->characterCount() - 1;
-    QTextCursor cursor(document());
-    cursor.setPosition(std::min(from, characters));
-    cursor.setPosition(std::min(from + added, characters), QTextCursor::KeepAnchor);
-    const Text read = FromDocument(cursor.selectedText());
-    // Entered text is known more exactly than the document can represent it.
-    const bool isEntered = std::ranges::equal(read, entering_, MayBe);
-    const TextView inserted = isEntered ? entering_ : TextView(read);
-    auto start = static_cast<std::size_t>(ToUnit(cursor.selectionStart()));
-    const auto length = static_cast<std::size_t>(characters + document()->blockCount() - 1);
-    std::size_t removed = text_.size() + inserted.size() - length;
-    // Skip the units that did not change.
-    TextView entered = inserted;
-    while (removed > 0 && !entered.empty() && MayBe(entered.front(), text_[start])) {
-        entered.remove_prefix(1);
-        ++start;
-        --removed;
-    }
-    while (removed > 0 && !entered.empty() && MayBe(entered.back(), text_[start + removed - 1])) {
-        entered.remove_suffix(1);
-        --removed;
-    }
-    if (removed == 0 && entered.empty()) {
-        return;
-    }
-    text_.replace(start, removed, entered);
-    hasChanged_ = true;
-}
-
 void TextEdit::NotifyChange() {
-    if (hasLost_) {
-        HandleEvent(errors_, [this] { ReadDocument(); });
-    }
-    if (std::exchange(hasChanged_, false)) {
+    if (std::exchange(notified_, text_.Version()) != text_.Version()) {
         TellEvent([](host::TextBoxEvents& events) { events.Change(); });
     }
 }
@@ -327,9 +197,12 @@ void TextEdit::TellEvent(Tell&& tell) {
 template <typename Handle>
 bool TextEdit::During(Handle&& handle) {
     const Notifying notifying;
-    ++depth_;
-    const bool handled = handle();
-    if (--depth_ == 0) {
+    bool handled = false;
+    {
+        const Busy busy(tasks_);
+        handled = handle();
+    }
+    if (tasks_ == 0) {
         NotifyChange();
     }
     return handled;
@@ -338,7 +211,7 @@ bool TextEdit::During(Handle&& handle) {
 bool TextEdit::event(QEvent* event) {
     if (event->type() == QEvent::ShortcutOverride) {
         const auto& pressed = static_cast<QKeyEvent&>(*event);
-        if (HoldsOnlyControl(pressed) && IsLetter(pressed.key())) {
+        if (IsControlLetter(pressed)) {
             event->accept();  // the box handles Ctrl+letter before the menu shortcuts
             return true;
         }
@@ -449,9 +322,7 @@ void TextEdit::DeleteBackwards(bool word) {
 
 void TextEdit::ReplaceSelection(TextView text) {
     QTextCursor cursor = textCursor();
-    entering_ = text;
-    cursor.insertText(ToDocument(text, multiLine_));
-    entering_ = {};
+    text_.Insert(cursor, text);
     setTextCursor(cursor);
 }
 
@@ -461,9 +332,9 @@ std::size_t TextEdit::Room() const {
         return std::numeric_limits<std::size_t>::max();
     }
     const QTextCursor cursor = textCursor();
-    const std::int32_t selected = ToUnit(cursor.selectionEnd()) - ToUnit(cursor.selectionStart());
-    const std::int32_t length = document()->characterCount() + document()->blockCount() - 2;
-    return static_cast<std::size_t>(std::max(maxLength_ - (length - selected), 0));
+    const std::int32_t selected =
+        text_.ToUnit(cursor.selectionEnd()) - text_.ToUnit(cursor.selectionStart());
+    return static_cast<std::size_t>(std::max(maxLength_ - (Length() - selected), 0));
 }
 
 void TextEdit::keyReleaseEvent(QKeyEvent* event) {
@@ -488,9 +359,8 @@ void TextEdit::inputMethodEvent(QInputMethodEvent* event) {
         const std::size_t room = Room();
         const bool isLimited = room < std::numeric_limits<std::size_t>::max();
         QInputMethodEvent shown(event->preeditString(), event->attributes());
-        shown.setCommitString(
-            ToDocument(Fitting(kept, isLimited ? room + replaced : room), multiLine_),
-            event->replacementStart(), event->replacementLength());
+        shown.setCommitString(text_.ToCharacters(Fitting(kept, isLimited ? room + replaced : room)),
+                              event->replacementStart(), event->replacementLength());
         QPlainTextEdit::inputMethodEvent(&shown);
         event->setAccepted(shown.isAccepted());
     });
@@ -500,16 +370,9 @@ void TextEdit::inputMethodEvent(QInputMethodEvent* event) {
 
 std::unique_ptr<QMimeData> TextEdit::Copied() const {
     const QTextCursor cursor = textCursor();
-    const auto start = static_cast<std::size_t>(ToUnit(cursor.selectionStart()));
-    const auto end = static_cast<std::size_t>(ToUnit(cursor.selectionEnd()));
-    const TextView selected = TextView(text_).substr(start, end - start);
-    auto copied = std::make_unique<QMimeData>();
-    QString plain = ToQString(selected);
-    copied->setText(plain.replace(QLatin1String("\r\n"), QLatin1String("\n")));
-    copied->setData(exactFormat,
-                    QByteArray(reinterpret_cast<const char*>(selected.data()),
-                               static_cast<qsizetype>(selected.size() * sizeof(char16_t))));
-    return copied;
+    const auto start = static_cast<std::size_t>(text_.ToUnit(cursor.selectionStart()));
+    const auto end = static_cast<std::size_t>(text_.ToUnit(cursor.selectionEnd()));
+    return ToMimeData(Contents().substr(start, end - start));
 }
 
 void TextEdit::CopySelection() const {
@@ -525,7 +388,7 @@ QMimeData* TextEdit::createMimeDataFromSelection() const {
 }
 
 bool TextEdit::canInsertFromMimeData(const QMimeData* source) const {
-    return source->hasText() || source->hasFormat(exactFormat);
+    return HoldsText(*source);
 }
 
 void TextEdit::insertFromMimeData(const QMimeData* source) {
@@ -535,7 +398,7 @@ void TextEdit::insertFromMimeData(const QMimeData* source) {
 }
 
 void TextEdit::Insert(const QMimeData& source) {
-    const Text text = TextOf(source);
+    const Text text = FromMimeData(source);
     const TextView fitting = Fitting(multiLine_ ? TextView(text) : FirstLine(text), Room());
     if (!fitting.empty()) {
         ReplaceSelection(fitting);

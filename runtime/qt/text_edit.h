@@ -7,14 +7,15 @@
 
 #include "frame/host/text_box.h"
 #include "runtime/qt/boundary.h"
+#include "runtime/qt/document_text.h"
 
 class QKeyEvent;
 
 namespace lumenkit::qt {
 
-/// The widget of a text box. It keeps the text separately from Qt's document. The document is
-/// updated when code sets the text. The text is updated when the user edits: every edit, whatever
-/// its source, is read from the change report of the document.
+/// The widget of a text box. The text is in Qt's document. An edit by the user, whatever its
+/// source, is a change of the document that no call of SetContents made; it is notified when the
+/// event ends that led to it.
 ///
 /// Positions are in UTF-16 units of the text; CR LF counts as two.
 class TextEdit final : public QPlainTextEdit {
@@ -25,11 +26,12 @@ class TextEdit final : public QPlainTextEdit {
     /// Stops all notifications.
     void Disconnect() { events_ = nullptr; }
 
-    const Text& Contents() const { return text_; }
+    /// Returns a view that is valid until the text changes.
+    TextView Contents() const { return text_.Units(); }
     /// Sets the text, puts the caret before it, clears the undo steps and notifies a change. Does
     /// nothing if the text is the same.
     void SetContents(TextView text);
-    std::int32_t Length() const;
+    std::int32_t Length() const { return text_.Length(); }
 
     struct Selection {
         std::int32_t start = 0;
@@ -62,13 +64,16 @@ class TextEdit final : public QPlainTextEdit {
     void insertFromMimeData(const QMimeData* source) override;
 
  private:
-    // Conversion between positions in the document and in the text.
-    int ToDocumentPosition(std::int32_t unit) const;
-    std::int32_t ToUnit(int documentPosition) const;
+    // A selection set by code. It can be where the cursor of the document cannot: between CR and
+    // LF. It holds until the text changes or the cursor moves.
+    struct Placed {
+        Selection selection;
+        int version = 0;
+        int moves = 0;
+    };
 
+    void Assign(TextView text);
     void FollowDocument(int from, int added);
-    void Follow(int from, int added);
-    void ReadDocument();
     void NotifyChange();
     template <typename Handle>
     bool During(Handle&& handle);
@@ -91,18 +96,16 @@ class TextEdit final : public QPlainTextEdit {
 
     host::TextBoxEvents* events_;
     ErrorSink errors_;
-    Text text_;
-    TextView entering_;                 // the text that is being put into the document
-    std::optional<Selection> exactly_;  // the selection set by code, until it changes
-    std::int32_t maxLength_ = 0;
     bool multiLine_;
+    DocumentText text_;
+    int notified_ = 0;  // the version of the text of which the receiver of the events knows
+    int tasks_ = 0;     // the events and assignments in progress, one inside the other
+    int moves_ = 0;     // how often the cursor of the document moved
+    std::optional<Placed> placed_;
+    std::int32_t maxLength_ = 0;
     bool locked_ = false;
-    bool isSetting_ = false;  // the document is being updated from the text
-    bool hasChanged_ = false;
-    bool hasLost_ = false;  // the text could not be updated from the document
     bool hasFocusNow_ = false;
     bool isPressed_ = false;
-    int depth_ = 0;  // number of nested events
 };
 
 }  // namespace lumenkit::qt

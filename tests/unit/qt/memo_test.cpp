@@ -191,6 +191,17 @@ TEST_F(QtMemoTest, UndoingGivesControlCharactersBack) {
     EXPECT_EQ(Contents(), text);
 }
 
+TEST_F(QtMemoTest, UndoingGivesNoncharactersBack) {
+    const Text text = u"a\uFDD0\uFDEFb\uFFFD\uFDD3";
+    Let(u"Text", text);
+    Box().SetSelStart(2);
+    TypeKeys(Edit(), u"x");
+    Box().SetSelection(0, -1);
+    TypeKeys(Edit(), u"y");
+    QTest::keyClick(&Edit(), Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(Contents(), u"a\uFDD0x\uFDEFb\uFFFD\uFDD3");
+}
+
 TEST_F(QtMemoTest, PositionsCountBothUnitsOfALineBreak) {
     Let(u"Text", Text(u"ab\r\ncd\r\n\r\nef"));
     for (std::int32_t position = 0; position <= 12; ++position) {
