@@ -11,38 +11,19 @@
 #include <QTextCursor>
 #include <QTextDocument>
 #include <algorithm>
+#include <functional>
 #include <limits>
-#include <memory>
 #include <utility>
 
-#include "frame/raised_flag.h"
+#include "runtime/qt/entered_units.h"
 #include "runtime/qt/input.h"
 #include "runtime/qt/pixels.h"
 #include "runtime/qt/qt_text.h"
-#include "runtime/qt/text_mirror.h"
+#include "runtime/qt/text_transfer.h"
 
 namespace lumenkit::qt {
 
 namespace {
-
-// Holds the text with all its units, for text boxes of this library. Other programs read the plain
-// text.
-constexpr QLatin1String exactFormat("application/x-lumenkit-text");
-
-namespace key {
-
-constexpr char16_t selectAll = 1;
-constexpr char16_t copy = 3;
-constexpr char16_t backspace = 8;
-constexpr char16_t tabulator = 9;
-constexpr char16_t lineFeed = 10;
-constexpr char16_t enter = 13;
-constexpr char16_t paste = 22;
-constexpr char16_t cut = 24;
-constexpr char16_t undo = 26;
-constexpr char16_t deleteWord = 127;
-
-}  // namespace key
 
 bool IsPair(char16_t first, char16_t second) {
     return (QChar::isHighSurrogate(first) && QChar::isLowSurrogate(second)) ||
@@ -62,59 +43,70 @@ TextView FirstLine(TextView text) {
     return text.substr(0, text.find_first_of(crLf));
 }
 
-// Converts text of another program: every line break becomes CR LF.
-Text WithLineBreaks(const QString& text) {
-    QString lines = text;
-    lines.replace(QLatin1String("\r\n"), QLatin1String("\n"));
-    lines.replace(QLatin1Char('\r'), QLatin1Char('\n'));
-    lines.replace(QLatin1Char('\n'), QLatin1String("\r\n"));
-    return ToText(lines);
+bool IsPartOf(TextView whole, TextView part) {
+    const std::less_equal<const char16_t*> precedes;
+    return precedes(whole.data(), part.data()) &&
+           precedes(part.data(), whole.data() + whole.size());
 }
 
-Text TextOf(const QMimeData& source) {
-    if (source.hasFormat(exactFormat)) {
-        const QByteArray bytes = source.data(exactFormat);
-        Text text(static_cast<std::size_t>(bytes.size()) / sizeof(char16_t), u'\0');
-        std::copy_n(bytes.constData(), text.size() * sizeof(char16_t),
-                    reinterpret_cast<char*>(text.data()));
-        return text;
+// Whether a position is between CR and LF.
+bool SplitsBreak(TextView text, std::size_t at) {
+    return at > 0 && text.substr(at - 1, 2) == crLf;
+}
+
+// The parts of two texts, both from `start`, in which alone the texts differ. They split no CR LF.
+struct Difference {
+    std::size_t start = 0;
+    std::size_t oldEnd = 0;
+    std::size_t newEnd = 0;
+};
+
+Difference DifferenceOf(TextView old, TextView text) {
+    const std::size_t shorter = std::min(old.size(), text.size());
+    auto same = static_cast<std::size_t>(
+        std::mismatch(old.begin(), old.begin() + static_cast<std::ptrdiff_t>(shorter), text.begin())
+            .first -
+        old.begin());
+    if (SplitsBreak(old, same) || SplitsBreak(text, same)) {
+        --same;
     }
-    return WithLineBreaks(source.text());
-}
-
-bool IsLetter(int pressed) {
-    return pressed >= Qt::Key_A && pressed <= Qt::Key_Z;
-}
-
-bool HoldsOnlyControl(const QKeyEvent& event) {
-    const auto held = event.modifiers() & ~(Qt::ShiftModifier | Qt::KeypadModifier);
-    return held == Qt::ControlModifier;
-}
-
-// Returns the units that the key enters, as KeyPress receives them; empty for keys that enter
-// nothing.
-Text EnteredBy(const QKeyEvent& event) {
-    const bool control = HoldsOnlyControl(event);
-    switch (event.key()) {
-        case Qt::Key_Return:
-        case Qt::Key_Enter:
-            return {control ? key::lineFeed : key::enter};
-        case Qt::Key_Backspace:
-            return {control ? key::deleteWord : key::backspace};
-        case Qt::Key_Tab:
-            return {key::tabulator};
-        case Qt::Key_Delete:
-            return {};
-        default:
-            break;
+    std::size_t tail = 0;
+    while (tail < shorter - same && old[old.size() - tail - 1] == text[text.size() - tail - 1]) {
+        ++tail;
     }
-    if (control && IsLetter(event.key())) {
-        return {static_cast<char16_t>(event.key() - Qt::Key_A + 1)};
+    if (tail > 0 &&
+        (SplitsBreak(old, old.size() - tail) || SplitsBreak(text, text.size() - tail))) {
+        --tail;
     }
-    const bool alt = event.modifiers().testFlag(Qt::AltModifier) &&
-                     !event.modifiers().testFlag(Qt::ControlModifier);
-    return alt ? Text() : ToText(event.text());
+    return {.start = same, .oldEnd = old.size() - tail, .newEnd = text.size() - tail};
 }
+
+// Counts a task as long as it runs.
+class Busy {
+ public:
+    explicit Busy(int& tasks) : tasks_(tasks) { ++tasks_; }
+    ~Busy() { --tasks_; }
+    Busy(const Busy&) = delete;
+    Busy& operator=(const Busy&) = delete;
+
+ private:
+    int& tasks_;
+};
+
+// Gives a variable another value as long as this object lives.
+template <typename Value>
+class Meanwhile {
+ public:
+    Meanwhile(Value& variable, Value value)
+        : variable_(variable), former_(std::exchange(variable, value)) {}
+    ~Meanwhile() { variable_ = former_; }
+    Meanwhile(const Meanwhile&) = delete;
+    Meanwhile& operator=(const Meanwhile&) = delete;
+
+ private:
+    Value& variable_;
+    Value former_;
+};
 
 }  // namespace
 
@@ -123,8 +115,9 @@ TextEdit::TextEdit(QWidget* parent, const host::TextBoxDesign& design, host::Tex
     : QPlainTextEdit(parent),
       events_(&events),
       errors_(std::move(errors)),
-      text_(design.text),
-      multiLine_(design.multiLine) {
+      multiLine_(design.multiLine),
+      text_(*document(), multiLine_),
+      steps_(*document(), text_) {
     const auto policy = [&](host::ScrollBars bar) {
         return design.scrollBars == bar || design.scrollBars == host::ScrollBars::Both
                    ? Qt::ScrollBarAlwaysOn
@@ -137,199 +130,136 @@ TextEdit::TextEdit(QWidget* parent, const host::TextBoxDesign& design, host::Tex
     setTabChangesFocus(true);
     viewport()->setMouseTracking(true);
     document()->setDocumentMargin(1);
-    setPlainText(ToDocument(design.text, multiLine_));
     connect(document(), &QTextDocument::contentsChange, this,
             [this](int from, int /*removed*/, int added) { FollowDocument(from, added); });
-    const auto forget = [this] {
-        if (!isSetting_) {
-            exactly_.reset();
-        }
-    };
-    connect(this, &QPlainTextEdit::cursorPositionChanged, this, forget);
-    connect(this, &QPlainTextEdit::selectionChanged, this, forget);
+    const auto count = [this] { ++moves_; };
+    connect(this, &QPlainTextEdit::cursorPositionChanged, this, count);
+    connect(this, &QPlainTextEdit::selectionChanged, this, count);
+    Assign(design.text);
 }
 
-// ---- Positions
+// ---- The selection
 
-std::int32_t TextEdit::Length() const {
-    return static_cast<std::int32_t>(text_.size());
-}
-
-std::int32_t TextEdit::ToUnit(int documentPosition) const {
-    return documentPosition + document()->findBlock(documentPosition).blockNumber();
-}
-
-int TextEdit::ToDocumentPosition(std::int32_t unit) const {
-    // Find the last block that begins at or before the unit.
-    int first = 0;
-    int last = document()->blockCount() - 1;
-    while (first < last) {
-        const int middle = first + (last - first + 1) / 2;
-        if (document()->findBlockByNumber(middle).position() + middle <= unit) {
-            first = middle;
-        } else {
-            last = middle - 1;
-        }
-    }
-    const QTextBlock block = document()->findBlockByNumber(first);
-    const int end = block.position() + block.length() - 1;
-    return std::min(unit - first, end);  // a position between CR and LF maps to the one before both
+bool TextEdit::IsPlaced() const {
+    return placed_ && placed_->version == text_.Version() && placed_->moves == moves_;
 }
 
 TextEdit::Selection TextEdit::Selected() const {
-    if (exactly_) {
-        return *exactly_;
+    if (IsPlaced()) {
+        return placed_->selection;
     }
     const QTextCursor cursor = textCursor();
-    return {.start = ToUnit(cursor.selectionStart()), .end = ToUnit(cursor.selectionEnd())};
+    return {.start = text_.ToUnit(cursor.selectionStart()),
+            .end = text_.ToUnit(cursor.selectionEnd())};
+}
+
+bool TextEdit::IsInBreak() const {
+    return IsPlaced() && placed_->selection.start == placed_->selection.end &&
+           placed_->selection.start != text_.ToUnit(textCursor().position());
 }
 
 void TextEdit::Select(Selection selection) {
-    const RaisedFlag setting(isSetting_);
     QTextCursor cursor(document());
-    cursor.setPosition(ToDocumentPosition(selection.start));
-    cursor.setPosition(ToDocumentPosition(selection.end), QTextCursor::KeepAnchor);
+    cursor.setPosition(text_.ToDocumentPosition(selection.start));
+    cursor.setPosition(text_.ToDocumentPosition(selection.end), QTextCursor::KeepAnchor);
     setTextCursor(cursor);
-    exactly_ = selection;
+    placed_ = {.selection = selection, .version = text_.Version(), .moves = moves_};
 }
 
-// ---- The text and the document
+// ---- The text
 
 void TextEdit::SetContents(TextView text) {
-    if (hasLost_) {
-        ReadDocument();
-    }
-    if (text == text_) {
+    if (text == Contents()) {
         return;
     }
-    text_.reserve(text.size());  // nothing may fail after the document has changed
-    {
-        // Lay out only the part that differs. Do not split a CR LF.
-        const auto splits = [](TextView whole, std::size_t at) {
-            return at > 0 && at < whole.size() && whole[at - 1] == u'\r' && whole[at] == u'\n';
-        };
-        const std::size_t shorter = std::min(text.size(), text_.size());
-        auto same = static_cast<std::size_t>(
-            std::mismatch(text.begin(), text.begin() + static_cast<std::ptrdiff_t>(shorter),
-                          text_.begin())
-                .first -
-            text.begin());
-        if (splits(text, same) || splits(text_, same)) {
-            --same;
-        }
-        std::size_t tail = 0;
-        while (tail < shorter - same &&
-               text[text.size() - tail - 1] == text_[text_.size() - tail - 1]) {
-            ++tail;
-        }
-        if (tail > 0 && (splits(text, text.size() - tail) || splits(text_, text_.size() - tail))) {
-            --tail;
-        }
-        const TextView middle = text.substr(same, text.size() - same - tail);
-        const RaisedFlag setting(isSetting_);
-        QTextCursor cursor(document());
-        cursor.setPosition(ToDocumentPosition(static_cast<std::int32_t>(same)));
-        cursor.setPosition(ToDocumentPosition(static_cast<std::int32_t>(text_.size() - tail)),
-                           QTextCursor::KeepAnchor);
-        if (same == 0 && tail == 0) {
-            setPlainText(ToDocument(text, multiLine_));
-        } else {
-            cursor.insertText(ToDocument(middle, multiLine_));
-        }
-        text_.replace(same, text_.size() - same - tail, middle);
-        document()->clearUndoRedoStacks();
-        moveCursor(QTextCursor::Start);
-        exactly_.reset();
-    }
+    text_.Reserve(text.size());  // nothing may fail after the document has changed
+    Assign(text);
     if (events_ != nullptr) {
         const Notifying notifying;
         events_->Change();
     }
 }
 
-// Called when the user edited the document: `added` characters at `from` replaced others.
-void TextEdit::FollowDocument(int from, int added) {
-    if (isSetting_) {
-        return;
+void TextEdit::Assign(TextView text) {
+    const Busy busy(tasks_);
+    const int before = text_.Version();
+    QTextCursor cursor(document());
+    switch (assigning_) {
+        case Assigning::Forgets:
+            steps_.Forget(cursor, [&] { Replace(cursor, text); });
+            break;
+        case Assigning::AddsStep:
+            steps_.Record(UndoSteps::Kind::None, cursor, [&] { Replace(cursor, text); });
+            assigning_ = Assigning::AmendsStep;
+            break;
+        case Assigning::AmendsStep: {
+            Text own;
+            if (IsPartOf(Contents(), text)) {
+                text = own = text;  // taking back changes what a view of the text shows
+            }
+            if (steps_.TakeBack(text)) {
+                assigning_ = Assigning::AddsStep;
+            } else {
+                steps_.Amend(cursor, [&] { Replace(cursor, text); });
+            }
+            break;
+        }
     }
+    moveCursor(QTextCursor::Start);
+    notified_ += text_.Version() - before;  // code needs no notification by an event
+}
+
+// Replaces only the part of the text that differs, so that the rest keeps its layout.
+void TextEdit::Replace(QTextCursor& cursor, TextView text) {
+    const Difference differing = DifferenceOf(Contents(), text);
+    cursor.setPosition(text_.ToDocumentPosition(static_cast<std::int32_t>(differing.start)));
+    cursor.setPosition(text_.ToDocumentPosition(static_cast<std::int32_t>(differing.oldEnd)),
+                       QTextCursor::KeepAnchor);
+    text_.Insert(cursor, text.substr(differing.start, differing.newEnd - differing.start));
+}
+
+void TextEdit::FollowDocument(int from, int added) {
     HandleEvent(errors_, [&] {
-        const bool hadLost = std::exchange(hasLost_, true);  // reset on success
-        if (depth_ == 0) {                                   // a menu command, outside of any event
+        if (tasks_ == 0) {  // a menu command, outside of any event
             QMetaObject::invokeMethod(
                 this, [this] { NotifyChange(); }, Qt::QueuedConnection);
         }
-        if (hadLost) {
-            ReadDocument();
-        } else {
-            Follow(from, added);
-            hasLost_ = false;
-        }
+        text_.Follow(from, added);
     });
-}
-
-void TextEdit::ReadDocument() {
-    QTextCursor all(document());
-    all.select(QTextCursor::Document);
-    text_ = FromDocument(all.selectedText());
-    hasChanged_ = true;
-    hasLost_ = false;
-}
-
-void TextEdit::Follow(int from, int added) {
-    const int characters = document()->characterCount() - 1;
-    QTextCursor cursor(document());
-    cursor.setPosition(std::min(from, characters));
-    cursor.setPosition(std::min(from + added, characters), QTextCursor::KeepAnchor);
-    const Text read = FromDocument(cursor.selectedText());
-    // Entered text is known more exactly than the document can represent it.
-    const bool isEntered = std::ranges::equal(read, entering_, MayBe);
-    const TextView inserted = isEntered ? entering_ : TextView(read);
-    auto start = static_cast<std::size_t>(ToUnit(cursor.selectionStart()));
-    const auto length = static_cast<std::size_t>(characters + document()->blockCount() - 1);
-    std::size_t removed = text_.size() + inserted.size() - length;
-    // Skip the units that did not change.
-    TextView entered = inserted;
-    while (removed > 0 && !entered.empty() && MayBe(entered.front(), text_[start])) {
-        entered.remove_prefix(1);
-        ++start;
-        --removed;
-    }
-    while (removed > 0 && !entered.empty() && MayBe(entered.back(), text_[start + removed - 1])) {
-        entered.remove_suffix(1);
-        --removed;
-    }
-    if (removed == 0 && entered.empty()) {
-        return;
-    }
-    text_.replace(start, removed, entered);
-    hasChanged_ = true;
 }
 
 void TextEdit::NotifyChange() {
-    if (hasLost_) {
-        HandleEvent(errors_, [this] { ReadDocument(); });
-    }
-    if (std::exchange(hasChanged_, false)) {
-        TellEvent([](host::TextBoxEvents& events) { events.Change(); });
+    if (std::exchange(notified_, text_.Version()) != text_.Version()) {
+        HandleEvent(errors_, [this] {
+            Tell(Assigning::AmendsStep, [](host::TextBoxEvents& events) { events.Change(); });
+        });
     }
 }
 
-template <typename Tell>
-void TextEdit::TellEvent(Tell&& tell) {
-    HandleEvent(errors_, [&] {
-        if (events_ != nullptr) {
-            tell(*events_);
-        }
-    });
+// Notifies what the user did.
+template <typename Notify>
+void TextEdit::Tell(Assigning assigning, Notify&& notify) {
+    if (events_ != nullptr) {
+        const Meanwhile meanwhile(assigning_, assigning);
+        notify(*events_);
+    }
+}
+
+template <typename Notify>
+void TextEdit::TellEvent(Notify&& notify) {
+    HandleEvent(errors_, [&] { Tell(Assigning::AddsStep, notify); });
 }
 
 // All changes that one event makes to the text are notified once, after Qt has handled the event.
 template <typename Handle>
 bool TextEdit::During(Handle&& handle) {
     const Notifying notifying;
-    ++depth_;
-    const bool handled = handle();
-    if (--depth_ == 0) {
+    bool handled = false;
+    {
+        const Busy busy(tasks_);
+        handled = handle();
+    }
+    if (tasks_ == 0) {
         NotifyChange();
     }
     return handled;
@@ -338,7 +268,7 @@ bool TextEdit::During(Handle&& handle) {
 bool TextEdit::event(QEvent* event) {
     if (event->type() == QEvent::ShortcutOverride) {
         const auto& pressed = static_cast<QKeyEvent&>(*event);
-        if (HoldsOnlyControl(pressed) && IsLetter(pressed.key())) {
+        if (IsControlLetter(pressed)) {
             event->accept();  // the box handles Ctrl+letter before the menu shortcuts
             return true;
         }
@@ -363,9 +293,7 @@ void TextEdit::Press(QKeyEvent& event) {
     const std::int16_t pressed = KeyCodeOf(event);
     std::int16_t code = pressed;
     std::int16_t shift = ShiftOf(event.modifiers());
-    if (events_ != nullptr) {
-        events_->KeyDown(code, shift);
-    }
+    Tell(Assigning::AddsStep, [&](host::TextBoxEvents& events) { events.KeyDown(code, shift); });
     if (code == 0 || events_ == nullptr) {
         event.accept();
         return;
@@ -373,13 +301,34 @@ void TextEdit::Press(QKeyEvent& event) {
     const Text entered = EnteredBy(event);
     if (const int other = code == pressed ? 0 : EditingKeyOf(code); other != 0) {
         QKeyEvent replaced(QEvent::KeyPress, other, event.modifiers());
-        QPlainTextEdit::keyPressEvent(&replaced);
+        Act(replaced);
     } else if (entered.empty() && code == pressed) {
-        QPlainTextEdit::keyPressEvent(&event);
+        Act(event);
     }
     if (!entered.empty()) {
         event.setAccepted(event.key() != Qt::Key_Escape);
         Enter(Pressed(entered), event);
+    }
+}
+
+// Handles a key that enters no units.
+void TextEdit::Act(QKeyEvent& event) {
+    if (IsMnemonic(event)) {
+        event.ignore();
+        return;
+    }
+    if (EditingKeyOf(KeyCodeOf(event)) != 0) {
+        const bool wasInBreak = IsInBreak();
+        placed_.reset();  // a caret between CR and LF is before both for the user
+        if (wasInBreak && event.key() == Qt::Key_Left &&
+            !event.modifiers().testFlag(Qt::ControlModifier)) {
+            return;
+        }
+    }
+    if (event.matches(QKeySequence::Delete) && !locked_) {
+        Edit(UndoSteps::Kind::DeletingForward, [](QTextCursor& cursor) { cursor.deleteChar(); });
+    } else {
+        QPlainTextEdit::keyPressEvent(&event);
     }
 }
 
@@ -388,9 +337,7 @@ Text TextEdit::Pressed(TextView units) {
     Text entered;
     for (const char16_t unit : units) {
         auto keyAscii = static_cast<std::int16_t>(unit);
-        if (events_ != nullptr) {
-            events_->KeyPress(keyAscii);
-        }
+        Tell(Assigning::AddsStep, [&](host::TextBoxEvents& events) { events.KeyPress(keyAscii); });
         if (keyAscii != 0) {
             entered += static_cast<char16_t>(keyAscii);
         }
@@ -408,7 +355,7 @@ void TextEdit::Enter(TextView units, const QKeyEvent& event) {
             Command(unit, event);
         }
     }
-    EnterText(text);
+    EnterText(UndoSteps::Kind::Typing, text);
 }
 
 void TextEdit::Command(char16_t unit, const QKeyEvent& event) {
@@ -423,36 +370,55 @@ void TextEdit::Command(char16_t unit, const QKeyEvent& event) {
     } else if (unit == key::cut) {
         CopySelection();
         textCursor().removeSelectedText();
+    } else if (unit == key::redo) {
+        redo();
     } else if (unit == key::undo) {
         event.modifiers().testFlag(Qt::ShiftModifier) ? redo() : undo();
     } else if (unit == key::backspace || unit == key::deleteWord) {
         DeleteBackwards(unit == key::deleteWord);
     } else if ((unit == key::enter || unit == key::lineFeed) && multiLine_) {
-        EnterText(crLf);
+        EnterText(UndoSteps::Kind::None, crLf);
     }
 }
 
-void TextEdit::EnterText(TextView units) {
+void TextEdit::EnterText(UndoSteps::Kind kind, TextView units) {
     if (!units.empty() && !locked_ && units.size() <= Room()) {
-        ReplaceSelection(units);
+        ReplaceSelection(kind, units);
     }
 }
 
 void TextEdit::DeleteBackwards(bool word) {
-    QTextCursor cursor = textCursor();
-    if (word && !cursor.hasSelection()) {
-        cursor.movePosition(QTextCursor::PreviousWord, QTextCursor::KeepAnchor);
-    }
-    cursor.deletePreviousChar();
-    setTextCursor(cursor);
+    Edit(UndoSteps::Kind::DeletingBack, [word](QTextCursor& cursor) {
+        if (word && !cursor.hasSelection()) {
+            cursor.movePosition(QTextCursor::PreviousWord, QTextCursor::KeepAnchor);
+        }
+        cursor.deletePreviousChar();
+    });
 }
 
-void TextEdit::ReplaceSelection(TextView text) {
+void TextEdit::ReplaceSelection(UndoSteps::Kind kind, TextView text) {
+    if (SelectedUnits() == text) {  // no edit, so no undo step
+        QTextCursor cursor = textCursor();
+        cursor.setPosition(cursor.selectionEnd());
+        setTextCursor(cursor);
+        return;
+    }
+    Edit(kind, [&](QTextCursor& cursor) { text_.Insert(cursor, text); });
+}
+
+template <typename Change>
+void TextEdit::Edit(UndoSteps::Kind kind, Change&& change) {
     QTextCursor cursor = textCursor();
-    entering_ = text;
-    cursor.insertText(ToDocument(text, multiLine_));
-    entering_ = {};
+    steps_.Record(kind, cursor, [&] { change(cursor); });
     setTextCursor(cursor);
+    placed_.reset();
+}
+
+TextView TextEdit::SelectedUnits() const {
+    const QTextCursor cursor = textCursor();
+    const auto start = static_cast<std::size_t>(text_.ToUnit(cursor.selectionStart()));
+    const auto end = static_cast<std::size_t>(text_.ToUnit(cursor.selectionEnd()));
+    return Contents().substr(start, end - start);
 }
 
 // Returns the number of units that may replace the selection.
@@ -461,9 +427,9 @@ std::size_t TextEdit::Room() const {
         return std::numeric_limits<std::size_t>::max();
     }
     const QTextCursor cursor = textCursor();
-    const std::int32_t selected = ToUnit(cursor.selectionEnd()) - ToUnit(cursor.selectionStart());
-    const std::int32_t length = document()->characterCount() + document()->blockCount() - 2;
-    return static_cast<std::size_t>(std::max(maxLength_ - (length - selected), 0));
+    const std::int32_t selected =
+        text_.ToUnit(cursor.selectionEnd()) - text_.ToUnit(cursor.selectionStart());
+    return static_cast<std::size_t>(std::max(maxLength_ - (Length() - selected), 0));
 }
 
 void TextEdit::keyReleaseEvent(QKeyEvent* event) {
@@ -488,9 +454,8 @@ void TextEdit::inputMethodEvent(QInputMethodEvent* event) {
         const std::size_t room = Room();
         const bool isLimited = room < std::numeric_limits<std::size_t>::max();
         QInputMethodEvent shown(event->preeditString(), event->attributes());
-        shown.setCommitString(
-            ToDocument(Fitting(kept, isLimited ? room + replaced : room), multiLine_),
-            event->replacementStart(), event->replacementLength());
+        shown.setCommitString(text_.ToCharacters(Fitting(kept, isLimited ? room + replaced : room)),
+                              event->replacementStart(), event->replacementLength());
         QPlainTextEdit::inputMethodEvent(&shown);
         event->setAccepted(shown.isAccepted());
     });
@@ -498,34 +463,20 @@ void TextEdit::inputMethodEvent(QInputMethodEvent* event) {
 
 // ---- Clipboard and dragging
 
-std::unique_ptr<QMimeData> TextEdit::Copied() const {
-    const QTextCursor cursor = textCursor();
-    const auto start = static_cast<std::size_t>(ToUnit(cursor.selectionStart()));
-    const auto end = static_cast<std::size_t>(ToUnit(cursor.selectionEnd()));
-    const TextView selected = TextView(text_).substr(start, end - start);
-    auto copied = std::make_unique<QMimeData>();
-    QString plain = ToQString(selected);
-    copied->setText(plain.replace(QLatin1String("\r\n"), QLatin1String("\n")));
-    copied->setData(exactFormat,
-                    QByteArray(reinterpret_cast<const char*>(selected.data()),
-                               static_cast<qsizetype>(selected.size() * sizeof(char16_t))));
-    return copied;
-}
-
 void TextEdit::CopySelection() const {
     if (textCursor().hasSelection()) {
-        QGuiApplication::clipboard()->setMimeData(Copied().release());
+        QGuiApplication::clipboard()->setMimeData(ToMimeData(SelectedUnits()).release());
     }
 }
 
 QMimeData* TextEdit::createMimeDataFromSelection() const {
     QMimeData* copied = nullptr;
-    HandleEvent(errors_, [&] { copied = Copied().release(); });
+    HandleEvent(errors_, [&] { copied = ToMimeData(SelectedUnits()).release(); });
     return copied;
 }
 
 bool TextEdit::canInsertFromMimeData(const QMimeData* source) const {
-    return source->hasText() || source->hasFormat(exactFormat);
+    return HoldsText(*source);
 }
 
 void TextEdit::insertFromMimeData(const QMimeData* source) {
@@ -535,12 +486,38 @@ void TextEdit::insertFromMimeData(const QMimeData* source) {
 }
 
 void TextEdit::Insert(const QMimeData& source) {
-    const Text text = TextOf(source);
+    const Text text = FromMimeData(source);
     const TextView fitting = Fitting(multiLine_ ? TextView(text) : FirstLine(text), Room());
     if (!fitting.empty()) {
-        ReplaceSelection(fitting);
+        ReplaceSelection(UndoSteps::Kind::None, fitting);
         ensureCursorVisible();
     }
+}
+
+// The source of a move deletes what it moved. If the box did not take all of the text, or the
+// receiver of the events refused it, the source keeps it.
+void TextEdit::dropEvent(QDropEvent* event) {
+    if (locked_) {
+        event->setDropAction(Qt::IgnoreAction);
+        event->ignore();
+        return;
+    }
+    const std::int32_t before = Length();
+    QPlainTextEdit::dropEvent(event);
+    const int dropped = text_.Version();
+    NotifyChange();
+    if (event->dropAction() != Qt::MoveAction || event->source() == viewport()) {
+        return;
+    }
+    const bool mayCopy = event->possibleActions().testFlag(Qt::CopyAction);
+    event->setDropAction(mayCopy ? Qt::CopyAction : Qt::IgnoreAction);
+    HandleEvent(errors_, [&] {
+        const Text text = FromMimeData(*event->mimeData());
+        if (text_.Version() == dropped &&
+            Length() - before == static_cast<std::int32_t>(text.size())) {
+            event->setDropAction(Qt::MoveAction);
+        }
+    });
 }
 
 void TextEdit::SetLocked(bool locked) {

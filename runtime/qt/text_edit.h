@@ -2,19 +2,20 @@
 
 #include <QPlainTextEdit>
 #include <cstdint>
-#include <memory>
 #include <optional>
 
 #include "frame/host/text_box.h"
 #include "runtime/qt/boundary.h"
+#include "runtime/qt/document_text.h"
+#include "runtime/qt/undo_steps.h"
 
 class QKeyEvent;
 
 namespace lumenkit::qt {
 
-/// The widget of a text box. It keeps the text separately from Qt's document. The document is
-/// updated when code sets the text. The text is updated when the user edits: every edit, whatever
-/// its source, is read from the change report of the document.
+/// The widget of a text box. The text is in Qt's document. An edit by the user, whatever its
+/// source, is a change of the document that no call of SetContents made; it is notified when the
+/// event ends that led to it.
 ///
 /// Positions are in UTF-16 units of the text; CR LF counts as two.
 class TextEdit final : public QPlainTextEdit {
@@ -25,11 +26,14 @@ class TextEdit final : public QPlainTextEdit {
     /// Stops all notifications.
     void Disconnect() { events_ = nullptr; }
 
-    const Text& Contents() const { return text_; }
-    /// Sets the text, puts the caret before it, clears the undo steps and notifies a change. Does
-    /// nothing if the text is the same.
+    /// Returns a view that is valid until the text changes.
+    TextView Contents() const { return text_.Units(); }
+    /// Sets the text, puts the caret before it and notifies a change. Does nothing if the text is
+    /// the same. The user can undo an assignment that is made while an event of the user is
+    /// notified; after Change, it is a part of the edit that is notified, and an edit that it takes
+    /// back leaves no undo step. Any other assignment clears the undo steps.
     void SetContents(TextView text);
-    std::int32_t Length() const;
+    std::int32_t Length() const { return text_.Length(); }
 
     struct Selection {
         std::int32_t start = 0;
@@ -60,30 +64,45 @@ class TextEdit final : public QPlainTextEdit {
     QMimeData* createMimeDataFromSelection() const override;
     bool canInsertFromMimeData(const QMimeData* source) const override;
     void insertFromMimeData(const QMimeData* source) override;
+    void dropEvent(QDropEvent* event) override;
 
  private:
-    // Conversion between positions in the document and in the text.
-    int ToDocumentPosition(std::int32_t unit) const;
-    std::int32_t ToUnit(int documentPosition) const;
+    // A selection set by code. It can be where the cursor of the document cannot: between CR and
+    // LF. It holds until the text changes or the cursor moves.
+    struct Placed {
+        Selection selection;
+        int version = 0;
+        int moves = 0;
+    };
 
+    // What becomes of the undo steps when code assigns the text.
+    enum class Assigning : std::uint8_t { Forgets, AddsStep, AmendsStep };
+
+    bool IsPlaced() const;
+    bool IsInBreak() const;
+    void Assign(TextView text);
+    void Replace(QTextCursor& cursor, TextView text);
     void FollowDocument(int from, int added);
-    void Follow(int from, int added);
-    void ReadDocument();
     void NotifyChange();
     template <typename Handle>
     bool During(Handle&& handle);
-    template <typename Tell>
-    void TellEvent(Tell&& tell);
+    template <typename Notify>
+    void Tell(Assigning assigning, Notify&& notify);
+    template <typename Notify>
+    void TellEvent(Notify&& notify);
 
     void Press(QKeyEvent& event);
+    void Act(QKeyEvent& event);
     Text Pressed(TextView units);
     void Enter(TextView units, const QKeyEvent& event);
     void Command(char16_t unit, const QKeyEvent& event);
-    void EnterText(TextView units);
+    void EnterText(UndoSteps::Kind kind, TextView units);
     void DeleteBackwards(bool word);
-    void ReplaceSelection(TextView text);
+    void ReplaceSelection(UndoSteps::Kind kind, TextView text);
+    template <typename Change>
+    void Edit(UndoSteps::Kind kind, Change&& change);
     std::size_t Room() const;
-    std::unique_ptr<QMimeData> Copied() const;
+    TextView SelectedUnits() const;
     void CopySelection() const;
     void Insert(const QMimeData& source);
     host::MouseArguments MouseOf(const QMouseEvent& event) const;
@@ -91,18 +110,18 @@ class TextEdit final : public QPlainTextEdit {
 
     host::TextBoxEvents* events_;
     ErrorSink errors_;
-    Text text_;
-    TextView entering_;                 // the text that is being put into the document
-    std::optional<Selection> exactly_;  // the selection set by code, until it changes
-    std::int32_t maxLength_ = 0;
     bool multiLine_;
+    DocumentText text_;
+    UndoSteps steps_;
+    Assigning assigning_ = Assigning::Forgets;
+    int notified_ = 0;  // the version of the text of which the receiver of the events knows
+    int tasks_ = 0;     // the events and assignments in progress, one inside the other
+    int moves_ = 0;     // how often the cursor of the document moved
+    std::optional<Placed> placed_;
+    std::int32_t maxLength_ = 0;
     bool locked_ = false;
-    bool isSetting_ = false;  // the document is being updated from the text
-    bool hasChanged_ = false;
-    bool hasLost_ = false;  // the text could not be updated from the document
     bool hasFocusNow_ = false;
     bool isPressed_ = false;
-    int depth_ = 0;  // number of nested events
 };
 
 }  // namespace lumenkit::qt
