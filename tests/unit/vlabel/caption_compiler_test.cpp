@@ -11,6 +11,7 @@
 #include "frame/utf8.h"
 #include "tests/support/allocation_counter.h"
 #include "tests/support/fake_reporter.h"
+#include "tests/support/repeated.h"
 #include "tests/support/rows.h"
 #include "vlabel/caption_dump.h"
 
@@ -20,6 +21,7 @@ namespace {
 
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
+using testing::Repeated;
 using testing::ReportMessage;
 
 std::vector<Text> Entries(const TextList& list) {
@@ -28,14 +30,6 @@ std::vector<Text> Entries(const TextList& list) {
         entries.emplace_back(list.Item(i));
     }
     return entries;
-}
-
-Text Repeated(TextView text, int count) {
-    Text repeated;
-    for (; count > 0; --count) {
-        repeated += text;
-    }
-    return repeated;
 }
 
 class CaptionCompilerTest : public ::testing::Test {
