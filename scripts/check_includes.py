@@ -43,27 +43,29 @@ ALLOWED = {
     "fuzz": None,
     "samples": None,
 }
-# The diagram: groups of folders by the beginning of their paths, folders that are drawn together with
-# the folders in them, and notes. Folders that may include all others are not drawn.
-GROUPS = {
-    "programs": ["apps", "server"],
-    "control runtimes": ["runtime"],
-    "controls": ["vlabel", "vmemo", "voptlist", "vlabelcaption"],
-}
-DRAWN_WHOLE = ["apps/lumenkit", "apps/lumenform"]
-NOTES = {
-    "apps/lumenkit": "command line",
-    "apps/lumenform": "forms on Qt",
-    "server": "lumenkit.ocx",
-    "runtime/memory": "no windows",
-    "runtime/shared": "common to several runtimes",
-    "runtime/qt": "Qt Widgets",
-    "runtime/ole": "COM",
-    "runtime/win32": "native windows",
-    "runtime/ole/stored": "saved settings",
-    "project": "the class table",
-    "forms": "form files",
-    "frame": "text, numbers, errors, automation, host contract",
+# The folders in the diagram, by group, with a note. Any other folder is drawn as the folder here that
+# contains it, or else by itself, outside the groups. Folders that may include all others are not
+# drawn.
+DIAGRAM = {
+    "programs": {
+        "apps/lumenkit": "command line",
+        "apps/lumenform": "forms on Qt",
+        "server": "lumenkit.ocx",
+    },
+    "control runtimes": {
+        "runtime/memory": "no windows",
+        "runtime/qt": "Qt Widgets",
+        "runtime/ole": "COM",
+        "runtime/win32": "native windows",
+        "runtime/ole/stored": "saved settings",
+        "runtime/shared": "common parts",
+    },
+    "controls": {"vlabel": "", "vmemo": "", "voptlist": "", "vlabelcaption": ""},
+    "": {
+        "project": "the class table",
+        "forms": "form files",
+        "frame": "text, numbers, errors, automation, host contract",
+    },
 }
 DIAGRAM_DOCUMENT = "docs/architecture.md"
 
@@ -144,8 +146,10 @@ def included(root, path):
     return [name for quote, name in found if quote == '"' and folder_of(name)]
 
 
-def unused_permissions(root, paths):
-    """Yields the permissions of the table that no file uses: the diagram would show them."""
+def table_faults(root, paths):
+    """Yields circles of the table and permissions that no file uses: the diagram would show them."""
+    for circle in circles({folder: set(targets or ()) for folder, targets in ALLOWED.items()}):
+        yield f"the table has a circle: {', '.join(circle)}"
     used = {(folder_of(path), folder_of(name)) for path in paths for name in included(root, path)}
     for home, targets in ALLOWED.items():
         for target in targets or ():
@@ -206,12 +210,9 @@ def circle_faults(root, paths):
 
 
 def drawn_as(folder):
-    return next((whole for whole in DRAWN_WHOLE if f"{folder}/".startswith(whole + "/")), folder)
-
-
-def group_of(folder):
-    return next((group for group, starts in GROUPS.items()
-                 if any(f"{folder}/".startswith(start + "/") for start in starts)), None)
+    """Returns the folder of the diagram that stands for a folder of the table."""
+    drawn = [name for group in DIAGRAM.values() for name in group if f"{folder}/".startswith(name + "/")]
+    return max(drawn, key=len, default=folder)
 
 
 def reduced(graph):
@@ -238,25 +239,28 @@ def gathered(graph, members):
 
 def diagram():
     """Returns the diagram of the table in the language of Mermaid."""
-    drawn = [folder for folder, targets in reversed(ALLOWED.items()) if targets is not None]
-    graph = {drawn_as(folder): set() for folder in drawn}
+    graph = {}
     for folder, targets in ALLOWED.items():
-        for target in targets or ():
-            graph[drawn_as(folder)] |= {drawn_as(target)} - {drawn_as(folder)}
-    members = {group: [node for node in graph if group_of(node) == group] for group in GROUPS}
-    ids = {node: node.replace("/", "_") for node in graph}
-    ids |= {group: group.split()[-1] for group in GROUPS}
+        if targets is not None:
+            found = graph.setdefault(drawn_as(folder), set())
+            found |= {drawn_as(target) for target in targets} - {drawn_as(folder)}
+    groups = {group: [node for node in inside if node in graph] for group, inside in DIAGRAM.items()}
+    groups[""] += [node for node in graph if not any(node in inside for inside in groups.values())]
+    notes = {node: note for inside in DIAGRAM.values() for node, note in inside.items()}
+    ids = {name: name.split()[-1].replace("/", "_") for name in (*graph, *groups) if name}
 
     def box(node):
-        note = f" — {NOTES[node]}" if node in NOTES else ""
+        note = f" — {notes[node]}" if notes.get(node) else ""
         return f'{ids[node]}["{node}{note}"]' if ids[node] != node or note else node
 
     lines = ["flowchart TD"]
-    for group, inside in members.items():
-        lines += [f"    subgraph {ids[group]} [{group}]", *(f"        {box(n)}" for n in inside), "    end"]
-    lines += [f"    {box(node)}" for node in graph if group_of(node) is None]
-    order = [*graph, *GROUPS]
-    edges = sorted(gathered(graph, members), key=lambda edge: [order.index(end) for end in edge])
+    for group, inside in groups.items():
+        boxes = [f"    {box(node)}" for node in inside]
+        lines += [f"    subgraph {ids[group]} [{group}]", *("    " + line for line in boxes),
+                  "    end"] if group else boxes
+    order = [*(node for inside in groups.values() for node in inside), *groups]
+    del groups[""]
+    edges = sorted(gathered(graph, groups), key=lambda edge: [order.index(end) for end in edge])
     for home, targets in itertools.groupby(edges, key=lambda edge: edge[0]):
         lines.append(f"    {ids[home]} --> {' & '.join(ids[target] for _, target in targets)}")
     return "\n".join(lines) + "\n"
@@ -276,7 +280,7 @@ def diagram_faults(root):
 def faults(root, paths):
     for path in paths:
         yield from file_faults(root, path)
-    yield from unused_permissions(root, paths)
+    yield from table_faults(root, paths)
     yield from diagram_faults(root)
 
 
@@ -319,7 +323,7 @@ def self_test():
             assert not list(file_faults(root, path)), path
         for path in bad:
             assert list(file_faults(root, path)), path
-        used = set(unused_permissions(root, list(good)))
+        used = set(table_faults(root, list(good)))
         assert "the table lets vlabel include frame, and no file does" not in used, used
         assert "the table lets voptlist include frame, and no file does" in used, used
     circle_self_test()
