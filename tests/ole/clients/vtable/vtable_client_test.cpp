@@ -94,11 +94,7 @@ class VtableClient : public OleTest {
  protected:
     ~VtableClient() override { EXPECT_THAT(boxes_.Errors(), IsEmpty()); }
 
-    // Returns the errors in message boxes, which may still be open when a call returns.
-    std::vector<std::wstring> Errors() {
-        Sleep(50);
-        return boxes_.AwaitErrors();
-    }
+    std::vector<std::wstring> Errors() { return boxes_.Errors(); }
 
     BoxCloser boxes_;
 };
