@@ -6,7 +6,8 @@
 A folder may include its own headers, the folders that the table lists for it and the standard
 library. The table lists no folder that is not included. Other libraries and the Windows headers are
 allowed only in the folders listed for them. A source file includes the header of the same name
-first, which shows that the header compiles alone. A header contains #pragma once.
+first, which shows that the header compiles alone. A header contains #pragma once. No components
+include each other in a circle; a header and the sources that implement it are one component.
 
 The diagram in docs/architecture.md is drawn from the table. --diagram prints it, --write-diagram
 puts it into the document. --self-test proves that the checks can fail.
@@ -281,6 +282,7 @@ def faults(root, paths):
     for path in paths:
         yield from file_faults(root, path)
     yield from table_faults(root, paths)
+    yield from circle_faults(root, paths)
     yield from diagram_faults(root)
 
 
