@@ -15,6 +15,7 @@
 #include "frame/host/application.h"
 #include "frame/host/interaction.h"
 #include "frame/utf8.h"
+#include "tests/support/repeated.h"
 #include "vlabel/caption_compiler.h"
 
 namespace {
@@ -31,6 +32,7 @@ using lumenkit::bench::PlainTexts;
 using lumenkit::bench::Ratio;
 using lumenkit::bench::Side;
 using lumenkit::bench::Texts;
+using lumenkit::testing::Repeated;
 
 // Stops the program at the first message: an error would distort the figures.
 class NoHost final : public lumenkit::host::Application, public lumenkit::host::Interaction {
@@ -92,14 +94,6 @@ Side Pango(std::vector<Marked> texts) {
                 }
             },
             captionCount};
-}
-
-Text Repeated(TextView text, int count) {
-    Text repeated;
-    for (; count > 0; --count) {
-        repeated += text;
-    }
-    return repeated;
 }
 
 // Captions with one unterminated command, which the end of the caption closes, of nearly the

@@ -3,12 +3,11 @@
 // again. All rows but the parsing include the work of the memory runtime, which finds a button
 // among n in log n steps.
 #include <array>
-#include <functional>
 #include <memory>
 #include <utility>
 
+#include "bench/choices.h"
 #include "bench/ratio_table.h"
-#include "frame/numbers.h"
 #include "runtime/memory/form.h"
 #include "runtime/memory/hosted_control.h"
 #include "voptlist/contents.h"
@@ -21,24 +20,16 @@ using lumenkit::Text;
 using lumenkit::TextView;
 using lumenkit::VOptList;
 using lumenkit::bench::AddComparison;
+using lumenkit::bench::Choices;
 using lumenkit::bench::Ratio;
+using lumenkit::bench::RepeatedForMany;
 using lumenkit::bench::Side;
 namespace memory = lumenkit::memory;
 
 constexpr int few = 10;
-constexpr int many = 1'000;
+constexpr int many = lumenkit::bench::manyChoices;
 
 const ClassTable classes = {.libraryName = u"lumenkit", .classes = {&lumenkit::voptlistClass, 1}};
-
-// "k0;Choice 0|k1;Choice 1 ...", about 16 units per item.
-Text Contents(int items, TextView caption = u"Choice ") {
-    Text contents;
-    for (int item = 0; item < items; ++item) {
-        contents += u"|k" + lumenkit::Decimal(item) + u";";
-        contents.append(caption) += lumenkit::Decimal(item);
-    }
-    return contents.substr(1);
-}
 
 class PlacedList {
  public:
@@ -53,18 +44,8 @@ class PlacedList {
     memory::HostedControl placed_{form_, lumenkit::voptlistClass, {.isLogged = false}};
 };
 
-// Repeats short lists until a round has handled `many` items.
-Side Repeated(int items, std::function<void()> once) {
-    return {[once = std::move(once), items] {
-                for (int done = 0; done < many; done += items) {
-                    once();
-                }
-            },
-            many};
-}
-
 Side Parsing(int items) {
-    return Repeated(items, [contents = Contents(items)] {
+    return RepeatedForMany(items, [contents = Choices(items)] {
         lumenkit::ContentsWalk walk(contents);
         while (const auto item = walk.Next()) {
             lumenkit::bench::Keep(item->caption.data());
@@ -81,7 +62,7 @@ Side Alternating(int items, Text first, Text second) {
     };
     const auto lists = std::make_shared<Lists>();
     lists->contents = {std::move(first), std::move(second)};
-    return Repeated(items, [lists] {
+    return RepeatedForMany(items, [lists] {
         lists->list.Assign(lists->contents[lists->next]);
         lists->next = 1 - lists->next;
     });
@@ -89,12 +70,12 @@ Side Alternating(int items, Text first, Text second) {
 
 // Each assignment changes every caption.
 Side SettingUp(int items) {
-    return Alternating(items, Contents(items), Contents(items, u"Option "));
+    return Alternating(items, Choices(items), Choices(items, u"Option "));
 }
 
 // Each assignment changes the text of one item, in the middle.
 Side ChangingOne(int items) {
-    const Text contents = Contents(items);
+    const Text contents = Choices(items);
     Text changed = contents;
     changed[changed.find(u"Choice", changed.size() / 2)] = u'_';
     return Alternating(items, contents, changed);
@@ -102,7 +83,7 @@ Side ChangingOne(int items) {
 
 // Creates a control, gives it these items and destroys it.
 Side MakingAnew(int items) {
-    return Repeated(items, [contents = Contents(items)] { PlacedList().Assign(contents); });
+    return RepeatedForMany(items, [contents = Choices(items)] { PlacedList().Assign(contents); });
 }
 
 }  // namespace

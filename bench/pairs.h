@@ -2,19 +2,9 @@
 
 #include <vector>
 
-#include "bench/ratio_table.h"
+#include "bench/comparison.h"
 
 namespace lumenkit::bench {
-
-/// The result of a comparison: medians, and the quartiles of the ratio. Times are in seconds per
-/// unit.
-struct Outcome {
-    double ours = 0;
-    double other = 0;
-    double ratio = 0;
-    double low = 0;
-    double high = 0;
-};
 
 /// Measures both sides of a comparison in turn. The comparison must outlive this object.
 class Pairs {

@@ -4,56 +4,35 @@
 #include <QGroupBox>
 #include <QRadioButton>
 #include <array>
-#include <functional>
 #include <memory>
-#include <utility>
 
+#include "bench/choices.h"
 #include "bench/qt_stage.h"
 #include "bench/ratio_table.h"
-#include "frame/numbers.h"
 #include "runtime/memory/property_bag.h"
 
 namespace {
 
 using lumenkit::Text;
 using lumenkit::bench::AddComparison;
+using lumenkit::bench::Choice;
+using lumenkit::bench::Choices;
 using lumenkit::bench::QtStage;
 using lumenkit::bench::Ratio;
+using lumenkit::bench::RepeatedForMany;
 using lumenkit::bench::Side;
 using lumenkit::bench::StageWindow;
 namespace host = lumenkit::host;
 
 constexpr int few = 100;
-constexpr int many = 1'000;
+constexpr int many = lumenkit::bench::manyChoices;
 constexpr host::Placement place = {.left = 0, .top = 0, .width = 6000, .height = 9000};
-
-Text Caption(int item) {
-    return u"Choice " + lumenkit::Decimal(item);
-}
-
-Text Contents(int items) {
-    Text contents;
-    for (int item = 0; item < items; ++item) {
-        contents += u"|k" + lumenkit::Decimal(item) + u";" + Caption(item);
-    }
-    return contents.substr(1);
-}
-
-// Repeats short lists until a round has made `many` items.
-Side Repeated(int items, std::function<void()> once) {
-    return {[once = std::move(once), items] {
-                for (int done = 0; done < many; done += items) {
-                    once();
-                }
-            },
-            many};
-}
 
 // Creates the list from saved properties, as a form does.
 Side Making(QtStage& stage, int items) {
     auto saved = std::make_shared<lumenkit::memory::PropertyBag>();
-    saved->Store(u"Contents", Contents(items));
-    return Repeated(items, [&stage, saved, window = std::make_shared<StageWindow>()] {
+    saved->Store(u"Contents", Choices(items));
+    return RepeatedForMany(items, [&stage, saved, window = std::make_shared<StageWindow>()] {
         const auto list = stage.Place(u"VOptList", place, *window, saved.get());
         window->ShowNow();
     });
@@ -66,7 +45,7 @@ void MakeBare(StageWindow& window, int items) {
     QGroupBox box(&window);
     box.setGeometry(0, 0, 400, 600);
     for (int item = 0; item < items; ++item) {
-        auto* button = new QRadioButton(QString::fromStdU16String(Caption(item)), &box);
+        auto* button = new QRadioButton(QString::fromStdU16String(Choice(item)), &box);
         button->setGeometry(0, item * height, width, height);
     }
     box.show();
@@ -74,7 +53,7 @@ void MakeBare(StageWindow& window, int items) {
 }
 
 Side MakingBare(int items) {
-    return Repeated(
+    return RepeatedForMany(
         items, [items, window = std::make_shared<StageWindow>()] { MakeBare(*window, items); });
 }
 
@@ -88,10 +67,10 @@ Side ChangingOne(QtStage& stage, int items) {
     };
     auto list = std::make_shared<List>();
     list->control = stage.Place(u"VOptList", place, list->window);
-    list->contents.fill(Contents(items));
+    list->contents.fill(Choices(items));
     Text& changed = list->contents[1];
     changed[changed.find(u"Choice", changed.size() / 2)] = u'_';
-    return Repeated(items, [list] {
+    return RepeatedForMany(items, [list] {
         list->control->Automation().Let(u"Contents", list->contents[list->next]);
         list->next = 1 - list->next;
         QApplication::processEvents();

@@ -1,8 +1,7 @@
 // Prints the rows of the table in Markdown.
 #pragma once
 
-#include "bench/pairs.h"
-#include "bench/ratio_table.h"
+#include "bench/comparison.h"
 
 namespace lumenkit::bench {
 

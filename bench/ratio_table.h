@@ -5,33 +5,9 @@
 // of a program end in one table, in Markdown.
 #pragma once
 
-#include <functional>
-#include <string>
+#include "bench/comparison.h"
 
 namespace lumenkit::bench {
-
-/// One side of a ratio. A round is the shortest work worth timing, such as one pass over all
-/// captions. `units` is the number of units (calls or text units) in a round.
-struct Side {
-    std::function<void()> round;
-    double units = 1;
-    std::function<void()> prepare = {};  ///< runs before each batch of rounds; is not timed
-};
-
-enum class Ratio {
-    TimesFaster,  ///< other / ours
-    TimesSlower,  ///< ours / other
-};
-
-/// One row of the table: what, ours, other, ratio, spread and aim. Times are per unit.
-struct Comparison {
-    std::string what;
-    std::string unit;
-    Side ours;
-    Side other;
-    Ratio ratio;
-    std::string aim;
-};
 
 /// Registers `comparison` as a benchmark.
 void AddComparison(Comparison comparison);

@@ -1,15 +1,13 @@
 // Benchmarks of creating an option list on Windows from saved properties and destroying it, against
 // the same number of radio buttons in a group box without a control around them.
 #include <array>
-#include <functional>
 #include <memory>
 #include <string>
-#include <utility>
 #include <vector>
 
+#include "bench/choices.h"
 #include "bench/ratio_table.h"
 #include "bench/require.h"
-#include "frame/numbers.h"
 #include "project/lumenkit_classes.h"
 #include "runtime/memory/property_bag.h"
 #include "runtime/win32/font_cache.h"
@@ -19,9 +17,11 @@
 
 namespace {
 
-using lumenkit::Text;
 using lumenkit::bench::AddComparison;
+using lumenkit::bench::Choice;
+using lumenkit::bench::Choices;
 using lumenkit::bench::Ratio;
+using lumenkit::bench::RepeatedForMany;
 using lumenkit::bench::Require;
 using lumenkit::bench::Side;
 using lumenkit::testing::FormControl;
@@ -30,44 +30,21 @@ namespace memory = lumenkit::memory;
 namespace win32 = lumenkit::win32;
 
 constexpr int few = 100;
-constexpr int many = 1'000;
+constexpr int many = lumenkit::bench::manyChoices;
 constexpr SIZE size = {400, 440};
 
 // Whether a round only creates the windows or also paints them.
 enum class Until { Made, Shown };
-
-Text Caption(int item) {
-    return u"Choice " + lumenkit::Decimal(item);
-}
-
-Text Contents(int items) {
-    Text contents;
-    for (int item = 0; item < items; ++item) {
-        contents += u"|k" + lumenkit::Decimal(item) + u";" + Caption(item);
-    }
-    return contents.substr(1);
-}
 
 void ShowNow(HWND window) {
     RedrawWindow(window, nullptr, nullptr, RDW_ALLCHILDREN | RDW_UPDATENOW);
     WindowsForm::Pump();
 }
 
-// Repeats short lists until a round has made `many` items.
-Side Repeated(int items, std::function<void()> once) {
-    return {.round =
-                [once = std::move(once), items] {
-                    for (int done = 0; done < many; done += items) {
-                        once();
-                    }
-                },
-            .units = many};
-}
-
 Side Making(WindowsForm& form, int items, Until until) {
     auto saved = std::make_shared<memory::PropertyBag>();
-    saved->Store(u"Contents", Contents(items));
-    return Repeated(items, [&form, saved, until] {
+    saved->Store(u"Contents", Choices(items));
+    return RepeatedForMany(items, [&form, saved, until] {
         FormControl list(form, *lumenkit::lumenkitClasses.Find(u"lumenkit.VOptList"), size);
         if (until == Until::Made) {
             list.Hosted().StartSaved(*saved);
@@ -164,11 +141,11 @@ class BareList {
 ListPlan PlanOfItems(WindowsForm& form, int items) {
     FormControl list(form, *lumenkit::lumenkitClasses.Find(u"lumenkit.VOptList"), size);
     memory::PropertyBag saved;
-    saved.Store(u"Contents", Contents(items));
+    saved.Store(u"Contents", Choices(items));
     list.Start(&saved);
     ListPlan plan = PlanOfList(GetWindow(list.Hosted().Handle(), GW_CHILD));
     Require(plan.buttons.size() == static_cast<std::size_t>(items) &&
-                plan.buttons.back().text == win32::ToWide(Caption(items - 1)),
+                plan.buttons.back().text == win32::ToWide(Choice(items - 1)),
             "the list has other items");
     const BareList bare(form.Window(), plan);
     bare.Show();
@@ -177,7 +154,7 @@ ListPlan PlanOfItems(WindowsForm& form, int items) {
 }
 
 Side MakingBare(WindowsForm& form, int items, Until until) {
-    return Repeated(items, [&form, plan = PlanOfItems(form, items), until] {
+    return RepeatedForMany(items, [&form, plan = PlanOfItems(form, items), until] {
         const BareList list(form.Window(), plan);
         if (until == Until::Shown) {
             list.Show();

@@ -1,11 +1,18 @@
 #!/usr/bin/env python3
 """Checks the include rule: a folder includes only the folders that it may depend on.
 
+    scripts/check_includes.py [--diagram | --write-diagram | --self-test]
+
 A folder may include its own headers, the folders that the table lists for it and the standard
-library. Other libraries and the Windows headers are allowed only in the folders listed for them. A
-source file includes the header of the same name first, which shows that the header compiles alone.
-A header contains #pragma once. --self-test proves that the check can fail.
+library. The table lists no folder that is not included. Other libraries and the Windows headers are
+allowed only in the folders listed for them. A source file includes the header of the same name
+first, which shows that the header compiles alone. A header contains #pragma once. No components
+include each other in a circle; a header and the sources that implement it are one component.
+
+The diagram in docs/architecture.md is drawn from the table. --diagram prints it, --write-diagram
+puts it into the document. --self-test proves that the checks can fail.
 """
+import itertools
 import re
 import subprocess
 import sys
@@ -46,7 +53,7 @@ ALLOWED = {
     "apps/lumenkit": ["frame", "vlabel", "forms", "project", "apps/command_line",
                       "apps/lumenkit/check", "apps/lumenkit/drive"],
     "apps/lumenform/form_view": ["frame", "forms", "runtime/qt"],
-    "apps/lumenform/run": ["frame", "forms", "runtime/qt", "apps/lumenform/form_view"],
+    "apps/lumenform/run": ["forms", "runtime/qt", "apps/lumenform/form_view"],
     "apps/lumenform/design/model": ["frame", "forms", "runtime/qt", "apps/lumenform/form_view"],
     "apps/lumenform/design/canvas": ["frame", "forms", "runtime/qt", "apps/lumenform/form_view",
                                      "apps/lumenform/design/model"],
@@ -56,7 +63,7 @@ ALLOWED = {
                                      "apps/lumenform/run", "apps/lumenform/design/model",
                                      "apps/lumenform/design/canvas",
                                      "apps/lumenform/design/properties"],
-    "apps/lumenform": ["frame", "forms", "project", "runtime/qt", "apps/command_line",
+    "apps/lumenform": ["forms", "project", "runtime/qt", "apps/command_line",
                        "apps/lumenform/form_view", "apps/lumenform/run",
                        "apps/lumenform/design/model", "apps/lumenform/design/properties",
                        "apps/lumenform/design/window"],
@@ -66,6 +73,33 @@ ALLOWED = {
     "fuzz": None,
     "samples": None,
 }
+# The folders in the diagram, by group, with a note. Any other folder is drawn as the folder here that
+# contains it, or else by itself, outside the groups. Folders that may include all others are not
+# drawn.
+DIAGRAM = {
+    "programs": {
+        "apps/lumenkit": "command line",
+        "apps/lumenform": "forms on Qt",
+        "apps/command_line": "common to both",
+        "server": "lumenkit.ocx",
+    },
+    "control runtimes": {
+        "runtime/memory": "no windows",
+        "runtime/qt": "Qt Widgets",
+        "runtime/ole": "COM",
+        "runtime/win32": "native windows",
+        "runtime/ole/stored": "saved settings",
+        "runtime/shared": "common parts",
+    },
+    "controls": {"vlabel": "", "vmemo": "", "voptlist": "", "vlabelcaption": ""},
+    "": {
+        "project": "the class table",
+        "forms": "form files",
+        "frame": "text, numbers, errors, automation, host contract",
+    },
+}
+DIAGRAM_DOCUMENT = "docs/architecture.md"
+
 # Folders that may use the headers of a platform or of another library.
 COM_FOLDERS = [folder for folder in ALLOWED if folder.startswith("runtime/ole") and folder != "runtime/ole/stored"]
 OTHER_LIBRARIES = ["runtime/win32", "runtime/qt", *COM_FOLDERS, "server", "tests", "bench", "fuzz", "samples"]
@@ -112,7 +146,7 @@ def fault(path, quoted, name):
         return None
     if WINDOWS_HEADERS.match(name) and home not in WINDOWS_FOLDERS:
         return f"{home} may not include Windows headers"
-    if home not in OTHER_LIBRARIES:
+    if not {home, home.split("/")[0]} & set(OTHER_LIBRARIES):
         return f"{home} may include the standard library only"
     return None
 
@@ -128,16 +162,160 @@ def shape_fault(root, path, text):
     return None if first and first[2] == header else f"does not include {header} first"
 
 
+def file_faults(root, path):
+    text = (root / path).read_text(encoding="utf-8")
+    for quote, name in INCLUDE.findall(text):
+        wrong = fault(path, quote == '"', name)
+        if wrong:
+            yield f"{path}: {name}: {wrong}"
+    wrong = shape_fault(root, path, text)
+    if wrong:
+        yield f"{path}: {wrong}"
+
+
+def included(root, path):
+    """Returns the headers of the project that a file includes."""
+    found = INCLUDE.findall((root / path).read_text(encoding="utf-8"))
+    return [name for quote, name in found if quote == '"' and folder_of(name)]
+
+
+def table_faults(root, paths):
+    """Yields circles of the table and permissions that no file uses: the diagram would show them."""
+    for circle in circles({folder: set(targets or ()) for folder, targets in ALLOWED.items()}):
+        yield f"the table has a circle: {', '.join(circle)}"
+    used = {(folder_of(path), folder_of(name)) for path in paths for name in included(root, path)}
+    for home, targets in ALLOWED.items():
+        for target in targets or ():
+            if (home, target) not in used:
+                yield f"the table lets {home} include {target}, and no file does"
+
+
+def component_of(path, headers):
+    """Returns the component of a file: the header that it implements, without its suffix.
+
+    A source without a header of its own belongs to the header whose name begins its name:
+    voptlist_layout.cpp implements a part of voptlist.h.
+    """
+    stem = path.rsplit(".", 1)[0]
+    part = stem
+    while part + ".h" not in headers:
+        part, cut, _ = part.rpartition("_")
+        if not cut or part.endswith("/"):
+            return stem
+    return part
+
+
+def circles(components):
+    """Yields the groups of components that include each other, each group sorted."""
+    reach = closure(components)
+    met = set()
+    for name in sorted(components):
+        if name in reach[name] and name not in met:
+            circle = sorted(other for other in reach[name] if name in reach[other])
+            met.update(circle)
+            yield circle
+
+
+def closure(graph):
+    """Returns for each node the nodes that its edges lead to, directly or through others."""
+    def reached(node):
+        found, waiting = set(), list(graph.get(node, ()))
+        while waiting:
+            target = waiting.pop()
+            if target not in found:
+                found.add(target)
+                waiting.extend(graph.get(target, ()))
+        return found
+    return {node: reached(node) for node in graph}
+
+
+def circle_faults(root, paths):
+    headers = {path for path in paths if path.endswith(".h")}
+    components = {component_of(path, headers): set() for path in paths}
+    for path in paths:
+        home = component_of(path, headers)
+        targets = {component_of(name, headers) for name in included(root, path) if name in headers}
+        components[home] |= targets - {home}
+    for circle in circles(components):
+        inside = {name: sorted(components[name] & set(circle)) for name in circle}
+        yield "these include each other:" + "".join(
+            f"\n  {name} -> {', '.join(targets)}" for name, targets in inside.items())
+
+
+def drawn_as(folder):
+    """Returns the folder of the diagram that stands for a folder of the table."""
+    drawn = [name for group in DIAGRAM.values() for name in group if f"{folder}/".startswith(name + "/")]
+    return max(drawn, key=len, default=folder)
+
+
+def reduced(graph):
+    """Returns the graph without the edges that a way through other nodes replaces."""
+    reach = closure(graph)
+    return {node: {target for target in targets
+                   if not any(target in reach[other] for other in targets - {target})}
+            for node, targets in graph.items()}
+
+
+def gathered(graph, members):
+    """Returns the edges of the reduced graph, with one edge of a group for those of all its members."""
+    reach, edges = closure(graph), {(a, b) for a, targets in reduced(graph).items() for b in targets}
+    for group, inside in members.items():
+        for node in set(graph) - set(inside):
+            to_node = {(member, node) for member in inside} & edges
+            if len(to_node) > 1 and all(node in reach[member] for member in inside):
+                edges = edges - to_node | {(group, node)}
+            from_node = {(node, member) for member in inside}
+            if len(from_node) > 1 and from_node <= edges:
+                edges = edges - from_node | {(node, group)}
+    return edges
+
+
+def diagram():
+    """Returns the diagram of the table in the language of Mermaid."""
+    graph = {}
+    for folder, targets in ALLOWED.items():
+        if targets is not None:
+            found = graph.setdefault(drawn_as(folder), set())
+            found |= {drawn_as(target) for target in targets} - {drawn_as(folder)}
+    groups = {group: [node for node in inside if node in graph] for group, inside in DIAGRAM.items()}
+    groups[""] += [node for node in graph if not any(node in inside for inside in groups.values())]
+    notes = {node: note for inside in DIAGRAM.values() for node, note in inside.items()}
+    ids = {name: name.split()[-1].replace("/", "_") for name in (*graph, *groups) if name}
+
+    def box(node):
+        note = f" — {notes[node]}" if notes.get(node) else ""
+        return f'{ids[node]}["{node}{note}"]' if ids[node] != node or note else node
+
+    lines = ["flowchart TD"]
+    for group, inside in groups.items():
+        boxes = [f"    {box(node)}" for node in inside]
+        lines += [f"    subgraph {ids[group]} [{group}]", *("    " + line for line in boxes),
+                  "    end"] if group else boxes
+    order = [*(node for inside in groups.values() for node in inside), *groups]
+    del groups[""]
+    edges = sorted(gathered(graph, groups), key=lambda edge: [order.index(end) for end in edge])
+    for home, targets in itertools.groupby(edges, key=lambda edge: edge[0]):
+        lines.append(f"    {ids[home]} --> {' & '.join(ids[target] for _, target in targets)}")
+    return "\n".join(lines) + "\n"
+
+
+def with_diagram(text):
+    """Returns a document with the present diagram in place of the one that it has."""
+    return re.sub(r"(?<=^```mermaid\n).*?(?=^```$)", lambda _: diagram(), text, count=1, flags=re.M | re.S)
+
+
+def diagram_faults(root):
+    text = (root / DIAGRAM_DOCUMENT).read_text(encoding="utf-8")
+    if diagram() not in text:
+        yield f"{DIAGRAM_DOCUMENT}: the diagram differs from the table; run scripts/check_includes.py --write-diagram"
+
+
 def faults(root, paths):
     for path in paths:
-        text = (root / path).read_text(encoding="utf-8")
-        for quote, name in INCLUDE.findall(text):
-            wrong = fault(path, quote == '"', name)
-            if wrong:
-                yield f"{path}: {name}: {wrong}"
-        wrong = shape_fault(root, path, text)
-        if wrong:
-            yield f"{path}: {wrong}"
+        yield from file_faults(root, path)
+    yield from table_faults(root, paths)
+    yield from circle_faults(root, paths)
+    yield from diagram_faults(root)
 
 
 def sources(root):
@@ -176,21 +354,73 @@ def self_test():
     }
     with tempfile.TemporaryDirectory() as folder:
         root = Path(folder)
-        for path, text in {**good, **bad}.items():
-            (root / path).parent.mkdir(parents=True, exist_ok=True)
-            (root / path).write_text(text, encoding="utf-8")
+        write_files(root, {**good, **bad})
         for path in good:
-            assert not list(faults(root, [path])), path
+            assert not list(file_faults(root, path)), path
         for path in bad:
-            assert list(faults(root, [path])), path
+            assert list(file_faults(root, path)), path
+        used = set(table_faults(root, list(good)))
+        assert "the table lets vlabel include frame, and no file does" not in used, used
+        assert "the table lets voptlist include frame, and no file does" in used, used
+    circle_self_test()
+    diagram_self_test()
     print("include rule: the check tells good from bad")
 
 
+def write_files(root, files):
+    for path, text in files.items():
+        (root / path).parent.mkdir(parents=True, exist_ok=True)
+        (root / path).write_text(text, encoding="utf-8")
+
+
+def circle_self_test():
+    straight = {
+        "frame/a.h": "",
+        "frame/a.cpp": '#include "frame/a.h"\n#include "frame/b.h"\n',
+        "frame/b.h": '#include "frame/c.h"\n',
+        "frame/b.cpp": '#include "frame/b.h"\n#include "frame/c.h"\n',
+        "frame/c.h": "",
+        "frame/main.cpp": '#include "frame/a.h"\n#include "frame/c.h"\n',
+    }
+    closing = {
+        "through headers": {"frame/c.h": '#include "frame/b.h"\n'},
+        "through a header and a source": {"frame/c.cpp": '#include "frame/c.h"\n#include "frame/a.h"\n'},
+        "through one of several sources": {"frame/c_more.cpp": '#include "frame/a.h"\n'},
+    }
+    for what, files in {"": {}, **closing}.items():
+        with tempfile.TemporaryDirectory() as folder:
+            root = Path(folder)
+            write_files(root, {**straight, **files})
+            found = list(circle_faults(root, sorted({**straight, **files})))
+            assert len(found) == (1 if files else 0), (what, found)
+
+
+def diagram_self_test():
+    graph = {"p": {"a", "b", "x"}, "a": {"x"}, "b": {"a", "x"}, "c": {"x"}, "x": set()}
+    assert reduced(graph) == {"p": {"b"}, "a": {"x"}, "b": {"a"}, "c": {"x"}, "x": set()}
+    assert gathered(graph, {"g": ["a", "b", "c"]}) == {("p", "b"), ("b", "a"), ("g", "x")}
+    assert gathered({**graph, "p": {"a", "c"}}, {"g": ["a", "c"]}) >= {("p", "g"), ("g", "x")}
+    document = "# A\n```mermaid\nflowchart TD\n```\nB\n```\n```\n"
+    with tempfile.TemporaryDirectory() as folder:
+        root = Path(folder)
+        write_files(root, {DIAGRAM_DOCUMENT: document})
+        assert list(diagram_faults(root))
+        write_files(root, {DIAGRAM_DOCUMENT: with_diagram(document)})
+        assert not list(diagram_faults(root))
+
+
 def main():
+    root = Path(__file__).resolve().parent.parent
     if sys.argv[1:] == ["--self-test"]:
         self_test()
         return 0
-    root = Path(__file__).resolve().parent.parent
+    if sys.argv[1:] == ["--diagram"]:
+        print(diagram(), end="")
+        return 0
+    if sys.argv[1:] == ["--write-diagram"]:
+        document = root / DIAGRAM_DOCUMENT
+        document.write_text(with_diagram(document.read_text(encoding="utf-8")), encoding="utf-8")
+        return 0
     paths = sources(root)
     found = list(faults(root, paths))
     for line in found:

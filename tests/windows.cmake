@@ -3,11 +3,10 @@
 add_subdirectory(ole)
 add_subdirectory(support EXCLUDE_FROM_ALL)
 add_subdirectory(unit/frame)
-foreach(folder unit/win32 contract ole/container unit/ole)
-    if(EXISTS "${CMAKE_CURRENT_SOURCE_DIR}/${folder}/CMakeLists.txt")
-        add_subdirectory(${folder})
-    endif()
-endforeach()
+add_subdirectory(unit/win32)
+add_subdirectory(contract)
+add_subdirectory(ole/container)
+add_subdirectory(unit/ole)
 lumenkit_test(caption_model_test OPTIMISED
     SOURCES
         model/caption_comparison.cpp

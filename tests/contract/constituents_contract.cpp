@@ -49,7 +49,7 @@ TEST_P(ConstituentsContract, AFrameKeepsItsProperties) {
     EXPECT_NEAR(frame_->Place().height, 600, Pixel());
 }
 
-TEST_P(ConstituentsContract, ADesignIsFollowed) {
+TEST_P(ConstituentsContract, AConstituentStartsAsDesigned) {
     const auto label = Parts().AddLabel({{.name = u"L",
                                           .parent = frame_.get(),
                                           .placement = {.left = 150, .width = 600, .height = 300},
@@ -104,7 +104,7 @@ TEST_P(ConstituentsContract, ACheckBoxNotifiesAChangedValue) {
     EXPECT_EQ(box->CheckState(), 0);
 }
 
-TEST_P(ConstituentsContract, ACommandButtonIsClicked) {
+TEST_P(ConstituentsContract, ACommandButtonNotifiesClicksWhileItIsVisibleAndEnabled) {
     const auto button = Parts().AddCommandButton(
         {{.name = u"B", .placement = {.width = 900, .height = 300}}, u"press"}, clicks_);
     EXPECT_EQ(button->Caption(), u"press");
@@ -118,7 +118,7 @@ TEST_P(ConstituentsContract, ACommandButtonIsClicked) {
     EXPECT_EQ(clicks_.clicks, 1);
 }
 
-TEST_P(ConstituentsContract, APictureBoxHasAnInside) {
+TEST_P(ConstituentsContract, TheInsideOfAPictureBoxIsNotLargerThanTheBox) {
     const auto box =
         Parts().AddPictureBox({.name = u"P", .placement = {.width = 1500, .height = 900}});
     EXPECT_GT(box->ScaleWidth(), 1200);
@@ -179,7 +179,7 @@ class OptionButtonsContract : public ConstituentsContract {
 INSTANTIATE_TEST_SUITE_P(Runtime, OptionButtonsContract, ::testing::Values(RuntimeUnderTest()),
                          ::testing::PrintToStringParamName());
 
-TEST_P(OptionButtonsContract, ElementZeroIsThereFromTheStart) {
+TEST_P(OptionButtonsContract, ElementZeroExistsFromTheStart) {
     EXPECT_EQ(options_->Item(0).Caption(), u"Item 0");
     EXPECT_EQ(options_->Item(0).Tag(), u"");
     EXPECT_TRUE(options_->Item(0).Visible());
@@ -214,7 +214,7 @@ TEST_P(OptionButtonsContract, SelectingClearsTheOthersThenNotifies) {
     EXPECT_EQ(recorder_.clicked, (std::vector<std::int16_t>{1, 2}));
 }
 
-TEST_P(OptionButtonsContract, WhatChangesNothingAndDeselectingNotifyNothing) {
+TEST_P(OptionButtonsContract, SelectingAgainAndDeselectingNotifyNothing) {
     options_->Item(1).Select(true);
     recorder_.clicked.clear();
     options_->Item(1).Select(true);
@@ -231,7 +231,7 @@ TEST_P(OptionButtonsContract, HiddenElementsBelongToTheGroup) {
     EXPECT_EQ(Marks(), (std::vector<bool>{true, false, false}));
 }
 
-TEST_P(OptionButtonsContract, TheUserSelectsToo) {
+TEST_P(OptionButtonsContract, TheUserSelectsElementsThatAreVisibleInAnEnabledParent) {
     runtime_->Click(options_->Item(1));
     EXPECT_EQ(Marks(), (std::vector<bool>{false, true, false}));
     EXPECT_EQ(recorder_.clicked, std::vector<std::int16_t>{1});
@@ -242,7 +242,7 @@ TEST_P(OptionButtonsContract, TheUserSelectsToo) {
     EXPECT_EQ(Marks(), (std::vector<bool>{false, true, false}));
 }
 
-TEST_P(OptionButtonsContract, KeepTheirProperties) {
+TEST_P(OptionButtonsContract, AnElementKeepsItsProperties) {
     host::OptionButton& button = options_->Item(2);
     button.SetCaption(u"Caption");
     button.SetTag(u"a tag");
@@ -258,7 +258,7 @@ TEST_P(OptionButtonsContract, KeepTheirProperties) {
     }
 }
 
-TEST_P(ConstituentsContract, AControlIsEmbeddedAsANewlyPlacedOne) {
+TEST_P(ConstituentsContract, AnEmbeddedControlStartsAsANewOne) {
     ProbeControl& outer = Probe();
     outer.Take();
     const auto embedded = Parts().AddControl(

@@ -7,7 +7,7 @@ class FontContract : public ContractTest {};
 INSTANTIATE_TEST_SUITE_P(Runtime, FontContract, ::testing::Values(RuntimeUnderTest()),
                          ::testing::PrintToStringParamName());
 
-TEST_P(FontContract, KeepsItsAttributes) {
+TEST_P(FontContract, AFontKeepsItsAttributes) {
     const host::FontRef font = runtime_->NewFont(u"Arial", 12);
     EXPECT_EQ(font->Name(), u"Arial");
     EXPECT_EQ(font->Size(), 12);
@@ -25,7 +25,7 @@ TEST_P(FontContract, KeepsItsAttributes) {
     EXPECT_TRUE(font->Strikethrough());
 }
 
-TEST_P(FontContract, BoldAndWeightAreOne) {
+TEST_P(FontContract, BoldIsWeight700) {
     const host::FontRef font = runtime_->NewFont(u"Arial", 12);
     font->SetBold(true);
     EXPECT_EQ(font->Weight(), 700);
@@ -37,7 +37,7 @@ TEST_P(FontContract, BoldAndWeightAreOne) {
     EXPECT_EQ(font->Weight(), 400);
 }
 
-TEST_P(FontContract, RefusesSizesNotAboveZeroAndTooLarge) {
+TEST_P(FontContract, AFontRefusesSizesOfZeroBelowZeroAndTooLarge) {
     const host::FontRef font = runtime_->NewFont(u"Arial", 12);
     for (const float size : {0.0F, -8.0F, 1e9F}) {
         EXPECT_TRUE(Raises(ErrorNumber::InvalidPropertyValue, [&] { font->SetSize(size); }))
@@ -46,7 +46,7 @@ TEST_P(FontContract, RefusesSizesNotAboveZeroAndTooLarge) {
     EXPECT_EQ(font->Size(), 12);
 }
 
-TEST_P(FontContract, AnswersLateBoundCalls) {
+TEST_P(FontContract, AFontAnswersLateBoundCalls) {
     const host::FontRef font = runtime_->NewFont(u"Arial", 12);
     EXPECT_EQ(font->Get(u"name"), Value(Text(u"Arial")));
     font->Let(2, std::int16_t{14});
@@ -56,7 +56,7 @@ TEST_P(FontContract, AnswersLateBoundCalls) {
     EXPECT_TRUE(Raises(ErrorNumber::NoSuchMember, [&] { font->Get(u"Colour"); }));
 }
 
-TEST_P(FontContract, IsTheSameWhenAllAttributesAre) {
+TEST_P(FontContract, TwoFontsAreTheSameWhenAllAttributesAre) {
     const host::FontRef one = runtime_->NewFont(u"Arial", 12);
     const host::FontRef other = runtime_->NewFont(u"Arial", 12);
     EXPECT_TRUE(one->IsSame(*other));
@@ -64,7 +64,7 @@ TEST_P(FontContract, IsTheSameWhenAllAttributesAre) {
     EXPECT_FALSE(one->IsSame(*other));
 }
 
-TEST_P(FontContract, IsSharedByAllWhoHoldIt) {
+TEST_P(FontContract, AFontIsSharedByAllWhoHoldIt) {
     const host::FontRef font = runtime_->NewFont(u"Arial", 12);
     host::TextBoxEvents events;
     const auto box = Parts().AddTextBox({{.name = u"T"}}, events);
@@ -76,7 +76,7 @@ TEST_P(FontContract, IsSharedByAllWhoHoldIt) {
     EXPECT_GT(Surface().TextWidth(u"measured"), before);
 }
 
-TEST_P(FontContract, TheAmbientFontIsTheCallersOwn) {
+TEST_P(FontContract, EachCallerGetsAnAmbientFontOfItsOwn) {
     const host::FontRef font = Host().ambient.AmbientFont();
     const float size = font->Size();
     font->SetSize(size + 10);

@@ -36,7 +36,7 @@ TEST_P(LifecycleContract, ASavedControlReadsWhatItWrote) {
     EXPECT_EQ(Probe().pGetNumber(), 12345);
 }
 
-TEST_P(LifecycleContract, TheContainerResizesAndRepaints) {
+TEST_P(LifecycleContract, TheControlIsToldToResizeAndToPaint) {
     Probe().Take();
     runtime_->Resize(20 * Pixel(), 10 * Pixel());
     EXPECT_EQ(WithoutPaints(), Lines{"Resize"});
@@ -47,7 +47,7 @@ TEST_P(LifecycleContract, TheContainerResizesAndRepaints) {
     EXPECT_EQ(Probe().Take(), Lines{"Paint"});
 }
 
-TEST_P(LifecycleContract, TheUserClicksTheSurface) {
+TEST_P(LifecycleContract, AClickOnAnEnabledSurfaceReachesTheControl) {
     Probe().Take();
     runtime_->ClickSurface();
     EXPECT_EQ(WithoutPaints(), Lines{"Click"});
@@ -56,7 +56,7 @@ TEST_P(LifecycleContract, TheUserClicksTheSurface) {
     EXPECT_EQ(WithoutPaints(), Lines{});
 }
 
-TEST_P(LifecycleContract, TheContainerHearsOfChanges) {
+TEST_P(LifecycleContract, TheContainerIsToldOfChangesAndMayForbidThem) {
     Host().container.PropertyChanged(u"Number");
     Host().container.PropertyChanged(u"Other");
     EXPECT_EQ(runtime_->ChangedProperties(), (std::vector<Text>{u"Number", u"Other"}));
@@ -93,7 +93,7 @@ TEST_P(LifecycleContract, AnEventHandlerMayCallTheControlAndFail) {
     EXPECT_EQ(Probe().pGetNumber(), 7);
 }
 
-TEST_P(LifecycleContract, TheExtenderIsTheControlAsPlaced) {
+TEST_P(LifecycleContract, TheExtenderShowsTheControlAsPlaced) {
     Object& extender = Host().extender;
     EXPECT_EQ(extender.Get(u"Name"), Value(Text(u"probe")));
     EXPECT_EQ(extender.Get(u"Tag"), Value(Text(u"its tag")));

@@ -10,7 +10,7 @@ class PropertyBagContract : public ContractTest {
 INSTANTIATE_TEST_SUITE_P(Runtime, PropertyBagContract, ::testing::Values(RuntimeUnderTest()),
                          ::testing::PrintToStringParamName());
 
-TEST_P(PropertyBagContract, ReadsWhatWasWritten) {
+TEST_P(PropertyBagContract, ABagReadsWhatWasWritten) {
     bag_->WriteProperty(u"Text", Text(u"a \r\n\x20AC"), Text());
     bag_->WriteProperty(u"Flag", true, false);
     bag_->WriteProperty(u"Number", std::int16_t{-7}, std::int16_t{0});
@@ -21,16 +21,16 @@ TEST_P(PropertyBagContract, ReadsWhatWasWritten) {
     EXPECT_EQ(ToSingle(bag_->ReadProperty(u"Size", 0.0F)), 8.25F);
 }
 
-TEST_P(PropertyBagContract, GivesTheDefaultForWhatIsMissing) {
+TEST_P(PropertyBagContract, ABagGivesTheDefaultForAMissingValue) {
     EXPECT_EQ(ToLong(bag_->ReadProperty(u"Nothing", std::int32_t{42})), 42);
 }
 
-TEST_P(PropertyBagContract, DoesNotStoreADefault) {
+TEST_P(PropertyBagContract, ABagStoresNoDefault) {
     bag_->WriteProperty(u"Number", std::int32_t{5}, std::int32_t{5});
     EXPECT_EQ(ToLong(bag_->ReadProperty(u"Number", std::int32_t{6})), 6);
 }
 
-TEST_P(PropertyBagContract, StoresAFontsAttributes) {
+TEST_P(PropertyBagContract, ABagStoresTheAttributesOfAFont) {
     // The size is a whole number of pixels: font objects of some platforms have no other sizes.
     const host::FontRef font = runtime_->NewFont(u"Arial", 14.25F);
     font->SetBold(true);

@@ -33,7 +33,7 @@ TEST_P(SurfaceContract, ABoxLeavesThePenAtItsSecondCorner) {
     EXPECT_EQ(Surface().CurrentY(), 300);
 }
 
-TEST_P(SurfaceContract, MeasuresAllBreaksOfATextAtOnce) {
+TEST_P(SurfaceContract, ASurfaceMeasuresAllBreaksOfATextAtOnce) {
     const TextView text = u"one two  three";
     std::vector<double> ends(text.size());
     Surface().TextWidths(text, ends);
@@ -61,7 +61,7 @@ TEST_P(SurfaceContract, TheFontIsReplacedByReference) {
     EXPECT_EQ(Surface().CurrentFont(), font);
 }
 
-TEST_P(SurfaceContract, KeepsItsProperties) {
+TEST_P(SurfaceContract, ASurfaceKeepsItsProperties) {
     Surface().SetForeColor(Rgb(1, 2, 3));
     Surface().SetBackColor(Color::WindowBackground);
     Surface().SetFontTransparent(false);
@@ -76,7 +76,7 @@ TEST_P(SurfaceContract, KeepsItsProperties) {
     EXPECT_EQ(Surface().Pointer(), 99);
 }
 
-TEST_P(SurfaceContract, RefusesWhatIsNoMember) {
+TEST_P(SurfaceContract, ASurfaceRefusesUndefinedStylesAndPointers) {
     for (const std::int16_t style : Integers{-1, 2}) {
         EXPECT_TRUE(
             Raises(ErrorNumber::InvalidPropertyValue, [&] { Surface().SetBorderStyle(style); }));
@@ -110,7 +110,7 @@ TEST_P(SurfaceContract, SizeResizesAtOnceIfAnythingChanges) {
     EXPECT_EQ(Probe().Take(), Lines{});
 }
 
-TEST_P(SurfaceContract, TheDrawingAreaLiesInTheControl) {
+TEST_P(SurfaceContract, TheDrawingAreaIsNotLargerThanTheControl) {
     EXPECT_NEAR(Surface().Width(), 3000, Pixel());
     EXPECT_NEAR(Surface().Height(), 1500, Pixel());
     for (const std::int16_t style : Integers{0, 1}) {

@@ -77,7 +77,7 @@ class TextBoxContract : public ContractTest {
 INSTANTIATE_TEST_SUITE_P(Runtime, TextBoxContract, ::testing::Values(RuntimeUnderTest()),
                          ::testing::PrintToStringParamName());
 
-TEST_P(TextBoxContract, StartsAsDesigned) {
+TEST_P(TextBoxContract, ATextBoxStartsAsDesigned) {
     host::TextBox& box = Box(u"a\r\nb");
     EXPECT_EQ(box.GetText(), u"a\r\nb");
     EXPECT_FALSE(box.Locked());
@@ -100,7 +100,7 @@ TEST_P(TextBoxContract, ANewTextNotifiesBeforeTheCallReturns) {
     EXPECT_EQ(Selected(), (Selection{0, 0})) << "the caret stands before the text";
 }
 
-TEST_P(TextBoxContract, TheSameTextDoesNothing) {
+TEST_P(TextBoxContract, AssigningTheSameTextNotifiesNothing) {
     host::TextBox& box = Box(u"same");
     box.SetSelStart(1);
     box.SetSelLength(2);
@@ -124,7 +124,7 @@ TEST_P(TextBoxContract, AnExceptionOfAHandlerReachesTheCaller) {
     EXPECT_EQ(box.GetText(), u"x");
 }
 
-TEST_P(TextBoxContract, AssigningCutsToTheMaxLength) {
+TEST_P(TextBoxContract, AnAssignedTextIsCutToTheMaxLength) {
     host::TextBox& box = Box(u"abcdef");
     box.SetMaxLength(3);
     EXPECT_EQ(box.GetText(), u"abcdef") << "what is there stays";
@@ -149,7 +149,7 @@ TEST_P(TextBoxContract, SelStartMovesTheCaretAndSelectsNothing) {
     EXPECT_EQ(box.SelStart(), 6);
 }
 
-TEST_P(TextBoxContract, SelLengthTakesWhatThereIs) {
+TEST_P(TextBoxContract, SelLengthEndsAtTheEndOfTheText) {
     host::TextBox& box = Box(u"abcdef");
     box.SetSelStart(4);
     box.SetSelLength(2147483647);
@@ -160,7 +160,7 @@ TEST_P(TextBoxContract, SelLengthTakesWhatThereIs) {
     EXPECT_EQ(Selected(), (Selection{4, 5}));
 }
 
-TEST_P(TextBoxContract, TheSelectionMessageFollowsItsRules) {
+TEST_P(TextBoxContract, SetSelectionKeepsTheSelectionInTheText) {
     struct Case {
         Selection sent;
         Selection expected;
@@ -178,7 +178,7 @@ TEST_P(TextBoxContract, TheSelectionMessageFollowsItsRules) {
     EXPECT_EQ(recorder_.Take(), Lines{});
 }
 
-TEST_P(TextBoxContract, KeepsItsProperties) {
+TEST_P(TextBoxContract, ATextBoxKeepsItsProperties) {
     host::TextBox& box = Box(u"");
     box.SetForeColor(Rgb(9, 8, 7));
     box.SetLocked(true);
@@ -206,7 +206,7 @@ TEST_P(TextBoxContract, TheFontIsHeldByReference) {
     EXPECT_EQ(box.CurrentFont(), font);
 }
 
-TEST_P(TextBoxContract, AKeyGoesDownIsPressedChangesAndGoesUp) {
+TEST_P(TextBoxContract, AKeyNotifiesDownPressChangeAndUp) {
     host::TextBox& box = FocusedBox(u"");
     runtime_->Type(box, u"a\r");
     EXPECT_EQ(recorder_.Take(), (Lines{"down 65", "press 97", "change", "up 65", "down 13",
@@ -215,7 +215,7 @@ TEST_P(TextBoxContract, AKeyGoesDownIsPressedChangesAndGoesUp) {
     EXPECT_EQ(Selected(), (Selection{3, 3}));
 }
 
-TEST_P(TextBoxContract, AHandlerTakesAKeyAway) {
+TEST_P(TextBoxContract, AHandlerMayTakeAKeyAway) {
     host::TextBox& box = FocusedBox(u"");
     recorder_.takesKeyPress = true;
     runtime_->Type(box, u"a");
@@ -227,14 +227,14 @@ TEST_P(TextBoxContract, AHandlerTakesAKeyAway) {
     EXPECT_EQ(box.GetText(), u"");
 }
 
-TEST_P(TextBoxContract, ControlKeysArePressedButInsertNothing) {
+TEST_P(TextBoxContract, ControlKeysNotifyAPressAndInsertNothing) {
     host::TextBox& box = FocusedBox(u"x");
     runtime_->Type(box, u"\x02");
     EXPECT_EQ(recorder_.Take(), (Lines{"down 66", "press 2", "up 66"}));
     EXPECT_EQ(box.GetText(), u"x");
 }
 
-TEST_P(TextBoxContract, BackspaceDeletesALineBreakAsOne) {
+TEST_P(TextBoxContract, BackspaceDeletesALineBreakAsOneCharacter) {
     host::TextBox& box = FocusedBox(u"a\r\nb");
     runtime_->Select(box, 3, 0);
     runtime_->Type(box, u"\b");
@@ -294,7 +294,7 @@ TEST_P(TextBoxContract, PasteIsOneChange) {
     EXPECT_EQ(std::count(recorder_.lines.begin(), recorder_.lines.end(), "change"), 1);
 }
 
-TEST_P(TextBoxContract, TheUserKeepsToTheMaxLength) {
+TEST_P(TextBoxContract, TheUserCannotExceedTheMaxLength) {
     host::TextBox& box = FocusedBox(u"");
     box.SetMaxLength(4);
     runtime_->Type(box, u"abcdef");
@@ -326,7 +326,7 @@ TEST_P(TextBoxContract, TheUserCannotUseADisabledOrHiddenBox) {
     EXPECT_EQ(recorder_.Take(), Lines{});
 }
 
-TEST_P(TextBoxContract, TheFocusComesAndGoes) {
+TEST_P(TextBoxContract, GettingAndLosingTheFocusIsNotifiedOnce) {
     host::TextBox& box = Box(u"");
     host::TextBoxEvents otherEvents;
     const auto other = Parts().AddTextBox(

@@ -1,13 +1,12 @@
 // Compares each golden drawing with the label and, separately, with the literal model.
 #include "tests/golden/golden_drawing.h"
 
-#include <fstream>
-#include <iterator>
 #include <string>
 
 #include <gmock/gmock.h>
 
 #include "tests/model/literal_caption_drawing.h"
+#include "tests/support/file_bytes.h"
 #include "tests/support/placed_label.h"
 
 namespace lumenkit::testing {
@@ -33,9 +32,7 @@ TEST_P(GoldenDrawings, ModelAgrees) {
 }
 
 TEST_P(GoldenDrawings, IsWrittenAsItIsRead) {
-    std::ifstream file(GetParam());
-    const std::string text(std::istreambuf_iterator<char>(file), {});
-    EXPECT_EQ(ToText(ReadGolden(GetParam())), text);
+    EXPECT_EQ(ToText(ReadGolden(GetParam())), FileBytes(GetParam()));
 }
 
 INSTANTIATE_TEST_SUITE_P(All, GoldenDrawings, ::testing::ValuesIn(GoldenFiles()),

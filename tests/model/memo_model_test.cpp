@@ -123,6 +123,12 @@ class Session {
     void StartAnew(std::unique_ptr<PlacedMemo> memo);
     void Edit();
     void Configure();
+    void ConfigureMaxCharsPerLine();
+    void ConfigureMaxLines();
+    void ConfigureScrollBars();
+    void ConfigureMaxLength();
+    void ConfigureLocks();
+    void ConfigurePageWidth();
     void Reload();
     void ModelHandler(const std::string& name);
     void Note(const std::string& what) { done_ += what + "\n"; }
@@ -228,61 +234,71 @@ Text Session::BarelyTooMuch() {
 }
 
 void Session::Configure() {
-    PlacedMemo& memo = *memo_;
     switch (generator_.Below(10)) {
         case 0:
-        case 1: {
-            const int count = generator_.OneIn(3) ? 0 : generator_.Below(10) - 1;
-            Note("MaxCharsPerLine " + std::to_string(count));
-            memo->pLetMaxCharsPerLine(static_cast<std::int16_t>(count));
-            model_->LetMaxCharsPerLine(count);
-            break;
-        }
+        case 1:
+            return ConfigureMaxCharsPerLine();
         case 2:
-        case 3: {
-            const int count = generator_.OneIn(3) ? 0 : generator_.Below(6) - 1;
-            Note("MaxLines " + std::to_string(count));
-            memo->pLetMaxLines(static_cast<std::int16_t>(count));
-            model_->LetMaxLines(count);
-            break;
-        }
+        case 3:
+            return ConfigureMaxLines();
         case 4:
-        case 5: {
-            const int n = generator_.Below(5);
-            Note("ScrollBars " + std::to_string(n));
-            memo->pLetScrollBars(static_cast<host::ScrollBars>(n));
-            model_->LetScrollBars(n);
-            break;
-        }
-        case 6: {
-            const int length = generator_.OneIn(2) ? 0 : 5 + generator_.Below(30);
-            Note("MaxLength " + std::to_string(length));
-            memo->pLetMaxLength(length);
-            model_->LetMaxLength(length);
-            break;
-        }
-        case 7: {
-            const bool locked = generator_.OneIn(6);
-            Note(locked ? "Locked" : "not Locked");
-            memo->pLetLocked(locked);
-            model_->LetLocked(locked);
-            model_->canChangeText = !generator_.OneIn(4);
-            Note(model_->canChangeText ? "Text may change" : "Text may not change");
-            memo.Placed().Site().AllowChange(u"Text", model_->canChangeText);
-            break;
-        }
-        case 8: {
-            const float width =
-                generator_.OneIn(5) ? 1e8F : static_cast<float>(generator_.Below(1000));
-            Note("PageWidth " + std::to_string(width));
-            const double letter = 10.0 * memo->pGetFontSize();
-            memo->pLetPageWidth(width);
-            model_->LetPageWidth(width, letter);
-            break;
-        }
+        case 5:
+            return ConfigureScrollBars();
+        case 6:
+            return ConfigureMaxLength();
+        case 7:
+            return ConfigureLocks();
+        case 8:
+            return ConfigurePageWidth();
         default:
-            Reload();
+            return Reload();
     }
+}
+
+void Session::ConfigureMaxCharsPerLine() {
+    const int count = generator_.OneIn(3) ? 0 : generator_.Below(10) - 1;
+    Note("MaxCharsPerLine " + std::to_string(count));
+    (*memo_)->pLetMaxCharsPerLine(static_cast<std::int16_t>(count));
+    model_->LetMaxCharsPerLine(count);
+}
+
+void Session::ConfigureMaxLines() {
+    const int count = generator_.OneIn(3) ? 0 : generator_.Below(6) - 1;
+    Note("MaxLines " + std::to_string(count));
+    (*memo_)->pLetMaxLines(static_cast<std::int16_t>(count));
+    model_->LetMaxLines(count);
+}
+
+void Session::ConfigureScrollBars() {
+    const int n = generator_.Below(5);
+    Note("ScrollBars " + std::to_string(n));
+    (*memo_)->pLetScrollBars(static_cast<host::ScrollBars>(n));
+    model_->LetScrollBars(n);
+}
+
+void Session::ConfigureMaxLength() {
+    const int length = generator_.OneIn(2) ? 0 : 5 + generator_.Below(30);
+    Note("MaxLength " + std::to_string(length));
+    (*memo_)->pLetMaxLength(length);
+    model_->LetMaxLength(length);
+}
+
+void Session::ConfigureLocks() {
+    const bool locked = generator_.OneIn(6);
+    Note(locked ? "Locked" : "not Locked");
+    (*memo_)->pLetLocked(locked);
+    model_->LetLocked(locked);
+    model_->canChangeText = !generator_.OneIn(4);
+    Note(model_->canChangeText ? "Text may change" : "Text may not change");
+    memo_->Placed().Site().AllowChange(u"Text", model_->canChangeText);
+}
+
+void Session::ConfigurePageWidth() {
+    const float width = generator_.OneIn(5) ? 1e8F : static_cast<float>(generator_.Below(1000));
+    Note("PageWidth " + std::to_string(width));
+    const double letter = 10.0 * (*memo_)->pGetFontSize();
+    (*memo_)->pLetPageWidth(width);
+    model_->LetPageWidth(width, letter);
 }
 
 void Session::Reload() {

@@ -51,120 +51,116 @@ OptionListTwins::OptionListTwins(ListFeatures& features)
 }
 
 void OptionListTwins::Do(const ListStep& step) {
+    using Literal = LiteralOptionList;
     const bool flag = step.number % 2 != 0;
-    const auto color = static_cast<std::uint32_t>(step.number) * 1000;
     switch (step.action) {
         case ListAction::Contents:
-            Control().Let(u"Contents", step.text);
-            literal_->LetContents(step.text);
-            break;
+            return Let(u"Contents", step.text, &Literal::LetContents);
         case ListAction::ListIndex:
-            Control().Let(u"ListIndex", step.number);
-            literal_->LetListIndex(step.number);
-            break;
+            return Let(u"ListIndex", step.number, &Literal::LetListIndex);
         case ListAction::Text:
-            Control().Let(u"Text", step.text);
-            literal_->LetText(step.text);
-            break;
-        case ListAction::ItemCaption: {
-            std::vector<Value> arguments = {step.number, step.text};
-            Control().Invoke(UserProperty(10), InvokeKind::Let, arguments);
-            literal_->LetItemCaption(step.number, step.text);
-            break;
-        }
-        case ListAction::UserClick: {
-            const std::size_t index =
-                static_cast<std::size_t>(step.number) % literal_->Buttons().size();
-            if (placed_->Click(index) != literal_->UserClick(index)) {
-                found_ += "only one of the two can be clicked. ";
-            }
-            break;
-        }
-        case ListAction::Mode:
-            placed_->SetMode(flag ? Mode::Run : Mode::Design);
-            host_.userMode = flag;
-            break;
-        case ListAction::Reload:
-            Reload();
-            break;
+            return Let(u"Text", step.text, &Literal::LetText);
         case ListAction::Enabled:
-            Control().Let(u"Enabled", flag);
-            literal_->LetEnabled(flag);
-            break;
+            return Let(u"Enabled", flag, &Literal::LetEnabled);
         case ListAction::BorderStyle:
-            Control().Let(u"BorderStyle", step.number);
-            literal_->LetBorderStyle(step.number);
-            break;
+            return Let(u"BorderStyle", step.number, &Literal::LetBorderStyle);
         case ListAction::Caption:
-            Control().Let(u"Caption", step.text);
-            literal_->LetCaption(step.text);
-            break;
-        case ListAction::NewFont:
-            Control().Set(u"Font", placed_->Form().NewFont(step.text, 12));
-            literal_->SetFont(
-                std::make_shared<LiteralFont>(LiteralFont{.name = step.text, .size = 12}));
-            break;
-        case ListAction::NoFont:
-            Control().Set(u"Font", nullptr);
-            literal_->SetFont(nullptr);
-            break;
-        case ListAction::ChangeFont:
-            host::ToFont(Control().Get(u"Font"))->SetItalic(flag);
-            literal_->Frame().font->italic = flag;
-            break;
+            return Let(u"Caption", step.text, &Literal::LetCaption);
         case ListAction::ItemAlignment:
-            Control().Let(u"ItemAlignment", step.number);
-            literal_->LetItemAlignment(step.number);
-            break;
+            return Let(u"ItemAlignment", step.number, &Literal::LetItemAlignment);
         case ListAction::ItemFontBold:
-            Control().Let(u"ItemFontBold", flag);
-            literal_->LetItemFontBold(flag);
-            break;
+            return Let(u"ItemFontBold", flag, &Literal::LetItemFontBold);
         case ListAction::ItemFontItalic:
-            Control().Let(u"ItemFontItalic", flag);
-            literal_->LetItemFontItalic(flag);
-            break;
+            return Let(u"ItemFontItalic", flag, &Literal::LetItemFontItalic);
         case ListAction::ItemFontName:
-            Control().Let(u"ItemFontName", step.text);
-            literal_->LetItemFontName(step.text);
-            break;
+            return Let(u"ItemFontName", step.text, &Literal::LetItemFontName);
         case ListAction::ItemFontSize:
-            Control().Let(u"ItemFontSize", step.distance);
-            literal_->LetItemFontSize(step.distance);
-            break;
-        case ListAction::ItemForeColor:
-            Control().Let(u"ItemForeColor", static_cast<std::int32_t>(color));
-            literal_->LetItemForeColor(color);
-            break;
+            return Let(u"ItemFontSize", step.distance, &Literal::LetItemFontSize);
         case ListAction::LeftMargin:
-            Control().Let(u"LeftMargin", step.distance);
-            literal_->LetLeftMargin(step.distance);
-            break;
+            return Let(u"LeftMargin", step.distance, &Literal::LetLeftMargin);
         case ListAction::Spacing:
-            Control().Let(u"Spacing", step.distance);
-            literal_->LetSpacing(step.distance);
-            break;
+            return Let(u"Spacing", step.distance, &Literal::LetSpacing);
         case ListAction::TopMargin:
-            Control().Let(u"TopMargin", step.distance);
-            literal_->LetTopMargin(step.distance);
-            break;
+            return Let(u"TopMargin", step.distance, &Literal::LetTopMargin);
+        case ListAction::ItemForeColor:
+            return LetItemForeColor(static_cast<std::uint32_t>(step.number) * 1000);
+        case ListAction::ItemCaption:
+            return LetItemCaption(step.number, step.text);
+        case ListAction::NewFont:
+            return UseNewFont(step.text);
+        case ListAction::NoFont:
+            return UseNoFont();
+        case ListAction::ChangeFont:
+            return MakeFontItalic(flag);
+        case ListAction::UserClick:
+            return ClickButton(static_cast<std::size_t>(step.number) % literal_->Buttons().size());
+        case ListAction::Mode:
+            return SetMode(flag);
+        case ListAction::Reload:
+            return Reload();
         case ListAction::Width:
-            placed_->Placed().Resize(step.distance, host_.height);
-            if (step.distance != host_.width) {
-                host_.width = step.distance;
-                literal_->Resize();
-            }
-            break;
+            return SetWidth(step.distance);
         case ListAction::AllowText:
             host_.textMayChange = flag;
-            Connect();
-            break;
+            return Connect();
         case ListAction::OnClick:
             reaction_ = static_cast<ListReaction>(step.number);
-            Connect();
-            break;
+            return Connect();
         case ListAction::Count:
-            break;
+            return;
+    }
+}
+
+// Assigns a property of the control and of the model.
+template <typename Argument, typename Parameter>
+void OptionListTwins::Let(TextView name, const Argument& value,
+                          void (LiteralOptionList::*let)(Parameter)) {
+    Control().Let(name, value);
+    (*literal_.*let)(value);
+}
+
+void OptionListTwins::LetItemForeColor(std::uint32_t color) {
+    Control().Let(u"ItemForeColor", static_cast<std::int32_t>(color));
+    literal_->LetItemForeColor(color);
+}
+
+void OptionListTwins::LetItemCaption(int index, const Text& caption) {
+    std::vector<Value> arguments = {index, caption};
+    Control().Invoke(UserProperty(10), InvokeKind::Let, arguments);
+    literal_->LetItemCaption(index, caption);
+}
+
+void OptionListTwins::UseNewFont(const Text& name) {
+    Control().Set(u"Font", placed_->Form().NewFont(name, 12));
+    literal_->SetFont(std::make_shared<LiteralFont>(LiteralFont{.name = name, .size = 12}));
+}
+
+void OptionListTwins::UseNoFont() {
+    Control().Set(u"Font", nullptr);
+    literal_->SetFont(nullptr);
+}
+
+void OptionListTwins::MakeFontItalic(bool italic) {
+    host::ToFont(Control().Get(u"Font"))->SetItalic(italic);
+    literal_->Frame().font->italic = italic;
+}
+
+void OptionListTwins::ClickButton(std::size_t index) {
+    if (placed_->Click(index) != literal_->UserClick(index)) {
+        found_ += "only one of the two can be clicked. ";
+    }
+}
+
+void OptionListTwins::SetMode(bool isUserMode) {
+    placed_->SetMode(isUserMode ? Mode::Run : Mode::Design);
+    host_.userMode = isUserMode;
+}
+
+void OptionListTwins::SetWidth(float width) {
+    placed_->Placed().Resize(width, host_.height);
+    if (width != host_.width) {
+        host_.width = width;
+        literal_->Resize();
     }
 }
 

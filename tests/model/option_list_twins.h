@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -27,6 +28,16 @@ class OptionListTwins {
 
  private:
     Object& Control() { return placed_->Placed().Automation(); }
+    template <typename Argument, typename Parameter>
+    void Let(TextView name, const Argument& value, void (LiteralOptionList::*let)(Parameter));
+    void LetItemForeColor(std::uint32_t color);
+    void LetItemCaption(int index, const Text& caption);
+    void UseNewFont(const Text& name);
+    void UseNoFont();
+    void MakeFontItalic(bool italic);
+    void ClickButton(std::size_t index);
+    void SetMode(bool isUserMode);
+    void SetWidth(float width);
     void Reload();
     void Connect();
     std::string BagDifference(const memory::PropertyBag& bag, const LiteralBag& literal);

@@ -22,4 +22,11 @@ void FailAllocation(std::int64_t ordinal);
 /// Whether the requested failure has not happened yet.
 bool AllocationFailurePending();
 
+#ifdef __ELF__
+/// From now on, the functions above are about the allocations of the program's own code only,
+/// including the templates instantiated in it. For programs that use shared libraries which cannot
+/// handle lack of memory.
+void CountOwnAllocationsOnly();
+#endif
+
 }  // namespace lumenkit::testing

@@ -1,13 +1,13 @@
 #pragma once
 
 #include <filesystem>
-#include <fstream>
 #include <functional>
-#include <iterator>
 #include <string>
 #include <string_view>
 
 #include <gtest/gtest.h>
+
+#include "tests/support/file_bytes.h"
 
 namespace lumenkit::testing {
 
@@ -19,8 +19,7 @@ inline void ForEachCorpusFile(const std::string& name,
     int count = 0;
     for (const auto& entry : std::filesystem::directory_iterator(folder)) {
         SCOPED_TRACE(entry.path());
-        std::ifstream file(entry.path(), std::ios::binary);
-        check(std::string{std::istreambuf_iterator<char>(file), {}});
+        check(FileBytes(entry.path()));
         ++count;
     }
     EXPECT_GE(count, fewest) << folder;

@@ -4,6 +4,7 @@
 
 #include "apps/lumenkit/check/caption_outline.h"
 #include "tests/apps/check/described.h"
+#include "tests/support/repeated.h"
 
 namespace lumenkit::check {
 namespace {
@@ -11,6 +12,7 @@ namespace {
 using ::testing::ElementsAre;
 using ::testing::HasSubstr;
 using ::testing::IsEmpty;
+using testing::Repeated;
 using ::testing::SizeIs;
 
 std::vector<std::string> RulesInCaption(TextView caption) {
@@ -20,14 +22,6 @@ std::vector<std::string> RulesInCaption(TextView caption) {
 std::string SuggestionFor(TextView caption) {
     const Remarks remarks = CheckCaption(caption);
     return remarks.size() == 1 ? remarks.front().suggestion : "no single remark";
-}
-
-Text Repeated(TextView text, int count) {
-    Text repeated;
-    for (int i = 0; i < count; ++i) {
-        repeated += text;
-    }
-    return repeated;
 }
 
 TEST(CaptionCheck, FindsNothingInGoodCaptions) {

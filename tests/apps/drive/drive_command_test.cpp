@@ -8,6 +8,7 @@
 #include "tests/apps/drive/conversation.h"
 #include "tests/apps/drive/session_script.h"
 #include "tests/apps/program.h"
+#include "tests/support/repeated.h"
 
 namespace lumenkit::testing {
 
@@ -25,14 +26,6 @@ const std::string caption = R"({"ok":true,"value":"VLabel","log":[]})";
 
 std::string Refusal(const std::string& text) {
     return R"({"ok":false,"error":{"text":")" + text + R"("},"log":[]})";
-}
-
-std::string Repeated(const std::string& text, int times) {
-    std::string all;
-    for (int i = 0; i < times; ++i) {
-        all += text;
-    }
-    return all;
 }
 
 int StatusOf(const std::string& command) {

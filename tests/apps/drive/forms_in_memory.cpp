@@ -1,14 +1,13 @@
 #include "tests/apps/drive/forms_in_memory.h"
 
 #include <filesystem>
-#include <fstream>
-#include <iterator>
 #include <map>
 #include <string>
 #include <utility>
 
 #include "forms/file.h"
 #include "forms/form_error.h"
+#include "tests/support/file_bytes.h"
 
 namespace lumenkit {
 
@@ -20,8 +19,7 @@ Files Samples() {
     Files files;
     for (const auto& entry :
          std::filesystem::directory_iterator(LUMENKIT_SOURCE_DIR "/samples/forms")) {
-        std::ifstream stream(entry.path(), std::ios::binary);
-        files[entry.path().filename().string()] = {std::istreambuf_iterator<char>(stream), {}};
+        files[entry.path().filename().string()] = testing::FileBytes(entry.path());
     }
     return files;
 }

@@ -1,13 +1,13 @@
 // "lumenform new".
 #include <filesystem>
 #include <fstream>
-#include <iterator>
 
 #include <gmock/gmock.h>
 
 #include "forms/file.h"
 #include "tests/apps/lumenform/loaded_view.h"
 #include "tests/apps/program.h"
+#include "tests/support/file_bytes.h"
 
 namespace lumenkit::testing {
 namespace {
@@ -53,8 +53,7 @@ TEST_F(NewCommand, LeavesWhatIsThere) {
     const Outcome outcome = Create("a.frm");
     EXPECT_EQ(outcome.status, 2);
     EXPECT_THAT(outcome.errors, HasSubstr("a.frm is there already"));
-    std::ifstream file(folder_ / "a.frm");
-    EXPECT_EQ(std::string(std::istreambuf_iterator<char>(file), {}), "mine");
+    EXPECT_EQ(FileBytes(folder_ / "a.frm"), "mine");
 }
 
 TEST_F(NewCommand, RefusesOtherNames) {

@@ -5,12 +5,11 @@
 
 namespace lumenkit::container {
 
-class Site;
-
-/// The extender of a control in this container: Name, Tag, Left, Top, Width, Height, Visible, Move.
+/// The extender of a control: the members of a table, bound to an object.
 class Extender final : public Counted<IDispatch> {
  public:
-    explicit Extender(Site& site);
+    /// Both must outlive the extender.
+    Extender(const InterfaceTable& table, void* object);
 
     HRESULT STDMETHODCALLTYPE GetTypeInfoCount(UINT* /*count*/) override { return E_NOTIMPL; }
     HRESULT STDMETHODCALLTYPE GetTypeInfo(UINT /*index*/, LCID /*locale*/,
@@ -24,6 +23,7 @@ class Extender final : public Counted<IDispatch> {
                                      UINT* wrong) override;
 
  private:
+    const InterfaceTable& table_;
     TableObject members_;
 };
 

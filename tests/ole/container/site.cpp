@@ -1,8 +1,10 @@
 #include "tests/ole/container/site.h"
 
 #include <algorithm>
+#include <array>
 #include <stdexcept>
 
+#include "frame/automation/member_binding.h"
 #include "runtime/ole/entries.h"
 #include "runtime/ole/module/identifiers.h"
 #include "runtime/win32/pixels.h"
@@ -21,6 +23,26 @@ std::string TextOf(const RECT& place) {
 int PixelsPerInch() {
     return win32::Resolution::OfScreen().x;
 }
+
+constexpr std::array moveParameters = {
+    Parameter{u"Left", ValueType::Variant, false},
+    Parameter{u"Top", ValueType::Variant, false},
+    Parameter{u"Width", ValueType::Variant, false},
+    Parameter{u"Height", ValueType::Variant, false},
+};
+
+constexpr std::array extenderMembers = {
+    ReadOnlyProperty<&Site::Name>(1, u"Name", u""),
+    Property<&Site::Tag, &Site::SetTag>(2, u"Tag", u""),
+    ReadOnlyProperty<&Site::Left>(3, u"Left", u""),
+    ReadOnlyProperty<&Site::Top>(4, u"Top", u""),
+    ReadOnlyProperty<&Site::Width>(5, u"Width", u""),
+    ReadOnlyProperty<&Site::Height>(6, u"Height", u""),
+    ReadOnlyProperty<&Site::Visible>(7, u"Visible", u""),
+    Method<&Site::Move>(8, u"Move", u"", moveParameters),
+};
+
+constexpr InterfaceTable extenderTable = {.name = u"Extender", .members = extenderMembers};
 
 }  // namespace
 
@@ -47,6 +69,10 @@ Form::Form()
 
 Form::~Form() {
     DestroyWindow(window_);
+}
+
+const InterfaceTable& Site::ExtenderMembers() {
+    return extenderTable;
 }
 
 Site::Site(Form& form) : form_(form) {

@@ -134,6 +134,7 @@ class Site final : public IUnknown {
         Site& site_;
     };
 
+    static const InterfaceTable& ExtenderMembers();
     void Said(std::string line) { log_.Add(std::move(line)); }
 
     Form& form_;
@@ -143,7 +144,7 @@ class Site final : public IUnknown {
     InPlaceSiteFace inPlaceSite_{*this};
     ControlSiteFace controlSite_{*this};
     Ambients ambients_{*this};
-    Extender extender_{*this};
+    Extender extender_{ExtenderMembers(), this};
     Frame frame_{log_};
     ole::ComPtr<IUnknown> object_;
     RECT place_ = {10, 20, 210, 120};

@@ -2,13 +2,13 @@
 
 #include <algorithm>
 #include <fstream>
-#include <iterator>
 #include <map>
 #include <stdexcept>
 
 #include <gtest/gtest.h>
 
 #include "frame/utf8.h"
+#include "tests/support/file_bytes.h"
 
 namespace lumenkit::forms::testing {
 
@@ -71,9 +71,8 @@ fs::path SamplePath(std::string_view name) {
 }
 
 std::string ReadFile(const fs::path& path) {
-    std::ifstream stream(path, std::ios::binary);
-    EXPECT_TRUE(stream) << path;
-    return {std::istreambuf_iterator<char>(stream), {}};
+    EXPECT_TRUE(fs::exists(path)) << path;
+    return lumenkit::testing::FileBytes(path);
 }
 
 std::string GoldenForm(const std::string& name) {

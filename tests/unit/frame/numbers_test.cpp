@@ -92,29 +92,41 @@ TEST(ParseNumber, StopsAtTheFirstOtherUnit) {
 
 // Numbers that are short enough for the fast path, and the first that are not.
 TEST(ParseNumber, ReadsWholeNumbersOfAnyLengthBeforeACommaABarAndTheEnd) {
+    const Reading readings[] = {
+        {u"", 0},
+        {u"7", 7},
+        {u"007", 7},
+        {u"999999999", 999'999'999.0},
+        {u"9999999999", 9'999'999'999.0},
+        {u"123456789 0", 1'234'567'890.0},
+    };
     for (const TextView behind : {u"", u",", u"|", u",7", u"|7"}) {
-        EXPECT_EQ(ParseNumber(behind), 0);
-        EXPECT_EQ(ParseNumber(u"7" + Text(behind)), 7);
-        EXPECT_EQ(ParseNumber(u"007" + Text(behind)), 7);
-        EXPECT_EQ(ParseNumber(u"999999999" + Text(behind)), 999'999'999.0);
-        EXPECT_EQ(ParseNumber(u"9999999999" + Text(behind)), 9'999'999'999.0);
-        EXPECT_EQ(ParseNumber(u"123456789 0" + Text(behind)), 1'234'567'890.0);
+        for (const auto& [text, number] : readings) {
+            EXPECT_EQ(ParseNumber(Text(text) + Text(behind)), number)
+                << ToUtf8(text) << ' ' << ToUtf8(behind);
+        }
     }
     EXPECT_EQ(ParseNumber(u"12\t.5e1|"), 125);
 }
 
 TEST(ParseNumber, ReadsNumbersWithAPointBeforeACommaABarAndTheEnd) {
+    const Reading readings[] = {
+        {u"8.5", 8.5},
+        {u"8.25", 8.25},
+        {u".", 0},
+        {u"7.", 7},
+        {u".7", 0.7},
+        {u"1.2.3", 1.2},
+        {u"..3", 0},
+        {u"1234567.8", 1'234'567.8},
+        {u"1234567.89", 1'234'567.89},
+        {u".123456789", .123456789},
+    };
     for (const TextView behind : {u"", u",", u"|", u",.7", u"|7.5"}) {
-        EXPECT_EQ(ParseNumber(u"8.5" + Text(behind)), 8.5);
-        EXPECT_EQ(ParseNumber(u"8.25" + Text(behind)), 8.25);
-        EXPECT_EQ(ParseNumber(u"." + Text(behind)), 0);
-        EXPECT_EQ(ParseNumber(u"7." + Text(behind)), 7);
-        EXPECT_EQ(ParseNumber(u".7" + Text(behind)), 0.7);
-        EXPECT_EQ(ParseNumber(u"1.2.3" + Text(behind)), 1.2);
-        EXPECT_EQ(ParseNumber(u"..3" + Text(behind)), 0);
-        EXPECT_EQ(ParseNumber(u"1234567.8" + Text(behind)), 1'234'567.8);
-        EXPECT_EQ(ParseNumber(u"1234567.89" + Text(behind)), 1'234'567.89);
-        EXPECT_EQ(ParseNumber(u".123456789" + Text(behind)), .123456789);
+        for (const auto& [text, number] : readings) {
+            EXPECT_EQ(ParseNumber(Text(text) + Text(behind)), number)
+                << ToUtf8(text) << ' ' << ToUtf8(behind);
+        }
     }
 }
 
@@ -234,8 +246,10 @@ TEST(ParseNumber, OverflowsBeyond32RadixBits) {
 }
 
 TEST(ParseNumber, OverflowsBeyondDoublePrecision) {
-    EXPECT_EQ(ParseNumber(u"1.7976931348623157E308"), std::numeric_limits<double>::max());
-    EXPECT_EQ(ParseNumber(u"1.7976931348623158E308"), std::numeric_limits<double>::max());
+    ExpectReadings({
+        {u"1.7976931348623157E308", std::numeric_limits<double>::max()},
+        {u"1.7976931348623158E308", std::numeric_limits<double>::max()},
+    });
     const Text tenToThe400 = u"1" + Text(400, u'0');
     const Text nines = Text(1000, u'9');
     for (const Text& text :
@@ -251,16 +265,18 @@ TEST(ParseNumber, OverflowsBeyondDoublePrecision) {
 
 TEST(ParseNumber, UnderflowsToZeroThroughDenormals) {
     constexpr double least = std::numeric_limits<double>::denorm_min();
-    EXPECT_EQ(ParseNumber(u"4.9406564584124654E-324"), least);
-    EXPECT_EQ(ParseNumber(u"3E-324"), least);
-    EXPECT_EQ(ParseNumber(u"2E-324"), 0);
-    EXPECT_EQ(ParseNumber(u"7E-324"), least);
-    EXPECT_EQ(ParseNumber(u"8E-324"), 2 * least);
-    EXPECT_EQ(ParseNumber(u"2.2250738585072014E-308"), std::numeric_limits<double>::min());
-    EXPECT_EQ(ParseNumber(u"1E-400"), 0);
-    EXPECT_EQ(ParseNumber(u"-1E-400"), 0);
-    EXPECT_EQ(ParseNumber(u"1E-99999999999999999999999"), 0);
-    EXPECT_EQ(ParseNumber(u"0E99999999999999999999999"), 0);
+    ExpectReadings({
+        {u"4.9406564584124654E-324", least},
+        {u"3E-324", least},
+        {u"2E-324", 0},
+        {u"7E-324", least},
+        {u"8E-324", 2 * least},
+        {u"2.2250738585072014E-308", std::numeric_limits<double>::min()},
+        {u"1E-400", 0},
+        {u"-1E-400", 0},
+        {u"1E-99999999999999999999999", 0},
+        {u"0E99999999999999999999999", 0},
+    });
     EXPECT_EQ(ParseNumber(u"." + Text(1000, u'0') + u"1"), 0);
 }
 
@@ -328,9 +344,10 @@ TEST(ParseNumber, AgreesWithStrtodOnNumbersOf800Digits) {
 }
 
 TEST(ParseNumber, RoundsExactMidpointsToEvenAndTheirNeighboursAway) {
-    EXPECT_EQ(ParseNumber(u"1.00000000000000011102230246251565404236316680908203125"), 1.0);
-    EXPECT_EQ(ParseNumber(u"1.00000000000000033306690738754696212708950042724609375"),
-              1.0 + 4 * 0x1p-53);
+    ExpectReadings({
+        {u"1.00000000000000011102230246251565404236316680908203125", 1.0},
+        {u"1.00000000000000033306690738754696212708950042724609375", 1.0 + 4 * 0x1p-53},
+    });
     const Text above =
         u"1.00000000000000011102230246251565404236316680908203125" + Text(1000, u'0') + u"1";
     EXPECT_EQ(ParseNumber(above), 1.0 + 0x1p-52);
@@ -360,13 +377,15 @@ TEST(ParseNumber, AgreesWithStrtodBesideMidpointsOfEveryMagnitude) {
 // that rounding it to 64 bits first, as x87 registers do, leads to the wrong one of them. The
 // expected values were computed with exact fractions.
 TEST(ParseNumber, RoundsOnce) {
-    EXPECT_EQ(ParseNumber(u"2.920819527489981E+23"), 0x1.eece5ae6e5a2fp+77);
-    EXPECT_EQ(ParseNumber(u"-3.43810814461863E+23"), -0x1.2338161dd532dp+78);
-    EXPECT_EQ(ParseNumber(u"2.966148453968913E+23"), 0x1.f67c2f149d59dp+77);
-    EXPECT_EQ(ParseNumber(u"2.988438385757084E+23"), 0x1.fa42db0910ba7p+77);
-    EXPECT_EQ(ParseNumber(u"5270523302510905E6"), 0x1.1db7343b34553p+72);
-    EXPECT_EQ(ParseNumber(u"1720333184608236E13"), 0x1.bcb219c09ac89p+93);
-    EXPECT_EQ(ParseNumber(u"2234349659160504D21"), 0x1.ae51f183ea08dp+120);
+    ExpectReadings({
+        {u"2.920819527489981E+23", 0x1.eece5ae6e5a2fp+77},
+        {u"-3.43810814461863E+23", -0x1.2338161dd532dp+78},
+        {u"2.966148453968913E+23", 0x1.f67c2f149d59dp+77},
+        {u"2.988438385757084E+23", 0x1.fa42db0910ba7p+77},
+        {u"5270523302510905E6", 0x1.1db7343b34553p+72},
+        {u"1720333184608236E13", 0x1.bcb219c09ac89p+93},
+        {u"2234349659160504D21", 0x1.ae51f183ea08dp+120},
+    });
 }
 
 TEST(NumericValue, IsTheNumberThatTheWholeTextIs) {
@@ -587,11 +606,16 @@ TEST(NumberText, OverflowsWhereTheNumberIsNotFinite) {
 }
 
 TEST(Decimal, WritesDigitsAlone) {
-    EXPECT_EQ(Decimal(0), u"0");
-    EXPECT_EQ(Decimal(7), u"7");
-    EXPECT_EQ(Decimal(-7), u"-7");
-    EXPECT_EQ(Decimal(2147483647), u"2147483647");
-    EXPECT_EQ(Decimal(std::numeric_limits<std::int32_t>::min()), u"-2147483648");
+    const std::pair<std::int32_t, TextView> forms[] = {
+        {0, u"0"},
+        {7, u"7"},
+        {-7, u"-7"},
+        {2147483647, u"2147483647"},
+        {std::numeric_limits<std::int32_t>::min(), u"-2147483648"},
+    };
+    for (const auto& [number, form] : forms) {
+        EXPECT_EQ(Decimal(number), form);
+    }
     Text text = u"n=";
     AppendDecimal(text, 32768);
     EXPECT_EQ(text, u"n=32768");

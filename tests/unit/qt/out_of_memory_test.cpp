@@ -339,7 +339,10 @@ Outcome RunWith(const Act& act, std::int64_t failing) {
     return outcome;
 }
 
-class QtOutOfMemory : public ::testing::TestWithParam<Act> {};
+class QtOutOfMemory : public ::testing::TestWithParam<Act> {
+ protected:
+    static void SetUpTestSuite() { testing::CountOwnAllocationsOnly(); }  // Qt does not handle it
+};
 
 TEST_P(QtOutOfMemory, EachAllocationMayFail) {
     const Act& act = GetParam();

@@ -7,13 +7,12 @@
 #include <QTest>
 #include <cstdio>
 #include <filesystem>
-#include <fstream>
-#include <iterator>
 #include <string>
 
 #include "frame/utf8.h"
 #include "project/lumenkit_classes.h"
 #include "runtime/qt/element.h"
+#include "tests/support/file_bytes.h"
 #include "tests/support/qt_form.h"
 
 namespace lumenkit {
@@ -110,18 +109,13 @@ class Painter {
     fs::path folder_;
 };
 
-std::string Contents(const fs::path& path) {
-    std::ifstream file(path, std::ios::binary);
-    return {std::istreambuf_iterator<char>(file), {}};
-}
-
 void PaintAll(const fs::path& folder) {
     fs::create_directories(folder);
     Painter painter(folder);
     for (const auto& entry :
          fs::directory_iterator(fs::path(LUMENKIT_SOURCE_DIR) / "samples/captions")) {
-        painter.PaintLabel(entry.path().stem().string(), Contents(entry.path()), u"MS Sans Serif",
-                           10);
+        painter.PaintLabel(entry.path().stem().string(), testing::FileBytes(entry.path()),
+                           u"MS Sans Serif", 10);
     }
     painter.PaintLabel("serif", "|B:1|Bold |i:1|both|B:0| italic|CR|* AVA To fi Wa",
                        u"Times New Roman", 14);

@@ -1,6 +1,8 @@
 #include "vlabel/caption_compiler.h"
 
+#include <algorithm>
 #include <string>
+#include <string_view>
 #include <utility>
 #include <vector>
 
@@ -9,6 +11,8 @@
 #include "frame/utf8.h"
 #include "tests/support/allocation_counter.h"
 #include "tests/support/fake_reporter.h"
+#include "tests/support/repeated.h"
+#include "tests/support/rows.h"
 #include "vlabel/caption_dump.h"
 
 namespace lumenkit {
@@ -17,6 +21,7 @@ namespace {
 
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
+using testing::Repeated;
 using testing::ReportMessage;
 
 std::vector<Text> Entries(const TextList& list) {
@@ -27,20 +32,19 @@ std::vector<Text> Entries(const TextList& list) {
     return entries;
 }
 
-Text Repeated(TextView text, int count) {
-    Text repeated;
-    for (; count > 0; --count) {
-        repeated += text;
-    }
-    return repeated;
-}
-
 class CaptionCompilerTest : public ::testing::Test {
  protected:
     // Returns the dump of the compiled form.
     std::string Compile(TextView caption) {
         compiler_.CompileCaption(caption);
         return DumpCaption(compiler_.Compiled());
+    }
+
+    // Returns a dump with a semicolon in place of each line break.
+    static std::string OneLine(std::string dump) {
+        dump.pop_back();
+        std::ranges::replace(dump, '\n', ';');
+        return dump;
     }
 
     // Returns the parameter that the compiler stores for a single command.
@@ -62,29 +66,75 @@ class CaptionCompilerTest : public ::testing::Test {
     CaptionCompiler compiler_{module_};
 };
 
-// Lines
+// Captions and what they compile to
 
-TEST_F(CaptionCompilerTest, EmptyCaptionIsOneEmptyLineAndNoCommands) {
-    EXPECT_EQ(Compile(u""), "line \"\"\n");
+struct CompiledCaptionTest
+    : CaptionCompilerTest,
+      ::testing::WithParamInterface<testing::Row<TextView, std::string_view>> {};
+
+TEST_P(CompiledCaptionTest, IsDumped) {
+    EXPECT_EQ(OneLine(Compile(GetParam().input)), GetParam().expected);
 }
 
-TEST_F(CaptionCompilerTest, SeparatorOfEitherCaseEndsALine) {
-    for (const TextView caption : {u"A|CR|B", u"A|cr|B", u"A|Cr|B", u"A|cR|B"}) {
-        EXPECT_EQ(Compile(caption), "line \"A\"\nline \"B\"\n");
-    }
-}
+constexpr testing::Row<TextView, std::string_view> lineCaptions[] = {
+    {"EmptyCaptionIsOneEmptyLineAndNoCommands", u"", R"(line "")"},
+    {"SeparatorEndsALine", u"A|CR|B", R"(line "A";line "B")"},
+    {"SeparatorInLowerCaseEndsALine", u"A|cr|B", R"(line "A";line "B")"},
+    {"SeparatorWithASmallREndsALine", u"A|Cr|B", R"(line "A";line "B")"},
+    {"SeparatorWithASmallCEndsALine", u"A|cR|B", R"(line "A";line "B")"},
+    {"SeparatorAtTheEndLeavesAnEmptyLine", u"A|CR|", R"(line "A";line "")"},
+    {"SeparatorsDoNotShareABar", u"|CR|CR|", R"(line "";line "CR|";   = "")"},
+    {"LineBreaksOfTheTextArePlainText", u"A\r\nB", R"(line "A\r\nB")"},
+};
 
-TEST_F(CaptionCompilerTest, SeparatorAtTheEndLeavesAnEmptyLine) {
-    EXPECT_EQ(Compile(u"A|CR|"), "line \"A\"\nline \"\"\n");
-}
+constexpr testing::Row<TextView, std::string_view> quoteCaptions[] = {
+    {"QuotesAreReplacedAndAreNoCommands", u"Say |Q|hi|q|", R"(line "Say \"hi\"")"},
+    {"QuotesDoNotShareABar", u"|Q|Q|", R"(line "\"Q|";   = "")"},
+    {"QuoteInsideACommandIsReplacedFirst", u"|font:|Q|Arial|Q||x",
+     R"(line "|x";  font = "\"arial\"|")"},
+    {"BarBeforeAQuoteOpensACommandThatHoldsTheQuote", u"||Q|a|b", R"(line "|b";  "a| = "")"},
+    {"SeparatorTakesItsFirstBarFromAQuote", u"a|Q|CR|b", R"(line "a|";  Q = "";line "b")"},
+    {"QuoteBehindASeparatorHasNoOpeningBar", u"a|CR|Q|b", R"(line "a";line "Q|";  b = "")"},
+};
 
-TEST_F(CaptionCompilerTest, SeparatorsDoNotShareABar) {
-    EXPECT_EQ(Compile(u"|CR|CR|"), "line \"\"\nline \"CR|\"\n   = \"\"\n");
-}
+constexpr testing::Row<TextView, std::string_view> commandCaptions[] = {
+    {"CommandLeavesItsOpeningBar", u"x|B:1|y|b:0|z", R"(line "x|y|z";  b = "1";  b = "0")"},
+    {"UnterminatedCommandTakesTheRestOfTheLine", u"a|size:12|CR|b",
+     R"(line "a|";  size = " 12";line "b")"},
+    {"LoneBarSwallowsTheTextToTheEnd", u"a|b", R"(line "a|";  b = "")"},
+    {"LoneBarSwallowsTheTextToTheNextBar", u"a|b c|d", R"(line "a|d";  b c| = "")"},
+    {"BarAtTheEndIsAnEmptyCommand", u"a|", R"(line "a|";   = "")"},
+    {"TwoBarsAreACommandOfOneBar", u"||", R"(line "|";  | = "")"},
+    {"ThreeBarsAreACommandOfOneBarAndAnEmptyOne", u"|||", R"(line "||";  | = "";   = "")"},
+    {"CommandWithoutAColonIsKeptAsWritten", u"|Bold|x", R"(line "|x";  Bold| = "")"},
+    {"UnknownCommandIsKeptInLowerCase", u"|Font:Arial ÄΩЖ|x", R"(line "|x";  font = "arial äωж|")"},
+    {"NameEndsAtTheFirstColon", u"|Url:HTTP://X|", R"(line "|";  url = "http://x|")"},
+    {"NameMayBeEmpty", u"|:X|", R"(line "|";   = "x|")"},
+    {"CommandsPairWithBarsAcrossLines", u"|b:1|a|CR||i:1|b|CR|c|b:0|",
+     R"(line "|a";  b = "1";line "|b";  i = "1";line "c|";  b = "0")"},
+};
 
-TEST_F(CaptionCompilerTest, LineBreaksOfTheTextArePlainText) {
-    EXPECT_EQ(Compile(u"A\r\nB"), "line \"A\\r\\nB\"\n");
-}
+// The dotted capital I is the only unit beyond ASCII whose lower case is a letter of a command
+// word.
+constexpr testing::Row<TextView, std::string_view> wordCaptions[] = {
+    {"UnderlineIsStoredAsItalic", u"|u:1|text", R"(line "|text";  i = "1")"},
+    {"WordWithABlankBeforeItIsNone", u"| b:1|", R"(line "|";   b = "1|")"},
+    {"WordCutShortIsNone", u"|bol:1|", R"(line "|";  bol = "1|")"},
+    {"UnderlineInFullIsNone", u"|underline:1|", R"(line "|";  underline = "1|")"},
+    {"DottedCapitalIIsTheWordI", u"|İ:1|", R"(line "|";  i = "1")"},
+    {"WordInDottedCapitalsMustFitToo", u"|İTALİCS:1|", R"(line "|";  italics = "1|")"},
+    {"ColourIsStoredAsItsNumber", u"|Fore:0,128,0|Green", R"(line "|Green";  color = "32768")"},
+    {"UnterminatedColourIsStoredAsItsNumber", u"|Color:1,2,3", R"(line "|";  color = "197121")"},
+};
+
+INSTANTIATE_TEST_SUITE_P(Lines, CompiledCaptionTest, ::testing::ValuesIn(lineCaptions),
+                         testing::RowName());
+INSTANTIATE_TEST_SUITE_P(Quotes, CompiledCaptionTest, ::testing::ValuesIn(quoteCaptions),
+                         testing::RowName());
+INSTANTIATE_TEST_SUITE_P(Commands, CompiledCaptionTest, ::testing::ValuesIn(commandCaptions),
+                         testing::RowName());
+INSTANTIATE_TEST_SUITE_P(Words, CompiledCaptionTest, ::testing::ValuesIn(wordCaptions),
+                         testing::RowName());
 
 TEST_F(CaptionCompilerTest, CaptionOf302LinesCompilesToTheFirst301Only) {
     compiler_.CompileCaption(Repeated(u"x|CR|", 300) + u"301|CR|302 |b:1|");
@@ -100,114 +150,29 @@ TEST_F(CaptionCompilerTest, CaptionOf301LinesCompilesToAllOfThem) {
     EXPECT_EQ(Lines()[300], u"last");
 }
 
-// Quotes
-
-TEST_F(CaptionCompilerTest, QuotesAreReplacedAndAreNoCommands) {
-    EXPECT_EQ(Compile(u"Say |Q|hi|q|"), "line \"Say \\\"hi\\\"\"\n");
-}
-
-TEST_F(CaptionCompilerTest, QuotesDoNotShareABar) {
-    EXPECT_EQ(Compile(u"|Q|Q|"), "line \"\\\"Q|\"\n   = \"\"\n");
-}
-
-TEST_F(CaptionCompilerTest, QuoteInsideACommandIsReplacedFirst) {
-    EXPECT_EQ(Compile(u"|font:|Q|Arial|Q||x"), "line \"|x\"\n  font = \"\\\"arial\\\"|\"\n");
-}
-
-TEST_F(CaptionCompilerTest, BarBeforeAQuoteOpensACommandThatHoldsTheQuote) {
-    EXPECT_EQ(Compile(u"||Q|a|b"), "line \"|b\"\n  \"a| = \"\"\n");
-}
-
-TEST_F(CaptionCompilerTest, SeparatorTakesItsFirstBarFromAQuote) {
-    EXPECT_EQ(Compile(u"a|Q|CR|b"), "line \"a|\"\n  Q = \"\"\nline \"b\"\n");
-}
-
-TEST_F(CaptionCompilerTest, QuoteBehindASeparatorHasNoOpeningBar) {
-    EXPECT_EQ(Compile(u"a|CR|Q|b"), "line \"a\"\nline \"Q|\"\n  b = \"\"\n");
-}
-
-// Commands
-
-TEST_F(CaptionCompilerTest, CommandLeavesItsOpeningBar) {
-    EXPECT_EQ(Compile(u"x|B:1|y|b:0|z"), "line \"x|y|z\"\n  b = \"1\"\n  b = \"0\"\n");
-}
-
-TEST_F(CaptionCompilerTest, UnterminatedCommandTakesTheRestOfTheLine) {
-    EXPECT_EQ(Compile(u"a|size:12|CR|b"), "line \"a|\"\n  size = \" 12\"\nline \"b\"\n");
-}
-
-TEST_F(CaptionCompilerTest, LoneBarSwallowsTheTextToTheEnd) {
-    EXPECT_EQ(Compile(u"a|b"), "line \"a|\"\n  b = \"\"\n");
-}
-
-TEST_F(CaptionCompilerTest, LoneBarSwallowsTheTextToTheNextBar) {
-    EXPECT_EQ(Compile(u"a|b c|d"), "line \"a|d\"\n  b c| = \"\"\n");
-}
-
-TEST_F(CaptionCompilerTest, BarAtTheEndIsAnEmptyCommand) {
-    EXPECT_EQ(Compile(u"a|"), "line \"a|\"\n   = \"\"\n");
-}
-
-TEST_F(CaptionCompilerTest, TwoBarsAreACommandOfOneBar) {
-    EXPECT_EQ(Compile(u"||"), "line \"|\"\n  | = \"\"\n");
-    EXPECT_EQ(Compile(u"|||"), "line \"||\"\n  | = \"\"\n   = \"\"\n");
-}
-
-TEST_F(CaptionCompilerTest, CommandWithoutAColonIsKeptAsWritten) {
-    EXPECT_EQ(Compile(u"|Bold|x"), "line \"|x\"\n  Bold| = \"\"\n");
-}
-
-TEST_F(CaptionCompilerTest, UnknownCommandIsKeptInLowerCase) {
-    EXPECT_EQ(Compile(u"|Font:Arial ÄΩЖ|x"), "line \"|x\"\n  font = \"arial äωж|\"\n");
-}
-
-TEST_F(CaptionCompilerTest, NameEndsAtTheFirstColon) {
-    EXPECT_EQ(Compile(u"|Url:HTTP://X|"), "line \"|\"\n  url = \"http://x|\"\n");
-    EXPECT_EQ(Compile(u"|:X|"), "line \"|\"\n   = \"x|\"\n");
-}
-
-TEST_F(CaptionCompilerTest, CommandsPairWithBarsAcrossLines) {
-    EXPECT_EQ(Compile(u"|b:1|a|CR||i:1|b|CR|c|b:0|"),
-              "line \"|a\"\n  b = \"1\"\nline \"|b\"\n  i = \"1\"\nline \"c|\"\n  b = \"0\"\n");
-}
-
 TEST_F(CaptionCompilerTest, NextCompileStartsAnew) {
     Compile(u"|before:5|a|CR|b");
-    EXPECT_EQ(Compile(u"|before:+2|c"), "line \"|c\"\n  before = \" 2\"\n");
+    EXPECT_EQ(OneLine(Compile(u"|before:+2|c")), R"(line "|c";  before = " 2")");
 }
 
 // Command words
 
 TEST_F(CaptionCompilerTest, WordsOfSwitches) {
-    const std::pair<TextView, TextView> words[] = {{u"b", u"b"},    {u"bold", u"b"},
-                                                   {u"i", u"i"},    {u"italic", u"i"},
-                                                   {u"ital", u"i"}, {u"itals", u"i"}};
-    for (const auto& [written, stored] : words) {
+    const std::pair<TextView, TextView> switches[] = {{u"b", u"b"},    {u"bold", u"b"},
+                                                      {u"i", u"i"},    {u"italic", u"i"},
+                                                      {u"ital", u"i"}, {u"itals", u"i"}};
+    for (const auto& [written, stored] : switches) {
         compiler_.CompileCaption(u"|" + Text(written) + u":1|");
         EXPECT_THAT(Names(), ElementsAre(Text(stored))) << ToUtf8(written);
         EXPECT_THAT(Params(), ElementsAre(u"1")) << ToUtf8(written);
     }
 }
 
-TEST_F(CaptionCompilerTest, UnderlineIsStoredAsItalic) {
-    EXPECT_EQ(Compile(u"|u:1|text"), "line \"|text\"\n  i = \"1\"\n");
-}
-
-TEST_F(CaptionCompilerTest, WordsMustFitExactly) {
-    EXPECT_EQ(Compile(u"| b:1|"), "line \"|\"\n   b = \"1|\"\n");
-    EXPECT_EQ(Compile(u"|bol:1|"), "line \"|\"\n  bol = \"1|\"\n");
-    EXPECT_EQ(Compile(u"|underline:1|"), "line \"|\"\n  underline = \"1|\"\n");
-}
-
-// The dotted capital I is the only unit beyond ASCII whose lower case is a letter of a command
-// word.
 TEST_F(CaptionCompilerTest, WordsInAnyCase) {
     for (const TextView name : {u"BEFORE", u"bEfOrE", u"before"}) {
         compiler_.CompileCaption(u"|" + Text(name) + u":1|");
         EXPECT_THAT(Names(), ElementsAre(u"before")) << ToUtf8(name);
     }
-    EXPECT_EQ(Compile(u"|İ:1|"), "line \"|\"\n  i = \"1\"\n");
-    EXPECT_EQ(Compile(u"|İTALİCS:1|"), "line \"|\"\n  italics = \"1|\"\n");
 }
 
 TEST_F(CaptionCompilerTest, NamesThatOnlyResembleWords) {
@@ -219,61 +184,62 @@ TEST_F(CaptionCompilerTest, NamesThatOnlyResembleWords) {
     }
 }
 
-TEST_F(CaptionCompilerTest, ValuesOfSwitches) {
-    EXPECT_EQ(Parameter(u"|B:0|"), u"0");
-    EXPECT_EQ(Parameter(u"|B:False|"), u"0");
-    EXPECT_EQ(Parameter(u"|B:1|"), u"1");
-    EXPECT_EQ(Parameter(u"|B:TRUE|"), u"1");
-    EXPECT_EQ(Parameter(u"|B:On|"), u"on|");
-    EXPECT_EQ(Parameter(u"|B: 1|"), u" 1|");
-    EXPECT_EQ(Parameter(u"|B:|"), u"|");
+// Commands and the parameters that are stored for them
+
+struct StoredParameterTest : CaptionCompilerTest,
+                             ::testing::WithParamInterface<testing::Row<TextView, TextView>> {};
+
+TEST_P(StoredParameterTest, IsStored) {
+    EXPECT_EQ(Parameter(GetParam().input), GetParam().expected);
 }
 
-TEST_F(CaptionCompilerTest, UnterminatedSwitchKeepsItsValueAsWritten) {
-    EXPECT_EQ(Parameter(u"|B:1"), u"1");
-    EXPECT_EQ(Parameter(u"|B:true"), u"true");
-    EXPECT_EQ(Parameter(u"|B:"), u"");
-}
+constexpr testing::Row<TextView, TextView> switchParameters[] = {
+    {"ZeroIsOff", u"|B:0|", u"0"},
+    {"FalseIsOff", u"|B:False|", u"0"},
+    {"OneIsOn", u"|B:1|", u"1"},
+    {"TrueIsOn", u"|B:TRUE|", u"1"},
+    {"AnotherValueIsKept", u"|B:On|", u"on|"},
+    {"AValueWithABlankIsKept", u"|B: 1|", u" 1|"},
+    {"NoValueIsKept", u"|B:|", u"|"},
+    {"UnterminatedOneIsKeptAsWritten", u"|B:1", u"1"},
+    {"UnterminatedTrueIsKeptAsWritten", u"|B:true", u"true"},
+    {"UnterminatedNoValueIsKeptAsWritten", u"|B:", u""},
+};
 
-TEST_F(CaptionCompilerTest, ColourIsStoredAsItsNumber) {
-    EXPECT_EQ(Compile(u"|Fore:0,128,0|Green"), "line \"|Green\"\n  color = \"32768\"\n");
-    EXPECT_EQ(Compile(u"|Color:1,2,3"), "line \"|\"\n  color = \"197121\"\n");
-}
+constexpr testing::Row<TextView, TextView> colourParameters[] = {
+    {"WithoutCommasTheNumberIsBlue", u"|fore:255|", u"16711680"},
+    {"WithOneCommaTheNumbersAreRedAndBlue", u"|fore:1,255|", u"16711681"},
+    {"NothingIsBlack", u"|fore:|", u"0"},
+    {"AWordIsBlack", u"|fore:red|", u"0"},
+    {"EmptyRedAndGreenAreZero", u"|fore:,,255|", u"16711680"},
+    {"EmptyRedAndBlueAreZero", u"|fore:,255,|", u"65280"},
+    {"EmptyGreenAndBlueAreZero", u"|fore:255,,|", u"255"},
+    {"WithMoreCommasItEndsWithTheThirdNumber", u"|fore:1,2,3,4,5|", u"197121"},
+    {"MinusOneIsMasked", u"|fore:-1,0,0|", u"255"},
+    {"A9BitNumberIsMasked", u"|fore:257,0,0|", u"1"},
+    {"AHalfIsRoundedToZero", u"|fore:0.5,0,0|", u"0"},
+    {"OneAndAHalfIsRoundedUp", u"|fore:1.5,0,0|", u"2"},
+    {"TwoAndAHalfIsRoundedDown", u"|fore:2.5,0,0|", u"2"},
+    {"HexadecimalAndOctalNumbersAreRead", u"|fore:&HFF,&O10,&h1|", u"67839"},  // 255, 8, 1
+};
 
-TEST_F(CaptionCompilerTest, ColourWithoutAllItsCommas) {
-    EXPECT_EQ(Parameter(u"|fore:255|"), u"16711680");
-    EXPECT_EQ(Parameter(u"|fore:1,255|"), u"16711681");  // red and blue
-    EXPECT_EQ(Parameter(u"|fore:|"), u"0");
-    EXPECT_EQ(Parameter(u"|fore:red|"), u"0");
-}
+constexpr testing::Row<TextView, TextView> sizeParameters[] = {
+    {"IsStoredAsItsNumber", u"|Size:12|", u" 12"},
+    {"MayHaveAFraction", u"|size:8.25|", u" 8.25"},
+    {"IsReadOverBlanksToTheUnit", u"|size: 1 2 pt|", u" 12"},
+    {"MayBeNegative", u"|size:-3|", u"-3"},
+    {"IsZeroForAWord", u"|size:large|", u" 0"},
+    {"MayBeginWithAPoint", u"|size:.5|", u" .5"},
+    {"OfBeforeIsStoredInSinglePrecision", u"|before:0.1|", u" .1"},
+    {"OfBeforeIsRoundedToSinglePrecision", u"|before:1.23456789|", u" 1.2345679"},
+};
 
-TEST_F(CaptionCompilerTest, ColourWithEmptyComponents) {
-    EXPECT_EQ(Parameter(u"|fore:,,255|"), u"16711680");
-    EXPECT_EQ(Parameter(u"|fore:,255,|"), u"65280");
-    EXPECT_EQ(Parameter(u"|fore:255,,|"), u"255");
-}
-
-TEST_F(CaptionCompilerTest, ColourWithMoreCommasEndsWithTheThirdNumber) {
-    EXPECT_EQ(Parameter(u"|fore:1,2,3,4,5|"), u"197121");
-}
-
-TEST_F(CaptionCompilerTest, ColourComponentsAreMaskedAndRounded) {
-    EXPECT_EQ(Parameter(u"|fore:-1,0,0|"), u"255");
-    EXPECT_EQ(Parameter(u"|fore:257,0,0|"), u"1");
-    EXPECT_EQ(Parameter(u"|fore:0.5,0,0|"), u"0");
-    EXPECT_EQ(Parameter(u"|fore:1.5,0,0|"), u"2");
-    EXPECT_EQ(Parameter(u"|fore:2.5,0,0|"), u"2");
-    EXPECT_EQ(Parameter(u"|fore:&HFF,&O10,&h1|"), u"67839");  // 255, 8, 1
-}
-
-TEST_F(CaptionCompilerTest, SizeIsStoredAsItsNumber) {
-    EXPECT_EQ(Parameter(u"|Size:12|"), u" 12");
-    EXPECT_EQ(Parameter(u"|size:8.25|"), u" 8.25");
-    EXPECT_EQ(Parameter(u"|size: 1 2 pt|"), u" 12");
-    EXPECT_EQ(Parameter(u"|size:-3|"), u"-3");
-    EXPECT_EQ(Parameter(u"|size:large|"), u" 0");
-    EXPECT_EQ(Parameter(u"|size:.5|"), u" .5");
-}
+INSTANTIATE_TEST_SUITE_P(Switches, StoredParameterTest, ::testing::ValuesIn(switchParameters),
+                         testing::RowName());
+INSTANTIATE_TEST_SUITE_P(Colours, StoredParameterTest, ::testing::ValuesIn(colourParameters),
+                         testing::RowName());
+INSTANTIATE_TEST_SUITE_P(Sizes, StoredParameterTest, ::testing::ValuesIn(sizeParameters),
+                         testing::RowName());
 
 TEST_F(CaptionCompilerTest, BeforeWithASignChangesTheValueSoFar) {
     compiler_.CompileCaption(u"|before:100|x|CR||before:+50|y");
@@ -299,16 +265,11 @@ TEST_F(CaptionCompilerTest, BeforeAddsUpInSinglePrecision) {
                 ElementsAre(u" 1.6777216E+07", u" 1.6777216E+07", u" 1.6777216E+07", u" 1"));
 }
 
-TEST_F(CaptionCompilerTest, BeforeIsStoredInSinglePrecision) {
-    EXPECT_EQ(Parameter(u"|before:0.1|"), u" .1");
-    EXPECT_EQ(Parameter(u"|before:1.23456789|"), u" 1.2345679");
-}
-
 // Failures
 
 TEST_F(CaptionCompilerTest, ColourBeyond32BitsIsReportedAndLeavesNoEntry) {
-    EXPECT_EQ(Compile(u"|b:1|a|fore:2147483648|b|i:1|c"),
-              "line \"|a|b|c\"\n  b = \"1\"\n  i = \"1\"\n  (missing)\n");
+    EXPECT_EQ(OneLine(Compile(u"|b:1|a|fore:2147483648|b|i:1|c")),
+              R"(line "|a|b|c";  b = "1";  i = "1";  (missing))");
     EXPECT_THAT(Messages(), ElementsAre(OverflowIn(u"CompileCommand")));
     EXPECT_EQ(module_.reporter.beeps, 1);
 }

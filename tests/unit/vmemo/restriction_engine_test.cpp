@@ -6,6 +6,7 @@
 #include "frame/runtime_error.h"
 #include "frame/utf8.h"
 #include "tests/support/allocation_counter.h"
+#include "tests/support/rows.h"
 
 namespace lumenkit {
 
@@ -52,6 +53,10 @@ Outcome Refused(TextView text = u"") {
     return {Verdict::Refused, Text(text)};
 }
 
+Outcome RefusedAndTrimmed(TextView text = u"") {
+    return {Verdict::RefusedAndTrimmed, Text(text)};
+}
+
 constexpr TextLimits Chars(std::int16_t count) {
     return {.maxCharsPerLine = count};
 }
@@ -59,70 +64,140 @@ constexpr TextLimits Lines(std::int16_t count) {
     return {.maxLines = count};
 }
 
-// ---- Texts that fit
+// ---- Texts, limits and what is left
 
-TEST(RestrictionEngineTest, TextWithinBothLimitsFits) {
-    EXPECT_EQ(Plain(u"abc\r\nde", {3, 2}), Fits(u"abc\r\nde"));
-    EXPECT_EQ(Apply(u"abc\r\nde", {3, 2}), Fits(u"abc\r\nde"));
+constexpr auto plain = RestrictionMode::Plain;
+constexpr auto apply = RestrictionMode::Apply;
+
+struct RestrictedText {
+    const char* name;
+    RestrictionMode mode;
+    TextView text;
+    TextLimits limits;
+    Outcome outcome;
+
+    friend void PrintTo(const RestrictedText& row, std::ostream* out) { *out << row.name; }
+};
+
+struct RestrictedTextTest : ::testing::TestWithParam<RestrictedText> {};
+
+TEST_P(RestrictedTextTest, HasItsOutcome) {
+    const auto& [name, mode, text, limits, outcome] = GetParam();
+    EXPECT_EQ(mode == plain ? Plain(text, limits) : Apply(text, limits), outcome);
 }
 
-TEST(RestrictionEngineTest, EmptyTextFits) {
-    EXPECT_EQ(Plain(u"", {1, 1}), Fits(u""));
-    EXPECT_EQ(Apply(u"", {1, 1}), Fits(u""));
-}
+const RestrictedText fittingTexts[] = {
+    {"TextWithinBothLimits", plain, u"abc\r\nde", {3, 2}, Fits(u"abc\r\nde")},
+    {"TextWithinBothLimitsInApplyMode", apply, u"abc\r\nde", {3, 2}, Fits(u"abc\r\nde")},
+    {"EmptyText", plain, u"", {1, 1}, Fits(u"")},
+    {"EmptyTextInApplyMode", apply, u"", {1, 1}, Fits(u"")},
+    {"WithoutALineLimitThereMayBeAnyNumberOfLines", plain, u"a\r\nb\r\n\r\n\r\n", Chars(1),
+     Fits(u"a\r\nb\r\n\r\n\r\n")},
+    {"LoneLineFeedsAndCarriageReturnsAreNotLineBreaks", plain, u"a\nb\nc\r", Lines(1),
+     Fits(u"a\nb\nc\r")},
+    {"LoneCarriageReturnIsACharacter", plain, u"a\r\r\nb", Chars(2), Fits(u"a\r\r\nb")},
+    {"NoEmptyLineIsCountedBehindATrailingLineBreak", plain, u"a\r\nb\r\n", Lines(3),
+     Fits(u"a\r\nb\r\n")},
+    {"SurrogatePairsAreTwoUnits", plain, u"\U0001F600\U0001F600", Chars(4),
+     Fits(u"\U0001F600\U0001F600")},
+};
 
-TEST(RestrictionEngineTest, WithoutALineLimitThereMayBeAnyNumberOfLines) {
-    EXPECT_EQ(Plain(u"a\r\nb\r\n\r\n\r\n", Chars(1)), Fits(u"a\r\nb\r\n\r\n\r\n"));
-}
+const RestrictedText longLines[] = {
+    {"SurplusIsRefusedInApplyMode", apply, u"abcd", Chars(3), Refused()},
+    {"SurplusIsCutInPlainMode", plain, u"abcd", Chars(3), Refused(u"abc")},
+    {"BlankSurplusIsTrimmedInApplyMode", apply, u"abc ", Chars(3), Trimmed(u"abc")},
+    {"BlankSurplusIsTrimmedInPlainMode", plain, u"abc     ", Chars(3), Trimmed(u"abc")},
+    {"BlanksAroundSomethingRealDoNotHideIt", apply, u"abc  d ", Chars(3), Refused()},
+    {"TheRestOfTheTextStaysBehindACut", plain, u"abc \r\nde", Chars(3), Trimmed(u"abc\r\nde")},
+    {"LoneLineFeedsAreCharacters", plain, u"a\nb\nc", Chars(4), Refused(u"a\nb\n")},
+    {"HalfASurrogatePairMayBeLeft", plain, u"\U0001F600\U0001F600", Chars(3),
+     Refused(Text(u"\U0001F600") + char16_t{0xD83D})},
+};
+
+const RestrictedText manyLines[] = {
+    {"SurplusLinesAreTrimmedInApplyMode", apply, u"ab\r\ncd\r\nef", Lines(2), Trimmed(u"ab\r\ncd")},
+    {"SurplusLinesAreTrimmedInPlainMode", plain, u"ab\r\ncd\r\nef\r\ngh", Lines(2),
+     Trimmed(u"ab\r\ncd")},
+    {"ALineBreakAtTheEndOfTheLastPermittedLineIsCut", plain, u"abc\r\n", Lines(1), Trimmed(u"abc")},
+    {"EnterInTheLastPermittedLineDropsWhatFollowsTheCaret", apply, u"ab\r\nc\r\nd", Lines(2),
+     Trimmed(u"ab\r\nc")},
+};
+
+// The position after a cut
+const RestrictedText cutLines[] = {
+    {"TheLineAfterIsMeasuredFromTooFarOn", plain, u"abcdefgh\r\nxyz1234567\r\nq", Chars(5),
+     Refused(u"abcde\r\nxyz12345\r\nq")},
+    // Six units are cut, so the search continues six units past the line break: at the last y.
+    {"LineBreaksNearACutAreOverlooked", plain, u"abcdefghi\r\nx\r\nyyyy", Chars(3),
+     Refused(u"abc\r\nx\r\nyyyy")},
+    {"OverlookedLinesDoNotCount",
+     plain,
+     u"abcdefghi\r\nx\r\nyyyy\r\nz",
+     {3, 3},
+     Refused(u"abc\r\nx\r\nyyyy\r\nz")},
+    {"LinesThatAreNotOverlookedCount",
+     plain,
+     u"abcdefghi\r\nx\r\nyyyy\r\nz",
+     {3, 2},
+     RefusedAndTrimmed(u"abc\r\nx\r\nyyyy")},
+    {"ACutInTheLastPermittedLineMayLeaveTheCarriageReturn",
+     plain,
+     u"abcd\r\nX",
+     {3, 1},
+     RefusedAndTrimmed(u"abc\r")},
+    {"ACutInTheLastPermittedLineMayLeaveTheLineBreak",
+     plain,
+     u"abcde\r\nX",
+     {3, 1},
+     Refused(u"abc\r\n")},
+    {"ACutThatLeavesTheLineBreakIsRefusedInApplyMode", apply, u"abcde\r\nX", {3, 1}, Refused()},
+    {"ACutInTheLastPermittedLineMayLeaveEverything",
+     plain,
+     u"abcdefgh\r\nX",
+     {3, 1},
+     Refused(u"abc\r\nX")},
+    {"OneRealCharacterLeftOverIsRefused", apply, u"abc  \r\nX", {3, 1}, RefusedAndTrimmed()},
+    {"OneRealCharacterLeftOverIsRefusedInPlainMode",
+     plain,
+     u"abc  \r\nX",
+     {3, 1},
+     RefusedAndTrimmed(u"abc\r\n")},
+    {"OneTabLeftOverIsRefused", apply, u"abc  \r\n\t", {3, 1}, RefusedAndTrimmed()},
+    {"OneBlankLeftOverIsTrimmed", apply, u"abc  \r\n ", {3, 1}, Trimmed(u"abc\r\n")},
+    {"OneCarriageReturnLeftOverIsTrimmed", apply, u"abc  \r\n\r", {3, 1}, Trimmed(u"abc\r\n")},
+    {"HalfALineBreakLeftOverIsTrimmed", apply, u"abc \r\n", {3, 1}, Trimmed(u"abc\r")},
+    {"TwoCharactersLeftOverAreTrimmed", apply, u"abc  \r\nXY", {3, 1}, Trimmed(u"abc\r\n")},
+    {"ASurrogatePairLeftOverIsTwoCharacters",
+     plain,
+     u"abc  \r\n\U0001F600",
+     {3, 1},
+     Trimmed(u"abc\r\n")},
+    {"OneUnitOfASurrogatePairIsOneCharacter",
+     plain,
+     u"abc   \r\n\U0001F600",
+     {3, 1},
+     RefusedAndTrimmed(Text(u"abc\r\n") + char16_t{0xD83D})},
+    {"ARefusalComesTooLateForNoCutBeforeIt", apply, u"abc \r\nabcdef", {3, 0}, RefusedAndTrimmed()},
+};
+
+INSTANTIATE_TEST_SUITE_P(Fitting, RestrictedTextTest, ::testing::ValuesIn(fittingTexts),
+                         testing::RowName());
+INSTANTIATE_TEST_SUITE_P(LongLines, RestrictedTextTest, ::testing::ValuesIn(longLines),
+                         testing::RowName());
+INSTANTIATE_TEST_SUITE_P(ManyLines, RestrictedTextTest, ::testing::ValuesIn(manyLines),
+                         testing::RowName());
+INSTANTIATE_TEST_SUITE_P(CutLines, RestrictedTextTest, ::testing::ValuesIn(cutLines),
+                         testing::RowName());
 
 TEST(RestrictionEngineTest, WithoutACharacterLimitLinesMayHaveAnyLength) {
     const Text line(100000, u'x');
     EXPECT_EQ(Plain(line, Lines(1)), Fits(line));
 }
 
-TEST(RestrictionEngineTest, LoneLineFeedsAndCarriageReturnsAreCharactersNotLineBreaks) {
-    EXPECT_EQ(Plain(u"a\nb\nc\r", Lines(1)), Fits(u"a\nb\nc\r"));
-    EXPECT_EQ(Plain(u"a\nb\nc", Chars(4)), (Outcome{Verdict::Refused, u"a\nb\n"}));
-    EXPECT_EQ(Plain(u"a\r\r\nb", Chars(2)), Fits(u"a\r\r\nb"));
-}
-
-TEST(RestrictionEngineTest, NoEmptyLineIsCountedBehindATrailingLineBreak) {
-    EXPECT_EQ(Plain(u"a\r\nb\r\n", Lines(3)), Fits(u"a\r\nb\r\n"));
-}
-
-// ---- Lines that are too long
-
-TEST(RestrictionEngineTest, SurplusOfALineIsRefusedInApplyMode) {
-    EXPECT_EQ(Apply(u"abcd", Chars(3)), Refused());
-}
-
-TEST(RestrictionEngineTest, SurplusOfALineIsCutInPlainMode) {
-    EXPECT_EQ(Plain(u"abcd", Chars(3)), Refused(u"abc"));
-}
-
-TEST(RestrictionEngineTest, BlankSurplusIsTrimmedInBothModes) {
-    EXPECT_EQ(Apply(u"abc ", Chars(3)), Trimmed(u"abc"));
-    EXPECT_EQ(Plain(u"abc     ", Chars(3)), Trimmed(u"abc"));
-}
-
-TEST(RestrictionEngineTest, BlanksAroundSomethingRealDoNotHideIt) {
-    EXPECT_EQ(Apply(u"abc  d ", Chars(3)), Refused());
-}
-
 TEST(RestrictionEngineTest, OnlyTheBlankIsBlank) {
     for (const char16_t unit : {u'\t', u'\n', u'\r', u'\u00A0', u'\u3000', u'\0'}) {
         EXPECT_EQ(Apply(Text(u"abc") + unit, Chars(3)), Refused()) << static_cast<int>(unit);
     }
-}
-
-TEST(RestrictionEngineTest, TheRestOfTheTextStaysBehindACut) {
-    EXPECT_EQ(Plain(u"abc \r\nde", Chars(3)), Trimmed(u"abc\r\nde"));
-}
-
-TEST(RestrictionEngineTest, LimitsCountUtf16Units) {
-    EXPECT_EQ(Plain(u"\U0001F600\U0001F600", Chars(4)), Fits(u"\U0001F600\U0001F600"));
-    EXPECT_EQ(Plain(u"\U0001F600\U0001F600", Chars(3)),
-              Refused(Text(u"\U0001F600") + char16_t{0xD83D}));
 }
 
 TEST(RestrictionEngineTest, TheLargestLimitsHold) {
@@ -135,77 +210,6 @@ TEST(RestrictionEngineTest, TheLargestLimitsHold) {
     }
     EXPECT_EQ(Plain(lines, {32767, 32767}), Fits(lines));
     EXPECT_EQ(Plain(lines + u"\r\n", {32767, 32767}), Trimmed(lines));
-}
-
-// ---- Too many lines
-
-TEST(RestrictionEngineTest, SurplusLinesAreTrimmedInBothModes) {
-    EXPECT_EQ(Apply(u"ab\r\ncd\r\nef", Lines(2)), Trimmed(u"ab\r\ncd"));
-    EXPECT_EQ(Plain(u"ab\r\ncd\r\nef\r\ngh", Lines(2)), Trimmed(u"ab\r\ncd"));
-}
-
-TEST(RestrictionEngineTest, ALineBreakAtTheEndOfTheLastPermittedLineIsCut) {
-    EXPECT_EQ(Plain(u"abc\r\n", Lines(1)), Trimmed(u"abc"));
-}
-
-TEST(RestrictionEngineTest, EnterInTheLastPermittedLineDropsWhatFollowsTheCaret) {
-    EXPECT_EQ(Apply(u"ab\r\nc\r\nd", Lines(2)), Trimmed(u"ab\r\nc"));
-}
-
-// ---- The position after a cut
-
-TEST(RestrictionEngineTest, TheLineAfterACutIsMeasuredFromTooFarOn) {
-    EXPECT_EQ(Plain(u"abcdefgh\r\nxyz1234567\r\nq", Chars(5)), Refused(u"abcde\r\nxyz12345\r\nq"));
-}
-
-TEST(RestrictionEngineTest, LineBreaksNearACutAreOverlooked) {
-    // Six units are cut, so the search continues six units past the line break: at the last y.
-    EXPECT_EQ(Plain(u"abcdefghi\r\nx\r\nyyyy", Chars(3)), Refused(u"abc\r\nx\r\nyyyy"));
-}
-
-TEST(RestrictionEngineTest, OverlookedLinesDoNotCount) {
-    EXPECT_EQ(Plain(u"abcdefghi\r\nx\r\nyyyy\r\nz", {3, 3}), Refused(u"abc\r\nx\r\nyyyy\r\nz"));
-    EXPECT_EQ(Plain(u"abcdefghi\r\nx\r\nyyyy\r\nz", {3, 2}),
-              (Outcome{Verdict::RefusedAndTrimmed, u"abc\r\nx\r\nyyyy"}));
-}
-
-TEST(RestrictionEngineTest, ACutInTheLastPermittedLineMayLeaveTheCarriageReturn) {
-    EXPECT_EQ(Plain(u"abcd\r\nX", {3, 1}), (Outcome{Verdict::RefusedAndTrimmed, u"abc\r"}));
-}
-
-TEST(RestrictionEngineTest, ACutInTheLastPermittedLineMayLeaveTheLineBreak) {
-    EXPECT_EQ(Plain(u"abcde\r\nX", {3, 1}), Refused(u"abc\r\n"));
-    EXPECT_EQ(Apply(u"abcde\r\nX", {3, 1}), Refused());
-}
-
-TEST(RestrictionEngineTest, ACutInTheLastPermittedLineMayLeaveEverything) {
-    EXPECT_EQ(Plain(u"abcdefgh\r\nX", {3, 1}), Refused(u"abc\r\nX"));
-}
-
-TEST(RestrictionEngineTest, OneRealCharacterLeftOverIsRefused) {
-    EXPECT_EQ(Apply(u"abc  \r\nX", {3, 1}), (Outcome{Verdict::RefusedAndTrimmed, u""}));
-    EXPECT_EQ(Plain(u"abc  \r\nX", {3, 1}), (Outcome{Verdict::RefusedAndTrimmed, u"abc\r\n"}));
-    EXPECT_EQ(Apply(u"abc  \r\n\t", {3, 1}), (Outcome{Verdict::RefusedAndTrimmed, u""}));
-}
-
-TEST(RestrictionEngineTest, OneBlankOrHalfALineBreakLeftOverIsTrimmed) {
-    EXPECT_EQ(Apply(u"abc  \r\n ", {3, 1}), Trimmed(u"abc\r\n"));
-    EXPECT_EQ(Apply(u"abc  \r\n\r", {3, 1}), Trimmed(u"abc\r\n"));
-    EXPECT_EQ(Apply(u"abc \r\n", {3, 1}), Trimmed(u"abc\r"));
-}
-
-TEST(RestrictionEngineTest, TwoCharactersLeftOverAreTrimmed) {
-    EXPECT_EQ(Apply(u"abc  \r\nXY", {3, 1}), Trimmed(u"abc\r\n"));
-}
-
-TEST(RestrictionEngineTest, OneUnitOfASurrogatePairIsOneCharacter) {
-    EXPECT_EQ(Plain(u"abc  \r\n\U0001F600", {3, 1}), Trimmed(u"abc\r\n"));
-    EXPECT_EQ(Plain(u"abc   \r\n\U0001F600", {3, 1}),
-              (Outcome{Verdict::RefusedAndTrimmed, Text(u"abc\r\n") + char16_t{0xD83D}}));
-}
-
-TEST(RestrictionEngineTest, ARefusalComesTooLateForNoCutBeforeIt) {
-    EXPECT_EQ(Apply(u"abc \r\nabcdef", {3, 0}), (Outcome{Verdict::RefusedAndTrimmed, u""}));
 }
 
 // ---- Cost

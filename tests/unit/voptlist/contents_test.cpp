@@ -9,6 +9,7 @@
 
 #include "frame/runtime_error.h"
 #include "frame/utf8.h"
+#include "tests/support/rows.h"
 #include "tests/support/test_rounds.h"
 #include "tests/support/test_seed.h"
 
@@ -36,48 +37,36 @@ std::vector<std::string> Items(TextView contents, std::size_t begin = 0) {
     return items;
 }
 
-TEST(Contents, EmptyTextIsOneEmptyItem) {
-    EXPECT_THAT(Items(u""), ElementsAre(" / "));
+struct ContentsItems : ::testing::TestWithParam<testing::Row<TextView, std::vector<std::string>>> {
+};
+
+TEST_P(ContentsItems, AreWalked) {
+    EXPECT_EQ(Items(GetParam().input), GetParam().expected);
 }
 
-TEST(Contents, SplitsItemsAtBarsAndValueFromCaptionAtTheSemicolon) {
-    EXPECT_THAT(Items(u"0;Item 0"), ElementsAre("0 / Item 0"));
-    EXPECT_THAT(Items(u"1;One|2;Two"), ElementsAre("1 / One", "2 / Two"));
-}
+const testing::Row<TextView, std::vector<std::string>> walkedContents[] = {
+    {"EmptyTextIsOneEmptyItem", u"", {" / "}},
+    {"SemicolonSplitsValueFromCaption", u"0;Item 0", {"0 / Item 0"}},
+    {"BarSplitsItems", u"1;One|2;Two", {"1 / One", "2 / Two"}},
+    {"ItemWithoutSemicolonIsItsOwnValueAndCaption", u"Red", {"Red / Red"}},
+    {"ItemsWithoutSemicolonAreTheirOwnValuesAndCaptions", u"a|b", {"a / a", "b / b"}},
+    {"TrailingBarAddsNoItem", u"0;A|", {"0 / A"}},
+    {"TrailingBarAddsNoItemToSeveral", u"1;One|2;Two|", {"1 / One", "2 / Two"}},
+    {"BarAloneIsOneEmptyItem", u"|", {" / "}},
+    {"TwoBarsAreTwoEmptyItems", u"||", {" / ", " / "}},
+    {"LeadingBarGivesAnEmptyItem", u"|0;A", {" / ", "0 / A"}},
+    {"AdjacentBarsGiveAnEmptyItem", u"0;A||1;B", {"0 / A", " / ", "1 / B"}},
+    {"FurtherSemicolonsBelongToTheCaption", u"1;a;b", {"1 / a;b"}},
+    {"SecondSemicolonIsTheCaption", u"1;;", {"1 / ;"}},
+    {"ValueMayBeEmpty", u";caption", {" / caption"}},
+    {"CaptionMayBeEmpty", u"value;", {"value / "}},
+    {"BothMayBeEmpty", u";", {" / "}},
+    {"BlanksAreNotTrimmed", u" 1 ; One", {" 1  /  One"}},
+    {"BackslashesEscapeNothing", u"\\|a\\;b", {"\\ / \\", "a\\ / b"}},
+    {"LineBreaksAndTabsAreNotTrimmed", u"\r\n;\t", {"\r\n / \t"}},
+};
 
-TEST(Contents, ItemWithoutSemicolonIsItsOwnValueAndCaption) {
-    EXPECT_THAT(Items(u"a|b"), ElementsAre("a / a", "b / b"));
-    EXPECT_THAT(Items(u"Red"), ElementsAre("Red / Red"));
-}
-
-TEST(Contents, TrailingBarAddsNoItem) {
-    EXPECT_THAT(Items(u"0;A|"), ElementsAre("0 / A"));
-    EXPECT_THAT(Items(u"1;One|2;Two|"), ElementsAre("1 / One", "2 / Two"));
-    EXPECT_THAT(Items(u"|"), ElementsAre(" / "));
-    EXPECT_THAT(Items(u"||"), ElementsAre(" / ", " / "));
-}
-
-TEST(Contents, LeadingAndAdjacentBarsGiveEmptyItems) {
-    EXPECT_THAT(Items(u"|0;A"), ElementsAre(" / ", "0 / A"));
-    EXPECT_THAT(Items(u"0;A||1;B"), ElementsAre("0 / A", " / ", "1 / B"));
-}
-
-TEST(Contents, FurtherSemicolonsBelongToTheCaption) {
-    EXPECT_THAT(Items(u"1;a;b"), ElementsAre("1 / a;b"));
-    EXPECT_THAT(Items(u"1;;"), ElementsAre("1 / ;"));
-}
-
-TEST(Contents, ValueOrCaptionMayBeEmpty) {
-    EXPECT_THAT(Items(u";caption"), ElementsAre(" / caption"));
-    EXPECT_THAT(Items(u"value;"), ElementsAre("value / "));
-    EXPECT_THAT(Items(u";"), ElementsAre(" / "));
-}
-
-TEST(Contents, TrimsAndUnescapesNothing) {
-    EXPECT_THAT(Items(u" 1 ; One"), ElementsAre(" 1  /  One"));
-    EXPECT_THAT(Items(u"\\|a\\;b"), ElementsAre("\\ / \\", "a\\ / b"));
-    EXPECT_THAT(Items(u"\r\n;\t"), ElementsAre("\r\n / \t"));
-}
+INSTANTIATE_TEST_SUITE_P(, ContentsItems, ::testing::ValuesIn(walkedContents), testing::RowName());
 
 TEST(Contents, EmbeddedZeroUnitsAndUnpairedSurrogatesAreOrdinary) {
     const Text contents = {u'a', u'\0', u';', u'\xD83D', u'|', u'\xDE00'};

@@ -10,6 +10,7 @@
 #include "runtime/memory/counted_bag.h"
 #include "runtime/memory/property_bag.h"
 #include "tests/support/placed_option_list.h"
+#include "tests/support/rows.h"
 
 namespace lumenkit::testing {
 
@@ -213,7 +214,7 @@ INSTANTIATE_TEST_SUITE_P(
                   Mode::Run,
                   [](auto& p) { p.Placed().Resize(500, 500); },
                   {"UserControl_Resize", "MoveControls"}}),
-    [](const auto& operation) { return operation.param.name; });
+    testing::RowName());
 
 // The click handler has no trap, so its errors are raised to the code that clicks.
 TEST(ClickFault, OfTheUserGoesToTheRuntime) {

@@ -10,6 +10,7 @@
 #include "frame/numbers.h"
 #include "runtime/memory/property_bag.h"
 #include "tests/support/placed_option_list.h"
+#include "tests/support/rows.h"
 
 namespace lumenkit::testing {
 
@@ -226,7 +227,7 @@ INSTANTIATE_TEST_SUITE_P(
         Caller{"Caption", [](auto& p) { p->pLetCaption(u"x"); }, false, false, false},
         Caller{"ListIndex", [](auto& p) { p->pLetListIndex(1); }, false, false, false},
         Caller{"Refresh", [](auto& p) { p->Refresh(); }, false, false, false}),
-    [](const auto& caller) { return caller.param.name; });
+    testing::RowName());
 
 // The cost of assigning contents: only different properties are set.
 class Reassigning : public ::testing::Test {

@@ -3,14 +3,13 @@
 // Each label is drawn as its window is painted, then at one and a half times the size, then with a
 // border.
 #include <cstdio>
-#include <fstream>
-#include <iterator>
 #include <memory>
 #include <string>
 #include <vector>
 
 #include "frame/utf8.h"
 #include "project/lumenkit_classes.h"
+#include "tests/support/file_bytes.h"
 #include "tests/support/picture.h"
 #include "tests/support/windows_form.h"
 
@@ -21,8 +20,7 @@ constexpr SIZE labelSize = {330, 120};
 constexpr int gap = 10;
 
 Text ReadCaption(const char* path) {
-    std::ifstream in(path, std::ios::binary);
-    std::string bytes((std::istreambuf_iterator<char>(in)), std::istreambuf_iterator<char>());
+    std::string bytes = FileBytes(path);
     while (!bytes.empty() && (bytes.back() == '\n' || bytes.back() == '\r')) {
         bytes.pop_back();
     }

@@ -63,6 +63,12 @@ Text LongText(std::size_t length) {
     return text;
 }
 
+// An event of a box, and what the user or the program does to raise it.
+struct RaisedEvent {
+    const char* event;
+    std::function<void(HWND)> act;
+};
+
 class TextBoxTest : public PartsTest {
  protected:
     host::TextBox& Box(TextView text, bool multiLine = true,
@@ -91,6 +97,8 @@ class TextBoxTest : public PartsTest {
         ASSERT_EQ(GetFocus(), Handle());
         recorder_.lines.clear();
     }
+    // Destroys a box while it notifies of the event.
+    void ExpectDestructionDuring(const RaisedEvent& raised, bool multiLine);
 
     Recorder recorder_;
     std::unique_ptr<host::TextBox> box_;
@@ -536,60 +544,63 @@ TEST_F(TextBoxTest, KeepsItsTextWhenItsWindowIsDestroyed) {
     }
 }
 
-TEST_F(TextBoxTest, MayBeDestroyedByWhateverItNotifies) {
-    struct Case {
-        const char* event;
-        std::function<void(HWND)> act;
-    };
-    const Case cases[] = {
-        {"got", [](HWND window) { SetFocus(window); }},
-        {"down 65 0", [](HWND window) { TypeText(window, u"a"); }},
-        {"press 97", [](HWND window) { TypeText(window, u"a"); }},
-        {"change", [](HWND window) { TypeText(window, u"a"); }},
-        {"up 65 0", [](HWND window) { TypeText(window, u"a"); }},
-        {"change", [](HWND window) { TypeText(window, u"\r"); }},
-        {"change", [](HWND window) { Strike(window, VK_DELETE); }},
-        {"change", [](HWND window) { SendMessageW(window, EM_REPLACESEL, TRUE, (LPARAM)L"x"); }},
-        {"change", [](HWND window) { SetWindowTextW(window, L"x"); }},
-        {"change", [](HWND window) { SendMessageW(window, WM_CUT, 0, 0); }},
-        {"mousedown 1 0",
-         [](HWND window) {
-             ClickAt(window, {1, 1});
-         }},
-        {"mouseup 1 0",
-         [](HWND window) {
-             ClickAt(window, {1, 1});
-         }},
-        {"click",
-         [](HWND window) {
-             ClickAt(window, {1, 1});
-         }},
-        {"mousemove 0 0", [](HWND window) { SendMessageW(window, WM_MOUSEMOVE, 0, 0); }},
-        {"dblclick", [](HWND window) { SendMessageW(window, WM_LBUTTONDBLCLK, 1, 0); }},
-    };
-    const int before = testing::WindowCount();
-    for (const bool multiLine : {true, false}) {
-        for (const Case& one : cases) {
-            Box(u"text", multiLine);
-            box_->SetSelLength(2);
-            const HWND window = Handle();
-            if (std::string(one.event) != "got") {
-                SetFocus(window);
-            }
-            recorder_.onEvent = [&](const std::string& line) {
-                if (line == one.event) {
-                    recorder_.onEvent = nullptr;
-                    box_.reset();
-                }
-            };
-            one.act(window);
-            const bool isEnter = std::string(one.event) == "change" && !multiLine;
-            EXPECT_TRUE(box_ == nullptr || isEnter) << one.event << multiLine;
+const RaisedEvent raisedEvents[] = {
+    {"got", [](HWND window) { SetFocus(window); }},
+    {"down 65 0", [](HWND window) { TypeText(window, u"a"); }},
+    {"press 97", [](HWND window) { TypeText(window, u"a"); }},
+    {"change", [](HWND window) { TypeText(window, u"a"); }},
+    {"up 65 0", [](HWND window) { TypeText(window, u"a"); }},
+    {"change", [](HWND window) { TypeText(window, u"\r"); }},
+    {"change", [](HWND window) { Strike(window, VK_DELETE); }},
+    {"change", [](HWND window) { SendMessageW(window, EM_REPLACESEL, TRUE, (LPARAM)L"x"); }},
+    {"change", [](HWND window) { SetWindowTextW(window, L"x"); }},
+    {"change", [](HWND window) { SendMessageW(window, WM_CUT, 0, 0); }},
+    {"mousedown 1 0",
+     [](HWND window) {
+         ClickAt(window, {1, 1});
+     }},
+    {"mouseup 1 0",
+     [](HWND window) {
+         ClickAt(window, {1, 1});
+     }},
+    {"click",
+     [](HWND window) {
+         ClickAt(window, {1, 1});
+     }},
+    {"mousemove 0 0", [](HWND window) { SendMessageW(window, WM_MOUSEMOVE, 0, 0); }},
+    {"dblclick", [](HWND window) { SendMessageW(window, WM_LBUTTONDBLCLK, 1, 0); }},
+};
+
+void TextBoxTest::ExpectDestructionDuring(const RaisedEvent& raised, bool multiLine) {
+    SCOPED_TRACE(raised.event + std::string(multiLine ? ", several lines" : ", one line"));
+    const std::string event = raised.event;
+    Box(u"text", multiLine);
+    box_->SetSelLength(2);
+    const HWND window = Handle();
+    if (event != "got") {
+        SetFocus(window);
+    }
+    recorder_.onEvent = [&](const std::string& line) {
+        if (line == event) {
             recorder_.onEvent = nullptr;
             box_.reset();
-            Pump();
-            EXPECT_FALSE(IsWindow(window)) << one.event << multiLine;
-            recorder_.Take();
+        }
+    };
+    raised.act(window);
+    const bool isEnter = event == "change" && !multiLine;
+    EXPECT_TRUE(box_ == nullptr || isEnter);
+    recorder_.onEvent = nullptr;
+    box_.reset();
+    Pump();
+    EXPECT_FALSE(IsWindow(window));
+    recorder_.Take();
+}
+
+TEST_F(TextBoxTest, MayBeDestroyedByWhateverItNotifies) {
+    const int before = testing::WindowCount();
+    for (const bool multiLine : {true, false}) {
+        for (const RaisedEvent& raised : raisedEvents) {
+            ExpectDestructionDuring(raised, multiLine);
         }
     }
     EXPECT_EQ(testing::WindowCount(), before);

@@ -49,10 +49,9 @@ TEST_F(Designer, SetsWhatBelongsToItAndIsRefusedTheSelection) {
     EXPECT_EQ(TextOf(*list.Get(), L"ItemFontName"), L"Arial");
     EXPECT_EQ(TextOf(*list.Get(), L"LeftMargin"), L"120");
     EXPECT_EQ(TextOf(*list.Get(), L"Spacing"), L"300");
-    Sleep(50);
     EXPECT_THAT(boxes_.Errors(), IsEmpty());
     EXPECT_EQ(Put(*list.Get(), L"Text", Variant(L"x")), S_OK);
-    EXPECT_THAT(boxes_.AwaitErrors(), ElementsAre(L"VOPTLIST pLetText 387"));
+    EXPECT_THAT(boxes_.Errors(), ElementsAre(L"VOPTLIST pLetText 387"));
     Leave(list);
 }
 

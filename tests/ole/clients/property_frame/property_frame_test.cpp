@@ -232,8 +232,7 @@ TEST_F(OwnFrame, AnIllegalIndentIsRefused) {
         Write(L"- ", L"~ ");
         EXPECT_EQ(page_->Apply(), E_FAIL);
         EXPECT_EQ(page_->IsPageDirty(), S_OK) << "it is still to be applied";
-        EXPECT_THAT(boxes.AwaitErrors(),
-                    ElementsAre(L"lumenkit: Illegal indent. Must be 0 to 9999"));
+        EXPECT_THAT(boxes.Errors(), ElementsAre(L"lumenkit: Illegal indent. Must be 0 to 9999"));
         EXPECT_EQ(TextOf(*label_.Get(), L"BulletPrefix"), L"- ");
         EXPECT_EQ(TextOf(*label_.Get(), L"BulletIndent"), L"240");
         Write(L"~ ", L"- ");

@@ -69,13 +69,16 @@ std::optional<std::wstring> TakeLine(std::wstring& text, const std::wstring& pre
 
 }  // namespace
 
-std::optional<Box> CloseBox(DWORD process) {
+std::optional<Box> CloseBox(DWORD process, const std::function<void(const Box&)>& note) {
     BoxSearch search{process};
     EnumWindows(&FindBox, reinterpret_cast<LPARAM>(&search));
     if (search.found == nullptr) {
         return std::nullopt;
     }
     Box box = {TextIn(search.found), LongestLabel(search.found)};
+    if (note) {
+        note(box);
+    }
     PostMessageW(search.found, WM_COMMAND, IDOK, 0);
     for (UINT waited = 0; IsWindow(search.found) && waited < patience; waited += searchPause) {
         Sleep(searchPause);
@@ -117,30 +120,20 @@ std::vector<std::wstring> BoxCloser::Errors() {
     return errors;
 }
 
-std::vector<std::wstring> BoxCloser::AwaitErrors() {
-    constexpr DWORD step = 20;
-    constexpr DWORD longest = 10000;
-    std::vector<std::wstring> errors = Errors();
-    for (DWORD waited = 0; errors.empty() && waited < longest; waited += step) {
-        Sleep(step);
-        errors = Errors();
-    }
-    return errors;
-}
-
 DWORD BoxCloser::Run(void* self) {
     auto& closer = *static_cast<BoxCloser*>(self);
     while (WaitForSingleObject(closer.end_, searchPause) == WAIT_TIMEOUT) {
-        const std::optional<Box> box = CloseBox(GetCurrentProcessId());
-        if (!box) {
-            continue;
-        }
-        const std::wstring error = ErrorIn(*box);
-        EnterCriticalSection(&closer.lock_);
-        closer.errors_.push_back(error.empty() ? box->title + L": " + box->text : error);
-        LeaveCriticalSection(&closer.lock_);
+        CloseBox(GetCurrentProcessId(), [&](const Box& box) { closer.Note(box); });
     }
     return 0;
+}
+
+// Runs while the box is open, so that the error is there when the call returns.
+void BoxCloser::Note(const Box& box) {
+    const std::wstring error = ErrorIn(box);
+    EnterCriticalSection(&lock_);
+    errors_.push_back(error.empty() ? box.title + L": " + box.text : error);
+    LeaveCriticalSection(&lock_);
 }
 
 }  // namespace lumenkit::clients

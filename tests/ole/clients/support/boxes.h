@@ -1,6 +1,7 @@
 // Message boxes of a process under test, read and closed as a user does.
 #pragma once
 
+#include <functional>
 #include <optional>
 #include <string>
 #include <vector>
@@ -14,8 +15,9 @@ struct Box {
     std::wstring text;
 };
 
-/// Reads a message box of the process and presses its button. Returns nothing if there is no box.
-std::optional<Box> CloseBox(DWORD process);
+/// Reads a message box of the process, passes it to `note` and presses its button. Returns nothing
+/// if there is no box.
+std::optional<Box> CloseBox(DWORD process, const std::function<void(const Box&)>& note = {});
 
 /// Returns the error in an error box as "VLABEL pLetFont 13". Returns an empty text if the box
 /// differs in any detail from the boxes of the error reporter.
@@ -30,13 +32,12 @@ class BoxCloser {
     BoxCloser& operator=(const BoxCloser&) = delete;
 
     /// Returns the errors shown since the last call, oldest first. Other boxes give "title: text".
+    /// An error is there when the call that shows its box returns.
     std::vector<std::wstring> Errors();
-    /// The same, but waits up to ten seconds for the first error: a box may still be open when a
-    /// call returns.
-    std::vector<std::wstring> AwaitErrors();
 
  private:
     static DWORD WINAPI Run(void* self);
+    void Note(const Box& box);
 
     HANDLE end_;
     HANDLE thread_ = nullptr;
