@@ -23,6 +23,7 @@ namespace lumenkit::shared {
 template <typename Button>
 class OptionArray : public host::OptionButtons {
  public:
+    ~OptionArray() override = default;
     OptionArray(const OptionArray&) = delete;
     OptionArray& operator=(const OptionArray&) = delete;
 
@@ -50,8 +51,6 @@ class OptionArray : public host::OptionButtons {
     /// `make` creates the elements; see host::Constituents::AddOptionButtons.
     OptionArray(Maker make, const host::OptionButtonDesign& design, host::Frame& frame,
                 host::OptionButtonEvents& events);
-    ~OptionArray() override = default;
-
     const Buttons& All() const { return buttons_; }
 
  private:
