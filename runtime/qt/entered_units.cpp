@@ -15,6 +15,12 @@ bool HoldsOnlyControl(const QKeyEvent& event) {
 
 }  // namespace
 
+bool IsMnemonic(const QKeyEvent& event) {
+    const Qt::KeyboardModifiers held = event.modifiers();
+    const bool isAltGr = (held & (Qt::ControlModifier | Qt::GroupSwitchModifier)) != 0;
+    return held.testFlag(Qt::AltModifier) && !isAltGr && !event.text().isEmpty();
+}
+
 bool IsControlLetter(const QKeyEvent& event) {
     return HoldsOnlyControl(event) && event.key() >= Qt::Key_A && event.key() <= Qt::Key_Z;
 }
@@ -37,9 +43,7 @@ Text EnteredBy(const QKeyEvent& event) {
     if (IsControlLetter(event)) {
         return {static_cast<char16_t>(event.key() - Qt::Key_A + 1)};
     }
-    const bool alt = event.modifiers().testFlag(Qt::AltModifier) &&
-                     !event.modifiers().testFlag(Qt::ControlModifier);
-    return alt ? Text() : ToText(event.text());
+    return IsMnemonic(event) ? Text() : ToText(event.text());
 }
 
 }  // namespace lumenkit::qt

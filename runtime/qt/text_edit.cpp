@@ -11,8 +11,8 @@
 #include <QTextCursor>
 #include <QTextDocument>
 #include <algorithm>
+#include <functional>
 #include <limits>
-#include <memory>
 #include <utility>
 
 #include "runtime/qt/entered_units.h"
@@ -41,6 +41,12 @@ TextView Fitting(TextView text, std::size_t room) {
 
 TextView FirstLine(TextView text) {
     return text.substr(0, text.find_first_of(crLf));
+}
+
+bool IsPartOf(TextView whole, TextView part) {
+    const std::less_equal<> precedes;
+    return precedes(whole.data(), part.data()) &&
+           precedes(part.data(), whole.data() + whole.size());
 }
 
 // Whether a position is between CR and LF.
@@ -87,6 +93,21 @@ class Busy {
     int& tasks_;
 };
 
+// Gives a variable another value as long as this object lives.
+template <typename Value>
+class Meanwhile {
+ public:
+    Meanwhile(Value& variable, Value value)
+        : variable_(variable), former_(std::exchange(variable, value)) {}
+    ~Meanwhile() { variable_ = former_; }
+    Meanwhile(const Meanwhile&) = delete;
+    Meanwhile& operator=(const Meanwhile&) = delete;
+
+ private:
+    Value& variable_;
+    Value former_;
+};
+
 }  // namespace
 
 TextEdit::TextEdit(QWidget* parent, const host::TextBoxDesign& design, host::TextBoxEvents& events,
@@ -95,7 +116,8 @@ TextEdit::TextEdit(QWidget* parent, const host::TextBoxDesign& design, host::Tex
       events_(&events),
       errors_(std::move(errors)),
       multiLine_(design.multiLine),
-      text_(*document(), multiLine_) {
+      text_(*document(), multiLine_),
+      steps_(*document(), text_) {
     const auto policy = [&](host::ScrollBars bar) {
         return design.scrollBars == bar || design.scrollBars == host::ScrollBars::Both
                    ? Qt::ScrollBarAlwaysOn
@@ -118,13 +140,22 @@ TextEdit::TextEdit(QWidget* parent, const host::TextBoxDesign& design, host::Tex
 
 // ---- The selection
 
+bool TextEdit::IsPlaced() const {
+    return placed_ && placed_->version == text_.Version() && placed_->moves == moves_;
+}
+
 TextEdit::Selection TextEdit::Selected() const {
-    if (placed_ && placed_->version == text_.Version() && placed_->moves == moves_) {
+    if (IsPlaced()) {
         return placed_->selection;
     }
     const QTextCursor cursor = textCursor();
     return {.start = text_.ToUnit(cursor.selectionStart()),
             .end = text_.ToUnit(cursor.selectionEnd())};
+}
+
+bool TextEdit::IsInBreak() const {
+    return IsPlaced() && placed_->selection.start == placed_->selection.end &&
+           placed_->selection.start != text_.ToUnit(textCursor().position());
 }
 
 void TextEdit::Select(Selection selection) {
@@ -149,23 +180,42 @@ void TextEdit::SetContents(TextView text) {
     }
 }
 
-// Replaces only the part of the text that differs, so that the rest keeps its layout. Forgets the
-// undo steps.
 void TextEdit::Assign(TextView text) {
     const Busy busy(tasks_);
     const int before = text_.Version();
-    const Difference differing = DifferenceOf(Contents(), text);
-    document()->setUndoRedoEnabled(false);
     QTextCursor cursor(document());
-    cursor.beginEditBlock();
+    switch (assigning_) {
+        case Assigning::Forgets:
+            steps_.Forget(cursor, [&] { Replace(cursor, text); });
+            break;
+        case Assigning::AddsStep:
+            steps_.Record(UndoSteps::Kind::None, cursor, [&] { Replace(cursor, text); });
+            assigning_ = Assigning::AmendsStep;
+            break;
+        case Assigning::AmendsStep: {
+            Text own;
+            if (IsPartOf(Contents(), text)) {
+                text = own = text;  // taking back changes what a view of the text shows
+            }
+            if (steps_.TakeBack(text)) {
+                assigning_ = Assigning::AddsStep;
+            } else {
+                steps_.Amend(cursor, [&] { Replace(cursor, text); });
+            }
+            break;
+        }
+    }
+    moveCursor(QTextCursor::Start);
+    notified_ += text_.Version() - before;  // code needs no notification by an event
+}
+
+// Replaces only the part of the text that differs, so that the rest keeps its layout.
+void TextEdit::Replace(QTextCursor& cursor, TextView text) {
+    const Difference differing = DifferenceOf(Contents(), text);
     cursor.setPosition(text_.ToDocumentPosition(static_cast<std::int32_t>(differing.start)));
     cursor.setPosition(text_.ToDocumentPosition(static_cast<std::int32_t>(differing.oldEnd)),
                        QTextCursor::KeepAnchor);
     text_.Insert(cursor, text.substr(differing.start, differing.newEnd - differing.start));
-    cursor.endEditBlock();
-    document()->setUndoRedoEnabled(true);
-    moveCursor(QTextCursor::Start);
-    notified_ += text_.Version() - before;  // code needs no notification by an event
 }
 
 void TextEdit::FollowDocument(int from, int added) {
@@ -180,17 +230,24 @@ void TextEdit::FollowDocument(int from, int added) {
 
 void TextEdit::NotifyChange() {
     if (std::exchange(notified_, text_.Version()) != text_.Version()) {
-        TellEvent([](host::TextBoxEvents& events) { events.Change(); });
+        HandleEvent(errors_, [this] {
+            Tell(Assigning::AmendsStep, [](host::TextBoxEvents& events) { events.Change(); });
+        });
     }
 }
 
-template <typename Tell>
-void TextEdit::TellEvent(Tell&& tell) {
-    HandleEvent(errors_, [&] {
-        if (events_ != nullptr) {
-            tell(*events_);
-        }
-    });
+// Notifies what the user did.
+template <typename Notify>
+void TextEdit::Tell(Assigning assigning, Notify&& notify) {
+    if (events_ != nullptr) {
+        const Meanwhile meanwhile(assigning_, assigning);
+        notify(*events_);
+    }
+}
+
+template <typename Notify>
+void TextEdit::TellEvent(Notify&& notify) {
+    HandleEvent(errors_, [&] { Tell(Assigning::AddsStep, notify); });
 }
 
 // All changes that one event makes to the text are notified once, after Qt has handled the event.
@@ -236,9 +293,7 @@ void TextEdit::Press(QKeyEvent& event) {
     const std::int16_t pressed = KeyCodeOf(event);
     std::int16_t code = pressed;
     std::int16_t shift = ShiftOf(event.modifiers());
-    if (events_ != nullptr) {
-        events_->KeyDown(code, shift);
-    }
+    Tell(Assigning::AddsStep, [&](host::TextBoxEvents& events) { events.KeyDown(code, shift); });
     if (code == 0 || events_ == nullptr) {
         event.accept();
         return;
@@ -246,13 +301,34 @@ void TextEdit::Press(QKeyEvent& event) {
     const Text entered = EnteredBy(event);
     if (const int other = code == pressed ? 0 : EditingKeyOf(code); other != 0) {
         QKeyEvent replaced(QEvent::KeyPress, other, event.modifiers());
-        QPlainTextEdit::keyPressEvent(&replaced);
+        Act(replaced);
     } else if (entered.empty() && code == pressed) {
-        QPlainTextEdit::keyPressEvent(&event);
+        Act(event);
     }
     if (!entered.empty()) {
         event.setAccepted(event.key() != Qt::Key_Escape);
         Enter(Pressed(entered), event);
+    }
+}
+
+// Handles a key that enters no units.
+void TextEdit::Act(QKeyEvent& event) {
+    if (IsMnemonic(event)) {
+        event.ignore();
+        return;
+    }
+    if (EditingKeyOf(KeyCodeOf(event)) != 0) {
+        const bool wasInBreak = IsInBreak();
+        placed_.reset();  // a caret between CR and LF is before both for the user
+        if (wasInBreak && event.key() == Qt::Key_Left &&
+            !event.modifiers().testFlag(Qt::ControlModifier)) {
+            return;
+        }
+    }
+    if (event.matches(QKeySequence::Delete) && !locked_) {
+        Edit(UndoSteps::Kind::DeletingForward, [](QTextCursor& cursor) { cursor.deleteChar(); });
+    } else {
+        QPlainTextEdit::keyPressEvent(&event);
     }
 }
 
@@ -261,9 +337,7 @@ Text TextEdit::Pressed(TextView units) {
     Text entered;
     for (const char16_t unit : units) {
         auto keyAscii = static_cast<std::int16_t>(unit);
-        if (events_ != nullptr) {
-            events_->KeyPress(keyAscii);
-        }
+        Tell(Assigning::AddsStep, [&](host::TextBoxEvents& events) { events.KeyPress(keyAscii); });
         if (keyAscii != 0) {
             entered += static_cast<char16_t>(keyAscii);
         }
@@ -281,7 +355,7 @@ void TextEdit::Enter(TextView units, const QKeyEvent& event) {
             Command(unit, event);
         }
     }
-    EnterText(text);
+    EnterText(UndoSteps::Kind::Typing, text);
 }
 
 void TextEdit::Command(char16_t unit, const QKeyEvent& event) {
@@ -296,34 +370,55 @@ void TextEdit::Command(char16_t unit, const QKeyEvent& event) {
     } else if (unit == key::cut) {
         CopySelection();
         textCursor().removeSelectedText();
+    } else if (unit == key::redo) {
+        redo();
     } else if (unit == key::undo) {
         event.modifiers().testFlag(Qt::ShiftModifier) ? redo() : undo();
     } else if (unit == key::backspace || unit == key::deleteWord) {
         DeleteBackwards(unit == key::deleteWord);
     } else if ((unit == key::enter || unit == key::lineFeed) && multiLine_) {
-        EnterText(crLf);
+        EnterText(UndoSteps::Kind::None, crLf);
     }
 }
 
-void TextEdit::EnterText(TextView units) {
+void TextEdit::EnterText(UndoSteps::Kind kind, TextView units) {
     if (!units.empty() && !locked_ && units.size() <= Room()) {
-        ReplaceSelection(units);
+        ReplaceSelection(kind, units);
     }
 }
 
 void TextEdit::DeleteBackwards(bool word) {
-    QTextCursor cursor = textCursor();
-    if (word && !cursor.hasSelection()) {
-        cursor.movePosition(QTextCursor::PreviousWord, QTextCursor::KeepAnchor);
-    }
-    cursor.deletePreviousChar();
-    setTextCursor(cursor);
+    Edit(UndoSteps::Kind::DeletingBack, [word](QTextCursor& cursor) {
+        if (word && !cursor.hasSelection()) {
+            cursor.movePosition(QTextCursor::PreviousWord, QTextCursor::KeepAnchor);
+        }
+        cursor.deletePreviousChar();
+    });
 }
 
-void TextEdit::ReplaceSelection(TextView text) {
+void TextEdit::ReplaceSelection(UndoSteps::Kind kind, TextView text) {
+    if (SelectedUnits() == text) {  // no edit, so no undo step
+        QTextCursor cursor = textCursor();
+        cursor.setPosition(cursor.selectionEnd());
+        setTextCursor(cursor);
+        return;
+    }
+    Edit(kind, [&](QTextCursor& cursor) { text_.Insert(cursor, text); });
+}
+
+template <typename Change>
+void TextEdit::Edit(UndoSteps::Kind kind, Change&& change) {
     QTextCursor cursor = textCursor();
-    text_.Insert(cursor, text);
+    steps_.Record(kind, cursor, [&] { change(cursor); });
     setTextCursor(cursor);
+    placed_.reset();
+}
+
+TextView TextEdit::SelectedUnits() const {
+    const QTextCursor cursor = textCursor();
+    const auto start = static_cast<std::size_t>(text_.ToUnit(cursor.selectionStart()));
+    const auto end = static_cast<std::size_t>(text_.ToUnit(cursor.selectionEnd()));
+    return Contents().substr(start, end - start);
 }
 
 // Returns the number of units that may replace the selection.
@@ -368,22 +463,15 @@ void TextEdit::inputMethodEvent(QInputMethodEvent* event) {
 
 // ---- Clipboard and dragging
 
-std::unique_ptr<QMimeData> TextEdit::Copied() const {
-    const QTextCursor cursor = textCursor();
-    const auto start = static_cast<std::size_t>(text_.ToUnit(cursor.selectionStart()));
-    const auto end = static_cast<std::size_t>(text_.ToUnit(cursor.selectionEnd()));
-    return ToMimeData(Contents().substr(start, end - start));
-}
-
 void TextEdit::CopySelection() const {
     if (textCursor().hasSelection()) {
-        QGuiApplication::clipboard()->setMimeData(Copied().release());
+        QGuiApplication::clipboard()->setMimeData(ToMimeData(SelectedUnits()).release());
     }
 }
 
 QMimeData* TextEdit::createMimeDataFromSelection() const {
     QMimeData* copied = nullptr;
-    HandleEvent(errors_, [&] { copied = Copied().release(); });
+    HandleEvent(errors_, [&] { copied = ToMimeData(SelectedUnits()).release(); });
     return copied;
 }
 
@@ -401,9 +489,35 @@ void TextEdit::Insert(const QMimeData& source) {
     const Text text = FromMimeData(source);
     const TextView fitting = Fitting(multiLine_ ? TextView(text) : FirstLine(text), Room());
     if (!fitting.empty()) {
-        ReplaceSelection(fitting);
+        ReplaceSelection(UndoSteps::Kind::None, fitting);
         ensureCursorVisible();
     }
+}
+
+// The source of a move deletes what it moved. If the box did not take all of the text, or the
+// receiver of the events refused it, the source keeps it.
+void TextEdit::dropEvent(QDropEvent* event) {
+    if (locked_) {
+        event->setDropAction(Qt::IgnoreAction);
+        event->ignore();
+        return;
+    }
+    const std::int32_t before = Length();
+    QPlainTextEdit::dropEvent(event);
+    const int dropped = text_.Version();
+    NotifyChange();
+    if (event->dropAction() != Qt::MoveAction || event->source() == viewport()) {
+        return;
+    }
+    const bool mayCopy = event->possibleActions().testFlag(Qt::CopyAction);
+    event->setDropAction(mayCopy ? Qt::CopyAction : Qt::IgnoreAction);
+    HandleEvent(errors_, [&] {
+        const Text text = FromMimeData(*event->mimeData());
+        if (text_.Version() == dropped &&
+            Length() - before == static_cast<std::int32_t>(text.size())) {
+            event->setDropAction(Qt::MoveAction);
+        }
+    });
 }
 
 void TextEdit::SetLocked(bool locked) {

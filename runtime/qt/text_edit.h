@@ -2,12 +2,12 @@
 
 #include <QPlainTextEdit>
 #include <cstdint>
-#include <memory>
 #include <optional>
 
 #include "frame/host/text_box.h"
 #include "runtime/qt/boundary.h"
 #include "runtime/qt/document_text.h"
+#include "runtime/qt/undo_steps.h"
 
 class QKeyEvent;
 
@@ -28,8 +28,10 @@ class TextEdit final : public QPlainTextEdit {
 
     /// Returns a view that is valid until the text changes.
     TextView Contents() const { return text_.Units(); }
-    /// Sets the text, puts the caret before it, clears the undo steps and notifies a change. Does
-    /// nothing if the text is the same.
+    /// Sets the text, puts the caret before it and notifies a change. Does nothing if the text is
+    /// the same. The user can undo an assignment that is made while an event of the user is
+    /// notified; after Change, it is a part of the edit that is notified, and an edit that it takes
+    /// back leaves no undo step. Any other assignment clears the undo steps.
     void SetContents(TextView text);
     std::int32_t Length() const { return text_.Length(); }
 
@@ -62,6 +64,7 @@ class TextEdit final : public QPlainTextEdit {
     QMimeData* createMimeDataFromSelection() const override;
     bool canInsertFromMimeData(const QMimeData* source) const override;
     void insertFromMimeData(const QMimeData* source) override;
+    void dropEvent(QDropEvent* event) override;
 
  private:
     // A selection set by code. It can be where the cursor of the document cannot: between CR and
@@ -72,23 +75,34 @@ class TextEdit final : public QPlainTextEdit {
         int moves = 0;
     };
 
+    // What becomes of the undo steps when code assigns the text.
+    enum class Assigning : std::uint8_t { Forgets, AddsStep, AmendsStep };
+
+    bool IsPlaced() const;
+    bool IsInBreak() const;
     void Assign(TextView text);
+    void Replace(QTextCursor& cursor, TextView text);
     void FollowDocument(int from, int added);
     void NotifyChange();
     template <typename Handle>
     bool During(Handle&& handle);
-    template <typename Tell>
-    void TellEvent(Tell&& tell);
+    template <typename Notify>
+    void Tell(Assigning assigning, Notify&& notify);
+    template <typename Notify>
+    void TellEvent(Notify&& notify);
 
     void Press(QKeyEvent& event);
+    void Act(QKeyEvent& event);
     Text Pressed(TextView units);
     void Enter(TextView units, const QKeyEvent& event);
     void Command(char16_t unit, const QKeyEvent& event);
-    void EnterText(TextView units);
+    void EnterText(UndoSteps::Kind kind, TextView units);
     void DeleteBackwards(bool word);
-    void ReplaceSelection(TextView text);
+    void ReplaceSelection(UndoSteps::Kind kind, TextView text);
+    template <typename Change>
+    void Edit(UndoSteps::Kind kind, Change&& change);
     std::size_t Room() const;
-    std::unique_ptr<QMimeData> Copied() const;
+    TextView SelectedUnits() const;
     void CopySelection() const;
     void Insert(const QMimeData& source);
     host::MouseArguments MouseOf(const QMouseEvent& event) const;
@@ -98,6 +112,8 @@ class TextEdit final : public QPlainTextEdit {
     ErrorSink errors_;
     bool multiLine_;
     DocumentText text_;
+    UndoSteps steps_;
+    Assigning assigning_ = Assigning::Forgets;
     int notified_ = 0;  // the version of the text of which the receiver of the events knows
     int tasks_ = 0;     // the events and assignments in progress, one inside the other
     int moves_ = 0;     // how often the cursor of the document moved

@@ -5,6 +5,9 @@
 #include <QMimeData>
 #include <QScrollBar>
 #include <QTest>
+#include <functional>
+#include <random>
+#include <vector>
 
 #include <gmock/gmock.h>
 
@@ -13,13 +16,17 @@
 #include "runtime/qt/text_box.h"
 #include "tests/support/qt_form.h"
 #include "tests/support/qt_keys.h"
+#include "tests/support/test_rounds.h"
+#include "tests/support/test_seed.h"
 
 namespace lumenkit::qt {
 namespace {
 
 using namespace std::string_literals;
 
+using ::testing::Contains;
 using ::testing::ElementsAre;
+using ::testing::Not;
 using testing::TypeKeys;
 
 class QtMemoTest : public ::testing::Test {
@@ -42,6 +49,21 @@ class QtMemoTest : public ::testing::Test {
         Let(u"MaxLines", lines);
     }
     std::ptrdiff_t Changes() { return std::ranges::count(form_.events, Text(u"Change")); }
+    void Undo() { QTest::keyClick(&Edit(), Qt::Key_Z, Qt::ControlModifier); }
+    void Redo() { QTest::keyClick(&Edit(), Qt::Key_Y, Qt::ControlModifier); }
+    // Drops text of another program, in order to move it. Returns what the program does with it.
+    Qt::DropAction Drop(const QString& text,
+                        Qt::DropActions offered = Qt::CopyAction | Qt::MoveAction) {
+        QMimeData data;
+        data.setText(text);
+        const QPointF place(5, 5);
+        QDragEnterEvent entering(place.toPoint(), offered, &data, Qt::LeftButton,
+                                 Qt::ShiftModifier);
+        QApplication::sendEvent(Edit().viewport(), &entering);
+        QDropEvent drop(place, offered, &data, Qt::LeftButton, Qt::ShiftModifier);
+        QApplication::sendEvent(Edit().viewport(), &drop);
+        return drop.isAccepted() ? drop.dropAction() : Qt::IgnoreAction;
+    }
     void Paste(const QString& text) {
         QApplication::clipboard()->setText(text);
         QTest::keyClick(&Edit(), Qt::Key_V, Qt::ControlModifier);
@@ -256,6 +278,287 @@ TEST_F(QtMemoTest, TextDroppedIntoItIsOneChange) {
     QApplication::sendEvent(Edit().viewport(), &drop);
     EXPECT_EQ(Contents(), u"dropped\r\nhere");
     EXPECT_EQ(Changes(), 1);
+}
+
+TEST_F(QtMemoTest, TextThatIsDroppedWholeIsMoved) {
+    EXPECT_EQ(Drop(QStringLiteral("one\ntwo ")), Qt::MoveAction);
+    EXPECT_EQ(Contents(), u"one\r\ntwo ");
+    Limit(8, 0);
+    EXPECT_EQ(Drop(QStringLiteral("zero\n")), Qt::MoveAction) << "within the limits";
+}
+
+TEST_F(QtMemoTest, TextThatIsNotDroppedWholeIsCopied) {
+    Let(u"Text", Text(u"abc"));
+    Let(u"MaxLength", std::int32_t{5});
+    EXPECT_EQ(Drop(QStringLiteral("hello ")), Qt::CopyAction) << "two units of it";
+    EXPECT_EQ(Contents().size(), 5U);
+    EXPECT_EQ(Drop(QStringLiteral("hello ")), Qt::CopyAction) << "nothing of it";
+    Let(u"MaxLength", std::int32_t{0});
+    Limit(3, 0);
+    Let(u"Text", Text(u"abc"));
+    EXPECT_EQ(Drop(QStringLiteral("hello ")), Qt::CopyAction) << "refused";
+    EXPECT_EQ(Contents(), u"abc");
+    EXPECT_EQ(Drop(QStringLiteral("hello "), Qt::MoveAction), Qt::IgnoreAction)
+        << "refused, and not offered as a copy";
+    EXPECT_EQ(Drop(QStringLiteral("   ")), Qt::CopyAction) << "cut";
+    Let(u"Locked", true);
+    EXPECT_EQ(Drop(QStringLiteral("hello ")), Qt::IgnoreAction);
+    EXPECT_EQ(Contents(), u"abc");
+}
+
+TEST_F(QtMemoTest, AltTypesNothing) {
+    QTest::keyClick(&Edit(), Qt::Key_A, Qt::AltModifier);
+    QTest::keyClick(&Edit(), Qt::Key_A, Qt::AltModifier | Qt::ShiftModifier);
+    EXPECT_EQ(Contents(), u"");
+    EXPECT_THAT(form_.events, Contains(Text(u"KeyDown")));
+    EXPECT_THAT(form_.events, Not(Contains(Text(u"KeyPress"))));
+}
+
+TEST_F(QtMemoTest, AltGrTypesThroughKeyPress) {
+    form_.events.clear();
+    for (const Qt::KeyboardModifiers held :
+         {Qt::KeyboardModifiers(), Qt::ControlModifier | Qt::AltModifier,
+          Qt::KeyboardModifiers(Qt::GroupSwitchModifier),
+          Qt::AltModifier | Qt::GroupSwitchModifier}) {
+        QKeyEvent pressing(QEvent::KeyPress, Qt::Key_At, held, QStringLiteral("@"));
+        QApplication::sendEvent(&Edit(), &pressing);
+    }
+    EXPECT_EQ(Contents(), u"@@@@");
+    EXPECT_EQ(std::ranges::count(form_.events, Text(u"KeyPress")), 4);
+}
+
+TEST_F(QtMemoTest, DeletingMovesACaretSetBeyondTheText) {
+    Let(u"Text", Text(u"a\r\nb"));
+    Box().SetSelStart(1);
+    Box().SetSelLength(2);
+    QTest::keyClick(&Edit(), Qt::Key_Delete);
+    EXPECT_EQ(Contents(), u"ab");
+    EXPECT_EQ(Box().SelLength(), 0);
+    Let(u"Text", Text(u"ab\r\n"));
+    Box().SetSelStart(3);
+    QTest::keyClick(&Edit(), Qt::Key_Delete);
+    EXPECT_EQ(Contents(), u"ab");
+    EXPECT_EQ(Box().SelStart(), 2);
+    Limit(2, 0);
+    Let(u"Text", Text(u"ab"));
+    Box().SetSelStart(2);
+    TypeKeys(Edit(), u"c");
+    EXPECT_EQ(Box().SelStart(), 2);
+}
+
+TEST_F(QtMemoTest, KeysActAsIfTheCaretStoodBeforeTheLineBreak) {
+    Let(u"Text", Text(u"ab\r\ncd"));
+    struct Case {
+        Qt::Key key;
+        std::int32_t expected;
+    };
+    for (const Case& one : {Case{Qt::Key_Left, 2}, Case{Qt::Key_Right, 4}, Case{Qt::Key_Home, 0},
+                            Case{Qt::Key_End, 2}, Case{Qt::Key_Down, 6}}) {
+        Box().SetSelStart(3);
+        QTest::keyClick(&Edit(), one.key);
+        EXPECT_EQ(Box().SelStart(), one.expected) << one.key;
+    }
+    Box().SetSelStart(3);
+    QTest::keyClick(&Edit(), Qt::Key_Shift);
+    EXPECT_EQ(Box().SelStart(), 3);
+    QTest::keyClick(&Edit(), Qt::Key_Delete);
+    EXPECT_EQ(Contents(), u"abcd");
+    EXPECT_EQ(Box().SelStart(), 2);
+}
+
+TEST_F(QtMemoTest, UndoStepsThroughTheAcceptedEdits) {
+    Limit(4, 0);
+    TypeKeys(Edit(), u"ab\rcd");
+    Box().SetSelStart(0);
+    Paste(QStringLiteral("123"));  // refused
+    EXPECT_EQ(Contents(), u"ab\r\ncd");
+    TypeKeys(Edit(), u"xyz");  // z is refused
+    const std::vector<Text> steps = {u"", u"ab", u"ab\r\n", u"ab\r\ncd", u"xyab\r\ncd"};
+    EXPECT_EQ(Contents(), steps.back());
+    for (std::size_t step = steps.size() - 1; step > 0; --step) {
+        form_.events.clear();
+        Undo();
+        EXPECT_EQ(Contents(), steps[step - 1]);
+        EXPECT_EQ(Changes(), 1);
+    }
+    Undo();
+    EXPECT_EQ(Contents(), u"");
+    for (std::size_t step = 1; step < steps.size(); ++step) {
+        form_.events.clear();
+        Redo();
+        EXPECT_EQ(Contents(), steps[step]);
+        EXPECT_EQ(Changes(), 1);
+    }
+}
+
+TEST_F(QtMemoTest, RefusedEditsLeaveNoUndoStep) {
+    Limit(3, 0);
+    TypeKeys(Edit(), u"abc\rde");
+    Box().SetSelStart(3);
+    TypeKeys(Edit(), u"x");
+    QTest::keyClick(&Edit(), Qt::Key_Delete);
+    Paste(QStringLiteral("long"));
+    Drop(QStringLiteral("long"));
+    QInputMethodEvent committing;
+    committing.setCommitString(QStringLiteral("\u4F60"));
+    QApplication::sendEvent(&Edit(), &committing);
+    Box().SetSelStart(5);
+    TypeKeys(Edit(), u"\b");
+    EXPECT_EQ(Contents(), u"abc\r\nde");
+    EXPECT_EQ(Box().SelStart(), 5);
+    Undo();
+    EXPECT_EQ(Contents(), u"abc\r\n");
+    Redo();
+    EXPECT_EQ(Contents(), u"abc\r\nde");
+    Undo();
+    Undo();
+    EXPECT_EQ(Contents(), u"abc");
+}
+
+TEST_F(QtMemoTest, RefusedDeletingLeavesTheDeletingBefore) {
+    Limit(3, 0);
+    TypeKeys(Edit(), u"abc\rde");
+    Box().SetSelStart(1);
+    for (int stroke = 0; stroke < 2; ++stroke) {
+        QTest::keyClick(&Edit(), Qt::Key_Delete);
+    }
+    Limit(1, 0);
+    EXPECT_EQ(Contents(), u"a\r\nde");
+    QTest::keyClick(&Edit(), Qt::Key_Delete);  // joins the lines: refused
+    EXPECT_EQ(Contents(), u"a\r\nde");
+    Limit(3, 0);
+    Undo();
+    EXPECT_EQ(Contents(), u"abc\r\nde");
+    Redo();
+    EXPECT_EQ(Contents(), u"a\r\nde");
+}
+
+TEST_F(QtMemoTest, ARefusedUndoCanStillBeRedone) {
+    TypeKeys(Edit(), u"abcdef");
+    QTest::keyClick(&Edit(), Qt::Key_A, Qt::ControlModifier);
+    TypeKeys(Edit(), u"\b");
+    Limit(3, 0);
+    TypeKeys(Edit(), u"xy");
+    Undo();
+    EXPECT_EQ(Contents(), u"");
+    Undo();
+    EXPECT_EQ(Contents(), u"") << "the six letters no longer fit";
+    Redo();
+    EXPECT_EQ(Contents(), u"xy");
+}
+
+TEST_F(QtMemoTest, ACutIsAPartOfTheEdit) {
+    Limit(0, 2);
+    TypeKeys(Edit(), u"ab\rcd");
+    Box().SetSelStart(5);
+    TypeKeys(Edit(), u"\r");
+    EXPECT_EQ(Contents(), u"ab\r\nc");
+    Undo();
+    EXPECT_EQ(Contents(), u"ab\r\ncd");
+    Redo();
+    EXPECT_EQ(Contents(), u"ab\r\nc");
+}
+
+TEST_F(QtMemoTest, WhatAContainerMakesOfAnEditIsAPartOfIt) {
+    form_.onEvent = [&](TextView name, std::span<Value>) {
+        if (name == u"Change") {
+            Let(u"Text", ToText(ToQString(Contents()).toUpper()));
+        }
+    };
+    TypeKeys(Edit(), u"ab");
+    EXPECT_EQ(Contents(), u"BA") << "each assignment puts the caret before the text";
+    Undo();
+    EXPECT_EQ(Contents(), u"A");
+    Undo();
+    EXPECT_EQ(Contents(), u"");
+    Redo();
+    EXPECT_EQ(Contents(), u"A");
+}
+
+TEST_F(QtMemoTest, AHandlerMaySetAPartOfTheTextItself) {
+    TypeKeys(Edit(), u"abc");
+    form_.onEvent = [&](TextView name, std::span<Value>) {
+        if (name == u"Change" && Contents().size() > 2) {
+            Box().SetText(Box().GetText().substr(1));
+        }
+    };
+    Box().SetSelStart(0);
+    TypeKeys(Edit(), u"x");
+    EXPECT_EQ(Contents(), u"bc");
+    Undo();
+    EXPECT_EQ(Contents(), u"bc") << "the undone text is shortened too";
+}
+
+TEST_F(QtMemoTest, AnAssignmentByCodeForgetsTheUndoSteps) {
+    TypeKeys(Edit(), u"ab");
+    Let(u"Text", Text(u"code"));
+    Undo();
+    Redo();
+    EXPECT_EQ(Contents(), u"code");
+}
+
+bool Fits(TextView text, std::size_t charsPerLine, std::size_t lines) {
+    for (std::size_t line = 1; line <= lines; ++line) {
+        const std::size_t end = std::min(text.find(crLf), text.size());
+        if (end > charsPerLine) {
+            return false;
+        }
+        if (end == text.size()) {
+            return true;
+        }
+        text.remove_prefix(end + crLf.size());
+    }
+    return text.empty();
+}
+
+TEST_F(QtMemoTest, AnyEditsAreUndoneAndRedoneWithinTheLimits) {
+    std::minstd_rand random(testing::TestSeed());
+    // No character is typed twice, so that typing over a selection changes the text.
+    char16_t next = u'\u4E00';
+    const auto type = [&] { TypeKeys(Edit(), Text(1, next++)); };
+    const std::vector<std::function<void()>> actions = {
+        type,
+        [&] {
+            type();
+            type();
+        },
+        [&] { TypeKeys(Edit(), u"\r"); },
+        [&] { TypeKeys(Edit(), u"\b"); },
+        [&] { QTest::keyClick(&Edit(), Qt::Key_Delete); },
+        [&] { QTest::keyClick(&Edit(), Qt::Key_Delete, Qt::ControlModifier); },
+        [&] { QTest::keyClick(&Edit(), Qt::Key_Left); },
+        [&] { QTest::keyClick(&Edit(), Qt::Key_Left, Qt::ShiftModifier); },
+        [&] { QTest::keyClick(&Edit(), Qt::Key_Up); },
+        [&] { Box().SetSelStart(static_cast<std::int32_t>(random() % 12)); },
+        [&] { Box().SetSelLength(static_cast<std::int32_t>(random() % 6)); },
+        [&] { Paste(QStringLiteral("12\n3")); },
+        [&] { Drop(QStringLiteral("four")); },
+        [&] { Undo(); },
+        [&] { Redo(); },
+    };
+    for (int round = 0; round < testing::Rounds(60); ++round) {
+        Let(u"Text", Text());
+        Limit(4, 3);
+        for (int step = 0; step < 40; ++step) {
+            actions[random() % actions.size()]();
+            ASSERT_TRUE(Fits(Contents(), 4, 3)) << ToQString(Contents()).toStdString();
+        }
+        while (Edit().document()->isRedoAvailable()) {
+            Redo();
+        }
+        const Text last = Contents();
+        while (Edit().document()->isUndoAvailable()) {
+            const Text before = Contents();
+            Undo();
+            ASSERT_TRUE(Fits(Contents(), 4, 3));
+            ASSERT_NE(Contents(), before) << "each step changes the text";
+        }
+        ASSERT_EQ(Contents(), u"");
+        while (Edit().document()->isRedoAvailable()) {
+            Redo();
+        }
+        ASSERT_EQ(Contents(), last);
+    }
 }
 
 TEST_F(QtMemoTest, EachSettingShowsItsScrollBars) {

@@ -183,6 +183,18 @@ const std::vector<Act>& Acts() {
              Press(on, Qt::Key_Z);
          },
          AsItIs},
+        {"refused edits", u"VMemo", event,
+         [](Stage& on) {
+             on.Edit().selectAll();
+             TypeKeys(on.Edit(), u"abcd\b\rxyz!");
+             Press(on, Qt::Key_Z);
+             Press(on, Qt::Key_Z);
+             Press(on, Qt::Key_Y);
+         },
+         [](Stage& on) {
+             on.Let(u"MaxCharsPerLine", std::int16_t{3});
+             on.Let(u"Text", Text(u"one"));
+         }},
         {"the memo's mouse", u"VMemo", event,
          [](Stage& on) {
              Click(*on.Edit().viewport());
@@ -212,6 +224,8 @@ const std::vector<Act>& Acts() {
              on.Edit().selectAll();
              TypeKeys(on.Edit(), u"Hello world");
              Press(on, Qt::Key_B);
+             Press(on, Qt::Key_Z);
+             Press(on, Qt::Key_Y);
              Press(on, Qt::Key_S);
          },
          AsItIs},

@@ -65,6 +65,34 @@ TEST_F(QtPageTest, ShortcutsInsertMarkup) {
     EXPECT_EQ(told_, std::vector<bool>{true});
 }
 
+TEST_F(QtPageTest, EachShortcutIsAnUndoStep) {
+    TypeKeys(Caption().Edit(), u"ab");
+    Caption().SetSelection(4, 7);
+    Press(Qt::Key_B);
+    Caption().SetSelStart(0);
+    TypeKeys(Caption().Edit(), u"\"");
+    const std::vector<Text> steps = {u"x abc y", u"abx abc y", u"abx |B:1| y", u"|Q|abx |B:1| y"};
+    EXPECT_EQ(Caption().GetText(), steps[3]);
+    for (std::size_t step = 3; step > 0; --step) {
+        Press(Qt::Key_Z);
+        EXPECT_EQ(Caption().GetText(), steps[step - 1]);
+        EXPECT_EQ(PreviewCaption(), steps[step - 1]);
+    }
+    Press(Qt::Key_Z);
+    EXPECT_EQ(Caption().GetText(), steps[0]) << "the loaded caption is not undone";
+    for (std::size_t step = 1; step < steps.size(); ++step) {
+        Press(Qt::Key_Y);
+        EXPECT_EQ(Caption().GetText(), steps[step]);
+    }
+}
+
+TEST_F(QtPageTest, AltTypesNothingIntoTheCaptionOrTheIndent) {
+    QTest::keyClick(&Caption().Edit(), Qt::Key_QuoteDbl, Qt::AltModifier);
+    QTest::keyClick(&Part<TextBox>(u"txtBulletIndent").Edit(), Qt::Key_A, Qt::AltModifier);
+    EXPECT_EQ(Caption().GetText(), u"x abc y");
+    EXPECT_EQ(Part<TextBox>(u"txtBulletIndent").GetText(), u"0");
+}
+
 TEST_F(QtPageTest, EnterWithASelectionBeeps) {
     Caption().SetSelection(2, 5);
     Press(Qt::Key_Return, {});
