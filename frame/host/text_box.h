@@ -52,7 +52,7 @@ class TextBox : public TextConstituent {
 
     virtual std::int32_t SelStart() const = 0;
     /// Moves the caret to `position`, or to the end when `position` is beyond it, and clears the
-    /// selection. Raises 380 when `position` is negative.
+    /// selection. A position between CR and LF reads back. Raises 380 when it is negative.
     virtual void SetSelStart(std::int32_t position) = 0;
     virtual std::int32_t SelLength() const = 0;
     /// Selects `length` units from SelStart on, or up to the end of the text. Raises 380 when

@@ -225,17 +225,18 @@ void TextBox::Enter(char16_t unit) {
 
 void TextBox::Insert(TextView text) {
     if (text.size() <= Room()) {
-        ReplaceSelection(text);
+        Replace(EditedRange(), text);
     }
 }
 
 void TextBox::DeleteBackwards() {
-    if (selStart_ == selEnd_) {
-        const auto caret = static_cast<std::size_t>(selStart_);
+    Range range = EditedRange();
+    if (range.start == range.end) {
+        const auto caret = static_cast<std::size_t>(range.start);
         const bool pair = caret >= 2 && IsPair(text_[caret - 2], text_[caret - 1]);
-        selStart_ -= std::min(selStart_, pair ? 2 : 1);
+        range.start -= std::min(range.start, pair ? 2 : 1);
     }
-    ReplaceSelection({});
+    Replace(range, {});
 }
 
 void TextBox::ReceiveSelection(std::int32_t start, std::int32_t length) {
@@ -246,7 +247,7 @@ void TextBox::ReceiveSelection(std::int32_t start, std::int32_t length) {
 void TextBox::ReceivePaste(TextView text) {
     const TextView fitting = Fitting(multiLine_ ? text : FirstLine(text), Room());
     if (!fitting.empty()) {
-        ReplaceSelection(fitting);
+        Replace(EditedRange(), fitting);
     }
 }
 
@@ -255,16 +256,29 @@ std::size_t TextBox::Room() const {
     if (maxLength_ == 0) {
         return std::numeric_limits<std::size_t>::max();
     }
-    const std::int32_t kept = Length() - (selEnd_ - selStart_);
+    const Range replaced = EditedRange();
+    const std::int32_t kept = Length() - (replaced.end - replaced.start);
     return static_cast<std::size_t>(std::max(maxLength_ - kept, 0));
 }
 
-void TextBox::ReplaceSelection(TextView replacement) {
-    const auto start = static_cast<std::size_t>(selStart_);
-    const auto length = static_cast<std::size_t>(selEnd_ - selStart_);
+// Returns the selection that the user edits: a position between CR and LF stands for the one before
+// both.
+TextBox::Range TextBox::EditedRange() const {
+    const auto edited = [&](std::int32_t position) {
+        const bool isInBreak =
+            position > 0 &&
+            TextView(text_).substr(static_cast<std::size_t>(position) - 1, 2) == crLf;
+        return isInBreak ? position - 1 : position;
+    };
+    return {.start = edited(selStart_), .end = edited(selEnd_)};
+}
+
+void TextBox::Replace(Range range, TextView replacement) {
+    const auto start = static_cast<std::size_t>(range.start);
+    const auto length = static_cast<std::size_t>(range.end - range.start);
     const bool changes = TextView(text_).substr(start, length) != replacement;
     text_.replace(start, length, replacement);
-    selStart_ += static_cast<std::int32_t>(replacement.size());
+    selStart_ = range.start + static_cast<std::int32_t>(replacement.size());
     selEnd_ = selStart_;
     if (changes) {
         events_.Change();

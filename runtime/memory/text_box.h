@@ -51,13 +51,19 @@ class TextBox final : public BasicTextConstituent<host::TextBox> {
     void ReceivePaste(TextView text);
 
  private:
+    struct Range {
+        std::int32_t start = 0;
+        std::int32_t end = 0;
+    };
+
     std::int32_t Length() const { return static_cast<std::int32_t>(text_.size()); }
     std::size_t Room() const;
     void PressKey(char16_t unit);
     void Enter(char16_t unit);
     void Insert(TextView text);
     void DeleteBackwards();
-    void ReplaceSelection(TextView replacement);
+    Range EditedRange() const;
+    void Replace(Range range, TextView replacement);
 
     host::TextBoxEvents& events_;
     Text text_;

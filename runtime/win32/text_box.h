@@ -72,6 +72,7 @@ class TextBox final : public BasicTextConstituent<host::TextBox> {
     LRESULT ButtonGoesUp(UINT message, WPARAM wParam, LPARAM lParam);
     LRESULT MouseMoves(UINT message, WPARAM wParam, LPARAM lParam);
     void Paste();
+    bool LeaveBreak();
 
     host::TextBoxEvents& events_;
     mutable Text copy_;              // used where the text cannot be read in place

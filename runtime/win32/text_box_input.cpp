@@ -15,6 +15,7 @@ namespace {
 constexpr char16_t paste = 22;  // Ctrl+V
 constexpr char16_t escape = 27;
 constexpr char16_t deleteCharacter = 127;
+constexpr std::int16_t controlHeld = 2;
 
 TextView FirstLine(TextView text) {
     return text.substr(0, text.find_first_of(crLf));
@@ -122,7 +123,9 @@ LRESULT TextBox::KeyGoesDown(UINT message, WPARAM wParam, LPARAM lParam) {
     keyIsTaken_ = keyCode == 0;
     // Escape in a multi-line box would close the dialog that contains the box.
     const bool closes = multiLine_ && keyCode == VK_ESCAPE;
-    return keyIsTaken_ || closes ? 0 : Pass(message, static_cast<WPARAM>(keyCode), lParam);
+    const bool edits = keyCode == VK_DELETE || (keyCode >= VK_PRIOR && keyCode <= VK_DOWN);
+    const bool moved = edits && LeaveBreak() && keyCode == VK_LEFT && (shift & controlHeld) == 0;
+    return keyIsTaken_ || closes || moved ? 0 : Pass(message, static_cast<WPARAM>(keyCode), lParam);
 }
 
 LRESULT TextBox::KeyIsPressed(WPARAM wParam, LPARAM lParam) {
@@ -140,7 +143,29 @@ LRESULT TextBox::KeyIsPressed(WPARAM wParam, LPARAM lParam) {
         Paste();
         return 0;
     }
+    LeaveBreak();
     return Pass(WM_CHAR, unit, lParam);
+}
+
+// Moves a caret between CR and LF before both, where the user sees it, and so each end of a
+// selection. Returns whether a caret was moved.
+bool TextBox::LeaveBreak() {
+    if (!multiLine_) {
+        return false;
+    }
+    const TextView text = GetText();
+    const auto left = [&](std::int32_t position) {
+        const bool isInBreak =
+            position > 0 && text.substr(static_cast<std::size_t>(position) - 1, 2) == crLf;
+        return isInBreak ? position - 1 : position;
+    };
+    const Range selection = Selection();
+    const Range shown = {left(selection.start), left(selection.end)};
+    if (shown.start == selection.start && shown.end == selection.end) {
+        return false;
+    }
+    Select(shown.start, shown.end);
+    return selection.start == selection.end;
 }
 
 // Whether the edit control receives the unit. Units at which it would only beep are dropped, and so
@@ -239,6 +264,7 @@ void TextBox::Paste() {
         return;
     }
     const Text text = ClipboardText(Handle());
+    LeaveBreak();
     const TextView fitting = WithoutHalfPair(multiLine_ ? TextView(text) : FirstLine(text), Room());
     if (!fitting.empty()) {
         const std::wstring wide = ToWide(fitting);

@@ -245,6 +245,34 @@ TEST_P(TextBoxContract, BackspaceDeletesALineBreakAsOne) {
     EXPECT_EQ(box.GetText(), u"");
 }
 
+TEST_P(TextBoxContract, ACaretInsideALineBreakReadsBack) {
+    host::TextBox& box = Box(u"ab\r\ncd");
+    box.SetSelStart(3);
+    EXPECT_EQ(box.SelStart(), 3);
+    EXPECT_EQ(Selected(), (Selection{3, 3}));
+    box.SetSelection(3, 5);
+    EXPECT_EQ(Selected(), (Selection{3, 5}));
+}
+
+TEST_P(TextBoxContract, TheUserEditsBeforeALineBreakThatHoldsTheCaret) {
+    host::TextBox& box = FocusedBox(u"ab\r\ncd");
+    box.SetSelStart(3);
+    runtime_->Type(box, u"x");
+    EXPECT_EQ(box.GetText(), u"abx\r\ncd");
+    EXPECT_EQ(Selected(), (Selection{3, 3}));
+    box.SetSelStart(4);
+    runtime_->Type(box, u"\b");
+    EXPECT_EQ(box.GetText(), u"ab\r\ncd");
+    EXPECT_EQ(Selected(), (Selection{2, 2}));
+    box.SetSelStart(3);
+    runtime_->Paste(box, u"1\r\n2");
+    EXPECT_EQ(box.GetText(), u"ab1\r\n2\r\ncd");
+    EXPECT_EQ(Selected(), (Selection{6, 6}));
+    box.SetSelection(7, 9);
+    runtime_->Type(box, u"x");
+    EXPECT_EQ(box.GetText(), u"ab1\r\n2xd") << "a line break is replaced as a whole";
+}
+
 TEST_P(TextBoxContract, TypingReplacesTheSelection) {
     host::TextBox& box = FocusedBox(u"abcd");
     runtime_->Select(box, 1, 2);

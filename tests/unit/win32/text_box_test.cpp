@@ -251,6 +251,27 @@ TEST_F(TextBoxTest, TheUserMayEnterMoreThanThePlatformsUsualLimit) {
     EXPECT_EQ(box.GetText().size(), 140'002U);
 }
 
+TEST_F(TextBoxTest, KeysActAsIfTheCaretStoodBeforeTheLineBreak) {
+    struct Case {
+        WORD key;
+        std::int32_t expected;
+    };
+    host::TextBox& box = Box(u"ab\r\ncd");
+    Focus();
+    for (const Case& one : {Case{VK_LEFT, 2}, Case{VK_RIGHT, 4}, Case{VK_HOME, 0}, Case{VK_END, 2},
+                            Case{VK_DOWN, 6}}) {
+        box.SetSelStart(3);
+        Strike(Handle(), one.key);
+        EXPECT_EQ(box.SelStart(), one.expected) << one.key;
+    }
+    box.SetSelStart(3);
+    Strike(Handle(), VK_SHIFT);
+    EXPECT_EQ(box.SelStart(), 3);
+    Strike(Handle(), VK_DELETE);
+    EXPECT_EQ(box.GetText(), u"abcd");
+    EXPECT_EQ(box.SelStart(), 2);
+}
+
 TEST_F(TextBoxTest, EveryEditIsOneChange) {
     host::TextBox& box = Box(u"abcdef");
     Focus();
