@@ -44,7 +44,7 @@ TextView FirstLine(TextView text) {
 }
 
 bool IsPartOf(TextView whole, TextView part) {
-    const std::less_equal<const char16_t*> precedes;
+    const std::less_equal<> precedes;
     return precedes(whole.data(), part.data()) &&
            precedes(part.data(), whole.data() + whole.size());
 }

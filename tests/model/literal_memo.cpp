@@ -13,11 +13,16 @@ int Length(const Text& text) {
     return static_cast<int>(text.size());
 }
 
+bool IsLineBreak(const Text& text, int first) {
+    const auto at = static_cast<std::size_t>(first);
+    return text.at(at) == u'\r' && text.at(at + 1) == u'\n';
+}
+
 bool IsPair(const Text& text, int first) {
     const auto at = static_cast<std::size_t>(first);
     const char16_t one = text.at(at);
     const char16_t two = text.at(at + 1);
-    return (one == u'\r' && two == u'\n') ||
+    return IsLineBreak(text, first) ||
            (one >= 0xD800 && one <= 0xDBFF && two >= 0xDC00 && two <= 0xDFFF);
 }
 
@@ -204,16 +209,30 @@ void LiteralMemo::PutSelStart(int index, int position) {
     box.selLength = 0;
 }
 
-void LiteralMemo::Replace(Box& box, const Text& replacement) {
+void LiteralMemo::Replace(Box& box, int start, int end, const Text& replacement) {
     const Text before = box.text;
-    const auto start = static_cast<std::size_t>(box.selStart);
-    box.text = before.substr(0, start) + replacement +
-               before.substr(start + static_cast<std::size_t>(box.selLength));
-    box.selStart += Length(replacement);
+    box.text = before.substr(0, static_cast<std::size_t>(start)) + replacement +
+               before.substr(static_cast<std::size_t>(end));
+    box.selStart = start + Length(replacement);
     box.selLength = 0;
     if (box.text != before) {
         Text1_Change(static_cast<int>(&box - boxes.data()));
     }
+}
+
+// Returns the ends of the selection that the user edits. A position between CR and LF stands for
+// the one before both.
+std::pair<int, int> LiteralMemo::EditedRange(const Box& box) {
+    int start = box.selStart;
+    if (start > 0 && start < Length(box.text) && IsLineBreak(box.text, start - 1)) {
+        --start;
+        ++seen["edits inside a line break"];
+    }
+    int end = box.selStart + box.selLength;
+    if (end > 0 && end < Length(box.text) && IsLineBreak(box.text, end - 1)) {
+        --end;
+    }
+    return {start, end};
 }
 
 // ---- The user
@@ -224,21 +243,20 @@ void LiteralMemo::Type(char16_t unit) {
     m_LastKeyCode = unit == u'\r' ? 13 : 1;  // other keys: any code but Enter's
     RaiseEvent("KeyDown");
     RaiseEvent("KeyPress");
-    const int kept = Length(box.text) - box.selLength;
+    auto [start, end] = EditedRange(box);
+    const int kept = Length(box.text) - (end - start);
     const auto fits = [&](int count) {
         return box.maxLength == 0 || kept + count <= box.maxLength;
     };
     if (!box.locked) {
         if (unit == u'\b') {
-            if (box.selLength == 0 && box.selStart > 0) {
-                const bool pair = box.selStart >= 2 && IsPair(box.text, box.selStart - 2);
-                box.selLength = pair ? 2 : 1;
-                box.selStart -= box.selLength;
+            if (start == end && start > 0) {
+                start -= start >= 2 && IsPair(box.text, start - 2) ? 2 : 1;
             }
-            Replace(box, u"");
+            Replace(box, start, end, u"");
         } else if (const Text entered = unit == u'\r' ? Text(u"\r\n") : Text(1, unit);
                    fits(Length(entered))) {
-            Replace(box, entered);
+            Replace(box, start, end, entered);
         } else {
             ++seen["keys without room"];
         }
@@ -252,9 +270,10 @@ void LiteralMemo::Paste(const Text& text) {
     if (box.locked) {
         return;
     }
+    const auto [start, end] = EditedRange(box);
     Text pasted = text;
     if (box.maxLength != 0) {
-        const int room = std::max(box.maxLength - (Length(box.text) - box.selLength), 0);
+        const int room = std::max(box.maxLength - (Length(box.text) - (end - start)), 0);
         if (room < Length(pasted)) {
             const bool splits = room > 0 && IsPair(pasted, room - 1);
             pasted.resize(static_cast<std::size_t>(splits ? room - 1 : room));
@@ -262,7 +281,7 @@ void LiteralMemo::Paste(const Text& text) {
         }
     }
     if (!pasted.empty()) {
-        Replace(box, pasted);
+        Replace(box, start, end, pasted);
     }
 }
 

@@ -6,6 +6,7 @@
 #include <functional>
 #include <map>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "frame/text.h"
@@ -82,7 +83,8 @@ class LiteralMemo {
     void PutText(int index, Text text);
     void PutSelLength(int index, int length);
     void PutSelStart(int index, int position);
-    void Replace(Box& box, const Text& replacement);
+    void Replace(Box& box, int start, int end, const Text& replacement);
+    std::pair<int, int> EditedRange(const Box& box);
 };
 
 }  // namespace lumenkit::testing

@@ -373,6 +373,7 @@ TEST(MemoModelTest, TheControlDoesWhatItsModelDoes) {
                       "boxes that are missing",
                       "other boxes shown",
                       "edits of a hidden box put right",
+                      "edits inside a line break",
                       "keys without room",
                       "pastes cut to the room",
                       "pages too wide",
