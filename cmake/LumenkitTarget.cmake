@@ -17,7 +17,12 @@ endif()
 add_library(lumenkit_settings INTERFACE)
 target_include_directories(lumenkit_settings INTERFACE "${PROJECT_SOURCE_DIR}")
 target_compile_features(lumenkit_settings INTERFACE cxx_std_20)
-set(warnings -Wall -Wextra -Wpedantic -Wconversion -Wshadow)
+set(warnings -Wall -Wextra -Wpedantic -Wconversion)
+# Where sources are compiled together, a local may shadow a name of another source. g++ does not count
+# that, clang does.
+if(NOT (CMAKE_UNITY_BUILD AND CMAKE_CXX_COMPILER_ID MATCHES "Clang"))
+    list(APPEND warnings -Wshadow)
+endif()
 if(LUMENKIT_WERROR)
     target_compile_options(lumenkit_settings INTERFACE ${warnings} -Werror)
 elseif(PROJECT_IS_TOP_LEVEL)

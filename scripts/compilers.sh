@@ -9,7 +9,7 @@ cd "$(dirname "$0")/.."
 compilers=(clang++-14 clang++-15 clang++-16 clang++-19)
 
 # commands BUILD: how each unit is compiled, one a line. What Qt generates is left out. A local may
-# shadow a name of another source in its unit; the builds with g++ and clang tell of the others.
+# shadow a name of another source in its unit; the build with g++ reports the others.
 commands() {
     python3 - "$1/compile_commands.json" <<'PYTHON'
 import json

@@ -7,7 +7,7 @@
 # A file that is a program runs in Wine of its own bitness. LUMENKIT_WINE_BITS=32 asks for 32 bits
 # where no file tells: for programs of Wine, Linux commands and the prefix (default 64).
 # The Wine prefixes are made at first use, in build/. LUMENKIT_WINE_PREFIX names another folder for
-# the one in use; LUMENKIT_WINE_SECONDS limits how long a program may run (default 300).
+# the one in use; LUMENKIT_WINE_SECONDS limits how long a program may run (default 900).
 # --screen with a file that ends in .exe runs that; anything else is run as a Linux command that
 # finds Wine's settings and DISPLAY in its environment.
 set -euo pipefail
@@ -54,7 +54,7 @@ declare -A prefixes=(
     [32]=$top/build/wine-prefix-32${screen:+-screen}
 )
 prefix=${LUMENKIT_WINE_PREFIX:-${prefixes[$bits]}}
-seconds=${LUMENKIT_WINE_SECONDS:-300}
+seconds=${LUMENKIT_WINE_SECONDS:-900}
 export LUMENKIT_WINE_BITS=$bits WINEPREFIX=$prefix WINEARCH=win$bits WINEDEBUG=${WINEDEBUG:--all}
 export WINEDLLOVERRIDES="mscoree,mshtml=" LC_ALL=C.UTF-8
 unset DISPLAY WAYLAND_DISPLAY
