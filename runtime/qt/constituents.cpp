@@ -68,13 +68,13 @@ Element* Constituents::Find(TextView name, std::int16_t index) const {
     return found == All().end() ? nullptr : *found;
 }
 
-void Constituents::Disconnect() {
+void Constituents::Disconnect() const {
     for (Element* element : All()) {
         element->Disconnect();
     }
 }
 
-void Constituents::ShowColors() {
+void Constituents::ShowColors() const {
     for (Element* element : All()) {
         element->ShowColors();
     }

@@ -51,9 +51,9 @@ class Constituents final : public host::Constituents {
     Element* Find(TextView name, std::int16_t index = -1) const;
 
     /// Stops the notifications of all constituents. Called before their control is destroyed.
-    void Disconnect();
+    void Disconnect() const;
     /// Called when the colours of the area's palette changed.
-    void ShowColors();
+    void ShowColors() const;
 
  private:
     Elements elements_;
