@@ -39,8 +39,9 @@ constexpr std::array<const char*, 4> classes = {"CommandButton", "TextBox", "Che
 host::Placement PlaceOf(int index) {
     constexpr float width = 720;
     constexpr float height = 360;
+    const int row = index / columns;
     return {.left = static_cast<float>(index % columns) * width,
-            .top = static_cast<float>(index / columns) * height,
+            .top = static_cast<float>(row) * height,
             .width = width - 60,
             .height = height - 60};
 }
@@ -141,7 +142,7 @@ class Dragged {
         QApplication::sendEvent(glass_, &event);
     }
 
-    lumenform::Design design_;
+    lumenform::FormDesign design_;
     StageWindow window_;
     lumenform::Glass* glass_;
     QPoint start_;

@@ -51,14 +51,15 @@ constexpr const TypeDescription& Describe(ValueType type) {
     return typeDescriptions[static_cast<std::size_t>(type)];
 }
 
-static_assert([] {
-    for (std::size_t i = 0; i < typeDescriptions.size(); ++i) {
-        if (typeDescriptions[i].type != static_cast<ValueType>(i)) {
+constexpr bool AreTypesInOrder() {
+    for (std::size_t index = 0; index < typeDescriptions.size(); ++index) {
+        if (typeDescriptions[index].type != static_cast<ValueType>(index)) {
             return false;
         }
     }
     return true;
-}());
+}
+static_assert(AreTypesInOrder());
 
 constexpr bool IsEnumeration(ValueType type) {
     return Describe(type).name == nullptr;

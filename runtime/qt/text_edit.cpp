@@ -183,7 +183,7 @@ void TextEdit::SetContents(TextView text) {
 void TextEdit::Assign(TextView text) {
     const Busy busy(tasks_);
     const int before = text_.Version();
-    QTextCursor cursor(document());
+    QTextCursor cursor = textCursor();  // undoing puts the caret back there
     switch (assigning_) {
         case Assigning::Forgets:
             steps_.Forget(cursor, [&] { Replace(cursor, text); });

@@ -15,7 +15,7 @@ inline constexpr UINT constituentFocusMessage = WM_APP + 1;
 struct Elements {
     const Context& context;
     Window& window;
-    bool userMode;  ///< passed on to embedded controls
+    bool userMode = true;  ///< passed on to embedded controls
     Resolution resolution = Resolution::OfScreen();
 };
 

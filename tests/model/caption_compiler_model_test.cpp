@@ -204,7 +204,7 @@ class Features {
          }},
         {"command without an end position",
          [](TextView caption, const std::string&, const LiteralCaption& literal) {
-             return caption.size() == 32767 && caption.find(u"|") >= 32760 &&
+             return caption.size() == 32767 && caption.find(u'|') >= 32760 &&
                     Reported(literal, u"CompileCaption");
          }},
     };

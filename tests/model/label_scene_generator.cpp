@@ -79,14 +79,18 @@ Text LabelSceneGenerator::Words() {
 }
 
 Text LabelSceneGenerator::Word() {
+    Text word;
     switch (Below(8)) {
         case 0:
-            return Text(Below(30), u'w');
+            word.assign(Below(30), u'w');
+            break;
         case 1:
-            return Text(TextOf({u"*", u"* ", u"-", u"a ", u"\t", u"\U0001F600", u"Ä"}));
+            word = TextOf({u"*", u"* ", u"-", u"a ", u"\t", u"\U0001F600", u"Ä"});
+            break;
         default:
-            return Text(1 + Below(8), u'x');
+            word.assign(1 + Below(8), u'x');
     }
+    return word;
 }
 
 Text LabelSceneGenerator::Command() {

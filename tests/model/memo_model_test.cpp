@@ -227,7 +227,7 @@ Text Session::BarelyTooMuch() {
         text += u"a\r\n";
     }
     text.append(static_cast<std::size_t>(std::max(model_->m_MaxCharsPerLine, 0)), u'b');
-    text.append(static_cast<std::size_t>(1 + generator_.Below(4)), u' ');
+    text.append(1 + static_cast<std::size_t>(generator_.Below(4)), u' ');
     text += u"\r\n";
     text += u"x \r\n"[generator_.Below(4)];
     return text;

@@ -378,7 +378,8 @@ std::vector<ListStep> StepsFromBytes(std::string_view bytes) {
     while (!input.AtEnd() && steps.size() < mostSteps) {
         ListStep step;
         step.action = static_cast<ListAction>(input.Byte() % static_cast<int>(ListAction::Count));
-        step.number = static_cast<std::int8_t>(input.Byte());
+        const int byte = input.Byte();
+        step.number = static_cast<std::int16_t>(byte < 128 ? byte : byte - 256);
         step.distance = step.number == std::numeric_limits<std::int8_t>::max()
                             ? 3e38F
                             : 25.5F * static_cast<float>(step.number);

@@ -48,7 +48,8 @@ QSize PixelsOf(FormSize size) {
 QWidget* FirstStop(const LiveControl& control) {
     QWidget& widget = control.Widget();
     const auto takes = [&widget](const QWidget* part) {
-        return (part->focusPolicy() & Qt::TabFocus) == Qt::TabFocus && part->isVisibleTo(&widget);
+        const bool isShown = part == &widget ? !part->isHidden() : part->isVisibleTo(&widget);
+        return (part->focusPolicy() & Qt::TabFocus) == Qt::TabFocus && isShown;
     };
     if (takes(&widget)) {
         return &widget;

@@ -33,7 +33,14 @@ RunWindow::RunWindow(const qt::Context& context, forms::Document& document)
     AddLog();
     resize(sizeHint().boundedTo(screen()->availableSize()));
     view_->OnRaised([this](const ControlEvent& event) { log_->Add(event); });
-    view_->FocusFirst();
+}
+
+// Only controls that are shown take the focus.
+void RunWindow::showEvent(QShowEvent* event) {
+    QMainWindow::showEvent(event);
+    if (focusWidget() == nullptr) {
+        view_->FocusFirst();
+    }
 }
 
 void RunWindow::AddLog() {

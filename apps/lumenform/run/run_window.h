@@ -18,6 +18,9 @@ class RunWindow final : public QMainWindow {
     FormView& View() const { return *view_; }
     EventLog& Log() const { return *log_; }
 
+ protected:
+    void showEvent(QShowEvent* event) override;
+
  private:
     void AddLog();
     void AddMenus(QDockWidget& dock);

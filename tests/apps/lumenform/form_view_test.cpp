@@ -36,6 +36,14 @@ std::string MessageOf(const std::string& inner) {
     return {};
 }
 
+TEST(FormView, TheMnemonicOfALabelLeadsToTheNextControlOfAnyKind) {
+    const LoadedView view(forms::Load(sampleForms / "order.frm"));
+    QTest::keyClick(view.window.focusWidget(), Qt::Key_Y, Qt::AltModifier);
+    EXPECT_EQ(view.window.focusWidget(), &view.Control(u"txtName").Widget());
+    QTest::keyClick(view.window.focusWidget(), Qt::Key_P, Qt::AltModifier);
+    EXPECT_TRUE(view.Control(u"memPrint").Widget().isAncestorOf(view.window.focusWidget()));
+}
+
 TEST(FormView, EverySampleOpensAndIsSavedAsItWas) {
     int count = 0;
     for (const auto& entry : fs::directory_iterator(sampleForms)) {

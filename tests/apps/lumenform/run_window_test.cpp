@@ -30,6 +30,12 @@ TEST_F(RunWindowTest, BearsTheCaption) {
     EXPECT_EQ(window_.windowTitle(), "Options");
 }
 
+TEST_F(RunWindowTest, StartsAtTheFirstTabStop) {
+    lumenform::LiveControl& options = *window_.View().Find(u"VOptList1");
+    ASSERT_NE(QApplication::focusWidget(), nullptr);
+    EXPECT_TRUE(options.Widget().isAncestorOf(QApplication::focusWidget()));
+}
+
 TEST_F(RunWindowTest, AnOptionClickIsInTheLog) {
     lumenform::LiveControl& options = *window_.View().Find(u"VOptList1");
     window_.Log().clear();

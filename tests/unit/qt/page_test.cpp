@@ -86,6 +86,18 @@ TEST_F(QtPageTest, EachShortcutIsAnUndoStep) {
     }
 }
 
+TEST_F(QtPageTest, UndoingAShortcutPutsTheCaretBack) {
+    Caption().SetSelection(2, 5);
+    Press(Qt::Key_B);
+    Press(Qt::Key_Z);
+    EXPECT_EQ(Caption().GetText(), u"x abc y");
+    EXPECT_EQ(Caption().SelStart() + Caption().SelLength(), 5);
+    Caption().SetSelStart(7);
+    Press(Qt::Key_O);
+    Press(Qt::Key_Z);
+    EXPECT_EQ(Caption().SelStart(), 7);
+}
+
 TEST_F(QtPageTest, AltTypesNothingIntoTheCaptionOrTheIndent) {
     QTest::keyClick(&Caption().Edit(), Qt::Key_QuoteDbl, Qt::AltModifier);
     QTest::keyClick(&Part<TextBox>(u"txtBulletIndent").Edit(), Qt::Key_A, Qt::AltModifier);

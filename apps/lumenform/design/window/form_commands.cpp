@@ -57,7 +57,7 @@ void FormCommands::FillEdit() {
     undo_ = history_.createUndoAction(this);
     undo_->setShortcut(QKeySequence::Undo);
     redo_ = history_.createRedoAction(this);
-    redo_->setShortcuts(QKeySequence::Redo);
+    redo_->setShortcuts({QKeySequence(QKeySequence::Redo), QKeySequence(Qt::CTRL | Qt::Key_Y)});
     FinishEditingBefore(*undo_, &QUndoGroup::undo);
     FinishEditingBefore(*redo_, &QUndoGroup::redo);
     edit_->addActions({undo_, redo_});

@@ -19,8 +19,8 @@ using ::testing::IsEmpty;
 constexpr OLE_COLOR windowBackground = 0x80000005;
 constexpr OLE_COLOR windowText = 0x80000008;
 constexpr OLE_COLOR buttonText = 0x80000012;
-constexpr HRESULT overflow = static_cast<HRESULT>(0x800A0000 + 6);
-constexpr HRESULT typeMismatch = static_cast<HRESULT>(0x800A0000 + 13);
+constexpr HRESULT overflow = static_cast<HRESULT>(0x800A0006);
+constexpr HRESULT typeMismatch = static_cast<HRESULT>(0x800A000D);
 
 template <typename Interface, typename T>
 T Got(const ComPtr<Interface>& object, HRESULT (STDMETHODCALLTYPE Interface::*get)(T*)) {
