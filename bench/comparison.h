@@ -15,11 +15,12 @@ struct Side {
 };
 
 enum class Ratio {
-    TimesFaster,  ///< other / ours
-    TimesSlower,  ///< ours / other
+    TimesFaster,  ///< the time of the peer divided by the time of lumenkit
+    TimesSlower,  ///< the time of lumenkit divided by the time of the peer
 };
 
-/// One row of the table: what, ours, other, ratio, spread and aim. Times are per unit.
+/// One row of the table: the name of the work, the time per unit of lumenkit and of the peer, their
+/// ratio, its spread and the aim. `ours` is the work of lumenkit, `other` that of the peer.
 struct Comparison {
     std::string what;
     std::string unit;

@@ -146,7 +146,7 @@ def fault(path, quoted, name):
         return None
     if WINDOWS_HEADERS.match(name) and home not in WINDOWS_FOLDERS:
         return f"{home} may not include Windows headers"
-    if not {home, home.split("/")[0]} & set(OTHER_LIBRARIES):
+    if home not in OTHER_LIBRARIES:
         return f"{home} may include the standard library only"
     return None
 

@@ -24,27 +24,26 @@ enum class ValueType {
     ScrollBars,    ///< the runtime's scroll-bar enumeration, 32 bits
 };
 
-/// How the published interfaces name and pass the values of a type.
+/// How the published interfaces name a type.
 struct TypeDescription {
     ValueType type;
     const char* name;            ///< in Basic; null for an enumeration, which has its own name
     const char* definitionName;  ///< in interface definitions; null for an enumeration
-    ValueType passedAs;          ///< the type of the Value that carries it
 };
 
 /// Indexed by ValueType.
 inline constexpr std::array typeDescriptions = {
-    TypeDescription{ValueType::None, "", "void", ValueType::None},
-    TypeDescription{ValueType::Integer, "Integer", "short", ValueType::Integer},
-    TypeDescription{ValueType::Long, "Long", "long", ValueType::Long},
-    TypeDescription{ValueType::Single, "Single", "float", ValueType::Single},
-    TypeDescription{ValueType::Boolean, "Boolean", "VARIANT_BOOL", ValueType::Boolean},
-    TypeDescription{ValueType::String, "String", "BSTR", ValueType::String},
-    TypeDescription{ValueType::Color, "OLE_COLOR", "OLE_COLOR", ValueType::Long},
-    TypeDescription{ValueType::Font, "Font", "Font*", ValueType::Font},
-    TypeDescription{ValueType::Variant, "Variant", "VARIANT", ValueType::Variant},
-    TypeDescription{ValueType::MousePointer, nullptr, nullptr, ValueType::Long},
-    TypeDescription{ValueType::ScrollBars, nullptr, nullptr, ValueType::Long},
+    TypeDescription{ValueType::None, "", "void"},
+    TypeDescription{ValueType::Integer, "Integer", "short"},
+    TypeDescription{ValueType::Long, "Long", "long"},
+    TypeDescription{ValueType::Single, "Single", "float"},
+    TypeDescription{ValueType::Boolean, "Boolean", "VARIANT_BOOL"},
+    TypeDescription{ValueType::String, "String", "BSTR"},
+    TypeDescription{ValueType::Color, "OLE_COLOR", "OLE_COLOR"},
+    TypeDescription{ValueType::Font, "Font", "Font*"},
+    TypeDescription{ValueType::Variant, "Variant", "VARIANT"},
+    TypeDescription{ValueType::MousePointer, nullptr, nullptr},
+    TypeDescription{ValueType::ScrollBars, nullptr, nullptr},
 };
 
 constexpr const TypeDescription& Describe(ValueType type) {

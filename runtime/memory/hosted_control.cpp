@@ -114,7 +114,7 @@ ObjectRef HostedControl::SharedAutomation() {
 Value HostedControl::Extender::Invoke(std::int32_t identifier, InvokeKind kind,
                                       std::span<Value> arguments) {
     if (const Member* member = Known(identifier)) {
-        control_.form_.Faults().Call(u"Extender", member->name);
+        GetControl().GetForm().Faults().Call(u"Extender", member->name);
     }
     return host::Extender::Invoke(identifier, kind, arguments);
 }

@@ -6,12 +6,12 @@
 
 #include "frame/class_table.h"
 #include "frame/control.h"
-#include "frame/host/extender.h"
 #include "runtime/memory/constituents.h"
 #include "runtime/memory/control_site.h"
 #include "runtime/memory/form.h"
 #include "runtime/memory/property_bag.h"
 #include "runtime/memory/surface.h"
+#include "runtime/shared/control_extender.h"
 
 namespace lumenkit::memory {
 
@@ -33,10 +33,10 @@ struct Placing {
 /// automatically: call Paint to get its drawing.
 class HostedControl {
  public:
-    /// The container's extender of the control. Its calls count for the planned faults of the form.
-    class Extender final : public host::Extender {
+    /// The extender of the control. Its calls count for the planned faults of the form.
+    class Extender final : public shared::ControlExtender<HostedControl> {
      public:
-        explicit Extender(HostedControl& control) : control_(control) {}
+        using ControlExtender::ControlExtender;
 
         Value Invoke(std::int32_t identifier, InvokeKind kind, std::span<Value> arguments) override;
 
@@ -44,16 +44,8 @@ class HostedControl {
         void SupportTag(bool supported) { supportsTag_ = supported; }
 
      private:
-        Text Name() const override { return control_.name_; }
         bool HasTag() const override { return supportsTag_; }
-        Text Tag() const override { return control_.tag_; }
-        void SetTag(TextView tag) override { control_.tag_ = tag; }
-        host::Placement Place() const override { return control_.Place(); }
-        void Move(const host::Placement& place) override { control_.Move(place); }
-        bool IsVisible() const override { return control_.IsShown(); }
-        void SetVisible(bool visible) override { control_.SetShown(visible); }
 
-        HostedControl& control_;
         bool supportsTag_ = true;
     };
 

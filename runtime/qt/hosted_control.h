@@ -5,13 +5,13 @@
 
 #include "frame/class_table.h"
 #include "frame/control.h"
-#include "frame/host/extender.h"
 #include "runtime/qt/constituents.h"
 #include "runtime/qt/context.h"
 #include "runtime/qt/control_site.h"
 #include "runtime/qt/interaction.h"
 #include "runtime/qt/screen.h"
 #include "runtime/qt/surface.h"
+#include "runtime/shared/control_extender.h"
 
 namespace lumenkit::qt {
 
@@ -84,23 +84,6 @@ class HostedControl final : public QWidget, private SurfaceOwner {
     void changeEvent(QEvent* event) override;
 
  private:
-    // The container's extender of the control.
-    class Extender final : public host::Extender {
-     public:
-        explicit Extender(HostedControl& control) : control_(control) {}
-
-     private:
-        Text Name() const override { return control_.name_; }
-        Text Tag() const override { return control_.tag_; }
-        void SetTag(TextView tag) override { control_.tag_ = tag; }
-        host::Placement Place() const override { return control_.Place(); }
-        void Move(const host::Placement& place) override { control_.Move(place); }
-        bool IsVisible() const override { return control_.IsShown(); }
-        void SetVisible(bool visible) override { control_.SetShown(visible); }
-
-        HostedControl& control_;
-    };
-
     // SurfaceOwner
     QWidget& Outside() override { return *this; }
     void SurfaceResized() override;
@@ -124,7 +107,7 @@ class HostedControl final : public QWidget, private SurfaceOwner {
     Surface surface_;
     Screen screen_;
     DeferringInteraction interaction_;
-    Extender extender_;
+    shared::ControlExtender<HostedControl> extender_;
     Constituents constituents_;
     ControlHost host_;
     std::unique_ptr<Control> control_;

@@ -15,6 +15,7 @@
 #include <limits>
 #include <utility>
 
+#include "frame/scoped_count.h"
 #include "runtime/qt/entered_units.h"
 #include "runtime/qt/input.h"
 #include "runtime/qt/pixels.h"
@@ -80,18 +81,6 @@ Difference DifferenceOf(TextView old, TextView text) {
     }
     return {.start = same, .oldEnd = old.size() - tail, .newEnd = text.size() - tail};
 }
-
-// Counts a task as long as it runs.
-class Busy {
- public:
-    explicit Busy(int& tasks) : tasks_(tasks) { ++tasks_; }
-    ~Busy() { --tasks_; }
-    Busy(const Busy&) = delete;
-    Busy& operator=(const Busy&) = delete;
-
- private:
-    int& tasks_;
-};
 
 // Gives a variable another value as long as this object lives.
 template <typename Value>
@@ -181,7 +170,7 @@ void TextEdit::SetContents(TextView text) {
 }
 
 void TextEdit::Assign(TextView text) {
-    const Busy busy(tasks_);
+    const ScopedCount task(tasks_);
     const int before = text_.Version();
     QTextCursor cursor = textCursor();  // undoing puts the caret back there
     switch (assigning_) {
@@ -256,7 +245,7 @@ bool TextEdit::During(Handle&& handle) {
     const Notifying notifying;
     bool handled = false;
     {
-        const Busy busy(tasks_);
+        const ScopedCount task(tasks_);
         handled = handle();
     }
     if (tasks_ == 0) {

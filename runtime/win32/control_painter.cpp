@@ -30,12 +30,10 @@ void DrawBorder(HDC device, const Mapping& mapping) {
 
 // Returns the part of `area` that the child window covers; empty for a hidden child.
 RECT ShownPart(HWND parent, HWND child, const RECT& area) {
-    if ((GetWindowLongW(child, GWL_STYLE) & WS_VISIBLE) == 0) {
+    if (!HasVisibleStyle(child)) {
         return {};
     }
-    RECT place = {};
-    GetWindowRect(child, &place);
-    MapWindowPoints(nullptr, parent, reinterpret_cast<POINT*>(&place), 2);
+    const RECT place = PlaceInParent(parent, child);
     RECT shown = {};
     IntersectRect(&shown, &place, &area);
     return shown;

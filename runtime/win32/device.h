@@ -1,4 +1,4 @@
-// Owners of devices, of their drawing objects and of what is selected in them.
+// Classes that release device contexts and drawing objects, and restore selections.
 #pragma once
 
 #include <memory>

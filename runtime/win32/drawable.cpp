@@ -1,27 +1,33 @@
 #include "runtime/win32/drawable.h"
 
 #include "runtime/win32/device.h"
+#include "runtime/win32/pixels.h"
 #include "runtime/win32/window.h"
 
 namespace lumenkit::win32 {
 
-namespace {
-
-bool IsShown(HWND window) {
+bool HasVisibleStyle(HWND window) {
     return (GetWindowLongW(window, GWL_STYLE) & WS_VISIBLE) != 0;
 }
+
+RECT PlaceInParent(HWND parent, HWND child) {
+    RECT place = {};
+    GetWindowRect(child, &place);
+    MapWindowPoints(nullptr, parent, reinterpret_cast<POINT*>(&place), 2);
+    return place;
+}
+
+namespace {
 
 // Each child is drawn at the origin of a separate bitmap, because window classes of the platform
 // clip by device coordinates and ignore the origin.
 void DrawChild(HWND parent, HWND child, HDC device) {
     auto* const drawable = dynamic_cast<Drawable*>(Window::Of(child));
-    if (drawable == nullptr || !IsShown(child)) {
+    if (drawable == nullptr || !HasVisibleStyle(child)) {
         return;
     }
-    RECT place = {};
-    GetWindowRect(child, &place);
-    MapWindowPoints(nullptr, parent, reinterpret_cast<POINT*>(&place), 2);
-    const SIZE size = {place.right - place.left, place.bottom - place.top};
+    const RECT place = PlaceInParent(parent, child);
+    const SIZE size = SizeOf(place);
     const MemoryDevice own(device, size);
     BitBlt(own.Handle(), 0, 0, size.cx, size.cy, device, place.left, place.top, SRCCOPY);
     drawable->DrawOn(own.Handle());

@@ -15,6 +15,11 @@ class Drawable {
     virtual void DrawOn(HDC device) = 0;
 };
 
+/// Whether a window is not hidden itself; its parents may be.
+bool HasVisibleStyle(HWND window);
+/// Returns the place of `child`, border included, in pixels of the parent's client area.
+RECT PlaceInParent(HWND parent, HWND child);
+
 /// Draws the child windows of `parent` that are Drawable and not hidden themselves, from back to
 /// front, each clipped to its rectangle. The origin is the upper left corner of the parent's client
 /// area.

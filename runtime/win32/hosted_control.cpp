@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "frame/runtime_error.h"
+#include "frame/scoped_count.h"
 #include "runtime/win32/accessibility.h"
 #include "runtime/win32/control_calls.h"
 #include "runtime/win32/keyboard.h"
@@ -102,17 +103,10 @@ void HostedControl::AdoptSize(SIZE size) {
 }
 
 void HostedControl::RequestSize(SIZE size) {
-    struct Nesting {
-        int& depth;
-        explicit Nesting(int& requests) : depth(requests) { ++depth; }
-        ~Nesting() { --depth; }
-        Nesting(const Nesting&) = delete;
-        Nesting& operator=(const Nesting&) = delete;
-    };
     if (requests_ >= deepestRequest) {
         return;  // the control requests sizes without end
     }
-    const Nesting nesting(requests_);
+    const ScopedCount nesting(requests_);
     site_.RequestSize(size);
 }
 

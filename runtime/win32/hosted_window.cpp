@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "runtime/win32/drawable.h"
 #include "runtime/win32/keyboard.h"
 
 namespace lumenkit::win32 {
@@ -87,9 +88,7 @@ void HostedWindow::ClipTo(const RECT& clip) {
     if (!IsAttached()) {
         return;
     }
-    RECT place = {};
-    GetWindowRect(Handle(), &place);
-    MapWindowPoints(nullptr, GetAncestor(Handle(), GA_PARENT), reinterpret_cast<POINT*>(&place), 2);
+    const RECT place = PlaceInParent(GetAncestor(Handle(), GA_PARENT), Handle());
     RECT seen = {};
     IntersectRect(&seen, &place, &clip);
     const bool isWhole = EqualRect(&seen, &place) != FALSE;

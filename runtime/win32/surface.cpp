@@ -75,7 +75,7 @@ void Surface::Put(Draw&& draw) {
     } else if (owner_.IsShown()) {
         const WindowDevice device(owner_.SurfaceWindow());
         const RECT area = Area();
-        const SIZE size = {area.right - area.left, area.bottom - area.top};
+        const SIZE size = SizeOf(area);
         DeviceCanvas canvas(device.Handle(), Mapping::Plain(size), {0, 0, size.cx, size.cy});
         draw(canvas);
     }
