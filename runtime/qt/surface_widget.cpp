@@ -13,6 +13,8 @@ namespace lumenkit::qt {
 
 namespace {
 
+constexpr Qt::MouseButtons clickingButtons = Qt::LeftButton | Qt::RightButton;
+
 // Presents the surface to screen readers as a label with the painted text as its name.
 class SurfaceAccessible final : public QAccessibleWidget {
  public:
@@ -118,7 +120,7 @@ void SurfaceWidget::Tell(void (Control::*handler)()) {
 }
 
 void SurfaceWidget::mousePressEvent(QMouseEvent* event) {
-    isPressed_ = event->button() == Qt::LeftButton;
+    pressed_ |= event->button();
     Tell(&Control::UserControl_MouseDown, MouseArgumentsOf(*event));
 }
 
@@ -127,9 +129,10 @@ void SurfaceWidget::mouseMoveEvent(QMouseEvent* event) {
 }
 
 void SurfaceWidget::mouseReleaseEvent(QMouseEvent* event) {
-    const bool clicks = event->button() == Qt::LeftButton && isPressed_ &&
+    const bool clicks = pressed_.testFlag(event->button()) &&
+                        clickingButtons.testFlag(event->button()) &&
                         rect().contains(event->position().toPoint());
-    isPressed_ = isPressed_ && event->button() != Qt::LeftButton;
+    pressed_.setFlag(event->button(), false);
     Tell(&Control::UserControl_MouseUp, MouseArgumentsOf(*event));
     if (clicks) {
         Tell(&Control::UserControl_Click);
@@ -137,7 +140,7 @@ void SurfaceWidget::mouseReleaseEvent(QMouseEvent* event) {
 }
 
 void SurfaceWidget::mouseDoubleClickEvent(QMouseEvent* event) {
-    if (event->button() == Qt::LeftButton) {
+    if (clickingButtons.testFlag(event->button())) {
         Tell(&Control::UserControl_DblClick);
     } else {
         mousePressEvent(event);

@@ -56,7 +56,7 @@ class SurfaceWidget final : public QWidget {
 
     ShownSurface* surface_;
     ErrorSink errors_;
-    bool isPressed_ = false;
+    Qt::MouseButtons pressed_;
 };
 
 }  // namespace lumenkit::qt

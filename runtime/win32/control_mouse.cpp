@@ -63,8 +63,10 @@ void ControlMouse::ButtonGoesDown(Control& control, host::MouseArguments& mouse)
     }
 }
 
-void ControlMouse::ButtonIsClickedAgain(Control& control, const host::MouseArguments& mouse) {
-    if (TakeMouse() && mouse.button != middleButton) {
+void ControlMouse::ButtonIsClickedAgain(Control& control, host::MouseArguments& mouse) {
+    if (mouse.button == middleButton) {
+        ButtonGoesDown(control, mouse);
+    } else if (TakeMouse()) {
         Tell(control, &Control::UserControl_DblClick);
     }
 }

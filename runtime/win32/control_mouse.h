@@ -28,7 +28,7 @@ class ControlMouse {
 
  private:
     void ButtonGoesDown(Control& control, host::MouseArguments& mouse);
-    void ButtonIsClickedAgain(Control& control, const host::MouseArguments& mouse);
+    void ButtonIsClickedAgain(Control& control, host::MouseArguments& mouse);
     void ButtonGoesUp(Control& control, host::MouseArguments& mouse);
     bool TakeMouse();
     bool IsInside(const host::MouseArguments& mouse) const;

@@ -235,6 +235,14 @@ TEST_F(HostedControlTest, TellsButtonsAndKeys) {
                              "up 4 1 15,15", "move 5 1 30,30"}));
 }
 
+TEST_F(HostedControlTest, TheLeftAndTheRightButtonDoubleClick) {
+    Send(WM_RBUTTONDBLCLK, MK_RBUTTON, 1, 1);
+    Send(WM_RBUTTONUP, 0, 1, 1);
+    Send(WM_MBUTTONDBLCLK, MK_MBUTTON, 1, 1);
+    Send(WM_MBUTTONUP, 0, 1, 1);
+    EXPECT_EQ(Take(), (Lines{"dblclick", "up 2 0 15,15", "down 4 0 15,15", "up 4 0 15,15"}));
+}
+
 TEST_F(HostedControlTest, ADisabledControlDoesNotReact) {
     Surface().SetEnabled(false);
     EXPECT_EQ(IsWindowEnabled(Window()), FALSE);
