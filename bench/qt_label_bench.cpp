@@ -53,6 +53,7 @@ struct Drawn {
     QPointF place;
     QGlyphRun glyphs;
     QColor color;
+    double scale = 1;  // device pixels of the glyphs per pixel
 };
 
 void Replay(QPainter& painter, const QRect& exposed, const std::vector<Drawn>& drawn) {
@@ -63,7 +64,15 @@ void Replay(QPainter& painter, const QRect& exposed, const std::vector<Drawn>& d
             color = one.color;
             painter.setPen(color);
         }
-        painter.drawGlyphRun(one.place, one.glyphs);
+        if (one.scale == 1) {
+            painter.drawGlyphRun(one.place, one.glyphs);
+            continue;
+        }
+        const QTransform pixels = painter.transform();
+        painter.translate(one.place);
+        painter.scale(1 / one.scale, 1 / one.scale);
+        painter.drawGlyphRun({}, one.glyphs);
+        painter.setTransform(pixels);
     }
 }
 
@@ -81,7 +90,7 @@ std::vector<Drawn> GlyphsOf(qt::Surface& surface, const std::vector<StyledLine>&
             const auto face = font->FaceAt(scale);
             for (const QGlyphRun& glyphs : face->GlyphsOf(run.words).runs) {
                 drawn.push_back({QPointF(x, y + face->Ascent()), glyphs,
-                                 run.blue ? QColor(0, 0, 200) : QColor(Qt::black)});
+                                 run.blue ? QColor(0, 0, 200) : QColor(Qt::black), scale});
             }
             x += face->WidthOf(run.words);
         }

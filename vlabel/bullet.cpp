@@ -10,18 +10,10 @@ namespace lumenkit {
 
 namespace {
 
-// Pixels from the mark's origin, both corners included.
-struct Box {
-    std::int8_t left;
-    std::int8_t top;
-    std::int8_t right;
-    std::int8_t bottom;
-};
-
 // The boxes of a mark whose radius is at most `largest` pixels.
 struct Band {
     float largest;
-    std::array<Box, 3> boxes;
+    std::array<host::PixelBox, 3> boxes;
     std::size_t count;
 };
 
@@ -36,7 +28,7 @@ constexpr std::array bands = {
     Band{255, {{{1, -3, 6, 2}, {0, -2, 7, 1}, {2, -4, 5, 3}}}, 3},
 };
 
-std::span<const Box> BoxesOf(float radius) {
+std::span<const host::PixelBox> BoxesOf(float radius) {
     for (const Band& band : bands) {
         if (radius <= band.largest) {
             return std::span(band.boxes).first(band.count);
@@ -57,11 +49,8 @@ void PaintBullet(host::Surface& surface, std::int16_t twipsPerPixelX, std::int16
     const float originX = std::floor(x / pixelX) * pixelX;
     const float originY = std::floor(centreY / pixelY + 1) * pixelY;
     // The boxes are counted in pixels; only the vertical pixel size selects them.
-    for (const Box& box : BoxesOf(radius / pixelY + 1)) {
-        surface.FillBox(originX + static_cast<float>(box.left) * pixelX,
-                        originY + static_cast<float>(box.top) * pixelY,
-                        originX + static_cast<float>(box.right) * pixelX,
-                        originY + static_cast<float>(box.bottom) * pixelY, Color{0});
+    for (const host::PixelBox& box : BoxesOf(radius / pixelY + 1)) {
+        surface.FillPixels(originX, originY, box, Color{0});
     }
 }
 

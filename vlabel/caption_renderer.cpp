@@ -12,6 +12,28 @@
 
 namespace lumenkit {
 
+namespace {
+
+// The scope of a drawing with a font of its own.
+class OwnFont {
+ public:
+    OwnFont(host::Surface& surface, host::FontRef& font) : surface_(surface), font_(font) {
+        font_ = surface_.BeginDrawing();
+    }
+    ~OwnFont() {
+        font_.reset();
+        surface_.EndDrawing();
+    }
+    OwnFont(const OwnFont&) = delete;
+    OwnFont& operator=(const OwnFont&) = delete;
+
+ private:
+    host::Surface& surface_;
+    host::FontRef& font_;
+};
+
+}  // namespace
+
 CaptionRenderer::CaptionRenderer(const Module& module, host::Surface& surface,
                                  CaptionSettings& settings)
     : module_(module), surface_(surface), settings_(settings), compiler_(module) {}
@@ -23,25 +45,32 @@ void CaptionRenderer::DisplayCaption() {
         }
         const RaisedFlag drawing(isDrawing_);
         CompileIfChanged();
-        if (!SaveState()) {
-            return;  // without a saved state, the colour and font could not be restored
-        }
-        try {
-            DrawLines();
-        } catch (...) {
-            RestoreState();
-            throw;
-        }
-        RestoreState();
+        const OwnFont font(surface_, font_);
+        DrawCaption();
     });
 }
 
+// Another caption may be assigned while an error of the compiler is reported. That one is compiled
+// by the next drawing.
 void CaptionRenderer::CompileIfChanged() {
     if (!settings_.IsCompiled) {
         compiling_ = settings_.Caption;
         compiler_.CompileCaption(compiling_);
-        settings_.IsCompiled = true;
+        settings_.IsCompiled = settings_.Caption == compiling_;
     }
+}
+
+void CaptionRenderer::DrawCaption() {
+    if (!SaveState()) {
+        return;  // without a saved state, the colour and font could not be restored
+    }
+    try {
+        DrawLines();
+    } catch (...) {
+        RestoreState();
+        throw;
+    }
+    RestoreState();
 }
 
 void CaptionRenderer::DrawLines() {
@@ -174,17 +203,17 @@ void CaptionRenderer::ExecuteNextCommand(TextView restOfLine, float& lineHeight)
 void CaptionRenderer::Execute(TextView name, TextView parameter, TextView restOfLine,
                               float& lineHeight) {
     if (name == u"b") {
-        surface_.CurrentFont()->SetBold(parameter == u"1");
+        font_->SetBold(parameter == u"1");
     } else if (name == u"i") {
-        surface_.CurrentFont()->SetItalic(parameter == u"1");
+        font_->SetItalic(parameter == u"1");
     } else if (name == u"u") {  // only for "|u" at the end of a line; "|u:1|" is compiled to "i"
-        surface_.CurrentFont()->SetUnderline(parameter == u"1");
+        font_->SetUnderline(parameter == u"1");
     } else if (name == u"color") {
         surface_.SetForeColor(static_cast<Color>(RoundToInt32(ParseNumber(parameter))));
     } else if (name == u"size") {
         const double size = ParseNumber(parameter);
         if (size > 1) {
-            surface_.CurrentFont()->SetSize(ToSingle(size));
+            font_->SetSize(ToSingle(size));
             const float height = surface_.TextHeight(restOfLine);
             if (height > lineHeight) {
                 lineHeight = height;
@@ -206,11 +235,10 @@ bool CaptionRenderer::SaveState() {
     return module_.Function<bool>(u"SaveState", [&](bool& saved) {
         SurfaceState state;
         state.SavedForeColor = surface_.ForeColor();
-        const host::FontRef font = surface_.CurrentFont();
-        state.SavedBold = font->Bold();
-        state.SavedItalic = font->Italic();
-        state.SavedSize = font->Size();
-        state.SavedUnderline = font->Underline();
+        state.SavedBold = font_->Bold();
+        state.SavedItalic = font_->Italic();
+        state.SavedSize = font_->Size();
+        state.SavedUnderline = font_->Underline();
         saved_ = state;
         saved = true;
     });
@@ -232,10 +260,10 @@ void CaptionRenderer::RestoreState() {
             }
         };
         restore([&] { surface_.SetForeColor(saved_.SavedForeColor); });
-        restore([&] { surface_.CurrentFont()->SetBold(saved_.SavedBold); });
-        restore([&] { surface_.CurrentFont()->SetItalic(saved_.SavedItalic); });
-        restore([&] { surface_.CurrentFont()->SetSize(saved_.SavedSize); });
-        restore([&] { surface_.CurrentFont()->SetUnderline(saved_.SavedUnderline); });
+        restore([&] { font_->SetBold(saved_.SavedBold); });
+        restore([&] { font_->SetItalic(saved_.SavedItalic); });
+        restore([&] { font_->SetSize(saved_.SavedSize); });
+        restore([&] { font_->SetUnderline(saved_.SavedUnderline); });
         if (firstError) {
             std::rethrow_exception(firstError);
         }

@@ -47,9 +47,9 @@ class CaptionRenderer {
     CaptionRenderer(const Module& module, host::Surface& surface, CaptionSettings& settings);
 
     /// Clears the surface and draws the caption, after compiling it if it changed. Restores
-    /// ForeColor and the font of the surface at the end, also after an error. Errors are reported,
-    /// not raised. If the host requests a repaint during an error report, the nested call draws
-    /// nothing.
+    /// ForeColor at the end, also after an error; the font of the surface is not changed at all.
+    /// Errors are reported, not raised. If the host requests a repaint during an error report, the
+    /// nested call draws nothing.
     void DisplayCaption();
 
     /// Returns the results of the last drawing; sizing uses MaxLineX and IdealHeight.
@@ -65,6 +65,7 @@ class CaptionRenderer {
     };
 
     void CompileIfChanged();
+    void DrawCaption();
     void DrawLines();
     void DrawLine(TextView line);
     void DisplayText(TextView text, bool endOfLine);
@@ -86,6 +87,7 @@ class CaptionRenderer {
     CaptionSettings& settings_;
     CaptionCompiler compiler_;
     CaptionDrawing drawing_;
+    host::FontRef font_;  // of the drawing; null between drawings
     SurfaceState saved_;
     float visibleBottom_ = 0;
     bool isDrawing_ = false;

@@ -9,6 +9,14 @@
 
 namespace lumenkit::host {
 
+/// A box in device pixels that is counted from an origin. All four pixels belong to the box.
+struct PixelBox {
+    std::int16_t left;
+    std::int16_t top;
+    std::int16_t right;
+    std::int16_t bottom;
+};
+
 /// The drawing surface of a user control. All lengths are in twips. The origin is the upper left
 /// corner of the drawing area and Y grows downwards. Drawing outside the area is clipped.
 ///
@@ -31,6 +39,9 @@ class Surface {
     /// Fills the box from (x1, y1) to (x2, y2), both corner pixels included, and moves the pen to
     /// (x2, y2). `color` 0 means that no colour is given: the box is filled with ForeColor.
     virtual void FillBox(float x1, float y1, float x2, float y2, Color color) = 0;
+    /// Fills a box that is counted from the device pixel at (x, y), so that boxes with the same
+    /// origin fit together at any resolution. Otherwise as FillBox.
+    virtual void FillPixels(float x, float y, const PixelBox& box, Color color) = 0;
 
     /// Returns the width of `text` on one line in the current font.
     virtual float TextWidth(TextView text) = 0;
@@ -55,6 +66,12 @@ class Surface {
     virtual FontRef CurrentFont() const = 0;
     /// Raises 91 when `font` is null.
     virtual void SetCurrentFont(FontRef font) = 0;
+    /// Begins a drawing whose parts differ in font, and returns the font of the drawing: a font of
+    /// the surface that starts as a copy of CurrentFont. Print and the measures use it until
+    /// EndDrawing. Changes of it notify nobody and leave CurrentFont as it is. Drawings do not
+    /// nest.
+    virtual FontRef BeginDrawing() = 0;
+    virtual void EndDrawing() = 0;
     virtual Color ForeColor() const = 0;
     virtual void SetForeColor(Color color) = 0;
     virtual Color BackColor() const = 0;

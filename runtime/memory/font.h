@@ -40,6 +40,8 @@ class Font final : public host::Font {
 
     /// Returns a separate font with the same attributes.
     std::shared_ptr<Font> Clone() const { return std::make_shared<Font>(*this); }
+    /// Takes over all attributes of another font.
+    void CopyFrom(const Font& other) { now_ = other.now_; }
 
     /// The attributes, which a surface reads without calls of the contract and without copies.
     struct Attributes {

@@ -10,6 +10,7 @@ namespace lumenkit::memory {
 Surface::Surface(std::shared_ptr<FaultPlan> faults, float width, float height)
     : faults_(std::move(faults)),
       font_(std::make_shared<Font>(faults_, u"MS Sans Serif", 8.25F)),
+      drawingFont_(font_->Clone()),
       width_(width),
       height_(height) {
     RequireSize(width, height);
@@ -44,8 +45,8 @@ void Surface::Cls() {
 
 void Surface::Print(TextView text) {
     Call(u"Print");
-    drawn_.Print(text, currentX_, currentY_, font_->Now(), foreColor_);
-    currentX_ += font_->Now().WidthOf(text);
+    drawn_.Print(text, currentX_, currentY_, Attributes(), foreColor_);
+    currentX_ += Attributes().WidthOf(text);
 }
 
 void Surface::FillBox(float x1, float y1, float x2, float y2, Color color) {
@@ -56,14 +57,21 @@ void Surface::FillBox(float x1, float y1, float x2, float y2, Color color) {
     currentY_ = y2;
 }
 
+void Surface::FillPixels(float x, float y, const host::PixelBox& box, Color color) {
+    FillBox(x + static_cast<float>(box.left) * pixelWidth_,
+            y + static_cast<float>(box.top) * pixelHeight_,
+            x + static_cast<float>(box.right) * pixelWidth_,
+            y + static_cast<float>(box.bottom) * pixelHeight_, color);
+}
+
 float Surface::TextWidth(TextView text) {
     Call(u"TextWidth");
-    return font_->Now().WidthOf(text);
+    return Attributes().WidthOf(text);
 }
 
 void Surface::TextWidths(TextView text, std::span<double> ends) {
     Call(u"TextWidths");
-    const double unit = font_->Now().UnitWidth();
+    const double unit = Attributes().UnitWidth();
     for (std::size_t index = 0; index < text.size(); ++index) {
         ends[index] = static_cast<double>(index + 1) * unit;
     }
@@ -71,7 +79,7 @@ void Surface::TextWidths(TextView text, std::span<double> ends) {
 
 float Surface::TextHeight(TextView /*text*/) {
     Call(u"TextHeight");
-    return static_cast<float>(font_->Now().LineHeight());
+    return static_cast<float>(Attributes().LineHeight());
 }
 
 float Surface::ScaleWidth() const {
@@ -97,6 +105,13 @@ host::FontRef Surface::CurrentFont() const {
 void Surface::SetCurrentFont(host::FontRef font) {
     Call(u"SetCurrentFont");
     font_ = Font::From(std::move(font));
+}
+
+host::FontRef Surface::BeginDrawing() {
+    Call(u"BeginDrawing");
+    drawingFont_->CopyFrom(*font_);
+    isDrawing_ = true;
+    return drawingFont_;
 }
 
 Color Surface::ForeColor() const {

@@ -27,6 +27,7 @@ class Surface final : public host::Surface {
     void Cls() override;
     void Print(TextView text) override;
     void FillBox(float x1, float y1, float x2, float y2, Color color) override;
+    void FillPixels(float x, float y, const host::PixelBox& box, Color color) override;
     float TextWidth(TextView text) override;
     void TextWidths(TextView text, std::span<double> ends) override;
     float TextHeight(TextView text) override;
@@ -36,6 +37,8 @@ class Surface final : public host::Surface {
     host::FontRef CurrentFont() const override;
     /// Raises 13 for a font of another runtime.
     void SetCurrentFont(host::FontRef font) override;
+    host::FontRef BeginDrawing() override;
+    void EndDrawing() override { isDrawing_ = false; }
     Color ForeColor() const override;
     void SetForeColor(Color color) override;
     Color BackColor() const override;
@@ -59,6 +62,11 @@ class Surface final : public host::Surface {
     // For the runtime and for tests: these do not count as calls of the contract.
     const DisplayList& Drawn() const { return drawn_; }
     void SetVisibleBottom(float y) { visibleBottom_ = y; }
+    /// The size of a pixel is 15 by 15 twips unless a test sets it.
+    void SetPixelSize(float width, float height) {
+        pixelWidth_ = width;
+        pixelHeight_ = height;
+    }
     /// Sets the control that is notified to paint and of a changed size; null for none.
     void SetControl(Control* control) { control_ = control; }
     float CurrentWidth() const { return width_; }
@@ -73,15 +81,22 @@ class Surface final : public host::Surface {
 
  private:
     void Call(TextView member) const { faults_->Call(u"Surface", member); }
+    const Font::Attributes& Attributes() const {
+        return (isDrawing_ ? drawingFont_ : font_)->Now();
+    }
 
     std::shared_ptr<FaultPlan> faults_;
     std::shared_ptr<Font> font_;
+    std::shared_ptr<Font> drawingFont_;
+    bool isDrawing_ = false;  // between BeginDrawing and EndDrawing
     Control* control_ = nullptr;
     DisplayList drawn_;
     float currentX_ = 0;
     float currentY_ = 0;
     float width_;
     float height_;
+    float pixelWidth_ = twipsPerPixel;
+    float pixelHeight_ = twipsPerPixel;
     float visibleBottom_ = std::numeric_limits<float>::infinity();
     Color foreColor_ = Color::ButtonText;
     Color backColor_ = Color::ButtonFace;

@@ -50,7 +50,7 @@ class BasicTextConstituent : public BasicConstituent<Interface> {
         }
     }
     FontFace& CurrentFace() const {
-        return *font_.Get()->FaceAt(this->Widget()->devicePixelRatioF());
+        return *font_.Get()->FaceAt(1);  // widgets draw text in whole pixels at every scale
     }
 
  private:

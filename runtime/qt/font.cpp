@@ -84,6 +84,12 @@ std::shared_ptr<Font> Font::Clone() const {
     return clone;
 }
 
+void Font::CopyFrom(const Font& other) {
+    if (!(now_ == other.now_)) {  // a copy of the name allocates
+        Put(now_, FontAttributes(other.now_));
+    }
+}
+
 const std::shared_ptr<FontFace>& Font::FaceAt(double scale) const {
     const auto fits = [&](const std::shared_ptr<FontFace>& face) {
         return face->IsFor(now_, scale);
@@ -154,7 +160,7 @@ void HeldFont::Flush() {
 }
 
 void HeldFont::AttributesSet() {
-    if (muted_ || pending_) {
+    if (pending_) {
         return;
     }
     QMetaObject::invokeMethod(

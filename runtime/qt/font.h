@@ -46,6 +46,8 @@ class Font final : public host::Font {
 
     /// Returns a separate font with the same attributes.
     std::shared_ptr<Font> Clone() const;
+    /// Takes over all attributes of another font.
+    void CopyFrom(const Font& other);
 
     const FontAttributes& Now() const { return now_; }
     /// Returns the face for measuring and drawing; see FontFace::For.
@@ -70,9 +72,9 @@ class Font final : public host::Font {
     mutable std::vector<std::shared_ptr<FontFace>> recent_;
 };
 
-/// Holds the font of a surface or constituent. While a caption is drawn, a font may change many
-/// times and back again. Therefore `changed` is called later, from the event loop, and only if the
-/// font differs from the one that was shown last.
+/// Holds the font of a surface or constituent. Several attributes of a font may change one after
+/// another, and back again. Therefore `changed` is called later, from the event loop, and only if
+/// the font differs from the one that was shown last.
 class HeldFont final : private FontListener {
  public:
     /// Errors that `changed` raises from the event loop go to `errors`.
@@ -87,8 +89,6 @@ class HeldFont final : private FontListener {
     const std::shared_ptr<Font>& Get() const { return font_; }
     /// Calls `changed` now if a call is due.
     void Flush();
-    /// While muted, changes of the font are ignored: the holder makes them itself.
-    void SetMuted(bool muted) { muted_ = muted; }
 
  private:
     void AttributesSet() override;
@@ -97,7 +97,6 @@ class HeldFont final : private FontListener {
     std::function<void()> changed_;
     ErrorSink errors_;
     FontAttributes shown_;
-    bool muted_ = false;
     bool pending_ = false;
     QObject context_;  // drops the calls posted to it when it is destroyed
 };

@@ -50,11 +50,11 @@ QString Drawable(TextView text) {
     return drawable;
 }
 
-QFont FontFor(const FontAttributes& attributes) {
+QFont FontFor(const FontAttributes& attributes, double scale) {
     QFont font;
     font.setFamilies(FamiliesFor(ToQString(attributes.name)));
-    font.setPixelSize(
-        std::max(ToPixels(attributes.size * twipsPerPoint, TwipsPerPixel::OfScreens().y), 1));
+    const double twips = attributes.size * twipsPerPoint;
+    font.setPixelSize(std::max(ToPixels(twips * scale, TwipsPerPixel::OfScreens().y), 1));
     font.setWeight(static_cast<QFont::Weight>(
         attributes.weight <= 0 ? FontAttributes::regularWeight
                                : std::min<std::int16_t>(attributes.weight, QFont::Black)));
@@ -100,12 +100,14 @@ std::shared_ptr<FontFace> FontFace::For(const FontAttributes& attributes, double
 }
 
 FontFace::FontFace(const FontAttributes& attributes, double scale)
-    : attributes_(attributes), scale_(scale), simple_(FontFor(attributes)), shaped_(simple_) {
+    : attributes_(attributes),
+      scale_(scale),
+      simple_(FontFor(attributes, scale)),
+      shaped_(simple_) {
     simple_.setStyleStrategy(QFont::PreferNoShaping);
     const QFontMetricsF metrics(shaped_);
-    const auto wholePixels = [&](double length) { return std::ceil(length * scale) / scale; };
-    ascent_ = wholePixels(metrics.ascent());
-    lineHeight_ = ascent_ + wholePixels(metrics.descent());
+    ascent_ = std::ceil(metrics.ascent());
+    lineHeight_ = ascent_ + std::ceil(metrics.descent());
     advances_.fill(-1);
     glyphs_.fill(unknownGlyph);
     // AddsUp reads the other members.
@@ -116,6 +118,10 @@ FontFace::FontFace(const FontAttributes& attributes, double scale)
         !HasGlyphsOfLayout(sample)) {
         glyphFont_ = QRawFont();
     }
+}
+
+QFont FontFace::WidgetFont() const {
+    return scale_ == 1 ? shaped_ : FontFor(attributes_, 1);
 }
 
 // Whether the single advances add up to the width that Qt measures for a whole text.
@@ -161,6 +167,7 @@ void FontFace::LayOut(QTextLayout& layout) {
     layout.setCacheEnabled(true);
     QTextOption option;
     option.setWrapMode(QTextOption::NoWrap);
+    option.setTextDirection(Qt::LeftToRight);  // also where the text begins with Hebrew
     option.setUseDesignMetrics(false);
     layout.setTextOption(option);
     layout.beginLayout();
@@ -235,26 +242,41 @@ bool FontFace::WalkKnown(TextView text, Take&& take) const {
 
 double FontFace::WidthOf(TextView text) {
     double width = 0;
-    if (WalkKnown(text, [&](double end) { width = end; })) {
-        return width;
+    if (!WalkKnown(text, [&](double end) { width = end; })) {
+        width = 0;
+        WalkWords(text, [&](double end) { width = end; });
     }
-    width = 0;
-    WalkWords(text, [&](double end) { width = end; });
-    return width;
+    return width / scale_;
 }
 
 void FontFace::Ends(TextView text, double factor, std::span<double> ends) {
     std::size_t index = 0;
-    if (WalkKnown(text, [&](double end) { ends[index++] = end * factor; })) {
-        return;
+    const auto take = [&](double end) { ends[index++] = end / scale_ * factor; };
+    if (!WalkKnown(text, take)) {
+        index = 0;
+        WalkWords(text, take);
     }
-    index = 0;
-    WalkWords(text, [&](double end) { ends[index++] = end * factor; });
 }
 
 GlyphLine FontFace::GlyphsOf(TextView text) {
     std::optional<GlyphLine> glyphs = FromTable(text);
     return glyphs ? *std::move(glyphs) : LaidOut(text);
+}
+
+void FontFace::Draw(QPainter& painter, QPointF at, const GlyphLine& glyphs) const {
+    if (scale_ == 1) {
+        for (const QGlyphRun& run : glyphs.runs) {
+            painter.drawGlyphRun(at, run);
+        }
+        return;
+    }
+    const QTransform pixels = painter.transform();
+    painter.translate(at);
+    painter.scale(1 / scale_, 1 / scale_);
+    for (const QGlyphRun& run : glyphs.runs) {
+        painter.drawGlyphRun({}, run);
+    }
+    painter.setTransform(pixels);
 }
 
 std::optional<GlyphLine> FontFace::FromTable(TextView text) {

@@ -3,6 +3,8 @@
 #include <QFont>
 #include <QGlyphRun>
 #include <QList>
+#include <QPainter>
+#include <QPointF>
 #include <QRawFont>
 #include <QTextLayout>
 #include <array>
@@ -34,13 +36,13 @@ struct FontAttributes {
     friend bool operator==(const FontAttributes&, const FontAttributes&) = default;
 };
 
-/// The glyphs of one line of text, in pixels. The origin is the left end of the baseline.
+/// The glyphs of one line of text, in device pixels. The origin is the left end of the baseline.
 struct GlyphLine {
     QList<QGlyphRun> runs;
 };
 
 /// A font prepared for measuring and drawing at one scale of the screen. Lengths are in pixels. The
-/// font size is rounded to whole pixels.
+/// font size is rounded to whole device pixels.
 ///
 /// A text is measured word by word, so that widths add up at blanks. A word of simple characters
 /// has neither kerning nor joined letters and is measured by the advances of its characters. Qt
@@ -59,18 +61,22 @@ class FontFace {
     bool IsFor(const FontAttributes& attributes, double scale) const {
         return scale == scale_ && attributes == attributes_;
     }
-    /// The font for widgets that draw text themselves.
-    const QFont& WidgetFont() const { return shaped_; }
+    /// Returns the font for widgets that draw text themselves. Its size is a whole number of pixels
+    /// at every scale; a face of scale 1 has its measures.
+    QFont WidgetFont() const;
 
     double WidthOf(TextView text);
     /// Stores the width of the first i + 1 units, times `factor`, in ends[i].
     void Ends(TextView text, double factor, std::span<double> ends);
     /// A whole number of device pixels, as is Ascent.
-    double LineHeight() const { return lineHeight_; }
-    double Ascent() const { return ascent_; }
+    double LineHeight() const { return lineHeight_ / scale_; }
+    double Ascent() const { return ascent_ / scale_; }
     GlyphLine GlyphsOf(TextView text);
+    /// Draws glyphs of this face with the left end of their baseline at `at`.
+    void Draw(QPainter& painter, QPointF at, const GlyphLine& glyphs) const;
 
  private:
+    // All lengths below are in device pixels.
     // The measures of a word: element i is the width of its first i + 1 units.
     using WordEnds = std::vector<double>;
 

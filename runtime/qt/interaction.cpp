@@ -10,6 +10,11 @@
 
 namespace lumenkit::qt {
 
+shared::OpenBoxes& Boxes() {
+    static shared::OpenBoxes boxes;
+    return boxes;
+}
+
 void Interaction::Beep() {
     QApplication::beep();
 }
@@ -33,6 +38,7 @@ void DeferringInteraction::Beep() {
 void DeferringInteraction::MsgBox(TextView message, host::MessageStyle style,
                                   std::optional<TextView> title) {
     if (!isPainting_()) {
+        const shared::OpenBoxes::Scope open(Boxes());
         inner_.MsgBox(message, style, title);
         return;
     }
@@ -68,6 +74,7 @@ void DeferringInteraction::SayDeferred() {
     // A message box runs an event loop, which may destroy the control and this object.
     host::Interaction& inner = inner_;
     const auto due = std::exchange(deferred_, {});
+    const shared::OpenBoxes::Scope open(Boxes());  // until the last box of the painting is closed
     for (const auto& said : due) {
         HandleEvent({}, [&] { said(inner); });
     }

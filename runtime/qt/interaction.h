@@ -7,8 +7,12 @@
 #include <vector>
 
 #include "frame/host/interaction.h"
+#include "runtime/shared/open_boxes.h"
 
 namespace lumenkit::qt {
+
+/// Returns the message boxes that controls have open.
+shared::OpenBoxes& Boxes();
 
 /// Shows Qt's message boxes. A box without a title shows the application's display name.
 class Interaction final : public host::Interaction {
@@ -20,7 +24,7 @@ class Interaction final : public host::Interaction {
 
 /// Passes the requests of a control on to another interaction. No window can be shown while the
 /// control paints: requests made then are carried out after the painting, and MsgBox returns at
-/// once.
+/// once. While a box is open, no control paints.
 class DeferringInteraction final : public host::Interaction {
  public:
     /// `inner` and the state that `isPainting` reads must outlive this object.

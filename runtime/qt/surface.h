@@ -1,21 +1,20 @@
 #pragma once
 
-#include <QColor>
-#include <QImage>
 #include <QPainter>
 #include <QRect>
+#include <QSize>
 #include <cstdint>
 #include <memory>
-#include <optional>
 #include <span>
-#include <vector>
 
 #include "frame/control.h"
 #include "frame/host/surface.h"
 #include "runtime/qt/boundary.h"
 #include "runtime/qt/font.h"
+#include "runtime/qt/kept_picture.h"
 #include "runtime/qt/pixels.h"
 #include "runtime/qt/surface_widget.h"
+#include "runtime/shared/open_boxes.h"
 
 namespace lumenkit::qt {
 
@@ -36,10 +35,12 @@ class SurfaceOwner {
 /// The drawing surface of a control. Its size is kept in twips as it was set, however many whole
 /// pixels it takes on the screen.
 ///
-/// Without AutoRedraw, drawing has an effect only during UserControl_Paint. At other times the pen
-/// moves and nothing is drawn. Repeating the previous painting does not measure or shape its text
-/// again: the glyphs of each run are kept, in the order of drawing.
-class Surface final : public host::Surface, public ShownSurface {
+/// The surface keeps what was drawn on it and answers exposures from that. Without AutoRedraw,
+/// drawing has an effect only during UserControl_Paint, which runs for a reason: the first time,
+/// for Refresh, and after a change of the size, the font, the background colour or the scale of the
+/// screen. At other times the pen moves and nothing is drawn. While a message box of a control is
+/// open, the surface shows its former picture, and the control paints after the box is closed.
+class Surface final : public host::Surface, public ShownSurface, private shared::BoxWaiter {
  public:
     /// Lengths are in twips. `owner` and `errors` must outlive the surface. Raises 380 for a
     /// negative width or height.
@@ -55,6 +56,7 @@ class Surface final : public host::Surface, public ShownSurface {
     void Cls() override;
     void Print(TextView text) override;
     void FillBox(float x1, float y1, float x2, float y2, Color color) override;
+    void FillPixels(float x, float y, const host::PixelBox& box, Color color) override;
     float TextWidth(TextView text) override;
     void TextWidths(TextView text, std::span<double> ends) override;
     float TextHeight(TextView text) override;
@@ -64,6 +66,8 @@ class Surface final : public host::Surface, public ShownSurface {
     host::FontRef CurrentFont() const override { return font_.Get(); }
     /// Raises 13 for a font of another runtime.
     void SetCurrentFont(host::FontRef font) override { font_.Assign(std::move(font)); }
+    host::FontRef BeginDrawing() override;
+    void EndDrawing() override { isDrawing_ = false; }
     Color ForeColor() const override { return foreColor_; }
     void SetForeColor(Color color) override;
     Color BackColor() const override { return backColor_; }
@@ -87,44 +91,37 @@ class Surface final : public host::Surface, public ShownSurface {
     // Used by the runtime.
     SurfaceWidget& Area() { return *area_; }
     /// Sets the control that is notified of painting and of a changed size. Null: no control yet.
-    void SetControl(Control* control) { control_ = control; }
+    void SetControl(Control* control) {
+        control_ = control;
+        isOutdated_ = true;
+    }
 
     // ShownSurface
     Control* GetControl() const override { return control_; }
-    bool IsPainting() const override { return painter_ != nullptr; }
+    bool IsPainting() const override { return isPainting_; }
     void DrawOn(QPainter& painter, const QRect& exposed) override;
     QString PaintedText() const override;
     void UpdateScale() override;
     void PaletteChanged() override;
 
  private:
-    // One printed text, kept for drawing it again.
-    struct Run {
-        Text text;
-        std::shared_ptr<FontFace> face;
-        std::optional<GlyphLine> glyphs;
-        double width = 0;  // pixels
-        float y = 0;
-    };
-
-    const std::shared_ptr<FontFace>& CurrentFace() const { return font_.Get()->FaceAt(scale_); }
-    QPainter* Target();
-    QPainter& PicturePainter();
-    void FinishPicture();
-    void FitPicture();
-    QImage NewPicture() const;
-    Run& NextRun(TextView text, const std::shared_ptr<FontFace>& face);
-    void DrawRun(QPainter& painter, Run& run);
-    void UsePen(QPainter& painter, Color color);
-    void PaintControl(QPainter* painter);
-    void Touch(const QRectF& pixels);
-    void FontChanged();
-    QRect WholeArea() const;
-    QColor Shown(Color color) const;
+    const std::shared_ptr<FontFace>& CurrentFace() const {
+        return (isDrawing_ ? drawingFont_ : font_.Get())->FaceAt(scale_);
+    }
+    /// Whether drawing has an effect now.
+    bool IsRecording() const { return autoRedraw_ || isPainting_; }
+    bool IsOutdated() const { return isOutdated_ || paintedSize_ != area_->size(); }
+    void PaintIfOutdated();
+    void PaintControl();
+    void BoxesClosed() override { area_->update(); }
+    void Touch();
+    void PictureOutdated();
 
     SurfaceOwner& owner_;
     std::unique_ptr<SurfaceWidget> area_;
     HeldFont font_;
+    std::shared_ptr<Font> drawingFont_;
+    bool isDrawing_ = false;  // between BeginDrawing and EndDrawing
     Control* control_ = nullptr;
     double scale_;  // device pixels per pixel
     float currentX_ = 0;
@@ -138,16 +135,10 @@ class Surface final : public host::Surface, public ShownSurface {
     bool fontTransparent_ = true;
     bool autoRedraw_ = false;
     bool enabled_ = true;
-    bool hasPainted_ = false;
-    bool isBlank_ = true;  // nothing was drawn on the target since it was erased
-
-    QPainter* painter_ = nullptr;  // while painting
-    QRect exposed_;
-    std::optional<Color> pen_;  // the pen colour of the target
-    QImage picture_;
-    std::unique_ptr<QPainter> picturePainter_;
-    std::vector<Run> runs_;
-    std::size_t nextRun_ = 0;
+    bool isPainting_ = false;
+    bool isOutdated_ = true;  // the control must paint before the picture is shown again
+    QSize paintedSize_;       // of the area, pixels
+    KeptPicture picture_;
 };
 
 }  // namespace lumenkit::qt

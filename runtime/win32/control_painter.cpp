@@ -53,6 +53,10 @@ RECT Shifted(RECT box, const RECT& area) {
 }  // namespace
 
 void ControlPainter::PaintWindow() {
+    surface_.PaintIfOutdated();
+    if (window_.Handle() == nullptr) {
+        return;  // destroyed while a message box was open
+    }
     const PaintDevice device(window_.Handle());
     const SIZE area = SizeOf(surface_.Area());
     const PaintBuffer::Use use(*buffer_, device.Handle(), device.Damaged());
@@ -63,6 +67,7 @@ void ControlPainter::PaintWindow() {
 }
 
 void ControlPainter::PaintClientArea(HDC device) {
+    surface_.PaintIfOutdated();
     const SIZE area = SizeOf(surface_.Area());
     DeviceCanvas canvas(device, Mapping::Plain(area), {0, 0, area.cx, area.cy});
     surface_.DrawOn(canvas);
@@ -72,6 +77,7 @@ void ControlPainter::DrawOn(HDC device, const RECT& place, SIZE size) {
     if (size.cx <= 0 || size.cy <= 0 || place.left == place.right || place.top == place.bottom) {
         return;
     }
+    surface_.PaintIfOutdated();
     const Mapping mapping = {place, size};
     if (surface_.BorderStyle() != 0) {
         DrawBorder(device, mapping);

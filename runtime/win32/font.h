@@ -43,6 +43,8 @@ class Font : public host::Font {
     /// Returns the platform's handle for the font at the screen's resolution. It is valid until the
     /// font changes or is destroyed. The caller must not delete it.
     virtual HFONT Handle() const = 0;
+    /// Returns a separate font with the same attributes and without listeners.
+    virtual std::shared_ptr<Font> Clone() const = 0;
 };
 
 /// Creates the fonts of this runtime.

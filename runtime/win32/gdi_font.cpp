@@ -97,7 +97,7 @@ HFONT GdiFont::Handle() const {
     return realised_->Handle();
 }
 
-std::shared_ptr<GdiFont> GdiFont::Clone() const {
+std::shared_ptr<Font> GdiFont::Clone() const {
     auto clone = std::make_shared<GdiFont>(name_, size_, resolution_);
     clone->weight_ = weight_;
     clone->charset_ = charset_;

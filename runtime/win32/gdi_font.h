@@ -38,9 +38,7 @@ class GdiFont final : public Font {
     void Add(FontListener& listener) override { listeners_.Add(listener); }
     void Remove(FontListener& listener) override { listeners_.Remove(listener); }
     HFONT Handle() const override;
-
-    /// Returns a separate font with the same attributes and without listeners.
-    std::shared_ptr<GdiFont> Clone() const;
+    std::shared_ptr<Font> Clone() const override;
 
  private:
     template <typename Field, typename NewValue>

@@ -76,9 +76,7 @@ void HostedControl::Save(host::PropertyBag& bag) {
 }
 
 void HostedControl::AmbientChanged() {
-    if (Handle() != nullptr) {
-        InvalidateRect(Handle(), nullptr, FALSE);
-    }
+    surface_.PictureOutdated();
 }
 
 // ---- Placement
@@ -153,10 +151,11 @@ bool HostedControl::IsShown() const {
 
 // ---- Painting
 
-void HostedControl::PaintControl() {
+bool HostedControl::PaintControl() {
     if (isStarted_) {
         Tell(*control_, &Control::UserControl_Paint);
     }
+    return isStarted_;
 }
 
 void HostedControl::DrawOn(HDC device, const RECT& place) {
@@ -237,7 +236,7 @@ LRESULT HostedControl::FollowWindow(WPARAM wParam, LPARAM lParam) {
 }
 
 LRESULT HostedControl::GiveText(std::size_t room, wchar_t* target) {
-    return CopyText(isStarted_ ? surface_.ShownTexts() : Text(), room, target);
+    return CopyText(surface_.ShownTexts(), room, target);
 }
 
 }  // namespace lumenkit::win32

@@ -71,8 +71,8 @@ class HostedControl final : public HostedWindow, public Drawable, private Surfac
     void Detach();
 
     /// Draws the control, its border and constituents in their current state, scaled into `place`
-    /// on any device, in that device's logical units. Runs UserControl_Paint if the surface does
-    /// not keep its drawing. Nothing that is visible elsewhere changes.
+    /// on any device, in that device's logical units. Runs UserControl_Paint if the picture of the
+    /// surface is outdated.
     void DrawOn(HDC device, const RECT& place);
     void DrawOn(HDC device) override;
 
@@ -94,7 +94,7 @@ class HostedControl final : public HostedWindow, public Drawable, private Surfac
     HWND SurfaceWindow() const override { return Handle(); }
     SIZE WholeSize() const override { return size_; }
     bool IsShown() const override;
-    void PaintControl() override;
+    bool PaintControl() override;
     void RequestSize(SIZE size) override;
     void BorderChanged() override;
     void PictureChanged() override { site_.PictureChanged(); }

@@ -1,5 +1,7 @@
 #include "runtime/win32/interaction.h"
 
+#include "runtime/shared/open_boxes.h"
+#include "runtime/win32/thread_shared.h"
 #include "runtime/win32/wide_text.h"
 #include "runtime/win32/windows_header.h"
 
@@ -11,6 +13,8 @@ void Interaction::Beep() {
 
 void Interaction::MsgBox(TextView message, host::MessageStyle style,
                          std::optional<TextView> title) {
+    const ThreadShared<shared::OpenBoxes> boxes;
+    const shared::OpenBoxes::Scope open(*boxes);
     const std::wstring text = ToWide(message);
     const std::wstring heading = ToWide(title ? Text(*title) : application_.ExeName());
     // If another message box blocks a window of the thread, that box is the active window.

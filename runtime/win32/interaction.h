@@ -13,7 +13,7 @@ class Interaction final : public host::Interaction {
 
     void Beep() override;
     /// Shows the box over the thread's active window and blocks that window. Without an active
-    /// window the box blocks all windows of the thread.
+    /// window the box blocks all windows of the thread. No control paints while the box is open.
     void MsgBox(TextView message, host::MessageStyle style, std::optional<TextView> title) override;
 
  private:

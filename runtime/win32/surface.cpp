@@ -1,11 +1,10 @@
 #include "runtime/win32/surface.h"
 
 #include <algorithm>
+#include <limits>
 #include <utility>
 
 #include "frame/host/accepted_values.h"
-#include "runtime/win32/device.h"
-#include "runtime/win32/device_canvas.h"
 
 namespace lumenkit::win32 {
 
@@ -33,19 +32,15 @@ class ShownText final : public Canvas {
 
 }  // namespace
 
-// The scope in which the control paints on one canvas. Paintings may nest: a device can request one
-// while the screen is painted.
+// The scope in which the control paints. The pen does not move.
 class Surface::Painting {
  public:
-    Painting(Surface& surface, Canvas& canvas)
-        : surface_(surface),
-          former_(std::exchange(surface.canvas_, &canvas)),
-          wasErased_(std::exchange(surface.isErased_, true)),
-          x_(surface.currentX_),
-          y_(surface.currentY_) {}
+    explicit Painting(Surface& surface)
+        : surface_(surface), x_(surface.currentX_), y_(surface.currentY_) {
+        surface_.isPainting_ = true;
+    }
     ~Painting() {
-        surface_.canvas_ = former_;
-        surface_.isErased_ = wasErased_;
+        surface_.isPainting_ = false;
         surface_.currentX_ = x_;
         surface_.currentY_ = y_;
     }
@@ -54,14 +49,16 @@ class Surface::Painting {
 
  private:
     Surface& surface_;
-    Canvas* former_;
-    bool wasErased_;
     float x_;
     float y_;
 };
 
 Surface::Surface(SurfaceOwner& owner, std::shared_ptr<Font> font, Resolution resolution)
     : owner_(owner), resolution_(resolution), font_(*this, std::move(font)) {}
+
+Surface::~Surface() {
+    boxes_->Remove(*this);
+}
 
 // ---- Drawing
 
@@ -70,28 +67,19 @@ void Surface::Put(Draw&& draw) {
     if (autoRedraw_) {
         draw(kept_);
         Changed();
-    } else if (canvas_ != nullptr) {
-        draw(*canvas_);
-    } else if (owner_.IsShown()) {
-        const WindowDevice device(owner_.SurfaceWindow());
-        const RECT area = Area();
-        const SIZE size = SizeOf(area);
-        DeviceCanvas canvas(device.Handle(), Mapping::Plain(size), {0, 0, size.cx, size.cy});
-        draw(canvas);
+    } else if (isPainting_) {
+        draw(recording_);
     }
 }
 
 void Surface::Cls() {
     currentX_ = 0;
     currentY_ = 0;
-    if (autoRedraw_ || !isErased_) {
-        Put([&](Canvas& canvas) { canvas.Clear(backColor_); });
-    }
+    Put([&](Canvas& canvas) { canvas.Clear(backColor_); });
 }
 
 void Surface::Print(TextView text) {
     const ScreenFontRef font = Realised();
-    isErased_ = false;
     Put([&](Canvas& canvas) {
         canvas.Print(
             {.text = text,
@@ -110,51 +98,99 @@ void Surface::FillBox(float x1, float y1, float x2, float y2, Color color) {
     const auto [top, bottom] =
         std::minmax({ToPixels(y1, resolution_.y), ToPixels(y2, resolution_.y)});
     const RECT box = {left, top, right + 1, bottom + 1};
-    isErased_ = false;
     Put([&](Canvas& canvas) { canvas.Fill(box, color == Color{} ? foreColor_ : color); });
     currentX_ = x2;
     currentY_ = y2;
 }
 
-void Surface::DrawOn(Canvas& canvas) {
-    isChanged_ = false;
-    hasPainted_ = true;
-    canvas.Clear(backColor_);
-    if (autoRedraw_) {
-        kept_.DrawOn(canvas);
-        return;
-    }
-    const Painting painting(*this, canvas);
-    owner_.PaintControl();
+void Surface::FillPixels(float x, float y, const host::PixelBox& box, Color color) {
+    const int column = ToPixels(x, resolution_.x);
+    const int row = ToPixels(y, resolution_.y);
+    const RECT place = {column + box.left, row + box.top, column + box.right + 1,
+                        row + box.bottom + 1};
+    Put([&](Canvas& canvas) { canvas.Fill(place, color == Color{} ? foreColor_ : color); });
+    currentX_ = x + ToTwips(box.right, resolution_.x);
+    currentY_ = y + ToTwips(box.bottom, resolution_.y);
 }
 
-Text Surface::ShownTexts() {
+// ---- Painting
+
+void Surface::DrawOn(Canvas& canvas) {
+    isChanged_ = false;
+    canvas.Clear(backColor_);
+    kept_.DrawOn(canvas);
+}
+
+Text Surface::ShownTexts() const {
     ShownText texts;
-    if (canvas_ != nullptr) {
-        return {};  // a painting is in progress
-    }
-    visibleBottom_ = std::numeric_limits<float>::infinity();
-    const bool wasChanged = isChanged_;
-    DrawOn(texts);
-    isChanged_ = wasChanged;
-    visibleBottom_ = -1;
+    kept_.DrawOn(texts);
     return texts.Gathered();
 }
 
-void Surface::Refresh() {
-    if (canvas_ != nullptr) {
-        return;  // it is being painted
-    }
-    owner_.PictureChanged();
-    if (!owner_.IsShown()) {
+bool Surface::IsOutdated() const {
+    const SIZE size = SizeOf(Area());
+    return isOutdated_ || size.cx != paintedSize_.cx || size.cy != paintedSize_.cy;
+}
+
+// Whether a change comes from the painting itself. While a message box interrupts the painting,
+// changes come from elsewhere.
+bool Surface::IsPaintedByControl() const {
+    return isPainting_ && !boxes_->IsAny();
+}
+
+void Surface::PaintIfOutdated() {
+    if (autoRedraw_ || isPainting_ || !IsOutdated()) {
         return;
     }
-    hasPainted_ = false;
+    if (boxes_->IsAny()) {
+        boxes_->Add(*this);
+    } else {
+        PaintControl();
+    }
+}
+
+void Surface::PaintControl() {
+    isOutdated_ = false;
+    paintedSize_ = SizeOf(Area());
+    {
+        const Painting painting(*this);
+        recording_.Clear(backColor_);
+        if (!owner_.PaintControl()) {
+            isOutdated_ = true;
+            return;
+        }
+    }
+    std::swap(kept_, recording_);
+    Invalidate();  // parts may have been shown meanwhile
+}
+
+void Surface::PictureOutdated() {
+    isOutdated_ = true;
     Invalidate();
-    UpdateWindow(owner_.SurfaceWindow());
-    if (!hasPainted_ && !autoRedraw_) {
-        ShownText unseen;  // the window is covered, but the control paints nevertheless
-        DrawOn(unseen);
+    owner_.PictureChanged();
+}
+
+void Surface::BoxesClosed() {
+    Invalidate();
+    owner_.PictureChanged();
+}
+
+void Surface::Refresh() {
+    if (IsPaintedByControl()) {
+        return;
+    }
+    PictureOutdated();
+    if (!isPainting_ && owner_.IsShown()) {
+        UpdateWindow(owner_.SurfaceWindow());
+        PaintIfOutdated();  // a covered window receives no request to paint
+    }
+}
+
+void Surface::FontChanged() {
+    realised_.reset();
+    const bool isByControl = (isPainting_ || isDrawing_) && !boxes_->IsAny();
+    if (!isByControl) {
+        PictureOutdated();
     }
 }
 
@@ -176,22 +212,28 @@ void Surface::SetAutoRedraw(bool keep) {
     if (autoRedraw_ != keep) {
         autoRedraw_ = keep;
         kept_.Clear(backColor_);
+        isOutdated_ = true;
     }
 }
 
 void Surface::SetBackColor(Color color) {
     backColor_ = color;
-    kept_.Clear(color);
-    isErased_ = false;
-    Invalidate();
-    owner_.PictureChanged();
+    if (IsPaintedByControl()) {
+        recording_.Clear(color);
+        return;
+    }
+    if (autoRedraw_) {
+        kept_.Clear(color);
+    }
+    PictureOutdated();
 }
 
 // ---- Measuring
 
 const ScreenFontRef& Surface::Realised() {
     if (realised_ == nullptr) {
-        realised_ = cache_->Find(font_.Get()->Handle());
+        const HeldFont& font = isDrawing_ ? *drawingFont_ : font_;
+        realised_ = cache_->Find(font.Get()->Handle());
     }
     return realised_;
 }
@@ -216,6 +258,21 @@ float Surface::TextHeight(TextView /*text*/) {
 
 void Surface::SetCurrentFont(host::FontRef font) {
     font_.Assign(font);
+    FontChanged();
+}
+
+host::FontRef Surface::BeginDrawing() {
+    if (!drawingFont_ || !drawingFont_->Get()->IsSame(*font_.Get())) {
+        FontListener& listener = *this;
+        drawingFont_.emplace(listener, font_.Get()->Clone());
+    }
+    isDrawing_ = true;
+    realised_.reset();
+    return drawingFont_->Get();
+}
+
+void Surface::EndDrawing() {
+    isDrawing_ = false;
     realised_.reset();
 }
 
@@ -240,10 +297,7 @@ float Surface::ScaleHeight() const {
 }
 
 float Surface::VisibleBottom() const {
-    if (autoRedraw_) {
-        return std::numeric_limits<float>::infinity();
-    }
-    return visibleBottom_ < 0 ? ScaleHeight() : visibleBottom_;
+    return autoRedraw_ ? std::numeric_limits<float>::infinity() : ScaleHeight();
 }
 
 // ---- The control on its container

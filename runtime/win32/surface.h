@@ -1,12 +1,13 @@
 #pragma once
 
 #include <cstdint>
-#include <limits>
 #include <memory>
+#include <optional>
 #include <span>
 #include <vector>
 
 #include "frame/host/surface.h"
+#include "runtime/shared/open_boxes.h"
 #include "runtime/win32/canvas.h"
 #include "runtime/win32/font.h"
 #include "runtime/win32/font_cache.h"
@@ -28,22 +29,28 @@ class SurfaceOwner {
     virtual SIZE WholeSize() const = 0;
     /// Whether the control is shown on its container.
     virtual bool IsShown() const = 0;
-    /// Runs UserControl_Paint.
-    virtual void PaintControl() = 0;
+    /// Runs UserControl_Paint. Returns false if the control is not started yet.
+    virtual bool PaintControl() = 0;
     virtual void RequestSize(SIZE size) = 0;
     /// Called when the border was added or removed.
     virtual void BorderChanged() = 0;
     virtual void PictureChanged() = 0;
 };
 
-/// The drawing surface of a control: the client area of its window. With AutoRedraw it records all
-/// drawing since Cls as a list and draws that list. Without AutoRedraw, drawing inside
-/// UserControl_Paint goes to the current device; drawing at other times stays on the screen until
-/// the next repaint.
-class Surface final : public host::Surface, private FontListener {
+/// The drawing surface of a control: the client area of its window.
+///
+/// The surface keeps what was drawn on it, and every device is drawn from that. Without AutoRedraw,
+/// drawing has an effect only during UserControl_Paint, which runs for a reason: the first time,
+/// for Refresh, and after a change of the size, the font, the background colour or the ambient
+/// properties. At other times the pen moves and nothing is drawn. While a message box of a control
+/// is open, the surface shows its former picture, and the control paints after the box is closed.
+class Surface final : public host::Surface, private FontListener, private shared::BoxWaiter {
  public:
     /// The owner must outlive the surface.
     Surface(SurfaceOwner& owner, std::shared_ptr<Font> font, Resolution resolution);
+    ~Surface() override;
+    Surface(const Surface&) = delete;
+    Surface& operator=(const Surface&) = delete;
 
     float CurrentX() const override { return currentX_; }
     void SetCurrentX(float x) override { currentX_ = x; }
@@ -52,6 +59,7 @@ class Surface final : public host::Surface, private FontListener {
     void Cls() override;
     void Print(TextView text) override;
     void FillBox(float x1, float y1, float x2, float y2, Color color) override;
+    void FillPixels(float x, float y, const host::PixelBox& box, Color color) override;
     float TextWidth(TextView text) override;
     void TextWidths(TextView text, std::span<double> ends) override;
     float TextHeight(TextView text) override;
@@ -60,6 +68,8 @@ class Surface final : public host::Surface, private FontListener {
     float VisibleBottom() const override;
     host::FontRef CurrentFont() const override { return font_.Get(); }
     void SetCurrentFont(host::FontRef font) override;
+    host::FontRef BeginDrawing() override;
+    void EndDrawing() override;
     Color ForeColor() const override { return foreColor_; }
     void SetForeColor(Color color) override { foreColor_ = color; }
     Color BackColor() const override { return backColor_; }
@@ -83,19 +93,26 @@ class Surface final : public host::Surface, private FontListener {
     // Used by the runtime; not part of the host contract.
     /// Returns the drawing area in coordinates of the control, in pixels.
     RECT Area() const;
-    /// Clears the canvas and draws the surface's picture on it. The pen does not move. If the
-    /// surface does not keep its picture, the control paints.
+    /// Makes the control paint again before the picture is shown next.
+    void PictureOutdated();
+    /// Lets the control paint if the picture is outdated.
+    void PaintIfOutdated();
+    /// Clears the canvas and draws the surface's picture on it.
     void DrawOn(Canvas& canvas);
-    /// Returns the texts that the picture shows, in lines.
-    Text ShownTexts();
+    /// Returns the texts that were drawn last, in lines.
+    Text ShownTexts() const;
 
  private:
     class Painting;
 
-    void FontChanged() override { realised_.reset(); }
+    void FontChanged() override;
+    void BoxesClosed() override;
     const ScreenFontRef& Realised();
     template <typename Draw>
     void Put(Draw&& draw);
+    bool IsOutdated() const;
+    bool IsPaintedByControl() const;
+    void PaintControl();
     void Invalidate();
     void Changed();
 
@@ -103,13 +120,15 @@ class Surface final : public host::Surface, private FontListener {
     Resolution resolution_;
     ThreadShared<FontCache> cache_;
     HeldFont font_;
-    ScreenFontRef realised_;    // null: not realised since the font changed
-    Canvas* canvas_ = nullptr;  // the canvas that the control paints on now
-    KeptPicture kept_;
+    std::optional<HeldFont> drawingFont_;
+    bool isDrawing_ = false;  // between BeginDrawing and EndDrawing
+    ScreenFontRef realised_;  // null: not realised since the font changed
+    KeptPicture kept_;        // is shown
+    KeptPicture recording_;   // is being painted
+    ThreadShared<shared::OpenBoxes> boxes_;
     std::vector<int> ends_;
     float currentX_ = 0;
     float currentY_ = 0;
-    float visibleBottom_ = -1;  // below 0: the bottom of the drawing area
     Color foreColor_ = Color::ButtonText;
     Color backColor_ = Color::ButtonFace;
     std::int16_t borderStyle_ = 0;
@@ -117,9 +136,10 @@ class Surface final : public host::Surface, private FontListener {
     bool fontTransparent_ = true;
     bool autoRedraw_ = false;
     bool enabled_ = true;
-    bool isErased_ = false;   // nothing is drawn on the canvas yet
+    bool isPainting_ = false;
+    bool isOutdated_ = true;  // the control must paint before the picture is shown again
     bool isChanged_ = false;  // since the picture was drawn last
-    bool hasPainted_ = false;
+    SIZE paintedSize_ = {};
 };
 
 }  // namespace lumenkit::win32

@@ -30,7 +30,8 @@ class ContractRuntime {
     virtual void PlaceSaved(const ClassDescriptor& type, host::PropertyBag& bag) = 0;
     /// The size must be a whole number of pixels.
     virtual void Resize(float width, float height) = 0;
-    virtual void Repaint() = 0;
+    /// Covers the control's window and uncovers it.
+    virtual void Expose() = 0;
     virtual void Save(host::PropertyBag& bag) = 0;
     virtual void SetEventHandler(EventHandler handler) = 0;
     virtual void AllowChange(TextView property, bool allowed) = 0;

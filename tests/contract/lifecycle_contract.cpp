@@ -36,15 +36,11 @@ TEST_P(LifecycleContract, ASavedControlReadsWhatItWrote) {
     EXPECT_EQ(Probe().pGetNumber(), 12345);
 }
 
-TEST_P(LifecycleContract, TheControlIsToldToResizeAndToPaint) {
+TEST_P(LifecycleContract, TheControlIsToldToResize) {
     Probe().Take();
     runtime_->Resize(20 * Pixel(), 10 * Pixel());
     EXPECT_EQ(WithoutPaints(), Lines{"Resize"});
     EXPECT_NEAR(Probe().resizedWidth, 20 * Pixel(), Pixel());
-    Surface().SetAutoRedraw(false);
-    Probe().Take();
-    runtime_->Repaint();
-    EXPECT_EQ(Probe().Take(), Lines{"Paint"});
 }
 
 TEST_P(LifecycleContract, AClickOnAnEnabledSurfaceReachesTheControl) {

@@ -28,7 +28,7 @@ class MemoryRuntime final : public ContractRuntime {
         control_->StartSaved(bag);
     }
     void Resize(float width, float height) override { control_->Resize(width, height); }
-    void Repaint() override { control_->Paint(); }
+    void Expose() override {}  // there is no screen
     void Save(host::PropertyBag& bag) override { control_->Save(bag); }
     void SetEventHandler(EventHandler handler) override {
         control_->Site().SetEventHandler(std::move(handler));

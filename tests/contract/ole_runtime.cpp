@@ -59,7 +59,7 @@ class OleRuntime final : public WindowsUser {
         site_->SetPlace({10, 20, 10 + win32::ToPixels(width, resolution.x),
                          20 + win32::ToPixels(height, resolution.y)});
     }
-    void Repaint() override {
+    void Expose() override {
         InvalidateRect(ControlWindow(), nullptr, FALSE);
         UpdateWindow(ControlWindow());
     }

@@ -77,7 +77,7 @@ class QtRuntime final : public ContractRuntime, public qt::ControlSite, private 
         placement.height = height;
         control_->Move(placement);
     }
-    void Repaint() override { control_->Drawing().Area().repaint(); }
+    void Expose() override { control_->Drawing().Area().repaint(); }
     void Save(host::PropertyBag& bag) override { control_->Save(bag); }
     void SetEventHandler(EventHandler handler) override {
         container_->onEvent = std::move(handler);

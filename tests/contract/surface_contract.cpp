@@ -33,6 +33,12 @@ TEST_P(SurfaceContract, ABoxLeavesThePenAtItsSecondCorner) {
     EXPECT_EQ(Surface().CurrentY(), 300);
 }
 
+TEST_P(SurfaceContract, ABoxOfPixelsLeavesThePenAtItsSecondCorner) {
+    Surface().FillPixels(150, 300, {-1, -2, 4, 6}, Color{});
+    EXPECT_NEAR(Surface().CurrentX(), 150 + 4 * Pixel(), 1);
+    EXPECT_NEAR(Surface().CurrentY(), 300 + 6 * Pixel(), 1);
+}
+
 TEST_P(SurfaceContract, ASurfaceMeasuresAllBreaksOfATextAtOnce) {
     const TextView text = u"one two  three";
     std::vector<double> ends(text.size());
@@ -96,6 +102,35 @@ TEST_P(SurfaceContract, RefreshPaintsAtOnceUnlessTheSurfaceKeepsItsPicture) {
     Probe().Take();
     Surface().Refresh();
     EXPECT_EQ(Probe().Take(), Lines{});
+}
+
+TEST_P(SurfaceContract, AnExposureIsAnsweredFromThePicture) {
+    Surface().SetAutoRedraw(false);
+    Surface().Refresh();
+    Probe().Take();
+    runtime_->Expose();
+    EXPECT_EQ(Probe().Take(), Lines{});
+}
+
+TEST_P(SurfaceContract, ADrawingHasAFontOfItsOwn) {
+    const host::FontRef font = runtime_->NewFont(u"Arial", 10);
+    font->SetWeight(300);
+    Surface().SetCurrentFont(font);
+    const float width = Surface().TextWidth(u"measured");
+    const host::FontRef own = Surface().BeginDrawing();
+    EXPECT_NE(own, font);
+    EXPECT_TRUE(own->IsSame(*font));
+    EXPECT_EQ(Surface().TextWidth(u"measured"), width);
+    own->SetBold(true);
+    own->SetSize(20);
+    EXPECT_GT(Surface().TextWidth(u"measured"), width * 1.5F);
+    EXPECT_EQ(Surface().CurrentFont(), font);
+    EXPECT_EQ(font->Weight(), 300);
+    EXPECT_EQ(font->Size(), 10);
+    Surface().EndDrawing();
+    EXPECT_EQ(Surface().TextWidth(u"measured"), width);
+    EXPECT_TRUE(Surface().BeginDrawing()->IsSame(*font)) << "each drawing starts with a copy";
+    Surface().EndDrawing();
 }
 
 TEST_P(SurfaceContract, SizeResizesAtOnceIfAnythingChanges) {

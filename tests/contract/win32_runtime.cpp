@@ -24,7 +24,7 @@ class Win32Runtime final : public WindowsUser {
     void Resize(float width, float height) override {
         control_->Hosted().SetSize(Pixels(width, height));
     }
-    void Repaint() override {
+    void Expose() override {
         InvalidateRect(control_->Hosted().Handle(), nullptr, FALSE);
         UpdateWindow(control_->Hosted().Handle());
     }

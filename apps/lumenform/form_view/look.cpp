@@ -26,7 +26,7 @@ void ApplyColors(QWidget& widget, WidgetColors colors, WidgetColors usual) {
 }
 
 void ApplyFont(QWidget& widget, const qt::Font& font) {
-    widget.setFont(font.FaceAt(widget.devicePixelRatioF())->WidgetFont());
+    widget.setFont(font.FaceAt(1)->WidgetFont());
 }
 
 }  // namespace lumenkit::lumenform

@@ -164,6 +164,15 @@ HFONT OleFont::Handle() const {
     return Attribute(*font_.Get(), &IFont::get_hFont);
 }
 
+std::shared_ptr<win32::Font> OleFont::Clone() const {
+    ComPtr<IFont> font;
+    CheckValue(font_->Clone(&font));
+    auto clone = Of(font.Get());
+    clone->asked_ = asked_;
+    clone->given_ = given_;
+    return clone;
+}
+
 void OleFont::Add(win32::FontListener& listener) {
     listeners_.Add(listener);
     if (point_ == nullptr) {

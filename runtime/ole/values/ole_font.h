@@ -44,6 +44,7 @@ class OleFont final : public win32::Font, public ComBacked {
     void Add(win32::FontListener& listener) override;
     void Remove(win32::FontListener& listener) override;
     HFONT Handle() const override;
+    std::shared_ptr<win32::Font> Clone() const override;
 
     ComPtr<IDispatch> Dispatch() const override { return dispatch_; }
     /// Requests a size, which the platform rounds to a size that it can draw. Size returns the

@@ -86,6 +86,86 @@ TEST_F(ViewTest, DrawsWithoutAContainer) {
     EXPECT_TRUE(canvas.Has(0xFF0000));
 }
 
+TEST_F(ViewTest, ALabelThatCannotBeDrawnReportsItOnceForEachReason) {
+    const Late label(As<IDispatch>());
+    const Canvas canvas;
+    const auto draw = [&] {
+        const RECTL place = {0, 0, Canvas::width, Canvas::height};
+        EXPECT_EQ(As<IViewObject>()->Draw(DVASPECT_CONTENT, -1, nullptr, nullptr, nullptr,
+                                          canvas.Device(), &place, nullptr, nullptr, 0),
+                  S_OK);
+        return MessageBoxes::Take();
+    };
+    EXPECT_EQ(label.Put(L"Caption", Text(u"|size:5000|x")), S_OK);
+    EXPECT_EQ(draw(), 1);
+    EXPECT_EQ(draw(), 0);
+    EXPECT_EQ(label.Put(L"WordWrap", true), S_OK);
+    EXPECT_EQ(draw(), 1);
+    EXPECT_EQ(draw(), 0);
+}
+
+// A font object that a program shares between the label and other controls.
+class ViewedFont : public ViewTest {
+ protected:
+    ViewedFont() {
+        const Late label(As<IDispatch>());
+        Variant font;
+        EXPECT_EQ(label.Invoke(L"Font", DISPATCH_PROPERTYGET, {}, font.Get()), S_OK);
+        font_ = V_DISPATCH(font.Get());
+        EXPECT_EQ(label.Put(L"Caption", Text(u"|b:1|x|b:0|y|i:1|z|size:20|large")), S_OK);
+    }
+    Late Font() { return Late(font_); }
+    void Draw() {
+        const Canvas canvas;
+        const RECTL place = {0, 0, Canvas::width, Canvas::height};
+        EXPECT_EQ(Late(As<IDispatch>()).Invoke(L"Refresh", DISPATCH_METHOD, {}), S_OK);
+        EXPECT_EQ(As<IViewObject>()->Draw(DVASPECT_CONTENT, -1, nullptr, nullptr, nullptr,
+                                          canvas.Device(), &place, nullptr, nullptr, 0),
+                  S_OK);
+        EXPECT_TRUE(canvas.Has(0)) << "the text";
+    }
+    void TearDown() override {
+        font_.Reset();
+        ViewTest::TearDown();
+    }
+
+    ComPtr<IDispatch> font_;
+};
+
+TEST_F(ViewedFont, KeepsItsWeight) {
+    for (const std::int16_t weight : {std::int16_t{300}, std::int16_t{900}}) {
+        EXPECT_EQ(Font().Put(L"Weight", weight), S_OK);
+        Draw();
+        EXPECT_EQ(Font().Get(L"Weight"), Value(weight));
+    }
+}
+
+TEST_F(ViewedFont, NotifiesNoHolderOfADrawing) {
+    container::PropertySink sink(log_);
+    ComPtr<IConnectionPointContainer> points;
+    ComPtr<IConnectionPoint> point;
+    ASSERT_EQ(Font().Get().As(&points), S_OK);
+    ASSERT_EQ(points->FindConnectionPoint(IID_IPropertyNotifySink, &point), S_OK);
+    DWORD cookie = 0;
+    ASSERT_EQ(point->Advise(&sink, &cookie), S_OK);
+    Draw();
+    Draw();
+    EXPECT_EQ(log_.Take(), Lines{});
+    EXPECT_EQ(Font().Put(L"Bold", true), S_OK);
+    EXPECT_NE(log_.Take(), Lines{});
+    EXPECT_EQ(point->Unadvise(cookie), S_OK);
+}
+
+TEST_F(ViewedFont, TellsContainersOfAChangedAttribute) {
+    container::AdviseSink sink(log_);
+    EXPECT_EQ(As<IViewObject>()->SetAdvise(DVASPECT_CONTENT, 0, &sink), S_OK);
+    Draw();
+    log_.Take();
+    EXPECT_EQ(Font().Put(L"Size", 24.0F), S_OK);
+    EXPECT_THAT(log_.Take(), ::testing::Contains("OnViewChange 1 -1"));
+    EXPECT_EQ(As<IViewObject>()->SetAdvise(0, 0, nullptr), S_OK);
+}
+
 TEST_F(ViewTest, RefusesOtherAspectsAndBadPlaces) {
     const ComPtr<IViewObjectEx> view = As<IViewObjectEx>();
     const Canvas canvas;

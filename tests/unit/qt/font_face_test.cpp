@@ -178,6 +178,16 @@ TEST(FaceTest, SizesAreTheNearestWholePixels) {
     EXPECT_LT(width(8.25F), width(9));
 }
 
+// 10 points are 13.33 pixels: 13 at scale 1, 26.67 device pixels and therefore 27 at scale 2.
+TEST(FaceTest, SizesAreTheNearestWholeDevicePixels) {
+    const auto width = [](float size, double scale) {
+        return FaceOf(u"Arial", size, scale)->WidthOf(u"a size");
+    };
+    EXPECT_EQ(width(10, 2), width(20.25F, 1) / 2);
+    EXPECT_EQ(width(10, 1.5), width(15, 1) / 1.5);
+    EXPECT_GT(width(10, 2), width(10, 1));
+}
+
 TEST(FaceTest, KnownNamesHaveTheirKindOfFont) {
     const auto equalWidths = [](TextView name) {
         return FaceOf(name, 12)->WidthOf(u"iiii") == FaceOf(name, 12)->WidthOf(u"WWWW");

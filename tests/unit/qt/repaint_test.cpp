@@ -1,7 +1,8 @@
-// A label draws exactly its glyph runs.
+// A label draws exactly its glyph runs, and draws them for a reason only.
 #include <QImage>
 #include <QPaintEvent>
 #include <QPainter>
+#include <QTest>
 #include <vector>
 
 #include <gtest/gtest.h>
@@ -69,7 +70,8 @@ TEST(QtRepaintTest, DrawsWhatItsGlyphsDraw) {
     label.Automation().Let(u"Caption", ThirtyLines());
     QImage image(label.size(), QImage::Format_ARGB32_Premultiplied);
     Surface& surface = label.Drawing();
-    const std::vector<Drawn> runs = RunsOf(surface, label.devicePixelRatioF());
+    const double scale = label.devicePixelRatioF();
+    const std::vector<Drawn> runs = RunsOf(surface, scale);
     {
         QPainter painter(&image);
         surface.DrawOn(painter, QRect(QPoint(0, 0), image.size()));
@@ -79,12 +81,63 @@ TEST(QtRepaintTest, DrawsWhatItsGlyphsDraw) {
     painter.fillRect(expected.rect(), Qt::white);
     for (const Drawn& run : runs) {
         painter.setPen(run.color);
+        painter.resetTransform();
+        painter.translate(run.place);
+        painter.scale(1 / scale, 1 / scale);
         for (const QGlyphRun& glyphs : run.glyphs) {
-            painter.drawGlyphRun(run.place, glyphs);
+            painter.drawGlyphRun({}, glyphs);
         }
     }
     painter.end();
     EXPECT_EQ(image, expected);
+}
+
+TEST(QtRepaintTest, ALabelThatCannotBeDrawnReportsItOnceForEachReason) {
+    testing::QtForm form(lumenkitClasses);
+    HostedControl& label = form.Place(u"VLabel", {0, 0, 3000, 1500});
+    QTest::qWait(20);
+    label.Automation().Let(u"Caption", Text(u"|size:5000|x"));
+    QTest::qWait(20);
+    const std::size_t reported = form.interaction.said.size();
+    EXPECT_EQ(reported, 2U) << "a beep and a message";
+    for (int exposure = 0; exposure < 3; ++exposure) {
+        form.window.hide();
+        form.window.show();
+        EXPECT_TRUE(QTest::qWaitForWindowExposed(&form.window));
+        form.window.repaint();
+        label.setPalette(QPalette(exposure == 1 ? Qt::darkGray : Qt::white));
+        QTest::qWait(20);
+    }
+    EXPECT_EQ(form.interaction.said.size(), reported);
+    label.Automation().Call(u"Refresh");
+    QTest::qWait(20);
+    EXPECT_EQ(form.interaction.said.size(), 2 * reported);
+}
+
+// Counts the notifications that the holder of a font gets.
+class Holder final : public FontListener {
+ public:
+    void AttributesSet() override { ++notifications; }
+    int notifications = 0;
+};
+
+TEST(QtRepaintTest, DrawingNotifiesNoHolderOfTheFontAndKeepsItsWeight) {
+    testing::QtForm form(lumenkitClasses);
+    HostedControl& label = form.Place(u"VLabel", {0, 0, 3000, 1500});
+    label.Automation().Let(u"Caption", Text(u"|b:1|x|b:0|y|i:1|z|size:20|large"));
+    const auto font = Font::From(label.Drawing().CurrentFont());
+    for (const std::int16_t weight : {std::int16_t{300}, std::int16_t{900}}) {
+        font->SetWeight(weight);
+        Holder holder;
+        font->Add(holder);
+        for (int drawing = 0; drawing < 10; ++drawing) {
+            label.Automation().Call(u"Refresh");
+            QTest::qWait(1);
+        }
+        font->Remove(holder);
+        EXPECT_EQ(holder.notifications, 0);
+        EXPECT_EQ(font->Weight(), weight);
+    }
 }
 
 }  // namespace

@@ -9,6 +9,7 @@
 
 #include <gtest/gtest.h>
 
+#include "runtime/qt/qt_text.h"
 #include "runtime/qt/surface_widget.h"
 #include "tests/support/painting_control.h"
 #include "tests/support/qt_form.h"
@@ -32,7 +33,7 @@ class QtSurfaceTest : public ::testing::Test {
     host::Surface& Surface() { return control_.Drawing(); }
     void OnPaint(std::function<void(host::Surface&)> paint) {
         PaintingControl::Last().onPaint = std::move(paint);
-        control_.Drawing().Area().repaint();
+        Surface().Refresh();
     }
     // Returns the picture on the screen, in device pixels.
     QImage Picture() { return control_.Drawing().Area().grab().toImage(); }
@@ -167,13 +168,61 @@ TEST_F(QtSurfaceTest, OutsideAPaintingThePenMovesAndNothingIsDrawn) {
     EXPECT_EQ(Count(Picture(), Qt::red), 0);
 }
 
-TEST_F(QtSurfaceTest, WhatIsExposedIsPaintedAndTheRestNotAskedFor) {
-    float bottom = 0;
-    OnPaint([&](host::Surface& surface) { bottom = surface.VisibleBottom(); });
-    EXPECT_EQ(bottom, 1500);
+TEST_F(QtSurfaceTest, ExposuresAreAnsweredFromThePicture) {
+    int paints = 0;
+    OnPaint([&](host::Surface& surface) {
+        ++paints;
+        surface.FillBox(150, 150, 450, 450, red);
+    });
+    EXPECT_EQ(paints, 1);
     control_.Drawing().Area().repaint(0, 0, 50, 20);
-    EXPECT_EQ(bottom, 300);
-    EXPECT_GE(Surface().VisibleBottom(), Surface().ScaleHeight());
+    control_.Drawing().Area().repaint();
+    form_.window.hide();
+    form_.window.show();
+    EXPECT_TRUE(QTest::qWaitForWindowExposed(&form_.window));
+    EXPECT_GT(Count(Picture(), Qt::red), 100);
+    EXPECT_EQ(paints, 1);
+}
+
+TEST_F(QtSurfaceTest, AReasonLetsTheControlPaintOnce) {
+    struct Reason {
+        const char* name;
+        std::function<void()> act;
+    };
+    const Reason reasons[] = {
+        {"Refresh", [&] { Surface().Refresh(); }},
+        {"size", [&] { Surface().Size(3300, 1800); }},
+        {"border", [&] { Surface().SetBorderStyle(1); }},
+        {"background", [&] { Surface().SetBackColor(blue); }},
+        {"another font", [&] { Surface().SetCurrentFont(std::make_shared<Font>(u"Arial", 20)); }},
+        {"font attribute", [&] { Surface().CurrentFont()->SetSize(30); }},
+    };
+    int paints = 0;
+    OnPaint([&](host::Surface&) { ++paints; });
+    for (const Reason& reason : reasons) {
+        QTest::qWait(20);
+        const int before = paints;
+        reason.act();
+        QTest::qWait(20);
+        EXPECT_EQ(paints, before + 1) << reason.name;
+    }
+}
+
+TEST_F(QtSurfaceTest, WhileAMessageBoxIsOpenTheFormerPictureIsShown) {
+    int paints = 0;
+    OnPaint([&](host::Surface& surface) { surface.FillBox(150, 150, 450, 450, red); });
+    {
+        const shared::OpenBoxes::Scope open(Boxes());
+        PaintingControl::Last().onPaint = [&](host::Surface&) { ++paints; };
+        Surface().Refresh();
+        Surface().Refresh();
+        QTest::qWait(20);
+        EXPECT_GT(Count(Picture(), Qt::red), 100);
+        EXPECT_EQ(paints, 0);
+    }
+    QTest::qWait(20);
+    EXPECT_EQ(paints, 1);
+    EXPECT_EQ(Count(Picture(), Qt::red), 0);
 }
 
 TEST_F(QtSurfaceTest, AnErrorInAPaintingReachesWhoeverRefreshed) {
@@ -181,6 +230,9 @@ TEST_F(QtSurfaceTest, AnErrorInAPaintingReachesWhoeverRefreshed) {
     EXPECT_THROW(Surface().Refresh(), RuntimeError);
     EXPECT_TRUE(form_.errors.empty());
     control_.Drawing().Area().repaint();
+    EXPECT_TRUE(form_.errors.empty()) << "an exposure is no reason to paint again";
+    control_.resize(100, 50);  // by a layout or the mouse
+    QTest::qWait(20);
     ASSERT_EQ(form_.errors.size(), 1U) << "nobody caused this one";
     EXPECT_EQ(form_.errors[0].Number(), 11);
 }
@@ -255,6 +307,56 @@ TEST_F(QtSurfaceTest, TheScreenHasTheRealResolution) {
               static_cast<std::int16_t>(std::nearbyint(15 / Scale())));
 }
 
+// The parts are in the order in which they stand from left to right.
+struct OrderedText {
+    TextView text;
+    std::vector<TextView> parts;
+};
+const OrderedText orderedTexts[] = {
+    {u"\u05E9\u05DC\u05D5\u05DD xyz", {u"\u05E9\u05DC\u05D5\u05DD", u" ", u"xyz"}},
+    {u"xyz \u05E9\u05DC\u05D5\u05DD", {u"xyz", u" ", u"\u05E9\u05DC\u05D5\u05DD"}},
+    {u"\u05D0\u05D1 \u05D2\u05D3", {u"\u05D2\u05D3", u" ", u"\u05D0\u05D1"}},
+    {u"ab \u05D0\u05D1 \u05D2\u05D3 cd",
+     {u"ab", u" ", u"\u05D2\u05D3", u" ", u"\u05D0\u05D1", u" ", u"cd"}},
+    {u"\u05D0\u05D1 12 \u05D2\u05D3", {u"\u05D2\u05D3", u" ", u"12", u" ", u"\u05D0\u05D1"}},
+    {u"\u05D0\u05D1 ", {u"\u05D0\u05D1", u" "}},
+};
+
+TEST_F(QtSurfaceTest, InsideARunThePlatformOrdersTheWords) {
+    Surface().SetCurrentFont(std::make_shared<Font>(u"Arial", 12));
+    for (const OrderedText& ordered : orderedTexts) {
+        OnPaint([&](host::Surface& surface) {
+            surface.Cls();
+            surface.Print(ordered.text);
+        });
+        const QImage whole = Picture();
+        OnPaint([&](host::Surface& surface) {
+            surface.Cls();
+            for (const TextView part : ordered.parts) {
+                surface.Print(part);
+            }
+        });
+        EXPECT_EQ(whole, Picture()) << ToQString(ordered.text).toStdString();
+    }
+}
+
+TEST_F(QtSurfaceTest, RunsStandInTheirOrderWithTheirBlanks) {
+    Surface().SetCurrentFont(std::make_shared<Font>(u"Arial", 12));
+    const TextView first = u"\u05E9\u05DC\u05D5\u05DD ";
+    const TextView second = u"\u05E2\u05D5\u05DC\u05DD";
+    OnPaint([&](host::Surface& surface) {
+        surface.Cls();
+        surface.Print(first);
+    });
+    const QRect left = Extent(Picture(), Qt::black);
+    OnPaint([&](host::Surface& surface) {
+        surface.SetCurrentX(surface.TextWidth(first));
+        surface.Print(second);
+    });
+    const QRect right = Extent(Picture(), Qt::black);
+    EXPECT_GE(right.left() - left.right(), Real(Surface().TextWidth(u" ")) / 2);
+}
+
 TEST_F(QtSurfaceTest, TheMouseIsTold) {
     PaintingControl& painting = PaintingControl::Last();
     QTest::mouseMove(&control_.Drawing().Area(), {3, 3});
@@ -267,7 +369,14 @@ TEST_F(QtSurfaceTest, TheMouseIsTold) {
     EXPECT_NE(std::ranges::find(painting.heard, "dblclick"), painting.heard.end());
     painting.heard.clear();
     QTest::mouseClick(&control_.Drawing().Area(), Qt::RightButton, {}, {1, 1});
-    EXPECT_EQ(painting.heard, (std::vector<std::string>{"down 2 0 15 15", "up 2 0 15 15"}));
+    EXPECT_EQ(painting.heard,
+              (std::vector<std::string>{"down 2 0 15 15", "up 2 0 15 15", "click"}));
+    painting.heard.clear();
+    QTest::mouseDClick(&control_.Drawing().Area(), Qt::RightButton, {}, {1, 1});
+    EXPECT_NE(std::ranges::find(painting.heard, "dblclick"), painting.heard.end());
+    painting.heard.clear();
+    QTest::mouseClick(&control_.Drawing().Area(), Qt::MiddleButton, {}, {1, 1});
+    EXPECT_EQ(painting.heard, (std::vector<std::string>{"down 4 0 15 15", "up 4 0 15 15"}));
 }
 
 TEST_F(QtSurfaceTest, TwipsAreKeptAsSet) {

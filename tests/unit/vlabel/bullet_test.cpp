@@ -19,6 +19,7 @@ namespace {
 
 std::string Boxes(std::int16_t pixelX, std::int16_t pixelY, float x, float centreY, float radius) {
     memory::Surface surface(std::make_shared<memory::FaultPlan>(), 3000, 1500);
+    surface.SetPixelSize(pixelX, pixelY);
     PaintBullet(surface, pixelX, pixelY, x, centreY, radius);
     std::string boxes;
     for (const memory::DisplayItem& item : surface.Drawn().Items()) {

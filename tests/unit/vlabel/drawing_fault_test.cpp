@@ -224,6 +224,25 @@ TEST(DrawingFaults, HostMayPaintAndAssignWhileAReportIsShown) {
     EXPECT_EQ(std::get<memory::PrintItem>(renderer.Drawn()[1]).text, Text(1000, u'x'));
 }
 
+TEST(DrawingFaults, CaptionAssignedWhileACompileErrorIsShownIsCompiledNext) {
+    LabelScene scene;
+    scene.caption = u"|before:1E39|a";
+    TracedRenderer renderer(scene);
+    renderer.person.meanwhile = [&] {
+        renderer.settings.Caption = u"another";
+        renderer.settings.IsCompiled = false;
+    };
+    renderer.Draw();
+    EXPECT_THAT(renderer.TakeReports(),
+                ElementsAre("error 6 in CompileCommand", "error 9 in ExecuteNextCommand"));
+    EXPECT_FALSE(renderer.settings.IsCompiled);
+    renderer.Draw();
+    EXPECT_THAT(renderer.TakeReports(), IsEmpty());
+    ASSERT_EQ(renderer.Drawn().size(), 2U);
+    EXPECT_EQ(std::get<memory::PrintItem>(renderer.Drawn()[1]).text, u"another");
+    EXPECT_TRUE(renderer.settings.IsCompiled);
+}
+
 }  // namespace
 
 }  // namespace lumenkit::testing

@@ -31,6 +31,11 @@ class FlatSurface final : public host::Surface {
     float ScaleWidth() const override { return real_.ScaleWidth(); }
     float ScaleHeight() const override { return real_.ScaleHeight(); }
     float VisibleBottom() const override { return real_.VisibleBottom(); }
+    void FillPixels(float x, float y, const host::PixelBox& box, Color color) override {
+        real_.FillPixels(x, y, box, color);
+    }
+    host::FontRef BeginDrawing() override { return real_.BeginDrawing(); }
+    void EndDrawing() override { real_.EndDrawing(); }
     host::FontRef CurrentFont() const override { return real_.CurrentFont(); }
     void SetCurrentFont(host::FontRef font) override { real_.SetCurrentFont(std::move(font)); }
     Color ForeColor() const override { return real_.ForeColor(); }

@@ -1,4 +1,5 @@
 // Surfaces on screens with other resolutions than this one.
+#include <functional>
 #include <random>
 #include <vector>
 
@@ -17,12 +18,18 @@ class Owner final : public SurfaceOwner {
     HWND SurfaceWindow() const override { return nullptr; }
     SIZE WholeSize() const override { return size; }
     bool IsShown() const override { return false; }
-    void PaintControl() override {}
+    bool PaintControl() override {
+        if (paint) {
+            paint();
+        }
+        return true;
+    }
     void RequestSize(SIZE requested) override { size = requested; }
     void BorderChanged() override {}
     void PictureChanged() override {}
 
     SIZE size = {300, 200};
+    std::function<void()> paint;
 };
 
 class ResolutionTest : public ::testing::TestWithParam<int> {
@@ -72,6 +79,40 @@ TEST_P(ResolutionTest, LengthsAreInTwips) {
     EXPECT_EQ(owner_.size.cx, GetParam());
     EXPECT_EQ(owner_.size.cy, GetParam() / 2);
     EXPECT_FLOAT_EQ(surface_.Width(), 1440);
+}
+
+// Collects the filled boxes.
+class Boxes final : public Canvas {
+ public:
+    void Clear(Color /*paper*/) override {}
+    void Print(const TextRun& /*run*/) override {}
+    void Fill(const RECT& box, Color /*color*/) override { filled.push_back(box); }
+
+    std::vector<RECT> filled;
+};
+
+TEST_P(ResolutionTest, BoxesWithOneOriginFitTogether) {
+    constexpr host::PixelBox wide = {0, -2, 7, 1};
+    constexpr host::PixelBox tall = {2, -4, 5, 3};
+    for (float origin = 0; origin < 60; ++origin) {
+        owner_.paint = [&] {
+            surface_.FillPixels(origin, origin + 100, wide, Color{});
+            surface_.FillPixels(origin, origin + 100, tall, Color{});
+        };
+        surface_.PictureOutdated();
+        surface_.PaintIfOutdated();
+        Boxes boxes;
+        surface_.DrawOn(boxes);
+        ASSERT_EQ(boxes.filled.size(), 2U);
+        const RECT& first = boxes.filled[0];
+        const RECT& second = boxes.filled[1];
+        EXPECT_EQ(first.right - first.left, 8);
+        EXPECT_EQ(first.bottom - first.top, 4);
+        EXPECT_EQ(second.left - first.left, 2);
+        EXPECT_EQ(first.right - second.right, 2);
+        EXPECT_EQ(first.top - second.top, 2);
+        EXPECT_EQ(second.bottom - first.bottom, 2);
+    }
 }
 
 }  // namespace

@@ -1,5 +1,6 @@
 // A control's surface on real devices: behaviour that the shared contract tests cannot check.
 #include <cmath>
+#include <functional>
 #include <memory>
 #include <string>
 #include <vector>
@@ -8,7 +9,9 @@
 
 #include "frame/automation/interface_table.h"
 #include "frame/utf8.h"
+#include "runtime/shared/open_boxes.h"
 #include "runtime/win32/colors.h"
+#include "runtime/win32/thread_shared.h"
 #include "tests/support/allocation_counter.h"
 #include "tests/support/picture.h"
 #include "tests/support/windows_form.h"
@@ -164,12 +167,105 @@ TEST_F(SurfaceTest, KeepsWhatIsDrawnWhereItShall) {
         << "another background clears it";
 }
 
-TEST_F(SurfaceTest, WhatIsDrawnBetweenPaintsIsSeenUntilTheNext) {
+TEST_F(SurfaceTest, OutsideAPaintingThePenMovesAndNothingIsDrawn) {
     OnScreen();
     Surface().FillBox(0, 0, Pixels(9), Pixels(9), Rgb(255, 0, 0));
-    EXPECT_EQ(OnScreen()->Count(red), 100);
-    Surface().Refresh();
+    EXPECT_EQ(Surface().CurrentX(), Pixels(9));
     EXPECT_EQ(OnScreen()->Count(red), 0);
+}
+
+TEST_F(SurfaceTest, ExposuresAndOtherDevicesAreAnsweredFromThePicture) {
+    PaintBy([&](host::Surface& surface) {
+        surface.FillBox(0, 0, Pixels(9), Pixels(9), Rgb(255, 0, 0));
+    });
+    Painted().paints = 0;
+    for (int exposure = 0; exposure < 3; ++exposure) {
+        InvalidateRect(Window(), nullptr, TRUE);
+        EXPECT_EQ(OnScreen()->Count(red), 100);
+        EXPECT_EQ(Drawn()->Count(red), 100);
+        EXPECT_EQ(Drawn({400, 200})->Count(red), 400);
+    }
+    EXPECT_EQ(Painted().paints, 0);
+}
+
+TEST_F(SurfaceTest, AReasonLetsTheControlPaintOnce) {
+    struct Reason {
+        const char* name;
+        std::function<void()> act;
+    };
+    const Reason reasons[] = {
+        {"Refresh", [&] { Surface().Refresh(); }},
+        {"size", [&] { Surface().Size(Pixels(150), Pixels(90)); }},
+        {"border", [&] { Surface().SetBorderStyle(1); }},
+        {"background", [&] { Surface().SetBackColor(Rgb(0, 0, 255)); }},
+        {"another font", [&] { Surface().SetCurrentFont(form_.Fonts().NewFont(u"Arial", 20)); }},
+        {"font attribute", [&] { Surface().CurrentFont()->SetSize(30); }},
+        {"ambient property", [&] { control_.Hosted().AmbientChanged(); }},
+    };
+    for (const Reason& reason : reasons) {
+        WindowsForm::Pump();
+        Painted().paints = 0;
+        reason.act();
+        WindowsForm::Pump();
+        Drawn();
+        EXPECT_EQ(Painted().paints, 1) << reason.name;
+    }
+}
+
+TEST_F(SurfaceTest, WhileAMessageBoxIsOpenTheFormerPictureIsShown) {
+    PaintBy([&](host::Surface& surface) {
+        surface.FillBox(0, 0, Pixels(9), Pixels(9), Rgb(255, 0, 0));
+    });
+    const win32::ThreadShared<shared::OpenBoxes> boxes;
+    Painted().paints = 0;
+    {
+        const shared::OpenBoxes::Scope open(*boxes);
+        Painted().paint = [](host::Surface& /*surface*/) {};
+        Surface().Refresh();
+        Surface().Refresh();
+        WindowsForm::Pump();
+        EXPECT_EQ(OnScreen()->Count(red), 100);
+        EXPECT_EQ(Drawn()->Count(red), 100);
+        EXPECT_EQ(Painted().paints, 0);
+    }
+    WindowsForm::Pump();
+    EXPECT_EQ(Painted().paints, 1);
+    EXPECT_EQ(OnScreen()->Count(red), 0);
+}
+
+TEST_F(SurfaceTest, ARefreshWhileAPaintingIsInterruptedByABoxPaintsOnceAfterwards) {
+    const win32::ThreadShared<shared::OpenBoxes> boxes;
+    Painted().paints = 0;
+    PaintBy([&](host::Surface& surface) {
+        if (Painted().paints > 1) {
+            return;
+        }
+        surface.FillBox(0, 0, Pixels(9), Pixels(9), Rgb(255, 0, 0));
+        const shared::OpenBoxes::Scope open(*boxes);  // an error is reported
+        InvalidateRect(Window(), nullptr, FALSE);     // the box covered the control
+        WindowsForm::Pump();
+        Surface().Refresh();
+        WindowsForm::Pump();
+        EXPECT_EQ(Painted().paints, 1);
+    });
+    WindowsForm::Pump();
+    EXPECT_EQ(Painted().paints, 2);
+    EXPECT_EQ(OnScreen()->Count(red), 0);
+}
+
+TEST_F(SurfaceTest, AnAttributeOfTheFontThatAClientSetsIsShownAtOnce) {
+    const host::FontRef font = form_.Fonts().NewFont(u"Arial", 10);
+    Surface().SetCurrentFont(font);
+    PaintBy([](host::Surface& surface) { surface.Print(u"text"); });
+    const auto height = [&] {
+        const RECT bounds = OnScreen()->BoundsOfOthers(GetSysColor(COLOR_BTNFACE));
+        return bounds.bottom - bounds.top;
+    };
+    const LONG small = height();
+    control_.pictureChanges = 0;
+    font->SetSize(30);
+    EXPECT_GT(height(), small * 2);
+    EXPECT_EQ(control_.pictureChanges, 1) << "containers that keep a picture draw it again";
 }
 
 TEST_F(SurfaceTest, DrawsAtAnyScaleAndPlace) {
@@ -347,11 +443,13 @@ TEST_F(SurfaceTest, TheWindowsTextIsWhatIsShown) {
         surface.Print(u"and one below what is seen");
     });
     wchar_t text[100] = L"";
+    Painted().paints = 0;
     EXPECT_EQ(GetWindowTextLengthW(Window()), 36);
     GetWindowTextW(Window(), text, 100);
     EXPECT_STREQ(text, L"one line\r\nand one below what is seen");
     GetWindowTextW(Window(), text, 5);
     EXPECT_STREQ(text, L"one ");
+    EXPECT_EQ(Painted().paints, 0) << "a question draws nothing";
 }
 
 TEST_F(SurfaceTest, WidthsFollowAChangeOfTheFontAtOnce) {
@@ -399,10 +497,55 @@ TEST_F(SurfaceTest, RepaintingAllocatesNothing) {
         };
         Painted().paint = draw;
         repaint();
+        repaint();  // the shown picture and the recorded one take turns
         const std::int64_t before = AllocationCount();
         repaint();
         EXPECT_EQ(AllocationCount(), before) << keeps;
     }
+}
+
+// The parts are in the order in which they stand from left to right.
+struct OrderedText {
+    TextView text;
+    std::vector<TextView> parts;
+};
+const OrderedText orderedTexts[] = {
+    {u"\u05E9\u05DC\u05D5\u05DD abc", {u"\u05E9\u05DC\u05D5\u05DD", u" ", u"abc"}},
+    {u"abc \u05E9\u05DC\u05D5\u05DD", {u"abc", u" ", u"\u05E9\u05DC\u05D5\u05DD"}},
+    {u"\u05D0\u05D1 \u05D2\u05D3", {u"\u05D2\u05D3", u" ", u"\u05D0\u05D1"}},
+    {u"ab \u05D0\u05D1 \u05D2\u05D3 cd",
+     {u"ab", u" ", u"\u05D2\u05D3", u" ", u"\u05D0\u05D1", u" ", u"cd"}},
+    {u"\u05D0\u05D1 12 \u05D2\u05D3", {u"\u05D2\u05D3", u" ", u"12", u" ", u"\u05D0\u05D1"}},
+    {u"\u05D0\u05D1 ", {u"\u05D0\u05D1", u" "}},
+};
+
+TEST_F(SurfaceTest, InsideARunThePlatformOrdersTheWords) {
+    Surface().SetCurrentFont(form_.Fonts().NewFont(u"Arial", 12));
+    for (const OrderedText& ordered : orderedTexts) {
+        PaintBy([&](host::Surface& surface) { surface.Print(ordered.text); });
+        const auto whole = Drawn();
+        PaintBy([&](host::Surface& surface) {
+            for (const TextView part : ordered.parts) {
+                surface.Print(part);
+            }
+        });
+        EXPECT_TRUE(whole->Pixels() == Drawn()->Pixels()) << ToUtf8(ordered.text);
+    }
+}
+
+TEST_F(SurfaceTest, RunsStandInTheirOrderWithTheirBlanks) {
+    Surface().SetBackColor(Rgb(255, 255, 255));
+    Surface().SetCurrentFont(form_.Fonts().NewFont(u"Arial", 12));
+    const TextView first = u"\u05E9\u05DC\u05D5\u05DD ";
+    const TextView second = u"\u05E2\u05D5\u05DC\u05DD";
+    PaintBy([&](host::Surface& surface) { surface.Print(first); });
+    const RECT left = Drawn()->BoundsOfOthers(RGB(255, 255, 255));
+    PaintBy([&](host::Surface& surface) {
+        surface.SetCurrentX(surface.TextWidth(first));
+        surface.Print(second);
+    });
+    const RECT right = Drawn()->BoundsOfOthers(RGB(255, 255, 255));
+    EXPECT_GE(right.left - left.right, win32::ToPixels(Surface().TextWidth(u" "), 96) / 2);
 }
 
 TEST_F(SurfaceTest, OddNumbersDoNoHarm) {
