@@ -245,8 +245,7 @@ constexpr host::Placement iconPlace = {.width = 420, .height = 420};
 
 constexpr std::array kinds = {
     PlainKind{.className = u"VB.CheckBox", .make = MakeCheckBox},
-    PlainKind{
-        .className = u"VB.ComboBox", .make = MakeComboBox, .usual = windowColors, .isField = true},
+    PlainKind{.className = u"VB.ComboBox", .make = MakeComboBox, .usual = windowColors},
     PlainKind{.className = u"VB.CommandButton", .make = MakeButton},
     PlainKind{
         .className = u"VB.Frame", .make = MakeFrame, .tab = TabRole::Index, .isContainer = true},

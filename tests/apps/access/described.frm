@@ -21,11 +21,11 @@ Begin VB.Form frmDescribed
       Width           =   3000
       Text            =   "hidden"
    End
-   Begin VB.ComboBox cboPay 
+   Begin VB.TextBox txtPay 
       Height          =   315
       Left            =   3600
-      Style           =   2
       TabIndex        =   7
+      Text            =   "cash"
       Top             =   1920
       Width           =   3000
    End

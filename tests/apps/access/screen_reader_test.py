@@ -44,7 +44,7 @@ panel 'Address'
   label 'Street and'
   text 'Street and' (up to 1 line) read-only = 'Long Lane'
 label 'Pay by'
-combo box 'Pay by'
+text 'Pay by' = 'cash'
 """
 
 PAGE = r"""
@@ -116,7 +116,7 @@ def reading(accessible, indent=""):
     if role not in WITHOUT_MEANING:
         yield indent + spoken(accessible)
         indent += "  "
-    if role in ("text", "combo box"):
+    if role == "text":
         return
     for child in children(accessible):
         yield from reading(child, indent)
