@@ -12,6 +12,7 @@
 #include "frame/host/property_page_site.h"
 #include "frame/host/screen.h"
 #include "frame/host/surface.h"
+#include "frame/text.h"
 
 namespace lumenkit {
 
@@ -39,6 +40,13 @@ class Control {
 
     /// Returns the control's automation interface. It lives as long as the control.
     virtual Object& Automation() = 0;
+
+    /// Returns the text that the control draws, as screen readers say it: without markup, its lines
+    /// separated by CR LF. Empty for a control that draws no text. Reports no error.
+    virtual Text SpokenText() const { return {}; }
+    /// Returns the limits of what the user may enter, as screen readers say them. Empty if there
+    /// are none.
+    virtual Text SpokenHint() const { return {}; }
 
     virtual void UserControl_Initialize() {}
     virtual void UserControl_InitProperties() {}

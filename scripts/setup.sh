@@ -20,7 +20,7 @@ declare -A groups=(
     [wine32]="bubblewrap"
     [qt]="qt6-base-dev qt6-qpa-plugins fonts-liberation2 fonts-dejavu-core"
     [package]="dpkg-dev desktop-file-utils shared-mime-info libxml2-utils unzip"
-    [screen]="xvfb xauth xdotool imagemagick openbox"
+    [screen]="xvfb xauth xdotool imagemagick openbox at-spi2-core dbus-daemon python3-pyatspi"
 )
 
 packages=()

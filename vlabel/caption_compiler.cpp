@@ -1,7 +1,5 @@
 #include "vlabel/caption_compiler.h"
 
-#include <cstdint>
-
 #include "frame/checked_integer.h"
 #include "frame/numbers.h"
 #include "vlabel/color_parameter.h"
@@ -9,9 +7,6 @@
 namespace lumenkit {
 
 namespace {
-
-// One line beyond this number is still kept; it is the last one.
-constexpr std::int32_t maxLines = 300;
 
 // Appends the parameter of a switch; "true" and "false" become "1" and "0".
 void AppendSwitch(Text& entry, TextView written) {

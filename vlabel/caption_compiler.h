@@ -1,5 +1,7 @@
 #pragma once
 
+#include <cstdint>
+
 #include "frame/module.h"
 #include "vlabel/caption_reader.h"
 #include "vlabel/command_word.h"
@@ -17,6 +19,9 @@ namespace lumenkit {
 /// A reused compiler allocates nothing once it has compiled a caption of the same size.
 class CaptionCompiler {
  public:
+    /// One line beyond this number is still kept; it is the last one.
+    static constexpr std::int32_t maxLines = 300;
+
     /// `module` must outlive the compiler.
     explicit CaptionCompiler(const Module& module) : module_(module) {}
 

@@ -5,6 +5,7 @@
 #include "frame/automation/raise_event.h"
 #include "frame/checked_integer.h"
 #include "frame/persisted_property.h"
+#include "vlabel/spoken_caption.h"
 
 namespace lumenkit {
 
@@ -40,6 +41,10 @@ VLabel::VLabel(const ControlHost& host)
       module_(errors_, u"VLABEL"),
       renderer_(module_, surface_, settings_),
       automation_(vlabelInterface, this) {}
+
+Text VLabel::SpokenText() const {
+    return SpokenCaption(settings_.Caption, settings_.BulletPrefix);
+}
 
 // ---- Shared by the properties
 

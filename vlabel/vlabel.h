@@ -31,6 +31,7 @@ class VLabel final : public Control {
     explicit VLabel(const ControlHost& host);
 
     Object& Automation() override { return automation_; }
+    Text SpokenText() const override;
 
     // Properties.
     Color pGetBackColor() const { return BackColor; }

@@ -8,6 +8,7 @@
 #include "frame/persisted_property.h"
 #include "frame/raised_flag.h"
 #include "frame/runtime_error.h"
+#include "vmemo/spoken_limits.h"
 
 namespace lumenkit {
 
@@ -77,6 +78,12 @@ VMemo::VMemo(const ControlHost& host)
         const auto element = static_cast<std::size_t>(index);
         boxes_[element] = AddBox(host.constituents, index, boxEvents_[element]);
     }
+}
+
+// The engine uses a negative limit as 0.
+Text VMemo::SpokenHint() const {
+    return SpokenLimits(
+        {std::max<std::int16_t>(m_MaxCharsPerLine, 0), std::max<std::int16_t>(m_MaxLines, 0)});
 }
 
 // ---- The boxes

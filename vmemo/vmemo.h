@@ -40,6 +40,7 @@ class VMemo final : public Control {
     explicit VMemo(const ControlHost& host);
 
     Object& Automation() override { return automation_; }
+    Text SpokenHint() const override;
 
     // Properties.
     Color pGetForeColor() const;

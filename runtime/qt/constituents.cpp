@@ -68,6 +68,12 @@ Element* Constituents::Find(TextView name, std::int16_t index) const {
     return found == All().end() ? nullptr : *found;
 }
 
+void Constituents::Describe(const QString& name, const QString& hint) const {
+    for (Element* element : All()) {
+        element->Describe(name, hint);
+    }
+}
+
 void Constituents::Disconnect() const {
     for (Element* element : All()) {
         element->Disconnect();

@@ -50,6 +50,8 @@ class Constituents final : public host::Constituents {
     /// one), or null if there is none. The case of the name does not matter.
     Element* Find(TextView name, std::int16_t index = -1) const;
 
+    /// Tells screen readers the name and the limits of the control. See Element::Describe.
+    void Describe(const QString& name, const QString& hint) const;
     /// Stops the notifications of all constituents. Called before their control is destroyed.
     void Disconnect() const;
     /// Called when the colours of the area's palette changed.

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QPointer>
+#include <QString>
 #include <QWidget>
 #include <cstdint>
 #include <list>
@@ -29,6 +30,9 @@ class Element {
     virtual QWidget& Inside() const { return *widget_; }
     /// Called when the colours of the palette changed.
     virtual void ShowColors() {}
+    /// Tells screen readers the name and the limits of the control, for a constituent that has no
+    /// caption of its own.
+    virtual void Describe(const QString& /*name*/, const QString& /*hint*/) {}
     /// Called with the widget of the constituent that is created next.
     virtual void NameNext(QWidget& /*widget*/) {}
     /// Stops the notifications of the widget. Called when their receiver or the element itself is

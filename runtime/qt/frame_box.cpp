@@ -21,6 +21,12 @@ void FrameBox::ShowCaption() {
     Box().setTitle(ToQString(CaptionNow()));
 }
 
+void FrameBox::Describe(const QString& name, const QString& /*hint*/) {
+    if (Widget() != nullptr) {
+        Box().setAccessibleName(name);
+    }
+}
+
 void FrameBox::SetBorderStyle(std::int16_t style) {
     borderStyle_ = AcceptedNumber<std::int16_t>(style, 0, 1);
     Box().SetBordered(style == 1);

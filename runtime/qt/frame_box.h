@@ -21,6 +21,9 @@ class FrameBox final : public BasicCaptioned<host::Frame> {
     std::int16_t BorderStyle() const override { return borderStyle_; }
     void SetBorderStyle(std::int16_t style) override;
 
+    /// The name is that of the control around the frame, and is used if no caption is shown.
+    void Describe(const QString& name, const QString& hint) override;
+
  private:
     FrameWidget& Box() const;
     void ShowCaption() override;

@@ -3,14 +3,46 @@
 #include <QPainter>
 #include <QStyle>
 #include <algorithm>
+#include <memory>
 
 #include <qdrawutil.h>
 
+#include "runtime/qt/mnemonic.h"
+
 namespace lumenkit::qt {
+
+namespace {
+
+class FrameDescription final : public GroupDescription {
+ public:
+    explicit FrameDescription(FrameWidget& frame)
+        : GroupDescription(frame, QAccessible::Grouping), frame_(frame) {}
+
+    QString text(QAccessible::Text kind) const override {
+        if (kind != QAccessible::Name) {
+            return GroupDescription::text(kind);
+        }
+        const QString caption = frame_.ShownCaption();
+        return caption.isEmpty() ? frame_.accessibleName() : caption;
+    }
+
+ private:
+    FrameWidget& frame_;
+};
+
+}  // namespace
 
 void FrameWidget::SetBordered(bool bordered) {
     bordered_ = bordered;
     update();
+}
+
+QString FrameWidget::ShownCaption() const {
+    return bordered_ ? WithoutMnemonic(title()).trimmed() : QString();
+}
+
+QAccessibleInterface* FrameWidget::NewDescription() {
+    return std::make_unique<FrameDescription>(*this).release();
 }
 
 void FrameWidget::paintEvent(QPaintEvent* /*event*/) {

@@ -5,6 +5,7 @@
 #include <QStyleOptionFrame>
 
 #include "frame/runtime_error.h"
+#include "runtime/qt/qt_text.h"
 
 namespace lumenkit::qt {
 
@@ -19,13 +20,14 @@ HostedControl::HostedControl(const Context& context, const ClassDescriptor& type
       left_(placing.placement.left),
       top_(placing.placement.top),
       startsVisible_(placing.visible),
+      container_(site.GetContainer(), [this] { Describe(); }),
       surface_(*this, context.errors, placing.placement.width, placing.placement.height),
       screen_(*this),
       interaction_(context.interaction, [this] { return surface_.IsPainting(); }),
       extender_(*this),
       constituents_(context, surface_.Area(), site.GetAmbient().UserMode(), EmbedControl),
       host_{.surface = surface_,
-            .container = site.GetContainer(),
+            .container = container_,
             .ambient = site.GetAmbient(),
             .extender = extender_,
             .screen = screen_,
@@ -67,6 +69,7 @@ void HostedControl::StartSaved(host::PropertyBag& bag) {
 }
 
 void HostedControl::FinishStart() {
+    Describe();
     {
         const Notifying notifying;
         control_->UserControl_Resize();
@@ -80,6 +83,23 @@ void HostedControl::FinishStart() {
 void HostedControl::Save(host::PropertyBag& bag) {
     const Notifying notifying;
     control_->UserControl_WriteProperties(bag);
+}
+
+// ---- Screen readers
+
+void HostedControl::SetSpokenName(const QString& name) {
+    spokenName_ = name;
+    Describe();
+}
+
+// Called after the control's texts and limits may have changed.
+void HostedControl::Describe() {
+    HandleEvent(context_.errors, [this] {
+        if (control_ != nullptr) {
+            constituents_.Describe(spokenName_, ToQString(control_->SpokenHint()));
+            surface_.Area().SpokenTextChanged();
+        }
+    });
 }
 
 // ---- Place and size

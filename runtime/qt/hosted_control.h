@@ -1,10 +1,12 @@
 #pragma once
 
+#include <QString>
 #include <QWidget>
 #include <memory>
 
 #include "frame/class_table.h"
 #include "frame/control.h"
+#include "runtime/qt/announcing_container.h"
 #include "runtime/qt/constituents.h"
 #include "runtime/qt/context.h"
 #include "runtime/qt/control_site.h"
@@ -72,6 +74,13 @@ class HostedControl final : public QWidget, private SurfaceOwner {
     bool IsShown() const { return shown_; }
     void SetShown(bool shown);
 
+    /// Sets the name by which screen readers know a control without a caption: the text of the
+    /// label before it. Initially empty.
+    void SetSpokenName(const QString& name);
+    /// Returns the text that the control shows, as screen readers say it. Empty for a control whose
+    /// constituents show the text.
+    QString SpokenText() { return surface_.Area().SpokenText(); }
+
     /// Gives the keyboard focus to the first constituent that takes it. Returns false if there is
     /// none.
     bool FocusFirst();
@@ -92,6 +101,7 @@ class HostedControl final : public QWidget, private SurfaceOwner {
 
     int BorderPixels(std::int16_t style) const;
     void FinishStart();
+    void Describe();
     void ApplyPlacement();
     void LayOutArea();
 
@@ -104,6 +114,8 @@ class HostedControl final : public QWidget, private SurfaceOwner {
     float top_;
     bool shown_ = false;
     bool startsVisible_;
+    QString spokenName_;
+    AnnouncingContainer container_;
     Surface surface_;
     Screen screen_;
     DeferringInteraction interaction_;

@@ -7,6 +7,7 @@
 
 #include "frame/class_table.h"
 #include "frame/control.h"
+#include "runtime/qt/accessible.h"
 #include "runtime/qt/constituents.h"
 #include "runtime/qt/context.h"
 #include "runtime/qt/interaction.h"
@@ -16,7 +17,7 @@ namespace lumenkit::qt {
 
 /// One property page in its designed size. Errors of the page's procedures reach the caller; errors
 /// of its event handlers go to the context's sink.
-class HostedPage final : public QWidget {
+class HostedPage final : public QWidget, public SelfDescribing {
  public:
     /// Creates the page and runs PropertyPage_Initialize. Raises 429 for a class that is not a
     /// page.
@@ -39,6 +40,9 @@ class HostedPage final : public QWidget {
 
     Object& Automation() { return page_->Automation(); }
     Constituents& Parts() { return constituents_; }
+    QAccessibleInterface* NewDescription() override {
+        return std::make_unique<GroupDescription>(*this).release();
+    }
 
  protected:
     void changeEvent(QEvent* event) override;

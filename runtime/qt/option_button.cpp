@@ -1,20 +1,24 @@
 #include "runtime/qt/option_button.h"
 
 #include <QKeyEvent>
+#include <QKeySequence>
 #include <QPainter>
 #include <QRadioButton>
 #include <QStyle>
 #include <QStyleOptionButton>
 #include <functional>
+#include <memory>
 
 #include "frame/host/accepted_values.h"
+#include "runtime/qt/accessible.h"
+#include "runtime/qt/mnemonic.h"
 #include "runtime/qt/palette_color.h"
 #include "runtime/qt/qt_text.h"
 
 namespace lumenkit::qt {
 
 // A radio button without Qt's grouping.
-class OptionWidget final : public QRadioButton {
+class OptionWidget final : public QRadioButton, public SelfDescribing {
  public:
     explicit OptionWidget(QWidget* parent) : QRadioButton(parent) { setAutoExclusive(false); }
 
@@ -22,6 +26,8 @@ class OptionWidget final : public QRadioButton {
         markRight_ = right;
         update();
     }
+
+    QAccessibleInterface* NewDescription() override;
 
     std::function<void()> clicked_;
     std::function<void(bool forward)> arrow_;
@@ -83,6 +89,61 @@ class OptionWidget final : public QRadioButton {
 
     bool markRight_ = false;
 };
+
+namespace {
+
+// Qt takes a button without its grouping for a check box.
+class OptionDescription final : public QAccessibleWidget {
+ public:
+    using Relations = QList<QPair<QAccessibleInterface*, QAccessible::Relation>>;
+
+    explicit OptionDescription(OptionWidget& option)
+        : QAccessibleWidget(&option, QAccessible::RadioButton), option_(option) {}
+
+    QString text(QAccessible::Text kind) const override {
+        switch (kind) {
+            case QAccessible::Name:
+                return WithoutMnemonic(option_.text());
+            case QAccessible::Accelerator:
+                return QKeySequence::mnemonic(option_.text()).toString(QKeySequence::NativeText);
+            default:
+                return QAccessibleWidget::text(kind);
+        }
+    }
+    QAccessible::State state() const override {
+        QAccessible::State state = QAccessibleWidget::state();
+        state.checkable = true;
+        state.checked = option_.isChecked();
+        return state;
+    }
+    // Qt would give each option the caption of its frame as its label.
+    Relations relations(QAccessible::Relation match) const override {
+        return QAccessibleWidget::relations(match & ~QAccessible::Relation(QAccessible::Label));
+    }
+    QStringList actionNames() const override {
+        QStringList names = QAccessibleWidget::actionNames();
+        if (option_.isEnabled()) {
+            names.prepend(toggleAction());
+        }
+        return names;
+    }
+    void doAction(const QString& name) override {
+        if (name == toggleAction()) {
+            option_.click();
+        } else {
+            QAccessibleWidget::doAction(name);
+        }
+    }
+
+ private:
+    OptionWidget& option_;
+};
+
+}  // namespace
+
+QAccessibleInterface* OptionWidget::NewDescription() {
+    return std::make_unique<OptionDescription>(*this).release();
+}
 
 OptionButton::OptionButton(Elements& elements, const host::OptionButtonDesign& design,
                            OptionGroup& group)

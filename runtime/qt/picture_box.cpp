@@ -2,16 +2,32 @@
 
 #include <QFrame>
 #include <algorithm>
+#include <memory>
 
+#include "runtime/qt/accessible.h"
 #include "runtime/qt/pixels.h"
 
 namespace lumenkit::qt {
+
+namespace {
+
+// The area inside the border, which contains the constituents.
+class InsideWidget final : public QWidget, public SelfDescribing {
+ public:
+    using QWidget::QWidget;
+
+    QAccessibleInterface* NewDescription() override {
+        return std::make_unique<GroupDescription>(*this).release();
+    }
+};
+
+}  // namespace
 
 PictureBox::PictureBox(Elements& elements, const host::Design& design)
     : BasicConstituent(elements, design) {
     auto box = std::make_unique<QFrame>(&ParentFor(elements, design));
     box->setFrameStyle(QFrame::StyledPanel | QFrame::Sunken);
-    auto inside = std::make_unique<QWidget>(box.get());
+    auto inside = std::make_unique<InsideWidget>(box.get());
     inside_ = inside.release();  // owned by the box
     Adopt(std::move(box));
     LayOut();

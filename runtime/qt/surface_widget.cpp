@@ -1,6 +1,6 @@
 #include "runtime/qt/surface_widget.h"
 
-#include <QAccessibleWidget>
+#include <QAccessible>
 #include <QMouseEvent>
 #include <QPaintEvent>
 #include <QPainter>
@@ -8,6 +8,7 @@
 #include <utility>
 
 #include "runtime/qt/input.h"
+#include "runtime/qt/qt_text.h"
 
 namespace lumenkit::qt {
 
@@ -15,49 +16,27 @@ namespace {
 
 constexpr Qt::MouseButtons clickingButtons = Qt::LeftButton | Qt::RightButton;
 
-// Presents the surface to screen readers as a label with the painted text as its name.
-class SurfaceAccessible final : public QAccessibleWidget {
+// The area of a control that draws a text is that text. Any other area contains the constituents.
+class AreaDescription final : public GroupDescription {
  public:
-    explicit SurfaceAccessible(SurfaceWidget& area)
-        : QAccessibleWidget(&area, QAccessible::StaticText), area_(area) {}
+    explicit AreaDescription(SurfaceWidget& area) : GroupDescription(area), area_(area) {}
 
     QString text(QAccessible::Text kind) const override {
-        const QString painted = area_.PaintedText();
-        return kind == QAccessible::Name && !painted.isEmpty() ? painted
-                                                               : QAccessibleWidget::text(kind);
+        const QString spoken = kind == QAccessible::Name ? area_.SpokenText() : QString();
+        return spoken.isEmpty() ? GroupDescription::text(kind) : spoken;
     }
     QAccessible::Role role() const override {
-        return area_.PaintedText().isEmpty() ? QAccessible::Client : QAccessible::StaticText;
+        return area_.SpokenText().isEmpty() ? QAccessible::Client : QAccessible::StaticText;
     }
 
  private:
     SurfaceWidget& area_;
 };
 
-// Qt calls this function, so no exception may leave it. If it returns null, Qt describes the object
-// itself.
-QAccessibleInterface* MakeAccessible(const QString& /*key*/, QObject* object) {
-    auto* const area = dynamic_cast<SurfaceWidget*>(object);
-    std::unique_ptr<SurfaceAccessible> made;
-    if (area != nullptr) {
-        HandleEvent(area->Errors(), [&] { made = std::make_unique<SurfaceAccessible>(*area); });
-    }
-    return made.release();
-}
-
-void OfferAccessibility() {
-    static const bool offered = [] {
-        QAccessible::installFactory(&MakeAccessible);
-        return true;
-    }();
-    static_cast<void>(offered);
-}
-
 }  // namespace
 
 SurfaceWidget::SurfaceWidget(QWidget& outside, ShownSurface& surface, ErrorSink errors)
     : QWidget(&outside), surface_(&surface), errors_(std::move(errors)) {
-    OfferAccessibility();
     setAttribute(Qt::WA_OpaquePaintEvent);
     setMouseTracking(true);
 }
@@ -67,8 +46,26 @@ void SurfaceWidget::Detach() {
     hide();
 }
 
-QString SurfaceWidget::PaintedText() const {
-    return surface_ == nullptr ? QString() : surface_->PaintedText();
+QString SurfaceWidget::SpokenText() const {
+    QString text;
+    HandleEvent(errors_, [&] {
+        if (const Control* control = GetControl()) {
+            text = ToQString(control->SpokenText())
+                       .replace(QLatin1String("\r\n"), QLatin1String("\n"));
+        }
+    });
+    return text.isEmpty() && surface_ != nullptr ? surface_->PaintedText() : text;
+}
+
+void SurfaceWidget::SpokenTextChanged() {
+    if (QAccessible::isActive()) {
+        QAccessibleEvent changed(this, QAccessible::NameChanged);
+        QAccessible::updateAccessibility(&changed);
+    }
+}
+
+QAccessibleInterface* SurfaceWidget::NewDescription() {
+    return std::make_unique<AreaDescription>(*this).release();
 }
 
 Control* SurfaceWidget::GetControl() const {

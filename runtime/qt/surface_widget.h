@@ -1,8 +1,10 @@
 #pragma once
 
+#include <QString>
 #include <QWidget>
 
 #include "frame/control.h"
+#include "runtime/qt/accessible.h"
 #include "runtime/qt/boundary.h"
 
 namespace lumenkit::qt {
@@ -27,8 +29,8 @@ class ShownSurface {
 };
 
 /// The drawing area of a control, inside its border. It is the parent of the constituents and
-/// receives the mouse events. Screen readers read the painted text from it.
-class SurfaceWidget final : public QWidget {
+/// receives the mouse events. Screen readers read the control's text from it.
+class SurfaceWidget final : public QWidget, public SelfDescribing {
  public:
     SurfaceWidget(QWidget& outside, ShownSurface& surface, ErrorSink errors);
 
@@ -37,7 +39,12 @@ class SurfaceWidget final : public QWidget {
 
     /// Called when the surface is destroyed.
     void Detach();
-    QString PaintedText() const;
+    /// Returns what screen readers say: the control's text, or the text painted last if the control
+    /// does not tell it.
+    QString SpokenText() const;
+    /// Called when that text may have changed.
+    void SpokenTextChanged();
+    QAccessibleInterface* NewDescription() override;
 
  protected:
     bool event(QEvent* event) override;

@@ -21,6 +21,13 @@ void TextBox::Disconnect() {
     }
 }
 
+void TextBox::Describe(const QString& name, const QString& hint) {
+    if (Widget() != nullptr) {
+        Edit().setAccessibleName(name);
+        Edit().setAccessibleDescription(hint);
+    }
+}
+
 void TextBox::SetText(TextView text) {
     Edit().SetContents(maxLength_ > 0 ? text.substr(0, static_cast<std::size_t>(maxLength_))
                                       : text);

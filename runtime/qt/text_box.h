@@ -38,6 +38,7 @@ class TextBox final : public BasicTextConstituent<host::TextBox> {
     std::int32_t WindowHandle() const override;
 
     void ShowColors() override;
+    void Describe(const QString& name, const QString& hint) override;
     TextEdit& Edit() const { return static_cast<TextEdit&>(*Widget()); }
     void Disconnect() override;
 

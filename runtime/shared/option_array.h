@@ -40,6 +40,12 @@ class OptionArray : public host::OptionButtons {
     /// Returns the next (or previous) button that takes the focus, by index and around the ends.
     /// This may be `button` itself. Null if no button takes the focus.
     Button* Neighbour(const Button& button, bool forward) const;
+    struct Rank {
+        int position = 0;  ///< from 1; 0: the button is hidden
+        int count = 0;
+    };
+    /// Returns the position of `button` among the visible buttons, in the order of the indices.
+    Rank RankOf(const Button& button) const;
     /// Called after a button was shown, hidden, enabled or disabled.
     void PlaceTabStop();
 
@@ -149,6 +155,18 @@ Button* OptionArray<Button>::Neighbour(const Button& button, bool forward) const
         }
     } while (place != own);
     return nullptr;
+}
+
+template <typename Button>
+typename OptionArray<Button>::Rank OptionArray<Button>::RankOf(const Button& button) const {
+    Rank rank;
+    for (const auto& [index, other] : buttons_) {
+        rank.count += other->Visible() ? 1 : 0;
+        if (other.get() == &button && other->Visible()) {
+            rank.position = rank.count;
+        }
+    }
+    return rank;
 }
 
 template <typename Button>

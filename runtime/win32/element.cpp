@@ -3,6 +3,7 @@
 #include <stdexcept>
 
 #include "frame/host/accepted_values.h"
+#include "runtime/win32/accessible_object.h"
 #include "runtime/win32/colors.h"
 
 namespace lumenkit::win32 {
@@ -103,6 +104,11 @@ void Element::Invalidate() const {
     }
 }
 
+Text Element::OwnersHint() const {
+    auto* const owner = dynamic_cast<Described*>(Window::Of(owner_));
+    return owner == nullptr ? Text() : owner->SpokenHint();
+}
+
 LRESULT Element::Ask(UINT message, WPARAM wParam, LPARAM lParam) const {
     return Handle() == nullptr ? 0 : SendMessageW(Handle(), message, wParam, lParam);
 }
@@ -116,6 +122,10 @@ void Element::SwitchStyle(DWORD style, bool on) const {
 }
 
 LRESULT Element::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
+    if (message == WM_GETOBJECT) {
+        const auto object = AnswerObjectRequest(Handle(), wParam, lParam);
+        return object ? *object : Default(message, wParam, lParam);
+    }
     if (message != WM_SETFOCUS && message != WM_KILLFOCUS) {
         return Default(message, wParam, lParam);
     }

@@ -5,6 +5,7 @@
 #include "frame/color.h"
 #include "frame/host/constituent.h"
 #include "frame/text.h"
+#include "runtime/win32/accessibility.h"
 #include "runtime/win32/drawable.h"
 #include "runtime/win32/elements.h"
 #include "runtime/win32/pixels.h"
@@ -19,7 +20,7 @@ HWND ParentWindow(const Elements& elements, const host::Design& design);
 
 /// The window of a constituent, and the state that the runtime keeps for every kind. The placement
 /// is kept in twips as it was set, although windows have whole pixels.
-class Element : public Window, public Drawable {
+class Element : public Window, public Drawable, public Described {
  public:
     ~Element() override;
     Element(const Element&) = delete;
@@ -58,6 +59,8 @@ class Element : public Window, public Drawable {
     /// Sends the window a message. Returns 0 if the window no longer exists.
     LRESULT Ask(UINT message, WPARAM wParam = 0, LPARAM lParam = 0) const;
     void SwitchStyle(DWORD style, bool on) const;
+    /// Returns the limits that the control around the element tells screen readers.
+    Text OwnersHint() const;
     Resolution PixelsPerInch() const { return resolution_; }
 
     /// Called when the focus came or left. May destroy the object.

@@ -2,6 +2,8 @@
 
 #include "frame/host/accepted_values.h"
 #include "runtime/win32/device.h"
+#include "runtime/win32/label_before.h"
+#include "runtime/win32/spoken_text.h"
 
 namespace lumenkit::win32 {
 
@@ -15,6 +17,12 @@ FrameBox::FrameBox(const Elements& elements, const host::CaptionDesign& design)
 void FrameBox::SetBorderStyle(std::int16_t style) {
     borderStyle_ = AcceptedNumber<std::int16_t>(style, 0, 1);
     Invalidate();
+}
+
+std::optional<Description> FrameBox::Describe() {
+    const Text caption = borderStyle_ == 0 ? Text() : SpokenLine(WithoutMnemonic(CaptionNow()));
+    return Description{.role = groupRole,
+                       .name = caption.empty() ? LabelBefore(Handle()) : caption};
 }
 
 void FrameBox::ShowCaption() {

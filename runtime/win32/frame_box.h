@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 
 #include "frame/host/simple_constituents.h"
 #include "runtime/win32/basic_constituent.h"
@@ -15,6 +16,9 @@ class FrameBox final : public BasicCaptioned<host::Frame> {
 
     std::int16_t BorderStyle() const override { return borderStyle_; }
     void SetBorderStyle(std::int16_t style) override;
+    /// The group is named by its caption if that is shown, otherwise by the label before the
+    /// control.
+    std::optional<Description> Describe() override;
 
  protected:
     void ShowCaption() override;

@@ -204,7 +204,7 @@ LRESULT HostedControl::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam)
                        : Default(message, wParam, lParam);
         case WM_GETOBJECT: {
             const auto kind = AccessibleKind(Handle(), lParam);
-            return kind ? *kind : Default(message, wParam, lParam);
+            return kind ? *kind : HostedWindow::HandleMessage(message, wParam, lParam);
         }
         case WM_GETTEXTLENGTH:
             return GiveText(0, nullptr);
@@ -233,6 +233,28 @@ LRESULT HostedControl::FollowWindow(WPARAM wParam, LPARAM lParam) {
         AdoptSize(WindowSize());
     }
     return answer;
+}
+
+// ---- Screen readers
+
+// A control that does not tell its text says the text that it drew last.
+Text HostedControl::SpokenText() {
+    if (!isStarted_) {
+        return {};
+    }
+    const Text text = control_->SpokenText();
+    return text.empty() ? surface_.ShownTexts() : text;
+}
+
+Text HostedControl::SpokenHint() {
+    return isStarted_ ? control_->SpokenHint() : Text();
+}
+
+// The platform's roles of windows without and with constituents.
+std::optional<Description> HostedControl::Describe() {
+    const Text text = SpokenText();
+    return text.empty() ? Description{.role = clientRole}
+                        : Description{.role = staticTextRole, .name = text};
 }
 
 LRESULT HostedControl::GiveText(std::size_t room, wchar_t* target) {

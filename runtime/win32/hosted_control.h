@@ -1,6 +1,7 @@
 #pragma once
 
 #include <memory>
+#include <optional>
 
 #include "frame/class_table.h"
 #include "frame/control.h"
@@ -22,7 +23,7 @@ namespace lumenkit::win32 {
 ///
 /// The control receives the keyboard while one of its windows has the focus, and the mouse while
 /// one of them is under the pointer. Screen readers read the text of the window, which is the text
-/// that the control shows.
+/// that the control draws, without markup.
 ///
 /// The control must not be destroyed while one of its procedures runs, that is before an event that
 /// it raised or a call of its site has returned. Where that may happen, a Life defers the
@@ -86,6 +87,10 @@ class HostedControl final : public HostedWindow, public Drawable, private Surfac
     /// before the container translates the message.
     bool TranslateKey(const MSG& message);
 
+    // Screen readers.
+    std::optional<Description> Describe() override;
+    Text SpokenHint() override;
+
     /// Called when the ambient properties of the container changed.
     void AmbientChanged();
 
@@ -104,6 +109,7 @@ class HostedControl final : public HostedWindow, public Drawable, private Surfac
     LRESULT FollowWindow(WPARAM wParam, LPARAM lParam);
     LRESULT HandleMouse(UINT message, WPARAM wParam, LPARAM lParam);
     LRESULT GiveText(std::size_t room, wchar_t* target);
+    Text SpokenText();
 
     void FinishStart();
     void AdoptSize(SIZE size);

@@ -20,6 +20,7 @@ HostedPage::HostedPage(const Context& context, const ClassDescriptor& type,
                        host::PropertyPageSite& site, host::SelectedControls& selectedControls,
                        Life* life)
     : HostedWindow(context.module, LaidOutSize(type), life),
+      title_(type.pageTitle),
       size_(LaidOutSize(type)),
       constituents_({context, *this, true}, &EmbedControl),
       host_{.site = site,

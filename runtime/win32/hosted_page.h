@@ -1,6 +1,7 @@
 #pragma once
 
 #include <memory>
+#include <optional>
 
 #include "frame/class_table.h"
 #include "frame/control.h"
@@ -39,9 +40,14 @@ class HostedPage final : public HostedWindow {
     /// constituents.
     bool TranslateKey(const MSG& message);
 
+    std::optional<Description> Describe() override {
+        return Description{.role = propertyPageRole, .name = Text(title_)};
+    }
+
  private:
     LRESULT HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
 
+    TextView title_;
     SIZE size_;
     Screen screen_{Resolution::OfScreen()};
     Constituents constituents_;

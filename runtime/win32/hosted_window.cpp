@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "runtime/win32/accessible_object.h"
 #include "runtime/win32/drawable.h"
 #include "runtime/win32/keyboard.h"
 
@@ -23,6 +24,10 @@ HostedWindow::HostedWindow(HINSTANCE module, SIZE size, Life* life) : parking_(m
 
 LRESULT HostedWindow::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
     switch (message) {
+        case WM_GETOBJECT: {
+            const auto object = AnswerObjectRequest(Handle(), wParam, lParam);
+            return object ? *object : Default(message, wParam, lParam);
+        }
         case WM_PARENTNOTIFY:
             FollowChildren(wParam);
             return Default(message, wParam, lParam);

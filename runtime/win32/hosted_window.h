@@ -1,12 +1,13 @@
 #pragma once
 
+#include "runtime/win32/accessibility.h"
 #include "runtime/win32/window.h"
 
 namespace lumenkit::win32 {
 
 /// The window of a control or page. It is a child of the parking window until a container takes it.
 /// All methods do nothing once the window is destroyed.
-class HostedWindow : public Window {
+class HostedWindow : public Window, public Described {
  public:
     bool IsAttached() const { return isAttached_ && Handle() != nullptr; }
 

@@ -3,6 +3,7 @@
 #include <string>
 
 #include "runtime/win32/device.h"
+#include "runtime/win32/spoken_text.h"
 
 namespace lumenkit::win32 {
 
@@ -38,6 +39,10 @@ void Label::SetForeColor(Color color) {
 void Label::SetBackColor(Color color) {
     backColor_ = color;
     Invalidate();
+}
+
+std::optional<Description> Label::Describe() {
+    return Description{.role = staticTextRole, .name = WithoutMnemonic(CaptionNow())};
 }
 
 void Label::ShowCaption() {

@@ -19,6 +19,7 @@ class Label final : public BasicCaptioned<host::Label> {
     void SetForeColor(Color color) override;
     Color BackColor() const override { return backColor_; }
     void SetBackColor(Color color) override;
+    std::optional<Description> Describe() override;
 
  protected:
     void ShowCaption() override;

@@ -3,6 +3,7 @@
 #include <uxtheme.h>
 
 #include "frame/host/accepted_values.h"
+#include "runtime/win32/spoken_text.h"
 
 namespace lumenkit::win32 {
 
@@ -51,6 +52,17 @@ void OptionButton::SetForeColor(Color color) {
     const wchar_t* const theme = color == Color::ButtonText ? nullptr : L"";
     SetWindowTheme(Handle(), theme, theme);
     Invalidate();
+}
+
+std::optional<Description> OptionButton::Describe() {
+    constexpr LONG checked = 0x10;
+    const auto [position, count] = group_.RankOf(*this);
+    return Description{.role = radioButtonRole,
+                       .name = WithoutMnemonic(CaptionNow()),
+                       .states = IsSelected() ? checked : 0,
+                       .position = position,
+                       .groupSize = count,
+                       .action = L"Check"};
 }
 
 void OptionButton::Mark(bool selected) {

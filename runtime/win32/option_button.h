@@ -30,6 +30,7 @@ class OptionButton final : public BasicCaptioned<host::OptionButton> {
     void SetAlignment(std::int16_t alignment) override;
     Color ForeColor() const override { return foreColor_; }
     void SetForeColor(Color color) override;
+    std::optional<Description> Describe() override;
 
     // Used by the group.
     void Mark(bool selected);

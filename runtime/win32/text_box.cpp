@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "frame/host/accepted_values.h"
+#include "runtime/win32/label_before.h"
 #include "runtime/win32/scroll_bar_picture.h"
 #include "runtime/win32/surrogates.h"
 
@@ -204,6 +205,13 @@ void TextBox::SetPointer(host::MousePointer pointer) {
 std::int32_t TextBox::WindowHandle() const {
     // Handles have 32 significant bits.
     return static_cast<std::int32_t>(reinterpret_cast<std::intptr_t>(Handle()));
+}
+
+std::optional<Description> TextBox::Describe() {
+    return Description{.role = textRole,
+                       .name = LabelBefore(Handle()),
+                       .hint = OwnersHint(),
+                       .value = Text(GetText())};
 }
 
 void TextBox::DrawOn(HDC device) {

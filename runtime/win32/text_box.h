@@ -39,6 +39,7 @@ class TextBox final : public BasicTextConstituent<host::TextBox> {
     std::int32_t WindowHandle() const override;
 
     void DrawOn(HDC device) override;
+    std::optional<Description> Describe() override;
 
  protected:
     LRESULT HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) override;

@@ -82,6 +82,7 @@ LRESULT TextBox::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
             return Pass(message, wParam, lParam);
         case WM_SETFOCUS:
         case WM_KILLFOCUS:
+        case WM_GETOBJECT:
             return BasicTextConstituent::HandleMessage(message, wParam, lParam);
         default:
             return Pass(message, wParam, lParam);

@@ -5,6 +5,7 @@
 #include <QPainter>
 #include <QRadioButton>
 #include <algorithm>
+#include <memory>
 
 #include "apps/lumenform/form_view/command_button.h"
 #include "runtime/qt/palette_color.h"
@@ -33,6 +34,17 @@ bool TakesTab(const QWidget& widget) {
     }
     return (widget.focusPolicy() & Qt::TabFocus) == Qt::TabFocus;
 }
+
+class FormDescription final : public qt::GroupDescription {
+ public:
+    explicit FormDescription(ClientArea& form) : GroupDescription(form), form_(form) {}
+
+ protected:
+    QList<QWidget*> Parts() const override { return form_.ShownControls(); }
+
+ private:
+    ClientArea& form_;
+};
 
 }  // namespace
 
@@ -102,6 +114,21 @@ std::vector<QWidget*> ClientArea::TabStops() const {
         widgets.push_back(stop.widget);
     }
     return widgets;
+}
+
+QList<QWidget*> ClientArea::ShownControls() const {
+    QList<QWidget*> shown;
+    for (const LiveControl* control : InTabOrder(controls_)) {
+        QWidget& widget = control->Widget();
+        if (widget.parentWidget() == this && !widget.isHidden()) {
+            shown.append(&widget);
+        }
+    }
+    return shown;
+}
+
+QAccessibleInterface* ClientArea::NewDescription() {
+    return std::make_unique<FormDescription>(*this).release();
 }
 
 bool ClientArea::focusNextPrevChild(bool next) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QList>
 #include <QWidget>
 #include <cstddef>
 #include <map>
@@ -8,6 +9,7 @@
 
 #include "apps/lumenform/form_view/live_control.h"
 #include "frame/color.h"
+#include "runtime/qt/accessible.h"
 
 namespace lumenkit::lumenform {
 
@@ -16,8 +18,8 @@ std::vector<LiveControl*> InTabOrder(const std::vector<std::unique_ptr<LiveContr
 
 /// The client area of a form. Paints the background, moves the focus through the controls by
 /// TabIndex with Tab, and clicks the buttons for Enter and Esc. Tab goes from the last control to
-/// the first and does not leave the form.
-class ClientArea final : public QWidget {
+/// the first and does not leave the form. Screen readers get the controls in tab order too.
+class ClientArea final : public QWidget, public qt::SelfDescribing {
  public:
     using Controls = std::vector<std::unique_ptr<LiveControl>>;
 
@@ -27,7 +29,11 @@ class ClientArea final : public QWidget {
     /// The widgets at which Tab stops, in tab order.
     std::vector<QWidget*> TabStops() const;
 
+    /// The controls that are directly on the form, in tab order.
+    QList<QWidget*> ShownControls() const;
+
     bool focusNextPrevChild(bool next) override;
+    QAccessibleInterface* NewDescription() override;
 
  protected:
     void keyPressEvent(QKeyEvent* event) override;

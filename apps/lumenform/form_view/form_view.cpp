@@ -4,12 +4,14 @@
 #include <QLabel>
 #include <QVBoxLayout>
 #include <algorithm>
+#include <map>
 #include <utility>
 
 #include "apps/lumenform/form_view/form_size.h"
 #include "apps/lumenform/form_view/make_control.h"
 #include "apps/lumenform/form_view/menu_bar.h"
 #include "forms/font_description.h"
+#include "forms/naming_labels.h"
 #include "runtime/qt/mnemonic.h"
 #include "runtime/qt/pixels.h"
 #include "runtime/qt/qt_text.h"
@@ -88,6 +90,7 @@ FormView::FormView(const qt::Context& context, forms::Document& document, Mode m
                                   static_cast<float>(client_->height() * twips.y));
     inside_.emplace(Surroundings{*client_, backColor, font, scale});
     AddControls(document.Root(), *inside_);
+    NameFields();
     MarkLabels();
 }
 
@@ -107,6 +110,21 @@ void FormView::AddControls(const forms::Block& block, const Surroundings& around
         }
     }
     Stack(added);
+}
+
+// Gives each control the text of the label before it in tab order, for screen readers.
+void FormView::NameFields() {
+    std::map<const forms::Block*, LiveControl*> live;
+    for (const auto& control : controls_) {
+        live.emplace(&control->Block(), control.get());
+    }
+    for (const auto& [field, label] : forms::NamingLabels(stage_.document.Root())) {
+        const auto named = live.find(field);
+        const auto naming = live.find(label);
+        if (named != live.end() && naming != live.end()) {
+            named->second->SetSpokenName(naming->second->SpokenText().simplified());
+        }
+    }
 }
 
 // Makes the mnemonic of a label move the focus to the next control in tab order.

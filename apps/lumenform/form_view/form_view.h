@@ -50,6 +50,7 @@ class FormView final : public QWidget {
 
  private:
     void AddControls(const forms::Block& block, const Surroundings& around);
+    void NameFields();
     void MarkLabels();
 
     Stage stage_;

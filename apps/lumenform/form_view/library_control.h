@@ -22,6 +22,8 @@ class LibraryControl final : public LiveControl {
     QWidget& Widget() const override { return *widget_; }
     const Surroundings& Inside() const override { return *inside_; }
     qt::HostedControl* Hosted() const override { return widget_; }
+    QString SpokenText() const override { return widget_->SpokenText(); }
+    void SetSpokenName(const QString& name) override { widget_->SetSpokenName(name); }
     host::Placement Place() const override { return widget_->Place(); }
     void Move(const host::Placement& place) override { widget_->Move(place); }
     void Save() override;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QString>
 #include <QWidget>
 #include <cstdint>
 #include <optional>
@@ -37,6 +38,12 @@ class LiveControl {
     /// Whether the control is in the back layer, like labels and pictures: all controls outside
     /// that layer are in front of it.
     virtual bool IsInBack() const { return false; }
+
+    /// Returns the text that a label shows, as screen readers say it.
+    virtual QString SpokenText() const = 0;
+    /// Tells screen readers the text of the label before the control. A control that has a caption
+    /// ignores it.
+    virtual void SetSpokenName(const QString& name) = 0;
 
     /// The units in which the form saves the control's place.
     const Scale& Units() const { return scale_; }

@@ -1,6 +1,7 @@
 #include "apps/lumenform/form_view/plain_control.h"
 
 #include "frame/runtime_error.h"
+#include "runtime/qt/mnemonic.h"
 #include "runtime/qt/pixels.h"
 #include "runtime/qt/qt_text.h"
 
@@ -70,6 +71,16 @@ void PlainControl::Move(const host::Placement& place) {
     }
     place_ = place;
     widget_->setGeometry(Covered());
+}
+
+QString PlainControl::SpokenText() const {
+    return qt::WithoutMnemonic(qt::ToQString(Reader().String(u"Caption")));
+}
+
+void PlainControl::SetSpokenName(const QString& name) {
+    if (kind_.isField) {
+        widget_->setAccessibleName(name);
+    }
 }
 
 void PlainControl::PaletteChanged() {

@@ -21,6 +21,8 @@ class PlainControl final : public LiveControl {
     const Surroundings& Inside() const override { return *inside_; }
     bool IsContainer() const override { return kind_.isContainer; }
     bool IsInBack() const override { return kind_.isInBack; }
+    QString SpokenText() const override;
+    void SetSpokenName(const QString& name) override;
     host::Placement Place() const override { return place_; }
     void Move(const host::Placement& place) override;
     void PaletteChanged() override;

@@ -249,11 +249,13 @@ constexpr std::array kinds = {
     PlainKind{.className = u"VB.CommandButton", .make = MakeButton},
     PlainKind{
         .className = u"VB.Frame", .make = MakeFrame, .tab = TabRole::Index, .isContainer = true},
-    PlainKind{.className = u"VB.HScrollBar", .make = MakeScrollBar<Qt::Horizontal>},
+    PlainKind{
+        .className = u"VB.HScrollBar", .make = MakeScrollBar<Qt::Horizontal>, .isField = true},
     PlainKind{.className = u"VB.Image", .make = MakeImage, .tab = TabRole::None, .isInBack = true},
     PlainKind{.className = u"VB.Label", .make = MakeLabel, .tab = TabRole::Index, .isInBack = true},
     PlainKind{.className = u"VB.Line", .make = MakeLine, .tab = TabRole::None, .isInBack = true},
-    PlainKind{.className = u"VB.ListBox", .make = MakeListBox, .usual = windowColors},
+    PlainKind{
+        .className = u"VB.ListBox", .make = MakeListBox, .usual = windowColors, .isField = true},
     PlainKind{.className = u"VB.OptionButton", .make = MakeOptionButton},
     PlainKind{.className = u"VB.PictureBox", .make = MakePictureBox, .isContainer = true},
     PlainKind{.className = u"VB.Shape",
@@ -261,9 +263,10 @@ constexpr std::array kinds = {
               .usual = windowColors,
               .tab = TabRole::None,
               .isInBack = true},
-    PlainKind{.className = u"VB.TextBox", .make = MakeTextBox, .usual = windowColors},
+    PlainKind{
+        .className = u"VB.TextBox", .make = MakeTextBox, .usual = windowColors, .isField = true},
     PlainKind{.className = u"VB.Timer", .make = MakeBox, .place = iconPlace, .isSeen = false},
-    PlainKind{.className = u"VB.VScrollBar", .make = MakeScrollBar<Qt::Vertical>},
+    PlainKind{.className = u"VB.VScrollBar", .make = MakeScrollBar<Qt::Vertical>, .isField = true},
 };
 constexpr PlainKind unknown = {.className = {}, .make = MakeBox};
 // A component without a saved size is invisible at run time.

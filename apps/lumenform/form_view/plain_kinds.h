@@ -37,7 +37,8 @@ struct PlainKind {
     TabRole tab = TabRole::Stop;
     bool isInBack = false;
     bool isContainer = false;
-    bool isSeen = true;  ///< whether it is visible at run time
+    bool isField = false;  ///< whether the label before it names it
+    bool isSeen = true;    ///< whether it is visible at run time
 };
 
 /// Returns the kind of a block's class. An unknown class is a box with the control's name and

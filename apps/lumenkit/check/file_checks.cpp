@@ -12,8 +12,9 @@
 #include "apps/lumenkit/check/memo_check.h"
 #include "apps/lumenkit/check/name_check.h"
 #include "apps/lumenkit/check/saved_control.h"
+#include "apps/lumenkit/check/spoken_name_check.h"
 #include "apps/lumenkit/check/text_places.h"
-#include "forms/controls.h"
+#include "forms/naming_labels.h"
 
 namespace lumenkit::check {
 
@@ -75,11 +76,12 @@ auto PlaceIn(const Finding& finding) {
 
 Findings CheckForm(const forms::Document& document, const ClassTable& classes) {
     Findings findings;
-    for (forms::Block* block : forms::AllControls(document.Root())) {
+    for (const auto& [block, label] : forms::NamingLabels(document.Root())) {
         const ClassDescriptor* type = classes.Find(block->ClassName());
         if (type != nullptr && type->kind == ClassKind::Control) {
             SavedControl control(document, *block, *type, findings);
             CheckControl(control);
+            CheckSpokenName(control, document, label);
         }
     }
     std::stable_sort(

@@ -27,7 +27,7 @@ struct Finding {
     std::string file;                   ///< as named by the caller
     forms::Position place;              ///< in the file
     std::string control;                ///< "VLabel1", "VLabel1(2)"; empty for a caption file
-    std::string property;               ///< "Caption"
+    std::string property;               ///< "Caption"; empty if it is about the whole control
     std::optional<std::size_t> offset;  ///< in the text of the property, if it is about a text
     std::string message;
     std::string suggestion;

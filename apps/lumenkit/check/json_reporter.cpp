@@ -14,7 +14,9 @@ Json ToJson(const Finding& finding) {
     if (!finding.control.empty()) {
         json["control"] = finding.control;
     }
-    json["property"] = finding.property;
+    if (!finding.property.empty()) {
+        json["property"] = finding.property;
+    }
     if (finding.offset) {
         json["offset"] = *finding.offset;
     }

@@ -39,6 +39,9 @@ inline constexpr Rule unreadProperty{"unread-property",
 inline constexpr Rule unreadableValue{"unreadable-value",
                                       "a saved value of the wrong type: loading reports an error"};
 
+inline constexpr Rule unnamedControl{"unnamed-control",
+                                     "a memo or an option list without a name for screen readers"};
+
 }  // namespace rules
 
 /// All rules.
@@ -47,6 +50,7 @@ inline constexpr std::array allRules = {
     rules::underlineIsItalic, rules::unconvertedValue,    rules::ineffectiveSize,
     rules::colorOutOfRange,   rules::numberOverflow,      rules::tooManyLines,
     rules::textTooLong,       rules::duplicateValue,      rules::listIndexOutOfRange,
-    rules::textOverLimits,    rules::unreadProperty,      rules::unreadableValue};
+    rules::textOverLimits,    rules::unreadProperty,      rules::unreadableValue,
+    rules::unnamedControl};
 
 }  // namespace lumenkit::check

@@ -40,12 +40,25 @@ class SavedControl {
         }
     }
 
+    /// Does the same without adding a finding.
+    template <typename Convert>
+    auto ReadQuietly(TextView name, Convert convert)
+        -> std::optional<decltype(convert(std::declval<const Value&>()))> {
+        try {
+            return convert(ValueOf(name));
+        } catch (const RuntimeError&) {
+            return std::nullopt;
+        }
+    }
+
     /// Adds remarks about the text of a property. Does nothing if the property is not saved.
     void Add(TextView property, TextView text, const Remarks& remarks);
     /// Adds remarks about a property as a whole. Does nothing if the property is not saved.
     void AddWhole(TextView property, const Remarks& remarks);
     /// Adds a remark about the name at `place`.
     void AddAt(TextView property, forms::Position place, const Remark& remark);
+    /// Adds a remark about the control as a whole.
+    void AddAboutControl(const Remark& remark) { AddAt({}, block_.NamePlace(), remark); }
 
  private:
     Value ValueOf(TextView name);

@@ -25,8 +25,8 @@ std::string PlaceOf(const Finding& finding) {
 }
 
 std::string SubjectOf(const Finding& finding) {
-    const std::string owner = finding.control.empty() ? "" : finding.control + '.';
-    return Printable(owner + finding.property);
+    const bool hasBoth = !finding.control.empty() && !finding.property.empty();
+    return Printable(finding.control + (hasBoth ? "." : "") + finding.property);
 }
 
 }  // namespace

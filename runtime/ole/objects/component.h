@@ -6,6 +6,7 @@
 #include "runtime/ole/module/module_file.h"
 #include "runtime/ole/values/font_maker.h"
 #include "runtime/ole/values/ole_header.h"
+#include "runtime/win32/accessible_share.h"
 #include "runtime/win32/application.h"
 #include "runtime/win32/context.h"
 #include "runtime/win32/interaction.h"
@@ -28,7 +29,9 @@ class Component {
 
     /// Returns the number of living objects that clients hold.
     int LiveObjects() const { return objects_; }
-    bool CanUnload() const { return objects_ == 0 && locks_ == 0; }
+    bool CanUnload() const {
+        return objects_ == 0 && locks_ == 0 && win32::LiveAccessibleObjects() == 0;
+    }
     void Lock(bool lock) { lock ? ++locks_ : --locks_; }
 
     /// Counts an object as long as it lives.

@@ -127,6 +127,54 @@ class QtOptionsTest : public QtConstituentsTest {
     std::unique_ptr<host::TextBox> after_ = Parts().AddTextBox(Boxed(3600), edits_);
 };
 
+TEST_F(QtOptionsTest, AreANamedGroupOfRadioButtonsInOrder) {
+    QAccessibleInterface& group = Accessible(WidgetOf(*frame_));
+    EXPECT_EQ(group.role(), QAccessible::Grouping);
+    EXPECT_EQ(group.text(QAccessible::Name), QStringLiteral("Frame"));
+    const auto names = [&] {
+        QStringList found;
+        for (int index = 0; index < group.childCount(); ++index) {
+            QAccessibleInterface& option = *group.child(index);
+            EXPECT_EQ(group.indexOfChild(&option), index);
+            EXPECT_EQ(option.role(), QAccessible::RadioButton);
+            EXPECT_TRUE(option.state().checkable);
+            const QString mark = option.state().checked ? QStringLiteral("!") : QString();
+            found += option.text(QAccessible::Name) + mark;
+        }
+        return found;
+    };
+    EXPECT_EQ(names(), (QStringList{"none", "other", "Third"})) << "a hidden one does not exist";
+    EXPECT_EQ(group.indexOfChild(&Accessible(Button(2))), -1);
+    options_->Item(2).SetVisible(true);
+    options_->Item(1).Select(true);
+    EXPECT_EQ(names(), (QStringList{"none", "other!", "other", "Third"}));
+}
+
+TEST_F(QtOptionsTest, AssistiveTechnologiesChooseThem) {
+    QAccessibleInterface& third = Accessible(Button(3));
+    EXPECT_EQ(third.text(QAccessible::Accelerator), QKeySequence("Alt+T").toString());
+    EXPECT_TRUE(third.relations(QAccessible::Label).isEmpty()) << "the group is said once";
+    QAccessibleActionInterface& actions = *third.actionInterface();
+    EXPECT_TRUE(actions.actionNames().contains(QAccessibleActionInterface::toggleAction()));
+    actions.doAction(QAccessibleActionInterface::toggleAction());
+    EXPECT_TRUE(options_->Item(3).IsSelected());
+    EXPECT_THAT(clicks_.clicked, ElementsAre(3));
+    options_->Item(3).SetEnabled(false);
+    EXPECT_FALSE(actions.actionNames().contains(QAccessibleActionInterface::toggleAction()));
+    actions.doAction(QAccessibleActionInterface::setFocusAction());
+    EXPECT_FALSE(Button(3).hasFocus());
+}
+
+TEST_F(QtOptionsTest, AFrameWithoutABorderIsNamedByTheLabelBeforeTheControl) {
+    control_.SetSpokenName(QStringLiteral("Size"));
+    EXPECT_EQ(NameOf(WidgetOf(*frame_)), QStringLiteral("Frame"));
+    frame_->SetBorderStyle(0);
+    EXPECT_EQ(NameOf(WidgetOf(*frame_)), QStringLiteral("Size"));
+    frame_->SetBorderStyle(1);
+    frame_->SetCaption(u"");
+    EXPECT_EQ(NameOf(WidgetOf(*frame_)), QStringLiteral("Size"));
+}
+
 TEST_F(QtOptionsTest, ArrowsSelectWhatCanBeReachedAndGoAround) {
     Button(0).setFocus();
     QTest::keyClick(&Button(0), Qt::Key_Down);

@@ -1,4 +1,5 @@
 // VMemo and its text boxes, operated by a user.
+#include <QAccessible>
 #include <QApplication>
 #include <QClipboard>
 #include <QInputMethodEvent>
@@ -38,6 +39,16 @@ class QtMemoTest : public ::testing::Test {
         form_.events.clear();
     }
 
+    // Returns the descriptions of everything that a screen reader finds in the memo's area.
+    std::vector<QAccessibleInterface*> Spoken() {
+        QAccessibleInterface* const area =
+            QAccessible::queryAccessibleInterface(&memo_.Drawing().Area());
+        std::vector<QAccessibleInterface*> found;
+        for (int index = 0; index < area->childCount(); ++index) {
+            found.push_back(area->child(index));
+        }
+        return found;
+    }
     void Let(TextView name, Value value) { memo_.Automation().Let(name, std::move(value)); }
     Text Contents() { return ToText(memo_.Automation().Get(u"Text")); }
     TextBox& Box(std::int16_t index = 0) {
@@ -72,6 +83,35 @@ class QtMemoTest : public ::testing::Test {
     testing::QtForm form_{lumenkitClasses};
     HostedControl& memo_;
 };
+
+TEST_F(QtMemoTest, IsOneTextWithItsLimitsForScreenReaders) {
+    Let(u"Text", Text(u"abc"));
+    ASSERT_EQ(Spoken().size(), 1U) << "the hidden boxes do not exist";
+    EXPECT_EQ(Spoken().front()->role(), QAccessible::EditableText);
+    EXPECT_EQ(Spoken().front()->text(QAccessible::Value), QStringLiteral("abc"));
+    EXPECT_EQ(Spoken().front()->text(QAccessible::Name), QString());
+    memo_.SetSpokenName(QStringLiteral("Notes"));
+    Limit(20, 3);
+    const auto expectDescribed = [&] {
+        ASSERT_EQ(Spoken().size(), 1U);
+        EXPECT_EQ(Spoken().front()->text(QAccessible::Name), QStringLiteral("Notes"));
+        EXPECT_EQ(Spoken().front()->text(QAccessible::Description),
+                  QStringLiteral("up to 20 characters per line, up to 3 lines"));
+    };
+    expectDescribed();
+    Let(u"ScrollBars", 3);
+    EXPECT_EQ(Spoken().front()->object(), &Edit(3));
+    expectDescribed();
+    Limit(0, 0);
+    EXPECT_EQ(Spoken().front()->text(QAccessible::Description), QString());
+}
+
+TEST_F(QtMemoTest, AssistiveTechnologiesEnterTextWithinItsLimits) {
+    Limit(5, 2);
+    Spoken().front()->editableTextInterface()->insertText(0, QStringLiteral("one\ntwo\nthree"));
+    QApplication::processEvents();
+    EXPECT_EQ(Contents(), u"one\r\ntwo");
+}
 
 TEST_F(QtMemoTest, AKeyTellsInOrder) {
     TypeKeys(Edit(), u"a");

@@ -1,4 +1,5 @@
 // The caption page on real widgets.
+#include <QAccessible>
 #include <QApplication>
 #include <QTest>
 
@@ -48,6 +49,20 @@ class QtPageTest : public ::testing::Test {
     std::unique_ptr<HostedPage> page_ = form_.Page(u"VLabelCaption");
     std::vector<bool> told_;
 };
+
+TEST_F(QtPageTest, ScreenReadersFindItsFieldsInOrderAndNamed) {
+    QAccessibleInterface* const page = QAccessible::queryAccessibleInterface(page_.get());
+    QStringList names;
+    for (int index = 0; index < page->childCount(); ++index) {
+        QAccessibleInterface& field = *page->child(index);
+        const QAccessible::Role role = field.role();
+        if (role == QAccessible::EditableText || role == QAccessible::CheckBox) {
+            names += field.text(QAccessible::Name);
+        }
+        EXPECT_FALSE(field.state().invisible);
+    }
+    EXPECT_EQ(names, (QStringList{"Caption:", "Bullet Prefix:", "Bullet Indent:", "Word Wrap"}));
+}
 
 TEST_F(QtPageTest, ShortcutsInsertMarkup) {
     Caption().SetSelection(2, 5);

@@ -1,0 +1,52 @@
+#include "runtime/qt/accessible.h"
+
+#include <algorithm>
+
+namespace lumenkit::qt {
+
+namespace {
+
+// Qt calls this function, so no exception may leave it.
+QAccessibleInterface* DescriptionOf(const QString& /*key*/, QObject* object) {
+    auto* const widget = dynamic_cast<SelfDescribing*>(object);
+    try {
+        return widget == nullptr ? nullptr : widget->NewDescription();
+    } catch (...) {
+        return nullptr;
+    }
+}
+
+}  // namespace
+
+SelfDescribing::SelfDescribing() {
+    static const bool isInstalled = [] {
+        QAccessible::installFactory(&DescriptionOf);
+        return true;
+    }();
+    static_cast<void>(isInstalled);
+}
+
+// The last child widget is in front.
+QList<QWidget*> GroupDescription::Parts() const {
+    QList<QWidget*> parts = widget()->findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly);
+    std::ranges::reverse(parts);
+    parts.removeIf([](const QWidget* part) { return part->isHidden() || part->isWindow(); });
+    return parts;
+}
+
+int GroupDescription::childCount() const {
+    return static_cast<int>(Parts().size());
+}
+
+QAccessibleInterface* GroupDescription::child(int index) const {
+    QWidget* const part = Parts().value(index);
+    return part == nullptr ? nullptr : QAccessible::queryAccessibleInterface(part);
+}
+
+int GroupDescription::indexOfChild(const QAccessibleInterface* child) const {
+    return child == nullptr
+               ? -1
+               : static_cast<int>(Parts().indexOf(qobject_cast<QWidget*>(child->object())));
+}
+
+}  // namespace lumenkit::qt

@@ -1,0 +1,42 @@
+// What screen readers get to know of the runtime's widgets, where Qt's own description does not
+// fit.
+#pragma once
+
+#include <QAccessibleWidget>
+#include <QList>
+#include <QString>
+
+namespace lumenkit::qt {
+
+/// A widget that describes itself to screen readers. Qt asks for the description once.
+class SelfDescribing {
+ public:
+    virtual ~SelfDescribing() = default;
+    SelfDescribing(const SelfDescribing&) = delete;
+    SelfDescribing& operator=(const SelfDescribing&) = delete;
+
+    /// Returns a new description, which Qt takes over. If it throws, Qt describes the widget
+    /// itself.
+    virtual QAccessibleInterface* NewDescription() = 0;
+
+ protected:
+    SelfDescribing();
+};
+
+/// A widget that contains others. Hidden child widgets do not exist for screen readers, and the
+/// visible ones come in the order from front to back, in which they were created.
+class GroupDescription : public QAccessibleWidget {
+ public:
+    explicit GroupDescription(QWidget& widget, QAccessible::Role role = QAccessible::Client)
+        : QAccessibleWidget(&widget, role) {}
+
+    int childCount() const override;
+    QAccessibleInterface* child(int index) const override;
+    int indexOfChild(const QAccessibleInterface* child) const override;
+
+ protected:
+    /// Returns the widgets inside this one in the order in which they are read.
+    virtual QList<QWidget*> Parts() const;
+};
+
+}  // namespace lumenkit::qt
