@@ -21,6 +21,7 @@
 #include "runtime/qt/pixels.h"
 #include "runtime/qt/qt_text.h"
 #include "runtime/qt/text_transfer.h"
+#include "runtime/shared/text_difference.h"
 
 namespace lumenkit::qt {
 
@@ -48,38 +49,6 @@ bool IsPartOf(TextView whole, TextView part) {
     const std::less_equal<> precedes;
     return precedes(whole.data(), part.data()) &&
            precedes(part.data(), whole.data() + whole.size());
-}
-
-// Whether a position is between CR and LF.
-bool SplitsBreak(TextView text, std::size_t at) {
-    return at > 0 && text.substr(at - 1, 2) == crLf;
-}
-
-// The parts of two texts, both from `start`, in which alone the texts differ. They split no CR LF.
-struct Difference {
-    std::size_t start = 0;
-    std::size_t oldEnd = 0;
-    std::size_t newEnd = 0;
-};
-
-Difference DifferenceOf(TextView old, TextView text) {
-    const std::size_t shorter = std::min(old.size(), text.size());
-    auto same = static_cast<std::size_t>(
-        std::mismatch(old.begin(), old.begin() + static_cast<std::ptrdiff_t>(shorter), text.begin())
-            .first -
-        old.begin());
-    if (SplitsBreak(old, same) || SplitsBreak(text, same)) {
-        --same;
-    }
-    std::size_t tail = 0;
-    while (tail < shorter - same && old[old.size() - tail - 1] == text[text.size() - tail - 1]) {
-        ++tail;
-    }
-    if (tail > 0 &&
-        (SplitsBreak(old, old.size() - tail) || SplitsBreak(text, text.size() - tail))) {
-        --tail;
-    }
-    return {.start = same, .oldEnd = old.size() - tail, .newEnd = text.size() - tail};
 }
 
 // Gives a variable another value as long as this object lives.
@@ -200,7 +169,7 @@ void TextEdit::Assign(TextView text) {
 
 // Replaces only the part of the text that differs, so that the rest keeps its layout.
 void TextEdit::Replace(QTextCursor& cursor, TextView text) {
-    const Difference differing = DifferenceOf(Contents(), text);
+    const shared::TextDifference differing = shared::DifferenceOf(Contents(), text);
     cursor.setPosition(text_.ToDocumentPosition(static_cast<std::int32_t>(differing.start)));
     cursor.setPosition(text_.ToDocumentPosition(static_cast<std::int32_t>(differing.oldEnd)),
                        QTextCursor::KeepAnchor);

@@ -8,6 +8,7 @@
 #include "runtime/qt/boundary.h"
 #include "runtime/qt/document_text.h"
 #include "runtime/qt/undo_steps.h"
+#include "runtime/shared/edit_kind.h"
 
 class QKeyEvent;
 
@@ -75,8 +76,7 @@ class TextEdit final : public QPlainTextEdit {
         int moves = 0;
     };
 
-    // What becomes of the undo steps when code assigns the text.
-    enum class Assigning : std::uint8_t { Forgets, AddsStep, AmendsStep };
+    using Assigning = shared::Assigning;
 
     bool IsPlaced() const;
     bool IsInBreak() const;

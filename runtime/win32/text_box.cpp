@@ -108,6 +108,7 @@ void TextBox::SetText(TextView text) {
 
 // Returns whether the box still exists.
 bool TextBox::Assign(TextView text) {
+    RecordAssignment(text);
     if (Handle() == nullptr) {
         copy_ = Text(text);
         return true;
@@ -122,6 +123,7 @@ bool TextBox::Assign(TextView text) {
     isAssigning_ = false;
     isCopied_ = false;
     if (isDone == FALSE) {
+        history_.Forget();
         Raise(ErrorNumber::OutOfMemory);
     }
     return true;

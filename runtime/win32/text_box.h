@@ -4,12 +4,16 @@
 #include <optional>
 
 #include "frame/host/text_box.h"
+#include "runtime/shared/edit_history.h"
 #include "runtime/win32/basic_constituent.h"
 
 namespace lumenkit::win32 {
 
 /// The platform's edit control. A locked box receives keys too, but they do not edit it. A locked
 /// or disabled box keeps the colours of an editable one.
+///
+/// The box keeps the undo steps itself, because the edit control undoes one edit only and forgets
+/// it when code assigns the text. The edit control's messages for undoing act on these steps.
 ///
 /// The platform's texts end at their first unit 0, and so do assigned texts.
 class TextBox final : public BasicTextConstituent<host::TextBox> {
@@ -60,7 +64,37 @@ class TextBox final : public BasicTextConstituent<host::TextBox> {
     void Select(std::int32_t start, std::int32_t end);
     std::size_t Room() const;
 
-    LRESULT Pass(UINT message, WPARAM wParam, LPARAM lParam);
+    using EditKind = shared::EditKind;
+    using Assigning = shared::Assigning;
+
+    // While it exists, an event of the user is notified: an assignment by code is a part of the
+    // undo steps. Also tells whether the box still exists.
+    class Telling {
+     public:
+        Telling(TextBox& box, Assigning assigning);
+        ~Telling();
+        Telling(const Telling&) = delete;
+        Telling& operator=(const Telling&) = delete;
+
+        bool IsGone() const { return watch_.IsGone(); }
+
+     private:
+        Watch watch_;
+        TextBox& box_;
+        Assigning former_;
+    };
+
+    LRESULT Pass(UINT message, WPARAM wParam, LPARAM lParam, EditKind kind = EditKind::None);
+
+    // The undo steps. The object may be destroyed when Undo and Redo return.
+    bool MayEdit(UINT message, WPARAM wParam) const;
+    void RecordEdit(UINT message, WPARAM wParam, EditKind kind);
+    void RecordAssignment(TextView text);
+    bool Undo();
+    bool Redo();
+    void Perform(const shared::EditHistory::Patch& patch);
+    bool NotifyMove(bool moved);
+    void ShowMenu(LPARAM place);
 
     // The user's actions; each method answers a message. The object may be destroyed when they
     // return.
@@ -81,6 +115,8 @@ class TextBox final : public BasicTextConstituent<host::TextBox> {
     Color foreColor_ = Color::WindowText;
     std::int32_t maxLength_ = 0;
     host::MousePointer pointer_ = host::MousePointer::Default;
+    shared::EditHistory history_;
+    Assigning assigning_ = Assigning::Forgets;
     bool multiLine_;
     bool locked_ = false;
     bool isAssigning_ = false;     // notifications of the edit control are not passed on
