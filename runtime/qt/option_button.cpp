@@ -171,8 +171,10 @@ void OptionButton::ShowColors() {
         return;
     }
     QPalette palette = base;
-    palette.setColor(QPalette::WindowText, ToQColor(foreColor_, base));
-    Button().setPalette(palette);
+    for (const QPalette::ColorGroup usable : {QPalette::Active, QPalette::Inactive}) {
+        palette.setColor(usable, QPalette::WindowText, ToQColor(foreColor_, base));
+    }
+    Button().setPalette(palette);  // a disabled button is grey
 }
 
 }  // namespace lumenkit::qt

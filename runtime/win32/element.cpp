@@ -52,6 +52,10 @@ Element::Element(const Elements& elements, const Kind& kind, const host::Design&
             .extendedStyle = kind.extendedStyle,
             .place = ToPixels(placement_, resolution_),
             .parent = ParentWindow(elements, design)});
+    const auto* const parent = dynamic_cast<const Element*>(design.parent);
+    if (parent == nullptr) {
+        throw std::logic_error("the parent belongs to another runtime");
+    }
 }
 
 Element::~Element() {
@@ -84,9 +88,22 @@ void Element::BecomeEnabled(bool enabled) {
     const HWND focus = GetFocus();
     const bool losesFocus = !enabled && focus != nullptr && Handle() != nullptr &&
                             (focus == Handle() || IsChild(Handle(), focus) != FALSE);
-    EnableWindow(Handle(), enabled ? TRUE : FALSE);
+    ShowEnabled();
     if (losesFocus) {
         SetFocus(owner_);  // so that keys still reach a window; may destroy the object
+    }
+}
+
+// The window classes grey only disabled windows, so the elements in a disabled frame have disabled
+// windows too.
+void Element::ShowEnabled() {
+    EnableWindow(Handle(), IsUsable() ? TRUE : FALSE);
+    const HWND first = Handle() == nullptr ? nullptr : GetWindow(Handle(), GW_CHILD);
+    for (HWND child = first; child != nullptr; child = GetWindow(child, GW_HWNDNEXT)) {
+        if (auto* const inside = dynamic_cast<Element*>(Window::Of(child))) {
+            inside->parentIsUsable_ = IsUsable();
+            inside->ShowEnabled();
+        }
     }
 }
 

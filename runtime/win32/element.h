@@ -29,6 +29,8 @@ class Element : public Window, public Drawable {
     std::int16_t Index() const { return index_; }  ///< in a control array, else -1
     bool IsVisible() const { return visible_; }    ///< regardless of its parents
     bool IsEnabled() const { return enabled_; }    ///< regardless of its parents
+    /// Whether it and the elements around it are enabled.
+    bool IsUsable() const { return enabled_ && parentIsUsable_; }
 
     /// Draws the border, lets the window class draw the client area, and draws the children in it.
     void DrawOn(HDC device) override;
@@ -51,6 +53,8 @@ class Element : public Window, public Drawable {
     void MoveTo(const host::Placement& placement);
     void BecomeVisible(bool visible);
     void BecomeEnabled(bool enabled);
+    /// Brings the state to the window and to the elements inside.
+    void ShowEnabled();
     void RepaintNow() const;
     /// Invalidates the window for a later repaint.
     void Invalidate() const;
@@ -75,6 +79,7 @@ class Element : public Window, public Drawable {
     host::Placement placement_;
     bool visible_;
     bool enabled_ = true;
+    bool parentIsUsable_ = true;
     HWND owner_;
     Resolution resolution_;
 };

@@ -173,6 +173,31 @@ TEST_F(QtOptionsTest, TheMarkMayStandAtTheRight) {
     EXPECT_NE(Button(3).grab().toImage(), left);
 }
 
+TEST_F(QtOptionsTest, ADisabledFrameGreysItsButtons) {
+    const auto countOf = [](QWidget& widget, const QColor& colour) {
+        const QImage shown = widget.grab().toImage();
+        int count = 0;
+        for (int y = 0; y < shown.height(); ++y) {
+            for (int x = 0; x < shown.width(); ++x) {
+                count += shown.pixelColor(x, y).hue() == colour.hue() &&
+                                 shown.pixelColor(x, y).saturation() > 100
+                             ? 1
+                             : 0;
+            }
+        }
+        return count;
+    };
+    for (const std::int16_t alignment : {std::int16_t{0}, std::int16_t{1}}) {
+        options_->Item(1).SetForeColor(Rgb(255, 0, 0));
+        options_->Item(1).SetAlignment(alignment);
+        EXPECT_GT(countOf(Button(1), Qt::red), 0);
+        frame_->SetEnabled(false);
+        EXPECT_EQ(countOf(Button(1), Qt::red), 0) << alignment;
+        EXPECT_TRUE(options_->Item(1).Enabled());
+        frame_->SetEnabled(true);
+    }
+}
+
 TEST_F(QtOptionsTest, AClickMayDestroyAllOfThem) {
     clicks_.act = [&] { options_.reset(); };
     QPointer<QWidget> button(&Button(1));

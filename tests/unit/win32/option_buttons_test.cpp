@@ -221,6 +221,26 @@ TEST_F(OptionButtonsWindowTest, ADisabledFrameGivesTheFocusAway) {
     EXPECT_FALSE(IsWindowEnabled(WindowOf(*frame_)));
 }
 
+TEST_F(OptionButtonsWindowTest, ADisabledFrameGreysItsButtons) {
+    options_->Item(3).SetEnabled(false);
+    const auto enabled = [&] {
+        return std::vector<bool>{IsWindowEnabled(At(0)) != FALSE, IsWindowEnabled(At(1)) != FALSE,
+                                 IsWindowEnabled(At(3)) != FALSE};
+    };
+    frame_->SetEnabled(false);
+    options_->Load(4);
+    EXPECT_EQ(enabled(), (std::vector<bool>{false, false, false}));
+    EXPECT_FALSE(IsWindowEnabled(At(4)));
+    EXPECT_TRUE(options_->Item(1).Enabled());
+    EXPECT_TRUE(options_->Item(4).Enabled());
+    options_->Item(3).SetEnabled(true);
+    EXPECT_FALSE(IsWindowEnabled(At(3)));
+    options_->Item(1).SetEnabled(false);
+    frame_->SetEnabled(true);
+    EXPECT_EQ(enabled(), (std::vector<bool>{true, false, true}));
+    EXPECT_TRUE(IsWindowEnabled(At(4)));
+}
+
 TEST_F(OptionButtonsWindowTest, AThousandAreThere) {
     const int before = testing::WindowCount();
     const auto start = GetTickCount64();
