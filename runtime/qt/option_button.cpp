@@ -33,6 +33,10 @@ class OptionWidget final : public QRadioButton {
         }
     }
 
+    // The whole row is the button: styles accept clicks on the mark and the caption only, at the
+    // places where they would draw them.
+    bool hitButton(const QPoint& place) const override { return rect().contains(place); }
+
     void keyPressEvent(QKeyEvent* event) override {
         switch (event->key()) {
             case Qt::Key_Up:

@@ -173,6 +173,22 @@ TEST_F(QtOptionsTest, TheMarkMayStandAtTheRight) {
     EXPECT_NE(Button(3).grab().toImage(), left);
 }
 
+TEST_F(QtOptionsTest, TheWholeRowIsTheButton) {
+    for (const std::int16_t alignment : {std::int16_t{0}, std::int16_t{1}}) {
+        for (const std::int16_t index : {std::int16_t{0}, std::int16_t{1}, std::int16_t{3}}) {
+            options_->Item(index).SetAlignment(alignment);
+        }
+        options_->Item(0).SetCaption(u"a");
+        const QRect row = Button(0).rect();
+        for (const QPoint place : {row.topLeft(), row.bottomRight(), row.center(),
+                                   QPoint(row.right() - 8, row.center().y())}) {
+            options_->Item(1).Select(true);
+            QTest::mouseClick(&Button(0), Qt::LeftButton, {}, place);
+            EXPECT_TRUE(options_->Item(0).IsSelected()) << alignment << " " << place.x();
+        }
+    }
+}
+
 TEST_F(QtOptionsTest, ADisabledFrameGreysItsButtons) {
     const auto countOf = [](QWidget& widget, const QColor& colour) {
         const QImage shown = widget.grab().toImage();
