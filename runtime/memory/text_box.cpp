@@ -231,11 +231,71 @@ void TextBox::Insert(TextView text) {
 void TextBox::DeleteBackwards() {
     Range range = EditedRange();
     if (range.start == range.end) {
-        const auto caret = static_cast<std::size_t>(range.start);
-        const bool pair = caret >= 2 && IsPair(text_[caret - 2], text_[caret - 1]);
-        range.start -= std::min(range.start, pair ? 2 : 1);
+        range.start -= UnitsBefore(range.start);
     }
     Replace(range, {});
+}
+
+void TextBox::DeleteForward() {
+    Range range = EditedRange();
+    if (range.start == range.end) {
+        range.end += UnitsAfter(range.end);
+    }
+    Replace(range, {});
+}
+
+// Returns the length of the character before a position, 0 at the start of the text.
+std::int32_t TextBox::UnitsBefore(std::int32_t position) const {
+    const auto at = static_cast<std::size_t>(position);
+    const bool pair = at >= 2 && IsPair(text_[at - 2], text_[at - 1]);
+    return std::min(position, pair ? 2 : 1);
+}
+
+// Returns the length of the character at a position, 0 at the end of the text.
+std::int32_t TextBox::UnitsAfter(std::int32_t position) const {
+    const auto at = static_cast<std::size_t>(position);
+    const bool pair = at + 2 <= text_.size() && IsPair(text_[at], text_[at + 1]);
+    return std::min(Length() - position, pair ? 2 : 1);
+}
+
+void TextBox::ReceiveEditingKey(std::int16_t keyCode) {
+    std::int16_t down = keyCode;
+    std::int16_t up = keyCode;
+    std::int16_t shift = 0;
+    events_.KeyDown(down, shift);
+    if (down == static_cast<std::int16_t>(EditingKey::Delete)) {
+        if (!locked_) {
+            DeleteForward();
+        }
+    } else if (down != 0) {
+        MoveCaret(down);
+    }
+    events_.KeyUp(up, shift);
+}
+
+void TextBox::MoveCaret(std::int16_t keyCode) {
+    const std::int32_t shown = EditedRange().start;
+    const auto at = static_cast<std::size_t>(shown);
+    const bool isInBreak = shown != selStart_;
+    switch (static_cast<EditingKey>(keyCode)) {
+        case EditingKey::Left:
+            selStart_ = isInBreak ? shown : shown - UnitsBefore(shown);
+            break;
+        case EditingKey::Right:
+            selStart_ = shown + UnitsAfter(shown);
+            break;
+        case EditingKey::Home: {
+            const std::size_t end = at == 0 ? Text::npos : text_.rfind(crLf, at - 1);
+            selStart_ = end == Text::npos ? 0 : static_cast<std::int32_t>(end + crLf.size());
+            break;
+        }
+        case EditingKey::End:
+            selStart_ = static_cast<std::int32_t>(std::min(text_.find(crLf, at), text_.size()));
+            break;
+        default:
+            return;
+    }
+    selEnd_ = selStart_;
 }
 
 void TextBox::ReceiveSelection(std::int32_t start, std::int32_t length) {

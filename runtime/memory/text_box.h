@@ -45,6 +45,8 @@ class TextBox final : public BasicTextConstituent<host::TextBox> {
     void ReceiveMouse(MouseAction action, host::MouseArguments mouse) override;
     /// Delivers one key, from key-down to key-up.
     void ReceiveKey(char16_t unit);
+    /// Delivers a key that enters nothing.
+    void ReceiveEditingKey(std::int16_t keyCode);
     /// Selects `length` units from `start` on, or up to the end of the text. Notifies nothing.
     void ReceiveSelection(std::int32_t start, std::int32_t length);
     /// Replaces the selection in one change.
@@ -62,6 +64,10 @@ class TextBox final : public BasicTextConstituent<host::TextBox> {
     void Enter(char16_t unit);
     void Insert(TextView text);
     void DeleteBackwards();
+    void DeleteForward();
+    void MoveCaret(std::int16_t keyCode);
+    std::int32_t UnitsBefore(std::int32_t position) const;
+    std::int32_t UnitsAfter(std::int32_t position) const;
     Range EditedRange() const;
     void Replace(Range range, TextView replacement);
 

@@ -273,6 +273,56 @@ TEST_P(TextBoxContract, TheUserEditsBeforeALineBreakThatHoldsTheCaret) {
     EXPECT_EQ(box.GetText(), u"ab1\r\n2xd") << "a line break is replaced as a whole";
 }
 
+constexpr std::int16_t endKey = 35;
+constexpr std::int16_t homeKey = 36;
+constexpr std::int16_t leftKey = 37;
+constexpr std::int16_t rightKey = 39;
+constexpr std::int16_t deleteKey = 46;
+
+TEST_P(TextBoxContract, KeysMoveACaretFromBeforeTheLineBreakThatHoldsIt) {
+    struct Case {
+        std::int16_t key;
+        std::int32_t expected;
+    };
+    host::TextBox& box = FocusedBox(u"ab\r\ncd");
+    for (const Case& one :
+         {Case{leftKey, 2}, Case{rightKey, 4}, Case{homeKey, 0}, Case{endKey, 2}}) {
+        box.SetSelStart(3);
+        runtime_->Press(box, one.key);
+        EXPECT_EQ(Selected(), (Selection{one.expected, one.expected})) << one.key;
+    }
+    for (const Case& one :
+         {Case{leftKey, 2}, Case{rightKey, 5}, Case{homeKey, 4}, Case{endKey, 6}}) {
+        box.SetSelStart(4);
+        runtime_->Press(box, one.key);
+        EXPECT_EQ(box.SelStart(), one.expected) << one.key;
+    }
+}
+
+TEST_P(TextBoxContract, DeleteAtTheEndOfALineJoinsTheNext) {
+    host::TextBox& box = FocusedBox(u"ab\r\ncd\r\n");
+    for (const std::int32_t caret : {2, 3}) {
+        box.SetText(u"ab\r\ncd\r\n");
+        box.SetSelStart(caret);
+        recorder_.lines.clear();
+        runtime_->Press(box, deleteKey);
+        EXPECT_EQ(box.GetText(), u"abcd\r\n") << caret;
+        EXPECT_EQ(Selected(), (Selection{2, 2})) << caret;
+        EXPECT_EQ(recorder_.Take(), (Lines{"down 46", "change", "up 46"}));
+    }
+    box.SetSelStart(5);
+    runtime_->Press(box, deleteKey);
+    EXPECT_EQ(box.GetText(), u"abcd");
+    EXPECT_EQ(Selected(), (Selection{4, 4})) << "the caret was in the deleted line break";
+    recorder_.lines.clear();
+    runtime_->Press(box, deleteKey);
+    EXPECT_EQ(recorder_.Take(), (Lines{"down 46", "up 46"})) << "nothing follows";
+    box.SetSelection(1, 3);
+    runtime_->Press(box, deleteKey);
+    EXPECT_EQ(box.GetText(), u"ad");
+    EXPECT_EQ(Selected(), (Selection{1, 1}));
+}
+
 TEST_P(TextBoxContract, TypingReplacesTheSelection) {
     host::TextBox& box = FocusedBox(u"abcd");
     runtime_->Select(box, 1, 2);
