@@ -43,6 +43,33 @@ TextBox::TextBox(Elements& elements, const host::TextBoxDesign& design, host::Te
       scrollBars_(design.scrollBars),
       multiLine_(design.multiLine) {}
 
+void TextBox::SetVisible(bool visible) {
+    const bool hides = !visible && IsVisible();
+    BasicTextConstituent::SetVisible(visible);
+    TextBox* const twin = hides ? Twin() : nullptr;
+    if (twin != nullptr && !twin->caretIsPlaced_) {
+        twin->ReceiveSelection(selStart_, selEnd_ - selStart_);
+    }
+    caretIsPlaced_ = false;
+    Focus& focus = Siblings().GetForm().GetFocus();
+    if (twin != nullptr && twin->IsEnabled() && focus.IsAt(*this)) {
+        focus.MoveTo(twin);
+    }
+}
+
+// Returns the visible box of the same control array that has the same place; null if there is none.
+// A box that must look different is hidden and its twin is shown.
+TextBox* TextBox::Twin() const {
+    for (Element* const element : Siblings().All()) {
+        auto* const box = dynamic_cast<TextBox*>(element);
+        if (box != nullptr && box != this && Index() >= 0 && box->Name() == Name() &&
+            box->IsVisible() && box->Parent() == Parent() && box->Where() == Where()) {
+            return box;
+        }
+    }
+    return nullptr;
+}
+
 TextView TextBox::GetText() const {
     Call(u"GetText");
     return text_;
@@ -50,6 +77,7 @@ TextView TextBox::GetText() const {
 
 void TextBox::SetText(TextView text) {
     Call(u"SetText");
+    caretIsPlaced_ = false;
     if (maxLength_ > 0) {
         text = text.substr(0, static_cast<std::size_t>(maxLength_));
     }
@@ -70,6 +98,7 @@ std::int32_t TextBox::SelStart() const {
 void TextBox::SetSelStart(std::int32_t position) {
     Call(u"SetSelStart");
     Require(position >= 0);
+    caretIsPlaced_ = true;
     selStart_ = std::min(position, Length());
     selEnd_ = selStart_;
 }
@@ -82,6 +111,7 @@ std::int32_t TextBox::SelLength() const {
 void TextBox::SetSelLength(std::int32_t length) {
     Call(u"SetSelLength");
     Require(length >= 0);
+    caretIsPlaced_ = true;
     selEnd_ = selStart_ + std::min(length, Length() - selStart_);
 }
 
@@ -93,6 +123,7 @@ void TextBox::GetSelection(std::int32_t& start, std::int32_t& end) const {
 
 void TextBox::SetSelection(std::int32_t start, std::int32_t end) {
     Call(u"SetSelection");
+    caretIsPlaced_ = true;
     if (start == -1) {
         selStart_ = selEnd_;
         return;

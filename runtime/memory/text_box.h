@@ -12,6 +12,8 @@ class TextBox final : public BasicTextConstituent<host::TextBox> {
  public:
     TextBox(Elements& elements, const host::TextBoxDesign& design, host::TextBoxEvents& events);
 
+    /// A box that is hidden passes caret, selection and focus on to its twin.
+    void SetVisible(bool visible) override;
     TextView GetText() const override;
     void SetText(TextView text) override;
     std::int32_t SelStart() const override;
@@ -58,6 +60,7 @@ class TextBox final : public BasicTextConstituent<host::TextBox> {
         std::int32_t end = 0;
     };
 
+    TextBox* Twin() const;
     std::int32_t Length() const { return static_cast<std::int32_t>(text_.size()); }
     std::size_t Room() const;
     void PressKey(char16_t unit);
@@ -82,6 +85,7 @@ class TextBox final : public BasicTextConstituent<host::TextBox> {
     host::ScrollBars scrollBars_;
     bool multiLine_;
     bool locked_ = false;
+    bool caretIsPlaced_ = false;  // by code, since it assigned the text
 };
 
 }  // namespace lumenkit::memory

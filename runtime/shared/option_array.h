@@ -40,6 +40,8 @@ class OptionArray : public host::OptionButtons {
     /// Returns the next (or previous) button that takes the focus, by index and around the ends.
     /// This may be `button` itself. Null if no button takes the focus.
     Button* Neighbour(const Button& button, bool forward) const;
+    /// Returns the button at which the Tab key stops. Null if no button takes the focus.
+    Button* TabStop() const;
     /// Called after a button was shown, hidden, enabled or disabled.
     void PlaceTabStop();
 
@@ -55,7 +57,6 @@ class OptionArray : public host::OptionButtons {
 
  private:
     void Add(std::int16_t index);
-    Button* TabStop() const;
 
     Maker make_;
     host::OptionButtonEvents& events_;

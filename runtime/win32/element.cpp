@@ -1,9 +1,11 @@
 #include "runtime/win32/element.h"
 
 #include <stdexcept>
+#include <utility>
 
 #include "frame/host/accepted_values.h"
 #include "runtime/win32/colors.h"
+#include "runtime/win32/keyboard.h"
 
 namespace lumenkit::win32 {
 
@@ -53,8 +55,9 @@ Element::Element(const Elements& elements, const Kind& kind, const host::Design&
             .place = ToPixels(placement_, resolution_),
             .parent = ParentWindow(elements, design)});
     const auto* const parent = dynamic_cast<const Element*>(design.parent);
-    if (parent == nullptr) {
-        throw std::logic_error("the parent belongs to another runtime");
+    if (parent != nullptr && !parent->IsUsable()) {
+        parentIsUsable_ = false;
+        EnableWindow(Handle(), FALSE);
     }
 }
 
@@ -74,9 +77,20 @@ void Element::MoveTo(const host::Placement& placement) {
 }
 
 void Element::BecomeVisible(bool visible) {
-    if (visible != visible_) {
-        visible_ = visible;
-        ShowWindow(Handle(), visible ? SW_SHOWNA : SW_HIDE);
+    if (visible == visible_) {
+        return;
+    }
+    visible_ = visible;
+    const Watch watch(*this);
+    if (!visible) {
+        GiveFocusAway();
+    }
+    if (watch.IsGone()) {
+        return;
+    }
+    ShowWindow(Handle(), visible ? SW_SHOWNA : SW_HIDE);
+    if (visible && !watch.IsGone()) {
+        TakeFocusBack();
     }
 }
 
@@ -85,12 +99,16 @@ void Element::BecomeEnabled(bool enabled) {
         return;
     }
     enabled_ = enabled;
-    const HWND focus = GetFocus();
-    const bool losesFocus = !enabled && focus != nullptr && Handle() != nullptr &&
-                            (focus == Handle() || IsChild(Handle(), focus) != FALSE);
+    const Watch watch(*this);
+    if (!enabled) {
+        GiveFocusAway();
+    }
+    if (watch.IsGone()) {
+        return;
+    }
     ShowEnabled();
-    if (losesFocus) {
-        SetFocus(owner_);  // so that keys still reach a window; may destroy the object
+    if (enabled && !watch.IsGone()) {
+        TakeFocusBack();
     }
 }
 
@@ -104,6 +122,32 @@ void Element::ShowEnabled() {
             inside->parentIsUsable_ = IsUsable();
             inside->ShowEnabled();
         }
+    }
+}
+
+// Moves the focus before the window is hidden or disabled, because the platform would move it to a
+// window that cannot use it.
+void Element::GiveFocusAway() {
+    if (!HasFocusInside(Handle())) {
+        return;
+    }
+    const HWND loser = GetFocus();
+    const Element* const heir = Heir();
+    const HWND next = heir != nullptr ? heir->Handle() : FocusAfter(owner_, Handle());
+    lostFocus_ = next == nullptr ? loser : nullptr;
+    SetFocus(next == nullptr ? owner_ : next);
+}
+
+void Element::TakeFocusBack() {
+    const HWND loser = std::exchange(lostFocus_, nullptr);
+    if (GetFocus() != owner_) {
+        return;
+    }
+    const bool isInside = loser == Handle() || IsChild(Handle(), loser) != FALSE;
+    if (isInside && IsWindowVisible(loser) != FALSE && IsWindowEnabled(loser) != FALSE) {
+        SetFocus(loser);
+    } else {
+        FocusFirst(owner_, false);
     }
 }
 

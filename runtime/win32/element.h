@@ -51,8 +51,14 @@ class Element : public Window, public Drawable {
     const host::Placement& Where() const { return placement_; }
     /// Raises 380 for a negative width or height.
     void MoveTo(const host::Placement& placement);
+    // Both move the focus out of an element that cannot be used any more: to its heir, to the next
+    // tab stop, or else to the control's window, which keeps it for the element. May destroy the
+    // object.
     void BecomeVisible(bool visible);
     void BecomeEnabled(bool enabled);
+    /// Returns the element that takes the focus over when this one, which has it, is hidden or
+    /// disabled; null if there is none.
+    virtual const Element* Heir() const { return nullptr; }
     /// Brings the state to the window and to the elements inside.
     void ShowEnabled();
     void RepaintNow() const;
@@ -74,6 +80,9 @@ class Element : public Window, public Drawable {
     static LRESULT AnswerColors(WPARAM device, Color text, Color background);
 
  private:
+    void GiveFocusAway();
+    void TakeFocusBack();
+
     Text name_;
     std::int16_t index_;
     host::Placement placement_;
@@ -81,6 +90,7 @@ class Element : public Window, public Drawable {
     bool enabled_ = true;
     bool parentIsUsable_ = true;
     HWND owner_;
+    HWND lostFocus_ = nullptr;  // the window inside for which the control's window keeps the focus
     Resolution resolution_;
 };
 

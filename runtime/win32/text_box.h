@@ -24,6 +24,8 @@ class TextBox final : public BasicTextConstituent<host::TextBox> {
     TextBox(const TextBox&) = delete;
     TextBox& operator=(const TextBox&) = delete;
 
+    /// A box that is hidden passes caret, selection and focus on to its twin.
+    void SetVisible(bool visible) override;
     TextView GetText() const override;
     void SetText(TextView text) override;
     std::int32_t SelStart() const override;
@@ -55,6 +57,8 @@ class TextBox final : public BasicTextConstituent<host::TextBox> {
         std::int32_t end = 0;
     };
 
+    const Element* Heir() const override;
+    TextBox* Twin() const;
     std::int32_t Length() const;
     TextView TextInPlace() const;
     void KeepCopy() const;
@@ -119,6 +123,7 @@ class TextBox final : public BasicTextConstituent<host::TextBox> {
     Assigning assigning_ = Assigning::Forgets;
     bool multiLine_;
     bool locked_ = false;
+    bool caretIsPlaced_ = false;  // by code, since it assigned the text
     bool isAssigning_ = false;     // notifications of the edit control are not passed on
     bool hasChanged_ = false;      // by the message in progress
     bool keyIsTaken_ = false;      // the key that is down enters nothing

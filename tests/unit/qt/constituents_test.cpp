@@ -189,6 +189,19 @@ TEST_F(QtOptionsTest, TheWholeRowIsTheButton) {
     }
 }
 
+TEST_F(QtOptionsTest, AButtonThatIsHiddenPassesTheFocusOn) {
+    Button(1).setFocus();
+    options_->Item(1).SetVisible(false);
+    EXPECT_TRUE(Button(0).hasFocus()) << "where Tab stops";
+    options_->Item(3).Select(true);
+    clicks_.clicked.clear();
+    options_->Item(0).SetEnabled(false);
+    EXPECT_TRUE(Button(3).hasFocus()) << "the selected one";
+    options_->Item(3).SetVisible(false);
+    EXPECT_TRUE(WidgetOf(*before_).hasFocus()) << "no button is left";
+    EXPECT_THAT(clicks_.clicked, ElementsAre()) << "nothing is selected by the focus";
+}
+
 TEST_F(QtOptionsTest, ADisabledFrameGreysItsButtons) {
     const auto countOf = [](QWidget& widget, const QColor& colour) {
         const QImage shown = widget.grab().toImage();

@@ -574,6 +574,77 @@ TEST_F(QtMemoTest, EachSettingShowsItsScrollBars) {
     }
 }
 
+TEST_F(QtMemoTest, OtherScrollBarsKeepTheKeyboardAndTheCaret) {
+    form_.Place(u"VMemo", {0, 1800, 4500, 1800});
+    for (std::int16_t from = 0; from < 4; ++from) {
+        for (std::int16_t to = 0; to < 4; ++to) {
+            Let(u"Text", Text());
+            Let(u"ScrollBars", std::int32_t{from});
+            Edit(from).setFocus();
+            TypeKeys(Edit(from), u"abxcd");
+            Box(from).SetSelStart(2);
+            Box(from).SetSelLength(1);
+            Let(u"ScrollBars", std::int32_t{to});
+            ASSERT_TRUE(Edit(to).hasFocus()) << from << " " << to;
+            TypeKeys(*QApplication::focusWidget(), u"e");
+            EXPECT_EQ(Contents(), u"abecd");
+        }
+    }
+}
+
+TEST_F(QtMemoTest, ACaretThatTheLimitsPlacedStays) {
+    TypeKeys(Edit(), u"abcdef");
+    Limit(6, 0);
+    TypeKeys(Edit(), u"\b");
+    Box().SetSelStart(1);
+    QTest::keyClick(&Edit(), Qt::Key_Shift);  // the caret at the last key press
+    Box().SetSelStart(5);
+    Limit(3, 0);
+    Let(u"ScrollBars", std::int32_t{2});
+    EXPECT_TRUE(Edit(2).hasFocus());
+    EXPECT_EQ(Box(2).SelStart(), 1);
+}
+
+TEST_F(QtMemoTest, ADisabledMemoKeepsTheKeyboardForLater) {
+    HostedControl& other = form_.Place(u"VMemo", {0, 1800, 4500, 1800});
+    TypeKeys(Edit(), u"ab");
+    Let(u"Enabled", false);
+    EXPECT_FALSE(Edit().hasFocus());
+    ASSERT_NE(QApplication::focusWidget(), nullptr);
+    EXPECT_TRUE(memo_.isAncestorOf(QApplication::focusWidget()));
+    Let(u"Enabled", true);
+    EXPECT_TRUE(Edit().hasFocus());
+    TypeKeys(*QApplication::focusWidget(), u"c");
+    EXPECT_EQ(Contents(), u"abc");
+    Let(u"Enabled", false);
+    Let(u"ScrollBars", std::int32_t{3});
+    Let(u"Enabled", true);
+    EXPECT_TRUE(Edit(3).hasFocus());
+    // The user moves on.
+    Let(u"Enabled", false);
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+    QWidget& edit = dynamic_cast<TextBox&>(*other.Parts().Find(u"Text1", 0)).Edit();
+    EXPECT_TRUE(edit.hasFocus());
+    Let(u"Enabled", true);
+    EXPECT_TRUE(edit.hasFocus());
+}
+
+TEST_F(QtMemoTest, AShorterListKeepsTheKeyboardAndSelectsNothing) {
+    HostedControl& list = form_.Place(u"VOptList", {0, 1800, 4500, 1800});
+    list.Automation().Let(u"Contents", Text(u"a|b|c"));
+    list.FocusFirst();
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Up);
+    EXPECT_EQ(ToText(list.Automation().Get(u"Text")), u"c");
+    form_.events.clear();
+    list.Automation().Let(u"Contents", Text(u"a|b"));
+    ASSERT_NE(QApplication::focusWidget(), nullptr);
+    EXPECT_TRUE(list.isAncestorOf(QApplication::focusWidget()));
+    EXPECT_EQ(ToText(list.Automation().Get(u"Text")), u"");
+    EXPECT_THAT(form_.events, ElementsAre());
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Down);
+    EXPECT_EQ(ToText(list.Automation().Get(u"Text")), u"b") << "from the first item";
+}
+
 TEST_F(QtMemoTest, TabLeavesTheBoxAndCtrlTabDoesNot) {
     HostedControl& other = form_.Place(u"VMemo", {0, 1800, 4500, 1800});
     Edit().setFocus();
