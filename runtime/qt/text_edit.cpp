@@ -27,6 +27,9 @@ namespace lumenkit::qt {
 
 namespace {
 
+// The code of a key that an input method handles.
+constexpr std::int16_t processKey = 229;
+
 bool IsPair(char16_t first, char16_t second) {
     return (QChar::isHighSurrogate(first) && QChar::isLowSurrogate(second)) ||
            (first == u'\r' && second == u'\n');
@@ -399,24 +402,76 @@ void TextEdit::keyReleaseEvent(QKeyEvent* event) {
     QPlainTextEdit::keyReleaseEvent(event);
 }
 
-// Text that an input method commits passes through KeyPress; text that it composes is only shown.
+// ---- Input methods
+
+// Text that an input method commits is an edit, with a key of its own. Text that it composes is
+// only shown.
 void TextEdit::inputMethodEvent(QInputMethodEvent* event) {
     if (locked_) {
         event->ignore();
         return;
     }
-    HandleEvent(errors_, [&] {
-        const Text committed = Pressed(WithLineBreaks(event->commitString()));
-        const TextView kept = multiLine_ ? TextView(committed) : FirstLine(committed);
-        const auto replaced = static_cast<std::size_t>(event->replacementLength());
-        const std::size_t room = Room();
-        const bool isLimited = room < std::numeric_limits<std::size_t>::max();
-        QInputMethodEvent shown(event->preeditString(), event->attributes());
-        shown.setCommitString(text_.ToCharacters(Fitting(kept, isLimited ? room + replaced : room)),
-                              event->replacementStart(), event->replacementLength());
-        QPlainTextEdit::inputMethodEvent(&shown);
-        event->setAccepted(shown.isAccepted());
-    });
+    HandleEvent(errors_, [&] { Compose(*event); });
+    event->accept();
+}
+
+void TextEdit::Compose(const QInputMethodEvent& event) {
+    std::optional<Placed> over = std::exchange(composedOver_, std::nullopt);
+    if (over && over->version != text_.Version()) {
+        over.reset();
+    }
+    if (!event.commitString().isEmpty()) {
+        if (over) {
+            Select(over->selection);
+        }
+        const Text committed = Commit(event);
+        ShowComposition(event, committed);
+        NotifyChange();
+        std::int16_t code = processKey;
+        std::int16_t shift = 0;
+        Tell(Assigning::AddsStep, [&](host::TextBoxEvents& events) { events.KeyUp(code, shift); });
+        return;
+    }
+    if (!over && (event.preeditString().isEmpty() || !textCursor().hasSelection())) {
+        ShowComposition(event, {});
+        return;
+    }
+    // Qt would delete the selection when the composition begins.
+    const Selection selection = over ? over->selection : Selected();
+    Collapse(selection);
+    ShowComposition(event, {});
+    if (event.preeditString().isEmpty()) {
+        Select(selection);
+    } else {
+        placed_ = {.selection = selection, .version = text_.Version(), .moves = moves_};
+        composedOver_ = placed_;
+    }
+}
+
+// Notifies the key and the units of a commit. Returns the units as the handlers leave them.
+Text TextEdit::Commit(const QInputMethodEvent& event) {
+    std::int16_t code = processKey;
+    std::int16_t shift = 0;
+    Tell(Assigning::AddsStep, [&](host::TextBoxEvents& events) { events.KeyDown(code, shift); });
+    return code == 0 ? Text() : Pressed(WithLineBreaks(event.commitString()));
+}
+
+void TextEdit::ShowComposition(const QInputMethodEvent& event, TextView committed) {
+    const TextView kept = multiLine_ ? committed : FirstLine(committed);
+    const auto replaced = static_cast<std::size_t>(event.replacementLength());
+    const std::size_t room = Room();
+    const bool isLimited = room < std::numeric_limits<std::size_t>::max();
+    QInputMethodEvent shown(event.preeditString(), event.attributes());
+    shown.setCommitString(text_.ToCharacters(Fitting(kept, isLimited ? room + replaced : room)),
+                          event.replacementStart(), event.replacementLength());
+    QPlainTextEdit::inputMethodEvent(&shown);
+}
+
+// Puts the cursor of the document behind the selection.
+void TextEdit::Collapse(const Selection& selection) {
+    QTextCursor cursor = textCursor();
+    cursor.setPosition(text_.ToDocumentPosition(selection.end));
+    setTextCursor(cursor);
 }
 
 // ---- Clipboard and dragging

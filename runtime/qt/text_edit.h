@@ -84,6 +84,10 @@ class TextEdit final : public QPlainTextEdit {
     void Replace(QTextCursor& cursor, TextView text);
     void FollowDocument(int from, int added);
     void NotifyChange();
+    void Compose(const QInputMethodEvent& event);
+    Text Commit(const QInputMethodEvent& event);
+    void ShowComposition(const QInputMethodEvent& event, TextView committed);
+    void Collapse(const Selection& selection);
     template <typename Handle>
     bool During(Handle&& handle);
     template <typename Notify>
@@ -118,6 +122,7 @@ class TextEdit final : public QPlainTextEdit {
     int tasks_ = 0;     // the events and assignments in progress, one inside the other
     int moves_ = 0;     // how often the cursor of the document moved
     std::optional<Placed> placed_;
+    std::optional<Placed> composedOver_;  // the selection that a composition will replace
     std::int32_t maxLength_ = 0;
     bool locked_ = false;
     bool hasFocusNow_ = false;

@@ -46,6 +46,10 @@ class TextBox final : public BasicTextConstituent<host::TextBox> {
 
     void DrawOn(HDC device) override;
 
+    /// Enters what an input method has finished: notifies KeyPress of each unit, and makes one edit
+    /// of them all. The object may be destroyed when the call returns.
+    void EnterComposed(TextView units);
+
  protected:
     LRESULT HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
     std::optional<LRESULT> HandleNotification(UINT message, WPARAM wParam, LPARAM lParam) override;
@@ -105,11 +109,16 @@ class TextBox final : public BasicTextConstituent<host::TextBox> {
     LRESULT KeyGoesDown(UINT message, WPARAM wParam, LPARAM lParam);
     LRESULT KeyIsPressed(WPARAM wParam, LPARAM lParam);
     LRESULT KeyGoesUp(UINT message, WPARAM wParam, LPARAM lParam);
-    bool Takes(char16_t unit);
+    bool Takes(char16_t unit) const;
+    bool PairUp(char16_t unit);
     LRESULT ButtonGoesDown(UINT message, WPARAM wParam, LPARAM lParam);
     LRESULT ButtonIsClickedAgain(UINT message, WPARAM wParam, LPARAM lParam);
     LRESULT ButtonGoesUp(UINT message, WPARAM wParam, LPARAM lParam);
     LRESULT MouseMoves(UINT message, WPARAM wParam, LPARAM lParam);
+    LRESULT StartComposition(WPARAM wParam, LPARAM lParam);
+    LRESULT Compose(WPARAM wParam, LPARAM lParam);
+    LRESULT EndComposition(WPARAM wParam, LPARAM lParam);
+    void Insert(TextView text, EditKind kind);
     void Paste();
     bool LeaveBreak();
 
@@ -124,11 +133,12 @@ class TextBox final : public BasicTextConstituent<host::TextBox> {
     bool multiLine_;
     bool locked_ = false;
     bool caretIsPlaced_ = false;  // by code, since it assigned the text
-    bool isAssigning_ = false;     // notifications of the edit control are not passed on
-    bool hasChanged_ = false;      // by the message in progress
-    bool keyIsTaken_ = false;      // the key that is down enters nothing
-    bool dropsSurrogate_ = false;  // there was no room for the first half of the pair
-    bool isPressed_ = false;       // the left button went down in the box
+    bool isAssigning_ = false;    // notifications of the edit control are not passed on
+    bool hasChanged_ = false;     // by the message in progress
+    bool keyIsTaken_ = false;     // the key that is down enters nothing
+    bool isComposing_ = false;    // an input method has not finished yet
+    bool isPressed_ = false;      // the left button went down in the box
+    char16_t heldSurrogate_ = 0;  // the first half of a pair, whose other half has not come yet
 };
 
 }  // namespace lumenkit::win32

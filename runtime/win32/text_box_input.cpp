@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "runtime/win32/clipboard_text.h"
+#include "runtime/win32/composition.h"
 #include "runtime/win32/mouse.h"
 #include "runtime/win32/pointer_cursor.h"
 #include "runtime/win32/surrogates.h"
@@ -68,6 +69,15 @@ LRESULT TextBox::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
             return ButtonGoesUp(message, wParam, lParam);
         case WM_MOUSEMOVE:
             return MouseMoves(message, wParam, lParam);
+        case WM_IME_STARTCOMPOSITION:
+            return StartComposition(wParam, lParam);
+        case WM_IME_COMPOSITION:
+            return Compose(wParam, lParam);
+        case WM_IME_ENDCOMPOSITION:
+            return EndComposition(wParam, lParam);
+        case WM_IME_CHAR:
+            keyIsTaken_ = false;  // what is composed comes from several keys
+            return KeyIsPressed(wParam, lParam);
         case WM_PASTE:
             Paste();
             return 0;
@@ -103,8 +113,15 @@ LRESULT TextBox::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
             GiveBufferBack();
             isCopied_ = true;
             return Pass(message, wParam, lParam);
+        case WM_KILLFOCUS: {
+            const Watch watch(*this);
+            if (std::exchange(isComposing_, false)) {
+                FinishComposition(Handle());
+            }
+            return watch.IsGone() ? 0
+                                  : BasicTextConstituent::HandleMessage(message, wParam, lParam);
+        }
         case WM_SETFOCUS:
-        case WM_KILLFOCUS:
             return BasicTextConstituent::HandleMessage(message, wParam, lParam);
         default:
             return Pass(message, wParam, lParam);
@@ -174,6 +191,9 @@ LRESULT TextBox::KeyIsPressed(WPARAM wParam, LPARAM lParam) {
     if (watch.IsGone() || !Takes(unit)) {
         return 0;
     }
+    if (PairUp(unit)) {
+        return 0;
+    }
     if (unit == paste) {
         Paste();
         return 0;
@@ -207,20 +227,12 @@ bool TextBox::LeaveBreak() {
     return selection.start == selection.end;
 }
 
-// Whether the edit control receives the unit. Units at which it would only beep are dropped, and so
-// are halves of surrogate pairs.
-bool TextBox::Takes(char16_t unit) {
+// Whether the edit control receives the unit. Units at which it would only beep are dropped.
+bool TextBox::Takes(char16_t unit) const {
     if (unit == 0 || unit == escape || unit == deleteCharacter) {
         return false;
     }
-    if (!multiLine_ && (unit == u'\t' || unit == u'\r' || unit == u'\n')) {
-        return false;
-    }
-    if (IsHighSurrogate(unit)) {
-        dropsSurrogate_ = Room() < 2;
-        return !dropsSurrogate_;
-    }
-    return !(IsLowSurrogate(unit) && std::exchange(dropsSurrogate_, false));
+    return multiLine_ || (unit != u'\t' && unit != u'\r' && unit != u'\n');
 }
 
 LRESULT TextBox::KeyGoesUp(UINT message, WPARAM wParam, LPARAM lParam) {

@@ -64,6 +64,16 @@ class QtMemoTest : public ::testing::Test {
         QApplication::sendEvent(Edit().viewport(), &drop);
         return drop.isAccepted() ? drop.dropAction() : Qt::IgnoreAction;
     }
+    // What an input method sends.
+    void Compose(const QString& text) {
+        QInputMethodEvent composing(text, {});
+        QApplication::sendEvent(&Edit(), &composing);
+    }
+    void Commit(const QString& text) {
+        QInputMethodEvent committing;
+        committing.setCommitString(text);
+        QApplication::sendEvent(&Edit(), &committing);
+    }
     void Paste(const QString& text) {
         QApplication::clipboard()->setText(text);
         QTest::keyClick(&Edit(), Qt::Key_V, Qt::ControlModifier);
@@ -125,11 +135,79 @@ TEST_F(QtMemoTest, ComposedTextIsPressedAndChangesOnce) {
     committing.setCommitString(QStringLiteral("\u4F60\u597D"));
     QApplication::sendEvent(&Edit(), &committing);
     EXPECT_EQ(Contents(), u"\u4F60\u597D");
-    EXPECT_THAT(form_.events, ElementsAre(u"KeyPress", u"KeyPress", u"Change"));
+    EXPECT_THAT(form_.events,
+                ElementsAre(u"KeyDown", u"KeyPress", u"KeyPress", u"Change", u"KeyUp"));
     Let(u"MaxLength", std::int32_t{3});
     committing.setCommitString(QStringLiteral("\u4F60\u597D"));
     QApplication::sendEvent(&Edit(), &committing);
     EXPECT_EQ(Contents(), u"\u4F60\u597D\u4F60");
+}
+
+TEST_F(QtMemoTest, AComposedTextThatDoesNotFitIsRefused) {
+    Limit(4, 0);
+    TypeKeys(Edit(), u"abc");
+    Box().SetSelStart(1);
+    Compose(QStringLiteral("ni"));
+    EXPECT_EQ(Contents(), u"abc");
+    Commit(QStringLiteral("\u4F60\u597D"));
+    EXPECT_EQ(Contents(), u"abc");
+    EXPECT_EQ(Box().SelStart(), 1) << "where it was composed, wherever a key was pressed last";
+    Commit(QStringLiteral("\u4F60"));
+    EXPECT_EQ(Contents(), u"a\u4F60bc");
+    Undo();
+    EXPECT_EQ(Contents(), u"abc");
+}
+
+TEST_F(QtMemoTest, ACompositionKeepsTheSelectionUntilItIsCommitted) {
+    Let(u"Text", Text(u"ab\r\ncd"));
+    Box().SetSelection(1, 5);
+    form_.events.clear();
+    Compose(QStringLiteral("n"));
+    Compose(QStringLiteral("ni"));
+    EXPECT_EQ(Contents(), u"ab\r\ncd");
+    EXPECT_EQ(Box().SelStart(), 1);
+    EXPECT_EQ(Box().SelLength(), 4);
+    Compose(QString());  // cancelled
+    EXPECT_EQ(Contents(), u"ab\r\ncd");
+    EXPECT_EQ(Box().SelLength(), 4);
+    EXPECT_THAT(form_.events, ElementsAre()) << "no edit yet";
+    Compose(QStringLiteral("ni"));
+    Commit(QStringLiteral("\u4F60"));
+    EXPECT_EQ(Contents(), u"a\u4F60d");
+    EXPECT_EQ(Changes(), 1);
+    Undo();
+    EXPECT_EQ(Contents(), u"ab\r\ncd");
+}
+
+TEST_F(QtMemoTest, ACommitGoesOnComposing) {
+    Limit(3, 0);
+    QInputMethodEvent both(QStringLiteral("\u3131"), {});
+    both.setCommitString(QStringLiteral("\uAC00"));
+    for (int syllable = 0; syllable < 4; ++syllable) {
+        QApplication::sendEvent(&Edit(), &both);
+    }
+    EXPECT_EQ(Contents(), u"\uAC00\uAC00\uAC00") << "the fourth is refused";
+    Commit(QStringLiteral(" "));
+    EXPECT_EQ(Contents(), u"\uAC00\uAC00\uAC00");
+    EXPECT_EQ(Changes(), 5);
+}
+
+TEST_F(QtMemoTest, AHandlerTakesAComposedTextAway) {
+    form_.onEvent = [](TextView name, std::span<Value> arguments) {
+        if (name == u"KeyDown") {
+            EXPECT_EQ(arguments[0], Value(std::int16_t{229}));
+            arguments[0] = std::int16_t{0};
+        }
+    };
+    Commit(QStringLiteral("x"));
+    EXPECT_EQ(Contents(), u"");
+    form_.onEvent = [](TextView name, std::span<Value> arguments) {
+        if (name == u"KeyPress" && arguments[0] == Value(std::int16_t{u'x'})) {
+            arguments[0] = std::int16_t{0};
+        }
+    };
+    Commit(QStringLiteral("axb"));
+    EXPECT_EQ(Contents(), u"ab");
 }
 
 TEST_F(QtMemoTest, AContainerEntersAnotherUnit) {

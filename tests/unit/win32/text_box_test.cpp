@@ -5,6 +5,8 @@
 #include <memory>
 #include <utility>
 
+#include <imm.h>
+
 #include "tests/support/window_count.h"
 #include "tests/unit/win32/parts_form.h"
 
@@ -594,6 +596,91 @@ TEST_F(TextBoxTest, TakesWhatAnInputMethodComposed) {
     Pump();
     EXPECT_EQ(box.GetText(), u"\x3042");
     EXPECT_EQ(recorder_.Take(), (Lines{"press 12354", "change"}));
+}
+
+TEST_F(TextBoxTest, WhatAnInputMethodComposesIsNoEdit) {
+    host::TextBox& box = Box(u"abc");
+    Focus();
+    box.SetSelection(1, 2);
+    SendMessageW(Handle(), WM_IME_STARTCOMPOSITION, 0, 0);
+    SendMessageW(Handle(), WM_IME_COMPOSITION, 0x3042, GCS_COMPSTR | GCS_CURSORPOS);
+    EXPECT_EQ(box.GetText(), u"abc");
+    EXPECT_EQ(box.SelLength(), 1) << "the selection stays until the text is finished";
+    SendMessageW(Handle(), WM_IME_COMPOSITION, 0, 0);
+    SendMessageW(Handle(), WM_IME_ENDCOMPOSITION, 0, 0);
+    EXPECT_EQ(box.GetText(), u"abc");
+    EXPECT_EQ(recorder_.Take(), Lines{});
+}
+
+TEST_F(TextBoxTest, WhatAnInputMethodFinishesIsOneEdit) {
+    for (const bool multiLine : {true, false}) {
+        host::TextBox& box = Box(u"abc", multiLine);
+        Focus();
+        box.SetSelection(1, 2);
+        dynamic_cast<TextBox&>(box).EnterComposed(u"\x4F60\x597D");
+        EXPECT_EQ(box.GetText(), u"a\x4F60\x597D\x63");
+        EXPECT_EQ(recorder_.Take(), (Lines{"press 20320", "press 22909", "change"}));
+        box.SetMaxLength(5);
+        dynamic_cast<TextBox&>(box).EnterComposed(u"\x4F60\x597D");
+        EXPECT_EQ(box.GetText(), u"a\x4F60\x597D\x4F60\x63") << "as far as there is room";
+        SendMessageW(Handle(), EM_UNDO, 0, 0);
+        SendMessageW(Handle(), EM_UNDO, 0, 0);
+        EXPECT_EQ(box.GetText(), u"abc");
+        box.SetLocked(true);
+        recorder_.Take();
+        dynamic_cast<TextBox&>(box).EnterComposed(u"x");
+        EXPECT_EQ(recorder_.Take(), Lines{});
+        recorder_.onKeyPress = [](std::int16_t unit) {
+            return unit == u'x' ? std::int16_t{0} : unit;
+        };
+        box.SetLocked(false);
+        box.SetMaxLength(0);
+        box.SetSelStart(0);
+        dynamic_cast<TextBox&>(box).EnterComposed(u"1x2");
+        EXPECT_EQ(box.GetText(), u"12abc");
+        recorder_.onKeyPress = nullptr;
+    }
+}
+
+TEST_F(TextBoxTest, AKeyThatIsTakenTakesNoComposedText) {
+    host::TextBox& box = Box(u"");
+    Focus();
+    recorder_.onKeyDown = [](std::int16_t) { return std::int16_t{0}; };
+    SendMessageW(Handle(), WM_KEYDOWN, VK_PROCESSKEY, 1);
+    SendMessageW(Handle(), WM_IME_CHAR, 0x3042, 1);
+    Pump();
+    EXPECT_EQ(box.GetText(), u"\x3042");
+}
+
+TEST_F(TextBoxTest, ADeadKeyPressesNothingUntilItsLetterComes) {
+    host::TextBox& box = Box(u"");
+    Focus();
+    SendMessageW(Handle(), WM_KEYDOWN, VK_OEM_7, 1);
+    SendMessageW(Handle(), WM_DEADCHAR, 0xB4, 1);
+    SendMessageW(Handle(), WM_KEYUP, VK_OEM_7, static_cast<LPARAM>(0xC0000001));
+    EXPECT_EQ(recorder_.Take(), (Lines{"down 222 0", "up 222 0"}));
+    Strike(Handle(), 'E', 0xE9);
+    EXPECT_EQ(recorder_.Take(), (Lines{"down 69 0", "press 233", "change", "up 69 0"}));
+    SendMessageW(Handle(), WM_KEYDOWN, 'X', 1);  // no letter for the accent: both come
+    SendMessageW(Handle(), WM_CHAR, 0xB4, 1);
+    SendMessageW(Handle(), WM_CHAR, u'x', 1);
+    EXPECT_EQ(box.GetText(), u"\xE9\xB4x");
+}
+
+TEST_F(TextBoxTest, ASurrogatePairIsOneEdit) {
+    host::TextBox& box = Box(u"ab");
+    box.SetSelStart(2);
+    Focus();
+    recorder_.onEvent = [&](const std::string& line) {
+        if (line == "change" && box_->GetText().size() > 3) {
+            box_->SetText(u"ab");
+        }
+    };
+    Strike(Handle(), VK_PACKET, 0xD83D);
+    Strike(Handle(), VK_PACKET, 0xDE00);
+    EXPECT_EQ(box.GetText(), u"ab") << "no half of it is left";
+    EXPECT_EQ(recorder_.Take(), (Lines{"down 231 0", "press -10179", "up 231 0", "down 231 0",
+                                       "press -8704", "change", "change", "up 231 0"}));
 }
 
 TEST_F(TextBoxTest, KeysComeFromTheKeyboardThroughTheQueue) {
