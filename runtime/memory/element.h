@@ -61,6 +61,8 @@ class Element : public FocusTarget {
     void BecomeVisible(bool visible) { visible_ = visible; }
     void BecomeEnabled(bool enabled) { enabled_ = enabled; }
     void RepaintNow() { ++refreshes_; }
+    const Elements& Siblings() const { return elements_; }
+    const Element* Parent() const { return parent_; }
 
  private:
     Elements& elements_;

@@ -20,6 +20,7 @@ class Focus {
     /// Moves the focus to `target`, or to nothing if it is null: notifies the holder that it loses
     /// the focus, then `target` that it gets it. Does nothing if `target` has the focus already.
     void MoveTo(FocusTarget* target);
+    bool IsAt(const FocusTarget& target) const { return holder_ == &target; }
     /// Removes the focus from `target`, which is being destroyed, without notifying it.
     void Forget(const FocusTarget& target);
 

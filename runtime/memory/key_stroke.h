@@ -16,6 +16,9 @@ struct KeyStroke {
 /// Everything else is the packet key (231).
 KeyStroke KeyFor(char16_t unit);
 
+/// The codes of the keys that move the caret or delete, and enter nothing.
+enum class EditingKey : std::int16_t { End = 35, Home = 36, Left = 37, Right = 39, Delete = 46 };
+
 inline constexpr char16_t backspace = 8;
 inline constexpr char16_t tabulator = 9;
 inline constexpr char16_t enter = 13;

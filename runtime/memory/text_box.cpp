@@ -43,6 +43,33 @@ TextBox::TextBox(Elements& elements, const host::TextBoxDesign& design, host::Te
       scrollBars_(design.scrollBars),
       multiLine_(design.multiLine) {}
 
+void TextBox::SetVisible(bool visible) {
+    const bool hides = !visible && IsVisible();
+    BasicTextConstituent::SetVisible(visible);
+    TextBox* const twin = hides ? Twin() : nullptr;
+    if (twin != nullptr && !twin->caretIsPlaced_) {
+        twin->ReceiveSelection(selStart_, selEnd_ - selStart_);
+    }
+    caretIsPlaced_ = false;
+    Focus& focus = Siblings().GetForm().GetFocus();
+    if (twin != nullptr && twin->IsEnabled() && focus.IsAt(*this)) {
+        focus.MoveTo(twin);
+    }
+}
+
+// Returns the visible box of the same control array that has the same place; null if there is none.
+// A box that must look different is hidden and its twin is shown.
+TextBox* TextBox::Twin() const {
+    for (Element* const element : Siblings().All()) {
+        auto* const box = dynamic_cast<TextBox*>(element);
+        if (box != nullptr && box != this && Index() >= 0 && box->Name() == Name() &&
+            box->IsVisible() && box->Parent() == Parent() && box->Where() == Where()) {
+            return box;
+        }
+    }
+    return nullptr;
+}
+
 TextView TextBox::GetText() const {
     Call(u"GetText");
     return text_;
@@ -50,6 +77,7 @@ TextView TextBox::GetText() const {
 
 void TextBox::SetText(TextView text) {
     Call(u"SetText");
+    caretIsPlaced_ = false;
     if (maxLength_ > 0) {
         text = text.substr(0, static_cast<std::size_t>(maxLength_));
     }
@@ -70,6 +98,7 @@ std::int32_t TextBox::SelStart() const {
 void TextBox::SetSelStart(std::int32_t position) {
     Call(u"SetSelStart");
     Require(position >= 0);
+    caretIsPlaced_ = true;
     selStart_ = std::min(position, Length());
     selEnd_ = selStart_;
 }
@@ -82,6 +111,7 @@ std::int32_t TextBox::SelLength() const {
 void TextBox::SetSelLength(std::int32_t length) {
     Call(u"SetSelLength");
     Require(length >= 0);
+    caretIsPlaced_ = true;
     selEnd_ = selStart_ + std::min(length, Length() - selStart_);
 }
 
@@ -93,6 +123,7 @@ void TextBox::GetSelection(std::int32_t& start, std::int32_t& end) const {
 
 void TextBox::SetSelection(std::int32_t start, std::int32_t end) {
     Call(u"SetSelection");
+    caretIsPlaced_ = true;
     if (start == -1) {
         selStart_ = selEnd_;
         return;
@@ -231,11 +262,71 @@ void TextBox::Insert(TextView text) {
 void TextBox::DeleteBackwards() {
     Range range = EditedRange();
     if (range.start == range.end) {
-        const auto caret = static_cast<std::size_t>(range.start);
-        const bool pair = caret >= 2 && IsPair(text_[caret - 2], text_[caret - 1]);
-        range.start -= std::min(range.start, pair ? 2 : 1);
+        range.start -= UnitsBefore(range.start);
     }
     Replace(range, {});
+}
+
+void TextBox::DeleteForward() {
+    Range range = EditedRange();
+    if (range.start == range.end) {
+        range.end += UnitsAfter(range.end);
+    }
+    Replace(range, {});
+}
+
+// Returns the length of the character before a position, 0 at the start of the text.
+std::int32_t TextBox::UnitsBefore(std::int32_t position) const {
+    const auto at = static_cast<std::size_t>(position);
+    const bool pair = at >= 2 && IsPair(text_[at - 2], text_[at - 1]);
+    return std::min(position, pair ? 2 : 1);
+}
+
+// Returns the length of the character at a position, 0 at the end of the text.
+std::int32_t TextBox::UnitsAfter(std::int32_t position) const {
+    const auto at = static_cast<std::size_t>(position);
+    const bool pair = at + 2 <= text_.size() && IsPair(text_[at], text_[at + 1]);
+    return std::min(Length() - position, pair ? 2 : 1);
+}
+
+void TextBox::ReceiveEditingKey(std::int16_t keyCode) {
+    std::int16_t down = keyCode;
+    std::int16_t up = keyCode;
+    std::int16_t shift = 0;
+    events_.KeyDown(down, shift);
+    if (down == static_cast<std::int16_t>(EditingKey::Delete)) {
+        if (!locked_) {
+            DeleteForward();
+        }
+    } else if (down != 0) {
+        MoveCaret(down);
+    }
+    events_.KeyUp(up, shift);
+}
+
+void TextBox::MoveCaret(std::int16_t keyCode) {
+    const std::int32_t shown = EditedRange().start;
+    const auto at = static_cast<std::size_t>(shown);
+    const bool isInBreak = shown != selStart_;
+    switch (static_cast<EditingKey>(keyCode)) {
+        case EditingKey::Left:
+            selStart_ = isInBreak ? shown : shown - UnitsBefore(shown);
+            break;
+        case EditingKey::Right:
+            selStart_ = shown + UnitsAfter(shown);
+            break;
+        case EditingKey::Home: {
+            const std::size_t end = at == 0 ? Text::npos : text_.rfind(crLf, at - 1);
+            selStart_ = end == Text::npos ? 0 : static_cast<std::int32_t>(end + crLf.size());
+            break;
+        }
+        case EditingKey::End:
+            selStart_ = static_cast<std::int32_t>(std::min(text_.find(crLf, at), text_.size()));
+            break;
+        default:
+            return;
+    }
+    selEnd_ = selStart_;
 }
 
 void TextBox::ReceiveSelection(std::int32_t start, std::int32_t length) {

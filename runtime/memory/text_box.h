@@ -12,6 +12,8 @@ class TextBox final : public BasicTextConstituent<host::TextBox> {
  public:
     TextBox(Elements& elements, const host::TextBoxDesign& design, host::TextBoxEvents& events);
 
+    /// A box that is hidden passes caret, selection and focus on to its twin.
+    void SetVisible(bool visible) override;
     TextView GetText() const override;
     void SetText(TextView text) override;
     std::int32_t SelStart() const override;
@@ -45,6 +47,8 @@ class TextBox final : public BasicTextConstituent<host::TextBox> {
     void ReceiveMouse(MouseAction action, host::MouseArguments mouse) override;
     /// Delivers one key, from key-down to key-up.
     void ReceiveKey(char16_t unit);
+    /// Delivers a key that enters nothing.
+    void ReceiveEditingKey(std::int16_t keyCode);
     /// Selects `length` units from `start` on, or up to the end of the text. Notifies nothing.
     void ReceiveSelection(std::int32_t start, std::int32_t length);
     /// Replaces the selection in one change.
@@ -56,12 +60,17 @@ class TextBox final : public BasicTextConstituent<host::TextBox> {
         std::int32_t end = 0;
     };
 
+    TextBox* Twin() const;
     std::int32_t Length() const { return static_cast<std::int32_t>(text_.size()); }
     std::size_t Room() const;
     void PressKey(char16_t unit);
     void Enter(char16_t unit);
     void Insert(TextView text);
     void DeleteBackwards();
+    void DeleteForward();
+    void MoveCaret(std::int16_t keyCode);
+    std::int32_t UnitsBefore(std::int32_t position) const;
+    std::int32_t UnitsAfter(std::int32_t position) const;
     Range EditedRange() const;
     void Replace(Range range, TextView replacement);
 
@@ -76,6 +85,7 @@ class TextBox final : public BasicTextConstituent<host::TextBox> {
     host::ScrollBars scrollBars_;
     bool multiLine_;
     bool locked_ = false;
+    bool caretIsPlaced_ = false;  // by code, since it assigned the text
 };
 
 }  // namespace lumenkit::memory

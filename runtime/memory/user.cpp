@@ -17,6 +17,14 @@ bool User::Type(TextBox& box, TextView text) {
     return true;
 }
 
+bool User::Press(TextBox& box, std::int16_t keyCode) {
+    if (!Reach(box)) {
+        return false;
+    }
+    box.ReceiveEditingKey(keyCode);
+    return true;
+}
+
 bool User::Select(TextBox& box, std::int32_t start, std::int32_t length) {
     if (!Reach(box)) {
         return false;

@@ -30,6 +30,9 @@ class User {
     /// A locked box receives the keys but is not edited. Stops and returns false when the box no
     /// longer accepts input.
     bool Type(TextBox& box, TextView text);
+    /// Presses a key that enters nothing; see EditingKey. A caret between CR and LF moves and
+    /// deletes as if it stood before both. Other codes only notify KeyDown and KeyUp.
+    bool Press(TextBox& box, std::int16_t keyCode);
     /// Selects `length` units from `start` on, or up to the end of the text. Notifies only changes
     /// of the focus.
     bool Select(TextBox& box, std::int32_t start, std::int32_t length);

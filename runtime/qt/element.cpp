@@ -1,5 +1,6 @@
 #include "runtime/qt/element.h"
 
+#include <algorithm>
 #include <iterator>
 #include <stdexcept>
 #include <utility>
@@ -12,10 +13,24 @@ namespace lumenkit::qt {
 
 namespace {
 
-// Takes the focus from a hidden or disabled widget, even if no other widget can take it.
-void LeaveFocus(QWidget& widget, bool usable) {
-    if (!usable && widget.hasFocus()) {
-        widget.clearFocus();
+bool TakesTab(const QWidget& widget) {
+    return widget.isVisible() && widget.isEnabled() && (widget.focusPolicy() & Qt::TabFocus) != 0;
+}
+
+bool Contains(const QWidget& outer, const QWidget* inner) {
+    return inner == &outer || outer.isAncestorOf(inner);
+}
+
+// Gives back the focus that the drawing area keeps: to the widget that lost it, or else to one that
+// can be used now.
+void TakeFocusBack(const QWidget& area, QWidget& widget, const QPointer<QWidget>& loser) {
+    if (area.window()->focusWidget() != &area) {
+        return;
+    }
+    if (loser != nullptr && loser->isVisible() && loser->isEnabled()) {
+        loser->setFocus(Qt::OtherFocusReason);
+    } else if (TakesTab(widget)) {
+        widget.setFocus(Qt::OtherFocusReason);
     }
 }
 
@@ -81,19 +96,62 @@ void Element::MoveTo(const host::Placement& placement) {
 
 void Element::BecomeVisible(bool visible) {
     visible_ = visible;
-    // A handler may destroy this object.
-    Cause([widget = widget_.data(), visible] {
-        widget->setVisible(visible);
-        LeaveFocus(*widget, visible);
-    });
+    BecomeUsable(visible, [visible](QWidget& widget) { widget.setVisible(visible); });
 }
 
 void Element::BecomeEnabled(bool enabled) {
     enabled_ = enabled;
-    Cause([widget = widget_.data(), enabled] {
-        widget->setEnabled(enabled);
-        LeaveFocus(*widget, enabled);
+    BecomeUsable(enabled, [enabled](QWidget& widget) { widget.setEnabled(enabled); });
+}
+
+// Moves the focus before the change, because Qt would move it to any widget of the form. A handler
+// of the focus may destroy this object.
+template <typename Change>
+void Element::BecomeUsable(bool usable, Change&& change) {
+    QWidget* const leaving = usable ? nullptr : FocusedInside();
+    const QPointer<QWidget> next = leaving == nullptr ? nullptr : FocusAfter();
+    const QPointer<QWidget> loser = lostFocus_;
+    if (usable || leaving != nullptr) {
+        lostFocus_ = next == &Area() ? leaving : nullptr;
+    }
+    Cause([&change, &next, &loser, usable, area = QPointer<QWidget>(&Area()), widget = widget_] {
+        if (next != nullptr) {
+            next->setFocus(Qt::OtherFocusReason);
+        }
+        if (widget != nullptr) {
+            change(*widget);
+        }
+        if (usable && area != nullptr && widget != nullptr) {
+            TakeFocusBack(*area, *widget, loser);
+        }
     });
+}
+
+// Returns the widget in this element to which the window sends the keys; null if it is elsewhere.
+QWidget* Element::FocusedInside() const {
+    if (widget_ == nullptr || !UserMode()) {
+        return nullptr;
+    }
+    QWidget* const focus = widget_->window()->focusWidget();
+    return focus != nullptr && Contains(*widget_, focus) ? focus : nullptr;
+}
+
+// Returns the widget that gets the focus when this element loses it.
+QWidget* Element::FocusAfter() const {
+    if (const Element* const heir = Heir()) {
+        return heir->Widget();
+    }
+    const std::list<Element*>& all = elements_.All();
+    const std::list<Element*>::const_iterator own = position_;
+    const auto takes = [this](const Element* element) {
+        const QWidget* const widget = element->Widget();
+        return widget != nullptr && !Contains(*widget_, widget) && TakesTab(*widget);
+    };
+    auto found = std::find_if(std::next(own), all.end(), takes);
+    if (found == all.end()) {
+        found = std::find_if(all.begin(), own, takes);
+    }
+    return found == all.end() || found == own ? &Area() : (*found)->Widget();
 }
 
 void Element::RepaintNow() {

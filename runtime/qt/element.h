@@ -54,15 +54,26 @@ class Element {
     const host::Placement& Where() const { return placement_; }
     void MoveTo(const host::Placement& placement);
     bool IsVisible() const { return visible_; }
-    void BecomeVisible(bool visible);
     bool IsEnabled() const { return enabled_; }
+    // Both move the focus out of an element that cannot be used any more: to its heir, to the next
+    // element in the Tab order, or else to the drawing area, which keeps it for the element.
+    void BecomeVisible(bool visible);
     void BecomeEnabled(bool enabled);
+    /// Returns the element that takes the focus over when this one, which has it, is hidden or
+    /// disabled; null if there is none.
+    virtual const Element* Heir() const { return nullptr; }
     void RepaintNow();
     QWidget& Area() const { return elements_.Area(); }
     bool UserMode() const { return elements_.UserMode(); }
+    const Elements& Siblings() const { return elements_; }
     const ErrorSink& Errors() const { return elements_.GetContext().errors; }
 
  private:
+    template <typename Change>
+    void BecomeUsable(bool usable, Change&& change);
+    QWidget* FocusAfter() const;
+    QWidget* FocusedInside() const;
+
     Elements& elements_;
     Text name_;
     std::int16_t index_;
@@ -70,6 +81,7 @@ class Element {
     bool visible_;
     bool enabled_ = true;
     QPointer<QWidget> widget_;
+    QPointer<QWidget> lostFocus_;  // the widget inside for which the drawing area keeps the focus
     std::list<Element*>::iterator position_;  // in the list of elements_
 };
 

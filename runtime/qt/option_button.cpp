@@ -39,6 +39,10 @@ class OptionWidget final : public QRadioButton, public SelfDescribing {
         }
     }
 
+    // The whole row is the button: styles accept clicks on the mark and the caption only, at the
+    // places where they would draw them.
+    bool hitButton(const QPoint& place) const override { return rect().contains(place); }
+
     void keyPressEvent(QKeyEvent* event) override {
         switch (event->key()) {
             case Qt::Key_Up:
@@ -232,8 +236,10 @@ void OptionButton::ShowColors() {
         return;
     }
     QPalette palette = base;
-    palette.setColor(QPalette::WindowText, ToQColor(foreColor_, base));
-    Button().setPalette(palette);
+    for (const QPalette::ColorGroup usable : {QPalette::Active, QPalette::Inactive}) {
+        palette.setColor(usable, QPalette::WindowText, ToQColor(foreColor_, base));
+    }
+    Button().setPalette(palette);  // a disabled button is grey
 }
 
 }  // namespace lumenkit::qt

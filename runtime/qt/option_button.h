@@ -41,6 +41,7 @@ class OptionButton final : public BasicCaptioned<host::OptionButton> {
 
  private:
     OptionWidget& Button() const;
+    const Element* Heir() const override { return group_.TabStop(); }
     void ShowCaption() override;
     void Step(bool forward);
 

@@ -29,12 +29,49 @@ void TextBox::Describe(const QString& name, const QString& hint) {
 }
 
 void TextBox::SetText(TextView text) {
+    caretIsPlaced_ = false;
     Edit().SetContents(maxLength_ > 0 ? text.substr(0, static_cast<std::size_t>(maxLength_))
                                       : text);
 }
 
+// ---- The twin
+
+void TextBox::SetVisible(bool visible) {
+    TextBox* const twin = visible || !IsVisible() ? nullptr : Twin();
+    if (twin != nullptr && !twin->caretIsPlaced_) {
+        const std::int32_t length = twin->Edit().Length();
+        const TextEdit::Selection selected = Edit().Selected();
+        twin->Edit().Select(
+            {.start = std::min(selected.start, length), .end = std::min(selected.end, length)});
+    }
+    caretIsPlaced_ = false;
+    BasicTextConstituent::SetVisible(visible);
+}
+
+const Element* TextBox::Heir() const {
+    const TextBox* const twin = Twin();
+    return twin != nullptr && twin->IsEnabled() ? twin : nullptr;
+}
+
+// Returns the visible box of the same control array that has the same place; null if there is none.
+// A box that must look different is hidden and its twin is shown.
+TextBox* TextBox::Twin() const {
+    for (Element* const element : Siblings().All()) {
+        auto* const box = dynamic_cast<TextBox*>(element);
+        if (box != nullptr && box != this && box->Widget() != nullptr && Index() >= 0 &&
+            box->Name() == Name() && box->IsVisible() && box->Where() == Where() &&
+            box->Edit().parentWidget() == Edit().parentWidget()) {
+            return box;
+        }
+    }
+    return nullptr;
+}
+
+// ---- The selection
+
 void TextBox::SetSelStart(std::int32_t position) {
     Require(position >= 0);
+    caretIsPlaced_ = true;
     const std::int32_t start = std::min(position, Edit().Length());
     Edit().Select({.start = start, .end = start});
 }
@@ -46,6 +83,7 @@ std::int32_t TextBox::SelLength() const {
 
 void TextBox::SetSelLength(std::int32_t length) {
     Require(length >= 0);
+    caretIsPlaced_ = true;
     const std::int32_t start = SelStart();
     Edit().Select({.start = start, .end = start + std::min(length, Edit().Length() - start)});
 }
@@ -57,6 +95,7 @@ void TextBox::GetSelection(std::int32_t& start, std::int32_t& end) const {
 }
 
 void TextBox::SetSelection(std::int32_t start, std::int32_t end) {
+    caretIsPlaced_ = true;
     if (start == -1) {
         const std::int32_t caret = Edit().Selected().end;
         Edit().Select({.start = caret, .end = caret});

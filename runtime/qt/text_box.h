@@ -18,6 +18,8 @@ class TextBox final : public BasicTextConstituent<host::TextBox> {
     TextBox(const TextBox&) = delete;
     TextBox& operator=(const TextBox&) = delete;
 
+    /// A box that is hidden passes caret, selection and focus on to its twin.
+    void SetVisible(bool visible) override;
     TextView GetText() const override { return Edit().Contents(); }
     void SetText(TextView text) override;
     std::int32_t SelStart() const override { return Edit().Selected().start; }
@@ -43,9 +45,13 @@ class TextBox final : public BasicTextConstituent<host::TextBox> {
     void Disconnect() override;
 
  private:
+    const Element* Heir() const override;
+    TextBox* Twin() const;
+
     Color foreColor_ = Color::WindowText;
     std::int32_t maxLength_ = 0;
     host::MousePointer pointer_ = host::MousePointer::Default;
+    bool caretIsPlaced_ = false;  // by code, since it assigned the text
 };
 
 }  // namespace lumenkit::qt

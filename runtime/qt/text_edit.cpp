@@ -21,10 +21,14 @@
 #include "runtime/qt/pixels.h"
 #include "runtime/qt/qt_text.h"
 #include "runtime/qt/text_transfer.h"
+#include "runtime/shared/text_difference.h"
 
 namespace lumenkit::qt {
 
 namespace {
+
+// The code of a key that an input method handles.
+constexpr std::int16_t processKey = 229;
 
 bool IsPair(char16_t first, char16_t second) {
     return (QChar::isHighSurrogate(first) && QChar::isLowSurrogate(second)) ||
@@ -48,38 +52,6 @@ bool IsPartOf(TextView whole, TextView part) {
     const std::less_equal<> precedes;
     return precedes(whole.data(), part.data()) &&
            precedes(part.data(), whole.data() + whole.size());
-}
-
-// Whether a position is between CR and LF.
-bool SplitsBreak(TextView text, std::size_t at) {
-    return at > 0 && text.substr(at - 1, 2) == crLf;
-}
-
-// The parts of two texts, both from `start`, in which alone the texts differ. They split no CR LF.
-struct Difference {
-    std::size_t start = 0;
-    std::size_t oldEnd = 0;
-    std::size_t newEnd = 0;
-};
-
-Difference DifferenceOf(TextView old, TextView text) {
-    const std::size_t shorter = std::min(old.size(), text.size());
-    auto same = static_cast<std::size_t>(
-        std::mismatch(old.begin(), old.begin() + static_cast<std::ptrdiff_t>(shorter), text.begin())
-            .first -
-        old.begin());
-    if (SplitsBreak(old, same) || SplitsBreak(text, same)) {
-        --same;
-    }
-    std::size_t tail = 0;
-    while (tail < shorter - same && old[old.size() - tail - 1] == text[text.size() - tail - 1]) {
-        ++tail;
-    }
-    if (tail > 0 &&
-        (SplitsBreak(old, old.size() - tail) || SplitsBreak(text, text.size() - tail))) {
-        --tail;
-    }
-    return {.start = same, .oldEnd = old.size() - tail, .newEnd = text.size() - tail};
 }
 
 // Gives a variable another value as long as this object lives.
@@ -200,7 +172,7 @@ void TextEdit::Assign(TextView text) {
 
 // Replaces only the part of the text that differs, so that the rest keeps its layout.
 void TextEdit::Replace(QTextCursor& cursor, TextView text) {
-    const Difference differing = DifferenceOf(Contents(), text);
+    const shared::TextDifference differing = shared::DifferenceOf(Contents(), text);
     cursor.setPosition(text_.ToDocumentPosition(static_cast<std::int32_t>(differing.start)));
     cursor.setPosition(text_.ToDocumentPosition(static_cast<std::int32_t>(differing.oldEnd)),
                        QTextCursor::KeepAnchor);
@@ -430,24 +402,76 @@ void TextEdit::keyReleaseEvent(QKeyEvent* event) {
     QPlainTextEdit::keyReleaseEvent(event);
 }
 
-// Text that an input method commits passes through KeyPress; text that it composes is only shown.
+// ---- Input methods
+
+// Text that an input method commits is an edit, with a key of its own. Text that it composes is
+// only shown.
 void TextEdit::inputMethodEvent(QInputMethodEvent* event) {
     if (locked_) {
         event->ignore();
         return;
     }
-    HandleEvent(errors_, [&] {
-        const Text committed = Pressed(WithLineBreaks(event->commitString()));
-        const TextView kept = multiLine_ ? TextView(committed) : FirstLine(committed);
-        const auto replaced = static_cast<std::size_t>(event->replacementLength());
-        const std::size_t room = Room();
-        const bool isLimited = room < std::numeric_limits<std::size_t>::max();
-        QInputMethodEvent shown(event->preeditString(), event->attributes());
-        shown.setCommitString(text_.ToCharacters(Fitting(kept, isLimited ? room + replaced : room)),
-                              event->replacementStart(), event->replacementLength());
-        QPlainTextEdit::inputMethodEvent(&shown);
-        event->setAccepted(shown.isAccepted());
-    });
+    HandleEvent(errors_, [&] { Compose(*event); });
+    event->accept();
+}
+
+void TextEdit::Compose(const QInputMethodEvent& event) {
+    std::optional<Placed> over = std::exchange(composedOver_, std::nullopt);
+    if (over && over->version != text_.Version()) {
+        over.reset();
+    }
+    if (!event.commitString().isEmpty()) {
+        if (over) {
+            Select(over->selection);
+        }
+        const Text committed = Commit(event);
+        ShowComposition(event, committed);
+        NotifyChange();
+        std::int16_t code = processKey;
+        std::int16_t shift = 0;
+        Tell(Assigning::AddsStep, [&](host::TextBoxEvents& events) { events.KeyUp(code, shift); });
+        return;
+    }
+    if (!over && (event.preeditString().isEmpty() || !textCursor().hasSelection())) {
+        ShowComposition(event, {});
+        return;
+    }
+    // Qt would delete the selection when the composition begins.
+    const Selection selection = over ? over->selection : Selected();
+    Collapse(selection);
+    ShowComposition(event, {});
+    if (event.preeditString().isEmpty()) {
+        Select(selection);
+    } else {
+        placed_ = {.selection = selection, .version = text_.Version(), .moves = moves_};
+        composedOver_ = placed_;
+    }
+}
+
+// Notifies the key and the units of a commit. Returns the units as the handlers leave them.
+Text TextEdit::Commit(const QInputMethodEvent& event) {
+    std::int16_t code = processKey;
+    std::int16_t shift = 0;
+    Tell(Assigning::AddsStep, [&](host::TextBoxEvents& events) { events.KeyDown(code, shift); });
+    return code == 0 ? Text() : Pressed(WithLineBreaks(event.commitString()));
+}
+
+void TextEdit::ShowComposition(const QInputMethodEvent& event, TextView committed) {
+    const TextView kept = multiLine_ ? committed : FirstLine(committed);
+    const auto replaced = static_cast<std::size_t>(event.replacementLength());
+    const std::size_t room = Room();
+    const bool isLimited = room < std::numeric_limits<std::size_t>::max();
+    QInputMethodEvent shown(event.preeditString(), event.attributes());
+    shown.setCommitString(text_.ToCharacters(Fitting(kept, isLimited ? room + replaced : room)),
+                          event.replacementStart(), event.replacementLength());
+    QPlainTextEdit::inputMethodEvent(&shown);
+}
+
+// Puts the cursor of the document behind the selection.
+void TextEdit::Collapse(const Selection& selection) {
+    QTextCursor cursor = textCursor();
+    cursor.setPosition(text_.ToDocumentPosition(selection.end));
+    setTextCursor(cursor);
 }
 
 // ---- Clipboard and dragging

@@ -8,6 +8,7 @@
 #include "runtime/qt/boundary.h"
 #include "runtime/qt/document_text.h"
 #include "runtime/qt/undo_steps.h"
+#include "runtime/shared/edit_kind.h"
 
 class QKeyEvent;
 
@@ -75,8 +76,7 @@ class TextEdit final : public QPlainTextEdit {
         int moves = 0;
     };
 
-    // What becomes of the undo steps when code assigns the text.
-    enum class Assigning : std::uint8_t { Forgets, AddsStep, AmendsStep };
+    using Assigning = shared::Assigning;
 
     bool IsPlaced() const;
     bool IsInBreak() const;
@@ -84,6 +84,10 @@ class TextEdit final : public QPlainTextEdit {
     void Replace(QTextCursor& cursor, TextView text);
     void FollowDocument(int from, int added);
     void NotifyChange();
+    void Compose(const QInputMethodEvent& event);
+    Text Commit(const QInputMethodEvent& event);
+    void ShowComposition(const QInputMethodEvent& event, TextView committed);
+    void Collapse(const Selection& selection);
     template <typename Handle>
     bool During(Handle&& handle);
     template <typename Notify>
@@ -118,6 +122,7 @@ class TextEdit final : public QPlainTextEdit {
     int tasks_ = 0;     // the events and assignments in progress, one inside the other
     int moves_ = 0;     // how often the cursor of the document moved
     std::optional<Placed> placed_;
+    std::optional<Placed> composedOver_;  // the selection that a composition will replace
     std::int32_t maxLength_ = 0;
     bool locked_ = false;
     bool hasFocusNow_ = false;

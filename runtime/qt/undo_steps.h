@@ -2,11 +2,11 @@
 
 #include <QTextCursor>
 #include <QTextDocument>
-#include <cstdint>
 #include <utility>
 
 #include "frame/text.h"
 #include "runtime/qt/document_text.h"
+#include "runtime/shared/edit_kind.h"
 
 namespace lumenkit::qt {
 
@@ -14,9 +14,7 @@ namespace lumenkit::qt {
 /// records can be amended afterwards.
 class UndoSteps {
  public:
-    /// Edits of one kind that follow each other in the text are one step. An edit of no kind is a
-    /// step of its own.
-    enum class Kind : std::uint8_t { None, Typing, DeletingBack, DeletingForward };
+    using Kind = shared::EditKind;
 
     UndoSteps(QTextDocument& document, const DocumentText& text)
         : document_(document), text_(text) {}

@@ -46,6 +46,8 @@ class OptionArray : public host::OptionButtons {
     };
     /// Returns the position of `button` among the visible buttons, in the order of the indices.
     Rank RankOf(const Button& button) const;
+    /// Returns the button at which the Tab key stops. Null if no button takes the focus.
+    Button* TabStop() const;
     /// Called after a button was shown, hidden, enabled or disabled.
     void PlaceTabStop();
 
@@ -61,7 +63,6 @@ class OptionArray : public host::OptionButtons {
 
  private:
     void Add(std::int16_t index);
-    Button* TabStop() const;
 
     Maker make_;
     host::OptionButtonEvents& events_;

@@ -14,6 +14,18 @@ void ControlFocus::FocusMoved() {
     }
 }
 
+void ControlFocus::PassOn(HWND former) const {
+    const HWND window = window_.Handle();
+    const bool wasGivenAway = former != nullptr && IsChild(window, former) != FALSE;
+    if (!wasGivenAway && surface_.Enabled()) {
+        FocusFirst(window, false);
+    }
+}
+
+bool ControlFocus::IsOutOfUse() const {
+    return AreStopsOutOfUse(window_.Handle());
+}
+
 void ControlFocus::Take(bool last) {
     const HWND window = window_.Handle();
     if (window != nullptr && surface_.Enabled() && !FocusFirst(window, last)) {

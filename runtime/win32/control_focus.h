@@ -13,6 +13,12 @@ class ControlFocus {
     ControlFocus(const Window& window, const Surface& surface, ControlSite& site)
         : window_(window), surface_(surface), site_(site) {}
 
+    /// Called when the control's own window got the focus, from the window `former`. Passes it on
+    /// to a constituent, unless a constituent gave it away.
+    void PassOn(HWND former) const;
+    /// Whether the control has no use for the keyboard, because the constituents that take it
+    /// cannot be used now.
+    bool IsOutOfUse() const;
     /// Called when the focus moved. Notifies the site if the focus entered the control or left it.
     void FocusMoved();
     /// Gives the focus to the first (or last) constituent that takes it, otherwise to the control

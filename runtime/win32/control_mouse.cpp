@@ -84,7 +84,7 @@ void ControlMouse::ButtonGoesUp(Control& control, host::MouseArguments& mouse) {
 bool ControlMouse::TakeMouse() {
     SetCapture(window_.Handle());
     const Window::Watch watch(window_);
-    if (!focus_.IsInside()) {
+    if (!focus_.IsInside() && !focus_.IsOutOfUse()) {
         focus_.Take(false);
     }
     return !watch.IsGone();

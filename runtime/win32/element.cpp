@@ -1,10 +1,12 @@
 #include "runtime/win32/element.h"
 
 #include <stdexcept>
+#include <utility>
 
 #include "frame/host/accepted_values.h"
 #include "runtime/win32/accessible_object.h"
 #include "runtime/win32/colors.h"
+#include "runtime/win32/keyboard.h"
 
 namespace lumenkit::win32 {
 
@@ -53,6 +55,11 @@ Element::Element(const Elements& elements, const Kind& kind, const host::Design&
             .extendedStyle = kind.extendedStyle,
             .place = ToPixels(placement_, resolution_),
             .parent = ParentWindow(elements, design)});
+    const auto* const parent = dynamic_cast<const Element*>(design.parent);
+    if (parent != nullptr && !parent->IsUsable()) {
+        parentIsUsable_ = false;
+        EnableWindow(Handle(), FALSE);
+    }
 }
 
 Element::~Element() {
@@ -71,9 +78,20 @@ void Element::MoveTo(const host::Placement& placement) {
 }
 
 void Element::BecomeVisible(bool visible) {
-    if (visible != visible_) {
-        visible_ = visible;
-        ShowWindow(Handle(), visible ? SW_SHOWNA : SW_HIDE);
+    if (visible == visible_) {
+        return;
+    }
+    visible_ = visible;
+    const Watch watch(*this);
+    if (!visible) {
+        GiveFocusAway();
+    }
+    if (watch.IsGone()) {
+        return;
+    }
+    ShowWindow(Handle(), visible ? SW_SHOWNA : SW_HIDE);
+    if (visible && !watch.IsGone()) {
+        TakeFocusBack();
     }
 }
 
@@ -82,12 +100,55 @@ void Element::BecomeEnabled(bool enabled) {
         return;
     }
     enabled_ = enabled;
-    const HWND focus = GetFocus();
-    const bool losesFocus = !enabled && focus != nullptr && Handle() != nullptr &&
-                            (focus == Handle() || IsChild(Handle(), focus) != FALSE);
-    EnableWindow(Handle(), enabled ? TRUE : FALSE);
-    if (losesFocus) {
-        SetFocus(owner_);  // so that keys still reach a window; may destroy the object
+    const Watch watch(*this);
+    if (!enabled) {
+        GiveFocusAway();
+    }
+    if (watch.IsGone()) {
+        return;
+    }
+    ShowEnabled();
+    if (enabled && !watch.IsGone()) {
+        TakeFocusBack();
+    }
+}
+
+// The window classes grey only disabled windows, so the elements in a disabled frame have disabled
+// windows too.
+void Element::ShowEnabled() {
+    EnableWindow(Handle(), IsUsable() ? TRUE : FALSE);
+    const HWND first = Handle() == nullptr ? nullptr : GetWindow(Handle(), GW_CHILD);
+    for (HWND child = first; child != nullptr; child = GetWindow(child, GW_HWNDNEXT)) {
+        if (auto* const inside = dynamic_cast<Element*>(Window::Of(child))) {
+            inside->parentIsUsable_ = IsUsable();
+            inside->ShowEnabled();
+        }
+    }
+}
+
+// Moves the focus before the window is hidden or disabled, because the platform would move it to a
+// window that cannot use it.
+void Element::GiveFocusAway() {
+    if (!HasFocusInside(Handle())) {
+        return;
+    }
+    const HWND loser = GetFocus();
+    const Element* const heir = Heir();
+    const HWND next = heir != nullptr ? heir->Handle() : FocusAfter(owner_, Handle());
+    lostFocus_ = next == nullptr ? loser : nullptr;
+    SetFocus(next == nullptr ? owner_ : next);
+}
+
+void Element::TakeFocusBack() {
+    const HWND loser = std::exchange(lostFocus_, nullptr);
+    if (GetFocus() != owner_) {
+        return;
+    }
+    const bool isInside = loser == Handle() || IsChild(Handle(), loser) != FALSE;
+    if (isInside && IsWindowVisible(loser) != FALSE && IsWindowEnabled(loser) != FALSE) {
+        SetFocus(loser);
+    } else {
+        FocusFirst(owner_, false);
     }
 }
 

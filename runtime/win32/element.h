@@ -30,6 +30,8 @@ class Element : public Window, public Drawable, public Described {
     std::int16_t Index() const { return index_; }  ///< in a control array, else -1
     bool IsVisible() const { return visible_; }    ///< regardless of its parents
     bool IsEnabled() const { return enabled_; }    ///< regardless of its parents
+    /// Whether it and the elements around it are enabled.
+    bool IsUsable() const { return enabled_ && parentIsUsable_; }
 
     /// Draws the border, lets the window class draw the client area, and draws the children in it.
     void DrawOn(HDC device) override;
@@ -50,8 +52,16 @@ class Element : public Window, public Drawable, public Described {
     const host::Placement& Where() const { return placement_; }
     /// Raises 380 for a negative width or height.
     void MoveTo(const host::Placement& placement);
+    // Both move the focus out of an element that cannot be used any more: to its heir, to the next
+    // tab stop, or else to the control's window, which keeps it for the element. May destroy the
+    // object.
     void BecomeVisible(bool visible);
     void BecomeEnabled(bool enabled);
+    /// Returns the element that takes the focus over when this one, which has it, is hidden or
+    /// disabled; null if there is none.
+    virtual const Element* Heir() const { return nullptr; }
+    /// Brings the state to the window and to the elements inside.
+    void ShowEnabled();
     void RepaintNow() const;
     /// Invalidates the window for a later repaint.
     void Invalidate() const;
@@ -73,12 +83,17 @@ class Element : public Window, public Drawable, public Described {
     static LRESULT AnswerColors(WPARAM device, Color text, Color background);
 
  private:
+    void GiveFocusAway();
+    void TakeFocusBack();
+
     Text name_;
     std::int16_t index_;
     host::Placement placement_;
     bool visible_;
     bool enabled_ = true;
+    bool parentIsUsable_ = true;
     HWND owner_;
+    HWND lostFocus_ = nullptr;  // the window inside for which the control's window keeps the focus
     Resolution resolution_;
 };
 

@@ -210,11 +210,21 @@ LRESULT HostedControl::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam)
             return GiveText(0, nullptr);
         case WM_GETTEXT:
             return GiveText(wParam, reinterpret_cast<wchar_t*>(lParam));
-        case WM_SETFOCUS:
+        case WM_SETFOCUS: {
+            const Watch watch(*this);
+            focus_.FocusMoved();
+            if (!watch.IsGone() && GetFocus() == Handle()) {
+                focus_.PassOn(reinterpret_cast<HWND>(wParam));
+            }
+            return 0;
+        }
         case WM_KILLFOCUS:
         case constituentFocusMessage:
             focus_.FocusMoved();
             return 0;
+        case WM_GETDLGCODE:
+            // Letters for a disabled constituent are no mnemonics of other controls.
+            return focus_.IsOutOfUse() ? DLGC_WANTCHARS : 0;
         case WM_CAPTURECHANGED:
             mouse_.CaptureChanged();
             return 0;

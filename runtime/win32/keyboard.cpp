@@ -80,6 +80,17 @@ Windows StopsIn(HWND root) {
     return found;
 }
 
+// Whether a window in `parent` is a tab stop, usable or not.
+bool HasTabStop(HWND parent) {
+    for (HWND child = GetWindow(parent, GW_CHILD); child != nullptr;
+         child = GetWindow(child, GW_HWNDNEXT)) {
+        if ((StyleOf(child) & WS_TABSTOP) != 0 || HasTabStop(child)) {
+            return true;
+        }
+    }
+    return false;
+}
+
 // The position in the tab order while `focus` has the focus.
 HWND PlaceInTabOrder(HWND focus) {
     return focus != nullptr && IsOption(focus) ? StopOf(GroupOf(focus)) : focus;
@@ -232,6 +243,20 @@ bool FocusFirst(HWND root, bool last) {
     }
     SetFocus(last ? stops.back() : stops.front());
     return true;
+}
+
+bool AreStopsOutOfUse(HWND root) {
+    return root != nullptr && HasTabStop(root) && StopsIn(root).empty();
+}
+
+HWND FocusAfter(HWND root, HWND leaving) {
+    Windows usable = UsableIn(root);
+    const auto own = std::ranges::find(usable, leaving);
+    std::rotate(usable.begin(), own, usable.end());
+    const auto next = std::ranges::find_if(usable, [&](HWND window) {
+        return window != leaving && IsChild(leaving, window) == FALSE && IsStop(window);
+    });
+    return next == usable.end() ? nullptr : *next;
 }
 
 bool HasFocusInside(HWND root) {

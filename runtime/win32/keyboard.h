@@ -13,6 +13,14 @@ namespace lumenkit::win32 {
 /// there is none.
 bool FocusFirst(HWND root, bool last);
 
+/// Whether there are constituents in `root` that take the focus, but the user can use none of them
+/// now.
+bool AreStopsOutOfUse(HWND root);
+
+/// Returns the constituent in `root` that gets the focus when `leaving` and the windows inside it
+/// lose it: the next one in the tab order. Null if there is none.
+HWND FocusAfter(HWND root, HWND leaving);
+
 /// Whether `root` or a window inside it has the focus.
 bool HasFocusInside(HWND root);
 

@@ -17,13 +17,19 @@ OptionButton::OptionButton(const Elements& elements, const host::OptionButtonDes
 }
 
 void OptionButton::SetVisible(bool visible) {
+    const Watch watch(*this);
     BecomeVisible(visible);
-    group_.PlaceTabStop();
+    if (!watch.IsGone()) {
+        group_.PlaceTabStop();
+    }
 }
 
 void OptionButton::SetEnabled(bool enabled) {
+    const Watch watch(*this);
     BecomeEnabled(enabled);
-    group_.PlaceTabStop();
+    if (!watch.IsGone()) {
+        group_.PlaceTabStop();
+    }
 }
 
 void OptionButton::Select(bool selected) {

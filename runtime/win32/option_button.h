@@ -42,6 +42,7 @@ class OptionButton final : public BasicCaptioned<host::OptionButton> {
     std::optional<LRESULT> HandleNotification(UINT message, WPARAM wParam, LPARAM lParam) override;
 
  private:
+    const Element* Heir() const override { return group_.TabStop(); }
     void Step(bool forward);
 
     OptionGroup& group_;

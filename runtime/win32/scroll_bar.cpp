@@ -68,7 +68,7 @@ SCROLLINFO ScrollBar::Range() const {
 void ScrollBar::ShowRange() {
     SCROLLINFO info = Range();
     Ask(SBM_SETSCROLLINFO, TRUE, reinterpret_cast<LPARAM>(&info));
-    EnableWindow(Handle(), IsEnabled() ? TRUE : FALSE);  // the new range may have changed it
+    ShowEnabled();  // the new range may have changed it
 }
 
 void ScrollBar::Scroll(std::int32_t value) {

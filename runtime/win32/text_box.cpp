@@ -98,6 +98,7 @@ TextView TextBox::GetText() const {
 }
 
 void TextBox::SetText(TextView text) {
+    caretIsPlaced_ = false;
     text = text.substr(0, text.find(u'\0'));
     if (maxLength_ > 0) {
         text = WithoutHalfPair(text, static_cast<std::size_t>(maxLength_));
@@ -109,6 +110,7 @@ void TextBox::SetText(TextView text) {
 
 // Returns whether the box still exists.
 bool TextBox::Assign(TextView text) {
+    RecordAssignment(text);
     if (Handle() == nullptr) {
         copy_ = Text(text);
         return true;
@@ -123,9 +125,41 @@ bool TextBox::Assign(TextView text) {
     isAssigning_ = false;
     isCopied_ = false;
     if (isDone == FALSE) {
+        history_.Forget();
         Raise(ErrorNumber::OutOfMemory);
     }
     return true;
+}
+
+void TextBox::SetVisible(bool visible) {
+    TextBox* const twin = visible || !IsVisible() ? nullptr : Twin();
+    if (twin != nullptr && !twin->caretIsPlaced_) {
+        const Range selection = Selection();
+        const std::int32_t length = twin->Length();
+        twin->Select(std::min(selection.start, length), std::min(selection.end, length));
+    }
+    caretIsPlaced_ = false;
+    BecomeVisible(visible);
+}
+
+const Element* TextBox::Heir() const {
+    const TextBox* const twin = Twin();
+    return twin != nullptr && twin->IsUsable() ? twin : nullptr;
+}
+
+// Returns the visible box of the same control array that has the same place; null if there is none.
+// A box that must look different is hidden and its twin is shown.
+TextBox* TextBox::Twin() const {
+    const HWND first =
+        Handle() == nullptr || Index() < 0 ? nullptr : GetWindow(Handle(), GW_HWNDFIRST);
+    for (HWND window = first; window != nullptr; window = GetWindow(window, GW_HWNDNEXT)) {
+        auto* const box = dynamic_cast<TextBox*>(Window::Of(window));
+        if (box != nullptr && box != this && box->Name() == Name() && box->IsVisible() &&
+            box->Where() == Where()) {
+            return box;
+        }
+    }
+    return nullptr;
 }
 
 TextBox::Range TextBox::Selection() const {
@@ -146,6 +180,7 @@ std::int32_t TextBox::SelStart() const {
 
 void TextBox::SetSelStart(std::int32_t position) {
     Require(position >= 0);
+    caretIsPlaced_ = true;
     const std::int32_t caret = std::min(position, Length());
     Select(caret, caret);
 }
@@ -157,6 +192,7 @@ std::int32_t TextBox::SelLength() const {
 
 void TextBox::SetSelLength(std::int32_t length) {
     Require(length >= 0);
+    caretIsPlaced_ = true;
     const std::int32_t start = Selection().start;
     Select(start, start + std::min(length, Length() - start));
 }
@@ -168,6 +204,7 @@ void TextBox::GetSelection(std::int32_t& start, std::int32_t& end) const {
 }
 
 void TextBox::SetSelection(std::int32_t start, std::int32_t end) {
+    caretIsPlaced_ = true;
     if (start == -1) {
         Select(-1, 0);
         return;

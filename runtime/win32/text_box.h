@@ -4,12 +4,16 @@
 #include <optional>
 
 #include "frame/host/text_box.h"
+#include "runtime/shared/edit_history.h"
 #include "runtime/win32/basic_constituent.h"
 
 namespace lumenkit::win32 {
 
 /// The platform's edit control. A locked box receives keys too, but they do not edit it. A locked
 /// or disabled box keeps the colours of an editable one.
+///
+/// The box keeps the undo steps itself, because the edit control undoes one edit only and forgets
+/// it when code assigns the text. The edit control's messages for undoing act on these steps.
 ///
 /// The platform's texts end at their first unit 0, and so do assigned texts.
 class TextBox final : public BasicTextConstituent<host::TextBox> {
@@ -20,6 +24,8 @@ class TextBox final : public BasicTextConstituent<host::TextBox> {
     TextBox(const TextBox&) = delete;
     TextBox& operator=(const TextBox&) = delete;
 
+    /// A box that is hidden passes caret, selection and focus on to its twin.
+    void SetVisible(bool visible) override;
     TextView GetText() const override;
     void SetText(TextView text) override;
     std::int32_t SelStart() const override;
@@ -41,6 +47,10 @@ class TextBox final : public BasicTextConstituent<host::TextBox> {
     void DrawOn(HDC device) override;
     std::optional<Description> Describe() override;
 
+    /// Enters what an input method has finished: notifies KeyPress of each unit, and makes one edit
+    /// of them all. The object may be destroyed when the call returns.
+    void EnterComposed(TextView units);
+
  protected:
     LRESULT HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
     std::optional<LRESULT> HandleNotification(UINT message, WPARAM wParam, LPARAM lParam) override;
@@ -52,6 +62,8 @@ class TextBox final : public BasicTextConstituent<host::TextBox> {
         std::int32_t end = 0;
     };
 
+    const Element* Heir() const override;
+    TextBox* Twin() const;
     std::int32_t Length() const;
     TextView TextInPlace() const;
     void KeepCopy() const;
@@ -61,18 +73,53 @@ class TextBox final : public BasicTextConstituent<host::TextBox> {
     void Select(std::int32_t start, std::int32_t end);
     std::size_t Room() const;
 
-    LRESULT Pass(UINT message, WPARAM wParam, LPARAM lParam);
+    using EditKind = shared::EditKind;
+    using Assigning = shared::Assigning;
+
+    // While it exists, an event of the user is notified: an assignment by code is a part of the
+    // undo steps. Also tells whether the box still exists.
+    class Telling {
+     public:
+        Telling(TextBox& box, Assigning assigning);
+        ~Telling();
+        Telling(const Telling&) = delete;
+        Telling& operator=(const Telling&) = delete;
+
+        bool IsGone() const { return watch_.IsGone(); }
+
+     private:
+        Watch watch_;
+        TextBox& box_;
+        Assigning former_;
+    };
+
+    LRESULT Pass(UINT message, WPARAM wParam, LPARAM lParam, EditKind kind = EditKind::None);
+
+    // The undo steps. The object may be destroyed when Undo and Redo return.
+    bool MayEdit(UINT message, WPARAM wParam) const;
+    void RecordEdit(UINT message, WPARAM wParam, EditKind kind);
+    void RecordAssignment(TextView text);
+    bool Undo();
+    bool Redo();
+    void Perform(const shared::EditHistory::Patch& patch);
+    bool NotifyMove(bool moved);
+    void ShowMenu(LPARAM place);
 
     // The user's actions; each method answers a message. The object may be destroyed when they
     // return.
     LRESULT KeyGoesDown(UINT message, WPARAM wParam, LPARAM lParam);
     LRESULT KeyIsPressed(WPARAM wParam, LPARAM lParam);
     LRESULT KeyGoesUp(UINT message, WPARAM wParam, LPARAM lParam);
-    bool Takes(char16_t unit);
+    bool Takes(char16_t unit) const;
+    bool PairUp(char16_t unit);
     LRESULT ButtonGoesDown(UINT message, WPARAM wParam, LPARAM lParam);
     LRESULT ButtonIsClickedAgain(UINT message, WPARAM wParam, LPARAM lParam);
     LRESULT ButtonGoesUp(UINT message, WPARAM wParam, LPARAM lParam);
     LRESULT MouseMoves(UINT message, WPARAM wParam, LPARAM lParam);
+    LRESULT StartComposition(WPARAM wParam, LPARAM lParam);
+    LRESULT Compose(WPARAM wParam, LPARAM lParam);
+    LRESULT EndComposition(WPARAM wParam, LPARAM lParam);
+    void Insert(TextView text, EditKind kind);
     void Paste();
     bool LeaveBreak();
 
@@ -82,13 +129,17 @@ class TextBox final : public BasicTextConstituent<host::TextBox> {
     Color foreColor_ = Color::WindowText;
     std::int32_t maxLength_ = 0;
     host::MousePointer pointer_ = host::MousePointer::Default;
+    shared::EditHistory history_;
+    Assigning assigning_ = Assigning::Forgets;
     bool multiLine_;
     bool locked_ = false;
-    bool isAssigning_ = false;     // notifications of the edit control are not passed on
-    bool hasChanged_ = false;      // by the message in progress
-    bool keyIsTaken_ = false;      // the key that is down enters nothing
-    bool dropsSurrogate_ = false;  // there was no room for the first half of the pair
-    bool isPressed_ = false;       // the left button went down in the box
+    bool caretIsPlaced_ = false;  // by code, since it assigned the text
+    bool isAssigning_ = false;    // notifications of the edit control are not passed on
+    bool hasChanged_ = false;     // by the message in progress
+    bool keyIsTaken_ = false;     // the key that is down enters nothing
+    bool isComposing_ = false;    // an input method has not finished yet
+    bool isPressed_ = false;      // the left button went down in the box
+    char16_t heldSurrogate_ = 0;  // the first half of a pair, whose other half has not come yet
 };
 
 }  // namespace lumenkit::win32

@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "runtime/win32/clipboard_text.h"
+#include "runtime/win32/composition.h"
 #include "runtime/win32/mouse.h"
 #include "runtime/win32/pointer_cursor.h"
 #include "runtime/win32/surrogates.h"
@@ -12,13 +13,25 @@ namespace lumenkit::win32 {
 
 namespace {
 
+constexpr char16_t backspace = 8;
 constexpr char16_t paste = 22;  // Ctrl+V
+constexpr char16_t redo = 25;   // Ctrl+Y
+constexpr char16_t undo = 26;   // Ctrl+Z
 constexpr char16_t escape = 27;
 constexpr char16_t deleteCharacter = 127;
+constexpr std::int16_t shiftHeld = 1;
 constexpr std::int16_t controlHeld = 2;
 
 TextView FirstLine(TextView text) {
     return text.substr(0, text.find_first_of(crLf));
+}
+
+// The kind of edit that a unit makes.
+shared::EditKind KindOf(char16_t unit) {
+    if (unit == backspace) {
+        return shared::EditKind::DeletingBack;
+    }
+    return unit >= blank || unit == u'\t' ? shared::EditKind::Typing : shared::EditKind::None;
 }
 
 bool IsInside(HWND window, LPARAM point) {
@@ -38,7 +51,7 @@ LRESULT TextBox::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
         case WM_CHAR:
             return KeyIsPressed(wParam, lParam);
         case WM_SYSCHAR:
-            return keyIsTaken_ ? 0 : Pass(message, wParam, lParam);
+            return keyIsTaken_ || wParam == backspace ? 0 : Pass(message, wParam, lParam);
         case WM_KEYUP:
         case WM_SYSKEYUP:
             return KeyGoesUp(message, wParam, lParam);
@@ -56,8 +69,28 @@ LRESULT TextBox::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
             return ButtonGoesUp(message, wParam, lParam);
         case WM_MOUSEMOVE:
             return MouseMoves(message, wParam, lParam);
+        case WM_IME_STARTCOMPOSITION:
+            return StartComposition(wParam, lParam);
+        case WM_IME_COMPOSITION:
+            return Compose(wParam, lParam);
+        case WM_IME_ENDCOMPOSITION:
+            return EndComposition(wParam, lParam);
+        case WM_IME_CHAR:
+            keyIsTaken_ = false;  // what is composed comes from several keys
+            return KeyIsPressed(wParam, lParam);
         case WM_PASTE:
             Paste();
+            return 0;
+        case WM_UNDO:
+        case EM_UNDO:
+            return Undo() ? TRUE : FALSE;
+        case EM_CANUNDO:
+            return history_.CanUndo() ? TRUE : FALSE;
+        case EM_EMPTYUNDOBUFFER:
+            history_.Forget();
+            return Pass(message, wParam, lParam);
+        case WM_CONTEXTMENU:
+            ShowMenu(lParam);
             return 0;
         case WM_SETTEXT:
             if (!isAssigning_) {  // sent by another program
@@ -80,8 +113,15 @@ LRESULT TextBox::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
             GiveBufferBack();
             isCopied_ = true;
             return Pass(message, wParam, lParam);
+        case WM_KILLFOCUS: {
+            const Watch watch(*this);
+            if (std::exchange(isComposing_, false)) {
+                FinishComposition(Handle());
+            }
+            return watch.IsGone() ? 0
+                                  : BasicTextConstituent::HandleMessage(message, wParam, lParam);
+        }
         case WM_SETFOCUS:
-        case WM_KILLFOCUS:
         case WM_GETOBJECT:
             return BasicTextConstituent::HandleMessage(message, wParam, lParam);
         default:
@@ -90,17 +130,23 @@ LRESULT TextBox::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
 }
 
 // Lets the edit control answer. Then notifies its changes of the text, once.
-LRESULT TextBox::Pass(UINT message, WPARAM wParam, LPARAM lParam) {
+LRESULT TextBox::Pass(UINT message, WPARAM wParam, LPARAM lParam, EditKind kind) {
+    if (MayEdit(message, wParam)) {
+        history_.Begin(GetText());
+    }
     const bool outerChange = std::exchange(hasChanged_, false);
     const Watch watch(*this);
     const LRESULT answer = Default(message, wParam, lParam);
     if (!watch.IsGone() && std::exchange(hasChanged_, outerChange)) {
+        RecordEdit(message, wParam, kind);
+        const Telling telling(*this, Assigning::AmendsStep);
         events_.Change();
     }
     return answer;
 }
 
 void TextBox::FocusMoved(bool came) {
+    const Telling telling(*this, Assigning::AddsStep);
     if (came) {
         events_.GotFocus();
     } else {
@@ -112,17 +158,27 @@ LRESULT TextBox::KeyGoesDown(UINT message, WPARAM wParam, LPARAM lParam) {
     auto keyCode = static_cast<std::int16_t>(wParam);
     std::int16_t shift = HeldKeys();
     keyIsTaken_ = false;
-    const Watch watch(*this);
+    const Telling watch(*this, Assigning::AddsStep);
     events_.KeyDown(keyCode, shift);
     if (watch.IsGone()) {
         return 0;
     }
     keyIsTaken_ = keyCode == 0;
+    if (message == WM_SYSKEYDOWN && keyCode == VK_BACK) {
+        Undo();
+        // The system must see that Alt was not pressed alone, which would open a menu.
+        return watch.IsGone() ? 0 : DefWindowProcW(Handle(), message, wParam, lParam);
+    }
     // Escape in a multi-line box would close the dialog that contains the box.
     const bool closes = multiLine_ && keyCode == VK_ESCAPE;
     const bool edits = keyCode == VK_DELETE || (keyCode >= VK_PRIOR && keyCode <= VK_DOWN);
     const bool moved = edits && LeaveBreak() && keyCode == VK_LEFT && (shift & controlHeld) == 0;
-    return keyIsTaken_ || closes || moved ? 0 : Pass(message, static_cast<WPARAM>(keyCode), lParam);
+    const EditKind kind = keyCode == VK_DELETE && (shift & shiftHeld) == 0
+                              ? EditKind::DeletingForward
+                              : EditKind::None;
+    return keyIsTaken_ || closes || moved
+               ? 0
+               : Pass(message, static_cast<WPARAM>(keyCode), lParam, kind);
 }
 
 LRESULT TextBox::KeyIsPressed(WPARAM wParam, LPARAM lParam) {
@@ -130,18 +186,25 @@ LRESULT TextBox::KeyIsPressed(WPARAM wParam, LPARAM lParam) {
         return 0;
     }
     auto keyAscii = static_cast<std::int16_t>(wParam);
-    const Watch watch(*this);
+    const Telling watch(*this, Assigning::AddsStep);
     events_.KeyPress(keyAscii);
     const auto unit = static_cast<char16_t>(keyAscii);
     if (watch.IsGone() || !Takes(unit)) {
+        return 0;
+    }
+    if (PairUp(unit)) {
         return 0;
     }
     if (unit == paste) {
         Paste();
         return 0;
     }
+    if (unit == undo || unit == redo) {
+        unit == redo || (HeldKeys() & shiftHeld) != 0 ? Redo() : Undo();
+        return 0;
+    }
     LeaveBreak();
-    return Pass(WM_CHAR, unit, lParam);
+    return Pass(WM_CHAR, unit, lParam, KindOf(unit));
 }
 
 // Moves a caret between CR and LF before both, where the user sees it, and so each end of a
@@ -165,27 +228,19 @@ bool TextBox::LeaveBreak() {
     return selection.start == selection.end;
 }
 
-// Whether the edit control receives the unit. Units at which it would only beep are dropped, and so
-// are halves of surrogate pairs.
-bool TextBox::Takes(char16_t unit) {
+// Whether the edit control receives the unit. Units at which it would only beep are dropped.
+bool TextBox::Takes(char16_t unit) const {
     if (unit == 0 || unit == escape || unit == deleteCharacter) {
         return false;
     }
-    if (!multiLine_ && (unit == u'\t' || unit == u'\r' || unit == u'\n')) {
-        return false;
-    }
-    if (IsHighSurrogate(unit)) {
-        dropsSurrogate_ = Room() < 2;
-        return !dropsSurrogate_;
-    }
-    return !(IsLowSurrogate(unit) && std::exchange(dropsSurrogate_, false));
+    return multiLine_ || (unit != u'\t' && unit != u'\r' && unit != u'\n');
 }
 
 LRESULT TextBox::KeyGoesUp(UINT message, WPARAM wParam, LPARAM lParam) {
     auto keyCode = static_cast<std::int16_t>(wParam);
     std::int16_t shift = HeldKeys();
     keyIsTaken_ = false;
-    const Watch watch(*this);
+    const Telling watch(*this, Assigning::AddsStep);
     events_.KeyUp(keyCode, shift);
     return watch.IsGone() || keyCode == 0 ? 0 : Pass(message, static_cast<WPARAM>(keyCode), lParam);
 }
@@ -194,7 +249,7 @@ LRESULT TextBox::KeyGoesUp(UINT message, WPARAM wParam, LPARAM lParam) {
 // focus and caret position. The other buttons open menus and are passed on last.
 LRESULT TextBox::ButtonGoesDown(UINT message, WPARAM wParam, LPARAM lParam) {
     host::MouseArguments mouse = MouseArgumentsOf(message, wParam, lParam, PixelsPerInch());
-    const Watch watch(*this);
+    const Telling watch(*this, Assigning::AddsStep);
     if (message != WM_LBUTTONDOWN) {
         events_.MouseDown(mouse);
         return watch.IsGone() ? 0 : Pass(message, wParam, lParam);
@@ -211,7 +266,7 @@ LRESULT TextBox::ButtonIsClickedAgain(UINT message, WPARAM wParam, LPARAM lParam
     if (message != WM_LBUTTONDBLCLK) {
         return ButtonGoesDown(message, wParam, lParam);
     }
-    const Watch watch(*this);
+    const Telling watch(*this, Assigning::AddsStep);
     const LRESULT answer = Pass(message, wParam, lParam);
     if (!watch.IsGone()) {
         events_.DblClick();
@@ -221,7 +276,7 @@ LRESULT TextBox::ButtonIsClickedAgain(UINT message, WPARAM wParam, LPARAM lParam
 
 LRESULT TextBox::ButtonGoesUp(UINT message, WPARAM wParam, LPARAM lParam) {
     host::MouseArguments mouse = MouseArgumentsOf(message, wParam, lParam, PixelsPerInch());
-    const Watch watch(*this);
+    const Telling watch(*this, Assigning::AddsStep);
     if (message != WM_LBUTTONUP) {
         events_.MouseUp(mouse);
         return watch.IsGone() ? 0 : Pass(message, wParam, lParam);
@@ -239,7 +294,7 @@ LRESULT TextBox::ButtonGoesUp(UINT message, WPARAM wParam, LPARAM lParam) {
 
 LRESULT TextBox::MouseMoves(UINT message, WPARAM wParam, LPARAM lParam) {
     host::MouseArguments mouse = MouseArgumentsOf(message, wParam, lParam, PixelsPerInch());
-    const Watch watch(*this);
+    const Telling watch(*this, Assigning::AddsStep);
     events_.MouseMove(mouse);
     return watch.IsGone() ? 0 : Pass(message, wParam, lParam);
 }

@@ -42,7 +42,10 @@ class ContractRuntime {
 
     // The user. Each function does nothing if the constituent cannot be used.
     virtual void Focus(host::TextBox& box) = 0;
+    virtual bool HasFocus(host::TextBox& box) = 0;
     virtual void Type(host::TextBox& box, TextView text) = 0;
+    /// Presses a key that enters no text: End (35), Home (36), Left (37), Right (39), Delete (46).
+    virtual void Press(host::TextBox& box, std::int16_t keyCode) = 0;
     virtual void Select(host::TextBox& box, std::int32_t start, std::int32_t length) = 0;
     virtual void Paste(host::TextBox& box, TextView text) = 0;
     virtual void Click(host::OptionButton& button) = 0;

@@ -51,7 +51,11 @@ class MemoryRuntime final : public ContractRuntime {
     }
 
     void Focus(host::TextBox& box) override { user_.MoveFocusTo(Own(box)); }
+    bool HasFocus(host::TextBox& box) override { return form_.GetFocus().IsAt(Own(box)); }
     void Type(host::TextBox& box, TextView text) override { user_.Type(Own(box), text); }
+    void Press(host::TextBox& box, std::int16_t keyCode) override {
+        user_.Press(Own(box), keyCode);
+    }
     void Select(host::TextBox& box, std::int32_t start, std::int32_t length) override {
         user_.Select(Own(box), start, length);
     }

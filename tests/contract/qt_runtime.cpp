@@ -15,6 +15,7 @@
 #include "runtime/qt/command_button.h"
 #include "runtime/qt/form_container.h"
 #include "runtime/qt/hosted_control.h"
+#include "runtime/qt/input.h"
 #include "runtime/qt/interaction.h"
 #include "runtime/qt/option_button.h"
 #include "runtime/qt/qt_text.h"
@@ -100,6 +101,11 @@ class QtRuntime final : public ContractRuntime, public qt::ControlSite, private 
         if (edit.hasFocus()) {
             testing::TypeKeys(edit, text);
         }
+    }
+    bool HasFocus(host::TextBox& box) override { return Edit(box).hasFocus(); }
+    void Press(host::TextBox& box, std::int16_t keyCode) override {
+        Edit(box).setFocus(Qt::MouseFocusReason);
+        QTest::keyClick(&Edit(box), static_cast<Qt::Key>(qt::EditingKeyOf(keyCode)));
     }
     void Select(host::TextBox& box, std::int32_t start, std::int32_t length) override {
         Edit(box).setFocus(Qt::MouseFocusReason);

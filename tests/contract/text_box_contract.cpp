@@ -273,6 +273,56 @@ TEST_P(TextBoxContract, TheUserEditsBeforeALineBreakThatHoldsTheCaret) {
     EXPECT_EQ(box.GetText(), u"ab1\r\n2xd") << "a line break is replaced as a whole";
 }
 
+constexpr std::int16_t endKey = 35;
+constexpr std::int16_t homeKey = 36;
+constexpr std::int16_t leftKey = 37;
+constexpr std::int16_t rightKey = 39;
+constexpr std::int16_t deleteKey = 46;
+
+TEST_P(TextBoxContract, KeysMoveACaretFromBeforeTheLineBreakThatHoldsIt) {
+    struct Case {
+        std::int16_t key;
+        std::int32_t expected;
+    };
+    host::TextBox& box = FocusedBox(u"ab\r\ncd");
+    for (const Case& one :
+         {Case{leftKey, 2}, Case{rightKey, 4}, Case{homeKey, 0}, Case{endKey, 2}}) {
+        box.SetSelStart(3);
+        runtime_->Press(box, one.key);
+        EXPECT_EQ(Selected(), (Selection{one.expected, one.expected})) << one.key;
+    }
+    for (const Case& one :
+         {Case{leftKey, 2}, Case{rightKey, 5}, Case{homeKey, 4}, Case{endKey, 6}}) {
+        box.SetSelStart(4);
+        runtime_->Press(box, one.key);
+        EXPECT_EQ(box.SelStart(), one.expected) << one.key;
+    }
+}
+
+TEST_P(TextBoxContract, DeleteAtTheEndOfALineJoinsTheNext) {
+    host::TextBox& box = FocusedBox(u"ab\r\ncd\r\n");
+    for (const std::int32_t caret : {2, 3}) {
+        box.SetText(u"ab\r\ncd\r\n");
+        box.SetSelStart(caret);
+        recorder_.lines.clear();
+        runtime_->Press(box, deleteKey);
+        EXPECT_EQ(box.GetText(), u"abcd\r\n") << caret;
+        EXPECT_EQ(Selected(), (Selection{2, 2})) << caret;
+        EXPECT_EQ(recorder_.Take(), (Lines{"down 46", "change", "up 46"}));
+    }
+    box.SetSelStart(5);
+    runtime_->Press(box, deleteKey);
+    EXPECT_EQ(box.GetText(), u"abcd");
+    EXPECT_EQ(Selected(), (Selection{4, 4})) << "the caret was in the deleted line break";
+    recorder_.lines.clear();
+    runtime_->Press(box, deleteKey);
+    EXPECT_EQ(recorder_.Take(), (Lines{"down 46", "up 46"})) << "nothing follows";
+    box.SetSelection(1, 3);
+    runtime_->Press(box, deleteKey);
+    EXPECT_EQ(box.GetText(), u"ad");
+    EXPECT_EQ(Selected(), (Selection{1, 1}));
+}
+
 TEST_P(TextBoxContract, TypingReplacesTheSelection) {
     host::TextBox& box = FocusedBox(u"abcd");
     runtime_->Select(box, 1, 2);
@@ -324,6 +374,82 @@ TEST_P(TextBoxContract, TheUserCannotUseADisabledOrHiddenBox) {
     runtime_->Type(box, u"y");
     EXPECT_EQ(box.GetText(), u"abc");
     EXPECT_EQ(recorder_.Take(), Lines{});
+}
+
+// Two boxes of one control array with the same place, of which the first is shown.
+class TwinBoxesContract : public ContractTest {
+ protected:
+    std::unique_ptr<host::TextBox> NewBox(std::int16_t index, host::TextBoxEvents& events) {
+        return Parts().AddTextBox({{.name = u"Text1",
+                                    .index = index,
+                                    .placement = {.width = 1500, .height = 900},
+                                    .visible = index == 0},
+                                   true,
+                                   host::ScrollBars::None,
+                                   u"abcd"},
+                                  events);
+    }
+    void Swap(TextView text) {
+        second_->SetText(text);
+        second_->SetVisible(true);
+        first_->SetVisible(false);
+    }
+
+    Recorder firstEvents_;
+    Recorder secondEvents_;
+    std::unique_ptr<host::TextBox> first_ = NewBox(0, firstEvents_);
+    std::unique_ptr<host::TextBox> second_ = NewBox(1, secondEvents_);
+};
+INSTANTIATE_TEST_SUITE_P(Runtime, TwinBoxesContract, ::testing::Values(RuntimeUnderTest()),
+                         ::testing::PrintToStringParamName());
+
+TEST_P(TwinBoxesContract, AHiddenBoxPassesFocusCaretAndSelectionOn) {
+    runtime_->Focus(*first_);
+    first_->SetSelection(1, 3);
+    Swap(u"other");
+    EXPECT_TRUE(runtime_->HasFocus(*second_));
+    EXPECT_EQ(second_->SelStart(), 1);
+    EXPECT_EQ(second_->SelLength(), 2);
+    EXPECT_EQ(firstEvents_.Take(), (Lines{"got", "lost"}));
+    EXPECT_EQ(secondEvents_.Take(), (Lines{"change", "got"}));
+    runtime_->Type(*second_, u"x");
+    EXPECT_EQ(second_->GetText(), u"oxer");
+}
+
+TEST_P(TwinBoxesContract, ACaretBeyondTheOtherTextIsAtItsEnd) {
+    first_->SetSelStart(4);
+    Swap(u"ab");
+    EXPECT_EQ(second_->SelStart(), 2);
+    EXPECT_FALSE(runtime_->HasFocus(*second_)) << "no box had it";
+}
+
+TEST_P(TwinBoxesContract, ACaretThatCodeHasJustPlacedStays) {
+    runtime_->Focus(*first_);
+    first_->SetSelStart(4);
+    secondEvents_.onChange = [this] { second_->SetSelStart(1); };
+    Swap(u"abcde");
+    EXPECT_TRUE(runtime_->HasFocus(*second_));
+    EXPECT_EQ(second_->SelStart(), 1);
+    secondEvents_.onChange = nullptr;
+    first_->SetText(u"abcde");
+    first_->SetVisible(true);
+    second_->SetSelStart(3);
+    second_->SetVisible(false);
+    EXPECT_EQ(first_->SelStart(), 3);
+    first_->SetSelStart(2);
+    Swap(u"abcde");
+    EXPECT_EQ(second_->SelStart(), 2) << "code placed the other caret earlier";
+}
+
+TEST_P(TextBoxContract, ABoxThatIsDisabledAndEnabledHasTheFocusAgain) {
+    host::TextBox& box = FocusedBox(u"abcd");
+    box.SetSelStart(2);
+    box.SetEnabled(false);
+    runtime_->Type(box, u"x");
+    box.SetEnabled(true);
+    EXPECT_TRUE(runtime_->HasFocus(box));
+    runtime_->Type(box, u"y");
+    EXPECT_EQ(box.GetText(), u"abycd");
 }
 
 TEST_P(TextBoxContract, GettingAndLosingTheFocusIsNotifiedOnce) {

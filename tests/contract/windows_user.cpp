@@ -110,6 +110,20 @@ void WindowsUser::Type(host::TextBox& box, TextView text) {
     }
 }
 
+bool WindowsUser::HasFocus(host::TextBox& box) {
+    return GetFocus() == WindowOf(box);
+}
+
+void WindowsUser::Press(host::TextBox& box, std::int16_t keyCode) {
+    const HWND window = WindowOf(box);
+    if (Reach(window)) {
+        constexpr LPARAM extended = 0x01000001;
+        SendMessageW(window, WM_KEYDOWN, static_cast<WPARAM>(keyCode), extended);
+        SendMessageW(window, WM_KEYUP, static_cast<WPARAM>(keyCode),
+                     extended | static_cast<LPARAM>(0xC0000000));
+    }
+}
+
 void WindowsUser::Select(host::TextBox& box, std::int32_t start, std::int32_t length) {
     if (Reach(WindowOf(box))) {
         SendMessageW(WindowOf(box), EM_SETSEL, static_cast<WPARAM>(start), start + length);

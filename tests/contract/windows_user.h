@@ -9,7 +9,9 @@ namespace lumenkit::contract {
 class WindowsUser : public ContractRuntime {
  public:
     void Focus(host::TextBox& box) override;
+    bool HasFocus(host::TextBox& box) override;
     void Type(host::TextBox& box, TextView text) override;
+    void Press(host::TextBox& box, std::int16_t keyCode) override;
     void Select(host::TextBox& box, std::int32_t start, std::int32_t length) override;
     void Paste(host::TextBox& box, TextView text) override;
     void Click(host::OptionButton& button) override;

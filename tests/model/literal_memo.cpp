@@ -159,9 +159,17 @@ void LiteralMemo::LetScrollBars(int n) {
     }
     if (n != m_ScrollBars) {
         ++seen["other boxes shown"];
+        Box& shown = boxes.at(static_cast<std::size_t>(n));
+        shown.caretIsPlaced = false;
         PutText(n, Active().text);
-        boxes.at(static_cast<std::size_t>(n)).visible = true;
+        shown.visible = true;
         Active().visible = false;
+        if (!shown.caretIsPlaced) {
+            ++seen["carets that go over"];
+            shown.selStart = std::min(Active().selStart, Length(shown.text));
+            shown.selLength = std::min(Active().selStart + Active().selLength, Length(shown.text)) -
+                              shown.selStart;
+        }
     }
     m_ScrollBars = n;
     PropertyChanged("ScrollBars");
@@ -207,6 +215,7 @@ void LiteralMemo::PutSelStart(int index, int position) {
     Box& box = boxes.at(static_cast<std::size_t>(index));
     box.selStart = std::min(position, Length(box.text));
     box.selLength = 0;
+    box.caretIsPlaced = true;
 }
 
 void LiteralMemo::Replace(Box& box, int start, int end, const Text& replacement) {

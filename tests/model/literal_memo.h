@@ -32,6 +32,7 @@ class LiteralMemo {
         int maxLength = 0;
         bool locked = false;
         bool visible = false;
+        bool caretIsPlaced = false;  // by the control
     };
 
     /// Makes a new memo.

@@ -152,6 +152,27 @@ def memo_copies_and_pastes(program, full):
     equal(program.keys("ctrl+Home", "ctrl+shift+End", "ctrl+x")["memo"], "")
 
 
+def memo_undoes_accepted_edits(program):
+    program.keys("ctrl+Home", "ctrl+shift+End", "Delete")
+    program.type("abcdefghij")
+    program.keys("Return")
+    equal(program.type("xy")["memo"], "abcdefghij\r\nxy")
+    program.keys("Up", "End")
+    equal(program.type("k")["memo"], "abcdefghij\r\nxy")  # refused
+    equal(program.keys("ctrl+z")["memo"], "abcdefghij\r\n")
+    state = program.keys("ctrl+z")
+    equal((state["memo"], state["events"]), ("abcdefghij", ["memo.Change"]))
+    equal(program.keys("ctrl+y")["memo"], "abcdefghij\r\n")
+    # The menu of the box: Undo, then Redo.
+    program.click(program.focus(), button=3, looks=False)
+    program.picture("memo_menu")
+    equal(program.keys("u")["memo"], "abcdefghij")
+    program.click(program.focus(), button=3, looks=False)
+    equal(program.keys("r")["memo"], "abcdefghij\r\n")
+    equal(program.keys("alt+BackSpace")["memo"], "abcdefghij")
+    equal(program.keys("ctrl+Home", "ctrl+shift+End", "Delete")["memo"], "")
+
+
 def options_are_chosen(program):
     state = program.keys("Tab")
     equal(program.focus()["text"], "Small")
@@ -303,6 +324,7 @@ def main():
     try:
         full = memo_holds_its_limits(program)
         memo_copies_and_pastes(program, full)
+        memo_undoes_accepted_edits(program)
         options_are_chosen(program)
         label_hears_clicks(program)
         page_shows_the_caption(program)

@@ -40,6 +40,25 @@ TEST_F(KeysTest, TabLeavesAMemoAndReturnStaysInIt) {
     EXPECT_EQ(Send(WM_SYSCHAR, 'x'), S_FALSE);
 }
 
+TEST_F(KeysTest, AMemoKeepsTheKeyboardUnderOtherScrollBarsAndWhileItIsDisabled) {
+    Place(u"VMemo");
+    const Late memo(site_.As<IDispatch>());
+    EXPECT_EQ(memo.Put(L"Text", Text()), S_OK);
+    Activate();
+    const HWND former = GetFocus();
+    SendMessageW(former, WM_CHAR, u'a', 1);
+    EXPECT_EQ(memo.Put(L"ScrollBars", std::int32_t{3}), S_OK);
+    EXPECT_NE(GetFocus(), former);
+    SendMessageW(GetFocus(), WM_CHAR, u'b', 1);
+    EXPECT_EQ(ToText(memo.Get(L"Text")), u"ab");
+    EXPECT_EQ(memo.Put(L"Enabled", false), S_OK);
+    SendMessageW(GetFocus(), WM_CHAR, u'x', 1);
+    EXPECT_EQ(memo.Put(L"Enabled", true), S_OK);
+    SendMessageW(GetFocus(), WM_CHAR, u'c', 1);
+    EXPECT_EQ(ToText(memo.Get(L"Text")), u"abc");
+    EXPECT_THAT(site_.Log().Take(), ::testing::Each(::testing::Not(::testing::HasSubstr("Focus"))));
+}
+
 TEST_F(KeysTest, ArrowsStayInAnOptionListAndTabLeavesIt) {
     Place(u"VOptList");
     const Late list(site_.As<IDispatch>());

@@ -221,6 +221,60 @@ TEST_F(QtOptionsTest, TheMarkMayStandAtTheRight) {
     EXPECT_NE(Button(3).grab().toImage(), left);
 }
 
+TEST_F(QtOptionsTest, TheWholeRowIsTheButton) {
+    for (const std::int16_t alignment : {std::int16_t{0}, std::int16_t{1}}) {
+        for (const std::int16_t index : {std::int16_t{0}, std::int16_t{1}, std::int16_t{3}}) {
+            options_->Item(index).SetAlignment(alignment);
+        }
+        options_->Item(0).SetCaption(u"a");
+        const QRect row = Button(0).rect();
+        for (const QPoint place : {row.topLeft(), row.bottomRight(), row.center(),
+                                   QPoint(row.right() - 8, row.center().y())}) {
+            options_->Item(1).Select(true);
+            QTest::mouseClick(&Button(0), Qt::LeftButton, {}, place);
+            EXPECT_TRUE(options_->Item(0).IsSelected()) << alignment << " " << place.x();
+        }
+    }
+}
+
+TEST_F(QtOptionsTest, AButtonThatIsHiddenPassesTheFocusOn) {
+    Button(1).setFocus();
+    options_->Item(1).SetVisible(false);
+    EXPECT_TRUE(Button(0).hasFocus()) << "where Tab stops";
+    options_->Item(3).Select(true);
+    clicks_.clicked.clear();
+    options_->Item(0).SetEnabled(false);
+    EXPECT_TRUE(Button(3).hasFocus()) << "the selected one";
+    options_->Item(3).SetVisible(false);
+    EXPECT_TRUE(WidgetOf(*before_).hasFocus()) << "no button is left";
+    EXPECT_THAT(clicks_.clicked, ElementsAre()) << "nothing is selected by the focus";
+}
+
+TEST_F(QtOptionsTest, ADisabledFrameGreysItsButtons) {
+    const auto countOf = [](QWidget& widget, const QColor& colour) {
+        const QImage shown = widget.grab().toImage();
+        int count = 0;
+        for (int y = 0; y < shown.height(); ++y) {
+            for (int x = 0; x < shown.width(); ++x) {
+                count += shown.pixelColor(x, y).hue() == colour.hue() &&
+                                 shown.pixelColor(x, y).saturation() > 100
+                             ? 1
+                             : 0;
+            }
+        }
+        return count;
+    };
+    for (const std::int16_t alignment : {std::int16_t{0}, std::int16_t{1}}) {
+        options_->Item(1).SetForeColor(Rgb(255, 0, 0));
+        options_->Item(1).SetAlignment(alignment);
+        EXPECT_GT(countOf(Button(1), Qt::red), 0);
+        frame_->SetEnabled(false);
+        EXPECT_EQ(countOf(Button(1), Qt::red), 0) << alignment;
+        EXPECT_TRUE(options_->Item(1).Enabled());
+        frame_->SetEnabled(true);
+    }
+}
+
 TEST_F(QtOptionsTest, AClickMayDestroyAllOfThem) {
     clicks_.act = [&] { options_.reset(); };
     QPointer<QWidget> button(&Button(1));

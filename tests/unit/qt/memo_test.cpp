@@ -75,6 +75,16 @@ class QtMemoTest : public ::testing::Test {
         QApplication::sendEvent(Edit().viewport(), &drop);
         return drop.isAccepted() ? drop.dropAction() : Qt::IgnoreAction;
     }
+    // What an input method sends.
+    void Compose(const QString& text) {
+        QInputMethodEvent composing(text, {});
+        QApplication::sendEvent(&Edit(), &composing);
+    }
+    void Commit(const QString& text) {
+        QInputMethodEvent committing;
+        committing.setCommitString(text);
+        QApplication::sendEvent(&Edit(), &committing);
+    }
     void Paste(const QString& text) {
         QApplication::clipboard()->setText(text);
         QTest::keyClick(&Edit(), Qt::Key_V, Qt::ControlModifier);
@@ -165,11 +175,79 @@ TEST_F(QtMemoTest, ComposedTextIsPressedAndChangesOnce) {
     committing.setCommitString(QStringLiteral("\u4F60\u597D"));
     QApplication::sendEvent(&Edit(), &committing);
     EXPECT_EQ(Contents(), u"\u4F60\u597D");
-    EXPECT_THAT(form_.events, ElementsAre(u"KeyPress", u"KeyPress", u"Change"));
+    EXPECT_THAT(form_.events,
+                ElementsAre(u"KeyDown", u"KeyPress", u"KeyPress", u"Change", u"KeyUp"));
     Let(u"MaxLength", std::int32_t{3});
     committing.setCommitString(QStringLiteral("\u4F60\u597D"));
     QApplication::sendEvent(&Edit(), &committing);
     EXPECT_EQ(Contents(), u"\u4F60\u597D\u4F60");
+}
+
+TEST_F(QtMemoTest, AComposedTextThatDoesNotFitIsRefused) {
+    Limit(4, 0);
+    TypeKeys(Edit(), u"abc");
+    Box().SetSelStart(1);
+    Compose(QStringLiteral("ni"));
+    EXPECT_EQ(Contents(), u"abc");
+    Commit(QStringLiteral("\u4F60\u597D"));
+    EXPECT_EQ(Contents(), u"abc");
+    EXPECT_EQ(Box().SelStart(), 1) << "where it was composed, wherever a key was pressed last";
+    Commit(QStringLiteral("\u4F60"));
+    EXPECT_EQ(Contents(), u"a\u4F60bc");
+    Undo();
+    EXPECT_EQ(Contents(), u"abc");
+}
+
+TEST_F(QtMemoTest, ACompositionKeepsTheSelectionUntilItIsCommitted) {
+    Let(u"Text", Text(u"ab\r\ncd"));
+    Box().SetSelection(1, 5);
+    form_.events.clear();
+    Compose(QStringLiteral("n"));
+    Compose(QStringLiteral("ni"));
+    EXPECT_EQ(Contents(), u"ab\r\ncd");
+    EXPECT_EQ(Box().SelStart(), 1);
+    EXPECT_EQ(Box().SelLength(), 4);
+    Compose(QString());  // cancelled
+    EXPECT_EQ(Contents(), u"ab\r\ncd");
+    EXPECT_EQ(Box().SelLength(), 4);
+    EXPECT_THAT(form_.events, ElementsAre()) << "no edit yet";
+    Compose(QStringLiteral("ni"));
+    Commit(QStringLiteral("\u4F60"));
+    EXPECT_EQ(Contents(), u"a\u4F60d");
+    EXPECT_EQ(Changes(), 1);
+    Undo();
+    EXPECT_EQ(Contents(), u"ab\r\ncd");
+}
+
+TEST_F(QtMemoTest, ACommitGoesOnComposing) {
+    Limit(3, 0);
+    QInputMethodEvent both(QStringLiteral("\u3131"), {});
+    both.setCommitString(QStringLiteral("\uAC00"));
+    for (int syllable = 0; syllable < 4; ++syllable) {
+        QApplication::sendEvent(&Edit(), &both);
+    }
+    EXPECT_EQ(Contents(), u"\uAC00\uAC00\uAC00") << "the fourth is refused";
+    Commit(QStringLiteral(" "));
+    EXPECT_EQ(Contents(), u"\uAC00\uAC00\uAC00");
+    EXPECT_EQ(Changes(), 5);
+}
+
+TEST_F(QtMemoTest, AHandlerTakesAComposedTextAway) {
+    form_.onEvent = [](TextView name, std::span<Value> arguments) {
+        if (name == u"KeyDown") {
+            EXPECT_EQ(arguments[0], Value(std::int16_t{229}));
+            arguments[0] = std::int16_t{0};
+        }
+    };
+    Commit(QStringLiteral("x"));
+    EXPECT_EQ(Contents(), u"");
+    form_.onEvent = [](TextView name, std::span<Value> arguments) {
+        if (name == u"KeyPress" && arguments[0] == Value(std::int16_t{u'x'})) {
+            arguments[0] = std::int16_t{0};
+        }
+    };
+    Commit(QStringLiteral("axb"));
+    EXPECT_EQ(Contents(), u"ab");
 }
 
 TEST_F(QtMemoTest, AContainerEntersAnotherUnit) {
@@ -612,6 +690,77 @@ TEST_F(QtMemoTest, EachSettingShowsItsScrollBars) {
         EXPECT_EQ(Edit(bars).lineWrapMode(),
                   bars % 2 == 1 ? QPlainTextEdit::NoWrap : QPlainTextEdit::WidgetWidth);
     }
+}
+
+TEST_F(QtMemoTest, OtherScrollBarsKeepTheKeyboardAndTheCaret) {
+    form_.Place(u"VMemo", {0, 1800, 4500, 1800});
+    for (std::int16_t from = 0; from < 4; ++from) {
+        for (std::int16_t to = 0; to < 4; ++to) {
+            Let(u"Text", Text());
+            Let(u"ScrollBars", std::int32_t{from});
+            Edit(from).setFocus();
+            TypeKeys(Edit(from), u"abxcd");
+            Box(from).SetSelStart(2);
+            Box(from).SetSelLength(1);
+            Let(u"ScrollBars", std::int32_t{to});
+            ASSERT_TRUE(Edit(to).hasFocus()) << from << " " << to;
+            TypeKeys(*QApplication::focusWidget(), u"e");
+            EXPECT_EQ(Contents(), u"abecd");
+        }
+    }
+}
+
+TEST_F(QtMemoTest, ACaretThatTheLimitsPlacedStays) {
+    TypeKeys(Edit(), u"abcdef");
+    Limit(6, 0);
+    TypeKeys(Edit(), u"\b");
+    Box().SetSelStart(1);
+    QTest::keyClick(&Edit(), Qt::Key_Shift);  // the caret at the last key press
+    Box().SetSelStart(5);
+    Limit(3, 0);
+    Let(u"ScrollBars", std::int32_t{2});
+    EXPECT_TRUE(Edit(2).hasFocus());
+    EXPECT_EQ(Box(2).SelStart(), 1);
+}
+
+TEST_F(QtMemoTest, ADisabledMemoKeepsTheKeyboardForLater) {
+    HostedControl& other = form_.Place(u"VMemo", {0, 1800, 4500, 1800});
+    TypeKeys(Edit(), u"ab");
+    Let(u"Enabled", false);
+    EXPECT_FALSE(Edit().hasFocus());
+    ASSERT_NE(QApplication::focusWidget(), nullptr);
+    EXPECT_TRUE(memo_.isAncestorOf(QApplication::focusWidget()));
+    Let(u"Enabled", true);
+    EXPECT_TRUE(Edit().hasFocus());
+    TypeKeys(*QApplication::focusWidget(), u"c");
+    EXPECT_EQ(Contents(), u"abc");
+    Let(u"Enabled", false);
+    Let(u"ScrollBars", std::int32_t{3});
+    Let(u"Enabled", true);
+    EXPECT_TRUE(Edit(3).hasFocus());
+    // The user moves on.
+    Let(u"Enabled", false);
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+    QWidget& edit = dynamic_cast<TextBox&>(*other.Parts().Find(u"Text1", 0)).Edit();
+    EXPECT_TRUE(edit.hasFocus());
+    Let(u"Enabled", true);
+    EXPECT_TRUE(edit.hasFocus());
+}
+
+TEST_F(QtMemoTest, AShorterListKeepsTheKeyboardAndSelectsNothing) {
+    HostedControl& list = form_.Place(u"VOptList", {0, 1800, 4500, 1800});
+    list.Automation().Let(u"Contents", Text(u"a|b|c"));
+    list.FocusFirst();
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Up);
+    EXPECT_EQ(ToText(list.Automation().Get(u"Text")), u"c");
+    form_.events.clear();
+    list.Automation().Let(u"Contents", Text(u"a|b"));
+    ASSERT_NE(QApplication::focusWidget(), nullptr);
+    EXPECT_TRUE(list.isAncestorOf(QApplication::focusWidget()));
+    EXPECT_EQ(ToText(list.Automation().Get(u"Text")), u"");
+    EXPECT_THAT(form_.events, ElementsAre());
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Down);
+    EXPECT_EQ(ToText(list.Automation().Get(u"Text")), u"b") << "from the first item";
 }
 
 TEST_F(QtMemoTest, TabLeavesTheBoxAndCtrlTabDoesNot) {

@@ -1,6 +1,7 @@
 // The caption page on real widgets.
 #include <QAccessible>
 #include <QApplication>
+#include <QInputMethodEvent>
 #include <QTest>
 
 #include <gmock/gmock.h>
@@ -78,6 +79,29 @@ TEST_F(QtPageTest, ShortcutsInsertMarkup) {
     EXPECT_EQ(Caption().GetText(), u"|i:1||CR||Q|x |B:1| y");
     EXPECT_TRUE(page_->Changed());
     EXPECT_EQ(told_, std::vector<bool>{true});
+}
+
+TEST_F(QtPageTest, ComposedTextIsHeldToTheFields) {
+    const auto compose = [](TextBox& box, const QString& composed, const QString& committed) {
+        box.Edit().setFocus();
+        QInputMethodEvent composing(composed, {});
+        QApplication::sendEvent(&box.Edit(), &composing);
+        QInputMethodEvent committing;
+        committing.setCommitString(committed);
+        QApplication::sendEvent(&box.Edit(), &committing);
+    };
+    auto& indent = Part<TextBox>(u"txtBulletIndent");
+    indent.SetSelection(0, -1);
+    compose(indent, QStringLiteral("1\u3044"), QStringLiteral("1\u30442"));
+    EXPECT_EQ(indent.GetText(), u"12") << "digits only";
+    Caption().SetSelection(2, 5);
+    compose(Caption(), QStringLiteral("\u00A8"), QStringLiteral("\u00EF"));
+    EXPECT_EQ(Caption().GetText(), u"x \u00EF y");
+    compose(Caption(), QStringLiteral("\""), QStringLiteral("\""));
+    EXPECT_EQ(Caption().GetText(), u"x \u00EF|Q| y") << "a dead key and a blank";
+    EXPECT_EQ(PreviewCaption(), u"x \u00EF|Q| y");
+    Press(Qt::Key_Z);
+    EXPECT_EQ(Caption().GetText(), u"x \u00EF y");
 }
 
 TEST_F(QtPageTest, EachShortcutIsAnUndoStep) {

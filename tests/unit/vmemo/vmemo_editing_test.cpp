@@ -383,6 +383,16 @@ TEST_F(VMemoEditingTest, AnotherScrollBarsSettingTakesTheTextAlong) {
         << "the text is the control's own doing";
 }
 
+TEST_F(VMemoEditingTest, TheCaretAndTheSelectionGoOverToTheNewBox) {
+    Start(0, 0, u"abxcd");
+    memo_.Select(2, 1);
+    memo_->pLetScrollBars(host::ScrollBars::Vertical);
+    memo_.Type(u"e");
+    EXPECT_EQ(memo_.Shown(), u"abecd");
+    memo_->pLetScrollBars(host::ScrollBars::None);
+    EXPECT_EQ(memo_.Caret(), 3);
+}
+
 TEST_F(VMemoEditingTest, ATextThatDoesNotFitIsRefusedByTheNewBox) {
     Start(0, 0, u"abc");
     memo_.Type(u"def");

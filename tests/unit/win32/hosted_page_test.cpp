@@ -10,6 +10,7 @@
 #include "runtime/memory/property_bag.h"
 #include "runtime/win32/drawable.h"
 #include "runtime/win32/screen_font.h"
+#include "runtime/win32/text_box.h"
 #include "runtime/win32/window.h"
 #include "tests/support/picture.h"
 #include "tests/support/window_count.h"
@@ -67,6 +68,29 @@ class HostedPageTest : public ::testing::Test {
     Site site_;
     Selected selected_{label_.Hosted().Automation()};
 };
+
+TEST_F(HostedPageTest, ComposedTextIsHeldToTheFields) {
+    const auto page = NewPage();
+    page->GetPage().PropertyPage_SelectionChanged();
+    const auto box = [&](int index) -> win32::TextBox& {
+        return dynamic_cast<win32::TextBox&>(
+            *win32::Window::Of(Child(page->Handle(), L"Edit", index)));
+    };
+    win32::TextBox& caption = box(0);
+    win32::TextBox& indent = box(2);
+    indent.SetSelection(0, -1);
+    indent.EnterComposed(u"1\x3044\x32");
+    EXPECT_EQ(indent.GetText(), u"12") << "digits only";
+    caption.SetText(u"x y");
+    caption.SetSelStart(1);
+    caption.EnterComposed(u"\xEF");
+    caption.EnterComposed(u"\"");
+    EXPECT_EQ(caption.GetText(), u"x\xEF|Q| y");
+    SendMessageW(caption.Handle(), EM_UNDO, 0, 0);
+    EXPECT_EQ(caption.GetText(), u"x\xEF y") << "the shortcut is a step";
+    SendMessageW(caption.Handle(), EM_UNDO, 0, 0);
+    EXPECT_EQ(caption.GetText(), u"x y");
+}
 
 TEST_F(HostedPageTest, IsAsLargeAsItIsLaidOut) {
     const auto page = NewPage();

@@ -219,6 +219,58 @@ TEST_F(OptionButtonsWindowTest, ADisabledFrameGivesTheFocusAway) {
     EXPECT_EQ(GetFocus(), panel_->Handle());
     EXPECT_TRUE(options_->Item(1).Enabled());
     EXPECT_FALSE(IsWindowEnabled(WindowOf(*frame_)));
+    frame_->SetEnabled(true);
+    EXPECT_EQ(GetFocus(), At(1)) << "it comes back";
+    EXPECT_EQ(recorder_.Take(), Indices{});
+}
+
+TEST_F(OptionButtonsWindowTest, AButtonThatIsHiddenPassesTheFocusOn) {
+    SetFocus(At(2));
+    options_->Item(2).SetVisible(false);
+    EXPECT_EQ(GetFocus(), At(0)) << "where Tab stops";
+    options_->Item(3).Select(true);
+    recorder_.Take();
+    options_->Item(0).SetEnabled(false);
+    EXPECT_EQ(GetFocus(), At(3)) << "the selected one";
+    options_->Item(3).SetVisible(false);
+    options_->Item(1).SetVisible(false);
+    EXPECT_EQ(GetFocus(), panel_->Handle());
+    options_->Item(2).SetVisible(true);
+    EXPECT_EQ(GetFocus(), At(2));
+    EXPECT_EQ(recorder_.Take(), Indices{}) << "nothing is selected by the focus";
+}
+
+TEST_F(OptionButtonsWindowTest, AnElementOutOfUsePassesTheFocusToTheNextTabStop) {
+    host::TextBoxEvents events;
+    const auto box = Parts().AddTextBox(
+        {{.name = u"Text1", .placement = {.width = 600, .height = 300}}}, events);
+    SetFocus(At(1));
+    frame_->SetEnabled(false);
+    EXPECT_EQ(GetFocus(), WindowOf(*box));
+    frame_->SetEnabled(true);
+    EXPECT_EQ(GetFocus(), WindowOf(*box)) << "the user goes on there";
+    box->SetVisible(false);
+    EXPECT_EQ(GetFocus(), At(0));
+}
+
+TEST_F(OptionButtonsWindowTest, ADisabledFrameGreysItsButtons) {
+    options_->Item(3).SetEnabled(false);
+    const auto enabled = [&] {
+        return std::vector<bool>{IsWindowEnabled(At(0)) != FALSE, IsWindowEnabled(At(1)) != FALSE,
+                                 IsWindowEnabled(At(3)) != FALSE};
+    };
+    frame_->SetEnabled(false);
+    options_->Load(4);
+    EXPECT_EQ(enabled(), (std::vector<bool>{false, false, false}));
+    EXPECT_FALSE(IsWindowEnabled(At(4)));
+    EXPECT_TRUE(options_->Item(1).Enabled());
+    EXPECT_TRUE(options_->Item(4).Enabled());
+    options_->Item(3).SetEnabled(true);
+    EXPECT_FALSE(IsWindowEnabled(At(3)));
+    options_->Item(1).SetEnabled(false);
+    frame_->SetEnabled(true);
+    EXPECT_EQ(enabled(), (std::vector<bool>{true, false, true}));
+    EXPECT_TRUE(IsWindowEnabled(At(4)));
 }
 
 TEST_F(OptionButtonsWindowTest, AThousandAreThere) {

@@ -1,8 +1,11 @@
 #include "runtime/win32/text_box.h"
 
+#include <algorithm>
 #include <functional>
 #include <memory>
 #include <utility>
+
+#include <imm.h>
 
 #include "tests/support/window_count.h"
 #include "tests/unit/win32/parts_form.h"
@@ -310,6 +313,272 @@ TEST_F(TextBoxTest, EveryEditIsOneChange) {
     EXPECT_EQ(recorder_.Take(), (Lines{"down 8 0", "press 8", "up 8 0"})) << "nothing to delete";
 }
 
+void CALLBACK PressTimersLetter(HWND window, UINT /*message*/, UINT_PTR timer, DWORD /*time*/) {
+    KillTimer(window, timer);
+    PostMessageW(GetFocus(), WM_CHAR, timer, 1);
+}
+
+// The steps that the user undoes and redoes.
+class TextBoxUndoTest : public TextBoxTest {
+ protected:
+    // Makes a box with the focus that refuses texts of more than `most` units.
+    host::TextBox& Limited(std::size_t most) {
+        host::TextBox& box = Box(u"");
+        Focus();
+        recorder_.onEvent = [this, most](const std::string& line) {
+            if (line != "change" || isPuttingBack_) {
+                return;
+            }
+            if (box_->GetText().size() <= most) {
+                accepted_ = box_->GetText();
+                return;
+            }
+            isPuttingBack_ = true;
+            box_->SetText(accepted_);
+            isPuttingBack_ = false;
+            box_->SetSelStart(static_cast<std::int32_t>(accepted_.size()));
+        };
+        return box;
+    }
+    void Undo() {
+        const HeldKey control(VK_CONTROL);
+        Strike(Handle(), 'Z', 26);
+    }
+    void Redo() {
+        const HeldKey control(VK_CONTROL);
+        Strike(Handle(), 'Y', 25);
+    }
+    bool CanUndo() { return SendMessageW(Handle(), EM_CANUNDO, 0, 0) != FALSE; }
+    void PasteText(TextView text) {
+        PutOnClipboard(form_.Window(), text);
+        SendMessageW(Handle(), WM_PASTE, 0, 0);
+    }
+    // Opens the box's menu and presses a letter in it. The menu waits for messages, so the key is
+    // posted by a timer.
+    void ChooseFromMenu(wchar_t letter) {
+        SetTimer(form_.Window(), static_cast<UINT_PTR>(letter), 1, PressTimersLetter);
+        SendMessageW(Handle(), WM_CONTEXTMENU, reinterpret_cast<WPARAM>(Handle()), -1);
+    }
+    std::ptrdiff_t Changes() {
+        const Lines lines = recorder_.Take();
+        return std::count(lines.begin(), lines.end(), "change");
+    }
+
+    Text accepted_;
+    bool isPuttingBack_ = false;
+};
+
+TEST_F(TextBoxUndoTest, StepsThroughTheAcceptedEdits) {
+    host::TextBox& box = Limited(9);
+    TypeText(Handle(), u"ab\rcd");
+    box.SetSelStart(0);
+    PasteText(u"12345");  // refused
+    EXPECT_EQ(box.GetText(), u"ab\r\ncd");
+    box.SetSelStart(0);
+    TypeText(Handle(), u"xyzw");  // w is refused
+    const std::vector<Text> steps = {u"", u"ab", u"ab\r\n", u"ab\r\ncd", u"xyzab\r\ncd"};
+    EXPECT_EQ(box.GetText(), steps.back());
+    for (std::size_t step = steps.size() - 1; step > 0; --step) {
+        recorder_.Take();
+        Undo();
+        EXPECT_EQ(box.GetText(), steps[step - 1]);
+        EXPECT_EQ(Changes(), 1);
+    }
+    Undo();
+    EXPECT_EQ(box.GetText(), u"");
+    EXPECT_EQ(Changes(), 0);
+    for (std::size_t step = 1; step < steps.size(); ++step) {
+        recorder_.Take();
+        Redo();
+        EXPECT_EQ(box.GetText(), steps[step]);
+        EXPECT_EQ(Changes(), 1);
+    }
+    Undo();
+    const HeldKey shift(VK_SHIFT);
+    Undo();
+    EXPECT_EQ(box.GetText(), steps.back()) << "Ctrl+Shift+Z redoes";
+}
+
+TEST_F(TextBoxUndoTest, BothKindsOfBoxUndo) {
+    for (const bool multiLine : {true, false}) {
+        host::TextBox& box = Box(u"", multiLine);
+        Focus();
+        TypeText(Handle(), u"abc");
+        Strike(Handle(), VK_BACK, u'\b');
+        Strike(Handle(), VK_BACK, u'\b');
+        box.SetSelStart(0);
+        Strike(Handle(), VK_DELETE);
+        EXPECT_EQ(box.GetText(), u"");
+        Undo();
+        EXPECT_EQ(box.GetText(), u"a");
+        Undo();
+        EXPECT_EQ(box.GetText(), u"abc");
+        EXPECT_EQ(box.SelStart(), 3);
+        Undo();
+        EXPECT_EQ(box.GetText(), u"");
+        Redo();
+        Redo();
+        EXPECT_EQ(box.GetText(), u"a");
+    }
+}
+
+TEST_F(TextBoxUndoTest, EveryWayToUndoLeadsToTheSteps) {
+    host::TextBox& box = Limited(3);
+    const std::vector<std::function<void()>> ways = {
+        [&] { EXPECT_NE(SendMessageW(Handle(), EM_UNDO, 0, 0), FALSE); },
+        [&] { EXPECT_NE(SendMessageW(Handle(), WM_UNDO, 0, 0), FALSE); },
+        [&] {
+            const HeldKey alt(VK_MENU);
+            SendMessageW(Handle(), WM_SYSKEYDOWN, VK_BACK, 0x20000001);
+            SendMessageW(Handle(), WM_SYSCHAR, u'\b', 0x20000001);
+            SendMessageW(Handle(), WM_SYSKEYUP, VK_BACK, static_cast<LPARAM>(0xE0000001));
+        },
+    };
+    for (const auto& undo : ways) {
+        EXPECT_FALSE(CanUndo());
+        TypeText(Handle(), u"abcd");
+        EXPECT_TRUE(CanUndo());
+        undo();
+        EXPECT_EQ(box.GetText(), u"");
+        SendMessageW(Handle(), EM_EMPTYUNDOBUFFER, 0, 0);
+    }
+    EXPECT_EQ(SendMessageW(Handle(), EM_UNDO, 0, 0), FALSE);
+}
+
+TEST_F(TextBoxUndoTest, ARefusedUndoCanBeRepeated) {
+    host::TextBox& box = Box(u"");
+    Focus();
+    TypeText(Handle(), u"abcdef");
+    box.SetSelection(0, -1);
+    Strike(Handle(), VK_BACK, u'\b');
+    std::size_t most = 3;
+    recorder_.onEvent = [&](const std::string& line) {
+        if (line == "change" && box_->GetText().size() > most) {
+            box_->SetText(u"");
+        }
+    };
+    Undo();
+    EXPECT_EQ(box.GetText(), u"") << "the six letters no longer fit";
+    EXPECT_TRUE(CanUndo());
+    most = 6;
+    Undo();
+    EXPECT_EQ(box.GetText(), u"abcdef");
+}
+
+TEST_F(TextBoxUndoTest, ATextThatAnEventAssignsIsAStep) {
+    host::TextBox& box = Box(u"");
+    Focus();
+    recorder_.onKeyPress = [&](std::int16_t keyAscii) {
+        if (keyAscii != u'"') {
+            return keyAscii;
+        }
+        box_->SetText(Text(box_->GetText()) + u"|Q|");
+        box_->SetSelection(100, 100);
+        return std::int16_t{0};
+    };
+    TypeText(Handle(), u"ab\"c");
+    EXPECT_EQ(box.GetText(), u"ab|Q|c");
+    Undo();
+    EXPECT_EQ(box.GetText(), u"ab|Q|");
+    Undo();
+    EXPECT_EQ(box.GetText(), u"ab");
+    Redo();
+    EXPECT_EQ(box.GetText(), u"ab|Q|");
+}
+
+TEST_F(TextBoxUndoTest, ACorrectionIsAPartOfTheEdit) {
+    host::TextBox& box = Box(u"");
+    Focus();
+    recorder_.onEvent = [&](const std::string& line) {
+        if (line == "change" && box_->GetText().ends_with(u"b")) {
+            box_->SetText(Text(box_->GetText()) + u"!");
+        }
+    };
+    TypeText(Handle(), u"ab");
+    EXPECT_EQ(box.GetText(), u"ab!");
+    Undo();
+    EXPECT_EQ(box.GetText(), u"a");
+    Redo();
+    EXPECT_EQ(box.GetText(), u"ab!");
+}
+
+TEST_F(TextBoxUndoTest, AnAssignmentByCodeForgetsTheSteps) {
+    host::TextBox& box = Box(u"");
+    Focus();
+    TypeText(Handle(), u"ab");
+    box.SetText(u"code");
+    EXPECT_FALSE(CanUndo());
+    Undo();
+    Redo();
+    EXPECT_EQ(box.GetText(), u"code");
+    SendMessageW(Handle(), EM_REPLACESEL, TRUE, reinterpret_cast<LPARAM>(L"x"));
+    EXPECT_TRUE(CanUndo()) << "another program's edit that can be undone";
+    SendMessageW(Handle(), EM_REPLACESEL, FALSE, reinterpret_cast<LPARAM>(L"y"));
+    EXPECT_FALSE(CanUndo());
+}
+
+TEST_F(TextBoxUndoTest, ALockedBoxUndoesNothing) {
+    host::TextBox& box = Box(u"");
+    Focus();
+    TypeText(Handle(), u"ab");
+    box.SetLocked(true);
+    Undo();
+    EXPECT_EQ(SendMessageW(Handle(), EM_UNDO, 0, 0), FALSE);
+    EXPECT_EQ(box.GetText(), u"ab");
+    box.SetLocked(false);
+    box.SetMaxLength(1);
+    box.SetSelection(0, -1);
+    Strike(Handle(), VK_DELETE);
+    Undo();
+    EXPECT_EQ(box.GetText(), u"ab") << "longer than what may be entered";
+    TypeText(Handle(), u"c");
+    EXPECT_EQ(box.GetText(), u"ab");
+}
+
+TEST_F(TextBoxUndoTest, OddTextsAreUndone) {
+    host::TextBox& box = Box(u"");
+    Focus();
+    const Text odd = u"a\rb\nc\r\n\td\xD83D\xDE00\r\n\r";
+    PasteText(odd);
+    for (std::int32_t start = 0; start < 5; ++start) {
+        box.SetSelection(start, start + 4);
+        PasteText(u"1\r\n2");
+    }
+    for (int step = 0; step < 5; ++step) {
+        Undo();
+    }
+    EXPECT_EQ(box.GetText(), odd);
+}
+
+TEST_F(TextBoxUndoTest, TheMenuUndoes) {
+    host::TextBox& box = Limited(3);
+    TypeText(Handle(), u"abcd");
+    EXPECT_EQ(box.GetText(), u"abc");
+    ChooseFromMenu(L'U');
+    EXPECT_EQ(box.GetText(), u"");
+    ChooseFromMenu(L'R');
+    EXPECT_EQ(box.GetText(), u"abc");
+    ChooseFromMenu(L'A');
+    EXPECT_EQ(box.SelLength(), 3);
+    ChooseFromMenu(L'T');
+    EXPECT_EQ(box.GetText(), u"");
+    ChooseFromMenu(L'P');
+    EXPECT_EQ(box.GetText(), u"abc");
+}
+
+TEST_F(TextBoxUndoTest, AMillionUnitsAreTypedIntoAndUndone) {
+    const Text text = LongText(1'000'000);
+    host::TextBox& box = Box(u"");
+    box.SetText(text);
+    box.SetSelStart(500'000);
+    Focus();
+    TypeText(Handle(), Text(50, u'x'));
+    EXPECT_EQ(box.GetText().size(), 1'000'050U);
+    Undo();
+    EXPECT_EQ(box.GetText(), text);
+    EXPECT_EQ(box.SelStart(), 500'000);
+}
+
 TEST_F(TextBoxTest, CtrlVPastesOnce) {
     host::TextBox& box = Box(u"");
     Focus();
@@ -327,6 +596,91 @@ TEST_F(TextBoxTest, TakesWhatAnInputMethodComposed) {
     Pump();
     EXPECT_EQ(box.GetText(), u"\x3042");
     EXPECT_EQ(recorder_.Take(), (Lines{"press 12354", "change"}));
+}
+
+TEST_F(TextBoxTest, WhatAnInputMethodComposesIsNoEdit) {
+    host::TextBox& box = Box(u"abc");
+    Focus();
+    box.SetSelection(1, 2);
+    SendMessageW(Handle(), WM_IME_STARTCOMPOSITION, 0, 0);
+    SendMessageW(Handle(), WM_IME_COMPOSITION, 0x3042, GCS_COMPSTR | GCS_CURSORPOS);
+    EXPECT_EQ(box.GetText(), u"abc");
+    EXPECT_EQ(box.SelLength(), 1) << "the selection stays until the text is finished";
+    SendMessageW(Handle(), WM_IME_COMPOSITION, 0, 0);
+    SendMessageW(Handle(), WM_IME_ENDCOMPOSITION, 0, 0);
+    EXPECT_EQ(box.GetText(), u"abc");
+    EXPECT_EQ(recorder_.Take(), Lines{});
+}
+
+TEST_F(TextBoxTest, WhatAnInputMethodFinishesIsOneEdit) {
+    for (const bool multiLine : {true, false}) {
+        host::TextBox& box = Box(u"abc", multiLine);
+        Focus();
+        box.SetSelection(1, 2);
+        dynamic_cast<TextBox&>(box).EnterComposed(u"\x4F60\x597D");
+        EXPECT_EQ(box.GetText(), u"a\x4F60\x597D\x63");
+        EXPECT_EQ(recorder_.Take(), (Lines{"press 20320", "press 22909", "change"}));
+        box.SetMaxLength(5);
+        dynamic_cast<TextBox&>(box).EnterComposed(u"\x4F60\x597D");
+        EXPECT_EQ(box.GetText(), u"a\x4F60\x597D\x4F60\x63") << "as far as there is room";
+        SendMessageW(Handle(), EM_UNDO, 0, 0);
+        SendMessageW(Handle(), EM_UNDO, 0, 0);
+        EXPECT_EQ(box.GetText(), u"abc");
+        box.SetLocked(true);
+        recorder_.Take();
+        dynamic_cast<TextBox&>(box).EnterComposed(u"x");
+        EXPECT_EQ(recorder_.Take(), Lines{});
+        recorder_.onKeyPress = [](std::int16_t unit) {
+            return unit == u'x' ? std::int16_t{0} : unit;
+        };
+        box.SetLocked(false);
+        box.SetMaxLength(0);
+        box.SetSelStart(0);
+        dynamic_cast<TextBox&>(box).EnterComposed(u"1x2");
+        EXPECT_EQ(box.GetText(), u"12abc");
+        recorder_.onKeyPress = nullptr;
+    }
+}
+
+TEST_F(TextBoxTest, AKeyThatIsTakenTakesNoComposedText) {
+    host::TextBox& box = Box(u"");
+    Focus();
+    recorder_.onKeyDown = [](std::int16_t) { return std::int16_t{0}; };
+    SendMessageW(Handle(), WM_KEYDOWN, VK_PROCESSKEY, 1);
+    SendMessageW(Handle(), WM_IME_CHAR, 0x3042, 1);
+    Pump();
+    EXPECT_EQ(box.GetText(), u"\x3042");
+}
+
+TEST_F(TextBoxTest, ADeadKeyPressesNothingUntilItsLetterComes) {
+    host::TextBox& box = Box(u"");
+    Focus();
+    SendMessageW(Handle(), WM_KEYDOWN, VK_OEM_7, 1);
+    SendMessageW(Handle(), WM_DEADCHAR, 0xB4, 1);
+    SendMessageW(Handle(), WM_KEYUP, VK_OEM_7, static_cast<LPARAM>(0xC0000001));
+    EXPECT_EQ(recorder_.Take(), (Lines{"down 222 0", "up 222 0"}));
+    Strike(Handle(), 'E', 0xE9);
+    EXPECT_EQ(recorder_.Take(), (Lines{"down 69 0", "press 233", "change", "up 69 0"}));
+    SendMessageW(Handle(), WM_KEYDOWN, 'X', 1);  // no letter for the accent: both come
+    SendMessageW(Handle(), WM_CHAR, 0xB4, 1);
+    SendMessageW(Handle(), WM_CHAR, u'x', 1);
+    EXPECT_EQ(box.GetText(), u"\xE9\xB4x");
+}
+
+TEST_F(TextBoxTest, ASurrogatePairIsOneEdit) {
+    host::TextBox& box = Box(u"ab");
+    box.SetSelStart(2);
+    Focus();
+    recorder_.onEvent = [&](const std::string& line) {
+        if (line == "change" && box_->GetText().size() > 3) {
+            box_->SetText(u"ab");
+        }
+    };
+    Strike(Handle(), VK_PACKET, 0xD83D);
+    Strike(Handle(), VK_PACKET, 0xDE00);
+    EXPECT_EQ(box.GetText(), u"ab") << "no half of it is left";
+    EXPECT_EQ(recorder_.Take(), (Lines{"down 231 0", "press -10179", "up 231 0", "down 231 0",
+                                       "press -8704", "change", "change", "up 231 0"}));
 }
 
 TEST_F(TextBoxTest, KeysComeFromTheKeyboardThroughTheQueue) {
