@@ -264,6 +264,47 @@ TEST_F(QtConstituentsTest, LabelsNameWhatFollowsThem) {
     EXPECT_TRUE(WidgetOf(*edited).hasFocus());
 }
 
+TEST_F(QtConstituentsTest, AnAccessKeyIsUnderlinedAndLeadsToTheConstituent) {
+    host::CaptionDesign name = Captioned(u"A & name:");
+    name.accessKey = u'N';
+    auto label = Parts().AddLabel(name);
+    auto box = Parts().AddTextBox(Boxed(), edits_);
+    EXPECT_EQ(label->Caption(), u"A & name:");
+    EXPECT_EQ(static_cast<QLabel&>(WidgetOf(*label)).text(), QStringLiteral("A && &name:"));
+    EXPECT_EQ(NameOf(WidgetOf(*box)), QStringLiteral("A & name:"));
+    QTest::keyClick(&form_.window, Qt::Key_N, Qt::AltModifier);
+    EXPECT_TRUE(WidgetOf(*box).hasFocus());
+    host::CaptionDesign wrap = Captioned(u"Wrap");
+    wrap.accessKey = u'w';
+    auto check = Parts().AddCheckBox(wrap, clicks_);
+    auto button = Parts().AddCommandButton(wrap, clicks_);
+    EXPECT_EQ(static_cast<QCheckBox&>(WidgetOf(*check)).text(), QStringLiteral("&Wrap"));
+    EXPECT_EQ(static_cast<QAbstractButton&>(WidgetOf(*button)).text(), QStringLiteral("&Wrap"));
+    EXPECT_EQ(check->Caption(), u"Wrap");
+    EXPECT_EQ(button->Caption(), u"Wrap");
+}
+
+TEST_F(QtConstituentsTest, ALabelWithoutAMnemonicShowsItsTextAsItStands) {
+    host::CaptionDesign design = Captioned(u"&Edit");
+    design.useMnemonic = false;
+    auto label = Parts().AddLabel(design);
+    auto box = Parts().AddTextBox(Boxed(600), edits_);
+    auto& shown = static_cast<QLabel&>(WidgetOf(*label));
+    EXPECT_EQ(shown.text(), QStringLiteral("&Edit"));
+    EXPECT_NE(NameOf(WidgetOf(*box)), QStringLiteral("&Edit"));
+    QTest::keyClick(&form_.window, Qt::Key_E, Qt::AltModifier);
+    EXPECT_FALSE(WidgetOf(*box).hasFocus());
+    label->SetAutoSize(true);
+    const float line = label->Place().height;
+    label->SetCaption(u"a && b");
+    const float narrow = label->Place().width;
+    label->SetCaption(u"a && b\r\n\tc");
+    EXPECT_EQ(label->Caption(), u"a && b\r\n\tc");
+    EXPECT_EQ(shown.text(), QString::fromUtf16(u"a && b\u00B6\u00AC\u00BBc"));
+    EXPECT_EQ(label->Place().height, line);
+    EXPECT_GT(label->Place().width, narrow);
+}
+
 TEST_F(QtConstituentsTest, TellRolesAndStates) {
     auto box = Parts().AddCheckBox(Captioned(u"&Wrap"), clicks_);
     QAccessibleInterface& accessible = Accessible(WidgetOf(*box));

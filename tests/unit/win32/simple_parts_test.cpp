@@ -1,8 +1,10 @@
+#include <array>
 #include <functional>
 #include <memory>
 #include <utility>
 
 #include "frame/host/simple_constituents.h"
+#include "runtime/win32/keyboard.h"
 #include "runtime/win32/pixels.h"
 #include "tests/support/window_count.h"
 #include "tests/unit/win32/parts_form.h"
@@ -167,6 +169,72 @@ TEST_F(SimplePartsTest, ALabelHasItsOwnColours) {
     ReleaseDC(WindowOf(*label), device);
     EXPECT_NE(SendMessageW(WindowOf(*label), WM_GETDLGCODE, 0, 0) & DLGC_STATIC, 0)
         << "its mnemonic belongs to what follows";
+}
+
+TEST_F(SimplePartsTest, ALabelWithoutAMnemonicShowsItsTextAsItStands) {
+    host::CaptionDesign design = {{.name = u"L", .placement = {.width = 600, .height = 300}},
+                                  u"&a\r\n\tb"};
+    design.useMnemonic = false;
+    const auto label = Parts().AddLabel(design);
+    const auto shown = [&] {
+        std::array<wchar_t, 20> text = {};
+        GetWindowTextW(WindowOf(*label), text.data(), static_cast<int>(text.size()));
+        return std::wstring(text.data());
+    };
+    EXPECT_EQ(shown(), L"&a\u00B6\u00AC\u00BBb") << "also the designed text";
+    label->SetAutoSize(true);
+    const host::Placement one = label->Place();
+    label->SetCaption(u"&&a\r\n\tb");
+    EXPECT_EQ(label->Caption(), u"&&a\r\n\tb");
+    EXPECT_EQ(shown(), L"&&a\u00B6\u00AC\u00BBb");
+    EXPECT_GT(label->Place().width, one.width) << "each ampersand is shown";
+    EXPECT_EQ(label->Place().height, one.height);
+    const auto style = static_cast<DWORD>(GetWindowLongW(WindowOf(*label), GWL_STYLE));
+    EXPECT_NE(style & SS_NOPREFIX, 0U);
+    EXPECT_EQ(MnemonicsInside(panel_->Handle()), L"");
+}
+
+TEST_F(SimplePartsTest, AnAccessKeyIsUnderlinedAndTheCaptionStays) {
+    host::CaptionDesign design = {{.name = u"P", .placement = {.width = 600, .height = 300}},
+                                  u"One & more"};
+    design.accessKey = u'M';
+    const auto label = Parts().AddLabel(design);
+    const auto box = Parts().AddCheckBox(design, receiver_);
+    const auto button = Parts().AddCommandButton(design, receiver_);
+    const auto frame = Parts().AddFrame(design);
+    for (const HWND window :
+         {WindowOf(*label), WindowOf(*box), WindowOf(*button), WindowOf(*frame)}) {
+        std::array<wchar_t, 20> text = {};
+        GetWindowTextW(window, text.data(), static_cast<int>(text.size()));
+        EXPECT_STREQ(text.data(), L"One && &more");
+    }
+    EXPECT_EQ(label->Caption(), u"One & more");
+    EXPECT_EQ(button->Caption(), u"One & more");
+    label->SetCaption(u"Moon");
+    EXPECT_EQ(MnemonicsInside(panel_->Handle()), L"m");
+    EXPECT_TRUE(UseMnemonicInside(panel_->Handle(), L'm'));
+    EXPECT_EQ(GetFocus(), WindowOf(*box));
+}
+
+// The platform repaints only what a growing window did not show before.
+TEST_F(SimplePartsTest, ALabelThatGrowsIsRepaintedAsAWhole) {
+    const auto label = NewLabel(u"a b");
+    label->SetAutoSize(true);
+    const HWND window = WindowOf(*label);
+    for (const bool byCaption : {true, false}) {
+        ValidateRect(window, nullptr);
+        if (byCaption) {
+            label->SetCaption(u"a longer text in many words");
+        } else {
+            const host::Placement place = label->Place();
+            label->Move({place.left, place.top, place.width + 150, place.height + 150});
+        }
+        RECT inside = {};
+        GetClientRect(window, &inside);
+        RECT stale = {};
+        GetUpdateRect(window, &stale, FALSE);
+        EXPECT_TRUE(EqualRect(&stale, &inside)) << stale.left << " " << stale.right;
+    }
 }
 
 // ---- Buttons
