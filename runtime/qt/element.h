@@ -27,6 +27,8 @@ class Element {
     QWidget* Widget() const { return widget_; }
     /// The parent widget for constituents inside this one.
     virtual QWidget& Inside() const { return *widget_; }
+    /// Called when the area has grown or shrunk.
+    void FollowArea();
     /// Called when the colours of the palette changed.
     virtual void ShowColors() {}
     /// Called with the widget of the constituent that is created next.
@@ -59,10 +61,13 @@ class Element {
     const ErrorSink& Errors() const { return elements_.GetContext().errors; }
 
  private:
+    QRect Geometry() const;
+
     Elements& elements_;
     Text name_;
     std::int16_t index_;
     host::Placement placement_;
+    host::MovingEdges movingEdges_;
     bool visible_;
     bool enabled_ = true;
     QPointer<QWidget> widget_;

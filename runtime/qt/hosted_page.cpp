@@ -38,7 +38,8 @@ HostedPage::HostedPage(const Context& context, const ClassDescriptor& type, QWid
     if (type.createPage == nullptr) {
         Raise(ErrorNumber::CannotCreateObject);
     }
-    setFixedSize(ToPixels({.width = type.pageWidth, .height = type.pageHeight}).size());
+    setMinimumSize(ToPixels({.width = type.pageWidth, .height = type.pageHeight}).size());
+    resize(minimumSize());
     const Notifying notifying;
     page_ = type.createPage(host_);
     page_->PropertyPage_Initialize();
@@ -53,6 +54,11 @@ void HostedPage::Select(std::vector<ObjectRef> controls) {
 void HostedPage::Apply() {
     const Notifying notifying;
     page_->PropertyPage_ApplyChanges();
+}
+
+void HostedPage::resizeEvent(QResizeEvent* event) {
+    QWidget::resizeEvent(event);
+    constituents_.FollowArea((size() - minimumSize()).expandedTo({0, 0}));
 }
 
 void HostedPage::changeEvent(QEvent* event) {

@@ -14,7 +14,8 @@
 
 namespace lumenkit::qt {
 
-/// One property page in its designed size. Errors of the page's procedures reach the caller; errors
+/// One property page. It has at least its designed size. In a larger one, the constituents whose
+/// edges move grow or move with the page. Errors of the page's procedures reach the caller; errors
 /// of its event handlers go to the context's sink.
 class HostedPage final : public QWidget {
  public:
@@ -42,6 +43,7 @@ class HostedPage final : public QWidget {
 
  protected:
     void changeEvent(QEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
 
  private:
     struct Site final : host::PropertyPageSite {

@@ -30,6 +30,10 @@ class Element : public Window, public Drawable {
     bool IsVisible() const { return visible_; }    ///< regardless of its parents
     bool IsEnabled() const { return enabled_; }    ///< regardless of its parents
 
+    /// Called when the page around the constituent is larger than it is designed, by `growth`
+    /// pixels, or no longer is.
+    void FollowPage(SIZE growth);
+
     /// Draws the border, lets the window class draw the client area, and draws the children in it.
     void DrawOn(HDC device) override;
 
@@ -70,9 +74,14 @@ class Element : public Window, public Drawable {
     static LRESULT AnswerColors(WPARAM device, Color text, Color background);
 
  private:
+    RECT PlaceInPixels() const;
+    void PutInto(const RECT& former) const;
+
     Text name_;
     std::int16_t index_;
     host::Placement placement_;
+    host::MovingEdges movingEdges_;
+    SIZE growth_ = {0, 0};
     bool visible_;
     bool enabled_ = true;
     HWND owner_;

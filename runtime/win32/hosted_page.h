@@ -25,7 +25,8 @@ class HostedPage final : public HostedWindow {
 
     PropertyPage& GetPage() { return *page_; }
     Object& Automation() { return page_->Automation(); }
-    /// The size that the page is designed for, in pixels.
+    /// The size that the page is designed for, in pixels. In a larger window, the constituents
+    /// whose edges move grow or move with the page.
     SIZE Size() const { return size_; }
 
     /// Puts the window into `parent` at `place`, hidden.
@@ -41,6 +42,7 @@ class HostedPage final : public HostedWindow {
 
  private:
     LRESULT HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
+    void FollowSize() const;
 
     SIZE size_;
     Screen screen_{Resolution::OfScreen()};

@@ -1,6 +1,9 @@
 // The caption page on real widgets.
 #include <QApplication>
+#include <QLabel>
 #include <QTest>
+#include <algorithm>
+#include <map>
 
 #include <gmock/gmock.h>
 
@@ -9,6 +12,7 @@
 #include "runtime/qt/embedded_control.h"
 #include "runtime/qt/hosted_page.h"
 #include "runtime/qt/label.h"
+#include "runtime/qt/qt_text.h"
 #include "runtime/qt/scroll_bar.h"
 #include "runtime/qt/text_box.h"
 #include "tests/support/qt_form.h"
@@ -135,6 +139,71 @@ TEST_F(QtPageTest, TheMagnifierFollowsTheCaret) {
     EXPECT_TRUE(Part<Label>(u"labLeft").Widget()->isVisible());
     Press(Qt::Key_Tab, {});
     EXPECT_FALSE(Part<Label>(u"labLeft").Widget()->isVisible()) << "Tab leaves the caption";
+}
+
+TEST_F(QtPageTest, TheMagnifierShowsEveryCharacter) {
+    const auto shown = [&](TextView name) {
+        return static_cast<QLabel*>(Part<Label>(name).Widget())->text();
+    };
+    Caption().SetText(u"&a&&\r\n\tb");
+    Caption().SetSelStart(3);
+    Press(Qt::Key_Right, {});
+    EXPECT_EQ(shown(u"labLeft"), QStringLiteral("&a&&"));
+    EXPECT_EQ(shown(u"labChar"), QString(QChar(0xB6)));
+    EXPECT_EQ(shown(u"labRight"), QString::fromUtf16(u"\u00AC\u00BBb"));
+    EXPECT_EQ(Part<Label>(u"labRight").Caption(), u"\n\tb");
+    Caption().SetSelection(2, 6);
+    Press(Qt::Key_Shift, {});
+    EXPECT_EQ(shown(u"labSelect"), QString::fromUtf16(u"&&\u00B6\u00AC"));
+}
+
+TEST_F(QtPageTest, AccessKeysLeadToTheFields) {
+    struct Field {
+        Qt::Key key;
+        TextView name;
+    };
+    for (const Field& field :
+         {Field{Qt::Key_P, u"txtBulletPrefix"}, Field{Qt::Key_I, u"txtBulletIndent"},
+          Field{Qt::Key_T, u"txtCaption"}}) {
+        QTest::keyClick(page_.get(), field.key, Qt::AltModifier);
+        EXPECT_TRUE(Part<TextBox>(field.name).Edit().hasFocus())
+            << ToQString(field.name).toStdString();
+    }
+    QTest::keyClick(page_.get(), Qt::Key_W, Qt::AltModifier);
+    QTest::keyClick(page_.get(), Qt::Key_K, Qt::AltModifier);
+    QTest::qWait(150);  // the buttons look pressed for a while
+    EXPECT_EQ(Part<CheckBox>(u"chkWordWrap").CheckState(), 1);
+    EXPECT_EQ(form_.interaction.said.size(), 1U);
+    EXPECT_EQ(Caption().GetText(), u"x abc y");
+}
+
+TEST_F(QtPageTest, ALargerPageGivesTheCaptionBoxMoreRoom) {
+    const auto place = [&](TextView name) {
+        return dynamic_cast<Element&>(*page_->Parts().Find(name)).Widget()->geometry();
+    };
+    std::map<Text, QRect> before;
+    for (const Element* part : page_->Parts().All()) {
+        before[part->Name()] = part->Widget()->geometry();
+    }
+    page_->resize(page_->minimumSize() + QSize(100, 60));
+    EXPECT_EQ(place(u"txtCaption"), before[u"txtCaption"].adjusted(0, 0, 100, 60));
+    EXPECT_EQ(place(u"lblCaption"), before[u"lblCaption"]);
+    EXPECT_EQ(place(u"Label1"), before[u"Label1"].adjusted(0, 60, 100, 60));
+    EXPECT_EQ(place(u"cmdHelp"), before[u"cmdHelp"].translated(100, 60));
+    for (const TextView name :
+         {u"labLeft", u"labChar", u"labSelect", u"labRight", u"lblBulletPrefix", u"txtBulletPrefix",
+          u"lblBulletIndent", u"txtBulletIndent", u"chkWordWrap", u"Picture1"}) {
+        EXPECT_EQ(place(name), before[Text(name)].translated(0, 60))
+            << ToQString(name).toStdString();
+    }
+    EXPECT_EQ(place(u"HScroll1"), before[u"HScroll1"]) << "inside the preview";
+    // Parts that the page moves itself stay below the caption box.
+    Caption().SetSelection(0, 3);
+    Press(Qt::Key_Shift, {});
+    EXPECT_EQ(place(u"labRight").top(), place(u"labLeft").top());
+    page_->resize(page_->minimumSize());
+    EXPECT_EQ(place(u"txtCaption"), before[u"txtCaption"]);
+    EXPECT_EQ(place(u"Picture1"), before[u"Picture1"]);
 }
 
 TEST_F(QtPageTest, TheIndentTakesDigits) {
