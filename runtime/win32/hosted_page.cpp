@@ -59,6 +59,25 @@ bool HostedPage::TranslateKey(const MSG& message) {
     return TranslateKeyInside(Handle(), message);
 }
 
+bool HostedPage::FocusOn(TextView name) {
+    return AnyPart(Handle(), [&](const Element& part) {
+        if (!SameText(part.Name(), name, Compare::IgnoreCase)) {
+            return false;
+        }
+        SetFocus(part.Handle());
+        return true;
+    });
+}
+
+void HostedPage::FollowSize() const {
+    const SIZE now = WindowSize();
+    const SIZE growth = {std::max(now.cx - size_.cx, 0L), std::max(now.cy - size_.cy, 0L)};
+    AnyPart(Handle(), [&](Element& part) {
+        part.FollowPage(growth);
+        return false;
+    });
+}
+
 LRESULT HostedPage::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
     if (message == WM_SIZE) {
         FollowSize();

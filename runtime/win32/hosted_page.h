@@ -36,6 +36,8 @@ class HostedPage final : public HostedWindow {
     /// Moves the window back to the hidden parking window.
     void Detach() { Park(); }
 
+    /// Gives the focus to the constituent with this name. Returns false if there is none.
+    bool FocusOn(TextView part);
     /// Does the same as HostedControl::TranslateKey, and handles the mnemonics of the page's
     /// constituents.
     bool TranslateKey(const MSG& message);

@@ -187,6 +187,16 @@ TEST_F(HostedPageTest, AccessKeysLeadToTheFields) {
     EXPECT_EQ(form_.GetLog().Messages().size(), 1U);
 }
 
+TEST_F(HostedPageTest, GivesTheFocusToAPartByItsName) {
+    const auto page = NewPage();
+    page->Attach(form_.Window(), {0, 0, page->Size().cx, page->Size().cy});
+    page->SetVisible(true);
+    EXPECT_TRUE(page->FocusOn(u"txtBulletIndent"));
+    EXPECT_EQ(GetFocus(), Child(page->Handle(), L"EDIT", 2));
+    EXPECT_FALSE(page->FocusOn(u"txtNone"));
+    EXPECT_EQ(GetFocus(), Child(page->Handle(), L"EDIT", 2));
+}
+
 RECT PlaceIn(HWND parent, HWND child) {
     RECT place = {};
     GetWindowRect(child, &place);
