@@ -389,6 +389,40 @@ TEST_F(QtConstituentsTest, AWheelAndKeysScroll) {
     EXPECT_EQ(counter.changes, 3);
 }
 
+TEST_F(QtConstituentsTest, TheWheelOverAPictureBoxScrollsTheBarsInIt) {
+    auto box = Parts().AddPictureBox({.name = u"P", .placement = {.width = 1500, .height = 900}});
+    auto across =
+        Parts().AddScrollBar({.name = u"H", .parent = box.get(), .placement = {0, 600, 1200, 255}},
+                             host::Orientation::Horizontal, edits_);
+    auto down =
+        Parts().AddScrollBar({.name = u"V", .parent = box.get(), .placement = {1200, 0, 255, 600}},
+                             host::Orientation::Vertical, edits_);
+    auto inside = Parts().AddControl(
+        {.name = u"I", .parent = box.get(), .placement = {0, 0, 1200, 600}}, u"testing.Painting");
+    QWidget& area = dynamic_cast<EmbeddedControl&>(*inside).Inner().Drawing().Area();
+    for (host::ScrollBar* bar : {across.get(), down.get()}) {
+        bar->SetMax(1000);
+        bar->SetSmallChange(10);
+        bar->SetLargeChange(500);
+    }
+    const auto turn = [&](QPoint by, Qt::KeyboardModifiers held = {}) {
+        QWheelEvent wheel({5, 5}, area.mapToGlobal(QPointF(5, 5)), {}, by, {}, held,
+                          Qt::NoScrollPhase, false);
+        QApplication::sendEvent(&area, &wheel);
+        return std::pair(across->ScrollValue(), down->ScrollValue());
+    };
+    const auto notch = static_cast<std::int16_t>(10 * QApplication::wheelScrollLines());
+    const std::int16_t none = 0;
+    EXPECT_EQ(turn({0, -120}), std::pair(none, notch));
+    EXPECT_EQ(turn({0, -120}, Qt::ShiftModifier), std::pair(notch, notch));
+    EXPECT_EQ(turn({0, 120}, Qt::ShiftModifier), std::pair(none, notch));
+    EXPECT_EQ(turn({-120, 0}), std::pair(notch, notch));
+    down->SetEnabled(false);
+    across->SetVisible(false);
+    EXPECT_EQ(turn({0, -120}), std::pair(notch, notch));
+    EXPECT_EQ(turn({-120, 0}), std::pair(notch, notch));
+}
+
 TEST_F(QtConstituentsTest, APictureBoxClipsWhatLiesInIt) {
     auto box = Parts().AddPictureBox({.name = u"P", .placement = {.width = 1500, .height = 900}});
     host::Design design{

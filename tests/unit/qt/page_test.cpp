@@ -235,6 +235,23 @@ TEST_F(QtPageTest, ALargePreviewScrolls) {
     EXPECT_GT(bar.ScrollValue(), 0);
 }
 
+TEST_F(QtPageTest, TheWheelOverThePreviewScrollsIt) {
+    label_.Move({0, 0, 9000, 6000});
+    page_->Select({label_.SharedAutomation()});
+    auto& preview = Part<EmbeddedControl>(u"VLabel1");
+    QWidget& area = preview.Inner().Drawing().Area();
+    const auto turn = [&](Qt::KeyboardModifiers held) {
+        QWheelEvent wheel({5, 5}, area.mapToGlobal(QPointF(5, 5)), {}, {0, -120}, {}, held,
+                          Qt::NoScrollPhase, false);
+        QApplication::sendEvent(&area, &wheel);
+    };
+    turn({});
+    EXPECT_LT(preview.Place().top, 0);
+    EXPECT_EQ(preview.Place().left, 0);
+    turn(Qt::ShiftModifier);
+    EXPECT_LT(preview.Place().left, 0);
+}
+
 TEST_F(QtPageTest, ErrorsOfThePageComeOutOfItsCalls) {
     EXPECT_THROW(page_->Select({}), RuntimeError);
     EXPECT_THROW(page_->Apply(), RuntimeError);

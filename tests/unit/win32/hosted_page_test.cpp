@@ -245,6 +245,23 @@ TEST_F(HostedPageTest, ALargerPageGivesTheCaptionBoxMoreRoom) {
     }
 }
 
+TEST_F(HostedPageTest, TheWheelOverThePreviewScrollsIt) {
+    const auto page = NewPage();
+    label_.MoveTo({0, 0, 600, 400});
+    page->GetPage().PropertyPage_SelectionChanged();
+    page->Attach(form_.Window(), {0, 0, page->Size().cx, page->Size().cy});
+    page->SetVisible(true);
+    const HWND viewport = Child(page->Handle(), L"lumenkitWindow");
+    const HWND preview = Child(viewport, L"lumenkitWindow");
+    ASSERT_NE(preview, nullptr);
+    const RECT before = PlaceIn(viewport, preview);
+    SendMessageW(preview, WM_MOUSEWHEEL, MAKEWPARAM(0, -120), 0);
+    EXPECT_LT(PlaceIn(viewport, preview).top, before.top);
+    EXPECT_EQ(PlaceIn(viewport, preview).left, before.left);
+    SendMessageW(preview, WM_MOUSEWHEEL, MAKEWPARAM(MK_SHIFT, -120), 0);
+    EXPECT_LT(PlaceIn(viewport, preview).left, before.left);
+}
+
 TEST_F(HostedPageTest, OutlivesItsWindow) {
     const auto page = NewPage();
     page->Attach(form_.Window(), {0, 0, 100, 100});

@@ -303,6 +303,38 @@ TEST_F(SimplePartsTest, APictureBoxHasABorderOfTwoPixels) {
     EXPECT_EQ(GetParent(WindowOf(*label)), WindowOf(*box));
 }
 
+TEST_F(SimplePartsTest, TheWheelOverAPictureBoxScrollsTheBarsInIt) {
+    const auto box =
+        Parts().AddPictureBox({.name = u"P", .placement = {.width = 3000, .height = 3000}});
+    const auto bar = [&](host::Orientation orientation) {
+        auto made = Parts().AddScrollBar(
+            {.name = u"S", .parent = box.get(), .placement = {.width = 300, .height = 300}},
+            orientation, receiver_);
+        made->SetMax(1000);
+        made->SetSmallChange(10);
+        return made;
+    };
+    const auto across = bar(host::Orientation::Horizontal);
+    const auto down = bar(host::Orientation::Vertical);
+    const auto inside = Parts().AddLabel({{.name = u"L", .parent = box.get()}, u"x"});
+    UINT lines = 3;
+    SystemParametersInfoW(SPI_GETWHEELSCROLLLINES, 0, &lines, 0);
+    const auto notch = static_cast<std::int16_t>(10 * lines);
+    using Values = std::pair<std::int16_t, std::int16_t>;
+    const auto turn = [&](UINT message, int delta, WORD held = 0) {
+        SendMessageW(WindowOf(*inside), message, MAKEWPARAM(held, delta), 0);
+        return Values(across->ScrollValue(), down->ScrollValue());
+    };
+    EXPECT_EQ(turn(WM_MOUSEWHEEL, -120), Values(0, notch));
+    EXPECT_EQ(turn(WM_MOUSEWHEEL, -120, MK_SHIFT), Values(notch, notch));
+    EXPECT_EQ(turn(WM_MOUSEWHEEL, 120, MK_SHIFT), Values(0, notch));
+    EXPECT_EQ(turn(WM_MOUSEHWHEEL, 120), Values(notch, notch));
+    down->SetEnabled(false);
+    across->SetVisible(false);
+    EXPECT_EQ(turn(WM_MOUSEWHEEL, -120), Values(notch, notch));
+    EXPECT_EQ(turn(WM_MOUSEHWHEEL, 120), Values(notch, notch));
+}
+
 // ---- Scroll bars
 
 TEST_F(SimplePartsTest, AScrollBarScrollsByStepsPagesAndEnds) {
