@@ -66,6 +66,7 @@ class TextBox final : public BasicTextConstituent<host::TextBox> {
     // return.
     LRESULT KeyGoesDown(UINT message, WPARAM wParam, LPARAM lParam);
     LRESULT KeyIsPressed(WPARAM wParam, LPARAM lParam);
+    WPARAM UnitOf(WPARAM typed) const;
     LRESULT KeyGoesUp(UINT message, WPARAM wParam, LPARAM lParam);
     bool Takes(char16_t unit);
     LRESULT ButtonGoesDown(UINT message, WPARAM wParam, LPARAM lParam);
@@ -86,6 +87,7 @@ class TextBox final : public BasicTextConstituent<host::TextBox> {
     bool isAssigning_ = false;     // notifications of the edit control are not passed on
     bool hasChanged_ = false;      // by the message in progress
     bool keyIsTaken_ = false;      // the key that is down enters nothing
+    WPARAM keyDown_ = 0;           // the key that went down last
     bool dropsSurrogate_ = false;  // there was no room for the first half of the pair
     bool isPressed_ = false;       // the left button went down in the box
 };

@@ -117,6 +117,12 @@ LRESULT TextBox::KeyGoesDown(UINT message, WPARAM wParam, LPARAM lParam) {
         return 0;
     }
     keyIsTaken_ = keyCode == 0;
+    keyDown_ = wParam;
+    if (message == WM_SYSKEYDOWN && keyCode == VK_BACK && !locked_) {
+        keyIsTaken_ = true;  // the platform's box may undo again at its character, or not at all
+        Ask(WM_UNDO);
+        return 0;
+    }
     // Escape in a multi-line box would close the dialog that contains the box.
     const bool closes = multiLine_ && keyCode == VK_ESCAPE;
     const bool edits = keyCode == VK_DELETE || (keyCode >= VK_PRIOR && keyCode <= VK_DOWN);
@@ -128,7 +134,7 @@ LRESULT TextBox::KeyIsPressed(WPARAM wParam, LPARAM lParam) {
     if (keyIsTaken_) {
         return 0;
     }
-    auto keyAscii = static_cast<std::int16_t>(wParam);
+    auto keyAscii = static_cast<std::int16_t>(UnitOf(wParam));
     const Watch watch(*this);
     events_.KeyPress(keyAscii);
     const auto unit = static_cast<char16_t>(keyAscii);
@@ -141,6 +147,16 @@ LRESULT TextBox::KeyIsPressed(WPARAM wParam, LPARAM lParam) {
     }
     LeaveBreak();
     return Pass(WM_CHAR, unit, lParam);
+}
+
+// Returns the control unit of a letter with Ctrl, also where the layout has no Latin letters and
+// the platform sends the layout's letter. Key codes follow the positions of the keys then.
+WPARAM TextBox::UnitOf(WPARAM typed) const {
+    constexpr WPARAM lastAscii = 0x7F;
+    constexpr std::int16_t shiftHeld = 1;
+    const bool holdsControl = (HeldKeys() & ~shiftHeld) == controlHeld;
+    const bool isLetter = keyDown_ >= 'A' && keyDown_ <= 'Z';
+    return typed > lastAscii && holdsControl && isLetter ? keyDown_ - 'A' + 1 : typed;
 }
 
 // Moves a caret between CR and LF before both, where the user sees it, and so each end of a

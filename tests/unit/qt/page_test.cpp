@@ -1,6 +1,8 @@
 // The caption page on real widgets.
 #include <QApplication>
+#include <QClipboard>
 #include <QLabel>
+#include <QMenu>
 #include <QTest>
 #include <algorithm>
 #include <map>
@@ -175,6 +177,78 @@ TEST_F(QtPageTest, AccessKeysLeadToTheFields) {
     EXPECT_EQ(Part<CheckBox>(u"chkWordWrap").CheckState(), 1);
     EXPECT_EQ(form_.interaction.said.size(), 1U);
     EXPECT_EQ(Caption().GetText(), u"x abc y");
+}
+
+TEST_F(QtPageTest, ShortcutsWorkInALayoutWithoutLatinLetters) {
+    struct Stroke {
+        int key;
+        quint32 position;  // as X11 counts
+        const char16_t* letter;
+    };
+    const auto strike = [&](const Stroke& stroke, Qt::KeyboardModifiers held) {
+        QKeyEvent event(QEvent::KeyPress, stroke.key, held, stroke.position, 0, 0,
+                        QString::fromUtf16(stroke.letter));
+        QApplication::sendEvent(&Caption().Edit(), &event);
+    };
+    Caption().SetText(u"");
+    strike({0x0418, 56, u"\u0438"}, Qt::ControlModifier);  // Cyrillic, where B is
+    EXPECT_EQ(Caption().GetText(), u"|B:1|");
+    strike({0x03A4, 57, u"\u03BD"}, Qt::ControlModifier);  // Greek, where N is
+    EXPECT_EQ(Caption().GetText(), u"|B:1||B:0|");
+    strike({0x0418, 56, u"\u0438"}, {});
+    EXPECT_EQ(Caption().GetText(), u"|B:1||B:0|\u0438") << "without Ctrl";
+    // The Dvorak layout has its letters elsewhere, and so have German letters.
+    strike({Qt::Key_Apostrophe, 24, u"'"}, Qt::ControlModifier);
+    strike({Qt::Key_Adiaeresis, 56, u""}, Qt::ControlModifier);
+    EXPECT_EQ(Caption().GetText(), u"|B:1||B:0|\u0438'");
+    strike({Qt::Key_N, 46, u"\x0E"}, Qt::ControlModifier);
+    EXPECT_EQ(Caption().GetText(), u"|B:1||B:0|\u0438'|B:0|") << "where L is elsewhere";
+}
+
+TEST_F(QtPageTest, AnyTextComesIntoTheIndentWithoutTheCtrlLetters) {
+    auto& indent = Part<TextBox>(u"txtBulletIndent");
+    const auto strike = [&](Qt::Key key, Qt::KeyboardModifiers held) {
+        QTest::keyClick(&indent.Edit(), key, held);
+        return Text(indent.GetText());
+    };
+    const auto copied = [] { return QGuiApplication::clipboard()->text().toStdString(); };
+    indent.Edit().setFocus();
+    QGuiApplication::clipboard()->setText(QStringLiteral("1e3"));
+    EXPECT_EQ(strike(Qt::Key_V, Qt::ControlModifier), u"0") << "cancelled by KeyPress";
+    indent.SetSelection(0, -1);
+    EXPECT_EQ(strike(Qt::Key_Insert, Qt::ShiftModifier), u"1e3");
+    indent.SetSelection(0, 2);
+    strike(Qt::Key_Insert, Qt::ControlModifier);
+    EXPECT_EQ(copied(), "1e");
+    indent.SetSelection(1, 3);
+    EXPECT_EQ(strike(Qt::Key_Delete, Qt::ShiftModifier), u"1");
+    EXPECT_EQ(copied(), "e3");
+    EXPECT_EQ(strike(Qt::Key_Backspace, Qt::AltModifier), u"1e3");
+    EXPECT_EQ(strike(Qt::Key_Backspace, Qt::AltModifier | Qt::ShiftModifier), u"1");
+}
+
+TEST_F(QtPageTest, TheIndentHasAContextMenu) {
+    auto& indent = Part<TextBox>(u"txtBulletIndent");
+    QGuiApplication::clipboard()->setText(QStringLiteral("&H10"));
+    indent.Edit().setFocus();
+    indent.Edit().selectAll();
+    QContextMenuEvent asked(QContextMenuEvent::Mouse, {5, 5},
+                            indent.Edit().mapToGlobal(QPoint(5, 5)));
+    QApplication::sendEvent(indent.Edit().viewport(), &asked);
+    auto* const menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+    ASSERT_NE(menu, nullptr);
+    const QList<QAction*> actions = menu->actions();
+    const auto paste = std::ranges::find_if(actions, [](const QAction* action) {
+        return action->objectName() == QLatin1String("edit-paste");
+    });
+    ASSERT_NE(paste, actions.end());
+    EXPECT_TRUE((*paste)->isEnabled());
+    (*paste)->trigger();
+    menu->close();
+    QApplication::processEvents();
+    EXPECT_EQ(indent.GetText(), u"&H10");
+    EXPECT_EQ(Part<EmbeddedControl>(u"VLabel1").Automation().Get(u"BulletIndent"),
+              Value(std::int16_t{16}));
 }
 
 TEST_F(QtPageTest, ALargerPageGivesTheCaptionBoxMoreRoom) {
