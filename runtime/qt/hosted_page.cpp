@@ -10,6 +10,9 @@
 namespace lumenkit::qt {
 
 void HostedPage::Site::SetChanged(bool value) {
+    if (value && edited) {
+        edited();
+    }
     if (changed == value) {
         return;
     }

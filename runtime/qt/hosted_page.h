@@ -38,6 +38,12 @@ class HostedPage final : public QWidget {
     /// Sets the function that is called whenever the flag takes another value.
     void OnChanged(std::function<void(bool)> listener) { site_.listener = std::move(listener); }
 
+    /// Sets the function that is called whenever the page reports that the user changed a value,
+    /// before the page does anything else with the value.
+    void OnEdited(std::function<void()> listener) { site_.edited = std::move(listener); }
+
+    QSize sizeHint() const override { return minimumSize(); }
+
     Object& Automation() { return page_->Automation(); }
     Constituents& Parts() { return constituents_; }
 
@@ -52,6 +58,7 @@ class HostedPage final : public QWidget {
 
         bool changed = false;
         std::function<void(bool)> listener;
+        std::function<void()> edited;
     };
     struct Selection final : host::SelectedControls {
         std::int16_t Count() const override { return static_cast<std::int16_t>(controls.size()); }
