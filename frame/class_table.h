@@ -20,6 +20,12 @@ struct InterfaceAlias {
     UniqueIdentifier uniqueIdentifier;
 };
 
+/// Where a property page edits a property of the selected control.
+struct PageField {
+    TextView property;
+    TextView constituent;
+};
+
 enum class ClassKind { Control, PropertyPage };
 
 struct ClassDescriptor {
@@ -34,8 +40,9 @@ struct ClassDescriptor {
     /// Size of a property page, in twips.
     float pageWidth = 0;
     float pageHeight = 0;
-    TextView pageTitle = {};                 ///< caption of the page's tab in the host
-    UniqueIdentifier uniqueIdentifier = {};  ///< null when the class is not published
+    TextView pageTitle = {};                     ///< caption of the page's tab in the host
+    std::span<const PageField> pageFields = {};  ///< the properties that the page edits
+    UniqueIdentifier uniqueIdentifier = {};      ///< null when the class is not published
     InterfaceAlias alias = {};
     /// Number of the bitmap resource that a designer's toolbox shows for the class; 0 for none.
     std::uint16_t toolboxBitmap = 0;

@@ -38,30 +38,33 @@ ObjectRef FontFrom(const Value& value) {
     return font;
 }
 
-host::Design DesignOf(TextView name, const host::Placement& placement,
+host::Design DesignOf(TextView name, const page_layout::Part& part,
                       host::Constituent* parent = nullptr) {
     host::Design design;
     design.name = name;
     design.parent = parent;
-    design.placement = placement;
+    design.placement = part.placement;
+    design.movingEdges = part.movingEdges;
     return design;
 }
 
-host::CaptionDesign CaptionDesignOf(TextView name, const host::Placement& placement,
-                                    TextView caption) {
+host::CaptionDesign CaptionDesignOf(TextView name, const page_layout::Part& part, TextView caption,
+                                    char16_t accessKey = 0) {
     host::CaptionDesign design;
-    static_cast<host::Design&>(design) = DesignOf(name, placement);
+    static_cast<host::Design&>(design) = DesignOf(name, part);
     design.caption = caption;
+    design.accessKey = accessKey;
     return design;
 }
 
 // Adds a label of the magnifier, which is visible only while the caption box has the focus.
 std::unique_ptr<host::Label> AddMagnifierLabel(host::Constituents& parts, TextView name,
-                                               const host::Placement& placement, TextView caption,
+                                               const page_layout::Part& part, TextView caption,
                                                Color foreColor, Color backColor) {
-    host::CaptionDesign design = CaptionDesignOf(name, placement, caption);
+    host::CaptionDesign design = CaptionDesignOf(name, part, caption);
     design.fontName = u"Courier";
     design.fontSize = page_layout::magnifierFontSize;
+    design.useMnemonic = false;
     design.visible = false;
     std::unique_ptr<host::Label> label = parts.AddLabel(design);
     label->SetForeColor(foreColor);
@@ -70,20 +73,19 @@ std::unique_ptr<host::Label> AddMagnifierLabel(host::Constituents& parts, TextVi
 }
 
 std::unique_ptr<host::Label> AddSurroundings(host::Constituents& parts, TextView name,
-                                             const host::Placement& placement, TextView caption) {
-    return AddMagnifierLabel(parts, name, placement, caption, Color::WindowText,
+                                             const page_layout::Part& part, TextView caption) {
+    return AddMagnifierLabel(parts, name, part, caption, Color::WindowText,
                              Color::WindowBackground);
 }
 
 std::unique_ptr<host::Label> AddMiddle(host::Constituents& parts, TextView name,
-                                       const host::Placement& placement, TextView caption) {
-    return AddMagnifierLabel(parts, name, placement, caption, Color::HighlightText,
-                             Color::Highlight);
+                                       const page_layout::Part& part, TextView caption) {
+    return AddMagnifierLabel(parts, name, part, caption, Color::HighlightText, Color::Highlight);
 }
 
-host::TextBoxDesign TextBoxDesignOf(TextView name, const host::Placement& placement) {
+host::TextBoxDesign TextBoxDesignOf(TextView name, const page_layout::Part& part) {
     host::TextBoxDesign design;
-    static_cast<host::Design&>(design) = DesignOf(name, placement);
+    static_cast<host::Design&>(design) = DesignOf(name, part);
     return design;
 }
 
@@ -113,8 +115,9 @@ VLabelCaption::VLabelCaption(const PageHost& host)
 }
 
 void VLabelCaption::AddCaption(host::Constituents& parts) {
+    // OK, Cancel and Apply of the window around the page have O, C and A.
     lblCaption =
-        parts.AddLabel(CaptionDesignOf(u"lblCaption", page_layout::lblCaption, u"Caption:"));
+        parts.AddLabel(CaptionDesignOf(u"lblCaption", page_layout::lblCaption, u"Caption:", u'T'));
     host::TextBoxDesign caption = TextBoxDesignOf(u"txtCaption", page_layout::txtCaption);
     caption.multiLine = true;
     caption.scrollBars = host::ScrollBars::Vertical;
@@ -123,7 +126,7 @@ void VLabelCaption::AddCaption(host::Constituents& parts) {
         u"Label1", page_layout::Label1,
         u" ^S=SelectNext, ^B=Bold, ^N=Normal, ^I=Italic on, ^O=italic Off, ^G=Green, ^L=Linespc"));
     cmdHelp = parts.AddCommandButton(
-        CaptionDesignOf(u"cmdHelp", page_layout::cmdHelp, u"Keys Help"), helpEvents_);
+        CaptionDesignOf(u"cmdHelp", page_layout::cmdHelp, u"Keys Help", u'K'), helpEvents_);
 }
 
 void VLabelCaption::AddMagnifier(host::Constituents& parts) {
@@ -136,25 +139,25 @@ void VLabelCaption::AddMagnifier(host::Constituents& parts) {
 
 void VLabelCaption::AddSettings(host::Constituents& parts) {
     lblBulletPrefix = parts.AddLabel(
-        CaptionDesignOf(u"lblBulletPrefix", page_layout::lblBulletPrefix, u"Bullet Prefix:"));
+        CaptionDesignOf(u"lblBulletPrefix", page_layout::lblBulletPrefix, u"Bullet Prefix:", u'P'));
     txtBulletPrefix = parts.AddTextBox(
         TextBoxDesignOf(u"txtBulletPrefix", page_layout::txtBulletPrefix), prefixEvents_);
     lblBulletIndent = parts.AddLabel(
-        CaptionDesignOf(u"lblBulletIndent", page_layout::lblBulletIndent, u"Bullet Indent:"));
+        CaptionDesignOf(u"lblBulletIndent", page_layout::lblBulletIndent, u"Bullet Indent:", u'I'));
     txtBulletIndent = parts.AddTextBox(
         TextBoxDesignOf(u"txtBulletIndent", page_layout::txtBulletIndent), indentEvents_);
     chkWordWrap = parts.AddCheckBox(
-        CaptionDesignOf(u"chkWordWrap", page_layout::chkWordWrap, u"Word Wrap"), wrapEvents_);
+        CaptionDesignOf(u"chkWordWrap", page_layout::chkWordWrap, u"Word Wrap", u'W'), wrapEvents_);
 }
 
 void VLabelCaption::AddPreview(host::Constituents& parts) {
     Picture1 = parts.AddPictureBox(DesignOf(u"Picture1", page_layout::Picture1));
-    const host::Placement bar = {0, 0, page_layout::scrollBarSize, page_layout::scrollBarSize};
+    const page_layout::Part bar = {{0, 0, page_layout::scrollBarSize, page_layout::scrollBarSize}};
     HScroll1 = parts.AddScrollBar(DesignOf(u"HScroll1", bar, Picture1.get()),
                                   host::Orientation::Horizontal, horizontalEvents_);
     VScroll1 = parts.AddScrollBar(DesignOf(u"VScroll1", bar, Picture1.get()),
                                   host::Orientation::Vertical, verticalEvents_);
-    const host::Placement preview = {0, 0, Picture1->ScaleWidth(), Picture1->ScaleHeight()};
+    const page_layout::Part preview = {{0, 0, Picture1->ScaleWidth(), Picture1->ScaleHeight()}};
     VLabel1 = parts.AddControl(DesignOf(u"VLabel1", preview, Picture1.get()), u"lumenkit.VLabel");
     FontFrom(VLabel1->Automation().Get(stockFont))->Let(u"Name", Text(u"MS Sans Serif"));
 }

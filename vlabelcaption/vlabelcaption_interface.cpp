@@ -1,4 +1,5 @@
 // The automation interface of VLabelCaption, which has no members.
+#include <array>
 #include <memory>
 
 #include "vlabelcaption/page_layout.h"
@@ -11,6 +12,13 @@ namespace {
 std::unique_ptr<PropertyPage> Create(const PageHost& host) {
     return std::make_unique<VLabelCaption>(host);
 }
+
+constexpr std::array fields = {
+    PageField{u"Caption", u"txtCaption"},
+    PageField{u"BulletPrefix", u"txtBulletPrefix"},
+    PageField{u"BulletIndent", u"txtBulletIndent"},
+    PageField{u"WordWrap", u"chkWordWrap"},
+};
 
 }  // namespace
 
@@ -27,6 +35,7 @@ constexpr ClassDescriptor vlabelCaptionClass = {
     .pageWidth = page_layout::pageWidth,
     .pageHeight = page_layout::pageHeight,
     .pageTitle = u"Caption",
+    .pageFields = fields,
     .uniqueIdentifier = "4f28929c-658c-4d68-82e8-15be7b4e7328",
 };
 

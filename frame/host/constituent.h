@@ -17,6 +17,15 @@ struct Placement {
     friend bool operator==(const Placement&, const Placement&) = default;
 };
 
+/// The edges of a constituent that move with the right and the bottom edge of a page that a
+/// container shows larger than it is designed. Placements are those of the designed size.
+struct MovingEdges {
+    bool left = false;
+    bool top = false;
+    bool right = false;
+    bool bottom = false;
+};
+
 /// The common interface of all constituent controls. Use a constituent only on the user-interface
 /// thread. Its methods may raise errors of the runtime. Destroying it removes it from the screen.
 class Constituent {
@@ -52,6 +61,7 @@ struct Design {
     bool visible = true;
     TextView fontName = u"MS Sans Serif";
     float fontSize = 8.25F;
+    MovingEdges movingEdges = {};  ///< only for constituents directly on a page
 };
 
 }  // namespace lumenkit::host

@@ -12,6 +12,13 @@ namespace lumenkit::host {
 
 struct CaptionDesign : Design {
     TextView caption = {};
+    /// The letter of the caption that is its mnemonic: it is underlined, and with Alt it leads to
+    /// the constituent. Every `&` is then an ordinary character. 0: `&` marks the mnemonic, and
+    /// `&&` is an ampersand.
+    char16_t accessKey = 0;
+    /// False for a label that shows any text as it stands, in one line: every `&` is an ordinary
+    /// character, and CR, LF and tab are drawn as visible signs. Other kinds ignore it.
+    bool useMnemonic = true;
 };
 
 /// A frame with a caption that contains other constituents.
@@ -24,7 +31,8 @@ class Frame : public TextConstituent {
     virtual void SetBorderStyle(std::int16_t style) = 0;
 };
 
-/// Shows text; a caption that is wider than the label continues on further lines.
+/// Shows text; a caption that is wider than the label continues on further lines, unless the label
+/// was designed without a mnemonic.
 class Label : public TextConstituent {
  public:
     virtual Text Caption() const = 0;

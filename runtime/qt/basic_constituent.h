@@ -7,6 +7,7 @@
 #include "frame/host/constituent.h"
 #include "runtime/qt/element.h"
 #include "runtime/qt/font.h"
+#include "runtime/shared/shown_caption.h"
 
 namespace lumenkit::qt {
 
@@ -67,14 +68,20 @@ class BasicCaptioned : public BasicTextConstituent<Interface> {
     }
 
  protected:
-    BasicCaptioned(Elements& elements, const host::Design& design, TextView caption)
-        : BasicTextConstituent<Interface>(elements, design), caption_(caption) {}
+    BasicCaptioned(Elements& elements, const host::Design& design, TextView caption,
+                   char16_t accessKey = 0)
+        : BasicTextConstituent<Interface>(elements, design),
+          caption_(caption),
+          accessKey_(accessKey) {}
 
     virtual void ShowCaption() = 0;
     const Text& CaptionNow() const { return caption_; }
+    /// The caption with its mnemonic marked.
+    Text MarkedCaption() const { return shared::WithAccessKey(caption_, accessKey_); }
 
  private:
     Text caption_;
+    char16_t accessKey_;
 };
 
 }  // namespace lumenkit::qt

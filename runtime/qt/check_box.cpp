@@ -24,7 +24,7 @@ class CheckBoxWidget final : public QCheckBox {
 };
 
 CheckBox::CheckBox(Elements& elements, const host::CaptionDesign& design, host::ClickEvents& events)
-    : BasicCaptioned(elements, design, design.caption), events_(events) {
+    : BasicCaptioned(elements, design, design.caption, design.accessKey), events_(events) {
     auto box = std::make_unique<CheckBoxWidget>(&ParentFor(elements, design));
     box->clicked_ = [this] { HandleEvent(Errors(), [this] { Change(state_ == 0 ? 1 : 0); }); };
     Adopt(std::move(box));
@@ -43,7 +43,7 @@ void CheckBox::Disconnect() {
 }
 
 void CheckBox::ShowCaption() {
-    Box().setText(ToQString(CaptionNow()));
+    Box().setText(ToQString(MarkedCaption()));
 }
 
 void CheckBox::SetCheckState(std::int16_t state) {

@@ -8,7 +8,7 @@ namespace lumenkit::qt {
 
 CommandButton::CommandButton(Elements& elements, const host::CaptionDesign& design,
                              host::ClickEvents& events)
-    : BasicCaptioned(elements, design, design.caption) {
+    : BasicCaptioned(elements, design, design.caption, design.accessKey) {
     auto button = std::make_unique<QPushButton>(&ParentFor(elements, design));
     button->setAutoDefault(false);
     QObject::connect(button.get(), &QPushButton::clicked, button.get(),
@@ -29,7 +29,7 @@ void CommandButton::Disconnect() {
 }
 
 void CommandButton::ShowCaption() {
-    Button().setText(ToQString(CaptionNow()));
+    Button().setText(ToQString(MarkedCaption()));
 }
 
 }  // namespace lumenkit::qt

@@ -80,6 +80,13 @@ void Constituents::Disconnect() const {
     }
 }
 
+void Constituents::FollowArea(QSize growth) {
+    elements_.SetGrowth(growth);
+    for (Element* element : All()) {
+        element->FollowArea();
+    }
+}
+
 void Constituents::ShowColors() const {
     for (Element* element : All()) {
         element->ShowColors();

@@ -56,6 +56,8 @@ class Constituents final : public host::Constituents {
     void Disconnect() const;
     /// Called when the colours of the area's palette changed.
     void ShowColors() const;
+    /// Called when the area is larger than it is designed, by `growth` pixels, or no longer is.
+    void FollowArea(QSize growth);
 
  private:
     Elements elements_;

@@ -41,6 +41,7 @@ Element::Element(Elements& elements, const host::Design& design)
       name_(design.name),
       index_(design.index),
       placement_(design.placement),
+      movingEdges_(design.movingEdges),
       visible_(design.visible),
       position_(elements.Register(*this)) {}
 
@@ -76,7 +77,7 @@ void Element::AdoptHidden(std::unique_ptr<QWidget> widget) {
 
 void Element::Adopt(std::unique_ptr<QWidget> widget) {
     AdoptHidden(std::move(widget));
-    widget_->setGeometry(ToPixels(placement_));
+    widget_->setGeometry(Geometry());
     widget_->setVisible(visible_);
 }
 
@@ -91,7 +92,22 @@ void Element::Release() {
 void Element::MoveTo(const host::Placement& placement) {
     RequireSize(placement.width, placement.height);
     placement_ = placement;
-    Cause([widget = widget_.data(), &placement] { widget->setGeometry(ToPixels(placement)); });
+    Cause([widget = widget_.data(), place = Geometry()] { widget->setGeometry(place); });
+}
+
+QRect Element::Geometry() const {
+    const QSize growth = elements_.Growth();
+    const auto moved = [](bool moves, int by) { return moves ? by : 0; };
+    return ToPixels(placement_)
+        .adjusted(
+            moved(movingEdges_.left, growth.width()), moved(movingEdges_.top, growth.height()),
+            moved(movingEdges_.right, growth.width()), moved(movingEdges_.bottom, growth.height()));
+}
+
+void Element::FollowArea() {
+    if (widget_ != nullptr && widget_->geometry() != Geometry()) {
+        widget_->setGeometry(Geometry());
+    }
 }
 
 void Element::BecomeVisible(bool visible) {

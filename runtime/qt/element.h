@@ -28,6 +28,8 @@ class Element {
     QWidget* Widget() const { return widget_; }
     /// The parent widget for constituents inside this one.
     virtual QWidget& Inside() const { return *widget_; }
+    /// Called when the area has grown or shrunk.
+    void FollowArea();
     /// Called when the colours of the palette changed.
     virtual void ShowColors() {}
     /// Tells screen readers the name and the limits of the control, for a constituent that has no
@@ -73,11 +75,13 @@ class Element {
     void BecomeUsable(bool usable, Change&& change);
     QWidget* FocusAfter() const;
     QWidget* FocusedInside() const;
+    QRect Geometry() const;
 
     Elements& elements_;
     Text name_;
     std::int16_t index_;
     host::Placement placement_;
+    host::MovingEdges movingEdges_;
     bool visible_;
     bool enabled_ = true;
     QPointer<QWidget> widget_;

@@ -21,6 +21,9 @@ class Elements {
     const Context& GetContext() const { return context_; }
     QWidget& Area() const { return area_; }
     bool UserMode() const { return userMode_; }  ///< passed on to embedded controls
+    /// By how much the area is larger than it is designed, in pixels.
+    QSize Growth() const { return growth_; }
+    void SetGrowth(QSize growth) { growth_ = growth; }
 
     /// Returns the existing elements in the order of creation.
     const std::list<Element*>& All() const { return all_; }
@@ -35,6 +38,7 @@ class Elements {
     const Context& context_;
     QWidget& area_;
     bool userMode_;
+    QSize growth_ = {0, 0};
     std::list<Element*> all_;
 };
 

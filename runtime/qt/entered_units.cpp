@@ -2,6 +2,7 @@
 
 #include <QKeyEvent>
 
+#include "runtime/qt/input.h"
 #include "runtime/qt/qt_text.h"
 
 namespace lumenkit::qt {
@@ -21,8 +22,13 @@ bool IsMnemonic(const QKeyEvent& event) {
     return held.testFlag(Qt::AltModifier) && !isAltGr && !event.text().isEmpty();
 }
 
+bool IsUndoKey(const QKeyEvent& event) {
+    const auto held = event.modifiers() & ~Qt::KeyboardModifiers(Qt::ShiftModifier);
+    return event.key() == Qt::Key_Backspace && held == Qt::AltModifier;
+}
+
 bool IsControlLetter(const QKeyEvent& event) {
-    return HoldsOnlyControl(event) && event.key() >= Qt::Key_A && event.key() <= Qt::Key_Z;
+    return HoldsOnlyControl(event) && LetterOf(event) != 0;
 }
 
 Text EnteredBy(const QKeyEvent& event) {
@@ -32,6 +38,9 @@ Text EnteredBy(const QKeyEvent& event) {
         case Qt::Key_Enter:
             return {control ? key::lineFeed : key::enter};
         case Qt::Key_Backspace:
+            if (IsUndoKey(event)) {
+                return {};
+            }
             return {control ? key::deleteWord : key::backspace};
         case Qt::Key_Tab:
             return {key::tabulator};
@@ -41,7 +50,7 @@ Text EnteredBy(const QKeyEvent& event) {
             break;
     }
     if (IsControlLetter(event)) {
-        return {static_cast<char16_t>(event.key() - Qt::Key_A + 1)};
+        return {static_cast<char16_t>(LetterOf(event) - Qt::Key_A + 1)};
     }
     return IsMnemonic(event) ? Text() : ToText(event.text());
 }

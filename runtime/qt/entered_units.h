@@ -30,6 +30,9 @@ Text EnteredBy(const QKeyEvent& event);
 /// Ctrl with Alt, a group of its own, or neither.
 bool IsMnemonic(const QKeyEvent& event);
 
+/// Whether the key is Backspace with Alt, which undoes, or redoes with Shift, and enters no unit.
+bool IsUndoKey(const QKeyEvent& event);
+
 /// Whether the key is a letter together with Ctrl, which enters a control unit.
 bool IsControlLetter(const QKeyEvent& event);
 

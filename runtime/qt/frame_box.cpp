@@ -7,7 +7,7 @@
 namespace lumenkit::qt {
 
 FrameBox::FrameBox(Elements& elements, const host::CaptionDesign& design)
-    : BasicCaptioned(elements, design, design.caption) {
+    : BasicCaptioned(elements, design, design.caption, design.accessKey) {
     Adopt(std::make_unique<FrameWidget>(&ParentFor(elements, design)));
     ShowFont();
     ShowCaption();
@@ -18,7 +18,7 @@ FrameWidget& FrameBox::Box() const {
 }
 
 void FrameBox::ShowCaption() {
-    Box().setTitle(ToQString(CaptionNow()));
+    Box().setTitle(ToQString(MarkedCaption()));
 }
 
 void FrameBox::Describe(const QString& name, const QString& /*hint*/) {

@@ -10,6 +10,9 @@
 namespace lumenkit::qt {
 
 void HostedPage::Site::SetChanged(bool value) {
+    if (value && edited) {
+        edited();
+    }
     if (changed == value) {
         return;
     }
@@ -38,7 +41,8 @@ HostedPage::HostedPage(const Context& context, const ClassDescriptor& type, QWid
     if (type.createPage == nullptr) {
         Raise(ErrorNumber::CannotCreateObject);
     }
-    setFixedSize(ToPixels({.width = type.pageWidth, .height = type.pageHeight}).size());
+    setMinimumSize(ToPixels({.width = type.pageWidth, .height = type.pageHeight}).size());
+    resize(minimumSize());
     const Notifying notifying;
     page_ = type.createPage(host_);
     page_->PropertyPage_Initialize();
@@ -53,6 +57,11 @@ void HostedPage::Select(std::vector<ObjectRef> controls) {
 void HostedPage::Apply() {
     const Notifying notifying;
     page_->PropertyPage_ApplyChanges();
+}
+
+void HostedPage::resizeEvent(QResizeEvent* event) {
+    QWidget::resizeEvent(event);
+    constituents_.FollowArea((size() - minimumSize()).expandedTo({0, 0}));
 }
 
 void HostedPage::changeEvent(QEvent* event) {

@@ -15,7 +15,8 @@
 
 namespace lumenkit::qt {
 
-/// One property page in its designed size. Errors of the page's procedures reach the caller; errors
+/// One property page. It has at least its designed size. In a larger one, the constituents whose
+/// edges move grow or move with the page. Errors of the page's procedures reach the caller; errors
 /// of its event handlers go to the context's sink.
 class HostedPage final : public QWidget, public SelfDescribing {
  public:
@@ -38,6 +39,12 @@ class HostedPage final : public QWidget, public SelfDescribing {
     /// Sets the function that is called whenever the flag takes another value.
     void OnChanged(std::function<void(bool)> listener) { site_.listener = std::move(listener); }
 
+    /// Sets the function that is called whenever the page reports that the user changed a value,
+    /// before the page does anything else with the value.
+    void OnEdited(std::function<void()> listener) { site_.edited = std::move(listener); }
+
+    QSize sizeHint() const override { return minimumSize(); }
+
     Object& Automation() { return page_->Automation(); }
     Constituents& Parts() { return constituents_; }
     QAccessibleInterface* NewDescription() override {
@@ -46,6 +53,7 @@ class HostedPage final : public QWidget, public SelfDescribing {
 
  protected:
     void changeEvent(QEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
 
  private:
     struct Site final : host::PropertyPageSite {
@@ -54,6 +62,7 @@ class HostedPage final : public QWidget, public SelfDescribing {
 
         bool changed = false;
         std::function<void(bool)> listener;
+        std::function<void()> edited;
     };
     struct Selection final : host::SelectedControls {
         std::int16_t Count() const override { return static_cast<std::int16_t>(controls.size()); }

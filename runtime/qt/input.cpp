@@ -4,6 +4,7 @@
 #include <QMouseEvent>
 #include <algorithm>
 #include <array>
+#include <string_view>
 
 #include "runtime/qt/pixels.h"
 
@@ -39,6 +40,26 @@ bool IsBetween(int key, int first, int last) {
     return key >= first && key <= last;
 }
 
+// The letters of three rows of an English keyboard, and the code that X11 and Wayland have for the
+// first key of the row. The codes of the other keys follow.
+struct LetterRow {
+    quint32 first;
+    std::string_view letters;
+};
+
+constexpr std::array letterRows = {LetterRow{24, "QWERTYUIOP"}, LetterRow{38, "ASDFGHJKL"},
+                                   LetterRow{52, "ZXCVBNM"}};
+
+// Whether the key is a character of a script other than the Latin one.
+bool IsForeign(int key) {
+    constexpr int lastCharacter = 0xFFFF;
+    if (!IsBetween(key, 1, lastCharacter)) {
+        return false;
+    }
+    const QChar::Script script = QChar::script(static_cast<char32_t>(key));
+    return script != QChar::Script_Latin && script != QChar::Script_Common;
+}
+
 constexpr std::array cursors = {
     Qt::ArrowCursor,     Qt::ArrowCursor,   Qt::CrossCursor,     Qt::IBeamCursor,
     Qt::ArrowCursor,     Qt::SizeAllCursor, Qt::SizeBDiagCursor, Qt::SizeVerCursor,
@@ -69,11 +90,27 @@ host::MouseArguments MouseArgumentsOf(const QMouseEvent& event) {
             .y = static_cast<float>(event.position().y() * twips.y)};
 }
 
+int LetterOf(const QKeyEvent& event) {
+    if (IsBetween(event.key(), Qt::Key_A, Qt::Key_Z)) {
+        return event.key();
+    }
+    const quint32 code = IsForeign(event.key()) ? event.nativeScanCode() : 0;
+    for (const LetterRow& row : letterRows) {
+        if (code >= row.first && code - row.first < row.letters.size()) {
+            return row.letters[code - row.first];
+        }
+    }
+    return 0;
+}
+
 std::int16_t KeyCodeOf(const QKeyEvent& event) {
     const int key = event.key();
-    if (IsBetween(key, Qt::Key_A, Qt::Key_Z) || IsBetween(key, Qt::Key_0, Qt::Key_9)) {
+    if (const int letter = LetterOf(event); letter != 0) {
+        return static_cast<std::int16_t>(letter);
+    }
+    if (IsBetween(key, Qt::Key_0, Qt::Key_9)) {
         constexpr std::int16_t keypadZero = 96;
-        const bool onKeypad = event.modifiers().testFlag(Qt::KeypadModifier) && key <= Qt::Key_9;
+        const bool onKeypad = event.modifiers().testFlag(Qt::KeypadModifier);
         return static_cast<std::int16_t>(onKeypad ? key - Qt::Key_0 + keypadZero : key);
     }
     if (IsBetween(key, Qt::Key_F1, Qt::Key_F24)) {

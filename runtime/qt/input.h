@@ -20,6 +20,9 @@ std::int16_t ShiftOf(Qt::KeyboardModifiers modifiers);
 /// all buttons that are held.
 host::MouseArguments MouseArgumentsOf(const QMouseEvent& event);
 
+/// Returns the Latin letter of a key, Qt::Key_A to Qt::Key_Z. In a layout without Latin letters, it
+/// is the letter that an English keyboard has in this position. Returns 0 for other keys.
+int LetterOf(const QKeyEvent& event);
 /// Returns the key code of a key as Windows numbers them, or the packet key (231) for a key that
 /// has no code.
 std::int16_t KeyCodeOf(const QKeyEvent& event);

@@ -22,10 +22,11 @@ float WholeTwips(double pixels, double perPixel) {
 }  // namespace
 
 Label::Label(Elements& elements, const host::CaptionDesign& design)
-    : BasicCaptioned(elements, design, design.caption) {
+    : BasicCaptioned(elements, design, design.caption, design.accessKey),
+      useMnemonic_(design.useMnemonic) {
     auto label = std::make_unique<QLabel>(&ParentFor(elements, design));
     label->setTextFormat(Qt::PlainText);
-    label->setWordWrap(true);
+    label->setWordWrap(useMnemonic_);
     label->setAlignment(Qt::AlignLeft | Qt::AlignTop);
     label->setAutoFillBackground(true);
     Adopt(std::move(label));
@@ -38,10 +39,18 @@ QLabel& Label::Shown() const {
     return static_cast<QLabel&>(*Widget());
 }
 
-void Label::ShowCaption() {
-    QString text = ToQString(CaptionNow());
+// QLabel handles ampersands only where it leads to another widget.
+QString Label::ShownText() const {
+    if (!useMnemonic_) {
+        return ToQString(shared::WithVisibleSigns(CaptionNow()));
+    }
+    QString text = ToQString(MarkedCaption());
     text.replace(QLatin1String("\r\n"), QLatin1String("\n"));
-    Shown().setText(Shown().buddy() == nullptr ? WithoutMnemonic(text) : text);
+    return Shown().buddy() == nullptr ? WithoutMnemonic(text) : text;
+}
+
+void Label::ShowCaption() {
+    Shown().setText(ShownText());
     FitToCaption();
 }
 
@@ -79,7 +88,9 @@ void Label::FitToCaption() {
     }
     FontFace& face = CurrentFace();
     double width = 0;
-    const QStringList lines = WithoutMnemonic(ToQString(CaptionNow())).split(QLatin1String("\r\n"));
+    const QString shown = ShownText();
+    const QStringList lines =
+        (Shown().buddy() == nullptr ? shown : WithoutMnemonic(shown)).split(QLatin1Char('\n'));
     for (const QString& line : lines) {
         width = std::max(width, face.WidthOf(ViewOf(line)));
     }
@@ -93,10 +104,13 @@ void Label::FitToCaption() {
 }
 
 void Label::NameNext(QWidget& widget) {
+    if (!useMnemonic_) {
+        return;
+    }
     const bool takesFocus = widget.focusPolicy() != Qt::NoFocus;
     if (takesFocus && Shown().parentWidget() == widget.parentWidget() &&
         (qobject_cast<QPlainTextEdit*>(&widget) != nullptr ||
-         HasMnemonic(ToQString(CaptionNow())))) {
+         HasMnemonic(ToQString(MarkedCaption())))) {
         Shown().setBuddy(&widget);
         ShowCaption();
     }

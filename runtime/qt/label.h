@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QString>
+
 #include "frame/host/simple_constituents.h"
 #include "runtime/qt/basic_constituent.h"
 
@@ -10,7 +12,7 @@ namespace lumenkit::qt {
 /// A label. With AutoSize, a new caption or font resizes the label to its caption, whose lines end
 /// in CR LF; until then a Move keeps its effect. A label names the text box that is created next. A
 /// label with a mnemonic leads to any constituent that is created next and takes the keyboard
-/// focus.
+/// focus. A label that uses no mnemonic names and leads to nothing.
 class Label final : public BasicCaptioned<host::Label> {
  public:
     Label(Elements& elements, const host::CaptionDesign& design);
@@ -33,7 +35,9 @@ class Label final : public BasicCaptioned<host::Label> {
     void ShowFont() override;
     void ShowCaption() override;
     void FitToCaption();
+    QString ShownText() const;
 
+    bool useMnemonic_;
     Color foreColor_ = Color::ButtonText;
     Color backColor_ = Color::ButtonFace;
     bool autoSize_ = false;

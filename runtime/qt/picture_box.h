@@ -6,7 +6,8 @@
 namespace lumenkit::qt {
 
 /// A picture box whose border is the frame of the style. Constituents inside it are clipped at the
-/// border.
+/// border. The wheel over the box scrolls the scroll bars in it: with Shift, or turned sideways,
+/// the horizontal one.
 class PictureBox final : public BasicConstituent<host::PictureBox> {
  public:
     PictureBox(Elements& elements, const host::Design& design);
@@ -14,17 +15,13 @@ class PictureBox final : public BasicConstituent<host::PictureBox> {
     PictureBox(const PictureBox&) = delete;
     PictureBox& operator=(const PictureBox&) = delete;
 
-    void Move(const host::Placement& placement) override;
     float ScaleWidth() const override;
     float ScaleHeight() const override;
 
-    QWidget& Inside() const override { return *inside_; }
+    QWidget& Inside() const override;
 
  private:
     int Border() const;
-    void LayOut();
-
-    QPointer<QWidget> inside_;
 };
 
 }  // namespace lumenkit::qt

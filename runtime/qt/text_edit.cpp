@@ -229,8 +229,8 @@ bool TextEdit::During(Handle&& handle) {
 bool TextEdit::event(QEvent* event) {
     if (event->type() == QEvent::ShortcutOverride) {
         const auto& pressed = static_cast<QKeyEvent&>(*event);
-        if (IsControlLetter(pressed)) {
-            event->accept();  // the box handles Ctrl+letter before the menu shortcuts
+        if (IsControlLetter(pressed) || IsUndoKey(pressed)) {
+            event->accept();  // the box handles these keys before the menu shortcuts
             return true;
         }
     }
@@ -267,13 +267,25 @@ void TextEdit::Press(QKeyEvent& event) {
         Act(event);
     }
     if (!entered.empty()) {
-        event.setAccepted(event.key() != Qt::Key_Escape);
+        event.setAccepted(!IsForWindow(event));
         Enter(Pressed(entered), event);
     }
 }
 
+// Whether the window around the box acts on a key that the box has received: Escape, and Enter in a
+// box of one line.
+bool TextEdit::IsForWindow(const QKeyEvent& event) const {
+    const bool isEnter = event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
+    return event.key() == Qt::Key_Escape || (isEnter && !multiLine_);
+}
+
 // Handles a key that enters no units.
 void TextEdit::Act(QKeyEvent& event) {
+    if (IsUndoKey(event)) {
+        event.accept();
+        Command(key::undo, event);
+        return;
+    }
     if (IsMnemonic(event)) {
         event.ignore();
         return;

@@ -96,6 +96,7 @@ class TextEdit final : public QPlainTextEdit {
     void TellEvent(Notify&& notify);
 
     void Press(QKeyEvent& event);
+    bool IsForWindow(const QKeyEvent& event) const;
     void Act(QKeyEvent& event);
     Text Pressed(TextView units);
     void Enter(TextView units, const QKeyEvent& event);

@@ -4,6 +4,7 @@
 #include <string>
 
 #include "frame/host/constituent.h"
+#include "runtime/shared/shown_caption.h"
 #include "runtime/win32/element.h"
 #include "runtime/win32/font.h"
 #include "runtime/win32/wide_text.h"
@@ -78,15 +79,21 @@ class BasicCaptioned : public BasicTextConstituent<Interface> {
 
  protected:
     BasicCaptioned(const Elements& elements, const Element::Kind& kind, const host::Design& design,
-                   TextView caption)
-        : BasicTextConstituent<Interface>(elements, kind, design, caption), caption_(caption) {}
+                   TextView caption, char16_t accessKey = 0)
+        : BasicTextConstituent<Interface>(elements, kind, design,
+                                          shared::WithAccessKey(caption, accessKey)),
+          caption_(caption),
+          accessKey_(accessKey) {}
 
     /// Brings a changed caption to the window.
-    virtual void ShowCaption() { SetWindowTextW(this->Handle(), ToWide(caption_).c_str()); }
+    virtual void ShowCaption() { SetWindowTextW(this->Handle(), ToWide(ShownCaption()).c_str()); }
     const Text& CaptionNow() const { return caption_; }
+    /// The caption as the window shows it, by default with its mnemonic marked.
+    virtual Text ShownCaption() const { return shared::WithAccessKey(caption_, accessKey_); }
 
  private:
     Text caption_;
+    char16_t accessKey_;
 };
 
 }  // namespace lumenkit::win32

@@ -7,7 +7,7 @@ namespace lumenkit::win32 {
 CheckBox::CheckBox(const Elements& elements, const host::CaptionDesign& design,
                    host::ClickEvents& events)
     : BasicCaptioned(elements, {.className = L"BUTTON", .style = BS_3STATE | WS_TABSTOP}, design,
-                     design.caption),
+                     design.caption, design.accessKey),
       events_(events) {}
 
 void CheckBox::SetCheckState(std::int16_t state) {

@@ -5,7 +5,7 @@ namespace lumenkit::win32 {
 CommandButton::CommandButton(const Elements& elements, const host::CaptionDesign& design,
                              host::ClickEvents& events)
     : BasicCaptioned(elements, {.className = L"BUTTON", .style = BS_PUSHBUTTON | WS_TABSTOP},
-                     design, design.caption),
+                     design, design.caption, design.accessKey),
       events_(events) {}
 
 LRESULT CommandButton::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) {

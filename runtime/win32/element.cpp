@@ -43,6 +43,7 @@ Element::Element(const Elements& elements, const Kind& kind, const host::Design&
     : name_(design.name),
       index_(design.index),
       placement_(design.placement),
+      movingEdges_(design.movingEdges),
       visible_(design.visible),
       owner_(elements.window.Handle()),
       resolution_(elements.resolution) {
@@ -68,10 +69,30 @@ Element::~Element() {
 
 void Element::MoveTo(const host::Placement& placement) {
     RequireSize(placement.width, placement.height);
-    const RECT before = ToPixels(placement_, resolution_);
-    const RECT now = ToPixels(placement, resolution_);
+    const RECT before = PlaceInPixels();
     placement_ = placement;
-    if (EqualRect(&before, &now) == FALSE) {
+    PutInto(before);
+}
+
+void Element::FollowPage(SIZE growth) {
+    const RECT before = PlaceInPixels();
+    growth_ = growth;
+    PutInto(before);
+}
+
+RECT Element::PlaceInPixels() const {
+    RECT place = ToPixels(placement_, resolution_);
+    place.left += movingEdges_.left ? growth_.cx : 0;
+    place.top += movingEdges_.top ? growth_.cy : 0;
+    place.right += movingEdges_.right ? growth_.cx : 0;
+    place.bottom += movingEdges_.bottom ? growth_.cy : 0;
+    return place;
+}
+
+// Moves the window to its place, unless it was there before.
+void Element::PutInto(const RECT& former) const {
+    const RECT now = PlaceInPixels();
+    if (EqualRect(&former, &now) == FALSE) {
         SetWindowPos(Handle(), nullptr, now.left, now.top, now.right - now.left,
                      now.bottom - now.top, SWP_NOZORDER | SWP_NOACTIVATE | SWP_NOOWNERZORDER);
     }

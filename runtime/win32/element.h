@@ -33,6 +33,10 @@ class Element : public Window, public Drawable, public Described {
     /// Whether it and the elements around it are enabled.
     bool IsUsable() const { return enabled_ && parentIsUsable_; }
 
+    /// Called when the page around the constituent is larger than it is designed, by `growth`
+    /// pixels, or no longer is.
+    void FollowPage(SIZE growth);
+
     /// Draws the border, lets the window class draw the client area, and draws the children in it.
     void DrawOn(HDC device) override;
 
@@ -85,10 +89,14 @@ class Element : public Window, public Drawable, public Described {
  private:
     void GiveFocusAway();
     void TakeFocusBack();
+    RECT PlaceInPixels() const;
+    void PutInto(const RECT& former) const;
 
     Text name_;
     std::int16_t index_;
     host::Placement placement_;
+    host::MovingEdges movingEdges_;
+    SIZE growth_ = {0, 0};
     bool visible_;
     bool enabled_ = true;
     bool parentIsUsable_ = true;

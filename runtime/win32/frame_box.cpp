@@ -12,7 +12,7 @@ FrameBox::FrameBox(const Elements& elements, const host::CaptionDesign& design)
                      {.className = L"BUTTON",
                       .style = BS_GROUPBOX | WS_CLIPCHILDREN,
                       .extendedStyle = WS_EX_CONTROLPARENT},
-                     design, design.caption) {}
+                     design, design.caption, design.accessKey) {}
 
 void FrameBox::SetBorderStyle(std::int16_t style) {
     borderStyle_ = AcceptedNumber<std::int16_t>(style, 0, 1);

@@ -1,6 +1,9 @@
 #include "runtime/win32/hosted_page.h"
 
+#include <algorithm>
+
 #include "frame/runtime_error.h"
+#include "runtime/win32/element.h"
 #include "runtime/win32/hosted_control.h"
 #include "runtime/win32/keyboard.h"
 #include "runtime/win32/pixels.h"
@@ -12,6 +15,19 @@ namespace {
 SIZE LaidOutSize(const ClassDescriptor& type) {
     const Resolution resolution = Resolution::OfScreen();
     return {ToPixels(type.pageWidth, resolution.x), ToPixels(type.pageHeight, resolution.y)};
+}
+
+// Calls `call` with each constituent directly on the page until it returns true.
+template <typename Call>
+bool AnyPart(HWND page, Call&& call) {
+    for (HWND child = GetWindow(page, GW_CHILD); child != nullptr;
+         child = GetWindow(child, GW_HWNDNEXT)) {
+        auto* const part = dynamic_cast<Element*>(Window::Of(child));
+        if (part != nullptr && call(*part)) {
+            return true;
+        }
+    }
+    return false;
 }
 
 }  // namespace
@@ -44,7 +60,29 @@ bool HostedPage::TranslateKey(const MSG& message) {
     return TranslateKeyInside(Handle(), message);
 }
 
+bool HostedPage::FocusOn(TextView name) {
+    return AnyPart(Handle(), [&](const Element& part) {
+        if (!SameText(part.Name(), name, Compare::IgnoreCase)) {
+            return false;
+        }
+        SetFocus(part.Handle());
+        return true;
+    });
+}
+
+void HostedPage::FollowSize() const {
+    const SIZE now = WindowSize();
+    const SIZE growth = {std::max(now.cx - size_.cx, 0L), std::max(now.cy - size_.cy, 0L)};
+    AnyPart(Handle(), [&](Element& part) {
+        part.FollowPage(growth);
+        return false;
+    });
+}
+
 LRESULT HostedPage::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
+    if (message == WM_SIZE) {
+        FollowSize();
+    }
     if (message == WM_ERASEBKGND) {
         RECT area = {};
         GetClientRect(Handle(), &area);

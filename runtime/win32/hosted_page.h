@@ -26,7 +26,8 @@ class HostedPage final : public HostedWindow {
 
     PropertyPage& GetPage() { return *page_; }
     Object& Automation() { return page_->Automation(); }
-    /// The size that the page is designed for, in pixels.
+    /// The size that the page is designed for, in pixels. In a larger window, the constituents
+    /// whose edges move grow or move with the page.
     SIZE Size() const { return size_; }
 
     /// Puts the window into `parent` at `place`, hidden.
@@ -36,6 +37,8 @@ class HostedPage final : public HostedWindow {
     /// Moves the window back to the hidden parking window.
     void Detach() { Park(); }
 
+    /// Gives the focus to the constituent with this name. Returns false if there is none.
+    bool FocusOn(TextView part);
     /// Does the same as HostedControl::TranslateKey, and handles the mnemonics of the page's
     /// constituents.
     bool TranslateKey(const MSG& message);
@@ -46,6 +49,7 @@ class HostedPage final : public HostedWindow {
 
  private:
     LRESULT HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
+    void FollowSize() const;
 
     TextView title_;
     SIZE size_;

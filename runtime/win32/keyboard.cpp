@@ -174,8 +174,12 @@ bool UseKey(HWND root, const MSG& message) {
 }
 
 std::wstring CaptionOf(HWND window) {
-    if ((Wishes(window) & (DLGC_BUTTON | DLGC_STATIC)) == 0) {
+    const LRESULT wishes = Wishes(window);
+    if ((wishes & (DLGC_BUTTON | DLGC_STATIC)) == 0) {
         return {};  // its text is the user's input
+    }
+    if ((wishes & DLGC_STATIC) != 0 && (StyleOf(window) & SS_NOPREFIX) != 0) {
+        return {};  // it has no mnemonic
     }
     std::array<wchar_t, 256> caption{};
     GetWindowTextW(window, caption.data(), static_cast<int>(caption.size()));

@@ -9,21 +9,30 @@ namespace lumenkit::win32 {
 
 namespace {
 
+DWORD StyleOf(bool useMnemonic) {
+    return useMnemonic ? SS_LEFT : SS_LEFTNOWORDWRAP | SS_NOPREFIX;
+}
+
 // The size is in pixels. An empty caption has the height of one line.
-SIZE SizeOf(const Text& caption, HFONT font) {
+SIZE SizeOf(const Text& caption, bool useMnemonic, HFONT font) {
     const std::wstring wide = caption.empty() ? L" " : ToWide(caption);
     const WindowDevice screen(nullptr);
     const Selection selection(screen.Handle(), font);
     RECT extent = {};
     DrawTextW(screen.Handle(), wide.c_str(), static_cast<int>(wide.size()), &extent,
-              DT_CALCRECT | DT_LEFT | DT_EXPANDTABS);
+              DT_CALCRECT | DT_LEFT | DT_EXPANDTABS | (useMnemonic ? 0U : DT_NOPREFIX));
     return {caption.empty() ? 0 : extent.right, extent.bottom};
 }
 
 }  // namespace
 
 Label::Label(const Elements& elements, const host::CaptionDesign& design)
-    : BasicCaptioned(elements, {.className = L"STATIC", .style = SS_LEFT}, design, design.caption) {
+    : BasicCaptioned(elements, {.className = L"STATIC", .style = StyleOf(design.useMnemonic)},
+                     design, design.caption, design.accessKey),
+      useMnemonic_(design.useMnemonic) {
+    if (!useMnemonic_) {
+        BasicCaptioned::ShowCaption();  // with its signs
+    }
 }
 
 void Label::SetAutoSize(bool autoSize) {
@@ -45,6 +54,10 @@ std::optional<Description> Label::Describe() {
     return Description{.role = staticTextRole, .name = WithoutMnemonic(CaptionNow())};
 }
 
+Text Label::ShownCaption() const {
+    return useMnemonic_ ? BasicCaptioned::ShownCaption() : shared::WithVisibleSigns(CaptionNow());
+}
+
 void Label::ShowCaption() {
     BasicCaptioned::ShowCaption();
     FitToCaption();
@@ -59,11 +72,20 @@ void Label::FitToCaption() {
     if (!autoSize_) {
         return;
     }
-    const SIZE size = SizeOf(CaptionNow(), FontHandle());
+    const SIZE size = SizeOf(ShownCaption(), useMnemonic_, FontHandle());
     host::Placement fitting = Where();
     fitting.width = ToTwips(static_cast<int>(size.cx), PixelsPerInch().x);
     fitting.height = ToTwips(static_cast<int>(size.cy), PixelsPerInch().y);
     MoveTo(fitting);
+}
+
+// The platform repaints only the part that is new after a resize, but the lines of the whole text
+// may break elsewhere.
+LRESULT Label::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
+    if (message == WM_SIZE) {
+        Invalidate();
+    }
+    return BasicCaptioned::HandleMessage(message, wParam, lParam);
 }
 
 std::optional<LRESULT> Label::HandleNotification(UINT message, WPARAM wParam, LPARAM /*lParam*/) {

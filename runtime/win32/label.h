@@ -7,8 +7,8 @@
 
 namespace lumenkit::win32 {
 
-/// A label whose text the platform breaks into lines. A mnemonic in the text belongs to the next
-/// window in the tab order.
+/// A label whose text the platform breaks into lines, unless it uses no mnemonic. A mnemonic in the
+/// text belongs to the next window in the tab order.
 class Label final : public BasicCaptioned<host::Label> {
  public:
     Label(const Elements& elements, const host::CaptionDesign& design);
@@ -23,12 +23,15 @@ class Label final : public BasicCaptioned<host::Label> {
 
  protected:
     void ShowCaption() override;
+    Text ShownCaption() const override;
     void ShowFont() override;
+    LRESULT HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
     std::optional<LRESULT> HandleNotification(UINT message, WPARAM wParam, LPARAM lParam) override;
 
  private:
     void FitToCaption();
 
+    bool useMnemonic_;
     bool autoSize_ = false;
     Color foreColor_ = Color::ButtonText;
     Color backColor_ = Color::ButtonFace;

@@ -5,7 +5,8 @@
 
 namespace lumenkit::win32 {
 
-/// A window with a sunken border and the background colour of buttons.
+/// A window with a sunken border and the background colour of buttons. The wheel over the box
+/// scrolls the scroll bars in it: with Shift, or turned sideways, the horizontal one.
 class PictureBox final : public BasicConstituent<host::PictureBox> {
  public:
     PictureBox(const Elements& elements, const host::Design& design);

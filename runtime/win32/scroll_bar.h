@@ -24,6 +24,7 @@ class ScrollBar final : public BasicConstituent<host::ScrollBar> {
     std::int16_t SmallChange() const override { return smallChange_; }
     void SetSmallChange(std::int16_t step) override;
 
+    host::Orientation Direction() const { return orientation_; }
     void DrawOn(HDC device) override;
 
  protected:

@@ -80,6 +80,37 @@ TEST_P(ConstituentsContract, ALabelThatSizesItselfFollowsItsCaption) {
     EXPECT_EQ(label->BackColor(), Rgb(2, 2, 2));
 }
 
+TEST_P(ConstituentsContract, ALabelWithoutAMnemonicHasRoomForEveryCharacter) {
+    host::CaptionDesign design = {{.name = u"L", .placement = {.width = 600, .height = 300}}, u"x"};
+    design.useMnemonic = false;
+    const auto label = Parts().AddLabel(design);
+    label->SetAutoSize(true);
+    const auto sizeOf = [&](TextView caption) {
+        label->SetCaption(caption);
+        EXPECT_EQ(label->Caption(), caption);
+        return label->Place();
+    };
+    const host::Placement plain = sizeOf(u"ab");
+    for (const TextView longer : {u"a&b", u"a\r\nb", u"a\tb"}) {
+        const host::Placement size = sizeOf(longer);
+        EXPECT_GT(size.width, plain.width);
+        EXPECT_EQ(size.height, plain.height);
+    }
+    EXPECT_GT(sizeOf(u"a&&b").width, sizeOf(u"a&b").width);
+}
+
+TEST_P(ConstituentsContract, AnAccessKeyLeavesTheCaptionAlone) {
+    host::CaptionDesign design = {{.name = u"P", .placement = {.width = 900, .height = 300}},
+                                  u"R & D"};
+    design.accessKey = u'D';
+    EXPECT_EQ(Parts().AddLabel(design)->Caption(), u"R & D");
+    EXPECT_EQ(Parts().AddFrame(design)->Caption(), u"R & D");
+    EXPECT_EQ(Parts().AddCheckBox(design, clicks_)->Caption(), u"R & D");
+    const auto button = Parts().AddCommandButton(design, clicks_);
+    button->SetCaption(u"& more");
+    EXPECT_EQ(button->Caption(), u"& more");
+}
+
 TEST_P(ConstituentsContract, ACheckBoxNotifiesAChangedValue) {
     const auto box = Parts().AddCheckBox(
         {{.name = u"C", .placement = {.width = 900, .height = 300}}, u"c"}, clicks_);

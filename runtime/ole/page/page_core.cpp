@@ -1,5 +1,6 @@
 #include "runtime/ole/page/page_core.h"
 
+#include <algorithm>
 #include <utility>
 
 #include "frame/runtime_error.h"
@@ -31,6 +32,14 @@ ObjectRef PageCore::Item(std::int16_t index) {
     }
     askedForControl_ = true;
     return controls_[static_cast<std::size_t>(index)];
+}
+
+bool PageCore::FocusOn(DISPID property) {
+    const auto& fields = type_.pageFields;
+    const auto found = std::ranges::find_if(fields, [&](const PageField& field) {
+        return controls_.front()->FindMember(field.property) == property;
+    });
+    return found != fields.end() && hosted_->FocusOn(found->constituent);
 }
 
 bool PageCore::Apply() {

@@ -29,6 +29,10 @@ class PageCore final : public host::PropertyPageSite, public host::SelectedContr
     std::int16_t Count() const override { return static_cast<std::int16_t>(controls_.size()); }
     ObjectRef Item(std::int16_t index) override;
 
+    /// Gives the focus to the constituent that edits this property of the first control. Returns
+    /// false if the page does not edit the property.
+    bool FocusOn(DISPID property);
+
     /// Lets the page write the values that were entered. Returns false if it wrote nothing: it
     /// refused the values and its state is unchanged.
     bool Apply();

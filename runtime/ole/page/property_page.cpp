@@ -119,13 +119,12 @@ HRESULT PropertyPageFace::TranslateAccelerator(MSG* message) {
     });
 }
 
-HRESULT PropertyPageFace::EditProperty(DISPID /*property*/) {
+HRESULT PropertyPageFace::EditProperty(DISPID property) {
     return Guarded([&] {
-        if (!active_) {
+        if (!active_ || core_.Count() == 0) {
             return E_UNEXPECTED;
         }
-        SetFocus(GetNextDlgTabItem(core_.Hosted().Handle(), nullptr, FALSE));
-        return S_OK;
+        return core_.FocusOn(property) ? S_OK : E_INVALIDARG;
     });
 }
 

@@ -20,6 +20,7 @@
 #include "apps/lumenform/design/model/clipboard.h"
 #include "project/lumenkit_classes.h"
 #include "runtime/qt/element.h"
+#include "tests/apps/lumenform/answer.h"
 #include "tests/apps/lumenform/loaded_view.h"
 #include "tests/support/file_bytes.h"
 #include "tests/support/qt_keys.h"
@@ -31,36 +32,6 @@ namespace fs = std::filesystem;
 using ::testing::ElementsAre;
 using ::testing::HasSubstr;
 using ::testing::Not;
-
-// Presses a button of the next question, and records its text.
-class Answer {
- public:
-    explicit Answer(const QString& button) {
-        timer_.setInterval(5);
-        QObject::connect(&timer_, &QTimer::timeout, [this, button] {
-            auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
-            if (box == nullptr) {
-                return;
-            }
-            timer_.stop();
-            said = (box->text() + u'|' + box->informativeText()).toStdString();
-            for (QAbstractButton* choice : box->buttons()) {
-                if (choice->text().remove(u'&') == button) {
-                    choice->click();
-                    return;
-                }
-            }
-            ADD_FAILURE() << "no button " << button.toStdString();
-            box->reject();
-        });
-        timer_.start();
-    }
-
-    std::string said;
-
- private:
-    QTimer timer_;
-};
 
 class DesignWindowTest : public ::testing::Test {
  protected:

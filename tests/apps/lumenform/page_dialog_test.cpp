@@ -4,10 +4,13 @@
 #include <QApplication>
 #include <QPushButton>
 #include <QTest>
+#include <utility>
 
 #include <gmock/gmock.h>
 
 #include "runtime/qt/element.h"
+#include "runtime/qt/qt_text.h"
+#include "tests/apps/lumenform/answer.h"
 #include "tests/apps/lumenform/browsed_form.h"
 #include "tests/apps/lumenform/loaded_view.h"
 #include "tests/support/qt_keys.h"
@@ -105,6 +108,102 @@ TEST_F(PageDialog, CancelAfterApplyLeavesItAsItWasApplied) {
     EXPECT_EQ(Steps(), 1);
 }
 
+TEST_F(PageDialog, EscapeAsksAboutWhatIsNotApplied) {
+    Replace(u"txtCaption", u"new");
+    {
+        const Answer answer(QStringLiteral("Cancel"));
+        QTest::keyClick(&Box(u"txtCaption"), Qt::Key_Escape);
+        EXPECT_EQ(answer.said, "Apply the changes to A?|Changes that are not applied are lost.");
+    }
+    EXPECT_TRUE(dialog->isVisible());
+    EXPECT_EQ(Caption(), u"old");
+    {
+        const Answer answer(QStringLiteral("Discard"));
+        dialog->close();
+        EXPECT_EQ(answer.said, "Apply the changes to A?|Changes that are not applied are lost.");
+    }
+    EXPECT_FALSE(dialog->isVisible());
+    EXPECT_EQ(Caption(), u"old");
+    EXPECT_EQ(Steps(), 0);
+}
+
+TEST_F(PageDialog, EscapeMayApply) {
+    Replace(u"txtCaption", u"new");
+    const Answer answer(QStringLiteral("Apply"));
+    QTest::keyClick(&Box(u"txtCaption"), Qt::Key_Escape);
+    EXPECT_FALSE(dialog->isVisible());
+    EXPECT_EQ(Caption(), u"new");
+    EXPECT_EQ(Steps(), 1);
+}
+
+TEST_F(PageDialog, EscapeThatAppliesARefusedValueKeepsItOpen) {
+    Replace(u"txtBulletIndent", u"12345");
+    const Answer answer(QStringLiteral("Apply"));
+    QTest::keyClick(&Box(u"txtCaption"), Qt::Key_Escape);
+    EXPECT_TRUE(dialog->isVisible());
+    EXPECT_EQ(dialog->Message(), "Illegal indent. Must be 0 to 9999");
+}
+
+TEST_F(PageDialog, EscapeAsksNothingWhereNothingIsUnapplied) {
+    Replace(u"txtCaption", u"new");
+    Press(QDialogButtonBox::Apply);
+    QTest::keyClick(&Box(u"txtCaption"), Qt::Key_Escape);  // a question would not return
+    EXPECT_FALSE(dialog->isVisible());
+    EXPECT_EQ(Caption(), u"new");
+}
+
+TEST_F(PageDialog, EnterInAFieldOfOneLineIsOk) {
+    Replace(u"txtCaption", u"new");
+    QTest::keyClick(&Box(u"txtCaption"), Qt::Key_Return);
+    EXPECT_TRUE(dialog->isVisible()) << "in the caption it is a line break";
+    Replace(u"txtBulletPrefix", u"* ");
+    QTest::keyClick(&Box(u"txtBulletPrefix"), Qt::Key_Return);
+    EXPECT_FALSE(dialog->isVisible());
+    EXPECT_EQ(Caption(), u"new|CR|");
+}
+
+TEST_F(PageDialog, EnterInTheIndentIsOk) {
+    Replace(u"txtBulletIndent", u"300");
+    QTest::keyClick(&Box(u"txtBulletIndent"), Qt::Key_Enter, Qt::KeypadModifier);
+    EXPECT_FALSE(dialog->isVisible());
+    EXPECT_EQ(ToInteger(form.Automation(u"A").Get(u"BulletIndent")), 300);
+}
+
+TEST_F(PageDialog, ANoticeGoesWhenTheValueIsCorrected) {
+    Replace(u"txtBulletIndent", u"99999");
+    EXPECT_EQ(dialog->Message(), "Overflow");
+    Replace(u"txtBulletIndent", u"99");
+    EXPECT_EQ(dialog->Message(), "");
+    Replace(u"txtBulletIndent", u"12345");
+    Press(QDialogButtonBox::Apply);
+    EXPECT_NE(dialog->Message(), "");
+    QTest::keyClick(&Box(u"txtBulletIndent"), Qt::Key_Backspace);
+    EXPECT_EQ(dialog->Message(), "");
+}
+
+TEST_F(PageDialog, ANoticeMovesNothing) {
+    const auto places = [&] { return std::pair(dialog->size(), dialog->Buttons().geometry()); };
+    const auto before = places();
+    Replace(u"txtBulletIndent", u"99999");
+    QApplication::processEvents();
+    ASSERT_NE(dialog->Message(), "");
+    EXPECT_EQ(places(), before);
+}
+
+TEST_F(PageDialog, OpensWithTheWholePageAndCanBeResized) {
+    const qt::HostedPage& page = dialog->Page();
+    EXPECT_EQ(page.visibleRegion().boundingRect(), page.rect());
+    EXPECT_EQ(page.size(), page.minimumSize());
+    const QRect caption = Box(u"txtCaption").geometry();
+    dialog->resize(dialog->size() + QSize(120, 80));
+    QApplication::processEvents();
+    EXPECT_EQ(Box(u"txtCaption").geometry(), caption.adjusted(0, 0, 120, 80));
+    dialog->resize(dialog->size() - QSize(240, 160));
+    QApplication::processEvents();
+    EXPECT_EQ(page.size(), page.minimumSize()) << "scrolled";
+    EXPECT_LT(page.visibleRegion().boundingRect().height(), page.height());
+}
+
 TEST_F(PageDialog, ARefusalKeepsItOpen) {
     Replace(u"txtCaption", u"new");
     Replace(u"txtBulletIndent", u"12345");
@@ -121,6 +220,24 @@ TEST_F(PageDialog, ARefusalKeepsItOpen) {
     EXPECT_FALSE(dialog->isVisible());
     EXPECT_EQ(Caption(), u"new");
     EXPECT_EQ(Steps(), 1);
+}
+
+TEST(PageDialogTitle, NamesTheControlThatIsEdited) {
+    BrowsedForm form(
+        FormWith("   Begin lumenkit.VLabel A\n      Caption = \"a\"\n   End\n"
+                 "   Begin lumenkit.VLabel B\n      Caption = \"b\"\n   End\n"));
+    form.Select({u"A", u"B"});
+    auto* const dialog = form.browser->EditWithPage();
+    ASSERT_NE(dialog, nullptr);
+    const std::vector<Text> names = form.design.SelectedNames();
+    ASSERT_EQ(names.size(), 2U);
+    EXPECT_EQ(dialog->windowTitle(), qt::ToQString(names.front()) + QStringLiteral(": Caption"));
+    QWidget& box = *dialog->Page().Parts().Find(u"txtCaption")->Widget();
+    box.setFocus();
+    TypeKeys(box, u"x");
+    ASSERT_TRUE(dialog->Apply());
+    EXPECT_EQ(ToText(form.Automation(names[0]).Get(u"Caption")).front(), u'x');
+    EXPECT_NE(ToText(form.Automation(names[1]).Get(u"Caption")).front(), u'x');
 }
 
 }  // namespace

@@ -97,7 +97,7 @@ Form::Form()
                       {L"TopMargin", 300},
                       {L"Spacing", 360}},
                      optionEvents_, __uuidof(__VOptList))),
-      label_(Place(L"lumenkit.VLabel", {10, 170, 310, 330},
+      label_(Place(L"lumenkit.VLabel", {10, 170, 310, 370},
                    {{L"Caption", L"|B:1|Menu|B:0||CR|* soup|CR|* bread"},
                     {L"BulletPrefix", L"* "},
                     {L"BulletIndent", 300}},

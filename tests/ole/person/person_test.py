@@ -234,6 +234,87 @@ def page_shows_the_caption(program):
     program.picture("page")
 
 
+def caption_with(program, keys, layout="us"):
+    """Types keys at the start of the caption in a keyboard layout; returns what they entered."""
+    subprocess.run(["setxkbmap", layout], check=True)
+    try:
+        program.keys("ctrl+Home", *keys)
+        found = program.focus("page")["text"]
+        assert found.endswith(CAPTION), found
+        entered = found[:-len(CAPTION)]
+        program.keys("ctrl+Home", *["shift+Right"] * len(entered), "Delete")
+    finally:
+        subprocess.run(["setxkbmap", "us"], check=True)
+    equal(program.focus("page")["text"], CAPTION)
+    return entered
+
+
+def page_takes_keys_of_other_layouts(program):
+    equal(caption_with(program, ["ctrl+56"]), "|B:1|")  # the key with B on an English keyboard
+    equal(caption_with(program, ["ctrl+56", "ctrl+57"], "ru"), "|B:1||B:0|")
+    equal(caption_with(program, ["56"], "ru"), "\u0438")
+    equal(caption_with(program, ["ctrl+32"], "gr"), "|i:0|")
+
+
+def page_magnifies_every_character(program):
+    program.keys("ctrl+Home")
+    program.type("a&b&")
+    program.find("a&b&", "Static", "page")
+    program.keys("ctrl+Home", *["shift+Right"] * 4)
+    program.find("a&b&", "Static", "page")
+    program.picture("page_magnifier")
+    program.keys("Delete")
+    equal(program.focus("page")["text"], CAPTION)
+
+
+def field(program, number):
+    return [w for w in program.state["page"] if w["kind"] == "Edit"][number]
+
+
+def page_has_access_keys(program):
+    for key, number in (("p", 1), ("i", 2), ("t", 0)):
+        program.keys("alt+" + key)
+        assert field(program, number).get("focus"), key
+    equal(field(program, 0)["text"], CAPTION)
+
+
+def indent_is_edited_without_ctrl_letters(program):
+    program.keys("alt+i", "Home", "shift+End", "ctrl+c", "End", "ctrl+v")
+    equal(field(program, 2)["text"], "300")
+    program.keys("Home", "shift+End", "ctrl+Insert", "End", "shift+Insert")
+    equal(field(program, 2)["text"], "300300")
+    program.keys("alt+BackSpace")
+    equal(field(program, 2)["text"], "300")
+    program.keys("Home", "shift+Right", "shift+Delete")
+    equal(field(program, 2)["text"], "00")
+    program.keys("shift+Insert")
+    equal(field(program, 2)["text"], "300")
+    # Select all and cut, from the context menu.
+    program.click(field(program, 2), button=3, looks=False)
+    time.sleep(1)
+    program.picture("page_menu")
+    screen("key", "--delay", 200, "Up", "Return")
+    equal(program.look()["page"] and field(program, 2)["selection"], [0, 3])
+    program.click(field(program, 2), button=3, looks=False)
+    time.sleep(1)
+    screen("key", "--delay", 200, "t")
+    program.look()
+    equal(field(program, 2)["text"], "")
+    program.keys("shift+Insert")
+    equal(field(program, 2)["text"], "300")
+
+
+def page_scrolls_with_the_wheel(program):
+    before = preview_of(program)["place"]
+    program.click(preview_of(program), button=5)
+    after = preview_of(program)["place"]
+    assert after[1] < before[1], (before, after)
+    equal(after[0], before[0])
+    program.picture("page_scrolled")
+    program.click(preview_of(program), button=4, at=(50, 60))
+    equal(preview_of(program)["place"], before)
+
+
 def page_edits_the_caption(program):
     program.keys("ctrl+End", "Return")
     program.type('* "tea"')
@@ -284,14 +365,14 @@ def page_checks_the_indent(program):
 
 def page_wraps_words(program):
     equal(program.state["wraps"], 0)
-    program.click(program.find("Word Wrap", where="page"))
-    assert program.find("Word Wrap", where="page").get("checked")
+    program.click(program.find("&Word Wrap", where="page"))
+    assert program.find("&Word Wrap", where="page").get("checked")
     equal(program.state["wraps"], 0)
     equal(program.click(program.find("Apply", where="page"))["wraps"], -1)
 
 
 def page_shows_its_keys(program):
-    program.click(program.find("Keys Help", where="page"))
+    program.click(program.find("&Keys Help", where="page"))
     texts = [w["text"] for w in program.state["dialog"] if "Ctrl + S" in w["text"]]
     assert texts and "=  Insert  |before:0|" in texts[0], program.state["dialog"]
     program.picture("page_help")
@@ -328,6 +409,12 @@ def main():
         options_are_chosen(program)
         label_hears_clicks(program)
         page_shows_the_caption(program)
+        page_takes_keys_of_other_layouts(program)
+        page_magnifies_every_character(program)
+        page_has_access_keys(program)
+        indent_is_edited_without_ctrl_letters(program)
+        page_scrolls_with_the_wheel(program)
+        program.click(field(program, 0))
         caption = page_edits_the_caption(program)
         page_checks_the_indent(program)
         page_wraps_words(program)

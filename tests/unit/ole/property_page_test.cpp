@@ -1,4 +1,5 @@
 #include <cstring>
+#include <string>
 
 #include "tests/unit/ole/ole_test.h"
 
@@ -36,6 +37,13 @@ class PropertyPageTest : public OleTest {
         const RECT place = {0, 0, 480, 372};
         EXPECT_EQ(page_->Activate(form_.Window(), &place, FALSE), S_OK);
         EXPECT_EQ(page_->Show(SW_SHOW), S_OK);
+    }
+    // Returns the identifier of a property of the label.
+    DISPID IdentifierOf(std::wstring property) const {
+        LPOLESTR name = property.data();
+        DISPID identifier = DISPID_UNKNOWN;
+        EXPECT_EQ(label_->GetIDsOfNames(IID_NULL, &name, 1, 0, &identifier), S_OK);
+        return identifier;
     }
     // Returns the page's first text box, which holds the caption.
     HWND CaptionBox() const {
@@ -116,6 +124,32 @@ TEST_F(PropertyPageTest, TabGoesThroughThePageAndOutOfIt) {
     EXPECT_LT(stops, 50);  // at the last stop, the key goes to the container
     key.wParam = VK_ESCAPE;
     EXPECT_EQ(page_->TranslateAccelerator(&key), S_FALSE);
+}
+
+TEST_F(PropertyPageTest, LeadsToTheFieldOfAProperty) {
+    Show();
+    struct Field {
+        const wchar_t* property;
+        const wchar_t* className;
+        int index;
+    };
+    const HWND page = GetWindow(form_.Window(), GW_CHILD);
+    for (const Field& field :
+         {Field{L"BulletPrefix", L"Edit", 1}, Field{L"BulletIndent", L"Edit", 2},
+          Field{L"WordWrap", L"Button", 1}, Field{L"Caption", L"Edit", 0}}) {
+        HWND expected = nullptr;
+        for (int index = 0; index <= field.index; ++index) {
+            expected = FindWindowExW(page, expected, field.className, nullptr);
+        }
+        EXPECT_EQ(page_->EditProperty(IdentifierOf(field.property)), S_OK);
+        EXPECT_EQ(GetFocus(), expected) << field.index;
+    }
+    const HWND focus = GetFocus();
+    EXPECT_EQ(page_->EditProperty(IdentifierOf(L"BackColor")), E_INVALIDARG);
+    EXPECT_EQ(page_->EditProperty(DISPID_UNKNOWN), E_INVALIDARG);
+    EXPECT_EQ(GetFocus(), focus);
+    EXPECT_EQ(page_->SetObjects(0, nullptr), S_OK);
+    EXPECT_EQ(page_->EditProperty(0), E_UNEXPECTED);
 }
 
 TEST_F(PropertyPageTest, FailuresOfTheEditedControlGoToTheHost) {

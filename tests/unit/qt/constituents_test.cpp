@@ -366,6 +366,47 @@ TEST_F(QtConstituentsTest, LabelsNameWhatFollowsThem) {
     EXPECT_TRUE(WidgetOf(*edited).hasFocus());
 }
 
+TEST_F(QtConstituentsTest, AnAccessKeyIsUnderlinedAndLeadsToTheConstituent) {
+    host::CaptionDesign name = Captioned(u"A & name:");
+    name.accessKey = u'N';
+    auto label = Parts().AddLabel(name);
+    auto box = Parts().AddTextBox(Boxed(), edits_);
+    EXPECT_EQ(label->Caption(), u"A & name:");
+    EXPECT_EQ(static_cast<QLabel&>(WidgetOf(*label)).text(), QStringLiteral("A && &name:"));
+    EXPECT_EQ(NameOf(WidgetOf(*box)), QStringLiteral("A & name:"));
+    QTest::keyClick(&form_.window, Qt::Key_N, Qt::AltModifier);
+    EXPECT_TRUE(WidgetOf(*box).hasFocus());
+    host::CaptionDesign wrap = Captioned(u"Wrap");
+    wrap.accessKey = u'w';
+    auto check = Parts().AddCheckBox(wrap, clicks_);
+    auto button = Parts().AddCommandButton(wrap, clicks_);
+    EXPECT_EQ(static_cast<QCheckBox&>(WidgetOf(*check)).text(), QStringLiteral("&Wrap"));
+    EXPECT_EQ(static_cast<QAbstractButton&>(WidgetOf(*button)).text(), QStringLiteral("&Wrap"));
+    EXPECT_EQ(check->Caption(), u"Wrap");
+    EXPECT_EQ(button->Caption(), u"Wrap");
+}
+
+TEST_F(QtConstituentsTest, ALabelWithoutAMnemonicShowsItsTextAsItStands) {
+    host::CaptionDesign design = Captioned(u"&Edit");
+    design.useMnemonic = false;
+    auto label = Parts().AddLabel(design);
+    auto box = Parts().AddTextBox(Boxed(600), edits_);
+    auto& shown = static_cast<QLabel&>(WidgetOf(*label));
+    EXPECT_EQ(shown.text(), QStringLiteral("&Edit"));
+    EXPECT_NE(NameOf(WidgetOf(*box)), QStringLiteral("&Edit"));
+    QTest::keyClick(&form_.window, Qt::Key_E, Qt::AltModifier);
+    EXPECT_FALSE(WidgetOf(*box).hasFocus());
+    label->SetAutoSize(true);
+    const float line = label->Place().height;
+    label->SetCaption(u"a && b");
+    const float narrow = label->Place().width;
+    label->SetCaption(u"a && b\r\n\tc");
+    EXPECT_EQ(label->Caption(), u"a && b\r\n\tc");
+    EXPECT_EQ(shown.text(), QString::fromUtf16(u"a && b\u00B6\u00AC\u00BBc"));
+    EXPECT_EQ(label->Place().height, line);
+    EXPECT_GT(label->Place().width, narrow);
+}
+
 TEST_F(QtConstituentsTest, TellRolesAndStates) {
     auto box = Parts().AddCheckBox(Captioned(u"&Wrap"), clicks_);
     QAccessibleInterface& accessible = Accessible(WidgetOf(*box));
@@ -448,6 +489,40 @@ TEST_F(QtConstituentsTest, AWheelAndKeysScroll) {
     QApplication::sendEvent(&WidgetOf(*bar), &wheel);
     EXPECT_GT(bar->ScrollValue(), 45);
     EXPECT_EQ(counter.changes, 3);
+}
+
+TEST_F(QtConstituentsTest, TheWheelOverAPictureBoxScrollsTheBarsInIt) {
+    auto box = Parts().AddPictureBox({.name = u"P", .placement = {.width = 1500, .height = 900}});
+    auto across =
+        Parts().AddScrollBar({.name = u"H", .parent = box.get(), .placement = {0, 600, 1200, 255}},
+                             host::Orientation::Horizontal, edits_);
+    auto down =
+        Parts().AddScrollBar({.name = u"V", .parent = box.get(), .placement = {1200, 0, 255, 600}},
+                             host::Orientation::Vertical, edits_);
+    auto inside = Parts().AddControl(
+        {.name = u"I", .parent = box.get(), .placement = {0, 0, 1200, 600}}, u"testing.Painting");
+    QWidget& area = dynamic_cast<EmbeddedControl&>(*inside).Inner().Drawing().Area();
+    for (host::ScrollBar* bar : {across.get(), down.get()}) {
+        bar->SetMax(1000);
+        bar->SetSmallChange(10);
+        bar->SetLargeChange(500);
+    }
+    const auto turn = [&](QPoint by, Qt::KeyboardModifiers held = {}) {
+        QWheelEvent wheel({5, 5}, area.mapToGlobal(QPointF(5, 5)), {}, by, {}, held,
+                          Qt::NoScrollPhase, false);
+        QApplication::sendEvent(&area, &wheel);
+        return std::pair(across->ScrollValue(), down->ScrollValue());
+    };
+    const auto notch = static_cast<std::int16_t>(10 * QApplication::wheelScrollLines());
+    const std::int16_t none = 0;
+    EXPECT_EQ(turn({0, -120}), std::pair(none, notch));
+    EXPECT_EQ(turn({0, -120}, Qt::ShiftModifier), std::pair(notch, notch));
+    EXPECT_EQ(turn({0, 120}, Qt::ShiftModifier), std::pair(none, notch));
+    EXPECT_EQ(turn({-120, 0}), std::pair(notch, notch));
+    down->SetEnabled(false);
+    across->SetVisible(false);
+    EXPECT_EQ(turn({0, -120}), std::pair(notch, notch));
+    EXPECT_EQ(turn({-120, 0}), std::pair(notch, notch));
 }
 
 TEST_F(QtConstituentsTest, APictureBoxClipsWhatLiesInIt) {

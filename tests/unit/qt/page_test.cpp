@@ -1,8 +1,13 @@
 // The caption page on real widgets.
 #include <QAccessible>
 #include <QApplication>
+#include <QClipboard>
 #include <QInputMethodEvent>
+#include <QLabel>
+#include <QMenu>
 #include <QTest>
+#include <algorithm>
+#include <map>
 
 #include <gmock/gmock.h>
 
@@ -11,6 +16,7 @@
 #include "runtime/qt/embedded_control.h"
 #include "runtime/qt/hosted_page.h"
 #include "runtime/qt/label.h"
+#include "runtime/qt/qt_text.h"
 #include "runtime/qt/scroll_bar.h"
 #include "runtime/qt/text_box.h"
 #include "tests/support/qt_form.h"
@@ -176,6 +182,143 @@ TEST_F(QtPageTest, TheMagnifierFollowsTheCaret) {
     EXPECT_FALSE(Part<Label>(u"labLeft").Widget()->isVisible()) << "Tab leaves the caption";
 }
 
+TEST_F(QtPageTest, TheMagnifierShowsEveryCharacter) {
+    const auto shown = [&](TextView name) {
+        return static_cast<QLabel*>(Part<Label>(name).Widget())->text();
+    };
+    Caption().SetText(u"&a&&\r\n\tb");
+    Caption().SetSelStart(3);
+    Press(Qt::Key_Right, {});
+    EXPECT_EQ(shown(u"labLeft"), QStringLiteral("&a&&"));
+    EXPECT_EQ(shown(u"labChar"), QString(QChar(0xB6)));
+    EXPECT_EQ(shown(u"labRight"), QString::fromUtf16(u"\u00AC\u00BBb"));
+    EXPECT_EQ(Part<Label>(u"labRight").Caption(), u"\n\tb");
+    Caption().SetSelection(2, 6);
+    Press(Qt::Key_Shift, {});
+    EXPECT_EQ(shown(u"labSelect"), QString::fromUtf16(u"&&\u00B6\u00AC"));
+}
+
+TEST_F(QtPageTest, AccessKeysLeadToTheFields) {
+    struct Field {
+        Qt::Key key;
+        TextView name;
+    };
+    for (const Field& field :
+         {Field{Qt::Key_P, u"txtBulletPrefix"}, Field{Qt::Key_I, u"txtBulletIndent"},
+          Field{Qt::Key_T, u"txtCaption"}}) {
+        QTest::keyClick(page_.get(), field.key, Qt::AltModifier);
+        EXPECT_TRUE(Part<TextBox>(field.name).Edit().hasFocus())
+            << ToQString(field.name).toStdString();
+    }
+    QTest::keyClick(page_.get(), Qt::Key_W, Qt::AltModifier);
+    QTest::keyClick(page_.get(), Qt::Key_K, Qt::AltModifier);
+    QTest::qWait(150);  // the buttons look pressed for a while
+    EXPECT_EQ(Part<CheckBox>(u"chkWordWrap").CheckState(), 1);
+    EXPECT_EQ(form_.interaction.said.size(), 1U);
+    EXPECT_EQ(Caption().GetText(), u"x abc y");
+}
+
+TEST_F(QtPageTest, ShortcutsWorkInALayoutWithoutLatinLetters) {
+    struct Stroke {
+        int key;
+        quint32 position;  // as X11 counts
+        const char16_t* letter;
+    };
+    const auto strike = [&](const Stroke& stroke, Qt::KeyboardModifiers held) {
+        QKeyEvent event(QEvent::KeyPress, stroke.key, held, stroke.position, 0, 0,
+                        QString::fromUtf16(stroke.letter));
+        QApplication::sendEvent(&Caption().Edit(), &event);
+    };
+    Caption().SetText(u"");
+    strike({0x0418, 56, u"\u0438"}, Qt::ControlModifier);  // Cyrillic, where B is
+    EXPECT_EQ(Caption().GetText(), u"|B:1|");
+    strike({0x03A4, 57, u"\u03BD"}, Qt::ControlModifier);  // Greek, where N is
+    EXPECT_EQ(Caption().GetText(), u"|B:1||B:0|");
+    strike({0x0418, 56, u"\u0438"}, {});
+    EXPECT_EQ(Caption().GetText(), u"|B:1||B:0|\u0438") << "without Ctrl";
+    // The Dvorak layout has its letters elsewhere, and so have German letters.
+    strike({Qt::Key_Apostrophe, 24, u"'"}, Qt::ControlModifier);
+    strike({Qt::Key_Adiaeresis, 56, u""}, Qt::ControlModifier);
+    EXPECT_EQ(Caption().GetText(), u"|B:1||B:0|\u0438'");
+    strike({Qt::Key_N, 46, u"\x0E"}, Qt::ControlModifier);
+    EXPECT_EQ(Caption().GetText(), u"|B:1||B:0|\u0438'|B:0|") << "where L is elsewhere";
+}
+
+TEST_F(QtPageTest, AnyTextComesIntoTheIndentWithoutTheCtrlLetters) {
+    auto& indent = Part<TextBox>(u"txtBulletIndent");
+    const auto strike = [&](Qt::Key key, Qt::KeyboardModifiers held) {
+        QTest::keyClick(&indent.Edit(), key, held);
+        return Text(indent.GetText());
+    };
+    const auto copied = [] { return QGuiApplication::clipboard()->text().toStdString(); };
+    indent.Edit().setFocus();
+    QGuiApplication::clipboard()->setText(QStringLiteral("1e3"));
+    EXPECT_EQ(strike(Qt::Key_V, Qt::ControlModifier), u"0") << "cancelled by KeyPress";
+    indent.SetSelection(0, -1);
+    EXPECT_EQ(strike(Qt::Key_Insert, Qt::ShiftModifier), u"1e3");
+    indent.SetSelection(0, 2);
+    strike(Qt::Key_Insert, Qt::ControlModifier);
+    EXPECT_EQ(copied(), "1e");
+    indent.SetSelection(1, 3);
+    EXPECT_EQ(strike(Qt::Key_Delete, Qt::ShiftModifier), u"1");
+    EXPECT_EQ(copied(), "e3");
+    EXPECT_EQ(strike(Qt::Key_Backspace, Qt::AltModifier), u"1e3");
+    EXPECT_EQ(strike(Qt::Key_Backspace, Qt::AltModifier | Qt::ShiftModifier), u"1");
+}
+
+TEST_F(QtPageTest, TheIndentHasAContextMenu) {
+    auto& indent = Part<TextBox>(u"txtBulletIndent");
+    QGuiApplication::clipboard()->setText(QStringLiteral("&H10"));
+    indent.Edit().setFocus();
+    indent.Edit().selectAll();
+    QContextMenuEvent asked(QContextMenuEvent::Mouse, {5, 5},
+                            indent.Edit().mapToGlobal(QPoint(5, 5)));
+    QApplication::sendEvent(indent.Edit().viewport(), &asked);
+    auto* const menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+    ASSERT_NE(menu, nullptr);
+    const QList<QAction*> actions = menu->actions();
+    const auto paste = std::ranges::find_if(actions, [](const QAction* action) {
+        return action->objectName() == QLatin1String("edit-paste");
+    });
+    ASSERT_NE(paste, actions.end());
+    EXPECT_TRUE((*paste)->isEnabled());
+    (*paste)->trigger();
+    menu->close();
+    QApplication::processEvents();
+    EXPECT_EQ(indent.GetText(), u"&H10");
+    EXPECT_EQ(Part<EmbeddedControl>(u"VLabel1").Automation().Get(u"BulletIndent"),
+              Value(std::int16_t{16}));
+}
+
+TEST_F(QtPageTest, ALargerPageGivesTheCaptionBoxMoreRoom) {
+    const auto place = [&](TextView name) {
+        return dynamic_cast<Element&>(*page_->Parts().Find(name)).Widget()->geometry();
+    };
+    std::map<Text, QRect> before;
+    for (const Element* part : page_->Parts().All()) {
+        before[part->Name()] = part->Widget()->geometry();
+    }
+    page_->resize(page_->minimumSize() + QSize(100, 60));
+    EXPECT_EQ(place(u"txtCaption"), before[u"txtCaption"].adjusted(0, 0, 100, 60));
+    EXPECT_EQ(place(u"lblCaption"), before[u"lblCaption"]);
+    EXPECT_EQ(place(u"Label1"), before[u"Label1"].adjusted(0, 60, 100, 60));
+    EXPECT_EQ(place(u"cmdHelp"), before[u"cmdHelp"].translated(100, 60));
+    for (const TextView name :
+         {u"labLeft", u"labChar", u"labSelect", u"labRight", u"lblBulletPrefix", u"txtBulletPrefix",
+          u"lblBulletIndent", u"txtBulletIndent", u"chkWordWrap", u"Picture1"}) {
+        EXPECT_EQ(place(name), before[Text(name)].translated(0, 60))
+            << ToQString(name).toStdString();
+    }
+    EXPECT_EQ(place(u"HScroll1"), before[u"HScroll1"]) << "inside the preview";
+    // Parts that the page moves itself stay below the caption box.
+    Caption().SetSelection(0, 3);
+    Press(Qt::Key_Shift, {});
+    EXPECT_EQ(place(u"labRight").top(), place(u"labLeft").top());
+    page_->resize(page_->minimumSize());
+    EXPECT_EQ(place(u"txtCaption"), before[u"txtCaption"]);
+    EXPECT_EQ(place(u"Picture1"), before[u"Picture1"]);
+}
+
 TEST_F(QtPageTest, TheIndentTakesDigits) {
     auto& indent = Part<TextBox>(u"txtBulletIndent");
     indent.SetText(u"");
@@ -203,6 +346,23 @@ TEST_F(QtPageTest, ALargePreviewScrolls) {
     QTest::keyClick(bar.Widget(), Qt::Key_Right);
     EXPECT_EQ(Part<EmbeddedControl>(u"VLabel1").Place().left, -bar.ScrollValue());
     EXPECT_GT(bar.ScrollValue(), 0);
+}
+
+TEST_F(QtPageTest, TheWheelOverThePreviewScrollsIt) {
+    label_.Move({0, 0, 9000, 6000});
+    page_->Select({label_.SharedAutomation()});
+    auto& preview = Part<EmbeddedControl>(u"VLabel1");
+    QWidget& area = preview.Inner().Drawing().Area();
+    const auto turn = [&](Qt::KeyboardModifiers held) {
+        QWheelEvent wheel({5, 5}, area.mapToGlobal(QPointF(5, 5)), {}, {0, -120}, {}, held,
+                          Qt::NoScrollPhase, false);
+        QApplication::sendEvent(&area, &wheel);
+    };
+    turn({});
+    EXPECT_LT(preview.Place().top, 0);
+    EXPECT_EQ(preview.Place().left, 0);
+    turn(Qt::ShiftModifier);
+    EXPECT_LT(preview.Place().left, 0);
 }
 
 TEST_F(QtPageTest, ErrorsOfThePageComeOutOfItsCalls) {

@@ -78,6 +78,19 @@ TEST_F(PageDesign, WritesTheMagnifierInCourier) {
     EXPECT_EQ(Property(Part(u"labSelect"), u"AutoSize"), Value(true));
 }
 
+// The fields through which a designer reaches the properties are constituents of the page, and the
+// properties are those for which the label offers the page.
+TEST_F(PageDesign, NamesTheFieldOfEachProperty) {
+    std::vector<Text> properties;
+    for (const PageField& field : page_.Form().FindClass(u"VLabelCaption").pageFields) {
+        EXPECT_NE(page_.Page().Parts().Find(field.constituent), nullptr)
+            << ToUtf8(field.constituent);
+        properties.emplace_back(field.property);
+    }
+    const auto offered = page_.Form().FindClass(u"VLabel").pageProperties;
+    EXPECT_THAT(properties, ::testing::UnorderedElementsAreArray(offered.begin(), offered.end()));
+}
+
 // The ambient font has no effect.
 TEST_F(PageDesign, WritesThePreviewInMsSansSerif) {
     page_.Form().AmbientFont().SetName(u"Times New Roman");

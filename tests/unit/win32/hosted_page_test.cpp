@@ -1,7 +1,10 @@
 // Property pages in windows, and a test of every class of the library.
 #include "runtime/win32/hosted_page.h"
 
+#include <array>
 #include <memory>
+#include <string>
+#include <vector>
 
 #include <gtest/gtest.h>
 
@@ -157,6 +160,130 @@ TEST_F(HostedPageTest, TabGoesThroughThePageAndThenOn) {
     escape.message = WM_KEYDOWN;
     escape.wParam = VK_ESCAPE;
     EXPECT_FALSE(page->TranslateKey(escape));
+}
+
+std::wstring ShownBy(HWND window) {
+    std::array<wchar_t, 40> text = {};
+    GetWindowTextW(window, text.data(), static_cast<int>(text.size()));
+    return text.data();
+}
+
+TEST_F(HostedPageTest, TheMagnifierShowsEveryCharacter) {
+    const auto page = NewPage();
+    label_.Hosted().Automation().Let(u"Caption", Text(u"&a&&\r\n\tb"));
+    page->GetPage().PropertyPage_SelectionChanged();
+    page->Attach(form_.Window(), {0, 0, page->Size().cx, page->Size().cy});
+    page->SetVisible(true);
+    const HWND box = Child(page->Handle(), L"EDIT");
+    SetFocus(box);
+    const auto select = [&](int start, int end) {
+        SendMessageW(box, EM_SETSEL, static_cast<WPARAM>(start), end);
+        SendMessageW(box, WM_KEYUP, VK_SHIFT, static_cast<LPARAM>(0xC0000001));
+    };
+    select(4, 4);
+    // The labels in order: two of the page, and the four of the magnifier.
+    EXPECT_EQ(ShownBy(Child(page->Handle(), L"STATIC", 2)), L"&a&&");
+    EXPECT_EQ(ShownBy(Child(page->Handle(), L"STATIC", 3)), L"\u00B6");
+    EXPECT_EQ(ShownBy(Child(page->Handle(), L"STATIC", 5)), L"\u00AC\u00BBb");
+    select(2, 6);
+    EXPECT_EQ(ShownBy(Child(page->Handle(), L"STATIC", 4)), L"&&\u00B6\u00AC");
+}
+
+TEST_F(HostedPageTest, AccessKeysLeadToTheFields) {
+    const auto page = NewPage();
+    page->Attach(form_.Window(), {0, 0, page->Size().cx, page->Size().cy});
+    page->SetVisible(true);
+    SetFocus(Child(page->Handle(), L"EDIT"));
+    const auto press = [&](wchar_t unit) {
+        MSG message = {};
+        message.hwnd = GetFocus();
+        message.message = WM_SYSCHAR;
+        message.wParam = unit;
+        EXPECT_TRUE(page->TranslateKey(message)) << static_cast<char>(unit);
+        return GetFocus();
+    };
+    EXPECT_EQ(press(L'p'), Child(page->Handle(), L"EDIT", 1));
+    EXPECT_EQ(press(L'i'), Child(page->Handle(), L"EDIT", 2));
+    EXPECT_EQ(press(L't'), Child(page->Handle(), L"EDIT", 0));
+    EXPECT_EQ(press(L'w'), FindWindowExW(page->Handle(), nullptr, L"BUTTON", L"&Word Wrap"));
+    EXPECT_EQ(SendMessageW(GetFocus(), BM_GETCHECK, 0, 0), BST_CHECKED);
+    EXPECT_EQ(press(L'k'), FindWindowExW(page->Handle(), nullptr, L"BUTTON", L"&Keys Help"));
+    EXPECT_EQ(form_.GetLog().Messages().size(), 1U);
+}
+
+TEST_F(HostedPageTest, GivesTheFocusToAPartByItsName) {
+    const auto page = NewPage();
+    page->Attach(form_.Window(), {0, 0, page->Size().cx, page->Size().cy});
+    page->SetVisible(true);
+    EXPECT_TRUE(page->FocusOn(u"txtBulletIndent"));
+    EXPECT_EQ(GetFocus(), Child(page->Handle(), L"EDIT", 2));
+    EXPECT_FALSE(page->FocusOn(u"txtNone"));
+    EXPECT_EQ(GetFocus(), Child(page->Handle(), L"EDIT", 2));
+}
+
+RECT PlaceIn(HWND parent, HWND child) {
+    RECT place = {};
+    GetWindowRect(child, &place);
+    MapWindowPoints(nullptr, parent, reinterpret_cast<POINT*>(&place), 2);
+    return place;
+}
+
+RECT Moved(RECT place, const RECT& edges) {
+    return {place.left + edges.left, place.top + edges.top, place.right + edges.right,
+            place.bottom + edges.bottom};
+}
+
+TEST_F(HostedPageTest, ALargerPageGivesTheCaptionBoxMoreRoom) {
+    const auto page = NewPage();
+    const SIZE size = page->Size();
+    page->Attach(form_.Window(), {0, 0, size.cx, size.cy});
+    struct Part {
+        HWND window;
+        RECT edges;
+        RECT before;
+    };
+    const HWND whole = page->Handle();
+    std::vector<Part> parts = {
+        {Child(whole, L"STATIC", 0), {0, 0, 0, 0}, {}},
+        {Child(whole, L"EDIT", 0), {0, 0, 100, 60}, {}},
+        {Child(whole, L"STATIC", 1), {0, 60, 100, 60}, {}},
+        {FindWindowExW(whole, nullptr, L"BUTTON", L"&Keys Help"), {100, 60, 100, 60}, {}},
+        {Child(whole, L"STATIC", 5), {0, 60, 0, 60}, {}},
+        {Child(whole, L"EDIT", 2), {0, 60, 0, 60}, {}},
+        {Child(whole, L"lumenkitWindow"), {0, 60, 0, 60}, {}},
+    };
+    for (Part& part : parts) {
+        ASSERT_NE(part.window, nullptr);
+        part.before = PlaceIn(whole, part.window);
+    }
+    page->Place({0, 0, size.cx + 100, size.cy + 60});
+    for (const Part& part : parts) {
+        const RECT now = PlaceIn(whole, part.window);
+        const RECT expected = Moved(part.before, part.edges);
+        EXPECT_TRUE(EqualRect(&now, &expected)) << &part - parts.data();
+    }
+    page->Place({0, 0, size.cx - 50, size.cy - 50});
+    for (const Part& part : parts) {
+        const RECT now = PlaceIn(whole, part.window);
+        EXPECT_TRUE(EqualRect(&now, &part.before)) << &part - parts.data();
+    }
+}
+
+TEST_F(HostedPageTest, TheWheelOverThePreviewScrollsIt) {
+    const auto page = NewPage();
+    label_.MoveTo({0, 0, 600, 400});
+    page->GetPage().PropertyPage_SelectionChanged();
+    page->Attach(form_.Window(), {0, 0, page->Size().cx, page->Size().cy});
+    page->SetVisible(true);
+    const HWND viewport = Child(page->Handle(), L"lumenkitWindow");
+    const HWND preview = Child(viewport, L"lumenkitWindow");
+    ASSERT_NE(preview, nullptr);
+    const RECT before = PlaceIn(viewport, preview);
+    SendMessageW(preview, WM_MOUSEWHEEL, MAKEWPARAM(0, -120), 0);
+    EXPECT_LT(PlaceIn(viewport, preview).top, before.top);
+    EXPECT_EQ(PlaceIn(viewport, preview).left, before.left);
+    SendMessageW(preview, WM_MOUSEWHEEL, MAKEWPARAM(MK_SHIFT, -120), 0);
+    EXPECT_LT(PlaceIn(viewport, preview).left, before.left);
 }
 
 TEST_F(HostedPageTest, OutlivesItsWindow) {

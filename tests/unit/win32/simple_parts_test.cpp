@@ -1,8 +1,10 @@
+#include <array>
 #include <functional>
 #include <memory>
 #include <utility>
 
 #include "frame/host/simple_constituents.h"
+#include "runtime/win32/keyboard.h"
 #include "runtime/win32/pixels.h"
 #include "tests/support/window_count.h"
 #include "tests/unit/win32/parts_form.h"
@@ -169,6 +171,72 @@ TEST_F(SimplePartsTest, ALabelHasItsOwnColours) {
         << "its mnemonic belongs to what follows";
 }
 
+TEST_F(SimplePartsTest, ALabelWithoutAMnemonicShowsItsTextAsItStands) {
+    host::CaptionDesign design = {{.name = u"L", .placement = {.width = 600, .height = 300}},
+                                  u"&a\r\n\tb"};
+    design.useMnemonic = false;
+    const auto label = Parts().AddLabel(design);
+    const auto shown = [&] {
+        std::array<wchar_t, 20> text = {};
+        GetWindowTextW(WindowOf(*label), text.data(), static_cast<int>(text.size()));
+        return std::wstring(text.data());
+    };
+    EXPECT_EQ(shown(), L"&a\u00B6\u00AC\u00BBb") << "also the designed text";
+    label->SetAutoSize(true);
+    const host::Placement one = label->Place();
+    label->SetCaption(u"&&a\r\n\tb");
+    EXPECT_EQ(label->Caption(), u"&&a\r\n\tb");
+    EXPECT_EQ(shown(), L"&&a\u00B6\u00AC\u00BBb");
+    EXPECT_GT(label->Place().width, one.width) << "each ampersand is shown";
+    EXPECT_EQ(label->Place().height, one.height);
+    const auto style = static_cast<DWORD>(GetWindowLongW(WindowOf(*label), GWL_STYLE));
+    EXPECT_NE(style & SS_NOPREFIX, 0U);
+    EXPECT_EQ(MnemonicsInside(panel_->Handle()), L"");
+}
+
+TEST_F(SimplePartsTest, AnAccessKeyIsUnderlinedAndTheCaptionStays) {
+    host::CaptionDesign design = {{.name = u"P", .placement = {.width = 600, .height = 300}},
+                                  u"One & more"};
+    design.accessKey = u'M';
+    const auto label = Parts().AddLabel(design);
+    const auto box = Parts().AddCheckBox(design, receiver_);
+    const auto button = Parts().AddCommandButton(design, receiver_);
+    const auto frame = Parts().AddFrame(design);
+    for (const HWND window :
+         {WindowOf(*label), WindowOf(*box), WindowOf(*button), WindowOf(*frame)}) {
+        std::array<wchar_t, 20> text = {};
+        GetWindowTextW(window, text.data(), static_cast<int>(text.size()));
+        EXPECT_STREQ(text.data(), L"One && &more");
+    }
+    EXPECT_EQ(label->Caption(), u"One & more");
+    EXPECT_EQ(button->Caption(), u"One & more");
+    label->SetCaption(u"Moon");
+    EXPECT_EQ(MnemonicsInside(panel_->Handle()), L"m");
+    EXPECT_TRUE(UseMnemonicInside(panel_->Handle(), L'm'));
+    EXPECT_EQ(GetFocus(), WindowOf(*box));
+}
+
+// The platform repaints only what a growing window did not show before.
+TEST_F(SimplePartsTest, ALabelThatGrowsIsRepaintedAsAWhole) {
+    const auto label = NewLabel(u"a b");
+    label->SetAutoSize(true);
+    const HWND window = WindowOf(*label);
+    for (const bool byCaption : {true, false}) {
+        ValidateRect(window, nullptr);
+        if (byCaption) {
+            label->SetCaption(u"a longer text in many words");
+        } else {
+            const host::Placement place = label->Place();
+            label->Move({place.left, place.top, place.width + 150, place.height + 150});
+        }
+        RECT inside = {};
+        GetClientRect(window, &inside);
+        RECT stale = {};
+        GetUpdateRect(window, &stale, FALSE);
+        EXPECT_TRUE(EqualRect(&stale, &inside)) << stale.left << " " << stale.right;
+    }
+}
+
 // ---- Buttons
 
 TEST_F(SimplePartsTest, ACommandButtonIsPressedByMouseKeysAndPrograms) {
@@ -233,6 +301,38 @@ TEST_F(SimplePartsTest, APictureBoxHasABorderOfTwoPixels) {
     const auto inside = NewLabel(u"x");
     const auto label = Parts().AddLabel({{.name = u"L", .parent = box.get()}, u""});
     EXPECT_EQ(GetParent(WindowOf(*label)), WindowOf(*box));
+}
+
+TEST_F(SimplePartsTest, TheWheelOverAPictureBoxScrollsTheBarsInIt) {
+    const auto box =
+        Parts().AddPictureBox({.name = u"P", .placement = {.width = 3000, .height = 3000}});
+    const auto bar = [&](host::Orientation orientation) {
+        auto made = Parts().AddScrollBar(
+            {.name = u"S", .parent = box.get(), .placement = {.width = 300, .height = 300}},
+            orientation, receiver_);
+        made->SetMax(1000);
+        made->SetSmallChange(10);
+        return made;
+    };
+    const auto across = bar(host::Orientation::Horizontal);
+    const auto down = bar(host::Orientation::Vertical);
+    const auto inside = Parts().AddLabel({{.name = u"L", .parent = box.get()}, u"x"});
+    UINT lines = 3;
+    SystemParametersInfoW(SPI_GETWHEELSCROLLLINES, 0, &lines, 0);
+    const auto notch = static_cast<std::int16_t>(10 * lines);
+    using Values = std::pair<std::int16_t, std::int16_t>;
+    const auto turn = [&](UINT message, int delta, WORD held = 0) {
+        SendMessageW(WindowOf(*inside), message, MAKEWPARAM(held, delta), 0);
+        return Values(across->ScrollValue(), down->ScrollValue());
+    };
+    EXPECT_EQ(turn(WM_MOUSEWHEEL, -120), Values(0, notch));
+    EXPECT_EQ(turn(WM_MOUSEWHEEL, -120, MK_SHIFT), Values(notch, notch));
+    EXPECT_EQ(turn(WM_MOUSEWHEEL, 120, MK_SHIFT), Values(0, notch));
+    EXPECT_EQ(turn(WM_MOUSEHWHEEL, 120), Values(notch, notch));
+    down->SetEnabled(false);
+    across->SetVisible(false);
+    EXPECT_EQ(turn(WM_MOUSEWHEEL, -120), Values(notch, notch));
+    EXPECT_EQ(turn(WM_MOUSEHWHEEL, 120), Values(notch, notch));
 }
 
 // ---- Scroll bars

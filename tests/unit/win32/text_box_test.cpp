@@ -589,6 +589,57 @@ TEST_F(TextBoxTest, CtrlVPastesOnce) {
     EXPECT_EQ(recorder_.Take(), (Lines{"down 86 2", "press 22", "change", "up 86 2"}));
 }
 
+// Wine sends the letter of the layout; Windows sends the control unit itself.
+TEST_F(TextBoxTest, CtrlWithALetterOfAnyLayoutIsAControlUnit) {
+    Box(u"");
+    Focus();
+    const auto pressed = [&](std::initializer_list<int> held, WORD key, char16_t unit) {
+        std::vector<std::unique_ptr<HeldKey>> holding;
+        for (const int one : held) {
+            holding.push_back(std::make_unique<HeldKey>(one));
+        }
+        recorder_.lines.clear();
+        Strike(Handle(), key, unit);
+        return recorder_.lines.at(1);
+    };
+    constexpr char16_t cyrillic = 0x0438;
+    EXPECT_EQ(pressed({VK_CONTROL}, 'B', cyrillic), "press 2");
+    EXPECT_EQ(pressed({VK_CONTROL, VK_SHIFT}, 'Z', cyrillic), "press 26");
+    EXPECT_EQ(pressed({}, 'B', cyrillic), "press 1080");
+    EXPECT_EQ(pressed({VK_CONTROL, VK_MENU}, 'E', 0x20AC), "press 8364") << "AltGr";
+    EXPECT_EQ(pressed({VK_CONTROL}, VK_OEM_1, 0x00F6), "press 246") << "not the key of a letter";
+}
+
+// A receiver may cancel all keys that enter units, as a field for digits does.
+TEST_F(TextBoxTest, TheOlderEditingKeysNeedNoKeyPress) {
+    Box(u"12", false);
+    Focus();
+    recorder_.onKeyPress = [](std::int16_t) { return std::int16_t{0}; };
+    PutOnClipboard(Handle(), u"1e3");
+    const auto strike = [&](WORD key, int held) {
+        const HeldKey holding(held);
+        Strike(Handle(), key);
+        return Text(box_->GetText());
+    };
+    box_->SetSelection(0, -1);
+    EXPECT_EQ(strike(VK_INSERT, VK_SHIFT), u"1e3");
+    box_->SetSelection(0, 2);
+    strike(VK_INSERT, VK_CONTROL);
+    box_->SetSelection(3, 3);
+    EXPECT_EQ(strike(VK_INSERT, VK_SHIFT), u"1e31e") << "it was copied";
+    box_->SetSelection(1, 5);
+    EXPECT_EQ(strike(VK_DELETE, VK_SHIFT), u"1");
+    EXPECT_EQ(strike(VK_INSERT, VK_SHIFT), u"1e31e") << "it was cut";
+    box_->SetSelection(0, -1);
+    Strike(Handle(), VK_DELETE);
+    EXPECT_EQ(box_->GetText(), u"");
+    constexpr LPARAM withAlt = 0x20000001;
+    SendMessageW(Handle(), WM_SYSKEYDOWN, VK_BACK, withAlt);
+    SendMessageW(Handle(), WM_SYSCHAR, u'\b', withAlt);
+    SendMessageW(Handle(), WM_SYSKEYUP, VK_BACK, withAlt);
+    EXPECT_EQ(box_->GetText(), u"1e31e") << "it was undone";
+}
+
 TEST_F(TextBoxTest, TakesWhatAnInputMethodComposed) {
     host::TextBox& box = Box(u"");
     Focus();

@@ -13,6 +13,7 @@ Notice::Notice(QWidget* parent) : QFrame(parent), text_(new QLabel(this)) {
     sign->setAlignment(Qt::AlignTop);
     text_->setTextFormat(Qt::PlainText);
     text_->setWordWrap(true);
+    text_->setMinimumHeight(text_->fontMetrics().lineSpacing());
     text_->setTextInteractionFlags(Qt::TextSelectableByMouse);
     auto* const layout = new QHBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);

@@ -1,6 +1,9 @@
 #include "apps/lumenform/design/properties/page_dialog.h"
 
+#include <QMessageBox>
 #include <QPushButton>
+#include <QScreen>
+#include <QScrollArea>
 #include <QVBoxLayout>
 #include <utility>
 
@@ -38,12 +41,9 @@ class NamedControl final : public Object {
     Text name_;
 };
 
+// The page edits the first control only.
 QString TitleOf(const ClassDescriptor& page, const std::vector<Text>& controls) {
-    QString title = qt::ToQString(controls.front());
-    if (controls.size() > 1) {
-        title += QStringLiteral(", ...");
-    }
-    return title + QStringLiteral(": ") + qt::ToQString(page.pageTitle);
+    return qt::ToQString(controls.front()) + QStringLiteral(": ") + qt::ToQString(page.pageTitle);
 }
 
 }  // namespace
@@ -61,22 +61,22 @@ PageDialog::PageDialog(FormDesign& design, ControlMessages& messages, const Clas
                        notice_->Say(qt::ToQString(error.Description()));
                    }},
       title_(qt::ToQString(page.pageTitle)),
+      control_(qt::ToQString(controls.front())),
       notice_(new Notice(this)),
       buttons_(new QDialogButtonBox(
           QDialogButtonBox::Ok | QDialogButtonBox::Cancel | QDialogButtonBox::Apply, this)),
-      page_(new qt::HostedPage(context_, page, this)) {
+      page_(new qt::HostedPage(context_, page)),
+      scrolled_(new QScrollArea(this)) {
+    scrolled_->setWidget(page_);  // owns the page from here on
     setWindowTitle(TitleOf(page, controls));
     setWindowModality(Qt::WindowModal);
-    auto* const layout = new QVBoxLayout(this);
-    layout->setSizeConstraint(QLayout::SetFixedSize);
-    layout->addWidget(page_);
-    layout->addWidget(notice_);
-    layout->addWidget(buttons_);
+    LayOut();
     QPushButton* const apply = buttons_->button(QDialogButtonBox::Apply);
     connect(buttons_, &QDialogButtonBox::accepted, this, &PageDialog::accept);
-    connect(buttons_, &QDialogButtonBox::rejected, this, &PageDialog::reject);
+    connect(buttons_, &QDialogButtonBox::rejected, this, [this] { QDialog::reject(); });
     connect(apply, &QPushButton::clicked, this, &PageDialog::Apply);
     page_->OnChanged([apply](bool changed) { apply->setEnabled(changed); });
+    page_->OnEdited([this] { notice_->Say({}); });  // it is about the former values
     std::vector<ObjectRef> selection;
     selection.reserve(controls.size());
     for (const Text& name : controls) {
@@ -86,6 +86,23 @@ PageDialog::PageDialog(FormDesign& design, ControlMessages& messages, const Clas
     page_->SetChanged(false);  // the initial values are no change
     apply->setEnabled(false);
     FocusPage();
+}
+
+// A page that is larger than the window is scrolled, and one that is smaller grows.
+void PageDialog::LayOut() {
+    scrolled_->setWidgetResizable(true);
+    scrolled_->setFrameShape(QFrame::NoFrame);
+    scrolled_->setFocusPolicy(Qt::NoFocus);
+    QSizePolicy room = notice_->sizePolicy();
+    room.setRetainSizeWhenHidden(true);  // so that a notice does not move the buttons
+    notice_->setSizePolicy(room);
+    auto* const layout = new QVBoxLayout(this);
+    layout->addWidget(scrolled_, 1);
+    layout->addWidget(notice_);
+    layout->addWidget(buttons_);
+    // A scroll area proposes at most a size that depends on its font.
+    const QSize lacking = (page_->sizeHint() - scrolled_->sizeHint()).expandedTo({0, 0});
+    resize((layout->sizeHint() + lacking).boundedTo(screen()->availableSize()));
 }
 
 // Moves the focus into the page. A button with the focus would react to the first space that is
@@ -125,6 +142,28 @@ bool PageDialog::Apply() {
 void PageDialog::accept() {
     if (Apply()) {
         QDialog::accept();
+    }
+}
+
+void PageDialog::reject() {
+    if (!page_->Changed()) {
+        QDialog::reject();
+        return;
+    }
+    QMessageBox box(QMessageBox::Question, tr("Apply changes?"),
+                    tr("Apply the changes to %1?").arg(control_),
+                    QMessageBox::Apply | QMessageBox::Discard | QMessageBox::Cancel, this);
+    box.setInformativeText(tr("Changes that are not applied are lost."));
+    box.setDefaultButton(QMessageBox::Apply);
+    switch (box.exec()) {
+        case QMessageBox::Apply:
+            accept();
+            break;
+        case QMessageBox::Discard:
+            QDialog::reject();
+            break;
+        default:
+            break;
     }
 }
 

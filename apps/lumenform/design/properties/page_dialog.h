@@ -9,11 +9,14 @@
 #include "apps/lumenform/design/properties/notice.h"
 #include "runtime/qt/hosted_page.h"
 
+class QScrollArea;
+
 namespace lumenkit::lumenform {
 
 /// A property page for controls of a design, with OK, Cancel and Apply. Each Apply is one step of
-/// the history. If the page or a control rejects a value, the dialog shows the reason and stays
-/// open.
+/// the history. If the page or a control rejects a value, the dialog shows the reason until the
+/// user changes a value, and stays open. Cancel discards changes; Escape and closing the window ask
+/// first.
 class PageDialog final : public QDialog {
     Q_OBJECT
 
@@ -31,8 +34,10 @@ class PageDialog final : public QDialog {
     /// Returns false if a value was rejected. Does nothing if nothing has changed.
     bool Apply();
     void accept() override;
+    void reject() override;
 
  private:
+    void LayOut();
     void ApplyPage();
     void FocusPage();
 
@@ -40,9 +45,11 @@ class PageDialog final : public QDialog {
     ControlMessages& messages_;
     qt::Context context_;
     QString title_;
+    QString control_;  // the name of the control that the page edits
     Notice* notice_;
     QDialogButtonBox* buttons_;
     qt::HostedPage* page_;
+    QScrollArea* scrolled_;
 };
 
 }  // namespace lumenkit::lumenform
