@@ -212,7 +212,6 @@ LRESULT TextBox::KeyIsPressed(WPARAM wParam, LPARAM lParam) {
 // the platform sends the layout's letter. Key codes follow the positions of the keys then.
 WPARAM TextBox::UnitOf(WPARAM typed) const {
     constexpr WPARAM lastAscii = 0x7F;
-    constexpr std::int16_t shiftHeld = 1;
     const bool holdsControl = (HeldKeys() & ~shiftHeld) == controlHeld;
     const bool isLetter = keyDown_ >= 'A' && keyDown_ <= 'Z';
     return typed > lastAscii && holdsControl && isLetter ? keyDown_ - 'A' + 1 : typed;
