@@ -379,7 +379,7 @@ TEST_P(TextBoxContract, TheUserCannotUseADisabledOrHiddenBox) {
 // Two boxes of one control array with the same place, of which the first is shown.
 class TwinBoxesContract : public ContractTest {
  protected:
-    std::unique_ptr<host::TextBox> NewBox(std::int16_t index, host::TextBoxEvents& events) {
+    std::unique_ptr<host::TextBox> NewBox(std::int16_t index, host::TextBoxEvents& receiver) {
         return Parts().AddTextBox({{.name = u"Text1",
                                     .index = index,
                                     .placement = {.width = 1500, .height = 900},
@@ -387,7 +387,7 @@ class TwinBoxesContract : public ContractTest {
                                    true,
                                    host::ScrollBars::None,
                                    u"abcd"},
-                                  events);
+                                  receiver);
     }
     void Swap(TextView text) {
         second_->SetText(text);
