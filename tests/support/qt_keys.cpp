@@ -3,6 +3,8 @@
 #include <QApplication>
 #include <QKeyEvent>
 #include <QPointer>
+#include <QTest>
+#include <QWheelEvent>
 
 namespace lumenkit::testing {
 
@@ -50,6 +52,14 @@ void TypeKeys(QWidget& widget, TextView text) {
             }
         }
     }
+}
+
+void TurnWheel(QWidget& widget, QPoint turned, Qt::KeyboardModifiers held) {
+    const QPointF place(5, 5);
+    QWheelEvent wheel(place, widget.mapToGlobal(place), {}, turned, {}, held, Qt::NoScrollPhase,
+                      false);
+    QSpontaneKeyEvent::setSpontaneous(&wheel);  // Qt passes on only events of the window system
+    qApp->notify(&widget, &wheel);
 }
 
 }  // namespace lumenkit::testing

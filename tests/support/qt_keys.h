@@ -11,4 +11,8 @@ namespace lumenkit::testing {
 /// and 9 (Tab).
 void TypeKeys(QWidget& widget, TextView text);
 
+/// Turns the wheel over a widget by `turned`, an eighth of a degree each. As for a user, a parent
+/// receives the event if the widget does not use it.
+void TurnWheel(QWidget& widget, QPoint turned, Qt::KeyboardModifiers held = {});
+
 }  // namespace lumenkit::testing

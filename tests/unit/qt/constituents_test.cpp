@@ -508,9 +508,7 @@ TEST_F(QtConstituentsTest, TheWheelOverAPictureBoxScrollsTheBarsInIt) {
         bar->SetLargeChange(500);
     }
     const auto turn = [&](QPoint by, Qt::KeyboardModifiers held = {}) {
-        QWheelEvent wheel({5, 5}, area.mapToGlobal(QPointF(5, 5)), {}, by, {}, held,
-                          Qt::NoScrollPhase, false);
-        QApplication::sendEvent(&area, &wheel);
+        testing::TurnWheel(area, by, held);
         return std::pair(across->ScrollValue(), down->ScrollValue());
     };
     const auto notch = static_cast<std::int16_t>(10 * QApplication::wheelScrollLines());

@@ -210,11 +210,11 @@ TEST_F(QtPageTest, AccessKeysLeadToTheFields) {
         EXPECT_TRUE(Part<TextBox>(field.name).Edit().hasFocus())
             << ToQString(field.name).toStdString();
     }
+    // The buttons look pressed for a while.
     QTest::keyClick(page_.get(), Qt::Key_W, Qt::AltModifier);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return Part<CheckBox>(u"chkWordWrap").CheckState() == 1; }));
     QTest::keyClick(page_.get(), Qt::Key_K, Qt::AltModifier);
-    QTest::qWait(150);  // the buttons look pressed for a while
-    EXPECT_EQ(Part<CheckBox>(u"chkWordWrap").CheckState(), 1);
-    EXPECT_EQ(form_.interaction.said.size(), 1U);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return form_.interaction.said.size() == 1; }));
     EXPECT_EQ(Caption().GetText(), u"x abc y");
 }
 
@@ -353,15 +353,10 @@ TEST_F(QtPageTest, TheWheelOverThePreviewScrollsIt) {
     page_->Select({label_.SharedAutomation()});
     auto& preview = Part<EmbeddedControl>(u"VLabel1");
     QWidget& area = preview.Inner().Drawing().Area();
-    const auto turn = [&](Qt::KeyboardModifiers held) {
-        QWheelEvent wheel({5, 5}, area.mapToGlobal(QPointF(5, 5)), {}, {0, -120}, {}, held,
-                          Qt::NoScrollPhase, false);
-        QApplication::sendEvent(&area, &wheel);
-    };
-    turn({});
+    testing::TurnWheel(area, {0, -120});
     EXPECT_LT(preview.Place().top, 0);
     EXPECT_EQ(preview.Place().left, 0);
-    turn(Qt::ShiftModifier);
+    testing::TurnWheel(area, {0, -120}, Qt::ShiftModifier);
     EXPECT_LT(preview.Place().left, 0);
 }
 

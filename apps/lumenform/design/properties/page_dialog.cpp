@@ -102,7 +102,7 @@ void PageDialog::LayOut() {
     layout->addWidget(buttons_);
     // A scroll area proposes at most a size that depends on its font.
     const QSize lacking = (page_->sizeHint() - scrolled_->sizeHint()).expandedTo({0, 0});
-    resize((layout->sizeHint() + lacking).boundedTo(screen()->availableSize()));
+    resize((layout->totalSizeHint() + lacking).boundedTo(screen()->availableSize()));
 }
 
 // Moves the focus into the page. A button with the focus would react to the first space that is
