@@ -50,7 +50,7 @@ void TextBox::SetVisible(bool visible) {
     if (twin != nullptr && !twin->caretIsPlaced_) {
         twin->ReceiveSelection(selStart_, selEnd_ - selStart_);
     }
-    caretIsPlaced_ = false;
+    caretIsPlaced_ = caretIsPlaced_ && visible;
     Focus& focus = Siblings().GetForm().GetFocus();
     if (twin != nullptr && twin->IsEnabled() && focus.IsAt(*this)) {
         focus.MoveTo(twin);

@@ -31,6 +31,12 @@ QList<QWidget*> GroupDescription::Parts() const {
     QList<QWidget*> parts = widget()->findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly);
     std::ranges::reverse(parts);
     parts.removeIf([](const QWidget* part) { return part->isHidden() || part->isWindow(); });
+    for (const QWidget* around = widget(); around != nullptr; around = around->parentWidget()) {
+        if (const auto* const order = dynamic_cast<const ReadingOrder*>(around)) {
+            order->Sort(parts);
+            break;
+        }
+    }
     return parts;
 }
 

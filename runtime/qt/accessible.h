@@ -23,8 +23,16 @@ class SelfDescribing {
     SelfDescribing();
 };
 
+/// A widget that knows the order in which its parts, and those of the widgets inside, are read.
+class ReadingOrder {
+ public:
+    virtual ~ReadingOrder() = default;
+    virtual void Sort(QList<QWidget*>& parts) const = 0;
+};
+
 /// A widget that contains others. Hidden child widgets do not exist for screen readers, and the
-/// visible ones come in the order from front to back, in which they were created.
+/// visible ones come in the order from front to back, unless a widget around them has a
+/// ReadingOrder.
 class GroupDescription : public QAccessibleWidget {
  public:
     explicit GroupDescription(QWidget& widget, QAccessible::Role role = QAccessible::Client)

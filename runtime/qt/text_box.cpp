@@ -44,7 +44,7 @@ void TextBox::SetVisible(bool visible) {
         twin->Edit().Select(
             {.start = std::min(selected.start, length), .end = std::min(selected.end, length)});
     }
-    caretIsPlaced_ = false;
+    caretIsPlaced_ = caretIsPlaced_ && visible;
     BasicTextConstituent::SetVisible(visible);
 }
 

@@ -88,7 +88,7 @@ EditHistory::Replacement EditHistory::Between(std::size_t start, std::size_t old
 
 void EditHistory::Add(EditKind kind, Replacement&& made) {
     Settle();
-    if (made.removed.empty() && made.inserted.empty()) {
+    if (made.removed == made.inserted) {
         last_ = Last::Nothing;
         return;
     }

@@ -268,7 +268,7 @@ std::optional<Description> HostedControl::Describe() {
 }
 
 LRESULT HostedControl::GiveText(std::size_t room, wchar_t* target) {
-    return CopyText(surface_.ShownTexts(), room, target);
+    return CopyText(SpokenText(), room, target);
 }
 
 }  // namespace lumenkit::win32

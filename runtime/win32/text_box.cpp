@@ -138,7 +138,7 @@ void TextBox::SetVisible(bool visible) {
         const std::int32_t length = twin->Length();
         twin->Select(std::min(selection.start, length), std::min(selection.end, length));
     }
-    caretIsPlaced_ = false;
+    caretIsPlaced_ = caretIsPlaced_ && visible;
     BecomeVisible(visible);
 }
 

@@ -16,7 +16,7 @@ EXPORTS = ["DllCanUnloadNow", "DllGetClassObject", "DllRegisterServer", "DllUnre
 # Libraries of Windows itself. The libraries of a compiler are not allowed.
 SYSTEM_LIBRARIES = {
     "advapi32.dll", "comctl32.dll", "gdi32.dll", "kernel32.dll", "msvcrt.dll", "ole32.dll",
-    "oleacc.dll", "oleaut32.dll", "shell32.dll", "user32.dll", "uxtheme.dll",
+    "imm32.dll", "oleacc.dll", "oleaut32.dll", "shell32.dll", "user32.dll", "uxtheme.dll",
 }
 MACHINES = {32: 0x14C, 64: 0x8664}
 SYSTEM_KINDS = {32: 1, 64: 3}  # the system kind in a type library

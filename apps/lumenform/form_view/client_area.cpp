@@ -131,6 +131,16 @@ QAccessibleInterface* ClientArea::NewDescription() {
     return std::make_unique<FormDescription>(*this).release();
 }
 
+// Sorts the controls in a frame of the form. Widgets that are no controls come last.
+void ClientArea::Sort(QList<QWidget*>& parts) const {
+    const std::vector<LiveControl*> order = InTabOrder(controls_);
+    const auto turn = [&](const QWidget* part) {
+        return std::ranges::find(order, part,
+                                 [](const LiveControl* control) { return &control->Widget(); });
+    };
+    std::ranges::stable_sort(parts, {}, turn);
+}
+
 bool ClientArea::focusNextPrevChild(bool next) {
     const Route route = FindRoute();
     if (route.stops.empty()) {

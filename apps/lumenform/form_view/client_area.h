@@ -19,7 +19,7 @@ std::vector<LiveControl*> InTabOrder(const std::vector<std::unique_ptr<LiveContr
 /// The client area of a form. Paints the background, moves the focus through the controls by
 /// TabIndex with Tab, and clicks the buttons for Enter and Esc. Tab goes from the last control to
 /// the first and does not leave the form. Screen readers get the controls in tab order too.
-class ClientArea final : public QWidget, public qt::SelfDescribing {
+class ClientArea final : public QWidget, public qt::SelfDescribing, public qt::ReadingOrder {
  public:
     using Controls = std::vector<std::unique_ptr<LiveControl>>;
 
@@ -34,6 +34,7 @@ class ClientArea final : public QWidget, public qt::SelfDescribing {
 
     bool focusNextPrevChild(bool next) override;
     QAccessibleInterface* NewDescription() override;
+    void Sort(QList<QWidget*>& parts) const override;
 
  protected:
     void keyPressEvent(QKeyEvent* event) override;

@@ -322,7 +322,9 @@ TEST_F(SimplePartsTest, TheWheelOverAPictureBoxScrollsTheBarsInIt) {
     const auto notch = static_cast<std::int16_t>(10 * lines);
     using Values = std::pair<std::int16_t, std::int16_t>;
     const auto turn = [&](UINT message, int delta, WORD held = 0) {
-        SendMessageW(WindowOf(*inside), message, MAKEWPARAM(held, delta), 0);
+        // Wine's windows do not pass WM_MOUSEHWHEEL on to their parents.
+        const HWND window = message == WM_MOUSEWHEEL ? WindowOf(*inside) : WindowOf(*box);
+        SendMessageW(window, message, MAKEWPARAM(held, delta), 0);
         return Values(across->ScrollValue(), down->ScrollValue());
     };
     EXPECT_EQ(turn(WM_MOUSEWHEEL, -120), Values(0, notch));

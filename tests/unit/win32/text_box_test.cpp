@@ -600,6 +600,9 @@ TEST_F(TextBoxTest, CtrlWithALetterOfAnyLayoutIsAControlUnit) {
         }
         recorder_.lines.clear();
         Strike(Handle(), key, unit);
+        while (!holding.empty()) {
+            holding.pop_back();  // each key restores the state that it found
+        }
         return recorder_.lines.at(1);
     };
     constexpr char16_t cyrillic = 0x0438;

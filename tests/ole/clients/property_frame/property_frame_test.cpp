@@ -51,7 +51,9 @@ struct Search {
 
 BOOL CALLBACK FindText(HWND window, LPARAM parameter) {
     auto& search = *reinterpret_cast<Search*>(parameter);
-    if (TextIn(window) == search.text) {
+    std::wstring text = TextIn(window);
+    std::erase(text, L'&');  // marks the access key
+    if (text == search.text) {
         search.found = window;
     }
     return TRUE;
