@@ -2,18 +2,29 @@
 
 #include <algorithm>
 
+#include "runtime/qt/boundary.h"
+
 namespace lumenkit::qt {
 
 namespace {
 
+ErrorSink SinkFor(const QObject* object) {
+    for (; object != nullptr; object = object->parent()) {
+        if (const auto* const receiver = dynamic_cast<const ErrorReceiver*>(object)) {
+            return receiver->Errors();
+        }
+    }
+    return {};
+}
+
 // Qt calls this function, so no exception may leave it.
 QAccessibleInterface* DescriptionOf(const QString& /*key*/, QObject* object) {
     auto* const widget = dynamic_cast<SelfDescribing*>(object);
-    try {
-        return widget == nullptr ? nullptr : widget->NewDescription();
-    } catch (...) {
-        return nullptr;
+    QAccessibleInterface* made = nullptr;
+    if (widget != nullptr) {
+        HandleEvent(SinkFor(object), [&] { made = widget->NewDescription(); });
     }
+    return made;
 }
 
 }  // namespace

@@ -16,7 +16,8 @@ class SelfDescribing {
     SelfDescribing& operator=(const SelfDescribing&) = delete;
 
     /// Returns a new description, which Qt takes over. If it throws, Qt describes the widget
-    /// itself.
+    /// itself, and the error goes to the call that led to the question, or to the ErrorReceiver
+    /// around the widget.
     virtual QAccessibleInterface* NewDescription() = 0;
 
  protected:

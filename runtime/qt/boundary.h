@@ -14,6 +14,13 @@ namespace lumenkit::qt {
 /// Receives an error that leaves an event handler. No caller of such a handler could catch it.
 using ErrorSink = std::function<void(const RuntimeError&)>;
 
+/// A widget that knows where errors go that reach no caller, also those of the widgets inside it.
+class ErrorReceiver {
+ public:
+    virtual ~ErrorReceiver() = default;
+    virtual const ErrorSink& Errors() const = 0;
+};
+
 /// Marks that a notification is running. Widgets must not be deleted meanwhile.
 class Notifying {
  public:

@@ -31,6 +31,7 @@ ObjectRef HostedPage::Selection::Item(std::int16_t index) {
 
 HostedPage::HostedPage(const Context& context, const ClassDescriptor& type, QWidget* parent)
     : QWidget(parent),
+      context_(context),
       screen_(*this),
       constituents_(context, *this, true, EmbedControl),
       host_{.site = site_,

@@ -18,7 +18,7 @@ namespace lumenkit::qt {
 /// One property page. It has at least its designed size. In a larger one, the constituents whose
 /// edges move grow or move with the page. Errors of the page's procedures reach the caller; errors
 /// of its event handlers go to the context's sink.
-class HostedPage final : public QWidget, public SelfDescribing {
+class HostedPage final : public QWidget, public SelfDescribing, public ErrorReceiver {
  public:
     /// Creates the page and runs PropertyPage_Initialize. Raises 429 for a class that is not a
     /// page.
@@ -47,6 +47,7 @@ class HostedPage final : public QWidget, public SelfDescribing {
 
     Object& Automation() { return page_->Automation(); }
     Constituents& Parts() { return constituents_; }
+    const ErrorSink& Errors() const override { return context_.errors; }
     QAccessibleInterface* NewDescription() override {
         return std::make_unique<GroupDescription>(*this).release();
     }
@@ -71,6 +72,7 @@ class HostedPage final : public QWidget, public SelfDescribing {
         std::vector<ObjectRef> controls;
     };
 
+    const Context& context_;
     Site site_;
     Selection selection_;
     Screen screen_;

@@ -30,12 +30,12 @@ class ShownSurface {
 
 /// The drawing area of a control, inside its border. It is the parent of the constituents and
 /// receives the mouse events. Screen readers read the control's text from it.
-class SurfaceWidget final : public QWidget, public SelfDescribing {
+class SurfaceWidget final : public QWidget, public SelfDescribing, public ErrorReceiver {
  public:
     SurfaceWidget(QWidget& outside, ShownSurface& surface, ErrorSink errors);
 
     /// Receives the errors that reach no caller.
-    const ErrorSink& Errors() const { return errors_; }
+    const ErrorSink& Errors() const override { return errors_; }
 
     /// Called when the surface is destroyed.
     void Detach();

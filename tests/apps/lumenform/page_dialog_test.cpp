@@ -192,6 +192,7 @@ TEST_F(PageDialog, ANoticeMovesNothing) {
 
 TEST_F(PageDialog, OpensWithTheWholePageAndCanBeResized) {
     const qt::HostedPage& page = dialog->Page();
+    QApplication::processEvents();
     EXPECT_EQ(page.visibleRegion().boundingRect(), page.rect());
     EXPECT_EQ(page.size(), page.minimumSize());
     const QRect caption = Box(u"txtCaption").geometry();

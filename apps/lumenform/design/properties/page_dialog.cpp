@@ -102,7 +102,11 @@ void PageDialog::LayOut() {
     layout->addWidget(buttons_);
     // A scroll area proposes at most a size that depends on its font.
     const QSize lacking = (page_->sizeHint() - scrolled_->sizeHint()).expandedTo({0, 0});
-    resize((layout->totalSizeHint() + lacking).boundedTo(screen()->availableSize()));
+    QSize size = layout->totalSizeHint();
+    if (layout->hasHeightForWidth()) {
+        size.setHeight(layout->totalHeightForWidth(size.width() + lacking.width()));
+    }
+    resize((size + lacking).boundedTo(screen()->availableSize()));
 }
 
 // Moves the focus into the page. A button with the focus would react to the first space that is
