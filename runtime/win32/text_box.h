@@ -109,7 +109,6 @@ class TextBox final : public BasicTextConstituent<host::TextBox> {
     // return.
     LRESULT KeyGoesDown(UINT message, WPARAM wParam, LPARAM lParam);
     LRESULT KeyIsPressed(WPARAM wParam, LPARAM lParam);
-    WPARAM UnitOf(WPARAM typed) const;
     LRESULT KeyGoesUp(UINT message, WPARAM wParam, LPARAM lParam);
     bool Takes(char16_t unit) const;
     bool PairUp(char16_t unit);
@@ -138,7 +137,6 @@ class TextBox final : public BasicTextConstituent<host::TextBox> {
     bool isAssigning_ = false;    // notifications of the edit control are not passed on
     bool hasChanged_ = false;     // by the message in progress
     bool keyIsTaken_ = false;     // the key that is down enters nothing
-    WPARAM keyDown_ = 0;          // the key that went down last
     bool isComposing_ = false;    // an input method has not finished yet
     bool isPressed_ = false;      // the left button went down in the box
     char16_t heldSurrogate_ = 0;  // the first half of a pair, whose other half has not come yet

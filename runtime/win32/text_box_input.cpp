@@ -164,7 +164,6 @@ LRESULT TextBox::KeyGoesDown(UINT message, WPARAM wParam, LPARAM lParam) {
         return 0;
     }
     keyIsTaken_ = keyCode == 0;
-    keyDown_ = wParam;
     if (message == WM_SYSKEYDOWN && keyCode == VK_BACK) {
         Undo();
         // The system must see that Alt was not pressed alone, which would open a menu.
@@ -186,7 +185,7 @@ LRESULT TextBox::KeyIsPressed(WPARAM wParam, LPARAM lParam) {
     if (keyIsTaken_) {
         return 0;
     }
-    auto keyAscii = static_cast<std::int16_t>(UnitOf(wParam));
+    auto keyAscii = static_cast<std::int16_t>(wParam);
     const Telling watch(*this, Assigning::AddsStep);
     events_.KeyPress(keyAscii);
     const auto unit = static_cast<char16_t>(keyAscii);
@@ -206,15 +205,6 @@ LRESULT TextBox::KeyIsPressed(WPARAM wParam, LPARAM lParam) {
     }
     LeaveBreak();
     return Pass(WM_CHAR, unit, lParam, KindOf(unit));
-}
-
-// Returns the control unit of a letter with Ctrl, also where the layout has no Latin letters and
-// the platform sends the layout's letter. Key codes follow the positions of the keys then.
-WPARAM TextBox::UnitOf(WPARAM typed) const {
-    constexpr WPARAM lastAscii = 0x7F;
-    const bool holdsControl = (HeldKeys() & ~shiftHeld) == controlHeld;
-    const bool isLetter = keyDown_ >= 'A' && keyDown_ <= 'Z';
-    return typed > lastAscii && holdsControl && isLetter ? keyDown_ - 'A' + 1 : typed;
 }
 
 // Moves a caret between CR and LF before both, where the user sees it, and so each end of a

@@ -589,30 +589,6 @@ TEST_F(TextBoxTest, CtrlVPastesOnce) {
     EXPECT_EQ(recorder_.Take(), (Lines{"down 86 2", "press 22", "change", "up 86 2"}));
 }
 
-// Wine sends the letter of the layout; Windows sends the control unit itself.
-TEST_F(TextBoxTest, CtrlWithALetterOfAnyLayoutIsAControlUnit) {
-    Box(u"");
-    Focus();
-    const auto pressed = [&](std::initializer_list<int> held, WORD key, char16_t unit) {
-        std::vector<std::unique_ptr<HeldKey>> holding;
-        for (const int one : held) {
-            holding.push_back(std::make_unique<HeldKey>(one));
-        }
-        recorder_.lines.clear();
-        Strike(Handle(), key, unit);
-        while (!holding.empty()) {
-            holding.pop_back();  // each key restores the state that it found
-        }
-        return recorder_.lines.at(1);
-    };
-    constexpr char16_t cyrillic = 0x0438;
-    EXPECT_EQ(pressed({VK_CONTROL}, 'B', cyrillic), "press 2");
-    EXPECT_EQ(pressed({VK_CONTROL, VK_SHIFT}, 'Z', cyrillic), "press 26");
-    EXPECT_EQ(pressed({}, 'B', cyrillic), "press 1080");
-    EXPECT_EQ(pressed({VK_CONTROL, VK_MENU}, 'E', 0x20AC), "press 8364") << "AltGr";
-    EXPECT_EQ(pressed({VK_CONTROL}, VK_OEM_1, 0x00F6), "press 246") << "not the key of a letter";
-}
-
 // A receiver may cancel all keys that enter units, as a field for digits does.
 TEST_F(TextBoxTest, TheOlderEditingKeysNeedNoKeyPress) {
     Box(u"12", false);

@@ -4,6 +4,7 @@
 #include <QPushButton>
 #include <QScreen>
 #include <QScrollArea>
+#include <QShowEvent>
 #include <QVBoxLayout>
 #include <utility>
 
@@ -100,13 +101,16 @@ void PageDialog::LayOut() {
     layout->addWidget(scrolled_, 1);
     layout->addWidget(notice_);
     layout->addWidget(buttons_);
-    // A scroll area proposes at most a size that depends on its font.
-    const QSize lacking = (page_->sizeHint() - scrolled_->sizeHint()).expandedTo({0, 0});
-    QSize size = layout->totalSizeHint();
-    if (layout->hasHeightForWidth()) {
-        size.setHeight(layout->totalHeightForWidth(size.width() + lacking.width()));
+}
+
+// Opens with the whole page. A scroll area proposes less, and the fonts are known only now.
+void PageDialog::showEvent(QShowEvent* event) {
+    QDialog::showEvent(event);
+    if (!event->spontaneous()) {
+        layout()->activate();
+        const QSize lacking = page_->minimumSize() - scrolled_->size();
+        resize((size() + lacking.expandedTo({0, 0})).boundedTo(screen()->availableSize()));
     }
-    resize((size + lacking).boundedTo(screen()->availableSize()));
 }
 
 // Moves the focus into the page. A button with the focus would react to the first space that is

@@ -36,6 +36,9 @@ class PageDialog final : public QDialog {
     void accept() override;
     void reject() override;
 
+ protected:
+    void showEvent(QShowEvent* event) override;
+
  private:
     void LayOut();
     void ApplyPage();
