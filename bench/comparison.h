@@ -19,15 +19,14 @@ enum class Ratio {
     TimesSlower,  ///< the time of lumenkit divided by the time of the peer
 };
 
-/// One row of the table: the name of the work, the time per unit of lumenkit and of the peer, their
-/// ratio, its spread and the aim. `ours` is the work of lumenkit, `other` that of the peer.
+/// One row of the table. Times are per unit.
 struct Comparison {
-    std::string what;
-    std::string unit;
-    Side ours;
-    Side other;
+    std::string what;  ///< the name of the row
+    std::string unit;  ///< of the times
+    Side ours;         ///< the code of lumenkit
+    Side other;        ///< the code that it is compared with
     Ratio ratio;
-    std::string aim;
+    std::string aim;  ///< the ratio to reach
 };
 
 /// The result of a comparison: medians, and the quartiles of the ratio. Times are in seconds per

@@ -43,9 +43,9 @@ class GroupDescription : public QAccessibleWidget {
     QAccessibleInterface* child(int index) const override;
     int indexOfChild(const QAccessibleInterface* child) const override;
 
- protected:
-    /// Returns the widgets inside this one in the order in which they are read.
-    virtual QList<QWidget*> Parts() const;
+ private:
+    // Returns the widgets inside this one in the order in which they are read.
+    QList<QWidget*> Parts() const;
 };
 
 }  // namespace lumenkit::qt

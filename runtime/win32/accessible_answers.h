@@ -4,22 +4,12 @@
 #include <optional>
 
 #include <oleacc.h>
-#include <wrl/client.h>
 
 #include "frame/text.h"
 #include "runtime/win32/accessibility.h"
 #include "runtime/win32/windows_header.h"
 
 namespace lumenkit::win32 {
-
-/// Takes over the initial reference of a new object. (ComPtr::Attach in the compiler's headers adds
-/// another reference.)
-template <typename Interface>
-Microsoft::WRL::ComPtr<Interface> AdoptedObject(Interface* object) {
-    Microsoft::WRL::ComPtr<Interface> holder;
-    *holder.GetAddressOf() = object;
-    return holder;
-}
 
 /// Returns the description of a window. Without a result the window does not describe itself, or it
 /// no longer exists: a client may ask later than that.

@@ -13,6 +13,7 @@
 #include "runtime/win32/accessibility.h"
 #include "runtime/win32/accessible_answers.h"
 #include "runtime/win32/accessible_share.h"
+#include "runtime/win32/adopted.h"
 #include "runtime/win32/group_position.h"
 #include "runtime/win32/shown_windows.h"
 #include "runtime/win32/wide_text.h"
@@ -331,7 +332,7 @@ std::optional<LRESULT> AnswerObjectRequest(HWND window, WPARAM wParam, LPARAM lP
                                          reinterpret_cast<void**>(standard.GetAddressOf())))) {
         return std::nullopt;
     }
-    const auto object = AdoptedObject<IAccessible>(new AccessibleObject(window, standard));
+    const auto object = Adopted<IAccessible>(new AccessibleObject(window, standard));
     return LresultFromObject(__uuidof(IAccessible), wParam, object.Get());
 }
 

@@ -99,37 +99,31 @@ void Element::PutInto(const RECT& former) const {
 }
 
 void Element::BecomeVisible(bool visible) {
-    if (visible == visible_) {
-        return;
-    }
-    visible_ = visible;
-    const Watch watch(*this);
-    if (!visible) {
-        GiveFocusAway();
-    }
-    if (watch.IsGone()) {
-        return;
-    }
-    ShowWindow(Handle(), visible ? SW_SHOWNA : SW_HIDE);
-    if (visible && !watch.IsGone()) {
-        TakeFocusBack();
+    if (visible != visible_) {
+        visible_ = visible;
+        BecomeUsable(visible, [&] { ShowWindow(Handle(), visible ? SW_SHOWNA : SW_HIDE); });
     }
 }
 
 void Element::BecomeEnabled(bool enabled) {
-    if (enabled == enabled_) {
-        return;
+    if (enabled != enabled_) {
+        enabled_ = enabled;
+        BecomeUsable(enabled, [&] { ShowEnabled(); });
     }
-    enabled_ = enabled;
+}
+
+// Handlers of the focus may destroy the object.
+template <typename Change>
+void Element::BecomeUsable(bool usable, Change&& change) {
     const Watch watch(*this);
-    if (!enabled) {
+    if (!usable) {
         GiveFocusAway();
     }
     if (watch.IsGone()) {
         return;
     }
-    ShowEnabled();
-    if (enabled && !watch.IsGone()) {
+    change();
+    if (usable && !watch.IsGone()) {
         TakeFocusBack();
     }
 }

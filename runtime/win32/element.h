@@ -87,6 +87,8 @@ class Element : public Window, public Drawable, public Described {
     static LRESULT AnswerColors(WPARAM device, Color text, Color background);
 
  private:
+    template <typename Change>
+    void BecomeUsable(bool usable, Change&& change);
     void GiveFocusAway();
     void TakeFocusBack();
     RECT PlaceInPixels() const;

@@ -8,6 +8,7 @@
 
 #include "runtime/win32/accessible_answers.h"
 #include "runtime/win32/accessible_share.h"
+#include "runtime/win32/adopted.h"
 
 namespace lumenkit::win32 {
 
@@ -109,7 +110,7 @@ class GroupPosition final : public IAccessibleEx, public IRawElementProviderSimp
 
 ComPtr<IUnknown> NewGroupPosition(HWND window, IAccessible& object) {
     IAccessibleEx* const made = new (std::nothrow) GroupPosition(window, object);
-    return AdoptedObject<IUnknown>(made);
+    return Adopted<IUnknown>(made);
 }
 
 }  // namespace lumenkit::win32

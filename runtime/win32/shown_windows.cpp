@@ -1,12 +1,14 @@
 #include "runtime/win32/shown_windows.h"
 
+#include "runtime/win32/drawable.h"
+
 namespace lumenkit::win32 {
 
 namespace {
 
 // Returns the first visible window from `window` on in the direction.
 HWND Shown(HWND window, UINT direction) {
-    while (window != nullptr && (GetWindowLongW(window, GWL_STYLE) & WS_VISIBLE) == 0) {
+    while (window != nullptr && !HasVisibleStyle(window)) {
         window = GetWindow(window, direction);
     }
     return window;

@@ -170,11 +170,6 @@ void Surface::PictureOutdated() {
     owner_.PictureChanged();
 }
 
-void Surface::BoxesClosed() {
-    Invalidate();
-    owner_.PictureChanged();
-}
-
 void Surface::Refresh() {
     if (IsPaintedByControl()) {
         return;

@@ -106,7 +106,7 @@ class Surface final : public host::Surface, private FontListener, private shared
     class Painting;
 
     void FontChanged() override;
-    void BoxesClosed() override;
+    void BoxesClosed() override { PictureOutdated(); }
     const ScreenFontRef& Realised();
     template <typename Draw>
     void Put(Draw&& draw);

@@ -35,17 +35,6 @@ bool TakesTab(const QWidget& widget) {
     return (widget.focusPolicy() & Qt::TabFocus) == Qt::TabFocus;
 }
 
-class FormDescription final : public qt::GroupDescription {
- public:
-    explicit FormDescription(ClientArea& form) : GroupDescription(form), form_(form) {}
-
- protected:
-    QList<QWidget*> Parts() const override { return form_.ShownControls(); }
-
- private:
-    ClientArea& form_;
-};
-
 }  // namespace
 
 std::vector<LiveControl*> InTabOrder(const std::vector<std::unique_ptr<LiveControl>>& controls) {
@@ -116,22 +105,12 @@ std::vector<QWidget*> ClientArea::TabStops() const {
     return widgets;
 }
 
-QList<QWidget*> ClientArea::ShownControls() const {
-    QList<QWidget*> shown;
-    for (const LiveControl* control : InTabOrder(controls_)) {
-        QWidget& widget = control->Widget();
-        if (widget.parentWidget() == this && !widget.isHidden()) {
-            shown.append(&widget);
-        }
-    }
-    return shown;
-}
-
 QAccessibleInterface* ClientArea::NewDescription() {
-    return std::make_unique<FormDescription>(*this).release();
+    return std::make_unique<qt::GroupDescription>(*this).release();
 }
 
-// Sorts the controls in a frame of the form. Widgets that are no controls come last.
+// Sorts controls of the form, or of a frame on it, by tab order. Widgets that are no controls come
+// last.
 void ClientArea::Sort(QList<QWidget*>& parts) const {
     const std::vector<LiveControl*> order = InTabOrder(controls_);
     const auto turn = [&](const QWidget* part) {

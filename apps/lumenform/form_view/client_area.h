@@ -29,9 +29,6 @@ class ClientArea final : public QWidget, public qt::SelfDescribing, public qt::R
     /// The widgets at which Tab stops, in tab order.
     std::vector<QWidget*> TabStops() const;
 
-    /// The controls that are directly on the form, in tab order.
-    QList<QWidget*> ShownControls() const;
-
     bool focusNextPrevChild(bool next) override;
     QAccessibleInterface* NewDescription() override;
     void Sort(QList<QWidget*>& parts) const override;

@@ -8,19 +8,12 @@
 #include <olectl.h>
 #include <wrl/client.h>
 
+#include "runtime/win32/adopted.h"
 #include "runtime/win32/windows_header.h"
 
 namespace lumenkit::ole {
 
 using Microsoft::WRL::ComPtr;
-
-/// Takes over the initial reference of a new object. (ComPtr::Attach in the compiler's headers adds
-/// another reference.)
-template <typename Interface>
-ComPtr<Interface> Adopted(Interface* object) {
-    ComPtr<Interface> holder;
-    *holder.GetAddressOf() = object;
-    return holder;
-}
+using win32::Adopted;
 
 }  // namespace lumenkit::ole
