@@ -63,6 +63,10 @@ class CallRecorder final : public win32::Canvas {
         calls.push_back(
             {.font = nullptr, .color = win32::ToColorRef(color), .box = box, .text = {}});
     }
+    // A label draws neither figures nor clips.
+    void FillFigure(win32::Figure /*figure*/, const RECT& /*box*/, Color /*color*/) override {}
+    void BeginClip(const RECT& /*box*/) override {}
+    void EndClip() override {}
 
     std::vector<Call> calls;
 

@@ -5,8 +5,11 @@
 
 #include "frame/host/constituent.h"
 #include "runtime/shared/shown_caption.h"
+#include "runtime/win32/caption_picture.h"
 #include "runtime/win32/element.h"
 #include "runtime/win32/font.h"
+#include "runtime/win32/font_cache.h"
+#include "runtime/win32/thread_shared.h"
 #include "runtime/win32/wide_text.h"
 
 namespace lumenkit::win32 {
@@ -53,6 +56,7 @@ class BasicTextConstituent : public BasicConstituent<Interface>, private FontLis
     }
 
     HFONT FontHandle() const { return font_.Get()->Handle(); }
+    ScreenFontRef RealisedFont() const { return cache_->Find(FontHandle()); }
     /// Brings a changed font to the window.
     virtual void ShowFont() { UseFont(TRUE); }
 
@@ -63,6 +67,7 @@ class BasicTextConstituent : public BasicConstituent<Interface>, private FontLis
     }
 
     HeldFont font_;
+    ThreadShared<FontCache> cache_;
 };
 
 template <typename Interface>
@@ -90,6 +95,7 @@ class BasicCaptioned : public BasicTextConstituent<Interface> {
     const Text& CaptionNow() const { return caption_; }
     /// The caption as the window shows it, by default with its mnemonic marked.
     virtual Text ShownCaption() const { return shared::WithAccessKey(caption_, accessKey_); }
+    CaptionPicture Picture() const { return {ShownCaption(), this->RealisedFont()}; }
 
  private:
     Text caption_;

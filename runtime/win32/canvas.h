@@ -17,8 +17,11 @@ struct TextRun {
     Color paper = {};
 };
 
-/// The target on which a surface draws. Lengths are in pixels of the surface's drawing area on
-/// every device.
+/// A figure inside a box: an ellipse, or a triangle that points in a direction.
+enum class Figure { Ellipse, Up, Down, Left, Right };
+
+/// The target on which surfaces and constituents draw. Lengths are in pixels of the control on
+/// every device. Boxes do not include their right and bottom edges.
 class Canvas {
  public:
     virtual ~Canvas() = default;
@@ -27,6 +30,11 @@ class Canvas {
     virtual void Clear(Color paper) = 0;
     virtual void Print(const TextRun& run) = 0;
     virtual void Fill(const RECT& box, Color color) = 0;
+    virtual void FillFigure(Figure figure, const RECT& box, Color color) = 0;
+    /// Clips the drawing to `box`, in addition to the clips that have begun before. Each clip ends
+    /// before the outer one: use CanvasClip.
+    virtual void BeginClip(const RECT& box) = 0;
+    virtual void EndClip() = 0;
 };
 
 }  // namespace lumenkit::win32

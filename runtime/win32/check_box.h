@@ -19,6 +19,7 @@ class CheckBox final : public BasicCaptioned<host::CheckBox> {
     void SetCheckState(std::int16_t state) override;
 
  protected:
+    void DrawContent(Canvas& canvas, SIZE size) const override;
     std::optional<LRESULT> HandleNotification(UINT message, WPARAM wParam, LPARAM lParam) override;
 
  private:

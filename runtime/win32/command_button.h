@@ -14,6 +14,7 @@ class CommandButton final : public BasicCaptioned<host::CommandButton> {
                   host::ClickEvents& events);
 
  protected:
+    void DrawContent(Canvas& canvas, SIZE size) const override;
     LRESULT HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
     std::optional<LRESULT> HandleNotification(UINT message, WPARAM wParam, LPARAM lParam) override;
 

@@ -1,31 +1,24 @@
 #include "runtime/win32/control_painter.h"
 
+#include "runtime/win32/canvas_part.h"
 #include "runtime/win32/drawable.h"
+#include "runtime/win32/edges.h"
 
 namespace lumenkit::win32 {
 
 namespace {
 
-constexpr Color SystemColor(std::uint32_t index) {
-    return static_cast<Color>(0x80000000U | index);
-}
-
-// Draws a frame that is one pixel wide.
-void DrawRing(Canvas& canvas, const RECT& box, Color upperLeft, Color lowerRight) {
-    canvas.Fill({box.left, box.top, box.right, box.top + 1}, upperLeft);
-    canvas.Fill({box.left, box.top, box.left + 1, box.bottom}, upperLeft);
-    canvas.Fill({box.left, box.bottom - 1, box.right, box.bottom}, lowerRight);
-    canvas.Fill({box.right - 1, box.top, box.right, box.bottom}, lowerRight);
-}
-
-// Draws the platform's sunken edge at any scale.
-void DrawBorder(HDC device, const Mapping& mapping) {
-    const RECT outside = {0, 0, mapping.size.cx, mapping.size.cy};
-    RECT inside = outside;
-    InflateRect(&inside, -1, -1);
-    DeviceCanvas canvas(device, mapping, outside);
-    DrawRing(canvas, outside, SystemColor(COLOR_BTNSHADOW), SystemColor(COLOR_BTNHIGHLIGHT));
-    DrawRing(canvas, inside, SystemColor(COLOR_3DDKSHADOW), SystemColor(COLOR_3DLIGHT));
+// Whether the device consists of pixels and the control covers as many of them as its window.
+bool ShowsOwnPixels(HDC device, const Mapping& mapping) {
+    const DWORD kind = GetObjectType(device);
+    if ((kind != OBJ_DC && kind != OBJ_MEMDC) ||
+        GetDeviceCaps(device, TECHNOLOGY) != DT_RASDISPLAY) {
+        return false;
+    }
+    RECT place = mapping.place;
+    LPtoDP(device, reinterpret_cast<POINT*>(&place), 2);
+    const SIZE size = SizeOf(place);
+    return size.cx == mapping.size.cx && size.cy == mapping.size.cy;
 }
 
 // Returns the part of `area` that the child window covers; empty for a hidden child.
@@ -79,17 +72,41 @@ void ControlPainter::DrawOn(HDC device, const RECT& place, SIZE size) {
     }
     surface_.PaintIfOutdated();
     const Mapping mapping = {place, size};
-    if (surface_.BorderStyle() != 0) {
-        DrawBorder(device, mapping);
-    }
+    const bool showsPixels = ShowsOwnPixels(device, mapping);
     {
-        DeviceCanvas canvas(device, mapping, surface_.Area());
-        surface_.DrawOn(canvas);
+        DeviceCanvas canvas(device, mapping, {0, 0, size.cx, size.cy});
+        DrawSurface(canvas, size);
+        if (!showsPixels) {
+            DrawParts(canvas);
+        }
     }
-    DrawParts(device, mapping);
+    if (showsPixels) {
+        DrawParts(device, mapping);
+    }
 }
 
-// The constituents draw in pixels. They are composed at the screen's size and then scaled.
+void ControlPainter::DrawOn(Canvas& canvas, SIZE size) {
+    surface_.PaintIfOutdated();
+    DrawSurface(canvas, size);
+    DrawParts(canvas);
+}
+
+void ControlPainter::DrawSurface(Canvas& canvas, SIZE size) {
+    if (surface_.BorderStyle() != 0) {
+        DrawSunkenEdge(canvas, {0, 0, size.cx, size.cy});
+    }
+    CanvasPart area(canvas, surface_.Area());
+    surface_.DrawOn(area);
+}
+
+void ControlPainter::DrawParts(Canvas& canvas) const {
+    if (window_.Handle() != nullptr) {
+        CanvasPart area(canvas, surface_.Area());
+        DrawChildShapes(window_.Handle(), area);
+    }
+}
+
+// The window classes draw the constituents in a bitmap, as they do on the screen.
 void ControlPainter::DrawParts(HDC device, const Mapping& mapping) const {
     const HWND window = window_.Handle();
     if (window == nullptr || GetWindow(window, GW_CHILD) == nullptr) {

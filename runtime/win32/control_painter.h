@@ -19,10 +19,16 @@ class ControlPainter {
     /// Draws the client area without the constituents, unscaled.
     void PaintClientArea(HDC device);
     /// Draws the border, the surface and the constituents of a control of `size` pixels, scaled
-    /// into `place`, which is in logical units of the device.
+    /// into `place`, which is in logical units of the device. On a screen or bitmap at the size of
+    /// the control, the constituents look as in their windows. On any other device and at any other
+    /// size, they are drawn as texts and shapes.
     void DrawOn(HDC device, const RECT& place, SIZE size);
+    /// Draws the same as texts and shapes. The canvas has the size of the control.
+    void DrawOn(Canvas& canvas, SIZE size);
 
  private:
+    void DrawSurface(Canvas& canvas, SIZE size);
+    void DrawParts(Canvas& canvas) const;
     void DrawParts(HDC device, const Mapping& mapping) const;
 
     const Window& window_;

@@ -17,6 +17,8 @@ struct DeleteDrawingObject {
 /// A device in memory. An object that is selected in it must outlive it.
 using OwnDevice = std::unique_ptr<std::remove_pointer_t<HDC>, DeleteDevice>;
 using OwnBitmap = std::unique_ptr<std::remove_pointer_t<HBITMAP>, DeleteDrawingObject>;
+using OwnBrush = std::unique_ptr<std::remove_pointer_t<HBRUSH>, DeleteDrawingObject>;
+using OwnPen = std::unique_ptr<std::remove_pointer_t<HPEN>, DeleteDrawingObject>;
 using OwnFont = std::unique_ptr<std::remove_pointer_t<HFONT>, DeleteDrawingObject>;
 
 /// The device of a window's client area.

@@ -1,9 +1,11 @@
 #include "runtime/win32/device_canvas.h"
 
+#include <array>
 #include <cmath>
 #include <cstdlib>
 
 #include "runtime/win32/colors.h"
+#include "runtime/win32/device.h"
 #include "runtime/win32/wide_text.h"
 
 namespace lumenkit::win32 {
@@ -17,6 +19,23 @@ int Scale(int pixel, LONG start, LONG end, LONG size) {
     return static_cast<int>(
         start + std::lround(static_cast<double>(pixel) * static_cast<double>(end - start) /
                             static_cast<double>(size)));
+}
+
+// Returns the corners of a triangle. The box may run upwards.
+std::array<POINT, 3> Corners(Figure figure, const RECT& box) {
+    const LONG right = box.right + (box.right > box.left ? -1 : 1);
+    const LONG bottom = box.bottom + (box.bottom > box.top ? -1 : 1);
+    const POINT middle = {(box.left + right) / 2, (box.top + bottom) / 2};
+    switch (figure) {
+        case Figure::Up:
+            return {{{box.left, bottom}, {right, bottom}, {middle.x, box.top}}};
+        case Figure::Down:
+            return {{{box.left, box.top}, {right, box.top}, {middle.x, bottom}}};
+        case Figure::Left:
+            return {{{right, box.top}, {right, bottom}, {box.left, middle.y}}};
+        default:
+            return {{{box.left, box.top}, {box.left, bottom}, {right, middle.y}}};
+    }
 }
 
 }  // namespace
@@ -61,9 +80,44 @@ void DeviceCanvas::Clear(Color paper) {
 }
 
 void DeviceCanvas::Fill(const RECT& box, Color color) {
-    RECT placed = box;
-    OffsetRect(&placed, static_cast<int>(area_.left), static_cast<int>(area_.top));
-    FillMapped(mapping_.Of(placed), color);
+    FillMapped(Mapped(box), color);
+}
+
+RECT DeviceCanvas::Mapped(RECT box) const {
+    OffsetRect(&box, static_cast<int>(area_.left), static_cast<int>(area_.top));
+    return mapping_.Of(box);
+}
+
+// The outline has the colour too: without one the platform omits the last row and column. It is one
+// pixel of the device wide.
+void DeviceCanvas::FillFigure(Figure figure, const RECT& box, Color color) {
+    const RECT place = Mapped(box);
+    const OwnBrush brush(CreateSolidBrush(ToColorRef(color)));
+    const OwnPen pen(CreatePen(PS_SOLID, 0, ToColorRef(color)));
+    SelectObject(device_, brush.get());
+    SelectObject(device_, pen.get());
+    if (figure == Figure::Ellipse) {
+        Ellipse(device_, place.left, place.top, place.right, place.bottom);
+    } else {
+        const std::array<POINT, 3> corners = Corners(figure, place);
+        Polygon(device_, corners.data(), static_cast<int>(corners.size()));
+    }
+    // Metafiles do not tell which objects were selected before.
+    SelectObject(device_, GetStockObject(WHITE_BRUSH));
+    SelectObject(device_, GetStockObject(BLACK_PEN));
+}
+
+void DeviceCanvas::BeginClip(const RECT& box) {
+    const RECT clip = Mapped(box);
+    SaveDC(device_);
+    IntersectClipRect(device_, clip.left, clip.top, clip.right, clip.bottom);
+}
+
+void DeviceCanvas::EndClip() {
+    RestoreDC(device_, -1);
+    font_ = nullptr;
+    ink_ = CLR_INVALID;
+    backgroundMode_ = 0;
 }
 
 // Drawing an empty opaque text fills the box without a brush.

@@ -24,7 +24,8 @@ struct Mapping {
     bool IsPlain() const;
 };
 
-/// Draws on a device with vector operations and restores the state of the device at the end.
+/// Draws on a device with vector operations, so that a metafile contains texts and shapes and a
+/// printer draws them at its own resolution. Restores the state of the device at the end.
 class DeviceCanvas final : public Canvas {
  public:
     /// The canvas is the part `area` of the mapped pixels. Nothing is drawn outside it.
@@ -36,8 +37,12 @@ class DeviceCanvas final : public Canvas {
     void Clear(Color paper) override;
     void Print(const TextRun& run) override;
     void Fill(const RECT& box, Color color) override;
+    void FillFigure(Figure figure, const RECT& box, Color color) override;
+    void BeginClip(const RECT& box) override;
+    void EndClip() override;
 
  private:
+    RECT Mapped(RECT box) const;
     void FillMapped(const RECT& box, Color color);
     void Use(HFONT font);
     void PrintScaled(const TextRun& run, POINT at);

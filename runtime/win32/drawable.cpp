@@ -1,5 +1,6 @@
 #include "runtime/win32/drawable.h"
 
+#include "runtime/win32/canvas_part.h"
 #include "runtime/win32/device.h"
 #include "runtime/win32/pixels.h"
 #include "runtime/win32/window.h"
@@ -17,13 +18,28 @@ RECT PlaceInParent(HWND parent, HWND child) {
     return place;
 }
 
+RECT ClientArea(HWND window) {
+    RECT outside = {};
+    RECT inside = {};
+    GetWindowRect(window, &outside);
+    GetClientRect(window, &inside);
+    MapWindowPoints(window, nullptr, reinterpret_cast<POINT*>(&inside), 2);
+    OffsetRect(&inside, static_cast<int>(-outside.left), static_cast<int>(-outside.top));
+    return inside;
+}
+
 namespace {
+
+// Returns the child as something to draw; null if it is hidden.
+Drawable* Shown(HWND child) {
+    return HasVisibleStyle(child) ? dynamic_cast<Drawable*>(Window::Of(child)) : nullptr;
+}
 
 // Each child is drawn at the origin of a separate bitmap, because window classes of the platform
 // clip by device coordinates and ignore the origin.
 void DrawChild(HWND parent, HWND child, HDC device) {
-    auto* const drawable = dynamic_cast<Drawable*>(Window::Of(child));
-    if (drawable == nullptr || !HasVisibleStyle(child)) {
+    Drawable* const drawable = Shown(child);
+    if (drawable == nullptr) {
         return;
     }
     const RECT place = PlaceInParent(parent, child);
@@ -39,11 +55,29 @@ HWND Backmost(HWND parent) {
     return front == nullptr ? nullptr : GetWindow(front, GW_HWNDLAST);
 }
 
+void DrawChildShape(HWND parent, HWND child, Canvas& canvas) {
+    Drawable* const drawable = Shown(child);
+    const RECT place = PlaceInParent(parent, child);
+    RECT inside = {};
+    RECT seen = {};
+    GetClientRect(parent, &inside);
+    if (drawable != nullptr && IntersectRect(&seen, &place, &inside) != FALSE) {
+        CanvasPart part(canvas, place);
+        drawable->DrawShapes(part);
+    }
+}
+
 }  // namespace
 
 void DrawChildren(HWND parent, HDC device) {
     for (HWND child = Backmost(parent); child != nullptr; child = GetWindow(child, GW_HWNDPREV)) {
         DrawChild(parent, child, device);
+    }
+}
+
+void DrawChildShapes(HWND parent, Canvas& canvas) {
+    for (HWND child = Backmost(parent); child != nullptr; child = GetWindow(child, GW_HWNDPREV)) {
+        DrawChildShape(parent, child, canvas);
     }
 }
 

@@ -5,16 +5,22 @@
 
 #include "frame/host/accepted_values.h"
 #include "runtime/win32/accessible_object.h"
+#include "runtime/win32/canvas_part.h"
 #include "runtime/win32/colors.h"
+#include "runtime/win32/edges.h"
 #include "runtime/win32/keyboard.h"
 
 namespace lumenkit::win32 {
 
 namespace {
 
+bool HasEdge(HWND window) {
+    return (GetWindowLongW(window, GWL_EXSTYLE) & WS_EX_CLIENTEDGE) != 0;
+}
+
 // Draws the border, if there is one, and moves the origin to its inner corner.
 void DrawBorder(HWND window, HDC device) {
-    if ((GetWindowLongW(window, GWL_EXSTYLE) & WS_EX_CLIENTEDGE) == 0) {
+    if (!HasEdge(window)) {
         return;
     }
     RECT outside = {};
@@ -242,6 +248,26 @@ void Element::DrawOn(HDC device) {
     Ask(WM_PRINTCLIENT, context, PRF_CLIENT | PRF_ERASEBKGND);
     DrawChildren(Handle(), device);
     RestoreDC(device, state);
+}
+
+void Element::DrawShapes(Canvas& canvas) {
+    const RECT inside = ClientArea(Handle());
+    if (HasEdge(Handle())) {
+        RECT outside = {};
+        GetWindowRect(Handle(), &outside);
+        DrawSunkenEdge(canvas, {0, 0, outside.right - outside.left, outside.bottom - outside.top});
+    }
+    CanvasPart part(canvas, inside);
+    DrawContent(part, SizeOf(inside));
+    DrawChildShapes(Handle(), part);
+}
+
+bool Element::ShowsMnemonics() const {
+    return (Ask(WM_QUERYUISTATE) & UISF_HIDEACCEL) == 0;
+}
+
+Color Element::InkOf(Color color) const {
+    return enabled_ ? color : SystemColor(COLOR_GRAYTEXT);
 }
 
 }  // namespace lumenkit::win32

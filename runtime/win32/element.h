@@ -39,6 +39,8 @@ class Element : public Window, public Drawable, public Described {
 
     /// Draws the border, lets the window class draw the client area, and draws the children in it.
     void DrawOn(HDC device) override;
+    /// Draws the border, the content, and the children in it.
+    void DrawShapes(Canvas& canvas) override;
 
  protected:
     /// The window of a kind of constituent; see WindowDesign. It is a child window and visible if
@@ -80,6 +82,14 @@ class Element : public Window, public Drawable, public Described {
     /// Called when the focus came or left. May destroy the object.
     virtual void FocusMoved(bool /*came*/) {}
     LRESULT HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
+
+    /// Draws the client area without its children. The canvas is the client area, `size` pixels
+    /// large.
+    virtual void DrawContent(Canvas& canvas, SIZE size) const = 0;
+    /// Whether mnemonics are underlined now: the platform hides them until the user presses Alt.
+    bool ShowsMnemonics() const;
+    /// The colour for texts: grey in a disabled window.
+    Color InkOf(Color color) const;
 
     /// Fills the client area with the background colour of buttons.
     void FillBackground(HDC device) const;

@@ -1,7 +1,9 @@
 #include "runtime/win32/frame_box.h"
 
 #include "frame/host/accepted_values.h"
+#include "runtime/win32/canvas_part.h"
 #include "runtime/win32/device.h"
+#include "runtime/win32/edges.h"
 #include "runtime/win32/label_before.h"
 #include "runtime/win32/spoken_text.h"
 
@@ -28,6 +30,24 @@ std::optional<Description> FrameBox::Describe() {
 void FrameBox::ShowCaption() {
     BasicCaptioned::ShowCaption();
     Invalidate();
+}
+
+// The groove runs through the middle of the caption.
+void FrameBox::DrawContent(Canvas& canvas, SIZE size) const {
+    constexpr int captionLeft = 8;
+    canvas.Clear(Color::ButtonFace);
+    if (borderStyle_ == 0) {
+        return;
+    }
+    const CaptionPicture caption = Picture();
+    DrawEtchedEdge(canvas, {0, caption.Height() / 2 - 1, size.cx, size.cy});
+    const int width = caption.Width();
+    if (width > 0) {
+        const CanvasClip clip(canvas, {captionLeft - 2, 0, size.cx - captionLeft + 2, size.cy});
+        canvas.Fill({captionLeft - 2, 0, captionLeft + width + 1, caption.Height()},
+                    Color::ButtonFace);
+        caption.DrawOn(canvas, {captionLeft, 0}, InkOf(Color::ButtonText), ShowsMnemonics());
+    }
 }
 
 LRESULT FrameBox::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) {

@@ -22,6 +22,7 @@ class FrameBox final : public BasicCaptioned<host::Frame> {
 
  protected:
     void ShowCaption() override;
+    void DrawContent(Canvas& canvas, SIZE size) const override;
     LRESULT HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
 
  private:

@@ -76,6 +76,7 @@ class HostedControl final : public HostedWindow, public Drawable, private Surfac
     /// surface is outdated.
     void DrawOn(HDC device, const RECT& place);
     void DrawOn(HDC device) override;
+    void DrawShapes(Canvas& canvas) override { painter_.DrawOn(canvas, size_); }
 
     // Keyboard.
     /// Gives the focus to the first (or last) constituent that takes it, otherwise to the control

@@ -14,19 +14,27 @@ class KeptPicture final : public Canvas {
     void Clear(Color paper) override;
     void Print(const TextRun& run) override;
     void Fill(const RECT& box, Color color) override;
+    void FillFigure(Figure figure, const RECT& box, Color color) override;
+    void BeginClip(const RECT& box) override;
+    void EndClip() override;
 
     void DrawOn(Canvas& canvas) const;
 
  private:
+    enum class Kind { Text, Box, Figure, BeginClip, EndClip };
     struct Item {
-        RECT box = {};       // for a run, only its corner
-        ScreenFontRef font;  // null: a box
+        Kind kind;
+        RECT box = {};  // of a text, only its corner
+        Color color = {};
+        Figure figure = {};
+        // Of a text:
+        ScreenFontRef font = {};
         std::size_t begin = 0;
         std::size_t length = 0;
-        Color color = {};
         bool hasPaper = false;
         Color paper = {};
     };
+    void DrawOn(Canvas& canvas, const Item& item) const;
 
     std::vector<Item> items_;
     Text text_;

@@ -1,5 +1,6 @@
 #include "runtime/win32/label.h"
 
+#include <algorithm>
 #include <string>
 
 #include "runtime/win32/device.h"
@@ -22,6 +23,19 @@ SIZE SizeOf(const Text& caption, bool useMnemonic, HFONT font) {
     DrawTextW(screen.Handle(), wide.c_str(), static_cast<int>(wide.size()), &extent,
               DT_CALCRECT | DT_LEFT | DT_EXPANDTABS | (useMnemonic ? 0U : DT_NOPREFIX));
     return {caption.empty() ? 0 : extent.right, extent.bottom};
+}
+
+// Returns the length of the first line: as many words as fit into `width` pixels, at least one.
+std::size_t LengthOfFirstLine(TextView text, LONG width, const ScreenFontRef& font) {
+    std::size_t length = std::min(text.find(blank), text.size());
+    while (length < text.size()) {
+        const std::size_t next = std::min(text.find(blank, length + 1), text.size());
+        if (CaptionPicture(text.substr(0, next), font).Width() > width) {
+            break;
+        }
+        length = next;
+    }
+    return length;
 }
 
 }  // namespace
@@ -86,6 +100,27 @@ LRESULT Label::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
         Invalidate();
     }
     return BasicCaptioned::HandleMessage(message, wParam, lParam);
+}
+
+void Label::DrawContent(Canvas& canvas, SIZE size) const {
+    canvas.Clear(backColor_);
+    const ScreenFontRef font = RealisedFont();
+    const Text shown = ShownCaption();
+    TextView rest = shown;
+    for (LONG top = 0; !rest.empty() && top < size.cy; top += font->LineHeight()) {
+        const TextView paragraph = rest.substr(0, rest.find_first_of(crLf));
+        const std::size_t length = LengthOfFirstLine(paragraph, size.cx, font);
+        const TextView line = paragraph.substr(0, length);
+        if (useMnemonic_) {
+            CaptionPicture(line, font)
+                .DrawOn(canvas, {0, top}, InkOf(foreColor_), ShowsMnemonics());
+        } else {
+            canvas.Print({.text = line, .at = {0, top}, .font = font, .ink = InkOf(foreColor_)});
+        }
+        rest.remove_prefix(length);
+        rest.remove_prefix(rest.starts_with(crLf) ? crLf.size()
+                                                  : std::min<std::size_t>(1, rest.size()));
+    }
 }
 
 std::optional<LRESULT> Label::HandleNotification(UINT message, WPARAM wParam, LPARAM /*lParam*/) {

@@ -26,6 +26,7 @@ class Label final : public BasicCaptioned<host::Label> {
     Text ShownCaption() const override;
     void ShowFont() override;
     LRESULT HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
+    void DrawContent(Canvas& canvas, SIZE size) const override;
     std::optional<LRESULT> HandleNotification(UINT message, WPARAM wParam, LPARAM lParam) override;
 
  private:

@@ -3,6 +3,9 @@
 #include <uxtheme.h>
 
 #include "frame/host/accepted_values.h"
+#include "runtime/win32/canvas_part.h"
+#include "runtime/win32/colors.h"
+#include "runtime/win32/marked_caption.h"
 #include "runtime/win32/spoken_text.h"
 
 namespace lumenkit::win32 {
@@ -91,6 +94,29 @@ void OptionButton::Step(bool forward) {
     SetFocus(next->Handle());
     if (!watch.IsGone()) {
         group.Choose(*next);
+    }
+}
+
+void OptionButton::DrawContent(Canvas& canvas, SIZE size) const {
+    const CaptionPicture caption = Picture();
+    const MarkedCaption places =
+        MarkedCaption::In(size, caption, PixelsPerInch().x, alignment_ == 1);
+    canvas.Clear(Color::ButtonFace);
+    DrawRing(canvas, places.mark);
+    const CanvasClip clip(canvas, places.caption);
+    caption.DrawOn(canvas, places.text, InkOf(foreColor_), ShowsMnemonics());
+}
+
+// The dot takes a third of the ring.
+void OptionButton::DrawRing(Canvas& canvas, RECT box) const {
+    const int edge = static_cast<int>(box.right - box.left) / 3;
+    canvas.FillFigure(Figure::Ellipse, box, SystemColor(COLOR_BTNSHADOW));
+    InflateRect(&box, -1, -1);
+    canvas.FillFigure(Figure::Ellipse, box,
+                      IsEnabled() ? Color::WindowBackground : Color::ButtonFace);
+    if (IsSelected()) {
+        InflateRect(&box, 1 - edge, 1 - edge);
+        canvas.FillFigure(Figure::Ellipse, box, InkOf(Color::WindowText));
     }
 }
 

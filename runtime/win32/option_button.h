@@ -38,12 +38,14 @@ class OptionButton final : public BasicCaptioned<host::OptionButton> {
     bool TakesFocus() const { return IsVisible() && IsEnabled(); }
 
  protected:
+    void DrawContent(Canvas& canvas, SIZE size) const override;
     LRESULT HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
     std::optional<LRESULT> HandleNotification(UINT message, WPARAM wParam, LPARAM lParam) override;
 
  private:
     const Element* Heir() const override { return group_.TabStop(); }
     void Step(bool forward);
+    void DrawRing(Canvas& canvas, RECT box) const;
 
     OptionGroup& group_;
     Text tag_;

@@ -15,6 +15,9 @@ class PictureBox final : public BasicConstituent<host::PictureBox> {
     float ScaleHeight() const override;
 
  protected:
+    void DrawContent(Canvas& canvas, SIZE /*size*/) const override {
+        canvas.Clear(Color::ButtonFace);
+    }
     LRESULT HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
 
  private:

@@ -47,6 +47,7 @@ ScreenFont::ScreenFont(const LOGFONTW& design)
     TEXTMETRICW metrics = {};
     GetTextMetricsW(device_.get(), &metrics);
     lineHeight_ = static_cast<int>(metrics.tmHeight);
+    ascent_ = static_cast<int>(metrics.tmAscent);
     averageWidth_ = static_cast<int>(metrics.tmAveCharWidth);
     ++fontCount;
 }
@@ -141,7 +142,8 @@ std::unique_ptr<ScreenFont::Page> ScreenFont::NewPage(unsigned number) const {
     return page;
 }
 
-// The extent of the whole text may be larger, because it includes the overhang of the last unit.
+// The extent of the whole text may be larger, because it includes
+// the overhang of the last unit.
 int ScreenFont::AskPlatform(TextView text) const {
     scratch_.assign(text.size(), 0);
     int width = 0;

@@ -33,6 +33,8 @@ class ScreenFont final : public std::enable_shared_from_this<ScreenFont> {
     HFONT Handle() const { return font_.get(); }
     const LOGFONTW& Design() const { return design_; }
     int LineHeight() const { return lineHeight_; }
+    /// The distance from the top of the line to the baseline.
+    int Ascent() const { return ascent_; }
     int AverageWidth() const { return averageWidth_; }
 
     /// Returns the width on one line, which is the sum of the widths of words and blanks.
@@ -59,6 +61,7 @@ class ScreenFont final : public std::enable_shared_from_this<ScreenFont> {
     OwnFont font_;
     OwnDevice device_;
     int lineHeight_ = 0;
+    int ascent_ = 0;
     int averageWidth_ = 0;
     mutable std::array<std::unique_ptr<Page>, 256> pages_;
     mutable std::vector<int> scratch_;

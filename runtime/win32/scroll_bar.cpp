@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "frame/host/accepted_values.h"
+#include "runtime/win32/device_canvas.h"
 #include "runtime/win32/scroll_bar_picture.h"
 
 namespace lumenkit::win32 {
@@ -119,7 +120,13 @@ LRESULT ScrollBar::TurnWheel(UINT message, WPARAM wParam) {
 void ScrollBar::DrawOn(HDC device) {
     RECT area = {};
     GetClientRect(Handle(), &area);
-    DrawScrollBar(device, area, orientation_ == host::Orientation::Vertical, Range(), IsEnabled());
+    DeviceCanvas canvas(device, Mapping::Plain(SizeOf(area)), area);
+    DrawContent(canvas, SizeOf(area));
+}
+
+void ScrollBar::DrawContent(Canvas& canvas, SIZE size) const {
+    DrawScrollBar(canvas, {0, 0, size.cx, size.cy}, orientation_ == host::Orientation::Vertical,
+                  Range(), IsEnabled());
 }
 
 LRESULT ScrollBar::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) {

@@ -28,6 +28,7 @@ class ScrollBar final : public BasicConstituent<host::ScrollBar> {
     void DrawOn(HDC device) override;
 
  protected:
+    void DrawContent(Canvas& canvas, SIZE size) const override;
     LRESULT HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
     std::optional<LRESULT> HandleNotification(UINT message, WPARAM wParam, LPARAM lParam) override;
 

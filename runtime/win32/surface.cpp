@@ -22,6 +22,9 @@ class ShownText final : public Canvas {
         text_ += run.text;
     }
     void Fill(const RECT& /*box*/, Color /*color*/) override {}
+    void FillFigure(Figure /*figure*/, const RECT& /*box*/, Color /*color*/) override {}
+    void BeginClip(const RECT& /*box*/) override {}
+    void EndClip() override {}
 
     const Text& Gathered() const { return text_; }
 

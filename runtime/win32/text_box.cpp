@@ -4,7 +4,6 @@
 
 #include "frame/host/accepted_values.h"
 #include "runtime/win32/label_before.h"
-#include "runtime/win32/scroll_bar_picture.h"
 #include "runtime/win32/surrogates.h"
 
 namespace lumenkit::win32 {
@@ -249,11 +248,6 @@ std::optional<Description> TextBox::Describe() {
                        .name = LabelBefore(Handle()),
                        .hint = OwnersHint(),
                        .value = Text(GetText())};
-}
-
-void TextBox::DrawOn(HDC device) {
-    BasicTextConstituent::DrawOn(device);
-    DrawWindowBars(Handle(), device);
 }
 
 std::optional<LRESULT> TextBox::HandleNotification(UINT message, WPARAM wParam, LPARAM /*lParam*/) {

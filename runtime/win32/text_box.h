@@ -50,8 +50,11 @@ class TextBox final : public BasicTextConstituent<host::TextBox> {
     /// Enters what an input method has finished: notifies KeyPress of each unit, and makes one edit
     /// of them all. The object may be destroyed when the call returns.
     void EnterComposed(TextView units);
+    /// Draws the scroll bars too.
+    void DrawShapes(Canvas& canvas) override;
 
  protected:
+    void DrawContent(Canvas& canvas, SIZE size) const override;
     LRESULT HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
     std::optional<LRESULT> HandleNotification(UINT message, WPARAM wParam, LPARAM lParam) override;
     void FocusMoved(bool came) override;
@@ -104,6 +107,10 @@ class TextBox final : public BasicTextConstituent<host::TextBox> {
     void Perform(const shared::EditHistory::Patch& patch);
     bool NotifyMove(bool moved);
     void ShowMenu(LPARAM place);
+    // The picture.
+    void DrawLine(Canvas& canvas, const RECT& area, const TextRun& design, std::size_t begin) const;
+    std::size_t FirstSeen(const RECT& area, std::size_t begin, std::size_t length) const;
+    POINT PlaceOf(std::size_t position) const;
 
     // The user's actions; each method answers a message. The object may be destroyed when they
     // return.

@@ -87,6 +87,9 @@ class Boxes final : public Canvas {
     void Clear(Color /*paper*/) override {}
     void Print(const TextRun& /*run*/) override {}
     void Fill(const RECT& box, Color /*color*/) override { filled.push_back(box); }
+    void FillFigure(Figure /*figure*/, const RECT& /*box*/, Color /*color*/) override {}
+    void BeginClip(const RECT& /*box*/) override {}
+    void EndClip() override {}
 
     std::vector<RECT> filled;
 };

@@ -1,5 +1,8 @@
 // Controls as objects in documents: saved, loaded and drawn into pictures and metafiles by the
 // platform's functions, and embedded in rich text.
+#include <string>
+#include <vector>
+
 #include <gmock/gmock.h>
 #include <richedit.h>
 #include <richole.h>
@@ -37,6 +40,52 @@ void CheckColours(const Picture& picture) {
     EXPECT_GT(picture.Count(red), picture.Size() / 4);
     EXPECT_GT(picture.Count(blue), 50);
     EXPECT_EQ(picture.Untouched(), 0);
+}
+
+// What a metafile consists of.
+struct Records {
+    std::vector<std::wstring> texts;
+    int bitmaps = 0;
+};
+
+int CALLBACK Collect(HDC /*device*/, HANDLETABLE* /*handles*/, const ENHMETARECORD* record,
+                     int /*handleCount*/, LPARAM target) {
+    auto& records = *reinterpret_cast<Records*>(target);
+    if (record->iType == EMR_EXTTEXTOUTW) {
+        const EMRTEXT& text = reinterpret_cast<const EMREXTTEXTOUTW*>(record)->emrtext;
+        const auto* const bytes = reinterpret_cast<const char*>(record);
+        if (text.nChars > 0) {  // an empty one fills a box
+            records.texts.emplace_back(reinterpret_cast<const wchar_t*>(bytes + text.offString),
+                                       text.nChars);
+        }
+    }
+    records.bitmaps += (record->iType >= EMR_BITBLT && record->iType <= EMR_STRETCHDIBITS) ||
+                               record->iType == EMR_ALPHABLEND
+                           ? 1
+                           : 0;
+    return 1;
+}
+
+Records RecordsOf(HENHMETAFILE file) {
+    Records records;
+    EnumEnhMetaFile(nullptr, file, &Collect, &records, nullptr);
+    return records;
+}
+
+struct Constituted {
+    ComPtr<IDispatch> object;
+    std::vector<std::wstring> texts;
+};
+
+// Controls that consist of constituents.
+std::vector<Constituted> ConstitutedControls() {
+    std::vector<Constituted> all = {
+        {Create(L"lumenkit.VMemo"), {L"first line", L"second"}},
+        {Create(L"lumenkit.VOptList"), {L"One", L"Two", L"Three", L"Caption"}}};
+    EXPECT_EQ(Put(*all[0].object.Get(), L"Text", Variant(L"first line\r\nsecond")), S_OK);
+    EXPECT_EQ(Put(*all[1].object.Get(), L"Contents", Variant(L"1;One|2;Two|3;Three")), S_OK);
+    EXPECT_EQ(Put(*all[1].object.Get(), L"ListIndex", Variant(1L)), S_OK);
+    return all;
 }
 
 class Documents : public OleTest {};
@@ -164,6 +213,46 @@ TEST_F(Documents, ItsDataAreItsPicture) {
     EXPECT_EQ(data->QueryGetData(&format), S_OK);
     format.cfFormat = CF_TEXT;
     EXPECT_NE(data->QueryGetData(&format), S_OK);
+}
+
+TEST_F(Documents, AMetafileContainsTheTextsOfConstituents) {
+    for (const Constituted& control : ConstitutedControls()) {
+        const RECT frame = {0, 0, 5000, 2500};
+        const HDC recorder = CreateEnhMetaFileW(nullptr, nullptr, &frame, nullptr);
+        const RECT place = {0, 0, 500, 250};
+        ASSERT_EQ(OleDraw(control.object.Get(), DVASPECT_CONTENT, recorder, &place), S_OK);
+        const HENHMETAFILE metafile = CloseEnhMetaFile(recorder);
+        const Records records = RecordsOf(metafile);
+        DeleteEnhMetaFile(metafile);
+        EXPECT_THAT(records.texts, ::testing::UnorderedElementsAreArray(control.texts));
+        EXPECT_EQ(records.bitmaps, 0);
+    }
+}
+
+TEST_F(Documents, TheDataOfConstituentsAreTextToo) {
+    for (const Constituted& control : ConstitutedControls()) {
+        ComPtr<IDataObject> data;
+        ASSERT_EQ(control.object.As(&data), S_OK);
+        FORMATETC format = {CF_ENHMETAFILE, nullptr, DVASPECT_CONTENT, -1, TYMED_ENHMF};
+        STGMEDIUM medium = {};
+        ASSERT_EQ(data->GetData(&format, &medium), S_OK);
+        const Records records = RecordsOf(medium.hEnhMetaFile);
+        EXPECT_THAT(records.texts, ::testing::UnorderedElementsAreArray(control.texts));
+        EXPECT_EQ(records.bitmaps, 0);
+        ReleaseStgMedium(&medium);
+
+        format = {CF_METAFILEPICT, nullptr, DVASPECT_CONTENT, -1, TYMED_MFPICT};
+        ASSERT_EQ(data->GetData(&format, &medium), S_OK);
+        const auto* kept = static_cast<const METAFILEPICT*>(GlobalLock(medium.hMetaFilePict));
+        const Picture picture(400, 200);
+        SetMapMode(picture.Device(), MM_ANISOTROPIC);
+        SetViewportExtEx(picture.Device(), 400, 200, nullptr);
+        EXPECT_TRUE(PlayMetaFile(picture.Device(), kept->hMF));
+        GlobalUnlock(medium.hMetaFilePict);
+        ReleaseStgMedium(&medium);
+        EXPECT_EQ(picture.Untouched(), 0);
+        EXPECT_GT(picture.Count(GetSysColor(COLOR_WINDOWTEXT)), 100);
+    }
 }
 
 TEST_F(Documents, APictureOfItStaysWhereTheControlDoesNot) {
