@@ -19,6 +19,11 @@ inline constexpr TextView crLf = u"\r\n";
 /// How to compare two texts: unit by unit, or without regard to case (see LowerUnit).
 enum class Compare { Binary, IgnoreCase };
 
+/// Whether the unit is a control character or a line separator, for which no letter is drawn.
+constexpr bool IsControl(char16_t unit) {
+    return unit < blank || (unit >= 0x7F && unit <= 0x9F) || unit == 0x2028 || unit == 0x2029;
+}
+
 /// Remove leading / trailing / leading and trailing blanks (unit 32 only, no other white space).
 TextView LTrim(TextView text);
 TextView RTrim(TextView text);

@@ -34,7 +34,8 @@ class Surface {
     /// Clears the surface to BackColor and moves the pen to (0, 0).
     virtual void Cls() = 0;
     /// Draws `text` on one line in the current font and ForeColor, with its top left corner at the
-    /// pen, and advances CurrentX by TextWidth(text).
+    /// pen, and advances CurrentX by TextWidth(text). A control character (IsControl) is
+    /// drawn as a blank and measured like one.
     virtual void Print(TextView text) = 0;
     /// Fills the box from (x1, y1) to (x2, y2), both corner pixels included, and moves the pen to
     /// (x2, y2). `color` 0 means that no colour is given: the box is filled with ForeColor.

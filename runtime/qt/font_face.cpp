@@ -25,11 +25,6 @@ bool IsBetween(char16_t unit, char16_t first, char16_t last) {
     return unit >= first && unit <= last;
 }
 
-// Whether nothing is drawn for the unit. A blank takes its place.
-bool IsUndrawn(char16_t unit) {
-    return unit < blank || IsBetween(unit, 0x7F, 0x9F) || IsBetween(unit, 0x2028, 0x2029);
-}
-
 // Whether the advance of the unit is the same in every word.
 bool IsSimple(char16_t unit) {
     return unit < 0x300 ? unit != 0xAD
@@ -43,7 +38,7 @@ bool IsSimple(TextView word) {
 QString Drawable(TextView text) {
     QString drawable = ToQString(text);
     for (QChar& unit : drawable) {
-        if (IsUndrawn(unit.unicode())) {
+        if (IsControl(unit.unicode())) {
             unit = QLatin1Char(' ');
         }
     }
@@ -134,7 +129,7 @@ bool FontFace::AddsUp(TextView text) {
 }
 
 double FontFace::AdvanceOf(char16_t unit) {
-    const char16_t drawn = IsUndrawn(unit) ? blank : unit;
+    const char16_t drawn = IsControl(unit) ? blank : unit;
     double& advance = advances_[drawn];
     if (advance < 0) {
         advance = QFontMetricsF(simple_).horizontalAdvance(QChar(drawn));
@@ -144,7 +139,7 @@ double FontFace::AdvanceOf(char16_t unit) {
 
 // Returns 0 if the glyph of the unit comes from another font.
 std::uint32_t FontFace::GlyphOf(char16_t unit) {
-    const char16_t drawn = IsUndrawn(unit) ? blank : unit;
+    const char16_t drawn = IsControl(unit) ? blank : unit;
     std::uint32_t& glyph = glyphs_[drawn];
     if (glyph == unknownGlyph) {
         const QChar character(drawn);

@@ -6,6 +6,7 @@
 
 #include "runtime/win32/colors.h"
 #include "runtime/win32/device.h"
+#include "runtime/win32/drawn_text.h"
 #include "runtime/win32/wide_text.h"
 
 namespace lumenkit::win32 {
@@ -154,7 +155,7 @@ void DeviceCanvas::Print(const TextRun& run) {
         return;
     }
     Use(run.font->Handle());
-    const TextView text = run.text.substr(0, longestAtOnce);
+    const TextView text = DrawnText(run.text.substr(0, longestAtOnce), drawn_);
     ExtTextOutW(device_, at.x, at.y, 0, nullptr, AsWide(text.data()),
                 static_cast<UINT>(text.size()), nullptr);
 }
@@ -162,7 +163,7 @@ void DeviceCanvas::Print(const TextRun& run) {
 // Each unit keeps its position in the line, so that the lines break as on the screen.
 void DeviceCanvas::PrintScaled(const TextRun& run, POINT at) {
     const ScreenFontRef font = Scaled(*run.font);
-    const TextView text = run.text.substr(0, longestAtOnce);
+    const TextView text = DrawnText(run.text.substr(0, longestAtOnce), drawn_);
     advances_.resize(text.size());
     run.font->Ends(text, advances_);
     const int left = static_cast<int>(area_.left + run.at.x);

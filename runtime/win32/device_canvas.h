@@ -57,6 +57,7 @@ class DeviceCanvas final : public Canvas {
     int backgroundMode_ = 0;
     ThreadShared<FontCache> cache_;
     std::vector<int> advances_;
+    Text drawn_;
 };
 
 }  // namespace lumenkit::win32

@@ -4,6 +4,7 @@
 #include <limits>
 
 #include "frame/runtime_error.h"
+#include "runtime/win32/drawn_text.h"
 #include "runtime/win32/wide_text.h"
 
 namespace lumenkit::win32 {
@@ -85,7 +86,10 @@ int ScreenFont::Measure(TextView text, Put&& put) const {
 
 template <typename Put>
 int ScreenFont::MeasureWord(TextView word, int before, Put&& put) const {
-    const auto widthOf = [&](char16_t unit) { return PageOf(unit)[unit & 255U]; };
+    const auto widthOf = [&](char16_t unit) {
+        const char16_t drawn = IsControl(unit) ? blank : unit;
+        return PageOf(drawn)[drawn & 255U];
+    };
     if (std::ranges::any_of(word, [&](char16_t unit) { return widthOf(unit) == unknown; })) {
         const int width = AskPlatform(word);
         for (std::size_t i = 0; i + 1 < word.size(); ++i) {
@@ -142,13 +146,13 @@ std::unique_ptr<ScreenFont::Page> ScreenFont::NewPage(unsigned number) const {
     return page;
 }
 
-// The extent of the whole text may be larger, because it includes
+// Measures the text as it is drawn. The extent of the whole text may be larger, because it includes
 // the overhang of the last unit.
 int ScreenFont::AskPlatform(TextView text) const {
     scratch_.assign(text.size(), 0);
     int width = 0;
     for (std::size_t at = 0; at < text.size(); at += longestAtOnce) {
-        const TextView part = text.substr(at, longestAtOnce);
+        const TextView part = DrawnText(text.substr(at, longestAtOnce), drawn_);
         const std::span<int> ends = std::span(scratch_).subspan(at, part.size());
         SIZE size = {};
         GetTextExtentExPointW(device_.get(), AsWide(part.data()), static_cast<int>(part.size()), 0,

@@ -19,7 +19,8 @@ inline constexpr std::size_t longestAtOnce = 8192;
 /// which are pixels for a design made for the screen. Used only on one thread.
 ///
 /// Units whose width does not depend on their neighbours are measured with tables; each font
-/// determines which units these are. The platform measures all other words. Fonts created by a
+/// determines which units these are. The platform measures all other words. Control characters are
+/// measured as blanks. Fonts created by a
 /// FontCache are shared.
 class ScreenFont final : public std::enable_shared_from_this<ScreenFont> {
  public:
@@ -65,6 +66,7 @@ class ScreenFont final : public std::enable_shared_from_this<ScreenFont> {
     int averageWidth_ = 0;
     mutable std::array<std::unique_ptr<Page>, 256> pages_;
     mutable std::vector<int> scratch_;
+    mutable Text drawn_;
 };
 
 using ScreenFontRef = std::shared_ptr<const ScreenFont>;

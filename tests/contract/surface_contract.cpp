@@ -59,6 +59,23 @@ TEST_P(SurfaceContract, AnEmptyTextHasNoWidthButALinesHeight) {
     EXPECT_EQ(Surface().TextHeight(u""), Surface().TextHeight(u"Ag"));
 }
 
+TEST_P(SurfaceContract, ControlCharactersAreMeasuredAsBlanks) {
+    for (const char16_t unit : {u'\t', u'\r', u'\n', u'\x1', u'\x7F', u'\x9F', u'\x2028'}) {
+        for (const TextView frame : {u"ab cd", u" ", u"\x639 \x639", u"  i  "}) {
+            Text text(frame);
+            std::ranges::replace(text, blank, unit);
+            const float width = Surface().TextWidth(frame);
+            EXPECT_FLOAT_EQ(Surface().TextWidth(text), width) << static_cast<int>(unit);
+            std::vector<double> ends(text.size());
+            Surface().TextWidths(text, ends);
+            EXPECT_FLOAT_EQ(static_cast<float>(ends.back()), width) << static_cast<int>(unit);
+            Surface().SetCurrentX(0);
+            Surface().Print(text);
+            EXPECT_FLOAT_EQ(Surface().CurrentX(), width) << static_cast<int>(unit);
+        }
+    }
+}
+
 TEST_P(SurfaceContract, TheFontIsReplacedByReference) {
     const host::FontRef font = runtime_->NewFont(u"Arial", 20);
     Surface().SetCurrentFont(font);

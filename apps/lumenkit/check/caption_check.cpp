@@ -233,6 +233,17 @@ class CommandChecker {
     TextView written_;  // the parameter, without a closing bar
 };
 
+Remark ControlRemark(TextView caption, std::size_t offset) {
+    const char16_t unit = caption[offset];
+    if (unit == u'\r' || unit == u'\n') {
+        return {rules::controlCharacter.name, offset,
+                "the line end in the caption is drawn as a blank and begins no new line", "|CR|"};
+    }
+    const std::string name =
+        unit == u'\t' ? "tab" : "control character " + Quote(caption.substr(offset, 1));
+    return {rules::controlCharacter.name, offset, "the " + name + " is drawn as a blank", {}};
+}
+
 }  // namespace
 
 Remarks CheckCaption(TextView caption) {
@@ -240,6 +251,11 @@ Remarks CheckCaption(TextView caption) {
     const CaptionOutline outline = OutlineOf(caption);
     for (const WrittenCommand& command : outline.commands) {
         CommandChecker(command, remarks).Check();
+    }
+    if (outline.control) {
+        const auto behind =
+            std::ranges::upper_bound(remarks, *outline.control, {}, &Remark::offset);
+        remarks.insert(behind, ControlRemark(caption, *outline.control));
     }
     if (outline.goesOn) {
         remarks.push_back({rules::tooManyLines.name,

@@ -1,5 +1,6 @@
 #include "apps/lumenkit/check/caption_outline.h"
 
+#include <algorithm>
 #include <cstdint>
 #include <optional>
 #include <set>
@@ -55,10 +56,22 @@ class CompilerErrors final : private host::Application,
     bool captionFailed_ = false;
 };
 
-void ReadLine(CaptionReader& reader, std::vector<WrittenCommand>& commands) {
-    Text between;
+// Reads the text up to the next bar or the end of the line. Returns whether there is a bar.
+bool ReadText(CaptionReader& reader, TextView caption, std::optional<std::size_t>& control) {
+    const std::size_t begin = reader.Offset();
+    Text text;
+    const bool hasBar = reader.ReadThroughBar(text);
+    const TextView written = caption.substr(begin, reader.Offset() - begin);
+    const auto found = std::ranges::find_if(written, &IsControl);
+    if (!control && found != written.end()) {
+        control = begin + static_cast<std::size_t>(found - written.begin());
+    }
+    return hasBar;
+}
+
+void ReadLine(CaptionReader& reader, TextView caption, CaptionOutline& outline) {
     bool closed = true;
-    while (closed && reader.ReadThroughBar(between)) {
+    while (closed && ReadText(reader, caption, outline.control)) {
         WrittenCommand command;
         command.offset = reader.Offset() - 1;
         closed = reader.ReadThroughBar(command.text);
@@ -66,8 +79,7 @@ void ReadLine(CaptionReader& reader, std::vector<WrittenCommand>& commands) {
         if (closed) {
             command.text.pop_back();
         }
-        commands.push_back(std::move(command));
-        between.clear();
+        outline.commands.push_back(std::move(command));
     }
 }
 
@@ -96,7 +108,7 @@ CaptionOutline OutlineOf(TextView caption) {
     CaptionReader reader(caption);
     bool more = true;
     for (std::size_t line = 0; line < outline.lines; ++line) {
-        ReadLine(reader, outline.commands);
+        ReadLine(reader, caption, outline);
         more = NextLine(reader);
     }
     outline.goesOn = more && !outline.overflows;

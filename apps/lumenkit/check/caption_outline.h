@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstddef>
+#include <optional>
 #include <vector>
 
 #include "frame/text.h"
@@ -18,6 +19,7 @@ struct WrittenCommand {
 
 struct CaptionOutline {
     std::vector<WrittenCommand> commands;  ///< those in the compiled lines, in order
+    std::optional<std::size_t> control;    ///< offset of the first control character in drawn text
     std::size_t lines = 0;                 ///< number of compiled lines
     bool overflows = false;                ///< whether the compiler stopped at a position overflow
     bool goesOn = false;                   ///< whether lines follow that the compiler ignores

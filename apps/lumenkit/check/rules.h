@@ -26,6 +26,8 @@ inline constexpr Rule ineffectiveSize{"ineffective-size",
 inline constexpr Rule colorOutOfRange{"color-out-of-range", "a colour component outside 0 to 255"};
 inline constexpr Rule numberOverflow{"number-overflow",
                                      "a number out of range: the label reports an error"};
+inline constexpr Rule controlCharacter{
+    "control-character", "a line end, tab or other control character, which is drawn as a blank"};
 inline constexpr Rule tooManyLines{"too-many-lines", "a caption of more than 301 lines"};
 inline constexpr Rule textTooLong{"text-too-long", "a text too long for 16-bit positions"};
 inline constexpr Rule duplicateValue{"duplicate-value",
@@ -46,11 +48,11 @@ inline constexpr Rule unnamedControl{"unnamed-control",
 
 /// All rules.
 inline constexpr std::array allRules = {
-    rules::unknownCommand,    rules::unterminatedCommand, rules::loneBar,
-    rules::underlineIsItalic, rules::unconvertedValue,    rules::ineffectiveSize,
-    rules::colorOutOfRange,   rules::numberOverflow,      rules::tooManyLines,
-    rules::textTooLong,       rules::duplicateValue,      rules::listIndexOutOfRange,
-    rules::textOverLimits,    rules::unreadProperty,      rules::unreadableValue,
-    rules::unnamedControl};
+    rules::unknownCommand,      rules::unterminatedCommand, rules::loneBar,
+    rules::underlineIsItalic,   rules::unconvertedValue,    rules::ineffectiveSize,
+    rules::colorOutOfRange,     rules::numberOverflow,      rules::controlCharacter,
+    rules::tooManyLines,        rules::textTooLong,         rules::duplicateValue,
+    rules::listIndexOutOfRange, rules::textOverLimits,      rules::unreadProperty,
+    rules::unreadableValue,     rules::unnamedControl};
 
 }  // namespace lumenkit::check

@@ -141,6 +141,20 @@ TEST(CaptionCheck, CountsUnits) {
     EXPECT_THAT(RulesInCaption(Text(32764, u'x') + u"|b:"), ElementsAre("text-too-long@0"));
 }
 
+TEST(CaptionCheck, FindsTheFirstControlCharacterInTheText) {
+    EXPECT_THAT(RulesInCaption(u"one\r\ntwo\ttabs"), ElementsAre("control-character@3"));
+    EXPECT_EQ(SuggestionFor(u"one\r\ntwo"), "|CR|");
+    EXPECT_EQ(SuggestionFor(u"one\ntwo"), "|CR|");
+    EXPECT_EQ(SuggestionFor(u"one\ttwo"), "");
+    EXPECT_THAT(CheckCaption(u"a\tb").front().message, HasSubstr("tab"));
+    EXPECT_THAT(CheckCaption(u"a\u0007b").front().message, HasSubstr("\"\\u0007\""));
+    EXPECT_THAT(RulesInCaption(u"a|b:1|b\u2028c"), ElementsAre("control-character@7"));
+    EXPECT_THAT(RulesInCaption(u"|Blink:1|\t|Q|\t|x:1|"),
+                ElementsAre("unknown-command@0", "control-character@9", "unknown-command@14"));
+    EXPECT_THAT(RulesInCaption(u"a|CR|b\n|CR|c"), ElementsAre("control-character@6"));
+    EXPECT_THAT(RulesInCaption(u"a|before:1\t|b"), IsEmpty()) << "a command is not drawn";
+}
+
 TEST(CaptionCheck, TakesTheWorstCaptionsInItsStride) {
     EXPECT_THAT(RulesInCaption(Text(32766, u'|')), SizeIs(16383));
     // A command in every four units; the last one is not closed.

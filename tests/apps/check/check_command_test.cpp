@@ -112,9 +112,11 @@ TEST(CheckCommand, SaysSoWhenNothingIsWrong) {
 TEST(CheckCommand, ReadsACaptionFromTheStandardInput) {
     const Outcome outcome = RunProgram("check --caption -", "a\n|U:1|b\n");
     EXPECT_EQ(outcome.output,
+              "-:1:2: Caption: the line end in the caption is drawn as a blank and begins no new "
+              "line; did you mean \"|CR|\"? [control-character]\n"
               "-:2:1: Caption: the command \"u\" draws italic text, not underlined text "
               "[underline-is-italic]\n"
-              "1 file checked: 1 finding\n");
+              "1 file checked: 2 findings\n");
     EXPECT_EQ(outcome.status, 1);
     EXPECT_EQ(RunProgram("check --caption -").status, 0);
 }

@@ -117,6 +117,19 @@ TEST_F(QtSurfaceTest, TextStandsBelowAndRightOfThePen) {
     EXPECT_GT(inked.height(), Real(height) / 2);
 }
 
+TEST_F(QtSurfaceTest, ControlCharactersAreDrawnAsBlanks) {
+    const auto draw = [&](const Text& text) {
+        OnPaint([&](host::Surface& surface) {
+            surface.Print(text);
+            surface.Print(u"|");
+        });
+        return Picture();
+    };
+    const QImage blanks = draw(u"one two  three");
+    EXPECT_EQ(draw(u"one\ttwo\r\nthree"), blanks);
+    EXPECT_EQ(draw(u"one\u2028two\x7F\x80three"), blanks);
+}
+
 TEST_F(QtSurfaceTest, OpaqueTextCoversWhatIsBehindIt) {
     const auto paint = [](bool transparent) {
         return [transparent](host::Surface& surface) {

@@ -90,6 +90,22 @@ TEST_F(SurfaceTest, TextStandsAtThePen) {
     EXPECT_GT(bounds.bottom - bounds.top, 15);
 }
 
+TEST_F(SurfaceTest, ControlCharactersAreDrawnAsBlanks) {
+    const auto draw = [&](const Text& text, SIZE scaled) {
+        PaintBy([&](host::Surface& surface) {
+            surface.SetCurrentFont(form_.Fonts().NewFont(u"Arial", 12));
+            surface.Print(text);
+            surface.Print(u"|");
+        });
+        return Drawn(scaled)->Pixels();
+    };
+    for (const SIZE scaled : {paintedSize, SIZE{600, 300}}) {
+        const auto blanks = draw(u"one two  three \u20AC", scaled);
+        EXPECT_EQ(draw(u"one\ttwo\r\nthree\u0007\u20AC", scaled), blanks);
+        EXPECT_EQ(draw(u"one\u2028two\x7F\x80three\u2029\u20AC", scaled), blanks);
+    }
+}
+
 TEST_F(SurfaceTest, TheBackgroundShowsBetweenTheStrokesOrDoesNot) {
     for (const bool transparent : {true, false}) {
         PaintBy([&](host::Surface& surface) {
