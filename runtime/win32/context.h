@@ -4,6 +4,7 @@
 #include "frame/host/application.h"
 #include "frame/host/interaction.h"
 #include "runtime/win32/font.h"
+#include "runtime/win32/pixels.h"
 #include "runtime/win32/windows_header.h"
 
 namespace lumenkit::win32 {
@@ -16,6 +17,9 @@ struct Context {
     FontMaker& fonts;
     host::Application& application;
     host::Interaction& interaction;
+    /// The resolution of all controls and pages, whichever monitor shows them: twips that a control
+    /// has read or computed are valid as long as it lives.
+    Resolution resolution = Resolution::OfScreen();
 };
 
 }  // namespace lumenkit::win32

@@ -9,6 +9,7 @@
 #include "runtime/win32/colors.h"
 #include "runtime/win32/edges.h"
 #include "runtime/win32/keyboard.h"
+#include "runtime/win32/resolution_messages.h"
 
 namespace lumenkit::win32 {
 
@@ -52,7 +53,7 @@ Element::Element(const Elements& elements, const Kind& kind, const host::Design&
       movingEdges_(design.movingEdges),
       visible_(design.visible),
       owner_(elements.window.Handle()),
-      resolution_(elements.resolution) {
+      resolution_(elements.context.resolution) {
     RequireSize(placement_.width, placement_.height);
     const DWORD visible = visible_ ? WS_VISIBLE : 0;
     Create({.module = elements.context.module,
@@ -207,6 +208,11 @@ LRESULT Element::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
     if (message == WM_GETOBJECT) {
         const auto object = AnswerObjectRequest(Handle(), wParam, lParam);
         return object ? *object : Default(message, wParam, lParam);
+    }
+    // The window class would change the size of its parts, but not that of its font. A control
+    // keeps its resolution.
+    if (message == resolutionChangesMessage || message == resolutionChangedMessage) {
+        return 0;
     }
     if (message != WM_SETFOCUS && message != WM_KILLFOCUS) {
         return Default(message, wParam, lParam);

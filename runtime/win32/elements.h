@@ -1,7 +1,6 @@
 #pragma once
 
 #include "runtime/win32/context.h"
-#include "runtime/win32/pixels.h"
 #include "runtime/win32/window.h"
 
 namespace lumenkit::win32 {
@@ -16,7 +15,6 @@ struct Elements {
     const Context& context;
     Window& window;
     bool userMode = true;  ///< passed on to embedded controls
-    Resolution resolution = Resolution::OfScreen();
 };
 
 }  // namespace lumenkit::win32

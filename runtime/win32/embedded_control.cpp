@@ -15,7 +15,7 @@ EmbeddedControl::EmbeddedControl(const Elements& elements, const host::Design& d
                                  const ClassDescriptor& type)
     : owner_(elements.window.Handle()),
       parent_(ParentWindow(elements, design)),
-      resolution_(elements.resolution),
+      resolution_(elements.context.resolution),
       placement_(design.placement),
       visible_(design.visible),
       ambient_([&fonts = elements.context.fonts](

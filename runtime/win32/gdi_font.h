@@ -58,13 +58,15 @@ class GdiFont final : public Font {
     mutable ScreenFontRef realised_;  // null: not realised since the last change
 };
 
-/// Creates fonts for the screen's resolution.
+/// Creates fonts for one resolution.
 class GdiFontMaker final : public FontMaker {
  public:
+    explicit GdiFontMaker(Resolution resolution = Resolution::OfScreen())
+        : resolution_(resolution) {}
     std::shared_ptr<Font> NewFont(TextView name, float points) override;
 
  private:
-    Resolution resolution_ = Resolution::OfScreen();
+    Resolution resolution_;
 };
 
 }  // namespace lumenkit::win32

@@ -27,6 +27,7 @@ HostedControl::HostedControl(const Context& context, const ClassDescriptor& type
       type_(type),
       site_(site),
       size_(size),
+      resolution_(context.resolution),
       surface_(*this, context.fonts.NewFont(firstFont, firstFontSize), resolution_),
       constituents_({context, *this, site.GetAmbient().UserMode()}, &EmbedControl),
       host_{.surface = surface_,

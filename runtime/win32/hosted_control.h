@@ -119,7 +119,7 @@ class HostedControl final : public HostedWindow, public Drawable, private Surfac
     const ClassDescriptor& type_;
     ControlSite& site_;
     SIZE size_;
-    Resolution resolution_ = Resolution::OfScreen();
+    Resolution resolution_;
     Screen screen_{resolution_};
     win32::Surface surface_;
     ControlPainter painter_{*this, surface_};

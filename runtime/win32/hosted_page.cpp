@@ -12,8 +12,7 @@ namespace lumenkit::win32 {
 
 namespace {
 
-SIZE LaidOutSize(const ClassDescriptor& type) {
-    const Resolution resolution = Resolution::OfScreen();
+SIZE LaidOutSize(const ClassDescriptor& type, Resolution resolution) {
     return {ToPixels(type.pageWidth, resolution.x), ToPixels(type.pageHeight, resolution.y)};
 }
 
@@ -35,9 +34,10 @@ bool AnyPart(HWND page, Call&& call) {
 HostedPage::HostedPage(const Context& context, const ClassDescriptor& type,
                        host::PropertyPageSite& site, host::SelectedControls& selectedControls,
                        Life* life)
-    : HostedWindow(context.module, LaidOutSize(type), life),
+    : HostedWindow(context.module, LaidOutSize(type, context.resolution), life),
       title_(type.pageTitle),
-      size_(LaidOutSize(type)),
+      size_(LaidOutSize(type, context.resolution)),
+      screen_(context.resolution),
       constituents_({context, *this, true}, &EmbedControl),
       host_{.site = site,
             .selectedControls = selectedControls,

@@ -53,7 +53,7 @@ class HostedPage final : public HostedWindow {
 
     TextView title_;
     SIZE size_;
-    Screen screen_{Resolution::OfScreen()};
+    Screen screen_;
     Constituents constituents_;
     PageHost host_;
     std::unique_ptr<PropertyPage> page_;

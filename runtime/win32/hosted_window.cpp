@@ -5,6 +5,7 @@
 #include "runtime/win32/accessible_object.h"
 #include "runtime/win32/drawable.h"
 #include "runtime/win32/keyboard.h"
+#include "runtime/win32/resolution_messages.h"
 
 namespace lumenkit::win32 {
 
@@ -35,6 +36,11 @@ LRESULT HostedWindow::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) 
         case WM_THEMECHANGED:
         case WM_SETTINGCHANGE:
             SettingsChanged(message, wParam, lParam);
+            return 0;
+        case resolutionChangesMessage:
+            return 0;
+        case resolutionChangedMessage:
+            RepaintAll();
             return 0;
         default:
             return Default(message, wParam, lParam);
@@ -144,6 +150,10 @@ void HostedWindow::SettingsChanged(UINT message, WPARAM wParam, LPARAM lParam) {
          child = GetWindow(child, GW_HWNDNEXT)) {
         SendMessageW(child, message, wParam, lParam);
     }
+    RepaintAll();
+}
+
+void HostedWindow::RepaintAll() {
     RedrawWindow(Handle(), nullptr, nullptr,
                  RDW_INVALIDATE | RDW_ERASE | RDW_FRAME | RDW_ALLCHILDREN);
 }

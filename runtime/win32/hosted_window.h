@@ -36,6 +36,8 @@ class HostedWindow : public Window, public Described {
     /// Passes a change of the system settings on to the child windows and repaints the whole
     /// window.
     void SettingsChanged(UINT message, WPARAM wParam, LPARAM lParam);
+    /// Invalidates the window with all its children.
+    void RepaintAll();
     void FollowChildren(WPARAM event);
     /// Moves the focus to the container, so that the focus does not get lost.
     void GiveFocusAway();

@@ -37,8 +37,8 @@ HWND NewForm(HINSTANCE module) {
                            500, nullptr, nullptr, module, nullptr);
 }
 
-host::Placement PlaceOf(const FormControl& control) {
-    return win32::ToTwips(control.Place(), win32::Resolution::OfScreen());
+host::Placement PlaceOf(FormControl& control) {
+    return win32::ToTwips(control.Place(), control.GetForm().PixelsPerInch());
 }
 
 }  // namespace
@@ -69,14 +69,15 @@ void FormExtender::SetVisible(bool visible) {
 
 void FormExtender::Move(float left, float top, float width, float height) {
     control.MoveTo(win32::ToPixels({.left = left, .top = top, .width = width, .height = height},
-                                   win32::Resolution::OfScreen()));
+                                   control.GetForm().PixelsPerInch()));
 }
 
-WindowsForm::WindowsForm(const ClassTable& classes)
+WindowsForm::WindowsForm(const ClassTable& classes, win32::Resolution resolution)
     : module_(GetModuleHandleW(nullptr)),
       window_(NewForm(module_)),
+      resolution_(resolution),
       application_(module_),
-      context_{module_, classes, fonts_, application_, interaction_} {
+      context_{module_, classes, fonts_, application_, interaction_, resolution} {
     SetForegroundWindow(window_);
     SetFocus(window_);
 }

@@ -20,7 +20,9 @@ namespace lumenkit::testing {
 /// boxes are logged and answered at once.
 class WindowsForm {
  public:
-    explicit WindowsForm(const ClassTable& classes);
+    /// The controls take `resolution` for that of the screen.
+    explicit WindowsForm(const ClassTable& classes,
+                         win32::Resolution resolution = win32::Resolution::OfScreen());
     ~WindowsForm();
     WindowsForm(const WindowsForm&) = delete;
     WindowsForm& operator=(const WindowsForm&) = delete;
@@ -37,8 +39,8 @@ class WindowsForm {
  private:
     HINSTANCE module_;
     HWND window_;
-    win32::Resolution resolution_ = win32::Resolution::OfScreen();
-    win32::GdiFontMaker fonts_;
+    win32::Resolution resolution_;
+    win32::GdiFontMaker fonts_{resolution_};
     win32::Application application_;
     memory::FaultPlan faults_;
     memory::Log log_;

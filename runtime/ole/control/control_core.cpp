@@ -10,8 +10,7 @@ namespace lumenkit::ole {
 namespace {
 
 // The size of a control that no container has sized yet: 3000 by 1500 twips.
-SIZE FirstSize() {
-    const win32::Resolution resolution = win32::Resolution::OfScreen();
+SIZE FirstSize(win32::Resolution resolution) {
     return {win32::ToPixels(3000, resolution.x), win32::ToPixels(1500, resolution.y)};
 }
 
@@ -34,8 +33,8 @@ ControlCore::ControlCore(Component& component, const ClassDescriptor& type, IUnk
       faces_(faces),
       points_(controlling, EventInterface(type)),
       ambient_(site_, component.GetContext().fonts),
-      extender_(site_, *this),
-      extent_(FirstSize()) {
+      extender_(site_, *this, component.GetContext().resolution),
+      extent_(FirstSize(component.GetContext().resolution), component.GetContext().resolution) {
     Make();
 }
 

@@ -19,7 +19,8 @@ SIZEL ToHimetric(const SIZE& pixels, win32::Resolution resolution);
 /// change it step by step.
 class Extent {
  public:
-    explicit Extent(SIZE pixels) : himetric_(ToHimetric(pixels, resolution_)) {}
+    Extent(SIZE pixels, win32::Resolution resolution)
+        : resolution_(resolution), himetric_(ToHimetric(pixels, resolution)) {}
 
     const SIZEL& Get() const { return himetric_; }
     SIZE Pixels() const { return ToPixels(himetric_, resolution_); }
@@ -28,7 +29,7 @@ class Extent {
     win32::Resolution GetResolution() const { return resolution_; }
 
  private:
-    win32::Resolution resolution_ = win32::Resolution::OfScreen();
+    win32::Resolution resolution_;
     SIZEL himetric_;
 };
 

@@ -28,12 +28,12 @@ Value SiteExtender::Invoke(std::int32_t identifier, InvokeKind kind, std::span<V
 }
 
 host::Placement SiteExtender::Place() const {
-    return win32::ToTwips(control_.Place(), win32::Resolution::OfScreen());
+    return win32::ToTwips(control_.Place(), resolution_);
 }
 
 void SiteExtender::Move(const host::Placement& place) {
     RequireSize(place.width, place.height);
-    control_.Move(win32::ToPixels(place, win32::Resolution::OfScreen()));
+    control_.Move(win32::ToPixels(place, resolution_));
 }
 
 }  // namespace lumenkit::ole

@@ -7,6 +7,7 @@
 #include "frame/host/extender.h"
 #include "frame/text.h"
 #include "runtime/ole/control/client_site.h"
+#include "runtime/win32/pixels.h"
 
 namespace lumenkit::ole {
 
@@ -28,8 +29,10 @@ class Placed {
 /// Otherwise it provides Name, Left, Top, Width, Height (in twips), Visible and Move from Placed.
 class SiteExtender final : public host::Extender {
  public:
-    /// Both arguments must outlive the object.
-    SiteExtender(const ClientSite& site, Placed& control) : site_(site), control_(control) {}
+    /// `site` and `control` must outlive the object. `resolution` converts between pixels and
+    /// twips.
+    SiteExtender(const ClientSite& site, Placed& control, win32::Resolution resolution)
+        : site_(site), control_(control), resolution_(resolution) {}
 
     std::optional<std::int32_t> FindMember(TextView name) const override;
     Value Invoke(std::int32_t identifier, InvokeKind kind, std::span<Value> arguments) override;
@@ -48,6 +51,7 @@ class SiteExtender final : public host::Extender {
 
     const ClientSite& site_;
     Placed& control_;
+    win32::Resolution resolution_;
 };
 
 }  // namespace lumenkit::ole

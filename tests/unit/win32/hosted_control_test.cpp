@@ -487,5 +487,58 @@ TEST_F(HostedControlTest, LeavesNothingBehind) {
     EXPECT_EQ(GetGuiResources(GetCurrentProcess(), GR_GDIOBJECTS), handles);
 }
 
+// The container's window is on a monitor of another resolution than the screen of the process.
+TEST(ResolutionOfAControl, IsOneForAllItsParts) {
+    const win32::Resolution fine = {.x = 144, .y = 144};
+    WindowsForm form(PaintedClasses(), fine);
+    FormControl control(form, PaintedClasses().classes[0], {300, 150});
+    control.Start();
+    PaintedControl& painted = *PaintedControl::Last();
+    const ControlHost& host = control.Hosted().Host();
+    EXPECT_EQ(control.Hosted().Drawing().Width(), 3000);
+    EXPECT_EQ(host.screen.TwipsPerPixelX(), 10);
+    SendMessageW(control.Hosted().Handle(), WM_MOUSEMOVE, 0, MAKELPARAM(10, 20));
+    EXPECT_EQ(painted.lines.back(), "move 0 0 100,200");
+
+    const auto widthOf = [](HWND window) {
+        RECT place = {};
+        GetWindowRect(window, &place);
+        return place.right - place.left;
+    };
+    host::TextBoxEvents events;
+    const host::Placement inch = {.left = 0, .top = 0, .width = 1440, .height = 720};
+    const auto box = host.constituents.AddTextBox(
+        {{.name = u"T", .placement = inch}, true, host::ScrollBars::None, u""}, events);
+    EXPECT_EQ(widthOf(WindowOf(*box)), 144);
+    const auto embedded =
+        host.constituents.AddControl({.name = u"E", .placement = inch}, u"test.Painted");
+    const ControlHost& inner = PaintedControl::Last()->Host();
+    EXPECT_EQ(inner.screen.TwipsPerPixelX(), 10);
+    EXPECT_EQ(inner.surface.Width(), 1440);
+}
+
+TEST_F(HostedControlTest, KeepsItsPictureOnAMonitorOfAnotherResolution) {
+    constexpr UINT beforeParent = 0x02E2;
+    constexpr UINT afterParent = 0x02E3;
+    host::TextBoxEvents events;
+    const auto box = Parts().AddTextBox(
+        {{.name = u"T", .placement = {0, 0, 1500, 600}}, true, host::ScrollBars::None, u"text"},
+        events);
+    WindowsForm::Pump();
+    const float height = Surface().TextHeight(u"x");
+    SendMessageW(WindowOf(*box), beforeParent, 0, 0);
+    SendMessageW(Window(), beforeParent, 0, 0);
+    control_->MoveTo({20, 20, 320, 170});  // the container enlarges it
+    UpdateWindow(Window());
+    UpdateWindow(WindowOf(*box));
+    SendMessageW(Window(), afterParent, 0, 0);
+    SendMessageW(WindowOf(*box), afterParent, 0, 0);
+    EXPECT_EQ(Hosted().Size().cx, 300) << "pixels are the container's";
+    EXPECT_EQ(Surface().Width(), win32::ToTwips(300, form_.PixelsPerInch().x));
+    EXPECT_EQ(Surface().TextHeight(u"x"), height);
+    EXPECT_TRUE(GetUpdateRect(Window(), nullptr, FALSE)) << "drawn again";
+    EXPECT_TRUE(GetUpdateRect(WindowOf(*box), nullptr, FALSE));
+}
+
 }  // namespace
 }  // namespace lumenkit::testing
