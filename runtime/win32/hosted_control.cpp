@@ -29,13 +29,14 @@ HostedControl::HostedControl(const Context& context, const ClassDescriptor& type
       size_(size),
       surface_(*this, context.fonts.NewFont(firstFont, firstFontSize), resolution_),
       constituents_({context, *this, site.GetAmbient().UserMode()}, &EmbedControl),
+      reports_(context.interaction),
       host_{.surface = surface_,
             .container = site.GetContainer(),
             .ambient = site.GetAmbient(),
             .extender = site.GetExtender(),
             .screen = screen_,
             .application = context.application,
-            .interaction = context.interaction,
+            .interaction = reports_,
             .constituents = constituents_} {
     if (type.createControl == nullptr) {
         Raise(ErrorNumber::CannotCreateObject);
@@ -72,7 +73,7 @@ void HostedControl::FinishStart() {
 }
 
 void HostedControl::Save(host::PropertyBag& bag) {
-    control_->UserControl_WriteProperties(bag);
+    shared::SaveControl(*control_, bag, reports_);
 }
 
 void HostedControl::AmbientChanged() {

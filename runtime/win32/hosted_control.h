@@ -4,6 +4,7 @@
 
 #include "frame/class_table.h"
 #include "frame/control.h"
+#include "runtime/shared/saving.h"
 #include "runtime/win32/constituents.h"
 #include "runtime/win32/control_focus.h"
 #include "runtime/win32/control_mouse.h"
@@ -47,6 +48,8 @@ class HostedControl final : public HostedWindow, public Drawable, private Surfac
     /// raises reach the caller.
     void StartSaved(host::PropertyBag& bag);
     bool IsStarted() const { return isStarted_; }
+    /// Raises the error of a save that failed, which the control has reported before; see
+    /// shared::SaveControl.
     void Save(host::PropertyBag& bag);
 
     Control& GetControl() { return *control_; }
@@ -119,6 +122,7 @@ class HostedControl final : public HostedWindow, public Drawable, private Surfac
     ControlFocus focus_{*this, surface_, site_};
     ControlMouse mouse_{*this, surface_, focus_, resolution_};
     Constituents constituents_;
+    shared::ReportCounter reports_;
     ControlHost host_;
     std::unique_ptr<Control> control_;
     int requests_ = 0;

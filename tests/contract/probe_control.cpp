@@ -48,6 +48,10 @@ void ProbeControl::UserControl_ReadProperties(host::PropertyBag& bag) {
 
 void ProbeControl::UserControl_WriteProperties(host::PropertyBag& bag) {
     calls.emplace_back("WriteProperties");
+    if (reportsErrors) {
+        host_.interaction.MsgBox(u"an error", host::MessageStyle::Critical, u"LUMENKIT ERROR");
+        return;
+    }
     bag.WriteProperty(u"Number", number_, std::int32_t{0});
 }
 

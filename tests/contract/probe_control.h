@@ -23,7 +23,7 @@ class ProbeControl final : public Control {
     void UserControl_InitProperties() override { calls.emplace_back("InitProperties"); }
     /// Reads "Number".
     void UserControl_ReadProperties(host::PropertyBag& bag) override;
-    /// Writes "Number", whose default is 0.
+    /// Writes "Number", whose default is 0, or reports an error instead.
     void UserControl_WriteProperties(host::PropertyBag& bag) override;
     void UserControl_Resize() override;
     void UserControl_Show() override { calls.emplace_back("Show"); }
@@ -37,6 +37,7 @@ class ProbeControl final : public Control {
     std::vector<std::string> Take() { return std::exchange(calls, {}); }
 
     std::vector<std::string> calls;
+    bool reportsErrors = false;
     /// The drawing area's size when Resize was last called, in twips.
     float resizedWidth = 0;
     float resizedHeight = 0;

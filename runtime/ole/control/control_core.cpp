@@ -1,6 +1,7 @@
 #include "runtime/ole/control/control_core.h"
 
 #include "frame/raised_flag.h"
+#include "frame/runtime_error.h"
 #include "runtime/ole/module/identifiers.h"
 #include "runtime/ole/objects/event_call.h"
 #include "runtime/ole/values/result.h"
@@ -22,6 +23,24 @@ GUID EventInterface(const ClassDescriptor& type) {
 // The names under which the size of a saved control is stored next to its properties.
 constexpr TextView widthName = u"_ExtentX";
 constexpr TextView heightName = u"_ExtentY";
+
+// Returns nothing for a length that the bag does not contain or that cannot be used.
+std::optional<LONG> SavedLength(SettingsBag& bag, TextView name, int pixelsPerInch) {
+    try {
+        const Value value = bag.ReadProperty(name, Empty{});
+        if (std::holds_alternative<Empty>(value)) {
+            return std::nullopt;
+        }
+        const LONG length = ToLong(value);
+        if (!IsPossibleLength(length, pixelsPerInch)) {
+            Raise(ErrorNumber::InvalidPropertyValue);
+        }
+        return length;
+    } catch (const RuntimeError& error) {
+        bag.Refuse(name, error);
+        return std::nullopt;
+    }
+}
 
 }  // namespace
 
@@ -95,12 +114,13 @@ void ControlCore::Restart() {
     }
 }
 
-void ControlCore::Load(host::PropertyBag& bag) {
+void ControlCore::Load(SettingsBag& bag) {
     Restart();
-    const Value width = bag.ReadProperty(widthName, Empty{});
-    const Value height = bag.ReadProperty(heightName, Empty{});
-    if (!std::holds_alternative<Empty>(width) && !std::holds_alternative<Empty>(height)) {
-        SetExtent({ToLong(width), ToLong(height)});
+    const win32::Resolution resolution = extent_.GetResolution();
+    const auto width = SavedLength(bag, widthName, resolution.x);
+    const auto height = SavedLength(bag, heightName, resolution.y);
+    if (width && height) {
+        SetExtent({*width, *height});
     }
     const RaisedFlag starting(isStarting_);
     hosted_->StartSaved(bag);
@@ -115,13 +135,12 @@ void ControlCore::Save(host::PropertyBag& bag) {
 }
 
 void ControlCore::SetExtent(const SIZEL& himetric) {
-    // The largest width and height of a window, in pixels.
-    constexpr LONG largest = 32767;
-    const SIZE pixels = ToPixels(himetric, extent_.GetResolution());
-    if (himetric.cx < 0 || himetric.cy < 0 || pixels.cx > largest || pixels.cy > largest ||
-        pixels.cx < 0 || pixels.cy < 0) {
+    const win32::Resolution resolution = extent_.GetResolution();
+    if (!IsPossibleLength(himetric.cx, resolution.x) ||
+        !IsPossibleLength(himetric.cy, resolution.y)) {
         throw ComError(E_INVALIDARG);
     }
+    const SIZE pixels = ToPixels(himetric, resolution);
     const bool changed = !SameSize(extent_.Pixels(), pixels);
     if (changed && activation_.IsActive()) {
         RequestSize(pixels);

@@ -11,6 +11,7 @@
 #include "runtime/ole/control/site_extender.h"
 #include "runtime/ole/objects/component.h"
 #include "runtime/ole/objects/connection_points.h"
+#include "runtime/ole/values/settings_bag.h"
 #include "runtime/win32/hosted_control.h"
 
 namespace lumenkit::ole {
@@ -56,7 +57,8 @@ class ControlCore final : public win32::ControlSite,
     void StartNew();
     /// Loads the control. A control in use may be loaded again, unless it is shown or is calling
     /// its container. Errors that the bag raises reach the caller; the control is not started then.
-    void Load(host::PropertyBag& bag);
+    void Load(SettingsBag& bag);
+    /// Errors of a save that failed reach the caller. The control stays dirty.
     void Save(host::PropertyBag& bag);
     /// Called when no client holds the control any more.
     void Abandon() noexcept;
