@@ -27,7 +27,8 @@ namespace lumenkit::win32 {
 ///
 /// The control must not be destroyed while one of its procedures runs, that is before an event that
 /// it raised or a call of its site has returned. Where that may happen, a Life defers the
-/// destruction. The container may destroy the control's window at any time.
+/// destruction. The container may destroy the window that the control is in at any time, and even
+/// the control's own window, which cannot be attached again then.
 ///
 /// Used only on the thread that created it. Errors of the control's own procedures do not leave it.
 class HostedControl final : public HostedWindow, public Drawable, private SurfaceOwner {
@@ -70,7 +71,8 @@ class HostedControl final : public HostedWindow, public Drawable, private Surfac
     void Place(const RECT& place, const RECT& clip);
     /// Hides or shows the attached window. Showing a hidden window runs UserControl_Show.
     void SetVisible(bool visible);
-    /// Moves the window back to the hidden parking window.
+    /// Moves the window back to the hidden parking window. Happens without a call before the
+    /// container's window is destroyed.
     void Detach();
 
     /// Draws the control, its border and constituents in their current state, scaled into `place`
@@ -104,6 +106,7 @@ class HostedControl final : public HostedWindow, public Drawable, private Surfac
 
     // Window
     LRESULT HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
+    void LeaveContainer() override { Detach(); }
     LRESULT FollowWindow(WPARAM wParam, LPARAM lParam);
     LRESULT HandleMouse(UINT message, WPARAM wParam, LPARAM lParam);
     LRESULT GiveText(std::size_t room, wchar_t* target);

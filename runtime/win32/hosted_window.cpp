@@ -21,6 +21,10 @@ HostedWindow::HostedWindow(HINSTANCE module, SIZE size, Life* life) : parking_(m
             .life = life});
 }
 
+HostedWindow::~HostedWindow() {
+    attached_->Remove(*this);
+}
+
 LRESULT HostedWindow::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
     switch (message) {
         case WM_PARENTNOTIFY:
@@ -51,6 +55,7 @@ bool HostedWindow::MoveInto(HWND parent, const RECT& place) {
         return false;
     }
     isAttached_ = true;
+    attached_->Add(*this);
     if (std::exchange(isClipped_, false)) {
         SetWindowRgn(Handle(), nullptr, FALSE);
     }
@@ -114,12 +119,21 @@ bool HostedWindow::Show(bool visible) {
 }
 
 void HostedWindow::Park() {
+    attached_->Remove(*this);
     if (!IsAttached()) {
         return;
     }
     Show(false);
     SetParent(Handle(), parking_.Handle());
     isAttached_ = false;
+}
+
+// A window whose parent belongs to this library stays in it and leaves together with it.
+void HostedWindow::WindowIsDestroyed(HWND window) {
+    if (IsAttached() && IsChild(window, Handle()) != FALSE &&
+        Of(GetAncestor(Handle(), GA_PARENT)) == nullptr) {
+        LeaveContainer();
+    }
 }
 
 void HostedWindow::GiveFocusAway() {

@@ -1,13 +1,19 @@
 #pragma once
 
+#include "runtime/win32/attached_windows.h"
 #include "runtime/win32/window.h"
 
 namespace lumenkit::win32 {
 
 /// The window of a control or page. It is a child of the parking window until a container takes it.
-/// All methods do nothing once the window is destroyed.
-class HostedWindow : public Window {
+/// If the container's window is destroyed, it returns to the parking window and can be attached
+/// again. All methods do nothing once the window itself is destroyed.
+class HostedWindow : public Window, private AttachedWindow {
  public:
+    ~HostedWindow() override;
+    HostedWindow(const HostedWindow&) = delete;
+    HostedWindow& operator=(const HostedWindow&) = delete;
+
     bool IsAttached() const { return isAttached_ && Handle() != nullptr; }
 
  protected:
@@ -30,8 +36,11 @@ class HostedWindow : public Window {
     /// Moves the window back to the parking window, hidden.
     void Park();
     SIZE WindowSize() const;
+    /// Called before the container's window is destroyed.
+    virtual void LeaveContainer() { Park(); }
 
  private:
+    void WindowIsDestroyed(HWND window) override;
     /// Passes a change of the system settings on to the child windows and repaints the whole
     /// window.
     void SettingsChanged(UINT message, WPARAM wParam, LPARAM lParam);
@@ -40,6 +49,7 @@ class HostedWindow : public Window {
     void GiveFocusAway();
 
     ParkingPlace parking_;
+    ThreadShared<AttachedWindows> attached_;
     bool isAttached_ = false;
     bool isClipped_ = false;
 };

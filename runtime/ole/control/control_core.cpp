@@ -90,7 +90,7 @@ win32::HostedControl& ControlCore::Started() {
 }
 
 HWND ControlCore::ActiveWindow() const {
-    if (!activation_.IsActive()) {
+    if (!activation_.HasWindow()) {
         throw ComError(E_FAIL);
     }
     return hosted_->Handle();

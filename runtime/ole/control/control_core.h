@@ -51,7 +51,8 @@ class ControlCore final : public win32::ControlSite,
     win32::HostedControl& Hosted() { return *hosted_; }
     /// Returns the control. Starts it as a new one if it is used without having been loaded.
     win32::HostedControl& Started() override;
-    /// Returns the window of the active control. Raises a ComError while it is not active.
+    /// Returns the window of the active control. Raises a ComError while it has none
+    /// in its container.
     HWND ActiveWindow() const;
     /// Starts a new control. Raises a ComError if the control was already started explicitly.
     void StartNew();

@@ -54,6 +54,8 @@ class Site final : public IUnknown {
         return found;
     }
     HRESULT DoVerb(LONG verb);
+    /// Uses another form from now on. The form must outlive the site.
+    void SetForm(Form& form) { form_ = &form; }
     void SetPlace(const RECT& place);
 
     // The members of the extender. Lengths are in twips.
@@ -137,7 +139,7 @@ class Site final : public IUnknown {
     static const InterfaceTable& ExtenderMembers();
     void Said(std::string line) { log_.Add(std::move(line)); }
 
-    Form& form_;
+    Form* form_;
     CallLog log_;
     ULONG references_ = 0;
     ClientSiteFace clientSite_{*this};
