@@ -57,11 +57,13 @@ HostedControl::~HostedControl() {
 // ---- Life
 
 void HostedControl::StartNew() {
+    FollowSite();
     Tell(*control_, &Control::UserControl_InitProperties);
     FinishStart();
 }
 
 void HostedControl::StartSaved(host::PropertyBag& bag) {
+    FollowSite();
     control_->UserControl_ReadProperties(bag);
     FinishStart();
 }
@@ -77,8 +79,17 @@ void HostedControl::Save(host::PropertyBag& bag) {
 }
 
 void HostedControl::AmbientChanged() {
+    FollowSite();
     if (Handle() != nullptr) {
         InvalidateRect(Handle(), nullptr, FALSE);
+    }
+}
+
+void HostedControl::FollowSite() {
+    const bool accepts = site_.AcceptsInput();
+    if (accepts != acceptsInput_) {
+        acceptsInput_ = accepts;
+        AcceptInput(accepts);
     }
 }
 
@@ -120,6 +131,7 @@ void HostedControl::BorderChanged() {
 }
 
 void HostedControl::Attach(HWND parent, const RECT& place) {
+    FollowSite();
     if (MoveInto(parent, place)) {
         SetVisible(true);
     }
@@ -174,8 +186,14 @@ bool HostedControl::HasFocus() const {
     return HasFocusInside(Handle());
 }
 
+void HostedControl::Focus(bool last) {
+    if (acceptsInput_) {
+        focus_.Take(last);
+    }
+}
+
 bool HostedControl::TranslateKey(const MSG& message) {
-    return TranslateKeyInside(Handle(), message);
+    return acceptsInput_ && TranslateKeyInside(Handle(), message);
 }
 
 LRESULT HostedControl::HandleMouse(UINT message, WPARAM wParam, LPARAM lParam) {

@@ -22,8 +22,8 @@ namespace lumenkit::win32 {
 /// attached.
 ///
 /// The control receives the keyboard while one of its windows has the focus, and the mouse while
-/// one of them is under the pointer. Screen readers read the text of the window, which is the text
-/// that the control shows.
+/// one of them is under the pointer, as long as its site accepts input. Screen readers read the
+/// text of the window, which is the text that the control shows.
 ///
 /// The control must not be destroyed while one of its procedures runs, that is before an event that
 /// it raised or a call of its site has returned. Where that may happen, a Life defers the
@@ -84,7 +84,7 @@ class HostedControl final : public HostedWindow, public Drawable, private Surfac
     // Keyboard.
     /// Gives the focus to the first (or last) constituent that takes it, otherwise to the control
     /// itself.
-    void Focus(bool last = false) { focus_.Take(last); }
+    void Focus(bool last = false);
     bool HasFocus() const;
     /// Returns whether the control used the message: Tab between its constituents, arrows, and
     /// other keys that its constituents need although a container would use them itself. Call it
@@ -93,6 +93,9 @@ class HostedControl final : public HostedWindow, public Drawable, private Surfac
 
     /// Called when the ambient properties of the container changed.
     void AmbientChanged();
+    /// Whether the user may use the control, as its site said last: at the start, when the control
+    /// was attached and when the ambient properties changed.
+    bool AcceptsInput() const { return acceptsInput_; }
 
  private:
     // SurfaceOwner
@@ -114,6 +117,7 @@ class HostedControl final : public HostedWindow, public Drawable, private Surfac
     void FinishStart();
     void AdoptSize(SIZE size);
     void BecomeVisible(bool visible);
+    void FollowSite();
 
     const ClassDescriptor& type_;
     ControlSite& site_;
@@ -132,6 +136,7 @@ class HostedControl final : public HostedWindow, public Drawable, private Surfac
     bool isStarted_ = false;
     bool isVisible_ = false;  // as set by the container
     bool wasTold_ = false;    // whether it was notified that it is visible
+    bool acceptsInput_ = true;
 };
 
 /// Creates a new control on another control or on a page; see EmbedFunction.

@@ -18,7 +18,8 @@ HostedWindow::HostedWindow(HINSTANCE module, SIZE size, Life* life) : parking_(m
             .style = WS_CHILD | WS_CLIPCHILDREN | WS_CLIPSIBLINGS,
             .place = {0, 0, size.cx, size.cy},
             .parent = parking_.Handle(),
-            .life = life});
+            .life = life,
+            .gate = &gate_});
 }
 
 HostedWindow::~HostedWindow() {
@@ -140,6 +141,23 @@ void HostedWindow::GiveFocusAway() {
     if (IsAttached() && HasFocusInside(Handle())) {
         SetFocus(GetAncestor(Handle(), GA_PARENT));
     }
+}
+
+// The platform passes no input to a disabled window and to the windows in it, which do not look
+// disabled. A click goes to the container.
+void HostedWindow::AcceptInput(bool accepts) {
+    gate_.isOpen = accepts;
+    if (Handle() == nullptr) {
+        return;
+    }
+    if (!accepts) {
+        const HWND capture = GetCapture();
+        if (capture != nullptr && (capture == Handle() || IsChild(Handle(), capture) != FALSE)) {
+            ReleaseCapture();
+        }
+        GiveFocusAway();
+    }
+    EnableWindow(Handle(), accepts ? TRUE : FALSE);
 }
 
 SIZE HostedWindow::WindowSize() const {

@@ -36,6 +36,8 @@ class HostedWindow : public Window, private AttachedWindow {
     /// Moves the window back to the parking window, hidden.
     void Park();
     SIZE WindowSize() const;
+    /// Whether the window and the windows in it receive the user's input; initially they do.
+    void AcceptInput(bool accepts);
     /// Called before the container's window is destroyed.
     virtual void LeaveContainer() { Park(); }
 
@@ -48,6 +50,7 @@ class HostedWindow : public Window, private AttachedWindow {
     /// Moves the focus to the container, so that the focus does not get lost.
     void GiveFocusAway();
 
+    InputGate gate_;
     ParkingPlace parking_;
     ThreadShared<AttachedWindows> attached_;
     bool isAttached_ = false;

@@ -34,6 +34,13 @@ HWND Notifier(UINT message, WPARAM wParam, LPARAM lParam) {
     }
 }
 
+bool IsInput(UINT message) {
+    return (message >= WM_KEYFIRST && message <= WM_KEYLAST) ||
+           (message >= WM_MOUSEFIRST && message <= WM_MOUSELAST) || message == WM_CONTEXTMENU ||
+           message == WM_IME_STARTCOMPOSITION || message == WM_IME_COMPOSITION ||
+           message == WM_IME_CHAR;
+}
+
 }  // namespace
 
 Window::~Window() {
@@ -75,6 +82,7 @@ void RemoveWindowClass(HINSTANCE module) {
 void Window::Create(const WindowDesign& design) {
     const Window* const parent = Of(design.parent);
     life_ = design.life == nullptr && parent != nullptr ? parent->life_ : design.life;
+    gate_ = design.gate == nullptr && parent != nullptr ? parent->gate_ : design.gate;
     const std::wstring text = ToWide(design.text);
     const RECT& place = design.place;
     handle_ =
@@ -132,6 +140,9 @@ LRESULT CALLBACK Window::Procedure(HWND handle, UINT message, WPARAM wParam, LPA
     Window* const window = Of(handle);
     if (window == nullptr) {
         return DefWindowProcW(handle, message, wParam, lParam);
+    }
+    if (window->gate_ != nullptr && !window->gate_->isOpen && IsInput(message)) {
+        return 0;
     }
     const Life::Hold hold(window->life_);
     if (message != WM_NCDESTROY) {

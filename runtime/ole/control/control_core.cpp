@@ -73,6 +73,13 @@ void ControlCore::Abandon() noexcept {
     notices_.Clear();
 }
 
+void ControlCore::SetSite(IOleClientSite* site) {
+    site_.Assign(site);
+    if (site != nullptr && hosted_->IsStarted()) {
+        hosted_->AmbientChanged();
+    }
+}
+
 void ControlCore::Make() {
     hosted_.reset();
     hosted_ = std::make_unique<win32::HostedControl>(component_.GetContext(), type_, *this,
@@ -187,6 +194,10 @@ void ControlCore::FocusChanged(bool inside) {
     activation_.FocusChanged(inside);
 }
 
+bool ControlCore::AcceptsInput() {
+    return ambient_.UserMode() && !ambient_.IsUIDead();
+}
+
 void ControlCore::FreezeEvents(bool freeze) {
     if (freeze) {
         ++frozen_;
@@ -219,7 +230,8 @@ bool ControlCore::CanPropertyChange(TextView name) {
 
 void ControlCore::RaiseEvent(std::int32_t event, std::span<Value> arguments) {
     const Event* raised = type_.eventTable == nullptr ? nullptr : type_.eventTable->Find(event);
-    if (frozen_ != 0 || raised == nullptr) {
+    const bool isDead = hosted_ != nullptr && !hosted_->AcceptsInput();
+    if (frozen_ != 0 || isDead || raised == nullptr) {
         return;
     }
     ole::RaiseEvent(points_.Events(), *raised, arguments);

@@ -45,7 +45,7 @@ class ControlCore final : public win32::ControlSite,
     Notices& GetNotices() { return notices_; }
     Activation& GetActivation() { return activation_; }
     const ClientSite& Site() const override { return site_; }
-    void SetSite(IOleClientSite* site) { site_.Assign(site); }
+    void SetSite(IOleClientSite* site);
 
     // The life cycle.
     win32::HostedControl& Hosted() { return *hosted_; }
@@ -81,6 +81,7 @@ class ControlCore final : public win32::ControlSite,
     void RequestSize(SIZE size) override;
     void PictureChanged() override;
     void FocusChanged(bool inside) override;
+    bool AcceptsInput() override;
 
     // Notifications from the control to its container.
     void PropertyChanged(TextView name) override;

@@ -77,6 +77,9 @@ HRESULT OleControl::GetControlInfo(CONTROLINFO* information) {
 HRESULT OleControl::OnMnemonic(MSG* message) {
     return Guarded([&] {
         const wchar_t unit = UnitOf(Checked(message));
+        if (!core_.Started().AcceptsInput()) {
+            return;
+        }
         core_.GetActivation().ActivateUI();
         if (unit != 0 && core_.GetActivation().IsActive()) {
             win32::UseMnemonicInside(core_.Hosted().Handle(), unit);

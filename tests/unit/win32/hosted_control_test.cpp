@@ -203,6 +203,35 @@ TEST_F(HostedControlTest, LeavesAContainerWhoseWindowIsDestroyed) {
     EXPECT_EQ(GetFocus(), WindowOf(*box));
 }
 
+TEST_F(HostedControlTest, TakesNoInputThatItsSiteDoesNotAccept) {
+    host::TextBoxEvents events;
+    const auto box = Parts().AddTextBox({{.name = u"T"}}, events);
+    Hosted().Focus();
+    EXPECT_EQ(GetFocus(), WindowOf(*box));
+    control_->acceptsInput = false;
+    EXPECT_TRUE(Hosted().AcceptsInput());  // until it is told
+    Hosted().AmbientChanged();
+    EXPECT_FALSE(Hosted().AcceptsInput());
+    EXPECT_EQ(GetFocus(), form_.Window());
+    EXPECT_FALSE(IsWindowEnabled(Window()));
+    EXPECT_TRUE(IsWindowEnabled(WindowOf(*box)));
+    Take();
+    Send(WM_LBUTTONDOWN, MK_LBUTTON, 10, 20);
+    Send(WM_LBUTTONUP, 0, 10, 20);
+    SendMessageW(WindowOf(*box), WM_CHAR, 'x', 1);
+    Hosted().Focus();
+    EXPECT_EQ(GetFocus(), form_.Window());
+    EXPECT_EQ(Take(), Lines{});
+    EXPECT_EQ(box->GetText(), u"");
+    control_->acceptsInput = true;
+    Hosted().AmbientChanged();
+    Send(WM_LBUTTONDOWN, MK_LBUTTON, 10, 20);
+    Send(WM_LBUTTONUP, 0, 10, 20);
+    SendMessageW(WindowOf(*box), WM_CHAR, 'x', 1);
+    EXPECT_NE(Take(), Lines{});
+    EXPECT_EQ(box->GetText(), u"x");
+}
+
 TEST_F(HostedControlTest, DrawsItsConstituentsToo) {
     const auto frame = Parts().AddFrame(
         {{.name = u"F", .placement = {.left = 300, .top = 300, .width = 1500, .height = 750}},
