@@ -73,6 +73,7 @@ void Element::BecomeVisible(bool visible) {
     if (visible != visible_) {
         visible_ = visible;
         ShowWindow(Handle(), visible ? SW_SHOWNA : SW_HIDE);
+        TellThatMnemonicsMayChange();
     }
 }
 
@@ -85,9 +86,14 @@ void Element::BecomeEnabled(bool enabled) {
     const bool losesFocus = !enabled && focus != nullptr && Handle() != nullptr &&
                             (focus == Handle() || IsChild(Handle(), focus) != FALSE);
     EnableWindow(Handle(), enabled ? TRUE : FALSE);
+    TellThatMnemonicsMayChange();
     if (losesFocus) {
         SetFocus(owner_);  // so that keys still reach a window; may destroy the object
     }
+}
+
+void Element::TellThatMnemonicsMayChange() const {
+    SendMessageW(owner_, mnemonicsMessage, 0, 0);
 }
 
 void Element::RepaintNow() const {

@@ -52,6 +52,7 @@ class Element : public Window, public Drawable {
     void BecomeVisible(bool visible);
     void BecomeEnabled(bool enabled);
     void RepaintNow() const;
+    void TellThatMnemonicsMayChange() const;
     /// Invalidates the window for a later repaint.
     void Invalidate() const;
 

@@ -203,6 +203,16 @@ LRESULT HostedControl::HandleMouse(UINT message, WPARAM wParam, LPARAM lParam) {
     return 0;
 }
 
+// One assignment may change many captions. The site is told once, when the control is idle again.
+void HostedControl::FollowMnemonics(WPARAM isPosted) {
+    if (isPosted != 0) {
+        mnemonicsArePosted_ = false;
+        site_.MnemonicsMayHaveChanged();
+    } else if (!mnemonicsArePosted_) {
+        mnemonicsArePosted_ = PostMessageW(Handle(), mnemonicsMessage, 1, 0) != FALSE;
+    }
+}
+
 // ---- The window
 
 LRESULT HostedControl::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
@@ -234,6 +244,9 @@ LRESULT HostedControl::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam)
         case WM_KILLFOCUS:
         case constituentFocusMessage:
             focus_.FocusMoved();
+            return 0;
+        case mnemonicsMessage:
+            FollowMnemonics(wParam);
             return 0;
         case WM_CAPTURECHANGED:
             mouse_.CaptureChanged();

@@ -118,6 +118,7 @@ class HostedControl final : public HostedWindow, public Drawable, private Surfac
     void AdoptSize(SIZE size);
     void BecomeVisible(bool visible);
     void FollowSite();
+    void FollowMnemonics(WPARAM isPosted);
 
     const ClassDescriptor& type_;
     ControlSite& site_;
@@ -137,6 +138,7 @@ class HostedControl final : public HostedWindow, public Drawable, private Surfac
     bool isVisible_ = false;  // as set by the container
     bool wasTold_ = false;    // whether it was notified that it is visible
     bool acceptsInput_ = true;
+    bool mnemonicsArePosted_ = false;
 };
 
 /// Creates a new control on another control or on a page; see EmbedFunction.

@@ -13,6 +13,7 @@ ProbeControl* last = nullptr;
 constexpr std::array members = {
     Property<&ProbeControl::pGetNumber, &ProbeControl::pLetNumber>(0, u"Number", u""),
     Property<&ProbeControl::pGetNumber, &ProbeControl::pLetNumber>(1, u"Other", u""),
+    Property<&ProbeControl::pGetFont, &ProbeControl::pSetFont>(2, u"Font", u""),
 };
 constexpr InterfaceTable interfaceTable = {u"_Probe", members};
 

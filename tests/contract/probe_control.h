@@ -32,6 +32,8 @@ class ProbeControl final : public Control {
 
     std::int32_t pGetNumber() { return number_; }
     void pLetNumber(std::int32_t number) { number_ = number; }
+    host::FontRef pGetFont() { return host_.surface.CurrentFont(); }
+    void pSetFont(host::FontRef font) { host_.surface.SetCurrentFont(std::move(font)); }
 
     const ControlHost& Host() const { return host_; }
     std::vector<std::string> Take() { return std::exchange(calls, {}); }

@@ -5,6 +5,7 @@
 #include "runtime/ole/module/identifiers.h"
 #include "runtime/ole/objects/event_call.h"
 #include "runtime/ole/values/result.h"
+#include "runtime/win32/keyboard.h"
 
 namespace lumenkit::ole {
 
@@ -196,6 +197,22 @@ void ControlCore::FocusChanged(bool inside) {
 
 bool ControlCore::AcceptsInput() {
     return ambient_.UserMode() && !ambient_.IsUIDead();
+}
+
+std::wstring ControlCore::GiveMnemonics() {
+    givenMnemonics_ = win32::MnemonicsInside(Started().Handle());
+    return *givenMnemonics_;
+}
+
+void ControlCore::MnemonicsMayHaveChanged() {
+    if (!givenMnemonics_ || *givenMnemonics_ == win32::MnemonicsInside(hosted_->Handle())) {
+        return;
+    }
+    GiveMnemonics();
+    const ComPtr<IOleControlSite> site = site_.As<IOleControlSite>();
+    if (site != nullptr) {
+        site->OnControlInfoChanged();
+    }
 }
 
 void ControlCore::FreezeEvents(bool freeze) {

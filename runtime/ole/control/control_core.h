@@ -1,6 +1,8 @@
 #pragma once
 
 #include <memory>
+#include <optional>
+#include <string>
 
 #include "frame/class_table.h"
 #include "runtime/ole/control/activation.h"
@@ -73,6 +75,8 @@ class ControlCore final : public win32::ControlSite,
     void SizeChanged(SIZE pixels) override;
 
     void FreezeEvents(bool freeze);
+    /// Returns the mnemonics for the container, which is told when they change.
+    std::wstring GiveMnemonics();
 
     // Requests from the control to its site.
     host::Container& GetContainer() override { return *this; }
@@ -81,6 +85,7 @@ class ControlCore final : public win32::ControlSite,
     void RequestSize(SIZE size) override;
     void PictureChanged() override;
     void FocusChanged(bool inside) override;
+    void MnemonicsMayHaveChanged() override;
     bool AcceptsInput() override;
 
     // Notifications from the control to its container.
@@ -117,6 +122,7 @@ class ControlCore final : public win32::ControlSite,
     bool isStarting_ = false;
     bool startedOnPurpose_ = false;
     int frozen_ = 0;
+    std::optional<std::wstring> givenMnemonics_;  // empty: the container has not asked
     std::unique_ptr<win32::HostedControl> hosted_;
 };
 

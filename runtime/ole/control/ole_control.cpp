@@ -63,7 +63,7 @@ HRESULT OleControl::GetControlInfo(CONTROLINFO* information) {
         if (Checked(information).cb != sizeof(CONTROLINFO)) {
             return E_INVALIDARG;
         }
-        std::vector<ACCEL> keys = AcceleratorsOf(win32::MnemonicsInside(core_.Started().Handle()));
+        std::vector<ACCEL> keys = AcceleratorsOf(core_.GiveMnemonics());
         table_.reset(keys.empty()
                          ? nullptr
                          : CreateAcceleratorTableW(keys.data(), static_cast<int>(keys.size())));

@@ -211,6 +211,10 @@ HRESULT Site::InPlaceSiteFace::OnPosRectChange(LPCRECT place) {
     return S_OK;
 }
 
+HRESULT Site::ControlSiteFace::OnControlInfoChanged() {
+    site_.Said("OnControlInfoChanged");
+    return S_OK;
+}
 HRESULT Site::ControlSiteFace::GetExtendedControl(IDispatch** extender) {
     *extender = site_.hasExtender ? ComPtr<IDispatch>(&site_.extender_).Detach() : nullptr;
     return site_.hasExtender ? S_OK : E_NOTIMPL;

@@ -122,7 +122,7 @@ class Site final : public IUnknown {
     class ControlSiteFace final : public ole::Facet<IOleControlSite> {
      public:
         explicit ControlSiteFace(Site& site) : Facet(site), site_(site) {}
-        HRESULT STDMETHODCALLTYPE OnControlInfoChanged() override { return S_OK; }
+        HRESULT STDMETHODCALLTYPE OnControlInfoChanged() override;
         HRESULT STDMETHODCALLTYPE LockInPlaceActive(BOOL) override { return S_OK; }
         HRESULT STDMETHODCALLTYPE GetExtendedControl(IDispatch** extender) override;
         HRESULT STDMETHODCALLTYPE TransformCoords(POINTL*, POINTF*, DWORD) override {
