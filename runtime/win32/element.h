@@ -41,8 +41,8 @@ class Element : public Window, public Drawable {
         DWORD style = 0;
         DWORD extendedStyle = 0;
     };
-    /// Throws std::logic_error for a parent of another runtime. Raises 7 if the platform cannot
-    /// create more windows.
+    /// Throws std::logic_error for a parent of another runtime. Raises 429 and 7 as
+    /// Window::Create does.
     Element(const Elements& elements, const Kind& kind, const host::Design& design,
             TextView text = {});
 

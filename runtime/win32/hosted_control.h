@@ -34,8 +34,8 @@ namespace lumenkit::win32 {
 class HostedControl final : public HostedWindow, public Drawable, private SurfaceOwner {
  public:
     /// Creates the control, `size` pixels large, border included, and runs UserControl_Initialize.
-    /// `type` must be a control; raises 429 for another class. Raises 7 if the platform cannot
-    /// create more windows. `life` is held while one of the control's windows answers a message.
+    /// `type` must be a control; raises 429 for another class. Raises 429 and 7 as
+    /// Window::Create does. `life` is held while one of the control's windows answers a message.
     /// Any other caller of the control must hold it.
     HostedControl(const Context& context, const ClassDescriptor& type, ControlSite& site, SIZE size,
                   Life* life = nullptr);

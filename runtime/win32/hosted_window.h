@@ -17,8 +17,8 @@ class HostedWindow : public Window, private AttachedWindow {
     bool IsAttached() const { return isAttached_ && Handle() != nullptr; }
 
  protected:
-    /// `size` is in pixels. `life` is null if nothing waits for the window. Raises 7 if the
-    /// platform cannot create more windows.
+    /// `size` is in pixels. `life` is null if nothing waits for the window. Raises 429
+    /// and 7 as Window::Create does.
     HostedWindow(HINSTANCE module, SIZE size, Life* life);
 
     LRESULT HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) override;

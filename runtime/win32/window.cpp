@@ -34,6 +34,20 @@ HWND Notifier(UINT message, WPARAM wParam, LPARAM lParam) {
     }
 }
 
+// Raises the error for a window that the platform did not create.
+[[noreturn]] void RaiseNoWindow() {
+    switch (GetLastError()) {
+        case ERROR_NOT_ENOUGH_MEMORY:
+        case ERROR_OUTOFMEMORY:
+        case ERROR_NO_SYSTEM_RESOURCES:
+        case ERROR_NO_MORE_USER_HANDLES:
+            Raise(ErrorNumber::OutOfMemory);
+        default:
+            throw RuntimeError(static_cast<std::int32_t>(ErrorNumber::CannotCreateObject),
+                               u"No window can be created; the program may have no display");
+    }
+}
+
 bool IsInput(UINT message) {
     return (message >= WM_KEYFIRST && message <= WM_KEYLAST) ||
            (message >= WM_MOUSEFIRST && message <= WM_MOUSELAST) || message == WM_CONTEXTMENU ||
@@ -85,13 +99,14 @@ void Window::Create(const WindowDesign& design) {
     gate_ = design.gate == nullptr && parent != nullptr ? parent->gate_ : design.gate;
     const std::wstring text = ToWide(design.text);
     const RECT& place = design.place;
+    SetLastError(ERROR_SUCCESS);
     handle_ =
         CreateWindowExW(design.extendedStyle,
                         design.className == nullptr ? OwnClass(design.module) : design.className,
                         text.c_str(), design.style, place.left, place.top, place.right - place.left,
                         place.bottom - place.top, design.parent, nullptr, design.module, nullptr);
     if (handle_ == nullptr) {
-        Raise(ErrorNumber::OutOfMemory);
+        RaiseNoWindow();
     }
     own_->emplace(handle_, this);
     former_ = reinterpret_cast<WNDPROC>(
@@ -186,10 +201,11 @@ struct ParkingWindow {
 
     void Create(HINSTANCE module) {
         // The desktop belongs to another process and need not be notified.
+        SetLastError(ERROR_SUCCESS);
         handle = CreateWindowExW(WS_EX_TOOLWINDOW | WS_EX_NOPARENTNOTIFY, L"STATIC", L"", WS_POPUP,
                                  0, 0, 1, 1, nullptr, nullptr, module, nullptr);
         if (handle == nullptr) {
-            Raise(ErrorNumber::OutOfMemory);
+            RaiseNoWindow();
         }
     }
 };

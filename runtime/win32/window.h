@@ -83,7 +83,8 @@ class Window {
     };
 
  protected:
-    /// Creates the window. Raises 7 if the platform refuses.
+    /// Creates the window. Raises 429 if the platform cannot create windows, and 7 if its memory or
+    /// its window handles are exhausted.
     void Create(const WindowDesign& design);
     /// Destroys the window. If the platform's window procedure is running in it, the window is only
     /// hidden and detached from the object; it is destroyed when the procedure has returned.
@@ -132,7 +133,7 @@ struct ParkingWindow;
 /// shows. Each thread has one parking window, as long as a share in it exists.
 class ParkingPlace {
  public:
-    /// Raises 7 if the platform cannot create more windows.
+    /// Raises 429 and 7 as Window::Create does.
     explicit ParkingPlace(HINSTANCE module);
     ~ParkingPlace();
     ParkingPlace(const ParkingPlace&) = delete;
