@@ -1,48 +1,34 @@
 #include "forms/block_keeper.h"
 
 #include <utility>
+#include <vector>
 
 #include "forms/form_bag.h"
 
 namespace lumenkit::forms {
 
-// Records the values that a control writes.
+// Records the values that a control writes, in their order.
 class BlockKeeper::Notes final : public host::PropertyBag {
  public:
+    struct Note {
+        Text name;
+        Value value;
+        Value defaultValue;
+    };
+
+    explicit Notes(const SaveControl& save) { save(*this); }
+
     Value ReadProperty(TextView /*name*/, const Value& defaultValue) override {
         return defaultValue;
     }
     void WriteProperty(TextView name, const Value& value, const Value& defaultValue) override {
-        held.insert_or_assign(Text(name), HeldAs(value, defaultValue));
+        notes_.push_back({Text(name), value, defaultValue});
     }
 
-    HeldByName held;
-};
-
-// Passes only changed values on to the bag of a block, and records each value that was written. A
-// control traps its errors, so a save that fails halfway throws nothing; the next save writes the
-// rest.
-class BlockKeeper::Changes final : public host::PropertyBag {
- public:
-    Changes(FormBag& bag, HeldByName& held) : bag_(bag), held_(held) {}
-
-    Value ReadProperty(TextView name, const Value& defaultValue) override {
-        return bag_.ReadProperty(name, defaultValue);
-    }
-    void WriteProperty(TextView name, const Value& value, const Value& defaultValue) override {
-        const auto before = held_.find(name);
-        Held now = HeldAs(value, defaultValue);
-        if (IsSame(now, before == held_.end() ? Held(Default()) : before->second)) {
-            bag_.Keep(name);
-        } else {
-            bag_.WriteProperty(name, value, defaultValue);
-            held_.insert_or_assign(Text(name), std::move(now));
-        }
-    }
+    const std::vector<Note>& All() const { return notes_; }
 
  private:
-    FormBag& bag_;
-    HeldByName& held_;
+    std::vector<Note> notes_;
 };
 
 BlockKeeper::Held BlockKeeper::HeldAs(const Value& value, const Value& defaultValue) {
@@ -73,15 +59,26 @@ bool BlockKeeper::IsSame(const Held& one, const Held& other) {
 
 BlockKeeper::BlockKeeper(const Document& document, Block& block, const SaveControl& save)
     : document_(document), block_(block) {
-    Notes notes;
-    save(notes);
-    held_ = std::move(notes.held);
+    const Notes notes(save);
+    for (const Notes::Note& note : notes.All()) {
+        held_.insert_or_assign(note.name, HeldAs(note.value, note.defaultValue));
+    }
 }
 
+// The block is changed only after the control has saved everything.
 void BlockKeeper::Update(const SaveControl& save) {
+    const Notes notes(save);
     FormBag bag(document_, block_, nullptr);
-    Changes changes(bag, held_);
-    save(changes);
+    for (const auto& [name, value, defaultValue] : notes.All()) {
+        const auto before = held_.find(name);
+        Held now = HeldAs(value, defaultValue);
+        if (IsSame(now, before == held_.end() ? Held(Default()) : before->second)) {
+            bag.Keep(name);
+        } else {
+            bag.WriteProperty(name, value, defaultValue);
+            held_.insert_or_assign(name, std::move(now));
+        }
+    }
 }
 
 }  // namespace lumenkit::forms

@@ -17,13 +17,13 @@ namespace lumenkit::forms {
 /// the block of an unchanged control keeps its bytes. Document and block must outlive the keeper.
 class BlockKeeper {
  public:
-    /// Makes the control write all its properties to a bag.
+    /// Makes the control write all its properties to a bag. Throws if the control cannot.
     using SaveControl = std::function<void(host::PropertyBag&)>;
 
     /// Records the current values of the control, which must be those of the block.
     BlockKeeper(const Document& document, Block& block, const SaveControl& save);
 
-    /// Writes the values that changed since the last time.
+    /// Writes the values that changed since the last time. Changes nothing if `save` throws.
     void Update(const SaveControl& save);
 
  private:
@@ -34,7 +34,6 @@ class BlockKeeper {
     using Held = std::variant<Default, Value, FontDescription>;
     using HeldByName = std::map<Text, Held, std::less<>>;
     class Notes;
-    class Changes;
 
     static Held HeldAs(const Value& value, const Value& defaultValue);
     static bool IsSame(const Held& one, const Held& other);

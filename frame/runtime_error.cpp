@@ -38,6 +38,7 @@ constexpr std::array knownErrors = {
     KnownError{ErrorNumber::ArgumentNotOptional, u"Argument not optional"},
     KnownError{ErrorNumber::WrongNumberOfArguments,
                u"Wrong number of arguments or invalid property assignment"},
+    KnownError{ErrorNumber::SavingFailed, u"Error saving to file"},
 };
 
 }  // namespace

@@ -32,6 +32,7 @@ enum class ErrorNumber : std::int32_t {
     NoSuchMember = 438,
     ArgumentNotOptional = 449,
     WrongNumberOfArguments = 450,
+    SavingFailed = 31036,
 };
 
 /// Returns the runtime's text for an error number, or "Application-defined or object-defined error"

@@ -52,4 +52,12 @@ FontRef ToFont(const Value& value) {
     return font;
 }
 
+FontRef ToAssignedFont(const Value& value) {
+    FontRef font = ToFont(value);
+    if (font == nullptr) {
+        Raise(ErrorNumber::TypeMismatch);
+    }
+    return font;
+}
+
 }  // namespace lumenkit::host

@@ -53,6 +53,10 @@ using FontRef = std::shared_ptr<Font>;
 /// font.
 FontRef ToFont(const Value& value);
 
+/// Does the same for a value that is assigned to a property, which needs a font: Nothing raises 13
+/// too, as a number does.
+FontRef ToAssignedFont(const Value& value);
+
 }  // namespace lumenkit::host
 
 namespace lumenkit {
@@ -60,7 +64,7 @@ namespace lumenkit {
 template <>
 struct Automation<host::FontRef> {
     static constexpr ValueType type = ValueType::Font;
-    static host::FontRef From(const Value& value) { return host::ToFont(value); }
+    static host::FontRef From(const Value& value) { return host::ToAssignedFont(value); }
     static Value To(host::FontRef font) { return ObjectRef(std::move(font)); }
 };
 

@@ -52,6 +52,7 @@ class ClassLibraryWriter {
                  .Add(Uuid(classes_.uniqueIdentifier))
                  .Add(Version(classes_.majorVersion, classes_.minorVersion))
                  .Add(Locale(classes_.locale))
+                 .Add("control")
                  .AddHelp(classes_.help)
                  .Written());
         Line("library " + Name(classes_.libraryName) + " {");

@@ -19,13 +19,14 @@ HostedControl::HostedControl(Form& form, const ClassDescriptor& type, const Plac
       ambient_(form, placing.userMode),
       extender_(*this),
       constituents_(form, &surface_, placing.userMode, EmbedControl),
+      reports_(form.GetInteraction()),
       host_{.surface = surface_,
             .container = site_,
             .ambient = ambient_,
             .extender = extender_,
             .screen = form.GetScreen(),
             .application = form.GetApplication(),
-            .interaction = form.GetInteraction(),
+            .interaction = reports_,
             .constituents = constituents_} {
     if (type.createControl == nullptr) {
         throw std::logic_error("the class is no control");
@@ -99,7 +100,7 @@ PropertyBag HostedControl::Save() {
 
 void HostedControl::Save(host::PropertyBag& bag) {
     CountedBag counted(form_.Faults(), bag);
-    control_->UserControl_WriteProperties(counted);
+    shared::SaveControl(*control_, counted, reports_);
 }
 
 const DisplayList& HostedControl::Paint() {

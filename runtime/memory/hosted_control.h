@@ -12,6 +12,7 @@
 #include "runtime/memory/property_bag.h"
 #include "runtime/memory/surface.h"
 #include "runtime/shared/control_extender.h"
+#include "runtime/shared/saving.h"
 
 namespace lumenkit::memory {
 
@@ -67,7 +68,8 @@ class HostedControl {
     void InitProperties();
     void ReadProperties(host::PropertyBag& bag);
 
-    /// Run UserControl_WriteProperties with a new bag / with `bag`.
+    /// Run UserControl_WriteProperties with a new bag / with `bag`. Raise the error of a save that
+    /// failed, which the control has reported before; see shared::SaveControl.
     PropertyBag Save();
     void Save(host::PropertyBag& bag);
     /// Erases the surface and requests a repaint, as when a window uncovers the control. Does
@@ -118,6 +120,7 @@ class HostedControl {
     Ambient ambient_;
     Extender extender_;
     Constituents constituents_;
+    shared::ReportCounter reports_;
     ControlHost host_;
     std::unique_ptr<Control> control_;
 };

@@ -22,7 +22,8 @@ HRESULT VBDllCanUnloadNow(const ClassTable& classes) noexcept;
 /// of these entries again.
 HRESULT VBDllRegisterServer(const ClassTable& classes) noexcept;
 
-/// Removes the entries of VBDllRegisterServer. Missing entries are not an error.
+/// Removes the entries of VBDllRegisterServer that name this module. Entries of another copy or
+/// bitness, and those that it needs too, are kept. Missing entries are not an error.
 HRESULT VBDllUnRegisterServer(const ClassTable& classes) noexcept;
 
 /// Called by the module's entry point when the module is loaded and unloaded.

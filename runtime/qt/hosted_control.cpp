@@ -32,7 +32,7 @@ HostedControl::HostedControl(const Context& context, const ClassDescriptor& type
             .extender = extender_,
             .screen = screen_,
             .application = context.application,
-            .interaction = interaction_,
+            .interaction = reports_,
             .constituents = constituents_} {
     if (type.createControl == nullptr) {
         Raise(ErrorNumber::CannotCreateObject);
@@ -82,7 +82,7 @@ void HostedControl::FinishStart() {
 
 void HostedControl::Save(host::PropertyBag& bag) {
     const Notifying notifying;
-    control_->UserControl_WriteProperties(bag);
+    shared::SaveControl(*control_, bag, reports_);
 }
 
 // ---- Screen readers

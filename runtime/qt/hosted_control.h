@@ -14,6 +14,7 @@
 #include "runtime/qt/screen.h"
 #include "runtime/qt/surface.h"
 #include "runtime/shared/control_extender.h"
+#include "runtime/shared/saving.h"
 
 namespace lumenkit::qt {
 
@@ -49,6 +50,8 @@ class HostedControl final : public QWidget, private SurfaceOwner {
     /// Does the same for a saved control, with UserControl_ReadProperties. Errors that the bag
     /// raises reach the caller.
     void StartSaved(host::PropertyBag& bag);
+    /// Raises the error of a save that failed, which the control has reported before; see
+    /// shared::SaveControl.
     void Save(host::PropertyBag& bag);
 
     const ClassDescriptor& Type() const { return type_; }
@@ -119,6 +122,7 @@ class HostedControl final : public QWidget, private SurfaceOwner {
     Surface surface_;
     Screen screen_;
     DeferringInteraction interaction_;
+    shared::ReportCounter reports_{interaction_};
     shared::ControlExtender<HostedControl> extender_;
     Constituents constituents_;
     ControlHost host_;

@@ -37,7 +37,7 @@ class BasicTextConstituent : public BasicConstituent<Interface>, private FontLis
     BasicTextConstituent& operator=(const BasicTextConstituent&) = delete;
 
     host::FontRef CurrentFont() const override { return font_.Get(); }
-    /// Raises 380 for a font of another runtime.
+    /// Raises 13 for a font of another runtime.
     void SetCurrentFont(host::FontRef font) override {
         const HFONT before = FontHandle();
         const std::shared_ptr<Font> former = font_.Get();  // keeps the handle
@@ -80,6 +80,7 @@ class BasicCaptioned : public BasicTextConstituent<Interface> {
         }
         caption_ = caption;
         ShowCaption();
+        this->TellThatMnemonicsMayChange();
     }
 
  protected:

@@ -22,6 +22,10 @@ class ControlSite {
     virtual void PictureChanged() = 0;
     /// Called when the keyboard focus entered one of the control's windows or left all of them.
     virtual void FocusChanged(bool inside) = 0;
+    /// Called some time after the mnemonics inside the control may have changed.
+    virtual void MnemonicsMayHaveChanged() {}
+    /// Whether the user may use the control. Otherwise it receives neither mouse nor keyboard.
+    virtual bool AcceptsInput() { return GetAmbient().UserMode(); }
 };
 
 }  // namespace lumenkit::win32

@@ -130,6 +130,9 @@ void Element::BecomeUsable(bool usable, Change&& change) {
         return;
     }
     change();
+    if (!watch.IsGone()) {
+        TellThatMnemonicsMayChange();
+    }
     if (usable && !watch.IsGone()) {
         TakeFocusBack();
     }
@@ -172,6 +175,10 @@ void Element::TakeFocusBack() {
     } else {
         FocusFirst(owner_, false);
     }
+}
+
+void Element::TellThatMnemonicsMayChange() const {
+    SendMessageW(owner_, mnemonicsMessage, 0, 0);
 }
 
 void Element::RepaintNow() const {

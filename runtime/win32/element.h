@@ -50,8 +50,8 @@ class Element : public Window, public Drawable, public Described {
         DWORD style = 0;
         DWORD extendedStyle = 0;
     };
-    /// Throws std::logic_error for a parent of another runtime. Raises 7 if the platform cannot
-    /// create more windows.
+    /// Throws std::logic_error for a parent of another runtime. Raises 429 and 7 as
+    /// Window::Create does.
     Element(const Elements& elements, const Kind& kind, const host::Design& design,
             TextView text = {});
 
@@ -69,6 +69,7 @@ class Element : public Window, public Drawable, public Described {
     /// Brings the state to the window and to the elements inside.
     void ShowEnabled();
     void RepaintNow() const;
+    void TellThatMnemonicsMayChange() const;
     /// Invalidates the window for a later repaint.
     void Invalidate() const;
 

@@ -60,7 +60,7 @@ void HeldFont::Assign(const host::FontRef& font) {
     }
     auto own = std::dynamic_pointer_cast<Font>(font);
     if (own == nullptr) {
-        Raise(ErrorNumber::InvalidPropertyValue);
+        Raise(ErrorNumber::TypeMismatch);
     }
     own->Add(listener_);
     std::exchange(font_, std::move(own))->Remove(listener_);

@@ -64,7 +64,7 @@ class HeldFont {
     HeldFont(const HeldFont&) = delete;
     HeldFont& operator=(const HeldFont&) = delete;
 
-    /// Holds another font. Raises 91 for a null font and 380 for a font of another runtime. Does
+    /// Holds another font. Raises 91 for a null font and 13 for a font of another runtime. Does
     /// not call the listener.
     void Assign(const host::FontRef& font);
     const std::shared_ptr<Font>& Get() const { return font_; }

@@ -30,13 +30,14 @@ HostedControl::HostedControl(const Context& context, const ClassDescriptor& type
       resolution_(context.resolution),
       surface_(*this, context.fonts.NewFont(firstFont, firstFontSize), resolution_),
       constituents_({context, *this, site.GetAmbient().UserMode()}, &EmbedControl),
+      reports_(context.interaction),
       host_{.surface = surface_,
             .container = site.GetContainer(),
             .ambient = site.GetAmbient(),
             .extender = site.GetExtender(),
             .screen = screen_,
             .application = context.application,
-            .interaction = context.interaction,
+            .interaction = reports_,
             .constituents = constituents_} {
     if (type.createControl == nullptr) {
         Raise(ErrorNumber::CannotCreateObject);
@@ -57,11 +58,13 @@ HostedControl::~HostedControl() {
 // ---- Life
 
 void HostedControl::StartNew() {
+    FollowSite();
     Tell(*control_, &Control::UserControl_InitProperties);
     FinishStart();
 }
 
 void HostedControl::StartSaved(host::PropertyBag& bag) {
+    FollowSite();
     control_->UserControl_ReadProperties(bag);
     FinishStart();
 }
@@ -73,11 +76,20 @@ void HostedControl::FinishStart() {
 }
 
 void HostedControl::Save(host::PropertyBag& bag) {
-    control_->UserControl_WriteProperties(bag);
+    shared::SaveControl(*control_, bag, reports_);
 }
 
 void HostedControl::AmbientChanged() {
+    FollowSite();
     surface_.PictureOutdated();
+}
+
+void HostedControl::FollowSite() {
+    const bool accepts = site_.AcceptsInput();
+    if (accepts != acceptsInput_) {
+        acceptsInput_ = accepts;
+        AcceptInput(accepts);
+    }
 }
 
 // ---- Placement
@@ -118,6 +130,7 @@ void HostedControl::BorderChanged() {
 }
 
 void HostedControl::Attach(HWND parent, const RECT& place) {
+    FollowSite();
     if (MoveInto(parent, place)) {
         SetVisible(true);
     }
@@ -173,8 +186,14 @@ bool HostedControl::HasFocus() const {
     return HasFocusInside(Handle());
 }
 
+void HostedControl::Focus(bool last) {
+    if (acceptsInput_) {
+        focus_.Take(last);
+    }
+}
+
 bool HostedControl::TranslateKey(const MSG& message) {
-    return TranslateKeyInside(Handle(), message);
+    return acceptsInput_ && TranslateKeyInside(Handle(), message);
 }
 
 LRESULT HostedControl::HandleMouse(UINT message, WPARAM wParam, LPARAM lParam) {
@@ -182,6 +201,16 @@ LRESULT HostedControl::HandleMouse(UINT message, WPARAM wParam, LPARAM lParam) {
         mouse_.Handle(*control_, message, wParam, lParam);
     }
     return 0;
+}
+
+// One assignment may change many captions. The site is told once, when the control is idle again.
+void HostedControl::FollowMnemonics(WPARAM isPosted) {
+    if (isPosted != 0) {
+        mnemonicsArePosted_ = false;
+        site_.MnemonicsMayHaveChanged();
+    } else if (!mnemonicsArePosted_) {
+        mnemonicsArePosted_ = PostMessageW(Handle(), mnemonicsMessage, 1, 0) != FALSE;
+    }
 }
 
 // ---- The window
@@ -226,6 +255,9 @@ LRESULT HostedControl::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam)
         case WM_GETDLGCODE:
             // Letters for a disabled constituent are no mnemonics of other controls.
             return focus_.IsOutOfUse() ? DLGC_WANTCHARS : 0;
+        case mnemonicsMessage:
+            FollowMnemonics(wParam);
+            return 0;
         case WM_CAPTURECHANGED:
             mouse_.CaptureChanged();
             return 0;

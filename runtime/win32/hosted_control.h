@@ -5,6 +5,7 @@
 
 #include "frame/class_table.h"
 #include "frame/control.h"
+#include "runtime/shared/saving.h"
 #include "runtime/win32/constituents.h"
 #include "runtime/win32/control_focus.h"
 #include "runtime/win32/control_mouse.h"
@@ -22,19 +23,20 @@ namespace lumenkit::win32 {
 /// attached.
 ///
 /// The control receives the keyboard while one of its windows has the focus, and the mouse while
-/// one of them is under the pointer. Screen readers read the text of the window, which is the text
-/// that the control draws, without markup.
+/// one of them is under the pointer, as long as its site accepts input. Screen readers read the
+/// text of the window, which is the text that the control draws, without markup.
 ///
 /// The control must not be destroyed while one of its procedures runs, that is before an event that
 /// it raised or a call of its site has returned. Where that may happen, a Life defers the
-/// destruction. The container may destroy the control's window at any time.
+/// destruction. The container may destroy the window that the control is in at any time, and even
+/// the control's own window, which cannot be attached again then.
 ///
 /// Used only on the thread that created it. Errors of the control's own procedures do not leave it.
 class HostedControl final : public HostedWindow, public Drawable, private SurfaceOwner {
  public:
     /// Creates the control, `size` pixels large, border included, and runs UserControl_Initialize.
-    /// `type` must be a control; raises 429 for another class. Raises 7 if the platform cannot
-    /// create more windows. `life` is held while one of the control's windows answers a message.
+    /// `type` must be a control; raises 429 for another class. Raises 429 and 7 as
+    /// Window::Create does. `life` is held while one of the control's windows answers a message.
     /// Any other caller of the control must hold it.
     HostedControl(const Context& context, const ClassDescriptor& type, ControlSite& site, SIZE size,
                   Life* life = nullptr);
@@ -48,6 +50,8 @@ class HostedControl final : public HostedWindow, public Drawable, private Surfac
     /// raises reach the caller.
     void StartSaved(host::PropertyBag& bag);
     bool IsStarted() const { return isStarted_; }
+    /// Raises the error of a save that failed, which the control has reported before; see
+    /// shared::SaveControl.
     void Save(host::PropertyBag& bag);
 
     Control& GetControl() { return *control_; }
@@ -68,7 +72,8 @@ class HostedControl final : public HostedWindow, public Drawable, private Surfac
     void Place(const RECT& place, const RECT& clip);
     /// Hides or shows the attached window. Showing a hidden window runs UserControl_Show.
     void SetVisible(bool visible);
-    /// Moves the window back to the hidden parking window.
+    /// Moves the window back to the hidden parking window. Happens without a call before the
+    /// container's window is destroyed.
     void Detach();
 
     /// Draws the control, its border and constituents in their current state, scaled into `place`
@@ -81,7 +86,7 @@ class HostedControl final : public HostedWindow, public Drawable, private Surfac
     // Keyboard.
     /// Gives the focus to the first (or last) constituent that takes it, otherwise to the control
     /// itself.
-    void Focus(bool last = false) { focus_.Take(last); }
+    void Focus(bool last = false);
     bool HasFocus() const;
     /// Returns whether the control used the message: Tab between its constituents, arrows, and
     /// other keys that its constituents need although a container would use them itself. Call it
@@ -94,6 +99,9 @@ class HostedControl final : public HostedWindow, public Drawable, private Surfac
 
     /// Called when the ambient properties of the container changed.
     void AmbientChanged();
+    /// Whether the user may use the control, as its site said last: at the start, when the control
+    /// was attached and when the ambient properties changed.
+    bool AcceptsInput() const { return acceptsInput_; }
 
  private:
     // SurfaceOwner
@@ -107,6 +115,7 @@ class HostedControl final : public HostedWindow, public Drawable, private Surfac
 
     // Window
     LRESULT HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
+    void LeaveContainer() override { Detach(); }
     LRESULT FollowWindow(WPARAM wParam, LPARAM lParam);
     LRESULT HandleMouse(UINT message, WPARAM wParam, LPARAM lParam);
     LRESULT GiveText(std::size_t room, wchar_t* target);
@@ -115,6 +124,8 @@ class HostedControl final : public HostedWindow, public Drawable, private Surfac
     void FinishStart();
     void AdoptSize(SIZE size);
     void BecomeVisible(bool visible);
+    void FollowSite();
+    void FollowMnemonics(WPARAM isPosted);
 
     const ClassDescriptor& type_;
     ControlSite& site_;
@@ -126,12 +137,15 @@ class HostedControl final : public HostedWindow, public Drawable, private Surfac
     ControlFocus focus_{*this, surface_, site_};
     ControlMouse mouse_{*this, surface_, focus_, resolution_};
     Constituents constituents_;
+    shared::ReportCounter reports_;
     ControlHost host_;
     std::unique_ptr<Control> control_;
     int requests_ = 0;
     bool isStarted_ = false;
     bool isVisible_ = false;  // as set by the container
     bool wasTold_ = false;    // whether it was notified that it is visible
+    bool acceptsInput_ = true;
+    bool mnemonicsArePosted_ = false;
 };
 
 /// Creates a new control on another control or on a page; see EmbedFunction.

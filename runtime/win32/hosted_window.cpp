@@ -20,7 +20,12 @@ HostedWindow::HostedWindow(HINSTANCE module, SIZE size, Life* life) : parking_(m
             .style = WS_CHILD | WS_CLIPCHILDREN | WS_CLIPSIBLINGS,
             .place = {0, 0, size.cx, size.cy},
             .parent = parking_.Handle(),
-            .life = life});
+            .life = life,
+            .gate = &gate_});
+}
+
+HostedWindow::~HostedWindow() {
+    attached_->Remove(*this);
 }
 
 LRESULT HostedWindow::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
@@ -62,6 +67,7 @@ bool HostedWindow::MoveInto(HWND parent, const RECT& place) {
         return false;
     }
     isAttached_ = true;
+    attached_->Add(*this);
     if (std::exchange(isClipped_, false)) {
         SetWindowRgn(Handle(), nullptr, FALSE);
     }
@@ -125,6 +131,7 @@ bool HostedWindow::Show(bool visible) {
 }
 
 void HostedWindow::Park() {
+    attached_->Remove(*this);
     if (!IsAttached()) {
         return;
     }
@@ -133,10 +140,35 @@ void HostedWindow::Park() {
     isAttached_ = false;
 }
 
+// A window whose parent belongs to this library stays in it and leaves together with it.
+void HostedWindow::WindowIsDestroyed(HWND window) {
+    if (IsAttached() && IsChild(window, Handle()) != FALSE &&
+        Of(GetAncestor(Handle(), GA_PARENT)) == nullptr) {
+        LeaveContainer();
+    }
+}
+
 void HostedWindow::GiveFocusAway() {
     if (IsAttached() && HasFocusInside(Handle())) {
         SetFocus(GetAncestor(Handle(), GA_PARENT));
     }
+}
+
+// The platform passes no input to a disabled window and to the windows in it, which do not look
+// disabled. A click goes to the container.
+void HostedWindow::AcceptInput(bool accepts) {
+    gate_.isOpen = accepts;
+    if (Handle() == nullptr) {
+        return;
+    }
+    if (!accepts) {
+        const HWND capture = GetCapture();
+        if (capture != nullptr && (capture == Handle() || IsChild(Handle(), capture) != FALSE)) {
+            ReleaseCapture();
+        }
+        GiveFocusAway();
+    }
+    EnableWindow(Handle(), accepts ? TRUE : FALSE);
 }
 
 SIZE HostedWindow::WindowSize() const {

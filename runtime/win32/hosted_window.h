@@ -1,19 +1,25 @@
 #pragma once
 
 #include "runtime/win32/accessibility.h"
+#include "runtime/win32/attached_windows.h"
 #include "runtime/win32/window.h"
 
 namespace lumenkit::win32 {
 
 /// The window of a control or page. It is a child of the parking window until a container takes it.
-/// All methods do nothing once the window is destroyed.
-class HostedWindow : public Window, public Described {
+/// If the container's window is destroyed, it returns to the parking window and can be attached
+/// again. All methods do nothing once the window itself is destroyed.
+class HostedWindow : public Window, public Described, private AttachedWindow {
  public:
+    ~HostedWindow() override;
+    HostedWindow(const HostedWindow&) = delete;
+    HostedWindow& operator=(const HostedWindow&) = delete;
+
     bool IsAttached() const { return isAttached_ && Handle() != nullptr; }
 
  protected:
-    /// `size` is in pixels. `life` is null if nothing waits for the window. Raises 7 if the
-    /// platform cannot create more windows.
+    /// `size` is in pixels. `life` is null if nothing waits for the window. Raises 429
+    /// and 7 as Window::Create does.
     HostedWindow(HINSTANCE module, SIZE size, Life* life);
 
     LRESULT HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
@@ -31,8 +37,13 @@ class HostedWindow : public Window, public Described {
     /// Moves the window back to the parking window, hidden.
     void Park();
     SIZE WindowSize() const;
+    /// Whether the window and the windows in it receive the user's input; initially they do.
+    void AcceptInput(bool accepts);
+    /// Called before the container's window is destroyed.
+    virtual void LeaveContainer() { Park(); }
 
  private:
+    void WindowIsDestroyed(HWND window) override;
     /// Passes a change of the system settings on to the child windows and repaints the whole
     /// window.
     void SettingsChanged(UINT message, WPARAM wParam, LPARAM lParam);
@@ -42,7 +53,9 @@ class HostedWindow : public Window, public Described {
     /// Moves the focus to the container, so that the focus does not get lost.
     void GiveFocusAway();
 
+    InputGate gate_;
     ParkingPlace parking_;
+    ThreadShared<AttachedWindows> attached_;
     bool isAttached_ = false;
     bool isClipped_ = false;
 };

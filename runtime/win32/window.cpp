@@ -34,6 +34,27 @@ HWND Notifier(UINT message, WPARAM wParam, LPARAM lParam) {
     }
 }
 
+// Raises the error for a window that the platform did not create.
+[[noreturn]] void RaiseNoWindow() {
+    switch (GetLastError()) {
+        case ERROR_NOT_ENOUGH_MEMORY:
+        case ERROR_OUTOFMEMORY:
+        case ERROR_NO_SYSTEM_RESOURCES:
+        case ERROR_NO_MORE_USER_HANDLES:
+            Raise(ErrorNumber::OutOfMemory);
+        default:
+            throw RuntimeError(static_cast<std::int32_t>(ErrorNumber::CannotCreateObject),
+                               u"No window can be created; the program may have no display");
+    }
+}
+
+bool IsInput(UINT message) {
+    return (message >= WM_KEYFIRST && message <= WM_KEYLAST) ||
+           (message >= WM_MOUSEFIRST && message <= WM_MOUSELAST) || message == WM_CONTEXTMENU ||
+           message == WM_IME_STARTCOMPOSITION || message == WM_IME_COMPOSITION ||
+           message == WM_IME_CHAR;
+}
+
 }  // namespace
 
 Window::~Window() {
@@ -75,15 +96,17 @@ void RemoveWindowClass(HINSTANCE module) {
 void Window::Create(const WindowDesign& design) {
     const Window* const parent = Of(design.parent);
     life_ = design.life == nullptr && parent != nullptr ? parent->life_ : design.life;
+    gate_ = design.gate == nullptr && parent != nullptr ? parent->gate_ : design.gate;
     const std::wstring text = ToWide(design.text);
     const RECT& place = design.place;
+    SetLastError(ERROR_SUCCESS);
     handle_ =
         CreateWindowExW(design.extendedStyle,
                         design.className == nullptr ? OwnClass(design.module) : design.className,
                         text.c_str(), design.style, place.left, place.top, place.right - place.left,
                         place.bottom - place.top, design.parent, nullptr, design.module, nullptr);
     if (handle_ == nullptr) {
-        Raise(ErrorNumber::OutOfMemory);
+        RaiseNoWindow();
     }
     own_->emplace(handle_, this);
     former_ = reinterpret_cast<WNDPROC>(
@@ -133,6 +156,9 @@ LRESULT CALLBACK Window::Procedure(HWND handle, UINT message, WPARAM wParam, LPA
     if (window == nullptr) {
         return DefWindowProcW(handle, message, wParam, lParam);
     }
+    if (window->gate_ != nullptr && !window->gate_->isOpen && IsInput(message)) {
+        return 0;
+    }
     const Life::Hold hold(window->life_);
     if (message != WM_NCDESTROY) {
         return window->Answer(message, wParam, lParam);
@@ -175,10 +201,11 @@ struct ParkingWindow {
 
     void Create(HINSTANCE module) {
         // The desktop belongs to another process and need not be notified.
+        SetLastError(ERROR_SUCCESS);
         handle = CreateWindowExW(WS_EX_TOOLWINDOW | WS_EX_NOPARENTNOTIFY, L"STATIC", L"", WS_POPUP,
                                  0, 0, 1, 1, nullptr, nullptr, module, nullptr);
         if (handle == nullptr) {
-            Raise(ErrorNumber::OutOfMemory);
+            RaiseNoWindow();
         }
     }
 };

@@ -10,6 +10,11 @@
 
 namespace lumenkit::win32 {
 
+/// Whether the windows of one control or page receive the user's input.
+struct InputGate {
+    bool isOpen = true;
+};
+
 struct WindowDesign {
     HINSTANCE module = nullptr;
     /// Null: the window class of this library. Otherwise a class of the platform ("EDIT"), whose
@@ -23,6 +28,9 @@ struct WindowDesign {
     /// The Life of the object that owns the window, held while the window answers a message. Null:
     /// the Life of the parent, if the parent is a window of this library.
     Life* life = nullptr;
+    /// The gate for mouse and keyboard messages, which a closed gate drops. Null: the gate of the
+    /// parent, if the parent is a window of this library.
+    const InputGate* gate = nullptr;
 };
 
 class Window;
@@ -75,7 +83,8 @@ class Window {
     };
 
  protected:
-    /// Creates the window. Raises 7 if the platform refuses.
+    /// Creates the window. Raises 429 if the platform cannot create windows, and 7 if its memory or
+    /// its window handles are exhausted.
     void Create(const WindowDesign& design);
     /// Destroys the window. If the platform's window procedure is running in it, the window is only
     /// hidden and detached from the object; it is destroyed when the procedure has returned.
@@ -107,7 +116,8 @@ class Window {
 
     ThreadShared<OwnWindows> own_;
     HWND handle_ = nullptr;
-    Life* life_ = nullptr;      // null: nothing waits for this window
+    Life* life_ = nullptr;  // null: nothing waits for this window
+    const InputGate* gate_ = nullptr;
     WNDPROC former_ = nullptr;  // the window procedure of the platform's class
     int defaultCalls_ = 0;      // calls of former_ that have not returned
     Watch* watches_ = nullptr;  // the innermost
@@ -123,7 +133,7 @@ struct ParkingWindow;
 /// shows. Each thread has one parking window, as long as a share in it exists.
 class ParkingPlace {
  public:
-    /// Raises 7 if the platform cannot create more windows.
+    /// Raises 429 and 7 as Window::Create does.
     explicit ParkingPlace(HINSTANCE module);
     ~ParkingPlace();
     ParkingPlace(const ParkingPlace&) = delete;

@@ -1,4 +1,7 @@
+#include <array>
+
 #include "tests/contract/contract_test.h"
+#include "tests/unit/frame/plain_font.h"
 
 namespace lumenkit::contract {
 namespace {
@@ -74,6 +77,28 @@ TEST_P(FontContract, AFontIsSharedByAllWhoHoldIt) {
     box->CurrentFont()->SetSize(36);
     EXPECT_EQ(Surface().CurrentFont()->Size(), 36);
     EXPECT_GT(Surface().TextWidth(u"measured"), before);
+}
+
+TEST_P(FontContract, AFontOfAnotherRuntimeIsATypeMismatch) {
+    const auto foreign = std::make_shared<PlainFont>();
+    host::TextBoxEvents events;
+    const auto box = Parts().AddTextBox({{.name = u"T"}}, events);
+    const auto frame = Parts().AddFrame({{.name = u"F"}});
+    EXPECT_TRUE(Raises(ErrorNumber::TypeMismatch, [&] { Surface().SetCurrentFont(foreign); }));
+    EXPECT_TRUE(Raises(ErrorNumber::TypeMismatch, [&] { box->SetCurrentFont(foreign); }));
+    EXPECT_TRUE(Raises(ErrorNumber::TypeMismatch, [&] { frame->SetCurrentFont(foreign); }));
+}
+
+TEST_P(FontContract, NothingIsRefusedWhereAFontIsAssignedAsANumberIs) {
+    Object& probe = Probe().Automation();
+    const ObjectRef before = ToObject(probe.Get(u"Font"));
+    for (const Value& value : {Value(ObjectRef()), Value(std::int32_t{5}), Value(Empty{})}) {
+        std::array assigned = {value};
+        EXPECT_TRUE(Raises(ErrorNumber::TypeMismatch, [&] {
+            probe.Invoke(*probe.FindMember(u"Font"), InvokeKind::Set, assigned);
+        }));
+    }
+    EXPECT_EQ(ToObject(probe.Get(u"Font")), before);
 }
 
 TEST_P(FontContract, EachCallerGetsAnAmbientFontOfItsOwn) {

@@ -36,6 +36,16 @@ TEST_P(LifecycleContract, ASavedControlReadsWhatItWrote) {
     EXPECT_EQ(Probe().pGetNumber(), 12345);
 }
 
+TEST_P(LifecycleContract, ASaveInWhichTheControlReportsAnErrorFails) {
+    const auto bag = runtime_->NewBag();
+    Probe().reportsErrors = true;
+    EXPECT_ANY_THROW(runtime_->Save(*bag));
+    Probe().reportsErrors = false;
+    Probe().pLetNumber(7);
+    EXPECT_NO_THROW(runtime_->Save(*bag));
+    EXPECT_EQ(ToLong(bag->ReadProperty(u"Number", std::int32_t{0})), 7);
+}
+
 TEST_P(LifecycleContract, TheControlIsToldToResize) {
     Probe().Take();
     runtime_->Resize(20 * Pixel(), 10 * Pixel());

@@ -13,6 +13,7 @@
 #include "tests/ole/container/bag.h"
 #include "tests/ole/container/sinks.h"
 #include "tests/ole/container/site.h"
+#include "tests/unit/ole/message_boxes.h"
 
 namespace lumenkit::contract {
 namespace {
@@ -27,6 +28,7 @@ class ComBag final : public host::PropertyBag {
     }
     void WriteProperty(TextView name, const Value& value, const Value& defaultValue) override {
         face_.WriteProperty(name, value, defaultValue);
+        face_.Deliver();
     }
     IPropertyBag* Get() { return &bag_; }
 
@@ -156,6 +158,7 @@ class OleRuntime final : public WindowsUser {
     }
 
     const ClassTable& classes_;
+    ole::MessageBoxes boxes_;
     container::Form form_;
     container::CallLog changes_;
     container::PropertySink properties_{changes_};

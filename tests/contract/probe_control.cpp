@@ -13,6 +13,7 @@ ProbeControl* last = nullptr;
 constexpr std::array members = {
     Property<&ProbeControl::pGetNumber, &ProbeControl::pLetNumber>(0, u"Number", u""),
     Property<&ProbeControl::pGetNumber, &ProbeControl::pLetNumber>(1, u"Other", u""),
+    Property<&ProbeControl::pGetFont, &ProbeControl::pSetFont>(2, u"Font", u""),
 };
 constexpr InterfaceTable interfaceTable = {u"_Probe", members};
 
@@ -48,6 +49,10 @@ void ProbeControl::UserControl_ReadProperties(host::PropertyBag& bag) {
 
 void ProbeControl::UserControl_WriteProperties(host::PropertyBag& bag) {
     calls.emplace_back("WriteProperties");
+    if (reportsErrors) {
+        host_.interaction.MsgBox(u"an error", host::MessageStyle::Critical, u"LUMENKIT ERROR");
+        return;
+    }
     bag.WriteProperty(u"Number", number_, std::int32_t{0});
 }
 

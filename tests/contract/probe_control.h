@@ -23,7 +23,7 @@ class ProbeControl final : public Control {
     void UserControl_InitProperties() override { calls.emplace_back("InitProperties"); }
     /// Reads "Number".
     void UserControl_ReadProperties(host::PropertyBag& bag) override;
-    /// Writes "Number", whose default is 0.
+    /// Writes "Number", whose default is 0, or reports an error instead.
     void UserControl_WriteProperties(host::PropertyBag& bag) override;
     void UserControl_Resize() override;
     void UserControl_Show() override { calls.emplace_back("Show"); }
@@ -32,11 +32,14 @@ class ProbeControl final : public Control {
 
     std::int32_t pGetNumber() { return number_; }
     void pLetNumber(std::int32_t number) { number_ = number; }
+    host::FontRef pGetFont() { return host_.surface.CurrentFont(); }
+    void pSetFont(host::FontRef font) { host_.surface.SetCurrentFont(std::move(font)); }
 
     const ControlHost& Host() const { return host_; }
     std::vector<std::string> Take() { return std::exchange(calls, {}); }
 
     std::vector<std::string> calls;
+    bool reportsErrors = false;
     /// The drawing area's size when Resize was last called, in twips.
     float resizedWidth = 0;
     float resizedHeight = 0;

@@ -245,6 +245,7 @@ TEST_F(TypeLibraryFacts, Library) {
     EXPECT_EQ(attributes->lcid, 1033U);
     EXPECT_EQ(attributes->wMajorVerNum, 7);
     EXPECT_EQ(attributes->wMinorVerNum, 1);
+    EXPECT_NE(attributes->wLibFlags & LIBFLAG_FCONTROL, 0);
     library_->ReleaseTLibAttr(attributes);
 }
 

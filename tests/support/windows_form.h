@@ -91,8 +91,10 @@ class FormControl final : public win32::ControlSite, private host::Ambient {
     void RequestSize(SIZE size) override;
     void PictureChanged() override { ++pictureChanges; }
     void FocusChanged(bool inside) override;
+    bool AcceptsInput() override { return acceptsInput; }
 
     bool agreesToSize = true;
+    bool acceptsInput = true;
     int pictureChanges = 0;
     int focusGained = 0;
     int focusLost = 0;

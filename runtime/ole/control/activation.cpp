@@ -9,10 +9,11 @@
 namespace lumenkit::ole {
 
 void Activation::Activate() {
-    if (IsActive()) {
+    if (HasWindow()) {
         control_.Started().SetVisible(true);
         return;
     }
+    Deactivate();  // the window that the control was in is destroyed
     const ComPtr<IOleInPlaceSite> site = control_.Site().As<IOleInPlaceSite>();
     if (site == nullptr) {
         throw ComError(E_UNEXPECTED);
@@ -23,6 +24,9 @@ void Activation::Activate() {
     }
     HWND parent = nullptr;
     Check(site->GetWindow(&parent));
+    if (IsWindow(parent) == FALSE || control.Handle() == nullptr) {
+        throw ComError(OLE_E_INVALIDHWND);
+    }
     OLEINPLACEFRAMEINFO information = {};
     information.cb = sizeof information;
     RECT place = {};
@@ -37,6 +41,10 @@ void Activation::Activate() {
     place_ = place;
     control.Attach(parent, place);
     if (IsStillActive(site)) {
+        if (!control.IsAttached()) {
+            Deactivate();
+            throw ComError(OLE_E_INVALIDHWND);
+        }
         SetPlace(place, clip);
     }
     if (control_.Site().Exists()) {

@@ -27,11 +27,15 @@ class Activation {
     explicit Activation(Activated& control) : control_(control) {}
 
     bool IsActive() const { return site_ != nullptr; }
+    /// Whether the control is active and its window is in the container. The window leaves the
+    /// container without a deactivation when the container's window is destroyed.
+    bool HasWindow() const { return IsActive() && control_.Started().IsAttached(); }
     /// The position in the container's window, in pixels. Meaningful only while active.
     const RECT& Place() const { return place_; }
     const ComPtr<IOleInPlaceSite>& InPlaceSite() const { return site_; }
 
-    /// Puts the window into the container. Raises a ComError if the container refuses.
+    /// Puts the window into the container. Raises a ComError if the container refuses or if there
+    /// is no window to put or to put it into.
     void Activate();
     /// Activates the control and gives it the keyboard.
     void ActivateUI();

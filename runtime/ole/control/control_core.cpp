@@ -1,9 +1,11 @@
 #include "runtime/ole/control/control_core.h"
 
 #include "frame/raised_flag.h"
+#include "frame/runtime_error.h"
 #include "runtime/ole/module/identifiers.h"
 #include "runtime/ole/objects/event_call.h"
 #include "runtime/ole/values/result.h"
+#include "runtime/win32/keyboard.h"
 
 namespace lumenkit::ole {
 
@@ -21,6 +23,24 @@ GUID EventInterface(const ClassDescriptor& type) {
 // The names under which the size of a saved control is stored next to its properties.
 constexpr TextView widthName = u"_ExtentX";
 constexpr TextView heightName = u"_ExtentY";
+
+// Returns nothing for a length that the bag does not contain or that cannot be used.
+std::optional<LONG> SavedLength(SettingsBag& bag, TextView name, int pixelsPerInch) {
+    try {
+        const Value value = bag.ReadProperty(name, Empty{});
+        if (std::holds_alternative<Empty>(value)) {
+            return std::nullopt;
+        }
+        const LONG length = ToLong(value);
+        if (!IsPossibleLength(length, pixelsPerInch)) {
+            Raise(ErrorNumber::InvalidPropertyValue);
+        }
+        return length;
+    } catch (const RuntimeError& error) {
+        bag.Refuse(name, error);
+        return std::nullopt;
+    }
+}
 
 }  // namespace
 
@@ -53,6 +73,13 @@ void ControlCore::Abandon() noexcept {
     notices_.Clear();
 }
 
+void ControlCore::SetSite(IOleClientSite* site) {
+    site_.Assign(site);
+    if (site != nullptr && hosted_->IsStarted()) {
+        hosted_->AmbientChanged();
+    }
+}
+
 void ControlCore::Make() {
     hosted_.reset();
     hosted_ = std::make_unique<win32::HostedControl>(component_.GetContext(), type_, *this,
@@ -70,7 +97,7 @@ win32::HostedControl& ControlCore::Started() {
 }
 
 HWND ControlCore::ActiveWindow() const {
-    if (!activation_.IsActive()) {
+    if (!activation_.HasWindow()) {
         throw ComError(E_FAIL);
     }
     return hosted_->Handle();
@@ -94,12 +121,13 @@ void ControlCore::Restart() {
     }
 }
 
-void ControlCore::Load(host::PropertyBag& bag) {
+void ControlCore::Load(SettingsBag& bag) {
     Restart();
-    const Value width = bag.ReadProperty(widthName, Empty{});
-    const Value height = bag.ReadProperty(heightName, Empty{});
-    if (!std::holds_alternative<Empty>(width) && !std::holds_alternative<Empty>(height)) {
-        SetExtent({ToLong(width), ToLong(height)});
+    const win32::Resolution resolution = extent_.GetResolution();
+    const auto width = SavedLength(bag, widthName, resolution.x);
+    const auto height = SavedLength(bag, heightName, resolution.y);
+    if (width && height) {
+        SetExtent({*width, *height});
     }
     const RaisedFlag starting(isStarting_);
     hosted_->StartSaved(bag);
@@ -114,13 +142,12 @@ void ControlCore::Save(host::PropertyBag& bag) {
 }
 
 void ControlCore::SetExtent(const SIZEL& himetric) {
-    // The largest width and height of a window, in pixels.
-    constexpr LONG largest = 32767;
-    const SIZE pixels = ToPixels(himetric, extent_.GetResolution());
-    if (himetric.cx < 0 || himetric.cy < 0 || pixels.cx > largest || pixels.cy > largest ||
-        pixels.cx < 0 || pixels.cy < 0) {
+    const win32::Resolution resolution = extent_.GetResolution();
+    if (!IsPossibleLength(himetric.cx, resolution.x) ||
+        !IsPossibleLength(himetric.cy, resolution.y)) {
         throw ComError(E_INVALIDARG);
     }
+    const SIZE pixels = ToPixels(himetric, resolution);
     const bool changed = !SameSize(extent_.Pixels(), pixels);
     if (changed && activation_.IsActive()) {
         RequestSize(pixels);
@@ -167,6 +194,26 @@ void ControlCore::FocusChanged(bool inside) {
     activation_.FocusChanged(inside);
 }
 
+bool ControlCore::AcceptsInput() {
+    return ambient_.UserMode() && !ambient_.IsUIDead();
+}
+
+std::wstring ControlCore::GiveMnemonics() {
+    givenMnemonics_ = win32::MnemonicsInside(Started().Handle());
+    return *givenMnemonics_;
+}
+
+void ControlCore::MnemonicsMayHaveChanged() {
+    if (!givenMnemonics_ || *givenMnemonics_ == win32::MnemonicsInside(hosted_->Handle())) {
+        return;
+    }
+    GiveMnemonics();
+    const ComPtr<IOleControlSite> site = site_.As<IOleControlSite>();
+    if (site != nullptr) {
+        site->OnControlInfoChanged();
+    }
+}
+
 void ControlCore::FreezeEvents(bool freeze) {
     if (freeze) {
         ++frozen_;
@@ -199,7 +246,8 @@ bool ControlCore::CanPropertyChange(TextView name) {
 
 void ControlCore::RaiseEvent(std::int32_t event, std::span<Value> arguments) {
     const Event* raised = type_.eventTable == nullptr ? nullptr : type_.eventTable->Find(event);
-    if (frozen_ != 0 || raised == nullptr) {
+    const bool isDead = hosted_ != nullptr && !hosted_->AcceptsInput();
+    if (frozen_ != 0 || isDead || raised == nullptr) {
         return;
     }
     ole::RaiseEvent(points_.Events(), *raised, arguments);

@@ -1,6 +1,8 @@
 #pragma once
 
 #include <memory>
+#include <optional>
+#include <string>
 
 #include "frame/class_table.h"
 #include "runtime/ole/control/activation.h"
@@ -11,6 +13,7 @@
 #include "runtime/ole/control/site_extender.h"
 #include "runtime/ole/objects/component.h"
 #include "runtime/ole/objects/connection_points.h"
+#include "runtime/ole/values/settings_bag.h"
 #include "runtime/win32/hosted_control.h"
 
 namespace lumenkit::ole {
@@ -44,19 +47,21 @@ class ControlCore final : public win32::ControlSite,
     Notices& GetNotices() { return notices_; }
     Activation& GetActivation() { return activation_; }
     const ClientSite& Site() const override { return site_; }
-    void SetSite(IOleClientSite* site) { site_.Assign(site); }
+    void SetSite(IOleClientSite* site);
 
     // The life cycle.
     win32::HostedControl& Hosted() { return *hosted_; }
     /// Returns the control. Starts it as a new one if it is used without having been loaded.
     win32::HostedControl& Started() override;
-    /// Returns the window of the active control. Raises a ComError while it is not active.
+    /// Returns the window of the active control. Raises a ComError while it has none
+    /// in its container.
     HWND ActiveWindow() const;
     /// Starts a new control. Raises a ComError if the control was already started explicitly.
     void StartNew();
     /// Loads the control. A control in use may be loaded again, unless it is shown or is calling
     /// its container. Errors that the bag raises reach the caller; the control is not started then.
-    void Load(host::PropertyBag& bag);
+    void Load(SettingsBag& bag);
+    /// Errors of a save that failed reach the caller. The control stays dirty.
     void Save(host::PropertyBag& bag);
     /// Called when no client holds the control any more.
     void Abandon() noexcept;
@@ -70,6 +75,8 @@ class ControlCore final : public win32::ControlSite,
     void SizeChanged(SIZE pixels) override;
 
     void FreezeEvents(bool freeze);
+    /// Returns the mnemonics for the container, which is told when they change.
+    std::wstring GiveMnemonics();
 
     // Requests from the control to its site.
     host::Container& GetContainer() override { return *this; }
@@ -78,6 +85,8 @@ class ControlCore final : public win32::ControlSite,
     void RequestSize(SIZE size) override;
     void PictureChanged() override;
     void FocusChanged(bool inside) override;
+    void MnemonicsMayHaveChanged() override;
+    bool AcceptsInput() override;
 
     // Notifications from the control to its container.
     void PropertyChanged(TextView name) override;
@@ -113,6 +122,7 @@ class ControlCore final : public win32::ControlSite,
     bool isStarting_ = false;
     bool startedOnPurpose_ = false;
     int frozen_ = 0;
+    std::optional<std::wstring> givenMnemonics_;  // empty: the container has not asked
     std::unique_ptr<win32::HostedControl> hosted_;
 };
 

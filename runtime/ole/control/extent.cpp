@@ -20,6 +20,12 @@ SIZEL ToHimetric(const SIZE& pixels, win32::Resolution resolution) {
             Scaled(pixels.cy, resolution.y, himetricPerInch)};
 }
 
+bool IsPossibleLength(LONG himetric, int pixelsPerInch) {
+    constexpr LONG longest = 32767;  // pixels
+    const LONG pixels = Scaled(himetric, himetricPerInch, pixelsPerInch);
+    return himetric >= 0 && pixels >= 0 && pixels <= longest;
+}
+
 void Extent::Follow(SIZE pixels) {
     if (!SameSize(Pixels(), pixels)) {
         himetric_ = ToHimetric(pixels, resolution_);

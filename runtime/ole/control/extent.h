@@ -14,6 +14,9 @@ inline constexpr int himetricPerInch = 2540;
 SIZE ToPixels(const SIZEL& himetric, win32::Resolution resolution);
 SIZEL ToHimetric(const SIZE& pixels, win32::Resolution resolution);
 
+/// Whether a window can have this length, given in hundredths of a millimetre.
+bool IsPossibleLength(LONG himetric, int pixelsPerInch);
+
 /// A size in hundredths of a millimetre. The last value from the container is kept as long as it
 /// corresponds to the current size in pixels, so that reading and setting the size in turn does not
 /// change it step by step.

@@ -25,7 +25,7 @@ HRESULT InPlaceObject::SetObjectRects(LPCRECT place, LPCRECT clip) {
         if (whole.right < whole.left || whole.bottom < whole.top) {
             return E_INVALIDARG;
         }
-        if (!core_.GetActivation().IsActive()) {
+        if (!core_.GetActivation().HasWindow()) {
             return E_UNEXPECTED;
         }
         core_.GetActivation().SetPlace(whole, clip == nullptr ? whole : *clip);

@@ -63,7 +63,7 @@ HRESULT OleControl::GetControlInfo(CONTROLINFO* information) {
         if (Checked(information).cb != sizeof(CONTROLINFO)) {
             return E_INVALIDARG;
         }
-        std::vector<ACCEL> keys = AcceleratorsOf(win32::MnemonicsInside(core_.Started().Handle()));
+        std::vector<ACCEL> keys = AcceleratorsOf(core_.GiveMnemonics());
         table_.reset(keys.empty()
                          ? nullptr
                          : CreateAcceleratorTableW(keys.data(), static_cast<int>(keys.size())));
@@ -77,6 +77,9 @@ HRESULT OleControl::GetControlInfo(CONTROLINFO* information) {
 HRESULT OleControl::OnMnemonic(MSG* message) {
     return Guarded([&] {
         const wchar_t unit = UnitOf(Checked(message));
+        if (!core_.Started().AcceptsInput()) {
+            return;
+        }
         core_.GetActivation().ActivateUI();
         if (unit != 0 && core_.GetActivation().IsActive()) {
             win32::UseMnemonicInside(core_.Hosted().Handle(), unit);

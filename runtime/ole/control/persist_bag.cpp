@@ -25,7 +25,7 @@ HRESULT PersistBag::Save(IPropertyBag* bag, BOOL clearDirty, BOOL saveAll) {
     return Guarded([&] {
         ContainerBag container(Checked(bag), nullptr, saveAll != FALSE);
         core_.Save(container);
-        container.CheckTaken();
+        container.Deliver();
         if (clearDirty != FALSE) {
             core_.SetDirty(false);
         }

@@ -34,18 +34,26 @@ HRESULT PersistStorage::Load(IStorage* storage) {
 
 HRESULT PersistStorage::Save(IStorage* storage, BOOL /*sameAsLoad*/) {
     return Guarded([&] {
+        isSaved_ = false;
+        Checked(storage);
+        // A save that fails must leave the former stream in the storage.
+        const std::vector<std::uint8_t> settings = SavedSettings(core_);
         ComPtr<IStream> stream;
-        Check(Checked(storage).CreateStream(
-            streamName, STGM_CREATE | STGM_WRITE | STGM_SHARE_EXCLUSIVE, 0, 0, &stream));
-        SaveTo(*stream.Get(), core_);
+        Check(storage->CreateStream(streamName, STGM_CREATE | STGM_WRITE | STGM_SHARE_EXCLUSIVE, 0,
+                                    0, &stream));
+        WriteTo(*stream.Get(), settings);
+        isSaved_ = true;
     });
 }
 
 // The storage is not kept, so it need not be opened again.
 HRESULT PersistStorage::SaveCompleted(IStorage* /*storage*/) {
     return Guarded([&] {
-        core_.SetDirty(false);
-        core_.GetNotices().Saved();
+        if (isSaved_) {
+            isSaved_ = false;
+            core_.SetDirty(false);
+            core_.GetNotices().Saved();
+        }
     });
 }
 

@@ -21,6 +21,7 @@ class PersistStorage final : public HeldFacet<IPersistStorage> {
 
  private:
     ControlCore& core_;
+    bool isSaved_ = false;  // whether the last save succeeded and is not completed
 };
 
 }  // namespace lumenkit::ole

@@ -26,19 +26,18 @@ void Read(IStream& stream, std::size_t count, std::vector<std::uint8_t>& bytes) 
     }
 }
 
-std::vector<std::uint8_t> Saved(ControlCore& core) {
+}  // namespace
+
+std::vector<std::uint8_t> SavedSettings(ControlCore& core) {
     StoredProperties properties;
     core.Save(properties);
     return stored::Encode(properties.GetRecords());
 }
 
-}  // namespace
-
-void SaveTo(IStream& stream, ControlCore& core) {
-    const std::vector<std::uint8_t> bytes = Saved(core);
+void WriteTo(IStream& stream, const std::vector<std::uint8_t>& settings) {
     ULONG written = 0;
-    Check(stream.Write(bytes.data(), static_cast<ULONG>(bytes.size()), &written));
-    if (written != bytes.size()) {
+    Check(stream.Write(settings.data(), static_cast<ULONG>(settings.size()), &written));
+    if (written != settings.size()) {
         throw ComError(STG_E_MEDIUMFULL);
     }
 }
@@ -61,7 +60,7 @@ HRESULT PersistStream::Load(IStream* stream) {
 
 HRESULT PersistStream::Save(IStream* stream, BOOL clearDirty) {
     return Guarded([&] {
-        SaveTo(Checked(stream), core_);
+        WriteTo(Checked(stream), SavedSettings(core_));
         if (clearDirty != FALSE) {
             core_.SetDirty(false);
         }
@@ -69,7 +68,7 @@ HRESULT PersistStream::Save(IStream* stream, BOOL clearDirty) {
 }
 
 HRESULT PersistStream::GetSizeMax(ULARGE_INTEGER* size) {
-    return Guarded([&] { Checked(size).QuadPart = Saved(core_).size(); });
+    return Guarded([&] { Checked(size).QuadPart = SavedSettings(core_).size(); });
 }
 
 HRESULT PersistStream::InitNew() {

@@ -39,6 +39,10 @@ host::FontRef SiteAmbient::AmbientFont() const {
                                         : fonts_.NewFont(defaultFontName, defaultFontSize);
 }
 
+bool SiteAmbient::IsUIDead() const {
+    return AmbientAs(site_, DISPID_AMBIENT_UIDEAD, ToBoolean).value_or(false);
+}
+
 Color SiteAmbient::BackColor() const {
     return AmbientAs(site_, DISPID_AMBIENT_BACKCOLOR, ToColor).value_or(Color::ButtonFace);
 }

@@ -16,6 +16,8 @@ class SiteAmbient final : public host::Ambient {
     bool UserMode() const override;
     host::FontRef AmbientFont() const override;
     Color BackColor() const override;
+    /// Whether the container asks its controls to ignore the user, as while it is debugging.
+    bool IsUIDead() const;
 
  private:
     const ClientSite& site_;

@@ -4,6 +4,19 @@
 
 namespace lumenkit::ole {
 
+namespace {
+
+std::wstring LongForm(const std::wstring& path) {
+    const DWORD size = GetLongPathNameW(path.c_str(), nullptr, 0);
+    std::wstring text(size, L'\0');
+    if (size == 0 || GetLongPathNameW(path.c_str(), text.data(), size) >= size) {
+        return path;
+    }
+    return text.c_str();
+}
+
+}  // namespace
+
 HINSTANCE OwnModule() {
     HMODULE module = nullptr;
     GetModuleHandleExW(
@@ -14,6 +27,11 @@ HINSTANCE OwnModule() {
 
 std::wstring OwnPath() {
     return win32::PathOf(OwnModule());
+}
+
+bool IsSameFile(const std::wstring& one, const std::wstring& other) {
+    return CompareStringOrdinal(LongForm(one).c_str(), -1, LongForm(other).c_str(), -1, TRUE) ==
+           CSTR_EQUAL;
 }
 
 }  // namespace lumenkit::ole

@@ -10,5 +10,8 @@ namespace lumenkit::ole {
 HINSTANCE OwnModule();
 /// Returns the full path of the module's file.
 std::wstring OwnPath();
+/// Whether two paths name the same file. Compares the paths without regard to case, in their long
+/// form if the files exist.
+bool IsSameFile(const std::wstring& one, const std::wstring& other);
 
 }  // namespace lumenkit::ole

@@ -1,10 +1,12 @@
 #include "runtime/ole/module/registration.h"
 
+#include <algorithm>
 #include <array>
 #include <string>
 #include <vector>
 
 #include "runtime/ole/module/identifiers.h"
+#include "runtime/ole/module/library_registration.h"
 #include "runtime/ole/module/misc_status.h"
 #include "runtime/ole/module/module_file.h"
 #include "runtime/ole/module/registry_key.h"
@@ -26,6 +28,10 @@ std::wstring ClassKey(const ClassDescriptor& type) {
     return L"CLSID\\" + TextOfGuid(GuidOf(type.uniqueIdentifier));
 }
 
+std::wstring ServerKey(const ClassDescriptor& type) {
+    return ClassKey(type) + L"\\InprocServer32";
+}
+
 std::wstring Name(const ClassTable& classes, const ClassDescriptor& type) {
     return win32::ToWide(ProgrammaticIdentifier(classes, type));
 }
@@ -45,11 +51,12 @@ void RegisterControl(const RegistryKey& key, const ClassDescriptor& type,
 
 void RegisterOne(const ClassTable& classes, const ClassDescriptor& type, const std::wstring& path) {
     const std::wstring name = Name(classes, type);
-    const RegistryKey key(ClassKey(type));
-    key.SetText(L"", name);
-    const RegistryKey server(key, L"InprocServer32");
+    // The first entry: without it, the others of the class could not be removed.
+    const RegistryKey server(ServerKey(type));
     server.SetText(L"", path);
     server.SetText(L"ThreadingModel", L"Apartment");
+    const RegistryKey key(ClassKey(type));
+    key.SetText(L"", name);
     key.SetKey(L"ProgID", name);
     key.SetKey(L"VersionIndependentProgID", name);
     key.SetKey(L"TypeLib", TextOfGuid(GuidOf(classes.uniqueIdentifier)));
@@ -68,27 +75,47 @@ bool IsPublished(const ClassDescriptor& type) {
     return type.uniqueIdentifier != UniqueIdentifier();
 }
 
-// The paths of the module's type libraries: its own library, followed by that of the enumerations.
-std::vector<std::wstring> LibraryPaths(const ClassTable& classes, const std::wstring& path) {
-    std::vector<std::wstring> paths = {path};
-    if (classes.enumerations != nullptr) {
-        paths.push_back(path + L"\\2");
+std::vector<LibraryEntry> LibrariesOf(const ClassTable& classes, const std::wstring& path) {
+    std::vector<LibraryEntry> libraries = {{.identifier = GuidOf(classes.uniqueIdentifier),
+                                            .majorVersion = classes.majorVersion,
+                                            .minorVersion = classes.minorVersion,
+                                            .locale = classes.locale,
+                                            .file = path,
+                                            .part = L""}};
+    if (const EnumerationLibrary* library = classes.enumerations; library != nullptr) {
+        libraries.push_back({.identifier = GuidOf(library->uniqueIdentifier),
+                             .majorVersion = library->majorVersion,
+                             .minorVersion = library->minorVersion,
+                             .locale = library->locale,
+                             .file = path,
+                             .part = L"\\2"});
     }
-    return paths;
+    return libraries;
 }
 
-void RegisterLibrary(const std::wstring& path) {
-    ComPtr<ITypeLib> library;
-    Check(LoadTypeLibEx(path.c_str(), REGKIND_NONE, &library));
-    std::wstring writable = path;
-    Check(RegisterTypeLib(library.Get(), writable.data(), nullptr));
+// Whether any server is registered for the class, of whichever bitness and in whichever folder.
+bool HasServer(const ClassDescriptor& type) {
+    constexpr std::array views = {RegistryView::Own, RegistryView::Bits32, RegistryView::Bits64};
+    return std::ranges::any_of(views, [&](RegistryView view) {
+        return RegistryKey::TextAt(ServerKey(type), view).has_value();
+    });
 }
 
-void UnregisterLibrary(const UniqueIdentifier& identifier, WORD major, WORD minor, LCID locale) {
-    constexpr SYSKIND system = sizeof(void*) == sizeof(std::uint64_t) ? SYS_WIN64 : SYS_WIN32;
-    const HRESULT result = UnRegisterTypeLib(GuidOf(identifier), major, minor, locale, system);
-    if (result != TYPE_E_REGISTRYACCESS && result != TYPE_E_LIBNOTREGISTERED) {
-        Check(result);
+void RemoveClass(const ClassDescriptor& type, const std::wstring& path) {
+    const auto server = RegistryKey::TextAt(ServerKey(type));
+    if (server && IsSameFile(*server, path)) {
+        RegistryKey::Remove(ClassKey(type));
+    }
+}
+
+// The programmatic identifier is common to the servers of all bitnesses.
+void RemoveName(const ClassTable& classes, const ClassDescriptor& type) {
+    const std::wstring name = Name(classes, type);
+    const auto named = RegistryKey::TextAt(name + L"\\CLSID");
+    if (named &&
+        lstrcmpiW(named->c_str(), TextOfGuid(GuidOf(type.uniqueIdentifier)).c_str()) == 0 &&
+        !HasServer(type)) {
+        RegistryKey::Remove(name);
     }
 }
 
@@ -112,7 +139,7 @@ class Steps {
 
 void Register(const ClassTable& classes) {
     const std::wstring path = OwnPath();
-    for (const std::wstring& library : LibraryPaths(classes, path)) {
+    for (const LibraryEntry& library : LibrariesOf(classes, path)) {
         RegisterLibrary(library);
     }
     for (const ClassDescriptor& type : classes.classes) {
@@ -123,22 +150,16 @@ void Register(const ClassTable& classes) {
 }
 
 void Unregister(const ClassTable& classes) {
+    const std::wstring path = OwnPath();
     Steps steps;
     for (const ClassDescriptor& type : classes.classes) {
         if (IsPublished(type)) {
-            steps.Run([&] { RegistryKey::Remove(ClassKey(type)); });
-            steps.Run([&] { RegistryKey::Remove(Name(classes, type)); });
+            steps.Run([&] { RemoveClass(type, path); });
+            steps.Run([&] { RemoveName(classes, type); });
         }
     }
-    steps.Run([&] {
-        UnregisterLibrary(classes.uniqueIdentifier, classes.majorVersion, classes.minorVersion,
-                          classes.locale);
-    });
-    if (const EnumerationLibrary* library = classes.enumerations; library != nullptr) {
-        steps.Run([&] {
-            UnregisterLibrary(library->uniqueIdentifier, library->majorVersion,
-                              library->minorVersion, classes.locale);
-        });
+    for (const LibraryEntry& library : LibrariesOf(classes, path)) {
+        steps.Run([&] { UnregisterLibrary(library); });
     }
     Check(steps.First());
 }

@@ -1,11 +1,17 @@
 // Keys of the platform's registry.
 #pragma once
 
+#include <optional>
 #include <string>
+#include <vector>
 
 #include "runtime/ole/values/ole_header.h"
 
 namespace lumenkit::ole {
+
+/// 64-bit Windows keeps two versions of some keys, such as CLSID: one for programs of 64 bits and
+/// one for programs of 32 bits. A program sees its own version unless it requests the other one.
+enum class RegistryView : REGSAM { Own = 0, Bits32 = KEY_WOW64_32KEY, Bits64 = KEY_WOW64_64KEY };
 
 /// An open key below HKEY_CLASSES_ROOT. Every function raises a ComError if the platform refuses.
 class RegistryKey {
@@ -22,8 +28,15 @@ class RegistryKey {
     /// Creates a subkey with this unnamed value.
     void SetKey(const std::wstring& path, const std::wstring& text) const;
 
+    /// Returns the unnamed value of a key, or nothing if there is no such key or value.
+    static std::optional<std::wstring> TextAt(const std::wstring& path,
+                                              RegistryView view = RegistryView::Own);
+    /// Returns the names of the keys in a key, which may be missing.
+    static std::vector<std::wstring> KeysIn(const std::wstring& path);
     /// Removes the key and everything below it. A missing key is not an error.
     static void Remove(const std::wstring& path);
+    /// Removes the key if no other key is in it.
+    static void RemoveIfEmpty(const std::wstring& path);
 
  private:
     HKEY key_ = nullptr;

@@ -32,15 +32,6 @@ Value AsDefault(const Value& value, const Value& defaultValue) {
     return std::visit(Converted{value}, defaultValue);
 }
 
-void Log(IErrorLog* log, const wchar_t* name, const RuntimeError& error) {
-    if (log == nullptr) {
-        return;
-    }
-    ExceptionInfo information;
-    Describe(error, *information.Get());
-    log->AddError(name, information.Get());
-}
-
 // Returns a separate copy of a font, so that later changes to the font do not affect the bag.
 Value Copy(const Value& value) {
     const auto* object = std::get_if<ObjectRef>(&value);
@@ -59,7 +50,7 @@ Value ContainerBag::ReadProperty(TextView name, const Value& defaultValue) {
     try {
         return Copy(AsDefault(FromVariant(*stored), defaultValue));
     } catch (const RuntimeError& error) {
-        Log(log_, wide.c_str(), error);
+        Refuse(name, error);
         return defaultValue;
     }
 }
@@ -70,14 +61,27 @@ void ContainerBag::WriteProperty(TextView name, const Value& value, const Value&
     }
     Variant written;
     ToVariant(Copy(value), *written);
-    const HRESULT taken = bag_.Write(win32::ToWide(name).c_str(), written.Get());
-    if (FAILED(taken) && SUCCEEDED(taken_)) {
-        taken_ = taken;
-    }
+    written_.emplace_back(win32::ToWide(name), std::move(written));
 }
 
-void ContainerBag::CheckTaken() const {
-    Check(taken_);
+void ContainerBag::Refuse(TextView name, const RuntimeError& error) {
+    if (log_ == nullptr) {
+        return;
+    }
+    ExceptionInfo information;
+    Describe(error, *information.Get());
+    log_->AddError(win32::ToWide(name).c_str(), information.Get());
+}
+
+void ContainerBag::Deliver() {
+    HRESULT taken = S_OK;
+    for (auto& [name, value] : std::exchange(written_, {})) {
+        const HRESULT result = bag_.Write(name.c_str(), value.Get());
+        if (FAILED(result) && SUCCEEDED(taken)) {
+            taken = result;
+        }
+    }
+    Check(taken);
 }
 
 }  // namespace lumenkit::ole

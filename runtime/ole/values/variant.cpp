@@ -257,6 +257,9 @@ Value FromVariant(const VARIANT& variant, ValueType wanted) {
     if (wanted == ValueType::String && HasTextOfItsOwn(resolved.vt)) {
         return TextByPlatform(resolved);
     }
+    if (wanted == ValueType::Font) {
+        return ObjectRef(host::ToAssignedFont(FromResolved(resolved)));
+    }
     return Convert(FromResolved(resolved), wanted);
 }
 

@@ -1,6 +1,8 @@
 // Conversion between values and the VARIANTs of automation clients.
 #pragma once
 
+#include <utility>
+
 #include "frame/automation/value.h"
 #include "frame/automation/value_type.h"
 #include "runtime/ole/values/ole_header.h"
@@ -11,9 +13,11 @@ namespace lumenkit::ole {
 class Variant {
  public:
     Variant() { VariantInit(&variant_); }
+    Variant(Variant&& other) noexcept : variant_(std::exchange(other.variant_, {})) {}
     ~Variant() { VariantClear(&variant_); }
     Variant(const Variant&) = delete;
     Variant& operator=(const Variant&) = delete;
+    Variant& operator=(Variant&&) = delete;
 
     VARIANT* Get() { return &variant_; }
     VARIANT* operator->() { return &variant_; }

@@ -7,9 +7,12 @@
 
 #include <gmock/gmock.h>
 
+#include "apps/lumenkit/drive/loaded_form.h"
 #include "apps/lumenkit/drive/session.h"
+#include "forms/file.h"
 #include "project/lumenkit_classes.h"
 #include "tests/support/file_bytes.h"
+#include "tests/unit/frame/raises.h"
 
 namespace lumenkit::testing {
 
@@ -230,6 +233,23 @@ TEST_F(DriveForms, ReadInAnotherCodePage) {
     Let("L", "Caption", R"("ć")");
     Write("y.frm");
     EXPECT_EQ(FileBytes(folder / "y.frm"), form);
+}
+
+TEST_F(DriveForms, AControlThatCannotBeSavedLeavesTheFormAsItWas) {
+    memory::Form form(lumenkitClasses);
+    cli::LoadedForm loaded(forms::Load(samples / "memo.frm"), lumenkitClasses);
+    const auto living = loaded.Start(form, true);
+    ASSERT_THAT(living, ::testing::SizeIs(1));
+    const std::string before = loaded.Document().Write().form;
+    living[0].control->Automation().Let(u"ForeColor", std::int32_t{0x123456});
+    form.Faults().FailCall(u"PropertyBag.WriteProperty", 9, ErrorNumber::OutOfMemory);
+    EXPECT_THAT([&] { loaded.Update(); }, Raises(7));
+    EXPECT_EQ(loaded.Document().Write().form, before);
+    form.Faults().FailCall(u"TextBox.MaxLength", 1, ErrorNumber::InvalidPropertyValue);
+    EXPECT_THAT([&] { loaded.Update(); }, Raises(31036));
+    EXPECT_EQ(loaded.Document().Write().form, before);
+    loaded.Update();
+    EXPECT_THAT(loaded.Document().Write().form, HasSubstr("&H00123456&"));
 }
 
 }  // namespace

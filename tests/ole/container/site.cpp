@@ -75,7 +75,7 @@ const InterfaceTable& Site::ExtenderMembers() {
     return extenderTable;
 }
 
-Site::Site(Form& form) : form_(form) {
+Site::Site(Form& form) : form_(&form) {
     ambients_.Set(DISPID_AMBIENT_DISPLAYNAME, Text(u"probe"));
 }
 
@@ -104,7 +104,7 @@ void Site::Drop() {
 }
 
 HRESULT Site::DoVerb(LONG verb) {
-    return As<IOleObject>()->DoVerb(verb, nullptr, &clientSite_, 0, form_.Window(), &place_);
+    return As<IOleObject>()->DoVerb(verb, nullptr, &clientSite_, 0, form_->Window(), &place_);
 }
 
 void Site::SetPlace(const RECT& place) {
@@ -169,7 +169,7 @@ HRESULT Site::ClientSiteFace::RequestNewObjectLayout() {
 
 HRESULT Site::InPlaceSiteFace::GetWindow(HWND* window) {
     site_.Said("GetWindow");
-    *window = site_.form_.Window();
+    *window = site_.form_->Window();
     return S_OK;
 }
 HRESULT Site::InPlaceSiteFace::CanInPlaceActivate() {
@@ -192,7 +192,7 @@ HRESULT Site::InPlaceSiteFace::GetWindowContext(IOleInPlaceFrame** frame,
     *document = nullptr;
     *place = site_.place_;
     *clip = site_.place_;
-    information->hwndFrame = site_.form_.Window();
+    information->hwndFrame = site_.form_->Window();
     return S_OK;
 }
 HRESULT Site::InPlaceSiteFace::OnUIDeactivate(BOOL /*undoable*/) {
@@ -211,6 +211,10 @@ HRESULT Site::InPlaceSiteFace::OnPosRectChange(LPCRECT place) {
     return S_OK;
 }
 
+HRESULT Site::ControlSiteFace::OnControlInfoChanged() {
+    site_.Said("OnControlInfoChanged");
+    return S_OK;
+}
 HRESULT Site::ControlSiteFace::GetExtendedControl(IDispatch** extender) {
     *extender = site_.hasExtender ? ComPtr<IDispatch>(&site_.extender_).Detach() : nullptr;
     return site_.hasExtender ? S_OK : E_NOTIMPL;

@@ -54,6 +54,8 @@ class Site final : public IUnknown {
         return found;
     }
     HRESULT DoVerb(LONG verb);
+    /// Uses another form from now on. The form must outlive the site.
+    void SetForm(Form& form) { form_ = &form; }
     void SetPlace(const RECT& place);
 
     // The members of the extender. Lengths are in twips.
@@ -120,7 +122,7 @@ class Site final : public IUnknown {
     class ControlSiteFace final : public ole::Facet<IOleControlSite> {
      public:
         explicit ControlSiteFace(Site& site) : Facet(site), site_(site) {}
-        HRESULT STDMETHODCALLTYPE OnControlInfoChanged() override { return S_OK; }
+        HRESULT STDMETHODCALLTYPE OnControlInfoChanged() override;
         HRESULT STDMETHODCALLTYPE LockInPlaceActive(BOOL) override { return S_OK; }
         HRESULT STDMETHODCALLTYPE GetExtendedControl(IDispatch** extender) override;
         HRESULT STDMETHODCALLTYPE TransformCoords(POINTL*, POINTF*, DWORD) override {
@@ -137,7 +139,7 @@ class Site final : public IUnknown {
     static const InterfaceTable& ExtenderMembers();
     void Said(std::string line) { log_.Add(std::move(line)); }
 
-    Form& form_;
+    Form* form_;
     CallLog log_;
     ULONG references_ = 0;
     ClientSiteFace clientSite_{*this};

@@ -97,7 +97,8 @@ TEST(Font, IsTakenFromAnObjectReference) {
     using Fonts = Automation<host::FontRef>;
     const auto font = std::make_shared<PlainFont>();
     EXPECT_EQ(Fonts::From(ObjectRef(font)), font);
-    EXPECT_EQ(Fonts::From(ObjectRef()), nullptr);
+    EXPECT_THAT([] { Fonts::From(ObjectRef()); }, Raises(13));
+    EXPECT_EQ(host::ToFont(ObjectRef()), nullptr);
     EXPECT_EQ(Fonts::To(font), Value(ObjectRef(font)));
     EXPECT_THAT([] { Fonts::From(ObjectRef(std::make_shared<Stranger>())); }, Raises(13));
     EXPECT_THAT([] { Fonts::From(Text(u"Arial")); }, Raises(13));

@@ -37,6 +37,7 @@ TEST(RuntimeErrorText, IsTheRuntimesOwn) {
         {438, u"Object doesn't support this property or method"},
         {449, u"Argument not optional"},
         {450, u"Wrong number of arguments or invalid property assignment"},
+        {31036, u"Error saving to file"},
     };
     for (const auto& [number, text] : texts) {
         EXPECT_EQ(RuntimeErrorText(number), text) << number;

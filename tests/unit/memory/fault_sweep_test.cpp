@@ -31,7 +31,11 @@ void RunSession(Form& form) {
         if (Element* button = control.Parts().Find(u"Option1(1)")) {
             user.Click(*button);
         }
-        control.Save(bag);
+        try {
+            control.Save(bag);
+        } catch (const RuntimeError&) {  // the control has reported the error too
+            EXPECT_FALSE(form.GetLog().Messages().empty());
+        }
     }
     PlaceControl(form, u"Sample", {}, &bag);
 }

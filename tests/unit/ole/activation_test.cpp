@@ -171,6 +171,89 @@ TEST_F(ActivationTest, KeysGoToTheControlFirst) {
     EXPECT_EQ(information.dwFlags, static_cast<DWORD>(CTRLINFO_EATS_RETURN));
 }
 
+// How a container goes on after the window that it gave a control was destroyed.
+struct Aftermath {
+    bool deactivates;
+    bool closes;
+    bool changesSite;
+};
+
+TEST_F(ActivationTest, AControlOutlivesTheWindowThatItWasIn) {
+    for (const TextView name : {u"VLabel", u"VMemo", u"VOptList"}) {
+        for (const auto& [deactivates, closes, changesSite] :
+             {Aftermath{true, true, true}, Aftermath{true, true, false},
+              Aftermath{false, true, true}, Aftermath{false, false, false},
+              Aftermath{false, false, true}}) {
+            auto first = std::make_unique<container::Form>();
+            container::Form second;
+            container::Site site(*first);
+            container::Site other(second);
+            site.Take(Create(name));
+            ASSERT_EQ(site.DoVerb(OLEIVERB_UIACTIVATE), S_OK);
+            const auto object = site.As<IOleInPlaceObject>();
+            HWND window = nullptr;
+            ASSERT_EQ(object->GetWindow(&window), S_OK);
+            if (name == u"VMemo") {
+                SendMessageW(GetFocus(), WM_CHAR, 'x', 1);  // state that no property holds
+            }
+            first.reset();
+            EXPECT_TRUE(IsWindow(window));
+            EXPECT_FALSE(IsWindowVisible(window));
+            HWND none = nullptr;
+            EXPECT_EQ(object->GetWindow(&none), E_FAIL);
+            EXPECT_EQ(none, nullptr);
+
+            site.SetForm(second);
+            if (deactivates) {
+                EXPECT_EQ(object->InPlaceDeactivate(), S_OK);
+            }
+            if (closes) {
+                EXPECT_EQ(site.As<IOleObject>()->Close(OLECLOSE_NOSAVE), S_OK);
+            }
+            container::Site& shown = changesSite ? other : site;
+            if (changesSite) {
+                other.Take(site.As<IUnknown>());
+            }
+            EXPECT_EQ(shown.DoVerb(OLEIVERB_INPLACEACTIVATE), S_OK);
+            ASSERT_EQ(object->GetWindow(&window), S_OK);
+            EXPECT_EQ(GetParent(window), second.Window());
+            EXPECT_TRUE(IsWindowVisible(window));
+            EXPECT_EQ(shown.DoVerb(OLEIVERB_UIACTIVATE), S_OK);
+            EXPECT_TRUE(GetFocus() == window || IsChild(window, GetFocus()));
+            const Late control(shown.As<IDispatch>());
+            if (name == u"VMemo") {
+                EXPECT_EQ(ToText(control.Get(L"Text")), u"xVMemo\r\n");
+                EXPECT_EQ(SendMessageW(GetFocus(), WM_GETTEXTLENGTH, 0, 0), 8);
+            } else if (name == u"VOptList") {
+                EXPECT_EQ(control.Put(L"Contents", Text(u"a;A|b;B|c;C")), S_OK);
+                EXPECT_EQ(control.Put(L"ListIndex", std::int16_t{2}), S_OK);
+                EXPECT_EQ(ToText(control.Get(L"Text")), u"c");
+            }
+            EXPECT_EQ(MessageBoxes::Take(), 0);
+            other.Drop();
+            site.LetGo();
+        }
+    }
+}
+
+TEST_F(ActivationTest, AWindowThatThereIsNotIsAFailure) {
+    Place(u"VLabel");
+    container::Form gone;
+    site_->SetForm(gone);
+    EXPECT_EQ(site_->DoVerb(OLEIVERB_INPLACEACTIVATE), S_OK);
+    DestroyWindow(gone.Window());
+    EXPECT_EQ(site_->DoVerb(OLEIVERB_INPLACEACTIVATE), OLE_E_INVALIDHWND);
+    EXPECT_EQ(site_->DoVerb(OLEIVERB_UIACTIVATE), OLE_E_INVALIDHWND);
+    site_->SetForm(form_);
+    EXPECT_EQ(site_->DoVerb(OLEIVERB_INPLACEACTIVATE), S_OK);
+    // Some containers destroy the control's own window.
+    HWND window = nullptr;
+    EXPECT_EQ(site_->As<IOleInPlaceObject>()->GetWindow(&window), S_OK);
+    DestroyWindow(window);
+    EXPECT_EQ(site_->As<IOleInPlaceObject>()->GetWindow(&window), E_FAIL);
+    EXPECT_EQ(site_->DoVerb(OLEIVERB_INPLACEACTIVATE), OLE_E_INVALIDHWND);
+}
+
 TEST_F(ActivationTest, ActivationSurvivesBadRectangles) {
     Place(u"VLabel");
     const ComPtr<IOleInPlaceObject> object = site_->As<IOleInPlaceObject>();

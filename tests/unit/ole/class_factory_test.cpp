@@ -92,6 +92,39 @@ TEST_F(ClassFactoryTest, AnObjectHasOneIdentity) {
     EXPECT_EQ(object->QueryInterface(IID_IUnknown, nullptr), E_POINTER);
 }
 
+// Refuses every new window of the thread, as Windows does where there is no display.
+class NoWindows {
+ public:
+    NoWindows() : hook_(SetWindowsHookExW(WH_CBT, &Refuse, nullptr, GetCurrentThreadId())) {}
+    ~NoWindows() { UnhookWindowsHookEx(hook_); }
+    NoWindows(const NoWindows&) = delete;
+    NoWindows& operator=(const NoWindows&) = delete;
+
+ private:
+    static LRESULT CALLBACK Refuse(int code, WPARAM wParam, LPARAM lParam) {
+        return code == HCBT_CREATEWND ? 1 : CallNextHookEx(nullptr, code, wParam, lParam);
+    }
+
+    HHOOK hook_;
+};
+
+TEST_F(ClassFactoryTest, SaysThatThereAreNoWindows) {
+    const NoWindows none;
+    for (const TextView name : {u"VLabel", u"VMemo", u"VOptList", u"VLabelCaption"}) {
+        SetErrorInfo(0, nullptr);
+        void* object = this;
+        EXPECT_EQ(Factory(name)->CreateInstance(nullptr, IID_IUnknown, &object),
+                  static_cast<HRESULT>(0x800A01AD));  // error 429
+        EXPECT_EQ(object, nullptr);
+        ComPtr<IErrorInfo> error;
+        ASSERT_EQ(GetErrorInfo(0, &error), S_OK);
+        BasicString description;
+        EXPECT_EQ(error->GetDescription(description.Out()), S_OK);
+        EXPECT_EQ(description.AsText(),
+                  u"No window can be created; the program may have no display");
+    }
+}
+
 // An object that aggregates a control, as some containers do.
 class Around final : public IUnknown {
  public:

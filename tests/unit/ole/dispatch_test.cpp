@@ -265,6 +265,13 @@ TEST_F(DispatchTest, KeepsTheFontThatAClientSet) {
     V_DISPATCH(&variant) = label_.Get().Get();
     EXPECT_EQ(label_.Invoke(L"Font", DISPATCH_PROPERTYPUTREF, {variant}), DISP_E_TYPEMISMATCH);
     EXPECT_EQ(label_.Invoke(L"Caption", DISPATCH_PROPERTYPUTREF, {variant}), DISP_E_MEMBERNOTFOUND);
+    // Nothing and a number.
+    V_DISPATCH(&variant) = nullptr;
+    EXPECT_EQ(label_.Invoke(L"Font", DISPATCH_PROPERTYPUTREF, {variant}), DISP_E_TYPEMISMATCH);
+    variant.vt = VT_I4;
+    EXPECT_EQ(label_.Invoke(L"Font", DISPATCH_PROPERTYPUTREF, {variant}), DISP_E_TYPEMISMATCH);
+    EXPECT_EQ(label_.Invoke(L"Font", DISPATCH_PROPERTYGET, {}, result.Get()), S_OK);
+    EXPECT_EQ(V_DISPATCH(result.Get()), font.Get());
 }
 
 TEST_F(DispatchTest, AnotherObjectsErrorsAreCarriedOver) {

@@ -18,6 +18,13 @@ class KeysTest : public OleTest {
         sent.wParam = key;
         return site_.As<IOleInPlaceActiveObject>()->TranslateAccelerator(&sent);
     }
+    // Runs the messages and returns how often the control announced other mnemonics.
+    std::ptrdiff_t TakeAnnouncements() {
+        for (MSG message; PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE) != FALSE;) {
+            DispatchMessageW(&message);
+        }
+        return std::ranges::count(site_.Log().Take(), "OnControlInfoChanged");
+    }
     void TearDown() override {
         site_.LetGo();
         OleTest::TearDown();
@@ -111,6 +118,31 @@ TEST_F(KeysTest, AContainerFindsAMnemonicOfTheOptions) {
     key.wParam = 'A';
     EXPECT_EQ(control->OnMnemonic(&key), S_OK);
     EXPECT_EQ(ToLong(list.Get(L"ListIndex")), 0);
+}
+
+TEST_F(KeysTest, TheContainerIsToldOnceWhenMnemonicsChange) {
+    Place(u"VOptList");
+    const Late list(site_.As<IDispatch>());
+    EXPECT_EQ(site_.DoVerb(OLEIVERB_INPLACEACTIVATE), S_OK);
+    EXPECT_EQ(list.Put(L"Caption", Text(u"&Fruit")), S_OK);
+    EXPECT_EQ(TakeAnnouncements(), 0);  // the container has not asked for the mnemonics
+    CONTROLINFO information = {};
+    information.cb = sizeof information;
+    ASSERT_EQ(site_.As<IOleControl>()->GetControlInfo(&information), S_OK);
+    EXPECT_EQ(TakeAnnouncements(), 0);
+    EXPECT_EQ(list.Put(L"Contents", Text(u"a;&Apple|b;&Banana|c;&Cherry")), S_OK);
+    EXPECT_EQ(TakeAnnouncements(), 1);
+    EXPECT_EQ(list.Put(L"Contents", Text(u"1;&Apple|2;&Banana|3;&Cherry")), S_OK);
+    EXPECT_EQ(list.Put(L"ListIndex", std::int16_t{1}), S_OK);
+    EXPECT_EQ(TakeAnnouncements(), 0);
+    EXPECT_EQ(list.Put(L"Caption", Text(u"Fruit")), S_OK);
+    EXPECT_EQ(TakeAnnouncements(), 1);
+    EXPECT_EQ(list.Put(L"Enabled", false), S_OK);
+    EXPECT_EQ(TakeAnnouncements(), 1);
+    ASSERT_EQ(site_.As<IOleControl>()->GetControlInfo(&information), S_OK);
+    EXPECT_EQ(information.cAccel, 0);
+    EXPECT_EQ(list.Put(L"Enabled", true), S_OK);
+    EXPECT_EQ(TakeAnnouncements(), 1);
 }
 
 TEST_F(KeysTest, ALabelUsesNoKeys) {

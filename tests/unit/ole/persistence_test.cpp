@@ -3,11 +3,14 @@
 #include "runtime/ole/control/persist_stream.h"
 #include "runtime/ole/stored/stream_format.h"
 #include "tests/ole/container/bag.h"
+#include "tests/ole/container/error_log.h"
 #include "tests/support/sealed_stream.h"
 #include "tests/unit/ole/ole_test.h"
 
 namespace lumenkit::ole {
 namespace {
+
+constexpr auto invalidValue = static_cast<HRESULT>(0x800A017C);  // error 380
 
 using Bytes = std::vector<std::uint8_t>;
 
@@ -78,6 +81,11 @@ class PersistenceTest : public OleTest {
         const ComPtr<IStream> stream = StreamOf({});
         EXPECT_EQ(As<IPersistStreamInit>(control)->Save(stream.Get(), TRUE), S_OK);
         return BytesOf(*stream.Get());
+    }
+    static Late FontOf(const ComPtr<IDispatch>& control) {
+        Variant font;
+        EXPECT_EQ(Late(control).Invoke(L"Font", DISPATCH_PROPERTYGET, {}, font.Get()), S_OK);
+        return Late(ComPtr<IDispatch>(V_DISPATCH(font.Get())));
     }
     static ComPtr<IStorage> NewStorage() {
         ComPtr<ILockBytes> memory;
@@ -168,6 +176,68 @@ TEST_F(PersistenceTest, ABagThatTakesNoObjectsIsAFailureToSave) {
     const ComPtr<IDispatch> label = Edited();
     EXPECT_EQ(As<IPersistPropertyBag>(label)->Save(&bag, TRUE, FALSE), E_NOTIMPL);
     EXPECT_EQ(As<IPersistStreamInit>(label)->IsDirty(), S_OK);
+}
+
+// The font object takes a size that the control refuses.
+TEST_F(PersistenceTest, ASaveThatFailsWritesNothingAndLeavesTheControlDirty) {
+    for (const TextView name : {u"VLabel", u"VMemo", u"VOptList"}) {
+        const ComPtr<IDispatch> control = Create<IDispatch>(name);
+        const ComPtr<IStorage> storage = NewStorage();
+        const ComPtr<IPersistStorage> keeper = As<IPersistStorage>(control);
+        const ComPtr<IPersistStreamInit> saver = As<IPersistStreamInit>(control);
+        ASSERT_EQ(keeper->Save(storage.Get(), FALSE), S_OK);
+        ASSERT_EQ(keeper->SaveCompleted(nullptr), S_OK);
+        const Bytes before = Saved(control);
+        const Late font = FontOf(control);
+        ASSERT_EQ(font.Put(L"Size", 3000.0), S_OK);
+        ASSERT_EQ(Late(control).Put(L"Enabled", false), S_OK);
+
+        const ComPtr<IStream> stream = StreamOf({});
+        EXPECT_EQ(saver->Save(stream.Get(), TRUE), invalidValue);
+        EXPECT_EQ(MessageBoxes::Take(), 1);
+        EXPECT_EQ(BytesOf(*stream.Get()), Bytes{});
+        container::Bag bag;
+        EXPECT_EQ(As<IPersistPropertyBag>(control)->Save(&bag, TRUE, TRUE), invalidValue);
+        EXPECT_EQ(bag.Size(), 0U);
+        EXPECT_EQ(keeper->Save(storage.Get(), TRUE), invalidValue);
+        EXPECT_EQ(keeper->SaveCompleted(nullptr), S_OK);
+        EXPECT_EQ(MessageBoxes::Take(), 2);
+        ULARGE_INTEGER size = {};
+        EXPECT_EQ(saver->GetSizeMax(&size), invalidValue);
+        EXPECT_EQ(MessageBoxes::Take(), 1);
+        EXPECT_EQ(saver->IsDirty(), S_OK);
+
+        const ComPtr<IDispatch> loaded = Create<IDispatch>(name);
+        ASSERT_EQ(As<IPersistStorage>(loaded)->Load(storage.Get()), S_OK);
+        EXPECT_EQ(Saved(loaded), before);
+        ASSERT_EQ(font.Put(L"Size", 12.0), S_OK);
+        EXPECT_EQ(saver->Save(stream.Get(), TRUE), S_OK);
+        EXPECT_EQ(saver->IsDirty(), S_FALSE);
+    }
+}
+
+TEST_F(PersistenceTest, AnUnusableExtentIsLoggedAndLeftOut) {
+    for (const Value& width : {Value(Text(u"wide")), Value(std::int32_t{-1}), Value(1e20),
+                               Value(std::int32_t{2000000000})}) {
+        container::Bag bag;
+        container::ErrorLog log;
+        bag.Put(L"Caption", Text(u"loaded"));
+        bag.Put(L"_ExtentX", width);
+        bag.Put(L"_ExtentY", std::int32_t{2000});
+        const ComPtr<IDispatch> label = Create<IDispatch>(u"VLabel");
+        SIZEL before = {};
+        SIZEL after = {};
+        As<IOleObject>(label)->GetExtent(DVASPECT_CONTENT, &before);
+        EXPECT_EQ(As<IPersistPropertyBag>(label)->Load(&bag, &log), S_OK);
+        As<IOleObject>(label)->GetExtent(DVASPECT_CONTENT, &after);
+        EXPECT_EQ(after.cx, before.cx);
+        EXPECT_EQ(after.cy, before.cy);
+        EXPECT_EQ(ToText(Late(label).Get(L"Caption")), u"loaded");
+        ASSERT_THAT(log.lines, ::testing::SizeIs(1));
+        EXPECT_THAT(log.lines[0],
+                    ::testing::AnyOf(L"_ExtentX: Type mismatch", L"_ExtentX: Overflow",
+                                     L"_ExtentX: Invalid property value"));
+    }
 }
 
 TEST_F(PersistenceTest, AControlThatIsUsedWithoutLoadingIsNew) {

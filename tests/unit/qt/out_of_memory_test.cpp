@@ -149,7 +149,14 @@ const std::vector<Act>& Acts() {
         {"the label's settings", u"VLabel", call,
          [](Stage& on) {
              memory::PropertyBag bag;
-             on.Control().Save(bag);
+             const std::size_t said = on.Form().interaction.said.size();
+             try {
+                 on.Control().Save(bag);
+             } catch (...) {  // the error may be reported too
+                 if (on.Form().interaction.said.size() == said) {
+                     throw;
+                 }
+             }
          },
          WithCaption},
         {"the memo's text", u"VMemo", call, [](Stage& on) { on.Let(u"Text", lines); }, AsItIs},

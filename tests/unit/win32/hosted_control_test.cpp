@@ -180,6 +180,58 @@ TEST_F(HostedControlTest, OutlivesItsWindow) {
     EXPECT_EQ(Hosted().Size().cx, 10);
 }
 
+TEST_F(HostedControlTest, LeavesAContainerWhoseWindowIsDestroyed) {
+    host::TextBoxEvents events;
+    const auto box = Parts().AddTextBox({{.name = u"T"}}, events);
+    const HWND outer = CreateWindowExW(0, L"STATIC", L"", WS_POPUP | WS_VISIBLE, 0, 0, 300, 200,
+                                       nullptr, nullptr, nullptr, nullptr);
+    const HWND inner = CreateWindowExW(0, L"STATIC", L"", WS_CHILD | WS_VISIBLE, 0, 0, 200, 100,
+                                       outer, nullptr, nullptr, nullptr);
+    Hosted().Attach(inner, {0, 0, 50, 50});
+    box->SetText(u"kept");
+    Hosted().Focus();
+    DestroyWindow(outer);
+    EXPECT_FALSE(Hosted().IsAttached());
+    ASSERT_NE(Window(), nullptr);
+    EXPECT_FALSE(IsWindowVisible(Window()));
+    EXPECT_TRUE(IsWindow(WindowOf(*box)));
+    Hosted().Attach(form_.Window(), {0, 0, 50, 50});
+    EXPECT_TRUE(IsWindowVisible(Window()));
+    EXPECT_EQ(GetParent(Window()), form_.Window());
+    EXPECT_EQ(box->GetText(), u"kept");
+    Hosted().Focus();
+    EXPECT_EQ(GetFocus(), WindowOf(*box));
+}
+
+TEST_F(HostedControlTest, TakesNoInputThatItsSiteDoesNotAccept) {
+    host::TextBoxEvents events;
+    const auto box = Parts().AddTextBox({{.name = u"T"}}, events);
+    Hosted().Focus();
+    EXPECT_EQ(GetFocus(), WindowOf(*box));
+    control_->acceptsInput = false;
+    EXPECT_TRUE(Hosted().AcceptsInput());  // until it is told
+    Hosted().AmbientChanged();
+    EXPECT_FALSE(Hosted().AcceptsInput());
+    EXPECT_EQ(GetFocus(), form_.Window());
+    EXPECT_FALSE(IsWindowEnabled(Window()));
+    EXPECT_TRUE(IsWindowEnabled(WindowOf(*box)));
+    Take();
+    Send(WM_LBUTTONDOWN, MK_LBUTTON, 10, 20);
+    Send(WM_LBUTTONUP, 0, 10, 20);
+    SendMessageW(WindowOf(*box), WM_CHAR, 'x', 1);
+    Hosted().Focus();
+    EXPECT_EQ(GetFocus(), form_.Window());
+    EXPECT_EQ(Take(), Lines{});
+    EXPECT_EQ(box->GetText(), u"");
+    control_->acceptsInput = true;
+    Hosted().AmbientChanged();
+    Send(WM_LBUTTONDOWN, MK_LBUTTON, 10, 20);
+    Send(WM_LBUTTONUP, 0, 10, 20);
+    SendMessageW(WindowOf(*box), WM_CHAR, 'x', 1);
+    EXPECT_NE(Take(), Lines{});
+    EXPECT_EQ(box->GetText(), u"x");
+}
+
 TEST_F(HostedControlTest, DrawsItsConstituentsToo) {
     const auto frame = Parts().AddFrame(
         {{.name = u"F", .placement = {.left = 300, .top = 300, .width = 1500, .height = 750}},

@@ -304,6 +304,34 @@ TEST_F(HostedPageTest, OutlivesItsWindow) {
     }
 }
 
+int ChildrenOf(HWND window) {
+    int count = 0;
+    EnumChildWindows(
+        window,
+        [](HWND /*child*/, LPARAM counted) -> BOOL {
+            ++*reinterpret_cast<int*>(counted);
+            return TRUE;
+        },
+        reinterpret_cast<LPARAM>(&count));
+    return count;
+}
+
+TEST_F(HostedPageTest, LeavesAContainerWhoseWindowIsDestroyedWithItsPreview) {
+    const auto page = NewPage();
+    const int children = ChildrenOf(page->Handle());
+    const HWND frame = CreateWindowExW(0, L"STATIC", L"", WS_POPUP | WS_VISIBLE, 0, 0, 300, 200,
+                                       nullptr, nullptr, nullptr, nullptr);
+    page->Attach(frame, {0, 0, 100, 100});
+    page->SetVisible(true);
+    DestroyWindow(frame);
+    ASSERT_NE(page->Handle(), nullptr);
+    EXPECT_FALSE(page->IsAttached());
+    EXPECT_EQ(ChildrenOf(page->Handle()), children);
+    page->Attach(form_.Window(), {0, 0, 100, 100});
+    page->SetVisible(true);
+    EXPECT_TRUE(IsWindowVisible(page->Handle()));
+}
+
 TEST_F(HostedPageTest, RefusesWhatIsNoPage) {
     EXPECT_THROW(win32::HostedPage(form_.Context(), Class(u"VMemo"), site_, selected_),
                  RuntimeError);

@@ -10,6 +10,7 @@ dump before
 "$wine" regsvr32 /s "Z:$server"
 dump registered
 "$wine" regsvr32 /s /u "Z:$server"
+"$wine" regsvr32 /s /u "Z:$server" # a second time, with nothing left to remove
 dump after
 diff "$folder/before.txt" "$folder/after.txt" || {
     echo "unregistering left something behind, or took too much"

@@ -84,6 +84,7 @@ void CheckFont(const ComPtr<Interface>& object, const ComPtr<Other>& other) {
     EXPECT_EQ(description.Read(), L"Type mismatch");
     EXPECT_EQ(raisedBy, __uuidof(Interface));
     EXPECT_EQ(object->get_Font(nullptr), E_POINTER);
+    EXPECT_EQ(object->putref_Font(nullptr), typeMismatch);
 
     ComPtr<ISupportErrorInfo> support;
     ASSERT_EQ(object.As(&support), S_OK);
