@@ -12,6 +12,7 @@ cp samples/forms/order.frm samples/forms/order.frx build/run
 form=build/run/order.frm
 
 if [ -n "${DISPLAY:-}${WAYLAND_DISPLAY:-}" ]; then
+    [ -z "${WAYLAND_DISPLAY:-}" ] || scripts/setup.sh wayland-client
     echo "Designing $form. Select the label and press \"Caption…\" to edit what it says; F5 runs the form."
     exec "$lumenform" design "$form"
 fi

@@ -21,6 +21,8 @@ declare -A groups=(
     [qt]="qt6-base-dev qt6-qpa-plugins fonts-liberation2 fonts-dejavu-core"
     [package]="dpkg-dev desktop-file-utils shared-mime-info libxml2-utils unzip"
     [screen]="xvfb xauth xdotool imagemagick openbox at-spi2-core dbus-daemon python3-pyatspi"
+    [wayland]="weston wl-clipboard qt6-wayland"
+    [wayland-client]="qt6-wayland"
 )
 
 packages=()

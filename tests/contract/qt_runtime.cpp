@@ -24,6 +24,7 @@
 #include "runtime/qt/text_box.h"
 #include "tests/contract/contract_runtime.h"
 #include "tests/support/qt_keys.h"
+#include "tests/support/qt_windows.h"
 
 namespace lumenkit::contract {
 namespace {
@@ -59,9 +60,7 @@ class QtRuntime final : public ContractRuntime, public qt::ControlSite, private 
  public:
     explicit QtRuntime(const ClassTable& classes) : classes_(classes), application_(classes) {
         window_.resize(400, 300);
-        window_.show();
-        QApplication::setActiveWindow(&window_);
-        static_cast<void>(QTest::qWaitForWindowActive(&window_));
+        testing::ShowActive(window_);
     }
 
     void PlaceNew(const ClassDescriptor& type) override {

@@ -1,8 +1,8 @@
 #include "tests/support/qt_form.h"
 
-#include <QApplication>
-#include <QTest>
 #include <stdexcept>
+
+#include "tests/support/qt_windows.h"
 
 namespace lumenkit::testing {
 
@@ -15,9 +15,7 @@ QtForm::QtForm(const ClassTable& classes, bool userMode)
                .interaction = interaction,
                .errors = [this](const RuntimeError& error) { errors.push_back(error); }} {
     window.resize(640, 480);
-    window.show();
-    QApplication::setActiveWindow(&window);
-    static_cast<void>(QTest::qWaitForWindowActive(&window));
+    ShowActive(window);
 }
 
 const ClassDescriptor& QtForm::Class(TextView name) const {

@@ -8,6 +8,7 @@
 
 #include "frame/utf8.h"
 #include "project/lumenkit_classes.h"
+#include "tests/support/qt_windows.h"
 
 namespace lumenkit::testing {
 
@@ -22,9 +23,7 @@ BrowsedForm::BrowsedForm(forms::Document document)
       browser(new lumenform::PropertyBrowser(design, messages)) {
     window.setCentralWidget(browser);
     window.resize(360, 600);
-    window.show();
-    QApplication::setActiveWindow(&window);
-    static_cast<void>(QTest::qWaitForWindowActive(&window));
+    ShowActive(window);
     browser->setFocus();
 }
 

@@ -24,6 +24,7 @@
 #include "tests/apps/lumenform/loaded_view.h"
 #include "tests/support/file_bytes.h"
 #include "tests/support/qt_keys.h"
+#include "tests/support/qt_windows.h"
 
 namespace lumenkit::testing {
 namespace {
@@ -41,9 +42,7 @@ class DesignWindowTest : public ::testing::Test {
                   .application = surface.application,
                   .interaction = surface.interaction,
                   .settings = settings}) {
-        window.show();
-        QApplication::setActiveWindow(&window);
-        static_cast<void>(QTest::qWaitForWindowActive(&window));
+        ShowActive(window);
     }
 
     QString Path(const QString& name) const { return folder.filePath(name); }

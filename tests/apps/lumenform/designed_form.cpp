@@ -7,6 +7,7 @@
 #include <stdexcept>
 
 #include "frame/utf8.h"
+#include "tests/support/qt_windows.h"
 
 namespace lumenkit::host {
 
@@ -47,9 +48,7 @@ DesignedForm::DesignedForm(forms::Document loaded)
                      [this](const QString& why) { refused.push_back(why); });
     window.setCentralWidget(canvas);
     window.resize(700, 500);
-    window.show();
-    QApplication::setActiveWindow(&window);
-    static_cast<void>(QTest::qWaitForWindowActive(&window));
+    ShowActive(window);
     canvas->setFocus();
 }
 

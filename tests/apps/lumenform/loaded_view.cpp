@@ -1,12 +1,11 @@
 #include "tests/apps/lumenform/loaded_view.h"
 
-#include <QApplication>
-#include <QTest>
 #include <stdexcept>
 
 #include "frame/utf8.h"
 #include "project/lumenkit_classes.h"
 #include "runtime/qt/element.h"
+#include "tests/support/qt_windows.h"
 
 namespace lumenkit::testing {
 
@@ -36,9 +35,7 @@ LoadedView::LoadedView(forms::Document loaded, lumenform::Mode mode)
     view->OnRaised([this](const lumenform::ControlEvent& event) {
         raised.push_back(ToUtf8(event.control) + '.' + ToUtf8(event.name));
     });
-    window.show();
-    QApplication::setActiveWindow(&window);
-    static_cast<void>(QTest::qWaitForWindowActive(&window));
+    ShowActive(window);
 }
 
 lumenform::LiveControl& LoadedView::Control(TextView name) const {

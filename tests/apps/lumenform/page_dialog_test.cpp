@@ -1,7 +1,6 @@
 // Property pages for controls in the designer: OK, Cancel, Apply, and refused values.
 #include "apps/lumenform/design/properties/page_dialog.h"
 
-#include <QApplication>
 #include <QPushButton>
 #include <QScreen>
 #include <QTest>
@@ -15,6 +14,7 @@
 #include "tests/apps/lumenform/browsed_form.h"
 #include "tests/apps/lumenform/loaded_view.h"
 #include "tests/support/qt_keys.h"
+#include "tests/support/qt_windows.h"
 
 namespace lumenkit::testing {
 namespace {
@@ -26,7 +26,9 @@ class PageDialog : public ::testing::Test {
     PageDialog() {
         form.Select({u"A"});
         dialog = form.browser->EditWithPage();
-        static_cast<void>(QTest::qWaitForWindowActive(dialog));
+        if (dialog != nullptr) {
+            ShowActive(*dialog);
+        }
     }
 
     QWidget& Box(TextView name) const { return *dialog->Page().Parts().Find(name)->Widget(); }

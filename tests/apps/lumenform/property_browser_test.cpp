@@ -14,6 +14,7 @@
 #include "frame/utf8.h"
 #include "tests/apps/lumenform/browsed_form.h"
 #include "tests/apps/lumenform/loaded_view.h"
+#include "tests/support/qt_windows.h"
 
 namespace lumenkit::testing {
 namespace {
@@ -297,8 +298,7 @@ TEST_F(PropertyBrowser, TextsWithLineBreaksAreEditedInAWindow) {
     form.Select({u"Memo1"});
     auto* const dialog = form.More<lumenform::TextDialog>(u"Text");
     ASSERT_NE(dialog, nullptr);
-    QApplication::setActiveWindow(dialog);
-    ASSERT_TRUE(QTest::qWaitForWindowActive(dialog));
+    ShowActive(*dialog);
     auto* const edit = dialog->findChild<QPlainTextEdit*>();
     edit->setFocus();
     edit->selectAll();
@@ -310,7 +310,7 @@ TEST_F(PropertyBrowser, TextsWithLineBreaksAreEditedInAWindow) {
     EXPECT_EQ(form.Shown(u"Text"), "one  two");
     EXPECT_THAT(form.Saved(), HasSubstr("Text            =   $\"x.frx\":0000\n"));
     // The line in the list is read-only.
-    QApplication::setActiveWindow(&form.window);
+    ShowActive(form.window);
     form.browser->Edit(u"Text");
     auto* const line = qobject_cast<QLineEdit*>(QApplication::focusWidget());
     ASSERT_NE(line, nullptr);

@@ -9,17 +9,14 @@
 #include "forms/file.h"
 #include "runtime/qt/element.h"
 #include "tests/apps/lumenform/loaded_view.h"
+#include "tests/support/qt_windows.h"
 
 namespace lumenkit::testing {
 namespace {
 
 class RunWindowTest : public ::testing::Test {
  protected:
-    RunWindowTest() {
-        window_.show();
-        QApplication::setActiveWindow(&window_);
-        static_cast<void>(QTest::qWaitForWindowActive(&window_));
-    }
+    RunWindowTest() { ShowActive(window_); }
 
     Surface surface_;
     forms::Document document_ = forms::Load(sampleForms / "options.frm");

@@ -21,6 +21,7 @@
 #include "runtime/qt/text_box.h"
 #include "tests/support/qt_form.h"
 #include "tests/support/qt_keys.h"
+#include "tests/support/qt_windows.h"
 
 namespace lumenkit::qt {
 namespace {
@@ -31,8 +32,7 @@ class QtPageTest : public ::testing::Test {
  protected:
     QtPageTest() : label_(form_.Place(u"VLabel", {0, 0, 3000, 1500})) {
         label_.Automation().Let(u"Caption", Text(u"x abc y"));
-        page_->show();
-        QApplication::setActiveWindow(page_.get());
+        testing::ShowActive(*page_);
         page_->Select({label_.SharedAutomation()});
         page_->SetChanged(false);
         page_->OnChanged([this](bool changed) { told_.push_back(changed); });

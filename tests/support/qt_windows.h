@@ -1,0 +1,13 @@
+#pragma once
+
+#include <QWidget>
+
+namespace lumenkit::testing {
+
+/// Returns whether the program is a client of a Wayland compositor.
+bool IsOnWayland();
+
+/// Shows the window, and returns when it is active. Throws if that takes too long.
+void ShowActive(QWidget& window);
+
+}  // namespace lumenkit::testing
