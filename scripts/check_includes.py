@@ -67,11 +67,12 @@ ALLOWED = {
                        "apps/lumenform/form_view", "apps/lumenform/run",
                        "apps/lumenform/design/model", "apps/lumenform/design/properties",
                        "apps/lumenform/design/window"],
-    # Tests and samples, which combine the libraries.
+    # Tests, samples and tools, which combine the libraries.
     "tests": None,
     "bench": None,
     "fuzz": None,
     "samples": None,
+    "scripts": None,
 }
 # The folders in the diagram, by group, with a note. Any other folder is drawn as the folder here that
 # contains it, or else by itself, outside the groups. Folders that may include all others are not
@@ -102,7 +103,7 @@ DIAGRAM_DOCUMENT = "docs/architecture.md"
 
 # Folders that may use the headers of a platform or of another library.
 COM_FOLDERS = [folder for folder in ALLOWED if folder.startswith("runtime/ole") and folder != "runtime/ole/stored"]
-OTHER_LIBRARIES = ["runtime/win32", "runtime/qt", *COM_FOLDERS, "server", "tests", "bench", "fuzz", "samples"]
+OTHER_LIBRARIES = ["runtime/win32", "runtime/qt", *COM_FOLDERS, "server", "tests", "bench", "fuzz", "samples", "scripts"]
 OTHER_LIBRARIES += [folder for folder in ALLOWED if folder.startswith("apps/")]
 # Files in other folders that call the system or use processor instructions, with their headers.
 SYSTEM_HEADERS = {

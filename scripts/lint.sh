@@ -9,7 +9,7 @@ cd "$(dirname "$0")/.."
 databases=build/lint
 
 # Two builds compile all sources, many in one translation unit: clang-tidy takes most of its time for
-# the headers of other libraries, and reads them once for each unit. For Linux the compiler is clang.
+# reading the headers of other libraries, once for each unit. For Linux the compiler is clang.
 configure_linux() {
     configure native linux -DCMAKE_CXX_COMPILER=clang++ -DLUMENKIT_FUZZ=ON
 }
@@ -34,17 +34,25 @@ copy_settings() {
     git ls-files '*/.clang-tidy' | xargs cp --parents -t "$databases/$1"
 }
 
+# The module that keeps the checks out of system headers.
+scope=$databases/lint_scope.so
+build_scope() {
+    scope_options=(-std=c++20 -fPIC -isystem "$(llvm-config --includedir)")
+    clang++ "${scope_options[@]}" -shared -O1 scripts/lint_scope.cpp -o "$scope"
+}
+
 # check DATABASE [option...]: the units that were chosen from it. In a unit, a local may shadow a name
 # of another source.
 check() {
     xargs -r -P "$(nproc)" -n 1 clang-tidy -p "$databases/$1" --quiet --warnings-as-errors='*' \
-        --checks=-bugprone-suspicious-include --extra-arg=-Wno-shadow "${filter[@]}" "${@:2}" <"$units/$1" \
+        --load="$scope" --checks=-bugprone-suspicious-include,lumenkit-scope --extra-arg=-Wno-shadow "${filter[@]}" "${@:2}" <"$units/$1" \
         2> >(grep -vE '^[0-9]+ warnings? (generated|treated)|^Suppressed|^Use -header-filter' >&2)
 }
 
 scripts/setup.sh build qt bench fuzz windows lint
 configure_linux
 configure_windows
+build_scope
 
 units=$(mktemp -d)
 trap 'rm -rf "$units"' EXIT
@@ -55,9 +63,10 @@ if [ $# -gt 0 ]; then
 else
     git ls-files --cached --others --exclude-standard '*.cpp' >"$units/sources"
 fi
-# Programs that use the installed library are compiled by tests/install.
-grep -E '^(samples/library|tests/install)/' "$units/sources" >"$units/users" || true
-grep -vE '^(samples/library|tests/install)/' "$units/sources" |
+# Compiled by tests/install, which uses the installed library, and above.
+alone='^(samples/library|tests/install|scripts)/'
+grep -E "$alone" "$units/sources" >"$units/alone" || true
+grep -vE "$alone" "$units/sources" |
     python3 scripts/lint_units.py "$units" "$databases/linux" "$databases/windows"
 if [ -s "$units/none" ]; then
     echo "compiled by no build, so not checked:" >&2
@@ -69,12 +78,16 @@ fi
 compiler=x86_64-w64-mingw32-g++-posix
 library=$(dirname "$("$compiler" -print-libgcc-file-name)")/include/c++
 status=0
-mapfile -t users <"$units/users"
-for source in "${users[@]}"; do
-    # A program beside the library compiles without its headers, and in its own language.
+mapfile -t alone <"$units/alone"
+for source in "${alone[@]}"; do
     options=(-std=c++20 -I.)
-    [ "$source" != tests/install/consumer/bystander.cpp ] || options=(-std=c++17)
-    clang-tidy --quiet --warnings-as-errors='*' "$source" -- "${options[@]}" || status=1
+    case $source in
+        # Compiles without the library's headers, and in its own language.
+        tests/install/consumer/bystander.cpp) options=(-std=c++17) ;;
+        scripts/lint_scope.cpp) options=("${scope_options[@]}") ;;
+    esac
+    clang-tidy --load="$scope" --checks=lumenkit-scope --quiet --warnings-as-errors='*' "$source" -- \
+        "${options[@]}" || status=1
 done
 check linux || status=1
 check windows --extra-arg=--target=x86_64-w64-mingw32 --extra-arg=-Wno-unused-command-line-argument \
