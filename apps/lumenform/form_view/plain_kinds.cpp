@@ -72,7 +72,14 @@ PlainWidget MakeMultiLine(const BlockReader& reader, const PlainSink& raise) {
     box->setReadOnly(reader.Flag(u"Locked", false));
     box->setTabChangesFocus(true);
     SetBorder(*box, reader.Whole(u"BorderStyle", 1));
-    QObject::connect(box.get(), &QPlainTextEdit::textChanged, [raise] { raise(u"Change"); });
+    // Qt also reports what an input method composes and drops.
+    QObject::connect(box.get(), &QPlainTextEdit::textChanged,
+                     [raise, edit = box.get(), text = box->toPlainText()]() mutable {
+                         if (QString now = edit->toPlainText(); now != text) {
+                             text = std::move(now);
+                             raise(u"Change");
+                         }
+                     });
     return {std::move(box)};
 }
 

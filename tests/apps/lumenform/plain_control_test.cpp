@@ -1,6 +1,8 @@
 // Controls that are not of this library, as plain widgets.
+#include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QInputMethodEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
@@ -24,6 +26,7 @@ namespace {
 using namespace std::string_literals;
 using ::testing::Contains;
 using ::testing::ElementsAre;
+using ::testing::IsEmpty;
 using ::testing::Not;
 
 template <typename T>
@@ -67,6 +70,21 @@ TEST(PlainControl, TellsWhatThePersonDoes) {
     QTest::mouseClick(&view.Control(u"B").Widget(), Qt::LeftButton);
     QTest::keyClick(&view.Control(u"T").Widget(), Qt::Key_A);
     EXPECT_THAT(view.raised, ElementsAre("B.Click", "T.Change"));
+}
+
+TEST(PlainControl, AnInputMethodThatCommitsNothingChangesNothing) {
+    const LoadedView view(FormWith("   Begin VB.TextBox M\n MultiLine = -1 'True\n End\n"));
+    QWidget& box = view.Control(u"M").Widget();
+    box.setFocus();
+    QInputMethodEvent composing(QStringLiteral("a"), {});
+    QInputMethodEvent dropping;
+    QApplication::sendEvent(&box, &composing);
+    QApplication::sendEvent(&box, &dropping);
+    EXPECT_THAT(view.raised, IsEmpty());
+    QInputMethodEvent committing;
+    committing.setCommitString(QStringLiteral("a"));
+    QApplication::sendEvent(&box, &committing);
+    EXPECT_THAT(view.raised, ElementsAre("M.Change"));
 }
 
 TEST(PlainControl, EnterAndEscPressTheirButtonsFromAfar) {
