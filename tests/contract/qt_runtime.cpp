@@ -16,13 +16,13 @@
 #include "runtime/qt/form_container.h"
 #include "runtime/qt/hosted_control.h"
 #include "runtime/qt/input.h"
-#include "runtime/qt/interaction.h"
 #include "runtime/qt/option_button.h"
 #include "runtime/qt/qt_text.h"
 #include "runtime/qt/scroll_bar.h"
 #include "runtime/qt/surface_widget.h"
 #include "runtime/qt/text_box.h"
 #include "tests/contract/contract_runtime.h"
+#include "tests/support/qt_form.h"
 #include "tests/support/qt_keys.h"
 #include "tests/support/qt_windows.h"
 
@@ -158,7 +158,7 @@ class QtRuntime final : public ContractRuntime, public qt::ControlSite, private 
 
     const ClassTable& classes_;
     qt::Application application_;
-    qt::Interaction interaction_;
+    testing::WrittenInteraction interaction_;
     qt::Context context_{
         .classes = classes_, .application = application_, .interaction = interaction_};
     QMainWindow window_;

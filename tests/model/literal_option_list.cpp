@@ -11,7 +11,6 @@ struct LiteralError {
 };
 
 constexpr int overflow = 6;
-constexpr int objectNotSet = 91;
 constexpr int invalidValue = 380;
 
 int Fit16(long number) {
@@ -186,9 +185,6 @@ void LiteralOptionList::LetEnabled(bool enabled) {
 
 void LiteralOptionList::SetFont(std::shared_ptr<LiteralFont> font) {
     Trapped("pSetFont", [&] {
-        if (!font) {
-            throw LiteralError{objectNotSet};
-        }
         frame_.font = font;
         PropertyChanged("Font");
     });

@@ -15,6 +15,8 @@ namespace {
 
 using Mode = PlacedOptionList::Mode;
 
+constexpr std::int32_t typeMismatch = 13;
+
 LiteralFont Attributes(const host::Font& font) {
     return {.name = font.Name(), .size = font.Size(), .bold = font.Bold(), .italic = font.Italic()};
 }
@@ -136,8 +138,15 @@ void OptionListTwins::UseNewFont(const Text& name) {
 }
 
 void OptionListTwins::UseNoFont() {
-    Control().Set(u"Font", nullptr);
-    literal_->SetFont(nullptr);
+    try {
+        Control().Set(u"Font", nullptr);
+    } catch (const RuntimeError& error) {
+        if (error.Number() == typeMismatch) {
+            return;
+        }
+        throw;
+    }
+    throw std::logic_error("the list took Nothing as its font");
 }
 
 void OptionListTwins::MakeFontItalic(bool italic) {

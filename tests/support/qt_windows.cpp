@@ -12,12 +12,16 @@ bool IsOnWayland() {
 
 void ShowActive(QWidget& window) {
     window.show();
-    // On Wayland, only the compositor makes a window active, and it tells later which one is. If Qt
-    // called the window active before that, it would lose the focus again during the test.
     if (!IsOnWayland()) {
         QApplication::setActiveWindow(&window);
+        static_cast<void>(QTest::qWaitForWindowActive(&window));
+        return;
     }
-    if (!QTest::qWaitFor([&] { return window.isActiveWindow(); })) {
+    // Only the compositor makes a window active, and it tells later which one is. If Qt called the
+    // window active before that, it would lose the focus again during the test. The window itself
+    // may call itself active a moment before the application does.
+    if (!QTest::qWaitForWindowExposed(&window) ||
+        !QTest::qWaitFor([&] { return QApplication::activeWindow() == &window; })) {
         throw std::runtime_error("the window does not become active");
     }
 }

@@ -172,6 +172,7 @@ TEST_F(CheckFolder, LooksForFormsByTheirExtensions) {
          {"a.frm", "B.CTL", "c.Pag", "deep/er/d.dob", "e.txt", "f.frx", "frm", "g.frm.bak"}) {
         Write(name, FormWith("|blod:1|"));
     }
+    Write("e.txt", "|blod:1|");
     fs::create_directories(folder / "folder.frm");
     EXPECT_THAT(Check().output, EndsWith("\n4 files checked: 4 findings\n"));
     EXPECT_THAT(Check("--caption").output, EndsWith("\n1 file checked: 1 finding\n"));

@@ -11,7 +11,7 @@ namespace {
 
 using ::testing::HasSubstr;
 
-constexpr const char* form =
+constexpr const char* heldForm =
     "VERSION 5.00\nBegin A B\n   Begin C D\n      One = 1\n      Two = \"2\"\n   End\nEnd\n";
 
 // Makes a keeper for the block D, whose values are those of the form.
@@ -25,7 +25,7 @@ class Kept {
     bool fails = false;
 
  private:
-    Document document_ = ParseBytes(form);
+    Document document_ = ParseBytes(heldForm);
     BlockKeeper::SaveControl save_ = [this](host::PropertyBag& bag) {
         bag.WriteProperty(u"One", one, Empty());
         if (fails) {
@@ -39,7 +39,7 @@ class Kept {
 TEST(BlockKeeper, WritesTheValuesThatChanged) {
     Kept kept;
     kept.Update();
-    EXPECT_EQ(kept.Written(), form);
+    EXPECT_EQ(kept.Written(), heldForm);
     kept.two = u"three";
     kept.Update();
     EXPECT_THAT(kept.Written(), HasSubstr("      One = 1\n      Two"));
@@ -51,7 +51,7 @@ TEST(BlockKeeper, LeavesTheBlockAsItIsWhenTheControlCannotBeSaved) {
     kept.one = 11;
     kept.fails = true;
     EXPECT_THAT([&] { kept.Update(); }, Raises(7));
-    EXPECT_EQ(kept.Written(), form);
+    EXPECT_EQ(kept.Written(), heldForm);
     kept.fails = false;
     kept.Update();
     EXPECT_THAT(kept.Written(), HasSubstr("11\n"));

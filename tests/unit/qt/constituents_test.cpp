@@ -434,6 +434,7 @@ TEST_F(QtConstituentsTest, APaintedTextIsReadOut) {
         surface.Print(u"another");
     };
     QWidget& area = control_.Drawing().Area();
+    control_.Drawing().Refresh();
     area.repaint();
     EXPECT_EQ(NameOf(area), QStringLiteral("one line\nanother"));
     EXPECT_EQ(Accessible(area).role(), QAccessible::StaticText);

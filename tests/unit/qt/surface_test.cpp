@@ -120,6 +120,8 @@ TEST_F(QtSurfaceTest, TextStandsBelowAndRightOfThePen) {
 TEST_F(QtSurfaceTest, ControlCharactersAreDrawnAsBlanks) {
     const auto draw = [&](const Text& text) {
         OnPaint([&](host::Surface& surface) {
+            surface.SetCurrentX(0);
+            surface.SetCurrentY(0);
             surface.Print(text);
             surface.Print(u"|");
         });

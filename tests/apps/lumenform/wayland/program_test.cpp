@@ -18,10 +18,10 @@ class Program {
  public:
     explicit Program(const QStringList& arguments) {
         // As in a session that has no X display: the program finds the compositor by itself.
-        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-        environment.remove(QStringLiteral("QT_QPA_PLATFORM"));
-        environment.remove(QStringLiteral("DISPLAY"));
-        program_.setProcessEnvironment(environment);
+        QProcessEnvironment variables = QProcessEnvironment::systemEnvironment();
+        variables.remove(QStringLiteral("QT_QPA_PLATFORM"));
+        variables.remove(QStringLiteral("DISPLAY"));
+        program_.setProcessEnvironment(variables);
         program_.start(QStringLiteral(LUMENKIT_PROGRAM), arguments);
     }
     ~Program() {

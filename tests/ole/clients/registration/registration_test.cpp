@@ -49,8 +49,8 @@ class Server {
         const std::filesystem::path build = LUMENKIT_BINARY_DIR;
         const std::filesystem::path copy = build / "registration" / folder / "lumenkit.ocx";
         std::filesystem::create_directories(copy.parent_path());
-        std::filesystem::copy_file(build / "lumenkit.ocx", copy,
-                                   std::filesystem::copy_options::overwrite_existing);
+        const std::filesystem::path original = build / "lumenkit.ocx";
+        EXPECT_TRUE(CopyFileW(original.c_str(), copy.c_str(), FALSE)) << GetLastError();
         module_ = LoadLibraryW(copy.c_str());
         EXPECT_NE(module_, nullptr) << GetLastError();
     }
@@ -98,11 +98,15 @@ void SetText(const std::wstring& key, const std::wstring& text, REGSAM view = 0)
     RegCloseKey(open);
 }
 
+// Opens the folder of the key in the view, because Wine does not keep the view of the root.
 void Remove(const std::wstring& key, REGSAM view = 0) {
-    HKEY root = nullptr;
-    if (RegOpenKeyExW(HKEY_CLASSES_ROOT, L"", 0, KEY_ALL_ACCESS | view, &root) == ERROR_SUCCESS) {
-        RegDeleteTreeW(root, key.c_str());
-        RegCloseKey(root);
+    const std::size_t end = key.rfind(L'\\');
+    const std::wstring folder = end == std::wstring::npos ? L"" : key.substr(0, end);
+    HKEY open = nullptr;
+    if (RegOpenKeyExW(HKEY_CLASSES_ROOT, folder.c_str(), 0, KEY_ALL_ACCESS | view, &open) ==
+        ERROR_SUCCESS) {
+        RegDeleteTreeW(open, key.c_str() + (folder.empty() ? 0 : end + 1));
+        RegCloseKey(open);
     }
 }
 

@@ -122,9 +122,6 @@ Equal "BorderStyle", 1, label.BorderStyle
 Box "VLABEL pLetMousePointer 380"
 label.MousePointer = 16
 Equal "MousePointer", 11, label.MousePointer
-Box "VLABEL pSetFont 91"
-Set label.Font = Nothing
-Equal "Font.Name", "Arial", label.Font.Name
 
 ' Misuse raises an error in the script.
 On Error Resume Next
@@ -138,6 +135,9 @@ label.BulletIndent = 40000
 Raised "too large a number", 6
 label.BulletIndent = "many"
 Raised "text for a number", 13
+Set label.Font = Nothing
+Raised "no font", 13
+Equal "Font.Name", "Arial", label.Font.Name
 label.WordWrap = "perhaps"
 Raised "text for a Boolean", 13
 label.Enabled = label
