@@ -45,6 +45,7 @@ class ScopeModule : public clang::tidy::ClangTidyModule {
     }
 };
 
+// NOLINTNEXTLINE(cert-err58-cpp): the registry of the modules is made that way.
 const clang::tidy::ClangTidyModuleRegistry::Add<ScopeModule> registration("lumenkit", "");
 
 }  // namespace

@@ -1,7 +1,7 @@
 #include "runtime/shared/edit_history.h"
 
+#include <algorithm>
 #include <new>
-#include <ranges>
 #include <utility>
 
 #include "runtime/shared/text_difference.h"
@@ -184,9 +184,8 @@ void EditHistory::Replace(Text& text, const Replacement& replacement, bool back)
 
 void EditHistory::Move(Text& text, const Step& step, bool back) {
     if (back) {
-        for (const Replacement& replacement : step.replacements | std::views::reverse) {
-            Replace(text, replacement, true);
-        }
+        std::for_each(step.replacements.rbegin(), step.replacements.rend(),
+                      [&](const Replacement& replacement) { Replace(text, replacement, true); });
     } else {
         for (const Replacement& replacement : step.replacements) {
             Replace(text, replacement, false);
@@ -247,13 +246,14 @@ bool EditHistory::Undo(const Perform& perform) {
     const Step& step = steps_[done_ - 1];
     const bool forward = step.kind == EditKind::DeletingForward;
     return OrForget([&] {
-        for (const Replacement& one : step.replacements | std::views::reverse) {
+        const auto take = [&](const Replacement& one) {
             Replace(*text_, one, true);
             perform({.start = one.start,
                      .length = one.inserted.size(),
                      .text = one.removed,
                      .caret = forward ? one.start : one.start + one.removed.size()});
-        }
+        };
+        std::for_each(step.replacements.rbegin(), step.replacements.rend(), take);
         --done_;
         last_ = Last::Undo;
         mayContinue_ = false;
