@@ -16,6 +16,7 @@
 #include <utility>
 
 #include "frame/scoped_count.h"
+#include "runtime/qt/drop_action.h"
 #include "runtime/qt/entered_units.h"
 #include "runtime/qt/input.h"
 #include "runtime/qt/pixels.h"
@@ -519,6 +520,16 @@ void TextEdit::Insert(const QMimeData& source) {
     }
 }
 
+void TextEdit::dragEnterEvent(QDragEnterEvent* event) {
+    QPlainTextEdit::dragEnterEvent(event);
+    AskForCopy(*event);
+}
+
+void TextEdit::dragMoveEvent(QDragMoveEvent* event) {
+    QPlainTextEdit::dragMoveEvent(event);
+    AskForCopy(*event);
+}
+
 // The source of a move deletes what it moved. If the box did not take all of the text, or the
 // receiver of the events refused it, the source keeps it.
 void TextEdit::dropEvent(QDropEvent* event) {
@@ -534,15 +545,15 @@ void TextEdit::dropEvent(QDropEvent* event) {
     if (event->dropAction() != Qt::MoveAction || event->source() == viewport()) {
         return;
     }
-    const bool mayCopy = event->possibleActions().testFlag(Qt::CopyAction);
-    event->setDropAction(mayCopy ? Qt::CopyAction : Qt::IgnoreAction);
+    bool isWhole = false;
     HandleEvent(errors_, [&] {
         const Text text = FromMimeData(*event->mimeData());
-        if (text_.Version() == dropped &&
-            Length() - before == static_cast<std::int32_t>(text.size())) {
-            event->setDropAction(Qt::MoveAction);
-        }
+        isWhole = text_.Version() == dropped &&
+                  Length() - before == static_cast<std::int32_t>(text.size());
     });
+    if (!isWhole) {
+        LetSourceKeep(*event);
+    }
 }
 
 void TextEdit::SetLocked(bool locked) {

@@ -15,6 +15,7 @@
 #include "apps/lumenform/form_view/command_button.h"
 #include "apps/lumenform/form_view/companion_records.h"
 #include "apps/lumenform/form_view/labelled_box.h"
+#include "apps/lumenform/form_view/line_edit.h"
 #include "apps/lumenform/form_view/saved_place.h"
 #include "apps/lumenform/form_view/shapes.h"
 #include "forms/controls.h"
@@ -87,7 +88,7 @@ PlainWidget MakeTextBox(const BlockReader& reader, const PlainSink& raise) {
     if (reader.Flag(u"MultiLine", false)) {
         return MakeMultiLine(reader, raise);
     }
-    auto box = std::make_unique<QLineEdit>(qt::ToQString(reader.String(u"Text")));
+    auto box = std::make_unique<LineEdit>(qt::ToQString(reader.String(u"Text")));
     box->setAlignment(AlignmentOf(reader) | Qt::AlignVCenter);
     box->setReadOnly(reader.Flag(u"Locked", false));
     box->setFrame(reader.Whole(u"BorderStyle", 1) != 0);
