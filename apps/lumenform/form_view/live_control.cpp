@@ -26,7 +26,7 @@ LiveControl::LiveControl(const Stage& stage, const Surroundings& around, forms::
 }
 
 host::Placement LiveControl::SavedPlace(const host::Placement& otherwise) const {
-    return scale_.ToTwips(lumenform::SavedPlace(reader_, scale_.FromTwips(otherwise)));
+    return lumenform::SavedPlace(reader_, scale_, otherwise);
 }
 
 void LiveControl::Save() {
@@ -38,7 +38,7 @@ void LiveControl::SavePlace() {
     if (storedPlace_ == place) {
         return;
     }
-    StorePlace(reader_, scale_.FromTwips(storedPlace_), scale_.FromTwips(place));
+    StorePlace(reader_, scale_, storedPlace_, place);
     StoreExtent(Block(), u"_ExtentX", storedPlace_.width, place.width);
     StoreExtent(Block(), u"_ExtentY", storedPlace_.height, place.height);
     storedPlace_ = place;

@@ -72,19 +72,6 @@ TEST(FormView, LiesAsTheFileSays) {
     EXPECT_EQ(label.parentWidget(), &view.Control(u"picInner").Inside().widget);
 }
 
-TEST(FormView, UnderstandsOtherUnits) {
-    const LoadedView view(
-        FormWith("   ScaleMode = 3\n   ScaleWidth = 300\n   ScaleHeight = 200\n"
-                 "   Begin lumenkit.VLabel A\n Left = 10\n Top = 20\n Width = 30\n Height = 40\n"
-                 "   End\n"
-                 "   Begin VB.PictureBox P\n BorderStyle = 0\n Left = 100\n Top = 0\n Width = 100\n"
-                 "      Height = 50\n ScaleMode = 0\n ScaleWidth = 10\n ScaleHeight = 10\n"
-                 "      Begin VB.Label L\n Left = 1\n Top = 2\n Width = 3\n Height = 4\n End\n"
-                 "   End\n"));
-    EXPECT_EQ(view.Control(u"A").Widget().geometry(), QRect(10, 20, 30, 40));
-    EXPECT_EQ(view.Control(u"L").Widget().geometry(), QRect(10, 10, 30, 20));
-}
-
 TEST(FormView, TheFirstInTheFileIsInFrontAndLabelsAreBehind) {
     const LoadedView view(
         FormWith("   Begin VB.Label L\n Width = 900\n Height = 900\n End\n"

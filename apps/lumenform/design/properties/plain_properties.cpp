@@ -147,14 +147,12 @@ std::vector<ObjectProperty> PropertiesIn(FormDesign& design, forms::Block& block
     return properties;
 }
 
-// Scales a form's ScaleWidth or ScaleHeight with the client area, unless the form has custom units.
+// Scales a form's ScaleWidth or ScaleHeight with the client area: the units keep their size.
 void StretchScale(const FormDesign& design, TextView client, TextView scale, float former,
                   float now) {
     forms::Block& form = design.Document().Root();
     const BlockReader reader(design.Document(), form);
-    constexpr std::int32_t ownUnits = 0;
-    constexpr std::int32_t twips = 1;
-    if (!reader.Has(scale) || reader.Whole(u"ScaleMode", twips) == ownUnits || former <= 0) {
+    if (!reader.Has(scale) || former <= 0) {
         return;
     }
     form.Set(scale, forms::NumberLiteral(reader.Number(scale, former) * now / former), client);
