@@ -1,7 +1,6 @@
 #include "apps/lumenform/form_view/form_size.h"
 
 #include "apps/lumenform/form_view/scale.h"
-#include "frame/runtime_error.h"
 
 namespace lumenkit::lumenform {
 
@@ -12,12 +11,9 @@ FormSize ClientSizeOf(const BlockReader& form) {
     const float scaledWidth = scale.across.LengthToTwips(form.Number(u"ScaleWidth", 0));
     const float scaledHeight = scale.down.LengthToTwips(form.Number(u"ScaleHeight", 0));
     const auto length = [&](TextView name, float scaled, float usual) {
-        const float twips = form.Number(name, scaled > 0 ? scaled : usual);
-        if (twips < 0) {
-            Refuse(form.Document(), form.Block().FindProperty(name)->ValuePlace(), name,
-                   RuntimeErrorText(static_cast<std::int32_t>(ErrorNumber::InvalidPropertyValue)));
-        }
-        return twips;
+        const float otherwise = scaled > 0 ? scaled : usual;
+        const float twips = form.Number(name, otherwise);
+        return twips < 0 ? otherwise : twips;
     };
     return {length(u"ClientWidth", scaledWidth, usualWidth),
             length(u"ClientHeight", scaledHeight, usualHeight)};

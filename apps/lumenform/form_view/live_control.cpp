@@ -20,13 +20,22 @@ LiveControl::LiveControl(const Stage& stage, const Surroundings& around, forms::
       scale_(around.scale),
       name_(forms::NameInCode(block)),
       tabStop_(reader_.Flag(u"TabStop", true)) {
-    if (reader_.Has(u"TabIndex")) {
-        tabIndex_ = reader_.Whole(u"TabIndex", 0);
+    constexpr std::int32_t last = 32767;
+    const std::int32_t turn = reader_.Whole(u"TabIndex", -1);
+    if (turn >= 0 && turn <= last) {
+        tabIndex_ = turn;
     }
 }
 
 host::Placement LiveControl::SavedPlace(const host::Placement& otherwise) const {
-    return lumenform::SavedPlace(reader_, scale_, otherwise);
+    host::Placement place = lumenform::SavedPlace(reader_, scale_, otherwise);
+    if (place.width < 0) {
+        place.width = otherwise.width;
+    }
+    if (place.height < 0) {
+        place.height = otherwise.height;
+    }
+    return place;
 }
 
 void LiveControl::Save() {

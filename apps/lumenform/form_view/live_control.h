@@ -61,7 +61,8 @@ class LiveControl {
     LiveControl(const Stage& stage, const Surroundings& around, forms::Block& block);
 
     const BlockReader& Reader() const { return reader_; }
-    /// Returns the place in the block, in twips. `otherwise` replaces missing values.
+    /// Returns the place in the block, in twips. `otherwise` replaces missing values and
+    /// negative sizes.
     host::Placement SavedPlace(const host::Placement& otherwise) const;
     /// The place that the block describes, in twips.
     const host::Placement& StoredPlace() const { return storedPlace_; }

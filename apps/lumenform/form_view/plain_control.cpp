@@ -15,10 +15,6 @@ PlainControl::PlainControl(const Stage& stage, const Surroundings& around, forms
       colors_{Reader().ColorOf(u"ForeColor", kind_.usual.fore),
               Reader().ColorOf(u"BackColor", kind_.usual.back)},
       place_(SavedPlace(kind_.place)) {
-    if (place_.width < 0 || place_.height < 0) {
-        Refuse(stage.document, block.NamePlace(), Name(),
-               RuntimeErrorText(static_cast<std::int32_t>(ErrorNumber::InvalidPropertyValue)));
-    }
     std::shared_ptr<qt::Font> font = Reader().Font();
     if (font == nullptr) {
         font = around.font;

@@ -143,25 +143,28 @@ void PasteClip(FormDesign& design, const Clip& clip, const QString& title) {
     const forms::Document copied = Parsed(clip);
     const LiveControl* const target = PasteTarget(design, copied);
     const Scale scale = InsideOf(design, target).scale;
-    design.Restructure(title, [&] {
-        forms::Document& document = design.Document();
-        forms::Block& parent = BlockOf(design, target);
-        RequireLibrariesOf(copied, document, design.Context().classes);
-        SettleInto(document.Root(), copied.Root());
-        const forms::Block* const foremost = Foremost(parent);
-        std::vector<forms::Block*> pasted;
-        std::vector<Text> names;
-        for (const forms::Block* original : copied.Root().Controls()) {
-            forms::Block& copy =
-                forms::CopyControl(copied, *original, document, parent, original->Name());
-            Rescale(BlockReader(document, copy), clip.scale, scale);
-            parent.MoveControl(copy, foremost);
-            pasted.push_back(&copy);
-            names.push_back(forms::NameInCode(copy));
-        }
-        StepAside(document, parent, pasted, scale);
-        return names;
-    });
+    design.Restructure(
+        title,
+        [&] {
+            forms::Document& document = design.Document();
+            forms::Block& parent = BlockOf(design, target);
+            RequireLibrariesOf(copied, document, design.Context().classes);
+            SettleInto(document.Root(), copied.Root());
+            const forms::Block* const foremost = Foremost(parent);
+            std::vector<forms::Block*> pasted;
+            std::vector<Text> names;
+            for (const forms::Block* original : copied.Root().Controls()) {
+                forms::Block& copy =
+                    forms::CopyControl(copied, *original, document, parent, original->Name());
+                Rescale(BlockReader(document, copy), clip.scale, scale);
+                parent.MoveControl(copy, foremost);
+                pasted.push_back(&copy);
+                names.push_back(forms::NameInCode(copy));
+            }
+            StepAside(document, parent, pasted, scale);
+            return names;
+        },
+        NewWarnings::Accept);
 }
 
 }  // namespace

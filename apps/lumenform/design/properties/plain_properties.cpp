@@ -110,7 +110,8 @@ ObjectProperty UnknownProperty(FormDesign& design, forms::Block& block,
         return Unchangeable(property.Name(), u"(companion)");
     }
     if (std::holds_alternative<forms::Shortcut>(literal) ||
-        std::holds_alternative<forms::Guid>(literal)) {
+        std::holds_alternative<forms::Guid>(literal) ||
+        std::holds_alternative<forms::UnreadValue>(literal)) {
         return Unchangeable(property.Name(), forms::SourceOf(literal));
     }
     return MakeProperty(design, block, {.name = property.Name(), .type = TypeOf(property)});
