@@ -111,7 +111,9 @@ Document Document::Read(std::string name, Encoding encoding, std::string_view by
     ParsedForm form = ParseForm(Decode(name, encoding, bytes), name);
     Document document(std::move(name), std::move(encoding), std::move(form));
     document.ReadCompanion(readCompanion);
-    CheckContainerValues(document);
+    for (Warning& warning : ContainerWarnings(document.Root())) {
+        document.Warn(warning.place, std::move(warning.text));
+    }
     return document;
 }
 
