@@ -1,12 +1,15 @@
 #include "forms/file.h"
 
+#include <array>
 #include <fstream>
 #include <iterator>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <system_error>
 
 #include "forms/flush.h"
+#include "frame/text.h"
 #include "frame/utf8.h"
 
 namespace lumenkit::forms {
@@ -18,6 +21,27 @@ namespace fs = std::filesystem;
 std::string NameOf(const fs::path& path) {
     const std::u8string name = path.u8string();
     return {name.begin(), name.end()};
+}
+
+bool IsSameName(const fs::path& path, TextView fileName) {
+    try {
+        return SameText(FromUtf8(NameOf(path.filename())), fileName, Compare::IgnoreCase);
+    } catch (const MalformedUtf8&) {
+        return false;
+    }
+}
+
+// Returns the file with this name, in any case. Empty if there is none.
+fs::path FindInFolder(const fs::path& folder, const std::string& fileName) {
+    const Text name = FromUtf8(fileName);
+    std::error_code error;
+    for (fs::directory_iterator entry(folder.empty() ? fs::path(".") : folder, error), end;
+         !error && entry != end; entry.increment(error)) {
+        if (IsSameName(entry->path(), name)) {
+            return folder / entry->path().filename();
+        }
+    }
+    return {};
 }
 
 fs::path Beside(const fs::path& path, const std::string& fileName) {
@@ -35,6 +59,37 @@ std::string ReadBytes(const fs::path& path) {
         throw FormError(NameOf(path), "cannot be read");
     }
     return bytes;
+}
+
+// Whether the file is an earlier state of the companion, which only grows.
+bool BeginsWith(std::string_view companion, const fs::path& path) {
+    try {
+        return companion.starts_with(ReadBytes(path));
+    } catch (const FormError&) {
+        return false;
+    }
+}
+
+// Returns the file of the companion: beside the form, or beside the file to which the form is a
+// link; of these, the one with the exact name, or else one whose name differs in case only and that
+// `isMeant` accepts. For a companion that does not exist, returns the place for a new one.
+template <typename IsMeant>
+fs::path CompanionOf(const fs::path& form, const std::string& fileName, const IsMeant& isMeant) {
+    std::error_code error;
+    const fs::path target = fs::canonical(form, error);
+    const std::array<fs::path, 2> forms = {form, error ? form : target};
+    for (const fs::path& place : forms) {
+        if (fs::exists(Beside(place, fileName), error)) {
+            return Beside(place, fileName);
+        }
+    }
+    for (const fs::path& place : forms) {
+        const fs::path found = FindInFolder(place.parent_path(), fileName);
+        if (!found.empty() && isMeant(found)) {
+            return found;
+        }
+    }
+    return Beside(fs::is_symlink(form, error) ? forms.back() : form, fileName);
 }
 
 // New contents of a file. They are written next to the file and removed by the destructor unless
@@ -93,8 +148,13 @@ class NewFile {
 }  // namespace
 
 Document Load(const fs::path& path, int codePage) {
-    const auto readCompanion = [&](const std::string& fileName) {
-        return ReadBytes(Beside(path, fileName));
+    const auto readCompanion = [&](const std::string& fileName) -> std::optional<std::string> {
+        try {
+            const auto anyFile = [](const fs::path&) { return true; };
+            return ReadBytes(CompanionOf(path, fileName, anyFile));
+        } catch (const FormError&) {
+            return std::nullopt;
+        }
     };
     return Document::Parse(NameOf(path), ReadBytes(path), readCompanion, codePage);
 }
@@ -103,7 +163,11 @@ void Save(const Document& document, const fs::path& path) {
     const FormBytes bytes = document.Write();
     NewFile form(path, bytes.form);
     if (!bytes.companion.empty()) {
-        NewFile companion(Beside(path, document.CompanionName()), bytes.companion);
+        // Another form may own a file whose name differs in case only.
+        const auto isOlder = [&](const fs::path& file) {
+            return BeginsWith(bytes.companion, file);
+        };
+        NewFile companion(CompanionOf(path, document.CompanionName(), isOlder), bytes.companion);
         companion.TakePlace();
     }
     form.TakePlace();

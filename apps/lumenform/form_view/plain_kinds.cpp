@@ -199,7 +199,8 @@ PlainWidget MakePictureBox(const BlockReader& reader, const PlainSink& /*raise*/
     inside->setMinimumSize(1, 1);  // the box clips the picture
     auto* const layout = new QVBoxLayout(frame.get());
     layout->setContentsMargins(0, 0, 0, 0);
-    PlainWidget made{std::move(frame), inside.get()};
+    const int border = frame->frameWidth();
+    PlainWidget made{.widget = std::move(frame), .inside = inside.get(), .border = border};
     layout->addWidget(inside.release());
     return made;
 }
@@ -230,7 +231,7 @@ PlainWidget MakeScrollBar(const BlockReader& reader, const PlainSink& raise) {
 }
 
 PlainWidget MakeLine(const BlockReader& reader, const PlainSink& /*raise*/) {
-    auto line = std::make_unique<LineWidget>(Stroke::Of(reader), Rises(reader));
+    auto line = std::make_unique<LineWidget>(Stroke::Of(reader));
     const int reach = line->Reach();
     return {.widget = std::move(line), .reach = reach};
 }
