@@ -132,7 +132,7 @@ TEST_F(DesignClipboardOnWayland, ControlsOfAnotherProgramArePasted) {
     EXPECT_TRUE(Soon([&] { return paste->isEnabled(); })) << "the command follows the clipboard";
     person.Click(Glass(), QPoint(5, 5));
     Person::Press(QStringLiteral("ctrl+v"));
-    EXPECT_EQ(Awaited([&] { return Selected(); }, "Notes1"), "Notes1");
+    EXPECT_EQ(Awaited([&] { return Selected(); }, "VMemo1"), "VMemo1");
 }
 
 }  // namespace

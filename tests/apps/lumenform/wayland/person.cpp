@@ -70,6 +70,7 @@ Person::Person() {
         throw std::logic_error("run the program by scripts/on_wayland.sh");
     }
     QApplication::instance()->installEventFilter(this);
+    FindThePointer();
 }
 
 Person::~Person() {
@@ -101,6 +102,13 @@ void Person::Do(const QStringList& commands) {
 
 // ---- Finding windows
 
+// The pointer of weston follows the moves of that of the X display, but need not begin at the same
+// place. Neither pointer leaves its screen, so that both are at the same place in a corner.
+void Person::FindThePointer() {
+    const QSize screen = QGuiApplication::primaryScreen()->size();
+    Do(MoveTo({screen.width() - 1, screen.height() - 1}) + MoveTo({0, 0}));
+}
+
 bool Person::Notices(const QWindow& window, QPoint onScreen, int milliseconds) {
     pointed_.reset();
     OutputOf(QStringLiteral("xdotool"), MoveTo(onScreen));
@@ -120,13 +128,14 @@ std::optional<QPoint> Person::Confirmed(const QWindow& window, QPoint onScreen) 
     return isThere ? std::optional(origin) : std::nullopt;
 }
 
-// Searches again with more patience, because the machine may be busy.
+// Goes over the screen in steps that no window of this size fits between. Searches again with more
+// patience, because the machine may be busy.
 QPoint Person::Search(const QWindow& window) {
     const QSize screen = QGuiApplication::primaryScreen()->size();
-    constexpr int step = 120;
-    for (const int milliseconds : {30, 300}) {
-        for (int y = step / 2; y < screen.height(); y += step) {
-            for (int x = step / 2; x < screen.width(); x += step) {
+    const QSize step = (window.size() * 2 / 3).expandedTo({20, 20});
+    for (const int milliseconds : {50, 150, 500}) {
+        for (int y = step.height() / 2; y < screen.height(); y += step.height()) {
+            for (int x = step.width() / 2; x < screen.width(); x += step.width()) {
                 if (Notices(window, {x, y}, milliseconds)) {
                     if (const auto origin = Confirmed(window, {x, y})) {
                         return *origin;

@@ -58,6 +58,7 @@ class Person final : public QObject {
         QPoint at;
     };
 
+    static void FindThePointer();
     QPoint OriginOf(const QWindow& window);
     QPoint Search(const QWindow& window);
     std::optional<QPoint> Confirmed(const QWindow& window, QPoint onScreen);
