@@ -223,6 +223,14 @@ void Person::Press(const QString& keys) {
     Do({QStringLiteral("key"), keys});
 }
 
+QByteArray Person::PasteElsewhere(const QString& type) {
+    QStringList options{QStringLiteral("--no-newline")};
+    if (!type.isEmpty()) {
+        options += {QStringLiteral("--type"), type};
+    }
+    return OutputOf(QStringLiteral("wl-paste"), options);
+}
+
 // ---- Seeing
 
 QImage Person::Seen(const QRect& place) {
