@@ -80,8 +80,7 @@ TEST(ProgramOnWayland, RunsAFormAndQuits) {
     Person::Press(QStringLiteral("alt+p"));  // the memo, by the mnemonic of its label
     Person::Press(QStringLiteral("ctrl+a"));
     Person::Press(QStringLiteral("ctrl+c"));
-    EXPECT_EQ(Person::PasteElsewhere().toStdString(),
-              "HAPPY BIRTHDAY, LEN");
+    EXPECT_EQ(Person::PasteElsewhere().toStdString(), "HAPPY BIRTHDAY, LEN");
     // The memo takes all letters with Ctrl. The check box leaves them to the menus.
     ASSERT_TRUE(program.Quits({QStringLiteral("alt+g"), QStringLiteral("ctrl+q")}));
     EXPECT_EQ(program.Status(), 0);
