@@ -3,7 +3,6 @@
 #include <QApplication>
 #include <QEvent>
 #include <QThread>
-#include <QWindow>
 #include <QtGlobal>
 #include <array>
 #include <memory>
@@ -14,17 +13,17 @@
 namespace lumenkit::testing {
 namespace {
 
-// Lets a window hide only when the compositor owes it no frame.
+// Lets a window close only when the compositor owes it no frame. A visible widget that is destroyed
+// closes its window, too.
 //
-// Qt 6.4 handles the end of a frame in a thread of its own. If a window hides at that moment, both
+// Qt 6.4 handles the end of a frame in a thread of its own. If a window closes at that moment, both
 // threads destroy the same callback, and the program crashes. The compositor ends a frame when it
 // next draws its screen, within 17 ms. The window draws nothing meanwhile, because this thread
 // waits. Later versions of Qt guard the callback.
 class FramesFirst final : public QObject {
  public:
     bool eventFilter(QObject* object, QEvent* event) override {
-        const bool mayHide = event->type() == QEvent::Expose && object->isWindowType();
-        if (mayHide && !static_cast<QWindow*>(object)->isExposed()) {
+        if (event->type() == QEvent::Close && object->isWindowType()) {
             constexpr unsigned long frames = 40;  // milliseconds
             QThread::msleep(frames);
         }
