@@ -54,13 +54,13 @@ bool OwnsTheClipboard() {
     return Soon([] { return QGuiApplication::clipboard()->ownsClipboard(); });
 }
 
-// Waits until the window is active again after another program pasted.
+// Waits until the window is active again after another program had the focus.
 bool IsActiveAgain(const QWidget& window) {
     for (int attempt = 0; attempt < 10; ++attempt) {
         if (QTest::qWaitFor([&] { return QApplication::activeWindow() == &window; }, 1000)) {
             return true;
         }
-        Person::PasteElsewhere();
+        Person::LeaveAndReturn();
     }
     return false;
 }
@@ -134,6 +134,7 @@ TEST_F(DesignClipboardOnWayland, ControlsOfAnotherProgramArePasted) {
     const OtherProgram other(Written(otherFolder, controls), format);
     EXPECT_TRUE(Soon([&] { return paste->isEnabled(); })) << "the command follows the clipboard";
     person.Click(Glass(), QPoint(5, 5));
+    ASSERT_TRUE(IsActiveAgain(window));
     Person::Press(QStringLiteral("ctrl+v"));
     EXPECT_EQ(Awaited([&] { return Selected(); }, "VMemo1"), "VMemo1");
 }

@@ -240,6 +240,12 @@ QByteArray Person::PasteElsewhere(const QString& type) {
     return OutputOf(QStringLiteral("wl-paste"), options);
 }
 
+void Person::LeaveAndReturn() {
+    // It takes the focus to look at the clipboard. If that is empty, it says so by its status.
+    OutputOf(QStringLiteral("sh"),
+             {QStringLiteral("-c"), QStringLiteral("wl-paste --list-types 2>&1 || true")});
+}
+
 // ---- Seeing
 
 QImage Person::Seen(const QRect& place) {

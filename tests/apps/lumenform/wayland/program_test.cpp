@@ -43,7 +43,7 @@ class Program {
             if (QTest::qWaitFor(hasEnded, 500)) {
                 return true;
             }
-            Person::PasteElsewhere();
+            Person::LeaveAndReturn();
         }
         return false;
     }
