@@ -1,6 +1,7 @@
 #include "runtime/qt/text_edit.h"
 
 #include <QClipboard>
+#include <QDrag>
 #include <QGuiApplication>
 #include <QInputMethodEvent>
 #include <QKeyEvent>
@@ -576,14 +577,25 @@ host::MouseArguments TextEdit::MouseOf(const QMouseEvent& event) const {
 
 void TextEdit::mousePressEvent(QMouseEvent* event) {
     isPressed_ = event->button() == Qt::LeftButton;
+    hasDragged_ = false;
     host::MouseArguments mouse = MouseOf(*event);
     QPlainTextEdit::mousePressEvent(event);
     TellEvent([&](host::TextBoxEvents& events) { events.MouseDown(mouse); });
 }
 
+// A drag of text takes the release of the button, so that QPlainTextEdit believes it is still down
+// in this box. Its timer for scrolling would begin a further drag at the next press in another
+// widget.
 void TextEdit::mouseMoveEvent(QMouseEvent* event) {
+    if (hasDragged_ && (event->buttons() & Qt::LeftButton) != 0) {
+        return;
+    }
     host::MouseArguments mouse = MouseOf(*event);
     QPlainTextEdit::mouseMoveEvent(event);
+    if (findChild<QDrag*>() != nullptr) {
+        hasDragged_ = true;
+        isPressed_ = false;
+    }
     TellEvent([&](host::TextBoxEvents& events) { events.MouseMove(mouse); });
 }
 
@@ -599,6 +611,7 @@ void TextEdit::mouseReleaseEvent(QMouseEvent* event) {
 }
 
 void TextEdit::mouseDoubleClickEvent(QMouseEvent* event) {
+    hasDragged_ = false;
     QPlainTextEdit::mouseDoubleClickEvent(event);
     if (event->button() == Qt::LeftButton) {
         TellEvent([](host::TextBoxEvents& events) { events.DblClick(); });

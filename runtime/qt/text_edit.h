@@ -130,6 +130,7 @@ class TextEdit final : public QPlainTextEdit {
     bool locked_ = false;
     bool hasFocusNow_ = false;
     bool isPressed_ = false;
+    bool hasDragged_ = false;  // since the last press
 };
 
 }  // namespace lumenkit::qt
