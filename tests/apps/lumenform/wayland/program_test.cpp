@@ -32,18 +32,14 @@ class Program {
     Program(const Program&) = delete;
     Program& operator=(const Program&) = delete;
 
-    // Presses the keys until the program ends: its window may not be active again yet, and may
-    // have to become it anew.
-    bool Quits(const QStringList& keys = {QStringLiteral("ctrl+q")}) {
+    // Presses Ctrl+Q until the program ends: its window may not be active yet.
+    bool Quits() {
         const auto hasEnded = [&] { return program_.state() == QProcess::NotRunning; };
         for (int attempt = 0; attempt < 20; ++attempt) {
-            for (const QString& key : keys) {
-                Person::Press(key);
-            }
+            Person::Press(QStringLiteral("ctrl+q"));
             if (QTest::qWaitFor(hasEnded, 500)) {
                 return true;
             }
-            Person::LeaveAndReturn();
         }
         return false;
     }
@@ -74,20 +70,30 @@ bool ShowsTheForm() {
 }
 
 TEST(ProgramOnWayland, RunsAFormAndQuits) {
-    ASSERT_EQ(RedOnTheScreen(), 0);
+    ASSERT_TRUE(Soon([] { return RedOnTheScreen() == 0; }));
     Program program({QStringLiteral("run"), sampleOrder});
+    ASSERT_TRUE(ShowsTheForm());
+    // Not from a memo, which takes all letters with Ctrl.
+    Person::Press(QStringLiteral("alt+g"));
+    ASSERT_TRUE(program.Quits());
+    EXPECT_EQ(program.Status(), 0);
+    EXPECT_EQ(program.Errors(), "");
+}
+
+// The program is not asked to quit: weston 10 may not make its window active again after the other
+// program had the focus.
+TEST(ProgramOnWayland, CopiesForAnotherProgram) {
+    ASSERT_TRUE(Soon([] { return RedOnTheScreen() == 0; }));
+    const Program program({QStringLiteral("run"), sampleOrder});
     ASSERT_TRUE(ShowsTheForm());
     Person::Press(QStringLiteral("alt+p"));  // the memo, by the mnemonic of its label
     Person::Press(QStringLiteral("ctrl+a"));
     Person::Press(QStringLiteral("ctrl+c"));
     EXPECT_EQ(Person::PasteElsewhere().toStdString(), "HAPPY BIRTHDAY, LEN");
-    // The memo takes all letters with Ctrl. The check box leaves them to the menus.
-    ASSERT_TRUE(program.Quits({QStringLiteral("alt+g"), QStringLiteral("ctrl+q")}));
-    EXPECT_EQ(program.Status(), 0);
-    EXPECT_EQ(program.Errors(), "");
 }
 
 TEST(ProgramOnWayland, DesignsAFormAndQuits) {
+    ASSERT_TRUE(Soon([] { return RedOnTheScreen() == 0; }));
     Program program({QStringLiteral("design"), sampleOrder});
     ASSERT_TRUE(ShowsTheForm());
     Person::Press(QStringLiteral("F5"));  // runs the form, and back
