@@ -2,6 +2,7 @@
 #include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QDragEnterEvent>
 #include <QDropEvent>
 #include <QInputMethodEvent>
 #include <QLabel>
@@ -97,6 +98,9 @@ TEST(PlainControl, TextThatABoxHasNoRoomForStaysWhereItComesFrom) {
     const auto drop = [&](const char* text) {
         data.setText(QString::fromLatin1(text));
         const Qt::DropActions both = Qt::CopyAction | Qt::MoveAction;
+        QDragEnterEvent entering({1, 1}, both, &data, Qt::LeftButton, Qt::ShiftModifier);
+        QApplication::sendEvent(&box, &entering);
+        EXPECT_EQ(entering.dropAction(), Qt::CopyAction) << "another program";
         QDropEvent event({1, 1}, both, &data, Qt::LeftButton, Qt::ShiftModifier);
         QApplication::sendEvent(&box, &event);
         return event.dropAction();
