@@ -111,6 +111,7 @@ Document Document::WithBytes(const FormBytes& bytes) const {
     const auto companion = [&](const std::string&) { return bytes.companion; };
     Document document = Read(name_, encoding_, bytes.form, companion);
     document.UseCompanion(companionName_);
+    document.files_ = files_;
     return document;
 }
 

@@ -11,6 +11,7 @@
 #include "forms/companion.h"
 #include "forms/encoding.h"
 #include "forms/form_error.h"
+#include "forms/known_files.h"
 #include "forms/parser.h"
 #include "forms/property.h"
 #include "forms/writer.h"
@@ -79,6 +80,9 @@ class Document {
     /// position in the written text, and for a form in a code page that would be read as UTF-8.
     FormBytes Write() const;
 
+    /// The files that Load read and Save wrote for this document and for earlier states of it.
+    KnownFiles& Files() const { return *files_; }
+
  private:
     Document(std::string name, Encoding encoding, ParsedForm form);
 
@@ -95,6 +99,7 @@ class Document {
     ParsedForm form_;
     std::string companionName_;
     Companion companion_;
+    std::shared_ptr<KnownFiles> files_ = std::make_shared<KnownFiles>();
 };
 
 }  // namespace lumenkit::forms

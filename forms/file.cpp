@@ -1,13 +1,10 @@
 #include "forms/file.h"
 
-#include <fstream>
-#include <iterator>
 #include <string>
-#include <string_view>
-#include <system_error>
 
-#include "forms/flush.h"
-#include "frame/utf8.h"
+#include "forms/disk.h"
+#include "forms/form_error.h"
+#include "forms/known_files.h"
 
 namespace lumenkit::forms {
 
@@ -15,98 +12,44 @@ namespace {
 
 namespace fs = std::filesystem;
 
-std::string NameOf(const fs::path& path) {
-    const std::u8string name = path.u8string();
-    return {name.begin(), name.end()};
-}
-
-fs::path Beside(const fs::path& path, const std::string& fileName) {
-    return path.parent_path() / fs::path(std::u8string(fileName.begin(), fileName.end()));
-}
-
 std::string ReadBytes(const fs::path& path) {
-    std::error_code unknown;
-    std::ifstream stream(path, std::ios::binary);
-    if (!stream || fs::is_directory(path, unknown)) {
-        throw FormError(NameOf(path), "cannot be read");
-    }
-    std::string bytes{std::istreambuf_iterator<char>(stream), {}};
-    if (stream.bad()) {
+    std::string bytes;
+    if (!Disk::System().Read(path, bytes)) {
         throw FormError(NameOf(path), "cannot be read");
     }
     return bytes;
 }
 
-// New contents of a file. They are written next to the file and removed by the destructor unless
-// they replaced the file.
-class NewFile {
- public:
-    NewFile(const fs::path& target, std::string_view bytes) : NewFile(target) {
-        std::ofstream stream(beside_, std::ios::binary);
-        stream.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
-        stream.close();
-        if (!stream || !FlushFile(beside_)) {
-            throw FormError(NameOf(target_), "cannot be written");
-        }
-    }
-    NewFile(const NewFile&) = delete;
-    NewFile& operator=(const NewFile&) = delete;
-    ~NewFile() {
-        std::error_code gone;
-        fs::remove(beside_, gone);
-    }
-
-    // Must not allocate memory: running out of memory here would leave a new companion with an old
-    // form.
-    void TakePlace() {
-        std::error_code error;
-        const fs::file_status old = fs::status(target_, error);
-        if (fs::is_regular_file(old)) {
-            fs::permissions(beside_, old.permissions(), error);
-        }
-        fs::rename(beside_, target_, error);
-        if (error) {
-            throw FormError(NameOf(target_), "cannot be written");
-        }
-        FlushFolder(folder_);
-    }
-
- private:
-    // A delegated constructor, so that the destructor removes the new file even if the public
-    // constructor throws.
-    explicit NewFile(const fs::path& target)
-        : target_(Resolved(target)), folder_(target_.parent_path()), beside_(target_) {
-        beside_ += ".new";
-    }
-    // Resolves a link, so that its target is replaced instead of the link.
-    static fs::path Resolved(const fs::path& path) {
-        std::error_code error;
-        fs::path resolved = fs::canonical(path, error);
-        return error ? path : resolved;
-    }
-
-    fs::path target_;
-    fs::path folder_;
-    fs::path beside_;
-};
+bool IsChanged(const KnownFiles& files, const fs::path& path) {
+    const Fingerprint* const known = files.Find(Resolved(path));
+    std::string bytes;
+    return known != nullptr && Disk::System().Read(path, bytes) && *known != Fingerprint::Of(bytes);
+}
 
 }  // namespace
 
 Document Load(const fs::path& path, int codePage) {
-    const auto readCompanion = [&](const std::string& fileName) {
-        return ReadBytes(Beside(path, fileName));
+    KnownFiles files;
+    const auto read = [&](const fs::path& file) {
+        std::string bytes = ReadBytes(file);
+        files.Remember(Resolved(file), bytes);
+        return bytes;
     };
-    return Document::Parse(NameOf(path), ReadBytes(path), readCompanion, codePage);
+    const auto readCompanion = [&](const std::string& fileName) {
+        return read(Beside(path, fileName));
+    };
+    Document document = Document::Parse(NameOf(path), read(path), readCompanion, codePage);
+    document.Files() = std::move(files);
+    return document;
 }
 
-void Save(const Document& document, const fs::path& path) {
-    const FormBytes bytes = document.Write();
-    NewFile form(path, bytes.form);
-    if (!bytes.companion.empty()) {
-        NewFile companion(Beside(path, document.CompanionName()), bytes.companion);
-        companion.TakePlace();
-    }
-    form.TakePlace();
+void Save(const Document& document, const fs::path& path, Replacing replacing) {
+    SaveOn(Disk::System(), document, path, replacing);
+}
+
+bool IsChangedOnDisk(const Document& document, const fs::path& path) {
+    return IsChanged(document.Files(), path) ||
+           IsChanged(document.Files(), Beside(path, document.CompanionName()));
 }
 
 }  // namespace lumenkit::forms
