@@ -214,7 +214,12 @@ Reference Document::AddRecord(std::string_view record) {
 }
 
 void Document::Rename(std::string name) {
-    UseCompanion(DefaultCompanionName(name));
+    std::string companionName = DefaultCompanionName(name);
+    Rename(std::move(name), std::move(companionName));
+}
+
+void Document::Rename(std::string name, std::string companionName) {
+    UseCompanion(std::move(companionName));
     name_ = std::move(name);
 }
 

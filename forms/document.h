@@ -42,6 +42,8 @@ class Document {
     /// Changes the file name of the document and sets the companion's name to the default for it.
     /// Saving the document then does not change the files with the old names.
     void Rename(std::string name);
+    /// Also chooses the companion's name.
+    void Rename(std::string name, std::string companionName);
     /// The number of the form's code page, 65001 for UTF-8.
     int FormCodePage() const { return encoding_.FormCodePage(); }
     /// The number of the code page of the companion's strings; never 65001.

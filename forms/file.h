@@ -19,7 +19,7 @@ Document Load(const std::filesystem::path& path, int codePage = defaultCodePage)
 /// wait for each other. Throws FormError for a file that cannot be written, is read-only, belongs
 /// to others or was changed by others (see Replacing); then both files keep their old contents.
 void Save(const Document& document, const std::filesystem::path& path,
-          Replacing replacing = Replacing::Own);
+          Replacing replacing = Replacing::Named);
 
 /// Whether the form or its companion is on the disk with other contents than the document read or
 /// wrote last. False for a file that does not exist or was neither read nor written.

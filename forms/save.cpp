@@ -298,10 +298,11 @@ class Saving {
 
     void RequireKnown(const Present& form) const {
         const Fingerprint* const known = document_.Files().Find(form_.path);
-        const bool isMeant = replacing_ == Replacing::Confirmed || known == nullptr ||
-                             *known == Fingerprint::Of(form.bytes);
-        if (form.state.exists && form.bytes != form_.bytes && !isMeant) {
-            RefuseChanged(form_);
+        const bool isExpected = known == nullptr ? replacing_ == Replacing::Named
+                                                 : *known == Fingerprint::Of(form.bytes);
+        if (form.state.exists && form.bytes != form_.bytes && !isExpected &&
+            replacing_ != Replacing::Confirmed) {
+            Refuse(form_, known);
         }
     }
     void RequireKnown(const Present& companion, const Present& form) const {
@@ -311,14 +312,14 @@ class Saving {
             (replacing_ == Replacing::Confirmed && form.state.exists && RefersToIt(form.bytes))) {
             return;
         }
-        if (known != nullptr) {
-            RefuseChanged(*companion_);
-        }
-        throw FormError(companion_->name,
-                        "is there already and was not read with this form; it is not replaced");
+        Refuse(*companion_, known);
     }
-    [[noreturn]] static void RefuseChanged(const Place& place) {
-        throw FormError(place.name, "was changed by another program since this form was read");
+    [[noreturn]] static void Refuse(const Place& place, const Fingerprint* known) {
+        throw FormError(
+            place.name,
+            known != nullptr
+                ? "was changed by another program since this form was read"
+                : "is there already and was not read with this form; it is not replaced");
     }
 
     // Whether the form on the disk refers to the companion.

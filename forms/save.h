@@ -10,10 +10,11 @@ namespace lumenkit::forms {
 
 /// What a save may replace.
 enum class Replacing {
-    /// The files that the document read or wrote, unless other programs have changed them; and a
-    /// form that the document does not know, because the caller named it. No companion that the
-    /// document does not know.
-    Own,
+    /// The files that the document read or wrote, unless other programs have changed them since.
+    Known,
+    /// Also a form that the document does not know, because the caller names it. No companion that
+    /// the document does not know.
+    Named,
     /// Also a changed form, and the companion that the form on the disk refers to. For a user who
     /// has confirmed that this form is to be replaced.
     Confirmed

@@ -145,6 +145,17 @@ TEST_F(FileTest, ACompanionOfAnotherFormIsNotReplaced) {
     EXPECT_THAT(Names(), ElementsAre("memo.frx"));
 }
 
+TEST_F(FileTest, AnUnknownFormIsReplacedOnlyIfTheCallerMeansIt) {
+    const fs::path path = folder / "empty.frm";
+    WriteFile(path, "somebody else's");
+    const Document document = Sample("empty.frm").Parse();
+    EXPECT_THROW(Save(document, path, Replacing::Known), FormError);
+    EXPECT_EQ(ReadFile(path), "somebody else's");
+    Save(document, path, Replacing::Named);
+    EXPECT_TRUE(ReadFile(path) == Sample("empty.frm").form);
+    Save(document, path, Replacing::Known);
+}
+
 TEST_F(FileTest, ADocumentReplacesTheCompanionThatItWrote) {
     const fs::path path = folder / "memo.frm";
     const Document document = Load(SamplePath("memo.frm"));
@@ -214,6 +225,49 @@ TEST_F(FileTest, AFormCannotBeItsOwnCompanion) {
     EXPECT_EQ(SaveError(Load(SamplePath("memo.frm")), folder / "memo.frx"),
               (folder / "memo.frx").string() + ": is the name of the form and of its companion");
     EXPECT_TRUE(Names().empty());
+}
+
+TEST_F(FileTest, AConfirmedSaveReplacesAFormWithTheCompanionThatItRefersTo) {
+    const fs::path path = folder / "memo.frm";
+    WriteFile(path, Sample("memo.frm").form);
+    WriteFile(folder / "memo.frx", Sample("memo.frm").companion + "more");
+    const Document other = Sample("memo.frm").Parse();
+    Find(other, {u"VMemo1"}).Set(u"Text", TextLiteral(u"other\r\ntext"));
+    EXPECT_EQ(SaveError(other, path),
+              (folder / "memo.frx").string() +
+                  ": is there already and was not read with this form; it is not replaced");
+    EXPECT_TRUE(ReadFile(path) == Sample("memo.frm").form);
+    Save(other, path, Replacing::Confirmed);
+    EXPECT_TRUE(ReadFile(path) == other.Write().form);
+    EXPECT_TRUE(ReadFile(folder / "memo.frx") == other.Write().companion);
+    EXPECT_THAT(Names(), ElementsAre("memo.frm", "memo.frx"));
+}
+
+TEST_F(FileTest, AConfirmedSaveReplacesNoOtherCompanion) {
+    const fs::path path = folder / "memo.frm";
+    for (const std::string& form : {Sample("empty.frm").form, std::string("no form")}) {
+        WriteFile(path, form);
+        WriteFile(folder / "memo.frx", "somebody else's");
+        EXPECT_THROW(Save(Sample("memo.frm").Parse(), path, Replacing::Confirmed), FormError);
+        EXPECT_EQ(ReadFile(path), form);
+        EXPECT_EQ(ReadFile(folder / "memo.frx"), "somebody else's");
+    }
+}
+
+TEST_F(FileTest, AConfirmedSaveReplacesWhatOthersChanged) {
+    const fs::path path = folder / "memo.frm";
+    Save(Sample("memo.frm").Parse(), path);
+    const Document document = Load(path);
+    EXPECT_FALSE(IsChangedOnDisk(document, path));
+    WriteFile(folder / "memo.frx", Sample("memo.frm").companion + "more");
+    EXPECT_TRUE(IsChangedOnDisk(document, path));
+    Save(document, path, Replacing::Confirmed);
+    EXPECT_FALSE(IsChangedOnDisk(document, path));
+    WriteFile(path, Sample("memo.frm").form + "' by others\r\n");
+    EXPECT_TRUE(IsChangedOnDisk(document, path));
+    Save(document, path, Replacing::Confirmed);
+    EXPECT_TRUE(ReadFile(path) == Sample("memo.frm").form);
+    EXPECT_TRUE(ReadFile(folder / "memo.frx") == Sample("memo.frm").companion);
 }
 
 // ---- Permissions
