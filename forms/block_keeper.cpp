@@ -4,8 +4,19 @@
 #include <vector>
 
 #include "forms/form_bag.h"
+#include "frame/runtime_error.h"
 
 namespace lumenkit::forms {
+
+namespace {
+
+void RethrowUnlessSavingFailed(const RuntimeError& error) {
+    if (error.Number() != static_cast<std::int32_t>(ErrorNumber::SavingFailed)) {
+        throw;  // NOLINT(cert-err60-cpp): the error that is being handled
+    }
+}
+
+}  // namespace
 
 // Records the values that a control writes, in their order.
 class BlockKeeper::Notes final : public host::PropertyBag {
@@ -59,24 +70,45 @@ bool BlockKeeper::IsSame(const Held& one, const Held& other) {
 
 BlockKeeper::BlockKeeper(const Document& document, Block& block, const SaveControl& save)
     : document_(document), block_(block) {
-    const Notes notes(save);
-    for (const Notes::Note& note : notes.All()) {
-        held_.insert_or_assign(note.name, HeldAs(note.value, note.defaultValue));
+    try {
+        const Notes notes(save);
+        HeldByName held;
+        for (const Notes::Note& note : notes.All()) {
+            held.insert_or_assign(note.name, HeldAs(note.value, note.defaultValue));
+        }
+        held_ = std::move(held);
+    } catch (const RuntimeError& error) {
+        RethrowUnlessSavingFailed(error);
     }
 }
 
 // The block is changed only after the control has saved everything.
 void BlockKeeper::Update(const SaveControl& save) {
-    const Notes notes(save);
+    std::optional<Notes> notes;
+    try {
+        notes.emplace(save);
+    } catch (const RuntimeError& error) {
+        if (held_) {
+            throw;
+        }
+        RethrowUnlessSavingFailed(error);
+        return;
+    }
+    Write(*notes);
+}
+
+void BlockKeeper::Write(const Notes& notes) {
     FormBag bag(document_, block_, nullptr);
+    const bool keepsLines = held_.has_value();
+    HeldByName& held = keepsLines ? *held_ : held_.emplace();
     for (const auto& [name, value, defaultValue] : notes.All()) {
-        const auto before = held_.find(name);
+        const auto before = held.find(name);
         Held now = HeldAs(value, defaultValue);
-        if (IsSame(now, before == held_.end() ? Held(Default()) : before->second)) {
+        if (keepsLines && IsSame(now, before == held.end() ? Held(Default()) : before->second)) {
             bag.Keep(name);
         } else {
             bag.WriteProperty(name, value, defaultValue);
-            held_.insert_or_assign(name, std::move(now));
+            held.insert_or_assign(name, std::move(now));
         }
     }
 }

@@ -2,6 +2,7 @@
 
 #include <functional>
 #include <map>
+#include <optional>
 #include <variant>
 
 #include "forms/block.h"
@@ -20,10 +21,13 @@ class BlockKeeper {
     /// Makes the control write all its properties to a bag. Throws if the control cannot.
     using SaveControl = std::function<void(host::PropertyBag&)>;
 
-    /// Records the current values of the control, which must be those of the block.
+    /// Records the current values of the control, which must be those of the block. If the control
+    /// cannot save them (SavingFailed), as after a value that it refused, the block keeps its lines
+    /// until it can.
     BlockKeeper(const Document& document, Block& block, const SaveControl& save);
 
-    /// Writes the values that changed since the last time. Changes nothing if `save` throws.
+    /// Writes the values that changed since the last time. Changes nothing if `save` throws. Does
+    /// nothing if the control still cannot be saved.
     void Update(const SaveControl& save);
 
  private:
@@ -37,10 +41,11 @@ class BlockKeeper {
 
     static Held HeldAs(const Value& value, const Value& defaultValue);
     static bool IsSame(const Held& one, const Held& other);
+    void Write(const Notes& notes);
 
     const Document& document_;
     Block& block_;
-    HeldByName held_;
+    std::optional<HeldByName> held_;  // none until the control can be saved
 };
 
 }  // namespace lumenkit::forms

@@ -38,6 +38,11 @@ class Copying {
         if (copy.FindProperty(original.Name()) != nullptr) {
             return;  // of several properties with the same name, the first one counts
         }
+        const auto* reference = std::get_if<Reference>(&original.Literal());
+        const bool isLost = reference != nullptr && !reference->marked && from_.IsLost(*reference);
+        if (isLost && &from_ != &to_) {
+            return;
+        }
         Property& property = copy.Set(original.Name(), CopiedLiteral(original));
         // A Boolean writes its own comment.
         const bool isBoolean = std::holds_alternative<bool>(original.Literal());
@@ -52,7 +57,8 @@ class Copying {
             return property.Literal();
         }
         if (reference->marked) {
-            return CompanionText{from_.TextOf(property)};
+            return from_.IsLost(*reference) ? Literal(Text())
+                                            : CompanionText{from_.TextOf(property)};
         }
         return to_.AddRecord(from_.RecordOf(property));
     }

@@ -1,11 +1,13 @@
 #include "forms/document.h"
 
+#include <algorithm>
 #include <array>
 #include <cstdint>
 #include <set>
 #include <stdexcept>
 #include <utility>
 
+#include "forms/container_values.h"
 #include "forms/literal.h"
 #include "forms/position.h"
 #include "frame/utf8.h"
@@ -58,16 +60,21 @@ struct ChangedProperty {
     Property changed;
 };
 
-// Collects the references in `block` that must change to refer to `file`. The recursion is as deep
-// as the blocks are nested, which the parser and the editors limit.
-void CollectReferencesToChange(const Text& file, const Block& block,
+bool IsSameFile(TextView one, TextView other) {
+    return SameText(one, other, Compare::IgnoreCase);
+}
+
+// Collects the references to `former` in `block` that must change to refer to `file`. The recursion
+// is as deep as the blocks are nested, which the parser and the editors limit.
+void CollectReferencesToChange(const Text& former, const Text& file, const Block& block,
                                std::vector<ChangedProperty>& collected) {
     for (const Block::Item& item : block.Items()) {
         if (const auto* inner = std::get_if<std::unique_ptr<Block>>(&item)) {
-            CollectReferencesToChange(file, **inner, collected);
+            CollectReferencesToChange(former, file, **inner, collected);
         } else if (const auto* property = std::get_if<std::unique_ptr<Property>>(&item)) {
             const auto* reference = std::get_if<Reference>(&(*property)->Literal());
-            if (reference != nullptr && reference->file != file) {
+            if (reference != nullptr && reference->file != file &&
+                IsSameFile(reference->file, former)) {
                 Property changed = **property;
                 changed.Set(Reference{file, reference->offset, reference->marked});
                 collected.push_back({**property, std::move(changed)});
@@ -104,13 +111,24 @@ Document Document::Read(std::string name, Encoding encoding, std::string_view by
     ParsedForm form = ParseForm(Decode(name, encoding, bytes), name);
     Document document(std::move(name), std::move(encoding), std::move(form));
     document.ReadCompanion(readCompanion);
+    for (Warning& warning : ContainerWarnings(document.Root())) {
+        document.Warn(warning.place, std::move(warning.text));
+    }
     return document;
 }
 
 Document Document::WithBytes(const FormBytes& bytes) const {
-    const auto companion = [&](const std::string&) { return bytes.companion; };
+    const auto companion = [&](const std::string& file) -> std::optional<std::string> {
+        const bool isLost = isCompanionMissing_ || IsOtherFile(FromUtf8(file));
+        return isLost ? std::nullopt : std::optional(bytes.companion);
+    };
     Document document = Read(name_, encoding_, bytes.form, companion);
-    document.UseCompanion(companionName_);
+    if (!document.isCompanionMissing_) {
+        document.UseCompanion(companionName_);
+    }
+    for (const Text& other : otherFiles_) {
+        document.RememberOtherFile(other);
+    }
     document.files_ = files_;
     return document;
 }
@@ -120,49 +138,108 @@ Document::Document(std::string name, Encoding encoding, ParsedForm form)
       encoding_(std::move(encoding)),
       form_(std::move(form)),
       companionName_(form_.references.empty() ? DefaultCompanionName(name_)
-                                              : ToUtf8(form_.references.front().reference.file)) {}
+                                              : ToUtf8(form_.references.front().reference.file)) {
+    for (Warning& warning : form_.warnings) {
+        Warn(warning.place, std::move(warning.text));
+    }
+    form_.warnings.clear();
+}
+
+std::vector<Warning> Document::Warnings() const {
+    std::vector<Warning> warnings;
+    for (const auto& [place, text] : warnings_) {
+        warnings.push_back({{place.first, place.second}, text});
+    }
+    return warnings;
+}
+
+void Document::Warn(Position place, std::string text) const {
+    warnings_.try_emplace({place.line, place.column}, std::move(text));
+}
+
+void Document::Warn(const Property& property, std::string text) const {
+    if (!std::holds_alternative<UnreadValue>(property.Literal())) {
+        Warn(property.ValuePlace(), std::move(text));
+    }
+}
 
 void Document::Fail(Position position, const std::string& text) const {
     throw FormError(name_, position, text);
 }
 
-void Document::RequireOneCompanion() const {
-    for (const PlacedReference& placed : form_.references) {
-        if (!SameText(placed.reference.file, form_.references.front().reference.file,
-                      Compare::IgnoreCase)) {
-            Fail(placed.place, "expected a reference into " + companionName_ + ", found " +
-                                   ToUtf8(placed.reference.file));
-        }
+bool Document::IsInCompanion(const Reference& reference) const {
+    return IsSameFile(reference.file, FromUtf8(companionName_));
+}
+
+bool Document::IsLost(const Reference& reference) const {
+    return !IsInCompanion(reference) || reference.offset >= companion_.Bytes().size();
+}
+
+bool Document::IsOtherFile(TextView file) const {
+    return std::ranges::any_of(otherFiles_,
+                               [&](const Text& other) { return IsSameFile(other, file); });
+}
+
+void Document::RememberOtherFile(TextView file) {
+    if (!IsOtherFile(file)) {
+        otherFiles_.emplace_back(file);
     }
 }
 
+// Returns the references into the companion, and warns about the others.
+std::vector<PlacedReference> Document::OwnReferences() {
+    std::vector<PlacedReference> own;
+    for (const PlacedReference& placed : form_.references) {
+        if (IsInCompanion(placed.reference)) {
+            own.push_back(placed);
+        } else {
+            RememberOtherFile(placed.reference.file);
+            Warn(placed.place, "expected a reference into " + companionName_ + ", found " +
+                                   ToUtf8(placed.reference.file));
+        }
+    }
+    return own;
+}
+
 void Document::ReadCompanion(const CompanionReader& readCompanion) {
-    if (form_.references.empty()) {
+    const std::vector<PlacedReference> references = OwnReferences();
+    if (references.empty()) {
         return;
     }
-    RequireOneCompanion();
     std::vector<std::uint32_t> offsets;
-    for (const PlacedReference& placed : form_.references) {
+    for (const PlacedReference& placed : references) {
         offsets.push_back(placed.reference.offset);
     }
-    companion_ = Companion(readCompanion(companionName_), std::move(offsets));
+    std::optional<std::string> bytes;
+    if (readCompanion) {
+        bytes = readCompanion(companionName_);
+    }
+    isCompanionMissing_ = !bytes.has_value();
+    companion_ = Companion(std::move(bytes).value_or(std::string()), std::move(offsets));
+    if (isCompanionMissing_) {
+        hasLostRecords_ = true;
+        Warn(references.front().place,
+             companionName_ + " cannot be read; its texts and pictures are missing");
+        return;
+    }
     // Checks each record once, however many references share it.
     std::set<std::pair<std::uint32_t, bool>> checked;
-    for (const PlacedReference& placed : form_.references) {
+    for (const PlacedReference& placed : references) {
         if (checked.emplace(placed.reference.offset, placed.reference.marked).second) {
             Check(placed);
         }
     }
 }
 
-void Document::Check(const PlacedReference& placed) const {
+void Document::Check(const PlacedReference& placed) {
+    hasLostRecords_ = hasLostRecords_ || IsLost(placed.reference);
     try {
         companion_.RequireOffset(placed.reference.offset);
         if (placed.reference.marked) {
             companion_.String(placed.reference.offset);
         }
     } catch (const BadRecord& bad) {
-        Fail(placed.place, bad.what());
+        Warn(placed.place, bad.what());
     }
 }
 
@@ -186,9 +263,15 @@ Text Document::TextOf(const Property& property) const {
     if (reference == nullptr) {
         Fail(property.ValuePlace(), "expected a text");
     }
+    if (IsLost(*reference)) {
+        return {};
+    }
     try {
         return encoding_.CompanionPage().Decode(companion_.String(reference->offset));
     } catch (const BadRecord& bad) {
+        if (reference->marked) {
+            return {};  // reading the document has warned
+        }
         Fail(property.ValuePlace(), bad.what());
     }
 }
@@ -198,6 +281,9 @@ std::string_view Document::RecordOf(const Property& property) const {
     if (reference == nullptr) {
         Fail(property.ValuePlace(), "expected a reference into the companion");
     }
+    if (IsLost(*reference)) {
+        return {};
+    }
     try {
         return companion_.Record(reference->offset);
     } catch (const BadRecord& bad) {
@@ -206,6 +292,9 @@ std::string_view Document::RecordOf(const Property& property) const {
 }
 
 Reference Document::AddRecord(std::string_view record) {
+    if (hasLostRecords_) {
+        throw FormError(name_, lostRecords);
+    }
     try {
         return {FromUtf8(companionName_), companion_.Append(record), false};
     } catch (const BadRecord& full) {
@@ -219,7 +308,9 @@ void Document::Rename(std::string name) {
 }
 
 void Document::Rename(std::string name, std::string companionName) {
-    UseCompanion(std::move(companionName));
+    if (!isCompanionMissing_) {
+        UseCompanion(std::move(companionName));
+    }
     name_ = std::move(name);
 }
 
@@ -232,10 +323,12 @@ void Document::RenameForm(TextView name) {
 void Document::UseCompanion(std::string name) {
     const Text file = FromUtf8(name);
     std::vector<ChangedProperty> redirected;
-    CollectReferencesToChange(file, *form_.root, redirected);
+    CollectReferencesToChange(FromUtf8(companionName_), file, *form_.root, redirected);
     std::vector<PlacedReference> references = form_.references;
     for (PlacedReference& placed : references) {
-        placed.reference.file = file;
+        if (IsInCompanion(placed.reference)) {
+            placed.reference.file = file;
+        }
     }
     // The following statements cannot fail.
     for (ChangedProperty& replacement : redirected) {
@@ -246,8 +339,9 @@ void Document::UseCompanion(std::string name) {
 }
 
 FormBytes Document::Write() const {
-    FormBytes bytes =
-        FormWriter(name_, encoding_, FromUtf8(companionName_), companion_.Bytes()).Write(form_);
+    FormBytes bytes = FormWriter(name_, encoding_,
+                                 {FromUtf8(companionName_), companion_.Bytes(), !hasLostRecords_})
+                          .Write(form_);
     const bool wouldBeUtf8 =
         Encoding::Of(bytes.form, CompanionCodePage()).FormCodePage() == utf8CodePage;
     if (wouldBeUtf8 && FormCodePage() != utf8CodePage) {

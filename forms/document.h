@@ -1,10 +1,14 @@
 // A form file in memory: its text, its tree and its binary companion.
 #pragma once
 
+#include <cstddef>
 #include <functional>
+#include <map>
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "forms/block.h"
@@ -14,15 +18,17 @@
 #include "forms/known_files.h"
 #include "forms/parser.h"
 #include "forms/property.h"
+#include "forms/warning.h"
 #include "forms/writer.h"
 #include "frame/text.h"
 
 namespace lumenkit::forms {
 
-/// Returns the bytes of the companion, given as a plain file name in the folder of the form. Called
-/// at most once, and only if the form refers to a companion. Its exceptions propagate to the caller
-/// of Parse.
-using CompanionReader = std::function<std::string(const std::string& fileName)>;
+/// Returns the bytes of the companion, given as a plain file name in the folder of the form, or
+/// nullopt if there is no such file. Called at most once, and only if the form refers to a
+/// companion. Its exceptions propagate to the caller of Parse. An empty function stands for no
+/// file.
+using CompanionReader = std::function<std::optional<std::string>(const std::string& fileName)>;
 
 /// A form, control, page or document file (.frm, .ctl, .pag, .dob). Writing an unedited document
 /// returns the bytes that were read. An edit that throws changes nothing.
@@ -30,7 +36,8 @@ class Document {
  public:
     /// Reads a document. `name` is the file name for error messages, in UTF-8. `codePage` is the
     /// code page of the companion's strings, and that of the form unless the form is detected as
-    /// UTF-8 (see Encoding::Of). Throws FormError for input that cannot be read.
+    /// UTF-8 (see Encoding::Of). Throws FormError for input that is not a form. Lines, values and
+    /// references that cannot be understood are kept, with a warning.
     static Document Parse(std::string name, std::string_view bytes,
                           const CompanionReader& readCompanion, int codePage = defaultCodePage);
 
@@ -38,9 +45,17 @@ class Document {
     /// earlier state of it. Throws FormError as Parse does.
     Document WithBytes(const FormBytes& bytes) const;
 
+    /// The warnings so far, in the order of the file, one for each place.
+    std::vector<Warning> Warnings() const;
+    /// Adds a warning about a value that the caller could not use. Ignored if its place has one.
+    void Warn(Position place, std::string text) const;
+    /// Adds a warning at the value of a property. Ignored for an UnreadValue, which has one.
+    void Warn(const Property& property, std::string text) const;
+
     const std::string& Name() const { return name_; }
-    /// Changes the file name of the document and sets the companion's name to the default for it.
-    /// Saving the document then does not change the files with the old names.
+    /// Changes the file name of the document and sets the companion's name to the default for it,
+    /// unless the companion is missing. Saving the document then does not change the files with the
+    /// old names.
     void Rename(std::string name);
     /// Also chooses the companion's name.
     void Rename(std::string name, std::string companionName);
@@ -63,14 +78,19 @@ class Document {
 
     /// Returns the text of a string property, whether it is stored in the form or in the companion.
     /// Throws FormError for a property of another kind and for a reference to a record that is not
-    /// a string.
+    /// a string. Empty for a lost record.
     Text TextOf(const Property& property) const;
     /// Returns the record of the companion that a property refers to, including its header. Throws
-    /// FormError for a property that is not a reference.
+    /// FormError for a property that is not a reference. Empty for a lost record.
     std::string_view RecordOf(const Property& property) const;
 
+    /// Returns whether the reference leads nowhere: the companion is missing or too short, or the
+    /// reference names another file than the first one of the form. The reference is kept.
+    bool IsLost(const Reference& reference) const;
+
     /// Appends a record, including its header, to the companion and returns the reference to it.
-    /// Throws FormError when the companion is full.
+    /// Throws FormError when the companion is full, and when a lost reference could afterwards lead
+    /// to the new record.
     Reference AddRecord(std::string_view record);
 
     /// Returns the companion's file name in UTF-8: the name that the form refers to or, without a
@@ -79,7 +99,8 @@ class Document {
 
     /// Returns the bytes of the form and of its companion. Appends the strings that edits moved to
     /// the companion. Throws FormError for a text that the encoding cannot represent, with the
-    /// position in the written text, and for a form in a code page that would be read as UTF-8.
+    /// position in the written text, for a form in a code page that would be read as UTF-8, and for
+    /// a new string if AddRecord would throw.
     FormBytes Write() const;
 
     /// The files that Load read and Save wrote for this document and for earlier states of it.
@@ -92,8 +113,11 @@ class Document {
     static Document Read(std::string name, Encoding encoding, std::string_view bytes,
                          const CompanionReader& readCompanion);
     void ReadCompanion(const CompanionReader& readCompanion);
-    void RequireOneCompanion() const;
-    void Check(const PlacedReference& placed) const;
+    bool IsInCompanion(const Reference& reference) const;
+    bool IsOtherFile(TextView file) const;
+    void RememberOtherFile(TextView file);
+    std::vector<PlacedReference> OwnReferences();
+    void Check(const PlacedReference& placed);
     [[noreturn]] void Fail(Position position, const std::string& text) const;
 
     std::string name_;
@@ -102,6 +126,10 @@ class Document {
     std::string companionName_;
     Companion companion_;
     std::shared_ptr<KnownFiles> files_ = std::make_shared<KnownFiles>();
+    std::vector<Text> otherFiles_;  // that references name instead of the companion
+    bool isCompanionMissing_ = false;
+    bool hasLostRecords_ = false;
+    mutable std::map<std::pair<std::size_t, std::size_t>, std::string> warnings_;  // by place
 };
 
 }  // namespace lumenkit::forms

@@ -1,10 +1,13 @@
 #include "forms/file.h"
 
+#include <optional>
 #include <string>
 
+#include "forms/companion_path.h"
 #include "forms/disk.h"
 #include "forms/form_error.h"
 #include "forms/known_files.h"
+#include "forms/path_names.h"
 
 namespace lumenkit::forms {
 
@@ -35,8 +38,12 @@ Document Load(const fs::path& path, int codePage) {
         files.Remember(Resolved(file), bytes);
         return bytes;
     };
-    const auto readCompanion = [&](const std::string& fileName) {
-        return read(Beside(path, fileName));
+    const auto readCompanion = [&](const std::string& name) -> std::optional<std::string> {
+        try {
+            return read(CompanionPath(path, name, [](const fs::path&) { return true; }));
+        } catch (const FormError&) {
+            return std::nullopt;
+        }
     };
     Document document = Document::Parse(NameOf(path), read(path), readCompanion, codePage);
     document.Files() = std::move(files);
@@ -49,7 +56,7 @@ void Save(const Document& document, const fs::path& path, Replacing replacing) {
 
 bool IsChangedOnDisk(const Document& document, const fs::path& path) {
     return IsChanged(document.Files(), path) ||
-           IsChanged(document.Files(), Beside(path, document.CompanionName()));
+           IsChanged(document.Files(), CompanionToSave(document, path));
 }
 
 }  // namespace lumenkit::forms

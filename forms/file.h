@@ -8,8 +8,10 @@
 
 namespace lumenkit::forms {
 
-/// Reads a form and, if it refers to one, the companion next to it. Throws FormError for a file
-/// that cannot be read.
+/// Reads a form and, if it refers to one, the companion next to it. For a symbolic link to a form,
+/// the companion may be next to the target. If no file has the exact name, one whose name differs
+/// in case only is read. Throws FormError for a form that cannot be read. A companion that cannot
+/// be read leaves a warning in the document.
 Document Load(const std::filesystem::path& path, int codePage = defaultCodePage);
 
 /// Writes a form and, if it has one, the companion next to it. Each new file is first written next

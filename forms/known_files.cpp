@@ -21,7 +21,7 @@ Fingerprint Fingerprint::Of(std::string_view bytes) {
     return {bytes.size(), hash};
 }
 
-bool IsSameFile(const fs::path& one, const fs::path& other) {
+bool IsSamePath(const fs::path& one, const fs::path& other) {
     if (one == other) {
         return true;
     }
@@ -32,7 +32,7 @@ bool IsSameFile(const fs::path& one, const fs::path& other) {
 
 void KnownFiles::Remember(const fs::path& path, std::string_view bytes) {
     const auto known =
-        std::ranges::find_if(entries_, [&](const Entry& e) { return IsSameFile(e.path, path); });
+        std::ranges::find_if(entries_, [&](const Entry& e) { return IsSamePath(e.path, path); });
     if (known == entries_.end()) {
         entries_.push_back({path, Fingerprint::Of(bytes)});
     } else {
@@ -42,7 +42,7 @@ void KnownFiles::Remember(const fs::path& path, std::string_view bytes) {
 
 const Fingerprint* KnownFiles::Find(const fs::path& path) const {
     const auto known =
-        std::ranges::find_if(entries_, [&](const Entry& e) { return IsSameFile(e.path, path); });
+        std::ranges::find_if(entries_, [&](const Entry& e) { return IsSamePath(e.path, path); });
     return known == entries_.end() ? nullptr : &known->fingerprint;
 }
 

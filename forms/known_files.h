@@ -19,7 +19,7 @@ struct Fingerprint {
 
 /// Whether two paths without links name one file. They may differ in case if the file system
 /// ignores it.
-bool IsSameFile(const std::filesystem::path& one, const std::filesystem::path& other);
+bool IsSamePath(const std::filesystem::path& one, const std::filesystem::path& other);
 
 /// The files that a document read or wrote, with the contents that it knows. A file that is not
 /// here belongs to somebody else.

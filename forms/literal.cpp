@@ -50,6 +50,7 @@ struct SourceWriter {
                Hexadecimal(reference.offset, 4);
     }
     Text operator()(const CompanionText& /*text*/) const { return {}; }
+    Text operator()(const UnreadValue& value) const { return value.source; }
 };
 
 bool BelongsInCompanion(TextView text) {

@@ -40,10 +40,16 @@ struct CompanionText {
     friend bool operator==(const CompanionText&, const CompanionText&) = default;
 };
 
+/// The rest of a line that no notation fits. It is kept and written unchanged.
+struct UnreadValue {
+    Text source;
+    friend bool operator==(const UnreadValue&, const UnreadValue&) = default;
+};
+
 /// A value, with a type for each notation: "text", -1 'True, 12, &H8000000F&, 8.25, ... A whole
 /// number beyond 32 bits is a double.
 using Literal = std::variant<Text, bool, std::int32_t, HexNumber, double, Shortcut, Guid, Reference,
-                             CompanionText>;
+                             CompanionText, UnreadValue>;
 
 /// The length of the longest text that is written in the form itself, in UTF-16 units.
 inline constexpr std::size_t longestInlineText = 128;

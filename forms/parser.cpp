@@ -33,6 +33,8 @@ class Parser {
     void ParseBodyLine();
     void ParseProperty(TextView name, Position place);
     void ParseEnd();
+    CommentedLiteral ReadValueOrLine();
+    void KeepLine(std::string_view expected);
     void Enter(std::unique_ptr<Block> block, Position place);
     void RefuseEndOfFile() const;
 
@@ -55,9 +57,28 @@ class Parser {
         scanner_.SkipBlanks();
         return word;
     }
+    // Calls `read`. If it cannot read the line, warns, returns to the present place and returns
+    // false.
+    template <typename Read>
+    bool Try(const Read& read) {
+        const std::size_t start = scanner_.Offset();
+        try {
+            read();
+            return true;
+        } catch (const FormError& error) {
+            auto& warnings = form_.warnings;
+            if (warnings.empty() || warnings.back().place.line != error.Place().line) {
+                warnings.push_back({error.Place(), error.Description()});
+            }
+            scanner_.ReturnTo(start);
+            return false;
+        }
+    }
     // Reads blanks, a comment and the line break; returns the whole line.
     Text FinishLine() {
-        ReadComment(scanner_);
+        if (!Try([this] { ReadComment(scanner_); })) {
+            scanner_.TakeLine();
+        }
         scanner_.TakeLineBreak();
         return Text(scanner_.Since(lineStart_));
     }
@@ -116,13 +137,17 @@ void Parser::ParseLibrary() {
     }
     scanner_.SkipBlanks();
     LibraryReference library{{}, {}, scanner_.Here()};
-    library.library = ReadQuoted(scanner_);
-    if (scanner_.TakeIf(u';')) {
-        scanner_.SkipBlanks();
-        library.file = ReadQuoted(scanner_);
-    }
+    const bool isRead = Try([&] {
+        library.library = ReadQuoted(scanner_);
+        if (scanner_.TakeIf(u';')) {
+            scanner_.SkipBlanks();
+            library.file = ReadQuoted(scanner_);
+        }
+    });
     FinishLine();
-    form_.libraries.push_back(std::move(library));
+    if (isRead) {
+        form_.libraries.push_back(std::move(library));
+    }
 }
 
 void Parser::Enter(std::unique_ptr<Block> block, Position place) {
@@ -157,7 +182,10 @@ void Parser::ParseBeginProperty() {
     Block::Places places{{}, scanner_.Here()};
     Text name(Word("a property name"));
     places.className = scanner_.Here();
-    Text identifier = scanner_.Peek() == u'{' ? ReadGuid(scanner_) : Text();
+    Text identifier;
+    if (scanner_.Peek() == u'{') {
+        Try([&] { identifier = ReadGuid(scanner_); });
+    }
     Text line = FinishLine();
     Enter(std::make_unique<Block>(BlockKind::Group, std::move(identifier), std::move(name),
                                   std::move(line), Text(), places),
@@ -181,8 +209,11 @@ void Parser::ParseBodyLine() {
     }
     const Position place = scanner_.Here();
     const std::size_t start = scanner_.Offset();
-    const TextView word = Word(WantedInBody());
-    if (scanner_.TakeIf(u'=')) {
+    const TextView word = scanner_.TakeWord();
+    scanner_.SkipBlanks();
+    if (word.empty()) {
+        KeepLine(WantedInBody());
+    } else if (scanner_.TakeIf(u'=')) {
         ParseProperty(word, place);
     } else if (IsKeyword(word, u"Begin") && !InGroup()) {
         ParseBegin();
@@ -195,8 +226,23 @@ void Parser::ParseBodyLine() {
         scanner_.ReturnTo(start);
         scanner_.Expect(WantedInBody());
     } else {
-        scanner_.Expect("'='");
+        KeepLine("'='");
     }
+}
+
+// Keeps a line that is neither a property nor the first or last line of a block.
+void Parser::KeepLine(std::string_view expected) {
+    Try([&] { scanner_.Expect(expected); });
+    Innermost().Append(std::make_unique<IdleLine>(IdleLine{FinishLine()}));
+}
+
+// Keeps a value that no notation fits.
+CommentedLiteral Parser::ReadValueOrLine() {
+    CommentedLiteral value;
+    if (!Try([&] { value = ReadValue(scanner_); })) {
+        value = {UnreadValue{Text(scanner_.TakeLine())}, {}};
+    }
+    return value;
 }
 
 // Starts after the equals sign.
@@ -205,7 +251,7 @@ void Parser::ParseProperty(TextView name, Position place) {
     const Property::Places places{place, scanner_.Here()};
     const std::size_t start = scanner_.Offset();
     Text prefix(scanner_.Since(lineStart_));
-    CommentedLiteral value = ReadValue(scanner_);
+    CommentedLiteral value = ReadValueOrLine();
     Text source(scanner_.Since(start));
     Text lineBreak(scanner_.TakeLineBreak());
     if (const auto* reference = std::get_if<Reference>(&value.literal)) {

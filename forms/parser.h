@@ -8,6 +8,7 @@
 #include "forms/block.h"
 #include "forms/form_error.h"
 #include "forms/literal.h"
+#include "forms/warning.h"
 #include "frame/text.h"
 
 namespace lumenkit::forms {
@@ -32,12 +33,15 @@ struct ParsedForm {
     Text tail;  ///< the lines after the outermost block: attributes and code
     Position tailPlace;
     std::vector<PlacedReference> references;
+    std::vector<Warning> warnings;  ///< at most one per line
 };
 
 /// The maximum nesting depth of blocks.
 inline constexpr std::size_t deepestNesting = 256;
 
-/// Throws FormError, which contains `file`, for a text that is not a form.
+/// Throws FormError, which contains `file`, for a text that is not a form: without its head, or
+/// with blocks that do not match. A line or value inside the form that cannot be understood is
+/// kept, with a warning.
 ParsedForm ParseForm(TextView text, const std::string& file);
 
 }  // namespace lumenkit::forms

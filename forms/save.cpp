@@ -10,8 +10,10 @@
 #include <utility>
 #include <vector>
 
+#include "forms/companion_path.h"
 #include "forms/form_error.h"
 #include "forms/known_files.h"
+#include "forms/path_names.h"
 
 namespace lumenkit::forms {
 
@@ -216,8 +218,8 @@ class Saving {
           bytes_(document.Write()),
           form_(path, bytes_.form) {
         if (!bytes_.companion.empty()) {
-            companion_.emplace(Beside(path, document.CompanionName()), bytes_.companion);
-            if (companion_->path == form_.path || IsSameFile(companion_->path, form_.path)) {
+            companion_.emplace(CompanionToSave(document, path), bytes_.companion);
+            if (companion_->path == form_.path || IsSamePath(companion_->path, form_.path)) {
                 throw FormError(companion_->name, "is the name of the form and of its companion");
             }
         }
@@ -325,16 +327,16 @@ class Saving {
     // Whether the form on the disk refers to the companion.
     bool RefersToIt(const std::string& form) const {
         std::string named;
-        const auto readCompanion = [&](const std::string& name) -> std::string {
+        const auto readCompanion = [&](const std::string& name) -> std::optional<std::string> {
             named = name;
-            throw FormError(name, "is not needed");
+            return std::nullopt;
         };
         try {
             Document::Parse(form_.name, form, readCompanion, document_.CompanionCodePage());
         } catch (const FormError&) {
             // The name is known even then.
         }
-        return !named.empty() && IsSameFile(Resolved(Beside(path_, named)), companion_->path);
+        return !named.empty() && IsSamePath(Resolved(Beside(path_, named)), companion_->path);
     }
 
     // Allocates no memory until both files are in their places, or neither is.
@@ -369,24 +371,10 @@ class Saving {
 
 }  // namespace
 
-fs::path Resolved(const fs::path& path) {
-    std::error_code error;
-    fs::path resolved = fs::canonical(path, error);
-    if (!error) {
-        return resolved;
-    }
-    const fs::path folder = path.parent_path();
-    resolved = fs::canonical(folder.empty() ? fs::path(".") : folder, error);
-    return error ? path : resolved / path.filename();
-}
-
-fs::path Beside(const fs::path& path, const std::string& name) {
-    return path.parent_path() / fs::path(std::u8string(name.begin(), name.end()));
-}
-
-std::string NameOf(const fs::path& path) {
-    const std::u8string name = path.u8string();
-    return {name.begin(), name.end()};
+fs::path CompanionToSave(const Document& document, const fs::path& path) {
+    return CompanionPath(path, document.CompanionName(), [&](const fs::path& file) {
+        return document.Files().Find(Resolved(file)) != nullptr;
+    });
 }
 
 void SaveOn(Disk& disk, const Document& document, const fs::path& path, Replacing replacing) {

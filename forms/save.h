@@ -24,12 +24,8 @@ enum class Replacing {
 void SaveOn(Disk& disk, const Document& document, const std::filesystem::path& path,
             Replacing replacing);
 
-/// Returns the absolute path of a file, with links followed. For a file that does not exist,
-/// follows the links of its folder.
-std::filesystem::path Resolved(const std::filesystem::path& path);
-/// Returns a file in the folder of another file. `name` is in UTF-8.
-std::filesystem::path Beside(const std::filesystem::path& path, const std::string& name);
-/// Returns the path as error messages name it, in UTF-8.
-std::string NameOf(const std::filesystem::path& path);
+/// Returns the file that takes the companion of the document. A file whose name differs in case
+/// only is taken if the document knows it: another form may own it.
+std::filesystem::path CompanionToSave(const Document& document, const std::filesystem::path& path);
 
 }  // namespace lumenkit::forms

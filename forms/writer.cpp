@@ -24,19 +24,16 @@ std::string UnitName(char16_t unit) {
 
 }  // namespace
 
-FormWriter::FormWriter(const std::string& name, const Encoding& encoding, Text companionName,
-                       std::string companion)
-    : name_(name),
-      encoding_(encoding),
-      companionName_(std::move(companionName)),
-      companion_(std::move(companion)) {}
+FormWriter::FormWriter(const std::string& name, const Encoding& encoding,
+                       WrittenCompanion companion)
+    : name_(name), encoding_(encoding), companion_(std::move(companion)) {}
 
 FormBytes FormWriter::Write(const ParsedForm& form) && {
     text_ += form.head;
     Add(*form.root);
     text_ += form.tail;
     try {
-        return {encoding_.Encode(text_), std::move(companion_)};
+        return {encoding_.Encode(text_), std::move(companion_.bytes)};
     } catch (const Unmappable& unmappable) {
         Refuse(unmappable, text_, PlaceBehind(TextView(text_).substr(0, unmappable.index)));
     }
@@ -67,9 +64,12 @@ void FormWriter::Add(const Property& property) {
 
 // Appends the text to the companion and returns the reference to it.
 Text FormWriter::Store(TextView text) {
+    if (!companion_.takesRecords) {
+        throw FormError(name_, PlaceBehind(text_), lostRecords);
+    }
     try {
         const std::string content = EncodeIn(encoding_.CompanionPage(), text);
-        return SourceOf(Reference{companionName_, AppendString(companion_, content), true});
+        return SourceOf(Reference{companion_.name, AppendString(companion_.bytes, content), true});
     } catch (const Unmappable& unmappable) {
         Refuse(unmappable, text, PlaceBehind(text_));
     } catch (const BadRecord& bad) {

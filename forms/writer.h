@@ -18,11 +18,22 @@ struct FormBytes {
     std::string companion;
 };
 
+/// The reason for which a companion with lost records takes no new ones.
+inline constexpr const char* lostRecords =
+    "a text with line breaks or of more than 128 characters, a picture or a list cannot be added, "
+    "because records of the companion are missing";
+
+/// The companion of a form before new strings are appended.
+struct WrittenCompanion {
+    Text name;
+    std::string bytes;
+    bool takesRecords = true;  ///< false if a record is lost
+};
+
 /// Writes one form. `name` is the name of the form in error messages.
 class FormWriter {
  public:
-    FormWriter(const std::string& name, const Encoding& encoding, Text companionName,
-               std::string companion);
+    FormWriter(const std::string& name, const Encoding& encoding, WrittenCompanion companion);
 
     /// Throws FormError as Document::Write does.
     FormBytes Write(const ParsedForm& form) &&;
@@ -36,8 +47,7 @@ class FormWriter {
 
     const std::string& name_;
     const Encoding& encoding_;
-    Text companionName_;
-    std::string companion_;
+    WrittenCompanion companion_;
     Text text_;
 };
 

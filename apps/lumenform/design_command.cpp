@@ -5,6 +5,7 @@
 #include "apps/lumenform/commands.h"
 #include "apps/lumenform/design/window/design_window.h"
 #include "apps/lumenform/desktop_session.h"
+#include "apps/lumenform/warnings.h"
 
 namespace lumenkit::lumenform {
 
@@ -24,6 +25,7 @@ int DesignForm(const DesktopOptions& options) {
                                                      .codePage = options.codePage});
                              if (!options.form.empty()) {
                                  window->Load(QString::fromLocal8Bit(options.form));
+                                 PrintWarnings(window->Bench()->GetDesign().Document());
                              }
                              return window;
                          });

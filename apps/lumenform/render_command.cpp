@@ -11,6 +11,7 @@
 #include "apps/lumenform/desktop.h"
 #include "apps/lumenform/form_view/form_view.h"
 #include "apps/lumenform/rendered_design.h"
+#include "apps/lumenform/warnings.h"
 #include "forms/encoding.h"
 #include "forms/file.h"
 #include "project/lumenkit_classes.h"
@@ -43,6 +44,7 @@ void RequireRoom(const Options& options, QSize size) {
 
 QPixmap FormPicture(const Options& options, const qt::Context& context, forms::Document& document) {
     FormView view(context, document, Mode::Run);
+    PrintWarnings(document);
     QWidget window;  // without the size hints of a form
     view.setParent(&window);
     window.resize(view.sizeHint());

@@ -7,6 +7,7 @@
 
 #include "apps/lumenform/design/properties/page_dialog.h"
 #include "apps/lumenform/design/window/design_window.h"
+#include "apps/lumenform/warnings.h"
 
 namespace lumenkit::lumenform {
 
@@ -57,6 +58,7 @@ QPixmap DesignPicture(const qt::Context& context, const QString& form, int codeP
                          .codePage = codePage});
     if (!form.isEmpty()) {
         window.Load(form);
+        PrintWarnings(window.Bench()->GetDesign().Document());
         SelectFirst(*window.Bench(), page);
     }
     constexpr QSize size(1240, 780);

@@ -3,6 +3,7 @@
 #include "apps/lumenform/commands.h"
 #include "apps/lumenform/desktop_session.h"
 #include "apps/lumenform/run/run_window.h"
+#include "apps/lumenform/warnings.h"
 #include "forms/file.h"
 
 namespace lumenkit::lumenform {
@@ -11,9 +12,12 @@ namespace {
 
 int RunForm(const DesktopOptions& options) {
     forms::Document document = forms::Load(options.form, options.codePage);
-    return ShowOnDesktop(
-        options, "\"lumenform render\" draws the form without one",
-        [&](const qt::Context& context) { return std::make_unique<RunWindow>(context, document); });
+    return ShowOnDesktop(options, "\"lumenform render\" draws the form without one",
+                         [&](const qt::Context& context) {
+                             auto window = std::make_unique<RunWindow>(context, document);
+                             PrintWarnings(document);
+                             return window;
+                         });
 }
 
 }  // namespace

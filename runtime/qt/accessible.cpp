@@ -1,5 +1,6 @@
 #include "runtime/qt/accessible.h"
 
+#include <QWidget>
 #include <algorithm>
 
 #include "runtime/qt/boundary.h"

@@ -158,7 +158,7 @@ QWidget* Element::FocusAfter() const {
         return heir->Widget();
     }
     const std::list<Element*>& all = elements_.All();
-    const std::list<Element*>::const_iterator own = position_;
+    const auto own = std::list<Element*>::const_iterator(position_);
     const auto takes = [this](const Element* element) {
         const QWidget* const widget = element->Widget();
         return widget != nullptr && !Contains(*widget_, widget) && TakesTab(*widget);

@@ -1,6 +1,7 @@
 #include "runtime/qt/text_edit.h"
 
 #include <QClipboard>
+#include <QDrag>
 #include <QGuiApplication>
 #include <QInputMethodEvent>
 #include <QKeyEvent>
@@ -16,6 +17,7 @@
 #include <utility>
 
 #include "frame/scoped_count.h"
+#include "runtime/qt/drop_action.h"
 #include "runtime/qt/entered_units.h"
 #include "runtime/qt/input.h"
 #include "runtime/qt/pixels.h"
@@ -519,6 +521,16 @@ void TextEdit::Insert(const QMimeData& source) {
     }
 }
 
+void TextEdit::dragEnterEvent(QDragEnterEvent* event) {
+    QPlainTextEdit::dragEnterEvent(event);
+    AskForCopy(*event);
+}
+
+void TextEdit::dragMoveEvent(QDragMoveEvent* event) {
+    QPlainTextEdit::dragMoveEvent(event);
+    AskForCopy(*event);
+}
+
 // The source of a move deletes what it moved. If the box did not take all of the text, or the
 // receiver of the events refused it, the source keeps it.
 void TextEdit::dropEvent(QDropEvent* event) {
@@ -534,15 +546,15 @@ void TextEdit::dropEvent(QDropEvent* event) {
     if (event->dropAction() != Qt::MoveAction || event->source() == viewport()) {
         return;
     }
-    const bool mayCopy = event->possibleActions().testFlag(Qt::CopyAction);
-    event->setDropAction(mayCopy ? Qt::CopyAction : Qt::IgnoreAction);
+    bool isWhole = false;
     HandleEvent(errors_, [&] {
         const Text text = FromMimeData(*event->mimeData());
-        if (text_.Version() == dropped &&
-            Length() - before == static_cast<std::int32_t>(text.size())) {
-            event->setDropAction(Qt::MoveAction);
-        }
+        isWhole = text_.Version() == dropped &&
+                  Length() - before == static_cast<std::int32_t>(text.size());
     });
+    if (!isWhole) {
+        LetSourceKeep(*event);
+    }
 }
 
 void TextEdit::SetLocked(bool locked) {
@@ -565,14 +577,25 @@ host::MouseArguments TextEdit::MouseOf(const QMouseEvent& event) const {
 
 void TextEdit::mousePressEvent(QMouseEvent* event) {
     isPressed_ = event->button() == Qt::LeftButton;
+    hasDragged_ = false;
     host::MouseArguments mouse = MouseOf(*event);
     QPlainTextEdit::mousePressEvent(event);
     TellEvent([&](host::TextBoxEvents& events) { events.MouseDown(mouse); });
 }
 
+// A drag of text takes the release of the button, so that QPlainTextEdit believes it is still down
+// in this box. Its timer for scrolling would begin a further drag at the next press in another
+// widget.
 void TextEdit::mouseMoveEvent(QMouseEvent* event) {
+    if (hasDragged_ && (event->buttons() & Qt::LeftButton) != 0) {
+        return;
+    }
     host::MouseArguments mouse = MouseOf(*event);
     QPlainTextEdit::mouseMoveEvent(event);
+    if (findChild<QDrag*>() != nullptr) {
+        hasDragged_ = true;
+        isPressed_ = false;
+    }
     TellEvent([&](host::TextBoxEvents& events) { events.MouseMove(mouse); });
 }
 
@@ -588,6 +611,7 @@ void TextEdit::mouseReleaseEvent(QMouseEvent* event) {
 }
 
 void TextEdit::mouseDoubleClickEvent(QMouseEvent* event) {
+    hasDragged_ = false;
     QPlainTextEdit::mouseDoubleClickEvent(event);
     if (event->button() == Qt::LeftButton) {
         TellEvent([](host::TextBoxEvents& events) { events.DblClick(); });

@@ -65,6 +65,8 @@ class TextEdit final : public QPlainTextEdit {
     QMimeData* createMimeDataFromSelection() const override;
     bool canInsertFromMimeData(const QMimeData* source) const override;
     void insertFromMimeData(const QMimeData* source) override;
+    void dragEnterEvent(QDragEnterEvent* event) override;
+    void dragMoveEvent(QDragMoveEvent* event) override;
     void dropEvent(QDropEvent* event) override;
 
  private:
@@ -128,6 +130,7 @@ class TextEdit final : public QPlainTextEdit {
     bool locked_ = false;
     bool hasFocusNow_ = false;
     bool isPressed_ = false;
+    bool hasDragged_ = false;  // since the last press
 };
 
 }  // namespace lumenkit::qt

@@ -38,6 +38,7 @@ class AccessibleObject final : public IAccessible,
         : window_(window), standard_(std::move(standard)) {}
     AccessibleObject(const AccessibleObject&) = delete;
     AccessibleObject& operator=(const AccessibleObject&) = delete;
+    virtual ~AccessibleObject() = default;
 
     // IUnknown
     HRESULT STDMETHODCALLTYPE QueryInterface(REFIID iid, void** object) override;
@@ -138,8 +139,6 @@ class AccessibleObject final : public IAccessible,
     HRESULT STDMETHODCALLTYPE QueryService(REFGUID service, REFIID iid, void** object) override;
 
  private:
-    ~AccessibleObject() = default;
-
     IUnknown* Find(REFIID iid);
     HRESULT GiveChild(ULONG index, IDispatch** object) const;
     HRESULT GiveChild(ULONG index, VARIANT* child) const;
@@ -332,6 +331,7 @@ std::optional<LRESULT> AnswerObjectRequest(HWND window, WPARAM wParam, LPARAM lP
                                          reinterpret_cast<void**>(standard.GetAddressOf())))) {
         return std::nullopt;
     }
+    // NOLINTNEXTLINE(cppcoreguidelines-owning-memory): its references own it.
     const auto object = Adopted<IAccessible>(new AccessibleObject(window, standard));
     return LresultFromObject(__uuidof(IAccessible), wParam, object.Get());
 }

@@ -47,7 +47,7 @@ void CheckBox::DrawContent(Canvas& canvas, SIZE size) const {
     const MarkedCaption places = MarkedCaption::In(size, caption, PixelsPerInch().x, false);
     canvas.Clear(Color::ButtonFace);
     canvas.Fill(places.mark,
-                IsEnabled() && state_ < 2 ? Color::WindowBackground : Color::ButtonFace);
+                IsUsable() && state_ < 2 ? Color::WindowBackground : Color::ButtonFace);
     DrawSunkenEdge(canvas, places.mark);
     if (state_ != 0) {
         DrawTick(canvas, places.mark,

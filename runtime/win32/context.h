@@ -12,8 +12,8 @@ namespace lumenkit::win32 {
 /// The objects that all controls and pages of one component share. The context and everything that
 /// it refers to must outlive them.
 struct Context {
-    HINSTANCE module;           ///< the module of the component, not of the program
-    const ClassTable& classes;  ///< the classes that may be embedded
+    HINSTANCE module = nullptr;  ///< the module of the component, not of the program
+    const ClassTable& classes;   ///< the classes that may be embedded
     FontMaker& fonts;
     host::Application& application;
     host::Interaction& interaction;

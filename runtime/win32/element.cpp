@@ -225,6 +225,12 @@ LRESULT Element::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
         return Default(message, wParam, lParam);
     }
     const bool came = message == WM_SETFOCUS;
+    // A container that was left and entered again restores the focus to the window that had it.
+    const Element* const heir = came && !visible_ ? Heir() : nullptr;
+    if (heir != nullptr && heir->IsVisible()) {
+        SetFocus(heir->Handle());
+        return 0;
+    }
     const Watch watch(*this);
     const LRESULT answer = Default(message, wParam, lParam);
     if (!watch.IsGone()) {
@@ -280,7 +286,7 @@ bool Element::ShowsMnemonics() const {
 }
 
 Color Element::InkOf(Color color) const {
-    return enabled_ ? color : SystemColor(COLOR_GRAYTEXT);
+    return IsUsable() ? color : SystemColor(COLOR_GRAYTEXT);
 }
 
 }  // namespace lumenkit::win32

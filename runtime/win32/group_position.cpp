@@ -21,6 +21,7 @@ class GroupPosition final : public IAccessibleEx, public IRawElementProviderSimp
     GroupPosition(HWND window, IAccessible& object) : window_(window), object_(&object) {}
     GroupPosition(const GroupPosition&) = delete;
     GroupPosition& operator=(const GroupPosition&) = delete;
+    virtual ~GroupPosition() = default;
 
     HRESULT STDMETHODCALLTYPE QueryInterface(REFIID iid, void** object) override {
         if (object == nullptr) {
@@ -98,8 +99,6 @@ class GroupPosition final : public IAccessibleEx, public IRawElementProviderSimp
     }
 
  private:
-    ~GroupPosition() = default;
-
     AccessibleShare share_;
     std::atomic<ULONG> references_ = 1;
     HWND window_;

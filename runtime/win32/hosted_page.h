@@ -38,7 +38,7 @@ class HostedPage final : public HostedWindow {
     void Detach() { Park(); }
 
     /// Gives the focus to the constituent with this name. Returns false if there is none.
-    bool FocusOn(TextView part);
+    bool FocusOn(TextView name);
     /// Does the same as HostedControl::TranslateKey, and handles the mnemonics of the page's
     /// constituents.
     bool TranslateKey(const MSG& message);

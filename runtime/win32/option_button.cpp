@@ -113,7 +113,7 @@ void OptionButton::DrawRing(Canvas& canvas, RECT box) const {
     canvas.FillFigure(Figure::Ellipse, box, SystemColor(COLOR_BTNSHADOW));
     InflateRect(&box, -1, -1);
     canvas.FillFigure(Figure::Ellipse, box,
-                      IsEnabled() ? Color::WindowBackground : Color::ButtonFace);
+                      IsUsable() ? Color::WindowBackground : Color::ButtonFace);
     if (IsSelected()) {
         InflateRect(&box, 1 - edge, 1 - edge);
         canvas.FillFigure(Figure::Ellipse, box, InkOf(Color::WindowText));

@@ -1,6 +1,8 @@
 // Linked into test programs that need a QApplication. It exists while the tests run. If
 // QT_QPA_PLATFORM is not set, Qt uses no screen.
 #include <QApplication>
+#include <QEvent>
+#include <QThread>
 #include <QtGlobal>
 #include <array>
 #include <memory>
@@ -11,6 +13,24 @@
 namespace lumenkit::testing {
 namespace {
 
+// Lets a window close only when the compositor owes it no frame. A visible widget that is destroyed
+// closes its window, too.
+//
+// Qt 6.4 handles the end of a frame in a thread of its own. If a window closes at that moment, both
+// threads destroy the same callback, and the program crashes. The compositor ends a frame when it
+// next draws its screen, within 17 ms. The window draws nothing meanwhile, because this thread
+// waits. Later versions of Qt guard the callback.
+class FramesFirst final : public QObject {
+ public:
+    bool eventFilter(QObject* object, QEvent* event) override {
+        if (event->type() == QEvent::Close && object->isWindowType()) {
+            constexpr unsigned long frames = 40;  // milliseconds
+            QThread::msleep(frames);
+        }
+        return QObject::eventFilter(object, event);
+    }
+};
+
 class QtEnvironment final : public ::testing::Environment {
  public:
     void SetUp() override {
@@ -18,6 +38,9 @@ class QtEnvironment final : public ::testing::Environment {
             qputenv("QT_QPA_PLATFORM", "offscreen");
         }
         application_.emplace(count_, arguments_.data());
+        if (QGuiApplication::platformName() == QLatin1String("wayland")) {
+            application_->installEventFilter(&framesFirst_);
+        }
     }
     void TearDown() override { application_.reset(); }
 
@@ -25,6 +48,7 @@ class QtEnvironment final : public ::testing::Environment {
     std::array<char, 5> name_{"test"};
     std::array<char*, 2> arguments_{name_.data(), nullptr};
     int count_ = 1;
+    FramesFirst framesFirst_;
     std::optional<QApplication> application_;
 };
 

@@ -1,22 +1,13 @@
 #include "apps/lumenform/form_view/block_reader.h"
 
+#include <string>
+#include <utility>
+
 #include "forms/form_error.h"
 #include "frame/runtime_error.h"
 #include "frame/utf8.h"
 
 namespace lumenkit::lumenform {
-
-namespace {
-
-forms::Position PlaceOf(const forms::Block& block, TextView name) {
-    if (const forms::Property* property = block.FindProperty(name)) {
-        return property->ValuePlace();
-    }
-    const forms::Block* group = block.FindGroup(name);
-    return group == nullptr ? block.NamePlace() : group->NamePlace();
-}
-
-}  // namespace
 
 std::shared_ptr<qt::Font> MakeFont(const forms::FontDescription& description) {
     auto font = std::make_shared<qt::Font>(description.name, description.size);
@@ -33,6 +24,17 @@ forms::FormBag BagOf(const forms::Document& document, forms::Block& block) {
             [](const forms::FontDescription& description) { return MakeFont(description); }};
 }
 
+void WarnAbout(const forms::Document& document, const forms::Block& block, TextView name,
+               const RuntimeError& error) {
+    std::string text = ToUtf8(name) + ": " + ToUtf8(error.Description());
+    if (const forms::Property* property = block.FindProperty(name)) {
+        document.Warn(*property, std::move(text));
+        return;
+    }
+    const forms::Block* group = block.FindGroup(name);
+    document.Warn(group == nullptr ? block.NamePlace() : group->NamePlace(), std::move(text));
+}
+
 void Refuse(const forms::Document& document, forms::Position place, TextView what, TextView why) {
     throw forms::FormError(document.Name(), place, ToUtf8(what) + ": " + ToUtf8(why));
 }
@@ -42,7 +44,8 @@ T BlockReader::Read(TextView name, const Value& otherwise, T (*convert)(const Va
     try {
         return convert(BagOf(document_, block_).ReadProperty(name, otherwise));
     } catch (const RuntimeError& error) {
-        Refuse(document_, PlaceOf(block_, name), name, error.Description());
+        WarnAbout(document_, block_, name, error);
+        return convert(otherwise);
     }
 }
 

@@ -10,13 +10,14 @@
 #include "forms/form_bag.h"
 #include "frame/automation/value.h"
 #include "frame/color.h"
+#include "frame/runtime_error.h"
 #include "frame/text.h"
 #include "runtime/qt/font.h"
 
 namespace lumenkit::lumenform {
 
-/// Reads the properties of a block, converted to their types. Throws FormError with the place of a
-/// value that does not convert. Document and block must outlive the reader.
+/// Reads the properties of a block, converted to their types. A value that does not convert counts
+/// as missing and leaves a warning in the document. Document and block must outlive the reader.
 class BlockReader {
  public:
     BlockReader(const forms::Document& document, forms::Block& block)
@@ -52,6 +53,10 @@ std::shared_ptr<qt::Font> MakeFont(const forms::FontDescription& description);
 
 /// Returns the property bag of a control, with fonts of this runtime. See forms::FormBag.
 forms::FormBag BagOf(const forms::Document& document, forms::Block& block);
+
+/// Adds a warning to the document about a property or group whose reading raised an error.
+void WarnAbout(const forms::Document& document, const forms::Block& block, TextView name,
+               const RuntimeError& error);
 
 /// Throws a FormError at `place` for an error of the runtime.
 [[noreturn]] void Refuse(const forms::Document& document, forms::Position place, TextView what,

@@ -1,7 +1,6 @@
 #include "apps/lumenform/form_view/form_size.h"
 
 #include "apps/lumenform/form_view/scale.h"
-#include "frame/runtime_error.h"
 
 namespace lumenkit::lumenform {
 
@@ -9,18 +8,15 @@ FormSize ClientSizeOf(const BlockReader& form) {
     constexpr float usualWidth = 4800;
     constexpr float usualHeight = 3600;
     const Scale scale = Scale::Of(form, 0, 0);
-    const host::Placement inUnits = scale.ToTwips(
-        {.width = form.Number(u"ScaleWidth", 0), .height = form.Number(u"ScaleHeight", 0)});
+    const float scaledWidth = scale.across.LengthToTwips(form.Number(u"ScaleWidth", 0));
+    const float scaledHeight = scale.down.LengthToTwips(form.Number(u"ScaleHeight", 0));
     const auto length = [&](TextView name, float scaled, float usual) {
-        const float twips = form.Number(name, scaled > 0 ? scaled : usual);
-        if (twips < 0) {
-            Refuse(form.Document(), form.Block().FindProperty(name)->ValuePlace(), name,
-                   RuntimeErrorText(static_cast<std::int32_t>(ErrorNumber::InvalidPropertyValue)));
-        }
-        return twips;
+        const float otherwise = scaled > 0 ? scaled : usual;
+        const float twips = form.Number(name, otherwise);
+        return twips < 0 ? otherwise : twips;
     };
-    return {length(u"ClientWidth", inUnits.width, usualWidth),
-            length(u"ClientHeight", inUnits.height, usualHeight)};
+    return {length(u"ClientWidth", scaledWidth, usualWidth),
+            length(u"ClientHeight", scaledHeight, usualHeight)};
 }
 
 }  // namespace lumenkit::lumenform

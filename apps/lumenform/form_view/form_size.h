@@ -13,7 +13,7 @@ struct FormSize {
 };
 
 /// Reads the size from ClientWidth and ClientHeight in twips, or from ScaleWidth and ScaleHeight in
-/// the form's units. Throws FormError for a negative size.
+/// the form's units. A negative size counts as missing.
 FormSize ClientSizeOf(const BlockReader& form);
 
 }  // namespace lumenkit::lumenform

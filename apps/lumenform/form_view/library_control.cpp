@@ -2,9 +2,43 @@
 
 #include <algorithm>
 
+#include "frame/host/property_bag.h"
 #include "frame/runtime_error.h"
 
 namespace lumenkit::lumenform {
+
+namespace {
+
+// The bag from which a control is loaded. A value that cannot be read counts as missing and leaves
+// a warning in the document.
+class LoadingBag final : public host::PropertyBag {
+ public:
+    LoadingBag(const forms::Document& document, forms::Block& block)
+        : document_(document), block_(block), bag_(BagOf(document, block)) {}
+
+    Value ReadProperty(TextView name, const Value& defaultValue) override {
+        try {
+            Value value = bag_.ReadProperty(name, defaultValue);
+            const bool wantsObject = SameText(name, u"Font", Compare::IgnoreCase);
+            if (wantsObject && !std::holds_alternative<ObjectRef>(value)) {
+                Raise(ErrorNumber::TypeMismatch);
+            }
+            return value;
+        } catch (const RuntimeError& error) {
+            WarnAbout(document_, block_, name, error);
+            return defaultValue;
+        }
+    }
+    void WriteProperty(TextView /*name*/, const Value& /*value*/,
+                       const Value& /*defaultValue*/) override {}
+
+ private:
+    const forms::Document& document_;
+    forms::Block& block_;
+    forms::FormBag bag_;
+};
+
+}  // namespace
 
 LibraryControl::LibraryControl(const Stage& stage, const Surroundings& around, forms::Block& block,
                                const ClassDescriptor& type)
@@ -40,7 +74,7 @@ void LibraryControl::Start(QWidget& parent, const ClassDescriptor& type) {
         .tag = tag,
         .visible = stage_.mode == Mode::Design || Reader().Flag(u"Visible", true)};
     widget_ = new qt::HostedControl(stage_.context, type, site_, placing, &parent);
-    forms::FormBag bag = BagOf(stage_.document, Block());
+    LoadingBag bag(stage_.document, Block());
     widget_->StartSaved(bag);
     keeper_.emplace(stage_.document, Block(),
                     [this](host::PropertyBag& notes) { widget_->Save(notes); });

@@ -20,13 +20,22 @@ LiveControl::LiveControl(const Stage& stage, const Surroundings& around, forms::
       scale_(around.scale),
       name_(forms::NameInCode(block)),
       tabStop_(reader_.Flag(u"TabStop", true)) {
-    if (reader_.Has(u"TabIndex")) {
-        tabIndex_ = reader_.Whole(u"TabIndex", 0);
+    constexpr std::int32_t last = 32767;
+    const std::int32_t turn = reader_.Whole(u"TabIndex", -1);
+    if (turn >= 0 && turn <= last) {
+        tabIndex_ = turn;
     }
 }
 
 host::Placement LiveControl::SavedPlace(const host::Placement& otherwise) const {
-    return scale_.ToTwips(lumenform::SavedPlace(reader_, scale_.FromTwips(otherwise)));
+    host::Placement place = lumenform::SavedPlace(reader_, scale_, otherwise);
+    if (place.width < 0) {
+        place.width = otherwise.width;
+    }
+    if (place.height < 0) {
+        place.height = otherwise.height;
+    }
+    return place;
 }
 
 void LiveControl::Save() {
@@ -38,7 +47,7 @@ void LiveControl::SavePlace() {
     if (storedPlace_ == place) {
         return;
     }
-    StorePlace(reader_, scale_.FromTwips(storedPlace_), scale_.FromTwips(place));
+    StorePlace(reader_, scale_, storedPlace_, place);
     StoreExtent(Block(), u"_ExtentX", storedPlace_.width, place.width);
     StoreExtent(Block(), u"_ExtentY", storedPlace_.height, place.height);
     storedPlace_ = place;

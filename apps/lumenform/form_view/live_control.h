@@ -45,7 +45,7 @@ class LiveControl {
     /// ignores it.
     virtual void SetSpokenName(const QString& name) = 0;
 
-    /// The units in which the form saves the control's place.
+    /// The coordinates of the container, in which the form saves the ends of a line.
     const Scale& Units() const { return scale_; }
     /// In twips, relative to the upper left corner of the container.
     virtual host::Placement Place() const = 0;
@@ -61,8 +61,11 @@ class LiveControl {
     LiveControl(const Stage& stage, const Surroundings& around, forms::Block& block);
 
     const BlockReader& Reader() const { return reader_; }
-    /// Returns the place in the block, in twips. `otherwise` replaces missing values.
+    /// Returns the place in the block, in twips. `otherwise` replaces missing values and
+    /// negative sizes.
     host::Placement SavedPlace(const host::Placement& otherwise) const;
+    /// The place that the block describes, in twips.
+    const host::Placement& StoredPlace() const { return storedPlace_; }
     /// Called once with the initial place. Save writes only a place that differs from it.
     void SetStoredPlace(const host::Placement& place) { storedPlace_ = place; }
 
@@ -74,7 +77,7 @@ class LiveControl {
     Text name_;
     std::optional<std::int32_t> tabIndex_;
     bool tabStop_;
-    host::Placement storedPlace_;  // the place that the block describes
+    host::Placement storedPlace_;
 };
 
 }  // namespace lumenkit::lumenform

@@ -1,5 +1,7 @@
 #include "apps/lumenform/form_view/plain_control.h"
 
+#include "apps/lumenform/form_view/saved_place.h"
+#include "apps/lumenform/form_view/shapes.h"
 #include "frame/runtime_error.h"
 #include "runtime/qt/mnemonic.h"
 #include "runtime/qt/pixels.h"
@@ -13,10 +15,6 @@ PlainControl::PlainControl(const Stage& stage, const Surroundings& around, forms
       colors_{Reader().ColorOf(u"ForeColor", kind_.usual.fore),
               Reader().ColorOf(u"BackColor", kind_.usual.back)},
       place_(SavedPlace(kind_.place)) {
-    if (place_.width < 0 || place_.height < 0) {
-        Refuse(stage.document, block.NamePlace(), Name(),
-               RuntimeErrorText(static_cast<std::int32_t>(ErrorNumber::InvalidPropertyValue)));
-    }
     std::shared_ptr<qt::Font> font = Reader().Font();
     if (font == nullptr) {
         font = around.font;
@@ -24,10 +22,10 @@ PlainControl::PlainControl(const Stage& stage, const Surroundings& around, forms
     PlainWidget made =
         kind_.make(Reader(), [this, &stage](TextView event) { Raise(stage, event); });
     QWidget& inside = made.inside == nullptr ? *made.widget : *made.inside;
-    const bool isPicture = made.inside != nullptr;
-    inside_.emplace(
-        Surroundings{inside, colors_.back, font,
-                     isPicture ? Scale::Of(Reader(), place_.width, place_.height) : Scale()});
+    inside_.emplace(Surroundings{inside, colors_.back, font, ScaleInside(made)});
+    if (auto* const line = dynamic_cast<LineWidget*>(made.widget.get())) {
+        line->SetRises(Rises(Reader(), Units()));
+    }
     reach_ = made.reach;
     made.widget->setParent(&around.widget);
     widget_ = made.widget.release();
@@ -37,6 +35,17 @@ PlainControl::PlainControl(const Stage& stage, const Surroundings& around, forms
 
 PlainControl::~PlainControl() {
     qt::DeleteSafely(widget_.data());
+}
+
+// Only picture boxes have units of their own.
+Scale PlainControl::ScaleInside(const PlainWidget& made) const {
+    if (made.inside == nullptr) {
+        return {};
+    }
+    const qt::TwipsPerPixel& twips = qt::TwipsPerPixel::OfScreens();
+    const QRect client = Covered().adjusted(made.border, made.border, -made.border, -made.border);
+    return Scale::Of(Reader(), static_cast<float>(client.width() * twips.x),
+                     static_cast<float>(client.height() * twips.y));
 }
 
 QRect PlainControl::Covered() const {
@@ -80,6 +89,23 @@ QString PlainControl::SpokenText() const {
 void PlainControl::SetSpokenName(const QString& name) {
     if (kind_.isField) {
         widget_->setAccessibleName(name);
+    }
+}
+
+// The units of a picture box keep their size when the box is resized, so ScaleWidth and ScaleHeight
+// change.
+void PlainControl::Save() {
+    const host::Placement former = StoredPlace();
+    LiveControl::Save();
+    const auto store = [this](TextView name, const ScaleAxis& axis, float growth) {
+        if (growth != 0 && Reader().Has(name)) {
+            const float scaled = Reader().Number(name, 0) + axis.LengthFromTwips(growth);
+            Block().Set(name, forms::NumberLiteral(scaled));
+        }
+    };
+    if (&inside_->widget != widget_) {
+        store(u"ScaleWidth", inside_->scale.across, place_.width - former.width);
+        store(u"ScaleHeight", inside_->scale.down, place_.height - former.height);
     }
 }
 

@@ -9,7 +9,7 @@
 namespace lumenkit::lumenform {
 
 /// A control of another library, shown as a plain widget that looks like it. Only its place is
-/// written to its block.
+/// written to its block, and the size of a picture box in its own units.
 class PlainControl final : public LiveControl {
  public:
     PlainControl(const Stage& stage, const Surroundings& around, forms::Block& block);
@@ -26,9 +26,11 @@ class PlainControl final : public LiveControl {
     host::Placement Place() const override { return place_; }
     void Move(const host::Placement& place) override;
     void PaletteChanged() override;
+    void Save() override;
 
  private:
     QRect Covered() const;
+    Scale ScaleInside(const PlainWidget& made) const;
     void Raise(const Stage& stage, TextView event);
     void SetUp(const Stage& stage, const qt::Font& font);
 

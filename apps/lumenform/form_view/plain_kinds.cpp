@@ -15,6 +15,7 @@
 #include "apps/lumenform/form_view/command_button.h"
 #include "apps/lumenform/form_view/companion_records.h"
 #include "apps/lumenform/form_view/labelled_box.h"
+#include "apps/lumenform/form_view/line_edit.h"
 #include "apps/lumenform/form_view/saved_place.h"
 #include "apps/lumenform/form_view/shapes.h"
 #include "forms/controls.h"
@@ -87,7 +88,7 @@ PlainWidget MakeTextBox(const BlockReader& reader, const PlainSink& raise) {
     if (reader.Flag(u"MultiLine", false)) {
         return MakeMultiLine(reader, raise);
     }
-    auto box = std::make_unique<QLineEdit>(qt::ToQString(reader.String(u"Text")));
+    auto box = std::make_unique<LineEdit>(qt::ToQString(reader.String(u"Text")));
     box->setAlignment(AlignmentOf(reader) | Qt::AlignVCenter);
     box->setReadOnly(reader.Flag(u"Locked", false));
     box->setFrame(reader.Whole(u"BorderStyle", 1) != 0);
@@ -198,7 +199,8 @@ PlainWidget MakePictureBox(const BlockReader& reader, const PlainSink& /*raise*/
     inside->setMinimumSize(1, 1);  // the box clips the picture
     auto* const layout = new QVBoxLayout(frame.get());
     layout->setContentsMargins(0, 0, 0, 0);
-    PlainWidget made{std::move(frame), inside.get()};
+    const int border = frame->frameWidth();
+    PlainWidget made{.widget = std::move(frame), .inside = inside.get(), .border = border};
     layout->addWidget(inside.release());
     return made;
 }
@@ -229,7 +231,7 @@ PlainWidget MakeScrollBar(const BlockReader& reader, const PlainSink& raise) {
 }
 
 PlainWidget MakeLine(const BlockReader& reader, const PlainSink& /*raise*/) {
-    auto line = std::make_unique<LineWidget>(Stroke::Of(reader), Rises(reader));
+    auto line = std::make_unique<LineWidget>(Stroke::Of(reader));
     const int reach = line->Reach();
     return {.widget = std::move(line), .reach = reach};
 }

@@ -17,6 +17,7 @@ struct PlainWidget {
     std::unique_ptr<QWidget> widget;
     QWidget* inside = nullptr;  ///< parent of contained controls; null: the widget
     int reach = 0;              ///< pixels by which it exceeds the control's place on each side
+    int border = 0;             ///< pixels of the border around `inside`, on each side
 };
 
 /// Reports an action of the user, with the name of the event.

@@ -27,21 +27,46 @@ struct Stretch {
     friend bool operator==(Stretch, Stretch) = default;
 };
 
-Stretch Between(const BlockReader& reader, Ends names, Stretch otherwise) {
-    const float first = reader.Number(names.first, otherwise.start);
-    const float second = reader.Number(names.second, otherwise.start + otherwise.length);
-    return {std::min(first, second), std::abs(second - first)};
+// The ends of a line in one direction, in twips.
+struct EndPair {
+    float first = 0;
+    float second = 0;
+};
+
+EndPair EndsIn(const BlockReader& reader, Ends names, const ScaleAxis& axis, Stretch otherwise) {
+    const auto end = [&](TextView name, float usual) {
+        return reader.Has(name) ? axis.ToTwips(reader.Number(name, 0)) : usual;
+    };
+    return {end(names.first, otherwise.start),
+            end(names.second, otherwise.start + otherwise.length)};
 }
 
-void StoreEnds(const BlockReader& reader, Ends names, Stretch former, Stretch now) {
+Stretch Between(const EndPair& ends) {
+    return {std::min(ends.first, ends.second), std::abs(ends.second - ends.first)};
+}
+
+void StoreEnds(const BlockReader& reader, Ends names, const ScaleAxis& axis, Stretch former,
+               Stretch now) {
     if (former == now) {
         return;  // the sum could round to a different number for the same place
     }
-    const float first = reader.Number(names.first, former.start);
-    const float second = reader.Number(names.second, former.start + former.length);
+    const auto store = [&](TextView name, float formerTwips, float twips) {
+        if (formerTwips != twips) {
+            reader.Block().Set(name, forms::NumberLiteral(axis.FromTwips(twips)));
+        }
+    };
+    const EndPair ends = EndsIn(reader, names, axis, former);
     const float end = now.start + now.length;
-    Store(reader.Block(), names.first, first, first <= second ? now.start : end);
-    Store(reader.Block(), names.second, second, first <= second ? end : now.start);
+    store(names.first, ends.first, ends.first <= ends.second ? now.start : end);
+    store(names.second, ends.second, ends.first <= ends.second ? end : now.start);
+}
+
+void RescaleEnd(const BlockReader& reader, TextView name, const ScaleAxis& former,
+                const ScaleAxis& now) {
+    if (former != now && reader.Has(name)) {
+        const float twips = former.ToTwips(reader.Number(name, 0));
+        reader.Block().Set(name, forms::NumberLiteral(now.FromTwips(twips)));
+    }
 }
 
 }  // namespace
@@ -50,17 +75,21 @@ bool HasEnds(const forms::Block& block) {
     return SameText(block.ClassName(), u"VB.Line", Compare::IgnoreCase);
 }
 
-bool Rises(const BlockReader& reader) {
-    const auto grows = [&](Ends names) {
-        return reader.Number(names.first, 0) <= reader.Number(names.second, 0);
+bool Rises(const BlockReader& reader, const Scale& scale) {
+    const auto grows = [&](Ends names, const ScaleAxis& axis) {
+        const EndPair ends = EndsIn(reader, names, axis, {});
+        return ends.first <= ends.second;
     };
-    return grows(across) != grows(down);
+    return grows(across, scale.across) != grows(down, scale.down);
 }
 
-host::Placement SavedPlace(const BlockReader& reader, const host::Placement& otherwise) {
+host::Placement SavedPlace(const BlockReader& reader, const Scale& scale,
+                           const host::Placement& otherwise) {
     if (HasEnds(reader.Block())) {
-        const Stretch x = Between(reader, across, {otherwise.left, otherwise.width});
-        const Stretch y = Between(reader, down, {otherwise.top, otherwise.height});
+        const Stretch x =
+            Between(EndsIn(reader, across, scale.across, {otherwise.left, otherwise.width}));
+        const Stretch y =
+            Between(EndsIn(reader, down, scale.down, {otherwise.top, otherwise.height}));
         return {.left = x.start, .top = y.start, .width = x.length, .height = y.length};
     }
     return {.left = reader.Number(u"Left", otherwise.left),
@@ -69,18 +98,27 @@ host::Placement SavedPlace(const BlockReader& reader, const host::Placement& oth
             .height = reader.Number(u"Height", otherwise.height)};
 }
 
-void StorePlace(const BlockReader& reader, const host::Placement& former,
+void StorePlace(const BlockReader& reader, const Scale& scale, const host::Placement& former,
                 const host::Placement& now) {
     forms::Block& block = reader.Block();
     if (HasEnds(block)) {
-        StoreEnds(reader, across, {former.left, former.width}, {now.left, now.width});
-        StoreEnds(reader, down, {former.top, former.height}, {now.top, now.height});
+        StoreEnds(reader, across, scale.across, {former.left, former.width}, {now.left, now.width});
+        StoreEnds(reader, down, scale.down, {former.top, former.height}, {now.top, now.height});
         return;
     }
     Store(block, u"Left", former.left, now.left);
     Store(block, u"Top", former.top, now.top);
     Store(block, u"Width", former.width, now.width);
     Store(block, u"Height", former.height, now.height);
+}
+
+void Rescale(const BlockReader& reader, const Scale& former, const Scale& now) {
+    if (HasEnds(reader.Block())) {
+        RescaleEnd(reader, across.first, former.across, now.across);
+        RescaleEnd(reader, across.second, former.across, now.across);
+        RescaleEnd(reader, down.first, former.down, now.down);
+        RescaleEnd(reader, down.second, former.down, now.down);
+    }
 }
 
 }  // namespace lumenkit::lumenform

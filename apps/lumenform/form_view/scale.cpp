@@ -41,35 +41,22 @@ Unit UnitOf(std::int32_t mode) {
 }  // namespace
 
 Scale Scale::Of(const BlockReader& container, float width, float height) {
-    Scale scale;
     const std::int32_t mode = container.Choice(u"ScaleMode", Centimetres + 1, Twips);
-    Unit unit = UnitOf(mode);
+    const Unit unit = UnitOf(mode);
+    Scale scale{{.unit = unit.x}, {.unit = unit.y}};
     if (mode == User) {
-        scale.left_ = container.Number(u"ScaleLeft", 0);
-        scale.top_ = container.Number(u"ScaleTop", 0);
+        scale.across.origin = container.Number(u"ScaleLeft", 0);
+        scale.down.origin = container.Number(u"ScaleTop", 0);
         const float unitsAcross = container.Number(u"ScaleWidth", width);
         const float unitsDown = container.Number(u"ScaleHeight", height);
-        if (unitsAcross != 0 && unitsDown != 0 && width > 0 && height > 0) {
-            unit = {width / unitsAcross, height / unitsDown};
+        const float x = width / unitsAcross;
+        const float y = height / unitsDown;
+        if (std::isnormal(x) && std::isnormal(y)) {
+            scale.across.unit = x;
+            scale.down.unit = y;
         }
     }
-    scale.x_ = unit.x;
-    scale.y_ = unit.y;
     return scale;
-}
-
-host::Placement Scale::ToTwips(const host::Placement& units) const {
-    return {.left = (units.left - left_) * x_,
-            .top = (units.top - top_) * y_,
-            .width = units.width * x_,
-            .height = units.height * y_};
-}
-
-host::Placement Scale::FromTwips(const host::Placement& twipsPlace) const {
-    return {.left = twipsPlace.left / x_ + left_,
-            .top = twipsPlace.top / y_ + top_,
-            .width = twipsPlace.width / x_,
-            .height = twipsPlace.height / y_};
 }
 
 std::int32_t ExtentOf(float twips) {

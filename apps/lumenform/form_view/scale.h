@@ -3,27 +3,36 @@
 #include <cstdint>
 
 #include "apps/lumenform/form_view/block_reader.h"
-#include "frame/host/constituent.h"
 
 namespace lumenkit::lumenform {
 
-/// The units in which a container's controls are placed, from its ScaleMode: twips, points, pixels,
-/// characters, inches, millimetres, centimetres or custom units.
-class Scale {
- public:
-    /// The scale of places in twips.
-    Scale() = default;
+/// The coordinates of a container in one direction.
+struct ScaleAxis {
+    float origin = 0;  ///< the coordinate of the left or upper edge
+    float unit = 1;    ///< twips per unit; negative if the coordinates grow to the left or upwards
+
+    /// Converts a coordinate to twips from the left or upper edge, and back.
+    float ToTwips(float coordinate) const { return (coordinate - origin) * unit; }
+    float FromTwips(float twips) const { return twips / unit + origin; }
+    /// Converts a length.
+    float LengthToTwips(float length) const { return length * unit; }
+    float LengthFromTwips(float twips) const { return twips / unit; }
+
+    friend bool operator==(const ScaleAxis&, const ScaleAxis&) = default;
+};
+
+/// The coordinates of a container, from its ScaleMode: twips, points, pixels, characters, inches,
+/// millimetres, centimetres or custom units. A form file has the ends of lines and the size of the
+/// client area (ScaleWidth, ScaleHeight) in these units. Left, Top, Width and Height of controls
+/// are in twips whatever the units are.
+struct Scale {
+    ScaleAxis across;
+    ScaleAxis down;
+
     /// The scale of a form or picture box with a client area of `width` by `height` twips.
     static Scale Of(const BlockReader& container, float width, float height);
 
-    host::Placement ToTwips(const host::Placement& units) const;
-    host::Placement FromTwips(const host::Placement& twips) const;
-
- private:
-    float left_ = 0;  // coordinates of the upper left corner
-    float top_ = 0;
-    float x_ = 1;  // twips per unit
-    float y_ = 1;
+    friend bool operator==(const Scale&, const Scale&) = default;
 };
 
 /// Converts twips to hundredths of a millimetre, the unit in which controls of component files also

@@ -53,8 +53,13 @@ int Stroke::Reach() const {
     return style == Transparent || style == InsideSolid ? 0 : width / 2;
 }
 
-LineWidget::LineWidget(const Stroke& stroke, bool rises) : stroke_(stroke), rises_(rises) {
+LineWidget::LineWidget(const Stroke& stroke) : stroke_(stroke) {
     setAttribute(Qt::WA_TransparentForMouseEvents);
+}
+
+void LineWidget::SetRises(bool rises) {
+    rises_ = rises;
+    update();
 }
 
 int LineWidget::Reach() const {

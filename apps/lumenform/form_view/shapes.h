@@ -31,8 +31,10 @@ struct Stroke {
 /// Draws a line from one corner of its box to the opposite one.
 class LineWidget final : public QWidget {
  public:
-    /// \param rises whether the line rises from left to right
-    LineWidget(const Stroke& stroke, bool rises);
+    explicit LineWidget(const Stroke& stroke);
+
+    /// Sets whether the line rises from left to right. Initially it falls.
+    void SetRises(bool rises);
 
     /// The number of pixels by which the widget exceeds the box between the ends on each side.
     int Reach() const;
@@ -42,7 +44,7 @@ class LineWidget final : public QWidget {
 
  private:
     Stroke stroke_;
-    bool rises_;
+    bool rises_ = false;
 };
 
 /// The filling of a shape, from BackColor, BackStyle, FillColor and FillStyle.

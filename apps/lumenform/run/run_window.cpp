@@ -55,7 +55,7 @@ void RunWindow::AddLog() {
 void RunWindow::AddMenus(QDockWidget& dock) {
     QMenu* const file = menuBar()->addMenu(tr("&File"));
     QAction* const close = file->addAction(tr("&Close"), this, &QWidget::close);
-    close->setShortcuts(QKeySequence::Quit);
+    close->setShortcut(Qt::CTRL | Qt::Key_Q);
     QMenu* const view = menuBar()->addMenu(tr("&View"));
     QAction* const shown = dock.toggleViewAction();
     shown->setText(tr("&Event log"));

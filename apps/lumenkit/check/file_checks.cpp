@@ -4,6 +4,7 @@
 #include <array>
 #include <cstdint>
 #include <optional>
+#include <set>
 #include <tuple>
 #include <utility>
 
@@ -11,6 +12,7 @@
 #include "apps/lumenkit/check/contents_check.h"
 #include "apps/lumenkit/check/memo_check.h"
 #include "apps/lumenkit/check/name_check.h"
+#include "apps/lumenkit/check/rules.h"
 #include "apps/lumenkit/check/saved_control.h"
 #include "apps/lumenkit/check/spoken_name_check.h"
 #include "apps/lumenkit/check/text_places.h"
@@ -72,6 +74,27 @@ auto PlaceIn(const Finding& finding) {
     return std::tuple(finding.place.line, finding.place.column, finding.offset.value_or(0));
 }
 
+// Adds the warnings of the document, except where another finding has the same place.
+void AddWarnings(const forms::Document& document, Findings& findings) {
+    std::set<std::pair<std::size_t, std::size_t>> places;
+    for (const Finding& finding : findings) {
+        places.emplace(finding.place.line, finding.place.column);
+    }
+    for (const forms::Warning& warning : document.Warnings()) {
+        if (!places.contains({warning.place.line, warning.place.column})) {
+            findings.push_back({rules::notUnderstood.name,
+                                document.Name(),
+                                warning.place,
+                                {},
+                                {},
+                                std::nullopt,
+                                warning.text,
+                                {},
+                                false});
+        }
+    }
+}
+
 }  // namespace
 
 Findings CheckForm(const forms::Document& document, const ClassTable& classes) {
@@ -84,6 +107,7 @@ Findings CheckForm(const forms::Document& document, const ClassTable& classes) {
             CheckSpokenName(control, document, label);
         }
     }
+    AddWarnings(document, findings);
     std::stable_sort(
         findings.begin(), findings.end(),
         [](const Finding& left, const Finding& right) { return PlaceIn(left) < PlaceIn(right); });

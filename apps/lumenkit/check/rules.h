@@ -41,6 +41,9 @@ inline constexpr Rule unreadProperty{"unread-property",
 inline constexpr Rule unreadableValue{"unreadable-value",
                                       "a saved value of the wrong type: loading reports an error"};
 
+inline constexpr Rule notUnderstood{"not-understood",
+                                    "a line, value or reference that is kept without effect"};
+
 inline constexpr Rule unnamedControl{"unnamed-control",
                                      "a memo or an option list without a name for screen readers"};
 
@@ -53,6 +56,6 @@ inline constexpr std::array allRules = {
     rules::colorOutOfRange,     rules::numberOverflow,      rules::controlCharacter,
     rules::tooManyLines,        rules::textTooLong,         rules::duplicateValue,
     rules::listIndexOutOfRange, rules::textOverLimits,      rules::unreadProperty,
-    rules::unreadableValue,     rules::unnamedControl};
+    rules::unreadableValue,     rules::notUnderstood,       rules::unnamedControl};
 
 }  // namespace lumenkit::check

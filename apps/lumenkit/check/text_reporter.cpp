@@ -32,11 +32,15 @@ std::string SubjectOf(const Finding& finding) {
 }  // namespace
 
 void TextReporter::Report(const Finding& finding) {
-    output_ << Colored(colors_.output, bold, PlaceOf(finding)) << ' ' << SubjectOf(finding);
-    if (finding.isElsewhere && finding.offset) {
-        output_ << ", offset " << *finding.offset;
+    output_ << Colored(colors_.output, bold, PlaceOf(finding)) << ' ';
+    if (const std::string subject = SubjectOf(finding); !subject.empty()) {
+        output_ << subject;
+        if (finding.isElsewhere && finding.offset) {
+            output_ << ", offset " << *finding.offset;
+        }
+        output_ << ": ";
     }
-    output_ << ": " << Colored(colors_.output, yellow, finding.message);
+    output_ << Colored(colors_.output, yellow, finding.message);
     if (!finding.suggestion.empty()) {
         output_ << "; did you mean \"" << Printable(finding.suggestion) << "\"?";
     }

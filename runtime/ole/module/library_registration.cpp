@@ -2,7 +2,8 @@
 
 #include <algorithm>
 #include <array>
-#include <cwchar>
+#include <charconv>
+#include <cstdint>
 #include <string_view>
 
 #include "runtime/ole/module/identifiers.h"
@@ -15,13 +16,15 @@ namespace lumenkit::ole {
 namespace {
 
 constexpr LCID neutralLocale = 0;
+constexpr int hexadecimalBase = 16;
 constexpr bool has64Bits = sizeof(void*) == sizeof(std::uint64_t);
 constexpr const wchar_t* ownBitness = has64Bits ? L"win64" : L"win32";
 
 std::wstring Hexadecimal(unsigned long number) {
-    std::array<wchar_t, 2 * sizeof number + 1> digits = {};
-    std::swprintf(digits.data(), digits.size(), L"%lx", number);
-    return digits.data();
+    std::array<char, 2 * sizeof number> digits = {};
+    const auto written =
+        std::to_chars(digits.data(), digits.data() + digits.size(), number, hexadecimalBase);
+    return {digits.data(), written.ptr};
 }
 
 std::wstring LibraryKey(const LibraryEntry& library) {

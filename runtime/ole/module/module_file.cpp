@@ -1,5 +1,7 @@
 #include "runtime/ole/module/module_file.h"
 
+#include <cwchar>
+
 #include "runtime/win32/application.h"
 
 namespace lumenkit::ole {
@@ -12,7 +14,8 @@ std::wstring LongForm(const std::wstring& path) {
     if (size == 0 || GetLongPathNameW(path.c_str(), text.data(), size) >= size) {
         return path;
     }
-    return text.c_str();
+    text.resize(std::wcslen(text.c_str()));
+    return text;
 }
 
 }  // namespace

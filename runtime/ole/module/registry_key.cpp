@@ -1,6 +1,7 @@
 #include "runtime/ole/module/registry_key.h"
 
 #include <array>
+#include <cwchar>
 #include <memory>
 #include <type_traits>
 
@@ -72,7 +73,8 @@ std::optional<std::wstring> RegistryKey::TextAt(const std::wstring& path, Regist
     std::wstring text(size / sizeof(wchar_t), L'\0');
     CheckStatus(
         RegGetValueW(key.get(), nullptr, nullptr, RRF_RT_REG_SZ, nullptr, text.data(), &size));
-    return std::wstring(text.c_str());
+    text.resize(std::wcslen(text.c_str()));
+    return text;
 }
 
 std::vector<std::wstring> RegistryKey::KeysIn(const std::wstring& path) {

@@ -20,7 +20,9 @@ class StoredProperties final : public SettingsBag {
     void WriteProperty(TextView name, const Value& value, const Value& defaultValue) override;
 
     /// Raises the error: a stream whose check sum is right contains no unusable value.
-    void Refuse(TextView /*name*/, const RuntimeError& error) override { throw error; }
+    void Refuse(TextView /*name*/, const RuntimeError& error) override {
+        throw RuntimeError(error.Number(), error.Description(), error.Line());
+    }
 
     const stored::Records& GetRecords() const { return records_; }
 

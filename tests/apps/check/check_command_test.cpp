@@ -90,13 +90,16 @@ TEST(CheckCommand, GoesOnBehindAFormThatCannotBeRead) {
 
     const Outcome text = RunProgram("check " + here + "broken");
     EXPECT_EQ(FromHere(text.output),
+              "broken/lost.frm:3:25: memLost: no label with a text is directly before the memo in "
+              "the tab order; screen readers have no name for it [unnamed-control]\n"
+              "broken/lost.frm:4:27: lost.frx cannot be read; its texts and pictures are missing "
+              "[not-understood]\n"
               "broken/readable.frm:4:28: lblReadable.Caption: unknown command \"Blod\"; did you "
               "mean \"bold\"? [unknown-command]\n"
-              "1 file checked: 1 finding, 2 errors\n");
+              "2 files checked: 3 findings, 1 error\n");
     EXPECT_EQ(FromHere(text.errors),
-              "lumenkit: broken/cut.frm:4:36: expected '\"' to end the text, found the end of the "
-              "line\n"
-              "lumenkit: broken/lost.frx: cannot be read\n");
+              "lumenkit: broken/cut.frm:5:1: expected End of lblCut (begun in line 3), found the "
+              "end of the file\n");
     EXPECT_EQ(text.status, 2);
 }
 

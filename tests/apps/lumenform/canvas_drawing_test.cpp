@@ -152,12 +152,14 @@ TEST(CanvasForm, UnitsOfItsOwnStayAsLargeAsTheyAre) {
     DesignedForm canvas(
         FormOf("VERSION 5.00\nBegin VB.Form Form1\n   ClientHeight = 3000\n   ClientWidth = 4500\n"
                "   ScaleHeight = 50\n   ScaleLeft = -10\n   ScaleMode = 0\n   ScaleWidth = 100\n"
-               "   Begin VB.TextBox T\n      Left = 10\n      Width = 20\n   End\nEnd\n"));
+               "   Begin VB.Line L\n      X1 = 10\n      X2 = 30\n      Y1 = 0\n      Y2 = 10\n"
+               "   End\nEnd\n"));
     const std::string before = canvas.Saved();
-    const Placement place = canvas.PlaceOf(u"T");
+    const Placement place = canvas.PlaceOf(u"L");
+    EXPECT_EQ(place, (Placement{900, 0, 900, 600}));
     canvas.Drag(canvas.FormHandle(1, 0), {30, 0}, Qt::AltModifier);
     EXPECT_THAT(canvas.ChangedSince(before), ElementsAre("ClientWidth = 4950", "ScaleWidth = 110"));
-    EXPECT_EQ(canvas.PlaceOf(u"T"), place);
+    EXPECT_EQ(canvas.PlaceOf(u"L"), place);
 }
 
 TEST(CanvasForm, EscPutsItBackAndNothingIsLessThanAPixel) {

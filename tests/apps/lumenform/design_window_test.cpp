@@ -268,13 +268,36 @@ TEST_F(DesignWindowTest, AFailedSaveSaysSoAndLosesNothing) {
 TEST_F(DesignWindowTest, ABadFileIsToldWithItsLineAndChangesNothing) {
     window.Load(Copy("label"));
     const std::string text = Text();
-    std::ofstream(File(QStringLiteral("bad.frm"))) << "VERSION 5.00\nBegin VB.Form f\n   X\nEnd\n";
+    std::ofstream(File(QStringLiteral("bad.frm"))) << "VERSION 5.00\nBegin VB.Form f\n";
     lumenform::RecentFiles(settings).Add(Path(QStringLiteral("bad.frm")));
     Answer answer(QStringLiteral("OK"));
     Q_EMIT window.Start().RecentWanted(Path(QStringLiteral("bad.frm")));
     EXPECT_THAT(answer.said, HasSubstr("bad.frm cannot be opened."));
-    EXPECT_THAT(answer.said, HasSubstr("bad.frm:3:"));
+    EXPECT_THAT(answer.said, HasSubstr("bad.frm:3:1: expected End of f"));
     EXPECT_EQ(Text(), text);
+}
+
+TEST_F(DesignWindowTest, TheStatusLineShowsTheFirstOddValue) {
+    const std::string odd =
+        "VERSION 5.00\nBegin VB.Form f\n   X\n   Begin VB.Label L\n      Left = 1,5\n"
+        "      Text = $\"odd.frx\":0000\n   End\nEnd\n";
+    std::ofstream(File(QStringLiteral("odd.frm"))) << odd;
+    window.Load(Path(QStringLiteral("odd.frm")));
+    EXPECT_EQ(window.statusBar()->currentMessage(),
+              QStringLiteral("odd.frm:3:5: expected '=', found the end of the line (and 2 more; "
+                             "\"lumenkit check\" lists them)"));
+    Select(u"L");
+    Nudge();
+    TypeInto(u"Caption", "new\r");
+    const std::string changed = Text();
+    EXPECT_THAT(changed, HasSubstr("   X\n"));
+    EXPECT_THAT(changed, HasSubstr("$\"odd.frx\":0000\n"));
+    EXPECT_TRUE(window.Save());
+    EXPECT_EQ(FileBytes(File(QStringLiteral("odd.frm"))), changed);
+    EXPECT_FALSE(fs::exists(File(QStringLiteral("odd.frx"))));
+    Design().History().undo();
+    Design().History().undo();
+    EXPECT_EQ(Text(), odd);
 }
 
 TEST_F(DesignWindowTest, AsksBeforeChangesAreLost) {

@@ -119,9 +119,10 @@ TEST(DrawnLine, IsMovedByItsEnds) {
     EXPECT_THROW(line.Move({.width = -1}), RuntimeError);
 }
 
-TEST(DrawnLine, RefusesEndsThatAreNoNumbers) {
-    EXPECT_THROW(LoadedView(FormWith("   Begin VB.Line L\n X1 = \"far\"\n End\n")),
-                 forms::FormError);
+TEST(DrawnLine, OpensWithEndsThatAreNoNumbers) {
+    const LoadedView view(FormWith("   Begin VB.Line L\n X1 = \"far\"\n X2 = 300\n End\n"));
+    EXPECT_EQ(view.Control(u"L").Place().width, 300);
+    EXPECT_EQ(view.document.Warnings().size(), 1U);
 }
 
 TEST(DrawnShape, HasABorderAndAFilling) {

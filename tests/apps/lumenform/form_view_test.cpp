@@ -27,13 +27,15 @@ int CodePageOf(const fs::path& path) {
     return path.stem() == "polish" ? 1250 : path.stem() == "cyrillic" ? 1251 : 1252;
 }
 
+// Returns the first warning of a form.
 std::string MessageOf(const std::string& inner) {
-    try {
-        const LoadedView view(FormWith(inner));
-    } catch (const forms::FormError& error) {
-        return error.what();
-    }
-    return {};
+    const LoadedView view(FormWith(inner));
+    EXPECT_THAT(view.document.Write().form, HasSubstr(inner));
+    const std::vector<forms::Warning> warnings = view.document.Warnings();
+    return warnings.empty() ? ""
+                            : forms::FormError(view.document.Name(), warnings.front().place,
+                                               warnings.front().text)
+                                  .what();
 }
 
 TEST(FormView, TheMnemonicOfALabelLeadsToTheNextControlOfAnyKind) {
@@ -70,19 +72,6 @@ TEST(FormView, LiesAsTheFileSays) {
     const QWidget& label = view.Control(u"VLabel1").Widget();
     EXPECT_EQ(label.mapTo(&view.view->Client(), QPoint(0, 0)), QPoint(8 + 8, 8 + 16));
     EXPECT_EQ(label.parentWidget(), &view.Control(u"picInner").Inside().widget);
-}
-
-TEST(FormView, UnderstandsOtherUnits) {
-    const LoadedView view(
-        FormWith("   ScaleMode = 3\n   ScaleWidth = 300\n   ScaleHeight = 200\n"
-                 "   Begin lumenkit.VLabel A\n Left = 10\n Top = 20\n Width = 30\n Height = 40\n"
-                 "   End\n"
-                 "   Begin VB.PictureBox P\n BorderStyle = 0\n Left = 100\n Top = 0\n Width = 100\n"
-                 "      Height = 50\n ScaleMode = 0\n ScaleWidth = 10\n ScaleHeight = 10\n"
-                 "      Begin VB.Label L\n Left = 1\n Top = 2\n Width = 3\n Height = 4\n End\n"
-                 "   End\n"));
-    EXPECT_EQ(view.Control(u"A").Widget().geometry(), QRect(10, 20, 30, 40));
-    EXPECT_EQ(view.Control(u"L").Widget().geometry(), QRect(10, 10, 30, 20));
 }
 
 TEST(FormView, TheFirstInTheFileIsInFrontAndLabelsAreBehind) {
@@ -179,16 +168,51 @@ TEST(FormView, AMovedControlSavesItsExtents) {
     EXPECT_THAT(saved, HasSubstr("      Width=2880\n      _ExtentX=5080\n      _ExtentY=2540\n"));
 }
 
-TEST(FormView, TellsWhatIsWrongAndWhere) {
+TEST(FormView, OpensWithOddValuesAndTellsWhereTheyAre) {
     EXPECT_EQ(MessageOf("   Begin lumenkit.VLabel A\n      Left = \"far\"\n   End\n"),
               "x.frm:6:14: Left: Type mismatch");
     EXPECT_EQ(MessageOf("   Begin VB.TextBox A\n      Enabled = \"maybe\"\n   End\n"),
               "x.frm:6:17: Enabled: Type mismatch");
     EXPECT_EQ(MessageOf("   Begin lumenkit.VLabel A\n      Width = -1\n   End\n"),
-              "x.frm:5:26: A: Invalid property value");
+              "x.frm:6:15: Width: Invalid property value");
     EXPECT_EQ(MessageOf("   Begin VB.Label A\n      Width = -1\n   End\n"),
-              "x.frm:5:19: A: Invalid property value");
+              "x.frm:6:15: Width: Invalid property value");
+    EXPECT_EQ(MessageOf("   Begin VB.Label A\n      TabIndex = 4000000000\n   End\n"),
+              "x.frm:6:18: TabIndex: Overflow");
+    EXPECT_EQ(MessageOf("   Begin VB.Label A\n      Left = 1E+300\n   End\n"),
+              "x.frm:6:14: Left: Overflow");
+    EXPECT_EQ(MessageOf("   Begin lumenkit.VMemo A\n      Font = 4\n   End\n"),
+              "x.frm:6:14: Font: expected a font");
+    EXPECT_EQ(MessageOf("   Begin Some.Grid A\n      ColumnWidth = 764,787\n   End\n"),
+              "x.frm:6:24: expected the end of the line, found ,787");
+    EXPECT_EQ(MessageOf("   Begin VB.Label A\n      BeginProperty Font\n         Size = 8,25\n"
+                        "      EndProperty\n   End\n"),
+              "x.frm:6:21: Font: Type mismatch");
     EXPECT_EQ(MessageOf("   BackColor = \"red\"\n"), "x.frm:5:16: BackColor: Type mismatch");
+    EXPECT_EQ(MessageOf("   Begin VB.Label A\n   End\n"), "");
+}
+
+TEST(FormView, ShowsTheOtherValuesOfAControlWithOddOnes) {
+    const std::string inner =
+        "   Begin lumenkit.VLabel A\n      Caption = \"fine\"\n      Height = 600\n"
+        "      Left = \"far\"\n      Top = 300\n      Width = -1\n      WordWrap = 0\n"
+        "      Font = \"x.frx\":0030\n      BulletPrefix = \"x.frx\":0040\n   End\n"
+        "   Begin lumenkit.VMemo M\n      TabIndex = -4\n      Text = $\"x.frx\":0000\n"
+        "      Height = 600\n      Width = 900\n   End\n";
+    LoadedView view(FormWith(inner));
+    const std::string before = view.Saved();
+    EXPECT_THAT(before, HasSubstr(inner));
+    Object& label = view.Control(u"A").Hosted()->Automation();
+    EXPECT_EQ(ToText(label.Get(u"Caption")), u"fine");
+    EXPECT_FALSE(ToBoolean(label.Get(u"WordWrap")));
+    EXPECT_EQ(view.Control(u"A").Place().top, 300);
+    EXPECT_EQ(view.Control(u"A").Place().height, 600);
+    EXPECT_GT(view.Control(u"A").Place().width, 0);
+    EXPECT_FALSE(view.Control(u"M").TabIndex());
+    EXPECT_EQ(ToText(view.Control(u"M").Hosted()->Automation().Get(u"Text")), u"");
+    EXPECT_TRUE(view.surface.interaction.said.empty());
+    view.Control(u"M").Move({.left = 15, .top = 0, .width = 900, .height = 600});
+    EXPECT_THAT(view.Saved(), HasSubstr("Text = $\"x.frx\":0000\n"));
 }
 
 TEST(FormView, FollowsThePalette) {

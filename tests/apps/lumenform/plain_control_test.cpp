@@ -2,11 +2,14 @@
 #include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QDragEnterEvent>
+#include <QDropEvent>
 #include <QInputMethodEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QMenuBar>
+#include <QMimeData>
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QScrollBar>
@@ -85,6 +88,28 @@ TEST(PlainControl, AnInputMethodThatCommitsNothingChangesNothing) {
     committing.setCommitString(QStringLiteral("a"));
     QApplication::sendEvent(&box, &committing);
     EXPECT_THAT(view.raised, ElementsAre("M.Change"));
+}
+
+TEST(PlainControl, TextThatABoxHasNoRoomForStaysWhereItComesFrom) {
+    const LoadedView view(
+        FormWith("   Begin VB.TextBox T\n MaxLength = 6\n Text = \"abcd\"\n End\n"));
+    auto& box = As<QLineEdit>(view, u"T");
+    QMimeData data;
+    const auto drop = [&](const char* text) {
+        data.setText(QString::fromLatin1(text));
+        const Qt::DropActions both = Qt::CopyAction | Qt::MoveAction;
+        QDragEnterEvent entering({1, 1}, both, &data, Qt::LeftButton, Qt::ShiftModifier);
+        QApplication::sendEvent(&box, &entering);
+        EXPECT_EQ(entering.dropAction(), Qt::CopyAction) << "another program";
+        QDropEvent event({1, 1}, both, &data, Qt::LeftButton, Qt::ShiftModifier);
+        QApplication::sendEvent(&box, &event);
+        return event.dropAction();
+    };
+    EXPECT_EQ(drop("x"), Qt::MoveAction);
+    EXPECT_EQ(drop("yz"), Qt::CopyAction) << "a part of it";
+    EXPECT_EQ(drop("yz"), Qt::CopyAction) << "nothing of it";
+    EXPECT_EQ(box.text().size(), 6);
+    EXPECT_EQ(box.maxLength(), 6);
 }
 
 TEST(PlainControl, EnterAndEscPressTheirButtonsFromAfar) {

@@ -387,20 +387,18 @@ TEST_F(PropertyBrowser, WhatOneRefusesIsSetForNone) {
 
 // ---- Properties that the container adds
 
-TEST_F(PropertyBrowser, PlacesAreInTheUnitsOfTheForm) {
+TEST_F(PropertyBrowser, PlacesAreInTwipsWhateverTheUnitsOfTheForm) {
     BrowsedForm pixels(
         FormOf("VERSION 5.00\nBegin VB.Form F\n   ClientHeight = 3000\n   ClientWidth = 4500\n"
                "   ScaleHeight = 200\n   ScaleMode = 3\n   ScaleWidth = 300\n"
-               "   Begin lumenkit.VMemo M\n      Height = 40\n      Left = 10\n      Top = 20\n"
-               "      Width = 30\n   End\nEnd\n"));
+               "   Begin lumenkit.VMemo M\n      Height = 400\n      Left = 100\n      Top = 200\n"
+               "      Width = 300\n   End\nEnd\n"));
     pixels.Select({u"M"});
-    EXPECT_EQ(pixels.Shown(u"Left"), "10");
-    pixels.Type(u"Left", "12");
-    EXPECT_THAT(pixels.Saved(), HasSubstr("Left = 12\n"));
-    EXPECT_THAT(pixels.Saved(), HasSubstr("Top = 20\n"));
-    const lumenform::LiveControl& memo = *pixels.design.View().Find(u"M");
-    EXPECT_EQ(memo.Place().left,
-              memo.Units().ToTwips({.left = 12, .top = 0, .width = 0, .height = 0}).left);
+    EXPECT_EQ(pixels.Shown(u"Left"), "100");
+    pixels.Type(u"Left", "120");
+    EXPECT_THAT(pixels.Saved(), HasSubstr("Left = 120\n"));
+    EXPECT_THAT(pixels.Saved(), HasSubstr("Top = 200\n"));
+    EXPECT_EQ(pixels.design.View().Find(u"M")->Place().left, 120);
 }
 
 TEST_F(PropertyBrowser, TagVisibleAndTabStopStandInTheBlock) {

@@ -64,19 +64,29 @@ TEST_F(RenderCommand, DrawsTheTextInItsColour) {
 }
 
 TEST_F(RenderCommand, SaysWhereABrokenFormIsBroken) {
-    const std::string form = FileWith("VERSION 5.00\nBegin VB.Form F\n   Caption = \"x\nEnd\n");
+    const std::string form = FileWith("VERSION 5.00\nBegin VB.Form F\n   Caption = \"x\"\n");
     const Outcome outcome = Render(form);
     EXPECT_EQ(outcome.status, 2);
-    EXPECT_THAT(outcome.errors, StartsWith("lumenform: " + form + ":3:"));
+    EXPECT_THAT(outcome.errors, StartsWith("lumenform: " + form + ":4:1: expected End of F"));
     EXPECT_FALSE(fs::exists(picture_));
 
-    const std::string refused = FileWith(
-        "VERSION 5.00\nBegin VB.Form F\n   Begin VB.Label L\n      Left = \"x\"\n   End\nEnd\n");
-    const Outcome type = Render(refused);
-    EXPECT_EQ(type.status, 2);
-    EXPECT_EQ(type.errors, "lumenform: " + refused + ":4:14: Left: Type mismatch\n");
-
     EXPECT_EQ(RunProgram("run " + form).status, 2);
+}
+
+TEST_F(RenderCommand, DrawsAFormWithOddValuesAndTellsWhereTheyAre) {
+    const std::string form = FileWith(
+        "VERSION 5.00\nBegin VB.Form F\n   Begin VB.Label L\n      Left = \"x\"\n"
+        "      Tag = 1,5\n   End\nEnd\n");
+    const std::string expected = "lumenform: warning: " + form +
+                                 ":4:14: Left: Type mismatch\nlumenform: warning: " + form +
+                                 ":5:14: expected the end of the line, found ,5\n";
+    const Outcome drawn = Render(form);
+    EXPECT_EQ(drawn.status, 0);
+    EXPECT_EQ(drawn.errors, expected);
+    EXPECT_TRUE(fs::exists(picture_));
+    const Outcome designed = Render(form + " --design");
+    EXPECT_EQ(designed.status, 0);
+    EXPECT_EQ(designed.errors, expected);
 }
 
 TEST_F(RenderCommand, SaysWhatItCannotReadOrWrite) {

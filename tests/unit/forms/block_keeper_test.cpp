@@ -57,5 +57,29 @@ TEST(BlockKeeper, LeavesTheBlockAsItIsWhenTheControlCannotBeSaved) {
     EXPECT_THAT(kept.Written(), HasSubstr("11\n"));
 }
 
+TEST(BlockKeeper, KeepsTheLinesOfAControlThatCannotBeSavedFromTheStart) {
+    Document document = ParseBytes(heldForm);
+    bool fails = true;
+    const BlockKeeper::SaveControl save = [&](host::PropertyBag& bag) {
+        bag.WriteProperty(u"One", 1, 1);
+        if (fails) {
+            Raise(ErrorNumber::SavingFailed);
+        }
+        bag.WriteProperty(u"Two", Text(u"3"), Empty());
+    };
+    BlockKeeper keeper(document, Find(document, {u"D"}), save);
+    keeper.Update(save);
+    EXPECT_EQ(document.Write().form, heldForm);
+    fails = false;
+    keeper.Update(save);
+    const std::string written = document.Write().form;
+    EXPECT_THAT(written, ::testing::Not(HasSubstr("One")));
+    EXPECT_THAT(written, HasSubstr("Two = \"3\""));
+    const BlockKeeper::SaveControl outOfMemory = [](host::PropertyBag& /*bag*/) {
+        Raise(ErrorNumber::OutOfMemory);
+    };
+    EXPECT_THAT([&] { BlockKeeper(document, Find(document, {u"D"}), outOfMemory); }, Raises(7));
+}
+
 }  // namespace
 }  // namespace lumenkit::forms::testing

@@ -189,12 +189,15 @@ TEST(Document, RefusesTextsWhereThereAreNone) {
     EXPECT_EQ(Refusal(pictures, *root.FindProperty(u"ClientTop")),
               "mdi_parent.frm:7:24: expected a text");
     EXPECT_THROW(pictures.RecordOf(*root.FindProperty(u"Caption")), FormError);
-    // A reference added by an edit refers to no record.
-    const Property& added = root.Set(u"Tag", Reference{u"mdi_parent.frx", 99, true});
-    EXPECT_EQ(
-        Refusal(pictures, added),
-        "mdi_parent.frm: expected an offset below the companion's size of 80 bytes, found 99");
-    EXPECT_THROW(pictures.RecordOf(added), FormError);
+}
+
+TEST(Document, AReferenceThatAnEditAddsMayBeLost) {
+    const Document pictures = Sample("mdi_parent.frm").Parse();
+    const Reference lost{u"mdi_parent.frx", 99, true};
+    const Property& added = pictures.Root().Set(u"Tag", lost);
+    EXPECT_TRUE(pictures.IsLost(lost));
+    EXPECT_EQ(pictures.TextOf(added), u"");
+    EXPECT_TRUE(pictures.RecordOf(added).empty());
 }
 
 TEST(Document, NamesItsCompanion) {

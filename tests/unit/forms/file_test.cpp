@@ -14,6 +14,7 @@ namespace {
 
 namespace fs = std::filesystem;
 using ::testing::ElementsAre;
+using ::testing::HasSubstr;
 
 // A separate folder for each test, removed with it.
 class FileTest : public ::testing::Test {
@@ -84,12 +85,91 @@ TEST_F(FileTest, LoadingTellsWhatCannotBeRead) {
     const fs::path missing = folder / "missing.frm";
     EXPECT_EQ(LoadError(missing), missing.string() + ": cannot be read");
     EXPECT_EQ(LoadError(folder), folder.string() + ": cannot be read");
-    WriteFile(folder / "memo.frm", Sample("memo.frm").form);
-    EXPECT_EQ(LoadError(folder / "memo.frm"), (folder / "memo.frx").string() + ": cannot be read");
+}
+
+std::vector<Warning> WarningsIn(const fs::path& path) {
+    return Load(path).Warnings();
+}
+
+TEST_F(FileTest, AFormOpensWithoutItsCompanion) {
+    const fs::path path = folder / "memo.frm";
+    const std::string form = Sample("memo.frm").form;
+    WriteFile(path, form);
+    const Document document = Load(path);
+    EXPECT_THAT(document.Warnings(),
+                ElementsAre(Warning{
+                    {33, 27}, "memo.frx cannot be read; its texts and pictures are missing"}));
+    Block& memo = Find(document, {u"VMemo1"});
+    EXPECT_EQ(document.TextOf(*memo.FindProperty(u"Text")), u"");
+    memo.Set(u"Left", NumberLiteral(1.0F));
+    Save(document, path);
+    EXPECT_THAT(Names(), ElementsAre("memo.frm"));
+    EXPECT_THAT(ReadFile(path), HasSubstr("Text            =   $\"memo.frx\":0000\r\n"));
+    // A new record would take the place of the lost one.
+    memo.Set(u"Tag", TextLiteral(u"two\r\nlines"));
+    EXPECT_THAT(SaveError(document, path), HasSubstr("records of the companion are missing"));
+    EXPECT_THAT(Names(), ElementsAre("memo.frm"));
+    Document renamed = Load(path);
+    renamed.Rename("other.frm");
+    Save(renamed, folder / "other.frm");
+    EXPECT_EQ(ReadFile(folder / "other.frm"), ReadFile(path));
+    EXPECT_THAT(Names(), ElementsAre("memo.frm", "other.frm"));
+}
+
+TEST_F(FileTest, AFormOpensWithACompanionThatIsTooShort) {
+    const fs::path path = folder / "memo.frm";
+    WriteFile(path, Sample("memo.frm").form);
     WriteFile(folder / "memo.frx", "");
-    EXPECT_EQ(LoadError(folder / "memo.frm"),
-              (folder / "memo.frm").string() +
-                  ":33:27: expected an offset below the companion's size of 0 bytes, found 0");
+    EXPECT_THAT(
+        WarningsIn(path),
+        ElementsAre(Warning{{33, 27},
+                            "expected an offset below the companion's size of 0 bytes, found 0"}));
+    Save(Load(path), path);
+    EXPECT_TRUE(ReadFile(path) == Sample("memo.frm").form);
+    EXPECT_EQ(ReadFile(folder / "memo.frx"), "");
+}
+
+TEST_F(FileTest, ACompanionIsFoundWhateverTheCaseOfItsName) {
+    const fs::path path = folder / "memo.frm";
+    WriteFile(path, Sample("memo.frm").form);
+    WriteFile(folder / "Memo.FRX", Sample("memo.frm").companion);
+    const Document document = Load(path);
+    EXPECT_THAT(document.Warnings(), ElementsAre());
+    Block& memo = Find(document, {u"VMemo1"});
+    EXPECT_EQ(document.TextOf(*memo.FindProperty(u"Text")),
+              Sample("memo.frm")
+                  .Parse()
+                  .TextOf(*Find(Sample("memo.frm").Parse(), {u"VMemo1"}).FindProperty(u"Text")));
+    memo.Set(u"Text", TextLiteral(u"new\r\ntext"));
+    Save(document, path);
+    EXPECT_THAT(Names(), ElementsAre("Memo.FRX", "memo.frm"));
+    EXPECT_THAT(ReadFile(folder / "Memo.FRX"), HasSubstr("new\r\ntext"));
+    // The exact name comes first.
+    WriteFile(folder / "memo.frx", "");
+    EXPECT_EQ(WarningsIn(path).size(), 1U);
+}
+
+TEST_F(FileTest, ANameThatDiffersInCaseIsThatOfAnotherForm) {
+    WriteFile(folder / "MEMO.FRX", "of another form");
+    Save(Sample("memo.frm").Parse(), folder / "memo.frm");
+    EXPECT_EQ(ReadFile(folder / "MEMO.FRX"), "of another form");
+    EXPECT_TRUE(ReadFile(folder / "memo.frx") == Sample("memo.frm").companion);
+}
+
+TEST_F(FileTest, ACompanionMayLieBesideTheTargetOfALink) {
+    fs::create_directory(folder / "real");
+    WriteFile(folder / "real" / "memo.frm", Sample("memo.frm").form);
+    WriteFile(folder / "real" / "memo.frx", Sample("memo.frm").companion);
+    const fs::path link = folder / "link.frm";
+    fs::create_symlink(fs::path("real") / "memo.frm", link);
+    const Document document = Load(link);
+    EXPECT_THAT(document.Warnings(), ElementsAre());
+    Find(document, {u"VMemo1"}).Set(u"Text", TextLiteral(u"new\r\ntext"));
+    Save(document, link);
+    EXPECT_THAT(Names(), ElementsAre("link.frm", "real"));
+    EXPECT_TRUE(fs::is_symlink(link));
+    EXPECT_THAT(ReadFile(folder / "real" / "memo.frx"), HasSubstr("new\r\ntext"));
+    EXPECT_THAT(ReadFile(folder / "real" / "memo.frm"), HasSubstr("memo.frx"));
 }
 
 TEST_F(FileTest, AFormThatCannotBeWrittenLeavesTheOldOne) {

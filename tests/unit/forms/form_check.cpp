@@ -47,6 +47,11 @@ class ValueCheck {
  private:
     std::string Fault(const IdleLine&) { return {}; }
     std::string Fault(const Property& property) {
+        if (std::holds_alternative<UnreadValue>(property.Literal())) {
+            return property.Source().value == SourceOf(property.Literal())
+                       ? ""
+                       : "an unread value is not kept";
+        }
         const Text source = SourceOf(property.Literal());
         Scanner scanner(source, "value");
         if (!Same(ReadValue(scanner).literal, property.Literal())) {
@@ -56,7 +61,7 @@ class ValueCheck {
         if (reference == nullptr) {
             return {};
         }
-        if (document_.RecordOf(property).empty()) {
+        if (document_.RecordOf(property).empty() != document_.IsLost(*reference)) {
             return "an empty record";
         }
         try {
@@ -76,7 +81,12 @@ std::string EditFault(const Document& document, int codePage) {
     const Text text = u"two\r\nlines";
     document.Root().Set(u"Edited", TextLiteral(text));
     document.Root().Set(u"Number", NumberLiteral(1.5));
-    const FormBytes written = document.Write();
+    FormBytes written;
+    try {
+        written = document.Write();
+    } catch (const FormError&) {
+        return document.Warnings().empty() ? "an edit is refused" : "";
+    }
     const Document again = Parse(written.form, written.companion, codePage);
     const Property* edited = again.Root().FindProperty(u"Edited");
     const Property* number = again.Root().FindProperty(u"Number");

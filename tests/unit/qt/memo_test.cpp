@@ -405,6 +405,23 @@ TEST_F(QtMemoTest, TextThatIsDroppedWholeIsMoved) {
     EXPECT_EQ(Drop(QStringLiteral("zero\n")), Qt::MoveAction) << "within the limits";
 }
 
+// Another program deletes its text if the answer to the last move of the mouse was a move.
+TEST_F(QtMemoTest, AnotherProgramIsAskedForACopy) {
+    QMimeData data;
+    data.setText(QStringLiteral("hello"));
+    const QPoint place(5, 5);
+    const auto answer = [&](QDragMoveEvent&& event) {
+        QApplication::sendEvent(Edit().viewport(), &event);
+        return event.isAccepted() ? event.dropAction() : Qt::IgnoreAction;
+    };
+    const Qt::DropActions both = Qt::CopyAction | Qt::MoveAction;
+    const Qt::KeyboardModifiers move = Qt::ShiftModifier;
+    EXPECT_EQ(answer(QDragEnterEvent(place, both, &data, Qt::LeftButton, move)), Qt::CopyAction);
+    EXPECT_EQ(answer(QDragMoveEvent(place, both, &data, Qt::LeftButton, move)), Qt::CopyAction);
+    EXPECT_EQ(answer(QDragMoveEvent(place, Qt::MoveAction, &data, Qt::LeftButton, move)),
+              Qt::IgnoreAction);
+}
+
 TEST_F(QtMemoTest, TextThatIsNotDroppedWholeIsCopied) {
     Let(u"Text", Text(u"abc"));
     Let(u"MaxLength", std::int32_t{5});

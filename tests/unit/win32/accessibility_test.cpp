@@ -43,7 +43,7 @@ VARIANT Self() {
 }
 
 Text Taken(BSTR string) {
-    const Text text(win32::AsText({string, SysStringLen(string)}));
+    Text text(win32::AsText({string, SysStringLen(string)}));
     SysFreeString(string);
     return text;
 }

@@ -74,6 +74,18 @@ TEST_F(FocusTest, OtherScrollBarsKeepTheKeyboardAndTheCaret) {
     EXPECT_EQ(TextOf(list_), u"") << "no letter chose an item";
 }
 
+TEST_F(FocusTest, TheHiddenBoxGivesTheKeyboardToTheVisibleOne) {
+    Type(u"ab");
+    const HWND former = GetFocus();
+    SetFocus(form_.Window());
+    Let(memo_, u"ScrollBars", std::int32_t{3});
+    SetFocus(former);
+    EXPECT_NE(GetFocus(), former);
+    EXPECT_TRUE(MemoHasFocus());
+    Type(u"c");
+    EXPECT_EQ(TextOf(memo_).size(), 3U);
+}
+
 TEST_F(FocusTest, ACaretThatTheLimitsPlacedStays) {
     Let(memo_, u"MaxCharsPerLine", std::int16_t{6});
     Type(u"abcdef");

@@ -304,15 +304,14 @@ TEST_F(HostedPageTest, OutlivesItsWindow) {
     }
 }
 
+BOOL CALLBACK Count(HWND /*child*/, LPARAM counted) {
+    ++*reinterpret_cast<int*>(counted);
+    return TRUE;
+}
+
 int ChildrenOf(HWND window) {
     int count = 0;
-    EnumChildWindows(
-        window,
-        [](HWND /*child*/, LPARAM counted) -> BOOL {
-            ++*reinterpret_cast<int*>(counted);
-            return TRUE;
-        },
-        reinterpret_cast<LPARAM>(&count));
+    EnumChildWindows(window, &Count, reinterpret_cast<LPARAM>(&count));
     return count;
 }
 

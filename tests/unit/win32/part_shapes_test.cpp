@@ -194,6 +194,16 @@ TEST_F(OptionShapes, ADisabledButtonIsGrey) {
     EXPECT_EQ(shapes.ellipses.at(2).color, greyText);
 }
 
+TEST_F(OptionShapes, AButtonInADisabledFrameIsGrey) {
+    options_->Item(0).Select(true);
+    options_->Item(0).SetForeColor(Rgb(255, 0, 0));
+    frame_->SetEnabled(false);
+    const Shapes shapes = Draw();
+    EXPECT_EQ(shapes.texts.at(0).color, greyText);
+    EXPECT_EQ(shapes.ellipses.at(1).color, Color::ButtonFace);
+    EXPECT_EQ(shapes.ellipses.at(2).color, greyText);
+}
+
 TEST_F(OptionShapes, ButtonsBelowTheFrameAreLeftOut) {
     options_->Item(1).Move(At(10, 120, 120, 20));
     options_->Item(1).SetVisible(true);

@@ -75,6 +75,12 @@ Text RandomText(std::mt19937& random) {
     return text;
 }
 
+// Control characters are drawn as blanks.
+Text Drawn(Text text) {
+    std::ranges::replace_if(text, IsControl, blank);
+    return text;
+}
+
 TEST(ScreenFont, MeasuresAsThePlatformDoes) {
     for (const LOGFONTW& design : Designs()) {
         const ScreenFont font(design);
@@ -96,11 +102,12 @@ TEST(ScreenFont, MeasuresWordsAndBlanksEachByItself) {
         const ScreenFont font(design);
         for (int round = 0; round < 40; ++round) {
             const Text text = RandomText(random);
+            const Text drawn = Drawn(text);
             LONG expected = 0;
-            for (std::size_t at = 0; at < text.size();) {
+            for (std::size_t at = 0; at < drawn.size();) {
                 const std::size_t end =
-                    text[at] == blank ? at + 1 : std::min(text.find(blank, at), text.size());
-                expected += Extent(font, TextView(text).substr(at, end - at)).cx;
+                    drawn[at] == blank ? at + 1 : std::min(drawn.find(blank, at), drawn.size());
+                expected += Extent(font, TextView(drawn).substr(at, end - at)).cx;
                 at = end;
             }
             ASSERT_EQ(font.Width(text), expected) << NameOf(design) << ": " << ToUtf8(text);

@@ -35,11 +35,11 @@ void Store(const BlockReader& form, const Names& names, float former, float now,
 
 void Store(const BlockReader& form, FormSize now) {
     const FormSize former = ClientSizeOf(form);
-    const host::Placement scaled = Scale::Of(form, former.width, former.height)
-                                       .FromTwips({.width = now.width, .height = now.height});
-    Store(form, {u"ClientWidth", u"Width", u"ScaleWidth"}, former.width, now.width, scaled.width);
+    const Scale scale = Scale::Of(form, former.width, former.height);
+    Store(form, {u"ClientWidth", u"Width", u"ScaleWidth"}, former.width, now.width,
+          scale.across.LengthFromTwips(now.width));
     Store(form, {u"ClientHeight", u"Height", u"ScaleHeight"}, former.height, now.height,
-          scaled.height);
+          scale.down.LengthFromTwips(now.height));
 }
 
 BlockReader ReaderOf(const FormDesign& design) {

@@ -31,6 +31,7 @@ constexpr float aside = 120;  // twips
 struct Clip {
     int codePage = forms::defaultCodePage;
     forms::FormBytes bytes;
+    Scale scale;  // of the ends of its outermost lines
 };
 
 QByteArray BytesOf(const std::string& text) {
@@ -49,16 +50,23 @@ Clip ClipOf(const FormDesign& design) {
     for (const forms::LibraryReference& library : document.Libraries()) {
         clip.AddLibrary(library.library, library.file);
     }
-    for (const LiveControl* control : OutermostSelected(design)) {
-        forms::CopyControl(document, control->Block(), clip, clip.Root(), control->Block().Name());
+    const std::vector<LiveControl*> copied = OutermostSelected(design);
+    const Scale scale = copied.empty() ? Scale() : copied.front()->Units();
+    for (const LiveControl* control : copied) {
+        forms::Block& copy = forms::CopyControl(document, control->Block(), clip, clip.Root(),
+                                                control->Block().Name());
+        Rescale(BlockReader(clip, copy), control->Units(), scale);
     }
-    return {document.CompanionCodePage(), clip.Write()};
+    return {document.CompanionCodePage(), clip.Write(), scale};
 }
 
 QByteArray Packed(const Clip& clip) {
     QByteArray packed;
     QDataStream stream(&packed, QIODevice::WriteOnly);
     stream << qint32{clip.codePage} << BytesOf(clip.bytes.form) << BytesOf(clip.bytes.companion);
+    for (const ScaleAxis& axis : {clip.scale.across, clip.scale.down}) {
+        stream << axis.origin << axis.unit;
+    }
     return packed;
 }
 
@@ -67,11 +75,15 @@ Clip Unpacked(const QByteArray& packed) {
     qint32 codePage = 0;
     QByteArray form;
     QByteArray companion;
+    Scale scale;
     stream >> codePage >> form >> companion;
+    for (ScaleAxis* const axis : {&scale.across, &scale.down}) {
+        stream >> axis->origin >> axis->unit;
+    }
     if (stream.status() != QDataStream::Ok) {
         throw forms::FormError("clipboard", "expected controls");
     }
-    return {codePage, {form.toStdString(), companion.toStdString()}};
+    return {codePage, {form.toStdString(), companion.toStdString()}, scale};
 }
 
 bool HoldsContainers(const forms::Document& copied) {
@@ -94,11 +106,11 @@ const LiveControl* PasteTarget(const FormDesign& design, const forms::Document& 
 
 // Whether another control of the container is at the same left and top.
 bool IsOccupied(const forms::Document& document, const forms::Block& container,
-                forms::Block& control) {
-    const host::Placement taken = SavedPlace(BlockReader(document, control), {});
+                forms::Block& control, const Scale& scale) {
+    const host::Placement taken = SavedPlace(BlockReader(document, control), scale, {});
     return std::ranges::any_of(container.Controls(), [&](forms::Block* other) {
         const BlockReader reader(document, *other);
-        const host::Placement place = SavedPlace(reader, {});
+        const host::Placement place = SavedPlace(reader, scale, {});
         return other != &control && !IsMenu(*other) && place.left == taken.left &&
                place.top == taken.top;
     });
@@ -107,20 +119,22 @@ bool IsOccupied(const forms::Document& document, const forms::Block& container,
 // Moves all pasted controls by the same distance until none is at the place of another control.
 void StepAside(const forms::Document& document, const forms::Block& container,
                const std::vector<forms::Block*>& pasted, const Scale& scale) {
-    const host::Placement origin = scale.FromTwips({});
-    const host::Placement step = scale.FromTwips({.left = aside, .top = aside});
-    while (std::ranges::any_of(
-        pasted, [&](forms::Block* block) { return IsOccupied(document, container, *block); })) {
+    while (std::ranges::any_of(pasted, [&](forms::Block* block) {
+        return IsOccupied(document, container, *block, scale);
+    })) {
         for (forms::Block* block : pasted) {
             const BlockReader reader(document, *block);
-            const host::Placement former = SavedPlace(reader, {});
+            const host::Placement former = SavedPlace(reader, scale, {});
             host::Placement now = former;
-            now.left += step.left - origin.left;
-            now.top += step.top - origin.top;
+            now.left += aside;
+            now.top += aside;
             if (now == former) {
                 return;  // so far away that rounding loses the step
             }
-            StorePlace(reader, former, now);
+            StorePlace(reader, scale, former, now);
+            if (SavedPlace(reader, scale, {}) == former) {
+                return;  // the same for the ends of a line in the units of the container
+            }
         }
     }
 }
@@ -128,24 +142,29 @@ void StepAside(const forms::Document& document, const forms::Block& container,
 void PasteClip(FormDesign& design, const Clip& clip, const QString& title) {
     const forms::Document copied = Parsed(clip);
     const LiveControl* const target = PasteTarget(design, copied);
-    design.Restructure(title, [&] {
-        forms::Document& document = design.Document();
-        forms::Block& parent = BlockOf(design, target);
-        RequireLibrariesOf(copied, document, design.Context().classes);
-        SettleInto(document.Root(), copied.Root());
-        const forms::Block* const foremost = Foremost(parent);
-        std::vector<forms::Block*> pasted;
-        std::vector<Text> names;
-        for (const forms::Block* original : copied.Root().Controls()) {
-            forms::Block& copy =
-                forms::CopyControl(copied, *original, document, parent, original->Name());
-            parent.MoveControl(copy, foremost);
-            pasted.push_back(&copy);
-            names.push_back(forms::NameInCode(copy));
-        }
-        StepAside(document, parent, pasted, InsideOf(design, target).scale);
-        return names;
-    });
+    const Scale scale = InsideOf(design, target).scale;
+    design.Restructure(
+        title,
+        [&] {
+            forms::Document& document = design.Document();
+            forms::Block& parent = BlockOf(design, target);
+            RequireLibrariesOf(copied, document, design.Context().classes);
+            SettleInto(document.Root(), copied.Root());
+            const forms::Block* const foremost = Foremost(parent);
+            std::vector<forms::Block*> pasted;
+            std::vector<Text> names;
+            for (const forms::Block* original : copied.Root().Controls()) {
+                forms::Block& copy =
+                    forms::CopyControl(copied, *original, document, parent, original->Name());
+                Rescale(BlockReader(document, copy), clip.scale, scale);
+                parent.MoveControl(copy, foremost);
+                pasted.push_back(&copy);
+                names.push_back(forms::NameInCode(copy));
+            }
+            StepAside(document, parent, pasted, scale);
+            return names;
+        },
+        NewWarnings::Accept);
 }
 
 }  // namespace

@@ -2,8 +2,11 @@
 
 #include <QUndoCommand>
 #include <algorithm>
+#include <set>
+#include <string>
 #include <utility>
 
+#include "forms/form_error.h"
 #include "frame/text.h"
 
 namespace lumenkit::lumenform {
@@ -44,6 +47,30 @@ class FormDesign::Step final : public QUndoCommand {
     Merging merging_;
     bool isDone_ = true;
 };
+
+namespace {
+
+// The lines of warnings can move, so that only their texts tell which one is new.
+void RefuseMoreWarnings(const forms::Document& document,
+                        const std::vector<forms::Warning>& former) {
+    const std::vector<forms::Warning> now = document.Warnings();
+    if (now.size() <= former.size()) {
+        return;
+    }
+    std::multiset<std::string> known;
+    for (const forms::Warning& warning : former) {
+        known.insert(warning.text);
+    }
+    for (const forms::Warning& warning : now) {
+        if (const auto found = known.find(warning.text); found != known.end()) {
+            known.erase(found);
+        } else {
+            throw forms::FormError(document.Name(), warning.place, warning.text);
+        }
+    }
+}
+
+}  // namespace
 
 FormDesign::FormDesign(const qt::Context& context, forms::Document document)
     : context_(context),
@@ -102,14 +129,18 @@ void FormDesign::Edit(const QString& title, const std::function<void()>& change,
     Push(title, before, merging);
 }
 
-void FormDesign::Restructure(const QString& title,
-                             const std::function<std::vector<Text>()>& change) {
+void FormDesign::Restructure(const QString& title, const std::function<std::vector<Text>()>& change,
+                             NewWarnings newWarnings) {
     const SharedSnapshot before = BeforeChange();
+    const std::vector<forms::Warning> formerWarnings = document_->Warnings();
     try {
         const std::vector<Text> selected = change();
         const Snapshot after(*document_, selected, before.get());
         if (!after.HoldsTheSameAs(*before)) {
             Replace(std::make_unique<forms::Document>(document_->WithBytes(after.Bytes())));
+        }
+        if (newWarnings == NewWarnings::Refuse) {
+            RefuseMoreWarnings(*document_, formerWarnings);
         }
         SelectNamed(selected);
         now_ = std::make_shared<const Snapshot>(*document_, SelectedNames(), before.get());

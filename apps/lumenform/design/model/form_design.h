@@ -14,6 +14,9 @@
 
 namespace lumenkit::lumenform {
 
+/// Whether a change may leave more warnings in the document than there were.
+enum class NewWarnings { Refuse, Accept };
+
 /// Whether a step can merge with the previous step of the same kind.
 enum class Merging { None, Nudges };
 
@@ -53,9 +56,10 @@ class FormDesign final : public QObject {
     void Edit(const QString& title, const std::function<void()>& change,
               Merging merging = Merging::None);
     /// Does the same for changes to the document's blocks, and then creates a new view. `change`
-    /// returns the names of the controls to select. Also restores the former state if the new view
-    /// throws a FormError.
-    void Restructure(const QString& title, const std::function<std::vector<Text>()>& change);
+    /// returns the names of the controls to select. A change that adds a value that cannot be used
+    /// is refused: the former state is restored, and the warning is thrown as a FormError.
+    void Restructure(const QString& title, const std::function<std::vector<Text>()>& change,
+                     NewWarnings newWarnings = NewWarnings::Refuse);
 
     /// Undo, redo, and whether there are unsaved changes.
     QUndoStack& History() { return history_; }

@@ -100,10 +100,9 @@ void AddNewControl(FormDesign& design, TextView className, const LiveControl* co
         const Text name = FreshName({&document.Root()}, className);
         const std::int32_t tabIndex = FreshTabIndex(document.Root());
         forms::Block& block = parent.AddControl(className, name, Foremost(parent));
-        const host::Placement units = around.scale.FromTwips(place);
         if (type != nullptr) {
             RequireLibrary(document, classes);
-            SetPlace(block, units, tabIndex);
+            SetPlace(block, place, tabIndex);
             block.Set(u"_ExtentX", ExtentOf(place.width));
             block.Set(u"_ExtentY", ExtentOf(place.height));
             SavePrototype(design, *type, around, name, place, block);
@@ -112,7 +111,7 @@ void AddNewControl(FormDesign& design, TextView className, const LiveControl* co
             if (plain != nullptr && !plain->caption.empty()) {
                 block.Set(plain->caption, forms::TextLiteral(name));
             }
-            SetPlace(block, units, tabIndex);
+            SetPlace(block, place, tabIndex);
         }
         return std::vector{name};
     });

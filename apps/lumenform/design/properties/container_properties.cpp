@@ -65,15 +65,12 @@ ObjectProperty PlaceProperty(FormDesign& design, LiveControl& control, TextView 
             .place = PropertyPlace::Live,
             .get = [&design, &control, name, member]() -> Value {
                 const BlockReader reader(design.Document(), control.Block());
-                const host::Placement place = control.Units().FromTwips(control.Place());
-                return reader.Number(name, place.*member);
+                return reader.Number(name, control.Place().*member);
             },
             .set =
                 [&control, member](const Value& value) {
-                    host::Placement units = control.Units().FromTwips(control.Place());
-                    units.*member = ToSingle(value);
                     host::Placement place = control.Place();
-                    place.*member = control.Units().ToTwips(units).*member;
+                    place.*member = ToSingle(value);
                     control.Move(place);
                 }};
 }

@@ -110,7 +110,8 @@ ObjectProperty UnknownProperty(FormDesign& design, forms::Block& block,
         return Unchangeable(property.Name(), u"(companion)");
     }
     if (std::holds_alternative<forms::Shortcut>(literal) ||
-        std::holds_alternative<forms::Guid>(literal)) {
+        std::holds_alternative<forms::Guid>(literal) ||
+        std::holds_alternative<forms::UnreadValue>(literal)) {
         return Unchangeable(property.Name(), forms::SourceOf(literal));
     }
     return MakeProperty(design, block, {.name = property.Name(), .type = TypeOf(property)});
@@ -147,14 +148,12 @@ std::vector<ObjectProperty> PropertiesIn(FormDesign& design, forms::Block& block
     return properties;
 }
 
-// Scales a form's ScaleWidth or ScaleHeight with the client area, unless the form has custom units.
+// Scales a form's ScaleWidth or ScaleHeight with the client area: the units keep their size.
 void StretchScale(const FormDesign& design, TextView client, TextView scale, float former,
                   float now) {
     forms::Block& form = design.Document().Root();
     const BlockReader reader(design.Document(), form);
-    constexpr std::int32_t ownUnits = 0;
-    constexpr std::int32_t twips = 1;
-    if (!reader.Has(scale) || reader.Whole(u"ScaleMode", twips) == ownUnits || former <= 0) {
+    if (!reader.Has(scale) || former <= 0) {
         return;
     }
     form.Set(scale, forms::NumberLiteral(reader.Number(scale, former) * now / former), client);

@@ -82,9 +82,8 @@ constexpr UsualProperty strokeStyle =
     ChoiceOf(u"BorderStyle",
              u"The line style of the border. A border wider than one pixel is drawn without gaps.",
              1, strokeStyles);
-constexpr UsualProperty scaleMode =
-    ChoiceOf(u"ScaleMode", u"The unit of measure for the positions of the contained controls.", 1,
-             scaleModes);
+constexpr UsualProperty scaleMode = ChoiceOf(
+    u"ScaleMode", u"The unit of measure for the ends of the contained lines.", 1, scaleModes);
 constexpr UsualProperty clientHeight = {
     u"ClientHeight", u"The height of the form's client area in twips.", StoredType::Number};
 constexpr UsualProperty clientWidth = {

@@ -172,6 +172,26 @@ void DesignWindow::Load(const QString& path) {
     Show(forms::Load(PathOf(path), setup_.codePage), FormFile(path));
     recent_.Add(path);
     FillRecent();
+    ShowWarnings();
+}
+
+// Shows the first warning of the form until the next message.
+void DesignWindow::ShowWarnings() {
+    const forms::Document& document = bench_->GetDesign().Document();
+    const std::vector<forms::Warning> warnings = document.Warnings();
+    if (warnings.empty()) {
+        return;
+    }
+    const forms::Warning& first = warnings.front();
+    const QString text = tr("%1:%2:%3: %4")
+                             .arg(FormName())
+                             .arg(first.place.line)
+                             .arg(first.place.column)
+                             .arg(QString::fromStdString(first.text));
+    const auto others = static_cast<int>(warnings.size()) - 1;
+    status_->showMessage(
+        others == 0 ? text
+                    : tr("%1 (and %2 more; \"lumenkit check\" lists them)").arg(text).arg(others));
 }
 
 void DesignWindow::StartNew() {

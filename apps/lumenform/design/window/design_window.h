@@ -81,6 +81,7 @@ class DesignWindow final : public QMainWindow {
     void StartNewUnlessCancelled();
     void Close();
     QString FormName() const;
+    void ShowWarnings();
     void UpdateTitle();
 
     const Setup setup_;

@@ -64,7 +64,10 @@ TEST_F(DragOnWayland, TextDroppedNowhereStays) {
     const QPoint grip = Grip(u"Upper", "two");
     person.DragToTheDesktop(Box(u"Upper"), grip);
     EXPECT_EQ(TextOf(u"Upper"), "one two three");
-    // The mouse is free again.
+    // The mouse is free again, also for a long press in another memo.
+    person.Drag(Box(u"Lower"), QPoint(20, 20), Box(u"Lower"), QPoint(120, 20));
+    EXPECT_EQ(TextOf(u"Upper"), "one two three");
+    EXPECT_EQ(TextOf(u"Lower"), "");
     GoTo(u"Lower");
     Person::Type(QStringLiteral("typed"));
     EXPECT_EQ(Awaited([&] { return TextOf(u"Lower"); }, "typed"), "typed");

@@ -1,10 +1,12 @@
 #include "tests/apps/lumenform/wayland/person.h"
 
 #include <QApplication>
+#include <QEventLoop>
 #include <QMouseEvent>
 #include <QProcess>
 #include <QScreen>
 #include <QTest>
+#include <QTimer>
 #include <QWindow>
 #include <stdexcept>
 
@@ -52,9 +54,16 @@ bool Soon(const std::function<bool()>& condition) {
 
 QByteArray OutputOf(const QString& program, const QStringList& arguments) {
     QProcess process;
+    // An event loop reads much output faster than a wait that looks from time to time.
+    QEventLoop loop;
+    QObject::connect(&process, &QProcess::finished, &loop, [&] { loop.quit(); });
+    QObject::connect(&process, &QProcess::errorOccurred, &loop, [&] { loop.quit(); });
+    QTimer::singleShot(patience, &loop, [&] { loop.quit(); });
     process.start(program, arguments);
-    const auto hasEnded = [&] { return process.state() == QProcess::NotRunning; };
-    if (!QTest::qWaitFor(hasEnded, patience)) {
+    if (process.state() != QProcess::NotRunning) {
+        loop.exec();
+    }
+    if (process.state() != QProcess::NotRunning) {
         process.kill();
         throw std::runtime_error(program.toStdString() + " does not end");
     }
@@ -70,6 +79,7 @@ Person::Person() {
         throw std::logic_error("run the program by scripts/on_wayland.sh");
     }
     QApplication::instance()->installEventFilter(this);
+    FindThePointer();
 }
 
 Person::~Person() {
@@ -101,6 +111,13 @@ void Person::Do(const QStringList& commands) {
 
 // ---- Finding windows
 
+// The pointer of weston follows the moves of that of the X display, but need not begin at the same
+// place. Neither pointer leaves its screen, so that both are at the same place in a corner.
+void Person::FindThePointer() {
+    const QSize screen = QGuiApplication::primaryScreen()->size();
+    Do(MoveTo({screen.width() - 1, screen.height() - 1}) + MoveTo({0, 0}));
+}
+
 bool Person::Notices(const QWindow& window, QPoint onScreen, int milliseconds) {
     pointed_.reset();
     OutputOf(QStringLiteral("xdotool"), MoveTo(onScreen));
@@ -120,13 +137,14 @@ std::optional<QPoint> Person::Confirmed(const QWindow& window, QPoint onScreen) 
     return isThere ? std::optional(origin) : std::nullopt;
 }
 
-// Searches again with more patience, because the machine may be busy.
+// Goes over the screen in steps that no window of this size fits between. Searches again with more
+// patience, because the machine may be busy.
 QPoint Person::Search(const QWindow& window) {
     const QSize screen = QGuiApplication::primaryScreen()->size();
-    constexpr int step = 120;
-    for (const int milliseconds : {30, 300}) {
-        for (int y = step / 2; y < screen.height(); y += step) {
-            for (int x = step / 2; x < screen.width(); x += step) {
+    const QSize step = (window.size() * 2 / 3).expandedTo({20, 20});
+    for (const int milliseconds : {50, 150, 500}) {
+        for (int y = step.height() / 2; y < screen.height(); y += step.height()) {
+            for (int x = step.width() / 2; x < screen.width(); x += step.width()) {
                 if (Notices(window, {x, y}, milliseconds)) {
                     if (const auto origin = Confirmed(window, {x, y})) {
                         return *origin;
@@ -212,6 +230,20 @@ void Person::Type(const QString& text) {
 
 void Person::Press(const QString& keys) {
     Do({QStringLiteral("key"), keys});
+}
+
+QByteArray Person::PasteElsewhere(const QString& type) {
+    QStringList options{QStringLiteral("--no-newline")};
+    if (!type.isEmpty()) {
+        options += {QStringLiteral("--type"), type};
+    }
+    return OutputOf(QStringLiteral("wl-paste"), options);
+}
+
+void Person::LeaveAndReturn() {
+    // It takes the focus to look at the clipboard. If that is empty, it says so by its status.
+    OutputOf(QStringLiteral("sh"),
+             {QStringLiteral("-c"), QStringLiteral("wl-paste --list-types 2>&1 || true")});
 }
 
 // ---- Seeing

@@ -43,6 +43,16 @@ class Person final : public QObject {
     /// Presses keys: "ctrl+a". Names are those of xdotool.
     static void Press(const QString& keys);
 
+    /// Pastes in another program: text, or data of the type. Returns it. The other program takes
+    /// the focus for a moment.
+    static QByteArray PasteElsewhere(const QString& type = {});
+    /// Gives the focus to another program, and gets it back.
+    ///
+    /// weston 10 may not tell a window that it is active again: it does not if the window got the
+    /// focus back before it had drawn itself as inactive. Keys then reach the window, but no
+    /// shortcuts. If the focus leaves and comes back once more, the window can become active.
+    static void LeaveAndReturn();
+
     /// Returns the place of a widget on the screen.
     QRect PlaceOf(const QWidget& widget);
     /// Returns what the screen shows there, in device pixels.
@@ -58,6 +68,7 @@ class Person final : public QObject {
         QPoint at;
     };
 
+    static void FindThePointer();
     QPoint OriginOf(const QWindow& window);
     QPoint Search(const QWindow& window);
     std::optional<QPoint> Confirmed(const QWindow& window, QPoint onScreen);

@@ -2,6 +2,7 @@
 #include <QProcess>
 #include <QProcessEnvironment>
 #include <QTest>
+#include <algorithm>
 
 #include <gtest/gtest.h>
 
@@ -31,11 +32,12 @@ class Program {
     Program(const Program&) = delete;
     Program& operator=(const Program&) = delete;
 
-    // Presses Ctrl+Q until the program ends: its window may not be active again yet.
+    // Presses Ctrl+Q until the program ends: its window may not be active yet.
     bool Quits() {
+        const auto hasEnded = [&] { return program_.state() == QProcess::NotRunning; };
         for (int attempt = 0; attempt < 20; ++attempt) {
             Person::Press(QStringLiteral("ctrl+q"));
-            if (program_.waitForFinished(500)) {
+            if (QTest::qWaitFor(hasEnded, 500)) {
                 return true;
             }
         }
@@ -55,10 +57,10 @@ int RedOnTheScreen() {
     const QImage screen = Person::Seen({QPoint(), QSize(1280, 960)});
     int count = 0;
     for (int y = 0; y < screen.height(); ++y) {
-        for (int x = 0; x < screen.width(); ++x) {
-            const QColor color = screen.pixelColor(x, y);
-            count += color.red() > 180 && color.green() < 60 && color.blue() < 60 ? 1 : 0;
-        }
+        const auto* const line = reinterpret_cast<const QRgb*>(screen.constScanLine(y));
+        count += static_cast<int>(std::count_if(line, line + screen.width(), [](QRgb color) {
+            return qRed(color) > 180 && qGreen(color) < 60 && qBlue(color) < 60;
+        }));
     }
     return count;
 }
@@ -68,20 +70,30 @@ bool ShowsTheForm() {
 }
 
 TEST(ProgramOnWayland, RunsAFormAndQuits) {
-    ASSERT_EQ(RedOnTheScreen(), 0);
+    ASSERT_TRUE(Soon([] { return RedOnTheScreen() == 0; }));
     Program program({QStringLiteral("run"), sampleOrder});
     ASSERT_TRUE(ShowsTheForm());
-    Person::Press(QStringLiteral("alt+p"));  // the memo, by the mnemonic of its label
-    Person::Press(QStringLiteral("ctrl+a"));
-    Person::Press(QStringLiteral("ctrl+c"));
-    EXPECT_EQ(OutputOf(QStringLiteral("wl-paste"), {QStringLiteral("--no-newline")}).toStdString(),
-              "HAPPY BIRTHDAY, LEN");
+    // Not from a memo, which takes all letters with Ctrl.
+    Person::Press(QStringLiteral("alt+g"));
     ASSERT_TRUE(program.Quits());
     EXPECT_EQ(program.Status(), 0);
     EXPECT_EQ(program.Errors(), "");
 }
 
+// The program is not asked to quit: weston 10 may not make its window active again after the other
+// program had the focus.
+TEST(ProgramOnWayland, CopiesForAnotherProgram) {
+    ASSERT_TRUE(Soon([] { return RedOnTheScreen() == 0; }));
+    const Program program({QStringLiteral("run"), sampleOrder});
+    ASSERT_TRUE(ShowsTheForm());
+    Person::Press(QStringLiteral("alt+p"));  // the memo, by the mnemonic of its label
+    Person::Press(QStringLiteral("ctrl+a"));
+    Person::Press(QStringLiteral("ctrl+c"));
+    EXPECT_EQ(Person::PasteElsewhere().toStdString(), "HAPPY BIRTHDAY, LEN");
+}
+
 TEST(ProgramOnWayland, DesignsAFormAndQuits) {
+    ASSERT_TRUE(Soon([] { return RedOnTheScreen() == 0; }));
     Program program({QStringLiteral("design"), sampleOrder});
     ASSERT_TRUE(ShowsTheForm());
     Person::Press(QStringLiteral("F5"));  // runs the form, and back

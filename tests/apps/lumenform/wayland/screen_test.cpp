@@ -23,28 +23,34 @@ QImage Drawn(QWidget& widget) {
     return drawn;
 }
 
+int Differing(const QImage& one, const QImage& other) {
+    int differing = 0;
+    for (int y = 0; y < one.height(); ++y) {
+        for (int x = 0; x < one.width(); ++x) {
+            differing += one.pixel(x, y) != other.pixel(x, y) ? 1 : 0;
+        }
+    }
+    return differing;
+}
+
 // Waits until the screen shows what the widget draws. Returns the number of pixels that differ.
 int Differing(Person& person, QWidget& widget) {
+    const QRect place = person.PlaceOf(widget);
     Person::PointAtTheDesktop();
-    int differing = 0;
-    for (int attempt = 0; attempt < 10; ++attempt) {
-        const QImage seen = person.SeenAt(widget);
+    for (int attempt = 1;; ++attempt) {
+        const QImage seen = Person::Seen(place);
         const QImage drawn = Drawn(widget);
+        if (seen == drawn) {
+            return 0;
+        }
         if (seen.size() != drawn.size()) {
             return -1;
         }
-        differing = 0;
-        for (int y = 0; y < drawn.height(); ++y) {
-            for (int x = 0; x < drawn.width(); ++x) {
-                differing += seen.pixel(x, y) != drawn.pixel(x, y) ? 1 : 0;
-            }
-        }
-        if (differing == 0) {
-            break;
+        if (attempt == 20) {
+            return Differing(seen, drawn);
         }
         QTest::qWait(50);
     }
-    return differing;
 }
 
 // Returns whether the picture has details of a single device pixel: it is not made of the blocks of
@@ -64,9 +70,14 @@ bool IsSharp(const QImage& picture, int scale) {
 
 int ColorsIn(const QImage& picture) {
     std::set<QRgb> colors;
+    QRgb last = 0;  // no color of a pixel, which is opaque
     for (int y = 0; y < picture.height(); ++y) {
         for (int x = 0; x < picture.width(); ++x) {
-            colors.insert(picture.pixel(x, y));
+            const QRgb color = picture.pixel(x, y);
+            if (color != last) {
+                colors.insert(color);
+            }
+            last = color;
         }
     }
     return static_cast<int>(colors.size());
