@@ -129,6 +129,7 @@ Document Document::WithBytes(const FormBytes& bytes) const {
     for (const Text& other : otherFiles_) {
         document.RememberOtherFile(other);
     }
+    document.files_ = files_;
     return document;
 }
 
@@ -302,8 +303,13 @@ Reference Document::AddRecord(std::string_view record) {
 }
 
 void Document::Rename(std::string name) {
+    std::string companionName = DefaultCompanionName(name);
+    Rename(std::move(name), std::move(companionName));
+}
+
+void Document::Rename(std::string name, std::string companionName) {
     if (!isCompanionMissing_) {
-        UseCompanion(DefaultCompanionName(name));
+        UseCompanion(std::move(companionName));
     }
     name_ = std::move(name);
 }

@@ -15,6 +15,7 @@
 #include "forms/companion.h"
 #include "forms/encoding.h"
 #include "forms/form_error.h"
+#include "forms/known_files.h"
 #include "forms/parser.h"
 #include "forms/property.h"
 #include "forms/warning.h"
@@ -56,6 +57,8 @@ class Document {
     /// unless the companion is missing. Saving the document then does not change the files with the
     /// old names.
     void Rename(std::string name);
+    /// Also chooses the companion's name.
+    void Rename(std::string name, std::string companionName);
     /// The number of the form's code page, 65001 for UTF-8.
     int FormCodePage() const { return encoding_.FormCodePage(); }
     /// The number of the code page of the companion's strings; never 65001.
@@ -100,6 +103,9 @@ class Document {
     /// a new string if AddRecord would throw.
     FormBytes Write() const;
 
+    /// The files that Load read and Save wrote for this document and for earlier states of it.
+    KnownFiles& Files() const { return *files_; }
+
  private:
     Document(std::string name, Encoding encoding, ParsedForm form);
 
@@ -119,6 +125,7 @@ class Document {
     ParsedForm form_;
     std::string companionName_;
     Companion companion_;
+    std::shared_ptr<KnownFiles> files_ = std::make_shared<KnownFiles>();
     std::vector<Text> otherFiles_;  // that references name instead of the companion
     bool isCompanionMissing_ = false;
     bool hasLostRecords_ = false;

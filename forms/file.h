@@ -4,6 +4,7 @@
 #include <filesystem>
 
 #include "forms/document.h"
+#include "forms/save.h"
 
 namespace lumenkit::forms {
 
@@ -14,10 +15,16 @@ namespace lumenkit::forms {
 Document Load(const std::filesystem::path& path, int codePage = defaultCodePage);
 
 /// Writes a form and, if it has one, the companion next to it. Each new file is first written next
-/// to the old one and then replaces it, the companion before the form. Each step is flushed to the
-/// disk before the next one begins. So a concurrent reader, an interruption or a power failure
-/// finds each file complete, either old or new. Throws FormError for a file that cannot be written;
-/// the form then keeps its old contents.
-void Save(const Document& document, const std::filesystem::path& path);
+/// to the old one under a unique name and then replaces it, the companion before the form. Each
+/// step is flushed to the disk before the next one begins. So a concurrent reader, an interruption
+/// or a power failure finds each file complete, either old or new. Concurrent saves of one form
+/// wait for each other. Throws FormError for a file that cannot be written, is read-only, belongs
+/// to others or was changed by others (see Replacing); then both files keep their old contents.
+void Save(const Document& document, const std::filesystem::path& path,
+          Replacing replacing = Replacing::Named);
+
+/// Whether the form or its companion is on the disk with other contents than the document read or
+/// wrote last. False for a file that does not exist or was neither read nor written.
+bool IsChangedOnDisk(const Document& document, const std::filesystem::path& path);
 
 }  // namespace lumenkit::forms

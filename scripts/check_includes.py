@@ -107,8 +107,8 @@ OTHER_LIBRARIES = ["runtime/win32", "runtime/qt", *COM_FOLDERS, "server", "tests
 OTHER_LIBRARIES += [folder for folder in ALLOWED if folder.startswith("apps/")]
 # Files in other folders that call the system or use processor instructions, with their headers.
 SYSTEM_HEADERS = {
-    # The standard library cannot flush a file to the disk.
-    "forms/flush.cpp": {"fcntl.h", "io.h", "unistd.h"},
+    # The standard library cannot create a file exclusively, lock it or flush it to the disk.
+    "forms/disk.cpp": {"dirent.h", "fcntl.h", "io.h", "sys/file.h", "sys/stat.h", "unistd.h", "windows.h"},
     # Compilers do not gather comparisons in a bit mask by themselves.
     "vlabel/bar_scanner.cpp": {"emmintrin.h"},
     "vmemo/line_break_scanner.cpp": {"emmintrin.h"},
@@ -333,7 +333,7 @@ def self_test():
         "vlabel/a.cpp": '#include "frame/text.h"\n#include "vlabel/x.h"\n',
         "runtime/ole/a.cpp": '#include <windows.h>\n#include "runtime/win32/a.h"\n',
         "apps/lumenkit/main.cpp": '#include <CLI/CLI.hpp>\n#include "apps/lumenkit/check/a.h"\n',
-        "forms/flush.cpp": "#include <unistd.h>\n",
+        "forms/disk.cpp": "#include <unistd.h>\n",
         "frame/d.h": "#pragma once\n",
     }
     bad = {

@@ -31,7 +31,7 @@ int Create(const std::string& file) {
         throw std::runtime_error(file + " is there already; it is not overwritten");
     }
     const std::string text = NewForm(FormName(path.stem().string()), lumenkitClasses);
-    forms::Save(forms::Document::Parse(file, text, {}), path);
+    forms::Save(forms::Document::Parse(file, text, {}), path, forms::Replacing::Known);
     return cli::exitDone;
 }
 

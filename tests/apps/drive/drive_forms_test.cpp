@@ -96,6 +96,18 @@ TEST_F(DriveForms, UneditedFormsComeBackByteForByte) {
     EXPECT_GE(count, 20);
 }
 
+TEST_F(DriveForms, ACompanionOfAnotherFormIsNotReplaced) {
+    std::ofstream(folder / "memo.frx") << "somebody else's";
+    Load(samples / "memo.frm");
+    EXPECT_THAT(Write("new.frm"), HasSubstr("memo.frx: is there already and was not read"));
+    EXPECT_EQ(FileBytes(folder / "memo.frx"), "somebody else's");
+    EXPECT_FALSE(fs::exists(folder / "new.frm"));
+    fs::remove(folder / "memo.frx");
+    EXPECT_THAT(Write("new.frm"), StartsWith(servedStart));
+    EXPECT_THAT(Write("new.frm"), StartsWith(servedStart));
+    EXPECT_EQ(FileBytes(folder / "memo.frx"), FileBytes(samples / "memo.frx"));
+}
+
 TEST_F(DriveForms, ChangedPropertiesChangeTheirLines) {
     Load(samples / "options.frm", R"(,"mode":"design")");
     Let("VOptList1", "Contents", R"("S;Small|L;\"Large\"")");

@@ -55,7 +55,8 @@ forms::Document forms::Load(const std::filesystem::path& path, int codePage) {
     return Document::Parse(name, Content(name), Content, codePage);
 }
 
-void forms::Save(const Document& document, const std::filesystem::path& path) {
+void forms::Save(const Document& document, const std::filesystem::path& path,
+                 Replacing /*replacing*/) {
     const FormBytes bytes = document.Write();
     Written()[path.string()] = bytes.form;
     if (!bytes.companion.empty()) {

@@ -185,6 +185,70 @@ TEST_F(DesignWindowTest, SavingUnderAnotherNameLeavesTheFirstAlone) {
               u"new\r\ntext");
 }
 
+TEST_F(DesignWindowTest, SavingUnderAnotherNameReplacesNoCompanionOfOthers) {
+    window.Load(Copy("memo"));
+    std::ofstream(File(QStringLiteral("other.frx"))) << "somebody else's";
+    const std::string text = Text();
+    Answer answer(QStringLiteral("OK"));
+    EXPECT_FALSE(window.SaveTo(Path(QStringLiteral("other.frm")), forms::Replacing::Confirmed));
+    EXPECT_THAT(answer.said, HasSubstr("other.frx"));
+    EXPECT_THAT(answer.said, HasSubstr("it is not replaced"));
+    EXPECT_EQ(FileBytes(File(QStringLiteral("other.frx"))), "somebody else's");
+    EXPECT_FALSE(fs::exists(File(QStringLiteral("other.frm"))));
+    EXPECT_EQ(Text(), text);
+    EXPECT_EQ(window.windowTitle(), QStringLiteral("memo.frm[*] – lumenform"));
+}
+
+TEST_F(DesignWindowTest, AFailedSaveKeepsTheNameOfTheCompanion) {
+    fs::copy_file(sampleForms / "memo.frm", File(QStringLiteral("copy.frm")));
+    fs::copy_file(sampleForms / "memo.frx", File(QStringLiteral("memo.frx")));
+    window.Load(Path(QStringLiteral("copy.frm")));
+    const std::string text = Text();
+    const Answer answer(QStringLiteral("OK"));
+    EXPECT_FALSE(window.SaveTo(Path(QStringLiteral("no/such/folder/x.frm"))));
+    EXPECT_EQ(Text(), text);
+    EXPECT_TRUE(window.Save());
+    EXPECT_FALSE(fs::exists(File(QStringLiteral("copy.frx"))));
+}
+
+TEST_F(DesignWindowTest, AConfirmedSaveReplacesAFormWithItsCompanion) {
+    Copy("memo");
+    window.Load(Copy("label"));
+    const std::string companion = FileBytes(File(QStringLiteral("memo.frx")));
+    EXPECT_TRUE(window.SaveTo(Path(QStringLiteral("memo.frm")), forms::Replacing::Confirmed));
+    EXPECT_EQ(FileBytes(File(QStringLiteral("memo.frm"))), Text());
+    window.Load(Path(QStringLiteral("memo.frm")));
+    Copy("memo");
+    window.Load(Copy("options"));
+    Select(u"VOptList1");
+    Design().Edit(QStringLiteral("Contents"), [&] {
+        Design()
+            .View()
+            .Find(u"VOptList1")
+            ->Hosted()
+            ->Automation()
+            .Let(u"Contents", lumenkit::Text(200, u'x'));
+    });
+    ASSERT_TRUE(window.SaveTo(Path(QStringLiteral("memo.frm")), forms::Replacing::Confirmed));
+    EXPECT_THAT(Text(), HasSubstr("\"memo.frx\""));
+    EXPECT_NE(FileBytes(File(QStringLiteral("memo.frx"))), companion);
+    EXPECT_EQ(FileBytes(File(QStringLiteral("memo.frm"))), Text());
+}
+
+TEST_F(DesignWindowTest, AReadOnlyFormIsNotReplaced) {
+    window.Load(Copy("label"));
+    Select(u"VLabel1");
+    Nudge();
+    const std::string before = FileBytes(File(QStringLiteral("label.frm")));
+    fs::permissions(File(QStringLiteral("label.frm")), fs::perms::owner_read);
+    Answer answer(QStringLiteral("OK"));
+    EXPECT_FALSE(window.Save());
+    EXPECT_THAT(answer.said, HasSubstr("label.frm: is read-only"));
+    EXPECT_EQ(FileBytes(File(QStringLiteral("label.frm"))), before);
+    EXPECT_TRUE(window.isWindowModified());
+    EXPECT_TRUE(window.SaveTo(Path(QStringLiteral("other.frm"))));
+}
+
 TEST_F(DesignWindowTest, AFailedSaveSaysSoAndLosesNothing) {
     window.Load(Copy("label"));
     Select(u"VLabel1");

@@ -4,6 +4,7 @@
 #include <set>
 
 #include <gmock/gmock.h>
+#include <sys/stat.h>
 
 #include "forms/literal.h"
 #include "tests/unit/forms/sample_forms.h"
@@ -148,7 +149,7 @@ TEST_F(FileTest, ACompanionIsFoundWhateverTheCaseOfItsName) {
     EXPECT_EQ(WarningsIn(path).size(), 1U);
 }
 
-TEST_F(FileTest, ACompanionOfAnotherFormIsNotReplaced) {
+TEST_F(FileTest, ANameThatDiffersInCaseIsThatOfAnotherForm) {
     WriteFile(folder / "MEMO.FRX", "of another form");
     Save(Sample("memo.frm").Parse(), folder / "memo.frm");
     EXPECT_EQ(ReadFile(folder / "MEMO.FRX"), "of another form");
@@ -210,6 +211,169 @@ TEST_F(FileTest, SavingFollowsLinksAndKeepsPermissions) {
     EXPECT_TRUE(fs::is_symlink(link));
     EXPECT_TRUE(ReadFile(target) == Sample("empty.frm").form);
     EXPECT_EQ(fs::status(target).permissions(), fs::perms::owner_read | fs::perms::owner_write);
+}
+
+// ---- Files of others
+
+TEST_F(FileTest, ACompanionOfAnotherFormIsNotReplaced) {
+    WriteFile(folder / "memo.frx", "somebody else's");
+    const fs::path path = folder / "new.frm";
+    EXPECT_EQ(SaveError(Load(SamplePath("memo.frm")), path),
+              (folder / "memo.frx").string() +
+                  ": is there already and was not read with this form; it is not replaced");
+    EXPECT_EQ(ReadFile(folder / "memo.frx"), "somebody else's");
+    EXPECT_THAT(Names(), ElementsAre("memo.frx"));
+}
+
+TEST_F(FileTest, AnUnknownFormIsReplacedOnlyIfTheCallerMeansIt) {
+    const fs::path path = folder / "empty.frm";
+    WriteFile(path, "somebody else's");
+    const Document document = Sample("empty.frm").Parse();
+    EXPECT_THROW(Save(document, path, Replacing::Known), FormError);
+    EXPECT_EQ(ReadFile(path), "somebody else's");
+    Save(document, path, Replacing::Named);
+    EXPECT_TRUE(ReadFile(path) == Sample("empty.frm").form);
+    Save(document, path, Replacing::Known);
+}
+
+TEST_F(FileTest, ADocumentReplacesTheCompanionThatItWrote) {
+    const fs::path path = folder / "memo.frm";
+    const Document document = Load(SamplePath("memo.frm"));
+    Save(document, path);
+    Find(document, {u"VMemo1"}).Set(u"Text", TextLiteral(u"new\r\ntext"));
+    Save(document, path);
+    const Document same = document.WithBytes(document.Write());
+    Find(same, {u"VMemo1"}).Set(u"Text", TextLiteral(u"newer\r\ntext"));
+    Save(same, path);
+    EXPECT_TRUE(ReadFile(folder / "memo.frx") == same.Write().companion);
+    EXPECT_THAT(Names(), ElementsAre("memo.frm", "memo.frx"));
+}
+
+TEST_F(FileTest, FilesOfAUserNextToTheFormAreNotTouched) {
+    const fs::path path = folder / "memo.frm";
+    Save(Sample("memo.frm").Parse(), path);
+    WriteFile(folder / "memo.frm.new", "a user's own");
+    WriteFile(folder / "target", "a link leads here");
+    fs::create_symlink("target", folder / "memo.frx.new");
+    const Document document = Load(path);
+    Find(document, {u"VMemo1"}).Set(u"Text", TextLiteral(u"new\r\ntext"));
+    Save(document, path);
+    EXPECT_EQ(ReadFile(folder / "memo.frm.new"), "a user's own");
+    EXPECT_EQ(ReadFile(folder / "target"), "a link leads here");
+    EXPECT_THAT(Names(),
+                ElementsAre("memo.frm", "memo.frm.new", "memo.frx", "memo.frx.new", "target"));
+}
+
+TEST_F(FileTest, AFormThatOthersChangedIsNotReplaced) {
+    const fs::path path = folder / "memo.frm";
+    const fs::path companion = folder / "memo.frx";
+    Save(Sample("memo.frm").Parse(), path);
+    const Document document = Load(path);
+    const FormBytes old = document.Write();
+    Find(document, {u"VMemo1"}).Set(u"Text", TextLiteral(u"new\r\ntext"));
+    for (const fs::path& changed : {path, companion}) {
+        const std::string bytes = ReadFile(changed);
+        const fs::file_time_type time = fs::last_write_time(changed);
+        std::string theirs = bytes;
+        theirs.back() = '\n' == theirs.back() ? ' ' : '\n';
+        WriteFile(changed, theirs);
+        fs::last_write_time(changed, time);  // neither size nor time tell
+        EXPECT_EQ(SaveError(document, path),
+                  changed.string() + ": was changed by another program since this form was read");
+        EXPECT_EQ(ReadFile(changed), theirs);
+        WriteFile(changed, bytes);
+    }
+    EXPECT_EQ(ReadFile(path), old.form);
+    EXPECT_EQ(ReadFile(companion), old.companion);
+    EXPECT_THAT(Names(), ElementsAre("memo.frm", "memo.frx"));
+    Save(document, path);
+    EXPECT_EQ(ReadFile(path), document.Write().form);
+}
+
+TEST_F(FileTest, AFormThatOthersRemovedIsWrittenAgain) {
+    const fs::path path = folder / "memo.frm";
+    Save(Sample("memo.frm").Parse(), path);
+    const Document document = Load(path);
+    fs::remove(path);
+    fs::remove(folder / "memo.frx");
+    Save(document, path);
+    EXPECT_TRUE(ReadFile(path) == Sample("memo.frm").form);
+    EXPECT_TRUE(ReadFile(folder / "memo.frx") == Sample("memo.frm").companion);
+}
+
+TEST_F(FileTest, AFormCannotBeItsOwnCompanion) {
+    EXPECT_EQ(SaveError(Load(SamplePath("memo.frm")), folder / "memo.frx"),
+              (folder / "memo.frx").string() + ": is the name of the form and of its companion");
+    EXPECT_TRUE(Names().empty());
+}
+
+TEST_F(FileTest, AConfirmedSaveReplacesAFormWithTheCompanionThatItRefersTo) {
+    const fs::path path = folder / "memo.frm";
+    WriteFile(path, Sample("memo.frm").form);
+    WriteFile(folder / "memo.frx", Sample("memo.frm").companion + "more");
+    const Document other = Sample("memo.frm").Parse();
+    Find(other, {u"VMemo1"}).Set(u"Text", TextLiteral(u"other\r\ntext"));
+    EXPECT_EQ(SaveError(other, path),
+              (folder / "memo.frx").string() +
+                  ": is there already and was not read with this form; it is not replaced");
+    EXPECT_TRUE(ReadFile(path) == Sample("memo.frm").form);
+    Save(other, path, Replacing::Confirmed);
+    EXPECT_TRUE(ReadFile(path) == other.Write().form);
+    EXPECT_TRUE(ReadFile(folder / "memo.frx") == other.Write().companion);
+    EXPECT_THAT(Names(), ElementsAre("memo.frm", "memo.frx"));
+}
+
+TEST_F(FileTest, AConfirmedSaveReplacesNoOtherCompanion) {
+    const fs::path path = folder / "memo.frm";
+    for (const std::string& form : {Sample("empty.frm").form, std::string("no form")}) {
+        WriteFile(path, form);
+        WriteFile(folder / "memo.frx", "somebody else's");
+        EXPECT_THROW(Save(Sample("memo.frm").Parse(), path, Replacing::Confirmed), FormError);
+        EXPECT_EQ(ReadFile(path), form);
+        EXPECT_EQ(ReadFile(folder / "memo.frx"), "somebody else's");
+    }
+}
+
+TEST_F(FileTest, AConfirmedSaveReplacesWhatOthersChanged) {
+    const fs::path path = folder / "memo.frm";
+    Save(Sample("memo.frm").Parse(), path);
+    const Document document = Load(path);
+    EXPECT_FALSE(IsChangedOnDisk(document, path));
+    WriteFile(folder / "memo.frx", Sample("memo.frm").companion + "more");
+    EXPECT_TRUE(IsChangedOnDisk(document, path));
+    Save(document, path, Replacing::Confirmed);
+    EXPECT_FALSE(IsChangedOnDisk(document, path));
+    WriteFile(path, Sample("memo.frm").form + "' by others\r\n");
+    EXPECT_TRUE(IsChangedOnDisk(document, path));
+    Save(document, path, Replacing::Confirmed);
+    EXPECT_TRUE(ReadFile(path) == Sample("memo.frm").form);
+    EXPECT_TRUE(ReadFile(folder / "memo.frx") == Sample("memo.frm").companion);
+}
+
+// ---- Permissions
+
+TEST_F(FileTest, AReadOnlyFileIsNotReplaced) {
+    const fs::path path = folder / "memo.frm";
+    Save(Sample("memo.frm").Parse(), path);
+    const Document document = Load(path);
+    const FormBytes old = document.Write();
+    Find(document, {u"VMemo1"}).Set(u"Text", TextLiteral(u"new\r\ntext"));
+    for (const fs::path& file : {path, folder / "memo.frx"}) {
+        const fs::perms permissions = fs::status(file).permissions();
+        fs::permissions(file, fs::perms::owner_read | fs::perms::group_read);
+        EXPECT_EQ(SaveError(document, path), file.string() + ": is read-only");
+        EXPECT_EQ(ReadFile(path), old.form);
+        EXPECT_EQ(ReadFile(folder / "memo.frx"), old.companion);
+        fs::permissions(file, permissions);
+    }
+    EXPECT_THAT(Names(), ElementsAre("memo.frm", "memo.frx"));
+}
+
+TEST_F(FileTest, OnlyAPlainFileIsReplaced) {
+    const fs::path pipe = folder / "memo.frm";
+    ASSERT_EQ(mkfifo(pipe.c_str(), S_IRUSR | S_IWUSR), 0);
+    EXPECT_EQ(SaveError(Sample("empty.frm").Parse(), pipe), pipe.string() + ": cannot be written");
+    EXPECT_TRUE(fs::is_fifo(pipe));
 }
 
 }  // namespace

@@ -134,10 +134,12 @@ void KilledSave::Sweep(const Document& document, const FormBytes& old, const Tex
     EXPECT_TRUE(calls.contains(SYS_fsync));
     EXPECT_EQ(TextIn(Load(form)), nowText);
 
+    const KnownFiles read = document.Files();
     std::set<Text> seen;
     for (int step = 1; step <= steps; ++step) {
         SCOPED_TRACE(step);
         Restore();
+        document.Files() = read;
         {
             Traced saving([&] { Save(document, form); });
             for (int done = 0; done < step && saving.Step(); ++done) {

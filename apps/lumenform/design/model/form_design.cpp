@@ -182,4 +182,9 @@ void FormDesign::Rename(const std::string& name) {
     now_ = std::make_shared<const Snapshot>(*document_, SelectedNames(), now_.get());
 }
 
+void FormDesign::Rename(const std::string& name, const std::string& companionName) {
+    document_->Rename(name, companionName);
+    now_ = std::make_shared<const Snapshot>(*document_, SelectedNames(), now_.get());
+}
+
 }  // namespace lumenkit::lumenform

@@ -63,8 +63,9 @@ class FormDesign final : public QObject {
 
     /// Undo, redo, and whether there are unsaved changes.
     QUndoStack& History() { return history_; }
-    /// Changes the file name of the document. See forms::Document::Rename.
+    /// Change the file name of the document. See forms::Document::Rename.
     void Rename(const std::string& name);
+    void Rename(const std::string& name, const std::string& companionName);
 
  Q_SIGNALS:
     /// View() and everything in it is new.

@@ -238,8 +238,11 @@ bool DesignWindow::Save() {
     if (!file_.HasPath()) {
         return SaveAs();
     }
-    const bool isMeant = !file_.WasChangedByOthers() || AskWhetherToOverwrite(*this, file_.Path());
-    return isMeant && SaveTo(file_.Path());
+    if (!file_.WasChangedByOthers(bench_->GetDesign())) {
+        return SaveTo(file_.Path());
+    }
+    return AskWhetherToOverwrite(*this, file_.Path()) &&
+           SaveTo(file_.Path(), forms::Replacing::Confirmed);
 }
 
 bool DesignWindow::SaveAs() {
@@ -248,12 +251,17 @@ bool DesignWindow::SaveAs() {
     }
     const QString proposed = file_.HasPath() ? file_.Path() : FormName();
     const QString path = AskForPlaceToSave(*this, proposed);
-    return !path.isEmpty() && SaveTo(path);
+    if (path == file_.Path() && !path.isEmpty()) {
+        return Save();  // asks again if another program has changed the file
+    }
+    // The dialog has asked about a file that is there already.
+    return !path.isEmpty() && SaveTo(path, QFileInfo::exists(path) ? forms::Replacing::Confirmed
+                                                                   : forms::Replacing::Known);
 }
 
-bool DesignWindow::SaveTo(const QString& path) {
+bool DesignWindow::SaveTo(const QString& path, forms::Replacing replacing) {
     try {
-        file_.SaveAs(bench_->GetDesign(), path);
+        file_.SaveAs(bench_->GetDesign(), path, replacing);
     } catch (const forms::FormError& error) {
         Warn(*this, tr("The form was not saved."), QString::fromUtf8(error.what()));
         return false;

@@ -49,7 +49,7 @@ class DesignWindow final : public QMainWindow {
     bool Save();
     bool SaveAs();
     /// Saves to this file, which becomes the file of the form.
-    bool SaveTo(const QString& path);
+    bool SaveTo(const QString& path, forms::Replacing replacing = forms::Replacing::Known);
     /// Asks whether to save changes. Returns false if the user cancels.
     bool MayLeave();
     /// Starts or ends a trial run of the form.

@@ -14,6 +14,16 @@ QString Translated(const char* text) {
     return QCoreApplication::translate("form_dialogs", text);
 }
 
+bool AskWhetherToReplace(QWidget& window, const QString& path) {
+    QMessageBox box(QMessageBox::Warning, Translated("Replace the file?"),
+                    Translated("%1 is there already.").arg(path), QMessageBox::Cancel, &window);
+    box.setInformativeText(Translated("Saving replaces it."));
+    const QPushButton* const replace =
+        box.addButton(Translated("&Replace"), QMessageBox::AcceptRole);
+    box.exec();
+    return box.clickedButton() == replace;
+}
+
 }  // namespace
 
 QString AskForFormToOpen(QWidget& window, const QString& folder) {
@@ -28,6 +38,10 @@ QString AskForPlaceToSave(QWidget& window, const QString& proposed) {
         Translated("Forms (*.frm);;Controls (*.ctl);;Property pages (*.pag);;Documents (*.dob)"));
     if (!path.isEmpty() && QFileInfo(path).suffix().isEmpty()) {
         path += QStringLiteral(".frm");
+        // The dialog asked about the name without the extension.
+        if (QFileInfo::exists(path) && !AskWhetherToReplace(window, path)) {
+            path.clear();
+        }
     }
     return path;
 }

@@ -2,10 +2,9 @@
 
 #include <QString>
 #include <filesystem>
-#include <optional>
 
 #include "apps/lumenform/design/model/form_design.h"
-#include "forms/document.h"
+#include "forms/file.h"
 
 namespace lumenkit::lumenform {
 
@@ -15,29 +14,22 @@ class FormFile {
     /// For a form that was never saved.
     FormFile() = default;
     /// For a form that was just read from this file.
-    explicit FormFile(const QString& path);
+    explicit FormFile(const QString& path) : path_(path) {}
 
     bool HasPath() const { return !path_.isEmpty(); }
     const QString& Path() const { return path_; }
-    /// Whether the file differs from the state last read or written. False if it no longer exists.
-    bool WasChangedByOthers() const;
+    /// Whether the file or its companion differs from the state that the design last read or wrote.
+    /// False if it no longer exists.
+    bool WasChangedByOthers(const FormDesign& design) const;
 
     /// Save writes the design to its file. SaveAs writes it to another file, which becomes its
     /// file. Both throw forms::FormError as forms::Save does; then the design and its files are
     /// unchanged.
-    void Save(FormDesign& design);
-    void SaveAs(FormDesign& design, const QString& path);
+    void Save(FormDesign& design, forms::Replacing replacing);
+    void SaveAs(FormDesign& design, const QString& path, forms::Replacing replacing);
 
  private:
-    struct State {
-        std::filesystem::file_time_type time;
-        std::uintmax_t size = 0;
-        friend bool operator==(const State&, const State&) = default;
-    };
-    static std::optional<State> StateOf(const QString& path);
-
     QString path_;
-    std::optional<State> known_;
 };
 
 std::filesystem::path PathOf(const QString& name);

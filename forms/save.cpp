@@ -1,0 +1,384 @@
+#include "forms/save.h"
+
+#include <array>
+#include <cstdint>
+#include <optional>
+#include <random>
+#include <string>
+#include <string_view>
+#include <system_error>
+#include <utility>
+#include <vector>
+
+#include "forms/companion_path.h"
+#include "forms/form_error.h"
+#include "forms/known_files.h"
+#include "forms/path_names.h"
+
+namespace lumenkit::forms {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+std::string Hexadecimal(std::uint64_t number) {
+    constexpr std::string_view digits = "0123456789abcdef";
+    constexpr int bitsOfADigit = 4;
+    std::string text(2 * sizeof number, '0');
+    for (auto digit = text.rbegin(); digit != text.rend(); ++digit) {
+        *digit = digits[number & 0xF];
+        number >>= bitsOfADigit;
+    }
+    return text;
+}
+
+constexpr std::string_view newEnd = ".new";
+constexpr std::string_view keptEnd = ".kept";
+
+// A file of the form, and the names of the files that a save creates in its folder. Their names
+// begin with a hash of the file's name without regard to case, because its own name may already
+// have the greatest length.
+struct Place {
+    Place(const fs::path& named, const std::string& contents)
+        : name(NameOf(named)),
+          path(Resolved(named)),
+          folder(path.parent_path()),
+          bytes(contents),
+          prefix(".lumenkit-" + Hexadecimal(Fingerprint::Of(Lower(path)).hash)),
+          lock(folder / (prefix + ".lock")) {}
+
+    fs::path NewName(std::string_view end) const {
+        std::random_device random;
+        constexpr int half = 32;
+        const std::uint64_t number = (std::uint64_t{random()} << half) | random();
+        return folder / (prefix + "-" + Hexadecimal(number) + std::string(end));
+    }
+
+    const std::string name;  // for error messages
+    const fs::path path;
+    const fs::path folder;
+    const std::string& bytes;
+    const std::string prefix;
+    const fs::path lock;
+
+ private:
+    static std::string Lower(const fs::path& path) {
+        std::string lower = NameOf(path.filename());
+        for (char& letter : lower) {
+            letter =
+                'A' <= letter && letter <= 'Z' ? static_cast<char>(letter - 'A' + 'a') : letter;
+        }
+        return lower;
+    }
+};
+
+[[noreturn]] void RefuseToWrite(const Place& place) {
+    throw FormError(place.name, "cannot be written");
+}
+
+// Tries twice, because a virus scanner may hold a new file for a moment.
+void Remove(Disk& disk, const fs::path& path) {
+    if (!disk.Remove(path)) {
+        disk.Pause();
+        disk.Remove(path);
+    }
+}
+
+// Excludes other saves of the same file.
+class Lock {
+ public:
+    Lock(Disk& disk, const Place& place) : disk_(disk), path_(place.lock) {
+        constexpr int mostTries = 5000;  // with a pause of a millisecond each
+        Disk::Opened lock = disk.Lock(path_);
+        for (int tries = 1; lock.outcome == Disk::Outcome::Taken; ++tries) {
+            if (tries == mostTries) {
+                throw FormError(place.name, "is being saved by another program");
+            }
+            disk.Pause();
+            lock = disk.Lock(path_);
+        }
+        if (lock.outcome != Disk::Outcome::Done) {
+            RefuseToWrite(place);
+        }
+        handle_ = lock.handle;
+    }
+    Lock(const Lock&) = delete;
+    Lock& operator=(const Lock&) = delete;
+    ~Lock() { disk_.Unlock(handle_, path_); }
+
+ private:
+    Disk& disk_;
+    const fs::path& path_;
+    Disk::Handle handle_ = -1;
+};
+
+// A file with a unique name in the folder of another file. The destructor removes it unless it was
+// renamed.
+class BesideFile {
+ public:
+    BesideFile(Disk& disk, const Place& place) : disk_(disk), place_(place) {}
+    BesideFile(const BesideFile&) = delete;
+    BesideFile& operator=(const BesideFile&) = delete;
+    ~BesideFile() {
+        if (isThere_) {
+            Remove(disk_, path_);
+        }
+    }
+
+    void Write(std::string_view bytes, const FileState& old) {
+        const Disk::Opened file =
+            Make(newEnd, [&](const fs::path& path) { return disk_.Create(path, old.exists); });
+        if (file.outcome != Disk::Outcome::Done) {
+            RefuseToWrite(place_);
+        }
+        const bool isWritten = disk_.Write(file.handle, bytes) &&
+                               (!old.exists || disk_.KeepAttributes(file.handle, old)) &&
+                               disk_.Flush(file.handle);
+        if (!disk_.Close(file.handle) || !isWritten) {
+            RefuseToWrite(place_);
+        }
+    }
+    // Gives the old file a second name. Copies it if the file system has no second names.
+    void Keep(std::string_view oldBytes, const FileState& old) {
+        const Disk::Opened linked = Make(keptEnd, [&](const fs::path& path) {
+            return Disk::Opened{disk_.Link(place_.path, path)};
+        });
+        if (linked.outcome != Disk::Outcome::Done) {
+            Write(oldBytes, old);
+        }
+    }
+
+    // The following functions allocate no memory.
+    bool TakePlace() {
+        if (!disk_.Rename(path_, place_.path)) {
+            return false;
+        }
+        isThere_ = false;
+        disk_.FlushFolder(place_.folder);
+        return true;
+    }
+    void Leave() { isThere_ = false; }
+    const fs::path& Path() const { return path_; }
+
+ private:
+    template <typename Creation>
+    Disk::Opened Make(std::string_view end, const Creation& create) {
+        constexpr int mostTries = 100;
+        Disk::Opened made{Disk::Outcome::Taken};
+        for (int tries = 0; made.outcome == Disk::Outcome::Taken && tries < mostTries; ++tries) {
+            path_ = place_.NewName(end);
+            made = create(std::as_const(path_));
+        }
+        isThere_ = made.outcome == Disk::Outcome::Done;
+        return made;
+    }
+
+    Disk& disk_;
+    const Place& place_;
+    fs::path path_;
+    bool isThere_ = false;
+};
+
+// Whether a file is left over from a save of `place` by a program that was killed. Call it only
+// while the place is locked. A kept companion is left over only if nothing of it would be lost.
+bool IsLeftOver(Disk& disk, const Place& place, const fs::path& file) {
+    const std::string name = NameOf(file.filename());
+    const std::size_t begin = place.prefix.size() + 1 + 2 * sizeof(std::uint64_t);
+    if (!name.starts_with(place.prefix + "-") || name.size() < begin) {
+        return false;
+    }
+    const std::string_view end = std::string_view(name).substr(begin);
+    if (end != keptEnd) {
+        return end == newEnd;
+    }
+    std::string kept;
+    std::string present;
+    return disk.Read(file, kept) && disk.Read(place.path, present) && present.starts_with(kept);
+}
+
+void RemoveLeftOvers(Disk& disk, const Place& place) {
+    std::vector<fs::path> names;
+    disk.List(place.folder, names);  // a folder that cannot be listed keeps its files
+    for (const fs::path& name : names) {
+        const fs::path file = place.folder / name;
+        if (IsLeftOver(disk, place, file)) {
+            disk.Remove(file);
+        }
+    }
+}
+
+// One save of a document.
+class Saving {
+ public:
+    Saving(Disk& disk, const Document& document, const fs::path& path, Replacing replacing)
+        : disk_(disk),
+          document_(document),
+          path_(path),
+          replacing_(replacing),
+          bytes_(document.Write()),
+          form_(path, bytes_.form) {
+        if (!bytes_.companion.empty()) {
+            companion_.emplace(CompanionToSave(document, path), bytes_.companion);
+            if (companion_->path == form_.path || IsSamePath(companion_->path, form_.path)) {
+                throw FormError(companion_->name, "is the name of the form and of its companion");
+            }
+        }
+    }
+
+    void Run() {
+        // Tells a read-only file as such even if its folder is read-only too.
+        Look(form_);
+        if (companion_) {
+            Look(*companion_);
+        }
+        const Lock formLock(disk_, form_);
+        std::optional<Lock> companionLock;
+        RemoveLeftOvers(disk_, form_);
+        if (companion_) {
+            companionLock.emplace(disk_, *companion_);
+            RemoveLeftOvers(disk_, *companion_);
+        }
+        Replace();
+    }
+
+ private:
+    // The present file of a place.
+    struct Present {
+        FileState state;
+        std::string bytes;
+    };
+
+    FileState Look(const Place& place) const {
+        FileState state;
+        if (!disk_.Look(place.path, state) || (state.exists && !state.isRegular)) {
+            RefuseToWrite(place);
+        }
+        if (state.isReadOnly) {
+            throw FormError(place.name, "is read-only");
+        }
+        return state;
+    }
+    Present Read(const Place& place) const {
+        Present present{Look(place), {}};
+        if (present.state.exists && !disk_.Read(place.path, present.bytes)) {
+            throw FormError(place.name, "cannot be read");
+        }
+        return present;
+    }
+
+    void Replace() {
+        BesideFile newForm(disk_, form_);
+        newForm.Write(bytes_.form, Look(form_));
+        std::optional<BesideFile> newCompanion;
+        std::optional<BesideFile> keptCompanion;
+        if (companion_) {
+            newCompanion.emplace(disk_, *companion_);
+            newCompanion->Write(bytes_.companion, Look(*companion_));
+        }
+        // The following comparison comes as late as possible: programs without the lock may write
+        // the files too.
+        const Present form = Read(form_);
+        RequireKnown(form);
+        if (companion_) {
+            const Present companion = Read(*companion_);
+            RequireKnown(companion, form);
+            if (companion.state.exists) {
+                keptCompanion.emplace(disk_, *companion_);
+                keptCompanion->Keep(companion.bytes, companion.state);
+            }
+        }
+        KnownFiles known = document_.Files();
+        known.Remember(form_.path, form_.bytes);
+        if (companion_) {
+            known.Remember(companion_->path, companion_->bytes);
+            TakeBothPlaces(newForm, *newCompanion, keptCompanion);
+        } else if (!newForm.TakePlace()) {
+            RefuseToWrite(form_);
+        }
+        document_.Files() = std::move(known);
+    }
+
+    void RequireKnown(const Present& form) const {
+        const Fingerprint* const known = document_.Files().Find(form_.path);
+        const bool isExpected = known == nullptr ? replacing_ == Replacing::Named
+                                                 : *known == Fingerprint::Of(form.bytes);
+        if (form.state.exists && form.bytes != form_.bytes && !isExpected &&
+            replacing_ != Replacing::Confirmed) {
+            Refuse(form_, known);
+        }
+    }
+    void RequireKnown(const Present& companion, const Present& form) const {
+        const Fingerprint* const known = document_.Files().Find(companion_->path);
+        if (!companion.state.exists || companion.bytes == companion_->bytes ||
+            (known != nullptr && *known == Fingerprint::Of(companion.bytes)) ||
+            (replacing_ == Replacing::Confirmed && form.state.exists && RefersToIt(form.bytes))) {
+            return;
+        }
+        Refuse(*companion_, known);
+    }
+    [[noreturn]] static void Refuse(const Place& place, const Fingerprint* known) {
+        throw FormError(
+            place.name,
+            known != nullptr
+                ? "was changed by another program since this form was read"
+                : "is there already and was not read with this form; it is not replaced");
+    }
+
+    // Whether the form on the disk refers to the companion.
+    bool RefersToIt(const std::string& form) const {
+        std::string named;
+        const auto readCompanion = [&](const std::string& name) -> std::optional<std::string> {
+            named = name;
+            return std::nullopt;
+        };
+        try {
+            Document::Parse(form_.name, form, readCompanion, document_.CompanionCodePage());
+        } catch (const FormError&) {
+            // The name is known even then.
+        }
+        return !named.empty() && IsSamePath(Resolved(Beside(path_, named)), companion_->path);
+    }
+
+    // Allocates no memory until both files are in their places, or neither is.
+    void TakeBothPlaces(BesideFile& newForm, BesideFile& newCompanion,
+                        std::optional<BesideFile>& kept) const {
+        if (!newCompanion.TakePlace()) {
+            RefuseToWrite(*companion_);
+        }
+        if (newForm.TakePlace()) {
+            return;
+        }
+        if (!kept) {
+            Remove(disk_, companion_->path);
+        } else if (!kept->TakePlace()) {
+            kept->Leave();
+            throw FormError(companion_->name,
+                            "belongs to a form that could not be written; its "
+                            "former content is in " +
+                                NameOf(kept->Path().filename()));
+        }
+        RefuseToWrite(form_);
+    }
+
+    Disk& disk_;
+    const Document& document_;
+    const fs::path& path_;
+    const Replacing replacing_;
+    const FormBytes bytes_;
+    const Place form_;
+    std::optional<Place> companion_;
+};
+
+}  // namespace
+
+fs::path CompanionToSave(const Document& document, const fs::path& path) {
+    return CompanionPath(path, document.CompanionName(), [&](const fs::path& file) {
+        return document.Files().Find(Resolved(file)) != nullptr;
+    });
+}
+
+void SaveOn(Disk& disk, const Document& document, const fs::path& path, Replacing replacing) {
+    Saving(disk, document, path, replacing).Run();
+}
+
+}  // namespace lumenkit::forms
