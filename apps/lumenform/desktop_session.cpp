@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <cstdio>
+#include <memory>
 
 #include "apps/command_line/code_page_option.h"
 #include "apps/command_line/exit_status.h"
@@ -23,7 +24,7 @@ int ShowOnDesktop(const DesktopOptions& options, const char* instead, const Make
         return cli::exitUnusable;
     }
     ApplicationArguments arguments;
-    const QApplication application(arguments.count, arguments.values.data());
+    auto application = std::make_unique<QApplication>(arguments.count, arguments.values.data());
     if (options.dark) {
         UseOwnStyle(true);
     }
@@ -31,9 +32,17 @@ int ShowOnDesktop(const DesktopOptions& options, const char* instead, const Make
     qt::Interaction interaction;
     const qt::Context context{
         .classes = lumenkitClasses, .application = component, .interaction = interaction};
-    const std::unique_ptr<QWidget> window = make(context);
+    std::unique_ptr<QWidget> window = make(context);
     window->show();
-    return QApplication::exec() == 0 ? cli::exitDone : cli::exitUnusable;
+    const int status = QApplication::exec() == 0 ? cli::exitDone : cli::exitUnusable;
+    window.reset();
+    // When Qt 6.4 closes its connection to a Wayland compositor, its two threads may wait for each
+    // other, and the program never ends. The connection therefore stays open until the process
+    // ends.
+    if (QGuiApplication::platformName() == QLatin1String("wayland")) {
+        static_cast<void>(application.release());
+    }
+    return status;
 }
 
 }  // namespace lumenkit::lumenform
