@@ -6,7 +6,6 @@
 #include <QtGlobal>
 #include <array>
 #include <memory>
-#include <optional>
 
 #include <gtest/gtest.h>
 
@@ -37,19 +36,31 @@ class QtEnvironment final : public ::testing::Environment {
         if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) {
             qputenv("QT_QPA_PLATFORM", "offscreen");
         }
-        application_.emplace(count_, arguments_.data());
-        if (QGuiApplication::platformName() == QLatin1String("wayland")) {
+        application_ = std::make_unique<QApplication>(count_, arguments_.data());
+        if (IsOnWayland()) {
             application_->installEventFilter(&framesFirst_);
         }
     }
-    void TearDown() override { application_.reset(); }
+    // Qt 6.4 may wait for ever when it closes its connection to a Wayland compositor. The
+    // connection stays open until the program ends.
+    void TearDown() override {
+        if (IsOnWayland()) {
+            application_->removeEventFilter(&framesFirst_);
+            static_cast<void>(application_.release());
+        }
+        application_.reset();
+    }
 
  private:
+    static bool IsOnWayland() {
+        return QGuiApplication::platformName() == QLatin1String("wayland");
+    }
+
     std::array<char, 5> name_{"test"};
     std::array<char*, 2> arguments_{name_.data(), nullptr};
     int count_ = 1;
     FramesFirst framesFirst_;
-    std::optional<QApplication> application_;
+    std::unique_ptr<QApplication> application_;
 };
 
 [[maybe_unused]] const auto* const environment =
