@@ -47,7 +47,7 @@ fs::path CompanionPath(const fs::path& form, const std::string& name,
         }
     }
     for (const fs::path& place : forms) {
-        const fs::path found = FindInFolder(place.parent_path(), name);
+        fs::path found = FindInFolder(place.parent_path(), name);
         if (!found.empty() && isMeant(found)) {
             return found;
         }

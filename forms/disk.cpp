@@ -198,6 +198,7 @@ bool Disk::List(const fs::path& folder, std::vector<fs::path>& names) {
     if (stream == nullptr) {
         return false;
     }
+    // NOLINTNEXTLINE(concurrency-mt-unsafe): only this function reads this stream.
     while (const dirent* const entry = readdir(stream.get())) {
         names.emplace_back(entry->d_name);
     }
@@ -235,7 +236,7 @@ bool Disk::KeepAttributes(Handle file, const FileState& old) {
         return false;
     }
     mode_t mode = old.mode;
-    constexpr uid_t unchanged = -1;
+    constexpr auto unchanged = static_cast<uid_t>(-1);
     if (present.st_uid != old.owner && fchown(File(file), old.owner, unchanged) != 0) {
         mode &= ~static_cast<mode_t>(S_ISUID);
     }

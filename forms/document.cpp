@@ -154,7 +154,7 @@ std::vector<Warning> Document::Warnings() const {
 }
 
 void Document::Warn(Position place, std::string text) const {
-    warnings_.try_emplace({place.line, place.column}, std::move(text));
+    warnings_.emplace(std::pair(place.line, place.column), std::move(text));
 }
 
 void Document::Warn(const Property& property, std::string text) const {
@@ -207,6 +207,7 @@ void Document::ReadCompanion(const CompanionReader& readCompanion) {
         return;
     }
     std::vector<std::uint32_t> offsets;
+    offsets.reserve(references.size());
     for (const PlacedReference& placed : references) {
         offsets.push_back(placed.reference.offset);
     }

@@ -25,11 +25,11 @@ std::string Hexadecimal(std::uint64_t number) {
     constexpr std::string_view digits = "0123456789abcdef";
     constexpr int bitsOfADigit = 4;
     std::string text(2 * sizeof number, '0');
-    for (auto digit = text.rbegin(); digit != text.rend(); ++digit) {
-        *digit = digits[number & 0xF];
+    for (char& digit : text) {
+        digit = digits[number & 0xF];
         number >>= bitsOfADigit;
     }
-    return text;
+    return {text.rbegin(), text.rend()};
 }
 
 constexpr std::string_view newEnd = ".new";

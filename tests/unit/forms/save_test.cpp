@@ -28,7 +28,7 @@ using ::testing::HasSubstr;
 class FaultyDisk final : public Disk {
  public:
     /// The numbers, from 1, of the calls that fail.
-    std::set<int> failing;
+    std::set<std::size_t> failing;
     /// The names of the calls so far.
     std::vector<std::string> calls;
     /// Called before each call.
@@ -90,7 +90,7 @@ class FaultyDisk final : public Disk {
     bool Works(const char* name) {
         before(name);
         calls.emplace_back(name);
-        return !failing.contains(static_cast<int>(calls.size()));
+        return !failing.contains(calls.size());
     }
 };
 
@@ -157,7 +157,7 @@ std::set<std::string> SaveTest::SweepFaults(const std::function<void()>& prepare
                                             const std::function<Document()>& makeDocument) {
     std::set<std::string> needless;
     std::size_t count = 1;
-    for (int failing = 0; failing <= static_cast<int>(count); ++failing) {
+    for (std::size_t failing = 0; failing <= count; ++failing) {
         prepare();
         const Document document = makeDocument();
         const Files old = OnDisk();
@@ -219,7 +219,7 @@ TEST_F(SaveTest, ACompanionGetsItsFormerContentBackFromACopyToo) {
     disk.before = [&](const std::string& call) {
         renames += call == "Rename" ? 1 : 0;
         if (call == "Link" || (call == "Rename" && renames == 2)) {
-            disk.failing.insert(static_cast<int>(disk.calls.size()) + 1);
+            disk.failing.insert(disk.calls.size() + 1);
         }
     };
     EXPECT_EQ(Error(disk, document), form.string() + ": cannot be written");
@@ -237,7 +237,7 @@ TEST_F(SaveTest, ACompanionThatCannotBeRestoredIsKept) {
     disk.before = [&](const std::string& call) {
         renames += call == "Rename" ? 1 : 0;
         if (call == "Rename" && renames > 1) {
-            disk.failing.insert(static_cast<int>(disk.calls.size()) + 1);
+            disk.failing.insert(disk.calls.size() + 1);
         }
     };
     const std::string error = Error(disk, document);
@@ -361,7 +361,7 @@ TEST_F(SaveTest, OneOfTwoSaversIsToldAndOneWholeFormRemains) {
         std::thread first(save, 0);
         save(1);
         first.join();
-        const int winner = errors[0].empty() ? 0 : 1;
+        const std::size_t winner = errors[0].empty() ? 0 : 1;
         EXPECT_EQ(errors[winner], "");
         EXPECT_THAT(errors[1 - winner], HasSubstr(": was changed by another program")) << round;
         EXPECT_EQ(OnDisk(), Written(documents[winner])) << round;
