@@ -39,7 +39,7 @@ const QString plainText = QStringLiteral("text/plain;charset=utf-8");
 
 // Writes a file for another program.
 QString Written(const QTemporaryDir& folder, const QByteArray& bytes) {
-    const QString path = folder.filePath(QStringLiteral("copied"));
+    QString path = folder.filePath(QStringLiteral("copied"));
     QFile file(path);
     EXPECT_TRUE(file.open(QIODevice::WriteOnly));
     file.write(bytes);
