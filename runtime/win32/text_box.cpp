@@ -1,6 +1,9 @@
 #include "runtime/win32/text_box.h"
 
 #include <algorithm>
+#include <cstdint>
+#include <cstdlib>
+#include <utility>
 
 #include "frame/host/accepted_values.h"
 #include "runtime/win32/label_before.h"
@@ -135,7 +138,12 @@ void TextBox::SetVisible(bool visible) {
     if (twin != nullptr && !twin->caretIsPlaced_) {
         const Range selection = Selection();
         const std::int32_t length = twin->Length();
-        twin->Select(std::min(selection.start, length), std::min(selection.end, length));
+        std::int32_t anchor = std::min(selection.start, length);
+        std::int32_t caret = std::min(selection.end, length);
+        if (HasCaretAtStart()) {
+            std::swap(anchor, caret);
+        }
+        twin->Select(anchor, caret);
     }
     caretIsPlaced_ = caretIsPlaced_ && visible;
     BecomeVisible(visible);
@@ -168,6 +176,21 @@ TextBox::Range TextBox::Selection() const {
     return {static_cast<std::int32_t>(start), static_cast<std::int32_t>(end)};
 }
 
+// Whether the selection was made to the left. The edit control does not say so, but shows it by its
+// caret.
+bool TextBox::HasCaretAtStart() const {
+    POINT caret = {};
+    if (GetFocus() != Handle() || GetCaretPos(&caret) == FALSE) {
+        return false;
+    }
+    const auto place =
+        static_cast<DWORD>(Ask(EM_POSFROMCHAR, static_cast<WPARAM>(Selection().start)));
+    const int left = static_cast<std::int16_t>(LOWORD(place));
+    const int top = static_cast<std::int16_t>(HIWORD(place));
+    return caret.y == top && std::abs(static_cast<int>(caret.x) - left) <= 1;
+}
+
+// The caret is at `end`, which may be before `start`.
 void TextBox::Select(std::int32_t start, std::int32_t end) {
     Ask(EM_SETSEL, static_cast<WPARAM>(start), end);
     Ask(EM_SCROLLCARET);

@@ -1,4 +1,6 @@
 // The keyboard in a form with a memo and an option list, as a dialog passes it on.
+#include <array>
+
 #include <gtest/gtest.h>
 
 #include "project/lumenkit_classes.h"
@@ -72,6 +74,24 @@ TEST_F(FocusTest, OtherScrollBarsKeepTheKeyboardAndTheCaret) {
         }
     }
     EXPECT_EQ(TextOf(list_), u"") << "no letter chose an item";
+}
+
+TEST_F(FocusTest, ASelectionToTheLeftGoesOverAsOne) {
+    Type(u"abcdef");
+    SendMessageW(GetFocus(), EM_SETSEL, 4, 2);
+    Let(memo_, u"ScrollBars", std::int32_t{1});
+    std::array<BYTE, 256> keys = {};
+    keys[VK_SHIFT] = 0x80;
+    SetKeyboardState(keys.data());
+    SendMessageW(GetFocus(), WM_KEYDOWN, VK_LEFT, 1);
+    keys[VK_SHIFT] = 0;
+    SetKeyboardState(keys.data());
+    DWORD start = 0;
+    DWORD end = 0;
+    SendMessageW(GetFocus(), EM_GETSEL, reinterpret_cast<WPARAM>(&start),
+                 reinterpret_cast<LPARAM>(&end));
+    EXPECT_EQ(start, 1U);
+    EXPECT_EQ(end, 4U);
 }
 
 TEST_F(FocusTest, TheHiddenBoxGivesTheKeyboardToTheVisibleOne) {
