@@ -141,11 +141,13 @@ const std::vector<Library>& Libraries() {
     return libraries;
 }
 
+constexpr std::array<REGSAM, 3> views = {0, KEY_WOW64_32KEY, KEY_WOW64_64KEY};
+
 // Returns the keys of the registry that only a registered server has.
 std::vector<std::wstring> Present() {
     std::vector<std::wstring> present;
     const auto look = [&](const std::wstring& key) {
-        for (const REGSAM view : {REGSAM{0}, REGSAM{KEY_WOW64_32KEY}, REGSAM{KEY_WOW64_64KEY}}) {
+        for (const REGSAM view : views) {
             if (TextAt(key, view)) {
                 present.push_back(key);
                 return;
@@ -165,6 +167,15 @@ std::vector<std::wstring> Present() {
 
 class Registration : public ::testing::Test {
  protected:
+    // Tests that were ended early leave the server registered.
+    static void SetUpTestSuite() {
+        for (const std::wstring& key : Present()) {
+            for (const REGSAM view : views) {
+                Remove(key, view);
+            }
+        }
+    }
+
     Registration() { EXPECT_THAT(Present(), IsEmpty()); }
     ~Registration() override { EXPECT_THAT(Present(), IsEmpty()); }
 
