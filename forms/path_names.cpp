@@ -17,8 +17,12 @@ fs::path Resolved(const fs::path& path) {
     return error ? path : resolved / path.filename();
 }
 
+fs::path PathOf(const std::string& name) {
+    return std::u8string(name.begin(), name.end());
+}
+
 fs::path Beside(const fs::path& path, const std::string& name) {
-    return path.parent_path() / fs::path(std::u8string(name.begin(), name.end()));
+    return path.parent_path() / PathOf(name);
 }
 
 std::string NameOf(const fs::path& path) {

@@ -10,6 +10,7 @@
 #include "forms/encoding.h"
 #include "forms/file.h"
 #include "forms/form_error.h"
+#include "forms/path_names.h"
 #include "frame/host/font.h"
 #include "frame/utf8.h"
 
@@ -18,8 +19,7 @@ namespace lumenkit::cli::requests {
 namespace {
 
 std::filesystem::path FileOf(const Fields& request) {
-    const std::string name = request.String("file");
-    return std::u8string(name.begin(), name.end());
+    return forms::PathOf(request.String("file"));
 }
 
 template <typename Act>
