@@ -1,7 +1,6 @@
 #include "runtime/win32/accessible_object.h"
 
 #include <algorithm>
-#include <atomic>
 #include <new>
 #include <utility>
 
@@ -14,6 +13,7 @@
 #include "runtime/win32/accessible_answers.h"
 #include "runtime/win32/accessible_share.h"
 #include "runtime/win32/adopted.h"
+#include "runtime/win32/counted.h"
 #include "runtime/win32/group_position.h"
 #include "runtime/win32/shown_windows.h"
 #include "runtime/win32/wide_text.h"
@@ -28,28 +28,15 @@ bool IsSelf(const VARIANT& child) {
     return V_VT(&child) == VT_I4 && V_I4(&child) == CHILDID_SELF;
 }
 
-class AccessibleObject final : public IAccessible,
-                               public IEnumVARIANT,
-                               public IOleWindow,
-                               public IServiceProvider {
+class AccessibleObject final
+    : public Counted<IAccessible, IEnumVARIANT, IOleWindow, IServiceProvider> {
  public:
     // `standard` is the platform's description of the window.
     AccessibleObject(HWND window, ComPtr<IAccessible> standard)
         : window_(window), standard_(std::move(standard)) {}
-    AccessibleObject(const AccessibleObject&) = delete;
-    AccessibleObject& operator=(const AccessibleObject&) = delete;
-    virtual ~AccessibleObject() = default;
 
     // IUnknown
     HRESULT STDMETHODCALLTYPE QueryInterface(REFIID iid, void** object) override;
-    ULONG STDMETHODCALLTYPE AddRef() override { return ++references_; }
-    ULONG STDMETHODCALLTYPE Release() override {
-        const ULONG left = --references_;
-        if (left == 0) {
-            delete this;
-        }
-        return left;
-    }
 
     // IDispatch: clients use the virtual table.
     HRESULT STDMETHODCALLTYPE GetTypeInfoCount(UINT* count) override {
@@ -154,7 +141,6 @@ class AccessibleObject final : public IAccessible,
     }
 
     AccessibleShare share_;
-    std::atomic<ULONG> references_ = 1;
     HWND window_;
     ComPtr<IAccessible> standard_;
     ULONG next_ = 0;  // of the enumeration

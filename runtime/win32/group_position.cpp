@@ -1,6 +1,5 @@
 #include "runtime/win32/group_position.h"
 
-#include <atomic>
 #include <new>
 
 #include <uiautomationclient.h>
@@ -9,6 +8,7 @@
 #include "runtime/win32/accessible_answers.h"
 #include "runtime/win32/accessible_share.h"
 #include "runtime/win32/adopted.h"
+#include "runtime/win32/counted.h"
 
 namespace lumenkit::win32 {
 
@@ -16,12 +16,9 @@ namespace {
 
 using Microsoft::WRL::ComPtr;
 
-class GroupPosition final : public IAccessibleEx, public IRawElementProviderSimple {
+class GroupPosition final : public Counted<IAccessibleEx, IRawElementProviderSimple> {
  public:
     GroupPosition(HWND window, IAccessible& object) : window_(window), object_(&object) {}
-    GroupPosition(const GroupPosition&) = delete;
-    GroupPosition& operator=(const GroupPosition&) = delete;
-    virtual ~GroupPosition() = default;
 
     HRESULT STDMETHODCALLTYPE QueryInterface(REFIID iid, void** object) override {
         if (object == nullptr) {
@@ -37,14 +34,6 @@ class GroupPosition final : public IAccessibleEx, public IRawElementProviderSimp
         }
         AddRef();
         return S_OK;
-    }
-    ULONG STDMETHODCALLTYPE AddRef() override { return ++references_; }
-    ULONG STDMETHODCALLTYPE Release() override {
-        const ULONG left = --references_;
-        if (left == 0) {
-            delete this;
-        }
-        return left;
     }
 
     // IAccessibleEx
@@ -100,7 +89,6 @@ class GroupPosition final : public IAccessibleEx, public IRawElementProviderSimp
 
  private:
     AccessibleShare share_;
-    std::atomic<ULONG> references_ = 1;
     HWND window_;
     ComPtr<IAccessible> object_;
 };

@@ -140,7 +140,7 @@ void TextBox::SetVisible(bool visible) {
         const std::int32_t length = twin->Length();
         std::int32_t anchor = std::min(selection.start, length);
         std::int32_t caret = std::min(selection.end, length);
-        if (HasCaretAtStart()) {
+        if (ShowsCaretAt(selection.start)) {
             std::swap(anchor, caret);
         }
         twin->Select(anchor, caret);
@@ -176,15 +176,13 @@ TextBox::Range TextBox::Selection() const {
     return {static_cast<std::int32_t>(start), static_cast<std::int32_t>(end)};
 }
 
-// Whether the selection was made to the left. The edit control does not say so, but shows it by its
-// caret.
-bool TextBox::HasCaretAtStart() const {
+// The edit control does not say at which end of its selection the caret is, but shows it.
+bool TextBox::ShowsCaretAt(std::int32_t position) const {
     POINT caret = {};
     if (GetFocus() != Handle() || GetCaretPos(&caret) == FALSE) {
         return false;
     }
-    const auto place =
-        static_cast<DWORD>(Ask(EM_POSFROMCHAR, static_cast<WPARAM>(Selection().start)));
+    const auto place = static_cast<DWORD>(Ask(EM_POSFROMCHAR, static_cast<WPARAM>(position)));
     const int left = static_cast<std::int16_t>(LOWORD(place));
     const int top = static_cast<std::int16_t>(HIWORD(place));
     return caret.y == top && std::abs(static_cast<int>(caret.x) - left) <= 1;

@@ -73,7 +73,7 @@ class TextBox final : public BasicTextConstituent<host::TextBox> {
     void GiveBufferBack();
     bool Assign(TextView text);
     Range Selection() const;
-    bool HasCaretAtStart() const;
+    bool ShowsCaretAt(std::int32_t position) const;
     void Select(std::int32_t start, std::int32_t end);
     std::size_t Room() const;
 
