@@ -10,10 +10,8 @@ namespace lumenkit::forms {
 
 namespace {
 
-void RethrowUnlessSavingFailed(const RuntimeError& error) {
-    if (error.Number() != static_cast<std::int32_t>(ErrorNumber::SavingFailed)) {
-        throw;  // NOLINT(cert-err60-cpp): the error that is being handled
-    }
+bool IsSavingFailed(const RuntimeError& error) {
+    return error.Number() == static_cast<std::int32_t>(ErrorNumber::SavingFailed);
 }
 
 }  // namespace
@@ -78,7 +76,9 @@ BlockKeeper::BlockKeeper(const Document& document, Block& block, const SaveContr
         }
         held_ = std::move(held);
     } catch (const RuntimeError& error) {
-        RethrowUnlessSavingFailed(error);
+        if (!IsSavingFailed(error)) {
+            throw;
+        }
     }
 }
 
@@ -88,10 +88,9 @@ void BlockKeeper::Update(const SaveControl& save) {
     try {
         notes.emplace(save);
     } catch (const RuntimeError& error) {
-        if (held_) {
+        if (held_ || !IsSavingFailed(error)) {
             throw;
         }
-        RethrowUnlessSavingFailed(error);
         return;
     }
     Write(*notes);

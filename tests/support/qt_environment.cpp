@@ -9,6 +9,8 @@
 
 #include <gtest/gtest.h>
 
+#include "tests/support/qt_windows.h"
+
 namespace lumenkit::testing {
 namespace {
 
@@ -52,10 +54,6 @@ class QtEnvironment final : public ::testing::Environment {
     }
 
  private:
-    static bool IsOnWayland() {
-        return QGuiApplication::platformName() == QLatin1String("wayland");
-    }
-
     std::array<char, 5> name_{"test"};
     std::array<char*, 2> arguments_{name_.data(), nullptr};
     int count_ = 1;

@@ -249,15 +249,20 @@ TEST_F(SaveTest, ACompanionThatCannotBeRestoredIsKept) {
 
 TEST_F(SaveTest, OnlyFilesLeftOverByASaveAreRemoved) {
     const Document document = Changed();
+    // Remembers the file with this end of its name that is there at the call.
+    const auto remember = [this](FaultyDisk& disk, std::string_view atCall, std::string_view end,
+                                 fs::path& file) {
+        disk.before = [this, atCall, end, &file](const std::string& call) {
+            for (const std::string& name : Names()) {
+                if (call == atCall && name.ends_with(end)) {
+                    file = folder / name;
+                }
+            }
+        };
+    };
     fs::path made;
     FaultyDisk disk;
-    disk.before = [&](const std::string& call) {
-        for (const std::string& name : Names()) {
-            if (call == "Write" && name.ends_with(".new")) {
-                made = folder / name;
-            }
-        }
-    };
+    remember(disk, "Write", ".new", made);
     ASSERT_EQ(Error(disk, document), "");
     ASSERT_FALSE(made.empty());
     const std::string prefix = made.filename().string().substr(0, 10 + 16 + 1);
@@ -270,13 +275,7 @@ TEST_F(SaveTest, OnlyFilesLeftOverByASaveAreRemoved) {
     // Kept companions: one that the present companion contains, and one that would be lost.
     FaultyDisk again;
     fs::path kept;
-    again.before = [&](const std::string& call) {
-        for (const std::string& name : Names()) {
-            if (call == "Rename" && name.ends_with(".kept")) {
-                kept = folder / name;
-            }
-        }
-    };
+    remember(again, "Rename", ".kept", kept);
     ASSERT_EQ(Error(again, document), "");
     ASSERT_FALSE(kept.empty());
     EXPECT_FALSE(fs::exists(made));
