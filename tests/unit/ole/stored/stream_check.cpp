@@ -4,6 +4,7 @@
 #include <memory>
 #include <variant>
 
+#include "frame/runtime_error.h"
 #include "project/lumenkit_classes.h"
 #include "runtime/memory/font.h"
 #include "runtime/memory/form.h"
@@ -36,6 +37,20 @@ struct ToValue {
     }
 };
 
+// A control with a value that it cannot use reports an error, and its save fails.
+void Save(memory::HostedControl& control) {
+    memory::Log& log = control.GetForm().GetLog();
+    log.Clear();
+    try {
+        control.Save();
+    } catch (const RuntimeError& error) {
+        if (error.Number() != static_cast<std::int32_t>(ErrorNumber::SavingFailed) ||
+            log.Messages().empty()) {
+            throw;
+        }
+    }
+}
+
 void StartAndSave(TextView className, const stored::Records& records) {
     memory::Form form(lumenkitClasses);
     memory::PropertyBag bag;
@@ -44,7 +59,7 @@ void StartAndSave(TextView className, const stored::Records& records) {
     }
     const auto control = memory::PlaceControl(form, className, {}, &bag);
     control->Paint();
-    control->Save();
+    Save(*control);
 }
 
 }  // namespace
