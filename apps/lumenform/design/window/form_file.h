@@ -2,6 +2,7 @@
 
 #include <QString>
 #include <filesystem>
+#include <utility>
 
 #include "apps/lumenform/design/model/form_design.h"
 #include "forms/file.h"
@@ -14,7 +15,7 @@ class FormFile {
     /// For a form that was never saved.
     FormFile() = default;
     /// For a form that was just read from this file.
-    explicit FormFile(const QString& path) : path_(path) {}
+    explicit FormFile(QString path) : path_(std::move(path)) {}
 
     bool HasPath() const { return !path_.isEmpty(); }
     const QString& Path() const { return path_; }
