@@ -48,8 +48,10 @@ ALLOWED = {
     "server": ["project", "runtime/ole"],
     # The parts of the programs.
     "apps/command_line": ["frame", "forms"],
-    "apps/lumenkit/check": ["frame", "vlabel", "vmemo", "voptlist", "forms", "runtime/memory"],
-    "apps/lumenkit/drive": ["frame", "forms", "runtime/memory"],
+    "apps/lumenkit/windowless": ["frame", "forms", "runtime/memory"],
+    "apps/lumenkit/check": ["frame", "vlabel", "vmemo", "voptlist", "forms", "runtime/memory",
+                            "apps/lumenkit/windowless"],
+    "apps/lumenkit/drive": ["frame", "forms", "runtime/memory", "apps/lumenkit/windowless"],
     "apps/lumenkit": ["frame", "vlabel", "forms", "project", "apps/command_line",
                       "apps/lumenkit/check", "apps/lumenkit/drive"],
     "apps/lumenform/form_view": ["frame", "forms", "runtime/qt"],

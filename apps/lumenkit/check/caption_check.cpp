@@ -160,9 +160,9 @@ class CommandChecker {
 
     void CheckColor() {
         if (!command_.kept) {
-            Add(rules::colorOutOfRange, Quote(written_) +
-                                            " contains a number of more than 32 bits; drawing "
-                                            "reports an overflow and does not change the colour");
+            Add(rules::numberOverflow, Quote(written_) +
+                                           " contains a number of more than 32 bits; drawing "
+                                           "reports an overflow and does not change the colour");
             return;
         }
         CheckColorRange();

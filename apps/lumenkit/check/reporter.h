@@ -37,7 +37,8 @@ struct ColoredStreams {
 
 /// Writes one line per finding, as it arrives, and a summary.
 ///
-///     order.frm:9:32: VLabel1.Caption: unknown command "bld"; did you mean "b"? [unknown-command]
+///     order.frm:9:32: warning: VLabel1.Caption: unknown command "bld"; did you mean "b"?
+///     [unknown-command]
 class TextReporter final : public Reporter {
  public:
     /// Errors go to a separate stream. Both streams must outlive the reporter.

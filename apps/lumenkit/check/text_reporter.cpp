@@ -1,5 +1,8 @@
+#include <array>
+
 #include "apps/lumenkit/check/quote.h"
 #include "apps/lumenkit/check/reporter.h"
+#include "apps/lumenkit/check/rules.h"
 
 namespace lumenkit::check {
 
@@ -8,6 +11,7 @@ namespace {
 constexpr const char* bold = "\x1b[1m";
 constexpr const char* red = "\x1b[31m";
 constexpr const char* yellow = "\x1b[33m";
+constexpr const char* cyan = "\x1b[36m";
 constexpr const char* dim = "\x1b[2m";
 constexpr const char* plain = "\x1b[0m";
 
@@ -17,6 +21,11 @@ std::string Count(std::size_t count, const std::string& what) {
 
 std::string Colored(bool colored, const char* color, const std::string& text) {
     return colored ? color + text + plain : text;
+}
+
+const char* ColorOf(Severity severity) {
+    constexpr std::array<const char*, 3> colors = {cyan, yellow, red};
+    return colors.at(static_cast<std::size_t>(severity));
 }
 
 std::string PlaceOf(const Finding& finding) {
@@ -32,7 +41,10 @@ std::string SubjectOf(const Finding& finding) {
 }  // namespace
 
 void TextReporter::Report(const Finding& finding) {
-    output_ << Colored(colors_.output, bold, PlaceOf(finding)) << ' ';
+    const Severity severity = SeverityOf(finding);
+    output_ << Colored(colors_.output, bold, PlaceOf(finding)) << ' '
+            << Colored(colors_.output, ColorOf(severity), std::string(NameOf(severity)) + ':')
+            << ' ';
     if (const std::string subject = SubjectOf(finding); !subject.empty()) {
         output_ << subject;
         if (finding.isElsewhere && finding.offset) {
@@ -40,7 +52,7 @@ void TextReporter::Report(const Finding& finding) {
         }
         output_ << ": ";
     }
-    output_ << Colored(colors_.output, yellow, finding.message);
+    output_ << finding.message;
     if (!finding.suggestion.empty()) {
         output_ << "; did you mean \"" << Printable(finding.suggestion) << "\"?";
     }
