@@ -16,24 +16,33 @@ namespace lumenkit::cli {
 
 namespace {
 
+enum class Format { Text, Json, Sarif, Github };
+
 struct CheckArguments : CheckOptions {
-    bool json = false;
+    Format format = Format::Text;
 };
 
-int Report(const CheckArguments& arguments) {
-    if (arguments.json) {
-        check::JsonReporter reporter(std::cout);
-        return CheckRun(arguments, reporter).Run();
+std::unique_ptr<check::Reporter> NewReporter(Format format) {
+    switch (format) {
+        case Format::Json:
+            return std::make_unique<check::JsonReporter>(std::cout);
+        case Format::Sarif:
+            return std::make_unique<check::SarifReporter>(std::cout, LUMENKIT_VERSION);
+        case Format::Github:
+            return std::make_unique<check::GithubReporter>(std::cout);
+        case Format::Text:
+            break;
     }
-    check::TextReporter reporter(
+    return std::make_unique<check::TextReporter>(
         std::cout, std::cerr,
-        {.output = TakesColors(Stream::Output), .errors = TakesColors(Stream::Errors)});
-    return CheckRun(arguments, reporter).Run();
+        check::ColoredStreams{.output = TakesColors(Stream::Output),
+                              .errors = TakesColors(Stream::Errors)});
 }
 
 int Check(const CheckArguments& arguments) {
     try {
-        return Report(arguments);
+        const std::unique_ptr<check::Reporter> reporter = NewReporter(arguments.format);
+        return CheckRun(arguments, *reporter).Run();
     } catch (const check::BadException& error) {
         std::cerr << "lumenkit: " << check::Printable(error.what()) << '\n';
     } catch (const check::BadBaseline& error) {
@@ -44,6 +53,20 @@ int Check(const CheckArguments& arguments) {
 
 std::string NotARule(const std::string& name) {
     return check::FindRule(name) == nullptr ? "there is no rule \"" + name + '"' : std::string();
+}
+
+void AddFormatOptions(CLI::App& command, CheckArguments& arguments) {
+    command
+        .add_option_function<Format>(
+            "--format", [&arguments](const Format& format) { arguments.format = format; },
+            "Format of the output: text, json, sarif (SARIF 2.1.0) or github (annotations)")
+        ->transform(
+            CLI::CheckedTransformer(std::map<std::string, Format>{{"text", Format::Text},
+                                                                  {"json", Format::Json},
+                                                                  {"sarif", Format::Sarif},
+                                                                  {"github", Format::Github}}));
+    command.add_flag_callback(
+        "--json", [&arguments] { arguments.format = Format::Json; }, "The same as --format json");
 }
 
 void AddSelectionOptions(CLI::App& command, CheckArguments& arguments) {
@@ -115,9 +138,7 @@ void AddCheckCommand(CLI::App& program, int& status) {
                       "Each file contains one caption in UTF-8; - is the standard input. Folders "
                       "are searched for .txt files. One line break at the end of a file is not "
                       "part of the caption");
-    command->add_flag("--json", options->json,
-                      R"(Print {"files":N,"findings":[{"rule":...,"file":...,"line":...,)"
-                      R"("column":...,...},...],"errors":[...]})");
+    AddFormatOptions(*command, *options);
     AddSelectionOptions(*command, *options);
     command
         ->add_option("-j,--jobs", options->jobs,

@@ -62,6 +62,9 @@ inline constexpr Rule unreadableValue{"unreadable-value", Severity::Error,
 
 inline constexpr Rule drawingError{"drawing-error", Severity::Error,
                                    "a saved value at which drawing reports an error"};
+inline constexpr Rule drawingOverflow{
+    "drawing-overflow", Severity::Warning,
+    "a saved value at which drawing overflows with the measures of check"};
 
 inline constexpr Rule notUnderstood{"not-understood", Severity::Warning,
                                     "a line, value or reference that is kept without effect"};
@@ -78,8 +81,8 @@ inline constexpr std::array allRules = {
     rules::colorOutOfRange,     rules::numberOverflow,      rules::controlCharacter,
     rules::tooManyLines,        rules::textTooLong,         rules::duplicateValue,
     rules::listIndexOutOfRange, rules::textOverLimits,      rules::unreadProperty,
-    rules::unreadableValue,     rules::drawingError,        rules::notUnderstood,
-    rules::unnamedControl};
+    rules::unreadableValue,     rules::drawingError,        rules::drawingOverflow,
+    rules::notUnderstood,       rules::unnamedControl};
 
 /// Returns the rule with this name, or null.
 const Rule* FindRule(std::string_view name);

@@ -1,5 +1,6 @@
 #include <array>
 
+#include "apps/lumenkit/check/finding_text.h"
 #include "apps/lumenkit/check/quote.h"
 #include "apps/lumenkit/check/reporter.h"
 #include "apps/lumenkit/check/rules.h"
@@ -33,11 +34,6 @@ std::string PlaceOf(const Finding& finding) {
            std::to_string(finding.place.column) + ':';
 }
 
-std::string SubjectOf(const Finding& finding) {
-    const bool hasBoth = !finding.control.empty() && !finding.property.empty();
-    return Printable(finding.control + (hasBoth ? "." : "") + finding.property);
-}
-
 }  // namespace
 
 void TextReporter::Report(const Finding& finding) {
@@ -45,7 +41,7 @@ void TextReporter::Report(const Finding& finding) {
     output_ << Colored(colors_.output, bold, PlaceOf(finding)) << ' '
             << Colored(colors_.output, ColorOf(severity), std::string(NameOf(severity)) + ':')
             << ' ';
-    if (const std::string subject = SubjectOf(finding); !subject.empty()) {
+    if (const std::string subject = Printable(SubjectOf(finding)); !subject.empty()) {
         output_ << subject;
         if (finding.isElsewhere && finding.offset) {
             output_ << ", offset " << *finding.offset;

@@ -1,9 +1,11 @@
 #include "apps/lumenkit/check/trial_check.h"
 
+#include <cstdint>
 #include <optional>
 #include <string>
 
 #include "apps/lumenkit/check/rules.h"
+#include "frame/runtime_error.h"
 #include "frame/utf8.h"
 
 namespace lumenkit::check {
@@ -17,12 +19,18 @@ std::string Described(const TrialError& error) {
            (error.endsLoading ? " and does not read the following properties" : "");
 }
 
+// Whether a sum of heights overflows depends on the font.
+const Rule& RuleOf(const TrialError& error) {
+    if (error.step == TrialError::Step::Loading) {
+        return rules::unreadableValue;
+    }
+    const bool isOverflow = error.number == static_cast<std::int32_t>(ErrorNumber::Overflow);
+    return isOverflow ? rules::drawingOverflow : rules::drawingError;
+}
+
 void Add(SavedControl& control, const TrialError& error) {
     const bool isLoading = error.step == TrialError::Step::Loading;
-    const Remark remark = {isLoading ? rules::unreadableValue.name : rules::drawingError.name,
-                           error.offset,
-                           Described(error),
-                           {}};
+    const Remark remark = {RuleOf(error).name, error.offset, Described(error), {}};
     if (error.property.empty()) {
         control.AddAboutControl(remark);
         return;

@@ -100,6 +100,14 @@ TEST(Trial, DrawsInvisibleControlsToo) {
                 ElementsAre("Caption:7:12 drawing-error"));
 }
 
+TEST(Trial, AnOverflowThatDependsOnTheFontIsAWarning) {
+    const Findings findings =
+        FindingsIn("VLabel", "AutoSize = -1\nCaption = \"a|b:1|b|size:2000|c\"\n");
+    ASSERT_THAT(findings, ::testing::SizeIs(1));
+    EXPECT_EQ(findings.front().rule, rules::drawingOverflow.name);
+    EXPECT_EQ(findings.front().offset, 7U);
+}
+
 TEST(ErrorMessage, IsReadFromItsLines) {
     EXPECT_EQ(ReadErrorMessage(u"Exe = a\r\nForm = B\r\nProc = C\r\nError Line =0\r\n"
                                u"Error Code =-13\r\nMessage: two\r\nlines"),
