@@ -64,7 +64,9 @@ void AddFormatOptions(CLI::App& command, CheckArguments& arguments) {
             CLI::CheckedTransformer(std::map<std::string, Format>{{"text", Format::Text},
                                                                   {"json", Format::Json},
                                                                   {"sarif", Format::Sarif},
-                                                                  {"github", Format::Github}}));
+                                                                  {"github", Format::Github}})
+                .description(""))
+        ->option_text("FORMAT");
     command.add_flag_callback(
         "--json", [&arguments] { arguments.format = Format::Json; }, "The same as --format json");
 }
@@ -74,46 +76,54 @@ void AddSelectionOptions(CLI::App& command, CheckArguments& arguments) {
         .add_option("--rule", arguments.selection.only,
                     "Report only findings of this rule; may be repeated")
         ->check(NotARule, "")
+        ->option_text("RULE")
         ->allow_extra_args(false);
     command
         .add_option("--no-rule", arguments.selection.without,
                     "Report no findings of this rule; may be repeated")
         ->check(NotARule, "")
+        ->option_text("RULE")
         ->allow_extra_args(false);
     command
         .add_option_function<check::Severity>(
             "--severity",
             [&arguments](const check::Severity& least) { arguments.selection.least = least; },
             "Report only findings of this severity or a higher one: note, warning or error")
-        ->transform(CLI::CheckedTransformer(
-            std::map<std::string, check::Severity>{{"note", check::Severity::Note},
-                                                   {"warning", check::Severity::Warning},
-                                                   {"error", check::Severity::Error}}));
-    command.add_option("--baseline", arguments.baseline,
-                       "Do not report the findings that this file lists");
-    command.add_option("--write-baseline", arguments.writeBaseline,
-                       "Write the findings to this file, and exit with 0");
+        ->transform(CLI::CheckedTransformer(std::map<std::string, check::Severity>{
+                                                {"note", check::Severity::Note},
+                                                {"warning", check::Severity::Warning},
+                                                {"error", check::Severity::Error}})
+                        .description(""))
+        ->option_text("LEVEL");
+    command
+        .add_option("--baseline", arguments.baseline,
+                    "Do not report the findings that this file lists")
+        ->option_text("FILE");
+    command
+        .add_option("--write-baseline", arguments.writeBaseline,
+                    "Write the findings to this file, and exit with 0")
+        ->option_text("FILE");
 }
 
 std::string Help() {
     std::string help = "Rules and their names in findings:\n";
     for (const check::Rule& rule : check::allRules) {
         constexpr std::size_t column = 26;
-        constexpr std::size_t meaningColumn = 34;
+        constexpr std::size_t meaningColumn = 33;
         std::string line = "  " + std::string(rule.name);
         line.resize(column, ' ');
         line += NameOf(rule.severity);
         line.resize(meaningColumn, ' ');
-        help += line + std::string(rule.meaning) + '\n';
+        help += line + "  " + std::string(rule.meaning) + '\n';
     }
     return help +
            "\n"
-           "Lines and columns count from 1, offsets in a text from 0. Columns and offsets are in\n"
-           "UTF-16 units. A text in a binary companion file is reported at the place of its\n"
-           "property. See docs/check.md for details.\n"
+           "Lines and columns count from 1, offsets in a text from 0. Columns and offsets "
+           "are in UTF-16 units. A text in a binary companion file is reported at the place "
+           "of its property. See docs/check.md for details.\n"
            "\n"
-           "Exit status: 0 without findings, 1 with findings, 2 if a file could not be read (all\n"
-           "other files are checked) or the findings could not be written.\n"
+           "Exit status: 0 without findings, 1 with findings, 2 if a file could not be read "
+           "(all other files are checked) or the findings could not be written.\n"
            "\n"
            "Examples:\n"
            "  lumenkit check order.frm\n"
@@ -143,7 +153,8 @@ void AddCheckCommand(CLI::App& program, int& status) {
     command
         ->add_option("-j,--jobs", options->jobs,
                      "Number of files to check at once; default: one for each processor")
-        ->check(CLI::Range(1, 1024));
+        ->check(CLI::Range(1, 1024))
+        ->option_text("N");
     AddCodePageOption(*command, options->codePage);
     command->footer(Help());
     command->callback([options, &status] { status = Check(*options); });

@@ -9,10 +9,10 @@
 #include <variant>
 #include <vector>
 
+#include "apps/command_line/spelling/nearest.h"
 #include "apps/lumenkit/check/quote.h"
 #include "apps/lumenkit/check/rules.h"
 #include "apps/lumenkit/check/saved_properties.h"
-#include "apps/lumenkit/check/suggestion.h"
 #include "forms/property.h"
 #include "frame/utf8.h"
 

@@ -121,7 +121,7 @@ TEST_F(RenderCommand, HelpHasExamples) {
 
 TEST_F(RenderCommand, WithoutADisplayRunSaysSo) {
     const Outcome outcome = RunProgram("--version");
-    EXPECT_EQ(outcome.output, "7.1.0\n");
+    EXPECT_EQ(outcome.output, "lumenform 7.1.0\n");
     const std::string form = (sampleForms / "label.frm").string();
     const QByteArray platform = qgetenv("QT_QPA_PLATFORM");
     const QByteArray display = qgetenv("DISPLAY");
