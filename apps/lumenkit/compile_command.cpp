@@ -49,6 +49,10 @@ int Compile(const CompileOptions& options) {
     } else {
         std::cout << DumpCaption(compiler.Compiled());
     }
+    if (!std::cout.flush()) {
+        std::cerr << "lumenkit: cannot write the compiled caption\n";
+        return exitUnusable;
+    }
     return host.HasReported() ? exitReported : exitDone;
 }
 
@@ -68,7 +72,7 @@ void AddCompileCommand(CLI::App& program, int& status) {
         ->excludes(json);
     command->footer(
         "Exit status: 0 on success, 1 if the compiler reported an error (the compiled part "
-        "is still printed), 2 if the caption cannot be read.\n"
+        "is still printed), 2 if the caption cannot be read or the result cannot be written.\n"
         "\n"
         "Examples:\n"
         "  lumenkit compile samples/captions/headline.txt\n"

@@ -132,6 +132,14 @@ TEST(CompileCommand, SaysWhichFileCannotBeRead) {
     EXPECT_EQ(folder.status, 2);
 }
 
+TEST(CompileCommand, SaysThatTheResultCannotBeWritten) {
+    for (const std::string arguments : {"compile ", "compile --json "}) {
+        const Outcome outcome = RunOnTerminal(arguments + FileWith("a|b:1|c") + " >/dev/full");
+        EXPECT_EQ(outcome.output, "lumenkit: cannot write the compiled caption\r\n") << arguments;
+        EXPECT_EQ(outcome.status, 2) << arguments;
+    }
+}
+
 TEST(Program, RefusesWrongArguments) {
     for (const char* arguments :
          {"", "draw", "compile --xml", "compile --json --text", "compile a b"}) {
