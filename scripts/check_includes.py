@@ -47,9 +47,12 @@ ALLOWED = {
     # The exports of the server, which pass the class table to the runtime.
     "server": ["project", "runtime/ole"],
     # The parts of the programs.
-    "apps/command_line": ["frame", "forms"],
-    "apps/lumenkit/check": ["frame", "vlabel", "vmemo", "voptlist", "forms", "runtime/memory"],
-    "apps/lumenkit/drive": ["frame", "forms", "runtime/memory"],
+    "apps/command_line/spelling": ["frame"],
+    "apps/command_line": ["frame", "forms", "apps/command_line/spelling"],
+    "apps/lumenkit/windowless": ["frame", "forms", "runtime/memory"],
+    "apps/lumenkit/check": ["frame", "vlabel", "vmemo", "voptlist", "forms", "runtime/memory",
+                            "apps/command_line/spelling", "apps/lumenkit/windowless"],
+    "apps/lumenkit/drive": ["frame", "forms", "runtime/memory", "apps/lumenkit/windowless"],
     "apps/lumenkit": ["frame", "vlabel", "forms", "project", "apps/command_line",
                       "apps/lumenkit/check", "apps/lumenkit/drive"],
     "apps/lumenform/form_view": ["frame", "forms", "runtime/qt"],

@@ -7,6 +7,7 @@
 #include "apps/command_line/code_page_option.h"
 #include "apps/command_line/exit_status.h"
 #include "apps/lumenform/desktop.h"
+#include "apps/lumenform/display_watch.h"
 #include "project/lumenkit_classes.h"
 #include "runtime/qt/application.h"
 #include "runtime/qt/interaction.h"
@@ -24,7 +25,11 @@ int ShowOnDesktop(const DesktopOptions& options, const char* instead, const Make
         return cli::exitUnusable;
     }
     ApplicationArguments arguments;
-    auto application = std::make_unique<QApplication>(arguments.count, arguments.values.data());
+    std::unique_ptr<QApplication> application;
+    {
+        const DisplayWatch watch(instead);
+        application = std::make_unique<QApplication>(arguments.count, arguments.values.data());
+    }
     if (options.dark) {
         UseOwnStyle(true);
     }

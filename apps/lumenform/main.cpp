@@ -1,20 +1,31 @@
 // The command line. Each command has a separate file.
 #include <cstdio>
 #include <exception>
+#include <filesystem>
+#include <string>
 
 #include <CLI/CLI.hpp>
 
 #include "apps/command_line/exit_status.h"
+#include "apps/command_line/program.h"
 #include "apps/lumenform/commands.h"
 
 namespace lumenkit::lumenform {
 
 namespace {
 
+// A file is opened in the designer.
+std::string CommandForFile(const std::string& argument) {
+    std::error_code unknown;
+    const bool isFile = std::filesystem::exists(argument, unknown) ||
+                        std::filesystem::path(argument).has_extension();
+    return isFile ? "design" : "";
+}
+
 int Run(int argc, char** argv) {
     CLI::App program("Designs, runs and draws form files with the controls of lumenkit.",
                      "lumenform");
-    program.set_version_flag("--version", LUMENKIT_VERSION);
+    cli::SetUpProgram(program, LUMENKIT_VERSION);
     program.require_subcommand(0, 1);
     program.footer(
         R"(Without a command, lumenform opens the start screen of the designer.
@@ -24,6 +35,7 @@ files that cannot be read or written.
 
 Examples:
   lumenform new order.frm
+  lumenform order.frm
   lumenform design order.frm
   lumenform run order.frm
   lumenform render order.frm -o order.png --scale 2
@@ -33,12 +45,7 @@ Examples:
     AddNewCommand(program, status);
     AddRenderCommand(program, status);
     AddRunCommand(program, status);
-    try {
-        program.parse(argc, argv);
-        return status;
-    } catch (const CLI::ParseError& error) {
-        return program.exit(error) == 0 ? cli::exitDone : cli::exitUnusable;
-    }
+    return cli::RunProgram(program, argc, argv, status, CommandForFile);
 }
 
 }  // namespace

@@ -1,137 +1,129 @@
 #include <iostream>
+#include <map>
 #include <memory>
 #include <string>
-#include <vector>
 
 #include "apps/command_line/code_page_option.h"
 #include "apps/command_line/exit_status.h"
-#include "apps/lumenkit/check/file_checks.h"
-#include "apps/lumenkit/check/inputs.h"
-#include "apps/lumenkit/check/progress_bar.h"
+#include "apps/lumenkit/check/quote.h"
 #include "apps/lumenkit/check/reporter.h"
 #include "apps/lumenkit/check/rules.h"
+#include "apps/lumenkit/check_run.h"
 #include "apps/lumenkit/commands.h"
 #include "apps/lumenkit/terminal.h"
-#include "apps/lumenkit/text_input.h"
-#include "forms/encoding.h"
-#include "forms/file.h"
-#include "project/lumenkit_classes.h"
 
 namespace lumenkit::cli {
 
 namespace {
 
-using check::FileError;
-using check::Findings;
+enum class Format { Text, Json, Sarif, Github };
 
-// With fewer files, a progress bar would vanish before anyone sees it.
-constexpr std::size_t manyFiles = 20;
-
-struct CheckOptions {
-    std::vector<std::string> paths;
-    bool captions = false;
-    bool json = false;
-    int codePage = forms::defaultCodePage;
+struct CheckArguments : CheckOptions {
+    Format format = Format::Text;
 };
 
-class CheckRun {
- public:
-    CheckRun(const CheckOptions& options, check::Reporter& reporter)
-        : options_(options), reporter_(reporter) {}
-
-    int Run() {
-        const check::InputKind kind =
-            options_.captions ? check::InputKind::Captions : check::InputKind::Forms;
-        const check::Inputs inputs = check::FindInputs(options_.paths, kind);
-        for (const check::UnreadableFolder& folder : inputs.errors) {
-            Report({folder.path, {}, folder.reason, folder.path + ": " + folder.reason});
-        }
-        CheckFiles(inputs.files);
-        reporter_.Finish(checked_);
-        if (!std::cout.flush()) {
-            std::cerr << "lumenkit: cannot write the findings\n";
-            return exitUnusable;
-        }
-        if (failed_) {
-            return exitUnusable;
-        }
-        return found_ ? exitReported : exitDone;
+std::unique_ptr<check::Reporter> NewReporter(Format format) {
+    switch (format) {
+        case Format::Json:
+            return std::make_unique<check::JsonReporter>(std::cout);
+        case Format::Sarif:
+            return std::make_unique<check::SarifReporter>(std::cout, LUMENKIT_VERSION);
+        case Format::Github:
+            return std::make_unique<check::GithubReporter>(std::cout);
+        case Format::Text:
+            break;
     }
-
- private:
-    void CheckFiles(const std::vector<std::string>& files) {
-        const bool shown = files.size() >= manyFiles && IsTerminal(Stream::Errors);
-        check::ProgressBar bar(std::cerr, files.size(), shown);
-        for (std::size_t done = 0; done < files.size(); ++done) {
-            bar.Show(done);
-            CheckFile(files[done], bar);
-        }
-    }
-
-    void CheckFile(const std::string& file, check::ProgressBar& bar) {
-        try {
-            const Findings findings = FindingsIn(file);
-            ++checked_;
-            if (!findings.empty()) {
-                found_ = true;
-                bar.Hide();
-                reporter_.Report(findings);
-            }
-        } catch (const forms::FormError& error) {
-            bar.Hide();
-            Report({error.File(), error.Place(), error.Description(), error.what()});
-        } catch (const UnusableInput& error) {
-            bar.Hide();
-            Report({file, {}, error.what(), error.what()});
-        }
-    }
-
-    Findings FindingsIn(const std::string& file) const {
-        if (options_.captions) {
-            return check::CheckCaptionFile(file, ReadText(file));
-        }
-        return check::CheckForm(forms::Load(file, options_.codePage), lumenkitClasses);
-    }
-
-    void Report(const FileError& error) {
-        failed_ = true;
-        reporter_.Report(error);
-    }
-
-    const CheckOptions& options_;
-    check::Reporter& reporter_;
-    std::size_t checked_ = 0;
-    bool found_ = false;
-    bool failed_ = false;
-};
-
-int Check(const CheckOptions& options) {
-    if (options.json) {
-        check::JsonReporter reporter(std::cout);
-        return CheckRun(options, reporter).Run();
-    }
-    check::TextReporter reporter(
+    return std::make_unique<check::TextReporter>(
         std::cout, std::cerr,
-        {.output = TakesColors(Stream::Output), .errors = TakesColors(Stream::Errors)});
-    return CheckRun(options, reporter).Run();
+        check::ColoredStreams{.output = TakesColors(Stream::Output),
+                              .errors = TakesColors(Stream::Errors)});
+}
+
+int Check(const CheckArguments& arguments) {
+    try {
+        const std::unique_ptr<check::Reporter> reporter = NewReporter(arguments.format);
+        return CheckRun(arguments, *reporter).Run();
+    } catch (const check::BadException& error) {
+        std::cerr << "lumenkit: " << check::Printable(error.what()) << '\n';
+    } catch (const check::BadBaseline& error) {
+        std::cerr << "lumenkit: " << check::Printable(error.what()) << '\n';
+    }
+    return exitUnusable;
+}
+
+std::string NotARule(const std::string& name) {
+    return check::FindRule(name) == nullptr ? "there is no rule \"" + name + '"' : std::string();
+}
+
+void AddFormatOptions(CLI::App& command, CheckArguments& arguments) {
+    command
+        .add_option_function<Format>(
+            "--format", [&arguments](const Format& format) { arguments.format = format; },
+            "Format of the output: text, json, sarif (SARIF 2.1.0) or github (annotations)")
+        ->transform(
+            CLI::CheckedTransformer(std::map<std::string, Format>{{"text", Format::Text},
+                                                                  {"json", Format::Json},
+                                                                  {"sarif", Format::Sarif},
+                                                                  {"github", Format::Github}})
+                .description(""))
+        ->option_text("FORMAT");
+    command.add_flag_callback(
+        "--json", [&arguments] { arguments.format = Format::Json; }, "The same as --format json");
+}
+
+void AddSelectionOptions(CLI::App& command, CheckArguments& arguments) {
+    command
+        .add_option("--rule", arguments.selection.only,
+                    "Report only findings of this rule; may be repeated")
+        ->check(NotARule, "")
+        ->option_text("RULE")
+        ->allow_extra_args(false);
+    command
+        .add_option("--no-rule", arguments.selection.without,
+                    "Report no findings of this rule; may be repeated")
+        ->check(NotARule, "")
+        ->option_text("RULE")
+        ->allow_extra_args(false);
+    command
+        .add_option_function<check::Severity>(
+            "--severity",
+            [&arguments](const check::Severity& least) { arguments.selection.least = least; },
+            "Report only findings of this severity or a higher one: note, warning or error")
+        ->transform(CLI::CheckedTransformer(std::map<std::string, check::Severity>{
+                                                {"note", check::Severity::Note},
+                                                {"warning", check::Severity::Warning},
+                                                {"error", check::Severity::Error}})
+                        .description(""))
+        ->option_text("LEVEL");
+    command
+        .add_option("--baseline", arguments.baseline,
+                    "Do not report the findings that this file lists")
+        ->option_text("FILE");
+    command
+        .add_option("--write-baseline", arguments.writeBaseline,
+                    "Write the findings to this file, and exit with 0")
+        ->option_text("FILE");
 }
 
 std::string Help() {
     std::string help = "Rules and their names in findings:\n";
     for (const check::Rule& rule : check::allRules) {
         constexpr std::size_t column = 26;
+        constexpr std::size_t meaningColumn = 33;
         std::string line = "  " + std::string(rule.name);
-        line.append(column - line.size(), ' ');
-        help += line + std::string(rule.meaning) + '\n';
+        line.resize(column, ' ');
+        line += NameOf(rule.severity);
+        line.resize(meaningColumn, ' ');
+        help += line + "  " + std::string(rule.meaning) + '\n';
     }
     return help +
            "\n"
-           "Lines and columns count from 1, offsets in a text from 0. Columns and offsets are in\n"
-           "UTF-16 units. A text in a binary companion file is reported at the place of its\n"
-           "property. See docs/check.md for details.\n"
+           "Lines and columns count from 1, offsets in a text from 0. Columns and offsets "
+           "are in UTF-16 units. A text in a binary companion file is reported at the place "
+           "of its property. See docs/check.md for details.\n"
            "\n"
-           "Exit status: 0 without findings, 1 with findings, 2 if a file could not be read (all\n"
-           "other files are checked) or the findings could not be written.\n"
+           "Exit status: 0 without findings, 1 with findings, 2 if a file could not be read "
+           "(all other files are checked) or the findings could not be written.\n"
            "\n"
            "Examples:\n"
            "  lumenkit check order.frm\n"
@@ -146,7 +138,7 @@ std::string Help() {
 void AddCheckCommand(CLI::App& program, int& status) {
     CLI::App* const command = program.add_subcommand(
         "check", "Find mistakes in captions and form files and print their places");
-    const auto options = std::make_shared<CheckOptions>();
+    const auto options = std::make_shared<CheckArguments>();
     command
         ->add_option("PATH", options->paths,
                      "Forms (.frm, .ctl, .pag, .dob), or folders to search for such files, "
@@ -156,9 +148,13 @@ void AddCheckCommand(CLI::App& program, int& status) {
                       "Each file contains one caption in UTF-8; - is the standard input. Folders "
                       "are searched for .txt files. One line break at the end of a file is not "
                       "part of the caption");
-    command->add_flag("--json", options->json,
-                      R"(Print {"files":N,"findings":[{"rule":...,"file":...,"line":...,)"
-                      R"("column":...,...},...],"errors":[...]})");
+    AddFormatOptions(*command, *options);
+    AddSelectionOptions(*command, *options);
+    command
+        ->add_option("-j,--jobs", options->jobs,
+                     "Number of files to check at once; default: one for each processor")
+        ->check(CLI::Range(1, 1024))
+        ->option_text("N");
     AddCodePageOption(*command, options->codePage);
     command->footer(Help());
     command->callback([options, &status] { status = Check(*options); });

@@ -49,6 +49,10 @@ int Compile(const CompileOptions& options) {
     } else {
         std::cout << DumpCaption(compiler.Compiled());
     }
+    if (!std::cout.flush()) {
+        std::cerr << "lumenkit: cannot write the compiled caption\n";
+        return exitUnusable;
+    }
     return host.HasReported() ? exitReported : exitDone;
 }
 
@@ -62,14 +66,13 @@ void AddCompileCommand(CLI::App& program, int& status) {
                         "The caption file, in UTF-8; without it, or for -, the standard input. "
                         "One line break at the end is not part of the caption");
     CLI::Option* const json =
-        command->add_flag("--json", options->json,
-                          R"(Print {"lines":[...],"commands":[{"name":...,"parameter":...},...]})");
+        command->add_flag("--json", options->json, "Print the lines and commands as JSON");
     command->add_flag("--text")
         ->description("Print each line with its commands below it (the default)")
         ->excludes(json);
     command->footer(
-        "Exit status: 0 on success, 1 if the compiler reported an error (the compiled part is\n"
-        "still printed), 2 if the caption cannot be read.\n"
+        "Exit status: 0 on success, 1 if the compiler reported an error (the compiled part "
+        "is still printed), 2 if the caption cannot be read or the result cannot be written.\n"
         "\n"
         "Examples:\n"
         "  lumenkit compile samples/captions/headline.txt\n"

@@ -11,9 +11,9 @@ namespace lumenkit::cli {
 namespace {
 
 constexpr const char* help =
-    R"help(Each input line is one request. Each request gets one line as its answer, written at
-once. Blank lines are skipped. The answer to a failed request contains the error, and drive
-continues with the next line.
+    R"help(Each input line is one request. Each request gets one line as its answer,
+written at once. Blank lines are skipped. The answer to a failed request
+contains the error, and drive continues with the next line.
 
 Answers: {"ok":true,"value":...,"log":[...]} or
   {"ok":false,"error":{"number":...,"text":...},"log":[...]}. "value" is absent if there is
@@ -45,16 +45,16 @@ Requests (keys after the bar are optional):
   {"do":"write","file"}                            save the form with the current values
   {"do":"quit"}                                    end the program
 
-"on" is the name of a constituent, such as "Text1(0)". Without "on", a request goes to the
-visible text box. If there is none, clicks and mouse events go to the surface of the control.
-See docs/drive.md for details.
+"on" is the name of a constituent, such as "Text1(0)". Without "on", a request
+goes to the visible text box. If there is none, clicks and mouse events go to
+the surface of the control. See docs/drive.md for details.
 
-Exit status: 0 at the end of the input or after quit, 2 if the requests cannot be read or the
-answers cannot be written.
+Exit status: 0 at the end of the input or after quit, 2 if the requests cannot
+be read or the answers cannot be written.
 
 Examples:
   echo '{"do":"new","class":"VMemo","id":"m"}' | lumenkit drive
-  printf '%s\n' '{"do":"new","class":"VLabel","id":"a","bag":{"Caption":"|B:1|Hello"}}' \
+  printf '%s\n' '{"do":"new","class":"VLabel","id":"a"}' \
     '{"do":"draw","id":"a"}' | lumenkit drive)help";
 
 int StatusOf(const std::istream& input, const std::ostream& output) {

@@ -5,6 +5,7 @@
 #include <CLI/CLI.hpp>
 
 #include "apps/command_line/exit_status.h"
+#include "apps/command_line/program.h"
 #include "apps/lumenkit/commands.h"
 
 namespace lumenkit::cli {
@@ -16,7 +17,7 @@ int Run(int argc, char** argv) {
         "Compiles captions, checks captions and form files, and drives controls "
         "without a display.",
         "lumenkit");
-    program.set_version_flag("--version", LUMENKIT_VERSION);
+    SetUpProgram(program, LUMENKIT_VERSION);
     program.require_subcommand(1);
     program.footer(R"(Examples:
   lumenkit compile samples/captions/headline.txt
@@ -27,12 +28,7 @@ int Run(int argc, char** argv) {
     AddCheckCommand(program, status);
     AddCompileCommand(program, status);
     AddDriveCommand(program, status);
-    try {
-        program.parse(argc, argv);
-        return status;
-    } catch (const CLI::ParseError& error) {
-        return program.exit(error) == 0 ? exitDone : exitUnusable;
-    }
+    return RunProgram(program, argc, argv, status);
 }
 
 }  // namespace

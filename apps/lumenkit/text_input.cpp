@@ -38,6 +38,14 @@ std::string ReadFile(const std::string& path) {
     return ReadAll(file.get(), path);
 }
 
+bool IsStandardInput(const std::string& path) {
+    return path == "-";
+}
+
+std::string NameOf(const std::string& path) {
+    return IsStandardInput(path) ? "standard input" : path;
+}
+
 std::string_view WithoutFinalLineBreak(std::string_view bytes) {
     if (bytes.ends_with('\n')) {
         bytes.remove_suffix(bytes.ends_with("\r\n") ? 2 : 1);
@@ -48,14 +56,16 @@ std::string_view WithoutFinalLineBreak(std::string_view bytes) {
 }  // namespace
 
 Text ReadText(const std::string& path) {
-    const bool standardInput = path == "-";
-    const std::string name = standardInput ? "standard input" : path;
-    const std::string bytes = standardInput ? ReadAll(stdin, name) : ReadFile(path);
+    const std::string bytes = ReadBytes(path);
     try {
         return FromUtf8(WithoutFinalLineBreak(bytes));
     } catch (const MalformedUtf8& error) {
-        throw UnusableInput(name + ": " + error.what());
+        throw UnusableInput(NameOf(path) + ": " + error.what());
     }
+}
+
+std::string ReadBytes(const std::string& path) {
+    return IsStandardInput(path) ? ReadAll(stdin, NameOf(path)) : ReadFile(path);
 }
 
 }  // namespace lumenkit::cli

@@ -17,4 +17,7 @@ class UnusableInput : public std::runtime_error {
 /// at the end, because editors and echo add one. Throws UnusableInput.
 Text ReadText(const std::string& path);
 
+/// Reads a file, or the standard input if `path` is "-". Throws UnusableInput.
+std::string ReadBytes(const std::string& path);
+
 }  // namespace lumenkit::cli

@@ -64,9 +64,10 @@ class HostedControl {
     /// _InitProperties.
     void StartSaved(host::PropertyBag& bag);
 
-    // The single steps of a start.
+    // The single steps of a start: either of the first two, then FinishStart.
     void InitProperties();
     void ReadProperties(host::PropertyBag& bag);
+    void FinishStart();
 
     /// Run UserControl_WriteProperties with a new bag / with `bag`. Raise the error of a save that
     /// failed, which the control has reported before; see shared::SaveControl.
@@ -106,8 +107,6 @@ class HostedControl {
     const ControlHost& Host() const { return host_; }
 
  private:
-    void FinishStart();
-
     Form& form_;
     const ClassDescriptor& type_;
     Text name_;

@@ -1,5 +1,7 @@
 // "lumenkit compile": compares its output with texts written by hand.
 #include <filesystem>
+#include <sstream>
+#include <string>
 
 #include <gmock/gmock.h>
 
@@ -130,6 +132,14 @@ TEST(CompileCommand, SaysWhichFileCannotBeRead) {
     EXPECT_EQ(folder.status, 2);
 }
 
+TEST(CompileCommand, SaysThatTheResultCannotBeWritten) {
+    for (const std::string arguments : {"compile ", "compile --json "}) {
+        const Outcome outcome = RunOnTerminal(arguments + FileWith("a|b:1|c") + " >/dev/full");
+        EXPECT_EQ(outcome.output, "lumenkit: cannot write the compiled caption\r\n") << arguments;
+        EXPECT_EQ(outcome.status, 2) << arguments;
+    }
+}
+
 TEST(Program, RefusesWrongArguments) {
     for (const char* arguments :
          {"", "draw", "compile --xml", "compile --json --text", "compile a b"}) {
@@ -140,9 +150,45 @@ TEST(Program, RefusesWrongArguments) {
     }
 }
 
+TEST(Program, NamesAWrongWordAndOffersTheNearest) {
+    const auto errors = [](const std::string& arguments) {
+        const Outcome outcome = RunProgram(arguments);
+        EXPECT_EQ(outcome.status, 2) << arguments;
+        return outcome.errors.substr(0, outcome.errors.find('\n'));
+    };
+    EXPECT_EQ(errors("chekc order.frm"),
+              "lumenkit: there is no command \"chekc\"; did you mean \"check\"?");
+    EXPECT_EQ(errors("draw"), "lumenkit: there is no command \"draw\"");
+    EXPECT_EQ(errors(""), "lumenkit: a command is required");
+    EXPECT_EQ(errors("--verison"),
+              "lumenkit: there is no option \"--verison\"; did you mean \"--version\"?");
+    EXPECT_EQ(errors("check --severty=note x.frm"),
+              "lumenkit check: there is no option \"--severty\"; did you mean \"--severity\"?");
+    EXPECT_EQ(errors("check"), "lumenkit check: PATH is required");
+    EXPECT_EQ(errors("compile a b"), "lumenkit compile: did not expect \"b\"");
+    EXPECT_EQ(errors("\"$(printf 'dr\\033[2Jaw\\377')\""),
+              "lumenkit: there is no command \"dr [2Jaw?\"");
+}
+
+TEST(Program, HelpIsACommandToo) {
+    EXPECT_EQ(RunProgram("help check").output, RunProgram("check --help").output);
+    EXPECT_EQ(RunProgram("help").output, RunProgram("--help").output);
+    EXPECT_EQ(RunProgram("help").status, 0);
+    EXPECT_EQ(RunProgram("help chekc").status, 2);
+}
+
+TEST(Program, HelpFitsATerminal) {
+    for (const char* arguments : {"--help", "check --help", "compile --help", "drive --help"}) {
+        std::istringstream help(RunProgram(arguments).output);
+        for (std::string line; std::getline(help, line);) {
+            EXPECT_LE(line.size(), 80U) << arguments << ": " << line;
+        }
+    }
+}
+
 TEST(Program, ShowsItsVersion) {
     const Outcome outcome = RunProgram("--version");
-    EXPECT_EQ(outcome.output, "7.1.0\n");
+    EXPECT_EQ(outcome.output, "lumenkit 7.1.0\n");
     EXPECT_EQ(outcome.status, 0);
 }
 

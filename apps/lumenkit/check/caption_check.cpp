@@ -7,10 +7,10 @@
 #include <utility>
 #include <vector>
 
+#include "apps/command_line/spelling/nearest.h"
 #include "apps/lumenkit/check/caption_outline.h"
 #include "apps/lumenkit/check/quote.h"
 #include "apps/lumenkit/check/rules.h"
-#include "apps/lumenkit/check/suggestion.h"
 #include "frame/numbers.h"
 #include "frame/utf8.h"
 #include "vlabel/color_parameter.h"
@@ -160,9 +160,9 @@ class CommandChecker {
 
     void CheckColor() {
         if (!command_.kept) {
-            Add(rules::colorOutOfRange, Quote(written_) +
-                                            " contains a number of more than 32 bits; drawing "
-                                            "reports an overflow and does not change the colour");
+            Add(rules::numberOverflow, Quote(written_) +
+                                           " contains a number of more than 32 bits; drawing "
+                                           "reports an overflow and does not change the colour");
             return;
         }
         CheckColorRange();

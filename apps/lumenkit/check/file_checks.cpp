@@ -16,6 +16,7 @@
 #include "apps/lumenkit/check/saved_control.h"
 #include "apps/lumenkit/check/spoken_name_check.h"
 #include "apps/lumenkit/check/text_places.h"
+#include "apps/lumenkit/check/trial_check.h"
 #include "forms/naming_labels.h"
 
 namespace lumenkit::check {
@@ -68,6 +69,7 @@ void CheckControl(SavedControl& control) {
             check(control);
         }
     }
+    CheckTrial(control);
 }
 
 auto PlaceIn(const Finding& finding) {

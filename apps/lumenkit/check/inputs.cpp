@@ -4,6 +4,7 @@
 #include <array>
 #include <cctype>
 #include <filesystem>
+#include <set>
 #include <string_view>
 #include <system_error>
 
@@ -53,6 +54,16 @@ void AddFolder(const fs::path& folder, InputKind kind, Inputs& inputs) {
     }
 }
 
+// Keeps the first name of each file.
+void RemoveRepeated(std::vector<std::string>& files) {
+    std::set<fs::path> seen;
+    std::erase_if(files, [&](const std::string& file) {
+        std::error_code unknown;
+        const fs::path whole = fs::weakly_canonical(file, unknown);
+        return !seen.insert(unknown ? fs::path(file) : whole).second;
+    });
+}
+
 }  // namespace
 
 Inputs FindInputs(const std::vector<std::string>& paths, InputKind kind) {
@@ -65,6 +76,7 @@ Inputs FindInputs(const std::vector<std::string>& paths, InputKind kind) {
             inputs.files.push_back(path);
         }
     }
+    RemoveRepeated(inputs.files);
     return inputs;
 }
 

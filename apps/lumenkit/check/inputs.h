@@ -22,8 +22,8 @@ struct Inputs {
 };
 
 /// Returns the paths in `paths` that are not folders, and the files of `kind` in the folders and
-/// their subfolders, sorted by name within a folder. Does not follow links to folders inside a
-/// folder, and skips pipes and devices there.
+/// their subfolders, sorted by name within a folder, each file once. Does not follow links to
+/// folders inside a folder, and skips pipes and devices there.
 Inputs FindInputs(const std::vector<std::string>& paths, InputKind kind);
 
 }  // namespace lumenkit::check

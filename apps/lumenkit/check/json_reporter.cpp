@@ -1,4 +1,5 @@
 #include "apps/lumenkit/check/reporter.h"
+#include "apps/lumenkit/check/rules.h"
 
 namespace lumenkit::check {
 
@@ -8,6 +9,7 @@ using Json = nlohmann::ordered_json;
 
 Json ToJson(const Finding& finding) {
     Json json = {{"rule", finding.rule},
+                 {"severity", NameOf(SeverityOf(finding))},
                  {"file", finding.file},
                  {"line", finding.place.line},
                  {"column", finding.place.column}};

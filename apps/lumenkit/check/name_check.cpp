@@ -9,10 +9,10 @@
 #include <variant>
 #include <vector>
 
+#include "apps/command_line/spelling/nearest.h"
 #include "apps/lumenkit/check/quote.h"
 #include "apps/lumenkit/check/rules.h"
 #include "apps/lumenkit/check/saved_properties.h"
-#include "apps/lumenkit/check/suggestion.h"
 #include "forms/property.h"
 #include "frame/utf8.h"
 
@@ -73,16 +73,16 @@ class NameChecker {
         const std::string name = Quote(setting.name);
         if (!seen_.insert(LCase(setting.name)).second) {
             Add(setting, name + " occurs twice; the first value counts", {});
-        } else if (Find(properties_.read, setting.name) != nullptr) {
-            return;
-        } else if (Find(properties_.written, setting.name) != nullptr) {
-            Add(setting, type + " saves " + name + " but never reads it", {});
-        } else if (!IsContainers(setting.name)) {
+        } else if (!IsOwn(setting.name) && !IsContainers(setting.name)) {
             Add(setting, type + " never reads " + name, ToUtf8(Nearest(setting.name, read_)));
         }
     }
 
  private:
+    bool IsOwn(TextView name) const {
+        return Find(properties_.read, name) != nullptr ||
+               Find(properties_.written, name) != nullptr;
+    }
     void Add(const NamedSetting& setting, std::string message, std::string suggestion) {
         control_.AddAt(setting.name, setting.place,
                        {rules::unreadProperty.name, 0, std::move(message), std::move(suggestion)});

@@ -4,6 +4,7 @@
 #include <cstddef>
 #include <ostream>
 #include <string>
+#include <utility>
 
 #include <nlohmann/json.hpp>
 
@@ -37,7 +38,8 @@ struct ColoredStreams {
 
 /// Writes one line per finding, as it arrives, and a summary.
 ///
-///     order.frm:9:32: VLabel1.Caption: unknown command "bld"; did you mean "b"? [unknown-command]
+///     order.frm:9:32: warning: VLabel1.Caption: unknown command "bld"; did you mean "b"?
+///     [unknown-command]
 class TextReporter final : public Reporter {
  public:
     /// Errors go to a separate stream. Both streams must outlive the reporter.
@@ -73,6 +75,38 @@ class JsonReporter final : public Reporter {
     std::ostream& output_;
     nlohmann::ordered_json findings_ = nlohmann::ordered_json::array();
     nlohmann::ordered_json errors_ = nlohmann::ordered_json::array();
+};
+
+/// Writes one log of the Static Analysis Results Interchange Format (SARIF) 2.1.0 at the end.
+class SarifReporter final : public Reporter {
+ public:
+    /// `version` is the program's. The stream must outlive the reporter.
+    SarifReporter(std::ostream& output, std::string version)
+        : output_(output), version_(std::move(version)) {}
+
+    void Report(const Findings& findings) override;
+    void Report(const FileError& error) override;
+    void Finish(std::size_t files) override;
+
+ private:
+    std::ostream& output_;
+    std::string version_;
+    nlohmann::ordered_json results_ = nlohmann::ordered_json::array();
+    nlohmann::ordered_json notifications_ = nlohmann::ordered_json::array();
+};
+
+/// Writes workflow commands of GitHub, which become annotations of the files in a review.
+class GithubReporter final : public Reporter {
+ public:
+    /// The stream must outlive the reporter.
+    explicit GithubReporter(std::ostream& output) : output_(output) {}
+
+    void Report(const Findings& findings) override;
+    void Report(const FileError& error) override;
+    void Finish(std::size_t files) override;
+
+ private:
+    std::ostream& output_;
 };
 
 }  // namespace lumenkit::check

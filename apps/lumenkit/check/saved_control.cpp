@@ -1,5 +1,6 @@
 #include "apps/lumenkit/check/saved_control.h"
 
+#include <algorithm>
 #include <variant>
 
 #include "apps/lumenkit/check/rules.h"
@@ -17,6 +18,7 @@ SavedControl::SavedControl(const forms::Document& document, forms::Block& block,
       block_(block),
       type_(type),
       findings_(findings),
+      first_(findings.size()),
       bag_(document, block, nullptr),
       id_(ToUtf8(forms::NameInCode(block))) {}
 
@@ -25,13 +27,12 @@ Value SavedControl::ValueOf(TextView name) {
     return bag_.ReadProperty(name, own == nullptr ? Value() : own->defaultValue);
 }
 
-void SavedControl::Refuse(TextView name, const RuntimeError& error) {
-    AddWhole(name, {{rules::unreadableValue.name,
-                     0,
-                     "the value cannot be converted; loading reports error " +
-                         std::to_string(error.Number()) + " (" + ToUtf8(error.Description()) +
-                         ") and does not read the following properties",
-                     {}}});
+bool SavedControl::HasError(TextView property) const {
+    return std::any_of(findings_.begin() + static_cast<std::ptrdiff_t>(first_), findings_.end(),
+                       [name = ToUtf8(property)](const Finding& finding) {
+                           return finding.property == name &&
+                                  SeverityOf(finding) == Severity::Error;
+                       });
 }
 
 void SavedControl::AddAt(TextView property, forms::Position place, const Remark& remark) {
@@ -43,6 +44,10 @@ void SavedControl::AddWhole(TextView property, const Remarks& remarks) {
     if (const forms::Property* saved = block_.FindProperty(property)) {
         for (const Remark& remark : remarks) {
             AddAt(saved->Name(), saved->ValuePlace(), remark);
+        }
+    } else if (const forms::Block* group = block_.FindGroup(property)) {
+        for (const Remark& remark : remarks) {
+            AddAt(group->Name(), group->NamePlace(), remark);
         }
     }
 }

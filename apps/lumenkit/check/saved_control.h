@@ -1,11 +1,14 @@
 // One control of a form as the checks see it.
 #pragma once
 
+#include <cstddef>
 #include <optional>
 #include <string>
 #include <utility>
+#include <vector>
 
 #include "apps/lumenkit/check/finding.h"
+#include "apps/lumenkit/check/trial.h"
 #include "forms/block.h"
 #include "forms/document.h"
 #include "forms/form_bag.h"
@@ -27,22 +30,10 @@ class SavedControl {
     const forms::Block& Block() const { return block_; }
     const ClassDescriptor& Type() const { return type_; }
 
-    /// Returns the saved value, or the control's default, converted by `convert`. If the conversion
-    /// fails, adds a finding and returns nothing.
+    /// Returns the saved value, or the control's default, converted by `convert`. Returns nothing
+    /// if the conversion fails, which the control reports itself when it is loaded.
     template <typename Convert>
     auto Read(TextView name, Convert convert)
-        -> std::optional<decltype(convert(std::declval<const Value&>()))> {
-        try {
-            return convert(ValueOf(name));
-        } catch (const RuntimeError& error) {
-            Refuse(name, error);
-            return std::nullopt;
-        }
-    }
-
-    /// Does the same without adding a finding.
-    template <typename Convert>
-    auto ReadQuietly(TextView name, Convert convert)
         -> std::optional<decltype(convert(std::declval<const Value&>()))> {
         try {
             return convert(ValueOf(name));
@@ -50,6 +41,11 @@ class SavedControl {
             return std::nullopt;
         }
     }
+    /// Returns the errors that the control reports when it is loaded and drawn.
+    std::vector<TrialError> Try() const { return TryControl(document_, block_, type_); }
+
+    /// Returns whether there is a finding about the property that stands for a reported error.
+    bool HasError(TextView property) const;
 
     /// Adds remarks about the text of a property. Does nothing if the property is not saved.
     void Add(TextView property, TextView text, const Remarks& remarks);
@@ -62,12 +58,12 @@ class SavedControl {
 
  private:
     Value ValueOf(TextView name);
-    void Refuse(TextView name, const RuntimeError& error);
 
     const forms::Document& document_;
     forms::Block& block_;
     const ClassDescriptor& type_;
     Findings& findings_;
+    std::size_t first_;  // the number of findings before those about this control
     forms::FormBag bag_;
     std::string id_;
 };

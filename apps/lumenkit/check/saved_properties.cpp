@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <map>
+#include <mutex>
 #include <span>
 
 #include "frame/host/property_bag.h"
@@ -41,7 +42,9 @@ SavedProperties AskControl(const ClassDescriptor& type) {
 }  // namespace
 
 const SavedProperties& PropertiesOf(const ClassDescriptor& type) {
+    static std::mutex mutex;
     static std::map<TextView, SavedProperties> known;
+    const std::scoped_lock lock(mutex);
     const auto found = known.find(type.name);
     return found != known.end() ? found->second
                                 : known.emplace(type.name, AskControl(type)).first->second;

@@ -21,7 +21,7 @@ struct SavedProperties {
     std::vector<SavedProperty> written;
 };
 
-/// The reference stays valid until the program ends.
+/// The reference stays valid until the program ends. May be called from any thread.
 const SavedProperties& PropertiesOf(const ClassDescriptor& type);
 
 /// Finds a property by name, ignoring case. Returns null if there is none.

@@ -43,9 +43,8 @@ bool HasText(const forms::Document& document, forms::Block& label) {
 }
 
 bool ShowsCaption(SavedControl& list) {
-    const std::int16_t border =
-        list.ReadQuietly(u"BorderStyle", ToInteger).value_or(std::int16_t{1});
-    return border != 0 && !IsBlank(list.ReadQuietly(u"Caption", ToText).value_or(Text()));
+    const std::int16_t border = list.Read(u"BorderStyle", ToInteger).value_or(std::int16_t{1});
+    return border != 0 && !IsBlank(list.Read(u"Caption", ToText).value_or(Text()));
 }
 
 }  // namespace

@@ -1,5 +1,9 @@
+#include <array>
+
+#include "apps/lumenkit/check/finding_text.h"
 #include "apps/lumenkit/check/quote.h"
 #include "apps/lumenkit/check/reporter.h"
+#include "apps/lumenkit/check/rules.h"
 
 namespace lumenkit::check {
 
@@ -8,6 +12,7 @@ namespace {
 constexpr const char* bold = "\x1b[1m";
 constexpr const char* red = "\x1b[31m";
 constexpr const char* yellow = "\x1b[33m";
+constexpr const char* cyan = "\x1b[36m";
 constexpr const char* dim = "\x1b[2m";
 constexpr const char* plain = "\x1b[0m";
 
@@ -19,28 +24,31 @@ std::string Colored(bool colored, const char* color, const std::string& text) {
     return colored ? color + text + plain : text;
 }
 
+const char* ColorOf(Severity severity) {
+    constexpr std::array<const char*, 3> colors = {cyan, yellow, red};
+    return colors.at(static_cast<std::size_t>(severity));
+}
+
 std::string PlaceOf(const Finding& finding) {
     return Printable(finding.file) + ':' + std::to_string(finding.place.line) + ':' +
            std::to_string(finding.place.column) + ':';
 }
 
-std::string SubjectOf(const Finding& finding) {
-    const bool hasBoth = !finding.control.empty() && !finding.property.empty();
-    return Printable(finding.control + (hasBoth ? "." : "") + finding.property);
-}
-
 }  // namespace
 
 void TextReporter::Report(const Finding& finding) {
-    output_ << Colored(colors_.output, bold, PlaceOf(finding)) << ' ';
-    if (const std::string subject = SubjectOf(finding); !subject.empty()) {
+    const Severity severity = SeverityOf(finding);
+    output_ << Colored(colors_.output, bold, PlaceOf(finding)) << ' '
+            << Colored(colors_.output, ColorOf(severity), std::string(NameOf(severity)) + ':')
+            << ' ';
+    if (const std::string subject = Printable(SubjectOf(finding)); !subject.empty()) {
         output_ << subject;
         if (finding.isElsewhere && finding.offset) {
             output_ << ", offset " << *finding.offset;
         }
         output_ << ": ";
     }
-    output_ << Colored(colors_.output, yellow, finding.message);
+    output_ << finding.message;
     if (!finding.suggestion.empty()) {
         output_ << "; did you mean \"" << Printable(finding.suggestion) << "\"?";
     }

@@ -4,25 +4,13 @@
 #include <utility>
 
 #include "apps/lumenkit/drive/request.h"
+#include "apps/lumenkit/windowless/saved_font.h"
+#include "apps/lumenkit/windowless/saved_placing.h"
 #include "forms/controls.h"
 #include "forms/form_bag.h"
 #include "frame/utf8.h"
 
 namespace lumenkit::cli {
-
-namespace {
-
-host::FontRef NewFont(const memory::Form& form, const forms::FontDescription& description) {
-    auto font = form.NewFont(description.name, description.size);
-    font->SetWeight(description.weight);
-    font->SetCharset(description.charset);
-    font->SetItalic(description.italic);
-    font->SetUnderline(description.underline);
-    font->SetStrikethrough(description.strikethrough);
-    return font;
-}
-
-}  // namespace
 
 LoadedForm::LoadedForm(forms::Document document, const ClassTable& classes)
     : document_(std::move(document)) {
@@ -50,16 +38,10 @@ std::vector<std::string> LoadedForm::Ids() const {
 
 std::unique_ptr<memory::HostedControl> LoadedForm::Start(const Found& found, host::PropertyBag& bag,
                                                          memory::Form& form, bool userMode) {
-    const Text tag = ToText(bag.ReadProperty(u"Tag", Text()));
-    memory::Placing placing;
+    const Text tag = windowless::SavedTag(bag);
+    memory::Placing placing = windowless::SavedPlacing(bag, userMode);
     placing.name = found.name;
-    placing.userMode = userMode;
-    placing.left = ToSingle(bag.ReadProperty(u"Left", placing.left));
-    placing.top = ToSingle(bag.ReadProperty(u"Top", placing.top));
-    placing.width = ToSingle(bag.ReadProperty(u"Width", placing.width));
-    placing.height = ToSingle(bag.ReadProperty(u"Height", placing.height));
     placing.tag = tag;
-    placing.visible = ToBoolean(bag.ReadProperty(u"Visible", placing.visible));
     auto control = std::make_unique<memory::HostedControl>(form, found.type, placing);
     control->StartSaved(bag);
     return control;
@@ -67,7 +49,7 @@ std::unique_ptr<memory::HostedControl> LoadedForm::Start(const Found& found, hos
 
 std::vector<LoadedForm::Living> LoadedForm::Start(memory::Form& form, bool userMode) {
     const auto makeFont = [&form](const forms::FontDescription& description) {
-        return NewFont(form, description);
+        return windowless::SavedFont(form, description);
     };
     std::vector<Living> living;
     for (const Found& found : found_) {

@@ -34,8 +34,7 @@ class LoadedForm {
     std::vector<std::string> Ids() const;
 
     /// Creates these controls from their saved properties. The caller owns them, and they must
-    /// outlive every call of Update. Raises 13 or 6 if a place, size, Tag or visibility does not
-    /// convert, and 380 for a negative size. Call it once.
+    /// outlive every call of Update. Call it once.
     std::vector<Living> Start(memory::Form& form, bool userMode);
 
     /// Writes the present property values of the controls into the document.

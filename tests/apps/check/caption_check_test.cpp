@@ -106,7 +106,7 @@ TEST(CaptionCheck, FindsColorsOutOfRange) {
     EXPECT_THAT(
         RulesInCaption(u"|fore:256,0,0|a|fore:0,-1,0|b|fore:255.5|c|fore:255.4|d|fore:9e9|"),
         ElementsAre("color-out-of-range@0", "color-out-of-range@15", "color-out-of-range@29",
-                    "color-out-of-range@55"));
+                    "number-overflow@55"));
     EXPECT_EQ(CheckCaption(u"|fore:256,-1,0|").front().message,
               "red 256 is drawn as 0, green -1 is drawn as 255");
 }

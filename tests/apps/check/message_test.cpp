@@ -4,9 +4,9 @@
 
 #include <gtest/gtest.h>
 
+#include "apps/command_line/spelling/nearest.h"
 #include "apps/lumenkit/check/progress_bar.h"
 #include "apps/lumenkit/check/quote.h"
-#include "apps/lumenkit/check/suggestion.h"
 
 namespace lumenkit::check {
 namespace {

@@ -1,6 +1,10 @@
 // "lumenform render", and the messages of the program when it fails.
+#include <QByteArray>
 #include <QImage>
+#include <array>
 #include <filesystem>
+#include <map>
+#include <string>
 
 #include <gmock/gmock.h>
 
@@ -119,26 +123,62 @@ TEST_F(RenderCommand, HelpHasExamples) {
     }
 }
 
-TEST_F(RenderCommand, WithoutADisplayRunSaysSo) {
-    const Outcome outcome = RunProgram("--version");
-    EXPECT_EQ(outcome.output, "7.1.0\n");
-    const std::string form = (sampleForms / "label.frm").string();
-    const QByteArray platform = qgetenv("QT_QPA_PLATFORM");
-    const QByteArray display = qgetenv("DISPLAY");
-    const QByteArray wayland = qgetenv("WAYLAND_DISPLAY");
-    for (const char* name : {"QT_QPA_PLATFORM", "DISPLAY", "WAYLAND_DISPLAY"}) {
+// Runs the program with only these of the variables that choose a display.
+Outcome RunWithDisplay(const std::string& arguments, const std::map<QByteArray, QByteArray>& set) {
+    const std::array<const char*, 3> names = {"QT_QPA_PLATFORM", "DISPLAY", "WAYLAND_DISPLAY"};
+    std::map<QByteArray, QByteArray> former;
+    for (const char* name : names) {
+        if (qEnvironmentVariableIsSet(name)) {
+            former[name] = qgetenv(name);
+        }
         qunsetenv(name);
     }
-    const Outcome unseen = RunProgram("run " + form);
-    qputenv("QT_QPA_PLATFORM", platform);
-    if (!display.isEmpty()) {
-        qputenv("DISPLAY", display);
+    for (const auto& [name, value] : set) {
+        qputenv(name.constData(), value);
     }
-    if (!wayland.isEmpty()) {
-        qputenv("WAYLAND_DISPLAY", wayland);
+    const Outcome outcome = RunProgram(arguments);
+    for (const char* name : names) {
+        qunsetenv(name);
     }
-    EXPECT_EQ(unseen.status, 2);
-    EXPECT_THAT(unseen.errors, StartsWith("lumenform: there is no display"));
+    for (const auto& [name, value] : former) {
+        qputenv(name.constData(), value);
+    }
+    return outcome;
+}
+
+TEST_F(RenderCommand, ShowsItsVersion) {
+    EXPECT_EQ(RunProgram("--version").output, "lumenform 7.1.0\n");
+}
+
+TEST_F(RenderCommand, WithoutADisplayRunSaysSo) {
+    const Outcome outcome = RunWithDisplay("run " + (sampleForms / "label.frm").string(), {});
+    EXPECT_EQ(outcome.status, 2);
+    EXPECT_THAT(outcome.errors, StartsWith("lumenform: there is no display"));
+}
+
+TEST_F(RenderCommand, WithoutAUsableDisplayRunSaysWhy) {
+    const std::string form = (sampleForms / "label.frm").string();
+    const std::map<QByteArray, QByteArray> nowhere = {{"DISPLAY", ":4567"}};
+    const Outcome x11 = RunWithDisplay("run " + form, nowhere);
+    EXPECT_EQ(x11.status, 2);
+    EXPECT_THAT(x11.errors, StartsWith("lumenform: the display cannot be used (could not connect "
+                                       "to display :4567); "));
+    for (const char* command : {"run ", "design ", ""}) {
+        const Outcome wayland = RunWithDisplay(command + form, {{"WAYLAND_DISPLAY", "nothing"}});
+        EXPECT_EQ(wayland.status, 2) << command;
+        EXPECT_THAT(wayland.errors, HasSubstr("lumenform: the display cannot be used ("));
+    }
+    const Outcome unknown = RunWithDisplay("run " + form, {{"QT_QPA_PLATFORM", "nonsense"}});
+    EXPECT_EQ(unknown.status, 2);
+    EXPECT_THAT(unknown.errors, HasSubstr("nonsense"));
+}
+
+TEST_F(RenderCommand, AFileAloneIsForTheDesigner) {
+    const Outcome missing = RunProgram("no_such.frm");
+    EXPECT_EQ(missing.status, 2);
+    EXPECT_THAT(missing.errors, StartsWith("lumenform: no_such.frm: "));
+    EXPECT_THAT(RunProgram("rnder").errors,
+                StartsWith("lumenform: there is no command \"rnder\"; did you mean \"render\"?"));
 }
 
 }  // namespace

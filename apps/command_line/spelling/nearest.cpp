@@ -1,10 +1,10 @@
-#include "apps/lumenkit/check/suggestion.h"
+#include "apps/command_line/spelling/nearest.h"
 
 #include <algorithm>
 #include <cstddef>
 #include <vector>
 
-namespace lumenkit::check {
+namespace lumenkit {
 
 namespace {
 
@@ -59,4 +59,4 @@ TextView Nearest(TextView written, std::span<const TextView> words) {
     return nearest;
 }
 
-}  // namespace lumenkit::check
+}  // namespace lumenkit

@@ -4,7 +4,7 @@
 
 #include "frame/text.h"
 
-namespace lumenkit::check {
+namespace lumenkit {
 
 /// Returns the word that `written` was probably meant to be, ignoring case and surrounding blanks:
 /// the same word, or the nearest one. A slip is a missing, extra or wrong letter or a swap of
@@ -13,4 +13,4 @@ namespace lumenkit::check {
 /// than 40 units.
 TextView Nearest(TextView written, std::span<const TextView> words);
 
-}  // namespace lumenkit::check
+}  // namespace lumenkit

@@ -1,0 +1,95 @@
+#include "apps/lumenkit/check/baseline.h"
+
+#include <fstream>
+#include <utility>
+
+namespace lumenkit::check {
+
+namespace {
+
+namespace fs = std::filesystem;
+using Json = nlohmann::ordered_json;
+
+constexpr int version = 1;
+
+}  // namespace
+
+Baseline::Baseline(const fs::path& file) : file_(fs::absolute(file).lexically_normal()) {}
+
+Baseline::Key Baseline::KeyOf(const Finding& finding) const {
+    const fs::path form = fs::absolute(finding.file).lexically_normal();
+    return {form.lexically_relative(file_.parent_path()).generic_string(),
+            std::string(finding.rule), finding.control, finding.property, finding.message};
+}
+
+void Baseline::Add(const Findings& findings) {
+    for (const Finding& finding : findings) {
+        ++counts_[KeyOf(finding)];
+    }
+}
+
+void Baseline::Apply(Findings& findings) {
+    std::erase_if(findings, [&](const Finding& finding) {
+        const auto known = counts_.find(KeyOf(finding));
+        if (known == counts_.end() || known->second == 0) {
+            return false;
+        }
+        --known->second;
+        return true;
+    });
+}
+
+Json Baseline::ToJson() const {
+    Json findings = Json::array();
+    for (const auto& [key, count] : counts_) {
+        const auto& [file, rule, control, property, message] = key;
+        findings.push_back({{"file", file},
+                            {"rule", rule},
+                            {"control", control},
+                            {"property", property},
+                            {"message", message},
+                            {"count", count}});
+    }
+    return {{"version", version}, {"findings", std::move(findings)}};
+}
+
+void Baseline::Take(const Json& json) {
+    if (json.at("version") != version) {
+        throw BadBaseline(file_.string() + ": is a baseline of another version");
+    }
+    for (const Json& known : json.at("findings")) {
+        const auto text = [&](const char* key) { return known.at(key).get<std::string>(); };
+        counts_[{text("file"), text("rule"), text("control"), text("property"), text("message")}] =
+            known.at("count").get<std::size_t>();
+    }
+}
+
+void Baseline::Read() {
+    std::ifstream stream(file_, std::ios::binary);
+    if (!stream) {
+        throw BadBaseline(file_.string() + ": cannot be read");
+    }
+    try {
+        Take(Json::parse(stream));
+    } catch (const Json::exception&) {
+        throw BadBaseline(file_.string() + ": is no baseline of lumenkit check");
+    }
+}
+
+void Baseline::Write() const {
+    fs::path fresh = file_;
+    fresh += ".new";
+    std::ofstream stream(fresh, std::ios::binary);
+    stream << ToJson().dump(1, ' ', false, Json::error_handler_t::replace) << '\n';
+    stream.close();
+    std::error_code error;
+    if (stream) {
+        fs::rename(fresh, file_, error);
+    }
+    if (!stream || error) {
+        fs::remove(fresh, error);
+        throw BadBaseline(file_.string() + ": cannot be written");
+    }
+}
+
+}  // namespace lumenkit::check

@@ -1,0 +1,62 @@
+// One run of "lumenkit check".
+#pragma once
+
+#include <filesystem>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "apps/lumenkit/check/baseline.h"
+#include "apps/lumenkit/check/exceptions.h"
+#include "apps/lumenkit/check/finding.h"
+#include "apps/lumenkit/check/inputs.h"
+#include "apps/lumenkit/check/progress_bar.h"
+#include "apps/lumenkit/check/reporter.h"
+#include "apps/lumenkit/check/selection.h"
+#include "forms/encoding.h"
+
+namespace lumenkit::cli {
+
+struct CheckOptions {
+    std::vector<std::string> paths;
+    bool captions = false;
+    int codePage = forms::defaultCodePage;
+    check::Selection selection;
+    std::string baseline;       ///< a file with known findings; empty for none
+    std::string writeBaseline;  ///< where to write the findings as known ones; empty for nowhere
+    int jobs = 0;  ///< the number of files that are checked at once; 0: one a processor
+};
+
+class CheckRun {
+ public:
+    /// Both arguments must outlive the run.
+    CheckRun(const CheckOptions& options, check::Reporter& reporter)
+        : options_(options), reporter_(reporter) {}
+
+    /// Checks all files and returns the exit status. Throws check::BadException and
+    /// check::BadBaseline.
+    int Run();
+
+ private:
+    struct Result {
+        check::Findings findings;
+        std::optional<check::FileError> error;
+    };
+
+    Result Check(const std::string& file) const;
+    check::Findings FindingsIn(const std::string& file) const;
+    void CheckFiles(const std::vector<std::string>& files);
+    void Take(const std::string& file, Result result, check::ProgressBar& bar);
+    void Report(const check::FileError& error);
+
+    const CheckOptions& options_;
+    check::Reporter& reporter_;
+    check::ExceptionFiles exceptions_;
+    std::optional<check::Baseline> known_;
+    std::optional<check::Baseline> written_;
+    std::size_t checked_ = 0;
+    bool found_ = false;
+    bool failed_ = false;
+};
+
+}  // namespace lumenkit::cli
