@@ -21,7 +21,7 @@ using check::Findings;
 // With fewer files, a progress bar would vanish before anyone sees it.
 constexpr std::size_t manyFiles = 20;
 
-const std::string standardInput = "-";
+constexpr const char* standardInput = "-";
 
 }  // namespace
 

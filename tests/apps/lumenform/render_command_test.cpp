@@ -136,7 +136,7 @@ Outcome RunWithDisplay(const std::string& arguments, const std::map<QByteArray, 
     for (const auto& [name, value] : set) {
         qputenv(name.constData(), value);
     }
-    const Outcome outcome = RunProgram(arguments);
+    Outcome outcome = RunProgram(arguments);
     for (const char* name : names) {
         qunsetenv(name);
     }
