@@ -1,5 +1,6 @@
 #include <iostream>
 #include <memory>
+#include <new>
 #include <string>
 #include <vector>
 
@@ -83,6 +84,10 @@ class CheckRun {
         } catch (const UnusableInput& error) {
             bar.Hide();
             Report({file, {}, error.what(), error.what()});
+        } catch (const std::bad_alloc&) {
+            bar.Hide();
+            const std::string description = "there is not enough memory to check it";
+            Report({file, {}, description, file + ": " + description});
         }
     }
 

@@ -5,13 +5,17 @@
 #include <QVBoxLayout>
 #include <algorithm>
 #include <map>
+#include <string>
 #include <utility>
 
 #include "apps/lumenform/form_view/form_size.h"
 #include "apps/lumenform/form_view/make_control.h"
 #include "apps/lumenform/form_view/menu_bar.h"
+#include "apps/lumenform/form_view/painting_room.h"
 #include "forms/font_description.h"
+#include "forms/form_error.h"
 #include "forms/naming_labels.h"
+#include "frame/utf8.h"
 #include "runtime/qt/mnemonic.h"
 #include "runtime/qt/pixels.h"
 #include "runtime/qt/qt_text.h"
@@ -36,6 +40,17 @@ void Stack(const std::vector<LiveControl*>& controls) {
                 control->Widget().lower();
             }
         }
+    }
+}
+
+void RequireRoomToPaint(const forms::Document& document, const forms::Block& container,
+                        std::size_t count) {
+    const std::size_t most = MakeRoomToPaint(count);
+    if (count > most) {
+        throw forms::FormError(document.Name(), container.NamePlace(),
+                               ToUtf8(container.Name()) + ": has " + std::to_string(count) +
+                                   " controls; at most " + std::to_string(most) +
+                                   " can be shown in one container");
     }
 }
 
@@ -101,8 +116,10 @@ FormView::~FormView() {
 }
 
 void FormView::AddControls(const forms::Block& block, const Surroundings& around) {
+    const std::vector<forms::Block*> controls = block.Controls();
+    RequireRoomToPaint(stage_.document, block, controls.size());
     std::vector<LiveControl*> added;
-    for (forms::Block* inner : block.Controls()) {
+    for (forms::Block* inner : controls) {
         if (!IsMenu(*inner)) {
             controls_.push_back(MakeControl(stage_, around, *inner));
             added.push_back(controls_.back().get());

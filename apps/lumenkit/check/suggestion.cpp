@@ -47,8 +47,9 @@ TextView Nearest(TextView written, std::span<const TextView> words) {
     TextView nearest;
     std::size_t fewest = longestWord;
     for (const TextView word : words) {
-        if (trimmed.size() > longestWord || word.size() > longestWord) {
-            continue;
+        const auto [shorter, longer] = std::minmax(trimmed.size(), word.size());
+        if (longer > longestWord || longer - shorter > Forgiven(word)) {
+            continue;  // each letter too many or too few is a slip
         }
         const std::size_t slips = Slips(trimmed, LCase(word));
         if (slips <= Forgiven(word) && slips < fewest) {
