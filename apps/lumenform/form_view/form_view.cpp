@@ -4,6 +4,7 @@
 #include <QLabel>
 #include <QVBoxLayout>
 #include <algorithm>
+#include <cstdint>
 #include <map>
 #include <string>
 #include <utility>
@@ -146,21 +147,26 @@ void FormView::NameFields() {
 
 // Makes the mnemonic of a label move the focus to the next control in tab order.
 void FormView::MarkLabels() {
+    struct Stop {
+        std::int32_t turn;
+        QWidget* widget;
+    };
     const auto turnOf = [](const LiveControl& control) { return control.TabIndex().value_or(-1); };
+    std::vector<Stop> stops;
+    for (const auto& control : controls_) {
+        if (QWidget* const widget = FirstStop(*control)) {
+            stops.push_back({turnOf(*control), widget});
+        }
+    }
+    std::ranges::stable_sort(stops, {}, &Stop::turn);
     for (const auto& control : controls_) {
         auto* const label = qobject_cast<QLabel*>(&control->Widget());
         if (label == nullptr || !qt::HasMnemonic(label->text())) {
             continue;
         }
-        const LiveControl* next = nullptr;
-        for (const auto& other : controls_) {
-            const bool follows = turnOf(*other) > turnOf(*control) && FirstStop(*other) != nullptr;
-            if (follows && (next == nullptr || turnOf(*other) < turnOf(*next))) {
-                next = other.get();
-            }
-        }
-        if (next != nullptr) {
-            label->setBuddy(FirstStop(*next));
+        const auto next = std::ranges::upper_bound(stops, turnOf(*control), {}, &Stop::turn);
+        if (next != stops.end()) {
+            label->setBuddy(next->widget);
         } else {
             label->setText(qt::WithoutMnemonic(label->text()));
         }
