@@ -30,6 +30,10 @@ std::string LowerName(const fs::path& path) {
     return lower;
 }
 
+std::string ReasonOf(int error) {
+    return error == 0 ? std::string() : std::generic_category().message(error);
+}
+
 // Runs a call of the system that returns whether it succeeded. Sets `error` to the number of the
 // error, or to 0 if the call does not say.
 template <typename Call>
@@ -89,12 +93,13 @@ BesideFile::~BesideFile() {
 }
 
 void BesideFile::Write(std::string_view bytes, const FileState& old) {
+    errno = 0;
     const Disk::Opened file =
         Make(newEnd, [&](const fs::path& path) { return disk_.Create(path, old.exists); });
+    int error = errno;
     if (file.outcome != Disk::Outcome::Done) {
-        RefuseToWrite(place_);
+        RefuseToWrite(place_, ReasonOf(error));
     }
-    int error = 0;
     bool isWritten = Try(error, [&] { return disk_.Write(file.handle, bytes); }) &&
                      (!old.exists || disk_.KeepAttributes(file.handle, old)) &&
                      Try(error, [&] { return disk_.Flush(file.handle); });
@@ -104,7 +109,7 @@ void BesideFile::Write(std::string_view bytes, const FileState& old) {
         error = errorOfClose;
     }
     if (!isWritten) {
-        RefuseToWrite(place_, error == 0 ? "" : std::generic_category().message(error));
+        RefuseToWrite(place_, ReasonOf(error));
     }
 }
 

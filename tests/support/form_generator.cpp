@@ -382,7 +382,7 @@ class Writer {
             case 8:
                 return Array(box);
             case 9:
-                return Frame(box, mode, depth);
+                return Frame(box, depth);
             default:
                 return PictureBox(box, depth);
         }
@@ -533,7 +533,7 @@ class Writer {
     }
 
     // A frame has no units: it uses twips.
-    void Frame(const Box& box, int /*mode*/, int depth) {
+    void Frame(const Box& box, int depth) {
         constexpr int twips = 1;
         Open("VB.Frame", Name("Frame"));
         Quoted("Caption", Word());

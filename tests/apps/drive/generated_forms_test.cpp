@@ -15,9 +15,9 @@
 namespace lumenkit::cli {
 namespace {
 
-using ::testing::IsEmpty;
 using testing::FormGenerator;
 using testing::GeneratedForm;
+using ::testing::IsEmpty;
 using testing::Rounds;
 using testing::RunsAllRounds;
 using testing::TestSeed;

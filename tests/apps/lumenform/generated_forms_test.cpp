@@ -17,10 +17,8 @@ using lumenform::Mode;
 using ::testing::IsEmpty;
 
 QImage PictureOf(const GeneratedForm& form) {
-    const Surface surface;
-    forms::Document document = form.Parse();
-    FormView view(surface.context, document, Mode::Run);
-    return view.grab().toImage();
+    const LoadedView loaded(form.Parse());
+    return loaded.view->grab().toImage();
 }
 
 TEST(GeneratedForms, ThePictureDoesNotDependOnTheScaleMode) {

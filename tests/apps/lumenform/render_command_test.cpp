@@ -100,7 +100,8 @@ TEST_F(RenderCommand, SaysWhatItCannotReadOrWrite) {
     const Outcome unwritable =
         RunProgram("render " + (sampleForms / "label.frm").string() + " -o /no/such/picture.png");
     EXPECT_EQ(unwritable.status, 2);
-    EXPECT_EQ(unwritable.errors, "lumenform: /no/such/picture.png: cannot be written\n");
+    EXPECT_EQ(unwritable.errors,
+              "lumenform: /no/such/picture.png: cannot be written: No such file or directory\n");
 }
 
 TEST_F(RenderCommand, SaysTheErrorsOfDrawing) {

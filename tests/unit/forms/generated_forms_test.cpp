@@ -1,8 +1,8 @@
 // Forms as designers write them: what is read is written byte for byte, and an edit changes one
 // line.
 #include <algorithm>
-#include <array>
 #include <filesystem>
+#include <map>
 #include <set>
 #include <sstream>
 #include <string>

@@ -65,8 +65,9 @@ TEST_F(ReplaceFileTest, KeepsTheOldFileAndSaysWhyTheNewOneCannotBeWritten) {
     EXPECT_EQ(Count(), 1);
     EXPECT_EQ(Error(folder, large), folder.string() + ": is not a plain file");
     EXPECT_EQ(Error("/dev/full", large), "/dev/full: is not a plain file");
-    EXPECT_EQ(Error(folder / "none" / "file.png", large),
-              (folder / "none" / "file.png").string() + ": cannot be written");
+    EXPECT_EQ(
+        Error(folder / "none" / "file.png", large),
+        (folder / "none" / "file.png").string() + ": cannot be written: No such file or directory");
     fs::permissions(file, fs::perms::owner_read);
     EXPECT_EQ(Error(file, large), file.string() + ": is read-only");
     EXPECT_EQ(ReadFile(file), "old");
