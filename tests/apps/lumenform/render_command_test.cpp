@@ -209,11 +209,11 @@ TEST_F(RenderCommand, DrawsTensOfThousandsOfControlsInOneContainer) {
 }
 
 TEST_F(RenderCommand, SaysThatAContainerHasTooManyControls) {
-    std::string controls;
+    std::string components;
     for (int i = 0; i <= 100'000; ++i) {
-        controls += "Begin A B\nEnd\n";
+        components += "Begin A B\nEnd\n";
     }
-    const std::string form = FileWith("VERSION 5.00\nBegin VB.Form F\n" + controls + "End\n");
+    const std::string form = FileWith("VERSION 5.00\nBegin VB.Form F\n" + components + "End\n");
     const Outcome outcome = Render(form);
     EXPECT_EQ(outcome.status, 2);
     EXPECT_EQ(outcome.errors, "lumenform: " + form +

@@ -208,8 +208,8 @@ TEST(GeneratedForms, AnEditChangesOneLineAndTheEndOfTheCompanion) {
         ASSERT_EQ(after.size(), before.size());
         for (std::size_t line = 0; line < before.size(); ++line) {
             if (line + 1 == edited.NamePlace().line) {
-                const std::size_t value = edited.Source().prefix.size();
-                ASSERT_EQ(after[line].substr(0, value), before[line].substr(0, value));
+                const std::size_t valueAt = edited.Source().prefix.size();
+                ASSERT_EQ(after[line].substr(0, valueAt), before[line].substr(0, valueAt));
                 ASSERT_EQ(after[line].ends_with('\r'), before[line].ends_with('\r'));
                 changed += after[line] != before[line] ? 1 : 0;
             } else {
