@@ -28,6 +28,11 @@ TextView SettingName(const Block::Item& item) {
     return group == nullptr ? TextView() : group->Name();
 }
 
+// The order of names without regard to case.
+bool IsBefore(TextView left, TextView right) {
+    return std::ranges::lexicographical_compare(left, right, {}, LowerUnit, LowerUnit);
+}
+
 }  // namespace
 
 Block::Block(BlockKind kind, Text className, Text name, Text open, Text close, Places places)
@@ -38,11 +43,41 @@ Block::Block(BlockKind kind, Text className, Text name, Text open, Text close, P
       close_(std::move(close)),
       places_(places) {}
 
-Block::Iterator Block::FindSetting(TextView name) const {
+Block::Iterator Block::FindInOrder(TextView name) const {
     return std::find_if(items_.begin(), items_.end(), [&](const Item& item) {
         const TextView own = SettingName(item);
         return !own.empty() && SameText(own, name, Compare::IgnoreCase);
     });
+}
+
+// Of several items with the same name, the first one stays the first.
+void Block::SortByName() const {
+    std::vector<std::size_t> sorted;
+    for (std::size_t i = 0; i < items_.size(); ++i) {
+        if (!SettingName(items_[i]).empty()) {
+            sorted.push_back(i);
+        }
+    }
+    std::ranges::stable_sort(sorted, IsBefore,
+                             [this](std::size_t i) { return SettingName(items_[i]); });
+    byName_ = std::move(sorted);
+}
+
+// Searching the items one after the other is quick in a block that a designer wrote. A file with a
+// million properties would take hours.
+Block::Iterator Block::FindSetting(TextView name) const {
+    constexpr std::size_t many = 100;
+    if (items_.size() < many || ++lookups_ < many) {
+        return FindInOrder(name);
+    }
+    if (byName_.empty()) {
+        SortByName();
+    }
+    const auto found = std::ranges::lower_bound(
+        byName_, name, IsBefore, [this](std::size_t i) { return SettingName(items_[i]); });
+    const bool isFound =
+        found != byName_.end() && SameText(SettingName(items_[*found]), name, Compare::IgnoreCase);
+    return isFound ? items_.begin() + static_cast<std::ptrdiff_t>(*found) : items_.end();
 }
 
 Block::Iterator Block::FindControl(const Block& control) const {
@@ -83,11 +118,12 @@ Text Block::LineBreak() const {
 
 void Block::Place(TextView name, Item setting, TextView after) {
     const auto present = FindSetting(name);
+    const auto before = FindSetting(after);
+    ItemsChanged();
     if (present != items_.end()) {
         items_[static_cast<std::size_t>(present - items_.begin())] = std::move(setting);
         return;
     }
-    const auto before = FindSetting(after);
     if (before != items_.end()) {
         items_.insert(before + 1, std::move(setting));
         return;
@@ -131,6 +167,7 @@ bool Block::Remove(TextView name) {
     if (found == items_.end()) {
         return false;
     }
+    ItemsChanged();
     items_.erase(found);
     return true;
 }
@@ -142,6 +179,7 @@ Block& Block::AddControl(TextView className, TextView name, const Block* before)
                                 layout::BeginLine(indentation, className, name) + LineBreak(),
                                 indentation + u"End" + LineBreak());
     Block& added = *control;
+    ItemsChanged();
     items_.insert(before == nullptr ? items_.end() : FindControl(*before), std::move(control));
     return added;
 }
@@ -151,6 +189,7 @@ bool Block::RemoveControl(const Block& control) {
     if (found == items_.end()) {
         return false;
     }
+    ItemsChanged();
     items_.erase(found);
     return true;
 }
@@ -160,6 +199,7 @@ bool Block::MoveControl(const Block& control, const Block* before) {
     if (found == items_.end()) {
         return false;
     }
+    ItemsChanged();
     if (&control != before) {
         const auto index = found - items_.begin();
         Item item = std::move(items_[static_cast<std::size_t>(index)]);
@@ -182,8 +222,19 @@ void Block::Rename(TextView name) {
 
 Block& Block::Append(std::unique_ptr<Block> block) {
     Block& added = *block;
+    ItemsChanged();
     items_.emplace_back(std::move(block));
     return added;
+}
+
+void Block::Append(std::unique_ptr<Property> property) {
+    ItemsChanged();
+    items_.emplace_back(std::move(property));
+}
+
+void Block::Append(std::unique_ptr<IdleLine> line) {
+    ItemsChanged();
+    items_.emplace_back(std::move(line));
 }
 
 }  // namespace lumenkit::forms

@@ -86,14 +86,20 @@ class Block {
 
     /// For the parser: appends the next item of the file.
     Block& Append(std::unique_ptr<Block> block);
-    void Append(std::unique_ptr<Property> property) { items_.emplace_back(std::move(property)); }
-    void Append(std::unique_ptr<IdleLine> line) { items_.emplace_back(std::move(line)); }
+    void Append(std::unique_ptr<Property> property);
+    void Append(std::unique_ptr<IdleLine> line);
     void Close(Text line) { close_ = std::move(line); }
 
  private:
     using Iterator = std::vector<Item>::const_iterator;
 
     Iterator FindSetting(TextView name) const;
+    Iterator FindInOrder(TextView name) const;
+    void SortByName() const;
+    void ItemsChanged() {
+        byName_.clear();
+        lookups_ = 0;
+    }
     Iterator FindControl(const Block& control) const;
     void Place(TextView name, Item setting, TextView after);
     Text InnerIndentation() const;
@@ -106,6 +112,10 @@ class Block {
     Text close_;
     Places places_;
     std::vector<Item> items_;
+    // The indices of the properties and groups, in the order of their names; empty if not known.
+    // Built when a block with many items is searched often.
+    mutable std::vector<std::size_t> byName_;
+    mutable std::size_t lookups_ = 0;  // since the items changed
 };
 
 }  // namespace lumenkit::forms

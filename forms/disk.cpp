@@ -2,13 +2,14 @@
 
 #include <algorithm>
 #include <cerrno>
-#include <fstream>
-#include <iterator>
 #include <system_error>
 
 #include <fcntl.h>
 
 #ifdef _WIN32
+#include <fstream>
+#include <iterator>
+
 #include <io.h>
 #include <sys/stat.h>
 #include <windows.h>
@@ -30,16 +31,6 @@ namespace fs = std::filesystem;
 Disk& Disk::System() {
     static Disk disk;
     return disk;
-}
-
-bool Disk::Read(const fs::path& path, std::string& bytes) {
-    std::error_code unknown;
-    std::ifstream stream(path, std::ios::binary);
-    if (!stream || fs::is_directory(path, unknown)) {
-        return false;
-    }
-    bytes.assign(std::istreambuf_iterator<char>(stream), {});
-    return !stream.bad();
 }
 
 bool Disk::Rename(const fs::path& from, const fs::path& to) {
@@ -66,7 +57,20 @@ bool Disk::Look(const fs::path& path, FileState& state) {
     state.isRegular = fs::is_regular_file(status);
     constexpr int writing = 2;
     state.isReadOnly = state.isRegular && _waccess(path.c_str(), writing) != 0;
+    if (state.isRegular) {
+        state.size = fs::file_size(path, error);
+    }
     return status.type() != fs::file_type::none;
+}
+
+bool Disk::Read(const fs::path& path, std::string& bytes) {
+    std::error_code unknown;
+    std::ifstream stream(path, std::ios::binary);
+    if (!stream || !fs::is_regular_file(path, unknown)) {
+        return false;
+    }
+    bytes.assign(std::istreambuf_iterator<char>(stream), {});
+    return !stream.bad();
 }
 
 bool Disk::List(const fs::path& folder, std::vector<fs::path>& names) {
@@ -170,6 +174,24 @@ bool IsPresentFile(int handle, const fs::path& path) {
            opened.st_dev == present.st_dev && opened.st_ino == present.st_ino;
 }
 
+// An open file descriptor.
+class Descriptor {
+ public:
+    explicit Descriptor(int handle) : handle_(handle) {}
+    ~Descriptor() {
+        if (handle_ >= 0) {
+            close(handle_);
+        }
+    }
+    Descriptor(const Descriptor&) = delete;
+    Descriptor& operator=(const Descriptor&) = delete;
+
+    int Get() const { return handle_; }
+
+ private:
+    int handle_;
+};
+
 }  // namespace
 
 bool Disk::Look(const fs::path& path, FileState& state) {
@@ -188,7 +210,34 @@ bool Disk::Look(const fs::path& path, FileState& state) {
     state.mode = found.st_mode & permissions;
     state.owner = found.st_uid;
     state.group = found.st_gid;
+    state.size = state.isRegular ? static_cast<std::uint64_t>(found.st_size) : 0;
     return true;
+}
+
+// With O_NONBLOCK, opening a pipe does not wait for its other end. The check of the open file
+// cannot be deceived by a file that is replaced.
+bool Disk::Read(const fs::path& path, std::string& bytes) {
+    const Descriptor file(
+        Uninterrupted([&] { return open(path.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC); }));
+    struct stat found = {};
+    if (file.Get() < 0 || fstat(file.Get(), &found) != 0 || !S_ISREG(found.st_mode)) {
+        return false;
+    }
+    constexpr std::size_t block = 65536;
+    bytes.resize(static_cast<std::size_t>(found.st_size) + 1);  // one more, to find the end
+    std::size_t count = 0;
+    for (;;) {
+        if (count == bytes.size()) {
+            bytes.resize(count + block);  // the file has grown
+        }
+        const ssize_t length = Uninterrupted(
+            [&] { return read(file.Get(), bytes.data() + count, bytes.size() - count); });
+        if (length <= 0) {
+            bytes.resize(count);
+            return length == 0;
+        }
+        count += static_cast<std::size_t>(length);
+    }
 }
 
 // The directory iterators of the library end the program if memory runs out.

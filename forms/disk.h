@@ -15,6 +15,7 @@ struct FileState {
     bool isRegular = false;
     /// No user has the permission to write the file, or this program has none.
     bool isReadOnly = false;
+    std::uint64_t size = 0;  ///< of a regular file, in bytes
     /// Zero on Windows.
     std::uint32_t mode = 0;
     std::uint32_t owner = 0;
@@ -45,6 +46,7 @@ class Disk {
 
     /// A path that leads to nothing is no failure.
     virtual bool Look(const std::filesystem::path& path, FileState& state);
+    /// Reads a whole regular file. Never waits for a pipe or a device.
     virtual bool Read(const std::filesystem::path& path, std::string& bytes);
 
     /// Appends the names of the files in a folder.

@@ -212,15 +212,18 @@ void Document::ReadCompanion(const CompanionReader& readCompanion) {
         offsets.push_back(placed.reference.offset);
     }
     std::optional<std::string> bytes;
-    if (readCompanion) {
-        bytes = readCompanion(companionName_);
+    std::string reason = "cannot be read";
+    try {
+        bytes = readCompanion ? readCompanion(companionName_) : std::nullopt;
+    } catch (const FormError& error) {
+        reason = error.Description();
     }
     isCompanionMissing_ = !bytes.has_value();
     companion_ = Companion(std::move(bytes).value_or(std::string()), std::move(offsets));
     if (isCompanionMissing_) {
         hasLostRecords_ = true;
         Warn(references.front().place,
-             companionName_ + " cannot be read; its texts and pictures are missing");
+             companionName_ + " " + reason + "; its texts and pictures are missing");
         return;
     }
     // Checks each record once, however many references share it.

@@ -26,8 +26,8 @@ namespace lumenkit::forms {
 
 /// Returns the bytes of the companion, given as a plain file name in the folder of the form, or
 /// nullopt if there is no such file. Called at most once, and only if the form refers to a
-/// companion. Its exceptions propagate to the caller of Parse. An empty function stands for no
-/// file.
+/// companion. A FormError that it throws counts as no file, and its description becomes a warning.
+/// Other exceptions propagate to the caller of Parse. An empty function stands for no file.
 using CompanionReader = std::function<std::optional<std::string>(const std::string& fileName)>;
 
 /// A form, control, page or document file (.frm, .ctl, .pag, .dob). Writing an unedited document

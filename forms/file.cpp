@@ -1,6 +1,5 @@
 #include "forms/file.h"
 
-#include <optional>
 #include <string>
 
 #include "forms/companion_path.h"
@@ -16,7 +15,15 @@ namespace {
 namespace fs = std::filesystem;
 
 std::string ReadBytes(const fs::path& path) {
+    FileState state;
     std::string bytes;
+    if (Disk::System().Look(path, state) && state.exists && !state.isRegular) {
+        throw FormError(NameOf(path), "is not a plain file");
+    }
+    if (state.size > largestFile) {
+        throw FormError(NameOf(path),
+                        "is larger than " + std::to_string(largestFile >> 20U) + " MB");
+    }
     if (!Disk::System().Read(path, bytes)) {
         throw FormError(NameOf(path), "cannot be read");
     }
@@ -38,12 +45,8 @@ Document Load(const fs::path& path, int codePage) {
         files.Remember(Resolved(file), bytes);
         return bytes;
     };
-    const auto readCompanion = [&](const std::string& name) -> std::optional<std::string> {
-        try {
-            return read(CompanionPath(path, name, [](const fs::path&) { return true; }));
-        } catch (const FormError&) {
-            return std::nullopt;
-        }
+    const auto readCompanion = [&](const std::string& name) {
+        return read(CompanionPath(path, name, [](const fs::path&) { return true; }));
     };
     Document document = Document::Parse(NameOf(path), read(path), readCompanion, codePage);
     document.Files() = std::move(files);

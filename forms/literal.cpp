@@ -7,8 +7,10 @@
 #include <string>
 #include <string_view>
 
+#include "forms/hexadecimal.h"
 #include "frame/checked_integer.h"
 #include "frame/numbers.h"
+#include "frame/utf8.h"
 
 namespace lumenkit::forms {
 
@@ -22,14 +24,8 @@ Text Quoted(TextView text) {
     return quoted += u'"';
 }
 
-Text Hexadecimal(std::uint32_t number, std::size_t digits) {
-    constexpr TextView digitUnits = u"0123456789ABCDEF";
-    Text text;
-    for (; number != 0 || text.size() < digits; number >>= 4) {
-        text += digitUnits[number & 0xF];
-    }
-    std::reverse(text.begin(), text.end());
-    return text;
+Text HexadecimalText(std::uint32_t number, std::size_t digits) {
+    return FromUtf8(Hexadecimal(number, digits));
 }
 
 Text WithLeadingZero(Text number) {
@@ -41,13 +37,15 @@ struct SourceWriter {
     Text operator()(const Text& text) const { return Quoted(text); }
     Text operator()(bool truth) const { return truth ? u"-1  'True" : u"0   'False"; }
     Text operator()(std::int32_t number) const { return Decimal(number); }
-    Text operator()(HexNumber number) const { return u"&H" + Hexadecimal(number.bits, 8) + u'&'; }
+    Text operator()(HexNumber number) const {
+        return u"&H" + HexadecimalText(number.bits, 8) + u'&';
+    }
     Text operator()(double number) const { return WithLeadingZero(Text(Trim(Str(number)))); }
     Text operator()(const Shortcut& shortcut) const { return shortcut.keys; }
     Text operator()(const Guid& guid) const { return guid.text; }
     Text operator()(const Reference& reference) const {
         return (reference.marked ? u"$" : u"") + Quoted(reference.file) + u':' +
-               Hexadecimal(reference.offset, 4);
+               HexadecimalText(reference.offset, 4);
     }
     Text operator()(const CompanionText& /*text*/) const { return {}; }
     Text operator()(const UnreadValue& value) const { return value.source; }

@@ -1,15 +1,14 @@
 #include "forms/save.h"
 
-#include <array>
+#include <cstddef>
 #include <cstdint>
 #include <optional>
-#include <random>
 #include <string>
 #include <string_view>
-#include <system_error>
 #include <utility>
 #include <vector>
 
+#include "forms/beside_file.h"
 #include "forms/companion_path.h"
 #include "forms/form_error.h"
 #include "forms/known_files.h"
@@ -20,69 +19,6 @@ namespace lumenkit::forms {
 namespace {
 
 namespace fs = std::filesystem;
-
-std::string Hexadecimal(std::uint64_t number) {
-    constexpr std::string_view digits = "0123456789abcdef";
-    constexpr int bitsOfADigit = 4;
-    std::string text(2 * sizeof number, '0');
-    for (char& digit : text) {
-        digit = digits[number & 0xF];
-        number >>= bitsOfADigit;
-    }
-    return {text.rbegin(), text.rend()};
-}
-
-constexpr std::string_view newEnd = ".new";
-constexpr std::string_view keptEnd = ".kept";
-
-// A file of the form, and the names of the files that a save creates in its folder. Their names
-// begin with a hash of the file's name without regard to case, because its own name may already
-// have the greatest length.
-struct Place {
-    Place(const fs::path& named, const std::string& contents)
-        : name(NameOf(named)),
-          path(Resolved(named)),
-          folder(path.parent_path()),
-          bytes(contents),
-          prefix(".lumenkit-" + Hexadecimal(Fingerprint::Of(Lower(path)).hash)),
-          lock(folder / (prefix + ".lock")) {}
-
-    fs::path NewName(std::string_view end) const {
-        std::random_device random;
-        constexpr int half = 32;
-        const std::uint64_t number = (std::uint64_t{random()} << half) | random();
-        return folder / (prefix + "-" + Hexadecimal(number) + std::string(end));
-    }
-
-    const std::string name;  // for error messages
-    const fs::path path;
-    const fs::path folder;
-    const std::string& bytes;
-    const std::string prefix;
-    const fs::path lock;
-
- private:
-    static std::string Lower(const fs::path& path) {
-        std::string lower = NameOf(path.filename());
-        for (char& letter : lower) {
-            letter =
-                'A' <= letter && letter <= 'Z' ? static_cast<char>(letter - 'A' + 'a') : letter;
-        }
-        return lower;
-    }
-};
-
-[[noreturn]] void RefuseToWrite(const Place& place) {
-    throw FormError(place.name, "cannot be written");
-}
-
-// Tries twice, because a virus scanner may hold a new file for a moment.
-void Remove(Disk& disk, const fs::path& path) {
-    if (!disk.Remove(path)) {
-        disk.Pause();
-        disk.Remove(path);
-    }
-}
 
 // Excludes other saves of the same file.
 class Lock {
@@ -110,73 +46,6 @@ class Lock {
     Disk& disk_;
     const fs::path& path_;
     Disk::Handle handle_ = -1;
-};
-
-// A file with a unique name in the folder of another file. The destructor removes it unless it was
-// renamed.
-class BesideFile {
- public:
-    BesideFile(Disk& disk, const Place& place) : disk_(disk), place_(place) {}
-    BesideFile(const BesideFile&) = delete;
-    BesideFile& operator=(const BesideFile&) = delete;
-    ~BesideFile() {
-        if (isThere_) {
-            Remove(disk_, path_);
-        }
-    }
-
-    void Write(std::string_view bytes, const FileState& old) {
-        const Disk::Opened file =
-            Make(newEnd, [&](const fs::path& path) { return disk_.Create(path, old.exists); });
-        if (file.outcome != Disk::Outcome::Done) {
-            RefuseToWrite(place_);
-        }
-        const bool isWritten = disk_.Write(file.handle, bytes) &&
-                               (!old.exists || disk_.KeepAttributes(file.handle, old)) &&
-                               disk_.Flush(file.handle);
-        if (!disk_.Close(file.handle) || !isWritten) {
-            RefuseToWrite(place_);
-        }
-    }
-    // Gives the old file a second name. Copies it if the file system has no second names.
-    void Keep(std::string_view oldBytes, const FileState& old) {
-        const Disk::Opened linked = Make(keptEnd, [&](const fs::path& path) {
-            return Disk::Opened{disk_.Link(place_.path, path)};
-        });
-        if (linked.outcome != Disk::Outcome::Done) {
-            Write(oldBytes, old);
-        }
-    }
-
-    // The following functions allocate no memory.
-    bool TakePlace() {
-        if (!disk_.Rename(path_, place_.path)) {
-            return false;
-        }
-        isThere_ = false;
-        disk_.FlushFolder(place_.folder);
-        return true;
-    }
-    void Leave() { isThere_ = false; }
-    const fs::path& Path() const { return path_; }
-
- private:
-    template <typename Creation>
-    Disk::Opened Make(std::string_view end, const Creation& create) {
-        constexpr int mostTries = 100;
-        Disk::Opened made{Disk::Outcome::Taken};
-        for (int tries = 0; made.outcome == Disk::Outcome::Taken && tries < mostTries; ++tries) {
-            path_ = place_.NewName(end);
-            made = create(std::as_const(path_));
-        }
-        isThere_ = made.outcome == Disk::Outcome::Done;
-        return made;
-    }
-
-    Disk& disk_;
-    const Place& place_;
-    fs::path path_;
-    bool isThere_ = false;
 };
 
 // Whether a file is left over from a save of `place` by a program that was killed. Call it only
@@ -227,9 +96,9 @@ class Saving {
 
     void Run() {
         // Tells a read-only file as such even if its folder is read-only too.
-        Look(form_);
+        LookAt(disk_, form_);
         if (companion_) {
-            Look(*companion_);
+            LookAt(disk_, *companion_);
         }
         const Lock formLock(disk_, form_);
         std::optional<Lock> companionLock;
@@ -248,18 +117,8 @@ class Saving {
         std::string bytes;
     };
 
-    FileState Look(const Place& place) const {
-        FileState state;
-        if (!disk_.Look(place.path, state) || (state.exists && !state.isRegular)) {
-            RefuseToWrite(place);
-        }
-        if (state.isReadOnly) {
-            throw FormError(place.name, "is read-only");
-        }
-        return state;
-    }
     Present Read(const Place& place) const {
-        Present present{Look(place), {}};
+        Present present{LookAt(disk_, place), {}};
         if (present.state.exists && !disk_.Read(place.path, present.bytes)) {
             throw FormError(place.name, "cannot be read");
         }
@@ -268,12 +127,12 @@ class Saving {
 
     void Replace() {
         BesideFile newForm(disk_, form_);
-        newForm.Write(bytes_.form, Look(form_));
+        newForm.Write(bytes_.form, LookAt(disk_, form_));
         std::optional<BesideFile> newCompanion;
         std::optional<BesideFile> keptCompanion;
         if (companion_) {
             newCompanion.emplace(disk_, *companion_);
-            newCompanion->Write(bytes_.companion, Look(*companion_));
+            newCompanion->Write(bytes_.companion, LookAt(disk_, *companion_));
         }
         // The following comparison comes as late as possible: programs without the lock may write
         // the files too.

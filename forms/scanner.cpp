@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "forms/hexadecimal.h"
 #include "frame/utf8.h"
 
 namespace lumenkit::forms {
@@ -17,11 +18,6 @@ bool IsBlank(char16_t unit) {
 }
 bool BelongsToWord(char16_t unit) {
     return !IsControl(unit) && unit != blank && TextView(u"=\"'").find(unit) == TextView::npos;
-}
-
-std::string NameOfControl(char16_t unit) {
-    constexpr std::string_view digits = "0123456789ABCDEF";
-    return {'U', '+', '0', '0', digits[unit >> 4U], digits[unit & 0xFU]};
 }
 
 }  // namespace
@@ -87,7 +83,7 @@ std::string Scanner::Found() const {
     }
     const char16_t first = Peek();
     if (IsControl(first)) {
-        return first == u'\t' ? "a tab" : NameOfControl(first);
+        return first == u'\t' ? "a tab" : UnitName(first);
     }
     if (first == blank) {
         return "a blank";

@@ -6,23 +6,11 @@
 #include <variant>
 
 #include "forms/companion.h"
+#include "forms/hexadecimal.h"
 #include "forms/literal.h"
 #include "forms/position.h"
 
 namespace lumenkit::forms {
-
-namespace {
-
-std::string UnitName(char16_t unit) {
-    constexpr std::string_view digits = "0123456789ABCDEF";
-    std::string name = "U+";
-    for (int shift = 12; shift >= 0; shift -= 4) {
-        name += digits[unit >> shift & 0xF];
-    }
-    return name;
-}
-
-}  // namespace
 
 FormWriter::FormWriter(const std::string& name, const Encoding& encoding,
                        WrittenCompanion companion)

@@ -50,9 +50,8 @@ bool HasDisplay() {
 
 void DrawOffscreen() {
     qInstallMessageHandler(TellOnlyFailures);
-    if (!qEnvironmentVariableIsSet(platformVariable)) {
-        qputenv(platformVariable, "offscreen");
-    }
+    qputenv(platformVariable, "offscreen");
+    qunsetenv("QT_QPA_PLATFORMTHEME");  // a desktop's theme may ask for its display
 }
 
 void DrawAt(double scale) {

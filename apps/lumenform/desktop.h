@@ -22,7 +22,7 @@ struct ApplicationArguments {
 /// Returns whether there is a display to show windows on.
 bool HasDisplay();
 
-/// Uses Qt's platform plugin without a screen, unless QT_QPA_PLATFORM is set.
+/// Uses Qt's platform plugin without a screen, whatever QT_QPA_PLATFORM says.
 void DrawOffscreen();
 
 /// Draws with `scale` device pixels per pixel.

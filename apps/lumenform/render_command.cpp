@@ -10,6 +10,7 @@
 #include "apps/lumenform/commands.h"
 #include "apps/lumenform/desktop.h"
 #include "apps/lumenform/form_view/form_view.h"
+#include "apps/lumenform/picture_file.h"
 #include "apps/lumenform/rendered_design.h"
 #include "apps/lumenform/warnings.h"
 #include "forms/encoding.h"
@@ -43,10 +44,9 @@ void RequireRoom(const Options& options, QSize size) {
 }
 
 QPixmap FormPicture(const Options& options, const qt::Context& context, forms::Document& document) {
-    FormView view(context, document, Mode::Run);
+    QWidget window;  // without the size hints of a form; as its parent, it must outlive the view
+    FormView view(context, document, Mode::Run, &window);
     PrintWarnings(document);
-    QWidget window;  // without the size hints of a form
-    view.setParent(&window);
     window.resize(view.sizeHint());
     RequireRoom(options, view.sizeHint());
     window.show();
@@ -55,32 +55,43 @@ QPixmap FormPicture(const Options& options, const qt::Context& context, forms::D
         focus->clearFocus();  // no caret in the picture
     }
     QPixmap picture = view.grab();
-    view.setParent(nullptr);
+    ShowDeferredMessages();
     return picture;
 }
 
-QPixmap Picture(const Options& options, const qt::Context& context) {
+QPixmap Picture(const Options& options, const qt::Context& context, const PictureFile& file) {
+    const auto requireOther = [&](const forms::Document& document) {
+        file.RequireOtherThanCompanion(options.form, document);
+    };
     if (options.design) {
-        return DesignPicture(context, QString::fromLocal8Bit(options.form), options.codePage,
-                             options.page);
+        return DesignPicture(context,
+                             {.form = QString::fromLocal8Bit(options.form),
+                              .codePage = options.codePage,
+                              .page = options.page},
+                             requireOther);
     }
     forms::Document document = forms::Load(options.form, options.codePage);
+    requireOther(document);
     return FormPicture(options, context, document);
 }
 
 int Render(const Options& options) {
+    const PictureFile file(options.picture);
+    file.RequireOtherThan(options.form);
     DrawOffscreen();
     DrawAt(options.scale);
     ApplicationArguments arguments;
     const QApplication application(arguments.count, arguments.values.data());
     UseOwnStyle(options.dark);
     cli::ConsoleHost console;
-    const qt::Context context{
-        .classes = lumenkitClasses, .application = console, .interaction = console};
-    const QPixmap picture = Picture(options, context);
-    if (!picture.save(QString::fromLocal8Bit(options.picture), "PNG")) {
-        throw std::runtime_error("cannot write " + options.picture);
-    }
+    const qt::Context context{.classes = lumenkitClasses,
+                              .application = console,
+                              .interaction = console,
+                              .errors = [&](const RuntimeError& error) {
+                                  console.MsgBox(error.Description(), host::MessageStyle::Critical,
+                                                 std::nullopt);
+                              }};
+    file.Write(Picture(options, context, file));
     return console.HasReported() ? cli::exitReported : cli::exitDone;
 }
 
@@ -94,7 +105,8 @@ void AddRenderCommand(CLI::App& program, int& status) {
                         "screen");
     command
         ->add_option("-o,--output", options->picture,
-                     "The picture, a PNG file; an existing file is replaced")
+                     "The picture, a PNG file whose name ends in .png; an existing file is "
+                     "replaced")
         ->required();
     command->add_option("--scale", options->scale, "Scale factor of width and height")
         ->capture_default_str()

@@ -48,31 +48,38 @@ void PutIntoTheMiddle(QPixmap& picture, const QPixmap& over) {
 
 }  // namespace
 
-QPixmap DesignPicture(const qt::Context& context, const QString& form, int codePage, bool page) {
+void ShowDeferredMessages() {
+    QCoreApplication::sendPostedEvents();
+}
+
+QPixmap DesignPicture(const qt::Context& context, const DrawnDesign& drawn,
+                      const std::function<void(const forms::Document&)>& opened) {
     const QTemporaryDir folder;  // the picture does not depend on the user's settings
     QSettings settings(folder.filePath(QStringLiteral("settings.ini")), QSettings::IniFormat);
     DesignWindow window({.classes = context.classes,
                          .application = context.application,
                          .interaction = context.interaction,
                          .settings = settings,
-                         .codePage = codePage});
-    if (!form.isEmpty()) {
-        window.Load(form);
+                         .codePage = drawn.codePage});
+    if (!drawn.form.isEmpty()) {
+        window.Load(drawn.form);
+        opened(window.Bench()->GetDesign().Document());
         PrintWarnings(window.Bench()->GetDesign().Document());
-        SelectFirst(*window.Bench(), page);
+        SelectFirst(*window.Bench(), drawn.page);
     }
     constexpr QSize size(1240, 780);
     window.resize(size);  // there is no screen to limit it
     window.show();
     QApplication::processEvents();
     QPixmap picture = window.grab();
-    if (page && window.Bench() != nullptr) {
+    if (drawn.page && window.Bench() != nullptr) {
         if (PageDialog* const dialog = window.Bench()->Properties().EditWithPage()) {
             QApplication::processEvents();
             PutIntoTheMiddle(picture, WithTitleBar(*dialog, dialog->grab()));
             dialog->reject();
         }
     }
+    ShowDeferredMessages();
     return picture;
 }
 

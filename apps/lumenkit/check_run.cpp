@@ -1,6 +1,8 @@
 #include "apps/lumenkit/check_run.h"
 
 #include <iostream>
+#include <new>
+#include <string>
 #include <utility>
 
 #include "apps/command_line/exit_status.h"
@@ -71,6 +73,9 @@ CheckRun::Result CheckRun::Check(const std::string& file) const {
         return {{}, FileError{error.File(), error.Place(), error.Description(), error.what()}};
     } catch (const UnusableInput& error) {
         return {{}, FileError{file, {}, error.what(), error.what()}};
+    } catch (const std::bad_alloc&) {
+        const std::string description = "there is not enough memory to check it";
+        return {{}, FileError{file, {}, description, file + ": " + description}};
     }
 }
 

@@ -7,6 +7,7 @@
 #include <string_view>
 #include <system_error>
 
+#include "forms/file.h"
 #include "frame/utf8.h"
 
 namespace lumenkit::cli {
@@ -22,6 +23,10 @@ std::string ReadAll(std::FILE* file, const std::string& name) {
     std::array<char, 65536> block{};
     while (const std::size_t count = std::fread(block.data(), 1, block.size(), file)) {
         bytes.append(block.data(), count);
+        if (bytes.size() > forms::largestFile) {
+            throw UnusableInput(name + ": is larger than " +
+                                std::to_string(forms::largestFile >> 20U) + " MB");
+        }
     }
     if (std::ferror(file) != 0) {
         throw UnusableInput("cannot read " + name + ": " + LastError());

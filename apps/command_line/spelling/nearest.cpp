@@ -47,8 +47,10 @@ TextView Nearest(TextView written, std::span<const TextView> words) {
     TextView nearest;
     std::size_t fewest = longestWord;
     for (const TextView word : words) {
-        if (trimmed.size() > longestWord || word.size() > longestWord) {
-            continue;
+        const std::size_t longer = std::max(trimmed.size(), word.size());
+        const std::size_t surplus = longer - std::min(trimmed.size(), word.size());
+        if (longer > longestWord || surplus > Forgiven(word)) {
+            continue;  // each letter too many or too few is a slip
         }
         const std::size_t slips = Slips(trimmed, LCase(word));
         if (slips <= Forgiven(word) && slips < fewest) {

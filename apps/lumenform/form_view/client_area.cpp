@@ -17,20 +17,31 @@ namespace {
 // Among the option buttons of a container, Tab stops at the selected one, or at the first if none
 // is selected. The focus policies of the buttons are no guide: they depend on where the focus was
 // last.
-bool IsStopOfGroup(const QRadioButton& button) {
-    const auto group =
-        button.parentWidget()->findChildren<QRadioButton*>(QString(), Qt::FindDirectChildrenOnly);
-    const bool isLeader =
-        group.first() == &button && std::ranges::none_of(group, &QRadioButton::isChecked);
-    return button.focusPolicy() != Qt::NoFocus && (button.isChecked() || isLeader);
-}
+class OptionGroups {
+ public:
+    bool IsStop(const QRadioButton& button) {
+        const QWidget* const container = button.parentWidget();
+        auto known = groups_.find(container);
+        if (known == groups_.end()) {
+            const auto buttons =
+                container->findChildren<QRadioButton*>(QString(), Qt::FindDirectChildrenOnly);
+            const bool isNoneChecked = std::ranges::none_of(buttons, &QRadioButton::isChecked);
+            known = groups_.emplace(container, isNoneChecked ? buttons.first() : nullptr).first;
+        }
+        return button.focusPolicy() != Qt::NoFocus &&
+               (button.isChecked() || known->second == &button);
+    }
 
-bool TakesTab(const QWidget& widget) {
+ private:
+    std::map<const QWidget*, const QRadioButton*> groups_;  // the leader if none is selected
+};
+
+bool TakesTab(const QWidget& widget, OptionGroups& groups) {
     if (!widget.isVisible() || !widget.isEnabled() || widget.focusProxy() != nullptr) {
         return false;
     }
     if (const auto* button = qobject_cast<const QRadioButton*>(&widget)) {
-        return IsStopOfGroup(*button);
+        return groups.IsStop(*button);
     }
     return (widget.focusPolicy() & Qt::TabFocus) == Qt::TabFocus;
 }
@@ -58,9 +69,10 @@ ClientArea::Route ClientArea::FindRoute() const {
     for (std::size_t turn = 0; turn < order.size(); ++turn) {
         route.turns.emplace(&order[turn]->Widget(), turn);
     }
+    OptionGroups groups;
     for (QWidget* widget = nextInFocusChain(); widget != this;
          widget = widget->nextInFocusChain()) {
-        if (isAncestorOf(widget) && TakesTab(*widget)) {
+        if (isAncestorOf(widget) && TakesTab(*widget, groups)) {
             const std::size_t turn = route.TurnOf(widget);
             if (turn < order.size() && order[turn]->TabStop()) {
                 route.stops.push_back({turn, widget});

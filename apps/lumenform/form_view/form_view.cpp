@@ -4,14 +4,19 @@
 #include <QLabel>
 #include <QVBoxLayout>
 #include <algorithm>
+#include <cstdint>
 #include <map>
+#include <string>
 #include <utility>
 
 #include "apps/lumenform/form_view/form_size.h"
 #include "apps/lumenform/form_view/make_control.h"
 #include "apps/lumenform/form_view/menu_bar.h"
+#include "apps/lumenform/form_view/painting_room.h"
 #include "forms/font_description.h"
+#include "forms/form_error.h"
 #include "forms/naming_labels.h"
+#include "frame/utf8.h"
 #include "runtime/qt/mnemonic.h"
 #include "runtime/qt/pixels.h"
 #include "runtime/qt/qt_text.h"
@@ -36,6 +41,17 @@ void Stack(const std::vector<LiveControl*>& controls) {
                 control->Widget().lower();
             }
         }
+    }
+}
+
+void RequireRoomToPaint(const forms::Document& document, const forms::Block& container,
+                        std::size_t count) {
+    const std::size_t most = MakeRoomToPaint(count);
+    if (count > most) {
+        throw forms::FormError(document.Name(), container.NamePlace(),
+                               ToUtf8(container.Name()) + ": has " + std::to_string(count) +
+                                   " controls; at most " + std::to_string(most) +
+                                   " can be shown in one container");
     }
 }
 
@@ -101,8 +117,10 @@ FormView::~FormView() {
 }
 
 void FormView::AddControls(const forms::Block& block, const Surroundings& around) {
+    const std::vector<forms::Block*> controls = block.Controls();
+    RequireRoomToPaint(stage_.document, block, controls.size());
     std::vector<LiveControl*> added;
-    for (forms::Block* inner : block.Controls()) {
+    for (forms::Block* inner : controls) {
         if (!IsMenu(*inner)) {
             controls_.push_back(MakeControl(stage_, around, *inner));
             added.push_back(controls_.back().get());
@@ -129,21 +147,26 @@ void FormView::NameFields() {
 
 // Makes the mnemonic of a label move the focus to the next control in tab order.
 void FormView::MarkLabels() {
+    struct Stop {
+        std::int32_t turn;
+        QWidget* widget;
+    };
     const auto turnOf = [](const LiveControl& control) { return control.TabIndex().value_or(-1); };
+    std::vector<Stop> stops;
+    for (const auto& control : controls_) {
+        if (QWidget* const widget = FirstStop(*control)) {
+            stops.push_back({turnOf(*control), widget});
+        }
+    }
+    std::ranges::stable_sort(stops, {}, &Stop::turn);
     for (const auto& control : controls_) {
         auto* const label = qobject_cast<QLabel*>(&control->Widget());
         if (label == nullptr || !qt::HasMnemonic(label->text())) {
             continue;
         }
-        const LiveControl* next = nullptr;
-        for (const auto& other : controls_) {
-            const bool follows = turnOf(*other) > turnOf(*control) && FirstStop(*other) != nullptr;
-            if (follows && (next == nullptr || turnOf(*other) < turnOf(*next))) {
-                next = other.get();
-            }
-        }
-        if (next != nullptr) {
-            label->setBuddy(FirstStop(*next));
+        const auto next = std::ranges::upper_bound(stops, turnOf(*control), {}, &Stop::turn);
+        if (next != stops.end()) {
+            label->setBuddy(next->widget);
         } else {
             label->setText(qt::WithoutMnemonic(label->text()));
         }

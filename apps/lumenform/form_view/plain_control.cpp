@@ -1,5 +1,6 @@
 #include "apps/lumenform/form_view/plain_control.h"
 
+#include "apps/lumenform/form_view/backdrop.h"
 #include "apps/lumenform/form_view/saved_place.h"
 #include "apps/lumenform/form_view/shapes.h"
 #include "frame/runtime_error.h"
@@ -57,6 +58,7 @@ void PlainControl::SetUp(const Stage& stage, const qt::Font& font) {
     widget_->setGeometry(Covered());
     ApplyFont(*widget_, font);
     ApplyColors(*widget_, colors_, kind_.usual);
+    PaintOwnBackground(*widget_);
     widget_->setEnabled(Reader().Flag(u"Enabled", true));
     widget_->setVisible(design || (kind_.isSeen && Reader().Flag(u"Visible", true)));
     if (const Text tip = Reader().String(u"ToolTipText"); !tip.empty()) {

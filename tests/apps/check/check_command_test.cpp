@@ -141,6 +141,26 @@ TEST(CheckCommand, SaysWhichInputsCannotBeRead) {
     EXPECT_EQ(bytes.status, 2);
 }
 
+TEST_F(CheckFolder, GoesOnBehindWhatIsNoFileOrTooLarge) {
+    const std::string pipe = (folder / "pipe.frm").string();
+    const std::string large = (folder / "large.frm").string();
+    const std::string caption = (folder / "large.txt").string();
+    ASSERT_EQ(mkfifo(pipe.c_str(), S_IRUSR | S_IWUSR), 0);
+    for (const std::string& file : {large, caption}) {
+        std::ofstream(file, std::ios::binary) << "VERSION";
+        fs::resize_file(file, std::uintmax_t{3} << 30U);  // takes no room on the disk
+    }
+    const Outcome forms = RunProgram("check " + pipe + ' ' + large + ' ' + here + "forms/good.frm");
+    EXPECT_EQ(forms.errors, "lumenkit: " + pipe + ": is not a plain file\nlumenkit: " + large +
+                                ": is larger than 256 MB\n");
+    EXPECT_EQ(forms.output, "1 file checked: 0 findings, 2 errors\n");
+    EXPECT_EQ(forms.status, 2);
+    const Outcome captions =
+        RunProgram("check --caption " + caption + ' ' + here + "captions/good.txt");
+    EXPECT_EQ(captions.errors, "lumenkit: " + caption + ": is larger than 256 MB\n");
+    EXPECT_EQ(captions.output, "1 file checked: 0 findings, 1 error\n");
+}
+
 TEST(CheckCommand, SaysThatFindingsCannotBeWritten) {
     for (const std::string arguments : {"", "--json "}) {
         const Outcome outcome =

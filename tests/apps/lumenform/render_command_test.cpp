@@ -1,6 +1,7 @@
 // "lumenform render", and the messages of the program when it fails.
 #include <QByteArray>
 #include <QImage>
+#include <algorithm>
 #include <array>
 #include <filesystem>
 #include <map>
@@ -10,6 +11,8 @@
 
 #include "tests/apps/lumenform/loaded_view.h"
 #include "tests/apps/program.h"
+#include "tests/support/file_bytes.h"
+#include "tests/support/file_size_limit.h"
 
 namespace lumenkit::testing {
 namespace {
@@ -101,7 +104,125 @@ TEST_F(RenderCommand, SaysWhatItCannotReadOrWrite) {
     const Outcome unwritable =
         RunProgram("render " + (sampleForms / "label.frm").string() + " -o /no/such/picture.png");
     EXPECT_EQ(unwritable.status, 2);
-    EXPECT_EQ(unwritable.errors, "lumenform: cannot write /no/such/picture.png\n");
+    EXPECT_EQ(unwritable.errors,
+              "lumenform: /no/such/picture.png: cannot be written: No such file or directory\n");
+}
+
+TEST_F(RenderCommand, SaysTheErrorsOfDrawing) {
+    const std::string form = FileWith(
+        "VERSION 5.00\nBegin VB.Form F\n   Begin lumenkit.VLabel L\n"
+        "      Caption = \"|size:5000|x\"\n   End\nEnd\n");
+    for (const char* options : {"", "--design"}) {
+        const Outcome drawn = Render(form, options);
+        EXPECT_EQ(drawn.status, 1) << options;
+        EXPECT_THAT(drawn.errors, HasSubstr("LUMENKIT ERROR\n")) << options;
+        EXPECT_THAT(drawn.errors, HasSubstr("Error Code =380")) << options;
+        EXPECT_TRUE(fs::exists(picture_));
+    }
+}
+
+TEST_F(RenderCommand, SaysThatAFormIsTooLarge) {
+    const std::string form = FileWith(
+        "VERSION 5.00\nBegin VB.Form F\n   ClientHeight = 240000\n   ClientWidth = 240000\n"
+        "End\n");
+    const Outcome outcome = Render(form);
+    EXPECT_EQ(outcome.status, 2);
+    EXPECT_EQ(outcome.errors,
+              "lumenform: " + form + ": the picture would have more than 100 million pixels\n");
+    EXPECT_FALSE(fs::exists(picture_));
+}
+
+TEST_F(RenderCommand, NeedsNoDisplay) {
+    const QByteArray platform = qgetenv("QT_QPA_PLATFORM");
+    const QByteArray display = qgetenv("DISPLAY");
+    const QByteArray wayland = qgetenv("WAYLAND_DISPLAY");
+    qputenv("DISPLAY", ":4567");
+    qputenv("WAYLAND_DISPLAY", "no-such-session");
+    for (const char* value : {"xcb", "wayland", "no-such-platform"}) {
+        qputenv("QT_QPA_PLATFORM", value);
+        EXPECT_FALSE(Drawn("label.frm").isNull()) << value;
+    }
+    qputenv("QT_QPA_PLATFORM", platform);
+    display.isEmpty() ? qunsetenv("DISPLAY") : qputenv("DISPLAY", display);
+    wayland.isEmpty() ? qunsetenv("WAYLAND_DISPLAY") : qputenv("WAYLAND_DISPLAY", wayland);
+}
+
+TEST_F(RenderCommand, ReplacesNoFileOfTheForm) {
+    const fs::path folder = LUMENKIT_BINARY_DIR "/lumenform_render_test_files";
+    fs::remove_all(folder);
+    fs::create_directories(folder);
+    fs::copy_file(sampleForms / "memo.frm", folder / "memo.frm");
+    fs::copy_file(sampleForms / "memo.frx", folder / "memo.frx");
+    fs::create_symlink("memo.frm", folder / "form.png");
+    fs::create_hard_link(folder / "memo.frm", folder / "same.PNG");
+    fs::create_symlink("memo.frx", folder / "companion.png");
+    fs::create_symlink("/dev/full", folder / "device.png");
+    const std::string form = FileBytes(folder / "memo.frm");
+    const std::string companion = FileBytes(folder / "memo.frx");
+    const auto refusal = [&](const std::string& picture, const std::string& options = "") {
+        const std::string path = (folder / picture).string();
+        const Outcome outcome =
+            RunProgram("render " + (folder / "memo.frm").string() + " -o " + path + ' ' + options);
+        EXPECT_EQ(outcome.status, 2) << picture;
+        const std::string start = "lumenform: " + path + ": ";
+        EXPECT_THAT(outcome.errors, StartsWith(start));
+        return outcome.errors.substr(std::min(start.size(), outcome.errors.size()));
+    };
+    const std::string isForm = "is the form itself; it is not replaced by a picture\n";
+    const std::string isCompanion =
+        "is the companion of the form; it is not replaced by a picture\n";
+    EXPECT_EQ(refusal("memo.frm"), "the name of a picture ends in .png\n");
+    EXPECT_EQ(refusal("picture.jpg"), "the name of a picture ends in .png\n");
+    EXPECT_EQ(refusal("form.png"), isForm);
+    EXPECT_EQ(refusal("same.PNG"), isForm);
+    EXPECT_EQ(refusal("../lumenform_render_test_files/form.png", "--design"), isForm);
+    EXPECT_EQ(refusal("companion.png"), isCompanion);
+    EXPECT_EQ(refusal("companion.png", "--design"), isCompanion);
+    EXPECT_EQ(refusal("device.png"), "is not a plain file\n");
+    EXPECT_EQ(FileBytes(folder / "memo.frm"), form);
+    EXPECT_EQ(FileBytes(folder / "memo.frx"), companion);
+    fs::remove_all(folder);
+}
+
+TEST_F(RenderCommand, AFullDiskLeavesTheOldPicture) {
+    ASSERT_EQ(Render((sampleForms / "label.frm").string()).status, 0);
+    const std::string old = FileBytes(picture_);
+    const FileSizeLimit limit(512);
+    const Outcome outcome = Render((sampleForms / "memo.frm").string());
+    EXPECT_EQ(outcome.status, 2);
+    EXPECT_EQ(outcome.errors, "lumenform: " + picture_ + ": cannot be written: File too large\n");
+    EXPECT_EQ(FileBytes(picture_), old);
+}
+
+// Qt paints siblings by recursion. The usual stack has room for fewer labels.
+TEST_F(RenderCommand, DrawsTensOfThousandsOfControlsInOneContainer) {
+    std::string labels;
+    constexpr int count = 30000;
+    for (int i = 0; i < count; ++i) {
+        labels += "Begin VB.Label L\nHeight = 60\nLeft = " + std::to_string(i % 200 * 90) +
+                  "\nTop = " + std::to_string(i / 200 * 75) + "\nWidth = 75\n" +
+                  (i == count - 1 ? "BackColor = 255\n" : "") + "End\n";
+    }
+    const Outcome drawn =
+        Render(FileWith("VERSION 5.00\nBegin VB.Form F\nClientHeight = 11250\n"
+                        "ClientWidth = 18000\n" +
+                        labels + "End\n"));
+    EXPECT_EQ(drawn.status, 0);
+    EXPECT_EQ(drawn.errors, "");
+    EXPECT_EQ(QImage(QString::fromStdString(picture_)).pixelColor(1196, 747), QColor(255, 0, 0));
+}
+
+TEST_F(RenderCommand, SaysThatAContainerHasTooManyControls) {
+    std::string components;
+    for (int i = 0; i <= 100'000; ++i) {
+        components += "Begin A B\nEnd\n";
+    }
+    const std::string form = FileWith("VERSION 5.00\nBegin VB.Form F\n" + components + "End\n");
+    const Outcome outcome = Render(form);
+    EXPECT_EQ(outcome.status, 2);
+    EXPECT_EQ(outcome.errors, "lumenform: " + form +
+                                  ":2:15: F: has 100001 controls; at most 100000 can be shown in "
+                                  "one container\n");
 }
 
 TEST_F(RenderCommand, RefusesWrongArguments) {

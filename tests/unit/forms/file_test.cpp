@@ -6,6 +6,7 @@
 #include <gmock/gmock.h>
 #include <sys/stat.h>
 
+#include "forms/disk.h"
 #include "forms/literal.h"
 #include "tests/unit/forms/sample_forms.h"
 
@@ -84,7 +85,45 @@ TEST_F(FileTest, ReplacesBothFilesAndLeavesNothingElse) {
 TEST_F(FileTest, LoadingTellsWhatCannotBeRead) {
     const fs::path missing = folder / "missing.frm";
     EXPECT_EQ(LoadError(missing), missing.string() + ": cannot be read");
-    EXPECT_EQ(LoadError(folder), folder.string() + ": cannot be read");
+    EXPECT_EQ(LoadError(folder), folder.string() + ": is not a plain file");
+}
+
+// A pipe without a writer would keep its reader waiting for ever.
+TEST_F(FileTest, NothingButAPlainFileIsRead) {
+    const fs::path pipe = folder / "pipe.frm";
+    const fs::path link = folder / "link.frm";
+    ASSERT_EQ(mkfifo(pipe.c_str(), S_IRUSR | S_IWUSR), 0);
+    fs::create_symlink(pipe, link);
+    for (const fs::path& path : {pipe, link, fs::path("/dev/zero")}) {
+        EXPECT_EQ(LoadError(path), path.string() + ": is not a plain file");
+    }
+    std::string bytes;
+    EXPECT_FALSE(Disk::System().Read(pipe, bytes));
+    EXPECT_FALSE(Disk::System().Read(folder, bytes));
+
+    WriteFile(folder / "memo.frm", Sample("memo.frm").form);
+    fs::rename(pipe, folder / "memo.frx");
+    EXPECT_THAT(Load(folder / "memo.frm").Warnings(),
+                ElementsAre(Warning{{33, 27},
+                                    "memo.frx is not a plain file; its texts and pictures are "
+                                    "missing"}));
+}
+
+// Sparse files, which take no room on the disk.
+TEST_F(FileTest, ATooLargeFileIsNotRead) {
+    const fs::path form = folder / "memo.frm";
+    const fs::path companion = folder / "memo.frx";
+    WriteFile(form, "");
+    fs::resize_file(form, largestFile + 1);
+    EXPECT_EQ(LoadError(form), form.string() + ": is larger than 256 MB");
+
+    WriteFile(form, Sample("memo.frm").form);
+    WriteFile(companion, "");
+    fs::resize_file(companion, largestFile + 1);
+    EXPECT_THAT(Load(form).Warnings(),
+                ElementsAre(Warning{{33, 27},
+                                    "memo.frx is larger than 256 MB; its texts and pictures are "
+                                    "missing"}));
 }
 
 std::vector<Warning> WarningsIn(const fs::path& path) {
@@ -196,7 +235,7 @@ TEST_F(FileTest, ACompanionThatCannotBeWrittenLeavesTheOldForm) {
     WriteFile(path, "old");
     fs::create_directories(folder / "memo.frx" / "in the way");
     EXPECT_EQ(SaveError(Sample("memo.frm").Parse(), path),
-              (folder / "memo.frx").string() + ": cannot be written");
+              (folder / "memo.frx").string() + ": is not a plain file");
     EXPECT_EQ(ReadFile(path), "old");
     EXPECT_THAT(Names(), ElementsAre("memo.frm", "memo.frx"));
 }
@@ -372,7 +411,8 @@ TEST_F(FileTest, AReadOnlyFileIsNotReplaced) {
 TEST_F(FileTest, OnlyAPlainFileIsReplaced) {
     const fs::path pipe = folder / "memo.frm";
     ASSERT_EQ(mkfifo(pipe.c_str(), S_IRUSR | S_IWUSR), 0);
-    EXPECT_EQ(SaveError(Sample("empty.frm").Parse(), pipe), pipe.string() + ": cannot be written");
+    EXPECT_EQ(SaveError(Sample("empty.frm").Parse(), pipe),
+              pipe.string() + ": is not a plain file");
     EXPECT_TRUE(fs::is_fifo(pipe));
 }
 

@@ -1,6 +1,7 @@
 #include "apps/lumenform/design/properties/plain_properties.h"
 
 #include <algorithm>
+#include <set>
 #include <utility>
 
 #include "apps/lumenform/design/model/arrange.h"
@@ -117,12 +118,6 @@ ObjectProperty UnknownProperty(FormDesign& design, forms::Block& block,
     return MakeProperty(design, block, {.name = property.Name(), .type = TypeOf(property)});
 }
 
-bool IsIn(std::span<const ObjectProperty> properties, TextView name) {
-    return std::ranges::any_of(properties, [&](const ObjectProperty& property) {
-        return SameText(property.name, name, Compare::IgnoreCase);
-    });
-}
-
 ObjectProperty StatedProperty(FormDesign& design, forms::Block& block, TextView name,
                               const Inherited& inherited) {
     if (const UsualProperty* known = FindCommonProperty(name)) {
@@ -137,11 +132,13 @@ ObjectProperty StatedProperty(FormDesign& design, forms::Block& block, TextView 
 std::vector<ObjectProperty> PropertiesIn(FormDesign& design, forms::Block& block,
                                          const Inherited& inherited) {
     std::vector<ObjectProperty> properties;
+    std::set<Text> names;  // in lower case
     for (const UsualProperty& usual : UsualPropertiesOf(block.ClassName())) {
         properties.push_back(MakeUsualProperty(design, block, usual, inherited));
+        names.insert(LCase(usual.name));
     }
     for (const Text& name : NamesIn(block)) {
-        if (!IsIn(properties, name)) {
+        if (names.insert(LCase(name)).second) {
             properties.push_back(StatedProperty(design, block, name, inherited));
         }
     }

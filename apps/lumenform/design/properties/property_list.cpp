@@ -1,6 +1,7 @@
 #include "apps/lumenform/design/properties/property_list.h"
 
 #include <algorithm>
+#include <map>
 #include <utility>
 
 #include "apps/lumenform/design/properties/color_text.h"
@@ -27,23 +28,48 @@ std::vector<ObjectProperty> PropertiesOf(FormDesign& design, LiveControl& contro
     return properties;
 }
 
-bool IsSameProperty(const ObjectProperty& one, const ObjectProperty& other) {
-    return one.kind == other.kind && SameText(one.name, other.name, Compare::IgnoreCase) &&
-           one.choices == other.choices;
-}
+// The properties of one object by their names in lower case.
+class PropertiesByName {
+ public:
+    explicit PropertiesByName(const std::vector<ObjectProperty>& properties) {
+        for (const ObjectProperty& property : properties) {
+            byName_.emplace(LCase(property.name), &property);
+        }
+    }
 
-// Returns the properties of this property in all lists; fewer than lists if one lacks it.
-std::vector<ObjectProperty> Gather(const ObjectProperty& sought,
-                                   const std::vector<std::vector<ObjectProperty>>& lists) {
-    std::vector<ObjectProperty> found;
-    for (const std::vector<ObjectProperty>& list : lists) {
-        const auto match = std::ranges::find_if(
-            list, [&](const ObjectProperty& property) { return IsSameProperty(sought, property); });
-        if (match != list.end()) {
-            found.push_back(*match);
+    // Returns null if there is none with the same name, kind and choices.
+    const ObjectProperty* FindSame(const ObjectProperty& sought) const {
+        const auto [first, last] = byName_.equal_range(LCase(sought.name));
+        const auto found = std::find_if(first, last, [&](const auto& named) {
+            return named.second->kind == sought.kind && named.second->choices == sought.choices;
+        });
+        return found == last ? nullptr : found->second;
+    }
+
+ private:
+    std::multimap<Text, const ObjectProperty*> byName_;
+};
+
+// Returns this property of the first object, and the same of all others; fewer if one lacks it.
+std::vector<ObjectProperty> Gather(const ObjectProperty& first,
+                                   const std::vector<PropertiesByName>& others) {
+    std::vector<ObjectProperty> found = {first};
+    for (const PropertiesByName& other : others) {
+        if (const ObjectProperty* same = other.FindSame(first)) {
+            found.push_back(*same);
         }
     }
     return found;
+}
+
+// Sorts by name without regard to case.
+void SortByName(std::vector<PropertyRow>& rows) {
+    std::ranges::stable_sort(
+        rows,
+        [](TextView left, TextView right) {
+            return std::ranges::lexicographical_compare(left, right, {}, LowerUnit, LowerUnit);
+        },
+        &PropertyRow::name);
 }
 
 void ReadValue(PropertyRow& row) {
@@ -119,14 +145,15 @@ std::vector<std::vector<ObjectProperty>> PropertyList::PropertiesOfSelection() c
 
 std::vector<PropertyRow> PropertyList::Read() const {
     const std::vector<std::vector<ObjectProperty>> lists = PropertiesOfSelection();
+    const std::vector<PropertiesByName> others(lists.begin() + 1, lists.end());
     std::vector<PropertyRow> rows;
     for (const ObjectProperty& property : lists.front()) {
-        std::vector<ObjectProperty> everywhere = Gather(property, lists);
+        std::vector<ObjectProperty> everywhere = Gather(property, others);
         if (everywhere.size() == lists.size() && (lists.size() == 1 || !property.isIndividual)) {
             rows.push_back(RowOf(std::move(everywhere)));
         }
     }
-    std::ranges::stable_sort(rows, {}, [](const PropertyRow& row) { return LCase(row.name); });
+    SortByName(rows);
     return rows;
 }
 

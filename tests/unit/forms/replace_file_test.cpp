@@ -1,0 +1,77 @@
+#include "forms/replace_file.h"
+
+#include <filesystem>
+#include <string>
+
+#include <gtest/gtest.h>
+
+#include "forms/form_error.h"
+#include "tests/support/file_size_limit.h"
+#include "tests/unit/forms/sample_forms.h"
+
+namespace lumenkit::forms::testing {
+namespace {
+
+namespace fs = std::filesystem;
+
+class ReplaceFileTest : public ::testing::Test {
+ protected:
+    ReplaceFileTest() {
+        fs::remove_all(folder);
+        fs::create_directories(folder);
+        WriteFile(file, "old");
+    }
+    ~ReplaceFileTest() override { fs::remove_all(folder); }
+
+    static std::string Error(const fs::path& path, const std::string& bytes) {
+        try {
+            ReplaceFile(path, bytes);
+        } catch (const FormError& error) {
+            return error.what();
+        }
+        return {};
+    }
+    std::ptrdiff_t Count() const {
+        return std::distance(fs::directory_iterator(folder), fs::directory_iterator());
+    }
+
+    const fs::path folder = fs::path(LUMENKIT_BINARY_DIR) / "forms_replace_file_test_files";
+    const fs::path file = folder / "file.png";
+};
+
+TEST_F(ReplaceFileTest, LeavesOnlyTheNewFile) {
+    ReplaceFile(file, "new");
+    EXPECT_EQ(ReadFile(file), "new");
+    ReplaceFile(folder / "other.png", "another");
+    EXPECT_EQ(ReadFile(folder / "other.png"), "another");
+    EXPECT_EQ(Count(), 2);
+}
+
+TEST_F(ReplaceFileTest, FollowsLinks) {
+    const fs::path link = folder / "link.png";
+    fs::create_symlink(file, link);
+    ReplaceFile(link, "new");
+    EXPECT_EQ(ReadFile(file), "new");
+    EXPECT_TRUE(fs::is_symlink(link));
+}
+
+TEST_F(ReplaceFileTest, KeepsTheOldFileAndSaysWhyTheNewOneCannotBeWritten) {
+    const std::string large(4096, 'x');
+    {
+        const lumenkit::testing::FileSizeLimit limit(1024);
+        EXPECT_EQ(Error(file, large), file.string() + ": cannot be written: File too large");
+    }
+    EXPECT_EQ(ReadFile(file), "old");
+    EXPECT_EQ(Count(), 1);
+    EXPECT_EQ(Error(folder, large), folder.string() + ": is not a plain file");
+    EXPECT_EQ(Error("/dev/full", large), "/dev/full: is not a plain file");
+    EXPECT_EQ(
+        Error(folder / "none" / "file.png", large),
+        (folder / "none" / "file.png").string() + ": cannot be written: No such file or directory");
+    fs::permissions(file, fs::perms::owner_read);
+    EXPECT_EQ(Error(file, large), file.string() + ": is read-only");
+    EXPECT_EQ(ReadFile(file), "old");
+}
+
+}  // namespace
+}  // namespace lumenkit::forms::testing
