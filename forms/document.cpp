@@ -110,6 +110,7 @@ Document Document::Read(std::string name, Encoding encoding, std::string_view by
                         const CompanionReader& readCompanion) {
     ParsedForm form = ParseForm(Decode(name, encoding, bytes), name);
     Document document(std::move(name), std::move(encoding), std::move(form));
+    document.spelling_ = document.encoding_.SpellingOf(bytes);
     document.ReadCompanion(readCompanion);
     for (Warning& warning : ContainerWarnings(document.Root())) {
         document.Warn(warning.place, std::move(warning.text));
@@ -340,7 +341,7 @@ void Document::UseCompanion(std::string name) {
 }
 
 FormBytes Document::Write() const {
-    FormBytes bytes = FormWriter(name_, encoding_,
+    FormBytes bytes = FormWriter(name_, encoding_, spelling_,
                                  {FromUtf8(companionName_), companion_.Bytes(), !hasLostRecords_})
                           .Write(form_);
     const bool wouldBeUtf8 =

@@ -12,7 +12,7 @@ namespace lumenkit::forms {
 /// the companion may be next to the target. If no file has the exact name, one whose name differs
 /// in case only is read. Throws FormError for a form that cannot be read. A companion that cannot
 /// be read leaves a warning in the document.
-Document Load(const std::filesystem::path& path, int codePage = defaultCodePage);
+Document Load(const std::filesystem::path& path, int codePage = guessedCodePage);
 
 /// Writes a form and, if it has one, the companion next to it. Each new file is first written next
 /// to the old one under a unique name and then replaces it, the companion before the form. Each

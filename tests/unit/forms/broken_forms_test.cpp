@@ -218,8 +218,10 @@ TEST(BrokenForms, OddReferencesAreKept) {
 }
 
 TEST(BrokenForms, EncodingsAreRefused) {
-    EXPECT_EQ(ErrorOf("VERSION 5.00\n", "", 932),
-              "x.frm: code page 932 is not known; 1250 to 1258 are, and 65001 (UTF-8)");
+    EXPECT_EQ(
+        ErrorOf("VERSION 5.00\n", "", 437),
+        "x.frm: code page 437 is not known; these are: 874, 932, 936, 949, 950, 1250 to 1258, "
+        "1361 or 65001 (UTF-8)");
     EXPECT_EQ(ErrorOf(WithLine("   Caption = \"\xC3\xA9\xE9\""), "", utf8CodePage),
               "x.frm:3:16: expected UTF-8");
     EXPECT_EQ(ErrorOf("\xEF\xBB\xBF"
