@@ -98,6 +98,8 @@ class Document {
     /// Returns the companion's file name in UTF-8: the name that the form refers to or, without a
     /// reference, the default name for the form.
     std::string CompanionName() const { return companionName_; }
+    /// Returns a file name in the bytes of the form (see Encoding::NameBytes).
+    std::string NameBytes(const std::string& name) const { return encoding_.NameBytes(name); }
 
     /// Returns the bytes of the form and of its companion. Appends the strings that edits moved to
     /// the companion. Throws FormError for a text that the encoding cannot represent, with the

@@ -85,6 +85,22 @@ std::string Encoding::Encode(TextView text) const {
     return std::string(mark_ ? utf8Mark : std::string_view()) + ToUtf8(text);
 }
 
+std::string Encoding::NameBytes(const std::string& name) const {
+#ifdef _WIN32
+    return name;  // file names are in UTF-16
+#else
+    try {
+        return utf8_ ? name : codePage_.Encode(FromUtf8(name));
+    } catch (const Unmappable&) {
+        return name;
+    }
+#endif
+}
+
+std::string Encoding::Utf8NameOf(const std::string& name) const {
+    return IsUtf8(name) ? name : ToUtf8(codePage_.Decode(name));
+}
+
 Spelling Encoding::SpellingOf(std::string_view bytes) const {
     return utf8_ ? Spelling() : Spelling(codePage_, bytes);
 }

@@ -35,6 +35,12 @@ class Encoding {
     Text Decode(std::string_view bytes) const;
     /// Throws Unmappable.
     std::string Encode(TextView text) const;
+    /// The bytes of a file name, which is in UTF-8, as a form in this encoding has it. On Windows
+    /// and for a name that the encoding does not have, the name itself.
+    std::string NameBytes(const std::string& name) const;
+    /// Returns a file name in UTF-8. The name of a file from another system may be in the code page
+    /// instead.
+    std::string Utf8NameOf(const std::string& name) const;
     /// The unusual bytes of a file in this encoding.
     Spelling SpellingOf(std::string_view bytes) const;
 

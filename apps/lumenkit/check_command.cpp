@@ -1,5 +1,6 @@
 #include <iostream>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -13,8 +14,8 @@
 #include "apps/lumenkit/commands.h"
 #include "apps/lumenkit/terminal.h"
 #include "apps/lumenkit/text_input.h"
-#include "forms/encoding.h"
 #include "forms/file.h"
+#include "forms/known_code_pages.h"
 #include "project/lumenkit_classes.h"
 
 namespace lumenkit::cli {
@@ -31,7 +32,7 @@ struct CheckOptions {
     std::vector<std::string> paths;
     bool captions = false;
     bool json = false;
-    int codePage = forms::defaultCodePage;
+    int codePage = forms::guessedCodePage;
 };
 
 class CheckRun {
@@ -70,7 +71,7 @@ class CheckRun {
 
     void CheckFile(const std::string& file, check::ProgressBar& bar) {
         try {
-            const Findings findings = FindingsIn(file);
+            const Findings findings = FindingsIn(file, bar);
             ++checked_;
             if (!findings.empty()) {
                 found_ = true;
@@ -86,11 +87,17 @@ class CheckRun {
         }
     }
 
-    Findings FindingsIn(const std::string& file) const {
+    Findings FindingsIn(const std::string& file, check::ProgressBar& bar) const {
         if (options_.captions) {
             return check::CheckCaptionFile(file, ReadText(file));
         }
-        return check::CheckForm(forms::Load(file, options_.codePage), lumenkitClasses);
+        const forms::Document form = forms::Load(file, options_.codePage);
+        if (const std::optional<forms::CodePageGuess>& guess = form.Guess()) {
+            bar.Hide();
+            reporter_.Report(check::Note{form.Name(), guess->place,
+                                         TextOf(*guess) + "; --code-page names another one"});
+        }
+        return check::CheckForm(form, lumenkitClasses);
     }
 
     void Report(const FileError& error) {

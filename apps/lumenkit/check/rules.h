@@ -41,6 +41,8 @@ inline constexpr Rule unreadProperty{"unread-property",
 inline constexpr Rule unreadableValue{"unreadable-value",
                                       "a saved value of the wrong type: loading reports an error"};
 
+inline constexpr Rule duplicateName{"duplicate-name", "a control with the name of another one"};
+
 inline constexpr Rule notUnderstood{"not-understood",
                                     "a line, value or reference that is kept without effect"};
 
@@ -56,6 +58,7 @@ inline constexpr std::array allRules = {
     rules::colorOutOfRange,     rules::numberOverflow,      rules::controlCharacter,
     rules::tooManyLines,        rules::textTooLong,         rules::duplicateValue,
     rules::listIndexOutOfRange, rules::textOverLimits,      rules::unreadProperty,
-    rules::unreadableValue,     rules::notUnderstood,       rules::unnamedControl};
+    rules::unreadableValue,     rules::duplicateName,       rules::notUnderstood,
+    rules::unnamedControl};
 
 }  // namespace lumenkit::check

@@ -256,7 +256,7 @@ TEST(BrokenForms, TellFileAndPlaceApart) {
 std::string Nested(std::size_t depth, const std::string& open, const std::string& close) {
     std::string form = "VERSION 5.00\n";
     for (std::size_t i = 0; i < depth; ++i) {
-        form += open;
+        form += open + std::to_string(i) + '\n';
     }
     for (std::size_t i = 0; i < depth; ++i) {
         form += close;
@@ -265,13 +265,13 @@ std::string Nested(std::size_t depth, const std::string& open, const std::string
 }
 
 TEST(BrokenForms, NestingIsBounded) {
-    EXPECT_EQ(ErrorOf(Nested(256, "Begin A B\n", "End\n")), "no error");
-    EXPECT_EQ(ErrorOf(Nested(257, "Begin A B\n", "End\n")),
+    EXPECT_EQ(ErrorOf(Nested(256, "Begin A B", "End\n")), "no error");
+    EXPECT_EQ(ErrorOf(Nested(257, "Begin A B", "End\n")),
               "x.frm:258:7: expected at most 256 blocks in one another");
-    EXPECT_EQ(ErrorOf(Nested(1000000, "Begin A B\n", "")),
+    EXPECT_EQ(ErrorOf(Nested(1000000, "Begin A B", "")),
               "x.frm:258:7: expected at most 256 blocks in one another");
     EXPECT_EQ(
-        ErrorOf("VERSION 5.00\nBegin A B\n" + Nested(300, "BeginProperty C\n", "").substr(13)),
+        ErrorOf("VERSION 5.00\nBegin A B\n" + Nested(300, "BeginProperty C", "").substr(13)),
         "x.frm:258:15: expected at most 256 blocks in one another");
 }
 
@@ -281,7 +281,7 @@ TEST(BrokenForms, LargeOnesEnd) {
     std::string names;
     for (int i = 0; i < 300000; ++i) {
         properties += "   P" + std::to_string(i) + " = $\"x.frx\":" + "0\n";
-        names += "   Begin VB.Label Label1 \n   End\n";
+        names += "   Begin VB.Label Label" + std::to_string(i) + " \n   End\n";
     }
     const std::string text(1000000, 'x');
     const std::string shared = "\x40\x42\x0F\0"s + text + "left over";
