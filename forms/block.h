@@ -22,6 +22,7 @@ enum class BlockKind {
 /// A blank or comment line, which is kept unchanged.
 struct IdleLine {
     Text line;
+    Position place;  ///< of its beginning in the file that was read
 };
 
 /// A control, or a property group of a control. An edit changes only the lines of the edited item;
@@ -53,6 +54,8 @@ class Block {
     /// The positions of both in the file that was read; line 0 for a block that was added.
     Position ClassPlace() const { return places_.className; }
     Position NamePlace() const { return places_.name; }
+    /// The number of the last line in the file that was read; 0 for a block that was added.
+    std::size_t CloseLineNumber() const { return closeLine_; }
     /// In the order of the file.
     const std::vector<Item>& Items() const { return items_; }
     const Text& OpenLine() const { return open_; }
@@ -88,7 +91,10 @@ class Block {
     Block& Append(std::unique_ptr<Block> block);
     void Append(std::unique_ptr<Property> property);
     void Append(std::unique_ptr<IdleLine> line);
-    void Close(Text line) { close_ = std::move(line); }
+    void Close(Text line, std::size_t number) {
+        close_ = std::move(line);
+        closeLine_ = number;
+    }
 
  private:
     using Iterator = std::vector<Item>::const_iterator;
@@ -111,6 +117,7 @@ class Block {
     Text open_;
     Text close_;
     Places places_;
+    std::size_t closeLine_ = 0;
     std::vector<Item> items_;
     // The indices of the properties and groups, in the order of their names; empty if not known.
     // Built when a block with many items is searched often.

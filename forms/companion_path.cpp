@@ -1,7 +1,9 @@
 #include "forms/companion_path.h"
 
+#include <algorithm>
 #include <array>
 #include <system_error>
+#include <vector>
 
 #include "forms/path_names.h"
 #include "frame/text.h"
@@ -13,46 +15,78 @@ namespace {
 
 namespace fs = std::filesystem;
 
-bool IsSameName(const fs::path& path, TextView fileName) {
+// Compares two names without regard to case. Names that are not in UTF-8 differ only in letters of
+// ASCII.
+bool IsSameName(const std::string& one, const std::string& other) {
     try {
-        return SameText(FromUtf8(NameOf(path.filename())), fileName, Compare::IgnoreCase);
+        return SameText(FromUtf8(one), FromUtf8(other), Compare::IgnoreCase);
     } catch (const MalformedUtf8&) {
-        return false;
+        const auto lower = [](char letter) {
+            return letter >= 'A' && letter <= 'Z' ? static_cast<char>(letter - 'A' + 'a') : letter;
+        };
+        return std::ranges::equal(one, other, {}, lower, lower);
     }
 }
 
 // Returns the file with this name, in any case. Empty if there is none.
-fs::path FindInFolder(const fs::path& folder, const std::string& fileName) {
-    const Text name = FromUtf8(fileName);
+fs::path FindInFolder(const fs::path& folder, const std::string& name) {
     std::error_code error;
     for (fs::directory_iterator entry(folder.empty() ? fs::path(".") : folder, error), end;
          !error && entry != end; entry.increment(error)) {
-        if (IsSameName(entry->path(), name)) {
+        if (IsSameName(NameOf(entry->path().filename()), name)) {
             return folder / entry->path().filename();
         }
     }
     return {};
 }
 
+// The name of the form with the extension of the companion.
+std::string NameAsForm(const fs::path& form, const std::string& companion) {
+    const std::size_t dot = companion.rfind('.');
+    return NameOf(form.stem()) + (dot == std::string::npos ? "" : companion.substr(dot));
+}
+
+bool IsUtf8Name(const std::string& name) {
+    try {
+        FromUtf8(name);
+        return true;
+    } catch (const MalformedUtf8&) {
+        return false;
+    }
+}
+
+bool IsAsciiName(const std::string& name) {
+    return std::ranges::none_of(name, [](char byte) { return (byte & 0x80) != 0; });
+}
+
 }  // namespace
 
-fs::path CompanionPath(const fs::path& form, const std::string& name,
+fs::path CompanionPath(const fs::path& form, const CompanionName& name,
                        const std::function<bool(const fs::path&)>& isMeant) {
     std::error_code error;
     const fs::path target = fs::canonical(form, error);
     const std::array<fs::path, 2> forms = {form, error ? form : target};
-    for (const fs::path& place : forms) {
-        if (fs::exists(Beside(place, name), error)) {
-            return Beside(place, name);
+    for (const std::string& exact : {name.utf8, name.bytes}) {
+        for (const fs::path& place : forms) {
+            if (fs::exists(Beside(place, exact), error)) {
+                return Beside(place, exact);
+            }
         }
     }
-    for (const fs::path& place : forms) {
-        fs::path found = FindInFolder(place.parent_path(), name);
-        if (!found.empty() && isMeant(found)) {
-            return found;
+    std::vector<std::string> similar = {name.utf8, name.bytes};
+    if (!IsAsciiName(name.utf8)) {
+        similar.push_back(NameAsForm(form, name.utf8));
+    }
+    for (const std::string& sought : similar) {
+        for (const fs::path& place : forms) {
+            fs::path found = FindInFolder(place.parent_path(), sought);
+            if (!found.empty() && isMeant(found)) {
+                return found;
+            }
         }
     }
-    return Beside(fs::is_symlink(form, error) ? forms.back() : form, name);
+    const fs::path& place = fs::is_symlink(form, error) ? forms.back() : form;
+    return Beside(place, IsUtf8Name(NameOf(place.filename())) ? name.utf8 : name.bytes);
 }
 
 }  // namespace lumenkit::forms

@@ -8,6 +8,7 @@
 #include <utility>
 
 #include "forms/container_values.h"
+#include "forms/controls.h"
 #include "forms/literal.h"
 #include "forms/position.h"
 #include "frame/utf8.h"
@@ -110,9 +111,13 @@ Document Document::Read(std::string name, Encoding encoding, std::string_view by
                         const CompanionReader& readCompanion) {
     ParsedForm form = ParseForm(Decode(name, encoding, bytes), name);
     Document document(std::move(name), std::move(encoding), std::move(form));
+    document.spelling_ = document.encoding_.SpellingOf(bytes);
     document.ReadCompanion(readCompanion);
     for (Warning& warning : ContainerWarnings(document.Root())) {
         document.Warn(warning.place, std::move(warning.text));
+    }
+    for (const NameClash& clash : NameClashes(document.Root())) {
+        document.Warn(clash.control->NamePlace(), forms::TextOf(clash));
     }
     return document;
 }
@@ -137,7 +142,7 @@ Document::Document(std::string name, Encoding encoding, ParsedForm form)
     : name_(std::move(name)),
       encoding_(std::move(encoding)),
       form_(std::move(form)),
-      companionName_(form_.references.empty() ? DefaultCompanionName(name_)
+      companionName_(form_.references.empty() ? DefaultCompanionName(encoding_.Utf8NameOf(name_))
                                               : ToUtf8(form_.references.front().reference.file)) {
     for (Warning& warning : form_.warnings) {
         Warn(warning.place, std::move(warning.text));
@@ -307,7 +312,7 @@ Reference Document::AddRecord(std::string_view record) {
 }
 
 void Document::Rename(std::string name) {
-    std::string companionName = DefaultCompanionName(name);
+    std::string companionName = DefaultCompanionName(encoding_.Utf8NameOf(name));
     Rename(std::move(name), std::move(companionName));
 }
 
@@ -343,7 +348,7 @@ void Document::UseCompanion(std::string name) {
 }
 
 FormBytes Document::Write() const {
-    FormBytes bytes = FormWriter(name_, encoding_,
+    FormBytes bytes = FormWriter(name_, encoding_, spelling_,
                                  {FromUtf8(companionName_), companion_.Bytes(), !hasLostRecords_})
                           .Write(form_);
     const bool wouldBeUtf8 =

@@ -36,10 +36,10 @@ class Document {
  public:
     /// Reads a document. `name` is the file name for error messages, in UTF-8. `codePage` is the
     /// code page of the companion's strings, and that of the form unless the form is detected as
-    /// UTF-8 (see Encoding::Of). Throws FormError for input that is not a form. Lines, values and
-    /// references that cannot be understood are kept, with a warning.
+    /// UTF-8; by default it is guessed (see Encoding::Of). Throws FormError for input that is not a
+    /// form. Lines, values and references that cannot be understood are kept, with a warning.
     static Document Parse(std::string name, std::string_view bytes,
-                          const CompanionReader& readCompanion, int codePage = defaultCodePage);
+                          const CompanionReader& readCompanion, int codePage = guessedCodePage);
 
     /// Returns the document with these bytes, which Write returned for this document or for an
     /// earlier state of it. Throws FormError as Parse does.
@@ -63,6 +63,8 @@ class Document {
     int FormCodePage() const { return encoding_.FormCodePage(); }
     /// The number of the code page of the companion's strings; never 65001.
     int CompanionCodePage() const { return encoding_.CompanionPage().Number(); }
+    /// The guess by which the code page was chosen; nullopt if it was named or did not matter.
+    const std::optional<CodePageGuess>& Guess() const { return encoding_.Guess(); }
 
     /// The outermost block: the form itself.
     Block& Root() const { return *form_.root; }
@@ -96,6 +98,8 @@ class Document {
     /// Returns the companion's file name in UTF-8: the name that the form refers to or, without a
     /// reference, the default name for the form.
     std::string CompanionName() const { return companionName_; }
+    /// Returns a file name in the bytes of the form (see Encoding::NameBytes).
+    std::string NameBytes(const std::string& name) const { return encoding_.NameBytes(name); }
 
     /// Returns the bytes of the form and of its companion. Appends the strings that edits moved to
     /// the companion. Throws FormError for a text that the encoding cannot represent, with the
@@ -122,6 +126,7 @@ class Document {
 
     std::string name_;
     Encoding encoding_;
+    Spelling spelling_;
     ParsedForm form_;
     std::string companionName_;
     Companion companion_;

@@ -1,6 +1,7 @@
 #include "forms/encoding.h"
 
 #include <algorithm>
+#include <cstddef>
 
 #include "frame/utf8.h"
 
@@ -45,10 +46,22 @@ void RefuseLoneSurrogates(TextView text) {
 }  // namespace
 
 Encoding Encoding::Of(std::string_view bytes, int codePage) {
-    Encoding encoding(CodePage(codePage == utf8CodePage ? defaultCodePage : codePage));
-    encoding.mark_ = bytes.starts_with(utf8Mark);
-    encoding.utf8_ =
-        encoding.mark_ || codePage == utf8CodePage || (!IsAscii(bytes) && IsUtf8(bytes));
+    const bool mark = bytes.starts_with(utf8Mark);
+    const bool ascii = IsAscii(bytes);
+    const bool utf8 = mark || codePage == utf8CodePage || (!ascii && IsUtf8(bytes));
+    const bool isGuessed = codePage == guessedCodePage;
+    const std::optional<CodePageGuess> guess =
+        isGuessed && !utf8 ? GuessCodePage(bytes) : std::nullopt;
+    int page = isGuessed || codePage == utf8CodePage ? defaultCodePage : codePage;
+    if (guess) {
+        page = guess->page;
+    } else if (isGuessed && (utf8 || ascii)) {
+        page = CodePageOfFontsAlone(bytes).value_or(page);
+    }
+    Encoding encoding((CodePage(page)));
+    encoding.guess_ = guess;
+    encoding.mark_ = mark;
+    encoding.utf8_ = utf8;
     return encoding;
 }
 
@@ -66,23 +79,30 @@ Text Encoding::Decode(std::string_view bytes) const {
 
 std::string Encoding::Encode(TextView text) const {
     if (!utf8_) {
-        return EncodeIn(codePage_, text);
+        return codePage_.Encode(text);
     }
     RefuseLoneSurrogates(text);
     return std::string(mark_ ? utf8Mark : std::string_view()) + ToUtf8(text);
 }
 
-std::string EncodeIn(const CodePage& page, TextView text) {
-    std::string bytes;
-    bytes.reserve(text.size());
-    for (std::size_t i = 0; i < text.size(); ++i) {
-        const std::optional<char> byte = page.Encode(text[i]);
-        if (!byte) {
-            throw Unmappable{i, "Windows-" + std::to_string(page.Number())};
-        }
-        bytes += *byte;
+std::string Encoding::NameBytes(const std::string& name) const {
+#ifdef _WIN32
+    return name;  // file names are in UTF-16
+#else
+    try {
+        return utf8_ ? name : codePage_.Encode(FromUtf8(name));
+    } catch (const Unmappable&) {
+        return name;
     }
-    return bytes;
+#endif
+}
+
+std::string Encoding::Utf8NameOf(const std::string& name) const {
+    return IsUtf8(name) ? name : ToUtf8(codePage_.Decode(name));
+}
+
+Spelling Encoding::SpellingOf(std::string_view bytes) const {
+    return utf8_ ? Spelling() : Spelling(codePage_, bytes);
 }
 
 }  // namespace lumenkit::forms

@@ -45,10 +45,12 @@ Document Load(const fs::path& path, int codePage) {
         files.Remember(Resolved(file), bytes);
         return bytes;
     };
+    const std::string form = read(path);
     const auto readCompanion = [&](const std::string& name) {
-        return read(CompanionPath(path, name, [](const fs::path&) { return true; }));
+        const CompanionName companion{name, Encoding::Of(form, codePage).NameBytes(name)};
+        return read(CompanionPath(path, companion, [](const fs::path&) { return true; }));
     };
-    Document document = Document::Parse(NameOf(path), read(path), readCompanion, codePage);
+    Document document = Document::Parse(NameOf(path), form, readCompanion, codePage);
     document.Files() = std::move(files);
     return document;
 }

@@ -18,7 +18,7 @@ inline constexpr std::uintmax_t largestFile = std::uintmax_t{256} << 20U;
 /// in case only is read. Throws FormError for a form that cannot be read, is larger than
 /// largestFile or is no plain file, such as a folder or a pipe. Such a companion leaves a warning
 /// in the document.
-Document Load(const std::filesystem::path& path, int codePage = defaultCodePage);
+Document Load(const std::filesystem::path& path, int codePage = guessedCodePage);
 
 /// Writes a form and, if it has one, the companion next to it. Each new file is first written next
 /// to the old one under a unique name and then replaces it, the companion before the form. Each

@@ -4,7 +4,9 @@
 #include <string>
 #include <system_error>
 
+#include "forms/path_names.h"
 #include "frame/text.h"
+#include "frame/utf8.h"
 
 namespace lumenkit::forms {
 
@@ -21,13 +23,25 @@ Fingerprint Fingerprint::Of(std::string_view bytes) {
     return {bytes.size(), hash};
 }
 
+namespace {
+
+// False for names that are not in UTF-8: only file systems without regard to case need it.
+bool MayBeSame(const fs::path& one, const fs::path& other) {
+    try {
+        return SameText(FromUtf8(NameOf(one)), FromUtf8(NameOf(other)), Compare::IgnoreCase);
+    } catch (const MalformedUtf8&) {
+        return false;
+    }
+}
+
+}  // namespace
+
 bool IsSamePath(const fs::path& one, const fs::path& other) {
     if (one == other) {
         return true;
     }
     std::error_code missing;
-    return SameText(one.u16string(), other.u16string(), Compare::IgnoreCase) &&
-           fs::equivalent(one, other, missing);
+    return MayBeSame(one, other) && fs::equivalent(one, other, missing);
 }
 
 void KnownFiles::Remember(const fs::path& path, std::string_view bytes) {

@@ -34,6 +34,7 @@ class Parser {
     void ParseProperty(TextView name, Position place);
     void ParseEnd();
     CommentedLiteral ReadValueOrLine();
+    void KeepIdleLine();
     void KeepLine(std::string_view expected);
     void Enter(std::unique_ptr<Block> block, Position place);
     void RefuseEndOfFile() const;
@@ -204,7 +205,7 @@ void Parser::ParseBodyLine() {
         RefuseEndOfFile();
     }
     if (AtBlankLine()) {
-        Innermost().Append(std::make_unique<IdleLine>(IdleLine{FinishLine()}));
+        KeepIdleLine();
         return;
     }
     const Position place = scanner_.Here();
@@ -230,10 +231,15 @@ void Parser::ParseBodyLine() {
     }
 }
 
+void Parser::KeepIdleLine() {
+    const Position place{scanner_.Here().line, 1};
+    Innermost().Append(std::make_unique<IdleLine>(IdleLine{FinishLine(), place}));
+}
+
 // Keeps a line that is neither a property nor the first or last line of a block.
 void Parser::KeepLine(std::string_view expected) {
     Try([&] { scanner_.Expect(expected); });
-    Innermost().Append(std::make_unique<IdleLine>(IdleLine{FinishLine()}));
+    KeepIdleLine();
 }
 
 // Keeps a value that no notation fits.
@@ -265,7 +271,8 @@ void Parser::ParseProperty(TextView name, Position place) {
 
 // Starts after the word that closes the innermost block.
 void Parser::ParseEnd() {
-    Innermost().Close(FinishLine());
+    const std::size_t line = scanner_.Here().line;
+    Innermost().Close(FinishLine(), line);
     open_.pop_back();
 }
 

@@ -195,7 +195,12 @@ class Saving {
         } catch (const FormError&) {
             // The name is known even then.
         }
-        return !named.empty() && IsSamePath(Resolved(Beside(path_, named)), companion_->path);
+        if (named.empty()) {
+            return false;
+        }
+        const CompanionName name{named, document_.NameBytes(named)};
+        const fs::path found = CompanionPath(path_, name, [](const fs::path&) { return true; });
+        return IsSamePath(Resolved(found), companion_->path);
     }
 
     // Allocates no memory until both files are in their places, or neither is.
@@ -231,7 +236,9 @@ class Saving {
 }  // namespace
 
 fs::path CompanionToSave(const Document& document, const fs::path& path) {
-    return CompanionPath(path, document.CompanionName(), [&](const fs::path& file) {
+    const CompanionName name{document.CompanionName(),
+                             document.NameBytes(document.CompanionName())};
+    return CompanionPath(path, name, [&](const fs::path& file) {
         return document.Files().Find(Resolved(file)) != nullptr;
     });
 }

@@ -1,6 +1,8 @@
 // Writes the lines of a tree as a form.
 #pragma once
 
+#include <cstddef>
+#include <map>
 #include <string>
 
 #include "forms/block.h"
@@ -8,6 +10,7 @@
 #include "forms/form_error.h"
 #include "forms/parser.h"
 #include "forms/property.h"
+#include "forms/spelling.h"
 #include "frame/text.h"
 
 namespace lumenkit::forms {
@@ -33,7 +36,8 @@ struct WrittenCompanion {
 /// Writes one form. `name` is the name of the form in error messages.
 class FormWriter {
  public:
-    FormWriter(const std::string& name, const Encoding& encoding, WrittenCompanion companion);
+    FormWriter(const std::string& name, const Encoding& encoding, const Spelling& spelling,
+               WrittenCompanion companion);
 
     /// Throws FormError as Document::Write does.
     FormBytes Write(const ParsedForm& form) &&;
@@ -41,14 +45,18 @@ class FormWriter {
  private:
     void Add(const Block& block);
     void Add(const Property& property);
-    void Add(const IdleLine& idle) { text_ += idle.line; }
+    void Add(const IdleLine& idle);
+    void Begin(std::size_t line);
+    std::string Encoded() const;
     Text Store(TextView text);
     [[noreturn]] void Refuse(const Unmappable& unmappable, TextView text, Position place) const;
 
     const std::string& name_;
     const Encoding& encoding_;
+    const Spelling& spelling_;
     WrittenCompanion companion_;
     Text text_;
+    std::map<std::size_t, std::size_t> lines_;  // line numbers in the file that was read, by offset
 };
 
 }  // namespace lumenkit::forms

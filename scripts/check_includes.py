@@ -111,6 +111,7 @@ OTHER_LIBRARIES += [folder for folder in ALLOWED if folder.startswith("apps/")]
 # Files in other folders that call the system or use processor instructions, with their headers.
 SYSTEM_HEADERS = {
     # The standard library cannot create a file exclusively, lock it or flush it to the disk.
+    "forms/system_code_page.cpp": {"iconv.h", "windows.h"},
     "forms/disk.cpp": {"dirent.h", "fcntl.h", "io.h", "sys/file.h", "sys/stat.h", "unistd.h", "windows.h"},
     # Compilers do not gather comparisons in a bit mask by themselves.
     "vlabel/bar_scanner.cpp": {"emmintrin.h"},

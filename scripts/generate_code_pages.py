@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""Generates forms/code_page_tables.inc: the upper halves of the Windows code pages 1250 to 1258.
+"""Generates forms/code_page_tables.inc: the upper halves of the Windows code pages of one byte.
 
 A byte that a code page does not define is mapped as on Windows: below 0xA0 to the control character
 of the same number, above to a private-use character (0xCA of code page 1255: U+05BA). The bytes of
@@ -7,7 +7,11 @@ a page therefore map to different units.
 """
 import pathlib
 
+PAGES = [874, *range(1250, 1259)]
+
 PRIVATE_USE = {
+    874: {0xDB: 0xF8C1, 0xDC: 0xF8C2, 0xDD: 0xF8C3, 0xDE: 0xF8C4, 0xFC: 0xF8C5, 0xFD: 0xF8C6,
+          0xFE: 0xF8C7, 0xFF: 0xF8C8},
     1253: {0xAA: 0xF8F9, 0xD2: 0xF8FA, 0xFF: 0xF8FB},
     1255: {0xD9: 0xF88D, 0xDA: 0xF88E, 0xDB: 0xF88F, 0xDC: 0xF890, 0xDD: 0xF891, 0xDE: 0xF892,
            0xDF: 0xF893, 0xFB: 0xF894, 0xFC: 0xF895, 0xFF: 0xF896, 0xCA: 0x05BA},
@@ -24,7 +28,7 @@ def unit(page, byte):
 
 def main():
     lines = ["// Written by scripts/generate_code_pages.py; do not edit.", "// clang-format off"]
-    for page in range(1250, 1259):
+    for page in PAGES:
         units = [unit(page, byte) for byte in range(0x80, 0x100)]
         assert len(set(units)) == 128, page
         lines.append(f"{{{page}, {{")

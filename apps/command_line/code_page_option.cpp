@@ -1,25 +1,31 @@
 #include "apps/command_line/code_page_option.h"
 
+#include <optional>
 #include <stdexcept>
 #include <string>
 
 #include "forms/code_page.h"
-#include "forms/encoding.h"
+#include "forms/known_code_pages.h"
 
 namespace lumenkit::cli {
 
 namespace {
 
-std::string RequireCodePage(const std::string& number) {
-    try {
-        const int page = std::stoi(number);
-        if (page != forms::utf8CodePage) {
-            static_cast<void>(forms::CodePage(page));
-        }
-        return {};
-    } catch (const std::logic_error&) {
-        return number + " is not a supported code page";
+// Replaces the name of a code page by its number. Returns an error text, or an empty text.
+std::string RequireCodePage(std::string& name) {
+    const std::optional<int> page = forms::CodePageNamed(name);
+    if (!page) {
+        return name + " is not a supported code page";
     }
+    try {
+        if (*page != forms::utf8CodePage) {
+            static_cast<void>(forms::CodePage(*page));
+        }
+    } catch (const std::invalid_argument& missing) {
+        return missing.what();
+    }
+    name = std::to_string(*page);
+    return {};
 }
 
 }  // namespace
@@ -27,9 +33,11 @@ std::string RequireCodePage(const std::string& number) {
 void AddCodePageOption(CLI::App& command, int& codePage) {
     command
         .add_option("--code-page", codePage,
-                    "Code page of forms that are not UTF-8: 1250 to 1258 or 65001")
-        ->capture_default_str()
-        ->check(RequireCodePage, "");
+                    std::string("Code page of forms that are not UTF-8: ") +
+                        forms::codePageNumbers +
+                        ", or a name such as gbk or shift_jis; without it, the fonts and the bytes "
+                        "of a form tell, or else it is 1252")
+        ->transform(CLI::Validator(RequireCodePage, ""));
 }
 
 }  // namespace lumenkit::cli

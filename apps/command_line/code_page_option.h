@@ -4,8 +4,8 @@
 
 namespace lumenkit::cli {
 
-/// Adds --code-page, the encoding of forms that are not UTF-8. Rejects unknown code pages. The help
-/// shows the present value of `codePage`, which must outlive parsing.
+/// Adds --code-page, the number or the name of the code page of forms that are not UTF-8. Rejects
+/// unknown code pages. `codePage` must outlive parsing.
 void AddCodePageOption(CLI::App& command, int& codePage);
 
 }  // namespace lumenkit::cli

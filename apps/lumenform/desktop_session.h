@@ -8,7 +8,7 @@
 
 #include <CLI/CLI.hpp>
 
-#include "forms/encoding.h"
+#include "forms/known_code_pages.h"
 #include "runtime/qt/context.h"
 
 namespace lumenkit::lumenform {
@@ -16,7 +16,7 @@ namespace lumenkit::lumenform {
 struct DesktopOptions {
     std::string form;
     bool dark = false;
-    int codePage = forms::defaultCodePage;
+    int codePage = forms::guessedCodePage;
 };
 
 /// Adds --dark and --code-page to the command.

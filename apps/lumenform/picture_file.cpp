@@ -41,8 +41,10 @@ void PictureFile::RequireOtherThan(const fs::path& form) const {
 
 void PictureFile::RequireOtherThanCompanion(const fs::path& form,
                                             const forms::Document& document) const {
+    const forms::CompanionName name{document.CompanionName(),
+                                    document.NameBytes(document.CompanionName())};
     const fs::path companion =
-        forms::CompanionPath(form, document.CompanionName(), [](const fs::path&) { return true; });
+        forms::CompanionPath(form, name, [](const fs::path&) { return true; });
     if (IsSameFile(path_, companion)) {
         throw std::runtime_error(path_ +
                                  ": is the companion of the form; it is not replaced by a picture");

@@ -13,8 +13,8 @@
 #include "apps/lumenform/picture_file.h"
 #include "apps/lumenform/rendered_design.h"
 #include "apps/lumenform/warnings.h"
-#include "forms/encoding.h"
 #include "forms/file.h"
+#include "forms/known_code_pages.h"
 #include "project/lumenkit_classes.h"
 
 namespace lumenkit::lumenform {
@@ -32,7 +32,7 @@ struct Options {
     bool design = false;
     bool page = false;
     bool dark = false;
-    int codePage = forms::defaultCodePage;
+    int codePage = forms::guessedCodePage;
 };
 
 void RequireRoom(const Options& options, QSize size) {

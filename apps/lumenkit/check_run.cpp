@@ -10,6 +10,7 @@
 #include "apps/lumenkit/in_order.h"
 #include "apps/lumenkit/terminal.h"
 #include "apps/lumenkit/text_input.h"
+#include "forms/code_page_guess.h"
 #include "forms/file.h"
 #include "project/lumenkit_classes.h"
 
@@ -67,29 +68,37 @@ void CheckRun::CheckFiles(const std::vector<std::string>& files) {
 }
 
 CheckRun::Result CheckRun::Check(const std::string& file) const {
+    Result result;
     try {
-        return {.findings = FindingsIn(file), .error = std::nullopt};
+        if (options_.captions) {
+            result.findings = check::CheckCaptionFile(file, ReadText(file));
+            return result;
+        }
+        return CheckForm(file);
     } catch (const forms::FormError& error) {
-        return {{}, FileError{error.File(), error.Place(), error.Description(), error.what()}};
+        result.error = {error.File(), error.Place(), error.Description(), error.what()};
     } catch (const UnusableInput& error) {
-        return {{}, FileError{file, {}, error.what(), error.what()}};
+        result.error = {file, {}, error.what(), error.what()};
     } catch (const std::bad_alloc&) {
         const std::string description = "there is not enough memory to check it";
-        return {{}, FileError{file, {}, description, file + ": " + description}};
+        result.error = {file, {}, description, file + ": " + description};
     }
+    return result;
 }
 
-Findings CheckRun::FindingsIn(const std::string& file) const {
-    if (options_.captions) {
-        return check::CheckCaptionFile(file, ReadText(file));
-    }
-    const forms::Document document =
+CheckRun::Result CheckRun::CheckForm(const std::string& file) const {
+    const forms::Document form =
         file == standardInput
             ? forms::Document::Parse(standardInput, ReadBytes(file), {}, options_.codePage)
             : forms::Load(file, options_.codePage);
-    Findings findings = check::CheckForm(document, lumenkitClasses);
-    check::ApplyComments(document, findings);
-    return findings;
+    Result result;
+    if (const std::optional<forms::CodePageGuess>& guess = form.Guess()) {
+        result.note = {form.Name(), guess->place,
+                       TextOf(*guess) + "; --code-page names another one"};
+    }
+    result.findings = check::CheckForm(form, lumenkitClasses);
+    check::ApplyComments(form, result.findings);
+    return result;
 }
 
 void CheckRun::Take(const std::string& file, Result result, check::ProgressBar& bar) {
@@ -99,6 +108,10 @@ void CheckRun::Take(const std::string& file, Result result, check::ProgressBar& 
         return;
     }
     ++checked_;
+    if (result.note) {
+        bar.Hide();
+        reporter_.Report(*result.note);
+    }
     Findings& findings = result.findings;
     std::erase_if(findings, [&](const check::Finding& finding) {
         return !options_.selection.Takes(finding);

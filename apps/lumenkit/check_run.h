@@ -20,7 +20,7 @@ namespace lumenkit::cli {
 struct CheckOptions {
     std::vector<std::string> paths;
     bool captions = false;
-    int codePage = forms::defaultCodePage;
+    int codePage = forms::guessedCodePage;
     check::Selection selection;
     std::string baseline;       ///< a file with known findings; empty for none
     std::string writeBaseline;  ///< where to write the findings as known ones; empty for nowhere
@@ -40,11 +40,12 @@ class CheckRun {
  private:
     struct Result {
         check::Findings findings;
+        std::optional<check::Note> note;
         std::optional<check::FileError> error;
     };
 
     Result Check(const std::string& file) const;
-    check::Findings FindingsIn(const std::string& file) const;
+    Result CheckForm(const std::string& file) const;
     void CheckFiles(const std::vector<std::string>& files);
     void Take(const std::string& file, Result result, check::ProgressBar& bar);
     void Report(const check::FileError& error);

@@ -17,7 +17,8 @@ contains the error, and drive continues with the next line.
 
 Answers: {"ok":true,"value":...,"log":[...]} or
   {"ok":false,"error":{"number":...,"text":...},"log":[...]}. "value" is absent if there is
-  no result, "number" if the error is not a runtime error. "log" lists the notifications to
+  no result, "number" if the error is not a runtime error. "warnings" lists what a loaded
+  form contains that has no effect, and its guessed code page. "log" lists the notifications to
   the container: {"event":NAME,"args":[...]}, {"changed":NAME},
   {"message":{"text":...,"title":...,"style":...}}, {"beep":true}.
 

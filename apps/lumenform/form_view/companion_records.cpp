@@ -6,7 +6,6 @@
 #include <optional>
 
 #include "forms/code_page.h"
-#include "forms/encoding.h"
 
 namespace lumenkit::lumenform {
 
@@ -46,7 +45,7 @@ QPixmap PictureIn(std::string_view record) {
 }
 
 std::vector<Text> ItemsOf(std::string_view record, int codePage) {
-    const forms::CodePage page(codePage == forms::utf8CodePage ? forms::defaultCodePage : codePage);
+    const forms::CodePage page(codePage);
     std::vector<Text> items;
     const std::optional<std::size_t> count = TakeNumber(record);
     static_cast<void>(TakeNumber(record));

@@ -18,8 +18,7 @@ QPixmap PictureIn(std::string_view record);
 /// Returns the items of a list box or combo box from the record that its property List refers to.
 /// The record holds the number of items, a reserved number, and for each item its length in bytes
 /// and its text. All numbers have two bytes, the lower byte first. From a truncated record, returns
-/// the complete items. The texts are in `codePage`. If that is UTF-8, they are read as 1252,
-/// because companion files are never in UTF-8.
+/// the complete items. The texts are in `codePage`, which is not UTF-8.
 std::vector<Text> ItemsOf(std::string_view record, int codePage);
 
 }  // namespace lumenkit::lumenform

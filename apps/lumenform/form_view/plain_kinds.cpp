@@ -163,7 +163,8 @@ PlainWidget MakeFrame(const BlockReader& reader, const PlainSink& /*raise*/) {
 
 QStringList Items(const BlockReader& reader) {
     QStringList items;
-    for (const Text& item : ItemsOf(reader.Record(u"List"), reader.Document().FormCodePage())) {
+    for (const Text& item :
+         ItemsOf(reader.Record(u"List"), reader.Document().CompanionCodePage())) {
         items.append(qt::ToQString(item));
     }
     return items;

@@ -3,10 +3,14 @@
 #include <algorithm>
 #include <array>
 #include <cstdint>
+#include <map>
+#include <memory>
 #include <optional>
 #include <set>
 #include <tuple>
 #include <utility>
+#include <variant>
+#include <vector>
 
 #include "apps/lumenkit/check/caption_check.h"
 #include "apps/lumenkit/check/contents_check.h"
@@ -17,7 +21,9 @@
 #include "apps/lumenkit/check/spoken_name_check.h"
 #include "apps/lumenkit/check/text_places.h"
 #include "apps/lumenkit/check/trial_check.h"
+#include "forms/controls.h"
 #include "forms/naming_labels.h"
+#include "frame/utf8.h"
 
 namespace lumenkit::check {
 
@@ -76,21 +82,96 @@ auto PlaceIn(const Finding& finding) {
     return std::tuple(finding.place.line, finding.place.column, finding.offset.value_or(0));
 }
 
+void AddNameClashes(const forms::Document& document, Findings& findings) {
+    for (const forms::NameClash& clash : forms::NameClashes(document.Root())) {
+        findings.push_back({rules::duplicateName.name,
+                            document.Name(),
+                            clash.control->NamePlace(),
+                            ToUtf8(forms::NameInCode(*clash.control)),
+                            {},
+                            std::nullopt,
+                            TextOf(clash),
+                            {},
+                            false});
+    }
+}
+
+// The control and the property at a place.
+struct Subject {
+    std::string control;
+    std::string property;
+};
+
+// Finds the subjects of lines. The recursion is as deep as the blocks are nested, which the parser
+// limits.
+class Subjects {
+ public:
+    explicit Subjects(const forms::Block& form) { AddControl(form); }
+
+    Subject At(std::size_t line) const {
+        const auto found = byLine_.find(line);
+        return found == byLine_.end() ? Subject() : found->second;
+    }
+
+ private:
+    void AddControl(const forms::Block& control) {
+        const std::string name = ToUtf8(forms::NameInCode(control));
+        byLine_[control.NamePlace().line] = {name, {}};
+        AddItems(control, name, {});
+    }
+    // `path` is that of the property groups around the block: "Font.".
+    void AddItems(const forms::Block& block, const std::string& control, const std::string& path) {
+        for (const forms::Block::Item& item : block.Items()) {
+            if (const auto* property = std::get_if<std::unique_ptr<forms::Property>>(&item)) {
+                byLine_[(*property)->NamePlace().line] = {control,
+                                                          path + ToUtf8((*property)->Name())};
+            } else if (const auto* line = std::get_if<std::unique_ptr<forms::IdleLine>>(&item)) {
+                byLine_[(*line)->place.line] = {control, {}};
+            } else if (const auto* inner = std::get_if<std::unique_ptr<forms::Block>>(&item)) {
+                AddBlock(**inner, control, path);
+            }
+        }
+    }
+    void AddBlock(const forms::Block& inner, const std::string& control, const std::string& path) {
+        if (inner.Kind() == forms::BlockKind::Control) {
+            AddControl(inner);
+        } else {
+            const std::string name = path + ToUtf8(inner.Name());
+            byLine_[inner.NamePlace().line] = {control, name};
+            AddItems(inner, control, name + '.');
+        }
+    }
+
+    std::map<std::size_t, Subject> byLine_;
+};
+
+// The text of a warning without the name of the property, which a finding has besides.
+std::string MessageOf(const forms::Warning& warning, const Subject& subject) {
+    const std::string name = subject.property + ": ";
+    return warning.text.starts_with(name) ? warning.text.substr(name.size()) : warning.text;
+}
+
 // Adds the warnings of the document, except where another finding has the same place.
 void AddWarnings(const forms::Document& document, Findings& findings) {
     std::set<std::pair<std::size_t, std::size_t>> places;
     for (const Finding& finding : findings) {
         places.emplace(finding.place.line, finding.place.column);
     }
-    for (const forms::Warning& warning : document.Warnings()) {
+    const std::vector<forms::Warning> warnings = document.Warnings();
+    if (warnings.empty()) {
+        return;
+    }
+    const Subjects subjects(document.Root());
+    for (const forms::Warning& warning : warnings) {
+        const Subject subject = subjects.At(warning.place.line);
         if (!places.contains({warning.place.line, warning.place.column})) {
             findings.push_back({rules::notUnderstood.name,
                                 document.Name(),
                                 warning.place,
-                                {},
-                                {},
+                                subject.control,
+                                subject.property,
                                 std::nullopt,
-                                warning.text,
+                                MessageOf(warning, subject),
                                 {},
                                 false});
         }
@@ -109,6 +190,7 @@ Findings CheckForm(const forms::Document& document, const ClassTable& classes) {
             CheckSpokenName(control, document, label);
         }
     }
+    AddNameClashes(document, findings);
     AddWarnings(document, findings);
     std::stable_sort(
         findings.begin(), findings.end(),

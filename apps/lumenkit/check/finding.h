@@ -26,8 +26,7 @@ struct Finding {
     std::string_view rule;              ///< the name of a rule in rules.h
     std::string file;                   ///< as named by the caller
     forms::Position place;              ///< in the file
-    std::string control;                ///< "VLabel1", "VLabel1(2)"; empty for a caption file and
-                                        ///< for what is not about one control
+    std::string control;                ///< "VLabel1", "VLabel1(2)"; empty for a caption file
     std::string property;               ///< "Caption"; empty if it is not about one property
     std::optional<std::size_t> offset;  ///< in the text of the property, if it is about a text
     std::string message;

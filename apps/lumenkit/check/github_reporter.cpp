@@ -55,6 +55,11 @@ void GithubReporter::Report(const Findings& findings) {
     }
 }
 
+void GithubReporter::Report(const Note& note) {
+    output_ << "::notice" << Place(note.file, note.place) << "::" << EscapedMessage(note.text)
+            << '\n';
+}
+
 void GithubReporter::Report(const FileError& error) {
     output_ << "::error" << Place(error.file, error.place)
             << "::" << EscapedMessage(error.description) << '\n';

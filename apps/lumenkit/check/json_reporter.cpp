@@ -41,6 +41,13 @@ Json ToJson(const FileError& error) {
 
 }  // namespace
 
+void JsonReporter::Report(const Note& note) {
+    notes_.push_back({{"file", note.file},
+                      {"line", note.place.line},
+                      {"column", note.place.column},
+                      {"message", note.text}});
+}
+
 void JsonReporter::Report(const Findings& findings) {
     for (const Finding& finding : findings) {
         findings_.push_back(ToJson(finding));
@@ -52,7 +59,10 @@ void JsonReporter::Report(const FileError& error) {
 }
 
 void JsonReporter::Finish(std::size_t files) {
-    const Json report = {{"files", files}, {"findings", findings_}, {"errors", errors_}};
+    Json report = {{"files", files}, {"findings", findings_}, {"errors", errors_}};
+    if (!notes_.empty()) {
+        report["notes"] = notes_;
+    }
     // A file name may contain bytes that are not UTF-8: they are replaced.
     output_ << report.dump(-1, ' ', false, Json::error_handler_t::replace) << '\n';
 }

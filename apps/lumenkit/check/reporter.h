@@ -20,10 +20,18 @@ struct FileError {
     std::string text;         ///< complete: "file:line:column: description"
 };
 
+/// A remark about how a file was read, which is no finding.
+struct Note {
+    std::string file;
+    forms::Position place;
+    std::string text;  ///< without the place
+};
+
 class Reporter {
  public:
     virtual ~Reporter() = default;
 
+    virtual void Report(const Note& note) = 0;
     virtual void Report(const Findings& findings) = 0;
     virtual void Report(const FileError& error) = 0;
     /// Called at the end. `files` is the number of checked files.
@@ -46,6 +54,7 @@ class TextReporter final : public Reporter {
     TextReporter(std::ostream& output, std::ostream& errors, ColoredStreams colors)
         : output_(output), errors_(errors), colors_(colors) {}
 
+    void Report(const Note& note) override;
     void Report(const Findings& findings) override;
     void Report(const FileError& error) override;
     void Finish(std::size_t files) override;
@@ -61,18 +70,20 @@ class TextReporter final : public Reporter {
 };
 
 /// Writes one JSON object in one line at the end:
-/// {"files":N,"findings":[...],"errors":[...]}
+/// {"files":N,"findings":[...],"errors":[...]}, and "notes" if there are some
 class JsonReporter final : public Reporter {
  public:
     /// The stream must outlive the reporter.
     explicit JsonReporter(std::ostream& output) : output_(output) {}
 
+    void Report(const Note& note) override;
     void Report(const Findings& findings) override;
     void Report(const FileError& error) override;
     void Finish(std::size_t files) override;
 
  private:
     std::ostream& output_;
+    nlohmann::ordered_json notes_ = nlohmann::ordered_json::array();
     nlohmann::ordered_json findings_ = nlohmann::ordered_json::array();
     nlohmann::ordered_json errors_ = nlohmann::ordered_json::array();
 };
@@ -84,6 +95,7 @@ class SarifReporter final : public Reporter {
     SarifReporter(std::ostream& output, std::string version)
         : output_(output), version_(std::move(version)) {}
 
+    void Report(const Note& note) override;
     void Report(const Findings& findings) override;
     void Report(const FileError& error) override;
     void Finish(std::size_t files) override;
@@ -93,6 +105,7 @@ class SarifReporter final : public Reporter {
     std::string version_;
     nlohmann::ordered_json results_ = nlohmann::ordered_json::array();
     nlohmann::ordered_json notifications_ = nlohmann::ordered_json::array();
+    bool failed_ = false;
 };
 
 /// Writes workflow commands of GitHub, which become annotations of the files in a review.
@@ -101,6 +114,7 @@ class GithubReporter final : public Reporter {
     /// The stream must outlive the reporter.
     explicit GithubReporter(std::ostream& output) : output_(output) {}
 
+    void Report(const Note& note) override;
     void Report(const Findings& findings) override;
     void Report(const FileError& error) override;
     void Finish(std::size_t files) override;

@@ -66,6 +66,9 @@ inline constexpr Rule drawingOverflow{
     "drawing-overflow", Severity::Warning,
     "a saved value at which drawing overflows with the measures of check"};
 
+inline constexpr Rule duplicateName{"duplicate-name", Severity::Warning,
+                                    "a control with the name of another one"};
+
 inline constexpr Rule notUnderstood{"not-understood", Severity::Warning,
                                     "a line, value or reference that is kept without effect"};
 
@@ -82,7 +85,7 @@ inline constexpr std::array allRules = {
     rules::tooManyLines,        rules::textTooLong,         rules::duplicateValue,
     rules::listIndexOutOfRange, rules::textOverLimits,      rules::unreadProperty,
     rules::unreadableValue,     rules::drawingError,        rules::drawingOverflow,
-    rules::notUnderstood,       rules::unnamedControl};
+    rules::duplicateName,       rules::notUnderstood,       rules::unnamedControl};
 
 /// Returns the rule with this name, or null.
 const Rule* FindRule(std::string_view name);

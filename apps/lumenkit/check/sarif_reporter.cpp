@@ -63,7 +63,14 @@ void SarifReporter::Report(const Findings& findings) {
     }
 }
 
+void SarifReporter::Report(const Note& note) {
+    notifications_.push_back({{"level", "note"},
+                              {"message", MessageJson(note.text)},
+                              {"locations", {LocationOf(note.file, note.place)}}});
+}
+
 void SarifReporter::Report(const FileError& error) {
+    failed_ = true;
     notifications_.push_back({{"level", "error"},
                               {"message", MessageJson(error.description)},
                               {"locations", {LocationOf(error.file, error.place)}}});
@@ -71,7 +78,7 @@ void SarifReporter::Report(const FileError& error) {
 
 void SarifReporter::Finish(std::size_t /*files*/) {
     const Json driver = {{"name", "lumenkit check"}, {"version", version_}, {"rules", RulesJson()}};
-    const Json invocation = {{"executionSuccessful", notifications_.empty()},
+    const Json invocation = {{"executionSuccessful", !failed_},
                              {"toolExecutionNotifications", notifications_}};
     const Json run = {{"tool", {{"driver", driver}}},
                       {"columnKind", "utf16CodeUnits"},

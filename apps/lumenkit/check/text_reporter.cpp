@@ -63,6 +63,11 @@ void TextReporter::Report(const Findings& findings) {
     output_.flush();
 }
 
+void TextReporter::Report(const Note& note) {
+    errors_ << "lumenkit: note: " << Printable(note.file) << ':' << note.place.line << ':'
+            << note.place.column << ": " << note.text << '\n';
+}
+
 void TextReporter::Report(const FileError& error) {
     errors_ << Colored(colors_.errors, red, "lumenkit: " + Printable(error.text)) << '\n';
     ++errorCount_;

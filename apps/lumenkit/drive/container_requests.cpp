@@ -1,15 +1,16 @@
 #include <cstdint>
 #include <filesystem>
 #include <memory>
+#include <optional>
 #include <string>
 #include <utility>
 #include <vector>
 
 #include "apps/lumenkit/drive/loaded_form.h"
 #include "apps/lumenkit/drive/requests.h"
-#include "forms/encoding.h"
 #include "forms/file.h"
 #include "forms/form_error.h"
+#include "forms/known_code_pages.h"
 #include "forms/path_names.h"
 #include "frame/host/font.h"
 #include "frame/utf8.h"
@@ -31,6 +32,36 @@ auto WithForms(Act act) {
     }
 }
 
+int CodePageOf(const Fields& request) {
+    if (!request.Has("codePage")) {
+        return forms::guessedCodePage;
+    }
+    if (!request.At("codePage").is_string()) {
+        return request.Whole<std::int32_t>("codePage");
+    }
+    const std::string name = request.String("codePage");
+    if (const std::optional<int> page = forms::CodePageNamed(name)) {
+        return *page;
+    }
+    throw BadRequest("there is no code page \"" + name + '"');
+}
+
+// The guessed code page and the warnings of a form.
+Json WarningsOf(const forms::Document& document) {
+    const auto placed = [](forms::Position place, const std::string& text) {
+        return Json{{"line", place.line}, {"column", place.column}, {"text", text}};
+    };
+    Json warnings = Json::array();
+    if (const std::optional<forms::CodePageGuess>& guess = document.Guess()) {
+        warnings.push_back(
+            placed(guess->place, TextOf(*guess) + "; \"codePage\" names another one"));
+    }
+    for (const forms::Warning& warning : document.Warnings()) {
+        warnings.push_back(placed(warning.place, warning.text));
+    }
+    return warnings;
+}
+
 }  // namespace
 
 Result LoadForm(ScriptedContainer& container, const Fields& request) {
@@ -38,7 +69,7 @@ Result LoadForm(ScriptedContainer& container, const Fields& request) {
         throw BadRequest("there is a form already");
     }
     const bool userMode = IsUserMode(request);
-    const auto codePage = request.Whole<std::int32_t>("codePage", forms::defaultCodePage);
+    const int codePage = CodePageOf(request);
     memory::Form& form = container.GetForm();
     auto loaded = std::make_unique<LoadedForm>(
         WithForms([&] { return forms::Load(FileOf(request), codePage); }), form.Classes());
@@ -51,8 +82,9 @@ Result LoadForm(ScriptedContainer& container, const Fields& request) {
         container.Add(one.id, std::move(one.control));
         ids.push_back(one.id);
     }
+    Json warnings = WarningsOf(loaded->Document());
     container.SetLoaded(std::move(loaded));
-    return ids;
+    return {std::move(ids), std::move(warnings)};
 }
 
 Result WriteForm(ScriptedContainer& container, const Fields& request) {

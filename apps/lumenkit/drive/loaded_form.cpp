@@ -1,30 +1,40 @@
 #include "apps/lumenkit/drive/loaded_form.h"
 
+#include <cstdint>
 #include <set>
 #include <utility>
 
-#include "apps/lumenkit/drive/request.h"
 #include "apps/lumenkit/windowless/saved_font.h"
 #include "apps/lumenkit/windowless/saved_placing.h"
 #include "forms/controls.h"
 #include "forms/form_bag.h"
+#include "frame/numbers.h"
 #include "frame/utf8.h"
 
 namespace lumenkit::cli {
 
+namespace {
+
+// Returns the name or, for a name that an earlier control has, the name with a number: "A#2".
+Text FreshId(const Text& name, std::set<Text>& taken) {
+    Text id = name;
+    for (std::int32_t number = 2; !taken.insert(LCase(id)).second; ++number) {
+        id = name + u'#' + Decimal(number);
+    }
+    return id;
+}
+
+}  // namespace
+
 LoadedForm::LoadedForm(forms::Document document, const ClassTable& classes)
     : document_(std::move(document)) {
-    std::set<Text> names;
+    std::set<Text> ids;
     for (forms::Block* block : forms::AllControls(document_.Root())) {
         const ClassDescriptor* type = classes.Find(block->ClassName());
         if (type == nullptr || type->kind != ClassKind::Control) {
             continue;
         }
-        Text name = forms::NameInCode(*block);
-        if (!names.insert(name).second) {
-            throw BadRequest("the form has two controls \"" + ToUtf8(name) + '"');
-        }
-        found_.push_back({*block, *type, std::move(name)});
+        found_.push_back({*block, *type, FreshId(forms::NameInCode(*block), ids)});
     }
 }
 

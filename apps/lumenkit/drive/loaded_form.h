@@ -25,12 +25,12 @@ class LoadedForm {
         std::unique_ptr<memory::HostedControl> control;
     };
 
-    /// Throws BadRequest if two controls have the same name. The objects that `classes` refers to
-    /// must outlive the loaded form.
+    /// The objects that `classes` refers to must outlive the loaded form.
     LoadedForm(forms::Document document, const ClassTable& classes);
 
     /// The names of the controls whose class is known, such as "VMemo1" or "VMemo1(2)", in the
-    /// order of the file.
+    /// order of the file. A name that an earlier control has, without regard to case, gets a
+    /// number: "vmemo1#2".
     std::vector<std::string> Ids() const;
 
     /// Creates these controls from their saved properties. The caller owns them, and they must

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <optional>
+#include <utility>
 
 #include "apps/lumenkit/drive/json.h"
 #include "apps/lumenkit/drive/request.h"
@@ -9,8 +10,16 @@
 
 namespace lumenkit::cli::requests {
 
-/// The value in the answer; empty if the request has no result.
-using Result = std::optional<Json>;
+/// What an answer contains besides the log.
+struct Result {
+    Result(std::nullopt_t /*none*/) {}  // NOLINT(google-explicit-constructor): no value
+    Result(bool done) : value(done) {}  // NOLINT(google-explicit-constructor)
+    Result(Json result, Json placed = Json::array())  // NOLINT(google-explicit-constructor)
+        : value(std::move(result)), warnings(std::move(placed)) {}
+
+    std::optional<Json> value;      ///< empty if the request has no result
+    Json warnings = Json::array();  ///< about the form that was loaded
+};
 
 // Creation, saving, size and drawing of controls (life_requests.cpp).
 Result New(ScriptedContainer& container, const Fields& request);

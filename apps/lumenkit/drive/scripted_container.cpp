@@ -1,15 +1,25 @@
 #include "apps/lumenkit/drive/scripted_container.h"
 
+#include <algorithm>
+#include <ranges>
 #include <utility>
 
 #include "apps/lumenkit/drive/request.h"
+#include "frame/text.h"
+#include "frame/utf8.h"
 
 namespace lumenkit::cli {
 
 void ScriptedContainer::RequireFree(const std::string& id) const {
-    if (controls_.contains(id) || pages_.contains(id)) {
-        throw BadRequest("there is a \"" + id + "\" already");
-    }
+    const Text name = FromUtf8(id);
+    const auto refuseSame = [&](const std::string& other) {
+        if (SameText(FromUtf8(other), name, Compare::IgnoreCase)) {
+            throw BadRequest("there is a \"" + other + "\" already" +
+                             (other == id ? "" : "; upper and lower case make no difference"));
+        }
+    };
+    std::ranges::for_each(controls_ | std::views::keys, refuseSame);
+    std::ranges::for_each(pages_ | std::views::keys, refuseSame);
 }
 
 void ScriptedContainer::Add(const std::string& id, std::unique_ptr<memory::HostedControl> control) {

@@ -27,7 +27,7 @@ class ScriptedContainer {
     memory::Form& GetForm() { return form_; }
     memory::User& GetUser() { return user_; }
 
-    /// Throws BadRequest if the identifier is in use.
+    /// Throws BadRequest if the identifier is in use, in upper or lower case.
     void RequireFree(const std::string& id) const;
     void Add(const std::string& id, std::unique_ptr<memory::HostedControl> control);
     void Add(const std::string& id, std::unique_ptr<memory::HostedPage> page);

@@ -40,8 +40,12 @@ Json Success(ScriptedContainer& container, std::string_view line) {
     const RequestJson json = ParseRequest(line);
     const Fields request(json, "the request");
     Json answer = {{"ok", true}};
-    if (requests::Result value = HandlerFor(request.String("do"))(container, request)) {
-        answer["value"] = std::move(*value);
+    requests::Result result = HandlerFor(request.String("do"))(container, request);
+    if (result.value) {
+        answer["value"] = std::move(*result.value);
+    }
+    if (!result.warnings.empty()) {
+        answer["warnings"] = std::move(result.warnings);
     }
     return answer;
 }

@@ -94,8 +94,9 @@ TEST(CheckCommand, GoesOnBehindAFormThatCannotBeRead) {
         "broken/lost.frm:3:25: warning: memLost: no label with a text is directly before the memo "
         "in "
         "the tab order; screen readers have no name for it [unnamed-control]\n"
-        "broken/lost.frm:4:27: warning: lost.frx cannot be read; its texts and pictures are "
-        "missing "
+        "broken/lost.frm:4:27: warning: memLost.Text: lost.frx cannot be read; its texts and "
+        "pictures "
+        "are missing "
         "[not-understood]\n"
         "broken/readable.frm:4:28: warning: lblReadable.Caption: unknown command \"Blod\"; did you "
         "mean \"bold\"? [unknown-command]\n"
@@ -104,6 +105,24 @@ TEST(CheckCommand, GoesOnBehindAFormThatCannotBeRead) {
               "lumenkit: broken/cut.frm:5:1: expected End of lblCut (begun in line 3), found the "
               "end of the file\n");
     EXPECT_EQ(text.status, 2);
+}
+
+TEST(CheckCommand, NotesTheGuessedCodePage) {
+    const std::string form = std::string(LUMENKIT_SOURCE_DIR) + "/samples/forms/japanese.frm";
+    const std::string note =
+        "read as Japanese (Shift JIS), code page 932, because its fonts have this character set; "
+        "--code-page names another one";
+    const Outcome text = RunProgram("check " + form);
+    EXPECT_EQ(text.errors, "lumenkit: note: " + form + ":3:18: " + note + "\n");
+    const Outcome json = RunProgram("check --json " + form);
+    EXPECT_THAT(json.output, HasSubstr(R"("notes":[{"file":")" + form +
+                                       R"(","line":3,"column":18,"message":")" + note + "\"}]"));
+    for (const char* const name : {"932", "shift_jis", "cp932"}) {
+        const Outcome named =
+            RunProgram(std::string("check --json --code-page ") + name + ' ' + form);
+        EXPECT_EQ(named.errors, "") << name;
+        EXPECT_THAT(named.output, ::testing::Not(HasSubstr("notes"))) << name;
+    }
 }
 
 TEST(CheckCommand, SaysSoWhenNothingIsWrong) {
@@ -171,7 +190,7 @@ TEST(CheckCommand, SaysThatFindingsCannotBeWritten) {
 }
 
 TEST(CheckCommand, RefusesWrongArguments) {
-    for (const char* arguments : {"check", "check --xml x.frm", "check --code-page 932 x.frm",
+    for (const char* arguments : {"check", "check --xml x.frm", "check --code-page 437 x.frm",
                                   "check --code-page east x.frm"}) {
         const Outcome outcome = RunProgram(arguments);
         EXPECT_EQ(outcome.status, 2) << arguments;

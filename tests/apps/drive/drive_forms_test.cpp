@@ -221,8 +221,6 @@ TEST_F(DriveForms, ControlsThatReportErrorsComeToLifeAllTheSame) {
 
 TEST_F(DriveForms, NothingIsHalfLoaded) {
     const std::string begin = "VERSION 5.00\nBegin VB.Form F\n Begin lumenkit.VLabel L\n End\n";
-    EXPECT_THAT(LoadText(begin + " Begin lumenkit.VLabel L\n End\nEnd\n"),
-                HasSubstr("the form has two controls \\\"L\\\""));
     EXPECT_THAT(LoadText(begin + " Begin lumenkit.VMemo M\n  Width = -1\n End\nEnd\n"),
                 HasSubstr("\"number\":380"));
     EXPECT_THAT(LoadText(begin + " Begin lumenkit.VMemo M\n  Left = \"x\"\n End\nEnd\n"),
@@ -230,6 +228,41 @@ TEST_F(DriveForms, NothingIsHalfLoaded) {
     EXPECT_THAT(Serve(R"({"do":"get","id":"L","name":"Caption"})"),
                 HasSubstr("there is no control"));
     EXPECT_THAT(LoadText(begin + "End\n"), HasSubstr(R"("value":["L"])"));
+}
+
+TEST_F(DriveForms, ControlsWithOneNameAreAWarningAndHaveIdsOfTheirOwn) {
+    const std::string form =
+        "VERSION 5.00\nBegin VB.Form F\n Begin lumenkit.VLabel L\n  Caption = \"1\"\n End\n"
+        " Begin lumenkit.VLabel l\n  Caption = \"2\"\n End\n Begin lumenkit.VLabel L\n End\n"
+        "End\n";
+    const std::string answer = LoadText(form);
+    EXPECT_THAT(answer, HasSubstr(R"("value":["L","l#2","L#3"])"));
+    EXPECT_THAT(answer, HasSubstr(R"("warnings":[{"line":6,"column":24,"text":)"
+                                  R"("there is a control \"L\" already (line 3))"));
+    EXPECT_THAT(Serve(R"({"do":"get","id":"l#2","name":"Caption"})"), HasSubstr("\"2\""));
+    Write("y.frm");
+    EXPECT_EQ(FileBytes(folder / "y.frm"), form);
+    EXPECT_THAT(Serve(R"({"do":"new","class":"VMemo","id":"l"})"),
+                HasSubstr(R"(there is a \"L\" already; upper and lower case make no difference)"));
+}
+
+TEST_F(DriveForms, TheAnswerHasTheWarningsAndTheGuessedCodePage) {
+    const std::string answer = Load(samples / "chinese.frm");
+    EXPECT_THAT(answer, HasSubstr(R"("warnings":[{"line":3,"column":18,"text":"read as Chinese, )"
+                                  R"(simplified (GBK), code page 936, because its fonts have this )"
+                                  R"(character set; \"codePage\" names another one"}])"));
+    EXPECT_THAT(Serve(R"({"do":"get","id":"VMemo1","name":"Text"})"), HasSubstr("第一行：中文"));
+    Write("y.frm");
+    EXPECT_EQ(FileBytes(folder / "y.frm"), FileBytes(samples / "chinese.frm"));
+}
+
+TEST_F(DriveForms, TheCodePageMayBeANameOrANumber) {
+    EXPECT_THAT(Load(samples / "chinese.frm", R"(,"codePage":"latin")"),
+                HasSubstr("there is no code page"));
+    EXPECT_THAT(Load(samples / "chinese.frm", R"(,"codePage":437)"),
+                HasSubstr("code page 437 is not known"));
+    EXPECT_THAT(Load(samples / "chinese.frm", R"(,"codePage":"gbk")"),
+                ::testing::Not(HasSubstr("warnings")));
 }
 
 TEST_F(DriveForms, ReadInAnotherCodePage) {

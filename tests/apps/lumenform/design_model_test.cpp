@@ -402,6 +402,24 @@ TEST(Clipboard, BringsTheLibrariesThatTheControlsNeed) {
     EXPECT_EQ(librariesWith(u"txtPlain"), "");
 }
 
+TEST(Clipboard, CopiesWithOneNameGetTwo) {
+    EditedDesign from(FormWith("   Begin VB.Label One \n   End\n   Begin VB.Label one \n   End\n"));
+    EXPECT_EQ(from.design.Document().Warnings().size(), 1U);
+    from.design.Select(
+        {from.design.View().Controls()[0].get(), from.design.View().Controls()[1].get()});
+    EditedDesign to(FormWith(""));
+    lumenform::Paste(to.design, *lumenform::CopySelected(from.design));
+    EXPECT_TRUE(to.design.Document().Warnings().empty());
+    ASSERT_EQ(to.design.View().Controls().size(), 2U);
+}
+
+TEST(Clipboard, TheTextOfCopiesIsReadable) {
+    EditedDesign from(forms::Load(sampleForms / "japanese.frm"));
+    from.Select({u"VLabel1"});
+    EXPECT_THAT(lumenform::CopySelected(from.design)->text().toStdString(),
+                HasSubstr("|B:1|表示|B:0| ポスト ソ"));
+}
+
 TEST(Clipboard, ElementsOfArraysGetFreeIndices) {
     EditedDesign edited(forms::Load(sampleForms / "control_array.frm"));
     const std::string first = ToUtf8(edited.design.View().Controls().front()->Name());

@@ -5,6 +5,7 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QCommandLinkButton>
+#include <QLabel>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QStatusBar>
@@ -483,6 +484,53 @@ TEST_F(DesignWindowTest, ReasonOutlivesAClickOnAnotherControl) {
     EXPECT_EQ(window.Bench()->Properties().Message(), QString());
     EXPECT_EQ(window.statusBar()->currentMessage(), QStringLiteral("Left: Type mismatch"));
     EXPECT_EQ(Text(), before);
+}
+
+TEST_F(DesignWindowTest, TheStatusLineShowsTheCodePageAndTheMenuChangesIt) {
+    const auto shown = [&] {
+        return window.findChild<QLabel*>(QStringLiteral("codePage"))->text().toStdString();
+    };
+    const auto caption = [&] {
+        return Design().Document().TextOf(*Design().Document().Root().FindProperty(u"Caption"));
+    };
+    EXPECT_EQ(shown(), "");
+    window.Load(Copy("chinese"));
+    EXPECT_EQ(shown(), "Code page 936");
+    EXPECT_EQ(caption(), u"订单");
+    EXPECT_EQ(window.statusBar()->currentMessage(),
+              QStringLiteral("chinese.frm:3:18: read as Chinese, simplified (GBK), code page 936, "
+                             "because its fonts have this character set; File > Read in code page "
+                             "changes this"));
+    QAction& korean = Command(QStringLiteral("949  Korean (UHC)"));
+    EXPECT_FALSE(korean.isChecked());
+    EXPECT_TRUE(Command(QStringLiteral("936  Chinese, simplified (GBK)")).isChecked());
+    korean.trigger();
+    EXPECT_EQ(shown(), "Code page 949");
+    EXPECT_TRUE(korean.isChecked());
+    EXPECT_NE(caption(), u"订单");
+    EXPECT_EQ(window.statusBar()->currentMessage(), QString());
+    EXPECT_EQ(Text(), FileBytes(sampleForms / "chinese.frm"));
+    // Changes are not lost without a question.
+    Select(u"VLabel1");
+    Nudge();
+    const Answer answer(QStringLiteral("Cancel"));
+    Command(QStringLiteral("936  Chinese, simplified (GBK)")).trigger();
+    EXPECT_EQ(shown(), "Code page 949");
+    EXPECT_TRUE(korean.isChecked());
+    Design().History().undo();
+    window.Load(Copy("utf8"));
+    EXPECT_EQ(shown(), "UTF-8");
+}
+
+TEST_F(DesignWindowTest, ANameThatDiffersInCaseOnlyIsRefused) {
+    window.Load(Copy("all_three"));
+    const std::string before = Text();
+    Select(u"VMemo1");
+    TypeInto(u"(Name)", "vlabel1");
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+    EXPECT_EQ(Text(), before);
+    EXPECT_THAT(window.Bench()->Properties().Message().toStdString(),
+                HasSubstr("\"VLabel1\" is already a control of another class"));
 }
 
 TEST_F(DesignWindowTest, RemembersFormsAndTheGrid) {

@@ -24,7 +24,9 @@ bool IsForm(const fs::path& path) {
 }
 
 int CodePageOf(const fs::path& path) {
-    return path.stem() == "polish" ? 1250 : path.stem() == "cyrillic" ? 1251 : 1252;
+    return path.stem() == "polish"     ? 1250
+           : path.stem() == "cyrillic" ? 1251
+                                       : forms::guessedCodePage;
 }
 
 // Returns the first warning of a form.

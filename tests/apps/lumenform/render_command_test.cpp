@@ -229,7 +229,7 @@ TEST_F(RenderCommand, RefusesWrongArguments) {
     for (const char* arguments :
          {"draw", "render", "render x.frm", "render -o y.png", "render x.frm -o y.png --page",
           "design x.frm", "design a b", "render x.frm -o y.png --scale 0",
-          "render x.frm -o y.png --code-page 932"}) {
+          "render x.frm -o y.png --code-page 437"}) {
         const Outcome outcome = RunProgram(arguments);
         EXPECT_EQ(outcome.status, 2) << arguments;
         EXPECT_NE(outcome.errors, "") << arguments;

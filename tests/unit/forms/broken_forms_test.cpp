@@ -218,8 +218,10 @@ TEST(BrokenForms, OddReferencesAreKept) {
 }
 
 TEST(BrokenForms, EncodingsAreRefused) {
-    EXPECT_EQ(ErrorOf("VERSION 5.00\n", "", 932),
-              "x.frm: code page 932 is not known; 1250 to 1258 are, and 65001 (UTF-8)");
+    EXPECT_EQ(
+        ErrorOf("VERSION 5.00\n", "", 437),
+        "x.frm: code page 437 is not known; these are: 874, 932, 936, 949, 950, 1250 to 1258, "
+        "1361 or 65001 (UTF-8)");
     EXPECT_EQ(ErrorOf(WithLine("   Caption = \"\xC3\xA9\xE9\""), "", utf8CodePage),
               "x.frm:3:16: expected UTF-8");
     EXPECT_EQ(ErrorOf("\xEF\xBB\xBF"
@@ -254,7 +256,7 @@ TEST(BrokenForms, TellFileAndPlaceApart) {
 std::string Nested(std::size_t depth, const std::string& open, const std::string& close) {
     std::string form = "VERSION 5.00\n";
     for (std::size_t i = 0; i < depth; ++i) {
-        form += open;
+        form += open + std::to_string(i) + '\n';
     }
     for (std::size_t i = 0; i < depth; ++i) {
         form += close;
@@ -263,14 +265,13 @@ std::string Nested(std::size_t depth, const std::string& open, const std::string
 }
 
 TEST(BrokenForms, NestingIsBounded) {
-    EXPECT_EQ(ErrorOf(Nested(256, "Begin A B\n", "End\n")), "no error");
-    EXPECT_EQ(ErrorOf(Nested(257, "Begin A B\n", "End\n")),
+    EXPECT_EQ(ErrorOf(Nested(256, "Begin A B", "End\n")), "no error");
+    EXPECT_EQ(ErrorOf(Nested(257, "Begin A B", "End\n")),
               "x.frm:258:7: expected at most 256 blocks in one another");
-    EXPECT_EQ(ErrorOf(Nested(1000000, "Begin A B\n", "")),
+    EXPECT_EQ(ErrorOf(Nested(1000000, "Begin A B", "")),
               "x.frm:258:7: expected at most 256 blocks in one another");
-    EXPECT_EQ(
-        ErrorOf("VERSION 5.00\nBegin A B\n" + Nested(300, "BeginProperty C\n", "").substr(13)),
-        "x.frm:258:15: expected at most 256 blocks in one another");
+    EXPECT_EQ(ErrorOf("VERSION 5.00\nBegin A B\n" + Nested(300, "BeginProperty C", "").substr(13)),
+              "x.frm:258:15: expected at most 256 blocks in one another");
 }
 
 // Not a measure of speed: if reading were worse than linear, the test would take hours.
@@ -279,7 +280,7 @@ TEST(BrokenForms, LargeOnesEnd) {
     std::string names;
     for (int i = 0; i < 300000; ++i) {
         properties += "   P" + std::to_string(i) + " = $\"x.frx\":" + "0\n";
-        names += "   Begin VB.Label Label1 \n   End\n";
+        names += "   Begin VB.Label Label" + std::to_string(i) + " \n   End\n";
     }
     const std::string text(1000000, 'x');
     const std::string shared = "\x40\x42\x0F\0"s + text + "left over";

@@ -239,5 +239,69 @@ TEST(Document, SaysWhatItIsWrittenIn) {
               Literal(Text(u"Ελληνικά, Русский, 日本語, \U0001F600")));
 }
 
+TEST(Document, UneditedLinesKeepOtherBytesForTheSameCharacter) {
+    // Two bytes for a character in the head, a first and last line, a property, a comment, an idle
+    // line and the code; each beside a line with the usual bytes.
+    const std::string unusual = "\x87\x90";
+    const std::string usual = "\x81\xE0";
+    const std::string form =
+        "VERSION 5.00\n' " + unusual + "\n' " + usual + "\nBegin VB.Form Form1 ' " + unusual +
+        "\n   Caption = \"" + unusual + "\"\n   Tag = \"" + usual + "\" '" + unusual + "\n   ' " +
+        unusual + "\n   ' " + usual + "\n   Begin VB.Label A\n      Caption = \"" + usual +
+        "\"\n   End ' " + unusual + "\n   Begin VB.Label B\n      Caption = \"" + unusual +
+        "\"\n   End ' " + usual + "\nEnd\nAttribute VB_Name = \"Form1\"\n' " + unusual + "\n' " +
+        usual;
+    Document document = ParseBytes(form, {}, 932);
+    EXPECT_EQ(document.TextOf(*document.Root().FindProperty(u"Caption")), u"≒");
+    EXPECT_EQ(document.Write().form, form);
+    EXPECT_EQ(document.WithBytes(document.Write()).Write().form, form);
+    // New lines before, a block that moves, and an edited line.
+    document.AddLibrary(u"{0}", u"x.ocx");
+    document.RenameForm(u"Form2");
+    Block& first = Find(document, {u"A"});
+    document.Root().MoveControl(first, nullptr);
+    document.Root().FindProperty(u"Tag")->Set(Literal(Text(u"≒")));
+    const std::string expected =
+        "VERSION 5.00\n' " + unusual + "\n' " + usual +
+        "\nObject = \"{0}\"; \"x.ocx\"\nBegin VB.Form Form2 ' " + usual + "\n   Caption = \"" +
+        unusual + "\"\n   Tag = \"" + usual + "\"\n   ' " + unusual + "\n   ' " + usual +
+        "\n   Begin VB.Label B\n      Caption = \"" + unusual + "\"\n   End ' " + usual +
+        "\n   Begin VB.Label A\n      Caption = \"" + usual + "\"\n   End ' " + unusual +
+        "\nEnd\nAttribute VB_Name = \"Form2\"\n' " + unusual + "\n' " + usual;
+    EXPECT_EQ(document.Write().form, expected);
+}
+
+TEST(Document, TextsOfTwoBytesPerCharacterHaveTheirLengthInBytes) {
+    Document document = ParseBytes("VERSION 5.00\nBegin VB.Form Form1\nEnd\n", {}, 936);
+    document.Root().Set(u"Text", TextLiteral(u"中\r\n文"));
+    const FormBytes bytes = document.Write();
+    EXPECT_EQ(bytes.companion, "\x06\xD6\xD0\r\n\xCE\xC4");
+    const Document again = ParseBytes(bytes.form, bytes.companion, 936);
+    EXPECT_EQ(again.TextOf(*again.Root().FindProperty(u"Text")), u"中\r\n文");
+    document.Root().Set(u"Caption", TextLiteral(u"한"));
+    try {
+        document.Write();
+        FAIL();
+    } catch (const FormError& error) {
+        EXPECT_EQ(error.Description(), "U+D55C cannot be written in Windows-936");
+    }
+}
+
+TEST(Document, ControlsWithOneNameAreWarnings) {
+    const std::string form =
+        "VERSION 5.00\nBegin VB.Form Form1\n Begin VB.Label A\n End\n Begin VB.Label a\n End\n"
+        " Begin VB.Label B\n  Index = 0\n End\n Begin VB.Label b\n  Index = 1\n End\n"
+        " Begin VB.Label b\n  Index = 1\n End\n Begin VB.Label B\n End\nEnd\n";
+    const Document document = ParseBytes(form);
+    EXPECT_EQ(document.Write().form, form);
+    const std::vector<Warning> warnings = document.Warnings();
+    ASSERT_EQ(warnings.size(), 3U);
+    EXPECT_EQ(warnings[0], (Warning{{5, 17},
+                                    "there is a control \"A\" already (line 3); upper and lower "
+                                    "case make no difference"}));
+    EXPECT_EQ(warnings[1].place, (Position{13, 17}));
+    EXPECT_EQ(warnings[2].place, (Position{16, 17}));
+}
+
 }  // namespace
 }  // namespace lumenkit::forms::testing

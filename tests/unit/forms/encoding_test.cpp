@@ -33,6 +33,20 @@ TEST(Encoding, KeepsTheCodePageForTheCompanion) {
     EXPECT_EQ(Encoding::Of("plain", 65001).CompanionPage().Number(), 1252);
 }
 
+TEST(Encoding, WithoutANamedPageTheFontsOfAFormInUtf8OrAsciiNameThatOfItsTexts) {
+    const std::string font = "BeginProperty Font\n Charset = 134\nEndProperty\n";
+    const Encoding utf8 = Encoding::Of(font + "Gr\xC3\xBC\xC3\x9F", guessedCodePage);
+    EXPECT_EQ(utf8.FormCodePage(), 65001);
+    EXPECT_EQ(utf8.CompanionPage().Number(), 936);
+    EXPECT_EQ(utf8.Guess(), std::nullopt);
+    const Encoding ascii = Encoding::Of(font, guessedCodePage);
+    EXPECT_EQ(ascii.FormCodePage(), 936);
+    EXPECT_EQ(ascii.Guess(), std::nullopt);
+    EXPECT_EQ(Encoding::Of(font, 1252).FormCodePage(), 1252);
+    EXPECT_EQ(Encoding::Of(font + "\xFC", 1252).Guess(), std::nullopt);
+    EXPECT_EQ(Encoding::Of("plain", guessedCodePage).FormCodePage(), 1252);
+}
+
 TEST(Encoding, DecodesAndEncodesToTheSameBytes) {
     const struct {
         std::string bytes;

@@ -195,6 +195,74 @@ TEST_F(FileTest, ANameThatDiffersInCaseIsThatOfAnotherForm) {
     EXPECT_TRUE(ReadFile(folder / "memo.frx") == Sample("memo.frm").companion);
 }
 
+std::string Chinese(const std::string& companion) {
+    return "VERSION 5.00\nBegin VB.Form Form1\n   Text = $\"" + companion + "\":0000\nEnd\n";
+}
+
+TEST_F(FileTest, ACompanionIsFoundWhateverTheEncodingOfItsName) {
+    const std::string utf8 = "中文.frx";
+    const std::string raw = "\xD6\xD0\xCE\xC4.frx";
+    const std::string text = "\x04\xD6\xD0\xCE\xC4";
+    for (const std::string& onDisk :
+         {utf8, raw, std::string("中文.FRX"), std::string("\xD6\xD0\xCE\xC4.FRX")}) {
+        const fs::path path = folder / "order.frm";
+        WriteFile(path, Chinese(raw));
+        WriteFile(folder / onDisk, text);
+        const Document document = Load(path, 936);
+        EXPECT_THAT(document.Warnings(), ::testing::IsEmpty()) << onDisk;
+        EXPECT_EQ(document.CompanionName(), utf8);
+        Block& form = document.Root();
+        EXPECT_EQ(document.TextOf(*form.FindProperty(u"Text")), u"中文");
+        form.Set(u"Tag", TextLiteral(u"a\nb"));
+        Save(document, path);
+        EXPECT_THAT(Names(), ElementsAre("order.frm", onDisk));
+        EXPECT_EQ(ReadFile(folder / onDisk), text + "\x03" + "a\nb");
+        fs::remove(folder / onDisk);
+    }
+}
+
+TEST_F(FileTest, ACompanionIsFoundAlthoughItsNameIsReadInTheWrongCodePage) {
+    const fs::path path = folder / "中文.frm";
+    WriteFile(path, Chinese("\xD6\xD0\xCE\xC4.frx"));
+    WriteFile(folder / "中文.FRX", "\x04\xD6\xD0\xCE\xC4");
+    const Document document = Load(path, 1252);
+    EXPECT_THAT(document.Warnings(), ::testing::IsEmpty());
+    EXPECT_EQ(document.CompanionName(), "ÖÐÎÄ.frx");
+    EXPECT_EQ(document.TextOf(*document.Root().FindProperty(u"Text")), u"ÖÐÎÄ");
+    document.Root().Set(u"Tag", TextLiteral(u"a\nb"));
+    Save(document, path);
+    EXPECT_THAT(Names(), ElementsAre("中文.FRX", "中文.frm"));
+    // A name in ASCII is meant as it is.
+    WriteFile(path, Chinese("order.frx"));
+    EXPECT_THAT(WarningsIn(path), ::testing::SizeIs(1));
+}
+
+TEST_F(FileTest, TheNameOfAFormMayBeInItsCodePage) {
+    const fs::path path = folder / "\xD6\xD0.frm";
+    WriteFile(path, "VERSION 5.00\nBegin VB.Form Form1\n   Caption = \"\xD6\xD0\"\nEnd\n");
+    const Document document = Load(path, 936);
+    EXPECT_EQ(document.CompanionName(), "中.frx");
+    document.Root().Set(u"Text", TextLiteral(u"中\n文"));
+    Save(document, path);
+    EXPECT_THAT(Names(), ElementsAre("\xD6\xD0.frm", "\xD6\xD0.frx"));
+    EXPECT_THAT(ReadFile(path), HasSubstr("$\"\xD6\xD0.frx\":0000"));
+    EXPECT_THAT(Load(path, 936).Warnings(), ::testing::IsEmpty());
+}
+
+TEST_F(FileTest, AConfirmedSaveReplacesACompanionWhoseNameDiffersInCase) {
+    const fs::path path = folder / "order.frm";
+    WriteFile(path, Chinese("ORDER.frx"));
+    WriteFile(folder / "order.frx", "\x01x");
+    Document document = ParseBytes("VERSION 5.00\nBegin VB.Form Form1\nEnd\n");
+    document.Rename("order.frm");
+    document.Root().Set(u"Text", TextLiteral(u"a\nb"));
+    Save(document, path, Replacing::Confirmed);
+    EXPECT_THAT(Names(), ElementsAre("order.frm", "order.frx"));
+    EXPECT_EQ(ReadFile(folder / "order.frx"),
+              "\x03"
+              "a\nb");
+}
+
 TEST_F(FileTest, ACompanionMayLieBesideTheTargetOfALink) {
     fs::create_directory(folder / "real");
     WriteFile(folder / "real" / "memo.frm", Sample("memo.frm").form);

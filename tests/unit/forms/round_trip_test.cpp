@@ -23,7 +23,7 @@ TEST(RoundTrip, GivesEverySampleBackByteForByte) {
 
 TEST(RoundTrip, KeepsCodePagesThatAFormIsNotWrittenIn) {
     for (const SampleForm& sample : SampleForms()) {
-        for (int page = 1250; page <= 1258; ++page) {
+        for (const int page : {874, 932, 936, 949, 950, 1250, 1251, 1252, 1253, 1255, 1257, 1361}) {
             EXPECT_EQ(FaultWith(sample.form, sample.companion, page), "") << sample.name << page;
         }
     }

@@ -26,7 +26,10 @@ fs::path CompanionOf(const fs::path& form) {
 }
 
 int CodePageOf(const std::string& name) {
-    return name == "cyrillic.frm" ? 1251 : name == "polish.frm" ? 1250 : defaultCodePage;
+    static const std::map<std::string, int> pages = {
+        {"chinese.frm", 936}, {"cyrillic.frm", 1251}, {"japanese.frm", 932}, {"polish.frm", 1250}};
+    const auto found = pages.find(name);
+    return found == pages.end() ? defaultCodePage : found->second;
 }
 
 std::vector<SampleForm> ReadSamples() {

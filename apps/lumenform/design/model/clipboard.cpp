@@ -18,6 +18,8 @@
 #include "apps/lumenform/form_view/saved_place.h"
 #include "forms/controls.h"
 #include "forms/copy_control.h"
+#include "forms/encoding.h"
+#include "runtime/qt/qt_text.h"
 
 namespace lumenkit::lumenform {
 
@@ -58,6 +60,11 @@ Clip ClipOf(const FormDesign& design) {
         Rescale(BlockReader(clip, copy), control->Units(), scale);
     }
     return {document.CompanionCodePage(), clip.Write(), scale};
+}
+
+QString TextOf(const Clip& clip) {
+    return qt::ToQString(
+        forms::Encoding::Of(clip.bytes.form, clip.codePage).Decode(clip.bytes.form));
 }
 
 QByteArray Packed(const Clip& clip) {
@@ -176,7 +183,7 @@ std::unique_ptr<QMimeData> CopySelected(const FormDesign& design) {
     const Clip clip = ClipOf(design);
     auto data = std::make_unique<QMimeData>();
     data->setData(QLatin1String(controlsFormat), Packed(clip));
-    data->setText(QString::fromLatin1(BytesOf(clip.bytes.form)));
+    data->setText(TextOf(clip));
     return data;
 }
 

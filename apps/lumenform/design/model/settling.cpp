@@ -23,10 +23,14 @@ class Settling {
     Settling(const forms::Block& form, const forms::Block& clip) : form_(form), clip_(clip) {}
 
     void SettleNames() {
+        const std::vector<forms::NameClash> clashes = forms::NameClashes(clip_);
+        const auto isClash = [&](const forms::Block& block) {
+            return std::ranges::find(clashes, &block, &forms::NameClash::control) != clashes.end();
+        };
         for (forms::Block* block : forms::AllControls(clip_)) {
             if (NumberOf(*block, u"Index") != nullptr && !IsTakenByOne(block->Name())) {
                 SettleIndex(*block);
-            } else if (IsTaken(form_, block->Name())) {
+            } else if (IsTaken(form_, block->Name()) || isClash(*block)) {
                 block->Rename(NewName(*block));
             }
         }

@@ -50,7 +50,8 @@ DesignWindow::DesignWindow(const Setup& setup)
     pages_->addWidget(start_);
     connect(start_, &StartPage::NewWanted, this, &DesignWindow::StartNewUnlessCancelled);
     connect(start_, &StartPage::OpenWanted, this, &DesignWindow::ChooseAndOpen);
-    connect(start_, &StartPage::RecentWanted, this, &DesignWindow::Open);
+    connect(start_, &StartPage::RecentWanted, this,
+            [this](const QString& path) { Open(path, setup_.codePage); });
     AddFileMenu();
     menuBar()->addMenu(&commands_->EditMenu());
     menuBar()->addMenu(view_);
@@ -79,6 +80,8 @@ void DesignWindow::AddFileMenu() {
                             &DesignWindow::ChooseAndOpen);
     open_->setShortcut(QKeySequence::Open);
     recentMenu_ = menu->addMenu(tr("Open &recent"));
+    codePages_ = menu->addMenu(tr("Read in code &page"));
+    AddCodePages();
     menu->addSeparator();
     save_ =
         menu->addAction(icon(QStyle::SP_DialogSaveButton), tr("&Save"), this, &DesignWindow::Save);
@@ -99,7 +102,7 @@ void DesignWindow::FillRecent() {
     for (const QString& path : paths) {
         QString shown = path;
         recentMenu_->addAction(shown.replace(u'&', QStringLiteral("&&")), this,
-                               [this, path] { Open(path); });
+                               [this, path] { Open(path, setup_.codePage); });
     }
     recentMenu_->addSeparator();
     recentMenu_->addAction(tr("&Clear the list"), this, [this] {
@@ -108,6 +111,17 @@ void DesignWindow::FillRecent() {
     });
     recentMenu_->setEnabled(!paths.isEmpty());
     start_->ShowRecent(paths);
+}
+
+void DesignWindow::AddCodePages() {
+    for (const forms::KnownCodePage& page : forms::KnownCodePages()) {
+        const int number = page.number;
+        QAction* const action =
+            codePages_->addAction(tr("%1  %2").arg(number).arg(QString::fromLatin1(page.title)),
+                                  this, [this, number] { ReadAgain(number); });
+        action->setCheckable(true);
+        action->setData(number);
+    }
 }
 
 void DesignWindow::AddRunMenu() {
@@ -169,17 +183,33 @@ void DesignWindow::Follow(Workbench* bench) {
 }
 
 void DesignWindow::Load(const QString& path) {
-    Show(forms::Load(PathOf(path), setup_.codePage), FormFile(path));
+    Load(path, setup_.codePage);
+}
+
+void DesignWindow::Load(const QString& path, int codePage) {
+    Show(forms::Load(PathOf(path), codePage), FormFile(path));
     recent_.Add(path);
     FillRecent();
     ShowWarnings();
 }
 
-// Shows the first warning of the form until the next message.
+void DesignWindow::ReadAgain(int codePage) {
+    if (file_.HasPath()) {
+        Open(file_.Path(), codePage);
+    }
+    UpdateTitle();  // the menu has checked its item
+}
+
+// Shows the guessed code page or the first warning of the form until the next message.
 void DesignWindow::ShowWarnings() {
     const forms::Document& document = bench_->GetDesign().Document();
-    const std::vector<forms::Warning> warnings = document.Warnings();
+    std::vector<forms::Warning> warnings = document.Warnings();
+    if (const std::optional<forms::CodePageGuess>& guess = document.Guess()) {
+        const QString hint = tr("; File > Read in code page changes this");
+        warnings.insert(warnings.begin(), {guess->place, TextOf(*guess) + hint.toStdString()});
+    }
     if (warnings.empty()) {
+        status_->clearMessage();
         return;
     }
     const forms::Warning& first = warnings.front();
@@ -200,12 +230,12 @@ void DesignWindow::StartNew() {
          FormFile());
 }
 
-void DesignWindow::Open(const QString& path) {
+void DesignWindow::Open(const QString& path, int codePage) {
     if (!MayLeave()) {
         return;
     }
     try {
-        Load(path);
+        Load(path, codePage);
     } catch (const forms::FormError& error) {
         Warn(*this, tr("%1 cannot be opened.").arg(QFileInfo(path).fileName()),
              QString::fromUtf8(error.what()));
@@ -215,7 +245,7 @@ void DesignWindow::Open(const QString& path) {
 void DesignWindow::ChooseAndOpen() {
     const QString folder = file_.HasPath() ? QFileInfo(file_.Path()).path() : QString();
     if (const QString path = AskForFormToOpen(*this, folder); !path.isEmpty()) {
-        Open(path);
+        Open(path, setup_.codePage);
     }
 }
 
@@ -329,6 +359,11 @@ void DesignWindow::UpdateTitle() {
     save_->setEnabled(isDesign);
     saveAs_->setEnabled(isDesign);
     close_->setEnabled(isOpen);
+    codePages_->setEnabled(isDesign && file_.HasPath());
+    for (QAction* const action : codePages_->actions()) {
+        action->setChecked(isOpen &&
+                           action->data().toInt() == bench_->GetDesign().Document().FormCodePage());
+    }
     runForm_->setEnabled(isOpen);
     runForm_->setChecked(run_ != nullptr);
 }
@@ -350,7 +385,7 @@ void DesignWindow::dragEnterEvent(QDragEnterEvent* event) {
 
 void DesignWindow::dropEvent(QDropEvent* event) {
     event->acceptProposedAction();
-    Open(DroppedFile(*event->mimeData()));
+    Open(DroppedFile(*event->mimeData()), setup_.codePage);
 }
 
 }  // namespace lumenkit::lumenform

@@ -15,7 +15,7 @@
 #include "apps/lumenform/design/window/start_page.h"
 #include "apps/lumenform/design/window/view_menu.h"
 #include "apps/lumenform/design/window/workbench.h"
-#include "forms/encoding.h"
+#include "forms/known_code_pages.h"
 #include "frame/host/application.h"
 #include "frame/host/interaction.h"
 #include "runtime/qt/context.h"
@@ -32,7 +32,7 @@ class DesignWindow final : public QMainWindow {
         host::Application& application;
         host::Interaction& interaction;         ///< for messages without a listener
         QSettings& settings;                    ///< stored between sessions
-        int codePage = forms::defaultCodePage;  ///< of opened forms
+        int codePage = forms::guessedCodePage;  ///< of opened forms, unless the user names another
     };
 
     /// The objects that `setup` refers to must outlive the window.
@@ -44,6 +44,10 @@ class DesignWindow final : public QMainWindow {
     /// Opens a form in place of the present one, without asking to save. Throws forms::FormError if
     /// it cannot be read; then nothing changes.
     void Load(const QString& path);
+    /// Also names the code page of the form.
+    void Load(const QString& path, int codePage);
+    /// Reads the file of the form again in this code page. Asks to save changes before.
+    void ReadAgain(int codePage);
     void StartNew();
     /// Returns false if the form was not saved. The user then knows why or has cancelled.
     bool Save();
@@ -73,10 +77,11 @@ class DesignWindow final : public QMainWindow {
     void AddRunMenu();
     void AddToolBar();
     void FillRecent();
+    void AddCodePages();
     void Show(forms::Document document, const FormFile& file);
     void ShowStart();
     void Follow(Workbench* bench);
-    void Open(const QString& path);
+    void Open(const QString& path, int codePage);
     void ChooseAndOpen();
     void StartNewUnlessCancelled();
     void Close();
@@ -95,6 +100,7 @@ class DesignWindow final : public QMainWindow {
     ViewMenu* view_;
     PlaceStatus* status_;
     QMenu* recentMenu_ = nullptr;
+    QMenu* codePages_ = nullptr;
     QAction* new_ = nullptr;
     QAction* open_ = nullptr;
     QAction* save_ = nullptr;

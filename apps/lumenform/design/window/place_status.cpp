@@ -2,14 +2,17 @@
 
 #include <cmath>
 
+#include "forms/known_code_pages.h"
 #include "runtime/qt/qt_text.h"
 
 namespace lumenkit::lumenform {
 
 PlaceStatus::PlaceStatus(QWidget* parent)
-    : QStatusBar(parent), pointer_(new QLabel), selection_(new QLabel) {
+    : QStatusBar(parent), pointer_(new QLabel), selection_(new QLabel), codePage_(new QLabel) {
+    codePage_->setObjectName(QStringLiteral("codePage"));
     addPermanentWidget(selection_);
     addPermanentWidget(pointer_);
+    addPermanentWidget(codePage_);
     pointer_->setMinimumWidth(fontMetrics().horizontalAdvance(tr("%1, %2").arg(99999).arg(99999)));
 }
 
@@ -29,6 +32,7 @@ void PlaceStatus::Follow(Workbench* workbench) {
         connect(&workbench->GetCanvas(), &Canvas::PointerLeft, pointer_, &QLabel::clear);
     }
     ShowSelection();
+    ShowCodePage();
 }
 
 void PlaceStatus::ShowSelection() {
@@ -48,6 +52,18 @@ void PlaceStatus::ShowSelection() {
                                              : tr("%n controls, the last %1: %2", nullptr,
                                                   static_cast<int>(selected.size()))
                                                    .arg(name, where));
+}
+
+void PlaceStatus::ShowCodePage() {
+    codePage_->clear();
+    codePage_->setToolTip({});
+    if (workbench_ == nullptr) {
+        return;
+    }
+    const int page = workbench_->GetDesign().Document().FormCodePage();
+    codePage_->setText(page == forms::utf8CodePage ? tr("UTF-8") : tr("Code page %1").arg(page));
+    codePage_->setToolTip(tr("The form is in %1. File > Read in code page reads it in another one.")
+                              .arg(QString::fromStdString(forms::NameOfCodePage(page))));
 }
 
 }  // namespace lumenkit::lumenform

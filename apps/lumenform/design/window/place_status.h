@@ -8,7 +8,7 @@
 namespace lumenkit::lumenform {
 
 /// The status bar of the designer: the position of the mouse, the selection and its place, in
-/// twips.
+/// twips, and the code page of the form.
 class PlaceStatus final : public QStatusBar {
     Q_OBJECT
 
@@ -20,10 +20,12 @@ class PlaceStatus final : public QStatusBar {
 
  private:
     void ShowSelection();
+    void ShowCodePage();
 
     Workbench* workbench_ = nullptr;
     QLabel* pointer_;
     QLabel* selection_;
+    QLabel* codePage_;
 };
 
 }  // namespace lumenkit::lumenform
