@@ -171,7 +171,7 @@ Begin VB.Form frmButtons
       Width           =   1215
    End
    Begin VB.OptionButton optOne 
-      Caption         =   "An option whose caption takes two lines"
+      Caption         =   "An option of two lines of text"
       Height          =   495
       Left            =   120
       TabIndex        =   17
