@@ -63,6 +63,11 @@ std::vector<LiveControl*> InTabOrder(const std::vector<std::unique_ptr<LiveContr
 ClientArea::ClientArea(Color backColor, const Controls& controls, QWidget* parent)
     : QWidget(parent), backColor_(backColor), controls_(controls) {}
 
+void ClientArea::SetPicture(const QPixmap& picture) {
+    picture_ = picture;
+    update();
+}
+
 ClientArea::Route ClientArea::FindRoute() const {
     const std::vector<LiveControl*> order = InTabOrder(controls_);
     Route route;
@@ -158,6 +163,7 @@ void ClientArea::keyPressEvent(QKeyEvent* event) {
 void ClientArea::paintEvent(QPaintEvent* event) {
     QPainter painter(this);
     painter.fillRect(event->rect(), qt::ToQColor(backColor_, palette()));
+    painter.drawPixmap(0, 0, picture_);
 }
 
 }  // namespace lumenkit::lumenform

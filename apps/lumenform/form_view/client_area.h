@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QList>
+#include <QPixmap>
 #include <QWidget>
 #include <cstddef>
 #include <map>
@@ -16,15 +17,19 @@ namespace lumenkit::lumenform {
 /// Returns the controls in the order of TabIndex. Controls without one come last.
 std::vector<LiveControl*> InTabOrder(const std::vector<std::unique_ptr<LiveControl>>& controls);
 
-/// The client area of a form. Paints the background, moves the focus through the controls by
-/// TabIndex with Tab, and clicks the buttons for Enter and Esc. Tab goes from the last control to
-/// the first and does not leave the form. Screen readers get the controls in tab order too.
+/// The client area of a form. Paints the background with its picture, moves the focus through the
+/// controls by TabIndex with Tab, and clicks the buttons for Enter and Esc. Tab goes from the last
+/// control to the first and does not leave the form. Screen readers get the controls in tab order
+/// too.
 class ClientArea final : public QWidget, public qt::SelfDescribing, public qt::ReadingOrder {
  public:
     using Controls = std::vector<std::unique_ptr<LiveControl>>;
 
     /// `controls` may change later. It must outlive this object.
     ClientArea(Color backColor, const Controls& controls, QWidget* parent);
+
+    /// Sets the picture in the upper left corner, behind the controls. It is not scaled.
+    void SetPicture(const QPixmap& picture);
 
     /// The widgets at which Tab stops, in tab order.
     std::vector<QWidget*> TabStops() const;
@@ -56,6 +61,7 @@ class ClientArea final : public QWidget, public qt::SelfDescribing, public qt::R
     Route FindRoute() const;
 
     Color backColor_;
+    QPixmap picture_;
     const Controls& controls_;
 };
 

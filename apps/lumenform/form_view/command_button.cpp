@@ -1,5 +1,8 @@
 #include "apps/lumenform/form_view/command_button.h"
 
+#include <QPainter>
+#include <QStyleOptionButton>
+
 namespace lumenkit::lumenform {
 
 void CommandButton::SetKeys(Keys keys) {
@@ -12,6 +15,13 @@ void CommandButton::SetKeys(Keys keys) {
 void CommandButton::focusOutEvent(QFocusEvent* event) {
     QPushButton::focusOutEvent(event);
     setDefault(keys_.enter);
+}
+
+void CommandButton::paintEvent(QPaintEvent* /*event*/) {
+    QStyleOptionButton option;
+    initStyleOption(&option);
+    QPainter painter(this);
+    look_.Draw(painter, *this, option);
 }
 
 bool CommandButton::IsPressedBy(int key) const {

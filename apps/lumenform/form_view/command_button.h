@@ -2,6 +2,8 @@
 
 #include <QPushButton>
 
+#include "apps/lumenform/form_view/push_look.h"
+
 namespace lumenkit::lumenform {
 
 /// A button that Enter, Esc or both click, wherever the focus is in the form, unless the control
@@ -13,13 +15,17 @@ class CommandButton final : public QPushButton {
         bool escape = false;
     };
 
+    explicit CommandButton(const PushLook& look) : look_(look) {}
+
     void SetKeys(Keys keys);
     bool IsPressedBy(int key) const;
 
  protected:
     void focusOutEvent(QFocusEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
 
  private:
+    PushLook look_;
     Keys keys_;
 };
 

@@ -7,7 +7,7 @@ namespace lumenkit::lumenform {
 FormSize ClientSizeOf(const BlockReader& form) {
     constexpr float usualWidth = 4800;
     constexpr float usualHeight = 3600;
-    const Scale scale = Scale::Of(form, 0, 0);
+    const Scale scale = Scale::Of(form, {0, 0});
     const float scaledWidth = scale.across.LengthToTwips(form.Number(u"ScaleWidth", 0));
     const float scaledHeight = scale.down.LengthToTwips(form.Number(u"ScaleHeight", 0));
     const auto length = [&](TextView name, float scaled, float usual) {

@@ -9,6 +9,7 @@
 #include <string>
 #include <utility>
 
+#include "apps/lumenform/form_view/companion_records.h"
 #include "apps/lumenform/form_view/form_size.h"
 #include "apps/lumenform/form_view/make_control.h"
 #include "apps/lumenform/form_view/menu_bar.h"
@@ -99,12 +100,13 @@ FormView::FormView(const qt::Context& context, forms::Document& document, Mode m
         layout->setMenuBar(bar.release());
     }
     client_ = new ClientArea(backColor, controls_, this);
+    client_->SetPicture(PictureIn(form.Record(u"Picture")));
+    setWindowIcon(PictureIn(form.Record(u"Icon")));
     client_->setFixedSize(PixelsOf(ClientSizeOf(form)));
     layout->addWidget(client_);
     const qt::TwipsPerPixel& twips = qt::TwipsPerPixel::OfScreens();
-    const Scale scale = Scale::Of(form, static_cast<float>(client_->width() * twips.x),
-                                  static_cast<float>(client_->height() * twips.y));
-    inside_.emplace(Surroundings{*client_, backColor, font, scale});
+    const QSizeF room(client_->width() * twips.x, client_->height() * twips.y);
+    inside_.emplace(Surroundings{*client_, backColor, font, Scale::Of(form, room), room});
     AddControls(document.Root(), *inside_);
     NameFields();
     MarkLabels();

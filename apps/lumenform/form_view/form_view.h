@@ -15,8 +15,8 @@
 
 namespace lumenkit::lumenform {
 
-/// Shows a form file with its menus, background and controls, at the size in the file. Changes to
-/// the controls reach the document only through Save.
+/// Shows a form file with its menus, background and controls, at the size in the file. Its window
+/// icon is the icon of the form. Changes to the controls reach the document only through Save.
 class FormView final : public QWidget {
  public:
     /// Throws FormError if a control rejects a value. Context and document must outlive the view.

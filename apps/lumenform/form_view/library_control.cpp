@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "apps/lumenform/form_view/look.h"
 #include "frame/host/property_bag.h"
 #include "frame/runtime_error.h"
 
@@ -74,6 +75,7 @@ void LibraryControl::Start(QWidget& parent, const ClassDescriptor& type) {
         .tag = tag,
         .visible = stage_.mode == Mode::Design || Reader().Flag(u"Visible", true)};
     widget_ = new qt::HostedControl(stage_.context, type, site_, placing, &parent);
+    PaletteChanged();
     LoadingBag bag(stage_.document, Block());
     widget_->StartSaved(bag);
     keeper_.emplace(stage_.document, Block(),
@@ -88,6 +90,11 @@ void LibraryControl::Raise(const EventTable& table, TextView event, std::span<Va
     if (found != table.events.end()) {
         stage_.raise({Block(), Name(), event, found->parameters, arguments});
     }
+}
+
+// The control has its own colours. Those that it takes from the palette are not the container's.
+void LibraryControl::PaletteChanged() {
+    ApplyColors(*widget_, {}, {});
 }
 
 void LibraryControl::Save() {

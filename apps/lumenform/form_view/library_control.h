@@ -26,6 +26,7 @@ class LibraryControl final : public LiveControl {
     void SetSpokenName(const QString& name) override { widget_->SetSpokenName(name); }
     host::Placement Place() const override { return widget_->Place(); }
     void Move(const host::Placement& place) override { widget_->Move(place); }
+    void PaletteChanged() override;
     void Save() override;
 
  private:

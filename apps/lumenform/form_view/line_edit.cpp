@@ -3,6 +3,7 @@
 #include <QDragEnterEvent>
 #include <QDragMoveEvent>
 #include <QDropEvent>
+#include <QFocusEvent>
 #include <QMimeData>
 
 #include "runtime/qt/drop_action.h"
@@ -32,6 +33,22 @@ void LineEdit::dropEvent(QDropEvent* event) {
         setMaxLength(limit);
     } else if (text().size() - before != event->mimeData()->text().size()) {
         qt::LetSourceKeep(*event);
+    }
+}
+
+// For these reasons Qt selects the text, and shows its end.
+void LineEdit::focusInEvent(QFocusEvent* event) {
+    QLineEdit::focusInEvent(event);
+    switch (event->reason()) {
+        case Qt::TabFocusReason:
+        case Qt::BacktabFocusReason:
+        case Qt::ShortcutFocusReason: {
+            const auto length = static_cast<int>(selectedText().size());
+            setSelection(length, -length);
+            break;
+        }
+        default:
+            break;
     }
 }
 

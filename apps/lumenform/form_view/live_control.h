@@ -49,6 +49,8 @@ class LiveControl {
     const Scale& Units() const { return scale_; }
     /// In twips, relative to the upper left corner of the container.
     virtual host::Placement Place() const = 0;
+    /// Whether the control fits its contents, so that it can be elsewhere than its block says.
+    virtual bool IsFitted() const { return false; }
     /// Raises 380 for a negative width or height.
     virtual void Move(const host::Placement& place) = 0;
     /// Called after the palette of the application has changed.

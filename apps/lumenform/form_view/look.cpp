@@ -8,11 +8,12 @@ namespace lumenkit::lumenform {
 
 void ApplyColors(QWidget& widget, WidgetColors colors, WidgetColors usual) {
     const QPalette base = QApplication::palette();
-    QPalette palette;
+    QPalette palette = QApplication::palette(&widget);
     if (colors.fore != usual.fore) {
         const QColor fore = qt::ToQColor(colors.fore, base);
         for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
-            palette.setColor(role, fore);
+            palette.setColor(QPalette::Active, role, fore);
+            palette.setColor(QPalette::Inactive, role, fore);
         }
     }
     if (colors.back != usual.back) {
@@ -21,6 +22,7 @@ void ApplyColors(QWidget& widget, WidgetColors colors, WidgetColors usual) {
         palette.setColor(QPalette::Base, back);
     }
     if (!(widget.palette() == palette)) {
+        palette.setResolveMask(~QPalette::ResolveMask());  // inherits nothing from the container
         widget.setPalette(palette);
     }
 }

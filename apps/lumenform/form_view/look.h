@@ -8,8 +8,9 @@
 
 namespace lumenkit::lumenform {
 
-/// The colours of a widget. A colour that is usual for the kind of widget comes from the palette,
-/// which also provides the disabled colours.
+/// The colours of a widget. A colour that is usual for the kind of widget comes from the palette of
+/// the application, whatever the colours of the container are. So does the text colour of a
+/// disabled widget.
 struct WidgetColors {
     Color fore = Color::ButtonText;
     Color back = Color::ButtonFace;

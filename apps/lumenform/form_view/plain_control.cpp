@@ -1,5 +1,7 @@
 #include "apps/lumenform/form_view/plain_control.h"
 
+#include <utility>
+
 #include "apps/lumenform/form_view/backdrop.h"
 #include "apps/lumenform/form_view/saved_place.h"
 #include "apps/lumenform/form_view/shapes.h"
@@ -22,12 +24,19 @@ PlainControl::PlainControl(const Stage& stage, const Surroundings& around, forms
     }
     PlainWidget made =
         kind_.make(Reader(), [this, &stage](TextView event) { Raise(stage, event); });
+    if (!made.hasBackColor) {
+        colors_.back = kind_.usual.back;
+    }
     QWidget& inside = made.inside == nullptr ? *made.widget : *made.inside;
-    inside_.emplace(Surroundings{inside, colors_.back, font, ScaleInside(made)});
+    const QSizeF room = RoomInside(made);
+    // Only picture boxes have units of their own.
+    const Scale scale = made.inside == nullptr ? Scale() : Scale::Of(Reader(), room);
+    inside_.emplace(Surroundings{inside, colors_.back, font, scale, room});
     if (auto* const line = dynamic_cast<LineWidget*>(made.widget.get())) {
         line->SetRises(Rises(Reader(), Units()));
     }
     reach_ = made.reach;
+    fit_ = std::move(made.fit);
     made.widget->setParent(&around.widget);
     widget_ = made.widget.release();
     SetUp(stage, *font);
@@ -38,15 +47,16 @@ PlainControl::~PlainControl() {
     qt::DeleteSafely(widget_.data());
 }
 
-// Only picture boxes have units of their own.
-Scale PlainControl::ScaleInside(const PlainWidget& made) const {
-    if (made.inside == nullptr) {
-        return {};
-    }
+// Returns the size of the area for contained controls, in twips.
+QSizeF PlainControl::RoomInside(const PlainWidget& made) const {
     const qt::TwipsPerPixel& twips = qt::TwipsPerPixel::OfScreens();
     const QRect client = Covered().adjusted(made.border, made.border, -made.border, -made.border);
-    return Scale::Of(Reader(), static_cast<float>(client.width() * twips.x),
-                     static_cast<float>(client.height() * twips.y));
+    return {client.width() * twips.x, client.height() * twips.y};
+}
+
+void PlainControl::Occupy(const host::Placement& place) {
+    place_ = fit_ ? fit_(place) : place;
+    widget_->setGeometry(Covered());
 }
 
 QRect PlainControl::Covered() const {
@@ -55,8 +65,8 @@ QRect PlainControl::Covered() const {
 
 void PlainControl::SetUp(const Stage& stage, const qt::Font& font) {
     const bool design = stage.mode == Mode::Design;
-    widget_->setGeometry(Covered());
     ApplyFont(*widget_, font);
+    Occupy(place_);
     ApplyColors(*widget_, colors_, kind_.usual);
     PaintOwnBackground(*widget_);
     widget_->setEnabled(Reader().Flag(u"Enabled", true));
@@ -67,6 +77,9 @@ void PlainControl::SetUp(const Stage& stage, const qt::Font& font) {
     if (design) {
         widget_->setAttribute(Qt::WA_TransparentForMouseEvents);
         widget_->setFocusPolicy(Qt::NoFocus);
+        for (QWidget* part : widget_->findChildren<QWidget*>()) {
+            part->setFocusPolicy(Qt::NoFocus);
+        }
     }
 }
 
@@ -80,8 +93,7 @@ void PlainControl::Move(const host::Placement& place) {
     if (place.width < 0 || place.height < 0) {
         lumenkit::Raise(ErrorNumber::InvalidPropertyValue);
     }
-    place_ = place;
-    widget_->setGeometry(Covered());
+    Occupy(place);
 }
 
 QString PlainControl::SpokenText() const {
@@ -98,6 +110,9 @@ void PlainControl::SetSpokenName(const QString& name) {
 // change.
 void PlainControl::Save() {
     const host::Placement former = StoredPlace();
+    if (fit_ && place_ != former) {
+        SetStoredPlace(SavedPlace(kind_.place));  // writes every value that the block does not have
+    }
     LiveControl::Save();
     const auto store = [this](TextView name, const ScaleAxis& axis, float growth) {
         if (growth != 0 && Reader().Has(name)) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QPointer>
+#include <functional>
 #include <optional>
 
 #include "apps/lumenform/form_view/live_control.h"
@@ -9,7 +10,8 @@
 namespace lumenkit::lumenform {
 
 /// A control of another library, shown as a plain widget that looks like it. Only its place is
-/// written to its block, and the size of a picture box in its own units.
+/// written to its block, and the size of a picture box in its own units. A control that fits its
+/// contents can be elsewhere than the block says; its place is written as soon as it is moved.
 class PlainControl final : public LiveControl {
  public:
     PlainControl(const Stage& stage, const Surroundings& around, forms::Block& block);
@@ -24,13 +26,15 @@ class PlainControl final : public LiveControl {
     QString SpokenText() const override;
     void SetSpokenName(const QString& name) override;
     host::Placement Place() const override { return place_; }
+    bool IsFitted() const override { return fit_ != nullptr; }
     void Move(const host::Placement& place) override;
     void PaletteChanged() override;
     void Save() override;
 
  private:
     QRect Covered() const;
-    Scale ScaleInside(const PlainWidget& made) const;
+    void Occupy(const host::Placement& place);
+    QSizeF RoomInside(const PlainWidget& made) const;
     void Raise(const Stage& stage, TextView event);
     void SetUp(const Stage& stage, const qt::Font& font);
 
@@ -38,6 +42,7 @@ class PlainControl final : public LiveControl {
     WidgetColors colors_;
     host::Placement place_;
     int reach_ = 0;
+    std::function<host::Placement(const host::Placement&)> fit_;
     QPointer<QWidget> widget_;
     std::optional<Surroundings> inside_;
 };

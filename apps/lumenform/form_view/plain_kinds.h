@@ -1,27 +1,15 @@
 // The plain widget for each class of control.
 #pragma once
 
-#include <QWidget>
 #include <cstdint>
-#include <functional>
-#include <memory>
 
 #include "apps/lumenform/form_view/block_reader.h"
 #include "apps/lumenform/form_view/look.h"
+#include "apps/lumenform/form_view/plain_widget.h"
 #include "frame/host/constituent.h"
 #include "frame/text.h"
 
 namespace lumenkit::lumenform {
-
-struct PlainWidget {
-    std::unique_ptr<QWidget> widget;
-    QWidget* inside = nullptr;  ///< parent of contained controls; null: the widget
-    int reach = 0;              ///< pixels by which it exceeds the control's place on each side
-    int border = 0;             ///< pixels of the border around `inside`, on each side
-};
-
-/// Reports an action of the user, with the name of the event.
-using PlainSink = std::function<void(TextView event)>;
 
 /// The role of a class's controls in the tab order.
 enum class TabRole : std::uint8_t {

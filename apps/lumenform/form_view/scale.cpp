@@ -40,13 +40,15 @@ Unit UnitOf(std::int32_t mode) {
 
 }  // namespace
 
-Scale Scale::Of(const BlockReader& container, float width, float height) {
+Scale Scale::Of(const BlockReader& container, QSizeF room) {
     const std::int32_t mode = container.Choice(u"ScaleMode", Centimetres + 1, Twips);
     const Unit unit = UnitOf(mode);
     Scale scale{{.unit = unit.x}, {.unit = unit.y}};
     if (mode == User) {
         scale.across.origin = container.Number(u"ScaleLeft", 0);
         scale.down.origin = container.Number(u"ScaleTop", 0);
+        const auto width = static_cast<float>(room.width());
+        const auto height = static_cast<float>(room.height());
         const float unitsAcross = container.Number(u"ScaleWidth", width);
         const float unitsDown = container.Number(u"ScaleHeight", height);
         const float x = width / unitsAcross;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QSizeF>
 #include <cstdint>
 
 #include "apps/lumenform/form_view/block_reader.h"
@@ -29,8 +30,8 @@ struct Scale {
     ScaleAxis across;
     ScaleAxis down;
 
-    /// The scale of a form or picture box with a client area of `width` by `height` twips.
-    static Scale Of(const BlockReader& container, float width, float height);
+    /// The scale of a form or picture box with a client area of this size in twips.
+    static Scale Of(const BlockReader& container, QSizeF room);
 
     friend bool operator==(const Scale&, const Scale&) = default;
 };

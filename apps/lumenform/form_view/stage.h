@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QSizeF>
 #include <QWidget>
 #include <functional>
 #include <memory>
@@ -44,6 +45,7 @@ struct Surroundings {
     Color backColor;
     std::shared_ptr<qt::Font> font;
     Scale scale;
+    QSizeF room = {};  ///< the size of a form or picture box inside its border, in twips
 };
 
 }  // namespace lumenkit::lumenform

@@ -30,6 +30,7 @@ RunWindow::RunWindow(const qt::Context& context, forms::Document& document)
     setCentralWidget(new FormArea(view_));
     const QString caption = qt::ToQString(view_->Caption());
     setWindowTitle(caption.isEmpty() ? qt::ToQString(document.Root().Name()) : caption);
+    setWindowIcon(view_->windowIcon());
     AddLog();
     resize(sizeHint().boundedTo(screen()->availableSize()));
     view_->OnRaised([this](const ControlEvent& event) { log_->Add(event); });

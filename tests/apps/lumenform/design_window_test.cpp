@@ -14,6 +14,8 @@
 #include <QTimer>
 #include <fstream>
 #include <functional>
+#include <set>
+#include <utility>
 
 #include <gmock/gmock.h>
 
@@ -132,6 +134,38 @@ TEST_F(DesignWindowTest, PutsAControlIntoTheMiddle) {
     EXPECT_NEAR(place.left + place.width / 2, 2400, 120);
     EXPECT_NEAR(place.top + place.height / 2, 1800, 120);
     EXPECT_FALSE(window.Bench()->GetCanvas().IsDrawing());
+}
+
+TEST_F(DesignWindowTest, ControlsOfTheToolboxDoNotCoverEachOther) {
+    window.StartNew();
+    lumenform::Toolbox& toolbox = window.Bench()->GetToolbox();
+    const auto add = [&] {
+        toolbox.setFocus();
+        toolbox.setCurrentRow(1);
+        QTest::keyClick(&toolbox, Qt::Key_Return);
+    };
+    for (int count = 0; count < 4; ++count) {
+        add();
+    }
+    const auto place = [&](TextView name) { return Design().View().Find(name)->Place(); };
+    const float step = window.Bench()->GetCanvas().GetGrid().step;
+    for (const auto& [former, next] :
+         {std::pair(u"VMemo1", u"VMemo2"), {u"VMemo2", u"VMemo3"}, {u"VMemo3", u"VMemo4"}}) {
+        EXPECT_EQ(place(next).left, place(former).left + step);
+        EXPECT_EQ(place(next).top, place(former).top + step);
+    }
+    const QSizeF room = Design().View().Inside().room;
+    std::set<std::pair<float, float>> corners;
+    for (int count = 0; count < 30; ++count) {
+        add();
+    }
+    for (const auto& control : Design().View().Controls()) {
+        const host::Placement at = control->Place();
+        corners.emplace(at.left, at.top);
+        EXPECT_LE(at.left + at.width, room.width());
+        EXPECT_LE(at.top + at.height, room.height());
+    }
+    EXPECT_GE(corners.size(), 15U) << "until the form is full";
 }
 
 TEST_F(DesignWindowTest, SavesAndOpensAgain) {

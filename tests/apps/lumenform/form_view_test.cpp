@@ -106,6 +106,31 @@ TEST(FormView, ControlsSeeTheColourAndFontOfWhatTheyLieIn) {
     EXPECT_EQ(label.Host().ambient.AmbientFont()->Size(), 12.0F);
 }
 
+TEST(FormView, ControlsInAColouredContainerHaveTheirOwnColours) {
+    const LoadedView view(
+        FormWith("   Begin VB.Frame F\n BackColor = &H000000FF&\n ForeColor = &H0000FF00&\n"
+                 " Width = 3000\n Height = 2000\n"
+                 "      Begin VB.TextBox T\n End\n"
+                 "      Begin VB.Label L\n End\n"
+                 "      Begin VB.CheckBox C\n End\n"
+                 "      Begin VB.CommandButton B\n End\n"
+                 "      Begin lumenkit.VMemo M\n End\n"
+                 "   End\n"));
+    const QPalette usual = QApplication::palette();
+    const auto expectUsual = [&](const QWidget& widget, QPalette::ColorRole role) {
+        EXPECT_EQ(widget.palette().color(role), usual.color(role)) << role;
+    };
+    EXPECT_EQ(view.Control(u"F").Widget().palette().color(QPalette::Window), QColor(Qt::red));
+    expectUsual(view.Control(u"T").Widget(), QPalette::Base);
+    expectUsual(view.Control(u"T").Widget(), QPalette::Text);
+    expectUsual(view.Control(u"L").Widget(), QPalette::Window);
+    expectUsual(view.Control(u"L").Widget(), QPalette::WindowText);
+    expectUsual(view.Control(u"C").Widget(), QPalette::Window);
+    expectUsual(view.Control(u"B").Widget(), QPalette::ButtonText);
+    expectUsual(view.Part(u"M", u"Text1"), QPalette::Base);
+    expectUsual(view.Part(u"M", u"Text1"), QPalette::Text);
+}
+
 TEST(FormView, HiddenControlsAreSeenInDesignOnly) {
     const std::string inner =
         "   Begin lumenkit.VMemo A\n Visible = 0 'False\n End\n"

@@ -15,11 +15,22 @@ forms::Document FormOf(const std::string& text) {
     return forms::Document::Parse("x.frm", text, {});
 }
 
+namespace {
+
+std::string TextWith(const std::string& inner) {
+    return "VERSION 5.00\nBegin VB.Form Form1\n   ClientHeight = 3000\n   ClientWidth = 4500\n" +
+           inner + "End\n";
+}
+
+}  // namespace
+
 forms::Document FormWith(const std::string& inner) {
-    return FormOf(
-        "VERSION 5.00\nBegin VB.Form Form1\n   ClientHeight = 3000\n"
-        "   ClientWidth = 4500\n" +
-        inner + "End\n");
+    return FormOf(TextWith(inner));
+}
+
+forms::Document FormWith(const std::string& inner, const std::string& companion) {
+    return forms::Document::Parse("x.frm", TextWith(inner),
+                                  [&](const std::string& /*name*/) { return companion; });
 }
 
 Surface::Surface()

@@ -20,6 +20,8 @@ extern const std::filesystem::path sampleForms;
 forms::Document FormOf(const std::string& text);
 /// Returns a form of 300 by 200 pixels at 96 per inch that contains the lines of `inner`.
 forms::Document FormWith(const std::string& inner);
+/// Returns the same form with a companion, "x.frx".
+forms::Document FormWith(const std::string& inner, const std::string& companion);
 
 /// The surroundings that a form needs. Messages are recorded.
 struct Surface {
@@ -49,5 +51,11 @@ class LoadedView {
     QMainWindow window;
     lumenform::FormView* view;
 };
+
+/// Returns the widget of a control. Throws if it is of another class.
+template <typename T>
+T& As(const LoadedView& view, TextView name) {
+    return dynamic_cast<T&>(view.Control(name).Widget());
+}
 
 }  // namespace lumenkit::testing

@@ -32,11 +32,6 @@ using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 using ::testing::Not;
 
-template <typename T>
-T& As(const LoadedView& view, TextView name) {
-    return dynamic_cast<T&>(view.Control(name).Widget());
-}
-
 TEST(PlainControl, ShowsWhatTheFormSays) {
     const LoadedView view(FormWith(
         "   Begin VB.TextBox T\n Text = \"abc\"\n MaxLength = 4\n Locked = -1 'True\n End\n"

@@ -9,6 +9,7 @@
 
 #include "apps/lumenform/design/model/clipboard.h"
 #include "apps/lumenform/design/model/new_control.h"
+#include "apps/lumenform/form_view/saved_place.h"
 #include "tests/apps/lumenform/browsed_form.h"
 #include "tests/apps/lumenform/designed_form.h"
 #include "tests/apps/lumenform/edited_design.h"
@@ -210,6 +211,72 @@ TEST_P(ScaleModes, AResizedContainerKeepsItsUnits) {
     EXPECT_NEAR(NumberIn(form.Saved(), "ScaleHeight"), 3600 / scale.y, 0.01);
     ExpectEnds(form.Saved(), Mode(), {300, 2100, 3600, 600});
     EXPECT_EQ(EditedDesign(FormOf(form.Saved())).PlaceOf(u"L"), "3300 x 1500 at 300, 600");
+}
+
+void ChooseMode(BrowsedForm& form, int mode) {
+    constexpr std::array<const char*, modes> names = {
+        "User", "Twips", "Points", "Pixels", "Characters", "Inches", "Millimetres", "Centimetres"};
+    form.Choose(u"ScaleMode",
+                std::to_string(mode) + " - " + names.at(static_cast<std::size_t>(mode)));
+}
+
+TEST_P(ScaleModes, AnotherUnitInThePropertyListLeavesTheLinesWhereTheyAre) {
+    const std::string line = LineIn(Mode(), 300, 2100, 3600, 600);
+    const std::string before = EditedDesign(FormOf(Form(Mode(), line + anyControls))).Text();
+    for (int mode = 0; mode < modes; ++mode) {
+        if (mode == Mode()) {
+            continue;
+        }
+        BrowsedForm form(FormOf(Form(Mode(), line + anyControls)));
+        form.Select(InBox() ? std::vector<Text>{u"P"} : std::vector<Text>());
+        ChooseMode(form, mode);
+        const std::string saved = form.Saved();
+        EXPECT_NE(saved, before);
+        const EditedDesign loaded(FormOf(saved));
+        const Placement place = loaded.Control(u"L").Place();
+        EXPECT_NEAR(place.left, 300, 0.1) << mode;
+        EXPECT_NEAR(place.top, 600, 0.1) << mode;
+        EXPECT_NEAR(place.width, 3300, 0.1) << mode;
+        EXPECT_NEAR(place.height, 1500, 0.1) << mode;
+        EXPECT_TRUE(lumenform::Rises(
+            lumenform::BlockReader(loaded.design.Document(), loaded.Control(u"L").Block()),
+            loaded.Control(u"L").Units()));
+        if (mode != 0) {
+            ExpectEnds(saved, mode, {300, 2100, 3600, 600});
+            // The numbers in the file have few digits.
+            EXPECT_NEAR(NumberIn(saved, "ScaleWidth") * ScaleIn(mode).x, 4500, 2);
+            EXPECT_NEAR(NumberIn(saved, "ScaleHeight") * ScaleIn(mode).y, 3000, 2);
+            EXPECT_THAT(saved, ::testing::Not(HasSubstr("ScaleLeft")));
+        }
+        EXPECT_EQ(form.design.History().count(), 1);
+        form.design.History().undo();
+        EXPECT_EQ(form.Saved(), before);
+    }
+}
+
+TEST(ScaleMode, AnotherUnitLeavesThePictureAsItIs) {
+    const std::string inner = LineIn(1, 300, 2100, 3600, 600) + anyControls;
+    for (const bool inBox : {false, true}) {
+        std::string saved = InMode(1, inner, inBox);
+        const QImage before = PictureOf(saved);
+        for (const int mode : {3, 7, 0, 6}) {
+            {
+                BrowsedForm form(FormOf(saved));
+                form.Select(inBox ? std::vector<Text>{u"P"} : std::vector<Text>());
+                ChooseMode(form, mode);
+                saved = form.Saved();
+            }
+            EXPECT_EQ(PictureOf(saved), before) << mode;
+        }
+    }
+}
+
+TEST(ScaleMode, TheSameUnitChangesNothing) {
+    BrowsedForm form(FormOf(InMode(3, LineIn(3, 300, 2100, 3600, 600), false)));
+    const std::string before = form.Saved();
+    ChooseMode(form, 3);
+    EXPECT_EQ(form.Saved(), before);
+    EXPECT_EQ(form.design.History().count(), 0);
 }
 
 TEST(ScaleMode, AnArrowKeyMovesAControlOfAPixelFormByAGridStep) {

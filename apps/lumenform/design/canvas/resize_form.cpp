@@ -35,7 +35,7 @@ void Store(const BlockReader& form, const Names& names, float former, float now,
 
 void Store(const BlockReader& form, FormSize now) {
     const FormSize former = ClientSizeOf(form);
-    const Scale scale = Scale::Of(form, former.width, former.height);
+    const Scale scale = Scale::Of(form, QSizeF(former.width, former.height));
     Store(form, {u"ClientWidth", u"Width", u"ScaleWidth"}, former.width, now.width,
           scale.across.LengthFromTwips(now.width));
     Store(form, {u"ClientHeight", u"Height", u"ScaleHeight"}, former.height, now.height,

@@ -64,8 +64,9 @@ ObjectProperty PlaceProperty(FormDesign& design, LiveControl& control, TextView 
             .kind = PropertyKind::Number,
             .place = PropertyPlace::Live,
             .get = [&design, &control, name, member]() -> Value {
+                const float place = control.Place().*member;
                 const BlockReader reader(design.Document(), control.Block());
-                return reader.Number(name, control.Place().*member);
+                return control.IsFitted() ? place : reader.Number(name, place);
             },
             .set =
                 [&control, member](const Value& value) {

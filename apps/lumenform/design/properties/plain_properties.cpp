@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "apps/lumenform/design/model/arrange.h"
+#include "apps/lumenform/design/model/change_units.h"
 #include "apps/lumenform/design/properties/container_properties.h"
 #include "apps/lumenform/design/properties/stored_property.h"
 #include "apps/lumenform/design/properties/usual_properties.h"
@@ -173,6 +174,23 @@ void LetScaleFollow(ObjectProperty& property, FormDesign& design) {
     };
 }
 
+// Lets the lines in a container keep their places when its units change.
+void LetLinesFollow(std::vector<ObjectProperty>& properties, FormDesign& design,
+                    forms::Block& container, QSizeF room) {
+    for (ObjectProperty& property : properties) {
+        if (property.name == u"ScaleMode" && property.set) {
+            property.set = [&design, &container, room, set = property.set](const Value& value) {
+                ChangeUnits(design.Document(), container, room, [&] { set(value); });
+            };
+        }
+    }
+}
+
+// Only picture boxes have units of their own.
+bool HasUnits(const LiveControl& control) {
+    return control.IsContainer() && &control.Inside().widget != &control.Widget();
+}
+
 }  // namespace
 
 std::vector<ObjectProperty> PlainProperties(FormDesign& design, LiveControl& control) {
@@ -181,6 +199,9 @@ std::vector<ObjectProperty> PlainProperties(FormDesign& design, LiveControl& con
         {PlainKindOf(control.Block()).usual, InsideOf(design, ContainerOf(design, control)).font});
     std::erase_if(properties,
                   [](const ObjectProperty& property) { return IsContainers(property.name); });
+    if (HasUnits(control)) {
+        LetLinesFollow(properties, design, control.Block(), control.Inside().room);
+    }
     return properties;
 }
 
@@ -195,6 +216,7 @@ std::vector<ObjectProperty> FormProperties(FormDesign& design) {
     for (ObjectProperty& property : properties) {
         LetScaleFollow(property, design);
     }
+    LetLinesFollow(properties, design, form, design.View().Inside().room);
     properties.push_back(NameProperty(design, form));
     return properties;
 }

@@ -19,6 +19,10 @@ constexpr std::array<TextView, 6> formBorderStyles = {
 constexpr std::array<TextView, 3> checkValues = {u"0 - Unchecked", u"1 - Checked", u"2 - Greyed"};
 constexpr std::array<TextView, 3> comboStyles = {u"0 - Drop-down combo", u"1 - Simple combo",
                                                  u"2 - Drop-down list"};
+constexpr std::array<TextView, 2> buttonStyles = {u"0 - Standard", u"1 - Graphical"};
+constexpr std::array<TextView, 2> listStyles = {u"0 - Standard", u"1 - Check boxes"};
+constexpr std::array<TextView, 3> selections = {u"0 - One item", u"1 - Several items",
+                                                u"2 - Ranges of items"};
 constexpr std::array<TextView, 4> scrollBars = {u"0 - None", u"1 - Horizontal", u"2 - Vertical",
                                                 u"3 - Both"};
 constexpr std::array<TextView, 8> scaleModes = {
@@ -61,6 +65,9 @@ constexpr UsualProperty textAlignment =
     ChoiceOf(u"Alignment", u"The alignment of the text.", 0, textAlignments);
 constexpr UsualProperty buttonAlignment = ChoiceOf(
     u"Alignment", u"The side of the text on which the mark is drawn.", 0, buttonAlignments);
+constexpr UsualProperty buttonStyle =
+    ChoiceOf(u"Style", u"Determines whether the button has its own pictures and background.", 0,
+             buttonStyles);
 constexpr UsualProperty backColor = {u"BackColor", stock::backColorHelp, StoredType::Color};
 constexpr UsualProperty foreColor = {u"ForeColor", stock::foreColorHelp, StoredType::Color};
 constexpr UsualProperty caption =
@@ -90,14 +97,9 @@ constexpr UsualProperty clientWidth = {
     u"ClientWidth", u"The width of the form's client area in twips.", StoredType::Number};
 
 constexpr std::array checkBox = {
-    buttonAlignment,
-    backColor,
-    caption,
-    enabled,
-    font,
-    foreColor,
-    toolTip,
-    ChoiceOf(u"Value", u"The state of the check box.", 0, checkValues)};
+    buttonAlignment, backColor, caption,
+    enabled,         font,      foreColor,
+    buttonStyle,     toolTip,   ChoiceOf(u"Value", u"The state of the check box.", 0, checkValues)};
 constexpr std::array comboBox = {
     backColor,
     enabled,
@@ -109,10 +111,10 @@ constexpr std::array comboBox = {
     String(u"Text", u"The text in the box."),
     toolTip};
 constexpr std::array commandButton = {
-    backColor, Truth(u"Cancel", u"Determines whether Esc presses the button.", false),
-    caption,   Truth(u"Default", u"Determines whether Enter presses the button.", false),
-    enabled,   font,
-    toolTip};
+    backColor,   Truth(u"Cancel", u"Determines whether Esc presses the button.", false),
+    caption,     Truth(u"Default", u"Determines whether Enter presses the button.", false),
+    enabled,     font,
+    buttonStyle, toolTip};
 constexpr std::array frame = {backColor, caption, enabled, font, foreColor, toolTip};
 constexpr std::array image = {
     noBorder, enabled,
@@ -144,10 +146,14 @@ constexpr std::array<UsualProperty, 7> line = {
     {u"Y2", u"The vertical position of the second end of the line.", StoredType::Number}};
 constexpr std::array listBox = {
     backColor,
+    Number(u"Columns", u"The number of visible columns. 0: one column that scrolls up and down.",
+           0),
     enabled,
     font,
     foreColor,
+    ChoiceOf(u"MultiSelect", u"Determines how many items the user can select.", 0, selections),
     Truth(u"Sorted", u"Determines whether the items are sorted.", false),
+    ChoiceOf(u"Style", u"Determines whether each item has a check box.", 0, listStyles),
     toolTip};
 constexpr std::array optionButton = {
     buttonAlignment,
@@ -156,6 +162,7 @@ constexpr std::array optionButton = {
     enabled,
     font,
     foreColor,
+    buttonStyle,
     toolTip,
     Truth(u"Value", u"Determines whether the option button is selected.", false)};
 constexpr std::array pictureBox = {backColor, border, enabled, font, foreColor, scaleMode, toolTip};

@@ -3,6 +3,7 @@
 #include <QVBoxLayout>
 #include <algorithm>
 #include <cmath>
+#include <cstddef>
 
 #include "apps/lumenform/design/model/arrange.h"
 #include "apps/lumenform/design/model/new_control.h"
@@ -23,6 +24,32 @@ host::Placement Centered(const Surroundings& around, host::Placement place, cons
     };
     place.left = start(around.widget.width(), twips.x, place.width);
     place.top = start(around.widget.height(), twips.y, place.height);
+    return place;
+}
+
+// Whether another control of the container begins at the place.
+bool IsTaken(const FormDesign& design, const LiveControl* container, const host::Placement& place) {
+    return std::ranges::any_of(design.View().Controls(), [&](const auto& control) {
+        const host::Placement other = control->Place();
+        return other.left == place.left && other.top == place.top &&
+               ContainerOf(design, *control) == container;
+    });
+}
+
+// Moves a place by steps to where no other control begins. From the edge of the container, the
+// steps go on at its upper left corner.
+host::Placement Cascaded(const FormDesign& design, const LiveControl* container,
+                         host::Placement place, float step) {
+    const QSizeF room = InsideOf(design, container).room;
+    for (std::size_t left = design.View().Controls().size();
+         left > 0 && IsTaken(design, container, place); --left) {
+        place.left += step;
+        place.top += step;
+        if (place.left + place.width > room.width() || place.top + place.height > room.height()) {
+            place.left = 0;
+            place.top = 0;
+        }
+    }
     return place;
 }
 
@@ -92,7 +119,9 @@ void Workbench::PutDown(const QString& className) {
     const LiveControl* const container =
         selected.size() == 1 && selected.front()->IsContainer() ? selected.front() : nullptr;
     const host::Placement usual = UsualPlace(design_.Context().classes, name);
-    Add(name, container, Centered(InsideOf(design_, container), usual, canvas_->GetGrid()));
+    const Grid& grid = canvas_->GetGrid();
+    const host::Placement middle = Centered(InsideOf(design_, container), usual, grid);
+    Add(name, container, Cascaded(design_, container, middle, grid.step));
 }
 
 void Workbench::Add(const Text& className, const LiveControl* container,
