@@ -12,9 +12,9 @@ namespace lumenkit::lumenform {
 
 namespace {
 
-void SetAlignment(QPlainTextEdit& box, Qt::Alignment across) {
+void SetAlignment(QPlainTextEdit& box, Qt::Alignment alignment) {
     QTextOption option = box.document()->defaultTextOption();
-    option.setAlignment(across);
+    option.setAlignment(alignment);
     box.document()->setDefaultTextOption(option);
 }
 
@@ -28,10 +28,10 @@ PlainWidget MakeMultiLine(const BlockReader& reader, const PlainSink& raise) {
     box->setHorizontalScrollBarPolicy(policy(Horizontal));
     box->setVerticalScrollBarPolicy(policy(Vertical));
     // Only lines that begin at the left can be longer than the box.
-    const Qt::Alignment across = AlignmentOf(reader);
-    const bool scrolls = (bars & Horizontal) != 0 && across == Qt::AlignLeft;
+    const Qt::Alignment alignment = AlignmentOf(reader);
+    const bool scrolls = (bars & Horizontal) != 0 && alignment == Qt::AlignLeft;
     box->setLineWrapMode(scrolls ? QPlainTextEdit::NoWrap : QPlainTextEdit::WidgetWidth);
-    SetAlignment(*box, across);
+    SetAlignment(*box, alignment);
     box->setReadOnly(reader.Flag(u"Locked", false));
     box->setTabChangesFocus(true);
     SetBorder(*box, reader.Whole(u"BorderStyle", 1));
