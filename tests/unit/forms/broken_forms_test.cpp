@@ -270,9 +270,8 @@ TEST(BrokenForms, NestingIsBounded) {
               "x.frm:258:7: expected at most 256 blocks in one another");
     EXPECT_EQ(ErrorOf(Nested(1000000, "Begin A B", "")),
               "x.frm:258:7: expected at most 256 blocks in one another");
-    EXPECT_EQ(
-        ErrorOf("VERSION 5.00\nBegin A B\n" + Nested(300, "BeginProperty C", "").substr(13)),
-        "x.frm:258:15: expected at most 256 blocks in one another");
+    EXPECT_EQ(ErrorOf("VERSION 5.00\nBegin A B\n" + Nested(300, "BeginProperty C", "").substr(13)),
+              "x.frm:258:15: expected at most 256 blocks in one another");
 }
 
 // Not a measure of speed: if reading were worse than linear, the test would take hours.
