@@ -164,8 +164,8 @@ bool IsSingle(const Script& script, unsigned byte) {
     return script.hasSingles && byte >= 0xA1 && byte <= 0xDF;
 }
 
-template <std::size_t Size>
-bool IsInOne(const std::array<Zone, Size>& zones, unsigned lead, unsigned trail) {
+template <std::size_t size>
+bool IsInOne(const std::array<Zone, size>& zones, unsigned lead, unsigned trail) {
     return std::ranges::any_of(zones, [&](const Zone& zone) { return zone.Contains(lead, trail); });
 }
 
