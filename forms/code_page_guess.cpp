@@ -156,7 +156,7 @@ constexpr std::array<Script, 4> scripts = {{
     {950,
      {{{0xA1, 0xA3, 0x40, 0xFE}, {0xA4, 0xC6, 0x40, 0x7E}, {0xA4, 0xC6, 0xA1, 0xFE}}},
      // Trail bytes of both kinds: single letters beyond ASCII are before letters of ASCII.
-     {{{{{{0xA4, 0xC6, 0x40, 0x7E}}}, 15}, {{{{0xA4, 0xC6, 0xA1, 0xFE}}}, 15}}},
+     {{{{{{0xA4, 0xC6, 0x40, 0x7E}}}, 15}, {{{{0xA4, 0xC6, 0xA1, 0xFE}}}, 35}}},
      false},
 }};
 
@@ -164,8 +164,8 @@ bool IsSingle(const Script& script, unsigned byte) {
     return script.hasSingles && byte >= 0xA1 && byte <= 0xDF;
 }
 
-template <std::size_t Size>
-bool IsInOne(const std::array<Zone, Size>& zones, unsigned lead, unsigned trail) {
+template <std::size_t size>
+bool IsInOne(const std::array<Zone, size>& zones, unsigned lead, unsigned trail) {
     return std::ranges::any_of(zones, [&](const Zone& zone) { return zone.Contains(lead, trail); });
 }
 
@@ -191,7 +191,7 @@ class Count {
     }
 
     bool IsConvincing() const {
-        constexpr std::size_t fewestDifferent = 6;
+        constexpr std::size_t fewestDifferent = 8;
         constexpr int mostPercent = 90;
         return different_.size() >= fewestDifferent && IsMost(frequent_, all_, mostPercent) &&
                std::ranges::equal(script_.signs, seen_, [&](const Sign& sign, std::size_t seen) {

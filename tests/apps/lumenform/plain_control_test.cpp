@@ -170,7 +170,7 @@ TEST(TextList, ReadsWholeItemsOfAnyRecord) {
                 ElementsAre(u"a", u"bä"));
     EXPECT_THAT(lumenform::ItemsOf("\x02\0\x05\0\x01\0a\x09\0b"s, 1252), ElementsAre(u"a"));
     EXPECT_THAT(lumenform::ItemsOf("\x01\0\0\0\x01\0\xB9"s, 1250), ElementsAre(u"ą"));
-    EXPECT_THAT(lumenform::ItemsOf("\x01\0\0\0\x01\0\xE4"s, 65001), ElementsAre(u"ä"));
+    EXPECT_THAT(lumenform::ItemsOf("\x01\0\0\0\x02\0\x83\x5C"s, 932), ElementsAre(u"ソ"));
     for (const std::string& record : {""s, "\x01"s, "\xFF\xFF"s, "\xFF\xFF\0\0\x01"s}) {
         EXPECT_TRUE(lumenform::ItemsOf(record, 1252).empty());
     }

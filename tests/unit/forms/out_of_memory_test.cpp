@@ -62,6 +62,7 @@ std::pair<std::string, std::string> Written(const Document& document) {
 TEST(FormOutOfMemory, NothingIsHalfRead) {
     for (const SampleForm& sample : SampleForms()) {
         SCOPED_TRACE(sample.name);
+        sample.Parse();  // makes the table of the code page, which stays
         const std::int64_t count = AllocationsOf([&] { sample.Parse(); });
         const std::int64_t live = LiveAllocations();
         for (std::int64_t failing = 1; failing <= count; ++failing) {
@@ -81,6 +82,7 @@ TEST(FormOutOfMemory, ARefusalIsReplacedByIt) {
         }
         ADD_FAILURE() << "the form is broken";
     };
+    parse();  // makes the table of the code page, which stays
     const std::int64_t count = AllocationsOf(parse);
     const std::int64_t live = LiveAllocations();
     for (std::int64_t failing = 1; failing <= count; ++failing) {

@@ -111,15 +111,16 @@ const LiveControl* PasteTarget(const FormDesign& design, const forms::Document& 
     return goesInside ? &last : ContainerOf(design, last);
 }
 
-// Whether another control of the container is at the same left and top.
+// Whether a control of the container that was not pasted is at the same left and top.
 bool IsOccupied(const forms::Document& document, const forms::Block& container,
-                forms::Block& control, const Scale& scale) {
+                const std::vector<forms::Block*>& pasted, forms::Block& control,
+                const Scale& scale) {
     const host::Placement taken = SavedPlace(BlockReader(document, control), scale, {});
     return std::ranges::any_of(container.Controls(), [&](forms::Block* other) {
         const BlockReader reader(document, *other);
         const host::Placement place = SavedPlace(reader, scale, {});
-        return other != &control && !IsMenu(*other) && place.left == taken.left &&
-               place.top == taken.top;
+        return std::ranges::find(pasted, other) == pasted.end() && !IsMenu(*other) &&
+               place.left == taken.left && place.top == taken.top;
     });
 }
 
@@ -127,7 +128,7 @@ bool IsOccupied(const forms::Document& document, const forms::Block& container,
 void StepAside(const forms::Document& document, const forms::Block& container,
                const std::vector<forms::Block*>& pasted, const Scale& scale) {
     while (std::ranges::any_of(pasted, [&](forms::Block* block) {
-        return IsOccupied(document, container, *block, scale);
+        return IsOccupied(document, container, pasted, *block, scale);
     })) {
         for (forms::Block* block : pasted) {
             const BlockReader reader(document, *block);
