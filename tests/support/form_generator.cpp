@@ -609,8 +609,10 @@ void SwapValues(std::string& one, std::string& other) {
     const std::size_t otherAt = other.find('=');
     if (at != std::string::npos && otherAt != std::string::npos) {
         const std::string value = one.substr(at);
-        one.replace(at, std::string::npos, other.substr(otherAt));
-        other.replace(otherAt, std::string::npos, value);
+        one.erase(at);
+        one += other.substr(otherAt);
+        other.erase(otherAt);
+        other += value;
     }
 }
 

@@ -1,6 +1,7 @@
 #include <gmock/gmock.h>
 
 #include "forms/document.h"
+#include "frame/numbers.h"
 #include "tests/unit/forms/sample_forms.h"
 
 namespace lumenkit::forms::testing {
@@ -185,6 +186,40 @@ TEST(Edit, RefusesHalfCharactersInUtf8) {
     EXPECT_EQ(RefusalOf(document), "utf8.frm:13:25: U+D83D cannot be written in UTF-8");
     document.Root().Set(u"Tag", TextLiteral(u"日\r\n本"));
     EXPECT_EQ(RefusalOf(document), "utf8.frm:13:24: U+65E5 cannot be written in Windows-1252");
+}
+
+// A block that is searched often keeps its names sorted.
+TEST(Edit, ABlockOfManyPropertiesIsSearchedLikeASmallOne) {
+    std::string lines;
+    constexpr int count = 5000;
+    for (int i = 0; i < count; ++i) {
+        lines += "P" + std::to_string(i * 7919 % count) + " = " + std::to_string(i) + "\n";
+    }
+    const Document document =
+        ParseBytes("VERSION 5.00\nBegin VB.Form F\n" + lines +
+                   "p17 = 99999\nBeginProperty Font\nEndProperty\nBegin VB.Label L\nEnd\nEnd\n");
+    Block& block = document.Root();
+    const auto find = [&](int number) {
+        const Property* const found = block.FindProperty(u"p" + Decimal(number));
+        return found == nullptr ? -1 : std::get<std::int32_t>(found->Literal()) * 7919 % count;
+    };
+    for (int number = 0; number < count; ++number) {
+        ASSERT_EQ(find(number), number);
+    }
+    EXPECT_EQ(find(count), -1);
+    EXPECT_EQ(block.FindProperty(u"L"), nullptr);
+    EXPECT_NE(block.FindGroup(u"FONT"), nullptr);
+
+    EXPECT_TRUE(block.Remove(u"P4000"));
+    EXPECT_EQ(find(4000), -1);
+    block.Set(u"New", NumberLiteral(5.0), u"P10");
+    block.MoveControl(*block.Controls().front(), nullptr);
+    for (int number = 0; number < count; ++number) {
+        ASSERT_EQ(find(number), number == 4000 ? -1 : number);
+    }
+    EXPECT_NE(block.FindProperty(u"NEW"), nullptr);
+    EXPECT_TRUE(block.Remove(u"p17"));
+    EXPECT_EQ(std::get<std::int32_t>(block.FindProperty(u"P17")->Literal()), 99999);
 }
 
 }  // namespace
