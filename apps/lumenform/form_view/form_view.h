@@ -15,6 +15,8 @@
 
 namespace lumenkit::lumenform {
 
+class UserControlFiles;
+
 /// Shows a form file with its menus, background and controls, at the size in the file. Changes to
 /// the controls reach the document only through Save.
 class FormView final : public QWidget {
@@ -49,10 +51,16 @@ class FormView final : public QWidget {
     void changeEvent(QEvent* event) override;
 
  private:
-    void AddControls(const forms::Block& block, const Surroundings& around);
+    FormView(const qt::Context& context, forms::Document& document, Mode mode,
+             std::shared_ptr<UserControlFiles> userControls, QWidget* parent);
+
+    class UserControl;
+    std::unique_ptr<QWidget> DrawUserControl(const forms::Block& block);
+    void AddControls(const forms::Block& block, const LiveControl* container);
     void NameFields();
     void MarkLabels();
 
+    std::shared_ptr<UserControlFiles> userControls_;
     Stage stage_;
     Text caption_;
     ClientArea::Controls controls_;

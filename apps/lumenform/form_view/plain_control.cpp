@@ -1,7 +1,9 @@
 #include "apps/lumenform/form_view/plain_control.h"
 
+#include "apps/lumenform/form_view/likeness/saved_pages.h"
 #include "apps/lumenform/form_view/saved_place.h"
 #include "apps/lumenform/form_view/shapes.h"
+#include "forms/controls.h"
 #include "frame/runtime_error.h"
 #include "runtime/qt/mnemonic.h"
 #include "runtime/qt/pixels.h"
@@ -19,10 +21,11 @@ PlainControl::PlainControl(const Stage& stage, const Surroundings& around, forms
     if (font == nullptr) {
         font = around.font;
     }
-    PlainWidget made =
-        kind_.make(Reader(), [this, &stage](TextView event) { Raise(stage, event); });
+    PlainWidget made = Make(stage);
     QWidget& inside = made.inside == nullptr ? *made.widget : *made.inside;
     inside_.emplace(Surroundings{inside, colors_.back, font, ScaleInside(made)});
+    pages_ = made.pages;
+    AddPages(*inside_);
     if (auto* const line = dynamic_cast<LineWidget*>(made.widget.get())) {
         line->SetRises(Rises(Reader(), Units()));
     }
@@ -35,6 +38,50 @@ PlainControl::PlainControl(const Stage& stage, const Surroundings& around, forms
 
 PlainControl::~PlainControl() {
     qt::DeleteSafely(widget_.data());
+}
+
+PlainWidget PlainControl::Make(const Stage& stage) {
+    const bool isUnknown = kind_.className.empty();
+    if (isUnknown && stage.drawUserControl) {
+        if (std::unique_ptr<QWidget> picture = stage.drawUserControl(Block())) {
+            return {std::move(picture)};
+        }
+    }
+    return kind_.make(Reader(), [this, &stage](TextView event) { Raise(stage, event); });
+}
+
+void PlainControl::AddPages(const Surroundings& inside) {
+    const int count = pages_ == nullptr ? 0 : pages_->Count();
+    const int current = pages_ == nullptr ? 0 : pages_->Shown();
+    for (int page = 0; page < count; ++page) {
+        onPages_.push_back({.widget = pages_->WidgetOf(page),
+                            .backColor = Color::ButtonFace,
+                            .font = inside.font,
+                            .scale = inside.scale,
+                            .offset = page == current ? 0 : pageOffset});
+    }
+}
+
+const Surroundings& PlainControl::Inside() const {
+    return onPages_.empty() ? *inside_ : onPages_[static_cast<std::size_t>(pages_->Shown())];
+}
+
+// A control that no page lists is on the page that is shown when the form is opened.
+const Surroundings& PlainControl::InsideFor(const forms::Block& inner) const {
+    if (onPages_.empty()) {
+        return *inside_;
+    }
+    const SavedPages saved(Block());
+    const int page = saved.PageOf(forms::NameInCode(inner)).value_or(saved.Current());
+    return onPages_[static_cast<std::size_t>(page)];
+}
+
+std::vector<const Surroundings*> PlainControl::Rooms() const {
+    std::vector<const Surroundings*> rooms;
+    for (const Surroundings& page : onPages_) {
+        rooms.push_back(&page);
+    }
+    return rooms.empty() ? std::vector{&*inside_} : rooms;
 }
 
 // Only picture boxes have units of their own.
@@ -80,6 +127,16 @@ void PlainControl::Move(const host::Placement& place) {
     }
     place_ = place;
     widget_->setGeometry(Covered());
+}
+
+std::int32_t PlainControl::DockingEdge() const {
+    constexpr std::int32_t edges = 5;
+    return kind_.docks ? Reader().Choice(u"Align", edges, 0) : 0;
+}
+
+void PlainControl::Dock(const host::Placement& place) {
+    Move(place);
+    SetStoredPlace(place);
 }
 
 QString PlainControl::SpokenText() const {

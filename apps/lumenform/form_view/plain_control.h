@@ -2,7 +2,9 @@
 
 #include <QPointer>
 #include <optional>
+#include <vector>
 
+#include "apps/lumenform/form_view/likeness/tab_pages.h"
 #include "apps/lumenform/form_view/live_control.h"
 #include "apps/lumenform/form_view/plain_kinds.h"
 
@@ -18,17 +20,24 @@ class PlainControl final : public LiveControl {
     PlainControl& operator=(const PlainControl&) = delete;
 
     QWidget& Widget() const override { return *widget_; }
-    const Surroundings& Inside() const override { return *inside_; }
+    const Surroundings& Inside() const override;
+    const Surroundings& InsideFor(const forms::Block& inner) const override;
+    std::vector<const Surroundings*> Rooms() const override;
+    TabPages* Pages() const override { return pages_; }
     bool IsContainer() const override { return kind_.isContainer; }
     bool IsInBack() const override { return kind_.isInBack; }
     QString SpokenText() const override;
     void SetSpokenName(const QString& name) override;
     host::Placement Place() const override { return place_; }
     void Move(const host::Placement& place) override;
+    std::int32_t DockingEdge() const override;
+    void Dock(const host::Placement& place) override;
     void PaletteChanged() override;
     void Save() override;
 
  private:
+    PlainWidget Make(const Stage& stage);
+    void AddPages(const Surroundings& inside);
     QRect Covered() const;
     Scale ScaleInside(const PlainWidget& made) const;
     void Raise(const Stage& stage, TextView event);
@@ -40,6 +49,8 @@ class PlainControl final : public LiveControl {
     int reach_ = 0;
     QPointer<QWidget> widget_;
     std::optional<Surroundings> inside_;
+    QPointer<TabPages> pages_;
+    std::vector<Surroundings> onPages_;
 };
 
 }  // namespace lumenkit::lumenform

@@ -63,7 +63,9 @@ void GridDots::Follow(const FormView& view) {
     Watch(view.Inside(), true);
     for (const auto& control : view.Controls()) {
         if (control->IsContainer()) {
-            Watch(control->Inside(), false);
+            for (const Surroundings* room : control->Rooms()) {
+                Watch(*room, false);
+            }
         }
     }
 }

@@ -65,7 +65,8 @@ ObjectProperty PlaceProperty(FormDesign& design, LiveControl& control, TextView 
             .place = PropertyPlace::Live,
             .get = [&design, &control, name, member]() -> Value {
                 const BlockReader reader(design.Document(), control.Block());
-                return reader.Number(name, control.Place().*member);
+                const float moved = name == u"Left" ? control.Offset() : 0;
+                return reader.Number(name, control.Place().*member - moved) + moved;
             },
             .set =
                 [&control, member](const Value& value) {
