@@ -28,6 +28,9 @@ class InputFilter final : public QObject {
                 if (IsTab(*event)) {
                     return false;
                 }
+                [[fallthrough]];
+            case QEvent::DragEnter:
+            case QEvent::InputMethod:
                 event->ignore();
                 return true;
             case QEvent::MouseButtonPress:
@@ -39,7 +42,6 @@ class InputFilter final : public QObject {
             case QEvent::HoverEnter:
             case QEvent::HoverMove:
             case QEvent::HoverLeave:
-            case QEvent::DragEnter:
                 event->accept();
                 return true;
             default:
