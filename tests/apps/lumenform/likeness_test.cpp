@@ -1,5 +1,6 @@
 // Controls of other libraries that are shown as likenesses: they look like the controls and do
 // nothing.
+#include <QAccessible>
 #include <QApplication>
 #include <QComboBox>
 #include <QDateTimeEdit>
@@ -12,6 +13,7 @@
 #include <QSlider>
 #include <QTest>
 #include <QTreeWidget>
+#include <map>
 #include <set>
 #include <sstream>
 
@@ -187,13 +189,13 @@ TEST(Likeness, ToolBarsFindThePicturesOfTheirImageList) {
     ASSERT_NE(bar, nullptr);
     lumenform::ListPictures pictures(lumenform::BlockReader(document, *bar));
     forms::Block& buttons = *bar->FindGroup(u"Buttons");
-    const auto colorOf = [&](TextView button) {
+    const auto picture = [&](TextView button) {
         const lumenform::BlockReader reader(document, *buttons.FindGroup(button));
-        return pictures.Of(reader, u"ImageIndex", u"ImageKey").toImage().pixelColor(8, 8);
+        return pictures.Of(reader, u"ImageIndex", u"ImageKey");
     };
-    EXPECT_EQ(colorOf(u"Button1"), QColor(0, 80, 200));
-    EXPECT_EQ(colorOf(u"Button2"), QColor(0, 160, 0)) << "by key";
-    EXPECT_FALSE(colorOf(u"Button3").isValid());
+    EXPECT_EQ(picture(u"Button1").toImage().pixelColor(8, 8), QColor(0, 80, 200));
+    EXPECT_EQ(picture(u"Button2").toImage().pixelColor(8, 8), QColor(0, 160, 0)) << "by key";
+    EXPECT_TRUE(picture(u"Button3").isNull());
 }
 
 struct RichTextWords : ::testing::TestWithParam<Row<TextView, TextView>> {};
@@ -217,6 +219,27 @@ constexpr Row<TextView, TextView> richTexts[] = {
     {"HugeNumber", u"{\\rtf1\\fs99999999999999999999 a}", u"a"},
 };
 INSTANTIATE_TEST_SUITE_P(Texts, RichTextWords, ::testing::ValuesIn(richTexts), RowName());
+
+TEST(Likeness, ScreenReadersGetItsRole) {
+    const LoadedView view(FormWith(AllLikenesses()));
+    const std::map<TextView, QAccessible::Role> roles = {
+        {u"DataCombo", QAccessible::ComboBox},      {u"DataList", QAccessible::List},
+        {u"MaskEdBox", QAccessible::EditableText},  {u"MSFlexGrid", QAccessible::Table},
+        {u"ProgressBar", QAccessible::ProgressBar}, {u"RichTextBox", QAccessible::EditableText},
+        {u"Slider", QAccessible::Slider},           {u"SSTab", QAccessible::PageTabList},
+        {u"StatusBar", QAccessible::StatusBar},     {u"Toolbar", QAccessible::ToolBar},
+        {u"TreeView", QAccessible::Tree},           {u"UpDown", QAccessible::SpinBox}};
+    std::size_t found = 0;
+    for (const NamedClass& named : AllClasses()) {
+        if (const auto role = roles.find(named.row.kind.className); role != roles.end()) {
+            EXPECT_EQ(QAccessible::queryAccessibleInterface(&WidgetOf(view, named))->role(),
+                      role->second)
+                << named.name;
+            ++found;
+        }
+    }
+    EXPECT_GE(found, roles.size());
+}
 
 // ---- Likenesses do nothing
 

@@ -121,7 +121,8 @@ class GridPainter {
         };
         const int rowHeading = row - content_.fixedRows;
         if (row == 0 && content_.fixedRows > 0) {
-            painter_.drawText(room, Qt::AlignVCenter | content_.columns[column].side,
+            painter_.drawText(room,
+                              static_cast<int>(content_.columns[column].side | Qt::AlignVCenter),
                               fitted(content_.columns[column].heading));
         } else if (column == 0 && rowHeading >= 0 &&
                    rowHeading < static_cast<int>(content_.rowHeadings.size())) {

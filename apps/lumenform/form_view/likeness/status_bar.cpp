@@ -83,7 +83,7 @@ void PaintPanel(const StatusPanel& panel, const QRect& where, const QWidget& wid
     painter.setPen(widget.palette().color(isGreyed ? QPalette::Disabled : QPalette::Active,
                                           QPalette::WindowText));
     const QRect room = where.adjusted(inset, 0, -inset, 0);
-    painter.drawText(room, Qt::AlignVCenter | Qt::TextSingleLine | panel.side,
+    painter.drawText(room, static_cast<int>(panel.side | Qt::AlignVCenter) | Qt::TextSingleLine,
                      widget.fontMetrics().elidedText(panel.text, Qt::ElideRight, room.width()));
 }
 

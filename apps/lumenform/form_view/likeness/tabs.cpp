@@ -40,6 +40,7 @@ PlainWidget MakeTabbedBox(const BlockReader& reader, const PlainSink& raise) {
     constexpr float usualHeight = 529;  // hundredths of a millimetre
     const SavedPages saved(reader.Block());
     std::vector<TabPages::Page> pages;
+    pages.reserve(static_cast<std::size_t>(saved.Count()));
     for (int page = 0; page < saved.Count(); ++page) {
         pages.push_back(PageOf(reader, page));
     }

@@ -61,7 +61,7 @@ QString DateFormatOf(const BlockReader& reader) {
         case Time:
             return QStringLiteral("HH:mm:ss");
         case Custom:
-            if (const QString custom = StringOf(reader, u"CustomFormat"); !custom.isEmpty()) {
+            if (QString custom = StringOf(reader, u"CustomFormat"); !custom.isEmpty()) {
                 return custom;
             }
             [[fallthrough]];

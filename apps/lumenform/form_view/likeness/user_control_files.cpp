@@ -33,11 +33,15 @@ Text UserControlIn(const fs::path& path) {
     std::ifstream file(path, std::ios::binary);
     file.read(head.data(), static_cast<std::streamsize>(head.size()));
     head.resize(static_cast<std::size_t>(file.gcount()));
-    const auto found = std::ranges::search(head, opening, {}, [](char byte) {
+    std::string lower = head;
+    std::ranges::transform(lower, lower.begin(), [](char byte) {
         return byte >= 'A' && byte <= 'Z' ? static_cast<char>(byte + ('a' - 'A')) : byte;
     });
-    std::string_view rest(found.begin(), found.empty() ? found.begin() : head.end());
-    rest.remove_prefix(std::min(opening.size(), rest.size()));
+    const std::size_t found = lower.find(opening);
+    if (found == std::string::npos) {
+        return {};
+    }
+    std::string_view rest = std::string_view(head).substr(found + opening.size());
     rest = rest.substr(0, rest.find_first_of("\r\n"));
     const std::size_t first = rest.find_first_not_of(" \t");
     if (first == std::string_view::npos) {
@@ -82,7 +86,7 @@ std::optional<fs::path> UserControlFiles::Take(TextView className) {
     return found->second;
 }
 
-UserControlFiles::Drawing::Drawing(UserControlFiles& files, fs::path path) : files_(files) {
+UserControlFiles::Drawing::Drawing(UserControlFiles& files, const fs::path& path) : files_(files) {
     files_.drawn_.push_back(forms::Resolved(path));
 }
 

@@ -23,7 +23,7 @@ class UserControlFiles {
     /// Marks a file as being drawn as long as the object exists.
     class Drawing {
      public:
-        explicit Drawing(UserControlFiles& files, std::filesystem::path path);
+        Drawing(UserControlFiles& files, const std::filesystem::path& path);
         ~Drawing();
         Drawing(const Drawing&) = delete;
         Drawing& operator=(const Drawing&) = delete;
