@@ -169,6 +169,23 @@ TEST(TabbedBoxDesign, AClickOnATabShowsThePageAndChangesNothing) {
     EXPECT_THAT(canvas.Selected(), ElementsAre("A"));
 }
 
+TEST(TabbedBoxDesign, TheGridIsOnThePageAndNotOnTheTabs) {
+    DesignedForm canvas(tabbedForm);
+    canvas.Select({u"Beside"});
+    const auto drawn = [&](const QRect& part) {
+        return canvas.canvas->GetGlass().parentWidget()->grab(part).toImage();
+    };
+    const TabPages& pages = PagesOf(canvas.Control(u"Box"));
+    const QPoint corner = pages.mapTo(canvas.canvas->GetGlass().parentWidget(), QPoint());
+    const QRect tabs(corner, QSize(pages.width(), 18));
+    const QRect page(corner + QPoint(0, 100), QSize(pages.width(), 50));
+    const QImage tabsWith = drawn(tabs);
+    const QImage pageWith = drawn(page);
+    canvas.canvas->SetGrid({.step = 120, .isShown = false, .snaps = true});
+    EXPECT_EQ(drawn(tabs), tabsWith);
+    EXPECT_NE(drawn(page), pageWith);
+}
+
 TEST(TabbedBoxDesign, AMovedControlOfAnotherPageKeepsItsOffsetInTheFile) {
     DesignedForm canvas(tabbedForm);
     const std::string before = canvas.Saved();
