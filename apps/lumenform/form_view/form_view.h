@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "apps/lumenform/form_view/client_area.h"
+#include "apps/lumenform/form_view/likeness/user_control_files.h"
 #include "apps/lumenform/form_view/live_control.h"
 #include "apps/lumenform/form_view/stage.h"
 #include "forms/document.h"
@@ -14,8 +15,6 @@
 #include "runtime/qt/context.h"
 
 namespace lumenkit::lumenform {
-
-class UserControlFiles;
 
 /// Shows a form file with its menus, background and controls, at the size in the file. Changes to
 /// the controls reach the document only through Save.

@@ -59,6 +59,11 @@ class LiveControl {
     const Scale& Units() const { return scale_; }
     /// In twips, relative to the upper left corner of the container.
     virtual host::Placement Place() const = 0;
+    /// Raises 380 for a negative width or height.
+    virtual void Move(const host::Placement& place) = 0;
+    /// Called after the palette of the application has changed.
+    virtual void PaletteChanged() {}
+
     /// Twips by which the place in the block is to the left of Place(), because the control is on a
     /// page that is not shown when the form is opened.
     float Offset() const { return offset_; }
@@ -67,10 +72,6 @@ class LiveControl {
     virtual std::int32_t DockingEdge() const { return 0; }
     /// Places a docking control. This is no change that Save writes.
     virtual void Dock(const host::Placement& /*place*/) {}
-    /// Raises 380 for a negative width or height.
-    virtual void Move(const host::Placement& place) = 0;
-    /// Called after the palette of the application has changed.
-    virtual void PaletteChanged() {}
 
     /// Writes changed values into the block. See forms::BlockKeeper.
     virtual void Save();

@@ -40,50 +40,6 @@ PlainControl::~PlainControl() {
     qt::DeleteSafely(widget_.data());
 }
 
-PlainWidget PlainControl::Make(const Stage& stage) {
-    const bool isUnknown = kind_.className.empty();
-    if (isUnknown && stage.drawUserControl) {
-        if (std::unique_ptr<QWidget> picture = stage.drawUserControl(Block())) {
-            return {std::move(picture)};
-        }
-    }
-    return kind_.make(Reader(), [this, &stage](TextView event) { Raise(stage, event); });
-}
-
-void PlainControl::AddPages(const Surroundings& inside) {
-    const int count = pages_ == nullptr ? 0 : pages_->Count();
-    const int current = pages_ == nullptr ? 0 : pages_->Shown();
-    for (int page = 0; page < count; ++page) {
-        onPages_.push_back({.widget = pages_->WidgetOf(page),
-                            .backColor = Color::ButtonFace,
-                            .font = inside.font,
-                            .scale = inside.scale,
-                            .offset = page == current ? 0 : pageOffset});
-    }
-}
-
-const Surroundings& PlainControl::Inside() const {
-    return onPages_.empty() ? *inside_ : onPages_[static_cast<std::size_t>(pages_->Shown())];
-}
-
-// A control that no page lists is on the page that is shown when the form is opened.
-const Surroundings& PlainControl::InsideFor(const forms::Block& inner) const {
-    if (onPages_.empty()) {
-        return *inside_;
-    }
-    const SavedPages saved(Block());
-    const int page = saved.PageOf(forms::NameInCode(inner)).value_or(saved.Current());
-    return onPages_[static_cast<std::size_t>(page)];
-}
-
-std::vector<const Surroundings*> PlainControl::Rooms() const {
-    std::vector<const Surroundings*> rooms;
-    for (const Surroundings& page : onPages_) {
-        rooms.push_back(&page);
-    }
-    return rooms.empty() ? std::vector{&*inside_} : rooms;
-}
-
 // Only picture boxes have units of their own.
 Scale PlainControl::ScaleInside(const PlainWidget& made) const {
     if (made.inside == nullptr) {
@@ -164,6 +120,50 @@ void PlainControl::Save() {
         store(u"ScaleWidth", inside_->scale.across, place_.width - former.width);
         store(u"ScaleHeight", inside_->scale.down, place_.height - former.height);
     }
+}
+
+PlainWidget PlainControl::Make(const Stage& stage) {
+    const bool isUnknown = kind_.className.empty();
+    if (isUnknown && stage.drawUserControl) {
+        if (std::unique_ptr<QWidget> picture = stage.drawUserControl(Block())) {
+            return {std::move(picture)};
+        }
+    }
+    return kind_.make(Reader(), [this, &stage](TextView event) { Raise(stage, event); });
+}
+
+void PlainControl::AddPages(const Surroundings& inside) {
+    const int count = pages_ == nullptr ? 0 : pages_->Count();
+    const int current = pages_ == nullptr ? 0 : pages_->Shown();
+    for (int page = 0; page < count; ++page) {
+        onPages_.push_back({.widget = pages_->WidgetOf(page),
+                            .backColor = Color::ButtonFace,
+                            .font = inside.font,
+                            .scale = inside.scale,
+                            .offset = page == current ? 0 : pageOffset});
+    }
+}
+
+const Surroundings& PlainControl::Inside() const {
+    return onPages_.empty() ? *inside_ : onPages_[static_cast<std::size_t>(pages_->Shown())];
+}
+
+// A control that no page lists is on the page that is shown when the form is opened.
+const Surroundings& PlainControl::InsideFor(const forms::Block& inner) const {
+    if (onPages_.empty()) {
+        return *inside_;
+    }
+    const SavedPages saved(Block());
+    const int page = saved.PageOf(forms::NameInCode(inner)).value_or(saved.Current());
+    return onPages_[static_cast<std::size_t>(page)];
+}
+
+std::vector<const Surroundings*> PlainControl::Rooms() const {
+    std::vector<const Surroundings*> rooms;
+    for (const Surroundings& page : onPages_) {
+        rooms.push_back(&page);
+    }
+    return rooms.empty() ? std::vector{&*inside_} : rooms;
 }
 
 void PlainControl::PaletteChanged() {
