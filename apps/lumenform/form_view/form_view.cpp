@@ -11,12 +11,18 @@
 
 #include "apps/lumenform/form_view/companion_records.h"
 #include "apps/lumenform/form_view/form_size.h"
+#include "apps/lumenform/form_view/likeness/docking.h"
+#include "apps/lumenform/form_view/likeness/user_control_files.h"
+#include "apps/lumenform/form_view/likeness/user_control_picture.h"
 #include "apps/lumenform/form_view/make_control.h"
 #include "apps/lumenform/form_view/menu_bar.h"
 #include "apps/lumenform/form_view/painting_room.h"
+#include "forms/controls.h"
+#include "forms/file.h"
 #include "forms/font_description.h"
 #include "forms/form_error.h"
 #include "forms/naming_labels.h"
+#include "forms/path_names.h"
 #include "frame/utf8.h"
 #include "runtime/qt/mnemonic.h"
 #include "runtime/qt/pixels.h"
@@ -81,9 +87,40 @@ QWidget* FirstStop(const LiveControl& control) {
 
 }  // namespace
 
+// A user control on the form, as its own file shows it when the program runs.
+class FormView::UserControl {
+ public:
+    UserControl(const qt::Context& context, forms::Document document,
+                std::shared_ptr<UserControlFiles> files)
+        : document_(std::move(document)),
+          view_(new FormView(context, document_, Mode::Run, std::move(files), nullptr)) {}
+
+    QPixmap Picture(QSize size) {
+        view_->Client().setFixedSize(size.expandedTo(QSize(1, 1)));
+        view_->layout()->activate();
+        return view_->Client().grab();
+    }
+
+ private:
+    forms::Document document_;
+    std::unique_ptr<FormView> view_;
+};
+
 FormView::FormView(const qt::Context& context, forms::Document& document, Mode mode,
                    QWidget* parent)
-    : QWidget(parent), stage_{.context = context, .document = document, .mode = mode, .raise = {}} {
+    : FormView(context, document, mode,
+               std::make_shared<UserControlFiles>(forms::PathOf(document.Name())), parent) {}
+
+FormView::FormView(const qt::Context& context, forms::Document& document, Mode mode,
+                   std::shared_ptr<UserControlFiles> userControls, QWidget* parent)
+    : QWidget(parent),
+      userControls_(std::move(userControls)),
+      stage_{
+          .context = context,
+          .document = document,
+          .mode = mode,
+          .raise = {},
+          .drawUserControl = [this](const forms::Block& block) { return DrawUserControl(block); }} {
     setBackgroundRole(QPalette::Window);  // whatever the parent's role is
     const BlockReader form(document, document.Root());
     caption_ = form.String(u"Caption");
@@ -107,7 +144,7 @@ FormView::FormView(const qt::Context& context, forms::Document& document, Mode m
     const qt::TwipsPerPixel& twips = qt::TwipsPerPixel::OfScreens();
     const QSizeF room(client_->width() * twips.x, client_->height() * twips.y);
     inside_.emplace(Surroundings{*client_, backColor, font, Scale::Of(form, room), room});
-    AddControls(document.Root(), *inside_);
+    AddControls(document.Root(), nullptr);
     NameFields();
     MarkLabels();
 }
@@ -118,18 +155,43 @@ FormView::~FormView() {
     }
 }
 
-void FormView::AddControls(const forms::Block& block, const Surroundings& around) {
+// A file that is no form leaves a warning.
+std::unique_ptr<QWidget> FormView::DrawUserControl(const forms::Block& block) {
+    const auto path = userControls_->Take(block.ClassName());
+    if (!path) {
+        return nullptr;
+    }
+    try {
+        const UserControlFiles::Drawing drawing(*userControls_, *path);
+        const auto control = std::make_shared<UserControl>(
+            stage_.context, forms::Load(*path, stage_.document.CompanionCodePage()), userControls_);
+        return std::make_unique<UserControlPicture>(
+            qt::ToQString(forms::NameInCode(block)),
+            [control](QSize size) { return control->Picture(size); });
+    } catch (const forms::FormError& error) {
+        stage_.document.Warn(block.ClassPlace(), error.what());
+        return nullptr;
+    }
+}
+
+// Adds the controls of a block. `container` is its control, or null for the form.
+void FormView::AddControls(const forms::Block& block, const LiveControl* container) {
     const std::vector<forms::Block*> controls = block.Controls();
     RequireRoomToPaint(stage_.document, block, controls.size());
     std::vector<LiveControl*> added;
     for (forms::Block* inner : controls) {
         if (!IsMenu(*inner)) {
+            const Surroundings& around =
+                container == nullptr ? *inside_ : container->InsideFor(*inner);
             controls_.push_back(MakeControl(stage_, around, *inner));
             added.push_back(controls_.back().get());
-            AddControls(*inner, added.back()->Inside());
+            AddControls(*inner, added.back());
         }
     }
     Stack(added);
+    if (container == nullptr) {
+        DockControls(added, client_->size());
+    }
 }
 
 // Gives each control the text of the label before it in tab order, for screen readers.

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "apps/lumenform/form_view/client_area.h"
+#include "apps/lumenform/form_view/likeness/user_control_files.h"
 #include "apps/lumenform/form_view/live_control.h"
 #include "apps/lumenform/form_view/stage.h"
 #include "forms/document.h"
@@ -49,10 +50,16 @@ class FormView final : public QWidget {
     void changeEvent(QEvent* event) override;
 
  private:
-    void AddControls(const forms::Block& block, const Surroundings& around);
+    FormView(const qt::Context& context, forms::Document& document, Mode mode,
+             std::shared_ptr<UserControlFiles> userControls, QWidget* parent);
+
+    class UserControl;
+    std::unique_ptr<QWidget> DrawUserControl(const forms::Block& block);
+    void AddControls(const forms::Block& block, const LiveControl* container);
     void NameFields();
     void MarkLabels();
 
+    std::shared_ptr<UserControlFiles> userControls_;
     Stage stage_;
     Text caption_;
     ClientArea::Controls controls_;

@@ -18,7 +18,7 @@ QString TextOf(const BlockReader& reader) {
     return qt::ToQString(reader.String(u"Text"));
 }
 
-PlainWidget MakeDropDown(const BlockReader& reader, const PlainSink& raise) {
+PlainWidget MakeDropDownCombo(const BlockReader& reader, const PlainSink& raise) {
     auto box = std::make_unique<QComboBox>();
     box->setLineEdit(std::make_unique<LineEdit>().release());
     box->addItems(ListOf(reader));
@@ -67,7 +67,7 @@ PlainWidget MakeListBox(const BlockReader& reader, const PlainSink& raise) {
 }
 
 PlainWidget MakeComboBox(const BlockReader& reader, const PlainSink& raise) {
-    constexpr std::array styles = {MakeDropDown, MakeSimpleCombo, MakeDropDownList};
+    constexpr std::array styles = {MakeDropDownCombo, MakeSimpleCombo, MakeDropDownList};
     const std::int32_t style = reader.Choice(u"Style", static_cast<std::int32_t>(styles.size()), 0);
     return styles[static_cast<std::size_t>(style)](reader, raise);
 }

@@ -21,6 +21,10 @@ LiveControl::LiveControl(const Stage& stage, const Surroundings& around, forms::
       name_(forms::NameInCode(block)),
       tabStop_(reader_.Flag(u"TabStop", true)) {
     constexpr std::int32_t last = 32767;
+    if (around.offset != 0 &&
+        lumenform::SavedPlace(reader_, scale_, {}).left < -around.offset / 2) {
+        offset_ = around.offset;
+    }
     const std::int32_t turn = reader_.Whole(u"TabIndex", -1);
     if (turn >= 0 && turn <= last) {
         tabIndex_ = turn;
@@ -29,6 +33,7 @@ LiveControl::LiveControl(const Stage& stage, const Surroundings& around, forms::
 
 host::Placement LiveControl::SavedPlace(const host::Placement& otherwise) const {
     host::Placement place = lumenform::SavedPlace(reader_, scale_, otherwise);
+    place.left += offset_;
     if (place.width < 0) {
         place.width = otherwise.width;
     }
@@ -47,7 +52,11 @@ void LiveControl::SavePlace() {
     if (storedPlace_ == place) {
         return;
     }
-    StorePlace(reader_, scale_, storedPlace_, place);
+    const auto inFile = [this](host::Placement shown) {
+        shown.left -= offset_;
+        return shown;
+    };
+    StorePlace(reader_, scale_, inFile(storedPlace_), inFile(place));
     StoreExtent(Block(), u"_ExtentX", storedPlace_.width, place.width);
     StoreExtent(Block(), u"_ExtentY", storedPlace_.height, place.height);
     storedPlace_ = place;

@@ -4,6 +4,7 @@
 #include <QWidget>
 #include <cstdint>
 #include <optional>
+#include <vector>
 
 #include "apps/lumenform/form_view/block_reader.h"
 #include "apps/lumenform/form_view/stage.h"
@@ -11,6 +12,8 @@
 #include "runtime/qt/hosted_control.h"
 
 namespace lumenkit::lumenform {
+
+class TabPages;
 
 /// A block of the form with the widget that shows it. The block keeps its text until Save writes a
 /// changed value. The widget is a child of its container's widget and is destroyed with the live
@@ -33,6 +36,13 @@ class LiveControl {
     virtual const Surroundings& Inside() const = 0;
     /// The hosted control, if this is a control of the library, or else null.
     virtual qt::HostedControl* Hosted() const { return nullptr; }
+    /// The surroundings of one of the controls in this one. They differ from Inside() for a
+    /// control on a page that is not shown.
+    virtual const Surroundings& InsideFor(const forms::Block& /*inner*/) const { return Inside(); }
+    /// The surroundings of all controls in this one: one for each page.
+    virtual std::vector<const Surroundings*> Rooms() const { return {&Inside()}; }
+    /// The pages with the controls in this one, or null if it has none.
+    virtual TabPages* Pages() const { return nullptr; }
     /// Whether the control can contain other controls.
     virtual bool IsContainer() const { return false; }
     /// Whether the control is in the back layer, like labels and pictures: all controls outside
@@ -56,6 +66,15 @@ class LiveControl {
     /// Called after the palette of the application has changed.
     virtual void PaletteChanged() {}
 
+    /// Twips by which the place in the block is to the left of Place(), because the control is on a
+    /// page that is not shown when the form is opened.
+    float Offset() const { return offset_; }
+    /// The edge of its container that places the control: 1 to 4 for top, bottom, left and right; 0
+    /// for none.
+    virtual std::int32_t DockingEdge() const { return 0; }
+    /// Places a docking control. This is no change that Save writes.
+    virtual void Dock(const host::Placement& /*place*/) {}
+
     /// Writes changed values into the block. See forms::BlockKeeper.
     virtual void Save();
 
@@ -76,6 +95,7 @@ class LiveControl {
 
     BlockReader reader_;
     Scale scale_;
+    float offset_ = 0;
     Text name_;
     std::optional<std::int32_t> tabIndex_;
     bool tabStop_;

@@ -3,8 +3,10 @@
 #include <utility>
 
 #include "apps/lumenform/form_view/backdrop.h"
+#include "apps/lumenform/form_view/likeness/saved_pages.h"
 #include "apps/lumenform/form_view/saved_place.h"
 #include "apps/lumenform/form_view/shapes.h"
+#include "forms/controls.h"
 #include "frame/runtime_error.h"
 #include "runtime/qt/mnemonic.h"
 #include "runtime/qt/pixels.h"
@@ -22,8 +24,7 @@ PlainControl::PlainControl(const Stage& stage, const Surroundings& around, forms
     if (font == nullptr) {
         font = around.font;
     }
-    PlainWidget made =
-        kind_.make(Reader(), [this, &stage](TextView event) { Raise(stage, event); });
+    PlainWidget made = Make(stage);
     if (!made.hasBackColor) {
         colors_.back = kind_.usual.back;
     }
@@ -32,6 +33,8 @@ PlainControl::PlainControl(const Stage& stage, const Surroundings& around, forms
     // Only picture boxes have units of their own.
     const Scale scale = made.inside == nullptr ? Scale() : Scale::Of(Reader(), room);
     inside_.emplace(Surroundings{inside, colors_.back, font, scale, room});
+    pages_ = made.pages;
+    AddPages(*inside_);
     if (auto* const line = dynamic_cast<LineWidget*>(made.widget.get())) {
         line->SetRises(Rises(Reader(), Units()));
     }
@@ -96,6 +99,16 @@ void PlainControl::Move(const host::Placement& place) {
     Occupy(place);
 }
 
+std::int32_t PlainControl::DockingEdge() const {
+    constexpr std::int32_t edges = 5;
+    return kind_.docks ? Reader().Choice(u"Align", edges, 0) : 0;
+}
+
+void PlainControl::Dock(const host::Placement& place) {
+    Move(place);
+    SetStoredPlace(place);
+}
+
 QString PlainControl::SpokenText() const {
     return qt::WithoutMnemonic(qt::ToQString(Reader().String(u"Caption")));
 }
@@ -124,6 +137,50 @@ void PlainControl::Save() {
         store(u"ScaleWidth", inside_->scale.across, place_.width - former.width);
         store(u"ScaleHeight", inside_->scale.down, place_.height - former.height);
     }
+}
+
+PlainWidget PlainControl::Make(const Stage& stage) {
+    const bool isUnknown = kind_.className.empty();
+    if (isUnknown && stage.drawUserControl) {
+        if (std::unique_ptr<QWidget> picture = stage.drawUserControl(Block())) {
+            return {std::move(picture)};
+        }
+    }
+    return kind_.make(Reader(), [this, &stage](TextView event) { Raise(stage, event); });
+}
+
+void PlainControl::AddPages(const Surroundings& inside) {
+    const int count = pages_ == nullptr ? 0 : pages_->Count();
+    const int current = pages_ == nullptr ? 0 : pages_->Shown();
+    for (int page = 0; page < count; ++page) {
+        onPages_.push_back({.widget = pages_->WidgetOf(page),
+                            .backColor = Color::ButtonFace,
+                            .font = inside.font,
+                            .scale = inside.scale,
+                            .offset = page == current ? 0 : pageOffset});
+    }
+}
+
+const Surroundings& PlainControl::Inside() const {
+    return onPages_.empty() ? *inside_ : onPages_[static_cast<std::size_t>(pages_->Shown())];
+}
+
+// A control that no page lists is on the page that is shown when the form is opened.
+const Surroundings& PlainControl::InsideFor(const forms::Block& inner) const {
+    if (onPages_.empty()) {
+        return *inside_;
+    }
+    const SavedPages saved(Block());
+    const int page = saved.PageOf(forms::NameInCode(inner)).value_or(saved.Current());
+    return onPages_[static_cast<std::size_t>(page)];
+}
+
+std::vector<const Surroundings*> PlainControl::Rooms() const {
+    std::vector<const Surroundings*> rooms;
+    for (const Surroundings& page : onPages_) {
+        rooms.push_back(&page);
+    }
+    return rooms.empty() ? std::vector{&*inside_} : rooms;
 }
 
 void PlainControl::PaletteChanged() {

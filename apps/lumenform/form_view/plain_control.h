@@ -3,7 +3,9 @@
 #include <QPointer>
 #include <functional>
 #include <optional>
+#include <vector>
 
+#include "apps/lumenform/form_view/likeness/tab_pages.h"
 #include "apps/lumenform/form_view/live_control.h"
 #include "apps/lumenform/form_view/plain_kinds.h"
 
@@ -20,7 +22,10 @@ class PlainControl final : public LiveControl {
     PlainControl& operator=(const PlainControl&) = delete;
 
     QWidget& Widget() const override { return *widget_; }
-    const Surroundings& Inside() const override { return *inside_; }
+    const Surroundings& Inside() const override;
+    const Surroundings& InsideFor(const forms::Block& inner) const override;
+    std::vector<const Surroundings*> Rooms() const override;
+    TabPages* Pages() const override { return pages_; }
     bool IsContainer() const override { return kind_.isContainer; }
     bool IsInBack() const override { return kind_.isInBack; }
     QString SpokenText() const override;
@@ -28,10 +33,14 @@ class PlainControl final : public LiveControl {
     host::Placement Place() const override { return place_; }
     bool IsFitted() const override { return fit_ != nullptr; }
     void Move(const host::Placement& place) override;
+    std::int32_t DockingEdge() const override;
+    void Dock(const host::Placement& place) override;
     void PaletteChanged() override;
     void Save() override;
 
  private:
+    PlainWidget Make(const Stage& stage);
+    void AddPages(const Surroundings& inside);
     QRect Covered() const;
     void Occupy(const host::Placement& place);
     QSizeF RoomInside(const PlainWidget& made) const;
@@ -45,6 +54,8 @@ class PlainControl final : public LiveControl {
     std::function<host::Placement(const host::Placement&)> fit_;
     QPointer<QWidget> widget_;
     std::optional<Surroundings> inside_;
+    QPointer<TabPages> pages_;
+    std::vector<Surroundings> onPages_;
 };
 
 }  // namespace lumenkit::lumenform

@@ -10,6 +10,7 @@
 #include "apps/lumenform/form_view/companion_records.h"
 #include "apps/lumenform/form_view/label_kind.h"
 #include "apps/lumenform/form_view/labelled_box.h"
+#include "apps/lumenform/form_view/likeness/likeness_table.h"
 #include "apps/lumenform/form_view/list_kinds.h"
 #include "apps/lumenform/form_view/saved_place.h"
 #include "apps/lumenform/form_view/shapes.h"
@@ -94,8 +95,6 @@ PlainWidget MakeBox(const BlockReader& reader, const PlainSink& /*raise*/) {
                                           qt::ToQString(reader.Block().ClassName()))};
 }
 
-constexpr host::Placement iconPlace = {.width = 420, .height = 420};
-
 constexpr std::array kinds = {
     PlainKind{.className = u"VB.CheckBox", .make = MakeCheckBox},
     PlainKind{.className = u"VB.ComboBox", .make = MakeComboBox, .usual = windowColors},
@@ -110,7 +109,8 @@ constexpr std::array kinds = {
     PlainKind{
         .className = u"VB.ListBox", .make = MakeListBox, .usual = windowColors, .isField = true},
     PlainKind{.className = u"VB.OptionButton", .make = MakeOptionButton},
-    PlainKind{.className = u"VB.PictureBox", .make = MakePictureBox, .isContainer = true},
+    PlainKind{
+        .className = u"VB.PictureBox", .make = MakePictureBox, .isContainer = true, .docks = true},
     PlainKind{.className = u"VB.Shape",
               .make = MakeShape,
               .usual = windowColors,
@@ -118,7 +118,6 @@ constexpr std::array kinds = {
               .isInBack = true},
     PlainKind{
         .className = u"VB.TextBox", .make = MakeTextBox, .usual = windowColors, .isField = true},
-    PlainKind{.className = u"VB.Timer", .make = MakeBox, .place = iconPlace, .isSeen = false},
     PlainKind{.className = u"VB.VScrollBar", .make = MakeScrollBar<Qt::Vertical>, .isField = true},
 };
 constexpr PlainKind unknown = {.className = {}, .make = MakeBox};
@@ -134,6 +133,9 @@ const PlainKind& PlainKindOf(const forms::Block& block) {
     });
     if (found != kinds.end()) {
         return *found;
+    }
+    if (const PlainKind* const likeness = LikenessOf(block.ClassName())) {
+        return *likeness;
     }
     const bool hasSize =
         block.FindProperty(u"Width") != nullptr || block.FindProperty(u"Height") != nullptr;

@@ -1,37 +1,13 @@
 // The plain widget for each class of control.
 #pragma once
 
-#include <cstdint>
-
-#include "apps/lumenform/form_view/block_reader.h"
-#include "apps/lumenform/form_view/look.h"
-#include "apps/lumenform/form_view/plain_widget.h"
-#include "frame/host/constituent.h"
-#include "frame/text.h"
+#include "apps/lumenform/form_view/plain_kind.h"
+#include "forms/block.h"
 
 namespace lumenkit::lumenform {
 
-/// The role of a class's controls in the tab order.
-enum class TabRole : std::uint8_t {
-    None,   ///< they have no TabIndex
-    Index,  ///< they have a TabIndex, and Tab skips them
-    Stop,
-};
-
-struct PlainKind {
-    TextView className;  ///< empty: any other class
-    PlainWidget (*make)(const BlockReader& reader, const PlainSink& raise);
-    WidgetColors usual = {};
-    host::Placement place = {.width = 1215, .height = 495};  ///< default for the block's place
-    TabRole tab = TabRole::Stop;
-    bool isInBack = false;
-    bool isContainer = false;
-    bool isField = false;  ///< whether the label before it names it
-    bool isSeen = true;    ///< whether it is visible at run time
-};
-
-/// Returns the kind of a block's class. An unknown class is a box with the control's name and
-/// class.
+/// Returns the kind of a block's class: a plain widget of its own, or a likeness. An unknown class
+/// is a box with the control's name and class.
 const PlainKind& PlainKindOf(const forms::Block& block);
 
 }  // namespace lumenkit::lumenform

@@ -10,6 +10,8 @@
 
 namespace lumenkit::lumenform {
 
+class TabPages;
+
 /// A widget that shows a control of another library.
 struct PlainWidget {
     std::unique_ptr<QWidget> widget;
@@ -19,7 +21,8 @@ struct PlainWidget {
     /// Returns the place that the control takes when it is moved to a place, once it has its font.
     /// Empty: the same place.
     std::function<host::Placement(const host::Placement&)> fit = {};
-    bool hasBackColor = true;  ///< false: BackColor has no effect
+    bool hasBackColor = true;   ///< false: BackColor has no effect
+    TabPages* pages = nullptr;  ///< the widget itself if contained controls are on its pages
 };
 
 /// Reports an action of the user, with the name of the event.

@@ -112,6 +112,13 @@ void StorePlace(const BlockReader& reader, const Scale& scale, const host::Place
     Store(block, u"Height", former.height, now.height);
 }
 
+void MoveInFile(const BlockReader& reader, const Scale& scale, float across) {
+    const host::Placement former = SavedPlace(reader, scale, {});
+    host::Placement now = former;
+    now.left += across;
+    StorePlace(reader, scale, former, now);
+}
+
 void Rescale(const BlockReader& reader, const Scale& former, const Scale& now) {
     if (HasEnds(reader.Block())) {
         RescaleEnd(reader, across.first, former.across, now.across);

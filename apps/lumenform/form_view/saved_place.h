@@ -24,6 +24,9 @@ host::Placement SavedPlace(const BlockReader& reader, const Scale& scale,
 void StorePlace(const BlockReader& reader, const Scale& scale, const host::Placement& former,
                 const host::Placement& now);
 
+/// Moves a control in the file by twips to the right.
+void MoveInFile(const BlockReader& reader, const Scale& scale, float across);
+
 /// Converts the ends of a control that moves to a container with another scale. Other controls
 /// stay unchanged.
 void Rescale(const BlockReader& reader, const Scale& former, const Scale& now);

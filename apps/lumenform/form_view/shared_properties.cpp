@@ -24,7 +24,8 @@ Qt::Alignment AlignmentOf(const BlockReader& reader) {
 
 QStringList ListOf(const BlockReader& reader) {
     QStringList items;
-    for (const Text& item : ItemsOf(reader.Record(u"List"), reader.Document().CompanionCodePage())) {
+    for (const Text& item :
+         ItemsOf(reader.Record(u"List"), reader.Document().CompanionCodePage())) {
         items.append(qt::ToQString(item));
     }
     return items;

@@ -37,6 +37,8 @@ struct Stage {
     forms::Document& document;
     Mode mode = Mode::Run;
     std::function<void(const ControlEvent&)> raise;  ///< empty: no listener
+    /// Returns a picture of a user control of the same program, or null if the block is none.
+    std::function<std::unique_ptr<QWidget>(const forms::Block&)> drawUserControl;
 };
 
 /// The properties that a form or control passes on to the controls it contains.
@@ -46,6 +48,7 @@ struct Surroundings {
     std::shared_ptr<qt::Font> font;
     Scale scale;
     QSizeF room = {};  ///< the size of a form or picture box inside its border, in twips
+    float offset = 0;  ///< twips by which the form file moves the controls to the left
 };
 
 }  // namespace lumenkit::lumenform

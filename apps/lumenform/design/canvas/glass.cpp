@@ -13,6 +13,7 @@
 #include "apps/lumenform/design/canvas/placing_gesture.h"
 #include "apps/lumenform/design/canvas/selection.h"
 #include "apps/lumenform/design/model/refusal.h"
+#include "apps/lumenform/form_view/likeness/tab_pages.h"
 #include "runtime/qt/pixels.h"
 #include "runtime/qt/qt_text.h"
 
@@ -147,7 +148,20 @@ Glass::Press Glass::PressOnControl(LiveControl& control, QPoint at) {
         design_.Select({&control});
     }
     return {at, [this, at, &control] { return StartPlacing(control, allEdges, at); },
-            [this, &control] { MakeLast(design_, control); }};
+            [this, at, &control] {
+                MakeLast(design_, control);
+                ShowPageAt(control, at);
+            }};
+}
+
+// Shows another page for looking. The form stays as it is.
+void Glass::ShowPageAt(LiveControl& control, QPoint at) {
+    TabPages* const pages = control.Pages();
+    const int page = pages == nullptr ? -1 : pages->TabAt(at - map_.RectOf(control).topLeft());
+    if (page >= 0) {
+        design_.Select({&control});
+        pages->Show(page);
+    }
 }
 
 Glass::GestureRef Glass::StartPlacing(LiveControl& control, Edges edges, QPoint at) {

@@ -77,6 +77,7 @@ class Glass final : public QWidget {
     Ground ground() const { return {design_, map_, grid_}; }
     Press PressAt(QPoint at, Qt::KeyboardModifiers held);
     Press PressOnControl(LiveControl& control, QPoint at);
+    void ShowPageAt(LiveControl& control, QPoint at);
     GestureRef StartPlacing(LiveControl& control, Edges edges, QPoint at);
     GestureRef StartDrawing(QPoint at);
     std::optional<Grip> GripAt(QPoint at) const;

@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "apps/lumenform/form_view/likeness/tab_pages.h"
 #include "runtime/qt/palette_color.h"
 #include "runtime/qt/pixels.h"
 
@@ -56,6 +57,12 @@ QPixmap MakeTile(double across, double down, double pixelRatio, bool isBright) {
     return tile;
 }
 
+// The dots leave the tabs free.
+QRect RoomIn(const QWidget& widget) {
+    const bool isPage = dynamic_cast<const TabPages*>(widget.parentWidget()) != nullptr;
+    return isPage ? widget.contentsRect() : widget.rect();
+}
+
 }  // namespace
 
 void GridDots::Follow(const FormView& view) {
@@ -63,7 +70,9 @@ void GridDots::Follow(const FormView& view) {
     Watch(view.Inside(), true);
     for (const auto& control : view.Controls()) {
         if (control->IsContainer()) {
-            Watch(control->Inside(), false);
+            for (const Surroundings* room : control->Rooms()) {
+                Watch(*room, false);
+            }
         }
     }
 }
@@ -107,7 +116,7 @@ void GridDots::Paint(QWidget& widget, const QRegion& region, Color backColor) {
     constexpr int middle = 128;
     const bool isBright = qGray(qt::ToQColor(backColor, widget.palette()).rgb()) >= middle;
     QPainter painter(&widget);
-    for (const QRect& part : region) {
+    for (const QRect& part : region& RoomIn(widget)) {
         painter.fillRect(part, QBrush(TileFor(widget, isBright)));
     }
 }

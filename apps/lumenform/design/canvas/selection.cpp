@@ -48,7 +48,9 @@ void SelectContainer(FormDesign& design) {
 void SelectAll(FormDesign& design) {
     std::vector<LiveControl*> all;
     for (const auto& control : design.View().Controls()) {
-        all.push_back(control.get());
+        if (control->Widget().isVisibleTo(&design.View())) {
+            all.push_back(control.get());
+        }
     }
     design.Select(std::move(all));
 }

@@ -20,7 +20,7 @@ void TabBadges::Number(const LiveControl& control) {
 void TabBadges::Paint(QPainter& painter) const {
     const QPalette& palette = desk_.palette();
     for (const auto& control : design_.View().Controls()) {
-        if (!control->TabIndex()) {
+        if (!HasBadge(*control)) {
             continue;
         }
         const bool isNumbered = *control->TabIndex() < next_;
@@ -37,11 +37,16 @@ void TabBadges::Paint(QPainter& painter) const {
 QRegion TabBadges::Region() const {
     QRegion region;
     for (const auto& control : design_.View().Controls()) {
-        if (control->TabIndex()) {
+        if (HasBadge(*control)) {
             region += BadgeOf(*control);
         }
     }
     return region;
+}
+
+// A control on a page that is not shown has none.
+bool TabBadges::HasBadge(const LiveControl& control) const {
+    return control.TabIndex() && control.Widget().isVisibleTo(&design_.View());
 }
 
 QRect TabBadges::BadgeOf(const LiveControl& control) const {

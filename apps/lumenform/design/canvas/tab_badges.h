@@ -25,6 +25,7 @@ class TabBadges {
     QRegion Region() const;
 
  private:
+    bool HasBadge(const LiveControl& control) const;
     QRect BadgeOf(const LiveControl& control) const;
 
     FormDesign& design_;

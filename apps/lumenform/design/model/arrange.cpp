@@ -102,8 +102,10 @@ float RoomIn(const Surroundings& around, Qt::Orientation orientation) {
 LiveControl* ContainerOf(const FormDesign& design, const LiveControl& control) {
     const auto& all = design.View().Controls();
     const QWidget* const around = control.Widget().parentWidget();
-    const auto found = std::ranges::find_if(
-        all, [&](const auto& other) { return &other->Inside().widget == around; });
+    const auto found = std::ranges::find_if(all, [&](const auto& other) {
+        return std::ranges::any_of(
+            other->Rooms(), [&](const Surroundings* room) { return &room->widget == around; });
+    });
     return found == all.end() ? nullptr : found->get();
 }
 

@@ -13,6 +13,7 @@
 #include "apps/lumenform/design/model/settling.h"
 #include "apps/lumenform/design/model/stacking.h"
 #include "apps/lumenform/form_view/block_reader.h"
+#include "apps/lumenform/form_view/likeness/saved_pages.h"
 #include "apps/lumenform/form_view/menu_bar.h"
 #include "apps/lumenform/form_view/plain_kinds.h"
 #include "apps/lumenform/form_view/saved_place.h"
@@ -57,7 +58,9 @@ Clip ClipOf(const FormDesign& design) {
     for (const LiveControl* control : copied) {
         forms::Block& copy = forms::CopyControl(document, control->Block(), clip, clip.Root(),
                                                 control->Block().Name());
-        Rescale(BlockReader(clip, copy), control->Units(), scale);
+        const BlockReader reader(clip, copy);
+        MoveInFile(reader, control->Units(), control->Offset());
+        Rescale(reader, control->Units(), scale);
     }
     return {document.CompanionCodePage(), clip.Write(), scale};
 }
@@ -111,14 +114,23 @@ const LiveControl* PasteTarget(const FormDesign& design, const forms::Document& 
     return goesInside ? &last : ContainerOf(design, last);
 }
 
+// Returns the place at which a control of the container is seen when its page is shown.
+host::Placement SeenPlace(const forms::Document& document, const forms::Block& container,
+                          forms::Block& control, const Scale& scale) {
+    host::Placement place = SavedPlace(BlockReader(document, control), scale, {});
+    if (HasPages(container) && place.left < -pageOffset / 2) {
+        place.left += pageOffset;
+    }
+    return place;
+}
+
 // Whether a control of the container that was not pasted is at the same left and top.
 bool IsOccupied(const forms::Document& document, const forms::Block& container,
                 const std::vector<forms::Block*>& pasted, forms::Block& control,
                 const Scale& scale) {
-    const host::Placement taken = SavedPlace(BlockReader(document, control), scale, {});
+    const host::Placement taken = SeenPlace(document, container, control, scale);
     return std::ranges::any_of(container.Controls(), [&](forms::Block* other) {
-        const BlockReader reader(document, *other);
-        const host::Placement place = SavedPlace(reader, scale, {});
+        const host::Placement place = SeenPlace(document, container, *other, scale);
         return std::ranges::find(pasted, other) == pasted.end() && !IsMenu(*other) &&
                place.left == taken.left && place.top == taken.top;
     });

@@ -6,6 +6,10 @@
 #include <string>
 #include <utility>
 
+#include "apps/lumenform/design/model/page_lists.h"
+#include "apps/lumenform/form_view/likeness/saved_pages.h"
+#include "apps/lumenform/form_view/likeness/tab_pages.h"
+#include "apps/lumenform/form_view/saved_place.h"
 #include "forms/form_error.h"
 #include "frame/text.h"
 
@@ -70,6 +74,38 @@ void RefuseMoreWarnings(const forms::Document& document,
     }
 }
 
+std::map<const forms::Block*, int> ShownPages(const FormView& view) {
+    std::map<const forms::Block*, int> shown;
+    for (const auto& control : view.Controls()) {
+        if (const TabPages* const pages = control->Pages()) {
+            shown.emplace(&control->Block(), pages->Shown());
+        }
+    }
+    return shown;
+}
+
+// Moves controls to the places in the file that fit their pages.
+void Settle(const forms::Document& document, const std::vector<PageLists::Move>& moves) {
+    for (const PageLists::Move& move : moves) {
+        const BlockReader reader(document, *move.control);
+        const bool isFarLeft = SavedPlace(reader, Scale(), {}).left < -pageOffset / 2;
+        if (isFarLeft == (move.across > 0)) {
+            MoveInFile(reader, Scale(), move.across);
+        }
+    }
+}
+
+// Lets the new view show the pages of the former one, except where the current page has changed.
+void KeepPages(const FormView& former, const FormView& now) {
+    for (const auto& control : former.Controls()) {
+        const LiveControl* const again = now.Find(control->Name());
+        if (control->Pages() != nullptr && again != nullptr && again->Pages() != nullptr &&
+            control->Pages()->ShownFirst() == again->Pages()->ShownFirst()) {
+            again->Pages()->Show(control->Pages()->Shown());
+        }
+    }
+}
+
 }  // namespace
 
 FormDesign::FormDesign(const qt::Context& context, forms::Document document)
@@ -96,6 +132,9 @@ bool FormDesign::IsSelected(const LiveControl& control) const {
 
 void FormDesign::Select(std::vector<LiveControl*> controls) {
     if (controls != selected_) {
+        for (const LiveControl* control : controls) {
+            ShowPagesAround(control->Widget());
+        }
         selected_ = std::move(controls);
         Q_EMIT SelectionChanged();
     }
@@ -134,7 +173,9 @@ void FormDesign::Restructure(const QString& title, const std::function<std::vect
     const SharedSnapshot before = BeforeChange();
     const std::vector<forms::Warning> formerWarnings = document_->Warnings();
     try {
+        PageLists lists(document_->Root(), ShownPages(*view_));
         const std::vector<Text> selected = change();
+        Settle(*document_, lists.Update());
         const Snapshot after(*document_, selected, before.get());
         if (!after.HoldsTheSameAs(*before)) {
             Replace(std::make_unique<forms::Document>(document_->WithBytes(after.Bytes())));
@@ -169,6 +210,7 @@ void FormDesign::Replace(std::unique_ptr<forms::Document> document) {
     auto view = std::make_unique<FormView>(context_, *document, Mode::Design);
     const bool hadSelection = !selected_.empty();
     selected_.clear();
+    KeepPages(*view_, *view);
     view_ = std::move(view);
     document_ = std::move(document);
     Q_EMIT ViewReplaced();

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "apps/lumenform/design/model/naming.h"
+#include "apps/lumenform/design/model/page_lists.h"
 #include "forms/controls.h"
 
 namespace lumenkit::lumenform {
@@ -95,7 +96,9 @@ class Settling {
 
 void SettleInto(const forms::Block& form, const forms::Block& clip) {
     Settling settling(form, clip);
+    PageLists lists(clip);
     settling.SettleNames();
+    lists.Update();
     settling.SettleTabOrder();
 }
 

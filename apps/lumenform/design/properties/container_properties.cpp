@@ -66,7 +66,8 @@ ObjectProperty PlaceProperty(FormDesign& design, LiveControl& control, TextView 
             .get = [&design, &control, name, member]() -> Value {
                 const float place = control.Place().*member;
                 const BlockReader reader(design.Document(), control.Block());
-                return control.IsFitted() ? place : reader.Number(name, place);
+                const float moved = name == u"Left" ? control.Offset() : 0;
+                return control.IsFitted() ? place : reader.Number(name, place - moved) + moved;
             },
             .set =
                 [&control, member](const Value& value) {
