@@ -221,13 +221,21 @@ TEST_F(DriveForms, ControlsThatReportErrorsComeToLifeAllTheSame) {
 
 TEST_F(DriveForms, NothingIsHalfLoaded) {
     const std::string begin = "VERSION 5.00\nBegin VB.Form F\n Begin lumenkit.VLabel L\n End\n";
-    EXPECT_THAT(LoadText(begin + " Begin lumenkit.VMemo M\n  Width = -1\n End\nEnd\n"),
-                HasSubstr("\"number\":380"));
-    EXPECT_THAT(LoadText(begin + " Begin lumenkit.VMemo M\n  Left = \"x\"\n End\nEnd\n"),
-                HasSubstr("\"number\":13"));
+    EXPECT_THAT(LoadText(begin), HasSubstr(R"("ok":false)"));  // without the end of the form
     EXPECT_THAT(Serve(R"({"do":"get","id":"L","name":"Caption"})"),
                 HasSubstr("there is no control"));
     EXPECT_THAT(LoadText(begin + "End\n"), HasSubstr(R"("value":["L"])"));
+}
+
+TEST_F(DriveForms, APlaceThatCannotBeUsedIsAWarningAndCountsAsMissing) {
+    EXPECT_THAT(
+        LoadText("VERSION 5.00\nBegin VB.Form F\n Begin lumenkit.VLabel L\n  Left = \"x\"\n"
+                 "  Width = -1\n End\nEnd\n"),
+        AllOf(HasSubstr(R"("ok":true)"),
+              HasSubstr(R"({"line":4,"column":10,"text":"Left: Type mismatch"})"),
+              HasSubstr(R"({"line":5,"column":11,"text":"Width: Invalid property value"})")));
+    EXPECT_THAT(Serve(R"({"do":"call","id":"L","name":"GetProperty","args":["width"]})"),
+                HasSubstr(R"("value":3000)"));
 }
 
 TEST_F(DriveForms, ControlsWithOneNameAreAWarningAndHaveIdsOfTheirOwn) {

@@ -199,7 +199,8 @@ TEST_F(RenderCommand, DrawsTensOfThousandsOfControlsInOneContainer) {
     std::string labels;
     constexpr int count = 30000;
     for (int i = 0; i < count; ++i) {
-        labels += "Begin VB.Label L\nHeight = 60\nLeft = " + std::to_string(i % 200 * 90) +
+        labels += "Begin VB.Label L" + std::to_string(i) +
+                  "\nHeight = 60\nLeft = " + std::to_string(i % 200 * 90) +
                   "\nTop = " + std::to_string(i / 200 * 75) + "\nWidth = 75\n" +
                   (i == count - 1 ? "BackColor = 255\n" : "") + "End\n";
     }
