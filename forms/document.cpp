@@ -104,13 +104,13 @@ Text WithName(Text tail, TextView name) {
 Document Document::Parse(std::string name, std::string_view bytes,
                          const CompanionReader& readCompanion, int codePage) {
     Encoding encoding = EncodingOf(name, bytes, codePage);
-    return Read(std::move(name), std::move(encoding), bytes, readCompanion);
+    return Read(std::move(name), encoding, bytes, readCompanion);
 }
 
 Document Document::Read(std::string name, Encoding encoding, std::string_view bytes,
                         const CompanionReader& readCompanion) {
     ParsedForm form = ParseForm(Decode(name, encoding, bytes), name);
-    Document document(std::move(name), std::move(encoding), std::move(form));
+    Document document(std::move(name), encoding, std::move(form));
     document.spelling_ = document.encoding_.SpellingOf(bytes);
     document.ReadCompanion(readCompanion);
     for (Warning& warning : ContainerWarnings(document.Root())) {
@@ -140,7 +140,7 @@ Document Document::WithBytes(const FormBytes& bytes) const {
 
 Document::Document(std::string name, Encoding encoding, ParsedForm form)
     : name_(std::move(name)),
-      encoding_(std::move(encoding)),
+      encoding_(encoding),
       form_(std::move(form)),
       companionName_(form_.references.empty() ? DefaultCompanionName(encoding_.Utf8NameOf(name_))
                                               : ToUtf8(form_.references.front().reference.file)) {

@@ -7,13 +7,14 @@
 
 namespace lumenkit::lumenform {
 
-const char* DisplayWatch::instead_ = "";
-QString DisplayWatch::reason_;
+DisplayWatch::State& DisplayWatch::Shared() {
+    static State state;
+    return state;
+}
 
-DisplayWatch::DisplayWatch(const char* instead) {
-    instead_ = instead;
-    reason_.clear();
-    former_ = qInstallMessageHandler(&DisplayWatch::Handle);
+DisplayWatch::DisplayWatch(const char* instead)
+    : former_(qInstallMessageHandler(&DisplayWatch::Handle)) {
+    Shared() = {.instead = instead, .reason = {}};
 }
 
 DisplayWatch::~DisplayWatch() {
@@ -22,14 +23,16 @@ DisplayWatch::~DisplayWatch() {
 
 void DisplayWatch::Handle(QtMsgType type, const QMessageLogContext& /*context*/,
                           const QString& text) {
+    State& state = Shared();
     if (type != QtFatalMsg) {
-        reason_ = reason_.isEmpty() ? text.simplified() : reason_;
+        state.reason = state.reason.isEmpty() ? text.simplified() : state.reason;
         return;
     }
     const QByteArray reason =
-        (reason_.isEmpty() ? text.section(QLatin1Char('\n'), 0, 0) : reason_).toLocal8Bit();
+        (state.reason.isEmpty() ? text.section(QLatin1Char('\n'), 0, 0) : state.reason)
+            .toLocal8Bit();
     static_cast<void>(std::fprintf(stderr, "lumenform: the display cannot be used (%s); %s\n",
-                                   reason.constData(), instead_));
+                                   reason.constData(), state.instead));
     std::_Exit(cli::exitUnusable);  // Qt is half started and cannot be shut down
 }
 

@@ -17,10 +17,15 @@ class DisplayWatch {
     DisplayWatch& operator=(const DisplayWatch&) = delete;
 
  private:
+    // What the message handler needs; Qt passes it no object.
+    struct State {
+        const char* instead = "";
+        QString reason;  // Qt's first warning
+    };
+
+    static State& Shared();
     static void Handle(QtMsgType type, const QMessageLogContext& context, const QString& text);
 
-    static const char* instead_;
-    static QString reason_;  // Qt's first warning
     QtMessageHandler former_;
 };
 

@@ -1,7 +1,5 @@
 #include "apps/lumenkit/drive/scripted_container.h"
 
-#include <algorithm>
-#include <ranges>
 #include <utility>
 
 #include "apps/lumenkit/drive/request.h"
@@ -11,22 +9,20 @@
 namespace lumenkit::cli {
 
 void ScriptedContainer::RequireFree(const std::string& id) const {
-    const Text name = FromUtf8(id);
-    const auto refuseSame = [&](const std::string& other) {
-        if (SameText(FromUtf8(other), name, Compare::IgnoreCase)) {
-            throw BadRequest("there is a \"" + other + "\" already" +
-                             (other == id ? "" : "; upper and lower case make no difference"));
-        }
-    };
-    std::ranges::for_each(controls_ | std::views::keys, refuseSame);
-    std::ranges::for_each(pages_ | std::views::keys, refuseSame);
+    const auto found = taken_.find(LCase(FromUtf8(id)));
+    if (found != taken_.end()) {
+        throw BadRequest("there is a \"" + found->second + "\" already" +
+                         (found->second == id ? "" : "; upper and lower case make no difference"));
+    }
 }
 
 void ScriptedContainer::Add(const std::string& id, std::unique_ptr<memory::HostedControl> control) {
+    taken_.emplace(LCase(FromUtf8(id)), id);
     controls_.emplace(id, std::move(control));
 }
 
 void ScriptedContainer::Add(const std::string& id, std::unique_ptr<memory::HostedPage> page) {
+    taken_.emplace(LCase(FromUtf8(id)), id);
     pages_.emplace(id, std::move(page));
 }
 

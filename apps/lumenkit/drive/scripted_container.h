@@ -9,6 +9,7 @@
 #include "apps/lumenkit/drive/loaded_form.h"
 #include "frame/automation/value.h"
 #include "frame/class_table.h"
+#include "frame/text.h"
 #include "runtime/memory/constituents.h"
 #include "runtime/memory/form.h"
 #include "runtime/memory/hosted_control.h"
@@ -53,6 +54,7 @@ class ScriptedContainer {
     // Pages refer to controls and so must be destroyed first.
     std::map<std::string, std::unique_ptr<memory::HostedControl>> controls_;
     std::map<std::string, std::unique_ptr<memory::HostedPage>> pages_;
+    std::map<Text, std::string> taken_;  // all identifiers, by their names in lower case
     std::unique_ptr<LoadedForm> loaded_;
     bool quit_ = false;
 };
