@@ -3,6 +3,9 @@
 #include <fstream>
 #include <utility>
 
+#include "forms/form_error.h"
+#include "forms/replace_file.h"
+
 namespace lumenkit::check {
 
 namespace {
@@ -77,18 +80,11 @@ void Baseline::Read() {
 }
 
 void Baseline::Write() const {
-    fs::path fresh = file_;
-    fresh += ".new";
-    std::ofstream stream(fresh, std::ios::binary);
-    stream << ToJson().dump(1, ' ', false, Json::error_handler_t::replace) << '\n';
-    stream.close();
-    std::error_code error;
-    if (stream) {
-        fs::rename(fresh, file_, error);
-    }
-    if (!stream || error) {
-        fs::remove(fresh, error);
-        throw BadBaseline(file_.string() + ": cannot be written");
+    try {
+        forms::ReplaceFile(file_,
+                           ToJson().dump(1, ' ', false, Json::error_handler_t::replace) + '\n');
+    } catch (const forms::FormError& error) {
+        throw BadBaseline(file_.string() + ": " + error.Description());
     }
 }
 

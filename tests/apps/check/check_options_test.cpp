@@ -6,6 +6,7 @@
 #include <string_view>
 
 #include <gmock/gmock.h>
+#include <sys/stat.h>
 
 #include "tests/apps/program.h"
 #include "tests/support/file_bytes.h"
@@ -154,6 +155,11 @@ TEST_F(CheckOptions, AnUnusableBaselineEndsTheRun) {
     const Outcome unwritten = Check("--write-baseline " + (folder / "no/known.json").string());
     EXPECT_THAT(unwritten.errors, HasSubstr("known.json: cannot be written"));
     EXPECT_EQ(unwritten.status, 2);
+    fs::remove(file);
+    ASSERT_EQ(mkfifo(file.c_str(), 0600), 0);
+    EXPECT_THAT(Check("--write-baseline " + file).errors,
+                HasSubstr("known.json: is not a plain file"));
+    EXPECT_TRUE(fs::is_fifo(file)) << "a device must not be replaced by a file";
 }
 
 TEST_F(CheckOptions, ResultsAreInTheOrderOfTheFiles) {

@@ -44,7 +44,8 @@ bool IsWrittenAgain(const CodePage& page, const std::string& bytes) {
     if (encoded == bytes) {
         return true;
     }
-    const std::string* const kept = Spelling(page, bytes).Find(1, text);
+    const Spelling spelling(page, bytes);
+    const std::string* const kept = spelling.Find(1, text);
     return page.Decode(encoded) == text && kept != nullptr && *kept == bytes;
 }
 
