@@ -2,6 +2,7 @@
 #include <map>
 #include <memory>
 #include <string>
+#include <vector>
 
 #include "apps/command_line/code_page_option.h"
 #include "apps/command_line/exit_status.h"
@@ -55,23 +56,36 @@ std::string NotARule(const std::string& name) {
     return check::FindRule(name) == nullptr ? "there is no rule \"" + name + '"' : std::string();
 }
 
+template <typename Value>
+std::vector<std::string> NamesOf(const std::map<std::string, Value>& values) {
+    std::vector<std::string> names;
+    for (const auto& [name, value] : values) {
+        names.push_back(name);
+    }
+    return names;
+}
+
 void AddFormatOptions(CLI::App& command, CheckArguments& arguments) {
+    static const std::map<std::string, Format> formats = {{"text", Format::Text},
+                                                          {"json", Format::Json},
+                                                          {"sarif", Format::Sarif},
+                                                          {"github", Format::Github}};
     command
-        .add_option_function<Format>(
-            "--format", [&arguments](const Format& format) { arguments.format = format; },
+        .add_option_function<std::string>(
+            "--format",
+            [&arguments](const std::string& name) { arguments.format = formats.at(name); },
             "Format of the output: text, json, sarif (SARIF 2.1.0) or github (annotations)")
-        ->transform(
-            CLI::CheckedTransformer(std::map<std::string, Format>{{"text", Format::Text},
-                                                                  {"json", Format::Json},
-                                                                  {"sarif", Format::Sarif},
-                                                                  {"github", Format::Github}})
-                .description(""))
+        ->check(CLI::IsMember(NamesOf(formats)).description(""))
         ->option_text("FORMAT");
     command.add_flag_callback(
         "--json", [&arguments] { arguments.format = Format::Json; }, "The same as --format json");
 }
 
 void AddSelectionOptions(CLI::App& command, CheckArguments& arguments) {
+    static const std::map<std::string, check::Severity> severities = {
+        {"note", check::Severity::Note},
+        {"warning", check::Severity::Warning},
+        {"error", check::Severity::Error}};
     command
         .add_option("--rule", arguments.selection.only,
                     "Report only findings of this rule; may be repeated")
@@ -85,15 +99,13 @@ void AddSelectionOptions(CLI::App& command, CheckArguments& arguments) {
         ->option_text("RULE")
         ->allow_extra_args(false);
     command
-        .add_option_function<check::Severity>(
+        .add_option_function<std::string>(
             "--severity",
-            [&arguments](const check::Severity& least) { arguments.selection.least = least; },
+            [&arguments](const std::string& name) {
+                arguments.selection.least = severities.at(name);
+            },
             "Report only findings of this severity or a higher one: note, warning or error")
-        ->transform(CLI::CheckedTransformer(std::map<std::string, check::Severity>{
-                                                {"note", check::Severity::Note},
-                                                {"warning", check::Severity::Warning},
-                                                {"error", check::Severity::Error}})
-                        .description(""))
+        ->check(CLI::IsMember(NamesOf(severities)).description(""))
         ->option_text("LEVEL");
     command
         .add_option("--baseline", arguments.baseline,

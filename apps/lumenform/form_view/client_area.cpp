@@ -19,6 +19,9 @@ namespace {
 // last.
 class OptionGroups {
  public:
+    // `turns` are the turns of the widgets of controls. Other buttons take turns as created.
+    explicit OptionGroups(const std::map<const QWidget*, std::size_t>& turns) : turns_(turns) {}
+
     bool IsStop(const QRadioButton& button) {
         const QWidget* const container = button.parentWidget();
         auto known = groups_.find(container);
@@ -26,13 +29,21 @@ class OptionGroups {
             const auto buttons =
                 container->findChildren<QRadioButton*>(QString(), Qt::FindDirectChildrenOnly);
             const bool isNoneChecked = std::ranges::none_of(buttons, &QRadioButton::isChecked);
-            known = groups_.emplace(container, isNoneChecked ? buttons.first() : nullptr).first;
+            known = groups_.emplace(container, isNoneChecked ? FirstOf(buttons) : nullptr).first;
         }
         return button.focusPolicy() != Qt::NoFocus &&
                (button.isChecked() || known->second == &button);
     }
 
  private:
+    const QRadioButton* FirstOf(const QList<QRadioButton*>& buttons) const {
+        return *std::ranges::min_element(buttons, {}, [&](const QRadioButton* button) {
+            const auto turn = turns_.find(button);
+            return turn == turns_.end() ? turns_.size() : turn->second;
+        });
+    }
+
+    const std::map<const QWidget*, std::size_t>& turns_;
     std::map<const QWidget*, const QRadioButton*> groups_;  // the leader if none is selected
 };
 
@@ -74,7 +85,7 @@ ClientArea::Route ClientArea::FindRoute() const {
     for (std::size_t turn = 0; turn < order.size(); ++turn) {
         route.turns.emplace(&order[turn]->Widget(), turn);
     }
-    OptionGroups groups;
+    OptionGroups groups(route.turns);
     for (QWidget* widget = nextInFocusChain(); widget != this;
          widget = widget->nextInFocusChain()) {
         if (isAncestorOf(widget) && TakesTab(*widget, groups)) {

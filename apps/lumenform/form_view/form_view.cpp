@@ -1,7 +1,9 @@
 #include "apps/lumenform/form_view/form_view.h"
 
+#include <QButtonGroup>
 #include <QEvent>
 #include <QLabel>
+#include <QRadioButton>
 #include <QVBoxLayout>
 #include <algorithm>
 #include <cstdint>
@@ -41,6 +43,20 @@ Color UsualBackColor(const forms::Block& form) {
 
 // Sets the z-order: the first control in the file is in front, and the controls of the back layer
 // are behind all others.
+// Makes the option buttons of one parent release each other. By itself, Qt also counts those in the
+// containers beside them.
+void GroupOptions(const std::vector<LiveControl*>& controls) {
+    std::map<QWidget*, QButtonGroup*> groups;
+    for (LiveControl* control : controls) {
+        if (auto* const button = qobject_cast<QRadioButton*>(&control->Widget())) {
+            QWidget* const parent = button->parentWidget();
+            QButtonGroup*& group = groups[parent];
+            group = group == nullptr ? new QButtonGroup(parent) : group;
+            group->addButton(button);
+        }
+    }
+}
+
 void Stack(const std::vector<LiveControl*>& controls) {
     for (const bool inBack : {false, true}) {
         for (LiveControl* control : controls) {
@@ -188,6 +204,7 @@ void FormView::AddControls(const forms::Block& block, const LiveControl* contain
             AddControls(*inner, added.back());
         }
     }
+    GroupOptions(added);
     Stack(added);
     if (container == nullptr) {
         DockControls(added, client_->size());

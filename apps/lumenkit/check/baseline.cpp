@@ -67,6 +67,14 @@ void Baseline::Take(const Json& json) {
     }
 }
 
+// A forgotten name makes the next argument, such as a form, the name of the baseline.
+void Baseline::RefuseOtherFile() const {
+    std::error_code unknown;
+    if (fs::is_regular_file(file_, unknown)) {
+        Baseline(file_).Read();
+    }
+}
+
 void Baseline::Read() {
     std::ifstream stream(file_, std::ios::binary);
     if (!stream) {
@@ -80,6 +88,7 @@ void Baseline::Read() {
 }
 
 void Baseline::Write() const {
+    RefuseOtherFile();
     try {
         forms::ReplaceFile(file_,
                            ToJson().dump(1, ' ', false, Json::error_handler_t::replace) + '\n');

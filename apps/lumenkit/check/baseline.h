@@ -27,7 +27,8 @@ class Baseline {
 
     /// Throws BadBaseline if the file cannot be read or is no baseline.
     void Read();
-    /// Throws BadBaseline if the file cannot be written; the old file then stays.
+    /// Throws BadBaseline if the file cannot be written, is read-only or is another file than a
+    /// baseline; then the old file stays.
     void Write() const;
 
     void Add(const Findings& findings);
@@ -37,6 +38,7 @@ class Baseline {
  private:
     using Key = std::tuple<std::string, std::string, std::string, std::string, std::string>;
 
+    void RefuseOtherFile() const;
     Key KeyOf(const Finding& finding) const;
     nlohmann::ordered_json ToJson() const;
     void Take(const nlohmann::ordered_json& json);

@@ -13,7 +13,8 @@ std::string Escaped(std::string_view text, std::string_view special) {
     constexpr std::string_view digits = "0123456789ABCDEF";
     std::string escaped;
     for (const char letter : text) {
-        if (special.find(letter) == std::string_view::npos) {
+        const bool isControl = (letter >= 0 && letter < ' ') || letter == '\x7f';
+        if (!isControl && special.find(letter) == std::string_view::npos) {
             escaped += letter;
         } else {
             const auto byte = static_cast<unsigned char>(letter);
@@ -24,11 +25,11 @@ std::string Escaped(std::string_view text, std::string_view special) {
 }
 
 std::string EscapedMessage(std::string_view text) {
-    return Escaped(text, "%\r\n");
+    return Escaped(text, "%");
 }
 
 std::string EscapedParameter(std::string_view text) {
-    return Escaped(text, "%\r\n:,");
+    return Escaped(text, "%:,");
 }
 
 std::string Place(const std::string& file, forms::Position place) {

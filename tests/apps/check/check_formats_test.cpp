@@ -71,8 +71,8 @@ TEST(GithubFormat, HasACommandForEachFinding) {
 }
 
 TEST(GithubFormat, EscapesWhatWouldEndACommand) {
-    const Outcome outcome = RunProgram("check --format github 'a,b:c%.frm'");
-    EXPECT_EQ(outcome.output, "::error file=a%2Cb%3Ac%25.frm::cannot be read\n");
+    const Outcome outcome = RunProgram("check --format github \"$(printf 'a,b:c%%\\033.frm')\"");
+    EXPECT_EQ(outcome.output, "::error file=a%2Cb%3Ac%25%1B.frm::cannot be read\n");
     EXPECT_EQ(outcome.status, 2);
 }
 

@@ -155,6 +155,9 @@ TEST_F(CheckOptions, AnUnusableBaselineEndsTheRun) {
     const Outcome unwritten = Check("--write-baseline " + (folder / "no/known.json").string());
     EXPECT_THAT(unwritten.errors, HasSubstr("known.json: cannot be written"));
     EXPECT_EQ(unwritten.status, 2);
+    const std::string order = (folder / "order.frm").string();
+    EXPECT_THAT(Check("--write-baseline " + order).errors, HasSubstr("order.frm: is no baseline"));
+    EXPECT_EQ(FileBytes(order), form);
     fs::remove(file);
     ASSERT_EQ(mkfifo(file.c_str(), 0600), 0);
     EXPECT_THAT(Check("--write-baseline " + file).errors,

@@ -73,6 +73,38 @@ TEST(TabOrder, StopsOnceAtOptionButtonsOfOneContainer) {
     EXPECT_THAT(Way(view, 2), ElementsAre("Opt(1)", "T", "Opt(1)"));
 }
 
+TEST(TabOrder, EntersOptionsAtTheFirstIfNoneIsChosen) {
+    LoadedView view(
+        FormWith("   Begin VB.TextBox T\n TabIndex = 0\n End\n"
+                 "   Begin VB.OptionButton A\n TabIndex = 1\n End\n"
+                 "   Begin VB.OptionButton B\n TabIndex = 2\n End\n"));
+    EXPECT_THAT(Way(view, 2), ElementsAre("T", "A", "T"));
+}
+
+TEST(OptionButtons, ReleaseThoseOfTheSameContainerOnly) {
+    LoadedView view(
+        FormWith("   Begin VB.OptionButton A\n Value = -1 'True\n Width = 600\n End\n"
+                 "   Begin VB.OptionButton B\n Left = 900\n Width = 600\n End\n"
+                 "   Begin VB.Frame F\n Top = 900\n Width = 3000\n Height = 900\n"
+                 "      Begin VB.OptionButton F1\n Value = -1 'True\n Width = 600\n End\n"
+                 "      Begin VB.OptionButton F2\n Left = 900\n Width = 600\n End\n   End\n"));
+    const auto button = [&](TextView name) {
+        return qobject_cast<QAbstractButton*>(&view.Control(name).Widget());
+    };
+    const auto chosen = [&] {
+        std::vector<bool> all;
+        for (const TextView name : {u"A", u"B", u"F1", u"F2"}) {
+            all.push_back(button(name)->isChecked());
+        }
+        return all;
+    };
+    EXPECT_THAT(chosen(), ElementsAre(true, false, true, false));
+    QTest::mouseClick(button(u"B"), Qt::LeftButton);
+    EXPECT_THAT(chosen(), ElementsAre(false, true, true, false));
+    QTest::mouseClick(button(u"F2"), Qt::LeftButton);
+    EXPECT_THAT(chosen(), ElementsAre(false, true, false, true));
+}
+
 TEST(TabOrder, LabelsLeadToTheControlBehindThem) {
     LoadedView view(FormWith(
         "   Begin VB.TextBox Last\n TabIndex = 2\n End\n"
