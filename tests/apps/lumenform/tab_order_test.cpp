@@ -1,6 +1,8 @@
 // The tab order of a form.
+#include <QAbstractButton>
 #include <QApplication>
 #include <QTest>
+#include <vector>
 
 #include <gmock/gmock.h>
 
