@@ -59,6 +59,7 @@ std::string NotARule(const std::string& name) {
 template <typename Value>
 std::vector<std::string> NamesOf(const std::map<std::string, Value>& values) {
     std::vector<std::string> names;
+    names.reserve(values.size());
     for (const auto& [name, value] : values) {
         names.push_back(name);
     }
