@@ -194,7 +194,7 @@ std::string CodePage::Encode(TextView text) const {
         }
         if (code != 0 || unit == 0) {
             bytes += static_cast<char>(code);
-        } else if (IsKept(unit) && !table_->pairs.empty()) {
+        } else if (IsKept(unit) && !HasOneByteEach()) {
             bytes += static_cast<char>(unit - firstKept + firstUpper);
             hasKept = true;
         } else {
@@ -215,6 +215,10 @@ void CodePage::RequireSame(TextView text, std::string_view bytes) const {
         throw Unmappable{static_cast<std::size_t>(different - text.begin()),
                          "Windows-" + std::to_string(Number())};
     }
+}
+
+bool CodePage::HasOneByteEach() const {
+    return table_->pairs.empty();
 }
 
 bool CodePage::Defines(std::string_view bytes) const {

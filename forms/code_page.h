@@ -29,6 +29,8 @@ class CodePage {
     Text Decode(std::string_view bytes) const;
     /// Throws Unmappable, also for a kept byte that would become a part of another character.
     std::string Encode(TextView text) const;
+    /// Returns whether each character has one byte, and so one spelling.
+    bool HasOneByteEach() const;
     /// Returns whether all bytes are characters of the page.
     bool Defines(std::string_view bytes) const;
 

@@ -6,7 +6,7 @@ namespace lumenkit::forms {
 
 // A line feed is never a part of a longer byte sequence.
 Spelling::Spelling(const CodePage& page, std::string_view bytes) {
-    if (page.Encode(page.Decode(bytes)) == bytes) {
+    if (page.HasOneByteEach() || page.Encode(page.Decode(bytes)) == bytes) {
         return;
     }
     std::size_t number = 1;
