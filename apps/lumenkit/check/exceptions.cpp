@@ -159,29 +159,32 @@ bool Covers(const Exception& exception, const Finding& finding, const std::strin
             Matches(exception.subject, whole));
 }
 
-const std::vector<Exception>& ExceptionFiles::In(const fs::path& folder) {
+const ExceptionFiles::Folder& ExceptionFiles::In(const fs::path& folder) {
     const auto known = known_.find(folder);
     if (known != known_.end()) {
         return known->second;
     }
     const fs::path file = folder / ".lumenkit";
     std::error_code unknown;
-    const bool exists = fs::exists(file, unknown);
-    return known_.emplace(folder, exists ? ReadFile(file) : std::vector<Exception>()).first->second;
+    Folder found;
+    if (fs::exists(file, unknown)) {
+        found.exceptions = ReadFile(file);
+    }
+    found.isLast = fs::exists(folder / ".git", unknown) || folder == folder.root_path();
+    return known_.emplace(folder, std::move(found)).first->second;
 }
 
 void ExceptionFiles::Apply(const fs::path& file, Findings& findings) {
     const fs::path whole = fs::absolute(file).lexically_normal();
-    for (fs::path folder = whole.parent_path();; folder = folder.parent_path()) {
-        const std::string path = whole.lexically_relative(folder).generic_string();
-        for (const Exception& exception : In(folder)) {
+    bool isLast = false;
+    for (fs::path path = whole.parent_path(); !isLast; path = path.parent_path()) {
+        const Folder& folder = In(path);
+        const std::string name = whole.lexically_relative(path).generic_string();
+        for (const Exception& exception : folder.exceptions) {
             std::erase_if(findings,
-                          [&](const Finding& finding) { return Covers(exception, finding, path); });
+                          [&](const Finding& finding) { return Covers(exception, finding, name); });
         }
-        std::error_code unknown;
-        if (fs::exists(folder / ".git", unknown) || folder == folder.root_path()) {
-            return;
-        }
+        isLast = folder.isLast;
     }
 }
 

@@ -44,9 +44,14 @@ class ExceptionFiles {
     void Apply(const std::filesystem::path& file, Findings& findings);
 
  private:
-    const std::vector<Exception>& In(const std::filesystem::path& folder);
+    struct Folder {
+        std::vector<Exception> exceptions;
+        bool isLast = false;  // whether no file is looked for above it
+    };
 
-    std::map<std::filesystem::path, std::vector<Exception>> known_;
+    const Folder& In(const std::filesystem::path& folder);
+
+    std::map<std::filesystem::path, Folder> known_;
 };
 
 /// Removes the findings that comments in the code of the form cover:

@@ -3,6 +3,7 @@
 #include "apps/lumenkit/check/finding_text.h"
 #include "apps/lumenkit/check/reporter.h"
 #include "apps/lumenkit/check/rules.h"
+#include "forms/hexadecimal.h"
 
 namespace lumenkit::check {
 
@@ -10,7 +11,6 @@ namespace {
 
 // A command is one line. Its parameters are separated by commas and end at two colons.
 std::string Escaped(std::string_view text, std::string_view special) {
-    constexpr std::string_view digits = "0123456789ABCDEF";
     std::string escaped;
     for (const char letter : text) {
         const bool isControl = (letter >= 0 && letter < ' ') || letter == '\x7f';
@@ -18,7 +18,7 @@ std::string Escaped(std::string_view text, std::string_view special) {
             escaped += letter;
         } else {
             const auto byte = static_cast<unsigned char>(letter);
-            escaped += {'%', digits[byte / 16], digits[byte % 16]};
+            escaped += '%' + forms::Hexadecimal(byte, 2);
         }
     }
     return escaped;

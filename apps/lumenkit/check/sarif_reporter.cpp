@@ -4,6 +4,7 @@
 #include "apps/lumenkit/check/finding_text.h"
 #include "apps/lumenkit/check/reporter.h"
 #include "apps/lumenkit/check/rules.h"
+#include "forms/hexadecimal.h"
 
 namespace lumenkit::check {
 
@@ -15,7 +16,6 @@ constexpr const char* schema = "https://json.schemastore.org/sarif-2.1.0.json";
 
 // Names of files are URI references: other bytes than these are escaped.
 std::string UriOf(const std::string& file) {
-    constexpr std::string_view digits = "0123456789ABCDEF";
     constexpr std::string_view plain = "-._~/";
     std::string uri;
     for (const char letter : std::filesystem::path(file).generic_string()) {
@@ -23,7 +23,7 @@ std::string UriOf(const std::string& file) {
         if (std::isalnum(byte) != 0 || plain.find(letter) != std::string_view::npos) {
             uri += letter;
         } else {
-            uri += {'%', digits[byte / 16], digits[byte % 16]};
+            uri += '%' + forms::Hexadecimal(byte, 2);
         }
     }
     const bool isAbsolute = uri.starts_with('/');
