@@ -7,6 +7,7 @@
 #include <system_error>
 #include <utility>
 
+#include "forms/ascii.h"
 #include "forms/form_error.h"
 #include "forms/hexadecimal.h"
 #include "forms/known_files.h"
@@ -20,14 +21,6 @@ namespace fs = std::filesystem;
 
 std::string Digits(std::uint64_t number) {
     return Hexadecimal(number, 2 * sizeof number);
-}
-
-std::string LowerName(const fs::path& path) {
-    std::string lower = NameOf(path.filename());
-    for (char& letter : lower) {
-        letter = 'A' <= letter && letter <= 'Z' ? static_cast<char>(letter - 'A' + 'a') : letter;
-    }
-    return lower;
 }
 
 std::string ReasonOf(int error) {
@@ -51,7 +44,7 @@ Place::Place(const fs::path& named, const std::string& contents)
       path(Resolved(named)),
       folder(path.parent_path()),
       bytes(contents),
-      prefix(".lumenkit-" + Digits(Fingerprint::Of(LowerName(path)).hash)),
+      prefix(".lumenkit-" + Digits(Fingerprint::Of(LowerAscii(NameOf(path.filename()))).hash)),
       lock(folder / (prefix + ".lock")) {}
 
 fs::path Place::NewName(std::string_view end) const {

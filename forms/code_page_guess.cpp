@@ -8,6 +8,7 @@
 #include <stdexcept>
 #include <vector>
 
+#include "forms/ascii.h"
 #include "forms/code_page.h"
 #include "forms/known_code_pages.h"
 #include "frame/text.h"
@@ -37,10 +38,6 @@ bool Defines(int page, std::string_view bytes) {
 
 // Fonts ---------------------------------------------------------------------------------------
 
-char LowerLetter(char letter) {
-    return letter >= 'A' && letter <= 'Z' ? static_cast<char>(letter - 'A' + 'a') : letter;
-}
-
 void SkipBlanks(std::string_view& line) {
     line.remove_prefix(std::min(line.find_first_not_of(" \t"), line.size()));
 }
@@ -48,7 +45,8 @@ void SkipBlanks(std::string_view& line) {
 // Takes a word in any case, given in lower case, and the blanks after it.
 bool TakeWord(std::string_view& line, std::string_view word) {
     if (line.size() < word.size() ||
-        !std::ranges::equal(line.substr(0, word.size()), word, {}, LowerLetter)) {
+        !std::ranges::equal(line.substr(0, word.size()), word, {},
+                            [](char letter) { return LowerAscii(letter); })) {
         return false;
     }
     line.remove_prefix(word.size());

@@ -5,6 +5,7 @@
 #include <system_error>
 #include <vector>
 
+#include "forms/ascii.h"
 #include "forms/path_names.h"
 #include "frame/text.h"
 #include "frame/utf8.h"
@@ -21,10 +22,7 @@ bool IsSameName(const std::string& one, const std::string& other) {
     try {
         return SameText(FromUtf8(one), FromUtf8(other), Compare::IgnoreCase);
     } catch (const MalformedUtf8&) {
-        const auto lower = [](char letter) {
-            return letter >= 'A' && letter <= 'Z' ? static_cast<char>(letter - 'A' + 'a') : letter;
-        };
-        return std::ranges::equal(one, other, {}, lower, lower);
+        return LowerAscii(one) == LowerAscii(other);
     }
 }
 
@@ -46,19 +44,6 @@ std::string NameAsForm(const fs::path& form, const std::string& companion) {
     return NameOf(form.stem()) + (dot == std::string::npos ? "" : companion.substr(dot));
 }
 
-bool IsUtf8Name(const std::string& name) {
-    try {
-        FromUtf8(name);
-        return true;
-    } catch (const MalformedUtf8&) {
-        return false;
-    }
-}
-
-bool IsAsciiName(const std::string& name) {
-    return std::ranges::none_of(name, [](char byte) { return (byte & 0x80) != 0; });
-}
-
 }  // namespace
 
 fs::path CompanionPath(const fs::path& form, const CompanionName& name,
@@ -74,7 +59,7 @@ fs::path CompanionPath(const fs::path& form, const CompanionName& name,
         }
     }
     std::vector<std::string> similar = {name.utf8, name.bytes};
-    if (!IsAsciiName(name.utf8)) {
+    if (!IsAscii(name.utf8)) {
         similar.push_back(NameAsForm(form, name.utf8));
     }
     for (const std::string& sought : similar) {
@@ -86,7 +71,7 @@ fs::path CompanionPath(const fs::path& form, const CompanionName& name,
         }
     }
     const fs::path& place = fs::is_symlink(form, error) ? forms.back() : form;
-    return Beside(place, IsUtf8Name(NameOf(place.filename())) ? name.utf8 : name.bytes);
+    return Beside(place, IsUtf8(NameOf(place.filename())) ? name.utf8 : name.bytes);
 }
 
 }  // namespace lumenkit::forms

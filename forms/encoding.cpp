@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cstddef>
 
+#include "forms/ascii.h"
 #include "frame/utf8.h"
 
 namespace lumenkit::forms {
@@ -10,20 +11,6 @@ namespace lumenkit::forms {
 namespace {
 
 constexpr std::string_view utf8Mark = "\xEF\xBB\xBF";
-
-bool IsAscii(std::string_view bytes) {
-    return std::all_of(bytes.begin(), bytes.end(),
-                       [](char byte) { return static_cast<unsigned char>(byte) < 0x80; });
-}
-
-bool IsUtf8(std::string_view bytes) {
-    try {
-        FromUtf8(bytes);
-        return true;
-    } catch (const MalformedUtf8&) {
-        return false;
-    }
-}
 
 bool IsSurrogate(char16_t unit) {
     return (unit & 0xF800) == 0xD800;

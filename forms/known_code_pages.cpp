@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <charconv>
 
+#include "forms/ascii.h"
+
 namespace lumenkit::forms {
 
 namespace {
@@ -30,14 +32,6 @@ template <typename Is>
 const KnownCodePage* Find(const Is& is) {
     const auto* const found = std::ranges::find_if(pages, is);
     return found == pages.end() ? nullptr : found;
-}
-
-std::string Lower(std::string_view name) {
-    std::string lower(name);
-    for (char& letter : lower) {
-        letter = letter >= 'A' && letter <= 'Z' ? static_cast<char>(letter - 'A' + 'a') : letter;
-    }
-    return lower;
 }
 
 int NumberIn(std::string_view name) {
@@ -69,7 +63,7 @@ const KnownCodePage* FindCodePageOfCharset(int charset) {
 }
 
 std::optional<int> CodePageNamed(std::string_view name) {
-    const std::string lower = Lower(name);
+    const std::string lower = LowerAscii(name);
     const int number = NumberIn(lower);
     const KnownCodePage* const page = Find([&](const KnownCodePage& known) {
         return known.number == number ||
