@@ -38,6 +38,14 @@ bool IsChanged(const KnownFiles& files, const fs::path& path) {
     return known != nullptr && Disk::System().Read(path, bytes) && *known != Fingerprint::Of(bytes);
 }
 
+void Accept(KnownFiles& files, const fs::path& path) {
+    const fs::path resolved = Resolved(path);
+    std::string bytes;
+    if (files.Find(resolved) != nullptr && Disk::System().Read(path, bytes)) {
+        files.Remember(resolved, bytes);
+    }
+}
+
 }  // namespace
 
 Document Load(const fs::path& path, int codePage) {
@@ -64,6 +72,11 @@ void Save(const Document& document, const fs::path& path, Replacing replacing) {
 bool IsChangedOnDisk(const Document& document, const fs::path& path) {
     return IsChanged(document.Files(), path) ||
            IsChanged(document.Files(), CompanionToSave(document, path));
+}
+
+void AcceptChangesOnDisk(const Document& document, const fs::path& path) {
+    Accept(document.Files(), path);
+    Accept(document.Files(), CompanionToSave(document, path));
 }
 
 }  // namespace lumenkit::forms

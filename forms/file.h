@@ -33,4 +33,9 @@ void Save(const Document& document, const std::filesystem::path& path,
 /// wrote last. False for a file that does not exist or was neither read nor written.
 bool IsChangedOnDisk(const Document& document, const std::filesystem::path& path);
 
+/// Takes the present contents of the form and its companion as known, so that Save replaces them
+/// even with Replacing::Known. For a user who has seen that another program has changed them. Files
+/// that the document neither read nor wrote stay unknown.
+void AcceptChangesOnDisk(const Document& document, const std::filesystem::path& path);
+
 }  // namespace lumenkit::forms

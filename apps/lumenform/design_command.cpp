@@ -1,4 +1,6 @@
 #include <QSettings>
+#include <QStandardPaths>
+#include <QTimer>
 #include <memory>
 #include <optional>
 
@@ -11,6 +13,12 @@ namespace lumenkit::lumenform {
 
 namespace {
 
+// The place for copies of unsaved work.
+QString RecoveryFolder() {
+    return QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) +
+           QStringLiteral("/lumenkit/recovery");
+}
+
 int DesignForm(const DesktopOptions& options) {
     std::optional<QSettings> settings;  // created after the application
     return ShowOnDesktop(options, "\"lumenform render --design\" draws the designer without one",
@@ -22,11 +30,13 @@ int DesignForm(const DesktopOptions& options) {
                                                      .application = context.application,
                                                      .interaction = context.interaction,
                                                      .settings = *settings,
+                                                     .recovery = RecoveryFolder(),
                                                      .codePage = options.codePage});
                              if (!options.form.empty()) {
                                  window->Load(QString::fromLocal8Bit(options.form));
                                  PrintWarnings(window->Bench()->GetDesign().Document());
                              }
+                             QTimer::singleShot(0, window.get(), &DesignWindow::OfferAbandonedWork);
                              return window;
                          });
 }

@@ -192,6 +192,29 @@ void FormDesign::Restructure(const QString& title, const std::function<std::vect
     Push(title, before, Merging::None);
 }
 
+void FormDesign::Reload(forms::Document document) {
+    const bool isSameEncoding = document.FormCodePage() == document_->FormCodePage() &&
+                                document.CompanionCodePage() == document_->CompanionCodePage();
+    TakeStep(tr("Read again"), std::make_unique<forms::Document>(std::move(document)));
+    if (!isSameEncoding) {
+        history_.clear();
+    }
+    history_.setClean();
+    Q_EMIT Edited();
+}
+
+void FormDesign::Take(const QString& title, const forms::FormBytes& bytes) {
+    TakeStep(title, std::make_unique<forms::Document>(document_->WithBytes(bytes)));
+}
+
+void FormDesign::TakeStep(const QString& title, std::unique_ptr<forms::Document> document) {
+    const SharedSnapshot before = BeforeChange();
+    Replace(std::move(document));
+    SelectNamed(before->Selected());
+    now_ = std::make_shared<const Snapshot>(*document_, SelectedNames(), before.get());
+    Push(title, before, Merging::None);
+}
+
 void FormDesign::Push(const QString& title, SharedSnapshot before, Merging merging) {
     if (!now_->HoldsTheSameAs(*before)) {
         history_.push(new Step(*this, title, std::move(before), merging));

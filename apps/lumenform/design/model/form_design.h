@@ -61,6 +61,14 @@ class FormDesign final : public QObject {
     void Restructure(const QString& title, const std::function<std::vector<Text>()>& change,
                      NewWarnings newWarnings = NewWarnings::Refuse);
 
+    /// Takes the document that another program has written in place of this one, as a step of the
+    /// history and without unsaved changes. A document in another encoding begins a new history.
+    /// Throws FormError as FormView does; then nothing changes.
+    void Reload(forms::Document document);
+    /// Takes other contents for the document as a step of the history. Throws FormError as FormView
+    /// does, and for bytes that are no form; then nothing changes.
+    void Take(const QString& title, const forms::FormBytes& bytes);
+
     /// Undo, redo, and whether there are unsaved changes.
     QUndoStack& History() { return history_; }
     /// Change the file name of the document. See forms::Document::Rename.
@@ -79,6 +87,7 @@ class FormDesign final : public QObject {
 
     SharedSnapshot BeforeChange() const;
     void Push(const QString& title, SharedSnapshot before, Merging merging);
+    void TakeStep(const QString& title, std::unique_ptr<forms::Document> document);
     void Replace(std::unique_ptr<forms::Document> document);
     void Restore(const SharedSnapshot& snapshot);
 

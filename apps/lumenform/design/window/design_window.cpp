@@ -3,17 +3,21 @@
 #include <QCloseEvent>
 #include <QDragEnterEvent>
 #include <QFileInfo>
+#include <QLocale>
 #include <QMenuBar>
 #include <QMimeData>
 #include <QScreen>
 #include <QStyle>
-#include <QToolBar>
+#include <QUrl>
+#include <memory>
+#include <utility>
+#include <vector>
 
 #include "apps/lumenform/design/model/new_form.h"
 #include "apps/lumenform/design/window/form_dialogs.h"
+#include "apps/lumenform/design/window/opened_message.h"
 #include "forms/file.h"
 #include "forms/form_error.h"
-#include "runtime/qt/qt_text.h"
 
 namespace lumenkit::lumenform {
 
@@ -25,10 +29,24 @@ QString GeometryKey() {
     return QStringLiteral("window/geometry");
 }
 
-// Returns the file that is dropped on the window, or an empty text for other data.
-QString DroppedFile(const QMimeData& data) {
-    const QList<QUrl> urls = data.urls();
-    return urls.size() == 1 ? urls.front().toLocalFile() : QString();
+// Returns the files that are dropped on the window.
+QStringList DroppedFiles(const QMimeData& data) {
+    QStringList files;
+    for (const QUrl& url : data.urls()) {
+        if (url.isLocalFile()) {
+            files.append(url.toLocalFile());
+        }
+    }
+    return files;
+}
+
+// Whether both paths lead to one file.
+bool IsSameFile(const QString& one, const QString& other) {
+    const QFileInfo first(one);
+    const QFileInfo second(other);
+    return first.exists() && second.exists()
+               ? first.canonicalFilePath() == second.canonicalFilePath()
+               : first.absoluteFilePath() == second.absoluteFilePath();
 }
 
 }  // namespace
@@ -41,6 +59,8 @@ DesignWindow::DesignWindow(const Setup& setup)
       recent_(setup.settings),
       pages_(new QStackedWidget),
       start_(new StartPage),
+      tabs_(new QTabWidget),
+      files_(new FileMenu(this)),
       commands_(new FormCommands(*this)),
       view_(new ViewMenu(setup.settings, this)),
       status_(new PlaceStatus) {
@@ -48,80 +68,56 @@ DesignWindow::DesignWindow(const Setup& setup)
     setCentralWidget(pages_);
     setStatusBar(status_);
     pages_->addWidget(start_);
-    connect(start_, &StartPage::NewWanted, this, &DesignWindow::StartNewUnlessCancelled);
-    connect(start_, &StartPage::OpenWanted, this, &DesignWindow::ChooseAndOpen);
-    connect(start_, &StartPage::RecentWanted, this,
-            [this](const QString& path) { Open(path, setup_.codePage); });
-    AddFileMenu();
+    pages_->addWidget(tabs_);
+    tabs_->setDocumentMode(true);
+    tabs_->setMovable(true);
+    tabs_->setTabsClosable(true);
+    tabs_->setTabBarAutoHide(true);
+    connect(tabs_, &QTabWidget::currentChanged, this, [this] {
+        if (Current() != nullptr) {
+            Current()->LookAtDisk();
+        }
+        Follow();
+    });
+    connect(tabs_, &QTabWidget::tabCloseRequested, this, &DesignWindow::Close);
+    ConnectFiles();
+    menuBar()->addMenu(files_);
     menuBar()->addMenu(&commands_->EditMenu());
     menuBar()->addMenu(view_);
     menuBar()->addMenu(&commands_->FormatMenu());
     AddRunMenu();
     AddToolBar();
-    ShowStart();
+    ShowRecent();
+    Follow();
     constexpr QSize usual(1240, 780);
     resize(usual.boundedTo(screen()->availableSize()));
     restoreGeometry(setup.settings.value(GeometryKey()).toByteArray());
 }
 
+// Destroys the forms before what they use.
 DesignWindow::~DesignWindow() {
-    Follow(nullptr);
-}
-
-void DesignWindow::AddFileMenu() {
-    QMenu* const menu = menuBar()->addMenu(tr("&File"));
-    const auto icon = [this](QStyle::StandardPixmap pixmap) {
-        return style()->standardIcon(pixmap);
-    };
-    new_ = menu->addAction(icon(QStyle::SP_FileIcon), tr("&New"), this,
-                           &DesignWindow::StartNewUnlessCancelled);
-    new_->setShortcut(QKeySequence::New);
-    open_ = menu->addAction(icon(QStyle::SP_DialogOpenButton), tr("&Open…"), this,
-                            &DesignWindow::ChooseAndOpen);
-    open_->setShortcut(QKeySequence::Open);
-    recentMenu_ = menu->addMenu(tr("Open &recent"));
-    codePages_ = menu->addMenu(tr("Read in code &page"));
-    AddCodePages();
-    menu->addSeparator();
-    save_ =
-        menu->addAction(icon(QStyle::SP_DialogSaveButton), tr("&Save"), this, &DesignWindow::Save);
-    save_->setShortcut(QKeySequence::Save);
-    saveAs_ = menu->addAction(tr("Save &as…"), this, &DesignWindow::SaveAs);
-    saveAs_->setShortcut(Qt::CTRL | Qt::SHIFT | Qt::Key_S);
-    menu->addSeparator();
-    close_ = menu->addAction(tr("&Close the form"), this, &DesignWindow::Close);
-    close_->setShortcut(QKeySequence::Close);
-    QAction* const quit = menu->addAction(tr("&Quit"), this, &QWidget::close);
-    quit->setShortcut(Qt::CTRL | Qt::Key_Q);
-    FillRecent();
-}
-
-void DesignWindow::FillRecent() {
-    recentMenu_->clear();
-    const QStringList paths = recent_.Existing();
-    for (const QString& path : paths) {
-        QString shown = path;
-        recentMenu_->addAction(shown.replace(u'&', QStringLiteral("&&")), this,
-                               [this, path] { Open(path, setup_.codePage); });
+    tabs_->disconnect(this);
+    while (tabs_->count() > 0) {
+        delete tabs_->widget(0);
     }
-    recentMenu_->addSeparator();
-    recentMenu_->addAction(tr("&Clear the list"), this, [this] {
+}
+
+void DesignWindow::ConnectFiles() {
+    connect(start_, &StartPage::NewWanted, this, &DesignWindow::StartNew);
+    connect(start_, &StartPage::OpenWanted, this, &DesignWindow::ChooseAndOpen);
+    connect(start_, &StartPage::RecentWanted, this, &DesignWindow::Open);
+    connect(files_, &FileMenu::NewWanted, this, &DesignWindow::StartNew);
+    connect(files_, &FileMenu::OpenWanted, this, &DesignWindow::ChooseAndOpen);
+    connect(files_, &FileMenu::RecentWanted, this, &DesignWindow::Open);
+    connect(files_, &FileMenu::RecentCleared, this, [this] {
         recent_.Clear();
-        FillRecent();
+        ShowRecent();
     });
-    recentMenu_->setEnabled(!paths.isEmpty());
-    start_->ShowRecent(paths);
-}
-
-void DesignWindow::AddCodePages() {
-    for (const forms::KnownCodePage& page : forms::KnownCodePages()) {
-        const int number = page.number;
-        QAction* const action =
-            codePages_->addAction(tr("%1  %2").arg(number).arg(QString::fromLatin1(page.title)),
-                                  this, [this, number] { ReadAgain(number); });
-        action->setCheckable(true);
-        action->setData(number);
-    }
+    connect(files_, &FileMenu::CodePageWanted, this, &DesignWindow::ReadAgain);
+    connect(files_, &FileMenu::SaveWanted, this, &DesignWindow::Save);
+    connect(files_, &FileMenu::SaveAsWanted, this, [this] { Current()->SaveAs(); });
+    connect(files_, &FileMenu::CloseWanted, this, [this] { Close(tabs_->currentIndex()); });
+    connect(files_, &FileMenu::QuitWanted, this, &QWidget::close);
 }
 
 void DesignWindow::AddRunMenu() {
@@ -131,111 +127,170 @@ void DesignWindow::AddRunMenu() {
     runForm_->setShortcut(Qt::Key_F5);
     runForm_->setToolTip(tr("Run the form for a trial, or return to the designer (F5)"));
     connect(runForm_, &QAction::triggered, this, &DesignWindow::Run);
+    addAction(runForm_);  // the menu bar is hidden during a trial run
 }
 
 void DesignWindow::AddToolBar() {
-    QToolBar* const bar = addToolBar(tr("Tools"));
-    bar->setObjectName(QStringLiteral("tools"));
-    bar->setMovable(false);
-    bar->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
-    bar->addActions({new_, open_, save_});
-    bar->addSeparator();
+    bar_ = addToolBar(tr("Tools"));
+    bar_->setObjectName(QStringLiteral("tools"));
+    bar_->setMovable(false);
+    bar_->setContextMenuPolicy(Qt::PreventContextMenu);
+    bar_->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+    bar_->addActions({&files_->NewAction(), &files_->OpenAction(), &files_->SaveAction()});
+    bar_->addSeparator();
     commands_->UndoAction().setIcon(style()->standardIcon(QStyle::SP_ArrowBack));
     commands_->RedoAction().setIcon(style()->standardIcon(QStyle::SP_ArrowForward));
-    bar->addActions({&commands_->UndoAction(), &commands_->RedoAction()});
-    bar->addSeparator();
-    bar->addActions({&commands_->CaptionAction(), &commands_->TabOrderAction(), runForm_});
+    bar_->addActions({&commands_->UndoAction(), &commands_->RedoAction()});
+    bar_->addSeparator();
+    bar_->addActions({&commands_->CaptionAction(), &commands_->TabOrderAction(), runForm_});
 }
 
-void DesignWindow::Show(forms::Document document, const FormFile& file) {
-    auto bench = std::make_unique<Workbench>(context_, messages_, std::move(document));
-    Run(false);
-    Follow(nullptr);
-    bench_ = std::move(bench);
-    file_ = file;
-    pages_->addWidget(bench_.get());
-    pages_->setCurrentWidget(bench_.get());
-    FormDesign& design = bench_->GetDesign();
-    connect(&design.History(), &QUndoStack::cleanChanged, this, &DesignWindow::UpdateTitle);
-    connect(&design, &FormDesign::Edited, this, &DesignWindow::UpdateTitle);
-    connect(bench_.get(), &Workbench::Refused, this,
-            [this](const QString& why) { status_->showMessage(why, messageTime); });
-    connect(&bench_->GetCanvas(), &Canvas::MenuRequested, this,
+// ---- Tabs
+
+FormTab* DesignWindow::TabAt(int index) const {
+    return qobject_cast<FormTab*>(tabs_->widget(index));
+}
+
+FormTab* DesignWindow::Current() const {
+    return qobject_cast<FormTab*>(tabs_->currentWidget());
+}
+
+Workbench* DesignWindow::Bench() const {
+    return Current() == nullptr ? nullptr : &Current()->Bench();
+}
+
+RunPage* DesignWindow::Running() const {
+    return Current() == nullptr ? nullptr : Current()->Running();
+}
+
+FormTab* DesignWindow::TabOf(const QString& path) const {
+    for (int index = 0; index < tabs_->count(); ++index) {
+        FormTab* const tab = TabAt(index);
+        if (tab->File().HasPath() && IsSameFile(tab->File().Path(), path)) {
+            return tab;
+        }
+    }
+    return nullptr;
+}
+
+FormTab* DesignWindow::NewTab(forms::Document document, const FormFile& file) {
+    const auto isOpenElsewhere = [this](const FormTab& asking, const QString& path) {
+        const FormTab* const other = TabOf(path);
+        return other != nullptr && other != &asking;
+    };
+    auto tab = std::make_unique<FormTab>(FormTab::Setup{.context = context_,
+                                                        .messages = messages_,
+                                                        .refusesName = isOpenElsewhere,
+                                                        .recovery = setup_.recovery},
+                                         std::move(document), file);
+    connect(tab.get(), &FormTab::StateChanged, this, &DesignWindow::Follow);
+    connect(tab.get(), &FormTab::Told, this, &DesignWindow::Tell);
+    connect(tab.get(), &FormTab::Saved, this, &DesignWindow::Remember);
+    connect(tab.get(), &FormTab::MenuRequested, this,
             [this](QPoint where) { commands_->EditMenu().popup(where); });
-    Follow(bench_.get());
-    bench_->GetCanvas().GetGlass().setFocus();
+    return tab.release();
 }
 
-void DesignWindow::ShowStart() {
-    Run(false);
-    Follow(nullptr);
-    bench_.reset();
-    file_ = {};
-    pages_->setCurrentWidget(start_);
-    UpdateTitle();
+void DesignWindow::Add(forms::Document document, const FormFile& file) {
+    FormTab* const tab = NewTab(std::move(document), file);
+    tabs_->setCurrentIndex(tabs_->addTab(tab, tab->Name()));
+    Follow();
+    tab->TakeFocus();
 }
 
-void DesignWindow::Follow(Workbench* bench) {
-    commands_->Follow(bench);
-    status_->Follow(bench);
-    view_->Follow(bench == nullptr ? nullptr : &bench->GetCanvas());
-    UpdateTitle();
+void DesignWindow::Replace(FormTab& tab, forms::Document document) {
+    FormTab* const fresh = NewTab(std::move(document), tab.File());
+    const int index = tabs_->indexOf(&tab);
+    tabs_->insertTab(index, fresh, fresh->Name());
+    tabs_->setCurrentIndex(index);
+    delete &tab;
+    Follow();
+    fresh->TakeFocus();
 }
 
-void DesignWindow::Load(const QString& path) {
-    Load(path, setup_.codePage);
-}
-
-void DesignWindow::Load(const QString& path, int codePage) {
-    Show(forms::Load(PathOf(path), codePage), FormFile(path));
-    recent_.Add(path);
-    FillRecent();
-    ShowWarnings();
-}
-
-void DesignWindow::ReadAgain(int codePage) {
-    if (file_.HasPath()) {
-        Open(file_.Path(), codePage);
-    }
-    UpdateTitle();  // the menu has checked its item
-}
-
-// Shows the guessed code page or the first warning of the form until the next message.
-void DesignWindow::ShowWarnings() {
-    const forms::Document& document = bench_->GetDesign().Document();
-    std::vector<forms::Warning> warnings = document.Warnings();
-    if (const std::optional<forms::CodePageGuess>& guess = document.Guess()) {
-        const QString hint = tr("; File > Read in code page changes this");
-        warnings.insert(warnings.begin(), {guess->place, TextOf(*guess) + hint.toStdString()});
-    }
-    if (warnings.empty()) {
-        status_->clearMessage();
+void DesignWindow::Close(int index) {
+    FormTab* const tab = TabAt(index);
+    tabs_->setCurrentIndex(index);
+    if (tab == nullptr || !tab->MayLeave()) {
         return;
     }
-    const forms::Warning& first = warnings.front();
-    const QString text = tr("%1:%2:%3: %4")
-                             .arg(FormName())
-                             .arg(first.place.line)
-                             .arg(first.place.column)
-                             .arg(QString::fromStdString(first.text));
-    const auto others = static_cast<int>(warnings.size()) - 1;
-    status_->showMessage(
-        others == 0 ? text
-                    : tr("%1 (and %2 more; \"lumenkit check\" lists them)").arg(text).arg(others));
+    tabs_->removeTab(index);  // another form is followed now
+    delete tab;
+    Follow();
+}
+
+// ---- Files
+
+void DesignWindow::Load(const QString& path) {
+    if (FormTab* const tab = TabOf(path)) {
+        tabs_->setCurrentWidget(tab);
+        return;
+    }
+    Add(forms::Load(PathOf(path), setup_.codePage), FormFile(path));
+    Remember(path);
+    Tell(OpenedMessage(Bench()->GetDesign().Document(), Current()->Name()));
 }
 
 void DesignWindow::StartNew() {
-    const std::string name = "Form1";
-    Show(forms::Document::Parse(name + ".frm", NewForm(name, setup_.classes), {}, setup_.codePage),
-         FormFile());
+    QStringList names;
+    for (int index = 0; index < tabs_->count(); ++index) {
+        names.append(TabAt(index)->Name().toLower());
+    }
+    int number = 1;
+    while (names.contains(QStringLiteral("form%1.frm").arg(number))) {
+        ++number;
+    }
+    const std::string name = "Form" + std::to_string(number);
+    Add(forms::Document::Parse(name + ".frm", NewForm(name, setup_.classes), {}, setup_.codePage),
+        FormFile());
 }
 
-void DesignWindow::Open(const QString& path, int codePage) {
-    if (!MayLeave()) {
+void DesignWindow::OfferAbandonedWork() {
+    const std::vector<RecoveredWork> left = AbandonedWork(setup_.recovery);
+    if (left.empty()) {
         return;
     }
+    QStringList names;
+    for (const RecoveredWork& work : left) {
+        names.append(tr("%1, changed %2")
+                         .arg(work.path.isEmpty() ? work.name : work.path,
+                              QLocale().toString(work.time, QLocale::ShortFormat)));
+    }
+    const WorkAnswer answer = AskAboutAbandonedWork(*this, names);
+    for (const RecoveredWork& work : left) {
+        if (answer == WorkAnswer::Open) {
+            OpenAgain(work);
+        } else if (answer == WorkAnswer::Discard) {
+            work.Remove();
+        }
+    }
+}
+
+// Opens the file of the form with the unsaved work as a change to it. Without that file, the form
+// is a new one.
+void DesignWindow::OpenAgain(const RecoveredWork& work) {
     try {
-        Load(path, codePage);
+        const forms::FormBytes bytes = work.Bytes();
+        try {
+            Load(work.path);
+            Bench()->GetDesign().Take(tr("Recovered changes"), bytes);
+        } catch (const forms::FormError&) {
+            const auto companion = [&](const std::string&) { return bytes.companion; };
+            Add(forms::Document::Parse(work.name.toStdString(), bytes.form, companion,
+                                       work.codePage),
+                FormFile());
+            Bench()->GetDesign().History().resetClean();
+        }
+        Current()->KeepCopy();
+        work.Remove();
+    } catch (const forms::FormError& error) {
+        Warn(*this, tr("%1 cannot be opened.").arg(work.name), QString::fromUtf8(error.what()));
+    }
+}
+
+void DesignWindow::Open(const QString& path) {
+    try {
+        Load(path);
     } catch (const forms::FormError& error) {
         Warn(*this, tr("%1 cannot be opened.").arg(QFileInfo(path).fileName()),
              QString::fromUtf8(error.what()));
@@ -243,129 +298,122 @@ void DesignWindow::Open(const QString& path, int codePage) {
 }
 
 void DesignWindow::ChooseAndOpen() {
-    const QString folder = file_.HasPath() ? QFileInfo(file_.Path()).path() : QString();
-    if (const QString path = AskForFormToOpen(*this, folder); !path.isEmpty()) {
-        Open(path, setup_.codePage);
+    const QString folder = Current() != nullptr && Current()->File().HasPath()
+                               ? QFileInfo(Current()->File().Path()).path()
+                               : QString();
+    for (const QString& path : AskForFormsToOpen(*this, folder)) {
+        Open(path);
     }
 }
 
-void DesignWindow::StartNewUnlessCancelled() {
-    if (MayLeave()) {
-        StartNew();
+void DesignWindow::ReadAgain(int codePage) {
+    FormTab& tab = *Current();
+    const QString path = tab.File().Path();
+    if (tab.File().HasPath() && tab.MayLeave()) {
+        try {
+            Replace(tab, forms::Load(PathOf(path), codePage));
+            Tell(OpenedMessage(Bench()->GetDesign().Document(), Current()->Name()));
+        } catch (const forms::FormError& error) {
+            Warn(*this, tr("%1 cannot be opened.").arg(QFileInfo(path).fileName()),
+                 QString::fromUtf8(error.what()));
+        }
     }
-}
-
-void DesignWindow::Close() {
-    if (MayLeave()) {
-        ShowStart();
-    }
+    Follow();  // the menu has checked its item
 }
 
 bool DesignWindow::Save() {
-    if (bench_ == nullptr || !bench_->FinishEditing()) {
-        return false;
-    }
-    if (!file_.HasPath()) {
-        return SaveAs();
-    }
-    if (!file_.WasChangedByOthers(bench_->GetDesign())) {
-        return SaveTo(file_.Path());
-    }
-    return AskWhetherToOverwrite(*this, file_.Path()) &&
-           SaveTo(file_.Path(), forms::Replacing::Confirmed);
-}
-
-bool DesignWindow::SaveAs() {
-    if (bench_ == nullptr || !bench_->FinishEditing()) {
-        return false;
-    }
-    const QString proposed = file_.HasPath() ? file_.Path() : FormName();
-    const QString path = AskForPlaceToSave(*this, proposed);
-    if (path == file_.Path() && !path.isEmpty()) {
-        return Save();  // asks again if another program has changed the file
-    }
-    // The dialog has asked about a file that is there already.
-    return !path.isEmpty() && SaveTo(path, QFileInfo::exists(path) ? forms::Replacing::Confirmed
-                                                                   : forms::Replacing::Known);
+    return Current() != nullptr && Current()->Save();
 }
 
 bool DesignWindow::SaveTo(const QString& path, forms::Replacing replacing) {
-    try {
-        file_.SaveAs(bench_->GetDesign(), path, replacing);
-    } catch (const forms::FormError& error) {
-        Warn(*this, tr("The form was not saved."), QString::fromUtf8(error.what()));
-        return false;
-    }
-    recent_.Add(path);
-    FillRecent();
-    UpdateTitle();
-    status_->showMessage(tr("Saved %1").arg(path), messageTime);
-    return true;
+    return Current() != nullptr && Current()->SaveTo(path, replacing);
 }
 
 bool DesignWindow::MayLeave() {
-    if (bench_ != nullptr && !bench_->FinishEditing()) {
-        return false;
+    for (int index = 0; index < tabs_->count(); ++index) {
+        if (TabAt(index)->IsChanged() || index == tabs_->currentIndex()) {
+            tabs_->setCurrentIndex(index);
+            if (!TabAt(index)->MayLeave()) {
+                return false;
+            }
+        }
     }
-    if (bench_ == nullptr || bench_->GetDesign().History().isClean()) {
-        return true;
-    }
-    switch (AskWhetherToSave(*this, FormName())) {
-        case SaveAnswer::Save:
-            return Save();
-        case SaveAnswer::Discard:
-            return true;
-        case SaveAnswer::Cancel:
-            break;
-    }
-    return false;
+    return true;
 }
+
+void DesignWindow::Remember(const QString& path) {
+    recent_.Add(path);
+    ShowRecent();
+}
+
+void DesignWindow::ShowRecent() {
+    const QStringList paths = recent_.Existing();
+    files_->ShowRecent(paths);
+    start_->ShowRecent(paths);
+}
+
+// ---- The current form
 
 void DesignWindow::Run(bool on) {
-    if (on && run_ == nullptr && bench_ != nullptr && bench_->FinishEditing()) {
-        bench_->Try(
-            [this] { run_ = std::make_unique<RunPage>(context_, bench_->GetDesign().Document()); });
-        if (run_ != nullptr) {
-            connect(
-                run_.get(), &RunPage::BackWanted, this, [this] { Run(false); },
-                Qt::QueuedConnection);
-            pages_->addWidget(run_.get());
-            pages_->setCurrentWidget(run_.get());
-            Follow(nullptr);
-            run_->View().FocusFirst();
-        }
-    } else if (!on && run_ != nullptr) {
-        run_.reset();
-        pages_->setCurrentWidget(bench_.get());
-        Follow(bench_.get());
-        bench_->GetCanvas().GetGlass().setFocus();
+    if (Current() != nullptr) {
+        Current()->Run(on);
     }
-    UpdateTitle();
 }
 
-QString DesignWindow::FormName() const {
-    return file_.HasPath() ? QFileInfo(file_.Path()).fileName()
-                           : qt::ToQString(bench_->GetDesign().Document().Root().Name()) +
-                                 QStringLiteral(".frm");
+// Lets the commands apply to the current form. During a trial run, all keys are for the form: its
+// menu bar is the only one, and the keys of hidden menus are not taken.
+void DesignWindow::Follow() {
+    FormTab* const tab = Current();
+    const bool isRunning = tab != nullptr && tab->Running() != nullptr;
+    pages_->setCurrentIndex(tab == nullptr ? 0 : 1);
+    menuBar()->setVisible(!isRunning);
+    bar_->setVisible(!isRunning);
+    Workbench* const bench = isRunning ? nullptr : Bench();
+    if (bench != followed_ || bench == nullptr) {
+        followed_ = bench;
+        commands_->Follow(bench);
+        status_->Follow(bench);
+        view_->Follow(bench == nullptr ? nullptr : &bench->GetCanvas());
+    }
+    files_->Show({.isOpen = tab != nullptr,
+                  .canSave = bench != nullptr,
+                  .canReadAgain = bench != nullptr && tab->File().HasPath(),
+                  .codePage = tab == nullptr ? 0 : Bench()->GetDesign().Document().FormCodePage()});
+    runForm_->setEnabled(tab != nullptr);
+    runForm_->setChecked(isRunning);
+    ShowTitles();
 }
 
-void DesignWindow::UpdateTitle() {
-    const bool isOpen = bench_ != nullptr;
-    const bool isDesign = isOpen && run_ == nullptr;
-    setWindowTitle(!isOpen           ? tr("lumenform")
-                   : run_ != nullptr ? tr("%1[*] (running) – lumenform").arg(FormName())
-                                     : tr("%1[*] – lumenform").arg(FormName()));
-    setWindowModified(isOpen && !bench_->GetDesign().History().isClean());
-    save_->setEnabled(isDesign);
-    saveAs_->setEnabled(isDesign);
-    close_->setEnabled(isOpen);
-    codePages_->setEnabled(isDesign && file_.HasPath());
-    for (QAction* const action : codePages_->actions()) {
-        action->setChecked(isOpen &&
-                           action->data().toInt() == bench_->GetDesign().Document().FormCodePage());
+void DesignWindow::ShowTitles() {
+    for (int index = 0; index < tabs_->count(); ++index) {
+        const FormTab& tab = *TabAt(index);
+        QString title = tab.Name();
+        title.replace(u'&', QStringLiteral("&&"));
+        tabs_->setTabText(index, tab.IsChanged() ? title + u'*' : title);
+        tabs_->setTabToolTip(index, tab.File().Path());
     }
-    runForm_->setEnabled(isOpen);
-    runForm_->setChecked(run_ != nullptr);
+    const FormTab* const tab = Current();
+    setWindowTitle(tab == nullptr              ? tr("lumenform")
+                   : tab->Running() != nullptr ? tr("%1[*] (running) – lumenform").arg(tab->Name())
+                                               : tr("%1[*] – lumenform").arg(tab->Name()));
+    setWindowModified(tab != nullptr && tab->IsChanged());
+}
+
+void DesignWindow::Tell(const QString& text) {
+    if (text.isEmpty()) {
+        status_->clearMessage();
+    } else {
+        status_->showMessage(text, messageTime);
+    }
+}
+
+// ---- Events
+
+void DesignWindow::changeEvent(QEvent* event) {
+    QMainWindow::changeEvent(event);
+    if (event->type() == QEvent::ActivationChange && isActiveWindow() && Current() != nullptr) {
+        Current()->LookAtDisk();
+    }
 }
 
 void DesignWindow::closeEvent(QCloseEvent* event) {
@@ -378,14 +426,16 @@ void DesignWindow::closeEvent(QCloseEvent* event) {
 }
 
 void DesignWindow::dragEnterEvent(QDragEnterEvent* event) {
-    if (!DroppedFile(*event->mimeData()).isEmpty()) {
+    if (!DroppedFiles(*event->mimeData()).isEmpty()) {
         event->acceptProposedAction();
     }
 }
 
 void DesignWindow::dropEvent(QDropEvent* event) {
     event->acceptProposedAction();
-    Open(DroppedFile(*event->mimeData()), setup_.codePage);
+    for (const QString& file : DroppedFiles(*event->mimeData())) {
+        Open(file);
+    }
 }
 
 }  // namespace lumenkit::lumenform

@@ -4,17 +4,17 @@
 #include <QSettings>
 #include <QStackedWidget>
 #include <QString>
-#include <memory>
+#include <QTabWidget>
+#include <QToolBar>
 
 #include "apps/lumenform/design/properties/control_messages.h"
+#include "apps/lumenform/design/window/file_menu.h"
 #include "apps/lumenform/design/window/form_commands.h"
-#include "apps/lumenform/design/window/form_file.h"
+#include "apps/lumenform/design/window/form_tab.h"
 #include "apps/lumenform/design/window/place_status.h"
 #include "apps/lumenform/design/window/recent_files.h"
-#include "apps/lumenform/design/window/run_page.h"
 #include "apps/lumenform/design/window/start_page.h"
 #include "apps/lumenform/design/window/view_menu.h"
-#include "apps/lumenform/design/window/workbench.h"
 #include "forms/known_code_pages.h"
 #include "frame/host/application.h"
 #include "frame/host/interaction.h"
@@ -22,7 +22,8 @@
 
 namespace lumenkit::lumenform {
 
-/// The designer window. It opens, edits, runs and saves one form at a time.
+/// The designer window. It opens, edits, runs and saves forms, each in a tab. Without forms it
+/// shows the start page.
 class DesignWindow final : public QMainWindow {
     Q_OBJECT
 
@@ -30,8 +31,9 @@ class DesignWindow final : public QMainWindow {
     struct Setup {
         const ClassTable& classes;
         host::Application& application;
-        host::Interaction& interaction;         ///< for messages without a listener
-        QSettings& settings;                    ///< stored between sessions
+        host::Interaction& interaction;  ///< for messages without a listener
+        QSettings& settings;             ///< stored between sessions
+        QString recovery = {};           ///< a folder for copies of unsaved work; empty for none
         int codePage = forms::guessedCodePage;  ///< of opened forms, unless the user names another
     };
 
@@ -41,74 +43,73 @@ class DesignWindow final : public QMainWindow {
     DesignWindow(const DesignWindow&) = delete;
     DesignWindow& operator=(const DesignWindow&) = delete;
 
-    /// Opens a form in place of the present one, without asking to save. Throws forms::FormError if
-    /// it cannot be read; then nothing changes.
+    /// Opens a form in a new tab, or moves to its tab if it is open. Throws forms::FormError if it
+    /// cannot be read; then nothing changes.
     void Load(const QString& path);
-    /// Also names the code page of the form.
-    void Load(const QString& path, int codePage);
-    /// Reads the file of the form again in this code page. Asks to save changes before.
-    void ReadAgain(int codePage);
     void StartNew();
-    /// Returns false if the form was not saved. The user then knows why or has cancelled.
+    /// Asks whether to open the unsaved work that earlier sessions left because they ended
+    /// unexpectedly, and does so.
+    void OfferAbandonedWork();
+    /// Saves the current form. Returns false if it was not saved. The user then knows why or has
+    /// cancelled.
     bool Save();
-    bool SaveAs();
-    /// Saves to this file, which becomes the file of the form.
+    /// Saves the current form to this file, which becomes its file.
     bool SaveTo(const QString& path, forms::Replacing replacing = forms::Replacing::Known);
-    /// Asks whether to save changes. Returns false if the user cancels.
+    /// Asks for each form whether to save its changes. Returns false if the user cancels.
     bool MayLeave();
-    /// Starts or ends a trial run of the form.
+    /// Starts or ends a trial run of the current form.
     void Run(bool on);
 
     /// Null if no form is open.
-    Workbench* Bench() const { return bench_.get(); }
-    /// Null if the form is not running.
-    RunPage* Running() const { return run_.get(); }
+    FormTab* Current() const;
+    /// The workbench of the current form, or null.
+    Workbench* Bench() const;
+    /// The trial run of the current form, or null.
+    RunPage* Running() const;
+    QTabWidget& Tabs() const { return *tabs_; }
     StartPage& Start() const { return *start_; }
     FormCommands& Commands() const { return *commands_; }
-    const FormFile& File() const { return file_; }
 
  protected:
+    void changeEvent(QEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
     void dragEnterEvent(QDragEnterEvent* event) override;
     void dropEvent(QDropEvent* event) override;
 
  private:
-    void AddFileMenu();
+    void ConnectFiles();
     void AddRunMenu();
     void AddToolBar();
-    void FillRecent();
-    void AddCodePages();
-    void Show(forms::Document document, const FormFile& file);
-    void ShowStart();
-    void Follow(Workbench* bench);
-    void Open(const QString& path, int codePage);
+    FormTab* TabAt(int index) const;
+    FormTab* TabOf(const QString& path) const;
+    void Add(forms::Document document, const FormFile& file);
+    void OpenAgain(const RecoveredWork& work);
+    void Replace(FormTab& tab, forms::Document document);
+    FormTab* NewTab(forms::Document document, const FormFile& file);
+    void Open(const QString& path);
     void ChooseAndOpen();
-    void StartNewUnlessCancelled();
-    void Close();
-    QString FormName() const;
-    void ShowWarnings();
-    void UpdateTitle();
+    void ReadAgain(int codePage);
+    void Close(int index);
+    void Follow();
+    void Remember(const QString& path);
+    void ShowRecent();
+    void Tell(const QString& text);
+    void ShowTitles();
 
     const Setup setup_;
     ControlMessages messages_;
     qt::Context context_;
     RecentFiles recent_;
-    FormFile file_;
     QStackedWidget* pages_;
     StartPage* start_;
+    QTabWidget* tabs_;
+    FileMenu* files_;
     FormCommands* commands_;
     ViewMenu* view_;
     PlaceStatus* status_;
-    QMenu* recentMenu_ = nullptr;
-    QMenu* codePages_ = nullptr;
-    QAction* new_ = nullptr;
-    QAction* open_ = nullptr;
-    QAction* save_ = nullptr;
-    QAction* saveAs_ = nullptr;
-    QAction* close_ = nullptr;
+    QToolBar* bar_ = nullptr;
     QAction* runForm_ = nullptr;
-    std::unique_ptr<Workbench> bench_;
-    std::unique_ptr<RunPage> run_;
+    Workbench* followed_ = nullptr;
 };
 
 }  // namespace lumenkit::lumenform

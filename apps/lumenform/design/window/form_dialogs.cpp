@@ -5,6 +5,7 @@
 #include <QFileInfo>
 #include <QMessageBox>
 #include <QPushButton>
+#include <algorithm>
 
 namespace lumenkit::lumenform {
 
@@ -26,18 +27,27 @@ bool AskWhetherToReplace(QWidget& window, const QString& path) {
 
 }  // namespace
 
-QString AskForFormToOpen(QWidget& window, const QString& folder) {
-    return QFileDialog::getOpenFileName(
-        &window, Translated("Open a form"), folder,
+QStringList AskForFormsToOpen(QWidget& window, const QString& folder) {
+    return QFileDialog::getOpenFileNames(
+        &window, Translated("Open forms"), folder,
         Translated("Forms (*.frm *.ctl *.pag *.dob *.FRM *.CTL *.PAG *.DOB);;All files (*)"));
 }
 
 QString AskForPlaceToSave(QWidget& window, const QString& proposed) {
-    QString path = QFileDialog::getSaveFileName(
-        &window, Translated("Save the form"), proposed,
-        Translated("Forms (*.frm);;Controls (*.ctl);;Property pages (*.pag);;Documents (*.dob)"));
+    // The kind of the form, by its extension, first: a control stays a control.
+    QStringList filters = {Translated("Forms (*.frm *.FRM)"), Translated("Controls (*.ctl *.CTL)"),
+                           Translated("Property pages (*.pag *.PAG)"),
+                           Translated("Documents (*.dob *.DOB)")};
+    QString extension = QFileInfo(proposed).suffix();
+    const qsizetype own = std::max<qsizetype>(
+        QStringLiteral("frm ctl pag dob").split(u' ').indexOf(extension.toLower()), 0);
+    filters.move(own, 0);
+    filters.append(Translated("All files (*)"));
+    QString path = QFileDialog::getSaveFileName(&window, Translated("Save the form"), proposed,
+                                                filters.join(QStringLiteral(";;")));
     if (!path.isEmpty() && QFileInfo(path).suffix().isEmpty()) {
-        path += QStringLiteral(".frm");
+        extension = extension.isEmpty() ? QStringLiteral("frm") : extension;
+        path += u'.' + extension;
         // The dialog asked about the name without the extension.
         if (QFileInfo::exists(path) && !AskWhetherToReplace(window, path)) {
             path.clear();
@@ -62,15 +72,55 @@ SaveAnswer AskWhetherToSave(QWidget& window, const QString& form) {
     }
 }
 
-bool AskWhetherToOverwrite(QWidget& window, const QString& path) {
+ChangeAnswer AskAboutChange(QWidget& window, const QString& path) {
     QMessageBox box(QMessageBox::Warning, Translated("The file was changed"),
                     Translated("Another program has changed %1 since it was opened.").arg(path),
                     QMessageBox::Cancel, &window);
-    box.setInformativeText(Translated("Saving overwrites these changes."));
-    const QPushButton* const replace =
-        box.addButton(Translated("&Replace"), QMessageBox::AcceptRole);
+    box.setInformativeText(
+        Translated("Reload takes the file as it is now; Undo brings your version back. Keep mine "
+                   "replaces the file with your version."));
+    const QPushButton* const reload = box.addButton(Translated("&Reload"), QMessageBox::ActionRole);
+    const QPushButton* const keep =
+        box.addButton(Translated("&Keep mine"), QMessageBox::ActionRole);
+    const QPushButton* const show =
+        box.addButton(Translated("Show the &difference"), QMessageBox::ActionRole);
+    box.setDefaultButton(QMessageBox::Cancel);
     box.exec();
-    return box.clickedButton() == replace;
+    const QAbstractButton* const clicked = box.clickedButton();
+    return clicked == reload ? ChangeAnswer::Reload
+           : clicked == keep ? ChangeAnswer::KeepMine
+           : clicked == show ? ChangeAnswer::ShowDifference
+                             : ChangeAnswer::Cancel;
+}
+
+WorkAnswer AskAboutAbandonedWork(QWidget& window, const QStringList& work) {
+    QMessageBox box(
+        QMessageBox::Question, Translated("Unsaved work"),
+        Translated("lumenform ended before this work was saved:\n%1").arg(work.join(u'\n')),
+        QMessageBox::NoButton, &window);
+    box.setInformativeText(Translated("Open it to look at it and save it."));
+    QPushButton* const open = box.addButton(Translated("&Open"), QMessageBox::AcceptRole);
+    const QPushButton* const discard =
+        box.addButton(Translated("&Discard"), QMessageBox::DestructiveRole);
+    QPushButton* const later = box.addButton(Translated("&Later"), QMessageBox::RejectRole);
+    box.setDefaultButton(open);
+    box.setEscapeButton(later);
+    box.exec();
+    return box.clickedButton() == open      ? WorkAnswer::Open
+           : box.clickedButton() == discard ? WorkAnswer::Discard
+                                            : WorkAnswer::Later;
+}
+
+bool OffersSaveAs(QWidget& window, const QString& why) {
+    QMessageBox box(QMessageBox::Warning, QCoreApplication::applicationName(),
+                    Translated("The form was not saved."), QMessageBox::Close, &window);
+    box.setInformativeText(why);
+    box.setTextInteractionFlags(Qt::TextSelectableByMouse);
+    QPushButton* const saveAs = box.addButton(Translated("Save &as…"), QMessageBox::AcceptRole);
+    box.setDefaultButton(saveAs);
+    box.setEscapeButton(QMessageBox::Close);
+    box.exec();
+    return box.clickedButton() == saveAs;
 }
 
 void Warn(QWidget& window, const QString& heading, const QString& why) {

@@ -12,6 +12,12 @@ bool FormFile::WasChangedByOthers(const FormDesign& design) const {
     return HasPath() && forms::IsChangedOnDisk(design.Document(), PathOf(path_));
 }
 
+void FormFile::AcceptChangesByOthers(const FormDesign& design) const {
+    if (HasPath()) {
+        forms::AcceptChangesOnDisk(design.Document(), PathOf(path_));
+    }
+}
+
 void FormFile::Save(FormDesign& design, forms::Replacing replacing) {
     forms::Save(design.Document(), PathOf(path_), replacing);
     design.History().setClean();

@@ -23,6 +23,9 @@ class FormFile {
     /// False if it no longer exists.
     bool WasChangedByOthers(const FormDesign& design) const;
 
+    /// Lets the next save replace what another program has written.
+    void AcceptChangesByOthers(const FormDesign& design) const;
+
     /// Save writes the design to its file. SaveAs writes it to another file, which becomes its
     /// file. Both throw forms::FormError as forms::Save does; then the design and its files are
     /// unchanged.

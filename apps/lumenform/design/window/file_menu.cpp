@@ -1,0 +1,68 @@
+#include "apps/lumenform/design/window/file_menu.h"
+
+#include <QStyle>
+
+#include "forms/known_code_pages.h"
+
+namespace lumenkit::lumenform {
+
+FileMenu::FileMenu(QWidget* parent) : QMenu(tr("&File"), parent) {
+    const auto icon = [this](QStyle::StandardPixmap pixmap) {
+        return style()->standardIcon(pixmap);
+    };
+    new_ = Add(tr("&New"), QKeySequence::New, &FileMenu::NewWanted);
+    new_->setIcon(icon(QStyle::SP_FileIcon));
+    open_ = Add(tr("&Open…"), QKeySequence::Open, &FileMenu::OpenWanted);
+    open_->setIcon(icon(QStyle::SP_DialogOpenButton));
+    recent_ = addMenu(tr("Open &recent"));
+    codePages_ = addMenu(tr("Read in code &page"));
+    AddCodePages();
+    addSeparator();
+    save_ = Add(tr("&Save"), QKeySequence::Save, &FileMenu::SaveWanted);
+    save_->setIcon(icon(QStyle::SP_DialogSaveButton));
+    saveAs_ = Add(tr("Save &as…"), Qt::CTRL | Qt::SHIFT | Qt::Key_S, &FileMenu::SaveAsWanted);
+    addSeparator();
+    close_ = Add(tr("&Close the form"), QKeySequence::Close, &FileMenu::CloseWanted);
+    Add(tr("&Quit"), Qt::CTRL | Qt::Key_Q, &FileMenu::QuitWanted);
+}
+
+QAction* FileMenu::Add(const QString& title, const QKeySequence& keys, void (FileMenu::*wanted)()) {
+    QAction* const action = addAction(title, this, wanted);
+    action->setShortcut(keys);
+    return action;
+}
+
+void FileMenu::AddCodePages() {
+    for (const forms::KnownCodePage& page : forms::KnownCodePages()) {
+        const int number = page.number;
+        QAction* const action =
+            codePages_->addAction(tr("%1  %2").arg(number).arg(QString::fromLatin1(page.title)),
+                                  this, [this, number] { Q_EMIT CodePageWanted(number); });
+        action->setCheckable(true);
+        action->setData(number);
+    }
+}
+
+void FileMenu::ShowRecent(const QStringList& paths) {
+    recent_->clear();
+    for (const QString& path : paths) {
+        QString shown = path;
+        recent_->addAction(shown.replace(u'&', QStringLiteral("&&")), this,
+                           [this, path] { Q_EMIT RecentWanted(path); });
+    }
+    recent_->addSeparator();
+    recent_->addAction(tr("&Clear the list"), this, &FileMenu::RecentCleared);
+    recent_->setEnabled(!paths.isEmpty());
+}
+
+void FileMenu::Show(const State& state) {
+    save_->setEnabled(state.canSave);
+    saveAs_->setEnabled(state.canSave);
+    close_->setEnabled(state.isOpen);
+    codePages_->setEnabled(state.canReadAgain);
+    for (QAction* const action : codePages_->actions()) {
+        action->setChecked(state.isOpen && action->data().toInt() == state.codePage);
+    }
+}
+
+}  // namespace lumenkit::lumenform

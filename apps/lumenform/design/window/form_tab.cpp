@@ -1,0 +1,211 @@
+#include "apps/lumenform/design/window/form_tab.h"
+
+#include <QFileInfo>
+#include <QVBoxLayout>
+
+#include "apps/lumenform/design/window/difference_dialog.h"
+#include "apps/lumenform/design/window/form_dialogs.h"
+#include "forms/file.h"
+#include "forms/form_error.h"
+#include "runtime/qt/qt_text.h"
+
+namespace lumenkit::lumenform {
+
+FormTab::FormTab(const Setup& setup, forms::Document document, FormFile file, QWidget* parent)
+    : QWidget(parent),
+      setup_(setup),
+      file_(std::move(file)),
+      copy_(setup.recovery),
+      keeping_(new QTimer(this)),
+      bar_(new ChangedBar),
+      pages_(new QStackedWidget),
+      bench_(std::make_unique<Workbench>(setup.context, setup.messages, std::move(document))) {
+    auto* const column = new QVBoxLayout(this);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(0);
+    column->addWidget(bar_);
+    column->addWidget(pages_, 1);
+    pages_->addWidget(bench_.get());
+    connect(bar_, &ChangedBar::ReloadWanted, this, &FormTab::Reload);
+    connect(bar_, &ChangedBar::KeepMineWanted, this, &FormTab::KeepMine);
+    connect(bar_, &ChangedBar::DifferenceWanted, this, &FormTab::Compare);
+    constexpr int pause = 2000;  // milliseconds
+    keeping_->setSingleShot(true);
+    keeping_->setInterval(pause);
+    connect(keeping_, &QTimer::timeout, this, &FormTab::KeepCopy);
+    FormDesign& design = bench_->GetDesign();
+    connect(&design.History(), &QUndoStack::cleanChanged, this, &FormTab::FollowChanges);
+    connect(&design, &FormDesign::Edited, this, &FormTab::FollowChanges);
+    connect(bench_.get(), &Workbench::Refused, this, &FormTab::Told);
+    connect(&bench_->GetCanvas(), &Canvas::MenuRequested, this, &FormTab::MenuRequested);
+}
+
+FormTab::~FormTab() = default;
+
+QString FormTab::Name() const {
+    return file_.HasPath() ? QFileInfo(file_.Path()).fileName()
+                           : qt::ToQString(bench_->GetDesign().Document().Root().Name()) +
+                                 QStringLiteral(".frm");
+}
+
+bool FormTab::IsChanged() const {
+    return !bench_->GetDesign().History().isClean();
+}
+
+void FormTab::FollowChanges() {
+    if (!IsChanged()) {
+        keeping_->stop();
+        copy_.Remove();
+    } else if (!keeping_->isActive()) {
+        keeping_->start();
+    }
+    Q_EMIT StateChanged();
+}
+
+void FormTab::KeepCopy() {
+    keeping_->stop();
+    if (IsChanged() && !copy_.Write(bench_->GetDesign().Document(), file_.Path()) &&
+        !setup_.recovery.isEmpty()) {
+        Q_EMIT Told(tr("No copy of the unsaved changes can be kept in %1").arg(setup_.recovery));
+    }
+}
+
+bool FormTab::Save() {
+    if (!bench_->FinishEditing()) {
+        return false;
+    }
+    if (!file_.HasPath()) {
+        return SaveAs();
+    }
+    if (!file_.WasChangedByOthers(bench_->GetDesign())) {
+        return SaveTo(file_.Path());
+    }
+    for (;;) {
+        switch (AskAboutChange(*this, file_.Path())) {
+            case ChangeAnswer::Reload:
+                Reload();
+                return false;
+            case ChangeAnswer::KeepMine:
+                KeepMine();
+                return SaveTo(file_.Path());
+            case ChangeAnswer::ShowDifference:
+                Compare();
+                break;
+            case ChangeAnswer::Cancel:
+                return false;
+        }
+    }
+}
+
+bool FormTab::SaveAs() {
+    if (!bench_->FinishEditing()) {
+        return false;
+    }
+    const QString proposed = file_.HasPath() ? file_.Path() : Name();
+    const QString path = AskForPlaceToSave(*this, proposed);
+    if (path == file_.Path() && !path.isEmpty()) {
+        return Save();  // asks again if another program has changed the file
+    }
+    // The dialog has asked about a file that is there already.
+    return !path.isEmpty() && SaveTo(path, QFileInfo::exists(path) ? forms::Replacing::Confirmed
+                                                                   : forms::Replacing::Known);
+}
+
+bool FormTab::SaveTo(const QString& path, forms::Replacing replacing) {
+    if (setup_.refusesName && setup_.refusesName(*this, path)) {
+        const QString why = tr("%1 is open in another tab.").arg(QFileInfo(path).fileName());
+        return OffersSaveAs(*this, why) && SaveAs();
+    }
+    try {
+        file_.SaveAs(bench_->GetDesign(), path, replacing);
+    } catch (const forms::FormError& error) {
+        return OffersSaveAs(*this, QString::fromUtf8(error.what())) && SaveAs();
+    }
+    bar_->hide();
+    Q_EMIT Saved(path);
+    Q_EMIT StateChanged();
+    Q_EMIT Told(tr("Saved %1").arg(path));
+    return true;
+}
+
+bool FormTab::MayLeave() {
+    if (!bench_->FinishEditing()) {
+        return false;
+    }
+    if (!IsChanged()) {
+        return true;
+    }
+    switch (AskWhetherToSave(*this, Name())) {
+        case SaveAnswer::Save:
+            return Save();
+        case SaveAnswer::Discard:
+            return true;
+        case SaveAnswer::Cancel:
+            break;
+    }
+    return false;
+}
+
+void FormTab::Run(bool on) {
+    if (on && run_ == nullptr && bench_->FinishEditing()) {
+        bench_->Try([this] {
+            run_ = std::make_unique<RunPage>(setup_.context, bench_->GetDesign().Document());
+        });
+        if (run_ != nullptr) {
+            connect(
+                run_.get(), &RunPage::BackWanted, this, [this] { Run(false); },
+                Qt::QueuedConnection);
+            pages_->addWidget(run_.get());
+            pages_->setCurrentWidget(run_.get());
+            run_->View().FocusFirst();
+        }
+    } else if (!on && run_ != nullptr) {
+        run_.reset();
+        pages_->setCurrentWidget(bench_.get());
+        TakeFocus();
+    }
+    Q_EMIT StateChanged();
+}
+
+void FormTab::LookAtDisk() {
+    if (file_.WasChangedByOthers(bench_->GetDesign())) {
+        bar_->Show(Name());
+    } else {
+        bar_->hide();
+    }
+}
+
+void FormTab::Reload() {
+    FormDesign& design = bench_->GetDesign();
+    try {
+        design.Reload(forms::Load(PathOf(file_.Path()), design.Document().FormCodePage()));
+    } catch (const forms::FormError& error) {
+        Warn(*this, tr("%1 cannot be opened.").arg(Name()), QString::fromUtf8(error.what()));
+        return;
+    }
+    bar_->hide();
+    Q_EMIT Told(tr("Read again. Undo brings your version back."));
+}
+
+void FormTab::KeepMine() {
+    FormDesign& design = bench_->GetDesign();
+    file_.AcceptChangesByOthers(design);
+    design.History().resetClean();  // the file is not this version
+    bar_->hide();
+}
+
+void FormTab::Compare() {
+    try {
+        ShowDifference(*this, bench_->GetDesign().Document(), file_.Path());
+    } catch (const forms::FormError& error) {
+        Warn(*this, tr("%1 cannot be opened.").arg(Name()), QString::fromUtf8(error.what()));
+    }
+}
+
+void FormTab::TakeFocus() {
+    if (run_ == nullptr) {
+        bench_->GetCanvas().GetGlass().setFocus();
+    }
+}
+
+}  // namespace lumenkit::lumenform

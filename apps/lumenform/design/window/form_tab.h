@@ -1,0 +1,93 @@
+#pragma once
+
+#include <QStackedWidget>
+#include <QString>
+#include <QTimer>
+#include <functional>
+#include <memory>
+
+#include "apps/lumenform/design/properties/control_messages.h"
+#include "apps/lumenform/design/recovery/recovery_store.h"
+#include "apps/lumenform/design/window/changed_bar.h"
+#include "apps/lumenform/design/window/form_file.h"
+#include "apps/lumenform/design/window/run_page.h"
+#include "apps/lumenform/design/window/workbench.h"
+#include "forms/document.h"
+#include "runtime/qt/context.h"
+
+namespace lumenkit::lumenform {
+
+/// One open form: its workbench, its file and its trial run.
+class FormTab final : public QWidget {
+    Q_OBJECT
+
+ public:
+    struct Setup {
+        const qt::Context& context;
+        ControlMessages& messages;  ///< the interaction of the context
+        /// Saving under a name for which this returns true, such as that of a form in another tab,
+        /// fails with a message.
+        std::function<bool(const FormTab& tab, const QString& path)> refusesName;
+        QString recovery;  ///< the store of copies of unsaved work; empty for none
+    };
+
+    /// Throws FormError as FormDesign does. The objects that `setup` refers to must outlive the
+    /// tab.
+    FormTab(const Setup& setup, forms::Document document, FormFile file = {},
+            QWidget* parent = nullptr);
+    ~FormTab() override;
+    FormTab(const FormTab&) = delete;
+    FormTab& operator=(const FormTab&) = delete;
+
+    Workbench& Bench() const { return *bench_; }
+    /// Null if the form is not running.
+    RunPage* Running() const { return run_.get(); }
+    const FormFile& File() const { return file_; }
+    /// The file name without the folder. A new form has the name that would be proposed for it.
+    QString Name() const;
+    /// Whether there are unsaved changes.
+    bool IsChanged() const;
+
+    /// Returns false if the form was not saved. The user then knows why or has cancelled.
+    bool Save();
+    bool SaveAs();
+    /// Saves to this file, which becomes the file of the form.
+    bool SaveTo(const QString& path, forms::Replacing replacing = forms::Replacing::Known);
+    /// Asks whether to save changes. Returns false if the user cancels.
+    bool MayLeave();
+    /// Starts or ends a trial run of the form.
+    void Run(bool on);
+    /// Moves the keyboard to the form.
+    void TakeFocus();
+    /// Keeps a copy of unsaved work now, and not only after a moment.
+    void KeepCopy();
+    /// Asks what to do if another program has changed the file: shows a line above the form.
+    void LookAtDisk();
+    ChangedBar& Bar() const { return *bar_; }
+
+ Q_SIGNALS:
+    /// The name, the unsaved changes or the trial run changed.
+    void StateChanged();
+    /// An action was done or failed, in a sentence for the status bar.
+    void Told(const QString& text);
+    void Saved(const QString& path);
+    /// Requests the menu of the selection at this place of the screen.
+    void MenuRequested(QPoint where);
+
+ private:
+    void Reload();
+    void KeepMine();
+    void Compare();
+    void FollowChanges();
+
+    const Setup setup_;
+    FormFile file_;
+    RecoveryCopy copy_;
+    QTimer* keeping_;
+    ChangedBar* bar_;
+    QStackedWidget* pages_;
+    std::unique_ptr<Workbench> bench_;
+    std::unique_ptr<RunPage> run_;
+};
+
+}  // namespace lumenkit::lumenform
