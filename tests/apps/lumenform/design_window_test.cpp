@@ -25,6 +25,7 @@
 #include "runtime/qt/element.h"
 #include "tests/apps/lumenform/answer.h"
 #include "tests/apps/lumenform/loaded_view.h"
+#include "tests/apps/lumenform/opened_window.h"
 #include "tests/support/file_bytes.h"
 #include "tests/support/qt_keys.h"
 #include "tests/support/qt_windows.h"
@@ -37,54 +38,7 @@ using ::testing::ElementsAre;
 using ::testing::HasSubstr;
 using ::testing::Not;
 
-class DesignWindowTest : public ::testing::Test {
- protected:
-    DesignWindowTest()
-        : settings(Path("settings.ini"), QSettings::IniFormat),
-          window({.classes = lumenkitClasses,
-                  .application = surface.application,
-                  .interaction = surface.interaction,
-                  .settings = settings}) {
-        ShowActive(window);
-    }
-
-    QString Path(const QString& name) const { return folder.filePath(name); }
-    fs::path File(const QString& name) const { return lumenform::PathOf(Path(name)); }
-    // Copies a sample and its companion. Returns the path of the copy.
-    QString Copy(const std::string& name) {
-        for (const fs::path& source :
-             {sampleForms / (name + ".frm"), sampleForms / (name + ".frx")}) {
-            if (fs::exists(source)) {
-                fs::copy_file(source, File(QString::fromStdString(source.filename().string())),
-                              fs::copy_options::overwrite_existing);
-            }
-        }
-        return Path(QString::fromStdString(name + ".frm"));
-    }
-    lumenform::FormDesign& Design() const { return window.Bench()->GetDesign(); }
-    std::string Text() const { return Design().Document().Write().form; }
-    void Select(TextView name) const { Design().SelectNamed({lumenkit::Text(name)}); }
-    void Nudge() { QTest::keyClick(&window.Bench()->GetCanvas().GetGlass(), Qt::Key_Right); }
-    void TypeInto(TextView property, const char* text) const {
-        ASSERT_TRUE(window.Bench()->Properties().Edit(property));
-        QTest::keyClick(QApplication::focusWidget(), Qt::Key_A, Qt::ControlModifier);
-        QTest::keyClicks(QApplication::focusWidget(), QLatin1String(text));
-    }
-    // Returns a command of any menu by its title.
-    QAction& Command(const QString& title) const {
-        for (QAction* action : window.findChildren<QAction*>()) {
-            if (action->text().remove(u'&') == title) {
-                return *action;
-            }
-        }
-        throw std::out_of_range("no command " + title.toStdString());
-    }
-
-    QTemporaryDir folder;
-    Surface surface;
-    QSettings settings;
-    lumenform::DesignWindow window;
-};
+class DesignWindowTest : public OpenedWindow {};
 
 TEST_F(DesignWindowTest, BeginsWithWhatCanBeDone) {
     EXPECT_TRUE(window.Start().isVisible());
@@ -214,6 +168,7 @@ TEST_F(DesignWindowTest, SavingUnderAnotherNameLeavesTheFirstAlone) {
     EXPECT_EQ(FileBytes(File(QStringLiteral("memo.frx"))), companion);
     EXPECT_THAT(FileBytes(File(QStringLiteral("other.frm"))), HasSubstr("$\"other.frx\""));
     EXPECT_EQ(window.windowTitle(), QStringLiteral("other.frm[*] – lumenform"));
+    Command(QStringLiteral("Close the form")).trigger();
     window.Load(Path(QStringLiteral("other.frm")));
     EXPECT_EQ(std::get<lumenkit::Text>(
                   Design().View().Find(u"VMemo1")->Hosted()->Automation().Get(u"Text")),
@@ -224,7 +179,7 @@ TEST_F(DesignWindowTest, SavingUnderAnotherNameReplacesNoCompanionOfOthers) {
     window.Load(Copy("memo"));
     std::ofstream(File(QStringLiteral("other.frx"))) << "somebody else's";
     const std::string text = Text();
-    Answer answer(QStringLiteral("OK"));
+    Answer answer(QStringLiteral("Close"));
     EXPECT_FALSE(window.SaveTo(Path(QStringLiteral("other.frm")), forms::Replacing::Confirmed));
     EXPECT_THAT(answer.said, HasSubstr("other.frx"));
     EXPECT_THAT(answer.said, HasSubstr("it is not replaced"));
@@ -239,7 +194,7 @@ TEST_F(DesignWindowTest, AFailedSaveKeepsTheNameOfTheCompanion) {
     fs::copy_file(sampleForms / "memo.frx", File(QStringLiteral("memo.frx")));
     window.Load(Path(QStringLiteral("copy.frm")));
     const std::string text = Text();
-    const Answer answer(QStringLiteral("OK"));
+    const Answer answer(QStringLiteral("Close"));
     EXPECT_FALSE(window.SaveTo(Path(QStringLiteral("no/such/folder/x.frm"))));
     EXPECT_EQ(Text(), text);
     EXPECT_TRUE(window.Save());
@@ -253,6 +208,7 @@ TEST_F(DesignWindowTest, AConfirmedSaveReplacesAFormWithItsCompanion) {
     EXPECT_TRUE(window.SaveTo(Path(QStringLiteral("memo.frm")), forms::Replacing::Confirmed));
     EXPECT_EQ(FileBytes(File(QStringLiteral("memo.frm"))), Text());
     window.Load(Path(QStringLiteral("memo.frm")));
+    Command(QStringLiteral("Close the form")).trigger();
     Copy("memo");
     window.Load(Copy("options"));
     Select(u"VOptList1");
@@ -276,7 +232,7 @@ TEST_F(DesignWindowTest, AReadOnlyFormIsNotReplaced) {
     Nudge();
     const std::string before = FileBytes(File(QStringLiteral("label.frm")));
     fs::permissions(File(QStringLiteral("label.frm")), fs::perms::owner_read);
-    Answer answer(QStringLiteral("OK"));
+    Answer answer(QStringLiteral("Close"));
     EXPECT_FALSE(window.Save());
     EXPECT_THAT(answer.said, HasSubstr("label.frm: is read-only"));
     EXPECT_EQ(FileBytes(File(QStringLiteral("label.frm"))), before);
@@ -289,7 +245,7 @@ TEST_F(DesignWindowTest, AFailedSaveSaysSoAndLosesNothing) {
     Select(u"VLabel1");
     Nudge();
     const std::string text = Text();
-    Answer answer(QStringLiteral("OK"));
+    Answer answer(QStringLiteral("Close"));
     EXPECT_FALSE(window.SaveTo(Path(QStringLiteral("no/such/folder/x.frm"))));
     EXPECT_THAT(answer.said, HasSubstr("not saved"));
     EXPECT_THAT(answer.said, HasSubstr("no/such/folder/x.frm"));
@@ -376,7 +332,7 @@ TEST_F(DesignWindowTest, AsksBeforeItReplacesWhatOthersWrote) {
     }
     EXPECT_EQ(FileBytes(File(QStringLiteral("label.frm"))), theirs);
     {
-        const Answer answer(QStringLiteral("Replace"));
+        const Answer answer(QStringLiteral("Keep mine"));
         EXPECT_TRUE(window.Save());
     }
     EXPECT_EQ(FileBytes(File(QStringLiteral("label.frm"))), Text());

@@ -97,6 +97,7 @@ DesignWindow::DesignWindow(const Setup& setup)
 // Destroys the forms before what they use.
 DesignWindow::~DesignWindow() {
     tabs_->disconnect(this);
+    FollowBench(nullptr);
     while (tabs_->count() > 0) {
         delete tabs_->widget(0);
     }
@@ -369,11 +370,8 @@ void DesignWindow::Follow() {
     menuBar()->setVisible(!isRunning);
     bar_->setVisible(!isRunning);
     Workbench* const bench = isRunning ? nullptr : Bench();
-    if (bench != followed_ || bench == nullptr) {
-        followed_ = bench;
-        commands_->Follow(bench);
-        status_->Follow(bench);
-        view_->Follow(bench == nullptr ? nullptr : &bench->GetCanvas());
+    if (bench != followed_) {
+        FollowBench(bench);
     }
     files_->Show({.isOpen = tab != nullptr,
                   .canSave = bench != nullptr,
@@ -382,6 +380,13 @@ void DesignWindow::Follow() {
     runForm_->setEnabled(tab != nullptr);
     runForm_->setChecked(isRunning);
     ShowTitles();
+}
+
+void DesignWindow::FollowBench(Workbench* bench) {
+    followed_ = bench;
+    commands_->Follow(bench);
+    status_->Follow(bench);
+    view_->Follow(bench == nullptr ? nullptr : &bench->GetCanvas());
 }
 
 void DesignWindow::ShowTitles() {

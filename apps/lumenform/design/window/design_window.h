@@ -91,6 +91,7 @@ class DesignWindow final : public QMainWindow {
     void ReadAgain(int codePage);
     void Close(int index);
     void Follow();
+    void FollowBench(Workbench* bench);
     void Remember(const QString& path);
     void ShowRecent();
     void Tell(const QString& text);

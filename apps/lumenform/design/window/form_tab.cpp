@@ -40,7 +40,11 @@ FormTab::FormTab(const Setup& setup, forms::Document document, FormFile file, QW
     connect(&bench_->GetCanvas(), &Canvas::MenuRequested, this, &FormTab::MenuRequested);
 }
 
-FormTab::~FormTab() = default;
+// Destroying the history emits signals.
+FormTab::~FormTab() {
+    bench_->GetDesign().History().disconnect(this);
+    bench_->GetDesign().disconnect(this);
+}
 
 QString FormTab::Name() const {
     return file_.HasPath() ? QFileInfo(file_.Path()).fileName()

@@ -1,0 +1,147 @@
+// Unsaved work after the designer ended unexpectedly.
+#include "apps/lumenform/design/recovery/recovery_store.h"
+
+#include <QDir>
+#include <QFile>
+#include <fstream>
+
+#include <gmock/gmock.h>
+
+#include "tests/apps/lumenform/answer.h"
+#include "tests/apps/lumenform/opened_window.h"
+#include "tests/support/file_bytes.h"
+
+namespace lumenkit::testing {
+namespace {
+
+using ::testing::HasSubstr;
+
+class Recovery : public OpenedWindow {
+ protected:
+    QString Store() const { return Path(QStringLiteral("recovery")); }
+    QStringList Copies() const {
+        return QDir(Store()).entryList(QDir::Dirs | QDir::NoDotAndDotDot);
+    }
+    // Leaves the present copy behind, as a program does that is killed: the lock is gone.
+    void Kill() const {
+        for (const QString& name : Copies()) {
+            const QString left = Store() + QStringLiteral("/left-") + name;
+            ASSERT_TRUE(QDir().mkdir(left));
+            ASSERT_TRUE(QFile::copy(Store() + u'/' + name + QStringLiteral("/work"),
+                                    left + QStringLiteral("/work")));
+        }
+    }
+    void Change() const {
+        Select(u"VMemo1");
+        Nudge();
+        window.Current()->KeepCopy();
+    }
+};
+
+TEST_F(Recovery, UnsavedWorkHasACopyUntilItIsSaved) {
+    window.Load(Copy("memo"));
+    EXPECT_THAT(Copies().size(), 0);
+    Change();
+    EXPECT_THAT(Copies().size(), 1);
+    EXPECT_TRUE(lumenform::AbandonedWork(Store()).empty()) << "this program has it";
+    Nudge();
+    window.Current()->KeepCopy();
+    EXPECT_THAT(Copies().size(), 1);
+    EXPECT_TRUE(window.Save());
+    EXPECT_THAT(Copies().size(), 0);
+    Change();
+    Design().History().undo();
+    EXPECT_THAT(Copies().size(), 0);
+    Change();
+    const Answer answer(QStringLiteral("Discard"));
+    Command(QStringLiteral("Close the form")).trigger();
+    EXPECT_THAT(Copies().size(), 0);
+}
+
+TEST_F(Recovery, ACopyFollowsAMomentAfterAChange) {
+    window.Load(Copy("memo"));
+    Select(u"VMemo1");
+    Nudge();
+    EXPECT_THAT(Copies().size(), 0);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return Copies().size() == 1; }, 10000));
+}
+
+TEST_F(Recovery, WorkLeftBehindIsOpenedAsAChangeToItsFile) {
+    window.Load(Copy("memo"));
+    const std::string before = Text();
+    Change();
+    const std::string changed = Text();
+    Kill();
+    {
+        const Answer discard(QStringLiteral("Discard"));
+        Command(QStringLiteral("Close the form")).trigger();
+    }
+    Answer answer(QStringLiteral("Open"));
+    window.OfferAbandonedWork();
+    EXPECT_THAT(answer.said, HasSubstr("memo.frm, changed "));
+    EXPECT_EQ(Text(), changed);
+    EXPECT_TRUE(window.isWindowModified());
+    EXPECT_THAT(Copies().size(), 1) << "it is this program's now";
+    window.Commands().UndoAction().trigger();
+    EXPECT_EQ(Text(), before);
+    window.Commands().RedoAction().trigger();
+    EXPECT_TRUE(window.Save());
+    EXPECT_EQ(FileBytes(File(QStringLiteral("memo.frm"))), changed);
+    EXPECT_THAT(Copies().size(), 0);
+}
+
+TEST_F(Recovery, WorkOnAFileThatIsGoneIsANewForm) {
+    const QString path = Copy("memo");
+    window.Load(path);
+    Change();
+    const forms::FormBytes changed = Design().Document().Write();
+    Kill();
+    {
+        const Answer discard(QStringLiteral("Discard"));
+        Command(QStringLiteral("Close the form")).trigger();
+    }
+    ASSERT_TRUE(QFile::remove(path));
+    const Answer answer(QStringLiteral("Open"));
+    window.OfferAbandonedWork();
+    ASSERT_NE(window.Bench(), nullptr);
+    EXPECT_EQ(Text(), changed.form);
+    EXPECT_EQ(Design().Document().Write().companion, changed.companion);
+    EXPECT_TRUE(window.isWindowModified());
+    EXPECT_FALSE(window.Current()->File().HasPath());
+}
+
+TEST_F(Recovery, LaterKeepsTheWorkAndDiscardRemovesIt) {
+    window.StartNew();
+    Design().Edit(QStringLiteral("Caption"), [&] {});
+    Command(QStringLiteral("Select all")).trigger();
+    TypeInto(u"Caption", "typed\r");
+    window.Current()->KeepCopy();
+    Kill();
+    {
+        const Answer discard(QStringLiteral("Discard"));
+        Command(QStringLiteral("Close the form")).trigger();
+    }
+    {
+        const Answer later(QStringLiteral("Later"));
+        window.OfferAbandonedWork();
+    }
+    EXPECT_EQ(window.Bench(), nullptr);
+    ASSERT_EQ(lumenform::AbandonedWork(Store()).size(), 1U);
+    EXPECT_THAT(lumenform::AbandonedWork(Store()).front().Bytes().form, HasSubstr("typed"));
+    const Answer discard(QStringLiteral("Discard"));
+    window.OfferAbandonedWork();
+    EXPECT_TRUE(lumenform::AbandonedWork(Store()).empty());
+    EXPECT_THAT(Copies().size(), 0);
+}
+
+TEST_F(Recovery, DamagedWorkStaysAndIsNotOffered) {
+    const QString folder = Store() + QStringLiteral("/damaged");
+    ASSERT_TRUE(QDir().mkpath(folder));
+    std::ofstream(lumenform::PathOf(folder + QStringLiteral("/work")))
+        << "lumenform-recovery-1 999999 1252 x x x\nVERSION";
+    EXPECT_TRUE(lumenform::AbandonedWork(Store()).empty());
+    EXPECT_TRUE(QFile::exists(folder + QStringLiteral("/work")));
+}
+
+}  // namespace
+}  // namespace lumenkit::testing
