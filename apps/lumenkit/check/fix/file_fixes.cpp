@@ -91,7 +91,7 @@ Findings FormFixer::FixOnce() {
     return fixed;
 }
 
-Findings FormFixer::FixSlot(const Slot& slot, const Findings& findings) const {
+Findings FormFixer::FixSlot(Slot& slot, const Findings& findings) const {
     Findings fixed = FixCaption(slot, findings);
     for (const Finding& finding : findings) {
         if (fixed.empty() && FixProperty(slot, finding)) {
@@ -111,7 +111,7 @@ Findings FormFixer::FixCaption(const Slot& slot, const Findings& findings) const
     return CaptionFixer(caption, options_.scope).Fix(findings);
 }
 
-bool FormFixer::FixProperty(const Slot& slot, const Finding& finding) const {
+bool FormFixer::FixProperty(Slot& slot, const Finding& finding) const {
     const RuleMending* const rule = FindMending(finding.rule);
     if (rule->ofProperty == nullptr) {
         return false;
@@ -136,6 +136,7 @@ bool FormFixer::FixProperty(const Slot& slot, const Finding& finding) const {
         return other.rule == finding.rule && other.place.line == finding.place.line;
     });
     if (isGone && IsNoWorse(findings, after, inFindings) && drawn() == drawnBefore) {
+        slot.first.Rename(slot.property->Name());
         return true;
     }
     slot.block->Replace(*slot.property, std::move(before));

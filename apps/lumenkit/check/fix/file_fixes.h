@@ -22,7 +22,7 @@ using FindingFilter = std::function<Findings(Findings)>;
 
 struct FixOptions {
     FixScope scope = FixScope::Safe;
-    FindingFilter select;
+    FindingFilter select = [](Findings all) { return all; };
 };
 
 /// A text in the companion before and after its mending.
@@ -52,15 +52,15 @@ class FormFixer {
         forms::Block* block;
         const ClassDescriptor* type;
         forms::Property* property;
-        forms::Property first;
+        forms::Property first;  // as it was read, but with its present name
     };
 
     void AddSlots(forms::Block& block);
     Findings Check() const;
     Findings FixOnce();
-    Findings FixSlot(const Slot& slot, const Findings& findings) const;
+    Findings FixSlot(Slot& slot, const Findings& findings) const;
     Findings FixCaption(const Slot& slot, const Findings& findings) const;
-    bool FixProperty(const Slot& slot, const Finding& finding) const;
+    bool FixProperty(Slot& slot, const Finding& finding) const;
 
     const forms::Document& document_;
     const ClassTable& classes_;

@@ -10,6 +10,11 @@ namespace lumenkit::check {
 
 namespace {
 
+// Whether the control reports an error to its user, with the measures of the check.
+bool IsReported(const Finding& finding) {
+    return SeverityOf(finding) == Severity::Error || finding.rule == rules::drawingOverflow.name;
+}
+
 struct Account {
     explicit Account(const Findings& findings, const std::vector<std::string>& mended) {
         for (const Finding& finding : findings) {
@@ -17,7 +22,7 @@ struct Account {
                 others.emplace_back(finding.rule, finding.property, finding.message);
             } else {
                 ++all;
-                errors += SeverityOf(finding) == Severity::Error ? 1 : 0;
+                errors += IsReported(finding) ? 1 : 0;
             }
         }
         std::ranges::sort(others);
