@@ -34,8 +34,7 @@ Findings CaptionFixer::Fix(const Findings& findings) {
 }
 
 CaptionFixer::State CaptionFixer::Look() const {
-    return {holder_.Get(), holder_.Check(),
-            scope_ == FixScope::Safe ? std::optional(holder_.Drawn()) : std::nullopt};
+    return {holder_.Get(), holder_.Check(), holder_.Drawn()};
 }
 
 std::optional<CaptionFixer::Attempt> CaptionFixer::AttemptFor(const Finding& finding,
@@ -116,7 +115,7 @@ bool CaptionFixer::Try(const Attempts& attempts) {
 // A finding is gone if its rule has fewer findings, or if the rule finds nothing at its place.
 bool CaptionFixer::IsAccepted(const Attempts& attempts, const TextEdits& edits,
                               const State& after) const {
-    if (after.drawn != now_.drawn ||
+    if (!IsNoWorse(now_.drawn, after.drawn, scope_ == FixScope::Safe) ||
         !IsNoWorse(now_.findings, after.findings, {holder_.Property()})) {
         return false;
     }

@@ -6,6 +6,7 @@
 #include "apps/lumenkit/check/caption_outline.h"
 #include "apps/lumenkit/check/finding.h"
 #include "apps/lumenkit/check/fix/caption_holder.h"
+#include "apps/lumenkit/check/fix/drawn_control.h"
 #include "apps/lumenkit/check/fix/mending.h"
 #include "frame/text.h"
 
@@ -37,7 +38,7 @@ class CaptionFixer {
     struct State {
         Text caption;
         Findings findings;
-        std::optional<Text> drawn;  // only if it must stay the same
+        DrawnControl drawn;
     };
 
     State Look() const;

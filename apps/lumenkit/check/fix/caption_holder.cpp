@@ -5,7 +5,6 @@
 #include <variant>
 
 #include "apps/lumenkit/check/file_checks.h"
-#include "apps/lumenkit/check/fix/drawn_control.h"
 #include "forms/literal.h"
 #include "frame/utf8.h"
 
@@ -64,8 +63,8 @@ Findings SavedCaption::Check() const {
     return CheckOneControl(document_, block_, type_);
 }
 
-Text SavedCaption::Drawn() const {
-    return DrawnControl(document_, block_, type_, {Text(captionName)});
+DrawnControl SavedCaption::Drawn() const {
+    return Draw(document_, block_, type_, {Text(captionName)});
 }
 
 LooseCaption::LooseCaption(TextView caption, const ClassTable& classes)
@@ -87,10 +86,10 @@ Findings LooseCaption::Check() const {
     return CheckOneControl(document_, *labels_.front(), type_);
 }
 
-Text LooseCaption::Drawn() const {
-    Text drawn;
+DrawnControl LooseCaption::Drawn() const {
+    DrawnControl drawn;
     for (forms::Block* const label : labels_) {
-        drawn += DrawnControl(document_, *label, type_, {Text(captionName)});
+        drawn += Draw(document_, *label, type_, {Text(captionName)});
     }
     return drawn;
 }

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "apps/lumenkit/check/finding.h"
+#include "apps/lumenkit/check/fix/drawn_control.h"
 #include "forms/block.h"
 #include "forms/document.h"
 #include "forms/property.h"
@@ -24,8 +25,8 @@ class CaptionHolder {
     virtual std::string Property() const = 0;
     /// All findings about the label.
     virtual Findings Check() const = 0;
-    /// What the label draws, see DrawnControl.
-    virtual Text Drawn() const = 0;
+    /// What the label shows without its caption as a property.
+    virtual DrawnControl Drawn() const = 0;
 };
 
 /// The saved caption of a label on a form. It stays where it is stored: in the form or in the
@@ -40,7 +41,7 @@ class SavedCaption final : public CaptionHolder {
     void Set(TextView caption) override;
     std::string Property() const override;
     Findings Check() const override;
-    Text Drawn() const override;
+    DrawnControl Drawn() const override;
 
  private:
     const forms::Document& document_;
@@ -61,7 +62,7 @@ class LooseCaption final : public CaptionHolder {
     void Set(TextView caption) override;
     std::string Property() const override { return "Caption"; }
     Findings Check() const override;
-    Text Drawn() const override;
+    DrawnControl Drawn() const override;
 
  private:
     Text caption_;

@@ -110,7 +110,9 @@ class DrawingControl {
                    const ClassDescriptor& type)
         : document_(document), block_(block), type_(type) {}
 
-    void Describe(bool userMode, const std::vector<Text>& except, Description& description) const {
+    // Returns the number of messages.
+    std::size_t Describe(bool userMode, const std::vector<Text>& except,
+                         Description& description) const {
         memory::Form form({.libraryName = {}, .classes = std::span(&type_, 1)});
         forms::FormBag saved(document_, block_, [&](const forms::FontDescription& font) {
             return windowless::SavedFont(form, font);
@@ -124,11 +126,13 @@ class DrawingControl {
         for (const memory::DisplayItem& item : control.Paint().Items()) {
             std::visit([&](const auto& drawn) { description.Add(drawn); }, item);
         }
+        const std::size_t messages = form.GetLog().Messages().size();
         for (const memory::Element* const part : control.Parts().All()) {
             description.Add(*part);
         }
         DescribeSaved(control, except, description);
         DescribeIdealSize(control, description);
+        return messages;
     }
 
  private:
@@ -164,13 +168,26 @@ class DrawingControl {
 
 }  // namespace
 
-Text DrawnControl(const forms::Document& document, forms::Block& block, const ClassDescriptor& type,
+DrawnControl& DrawnControl::operator+=(const DrawnControl& other) {
+    picture += other.picture;
+    messages += other.messages;
+    return *this;
+}
+
+DrawnControl Draw(const forms::Document& document, forms::Block& block, const ClassDescriptor& type,
                   const std::vector<Text>& except) {
     Description description;
+    DrawnControl drawn;
     for (const bool userMode : {false, true}) {
-        DrawingControl(document, block, type).Describe(userMode, except, description);
+        drawn.messages +=
+            DrawingControl(document, block, type).Describe(userMode, except, description);
     }
-    return description.Take();
+    drawn.picture = description.Take();
+    return drawn;
+}
+
+bool IsNoWorse(const DrawnControl& before, const DrawnControl& after, bool isSame) {
+    return after.messages <= before.messages && (!isSame || after.picture == before.picture);
 }
 
 }  // namespace lumenkit::check

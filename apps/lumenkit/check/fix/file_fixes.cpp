@@ -123,19 +123,17 @@ bool FormFixer::FixProperty(Slot& slot, const Finding& finding) const {
     }
     const std::vector<Text> names = {slot.property->Name(), mended->property.Name()};
     const std::vector<std::string> inFindings = {ToUtf8(names.front()), ToUtf8(names.back())};
-    const auto drawn = [&] {
-        return isSafe ? DrawnControl(document_, *slot.block, *slot.type, names) : Text();
-    };
+    const auto draw = [&] { return Draw(document_, *slot.block, *slot.type, names); };
     const auto check = [&] { return CheckOneControl(document_, *slot.block, *slot.type); };
     const Findings findings = check();
-    const Text drawnBefore = drawn();
+    const DrawnControl drawn = draw();
     forms::Property before = *slot.property;
     slot.block->Replace(*slot.property, std::move(mended->property));
     const Findings after = check();
     const bool isGone = std::ranges::none_of(after, [&](const Finding& other) {
         return other.rule == finding.rule && other.place.line == finding.place.line;
     });
-    if (isGone && IsNoWorse(findings, after, inFindings) && drawn() == drawnBefore) {
+    if (isGone && IsNoWorse(findings, after, inFindings) && IsNoWorse(drawn, draw(), isSafe)) {
         slot.first.Rename(slot.property->Name());
         return true;
     }

@@ -134,7 +134,7 @@ class FixModel : public ::testing::TestWithParam<FixScope> {};
 TEST_P(FixModel, MendsFormsAndKeepsAllElse) {
     FaultGenerator generator(lumenkit::testing::TestSeed());
     std::size_t mendings = 0;
-    for (int round = Rounds(1500); round > 0; --round) {
+    for (int round = Rounds(400); round > 0; --round) {
         const forms::Document form = generator.Form();
         const forms::FormBytes before = form.Write();
         const forms::Document original = form.WithBytes(before);
@@ -162,13 +162,13 @@ TEST_P(FixModel, MendsFormsAndKeepsAllElse) {
         }
         mendings += fixed.size();
     }
-    EXPECT_GT(mendings, static_cast<std::size_t>(Rounds(700)));
+    EXPECT_GT(mendings, static_cast<std::size_t>(Rounds(200)));
 }
 
 TEST_P(FixModel, MendsCaptionsOnce) {
     FaultGenerator generator(lumenkit::testing::TestSeed());
     std::size_t mendings = 0;
-    for (int round = Rounds(3000); round > 0; --round) {
+    for (int round = Rounds(1000); round > 0; --round) {
         const Text caption = generator.Caption();
         const FixedCaption fixed =
             FixCaptionFile("x", caption, lumenkitClasses, {.scope = GetParam()});
@@ -180,7 +180,7 @@ TEST_P(FixModel, MendsCaptionsOnce) {
             fixed.caption);
         mendings += fixed.fixed.size();
     }
-    EXPECT_GT(mendings, static_cast<std::size_t>(Rounds(1000)));
+    EXPECT_GT(mendings, static_cast<std::size_t>(Rounds(350)));
 }
 
 INSTANTIATE_TEST_SUITE_P(Scopes, FixModel, ::testing::Values(FixScope::Safe, FixScope::All),
