@@ -140,6 +140,18 @@ std::optional<TextView> Clamped(TextView component) {
     return number < 0 ? TextView(u"0") : TextView(u"255");
 }
 
+bool IsInWords(char16_t unit) {
+    constexpr char16_t firstBeyondAscii = 0x80;
+    return IsDigit(unit) || (unit >= u'a' && unit <= u'z') || (unit >= u'A' && unit <= u'Z') ||
+           unit >= firstBeyondAscii;
+}
+
+// Whether a bar stands between two words without blanks: box|n| in a frame.
+bool JoinsWords(TextView caption, std::size_t bar) {
+    return bar > 0 && bar + 1 < caption.size() && IsInWords(caption[bar - 1]) &&
+           IsInWords(caption[bar + 1]);
+}
+
 bool IsLineEnd(char16_t unit) {
     return unit == u'\r' || unit == u'\n';
 }
@@ -183,6 +195,11 @@ std::optional<Mending> MendLoneBar(const CaptionFault& fault) {
     const std::size_t length = command->end - command->offset;
     if (!fault.suggestion.empty()) {
         return Replace(command->offset, length, fault.suggestion, false);
+    }
+    const bool joins = JoinsWords(fault.caption, command->offset) ||
+                       (command->closed && JoinsWords(fault.caption, command->end - 1));
+    if (joins) {
+        return std::nullopt;
     }
     Mending mending = Replace(command->offset, 1, {}, command->text.empty());
     if (command->closed) {

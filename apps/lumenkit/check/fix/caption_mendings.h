@@ -23,7 +23,9 @@ struct CaptionFault {
 std::optional<Mending> MendUnknownCommand(const CaptionFault& fault);
 /// Closes the command behind its value, so that the rest of the line is drawn.
 std::optional<Mending> MendUnterminatedCommand(const CaptionFault& fault);
-/// Writes the suggested command, or removes the bars, so that the text between them is drawn.
+/// Writes the suggested command, or removes the bars, so that the text between them is drawn. Bars
+/// that separate two words stay: the text between them is rather a command, as in box|n| in a
+/// frame.
 std::optional<Mending> MendLoneBar(const CaptionFault& fault);
 /// Writes "i" instead of "u".
 std::optional<Mending> MendUnderline(const CaptionFault& fault);

@@ -75,6 +75,10 @@ constexpr Row<TextView, Mended> loneBars[] = {
     {"SideBySideInARow", u"||||||a", {u"a", u"a"}},
     {"WithACommandBetweenThemGetIt", u"|b|x|b=0|", {u"|b|x|b=0|", u"|b:1|x|b:0|"}},
     {"AroundAMarkWithABlankGetIt", u"a|CR |b", {u"a|CR |b", u"a|CR|b"}},
+    {"InAWordAreRatherACommand",
+     u"a |n|b|CR|a|n| b|CR|a|n",
+     {u"a |n|b|CR|a|n| b|CR|a|n", u"a |n|b|CR|a|n| b|CR|a|n"}},
+    {"BesideAWordThatEndsInASign", u"(|n|)", {u"(|n|)", u"(n)"}},
     {"AroundQuotesShowThem", u"a |x |Q|y|Q| |b", {u"a |x |Q|y|Q| |b", u"a x |Q|y|Q| b"}},
 };
 INSTANTIATE_TEST_SUITE_P(LoneBars, FixCaptions, ::testing::ValuesIn(loneBars), RowName());
