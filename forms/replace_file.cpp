@@ -26,16 +26,15 @@ void ReplaceFile(const std::filesystem::path& path, const std::string& bytes) {
     TakePlace(file, place);
 }
 
-void ReplaceKnownFile(const std::filesystem::path& path, const std::string& known,
-                      const std::string& bytes) {
+void ReplaceKnownFile(const std::filesystem::path& path, const Replacement& contents) {
     Disk& disk = Disk::System();
-    const Place place(path, bytes);
+    const Place place(path, contents.next);
     LookAt(disk, place);  // tells a read-only file as such even if its folder is read-only too
     const SaveLock lock(disk, place);
     BesideFile file(disk, place);
-    file.Write(bytes, LookAt(disk, place));
+    file.Write(contents.next, LookAt(disk, place));
     std::string present;
-    if (!disk.Read(place.path, present) || present != known) {
+    if (!disk.Read(place.path, present) || present != contents.known) {
         throw FormError(place.name, "was changed by another program since it was read");
     }
     TakePlace(file, place);

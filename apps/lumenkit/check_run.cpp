@@ -97,7 +97,7 @@ CheckRun::Result CheckRun::Check(const std::string& file) const {
     return result;
 }
 
-void CheckRun::CheckCaption(const std::string& file, Result& result) const {
+void CheckRun::CheckCaption(const std::string& file, Result& result) {
     result.input = ReadBytes(file);
     result.findings = check::CheckCaptionFile(file, TextFileOf(file, *result.input).text);
 }

@@ -52,7 +52,7 @@ class CheckRun {
 
     Result Check(const std::string& file) const;
     void CheckForm(const std::string& file, Result& result) const;
-    void CheckCaption(const std::string& file, Result& result) const;
+    static void CheckCaption(const std::string& file, Result& result);
     void Select(const std::string& file, check::Findings& findings);
     void SelectNew(check::Findings& findings) const;
     bool IsInput(const std::string& file) const;

@@ -16,6 +16,15 @@ namespace {
 
 using check::FixScope;
 
+std::string DiffOf(const std::string& file, const std::string& before, const forms::Document& form,
+                   check::FormFixer& fixer) {
+    std::string diff;
+    for (const check::CompanionChange& change : fixer.TakeBackCompanionTexts()) {
+        diff += check::CompanionDiff(change, form.CompanionName());
+    }
+    return diff + check::UnifiedDiff(file, before, form.Write().form);
+}
+
 }  // namespace
 
 FixedFile FileFixer::FixForm(const std::string& file,
@@ -49,15 +58,6 @@ void FileFixer::LookAtRest(const forms::Document& mended, FixedFile& fixed) cons
     }
 }
 
-std::string FileFixer::DiffOf(const std::string& file, const std::string& before,
-                              const forms::Document& form, check::FormFixer& fixer) const {
-    std::string diff;
-    for (const check::CompanionChange& change : fixer.TakeBackCompanionTexts()) {
-        diff += check::CompanionDiff(change, form.CompanionName());
-    }
-    return diff + check::UnifiedDiff(file, before, form.Write().form);
-}
-
 FixedFile FileFixer::FixCaption(const std::string& file, const std::string& bytes) const {
     const TextFile read = TextFileOf(file, bytes);
     check::FixedCaption caption =
@@ -76,7 +76,7 @@ FixedFile FileFixer::FixCaption(const std::string& file, const std::string& byte
     } else if (IsStandardInput(file)) {
         fixed.output = mended;
     } else if (!fixed.fixes.made.empty()) {
-        forms::ReplaceKnownFile(file, bytes, mended);
+        forms::ReplaceKnownFile(file, {.known = bytes, .next = mended});
     }
     return fixed;
 }

@@ -41,8 +41,6 @@ class FileFixer {
  private:
     check::FixOptions InScope(check::FixScope scope) const { return {scope, select_}; }
     void LookAtRest(const forms::Document& mended, FixedFile& fixed) const;
-    std::string DiffOf(const std::string& file, const std::string& before,
-                       const forms::Document& form, check::FormFixer& fixer) const;
 
     Options options_;
     check::FindingFilter select_;

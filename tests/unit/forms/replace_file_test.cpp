@@ -76,10 +76,10 @@ TEST_F(ReplaceFileTest, KeepsTheOldFileAndSaysWhyTheNewOneCannotBeWritten) {
 }
 
 TEST_F(ReplaceFileTest, ReplacesAKnownFileUnlessAnotherProgramHasChangedIt) {
-    ReplaceKnownFile(file, "old", "new");
+    ReplaceKnownFile(file, {"old", "new"});
     EXPECT_EQ(ReadFile(file), "new");
     try {
-        ReplaceKnownFile(file, "old", "newer");
+        ReplaceKnownFile(file, {"old", "newer"});
         ADD_FAILURE() << "replaced a file that it did not know";
     } catch (const FormError& error) {
         EXPECT_EQ(error.what(),
@@ -95,7 +95,7 @@ TEST_F(ReplaceFileTest, OfTwoSavesOfAKnownFileOneFails) {
         WriteFile(file, "old");
         const auto save = [&](const char* bytes) {
             try {
-                ReplaceKnownFile(file, "old", bytes);
+                ReplaceKnownFile(file, {"old", bytes});
             } catch (const FormError&) {
                 ++refused;
             }

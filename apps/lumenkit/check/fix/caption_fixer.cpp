@@ -124,7 +124,8 @@ bool CaptionFixer::IsAccepted(const Attempts& attempts, const TextEdits& edits,
         places[attempt.finding.rule].insert(OffsetAfter(edits, *attempt.finding.offset));
     }
     return std::ranges::all_of(places, [&](const auto& mended) {
-        const auto& [rule, offsets] = mended;
+        const std::string_view rule = mended.first;
+        const std::set<std::size_t>& offsets = mended.second;
         const bool areFewer =
             CountOf(rule, after.findings) + offsets.size() <= CountOf(rule, now_.findings);
         return areFewer || std::ranges::none_of(after.findings, [&](const Finding& finding) {

@@ -21,7 +21,7 @@ class Drawn {
     Drawn(const forms::Document& document, forms::Block& block, bool userMode)
         : form_(lumenkitClasses) {
         forms::FormBag bag(document, block, [&](const forms::FontDescription& font) {
-            const std::shared_ptr<memory::Font> made = form_.NewFont(font.name, font.size);
+            std::shared_ptr<memory::Font> made = form_.NewFont(font.name, font.size);
             made->SetWeight(font.weight);
             return made;
         });

@@ -133,6 +133,10 @@ constexpr Row<TextView, Mended> mixed[] = {
     {"GoodPartsOfABadCaption",
      u"|xyzzy:1||u:1|x|b:10 y",
      {u"|xyzzy:1||i:1|x|b:10 y", u"|xyzzy:1||i:1|x|b:10 y"}},
+    // Each line after the first one is too high, and the label says so.
+    {"MoreMessagesAreWorse",
+     u"|before:3e38|a|CR|b\nc",
+     {u"|before:3e38|a|CR|b\nc", u"|before:3e38|a|CR|b\nc"}},
     {"NothingToMend", u"|B:1|Hello|CR|world", {u"|B:1|Hello|CR|world", u"|B:1|Hello|CR|world"}},
     {"Empty", u"", {u"", u""}},
     {"AMarkAtTheBeginning", u"\xfeff|u:1|x", {u"\xfeff|i:1|x", u"\xfeff|i:1|x"}},

@@ -55,8 +55,9 @@ TEST(FixForms, LeavesNamesAloneIfTheirMendingIsUnclearOrWrong) {
     for (const char* const lines : {
              "   Captoin = \"a\"\r\n   Caption = \"b\"\r\n",  // which is meant?
              "   Caption = \"a\"\r\n   Caption = \"b\"\r\n",
-             "   Alignment = 1\r\n",   // no suggestion
-             "   BorderStle = 7\r\n",  // an error, if the label read it
+             "   Alignment = 1\r\n",                     // no suggestion
+             "   Captoin = \"|xyzzy:1||xyzzy:1|\"\r\n",  // a mistake more than now
+             "   BorderStle = 7\r\n",                    // an error, if the label read it
              "   BeginProperty Fnt\r\n   EndProperty\r\n",
          }) {
         EXPECT_EQ(Fixed(Label(lines), FixScope::All), Label(lines));
