@@ -15,6 +15,11 @@ namespace lumenkit::check {
 
 namespace {
 
+// How much text is tried for a caption, in units. Only a caption with thousands of mendings that
+// must not be made needs more; it keeps some findings that could be mended.
+constexpr std::size_t mostWork = 1'000'000;
+constexpr std::size_t leastWorkOfTry = 100;
+
 std::size_t CountOf(std::string_view rule, const Findings& findings) {
     return static_cast<std::size_t>(std::ranges::count(findings, rule, &Finding::rule));
 }
@@ -27,6 +32,7 @@ bool AreApart(const TextEdits& before, const TextEdits& after) {
 
 Findings CaptionFixer::Fix(const Findings& findings) {
     now_ = Look();
+    work_ = 0;
     Findings fixed;
     FixParts(AttemptsFor(findings, false), fixed);
     FixParts(AttemptsFor(findings, true), fixed);
@@ -79,7 +85,7 @@ CaptionFixer::Attempts CaptionFixer::AttemptsFor(const Findings& findings, bool 
 // Tries all at once, and otherwise each half. The later half first: then the places of the other
 // one stay right.
 void CaptionFixer::FixParts(Attempts attempts, Findings& fixed) {
-    if (attempts.empty()) {
+    if (attempts.empty() || work_ > mostWork) {
         return;
     }
     if (Try(attempts)) {
@@ -98,6 +104,7 @@ void CaptionFixer::FixParts(Attempts attempts, Findings& fixed) {
 }
 
 bool CaptionFixer::Try(const Attempts& attempts) {
+    work_ += now_.caption.size() + leastWorkOfTry;
     TextEdits edits;
     for (const Attempt& attempt : attempts) {
         edits.insert(edits.end(), attempt.mending.edits.begin(), attempt.mending.edits.end());

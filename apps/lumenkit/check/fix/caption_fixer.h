@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <optional>
 #include <vector>
 
@@ -51,6 +52,7 @@ class CaptionFixer {
     CaptionHolder& holder_;
     FixScope scope_;
     State now_;
+    std::size_t work_ = 0;
 };
 
 }  // namespace lumenkit::check
