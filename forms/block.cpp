@@ -148,6 +148,11 @@ Property& Block::Set(TextView name, forms::Literal literal, TextView after) {
     return added;
 }
 
+void Block::Replace(Property& present, Property changed) {
+    ItemsChanged();
+    present = std::move(changed);
+}
+
 Block& Block::Group(TextView name, TextView identifier, TextView after) {
     if (Block* group = FindGroup(name)) {
         return *group;

@@ -71,6 +71,8 @@ class Block {
     /// `after`, or after the last one if `after` does not exist. A property that replaces a group
     /// takes its place.
     Property& Set(TextView name, forms::Literal literal, TextView after = {});
+    /// Puts `changed` in the place of the property `present` of this block.
+    void Replace(Property& present, Property changed);
     /// Returns the group `name`. Creates it if there is none, in the place that Set would choose.
     Block& Group(TextView name, TextView identifier, TextView after = {});
     /// Removes the property or group `name`. Returns false when there is none.

@@ -45,6 +45,15 @@ std::string Question(const std::string& written, const std::vector<std::string>&
 
 class Formatter final : public CLI::Formatter {
  public:
+    // Without the value that a flag has by default: "--fix{safe}".
+    std::string make_option_name(const CLI::Option* option, bool isPositional) const override {
+        const std::string name = CLI::Formatter::make_option_name(option, isPositional);
+        return name.substr(0, name.find('{'));
+    }
+    std::string make_option_opts(const CLI::Option* option) const override {
+        const std::string& text = option->get_option_text();
+        return text.starts_with('[') ? text : CLI::Formatter::make_option_opts(option);
+    }
     std::string make_option_desc(const CLI::Option* option) const override {
         return Wrapped(CLI::Formatter::make_option_desc(option), terminalWidth - column_width_);
     }

@@ -1,3 +1,5 @@
+#include <algorithm>
+#include <initializer_list>
 #include <iostream>
 #include <map>
 #include <memory>
@@ -12,6 +14,7 @@
 #include "apps/lumenkit/check_run.h"
 #include "apps/lumenkit/commands.h"
 #include "apps/lumenkit/terminal.h"
+#include "apps/lumenkit/text_input.h"
 
 namespace lumenkit::cli {
 
@@ -21,28 +24,46 @@ enum class Format { Text, Json, Sarif, Github };
 
 struct CheckArguments : CheckOptions {
     Format format = Format::Text;
+    std::string fix;  // "safe", "all" or empty
+
+    Fixing WantedFixing() const {
+        return fix == "all" ? Fixing::All : fix.empty() && !diff ? Fixing::None : Fixing::Safe;
+    }
 };
 
-std::unique_ptr<check::Reporter> NewReporter(Format format) {
-    switch (format) {
+// The standard output takes the mended text of the standard input.
+bool PrintsMendedText(const CheckArguments& arguments) {
+    return arguments.fixing != Fixing::None && !arguments.diff &&
+           std::ranges::any_of(arguments.paths, [&](const std::string& path) {
+               return path == "-" || (arguments.captions && IsStandardInput(path));
+           });
+}
+
+std::unique_ptr<check::Reporter> NewReporter(const CheckArguments& arguments) {
+    const Stream stream = PrintsMendedText(arguments) ? Stream::Errors : Stream::Output;
+    std::ostream& output = stream == Stream::Errors ? std::cerr : std::cout;
+    if (arguments.diff) {
+        return std::make_unique<check::DiffReporter>(std::cerr, TakesColors(Stream::Errors));
+    }
+    switch (arguments.format) {
         case Format::Json:
-            return std::make_unique<check::JsonReporter>(std::cout);
+            return std::make_unique<check::JsonReporter>(output, arguments.fixing != Fixing::None);
         case Format::Sarif:
-            return std::make_unique<check::SarifReporter>(std::cout, LUMENKIT_VERSION);
+            return std::make_unique<check::SarifReporter>(output, LUMENKIT_VERSION);
         case Format::Github:
-            return std::make_unique<check::GithubReporter>(std::cout);
+            return std::make_unique<check::GithubReporter>(output);
         case Format::Text:
             break;
     }
     return std::make_unique<check::TextReporter>(
-        std::cout, std::cerr,
-        check::ColoredStreams{.output = TakesColors(Stream::Output),
+        output, std::cerr,
+        check::ColoredStreams{.output = TakesColors(stream),
                               .errors = TakesColors(Stream::Errors)});
 }
 
 int Check(const CheckArguments& arguments) {
     try {
-        const std::unique_ptr<check::Reporter> reporter = NewReporter(arguments.format);
+        const std::unique_ptr<check::Reporter> reporter = NewReporter(arguments);
         return CheckRun(arguments, *reporter).Run();
     } catch (const check::BadException& error) {
         std::cerr << "lumenkit: " << check::Printable(error.what()) << '\n';
@@ -80,6 +101,31 @@ void AddFormatOptions(CLI::App& command, CheckArguments& arguments) {
         ->option_text("FORMAT");
     command.add_flag_callback(
         "--json", [&arguments] { arguments.format = Format::Json; }, "The same as --format json");
+}
+
+void AddFixOptions(CLI::App& command, CheckArguments& arguments) {
+    command
+        .add_flag(
+            "--fix{safe}", arguments.fix,
+            "Mend what can be mended without changing what is drawn; --fix=all also makes "
+            "mendings that change it. A form or caption from the standard input is written to "
+            "the standard output, and the findings to the standard error stream")
+        ->check(CLI::IsMember({"safe", "all"}).description(""))
+        ->option_text("[=all]");
+    command.add_flag(
+        "--diff", arguments.diff,
+        "Write no file, but print what --fix (or --fix=all, if named) would change, as "
+        "input for patch -p1");
+}
+
+// Throws CLI::ExcludesError.
+void RefuseTogether(const CLI::App& command, const std::string& option,
+                    std::initializer_list<std::string> others) {
+    for (const std::string& other : others) {
+        if (command.count(option) > 0 && command.count(other) > 0) {
+            throw CLI::ExcludesError(option, other);
+        }
+    }
 }
 
 void AddSelectionOptions(CLI::App& command, CheckArguments& arguments) {
@@ -135,13 +181,15 @@ std::string Help() {
            "are in UTF-16 units. A text in a binary companion file is reported at the place "
            "of its property. See docs/check.md for details.\n"
            "\n"
-           "Exit status: 0 without findings, 1 with findings, 2 if a file could not be read "
-           "(all other files are checked) or the findings could not be written.\n"
+           "Exit status: 0 without findings, 1 with findings, 2 if a file could not be read or "
+           "mended (all other files are checked) or the findings could not be written. With --fix, "
+           "the findings that are left count; with --diff, 1 means that there are differences.\n"
            "\n"
            "Examples:\n"
            "  lumenkit check order.frm\n"
            "  lumenkit check --json src/forms\n"
            "  lumenkit check --code-page 1250 polish.frm\n"
+           "  lumenkit check --fix=all --diff src/forms\n"
            "  lumenkit check --caption samples/captions/mistakes.txt\n"
            "  echo '|Blod:1|Hello' | lumenkit check --caption -";
 }
@@ -150,7 +198,7 @@ std::string Help() {
 
 void AddCheckCommand(CLI::App& program, int& status) {
     CLI::App* const command = program.add_subcommand(
-        "check", "Find mistakes in captions and form files and print their places");
+        "check", "Find mistakes in captions and form files, print their places and mend them");
     const auto options = std::make_shared<CheckArguments>();
     command
         ->add_option("PATH", options->paths,
@@ -163,6 +211,7 @@ void AddCheckCommand(CLI::App& program, int& status) {
                       "part of the caption");
     AddFormatOptions(*command, *options);
     AddSelectionOptions(*command, *options);
+    AddFixOptions(*command, *options);
     command
         ->add_option("-j,--jobs", options->jobs,
                      "Number of files to check at once; default: one for each processor")
@@ -170,7 +219,12 @@ void AddCheckCommand(CLI::App& program, int& status) {
         ->option_text("N");
     AddCodePageOption(*command, options->codePage);
     command->footer(Help());
-    command->callback([options, &status] { status = Check(*options); });
+    command->callback([command, options, &status] {
+        RefuseTogether(*command, "--diff", {"--format", "--json", "--write-baseline"});
+        RefuseTogether(*command, "--fix", {"--write-baseline"});
+        options->fixing = options->WantedFixing();
+        status = Check(*options);
+    });
 }
 
 }  // namespace lumenkit::cli

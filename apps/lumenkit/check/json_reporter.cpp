@@ -54,12 +54,21 @@ void JsonReporter::Report(const Findings& findings) {
     }
 }
 
+void JsonReporter::Report(const Fixes& fixes) {
+    for (const Finding& finding : fixes.made) {
+        fixed_.push_back(ToJson(finding));
+    }
+}
+
 void JsonReporter::Report(const FileError& error) {
     errors_.push_back(ToJson(error));
 }
 
 void JsonReporter::Finish(std::size_t files) {
     Json report = {{"files", files}, {"findings", findings_}, {"errors", errors_}};
+    if (showsFixes_) {
+        report["fixed"] = fixed_;
+    }
     if (!notes_.empty()) {
         report["notes"] = notes_;
     }

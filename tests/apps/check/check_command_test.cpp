@@ -315,6 +315,33 @@ TEST_F(CheckFolder, WaitsForNoPipe) {
     EXPECT_EQ(outcome.output, "0 files checked: 0 findings, 1 error\n");
 }
 
+TEST_F(CheckFolder, WaitsForNoNamedPipeThatIsACaption) {
+    const std::string pipe = (folder / "pipe").string();
+    ASSERT_EQ(mkfifo(pipe.c_str(), 0600), 0);
+    fs::create_symlink("pipe", folder / "link.txt");
+    const Outcome outcome = RunProgram("check --caption " + pipe);
+    EXPECT_EQ(outcome.errors, "lumenkit: " + pipe + ": is not a plain file\n");
+    EXPECT_EQ(outcome.status, 2);
+    const std::string link = (folder / "link.txt").string();
+    EXPECT_EQ(RunProgram("check --caption " + link).errors,
+              "lumenkit: " + link + ": is not a plain file\n");
+}
+
+TEST_F(CheckFolder, ReadsCaptionsFromPipesOfAShell) {
+    for (const char* const name : {"-", "/dev/stdin", "/dev/fd/0"}) {
+        EXPECT_EQ(RunProgram(std::string("check --caption ") + name, "|blod:1|\n").status, 1)
+            << name;
+    }
+    // The program's standard input itself is a named pipe, and another one has no name.
+    const std::string pipe = (folder / "pipe").string();
+    ASSERT_EQ(mkfifo(pipe.c_str(), 0600), 0);
+    EXPECT_EQ(RunOnTerminal("check --caption /dev/stdin <" + pipe + " & echo '|u:1|' >" + pipe +
+                            "; wait $!")
+                  .status,
+              1);
+    EXPECT_EQ(RunOnTerminal("check --caption /dev/fd/3 3<&0", "echo '|u:1|' |").status, 1);
+}
+
 TEST_F(CheckFolder, TheBarIsTheErrorStreamsOwn) {
     WriteForms(30, "|blod:1|");
     const std::string found = (folder / "found").string();

@@ -1,7 +1,9 @@
 #include "forms/replace_file.h"
 
+#include <atomic>
 #include <filesystem>
 #include <string>
+#include <thread>
 
 #include <gtest/gtest.h>
 
@@ -71,6 +73,38 @@ TEST_F(ReplaceFileTest, KeepsTheOldFileAndSaysWhyTheNewOneCannotBeWritten) {
     fs::permissions(file, fs::perms::owner_read);
     EXPECT_EQ(Error(file, large), file.string() + ": is read-only");
     EXPECT_EQ(ReadFile(file), "old");
+}
+
+TEST_F(ReplaceFileTest, ReplacesAKnownFileUnlessAnotherProgramHasChangedIt) {
+    ReplaceKnownFile(file, {"old", "new"});
+    EXPECT_EQ(ReadFile(file), "new");
+    try {
+        ReplaceKnownFile(file, {"old", "newer"});
+        ADD_FAILURE() << "replaced a file that it did not know";
+    } catch (const FormError& error) {
+        EXPECT_EQ(error.what(),
+                  file.string() + ": was changed by another program since it was read");
+    }
+    EXPECT_EQ(ReadFile(file), "new");
+    EXPECT_EQ(Count(), 1);
+}
+
+TEST_F(ReplaceFileTest, OfTwoSavesOfAKnownFileOneFails) {
+    std::atomic<int> refused = 0;
+    for (int round = 0; round < 20; ++round) {
+        WriteFile(file, "old");
+        const auto save = [&](const char* bytes) {
+            try {
+                ReplaceKnownFile(file, {"old", bytes});
+            } catch (const FormError&) {
+                ++refused;
+            }
+        };
+        std::jthread one(save, "one");
+        std::jthread two(save, "two");
+    }
+    EXPECT_EQ(refused, 20);
+    EXPECT_EQ(Count(), 1);
 }
 
 }  // namespace
