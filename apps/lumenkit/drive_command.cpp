@@ -25,6 +25,7 @@ Answers: {"ok":true,"value":...,"log":[...]} or
 Requests (keys after the bar are optional):
   {"do":"new","class","id" | "mode","bag","width","height","tag"}    create a control
   {"do":"new","class":"VLabelCaption","id","select":[ID...]}         open the caption page
+  {"do":"drop","id"}                               end a control or a page
   {"do":"get","id","name" | "dispid","index"}      read a property
   {"do":"let","id","name","value" | "dispid","index"}  assign a property
   {"do":"call","id","name" | "dispid","args"}      call a method

@@ -21,8 +21,9 @@ struct Result {
     Json warnings = Json::array();  ///< about the form that was loaded
 };
 
-// Creation, saving, size and drawing of controls (life_requests.cpp).
+// Creation, end, saving, size and drawing of controls (life_requests.cpp).
 Result New(ScriptedContainer& container, const Fields& request);
+Result Drop(ScriptedContainer& container, const Fields& request);
 Result Save(ScriptedContainer& container, const Fields& request);
 Result Resize(ScriptedContainer& container, const Fields& request);
 Result Apply(ScriptedContainer& container, const Fields& request);
