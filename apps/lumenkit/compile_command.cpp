@@ -21,6 +21,8 @@ struct CompileOptions {
     bool json = false;
 };
 
+constexpr int outputVersion = 1;  // docs/json.md says when it changes
+
 // Keeps the members in insertion order.
 using Json = nlohmann::ordered_json;
 
@@ -34,7 +36,7 @@ Json ToJson(const CompiledCaption& compiled) {
         commands.push_back({{"name", ToUtf8(compiled.CommandNames.Item(i))},
                             {"parameter", ToUtf8(compiled.CommandParams.Item(i))}});
     }
-    return {{"lines", lines}, {"commands", commands}};
+    return {{"version", outputVersion}, {"lines", lines}, {"commands", commands}};
 }
 
 int Compile(const CompileOptions& options) {

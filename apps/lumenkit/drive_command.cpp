@@ -45,6 +45,7 @@ Requests (keys after the bar are optional):
   {"do":"allow","id","name","value"}               allow or refuse changes of a property
   {"do":"form","file" | "mode","codePage"}         load a form with its controls
   {"do":"write","file"}                            save the form with the current values
+  {"do":"version"}                                 return the version of the answers
   {"do":"quit"}                                    end the program
 
 "on" is the name of a constituent, such as "Text1(0)". Without "on", a request

@@ -50,6 +50,7 @@ Result LoadForm(ScriptedContainer& container, const Fields& request);
 Result WriteForm(ScriptedContainer& container, const Fields& request);
 Result SetAmbient(ScriptedContainer& container, const Fields& request);
 Result Allow(ScriptedContainer& container, const Fields& request);
+Result Version(ScriptedContainer& container, const Fields& request);
 Result Quit(ScriptedContainer& container, const Fields& request);
 
 }  // namespace lumenkit::cli::requests

@@ -28,7 +28,7 @@ Handler HandlerFor(const std::string& name) {
         {"resize", requests::Resize},   {"save", requests::Save},
         {"scroll", requests::Scroll},   {"select", requests::Select},
         {"state", requests::State},     {"type", requests::Type},
-        {"write", requests::WriteForm},
+        {"version", requests::Version}, {"write", requests::WriteForm},
     };
     const auto handler = handlers.find(name);
     if (handler == handlers.end()) {
