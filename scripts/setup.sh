@@ -8,7 +8,7 @@ wine=wine64
 [ "$(dpkg --print-architecture)" != i386 ] || wine=wine32
 declare -A groups=(
     [build]="g++ cmake ninja-build make pkg-config python3 libgtest-dev libgmock-dev libcli11-dev nlohmann-json3-dev"
-    [test]="python3-jsonschema"
+    [test]="git pre-commit python3-jsonschema python3-yaml"
     [bench]="libbenchmark-dev libpango1.0-dev"
     [format]="clang-format"
     [lint]="clang-tidy libclang-dev llvm"
