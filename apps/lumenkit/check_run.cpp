@@ -90,7 +90,7 @@ CheckRun::Result CheckRun::CheckForm(const std::string& file) const {
     const forms::Document form =
         file == standardInput
             ? forms::Document::Parse(standardInput, ReadBytes(file), {}, options_.codePage)
-            : forms::Load(file, options_.codePage);
+            : forms::Load(file, options_.codePage, folders_);
     Result result;
     if (const std::optional<forms::CodePageGuess>& guess = form.Guess()) {
         result.note = {form.Name(), guess->place,

@@ -14,6 +14,7 @@
 #include "apps/lumenkit/check/reporter.h"
 #include "apps/lumenkit/check/selection.h"
 #include "forms/encoding.h"
+#include "forms/folder_names.h"
 
 namespace lumenkit::cli {
 
@@ -53,6 +54,7 @@ class CheckRun {
     const CheckOptions& options_;
     check::Reporter& reporter_;
     check::ExceptionFiles exceptions_;
+    mutable forms::FolderNames folders_;  // of the forms
     std::optional<check::Baseline> known_;
     std::optional<check::Baseline> written_;
     std::size_t checked_ = 0;
