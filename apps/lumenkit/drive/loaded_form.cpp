@@ -116,7 +116,8 @@ void LoadedForm::Update() {
         RemoveControls(document_.Root(), dropped_);
         dropped_.clear();
     }
-    for (auto& [place, saved] : saved_) {
+    for (auto& one : saved_) {
+        Saved& saved = one.second;
         saved.keeper.Update([&](host::PropertyBag& bag) { saved.control.Save(bag); });
     }
 }

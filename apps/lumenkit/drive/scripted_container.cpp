@@ -37,7 +37,7 @@ std::vector<std::string> ScriptedContainer::Drop(const std::string& id) {
     }
     Control(id);
     const bool isOnForm = loaded_ != nullptr && loaded_->Has(id);
-    const std::vector<std::string> ids = isOnForm ? loaded_->Within(id) : std::vector{id};
+    std::vector<std::string> ids = isOnForm ? loaded_->Within(id) : std::vector{id};
     for (const std::string& one : ids) {
         if (const auto page = pagesOf_.find(one); page != pagesOf_.end()) {
             throw BadRequest("the page \"" + *page->second.begin() + "\" works on \"" + one +
