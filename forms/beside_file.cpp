@@ -1,10 +1,8 @@
 #include "forms/beside_file.h"
 
-#include <cerrno>
 #include <cstddef>
 #include <cstdint>
 #include <random>
-#include <system_error>
 #include <utility>
 
 #include "forms/ascii.h"
@@ -21,20 +19,6 @@ namespace fs = std::filesystem;
 
 std::string Digits(std::uint64_t number) {
     return Hexadecimal(number, 2 * sizeof number);
-}
-
-std::string ReasonOf(int error) {
-    return error == 0 ? std::string() : std::generic_category().message(error);
-}
-
-// Runs a call of the system that returns whether it succeeded. Sets `error` to the number of the
-// error, or to 0 if the call does not say.
-template <typename Call>
-bool Try(int& error, const Call& call) {
-    errno = 0;
-    const bool succeeds = call();
-    error = errno;
-    return succeeds;
 }
 
 }  // namespace
@@ -55,13 +39,14 @@ fs::path Place::NewName(std::string_view end) const {
 }
 
 void RefuseToWrite(const Place& place, const std::string& reason) {
-    throw FormError(place.name, "cannot be written" + (reason.empty() ? "" : ": " + reason));
+    throw FormError(place.name, "cannot be written" + reason);
 }
 
 FileState LookAt(Disk& disk, const Place& place) {
     FileState state;
-    if (!disk.Look(place.path, state)) {
-        RefuseToWrite(place);
+    SystemCall call;
+    if (!call.Run([&] { return disk.Look(place.path, state); })) {
+        RefuseToWrite(place, call.Reason());
     }
     if (state.exists && !state.isRegular) {
         throw FormError(place.name, "is not a plain file");
@@ -86,23 +71,22 @@ BesideFile::~BesideFile() {
 }
 
 void BesideFile::Write(std::string_view bytes, const FileState& old) {
-    errno = 0;
-    const Disk::Opened file =
-        Make(newEnd, [&](const fs::path& path) { return disk_.Create(path, old.exists); });
-    int error = errno;
+    const Disk::Opened file = last_.Run([&] {
+        return Make(newEnd, [&](const fs::path& path) { return disk_.Create(path, old.exists); });
+    });
     if (file.outcome != Disk::Outcome::Done) {
-        RefuseToWrite(place_, ReasonOf(error));
+        RefuseToWrite(place_, Reason());
     }
-    bool isWritten = Try(error, [&] { return disk_.Write(file.handle, bytes); }) &&
+    bool isWritten = last_.Run([&] { return disk_.Write(file.handle, bytes); }) &&
                      (!old.exists || disk_.KeepAttributes(file.handle, old)) &&
-                     Try(error, [&] { return disk_.Flush(file.handle); });
-    int errorOfClose = 0;
-    if (!Try(errorOfClose, [&] { return disk_.Close(file.handle); }) && isWritten) {
+                     last_.Run([&] { return disk_.Flush(file.handle); });
+    SystemCall closing;
+    if (!closing.Run([&] { return disk_.Close(file.handle); }) && isWritten) {
         isWritten = false;
-        error = errorOfClose;
+        last_ = closing;
     }
     if (!isWritten) {
-        RefuseToWrite(place_, ReasonOf(error));
+        RefuseToWrite(place_, Reason());
     }
 }
 
@@ -115,7 +99,7 @@ void BesideFile::Keep(std::string_view oldBytes, const FileState& old) {
 }
 
 bool BesideFile::TakePlace() {
-    if (!disk_.Rename(path_, place_.path)) {
+    if (!last_.Run([&] { return disk_.Rename(path_, place_.path); })) {
         return false;
     }
     isThere_ = false;

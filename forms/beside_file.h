@@ -6,6 +6,7 @@
 #include <string_view>
 
 #include "forms/disk.h"
+#include "forms/system_call.h"
 
 namespace lumenkit::forms {
 
@@ -30,8 +31,8 @@ struct Place {
     const std::filesystem::path lock;
 };
 
-/// Throws FormError. `reason` is empty if the system gives none.
-[[noreturn]] void RefuseToWrite(const Place& place, const std::string& reason = {});
+/// Throws FormError. For `reason` see SystemCall.
+[[noreturn]] void RefuseToWrite(const Place& place, const std::string& reason);
 
 /// Returns the state of the present file. Throws FormError if it is read-only or is no plain file.
 FileState LookAt(Disk& disk, const Place& place);
@@ -60,6 +61,9 @@ class BesideFile {
     void Leave() { isThere_ = false; }
     const std::filesystem::path& Path() const { return path_; }
 
+    /// Why the last call failed: see SystemCall.
+    std::string Reason() const { return last_.Reason(); }
+
  private:
     template <typename Creation>
     Disk::Opened Make(std::string_view end, const Creation& create);
@@ -67,6 +71,7 @@ class BesideFile {
     Disk& disk_;
     const Place& place_;
     std::filesystem::path path_;
+    SystemCall last_;
     bool isThere_ = false;
 };
 

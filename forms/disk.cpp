@@ -28,6 +28,16 @@ namespace lumenkit::forms {
 
 namespace fs = std::filesystem;
 
+namespace {
+
+// The number that errno has for the error.
+int NumberOf(const std::error_code& error) {
+    const std::error_condition condition = error.default_error_condition();
+    return condition.category() == std::generic_category() ? condition.value() : 0;
+}
+
+}  // namespace
+
 Disk& Disk::System() {
     static Disk disk;
     return disk;
@@ -36,6 +46,7 @@ Disk& Disk::System() {
 bool Disk::Rename(const fs::path& from, const fs::path& to) {
     std::error_code error;
     fs::rename(from, to, error);
+    errno = NumberOf(error);
     return !error;
 }
 
@@ -47,11 +58,17 @@ int File(Disk::Handle handle) {
     return static_cast<int>(handle);
 }
 
+// Tells the last error of Windows in errno.
+void TellError() {
+    errno = NumberOf(std::error_code(static_cast<int>(GetLastError()), std::system_category()));
+}
+
 }  // namespace
 
 bool Disk::Look(const fs::path& path, FileState& state) {
     std::error_code error;
     const fs::file_status status = fs::status(path, error);
+    errno = NumberOf(error);
     state = {};
     state.exists = fs::exists(status);
     state.isRegular = fs::is_regular_file(status);
@@ -65,7 +82,7 @@ bool Disk::Look(const fs::path& path, FileState& state) {
 
 bool Disk::Read(const fs::path& path, std::string& bytes) {
     std::error_code unknown;
-    std::ifstream stream(path, std::ios::binary);
+    std::ifstream stream(path, std::ios::binary);  // tells a failure in errno
     if (!stream || !fs::is_regular_file(path, unknown)) {
         return false;
     }
@@ -138,7 +155,9 @@ Disk::Opened Disk::Lock(const fs::path& path) {
     if (handle != INVALID_HANDLE_VALUE) {
         return {Outcome::Done, reinterpret_cast<Handle>(handle)};
     }
-    return {GetLastError() == ERROR_SHARING_VIOLATION ? Outcome::Taken : Outcome::Failed};
+    const bool isTaken = GetLastError() == ERROR_SHARING_VIOLATION;
+    TellError();
+    return {isTaken ? Outcome::Taken : Outcome::Failed};
 }
 
 void Disk::Unlock(Handle lock, const fs::path& /*path*/) {

@@ -23,8 +23,8 @@ struct FileState {
 };
 
 /// The file system. Each function is one call of the system, or a few, and returns whether it
-/// succeeded. Those from Write to FlushFolder and Unlock allocate no memory. Tests override
-/// functions to make them fail.
+/// succeeded. After a failure, errno has the reason, or 0. Those from Write to FlushFolder and
+/// Unlock allocate no memory. Tests override functions to make them fail.
 class Disk {
  public:
     using Handle = std::intptr_t;

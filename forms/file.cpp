@@ -7,6 +7,7 @@
 #include "forms/form_error.h"
 #include "forms/known_files.h"
 #include "forms/path_names.h"
+#include "forms/system_call.h"
 
 namespace lumenkit::forms {
 
@@ -24,8 +25,9 @@ std::string ReadBytes(const fs::path& path) {
         throw FormError(NameOf(path),
                         "is larger than " + std::to_string(largestFile >> 20U) + " MB");
     }
-    if (!Disk::System().Read(path, bytes)) {
-        throw FormError(NameOf(path), "cannot be read");
+    SystemCall call;
+    if (!call.Run([&] { return Disk::System().Read(path, bytes); })) {
+        throw FormError(NameOf(path), "cannot be read" + call.Reason());
     }
     return bytes;
 }

@@ -14,4 +14,12 @@ FontDescription Describe(const host::Font& font) {
     return description;
 }
 
+void SetStyle(host::Font& font, const FontDescription& description) {
+    font.SetWeight(description.weight);
+    font.SetCharset(description.charset);
+    font.SetItalic(description.italic);
+    font.SetUnderline(description.underline);
+    font.SetStrikethrough(description.strikethrough);
+}
+
 }  // namespace lumenkit::forms

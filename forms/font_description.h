@@ -26,4 +26,7 @@ using FontFactory = std::function<host::FontRef(const FontDescription&)>;
 
 FontDescription Describe(const host::Font& font);
 
+/// Gives a font everything of the description but its name and size.
+void SetStyle(host::Font& font, const FontDescription& description);
+
 }  // namespace lumenkit::forms

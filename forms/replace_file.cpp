@@ -12,7 +12,7 @@ void ReplaceFile(const std::filesystem::path& path, const std::string& bytes) {
     BesideFile file(disk, place);
     file.Write(bytes, old);
     if (!file.TakePlace()) {
-        RefuseToWrite(place);
+        RefuseToWrite(place, file.Reason());
     }
 }
 

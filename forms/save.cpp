@@ -25,16 +25,18 @@ class Lock {
  public:
     Lock(Disk& disk, const Place& place) : disk_(disk), path_(place.lock) {
         constexpr int mostTries = 5000;  // with a pause of a millisecond each
-        Disk::Opened lock = disk.Lock(path_);
+        SystemCall call;
+        const auto take = [&] { return call.Run([&] { return disk.Lock(path_); }); };
+        Disk::Opened lock = take();
         for (int tries = 1; lock.outcome == Disk::Outcome::Taken; ++tries) {
             if (tries == mostTries) {
                 throw FormError(place.name, "is being saved by another program");
             }
             disk.Pause();
-            lock = disk.Lock(path_);
+            lock = take();
         }
         if (lock.outcome != Disk::Outcome::Done) {
-            RefuseToWrite(place);
+            RefuseToWrite(place, call.Reason());
         }
         handle_ = lock.handle;
     }
@@ -119,8 +121,10 @@ class Saving {
 
     Present Read(const Place& place) const {
         Present present{LookAt(disk_, place), {}};
-        if (present.state.exists && !disk_.Read(place.path, present.bytes)) {
-            throw FormError(place.name, "cannot be read");
+        SystemCall call;
+        if (present.state.exists &&
+            !call.Run([&] { return disk_.Read(place.path, present.bytes); })) {
+            throw FormError(place.name, "cannot be read" + call.Reason());
         }
         return present;
     }
@@ -152,7 +156,7 @@ class Saving {
             known.Remember(companion_->path, companion_->bytes);
             TakeBothPlaces(newForm, *newCompanion, keptCompanion);
         } else if (!newForm.TakePlace()) {
-            RefuseToWrite(form_);
+            RefuseToWrite(form_, newForm.Reason());
         }
         document_.Files() = std::move(known);
     }
@@ -207,7 +211,7 @@ class Saving {
     void TakeBothPlaces(BesideFile& newForm, BesideFile& newCompanion,
                         std::optional<BesideFile>& kept) const {
         if (!newCompanion.TakePlace()) {
-            RefuseToWrite(*companion_);
+            RefuseToWrite(*companion_, newCompanion.Reason());
         }
         if (newForm.TakePlace()) {
             return;
@@ -221,7 +225,7 @@ class Saving {
                             "former content is in " +
                                 NameOf(kept->Path().filename()));
         }
-        RefuseToWrite(form_);
+        RefuseToWrite(form_, newForm.Reason());
     }
 
     Disk& disk_;

@@ -7,6 +7,8 @@
 #include "apps/command_line/console_host.h"
 #include "apps/command_line/exit_status.h"
 #include "apps/lumenkit/commands.h"
+#include "apps/lumenkit/svg/drawn_caption.h"
+#include "apps/lumenkit/svg_options.h"
 #include "apps/lumenkit/text_input.h"
 #include "frame/utf8.h"
 #include "vlabel/caption_compiler.h"
@@ -19,6 +21,8 @@ namespace {
 struct CompileOptions {
     std::string file = "-";
     bool json = false;
+    bool svg = false;
+    svg::LabelLook look;  // of the drawing
 };
 
 constexpr int outputVersion = 1;  // docs/json.md says when it changes
@@ -39,18 +43,19 @@ Json ToJson(const CompiledCaption& compiled) {
     return {{"version", outputVersion}, {"lines", lines}, {"commands", commands}};
 }
 
+std::string CompiledForm(ModuleErrors& errors, TextView caption, bool json) {
+    const Module module(errors, u"VLABEL");
+    CaptionCompiler compiler(module);
+    compiler.CompileCaption(caption);
+    return json ? ToJson(compiler.Compiled()).dump() + '\n' : DumpCaption(compiler.Compiled());
+}
+
 int Compile(const CompileOptions& options) {
     const Text caption = ReadText(options.file);
     ConsoleHost host;
     ModuleErrors errors(host, host);
-    const Module module(errors, u"VLABEL");
-    CaptionCompiler compiler(module);
-    compiler.CompileCaption(caption);
-    if (options.json) {
-        std::cout << ToJson(compiler.Compiled()).dump() << '\n';
-    } else {
-        std::cout << DumpCaption(compiler.Compiled());
-    }
+    std::cout << (options.svg ? svg::DrawnCaption(errors, caption, options.look).ToSvg()
+                              : CompiledForm(errors, caption, options.json));
     if (!std::cout.flush()) {
         std::cerr << "lumenkit: cannot write the compiled caption\n";
         return exitUnusable;
@@ -69,16 +74,19 @@ void AddCompileCommand(CLI::App& program, int& status) {
                         "One line break at the end is not part of the caption");
     CLI::Option* const json =
         command->add_flag("--json", options->json, "Print the lines and commands as JSON");
-    command->add_flag("--text")
-        ->description("Print each line with its commands below it (the default)")
-        ->excludes(json);
+    CLI::Option* const text =
+        command->add_flag("--text")
+            ->description("Print each line with its commands below it (the default)")
+            ->excludes(json);
+    AddSvgOptions(*command, options->svg, options->look)->excludes(json)->excludes(text);
     command->footer(
-        "Exit status: 0 on success, 1 if the compiler reported an error (the compiled part "
-        "is still printed), 2 if the caption cannot be read or the result cannot be written.\n"
+        "Exit status: 0 on success, 1 if compiling or drawing reported an error (the rest is still "
+        "printed), 2 if the caption cannot be read or the result cannot be written.\n"
         "\n"
         "Examples:\n"
         "  lumenkit compile samples/captions/headline.txt\n"
-        "  echo '|B:1|Note:|B:0| mind the gap' | lumenkit compile --json");
+        "  echo '|B:1|Note:|B:0| mind the gap' | lumenkit compile --json\n"
+        "  lumenkit compile --svg --font Arial,12 caption.txt >caption.svg");
     command->callback([options, &status] { status = Compile(*options); });
 }
 

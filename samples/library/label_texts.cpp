@@ -34,8 +34,7 @@ void PrintLabels(const forms::Document& document) {
     memory::Form form(lumenkitClasses);
     const auto makeFont = [&form](const forms::FontDescription& description) {
         auto font = form.NewFont(description.name, description.size);
-        font->SetWeight(description.weight);
-        font->SetItalic(description.italic);
+        forms::SetStyle(*font, description);
         return font;
     };
     for (forms::Block* block : forms::AllControls(document.Root())) {

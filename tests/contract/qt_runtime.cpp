@@ -31,11 +31,7 @@ namespace {
 
 host::FontRef MakeFont(const forms::FontDescription& description) {
     const auto font = std::make_shared<qt::Font>(description.name, description.size);
-    font->SetWeight(description.weight);
-    font->SetCharset(description.charset);
-    font->SetItalic(description.italic);
-    font->SetUnderline(description.underline);
-    font->SetStrikethrough(description.strikethrough);
+    forms::SetStyle(*font, description);
     return font;
 }
 

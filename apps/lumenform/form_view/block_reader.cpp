@@ -11,11 +11,7 @@ namespace lumenkit::lumenform {
 
 std::shared_ptr<qt::Font> MakeFont(const forms::FontDescription& description) {
     auto font = std::make_shared<qt::Font>(description.name, description.size);
-    font->SetCharset(description.charset);
-    font->SetWeight(description.weight);
-    font->SetUnderline(description.underline);
-    font->SetItalic(description.italic);
-    font->SetStrikethrough(description.strikethrough);
+    forms::SetStyle(*font, description);
     return font;
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QPushButton>
+#include <utility>
 
 #include "apps/lumenform/form_view/push_look.h"
 
@@ -15,7 +16,7 @@ class CommandButton final : public QPushButton {
         bool escape = false;
     };
 
-    explicit CommandButton(const PushLook& look) : look_(look) {}
+    explicit CommandButton(PushLook look) : look_(std::move(look)) {}
 
     void SetKeys(Keys keys);
     bool IsPressedBy(int key) const;

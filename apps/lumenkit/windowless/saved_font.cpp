@@ -4,11 +4,7 @@ namespace lumenkit::windowless {
 
 host::FontRef SavedFont(const memory::Form& form, const forms::FontDescription& description) {
     auto font = form.NewFont(description.name, description.size);
-    font->SetWeight(description.weight);
-    font->SetCharset(description.charset);
-    font->SetItalic(description.italic);
-    font->SetUnderline(description.underline);
-    font->SetStrikethrough(description.strikethrough);
+    forms::SetStyle(*font, description);
     return font;
 }
 

@@ -94,7 +94,8 @@ TEST(CheckCommand, GoesOnBehindAFormThatCannotBeRead) {
         "broken/lost.frm:3:25: warning: memLost: no label with a text is directly before the memo "
         "in "
         "the tab order; screen readers have no name for it [unnamed-control]\n"
-        "broken/lost.frm:4:27: warning: memLost.Text: lost.frx cannot be read; its texts and "
+        "broken/lost.frm:4:27: warning: memLost.Text: lost.frx cannot be read: No such file or "
+        "directory; its texts and "
         "pictures "
         "are missing "
         "[not-understood]\n"
@@ -149,7 +150,7 @@ TEST(CheckCommand, ReadsACaptionFromTheStandardInput) {
 
 TEST(CheckCommand, SaysWhichInputsCannotBeRead) {
     const Outcome form = RunProgram("check no/such.frm " + here + "forms/good.frm");
-    EXPECT_EQ(form.errors, "lumenkit: no/such.frm: cannot be read\n");
+    EXPECT_EQ(form.errors, "lumenkit: no/such.frm: cannot be read: No such file or directory\n");
     EXPECT_EQ(form.output, "1 file checked: 0 findings, 1 error\n");
     EXPECT_EQ(form.status, 2);
     const Outcome caption = RunProgram("check --caption no/such.txt");
@@ -309,7 +310,8 @@ TEST_F(CheckFolder, WaitsForNoPipe) {
     ASSERT_EQ(mkfifo((folder / "pipe.frm").c_str(), 0600), 0);
     fs::create_symlink("nowhere", folder / "link.frm");
     const Outcome outcome = Check();
-    EXPECT_EQ(outcome.errors, "lumenkit: " + (folder / "link.frm").string() + ": cannot be read\n");
+    EXPECT_EQ(outcome.errors, "lumenkit: " + (folder / "link.frm").string() +
+                                  ": cannot be read: No such file or directory\n");
     EXPECT_EQ(outcome.output, "0 files checked: 0 findings, 1 error\n");
 }
 

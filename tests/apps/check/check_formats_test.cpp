@@ -73,7 +73,8 @@ TEST(GithubFormat, HasACommandForEachFinding) {
 
 TEST(GithubFormat, EscapesWhatWouldEndACommand) {
     const Outcome outcome = RunProgram("check --format github \"$(printf 'a,b:c%%\\033.frm')\"");
-    EXPECT_EQ(outcome.output, "::error file=a%2Cb%3Ac%25%1B.frm::cannot be read\n");
+    EXPECT_EQ(outcome.output,
+              "::error file=a%2Cb%3Ac%25%1B.frm::cannot be read: No such file or directory\n");
     EXPECT_EQ(outcome.status, 2);
 }
 

@@ -99,7 +99,8 @@ TEST_F(RenderCommand, DrawsAFormWithOddValuesAndTellsWhereTheyAre) {
 TEST_F(RenderCommand, SaysWhatItCannotReadOrWrite) {
     const Outcome missing = Render("no/such.frm");
     EXPECT_EQ(missing.status, 2);
-    EXPECT_EQ(missing.errors, "lumenform: no/such.frm: cannot be read\n");
+    EXPECT_EQ(missing.errors,
+              "lumenform: no/such.frm: cannot be read: No such file or directory\n");
 
     const Outcome unwritable =
         RunProgram("render " + (sampleForms / "label.frm").string() + " -o /no/such/picture.png");

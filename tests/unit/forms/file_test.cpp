@@ -84,7 +84,7 @@ TEST_F(FileTest, ReplacesBothFilesAndLeavesNothingElse) {
 
 TEST_F(FileTest, LoadingTellsWhatCannotBeRead) {
     const fs::path missing = folder / "missing.frm";
-    EXPECT_EQ(LoadError(missing), missing.string() + ": cannot be read");
+    EXPECT_EQ(LoadError(missing), missing.string() + ": cannot be read: No such file or directory");
     EXPECT_EQ(LoadError(folder), folder.string() + ": is not a plain file");
 }
 
@@ -136,8 +136,9 @@ TEST_F(FileTest, AFormOpensWithoutItsCompanion) {
     WriteFile(path, form);
     const Document document = Load(path);
     EXPECT_THAT(document.Warnings(),
-                ElementsAre(Warning{
-                    {33, 27}, "memo.frx cannot be read; its texts and pictures are missing"}));
+                ElementsAre(Warning{{33, 27},
+                                    "memo.frx cannot be read: No such file or directory; its texts "
+                                    "and pictures are missing"}));
     Block& memo = Find(document, {u"VMemo1"});
     EXPECT_EQ(document.TextOf(*memo.FindProperty(u"Text")), u"");
     memo.Set(u"Left", NumberLiteral(1.0F));
@@ -293,7 +294,8 @@ TEST_F(FileTest, AFormThatCannotBeWrittenLeavesTheOldOne) {
 
 TEST_F(FileTest, AFolderThatIsNotThereTakesNothing) {
     const fs::path path = folder / "none" / "memo.frm";
-    EXPECT_EQ(SaveError(Sample("memo.frm").Parse(), path), path.string() + ": cannot be written");
+    EXPECT_EQ(SaveError(Sample("memo.frm").Parse(), path),
+              path.string() + ": cannot be written: No such file or directory");
     EXPECT_TRUE(Names().empty());
 }
 

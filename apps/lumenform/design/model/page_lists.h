@@ -28,7 +28,7 @@ class PageLists {
 
  private:
     struct Box {
-        int current;
+        int current = 0;
         std::map<const forms::Block*, Text> controls;  // with their names in code
     };
 

@@ -58,11 +58,11 @@ class TabPages final : public QWidget, public qt::SelfDescribing {
 
  private:
     struct Tab {
-        int page;
-        int row;  // 0 is next to the page
+        int page = 0;
+        int row = 0;  // 0 is next to the page
         QRect rect;
-        bool isFirst;
-        bool isLast;
+        bool isFirst = false;
+        bool isLast = false;
     };
 
     bool IsVertical() const;
