@@ -199,6 +199,14 @@ bool Block::RemoveControl(const Block& control) {
     return true;
 }
 
+void Block::RemoveControls(const std::function<bool(const Block& control)>& isMeant) {
+    ItemsChanged();
+    std::erase_if(items_, [&](const Item& item) {
+        const Block* control = AsBlock(item, BlockKind::Control);
+        return control != nullptr && isMeant(*control);
+    });
+}
+
 bool Block::MoveControl(const Block& control, const Block* before) {
     const auto found = FindControl(control);
     if (found == items_.end()) {

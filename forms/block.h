@@ -3,6 +3,7 @@
 #pragma once
 
 #include <cstddef>
+#include <functional>
 #include <memory>
 #include <variant>
 #include <vector>
@@ -83,6 +84,8 @@ class Block {
     /// Removes one of Controls() with its contents. Returns false when `control` is not one of
     /// them.
     bool RemoveControl(const Block& control);
+    /// Removes those of Controls() that `isMeant` accepts, with their contents.
+    void RemoveControls(const std::function<bool(const Block& control)>& isMeant);
     /// Moves one of Controls() before another one, or to the end. Returns false when `control` is
     /// not one of them.
     bool MoveControl(const Block& control, const Block* before);

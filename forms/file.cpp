@@ -24,6 +24,11 @@ bool IsChanged(const KnownFiles& files, const fs::path& path) {
 }  // namespace
 
 Document Load(const fs::path& path, int codePage) {
+    FolderNames folders;
+    return Load(path, codePage, folders);
+}
+
+Document Load(const fs::path& path, int codePage, FolderNames& folders) {
     KnownFiles files;
     const auto read = [&](const fs::path& file) {
         std::string bytes = ReadPlainFile(file);
@@ -33,7 +38,8 @@ Document Load(const fs::path& path, int codePage) {
     const std::string form = read(path);
     const auto readCompanion = [&](const std::string& name) {
         const CompanionName companion{name, Encoding::Of(form, codePage).NameBytes(name)};
-        return read(CompanionPath(path, companion, [](const fs::path&) { return true; }));
+        return read(CompanionPath(
+            path, companion, [](const fs::path&) { return true; }, folders));
     };
     Document document = Document::Parse(NameOf(path), form, readCompanion, codePage);
     document.Files() = std::move(files);

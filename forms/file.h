@@ -4,6 +4,7 @@
 #include <filesystem>
 
 #include "forms/document.h"
+#include "forms/folder_names.h"
 #include "forms/save.h"
 
 namespace lumenkit::forms {
@@ -14,6 +15,9 @@ namespace lumenkit::forms {
 /// largestFile (forms/plain_file.h) or is no plain file, such as a folder or a pipe. Such a
 /// companion leaves a warning in the document.
 Document Load(const std::filesystem::path& path, int codePage = guessedCodePage);
+/// The same for one of many forms: a companion that is not there under its exact name is sought in
+/// `folders`.
+Document Load(const std::filesystem::path& path, int codePage, FolderNames& folders);
 
 /// Writes a form and, if it has one, the companion next to it. Each new file is first written next
 /// to the old one under a unique name and then replaces it, the companion before the form. Each

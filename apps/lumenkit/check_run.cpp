@@ -108,7 +108,7 @@ void CheckRun::CheckForm(const std::string& file, Result& result) const {
     }
     const forms::Document form =
         result.input ? forms::Document::Parse(file, *result.input, {}, options_.codePage)
-                     : forms::Load(file, options_.codePage);
+                     : forms::Load(file, options_.codePage, folders_);
     if (const std::optional<forms::CodePageGuess>& guess = form.Guess()) {
         result.note = {form.Name(), guess->place,
                        TextOf(*guess) + "; --code-page names another one"};

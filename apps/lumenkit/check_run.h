@@ -15,6 +15,7 @@
 #include "apps/lumenkit/check/selection.h"
 #include "apps/lumenkit/file_fixer.h"
 #include "forms/encoding.h"
+#include "forms/folder_names.h"
 
 namespace lumenkit::cli {
 
@@ -66,6 +67,7 @@ class CheckRun {
     const CheckOptions& options_;
     check::Reporter& reporter_;
     check::ExceptionFiles exceptions_;
+    mutable forms::FolderNames folders_;  // of the forms
     std::optional<check::Baseline> known_;
     std::optional<check::Baseline> written_;
     std::size_t checked_ = 0;

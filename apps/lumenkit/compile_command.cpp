@@ -25,6 +25,8 @@ struct CompileOptions {
     svg::LabelLook look;  // of the drawing
 };
 
+constexpr int outputVersion = 1;  // docs/json.md says when it changes
+
 // Keeps the members in insertion order.
 using Json = nlohmann::ordered_json;
 
@@ -38,7 +40,7 @@ Json ToJson(const CompiledCaption& compiled) {
         commands.push_back({{"name", ToUtf8(compiled.CommandNames.Item(i))},
                             {"parameter", ToUtf8(compiled.CommandParams.Item(i))}});
     }
-    return {{"lines", lines}, {"commands", commands}};
+    return {{"version", outputVersion}, {"lines", lines}, {"commands", commands}};
 }
 
 std::string CompiledForm(ModuleErrors& errors, TextView caption, bool json) {

@@ -25,6 +25,7 @@ Answers: {"ok":true,"value":...,"log":[...]} or
 Requests (keys after the bar are optional):
   {"do":"new","class","id" | "mode","bag","width","height","tag"}    create a control
   {"do":"new","class":"VLabelCaption","id","select":[ID...]}         open the caption page
+  {"do":"drop","id"}                               end a control or a page
   {"do":"get","id","name" | "dispid","index"}      read a property
   {"do":"let","id","name","value" | "dispid","index"}  assign a property
   {"do":"call","id","name" | "dispid","args"}      call a method
@@ -44,6 +45,7 @@ Requests (keys after the bar are optional):
   {"do":"allow","id","name","value"}               allow or refuse changes of a property
   {"do":"form","file" | "mode","codePage"}         load a form with its controls
   {"do":"write","file"}                            save the form with the current values
+  {"do":"version"}                                 return the version of the answers
   {"do":"quit"}                                    end the program
 
 "on" is the name of a constituent, such as "Text1(0)". Without "on", a request

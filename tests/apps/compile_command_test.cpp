@@ -37,19 +37,21 @@ TEST(CompileCommand, PrintsTextWhenAskedTo) {
 }
 
 TEST(CompileCommand, PrintsJson) {
-    EXPECT_EQ(RunProgram("compile --json " + samples + "quotes.txt").output,
-              R"({"lines":["She said \"Grüß Gott, 世界\" and left.","\"|Bold|\" inside quotes."],)"
-              R"("commands":[{"name":"b","parameter":"1"},{"name":"b","parameter":"0"}]})"
-              "\n");
+    EXPECT_EQ(
+        RunProgram("compile --json " + samples + "quotes.txt").output,
+        R"({"version":1,"lines":["She said \"Grüß Gott, 世界\" and left.","\"|Bold|\" inside quotes."],)"
+        R"("commands":[{"name":"b","parameter":"1"},{"name":"b","parameter":"0"}]})"
+        "\n");
 }
 
 TEST(CompileCommand, PrintsJsonOfTheEmptyCaption) {
-    EXPECT_EQ(RunProgram("compile --json").output, "{\"lines\":[\"\"],\"commands\":[]}\n");
+    EXPECT_EQ(RunProgram("compile --json").output,
+              "{\"version\":1,\"lines\":[\"\"],\"commands\":[]}\n");
 }
 
 TEST(CompileCommand, PrintsStoredForms) {
     EXPECT_EQ(RunProgram("compile --json " + samples + "sizes.txt").output,
-              R"({"lines":["|small |medium |LARGE",)"
+              R"({"version":1,"lines":["|small |medium |LARGE",)"
               R"("The size of |one| word lengthens its line."],"commands":[)"
               R"({"name":"size","parameter":" 8"},{"name":"size","parameter":" 10.5"},)"
               R"({"name":"size","parameter":" 24"},{"name":"size","parameter":" 24"},)"
@@ -104,8 +106,9 @@ TEST(CompileCommand, ReportsOverflowAndPrintsTheRest) {
 
 TEST(CompileCommand, ReportsACaptionThatIsTooLong) {
     const Outcome outcome = RunProgram("compile --json", "|b:1|a|CR|" + std::string(32768, 'x'));
-    EXPECT_EQ(outcome.output,
-              "{\"lines\":[\"|a\"],\"commands\":[{\"name\":\"b\",\"parameter\":\"1\"}]}\n");
+    EXPECT_EQ(
+        outcome.output,
+        "{\"version\":1,\"lines\":[\"|a\"],\"commands\":[{\"name\":\"b\",\"parameter\":\"1\"}]}\n");
     EXPECT_THAT(outcome.errors, HasSubstr("\nProc = CompileCaption\n"));
     EXPECT_EQ(outcome.status, 1);
 }

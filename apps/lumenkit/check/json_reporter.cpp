@@ -7,6 +7,8 @@ namespace {
 
 using Json = nlohmann::ordered_json;
 
+constexpr int reportVersion = 1;  // docs/json.md says when it changes
+
 Json ToJson(const Finding& finding) {
     Json json = {{"rule", finding.rule},
                  {"severity", NameOf(SeverityOf(finding))},
@@ -65,7 +67,8 @@ void JsonReporter::Report(const FileError& error) {
 }
 
 void JsonReporter::Finish(std::size_t files) {
-    Json report = {{"files", files}, {"findings", findings_}, {"errors", errors_}};
+    Json report = {
+        {"version", reportVersion}, {"files", files}, {"findings", findings_}, {"errors", errors_}};
     if (showsFixes_) {
         report["fixed"] = fixed_;
     }

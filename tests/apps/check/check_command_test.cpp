@@ -131,7 +131,7 @@ TEST(CheckCommand, SaysSoWhenNothingIsWrong) {
     EXPECT_EQ(form.output, "1 file checked: 0 findings\n");
     EXPECT_EQ(form.status, 0);
     const Outcome caption = RunProgram("check --json --caption " + here + "captions/good.txt");
-    EXPECT_EQ(caption.output, "{\"files\":1,\"findings\":[],\"errors\":[]}\n");
+    EXPECT_EQ(caption.output, "{\"version\":1,\"files\":1,\"findings\":[],\"errors\":[]}\n");
     EXPECT_EQ(caption.status, 0);
 }
 
