@@ -7,8 +7,8 @@
 #include <vector>
 
 #include "apps/command_line/exit_status.h"
+#include "apps/command_line/help_formatter.h"
 #include "apps/command_line/spelling/nearest.h"
-#include "apps/command_line/wrapped.h"
 #include "frame/utf8.h"
 
 namespace lumenkit::cli {
@@ -42,24 +42,6 @@ std::string Question(const std::string& written, const std::vector<std::string>&
     const TextView nearest = Nearest(text, views);
     return nearest.empty() ? std::string() : "; did you mean \"" + ToUtf8(nearest) + "\"?";
 }
-
-class Formatter final : public CLI::Formatter {
- public:
-    std::string make_option_desc(const CLI::Option* option) const override {
-        return Wrapped(CLI::Formatter::make_option_desc(option), terminalWidth - column_width_);
-    }
-    std::string make_description(const CLI::App* app) const override {
-        return Wrapped(app->get_description(), terminalWidth) + '\n';
-    }
-    std::string make_subcommand(const CLI::App* command) const override {
-        std::string line = "  " + command->get_name();
-        line.resize(std::max(line.size() + 2, column_width_), ' ');
-        return FittedToTerminal(line + command->get_description()) + '\n';
-    }
-    std::string make_footer(const CLI::App* app) const override {
-        return FittedToTerminal(CLI::Formatter::make_footer(app));
-    }
-};
 
 std::vector<std::string> CommandNames(const CLI::App& program) {
     std::vector<std::string> names;
@@ -180,7 +162,7 @@ class Call {
 
 void SetUpProgram(CLI::App& program, const std::string& version) {
     program.set_version_flag("--version", program.get_name() + ' ' + version);
-    program.formatter(std::make_shared<Formatter>());
+    program.formatter(std::make_shared<HelpFormatter>());
 }
 
 int RunProgram(CLI::App& program, int argc, char** argv, const int& status,

@@ -5,6 +5,7 @@
 #include <system_error>
 
 #include "apps/command_line/exit_status.h"
+#include "apps/command_line/help_formatter.h"
 #include "apps/lumenform/commands.h"
 #include "apps/lumenform/design/model/new_form.h"
 #include "forms/file.h"
@@ -44,13 +45,15 @@ void AddNewCommand(CLI::App& program, int& status) {
         ->add_option("NAME", *file,
                      "The file to create, NAME.frm; an existing file is not overwritten")
         ->required();
-    command->footer(
-        R"(The form is named after its file. It refers to lumenkit.ocx, so that it can contain the
-controls.
-
-Examples:
-  lumenform new order.frm
-  lumenform new order.frm && lumenform render order.frm -o order.png)");
+    cli::SetNotes(
+        *command,
+        {.sections = {{.text = "The form is named after its file. It refers to lumenkit.ocx, so "
+                               "that it can contain the controls."}},
+         .exitStatuses = {{cli::exitDone, "the form was written"},
+                          {cli::exitUnusable,
+                           "wrong arguments, or the file is there already or cannot be written"}},
+         .examples = {"lumenform new order.frm",
+                      "lumenform new order.frm && lumenform render order.frm -o order.png"}});
     command->callback([file, &status] { status = Create(*file); });
 }
 

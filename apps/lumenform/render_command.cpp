@@ -7,6 +7,7 @@
 #include "apps/command_line/code_page_option.h"
 #include "apps/command_line/console_host.h"
 #include "apps/command_line/exit_status.h"
+#include "apps/command_line/help_formatter.h"
 #include "apps/lumenform/commands.h"
 #include "apps/lumenform/desktop.h"
 #include "apps/lumenform/form_view/form_view.h"
@@ -119,14 +120,20 @@ void AddRenderCommand(CLI::App& program, int& status) {
         ->needs(design);
     command->add_flag("--dark", options->dark, "Use a dark palette");
     cli::AddCodePageOption(*command, options->codePage);
-    command->footer(
-        R"(The picture shows the client area and the menus of the form, without the title bar, at 96
-pixels per inch. No display is needed.
-
-Examples:
-  lumenform render samples/forms/all_three.frm -o all_three.png
-  lumenform render samples/forms/memo.frm -o memo.png --scale 1.25 --dark
-  lumenform render samples/forms/order.frm -o designer.png --design --page)");
+    cli::SetNotes(
+        *command,
+        {.sections = {{.text = "The picture shows the client area and the menus of the form, "
+                               "without the title bar, at 96 pixels per inch. No display is "
+                               "needed."}},
+         .exitStatuses = {{cli::exitDone, "the picture was written"},
+                          {cli::exitReported,
+                           "a control reported an error; the picture was written"},
+                          {cli::exitUnusable,
+                           "wrong arguments, the form cannot be read, or the picture cannot be "
+                           "written"}},
+         .examples = {"lumenform render samples/forms/all_three.frm -o all_three.png",
+                      "lumenform render samples/forms/memo.frm -o memo.png --scale 1.25 --dark",
+                      "lumenform render samples/forms/order.frm -o designer.png --design --page"}});
     command->callback([options, &status] {
         if (options->form.empty() && !options->design) {
             throw CLI::RequiredError("FORM");

@@ -6,6 +6,7 @@
 
 #include "apps/command_line/code_page_option.h"
 #include "apps/command_line/exit_status.h"
+#include "apps/command_line/help_formatter.h"
 #include "apps/lumenkit/check/quote.h"
 #include "apps/lumenkit/check/reporter.h"
 #include "apps/lumenkit/check/rules.h"
@@ -118,32 +119,32 @@ void AddSelectionOptions(CLI::App& command, CheckArguments& arguments) {
         ->option_text("FILE");
 }
 
-std::string Help() {
-    std::string help = "Rules and their names in findings:\n";
+Section RuleSection() {
+    Section section{.heading = "Rules and their names in findings"};
     for (const check::Rule& rule : check::allRules) {
-        constexpr std::size_t column = 26;
-        constexpr std::size_t meaningColumn = 33;
-        std::string line = "  " + std::string(rule.name);
-        line.resize(column, ' ');
-        line += NameOf(rule.severity);
-        line.resize(meaningColumn, ' ');
-        help += line + "  " + std::string(rule.meaning) + '\n';
+        section.entries.push_back(
+            {std::string(rule.name),
+             std::string(rule.meaning) + " (" + std::string(NameOf(rule.severity)) + ')'});
     }
-    return help +
-           "\n"
-           "Lines and columns count from 1, offsets in a text from 0. Columns and offsets "
-           "are in UTF-16 units. A text in a binary companion file is reported at the place "
-           "of its property. See docs/check.md for details.\n"
-           "\n"
-           "Exit status: 0 without findings, 1 with findings, 2 if a file could not be read "
-           "(all other files are checked) or the findings could not be written.\n"
-           "\n"
-           "Examples:\n"
-           "  lumenkit check order.frm\n"
-           "  lumenkit check --json src/forms\n"
-           "  lumenkit check --code-page 1250 polish.frm\n"
-           "  lumenkit check --caption samples/captions/mistakes.txt\n"
-           "  echo '|Blod:1|Hello' | lumenkit check --caption -";
+    return section;
+}
+
+Notes CheckNotes() {
+    return {
+        .sections = {RuleSection(),
+                     {.text = "Lines and columns count from 1, offsets in a text from 0. Columns "
+                              "and offsets are in UTF-16 units. A text in a binary companion "
+                              "file is reported at the place of its property. See "
+                              "docs/check.md for details."}},
+        .exitStatuses = {{exitDone, "no findings"},
+                         {exitReported, "findings"},
+                         {exitUnusable,
+                          "wrong arguments, a file could not be read (all other files are "
+                          "checked), or the findings could not be written"}},
+        .examples = {"lumenkit check order.frm", "lumenkit check --json src/forms",
+                     "lumenkit check --code-page 1250 polish.frm",
+                     "lumenkit check --caption samples/captions/mistakes.txt",
+                     "echo '|Blod:1|Hello' | lumenkit check --caption -"}};
 }
 
 }  // namespace
@@ -169,7 +170,7 @@ void AddCheckCommand(CLI::App& program, int& status) {
         ->check(CLI::Range(1, 1024))
         ->option_text("N");
     AddCodePageOption(*command, options->codePage);
-    command->footer(Help());
+    SetNotes(*command, CheckNotes());
     command->callback([options, &status] { status = Check(*options); });
 }
 

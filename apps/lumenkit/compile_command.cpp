@@ -6,6 +6,7 @@
 
 #include "apps/command_line/console_host.h"
 #include "apps/command_line/exit_status.h"
+#include "apps/command_line/help_formatter.h"
 #include "apps/lumenkit/commands.h"
 #include "apps/lumenkit/text_input.h"
 #include "frame/utf8.h"
@@ -70,13 +71,16 @@ void AddCompileCommand(CLI::App& program, int& status) {
     command->add_flag("--text")
         ->description("Print each line with its commands below it (the default)")
         ->excludes(json);
-    command->footer(
-        "Exit status: 0 on success, 1 if the compiler reported an error (the compiled part "
-        "is still printed), 2 if the caption cannot be read or the result cannot be written.\n"
-        "\n"
-        "Examples:\n"
-        "  lumenkit compile samples/captions/headline.txt\n"
-        "  echo '|B:1|Note:|B:0| mind the gap' | lumenkit compile --json");
+    SetNotes(
+        *command,
+        {.exitStatuses = {{exitDone, "success"},
+                          {exitReported,
+                           "the compiler reported an error; the compiled part is still printed"},
+                          {exitUnusable,
+                           "wrong arguments, the caption cannot be read, or the result cannot "
+                           "be written"}},
+         .examples = {"lumenkit compile samples/captions/headline.txt",
+                      "echo '|B:1|Note:|B:0| mind the gap' | lumenkit compile --json"}});
     command->callback([options, &status] { status = Compile(*options); });
 }
 

@@ -5,6 +5,7 @@
 #include <CLI/CLI.hpp>
 
 #include "apps/command_line/exit_status.h"
+#include "apps/command_line/help_formatter.h"
 #include "apps/command_line/program.h"
 #include "apps/lumenkit/commands.h"
 
@@ -19,11 +20,16 @@ int Run(int argc, char** argv) {
         "lumenkit");
     SetUpProgram(program, LUMENKIT_VERSION);
     program.require_subcommand(1);
-    program.footer(R"(Examples:
-  lumenkit compile samples/captions/headline.txt
-  lumenkit check samples/forms
-  echo '{"do":"new","class":"VMemo","id":"m"}' | lumenkit drive
-  lumenkit compile --help)");
+    SetNotes(
+        program,
+        {.exitStatuses = {{exitDone, "success"},
+                          {exitReported, "check found mistakes, or a control reported an error"},
+                          {exitUnusable,
+                           "wrong arguments, or files that cannot be read or written"}},
+         .examples = {"lumenkit compile samples/captions/headline.txt",
+                      "lumenkit check samples/forms",
+                      R"(echo '{"do":"new","class":"VMemo","id":"m"}' | lumenkit drive)",
+                      "lumenkit compile --help"}});
     int status = exitDone;
     AddCheckCommand(program, status);
     AddCompileCommand(program, status);
