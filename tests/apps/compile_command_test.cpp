@@ -167,7 +167,7 @@ TEST(Program, NamesAWrongWordAndOffersTheNearest) {
     EXPECT_EQ(errors("check"), "lumenkit check: PATH is required");
     EXPECT_EQ(errors("compile a b"), "lumenkit compile: did not expect \"b\"");
     EXPECT_EQ(errors("\"$(printf 'dr\\033[2Jaw\\377')\""),
-              "lumenkit: there is no command \"dr [2Jaw?\"");
+              "lumenkit: there is no command \"dr\\u001B[2Jaw\xEF\xBF\xBD\"");
 }
 
 TEST(Program, HelpIsACommandToo) {

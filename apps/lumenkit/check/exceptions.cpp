@@ -8,7 +8,7 @@
 
 #include <fnmatch.h>
 
-#include "apps/lumenkit/check/quote.h"
+#include "apps/command_line/spelling/printable.h"
 #include "apps/lumenkit/check/rules.h"
 #include "frame/text.h"
 #include "frame/utf8.h"

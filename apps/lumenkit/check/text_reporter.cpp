@@ -1,7 +1,8 @@
 #include <array>
 
+#include "apps/command_line/spelling/printable.h"
+#include "apps/command_line/spelling/suggestion.h"
 #include "apps/lumenkit/check/finding_text.h"
-#include "apps/lumenkit/check/quote.h"
 #include "apps/lumenkit/check/reporter.h"
 #include "apps/lumenkit/check/rules.h"
 
@@ -48,11 +49,8 @@ void TextReporter::Report(const Finding& finding) {
         }
         output_ << ": ";
     }
-    output_ << finding.message;
-    if (!finding.suggestion.empty()) {
-        output_ << "; did you mean \"" << Printable(finding.suggestion) << "\"?";
-    }
-    output_ << ' ' << Colored(colors_.output, dim, '[' + std::string(finding.rule) + ']') << '\n';
+    output_ << finding.message << DidYouMean(Printable(finding.suggestion)) << ' '
+            << Colored(colors_.output, dim, '[' + std::string(finding.rule) + ']') << '\n';
 }
 
 void TextReporter::Report(const Findings& findings) {
