@@ -13,7 +13,23 @@ HelpFormatter& FormatterOf(const CLI::App& app) {
     return dynamic_cast<HelpFormatter&>(*app.get_formatter());
 }
 
+template <typename Key, typename Value>
+const Value& Found(const std::map<const Key*, Value>& values, const Key& key) {
+    static const Value none;
+    const auto found = values.find(&key);
+    return found == values.end() ? none : found->second;
+}
+
 }  // namespace
+
+std::string HelpFormatter::make_option_opts(const CLI::Option* option) const {
+    if (!option->nonpositional()) {
+        return {};  // the name is the placeholder
+    }
+    const std::string placeholder = PlaceholderOf(*option);
+    return (placeholder.empty() ? "" : " " + placeholder) +
+           (option->get_required() ? " (required)" : "");
+}
 
 std::string HelpFormatter::make_option_desc(const CLI::Option* option) const {
     return Wrapped(CLI::Formatter::make_option_desc(option), terminalWidth - column_width_);
@@ -35,9 +51,11 @@ std::string HelpFormatter::make_footer(const CLI::App* app) const {
 }
 
 const Notes& HelpFormatter::NotesOf(const CLI::App& app) const {
-    static const Notes none;
-    const auto found = notes_.find(&app);
-    return found == notes_.end() ? none : found->second;
+    return Found(notes_, app);
+}
+
+const Offered& HelpFormatter::OfferedFor(const CLI::Option& option) const {
+    return Found(offered_, option);
 }
 
 void SetNotes(CLI::App& app, Notes notes) {
@@ -46,6 +64,24 @@ void SetNotes(CLI::App& app, Notes notes) {
 
 const Notes& NotesOf(const CLI::App& app) {
     return FormatterOf(app).NotesOf(app);
+}
+
+void Offer(CLI::App& command, const CLI::Option& option, Offered offered) {
+    FormatterOf(command).SetOffered(option, std::move(offered));
+}
+
+const Offered& OfferedFor(const CLI::App& command, const CLI::Option& option) {
+    return FormatterOf(command).OfferedFor(option);
+}
+
+std::string PlaceholderOf(const CLI::Option& option) {
+    if (!option.nonpositional()) {
+        return option.get_name(true, false);
+    }
+    if (option.get_items_expected_max() == 0) {
+        return {};
+    }
+    return option.get_option_text().empty() ? "VALUE" : option.get_option_text();
 }
 
 }  // namespace lumenkit::cli

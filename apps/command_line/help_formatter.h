@@ -2,10 +2,12 @@
 
 #include <map>
 #include <string>
+#include <utility>
 
 #include <CLI/CLI.hpp>
 
 #include "apps/command_line/notes.h"
+#include "apps/command_line/offered.h"
 
 namespace lumenkit::cli {
 
@@ -13,6 +15,7 @@ namespace lumenkit::cli {
 /// commands share one formatter.
 class HelpFormatter final : public CLI::Formatter {
  public:
+    std::string make_option_opts(const CLI::Option* option) const override;
     std::string make_option_desc(const CLI::Option* option) const override;
     std::string make_description(const CLI::App* app) const override;
     std::string make_subcommand(const CLI::App* command) const override;
@@ -21,8 +24,14 @@ class HelpFormatter final : public CLI::Formatter {
     void SetNotes(const CLI::App& app, Notes notes) { notes_[&app] = std::move(notes); }
     const Notes& NotesOf(const CLI::App& app) const;
 
+    void SetOffered(const CLI::Option& option, Offered offered) {
+        offered_[&option] = std::move(offered);
+    }
+    const Offered& OfferedFor(const CLI::Option& option) const;
+
  private:
     std::map<const CLI::App*, Notes> notes_;
+    std::map<const CLI::Option*, Offered> offered_;
 };
 
 /// Says more about a program or a command, below its options. SetUpProgram comes first.
@@ -30,5 +39,14 @@ void SetNotes(CLI::App& app, Notes notes);
 
 /// Returns what SetNotes has set, or empty notes.
 const Notes& NotesOf(const CLI::App& app);
+
+/// Says what shells offer as the value of an option or a positional argument of the command.
+void Offer(CLI::App& command, const CLI::Option& option, Offered offered);
+
+/// Returns what Offer has set, or an empty offer.
+const Offered& OfferedFor(const CLI::App& command, const CLI::Option& option);
+
+/// Returns the word for the value of an option, "FILE", or an empty text if the option takes none.
+std::string PlaceholderOf(const CLI::Option& option);
 
 }  // namespace lumenkit::cli

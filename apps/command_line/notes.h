@@ -12,6 +12,13 @@ struct Entry {
     std::string meaning;
 };
 
+/// What shells offer where an argument is written: words, or folders and the files with one of some
+/// extensions.
+struct Offered {
+    std::vector<Entry> words = {};
+    std::vector<std::string> extensions = {};  ///< "frm"
+};
+
 /// All parts may be empty. Without a heading, a section is a paragraph of the description.
 struct Section {
     std::string heading = {};  ///< "Rules"
@@ -28,6 +35,7 @@ struct Notes {
     std::vector<Section> sections = {};
     std::vector<StatusMeaning> exitStatuses = {};
     std::vector<std::string> examples = {};  ///< for a shell; a line break continues a command
+    Offered insteadOfCommand = {};  ///< where the program takes a command; help does not show it
 };
 
 /// Returns the notes as help prints them, in lines that fit a terminal, without a final line break.

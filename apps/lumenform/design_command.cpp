@@ -4,6 +4,7 @@
 
 #include "apps/command_line/exit_status.h"
 #include "apps/command_line/help_formatter.h"
+#include "apps/command_line/offered.h"
 #include "apps/lumenform/commands.h"
 #include "apps/lumenform/design/window/design_window.h"
 #include "apps/lumenform/desktop_session.h"
@@ -38,8 +39,9 @@ int DesignForm(const DesktopOptions& options) {
 void AddDesignCommand(CLI::App& program, int& status) {
     CLI::App* const command = program.add_subcommand("design", "Edit a form in the designer");
     const auto options = std::make_shared<DesktopOptions>();
-    command->add_option("FORM", options->form,
-                        "The form (.frm, .ctl, .pag, .dob); without it, the start screen");
+    CLI::Option* const form = command->add_option(
+        "FORM", options->form, "The form (.frm, .ctl, .pag, .dob); without it, the start screen");
+    cli::Offer(*command, *form, cli::FormFiles());
     AddDesktopOptions(*command, *options);
     cli::SetNotes(
         *command,

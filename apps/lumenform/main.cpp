@@ -8,6 +8,8 @@
 
 #include "apps/command_line/exit_status.h"
 #include "apps/command_line/help_formatter.h"
+#include "apps/command_line/manual/commands.h"
+#include "apps/command_line/offered.h"
 #include "apps/command_line/program.h"
 #include "apps/lumenform/commands.h"
 
@@ -39,12 +41,15 @@ int Run(int argc, char** argv) {
          .examples = {"lumenform new order.frm", "lumenform order.frm",
                       "lumenform design order.frm", "lumenform run order.frm",
                       "lumenform render order.frm -o order.png --scale 2",
-                      "lumenform render --help"}});
+                      "lumenform render --help"},
+         .insteadOfCommand = cli::FormFiles()});
     int status = cli::exitDone;
     AddDesignCommand(program, status);
     AddNewCommand(program, status);
     AddRenderCommand(program, status);
     AddRunCommand(program, status);
+    cli::AddCompletionCommand(program, status);
+    cli::AddWriteManualCommand(program, status);
     return cli::RunProgram(program, argc, argv, status, CommandForFile);
 }
 

@@ -6,6 +6,7 @@
 
 #include "apps/command_line/exit_status.h"
 #include "apps/command_line/help_formatter.h"
+#include "apps/command_line/offered.h"
 #include "apps/lumenform/commands.h"
 #include "apps/lumenform/design/model/new_form.h"
 #include "forms/file.h"
@@ -41,10 +42,12 @@ int Create(const std::string& file) {
 void AddNewCommand(CLI::App& program, int& status) {
     CLI::App* const command = program.add_subcommand("new", "Write an empty form");
     const auto file = std::make_shared<std::string>();
-    command
-        ->add_option("NAME", *file,
-                     "The file to create, NAME.frm; an existing file is not overwritten")
-        ->required();
+    CLI::Option* const name =
+        command
+            ->add_option("NAME", *file,
+                         "The file to create, NAME.frm; an existing file is not overwritten")
+            ->required();
+    cli::Offer(*command, *name, cli::FilesNamed({"frm"}));
     cli::SetNotes(
         *command,
         {.sections = {{.text = "The form is named after its file. It refers to lumenkit.ocx, so "

@@ -2,6 +2,7 @@
 
 #include "apps/command_line/exit_status.h"
 #include "apps/command_line/help_formatter.h"
+#include "apps/command_line/offered.h"
 #include "apps/lumenform/commands.h"
 #include "apps/lumenform/desktop_session.h"
 #include "apps/lumenform/run/run_window.h"
@@ -28,7 +29,9 @@ void AddRunCommand(CLI::App& program, int& status) {
     CLI::App* const command =
         program.add_subcommand("run", "Show a form as its users see it, with a log of its events");
     const auto options = std::make_shared<DesktopOptions>();
-    command->add_option("FORM", options->form, "The form (.frm, .ctl, .pag, .dob)")->required();
+    CLI::Option* const form =
+        command->add_option("FORM", options->form, "The form (.frm, .ctl, .pag, .dob)")->required();
+    cli::Offer(*command, *form, cli::FormFiles());
     AddDesktopOptions(*command, *options);
     cli::SetNotes(
         *command,

@@ -2,6 +2,7 @@
 
 #include <iostream>
 #include <new>
+#include <stdexcept>
 #include <string>
 #include <utility>
 
@@ -44,8 +45,7 @@ int CheckRun::Run() {
     CheckFiles(inputs.files);
     reporter_.Finish(checked_);
     if (!std::cout.flush()) {
-        std::cerr << "lumenkit: cannot write the findings\n";
-        return exitUnusable;
+        throw std::runtime_error("cannot write the findings");
     }
     if (written_) {
         written_->Write();

@@ -1,5 +1,6 @@
 #include <iostream>
 #include <memory>
+#include <stdexcept>
 #include <string>
 
 #include <nlohmann/json.hpp>
@@ -7,6 +8,7 @@
 #include "apps/command_line/console_host.h"
 #include "apps/command_line/exit_status.h"
 #include "apps/command_line/help_formatter.h"
+#include "apps/command_line/offered.h"
 #include "apps/lumenkit/commands.h"
 #include "apps/lumenkit/text_input.h"
 #include "frame/utf8.h"
@@ -51,8 +53,7 @@ int Compile(const CompileOptions& options) {
         std::cout << DumpCaption(compiler.Compiled());
     }
     if (!std::cout.flush()) {
-        std::cerr << "lumenkit: cannot write the compiled caption\n";
-        return exitUnusable;
+        throw std::runtime_error("cannot write the compiled caption");
     }
     return host.HasReported() ? exitReported : exitDone;
 }
@@ -63,9 +64,11 @@ void AddCompileCommand(CLI::App& program, int& status) {
     CLI::App* const command =
         program.add_subcommand("compile", "Compile a caption and print its compiled form");
     const auto options = std::make_shared<CompileOptions>();
-    command->add_option("FILE", options->file,
-                        "The caption file, in UTF-8; without it, or for -, the standard input. "
-                        "One line break at the end is not part of the caption");
+    CLI::Option* const file =
+        command->add_option("FILE", options->file,
+                            "The caption file, in UTF-8; without it, or for -, the standard input. "
+                            "One line break at the end is not part of the caption");
+    Offer(*command, *file, FilesNamed({"txt"}));
     CLI::Option* const json =
         command->add_flag("--json", options->json, "Print the lines and commands as JSON");
     command->add_flag("--text")

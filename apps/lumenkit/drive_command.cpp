@@ -1,4 +1,5 @@
 #include <iostream>
+#include <stdexcept>
 #include <string>
 
 #include "apps/command_line/exit_status.h"
@@ -94,12 +95,10 @@ Notes DriveNotes() {
 
 int StatusOf(const std::istream& input, const std::ostream& output) {
     if (input.bad()) {
-        std::cerr << "lumenkit: cannot read the requests\n";
-        return exitUnusable;
+        throw std::runtime_error("cannot read the requests");
     }
     if (!output) {
-        std::cerr << "lumenkit: cannot write the answers\n";
-        return exitUnusable;
+        throw std::runtime_error("cannot write the answers");
     }
     return exitDone;
 }

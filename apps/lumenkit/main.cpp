@@ -6,8 +6,11 @@
 
 #include "apps/command_line/exit_status.h"
 #include "apps/command_line/help_formatter.h"
+#include "apps/command_line/manual/commands.h"
 #include "apps/command_line/program.h"
+#include "apps/lumenkit/color_option.h"
 #include "apps/lumenkit/commands.h"
+#include "apps/lumenkit/error_line.h"
 
 namespace lumenkit::cli {
 
@@ -22,7 +25,8 @@ int Run(int argc, char** argv) {
     program.require_subcommand(1);
     SetNotes(
         program,
-        {.exitStatuses = {{exitDone, "success"},
+        {.sections = {ColorVariables()},
+         .exitStatuses = {{exitDone, "success"},
                           {exitReported, "check found mistakes, or a control reported an error"},
                           {exitUnusable,
                            "wrong arguments, or files that cannot be read or written"}},
@@ -31,10 +35,19 @@ int Run(int argc, char** argv) {
                       R"(echo '{"do":"new","class":"VMemo","id":"m"}' | lumenkit drive)",
                       "lumenkit compile --help"}});
     int status = exitDone;
-    AddCheckCommand(program, status);
+    Color color = Color::Auto;
+    AddCheckCommand(program, color, status);
     AddCompileCommand(program, status);
     AddDriveCommand(program, status);
-    return RunProgram(program, argc, argv, status);
+    AddCompletionCommand(program, status);
+    AddColorOption(program, color);
+    AddWriteManualCommand(program, status);
+    try {
+        return RunProgram(program, argc, argv, status);
+    } catch (const std::exception& error) {
+        WriteErrorLine(error.what(), color);
+        return exitUnusable;
+    }
 }
 
 }  // namespace
