@@ -125,7 +125,7 @@ class Call {
     std::string WrongWord() const {
         const std::size_t place = std::min(Place(), arguments_.size());
         for (std::size_t i = 0; i < place; ++i) {
-            const std::string word = BeforeEqualsSign(arguments_[i]);
+            std::string word = BeforeEqualsSign(arguments_[i]);
             if (word.starts_with('-') && program_.get_option_no_throw(word) == nullptr) {
                 return word;
             }

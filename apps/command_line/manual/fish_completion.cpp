@@ -90,7 +90,7 @@ class FishScript {
         for (const DescribedOption& option : command.options) {
             for (const std::string& name : option.names) {
                 if (TakesValue(option)) {
-                    patterns.push_back(FishQuoted(word + ' ' + name));
+                    patterns.push_back(FishQuoted(Joined({word, name}, " ")));
                 }
             }
         }

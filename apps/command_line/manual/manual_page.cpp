@@ -38,7 +38,7 @@ class Page {
  public:
     Page(const DescribedCommand& program, const DescribedCommand& shown, const std::string& version)
         : program_(program), shown_(shown), isProgram_(&program == &shown) {
-        text_ = ".TH " + Escaped(Name()) + " 1 \"\" \"" + Escaped(version) + "\" \"" +
+        text_ = ".TH " + Escaped(Name()) + R"( 1 "" ")" + Escaped(version) + "\" \"" +
                 Escaped(program.name) + "\"\n";
         AddSynopsis();
         AddDescription();
