@@ -16,6 +16,7 @@ declare -A groups=(
     [compilers]="clang-15 clang-16 clang-19"
     [coverage]="gcovr"
     [analyse]="valgrind cppcheck"
+    [shells]="bash-completion zsh fish groff-base man-db"
     [windows]="g++-mingw-w64-x86-64-posix g++-mingw-w64-i686-posix mingw-w64-tools libwine-dev googletest"
     [wine]="wine $wine fonts-wine fonts-liberation2"
     [wine32]="bubblewrap"

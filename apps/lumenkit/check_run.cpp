@@ -3,6 +3,7 @@
 #include <exception>
 #include <iostream>
 #include <new>
+#include <stdexcept>
 #include <string>
 #include <utility>
 
@@ -60,8 +61,8 @@ int CheckRun::Run() {
     CheckFiles(inputs.files);
     reporter_.Finish(checked_);
     if (!std::cout.flush()) {
-        std::cerr << "lumenkit: cannot write the " << (options_.diff ? "diff" : "findings") << '\n';
-        return exitUnusable;
+        throw std::runtime_error(std::string("cannot write the ") +
+                                 (options_.diff ? "diff" : "findings"));
     }
     if (written_) {
         written_->Write();

@@ -40,7 +40,7 @@ class CheckRun {
         : options_(options), reporter_(reporter) {}
 
     /// Checks all files and returns the exit status. Throws check::BadException and
-    /// check::BadBaseline.
+    /// check::BadBaseline, and std::runtime_error if the findings cannot be written.
     int Run();
 
  private:

@@ -1,11 +1,14 @@
 #include <iostream>
 #include <memory>
+#include <stdexcept>
 #include <string>
 
 #include <nlohmann/json.hpp>
 
 #include "apps/command_line/console_host.h"
 #include "apps/command_line/exit_status.h"
+#include "apps/command_line/help_formatter.h"
+#include "apps/command_line/offered.h"
 #include "apps/lumenkit/commands.h"
 #include "apps/lumenkit/svg/drawn_caption.h"
 #include "apps/lumenkit/svg_options.h"
@@ -57,8 +60,7 @@ int Compile(const CompileOptions& options) {
     std::cout << (options.svg ? svg::DrawnCaption(errors, caption, options.look).ToSvg()
                               : CompiledForm(errors, caption, options.json));
     if (!std::cout.flush()) {
-        std::cerr << "lumenkit: cannot write the compiled caption\n";
-        return exitUnusable;
+        throw std::runtime_error("cannot write the compiled caption");
     }
     return host.HasReported() ? exitReported : exitDone;
 }
@@ -69,9 +71,11 @@ void AddCompileCommand(CLI::App& program, int& status) {
     CLI::App* const command =
         program.add_subcommand("compile", "Compile a caption and print its compiled form");
     const auto options = std::make_shared<CompileOptions>();
-    command->add_option("FILE", options->file,
-                        "The caption file, in UTF-8; without it, or for -, the standard input. "
-                        "One line break at the end is not part of the caption");
+    CLI::Option* const file =
+        command->add_option("FILE", options->file,
+                            "The caption file, in UTF-8; without it, or for -, the standard input. "
+                            "One line break at the end is not part of the caption");
+    Offer(*command, *file, FilesNamed({"txt"}));
     CLI::Option* const json =
         command->add_flag("--json", options->json, "Print the lines and commands as JSON");
     CLI::Option* const text =
@@ -79,14 +83,17 @@ void AddCompileCommand(CLI::App& program, int& status) {
             ->description("Print each line with its commands below it (the default)")
             ->excludes(json);
     AddSvgOptions(*command, options->svg, options->look)->excludes(json)->excludes(text);
-    command->footer(
-        "Exit status: 0 on success, 1 if compiling or drawing reported an error (the rest is still "
-        "printed), 2 if the caption cannot be read or the result cannot be written.\n"
-        "\n"
-        "Examples:\n"
-        "  lumenkit compile samples/captions/headline.txt\n"
-        "  echo '|B:1|Note:|B:0| mind the gap' | lumenkit compile --json\n"
-        "  lumenkit compile --svg --font Arial,12 caption.txt >caption.svg");
+    SetNotes(
+        *command,
+        {.exitStatuses = {{exitDone, "success"},
+                          {exitReported,
+                           "compiling or drawing reported an error; the rest is still printed"},
+                          {exitUnusable,
+                           "wrong arguments, the caption cannot be read, or the result cannot "
+                           "be written"}},
+         .examples = {"lumenkit compile samples/captions/headline.txt",
+                      "echo '|B:1|Note:|B:0| mind the gap' | lumenkit compile --json",
+                      "lumenkit compile --svg --font Arial,12 caption.txt >caption.svg"}});
     command->callback([options, &status] { status = Compile(*options); });
 }
 

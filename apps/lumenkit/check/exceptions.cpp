@@ -7,7 +7,7 @@
 
 #include <fnmatch.h>
 
-#include "apps/lumenkit/check/quote.h"
+#include "apps/command_line/spelling/printable.h"
 #include "apps/lumenkit/check/rules.h"
 #include "forms/form_error.h"
 #include "forms/plain_file.h"

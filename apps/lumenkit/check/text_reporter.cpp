@@ -1,7 +1,8 @@
 #include <array>
 
+#include "apps/command_line/spelling/printable.h"
+#include "apps/command_line/spelling/suggestion.h"
 #include "apps/lumenkit/check/finding_text.h"
-#include "apps/lumenkit/check/quote.h"
 #include "apps/lumenkit/check/reporter.h"
 #include "apps/lumenkit/check/rules.h"
 
@@ -63,11 +64,8 @@ void TextReporter::Report(const Finding& finding) {
     const Severity severity = SeverityOf(finding);
     output_ << Colored(colors_.output, bold, PlaceOf(finding)) << ' '
             << Colored(colors_.output, ColorOf(severity), std::string(NameOf(severity)) + ':')
-            << ' ' << MessageOf(finding);
-    if (!finding.suggestion.empty()) {
-        output_ << "; did you mean \"" << Printable(finding.suggestion) << "\"?";
-    }
-    output_ << ' ' << Colored(colors_.output, dim, RuleOf(finding)) << '\n';
+            << ' ' << MessageOf(finding) << DidYouMean(Printable(finding.suggestion)) << ' '
+            << Colored(colors_.output, dim, RuleOf(finding)) << '\n';
 }
 
 void TextReporter::Report(const Findings& findings) {

@@ -185,7 +185,7 @@ TEST(CheckCommand, SaysThatFindingsCannotBeWritten) {
     for (const std::string arguments : {"", "--json "}) {
         const Outcome outcome =
             RunOnTerminal("check " + arguments + here + "forms/good.frm >/dev/full");
-        EXPECT_EQ(outcome.output, "lumenkit: cannot write the findings\r\n");
+        EXPECT_EQ(outcome.output, "\x1b[31mlumenkit: cannot write the findings\x1b[0m\r\n");
         EXPECT_EQ(outcome.status, 2);
     }
 }
@@ -293,6 +293,51 @@ TEST_F(CheckFolder, ColorsCanBeTurnedOff) {
     EXPECT_THAT(RunOnTerminal(arguments, "NO_COLOR=1").output, Not(HasSubstr("\x1b")));
     EXPECT_THAT(RunOnTerminal(arguments, "TERM=dumb").output, Not(HasSubstr("\x1b")));
     EXPECT_THAT(RunOnTerminal(arguments + " --json").output, Not(HasSubstr("\x1b")));
+}
+
+TEST_F(CheckFolder, ColorsAreChosenByAnOptionBeforeOrAfterTheCommand) {
+    WriteForms(1, "|blod:1|");
+    const std::string path = folder.string();
+    for (const std::string option : {"--color=always", "--color always"}) {
+        EXPECT_THAT(RunProgram("check " + option + ' ' + path).output, HasSubstr("\x1b[1m"));
+        EXPECT_THAT(RunProgram(option + " check " + path).output, HasSubstr("\x1b[1m"));
+        EXPECT_THAT(RunOnTerminal(option + " check " + path, "NO_COLOR=1 TERM=dumb").output,
+                    HasSubstr("\x1b[1m"));
+    }
+    EXPECT_THAT(RunOnTerminal("check --color=never " + path).output, Not(HasSubstr("\x1b")));
+    EXPECT_THAT(RunOnTerminal("--color=never check " + path, "CLICOLOR_FORCE=1").output,
+                Not(HasSubstr("\x1b")));
+    EXPECT_THAT(RunOnTerminal("--color never check --color auto " + path).output,
+                HasSubstr("\x1b[1m"));
+    EXPECT_THAT(RunProgram("check --color=auto " + path).output, Not(HasSubstr("\x1b")));
+    EXPECT_EQ(RunProgram("check --color=red " + path).status, 2);
+    EXPECT_EQ(RunProgram("--color check " + path).status, 2);
+    EXPECT_EQ(RunProgram("--colour=never check " + path).status, 2);
+}
+
+TEST_F(CheckFolder, ColorsAreForcedByTheEnvironmentUnlessItForbidsThem) {
+    WriteForms(1, "|blod:1|");
+    const std::string arguments = "check " + folder.string();
+    const std::string file = (folder / "output").string();
+    const auto written = [&](const std::string& variables) {
+        RunOnTerminal(arguments + " >" + file, variables);
+        return FileBytes(file);
+    };
+    EXPECT_THAT(written(""), Not(HasSubstr("\x1b")));
+    EXPECT_THAT(written("CLICOLOR_FORCE=1"), HasSubstr("\x1b[1m"));
+    EXPECT_THAT(written("CLICOLOR_FORCE=0"), Not(HasSubstr("\x1b")));
+    EXPECT_THAT(written("CLICOLOR_FORCE=1 NO_COLOR=1"), Not(HasSubstr("\x1b")));
+    EXPECT_THAT(RunOnTerminal(arguments, "NO_COLOR=").output, HasSubstr("\x1b[1m"));
+}
+
+TEST_F(CheckFolder, ErrorsOfEveryCommandAreRed) {
+    for (const char* arguments : {"compile no/such/file", "check --baseline no/such/file x.frm"}) {
+        EXPECT_THAT(RunOnTerminal(arguments).output, StartsWith("\x1b[31mlumenkit: ")) << arguments;
+        EXPECT_THAT(RunProgram(std::string("--color=always ") + arguments).errors,
+                    AllOf(StartsWith("\x1b[31mlumenkit: "), EndsWith("\x1b[0m\n")))
+            << arguments;
+    }
+    EXPECT_THAT(RunOnTerminal("compile --color=never no/such/file").output, StartsWith("lumenkit"));
 }
 
 TEST_F(CheckFolder, EachStreamHasColorsOfItsOwn) {

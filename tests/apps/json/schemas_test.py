@@ -93,9 +93,9 @@ def check_documents():
                       ["--json", "--caption", SOURCE / "samples/captions"]):
         yield one_line(run(["check", *arguments], statuses=(0, 1, 2)))
     yield one_line(run(["check", "--json", "--caption", "-"], "plain"))
-    with tempfile.TemporaryDirectory() as copy:
-        shutil.copytree(SOURCE / "tests/apps/check/forms", copy, dirs_exist_ok=True)
-        mended = one_line(run(["check", "--json", "--fix=all", copy], statuses=(0, 1, 2)))
+    with tempfile.TemporaryDirectory() as mending:
+        shutil.copytree(SOURCE / "tests/apps/check/forms", mending, dirs_exist_ok=True)
+        mended = one_line(run(["check", "--json", "--fix=all", mending], statuses=(0, 1, 2)))
         assert mended["fixed"], "the forms have findings that can be mended"
         yield mended
 

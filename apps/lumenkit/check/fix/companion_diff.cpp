@@ -5,7 +5,7 @@
 
 #include "apps/lumenkit/check/finding_text.h"
 #include "apps/lumenkit/check/fix/unified_diff.h"
-#include "apps/lumenkit/check/quote.h"
+#include "apps/command_line/spelling/printable.h"
 #include "frame/text.h"
 #include "frame/utf8.h"
 

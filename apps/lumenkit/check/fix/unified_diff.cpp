@@ -6,7 +6,7 @@
 #include <span>
 #include <vector>
 
-#include "apps/lumenkit/check/quote.h"
+#include "apps/command_line/spelling/printable.h"
 
 namespace lumenkit::check {
 
