@@ -3,9 +3,9 @@
 #include <cstddef>
 #include <sstream>
 
+#include "apps/command_line/spelling/printable.h"
 #include "apps/lumenkit/check/finding_text.h"
 #include "apps/lumenkit/check/fix/unified_diff.h"
-#include "apps/command_line/spelling/printable.h"
 #include "frame/text.h"
 #include "frame/utf8.h"
 
