@@ -19,9 +19,10 @@ std::string FishQuoted(std::string_view text) {
 std::string Joined(const std::vector<std::string>& words, std::string_view separator) {
     std::string joined;
     for (const std::string& word : words) {
-        joined += (joined.empty() ? std::string() : std::string(separator)) + word;
+        joined += word;
+        joined += separator;
     }
-    return joined;
+    return joined.substr(0, joined.size() - (words.empty() ? 0 : separator.size()));
 }
 
 std::string WithBackslashes(std::string_view text, std::string_view letters) {
