@@ -13,6 +13,12 @@ macro(lumenkit_needs option debian package)
 endmacro()
 
 if(LUMENKIT_APPS)
+    find_path(LUMENKIT_DTL dtl/dtl.hpp)
+    mark_as_advanced(LUMENKIT_DTL)
+    if(NOT LUMENKIT_DTL)
+        string(APPEND missing
+            "  dtl: install libdtl-dev, or configure with -DLUMENKIT_APPS=OFF\n")
+    endif()
     lumenkit_needs(LUMENKIT_APPS libcli11-dev CLI11)
     lumenkit_needs(LUMENKIT_APPS nlohmann-json3-dev nlohmann_json)
 endif()

@@ -7,7 +7,7 @@ set -euo pipefail
 wine=wine64
 [ "$(dpkg --print-architecture)" != i386 ] || wine=wine32
 declare -A groups=(
-    [build]="g++ cmake ninja-build make pkg-config python3 libgtest-dev libgmock-dev libcli11-dev nlohmann-json3-dev"
+    [build]="g++ cmake ninja-build make pkg-config python3 libgtest-dev libgmock-dev libcli11-dev nlohmann-json3-dev libdtl-dev"
     [test]="git pre-commit python3-jsonschema python3-yaml patch"
     [bench]="libbenchmark-dev libpango1.0-dev"
     [format]="clang-format"

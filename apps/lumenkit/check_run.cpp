@@ -9,7 +9,7 @@
 
 #include "apps/command_line/exit_status.h"
 #include "apps/lumenkit/check/file_checks.h"
-#include "apps/lumenkit/check/fix/unified_diff.h"
+#include "apps/lumenkit/check/fix/shown_diff.h"
 #include "apps/lumenkit/in_order.h"
 #include "apps/lumenkit/terminal.h"
 #include "apps/lumenkit/text_input.h"

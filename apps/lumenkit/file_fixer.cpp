@@ -1,9 +1,9 @@
 #include "apps/lumenkit/file_fixer.h"
 
+#include "apps/difference/unified_diff.h"
 #include "apps/lumenkit/check/exceptions.h"
 #include "apps/lumenkit/check/file_checks.h"
 #include "apps/lumenkit/check/fix/companion_diff.h"
-#include "apps/lumenkit/check/fix/unified_diff.h"
 #include "apps/lumenkit/text_input.h"
 #include "forms/file.h"
 #include "forms/replace_file.h"
@@ -22,7 +22,7 @@ std::string DiffOf(const std::string& file, const std::string& before, const for
     for (const check::CompanionChange& change : fixer.TakeBackCompanionTexts()) {
         diff += check::CompanionDiff(change, form.CompanionName());
     }
-    return diff + check::UnifiedDiff(file, before, form.Write().form);
+    return diff + difference::UnifiedDiff(file, before, form.Write().form);
 }
 
 }  // namespace
@@ -72,7 +72,7 @@ FixedFile FileFixer::FixCaption(const std::string& file, const std::string& byte
     }
     const std::string mended = ToUtf8(caption.caption) + read.lineBreak;
     if (options_.diff) {
-        fixed.output = check::UnifiedDiff(file, bytes, mended);
+        fixed.output = difference::UnifiedDiff(file, bytes, mended);
     } else if (IsStandardInput(file)) {
         fixed.output = mended;
     } else if (!fixed.fixes.made.empty()) {

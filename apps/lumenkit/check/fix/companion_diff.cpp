@@ -4,8 +4,8 @@
 #include <sstream>
 
 #include "apps/command_line/spelling/printable.h"
+#include "apps/difference/unified_diff.h"
 #include "apps/lumenkit/check/finding_text.h"
-#include "apps/lumenkit/check/fix/unified_diff.h"
 #include "frame/text.h"
 #include "frame/utf8.h"
 
@@ -31,7 +31,8 @@ std::string InLines(TextView text) {
 }  // namespace
 
 std::string CompanionDiff(const CompanionChange& change, const std::string& companion) {
-    std::istringstream lines(UnifiedDiff("-", InLines(change.before), InLines(change.after)));
+    std::istringstream lines(
+        difference::UnifiedDiff("-", InLines(change.before), InLines(change.after)));
     std::string described =
         "# " + Printable(change.first.file) + ':' + std::to_string(change.first.place.line) + ": " +
         Printable(SubjectOf(change.first)) + ", in " + Printable(companion) + '\n';

@@ -1,4 +1,4 @@
-#include "apps/lumenkit/check/fix/unified_diff.h"
+#include "apps/difference/unified_diff.h"
 
 #include <cstdlib>
 #include <filesystem>
@@ -8,6 +8,7 @@
 
 #include <gtest/gtest.h>
 
+#include "apps/lumenkit/check/fix/shown_diff.h"
 #include "tests/support/file_bytes.h"
 #include "tests/support/rows.h"
 #include "tests/support/test_rounds.h"
@@ -17,6 +18,7 @@ namespace lumenkit::check {
 namespace {
 
 namespace fs = std::filesystem;
+using difference::UnifiedDiff;
 using lumenkit::testing::FileBytes;
 using lumenkit::testing::Row;
 using lumenkit::testing::RowName;

@@ -1,4 +1,4 @@
-#include "apps/lumenkit/check/fix/unified_diff.h"
+#include "apps/difference/unified_diff.h"
 
 #include <algorithm>
 #include <cstddef>
@@ -6,9 +6,9 @@
 #include <span>
 #include <vector>
 
-#include "apps/command_line/spelling/printable.h"
+#include <dtl/dtl.hpp>
 
-namespace lumenkit::check {
+namespace lumenkit::difference {
 
 namespace {
 
@@ -34,56 +34,31 @@ struct Change {
     std::size_t newEnd = 0;
 };
 
-// Finds changes from the beginning to the end. After a difference, it goes on at the nearest two
-// lines that are equal: mendings change few lines.
-class Comparison {
- public:
-    Comparison(const Lines& before, const Lines& after) : before_(before), after_(after) {}
-
-    std::vector<Change> Changes() {
-        std::vector<Change> changes;
-        while (old_ < before_.size() || new_ < after_.size()) {
-            if (IsSame(old_, new_)) {
-                ++old_;
-                ++new_;
-                continue;
-            }
-            Change change{old_, old_, new_, new_};
-            PassDifference();
-            change.oldEnd = old_;
-            change.newEnd = new_;
-            changes.push_back(change);
+// Returns the changes from the beginning to the end.
+std::vector<Change> ChangesBetween(const Lines& before, const Lines& after) {
+    dtl::Diff<std::string_view, Lines> diff(before, after);
+    diff.onHuge();
+    diff.compose();
+    std::vector<Change> changes;
+    Change at;  // where the next change would be
+    for (const auto& [line, edit] : diff.getSes().getSequence()) {
+        if (edit.type == dtl::SES_COMMON) {
+            ++at.oldEnd;
+            ++at.newEnd;
+            at.oldBegin = at.oldEnd;
+            at.newBegin = at.newEnd;
+            continue;
         }
-        return changes;
-    }
-
- private:
-    bool IsSame(std::size_t left, std::size_t right) const {
-        return left < before_.size() && right < after_.size() && before_[left] == after_[right];
-    }
-
-    void PassDifference() {
-        const std::size_t oldLeft = before_.size() - old_;
-        const std::size_t newLeft = after_.size() - new_;
-        for (std::size_t distance = 1; distance < oldLeft + newLeft; ++distance) {
-            const std::size_t least = distance > newLeft ? distance - newLeft : 0;
-            for (std::size_t skipped = least; skipped <= std::min(distance, oldLeft); ++skipped) {
-                if (IsSame(old_ + skipped, new_ + distance - skipped)) {
-                    old_ += skipped;
-                    new_ += distance - skipped;
-                    return;
-                }
-            }
+        ++(edit.type == dtl::SES_DELETE ? at.oldEnd : at.newEnd);
+        if (!changes.empty() && changes.back().oldBegin == at.oldBegin &&
+            changes.back().newBegin == at.newBegin) {
+            changes.back() = at;
+        } else {
+            changes.push_back(at);
         }
-        old_ = before_.size();
-        new_ = after_.size();
     }
-
-    const Lines& before_;
-    const Lines& after_;
-    std::size_t old_ = 0;
-    std::size_t new_ = 0;
-};
+    return changes;
+}
 
 constexpr std::size_t context = 3;
 
@@ -150,7 +125,7 @@ std::string Name(const std::string& prefix, const std::string& file) {
     std::string quoted = "\"";
     for (const char letter : name) {
         if (isUnusual(letter)) {
-            const auto byte = static_cast<unsigned char>(letter);
+            const auto byte = static_cast<unsigned>(letter);
             constexpr unsigned octal = 8;
             quoted += '\\';
             quoted += static_cast<char>('0' + byte / octal / octal);
@@ -163,28 +138,12 @@ std::string Name(const std::string& prefix, const std::string& file) {
     return quoted + '"';
 }
 
-const char* ColorOf(std::string_view line) {
-    if (line.starts_with("---") || line.starts_with("+++")) {
-        return "\x1b[1m";
-    }
-    switch (line.empty() ? ' ' : line.front()) {
-        case '-':
-            return "\x1b[31m";
-        case '+':
-            return "\x1b[32m";
-        case '@':
-            return "\x1b[36m";
-        default:
-            return "";
-    }
-}
-
 }  // namespace
 
 std::string UnifiedDiff(const std::string& file, std::string_view before, std::string_view after) {
     const Lines oldLines = LinesOf(before);
     const Lines newLines = LinesOf(after);
-    const std::vector<Change> changes = Comparison(oldLines, newLines).Changes();
+    const std::vector<Change> changes = ChangesBetween(oldLines, newLines);
     if (changes.empty()) {
         return {};
     }
@@ -202,14 +161,4 @@ std::string UnifiedDiff(const std::string& file, std::string_view before, std::s
     return diff;
 }
 
-std::string DiffForTerminal(std::string_view diff, bool isColored) {
-    std::string shown;
-    for (std::string_view line : LinesOf(diff)) {
-        line.remove_suffix(line.ends_with("\r\n") ? 2 : line.ends_with('\n') ? 1 : 0);
-        const std::string color = isColored ? ColorOf(line) : "";
-        shown += color + Printable(line) + (color.empty() ? "" : "\x1b[0m") + '\n';
-    }
-    return shown;
-}
-
-}  // namespace lumenkit::check
+}  // namespace lumenkit::difference
