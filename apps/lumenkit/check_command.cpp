@@ -41,11 +41,12 @@ bool PrintsMendedText(const CheckArguments& arguments) {
            });
 }
 
-std::unique_ptr<check::Reporter> NewReporter(const CheckArguments& arguments, Color color) {
+std::unique_ptr<check::Reporter> NewReporter(const CheckArguments& arguments) {
     const Stream stream = PrintsMendedText(arguments) ? Stream::Errors : Stream::Output;
     std::ostream& output = stream == Stream::Errors ? std::cerr : std::cout;
     if (arguments.diff) {
-        return std::make_unique<check::DiffReporter>(std::cerr, TakesColors(Stream::Errors, color));
+        return std::make_unique<check::DiffReporter>(
+            std::cerr, TakesColors(Stream::Errors, arguments.coloring));
     }
     switch (arguments.format) {
         case Format::Json:
@@ -59,12 +60,12 @@ std::unique_ptr<check::Reporter> NewReporter(const CheckArguments& arguments, Co
     }
     return std::make_unique<check::TextReporter>(
         output, std::cerr,
-        check::ColoredStreams{.output = TakesColors(stream, color),
-                              .errors = TakesColors(Stream::Errors, color)});
+        check::ColoredStreams{.output = TakesColors(stream, arguments.coloring),
+                              .errors = TakesColors(Stream::Errors, arguments.coloring)});
 }
 
-int Check(const CheckArguments& arguments, Color color) {
-    const std::unique_ptr<check::Reporter> reporter = NewReporter(arguments, color);
+int Check(const CheckArguments& arguments) {
+    const std::unique_ptr<check::Reporter> reporter = NewReporter(arguments);
     return CheckRun(arguments, *reporter).Run();
 }
 
@@ -190,7 +191,7 @@ Notes CheckNotes() {
 
 }  // namespace
 
-void AddCheckCommand(CLI::App& program, const Color& color, int& status) {
+void AddCheckCommand(CLI::App& program, const Coloring& color, int& status) {
     CLI::App* const command = program.add_subcommand(
         "check", "Find mistakes in captions and form files, print their places and mend them");
     const auto options = std::make_shared<CheckArguments>();
@@ -219,7 +220,8 @@ void AddCheckCommand(CLI::App& program, const Color& color, int& status) {
         RefuseTogether(*command, "--diff", {"--format", "--json", "--write-baseline"});
         RefuseTogether(*command, "--fix", {"--write-baseline"});
         options->fixing = options->WantedFixing();
-        status = Check(*options, color);
+        options->coloring = color;
+        status = Check(*options);
     });
 }
 

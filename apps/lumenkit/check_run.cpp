@@ -198,9 +198,9 @@ FixedFile CheckRun::Fixed(const std::string& file, const Result& result) {
 }
 
 void CheckRun::Show(const std::string& output) const {
-    const bool isForPerson = options_.diff && IsTerminal(Stream::Output);
-    std::cout << (isForPerson ? check::DiffForTerminal(output, TakesColors(Stream::Output))
-                              : output);
+    const bool isColored = TakesColors(Stream::Output, options_.coloring);
+    const bool isForPerson = options_.diff && (isColored || IsTerminal(Stream::Output));
+    std::cout << (isForPerson ? check::DiffForTerminal(output, isColored) : output);
 }
 
 void CheckRun::Report(const FileError& error) {

@@ -14,6 +14,7 @@
 #include "apps/lumenkit/check/reporter.h"
 #include "apps/lumenkit/check/selection.h"
 #include "apps/lumenkit/file_fixer.h"
+#include "apps/lumenkit/terminal.h"
 #include "forms/encoding.h"
 #include "forms/folder_names.h"
 
@@ -30,7 +31,8 @@ struct CheckOptions {
     std::string writeBaseline;  ///< where to write the findings as known ones; empty for nowhere
     Fixing fixing = Fixing::None;
     bool diff = false;  ///< print what `fixing` would change, and write no file
-    int jobs = 0;       ///< the number of files that are checked at once; 0: one a processor
+    Coloring coloring = Coloring::Auto;
+    int jobs = 0;  ///< the number of files that are checked at once; 0: one a processor
 };
 
 class CheckRun {

@@ -6,19 +6,19 @@ namespace lumenkit::cli {
 
 namespace {
 
-void AddTo(CLI::App& command, Color& color) {
-    AddChoice<Color>(command, "--color", "WHEN",
-                     "Colour findings and errors: auto (on a terminal, unless NO_COLOR is set), "
-                     "always or never",
-                     {{"auto", Color::Auto, "on a terminal"},
-                      {"always", Color::Always, "on every output"},
-                      {"never", Color::Never, "on none"}},
-                     [&color](Color chosen) { color = chosen; });
+void AddTo(CLI::App& command, Coloring& color) {
+    AddChoice<Coloring>(command, "--color", "WHEN",
+                        "Colour findings and errors: auto (on a terminal, unless NO_COLOR is set), "
+                        "always or never",
+                        {{"auto", Coloring::Auto, "on a terminal"},
+                         {"always", Coloring::Always, "on every output"},
+                         {"never", Coloring::Never, "on none"}},
+                        [&color](Coloring chosen) { color = chosen; });
 }
 
 }  // namespace
 
-void AddColorOption(CLI::App& program, Color& color) {
+void AddColorOption(CLI::App& program, Coloring& color) {
     AddTo(program, color);
     for (CLI::App* const command : program.get_subcommands([](CLI::App*) { return true; })) {
         AddTo(*command, color);

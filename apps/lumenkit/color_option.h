@@ -9,7 +9,7 @@ namespace lumenkit::cli {
 
 /// Adds --color to the program and to each command that it has so far. `color` must outlive
 /// parsing.
-void AddColorOption(CLI::App& program, Color& color);
+void AddColorOption(CLI::App& program, Coloring& color);
 
 /// Says which variables of the environment choose colours.
 Section ColorVariables();

@@ -9,7 +9,7 @@ namespace lumenkit::cli {
 
 // Each function adds a command. Parsing runs the given command, which sets `status`.
 // `color` is read when the command runs.
-void AddCheckCommand(CLI::App& program, const Color& color, int& status);
+void AddCheckCommand(CLI::App& program, const Coloring& color, int& status);
 void AddCompileCommand(CLI::App& program, int& status);
 void AddDriveCommand(CLI::App& program, int& status);
 

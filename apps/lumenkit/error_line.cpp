@@ -6,7 +6,7 @@
 
 namespace lumenkit::cli {
 
-void WriteErrorLine(std::string_view text, Color color) {
+void WriteErrorLine(std::string_view text, Coloring color) {
     const bool colored = TakesColors(Stream::Errors, color);
     std::cerr << (colored ? "\x1b[31m" : "") << "lumenkit: " << Printable(text)
               << (colored ? "\x1b[0m" : "") << '\n';

@@ -7,6 +7,6 @@
 namespace lumenkit::cli {
 
 /// Writes "lumenkit: text" to the standard error stream, in red if it takes colours.
-void WriteErrorLine(std::string_view text, Color color);
+void WriteErrorLine(std::string_view text, Coloring color);
 
 }  // namespace lumenkit::cli

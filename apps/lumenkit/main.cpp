@@ -35,7 +35,7 @@ int Run(int argc, char** argv) {
                       R"(echo '{"do":"new","class":"VMemo","id":"m"}' | lumenkit drive)",
                       "lumenkit compile --help"}});
     int status = exitDone;
-    Color color = Color::Auto;
+    Coloring color = Coloring::Auto;
     AddCheckCommand(program, color, status);
     AddCompileCommand(program, status);
     AddDriveCommand(program, status);

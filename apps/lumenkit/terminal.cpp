@@ -21,9 +21,9 @@ bool IsTerminal(Stream stream) {
     return isatty(stream == Stream::Output ? STDOUT_FILENO : STDERR_FILENO) == 1;
 }
 
-bool TakesColors(Stream stream, Color color) {
-    if (color != Color::Auto) {
-        return color == Color::Always;
+bool TakesColors(Stream stream, Coloring color) {
+    if (color != Coloring::Auto) {
+        return color == Coloring::Always;
     }
     if (!Environment("NO_COLOR").empty()) {
         return false;
