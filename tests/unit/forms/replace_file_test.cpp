@@ -2,8 +2,10 @@
 
 #include <atomic>
 #include <filesystem>
+#include <latch>
 #include <string>
 #include <thread>
+#include <vector>
 
 #include <gtest/gtest.h>
 
@@ -89,21 +91,27 @@ TEST_F(ReplaceFileTest, ReplacesAKnownFileUnlessAnotherProgramHasChangedIt) {
     EXPECT_EQ(Count(), 1);
 }
 
-TEST_F(ReplaceFileTest, OfTwoSavesOfAKnownFileOneFails) {
+TEST_F(ReplaceFileTest, OfSeveralSavesOfAKnownFileOneSucceeds) {
+    constexpr int saves = 4;
+    constexpr int rounds = 50;
+    const std::string old(1 << 20, 'x');  // takes a while to read
     std::atomic<int> refused = 0;
-    for (int round = 0; round < 20; ++round) {
-        WriteFile(file, "old");
-        const auto save = [&](const char* bytes) {
-            try {
-                ReplaceKnownFile(file, {"old", bytes});
-            } catch (const FormError&) {
-                ++refused;
-            }
-        };
-        std::jthread one(save, "one");
-        std::jthread two(save, "two");
+    for (int round = 0; round < rounds; ++round) {
+        WriteFile(file, old);
+        std::latch start(saves);
+        std::vector<std::jthread> threads;
+        for (int i = 0; i < saves; ++i) {
+            threads.emplace_back([&] {
+                start.arrive_and_wait();
+                try {
+                    ReplaceKnownFile(file, {old, "new"});
+                } catch (const FormError&) {
+                    ++refused;
+                }
+            });
+        }
     }
-    EXPECT_EQ(refused, 20);
+    EXPECT_EQ(refused, rounds * (saves - 1));
     EXPECT_EQ(Count(), 1);
 }
 

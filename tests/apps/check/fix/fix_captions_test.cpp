@@ -54,6 +54,7 @@ constexpr Row<TextView, Mended> unterminated[] = {
     {"BeforeAQuoteShowsIt", u"|b:1 |Q|x|Q|", {u"|b:1 |Q|x|Q|", u"|b:1| |Q|x|Q|"}},
     {"ATrueIsAValue", u"|b:TRUEx", {u"|b:TRUEx", u"|b:TRUE|x"}},
     {"ATrueAtTheEndSwitches", u"a|b:true|CR|b", {u"a|b:true|CR|b", u"a|b:true||CR|b"}},
+    {"ATrueBeforeNothingSwitchesWhatAProgramAppends", u"a|b:true", {u"a|b:true", u"a|b:true|"}},
     {"TwoDigitsAreNoSwitch", u"|b:10 apples", {u"|b:10 apples", u"|b:10 apples"}},
     {"AWordIsNoSwitch", u"|b:yes, we", {u"|b:yes, we", u"|b:yes, we"}},
     {"ANumberEndsBeforeText", u"|size:12.5pt", {u"|size:12.5pt", u"|size:12.5|pt"}},
