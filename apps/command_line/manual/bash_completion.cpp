@@ -1,4 +1,6 @@
+#include <algorithm>
 #include <cstddef>
+#include <iterator>
 #include <string>
 #include <vector>
 
@@ -128,7 +130,7 @@ class BashScript {
         ForEachCommand([&](const DescribedCommand& command) {
             std::vector<std::string> names;
             for (const DescribedOption& option : command.options) {
-                names.insert(names.end(), option.names.begin(), option.names.end());
+                std::ranges::copy(WordsOf(option), std::back_inserter(names));
             }
             cases += "            '" + (&command == &program_ ? "" : command.name) + "') _" +
                      name_ + "_words '" + Joined(names, " ") + "' ;;\n";

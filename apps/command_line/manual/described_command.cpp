@@ -9,6 +9,7 @@ namespace {
 DescribedOption DescribedAs(const CLI::App& app, const CLI::Option& option) {
     DescribedOption described{.names = {},
                               .placeholder = PlaceholderOf(option),
+                              .optionalValue = {},
                               .description = option.get_description(),
                               .offered = OfferedFor(app, option),
                               .required = option.get_required(),
@@ -19,16 +20,22 @@ DescribedOption DescribedAs(const CLI::App& app, const CLI::Option& option) {
     for (const std::string& name : option.get_lnames()) {
         described.names.push_back("--" + name);
     }
-    // "[=all]": the option is complete without the value, and a second word with it.
     if (described.placeholder.starts_with('[') && described.placeholder.ends_with(']')) {
-        const std::string value = described.placeholder.substr(1, described.placeholder.size() - 2);
-        described.names.push_back(described.names.back() + value);
+        described.optionalValue = described.placeholder.substr(1, described.placeholder.size() - 2);
         described.placeholder.clear();
     }
     return described;
 }
 
 }  // namespace
+
+std::vector<std::string> WordsOf(const DescribedOption& option) {
+    std::vector<std::string> words = option.names;
+    if (!option.optionalValue.empty()) {
+        words.push_back(words.back() + option.optionalValue);
+    }
+    return words;
+}
 
 DescribedCommand Described(const CLI::App& app) {
     DescribedCommand described{.name = app.get_name(),

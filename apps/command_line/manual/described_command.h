@@ -15,6 +15,7 @@ namespace lumenkit::cli {
 struct DescribedOption {
     std::vector<std::string> names;  ///< "-j", "--jobs"; none for a positional argument
     std::string placeholder;         ///< "N"; empty for an option without a value
+    std::string optionalValue = {};  ///< "=all": the option may have this value; usually empty
     std::string description;
     Offered offered;
     bool required = false;
@@ -34,6 +35,9 @@ struct DescribedCommand {
 
 /// Describes a program or a command with what its help shows.
 DescribedCommand Described(const CLI::App& app);
+
+/// Returns the names, and the last one with the optional value.
+std::vector<std::string> WordsOf(const DescribedOption& option);
 
 /// Returns whether the option takes a value.
 inline bool TakesValue(const DescribedOption& option) {

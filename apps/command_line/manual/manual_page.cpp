@@ -98,6 +98,9 @@ class Page {
             for (const std::string& name : option.names) {
                 tag += (tag.empty() ? "" : ", ") + Bold(name);
             }
+            if (!option.optionalValue.empty()) {
+                tag += '[' + option.optionalValue + ']';
+            }
             if (TakesValue(option)) {
                 tag += (tag.empty() ? "" : " ") + Italic(option.placeholder);
             }

@@ -5,8 +5,11 @@
 namespace lumenkit::cli {
 
 DescribedCommand WithHelp(DescribedCommand program) {
-    DescribedOption command{
-        .names = {}, .placeholder = "COMMAND", .description = {}, .offered = {}};
+    DescribedOption command{.names = {},
+                            .placeholder = "COMMAND",
+                            .optionalValue = {},
+                            .description = {},
+                            .offered = {}};
     for (const DescribedCommand& known : program.commands) {
         command.offered.words.push_back({known.name, known.description});
     }

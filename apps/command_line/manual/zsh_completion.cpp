@@ -101,11 +101,15 @@ class ZshScript {
         spec += name;
         if (TakesValue(option)) {
             spec += name.starts_with("--") ? "=" : "+";
+        } else if (!option.optionalValue.empty()) {
+            spec += "=-";
         }
         spec += '[' + WithBackslashes(option.description, "[]:\\") + ']';
         if (TakesValue(option)) {
             spec += ':' + option.placeholder + ':' +
                     Action(command, option.placeholder, option.offered);
+        } else if (!option.optionalValue.empty()) {
+            spec += "::value:(" + option.optionalValue.substr(1) + ')';
         }
         return spec;
     }

@@ -101,7 +101,7 @@ TEST(SvgCommand, ReportsErrorsAndDrawsTheRest) {
 
 TEST(SvgCommand, SaysThatTheDrawingCannotBeWritten) {
     const Outcome outcome = RunOnTerminal("compile --svg " + captions + "bullets.txt >/dev/full");
-    EXPECT_EQ(outcome.output, "lumenkit: cannot write the compiled caption\r\n");
+    EXPECT_EQ(outcome.output, "\x1b[31mlumenkit: cannot write the compiled caption\x1b[0m\r\n");
     EXPECT_EQ(outcome.status, 2);
 }
 

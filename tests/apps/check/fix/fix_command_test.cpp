@@ -201,7 +201,8 @@ TEST_F(FixCommand, IsAFilter) {
     EXPECT_EQ(form.output, FormWith("|bold:1|"));
     const Outcome json = RunProgram("check --fix --json -", FormWith("x"));
     EXPECT_EQ(json.output, FormWith("x"));
-    EXPECT_EQ(json.errors, "{\"files\":1,\"findings\":[],\"errors\":[],\"fixed\":[]}\n");
+    EXPECT_EQ(json.errors,
+              "{\"version\":1,\"files\":1,\"findings\":[],\"errors\":[],\"fixed\":[]}\n");
     const Outcome diff = RunProgram("check --diff -", FormWith("|u:1|"));
     EXPECT_THAT(diff.output, StartsWith("--- a/-\n+++ b/-\n@@ -1,6 +1,6 @@\n"));
 }
