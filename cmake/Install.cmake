@@ -48,15 +48,29 @@ configure_file("${PROJECT_SOURCE_DIR}/cmake/lumenkit.pc.in" "${PROJECT_BINARY_DI
 install(FILES "${PROJECT_BINARY_DIR}/lumenkit.pc"
     DESTINATION "${CMAKE_INSTALL_LIBDIR}/pkgconfig" COMPONENT development ${where_needed})
 
+# install_manual(PROGRAM): the manual pages and completions that the program wrote when it was built.
+# zsh looks for the completions of packages in another folder than for those below /usr/local.
+set(LUMENKIT_ZSH_FOLDER "${CMAKE_INSTALL_DATAROOTDIR}/zsh/vendor-completions"
+    CACHE STRING "Where completions for zsh are installed")
+function(install_manual program)
+    set(written "${PROJECT_BINARY_DIR}/manual/${program}")
+    install(DIRECTORY "${written}/man1"
+        DESTINATION "${CMAKE_INSTALL_MANDIR}" COMPONENT ${program})
+    install(DIRECTORY "${written}/bash/"
+        DESTINATION "${CMAKE_INSTALL_DATAROOTDIR}/bash-completion/completions" COMPONENT ${program})
+    install(DIRECTORY "${written}/zsh/"
+        DESTINATION "${LUMENKIT_ZSH_FOLDER}" COMPONENT ${program})
+    install(DIRECTORY "${written}/fish/"
+        DESTINATION "${CMAKE_INSTALL_DATAROOTDIR}/fish/vendor_completions.d" COMPONENT ${program})
+endfunction()
+
 if(TARGET lumenkit)
     install(TARGETS lumenkit RUNTIME COMPONENT lumenkit)
-    install(FILES packaging/linux/lumenkit.1
-        DESTINATION "${CMAKE_INSTALL_MANDIR}/man1" COMPONENT lumenkit)
+    install_manual(lumenkit)
 endif()
 if(TARGET lumenform)
     install(TARGETS lumenform RUNTIME COMPONENT lumenform)
-    install(FILES packaging/linux/lumenform.1
-        DESTINATION "${CMAKE_INSTALL_MANDIR}/man1" COMPONENT lumenform)
+    install_manual(lumenform)
     install(FILES packaging/linux/lumenform.desktop
         DESTINATION "${CMAKE_INSTALL_DATAROOTDIR}/applications" COMPONENT lumenform)
     install(FILES packaging/linux/lumenform.xml

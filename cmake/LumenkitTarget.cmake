@@ -86,7 +86,8 @@ endfunction()
 
 # lumenkit_command_line(NAME)
 # Links a program with CLI11 and compiles its sources with little optimisation. They run once, and
-# CLI11 takes long to optimise, even more so with sanitizers.
+# CLI11 takes long to optimise, even more so with sanitizers. The program writes its manual pages and
+# completions into manual/NAME of the build folder.
 function(lumenkit_command_line name)
     target_link_libraries(${name} PRIVATE CLI11::CLI11)
     if(LUMENKIT_SANITIZE)
@@ -94,6 +95,8 @@ function(lumenkit_command_line name)
     else()
         target_compile_options(${name} PRIVATE -O1)
     endif()
+    add_custom_command(TARGET ${name} POST_BUILD
+        COMMAND ${name} write-manual "${PROJECT_BINARY_DIR}/manual/${name}" VERBATIM)
 endfunction()
 
 # lumenkit_headers_compile_alone(NAME target...)

@@ -148,6 +148,11 @@ Property& Block::Set(TextView name, forms::Literal literal, TextView after) {
     return added;
 }
 
+void Block::Replace(Property& present, Property changed) {
+    ItemsChanged();
+    present = std::move(changed);
+}
+
 Block& Block::Group(TextView name, TextView identifier, TextView after) {
     if (Block* group = FindGroup(name)) {
         return *group;
@@ -192,6 +197,14 @@ bool Block::RemoveControl(const Block& control) {
     ItemsChanged();
     items_.erase(found);
     return true;
+}
+
+void Block::RemoveControls(const std::function<bool(const Block& control)>& isMeant) {
+    ItemsChanged();
+    std::erase_if(items_, [&](const Item& item) {
+        const Block* control = AsBlock(item, BlockKind::Control);
+        return control != nullptr && isMeant(*control);
+    });
 }
 
 bool Block::MoveControl(const Block& control, const Block* before) {

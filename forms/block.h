@@ -3,6 +3,7 @@
 #pragma once
 
 #include <cstddef>
+#include <functional>
 #include <memory>
 #include <variant>
 #include <vector>
@@ -71,6 +72,8 @@ class Block {
     /// `after`, or after the last one if `after` does not exist. A property that replaces a group
     /// takes its place.
     Property& Set(TextView name, forms::Literal literal, TextView after = {});
+    /// Puts `changed` in the place of the property `present` of this block.
+    void Replace(Property& present, Property changed);
     /// Returns the group `name`. Creates it if there is none, in the place that Set would choose.
     Block& Group(TextView name, TextView identifier, TextView after = {});
     /// Removes the property or group `name`. Returns false when there is none.
@@ -81,6 +84,8 @@ class Block {
     /// Removes one of Controls() with its contents. Returns false when `control` is not one of
     /// them.
     bool RemoveControl(const Block& control);
+    /// Removes those of Controls() that `isMeant` accepts, with their contents.
+    void RemoveControls(const std::function<bool(const Block& control)>& isMeant);
     /// Moves one of Controls() before another one, or to the end. Returns false when `control` is
     /// not one of them.
     bool MoveControl(const Block& control, const Block* before);

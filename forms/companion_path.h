@@ -5,6 +5,8 @@
 #include <functional>
 #include <string>
 
+#include "forms/folder_names.h"
+
 namespace lumenkit::forms {
 
 /// The name of a companion in the references of its form.
@@ -25,5 +27,9 @@ struct CompanionName {
 std::filesystem::path CompanionPath(
     const std::filesystem::path& form, const CompanionName& name,
     const std::function<bool(const std::filesystem::path&)>& isMeant);
+/// The same with the names of the files as `folders` knows them.
+std::filesystem::path CompanionPath(
+    const std::filesystem::path& form, const CompanionName& name,
+    const std::function<bool(const std::filesystem::path&)>& isMeant, FolderNames& folders);
 
 }  // namespace lumenkit::forms

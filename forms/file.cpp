@@ -7,30 +7,13 @@
 #include "forms/form_error.h"
 #include "forms/known_files.h"
 #include "forms/path_names.h"
-#include "forms/system_call.h"
+#include "forms/plain_file.h"
 
 namespace lumenkit::forms {
 
 namespace {
 
 namespace fs = std::filesystem;
-
-std::string ReadBytes(const fs::path& path) {
-    FileState state;
-    std::string bytes;
-    if (Disk::System().Look(path, state) && state.exists && !state.isRegular) {
-        throw FormError(NameOf(path), "is not a plain file");
-    }
-    if (state.size > largestFile) {
-        throw FormError(NameOf(path),
-                        "is larger than " + std::to_string(largestFile >> 20U) + " MB");
-    }
-    SystemCall call;
-    if (!call.Run([&] { return Disk::System().Read(path, bytes); })) {
-        throw FormError(NameOf(path), "cannot be read" + call.Reason());
-    }
-    return bytes;
-}
 
 bool IsChanged(const KnownFiles& files, const fs::path& path) {
     const Fingerprint* const known = files.Find(Resolved(path));
@@ -49,16 +32,22 @@ void Accept(KnownFiles& files, const fs::path& path) {
 }  // namespace
 
 Document Load(const fs::path& path, int codePage) {
+    FolderNames folders;
+    return Load(path, codePage, folders);
+}
+
+Document Load(const fs::path& path, int codePage, FolderNames& folders) {
     KnownFiles files;
     const auto read = [&](const fs::path& file) {
-        std::string bytes = ReadBytes(file);
+        std::string bytes = ReadPlainFile(file);
         files.Remember(Resolved(file), bytes);
         return bytes;
     };
     const std::string form = read(path);
     const auto readCompanion = [&](const std::string& name) {
         const CompanionName companion{name, Encoding::Of(form, codePage).NameBytes(name)};
-        return read(CompanionPath(path, companion, [](const fs::path&) { return true; }));
+        return read(CompanionPath(
+            path, companion, [](const fs::path&) { return true; }, folders));
     };
     Document document = Document::Parse(NameOf(path), form, readCompanion, codePage);
     document.Files() = std::move(files);

@@ -1,24 +1,23 @@
 // Loads and saves forms on disk.
 #pragma once
 
-#include <cstdint>
 #include <filesystem>
 
 #include "forms/document.h"
+#include "forms/folder_names.h"
 #include "forms/save.h"
 
 namespace lumenkit::forms {
 
-/// The size of the largest form or companion that is read, in bytes. Larger ones are not forms, and
-/// would only exhaust the memory.
-inline constexpr std::uintmax_t largestFile = std::uintmax_t{256} << 20U;
-
 /// Reads a form and, if it refers to one, the companion next to it. For a symbolic link to a form,
 /// the companion may be next to the target. If no file has the exact name, one whose name differs
 /// in case only is read. Throws FormError for a form that cannot be read, is larger than
-/// largestFile or is no plain file, such as a folder or a pipe. Such a companion leaves a warning
-/// in the document.
+/// largestFile (forms/plain_file.h) or is no plain file, such as a folder or a pipe. Such a
+/// companion leaves a warning in the document.
 Document Load(const std::filesystem::path& path, int codePage = guessedCodePage);
+/// The same for one of many forms: a companion that is not there under its exact name is sought in
+/// `folders`.
+Document Load(const std::filesystem::path& path, int codePage, FolderNames& folders);
 
 /// Writes a form and, if it has one, the companion next to it. Each new file is first written next
 /// to the old one under a unique name and then replaces it, the companion before the form. Each

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <cstddef>
+
 #include "forms/form_error.h"
 #include "forms/literal.h"
 #include "frame/text.h"
@@ -32,15 +34,22 @@ class Property {
     /// The positions of both in the file that was read; line 0 for a property that was added.
     Position NamePlace() const { return places_.name; }
     Position ValuePlace() const { return places_.value; }
-    /// Its `value` is empty for a text that has no offset in the companion yet.
+    /// The value itself is missing for a text that has no offset in the companion yet.
     const PropertySource& Source() const { return source_; }
 
     /// Sets another value. The line keeps the part before the value; a comment is removed.
     void Set(forms::Literal literal);
+    /// Sets another value and keeps the rest of the line. Of a comment, only the word after a
+    /// Boolean is removed.
+    void Replace(forms::Literal literal);
+    /// Changes the name. The rest of the line stays.
+    void Rename(TextView name);
     /// Adds a comment after a value that has none, for example to explain a number.
     void AddComment(TextView comment);
 
  private:
+    std::size_t EndOfValue() const;
+
     Text name_;
     forms::Literal literal_;
     Text comment_;

@@ -10,4 +10,13 @@ namespace lumenkit::forms {
 /// file cannot be written, is read-only or is no plain file; then the old file stays.
 void ReplaceFile(const std::filesystem::path& path, const std::string& bytes);
 
+struct Replacement {
+    const std::string& known;  ///< the contents that the caller has read
+    const std::string& next;   ///< the new ones
+};
+
+/// The same for a file that the caller has read. Concurrent calls for one file wait for each other.
+/// Also throws FormError if the file has other contents than the known ones now.
+void ReplaceKnownFile(const std::filesystem::path& path, const Replacement& contents);
+
 }  // namespace lumenkit::forms

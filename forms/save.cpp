@@ -13,42 +13,13 @@
 #include "forms/form_error.h"
 #include "forms/known_files.h"
 #include "forms/path_names.h"
+#include "forms/save_lock.h"
 
 namespace lumenkit::forms {
 
 namespace {
 
 namespace fs = std::filesystem;
-
-// Excludes other saves of the same file.
-class Lock {
- public:
-    Lock(Disk& disk, const Place& place) : disk_(disk), path_(place.lock) {
-        constexpr int mostTries = 5000;  // with a pause of a millisecond each
-        SystemCall call;
-        const auto take = [&] { return call.Run([&] { return disk.Lock(path_); }); };
-        Disk::Opened lock = take();
-        for (int tries = 1; lock.outcome == Disk::Outcome::Taken; ++tries) {
-            if (tries == mostTries) {
-                throw FormError(place.name, "is being saved by another program");
-            }
-            disk.Pause();
-            lock = take();
-        }
-        if (lock.outcome != Disk::Outcome::Done) {
-            RefuseToWrite(place, call.Reason());
-        }
-        handle_ = lock.handle;
-    }
-    Lock(const Lock&) = delete;
-    Lock& operator=(const Lock&) = delete;
-    ~Lock() { disk_.Unlock(handle_, path_); }
-
- private:
-    Disk& disk_;
-    const fs::path& path_;
-    Disk::Handle handle_ = -1;
-};
 
 // Whether a file is left over from a save of `place` by a program that was killed. Call it only
 // while the place is locked. A kept companion is left over only if nothing of it would be lost.
@@ -102,8 +73,8 @@ class Saving {
         if (companion_) {
             LookAt(disk_, *companion_);
         }
-        const Lock formLock(disk_, form_);
-        std::optional<Lock> companionLock;
+        const SaveLock formLock(disk_, form_);
+        std::optional<SaveLock> companionLock;
         RemoveLeftOvers(disk_, form_);
         if (companion_) {
             companionLock.emplace(disk_, *companion_);

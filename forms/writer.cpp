@@ -90,7 +90,10 @@ void FormWriter::Add(const Property& property) {
     Begin(property.NamePlace().line);
     text_ += source.prefix;
     const auto* stored = std::get_if<CompanionText>(&property.Literal());
-    text_ += stored == nullptr ? source.value : Store(stored->text);
+    if (stored != nullptr) {
+        text_ += Store(stored->text);
+    }
+    text_ += source.value;
     text_ += source.lineBreak;
 }
 

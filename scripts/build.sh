@@ -13,9 +13,9 @@ usage() {
 preset=$1
 shift
 case $preset in
-    native | dev) scripts/setup.sh build qt ;;
-    native-asan) scripts/setup.sh build qt fuzz ;;
-    coverage) scripts/setup.sh build coverage ;;
+    native | dev) scripts/setup.sh build test qt ;;
+    native-asan) scripts/setup.sh build test qt fuzz ;;
+    coverage) scripts/setup.sh build test coverage ;;
     mingw-*) scripts/setup.sh build windows ;;
     *) usage ;;
 esac

@@ -13,6 +13,18 @@ fail() {
     exit 1
 }
 
+# check_manual FOLDER: each command has a compressed page, and each program its completions.
+check_manual() {
+    local page program
+    for page in lumenkit lumenkit-check lumenkit-compile lumenkit-drive lumenform lumenform-design lumenform-render; do
+        gzip -t "$1/man/man1/$page.1.gz" || fail "there is no page for $page"
+    done
+    for program in lumenkit lumenform; do
+        [ -s "$1/bash-completion/completions/$program" ] && [ -s "$1/zsh/vendor-completions/_$program" ] &&
+            [ -s "$1/fish/vendor_completions.d/$program.fish" ] || fail "$program has no completions"
+    done
+}
+
 check_debian() {
     local root=$work/root deb
     for deb in "$@"; do
@@ -24,7 +36,7 @@ check_debian() {
     echo '|B:1|Note:' | "$bin/lumenkit" compile | grep -qF 'b = "1"' || fail "lumenkit does not compile"
     "$bin/lumenform" render samples/forms/all_three.frm -o "$work/form.png"
     [ -s "$work/form.png" ] || fail "lumenform draws nothing"
-    [ -s "$share/man/man1/lumenkit.1" ] && [ -s "$share/man/man1/lumenform.1" ] || fail "there is no manual"
+    check_manual "$share"
     [ -z "$(dpkg-deb -f "$(printf '%s\n' "$@" | grep /lumenkit_)" Depends | grep -i qt)" ] ||
         fail "the command line depends on Qt"
     desktop-file-validate "$share/applications/lumenform.desktop"

@@ -4,9 +4,11 @@ set -euo pipefail
 cd "$(dirname "$0")/.."
 
 scripts/setup.sh screen
-scripts/build.sh native lumenform
+scripts/build.sh native lumenform lumenkit
 lumenform=build/native/apps/lumenform/lumenform
 python3 scripts/draw_captions.py "$lumenform" docs/caption-language.md
+build/native/apps/lumenkit/lumenkit compile --svg --font Arial,12 --bullet-prefix '* ' \
+    --bullet-indent 300 samples/captions/bullets.txt >docs/images/compiled-caption.svg
 for form in docs/images/*.frm; do
     "$lumenform" render "$form" -o "${form%.frm}.png" --scale 2
 done

@@ -7,26 +7,18 @@
 #include <vector>
 
 #include "apps/command_line/exit_status.h"
+#include "apps/command_line/help_formatter.h"
 #include "apps/command_line/spelling/nearest.h"
-#include "apps/command_line/wrapped.h"
+#include "apps/command_line/spelling/printable.h"
+#include "apps/command_line/spelling/suggestion.h"
 #include "frame/utf8.h"
 
 namespace lumenkit::cli {
 
 namespace {
 
-// Bytes that are not UTF-8 become question marks, and control characters blanks.
-std::string Shown(const std::string& argument) {
-    std::string shown;
-    try {
-        shown = ToUtf8(FromUtf8(argument));
-    } catch (const MalformedUtf8&) {
-        std::ranges::transform(argument, std::back_inserter(shown),
-                               [](char letter) { return letter < 0 ? '?' : letter; });
-    }
-    std::ranges::replace_if(
-        shown, [](char letter) { return (letter >= 0 && letter < ' ') || letter == '\x7f'; }, ' ');
-    return '"' + shown + '"';
+std::string Quoted(const std::string& argument) {
+    return '"' + Printable(argument) + '"';
 }
 
 std::string Question(const std::string& written, const std::vector<std::string>& words) {
@@ -39,31 +31,14 @@ std::string Question(const std::string& written, const std::vector<std::string>&
     } catch (const MalformedUtf8&) {
         return {};
     }
-    const TextView nearest = Nearest(text, views);
-    return nearest.empty() ? std::string() : "; did you mean \"" + ToUtf8(nearest) + "\"?";
+    return DidYouMean(ToUtf8(Nearest(text, views)));
 }
 
-class Formatter final : public CLI::Formatter {
- public:
-    std::string make_option_desc(const CLI::Option* option) const override {
-        return Wrapped(CLI::Formatter::make_option_desc(option), terminalWidth - column_width_);
-    }
-    std::string make_description(const CLI::App* app) const override {
-        return Wrapped(app->get_description(), terminalWidth) + '\n';
-    }
-    std::string make_subcommand(const CLI::App* command) const override {
-        std::string line = "  " + command->get_name();
-        line.resize(std::max(line.size() + 2, column_width_), ' ');
-        return FittedToTerminal(line + command->get_description()) + '\n';
-    }
-    std::string make_footer(const CLI::App* app) const override {
-        return FittedToTerminal(CLI::Formatter::make_footer(app));
-    }
-};
-
+// The commands that help shows.
 std::vector<std::string> CommandNames(const CLI::App& program) {
     std::vector<std::string> names;
-    for (const CLI::App* command : program.get_subcommands([](const CLI::App*) { return true; })) {
+    for (const CLI::App* command : program.get_subcommands(
+             [](const CLI::App* offered) { return !offered->get_group().empty(); })) {
         names.push_back(command->get_name());
     }
     return names;
@@ -79,6 +54,10 @@ std::vector<std::string> OptionNames(const CLI::App& command) {
     return names;
 }
 
+std::string BeforeEqualsSign(const std::string& argument) {
+    return argument.substr(0, argument.find('='));
+}
+
 class Call {
  public:
     Call(CLI::App& program, int argc, char** argv, const ImpliedCommand& implied)
@@ -89,7 +68,9 @@ class Call {
 
     // Throws CLI::ParseError.
     void Parse() {
-        RequireCommand();
+        if (const std::string word = WrongWord(); !word.empty()) {
+            throw CLI::ExtrasError({word});
+        }
         std::vector<std::string> backwards(arguments_.rbegin(), arguments_.rend());
         program_.parse(std::move(backwards));
     }
@@ -108,42 +89,53 @@ class Call {
     }
 
  private:
-    bool HasCommand() const { return !arguments_.empty() && !arguments_.front().starts_with('-'); }
+    // The place of the command among the arguments: after the program's own options and their
+    // values.
+    std::size_t Place() const {
+        std::size_t place = 0;
+        while (place < arguments_.size() && arguments_[place].starts_with('-')) {
+            const CLI::Option* const option = program_.get_option_no_throw(arguments_[place]);
+            place += option != nullptr && option->get_items_expected_max() > 0 ? 2 : 1;
+        }
+        return place;
+    }
+    bool HasCommand() const { return Place() < arguments_.size(); }
+    const std::string& CommandWord() const { return arguments_[Place()]; }
     bool IsCommand(const std::string& word) const {
-        return std::ranges::count(CommandNames(program_), word) > 0;
+        const auto isNamed = [&](const CLI::App* command) { return command->get_name() == word; };
+        return !program_.get_subcommands(isNamed).empty();
     }
 
     void ExpandHelp() {
-        if (HasCommand() && arguments_.front() == "help") {
-            arguments_.erase(arguments_.begin());
+        if (HasCommand() && CommandWord() == "help") {
+            arguments_.erase(arguments_.begin() + static_cast<std::ptrdiff_t>(Place()));
             arguments_.emplace_back("--help");
         }
     }
     void Imply(const ImpliedCommand& implied) {
-        if (implied && HasCommand() && !IsCommand(arguments_.front())) {
-            if (std::string command = implied(arguments_.front()); !command.empty()) {
-                arguments_.insert(arguments_.begin(), std::move(command));
+        if (implied && HasCommand() && !IsCommand(CommandWord())) {
+            if (std::string command = implied(CommandWord()); !command.empty()) {
+                arguments_.insert(arguments_.begin() + static_cast<std::ptrdiff_t>(Place()),
+                                  std::move(command));
             }
         }
     }
-    // The first argument is a command or an option of the program.
-    void RequireCommand() const {
-        if (arguments_.empty()) {
-            return;
+    // The first word up to the command that is neither the command nor an option of the program, or
+    // an empty text.
+    std::string WrongWord() const {
+        const std::size_t place = std::min(Place(), arguments_.size());
+        for (std::size_t i = 0; i < place; ++i) {
+            std::string word = BeforeEqualsSign(arguments_[i]);
+            if (word.starts_with('-') && program_.get_option_no_throw(word) == nullptr) {
+                return word;
+            }
         }
-        const std::string& first = arguments_.front();
-        const bool isKnown =
-            HasCommand() ? IsCommand(first)
-                         : first == "-h" || std::ranges::count(OptionNames(program_), first) > 0;
-        if (!isKnown) {
-            throw CLI::ExtrasError({first});
-        }
+        return HasCommand() && !IsCommand(CommandWord()) ? CommandWord() : std::string();
     }
 
     const CLI::App& Command() const {
-        return HasCommand() && IsCommand(arguments_.front())
-                   ? *program_.get_subcommand(arguments_.front())
-                   : program_;
+        return HasCommand() && IsCommand(CommandWord()) ? *program_.get_subcommand(CommandWord())
+                                                        : program_;
     }
 
     std::string Reason(const CLI::ParseError& error, const CLI::App& command) const {
@@ -151,10 +143,10 @@ class Call {
             return "a command is required";
         }
         if (dynamic_cast<const CLI::ExtrasError*>(&error) == nullptr) {
-            return error.what();
+            return Printable(error.what());
         }
         if (&command == &program_) {
-            return Unexpected(arguments_.front(), "command", command, CommandNames(program_));
+            return Unexpected(WrongWord(), "command", command, CommandNames(program_));
         }
         const std::vector<std::string> extras = program_.remaining(true);
         return extras.empty() ? error.what() : Unexpected(extras.front(), "", command, {});
@@ -163,13 +155,13 @@ class Call {
     // `kind` is what a word that is no option should have been.
     static std::string Unexpected(const std::string& argument, const std::string& kind,
                                   const CLI::App& command, const std::vector<std::string>& words) {
-        const std::string word = argument.substr(0, argument.find('='));
+        const std::string word = BeforeEqualsSign(argument);
         if (word.starts_with('-')) {
-            return "there is no option " + Shown(word) + Question(word, OptionNames(command));
+            return "there is no option " + Quoted(word) + Question(word, OptionNames(command));
         }
         return kind.empty()
-                   ? "did not expect " + Shown(argument)
-                   : "there is no " + kind + ' ' + Shown(argument) + Question(argument, words);
+                   ? "did not expect " + Quoted(argument)
+                   : "there is no " + kind + ' ' + Quoted(argument) + Question(argument, words);
     }
 
     CLI::App& program_;
@@ -180,7 +172,7 @@ class Call {
 
 void SetUpProgram(CLI::App& program, const std::string& version) {
     program.set_version_flag("--version", program.get_name() + ' ' + version);
-    program.formatter(std::make_shared<Formatter>());
+    program.formatter(std::make_shared<HelpFormatter>());
 }
 
 int RunProgram(CLI::App& program, int argc, char** argv, const int& status,

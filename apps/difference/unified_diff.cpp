@@ -125,7 +125,7 @@ std::string Name(const std::string& prefix, const std::string& file) {
     std::string quoted = "\"";
     for (const char letter : name) {
         if (isUnusual(letter)) {
-            const auto byte = static_cast<unsigned>(letter);
+            const auto byte = static_cast<unsigned char>(letter);
             constexpr unsigned octal = 8;
             quoted += '\\';
             quoted += static_cast<char>('0' + byte / octal / octal);

@@ -4,6 +4,9 @@
 #include <memory>
 #include <optional>
 
+#include "apps/command_line/exit_status.h"
+#include "apps/command_line/help_formatter.h"
+#include "apps/command_line/offered.h"
 #include "apps/lumenform/commands.h"
 #include "apps/lumenform/design/window/design_window.h"
 #include "apps/lumenform/desktop_session.h"
@@ -46,16 +49,18 @@ int DesignForm(const DesktopOptions& options) {
 void AddDesignCommand(CLI::App& program, int& status) {
     CLI::App* const command = program.add_subcommand("design", "Edit a form in the designer");
     const auto options = std::make_shared<DesktopOptions>();
-    command->add_option("FORM", options->form,
-                        "The form (.frm, .ctl, .pag, .dob); without it, the start screen");
+    CLI::Option* const form = command->add_option(
+        "FORM", options->form, "The form (.frm, .ctl, .pag, .dob); without it, the start screen");
+    cli::Offer(*command, *form, cli::FormFiles());
     AddDesktopOptions(*command, *options);
-    command->footer(
-        R"(Unchanged parts of the form are saved byte for byte. "lumenform" without arguments opens the
-start screen.
-
-Examples:
-  lumenform design samples/forms/order.frm
-  lumenform)");
+    cli::SetNotes(
+        *command,
+        {.sections = {{.text = "Unchanged parts of the form are saved byte for byte. \"lumenform\" "
+                               "without arguments opens the start screen."}},
+         .exitStatuses = {{cli::exitDone, "the designer was closed"},
+                          {cli::exitUnusable,
+                           "wrong arguments, the form cannot be read, or there is no display"}},
+         .examples = {"lumenform design samples/forms/order.frm", "lumenform"}});
     command->callback([options, &status] { status = DesignForm(*options); });
     program.callback([&program, options, &status] {
         if (program.get_subcommands().empty()) {

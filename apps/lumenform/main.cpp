@@ -7,6 +7,9 @@
 #include <CLI/CLI.hpp>
 
 #include "apps/command_line/exit_status.h"
+#include "apps/command_line/help_formatter.h"
+#include "apps/command_line/manual/commands.h"
+#include "apps/command_line/offered.h"
 #include "apps/command_line/program.h"
 #include "apps/lumenform/commands.h"
 
@@ -27,24 +30,26 @@ int Run(int argc, char** argv) {
                      "lumenform");
     cli::SetUpProgram(program, LUMENKIT_VERSION);
     program.require_subcommand(0, 1);
-    program.footer(
-        R"(Without a command, lumenform opens the start screen of the designer.
-
-Exit status: 0 on success, 1 if a control reported an error, 2 for wrong arguments and for
-files that cannot be read or written.
-
-Examples:
-  lumenform new order.frm
-  lumenform order.frm
-  lumenform design order.frm
-  lumenform run order.frm
-  lumenform render order.frm -o order.png --scale 2
-  lumenform render --help)");
+    cli::SetNotes(
+        program,
+        {.sections = {{.text =
+                           "Without a command, lumenform opens the start screen of the designer."}},
+         .exitStatuses = {{cli::exitDone, "success"},
+                          {cli::exitReported, "a control reported an error"},
+                          {cli::exitUnusable,
+                           "wrong arguments, or files that cannot be read or written"}},
+         .examples = {"lumenform new order.frm", "lumenform order.frm",
+                      "lumenform design order.frm", "lumenform run order.frm",
+                      "lumenform render order.frm -o order.png --scale 2",
+                      "lumenform render --help"},
+         .insteadOfCommand = cli::FormFiles()});
     int status = cli::exitDone;
     AddDesignCommand(program, status);
     AddNewCommand(program, status);
     AddRenderCommand(program, status);
     AddRunCommand(program, status);
+    cli::AddCompletionCommand(program, status);
+    cli::AddWriteManualCommand(program, status);
     return cli::RunProgram(program, argc, argv, status, CommandForFile);
 }
 

@@ -5,6 +5,8 @@
 #include <system_error>
 
 #include "apps/command_line/exit_status.h"
+#include "apps/command_line/help_formatter.h"
+#include "apps/command_line/offered.h"
 #include "apps/lumenform/commands.h"
 #include "apps/lumenform/design/model/new_form.h"
 #include "forms/file.h"
@@ -40,17 +42,21 @@ int Create(const std::string& file) {
 void AddNewCommand(CLI::App& program, int& status) {
     CLI::App* const command = program.add_subcommand("new", "Write an empty form");
     const auto file = std::make_shared<std::string>();
-    command
-        ->add_option("NAME", *file,
-                     "The file to create, NAME.frm; an existing file is not overwritten")
-        ->required();
-    command->footer(
-        R"(The form is named after its file. It refers to lumenkit.ocx, so that it can contain the
-controls.
-
-Examples:
-  lumenform new order.frm
-  lumenform new order.frm && lumenform render order.frm -o order.png)");
+    CLI::Option* const name =
+        command
+            ->add_option("NAME", *file,
+                         "The file to create, NAME.frm; an existing file is not overwritten")
+            ->required();
+    cli::Offer(*command, *name, cli::FilesNamed({"frm"}));
+    cli::SetNotes(
+        *command,
+        {.sections = {{.text = "The form is named after its file. It refers to lumenkit.ocx, so "
+                               "that it can contain the controls."}},
+         .exitStatuses = {{cli::exitDone, "the form was written"},
+                          {cli::exitUnusable,
+                           "wrong arguments, or the file is there already or cannot be written"}},
+         .examples = {"lumenform new order.frm",
+                      "lumenform new order.frm && lumenform render order.frm -o order.png"}});
     command->callback([file, &status] { status = Create(*file); });
 }
 

@@ -7,6 +7,8 @@
 #include "apps/command_line/code_page_option.h"
 #include "apps/command_line/console_host.h"
 #include "apps/command_line/exit_status.h"
+#include "apps/command_line/help_formatter.h"
+#include "apps/command_line/offered.h"
 #include "apps/lumenform/commands.h"
 #include "apps/lumenform/desktop.h"
 #include "apps/lumenform/form_view/form_view.h"
@@ -100,33 +102,46 @@ int Render(const Options& options) {
 void AddRenderCommand(CLI::App& program, int& status) {
     CLI::App* const command = program.add_subcommand("render", "Draw a form into a PNG file");
     const auto options = std::make_shared<Options>();
-    command->add_option("FORM", options->form,
-                        "The form (.frm, .ctl, .pag, .dob); --design without it draws the start "
-                        "screen");
+    CLI::Option* const form = command->add_option(
+        "FORM", options->form,
+        "The form (.frm, .ctl, .pag, .dob); --design without it draws the start "
+        "screen");
+    cli::Offer(*command, *form, cli::FormFiles());
+    CLI::Option* const picture =
+        command
+            ->add_option("-o,--output", options->picture,
+                         "The picture, a PNG file whose name ends in .png; an existing file is "
+                         "replaced")
+            ->required()
+            ->option_text("PICTURE");
+    cli::Offer(*command, *picture, cli::FilesNamed({"png"}));
     command
-        ->add_option("-o,--output", options->picture,
-                     "The picture, a PNG file whose name ends in .png; an existing file is "
-                     "replaced")
-        ->required();
-    command->add_option("--scale", options->scale, "Scale factor of width and height")
-        ->capture_default_str()
-        ->check(CLI::Range(smallestScale, largestScale));
+        ->add_option("--scale", options->scale,
+                     "Scale factor of width and height, from 0.5 to 4; default: 1")
+        ->check(CLI::Range(smallestScale, largestScale))
+        ->option_text("FACTOR");
     CLI::Option* const design =
         command->add_flag("--design", options->design, "Draw the designer with the form in it");
     command
         ->add_flag("--page", options->page,
-                   "Open the property page of the first control that has one")
+                   "With --design, open the property page of the first control that has one")
         ->needs(design);
     command->add_flag("--dark", options->dark, "Use a dark palette");
     cli::AddCodePageOption(*command, options->codePage);
-    command->footer(
-        R"(The picture shows the client area and the menus of the form, without the title bar, at 96
-pixels per inch. No display is needed.
-
-Examples:
-  lumenform render samples/forms/all_three.frm -o all_three.png
-  lumenform render samples/forms/memo.frm -o memo.png --scale 1.25 --dark
-  lumenform render samples/forms/order.frm -o designer.png --design --page)");
+    cli::SetNotes(
+        *command,
+        {.sections = {{.text = "The picture shows the client area and the menus of the form, "
+                               "without the title bar, at 96 pixels per inch. No display is "
+                               "needed."}},
+         .exitStatuses = {{cli::exitDone, "the picture was written"},
+                          {cli::exitReported,
+                           "a control reported an error; the picture was written"},
+                          {cli::exitUnusable,
+                           "wrong arguments, the form cannot be read, or the picture cannot be "
+                           "written"}},
+         .examples = {"lumenform render samples/forms/all_three.frm -o all_three.png",
+                      "lumenform render samples/forms/memo.frm -o memo.png --scale 1.25 --dark",
+                      "lumenform render samples/forms/order.frm -o designer.png --design --page"}});
     command->callback([options, &status] {
         if (options->form.empty() && !options->design) {
             throw CLI::RequiredError("FORM");

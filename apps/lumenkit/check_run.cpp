@@ -1,17 +1,21 @@
 #include "apps/lumenkit/check_run.h"
 
+#include <exception>
 #include <iostream>
 #include <new>
+#include <stdexcept>
 #include <string>
 #include <utility>
 
 #include "apps/command_line/exit_status.h"
 #include "apps/lumenkit/check/file_checks.h"
+#include "apps/lumenkit/check/fix/shown_diff.h"
 #include "apps/lumenkit/in_order.h"
 #include "apps/lumenkit/terminal.h"
 #include "apps/lumenkit/text_input.h"
 #include "forms/code_page_guess.h"
 #include "forms/file.h"
+#include "forms/form_error.h"
 #include "project/lumenkit_classes.h"
 
 namespace lumenkit::cli {
@@ -25,6 +29,19 @@ using check::Findings;
 constexpr std::size_t manyFiles = 20;
 
 constexpr const char* standardInput = "-";
+
+FileError ErrorOf(const std::string& file, const std::exception& error) {
+    if (const auto* inForm = dynamic_cast<const forms::FormError*>(&error)) {
+        return {inForm->File(), inForm->Place(), inForm->Description(), inForm->what()};
+    }
+    if (dynamic_cast<const UnusableInput*>(&error) != nullptr) {
+        return {file, {}, error.what(), error.what()};
+    }
+    const bool isMemory = dynamic_cast<const std::bad_alloc*>(&error) != nullptr;
+    const std::string description =
+        isMemory ? "there is not enough memory to check it" : error.what();
+    return {file, {}, description, file + ": " + description};
+}
 
 }  // namespace
 
@@ -44,8 +61,8 @@ int CheckRun::Run() {
     CheckFiles(inputs.files);
     reporter_.Finish(checked_);
     if (!std::cout.flush()) {
-        std::cerr << "lumenkit: cannot write the findings\n";
-        return exitUnusable;
+        throw std::runtime_error(std::string("cannot write the ") +
+                                 (options_.diff ? "diff" : "findings"));
     }
     if (written_) {
         written_->Write();
@@ -53,7 +70,7 @@ int CheckRun::Run() {
     if (failed_) {
         return exitUnusable;
     }
-    return found_ ? exitReported : exitDone;
+    return (options_.diff ? differs_ : found_) ? exitReported : exitDone;
 }
 
 void CheckRun::CheckFiles(const std::vector<std::string>& files) {
@@ -71,40 +88,49 @@ CheckRun::Result CheckRun::Check(const std::string& file) const {
     Result result;
     try {
         if (options_.captions) {
-            result.findings = check::CheckCaptionFile(file, ReadText(file));
-            return result;
+            CheckCaption(file, result);
+        } else {
+            CheckForm(file, result);
         }
-        return CheckForm(file);
-    } catch (const forms::FormError& error) {
-        result.error = {error.File(), error.Place(), error.Description(), error.what()};
-    } catch (const UnusableInput& error) {
-        result.error = {file, {}, error.what(), error.what()};
-    } catch (const std::bad_alloc&) {
-        const std::string description = "there is not enough memory to check it";
-        result.error = {file, {}, description, file + ": " + description};
+    } catch (const std::exception& error) {
+        result.error = ErrorOf(file, error);
     }
     return result;
 }
 
-CheckRun::Result CheckRun::CheckForm(const std::string& file) const {
+void CheckRun::CheckCaption(const std::string& file, Result& result) {
+    result.input = ReadBytes(file);
+    result.findings = check::CheckCaptionFile(file, TextFileOf(file, *result.input).text);
+}
+
+void CheckRun::CheckForm(const std::string& file, Result& result) const {
+    if (IsInput(file)) {
+        result.input = ReadBytes(file);
+    }
     const forms::Document form =
-        file == standardInput
-            ? forms::Document::Parse(standardInput, ReadBytes(file), {}, options_.codePage)
-            : forms::Load(file, options_.codePage);
-    Result result;
+        result.input ? forms::Document::Parse(file, *result.input, {}, options_.codePage)
+                     : forms::Load(file, options_.codePage, folders_);
     if (const std::optional<forms::CodePageGuess>& guess = form.Guess()) {
         result.note = {form.Name(), guess->place,
                        TextOf(*guess) + "; --code-page names another one"};
     }
     result.findings = check::CheckForm(form, lumenkitClasses);
     check::ApplyComments(form, result.findings);
-    return result;
+}
+
+bool CheckRun::IsInput(const std::string& file) const {
+    return options_.captions ? IsStandardInput(file) : file == standardInput;
 }
 
 void CheckRun::Take(const std::string& file, Result result, check::ProgressBar& bar) {
+    const bool isFixed = options_.fixing != Fixing::None;
+    const bool isPassedOn = isFixed && !options_.diff && IsInput(file);
     if (result.error) {
         bar.Hide();
         Report(*result.error);
+        if (isPassedOn) {
+            std::cout << result.input.value_or(std::string());
+        }
         return;
     }
     ++checked_;
@@ -112,22 +138,69 @@ void CheckRun::Take(const std::string& file, Result result, check::ProgressBar& 
         bar.Hide();
         reporter_.Report(*result.note);
     }
-    Findings& findings = result.findings;
+    Select(file, result.findings);
+    if (written_) {
+        written_->Add(result.findings);
+    }
+    SelectNew(result.findings);
+    if (isPassedOn || (isFixed && !result.findings.empty())) {
+        bar.Hide();
+        Fix(file, result);
+    }
+    if (!result.findings.empty()) {
+        found_ = !written_;
+        bar.Hide();
+        reporter_.Report(result.findings);
+    }
+}
+
+void CheckRun::Select(const std::string& file, Findings& findings) {
     std::erase_if(findings, [&](const check::Finding& finding) {
         return !options_.selection.Takes(finding);
     });
     exceptions_.Apply(file, findings);
-    if (written_) {
-        written_->Add(findings);
-    }
+}
+
+void CheckRun::SelectNew(Findings& findings) const {
     if (known_) {
         known_->Apply(findings);
     }
-    if (!findings.empty()) {
-        found_ = !written_;
-        bar.Hide();
-        reporter_.Report(findings);
+}
+
+// Replaces the findings by those that are left. If the file cannot be mended, all are.
+void CheckRun::Fix(const std::string& file, Result& result) {
+    try {
+        FixedFile fixed = Fixed(file, result);
+        Show(fixed.output);
+        differs_ = differs_ || !fixed.fixes.made.empty();
+        reporter_.Report(fixed.fixes);
+        result.findings = std::move(fixed.left);
+    } catch (const check::BadException&) {
+        throw;
+    } catch (const std::exception& error) {
+        Report(ErrorOf(file, error));
+        if (!options_.diff && IsInput(file)) {
+            Show(*result.input);
+        }
     }
+}
+
+FixedFile CheckRun::Fixed(const std::string& file, const Result& result) {
+    const check::FixScope scope =
+        options_.fixing == Fixing::All ? check::FixScope::All : check::FixScope::Safe;
+    const FileFixer fixer({scope, options_.diff, options_.codePage}, [&](Findings findings) {
+        Select(file, findings);
+        SelectNew(findings);
+        return findings;
+    });
+    return options_.captions ? fixer.FixCaption(file, *result.input)
+                             : fixer.FixForm(file, result.input);
+}
+
+void CheckRun::Show(const std::string& output) const {
+    const bool isColored = TakesColors(Stream::Output, options_.coloring);
+    const bool isForPerson = options_.diff && (isColored || IsTerminal(Stream::Output));
+    std::cout << (isForPerson ? check::DiffForTerminal(output, isColored) : output);
 }
 
 void CheckRun::Report(const FileError& error) {

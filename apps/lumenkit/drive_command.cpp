@@ -1,7 +1,9 @@
 #include <iostream>
+#include <stdexcept>
 #include <string>
 
 #include "apps/command_line/exit_status.h"
+#include "apps/command_line/help_formatter.h"
 #include "apps/lumenkit/commands.h"
 #include "apps/lumenkit/drive/session.h"
 #include "project/lumenkit_classes.h"
@@ -10,62 +12,95 @@ namespace lumenkit::cli {
 
 namespace {
 
-constexpr const char* help =
-    R"help(Each input line is one request. Each request gets one line as its answer,
-written at once. Blank lines are skipped. The answer to a failed request
-contains the error, and drive continues with the next line.
+Section Introduction() {
+    return {.text =
+                "Each input line is one request. Each request gets one line as its answer, "
+                "written at once. Blank lines are skipped. The answer to a failed request "
+                "contains the error, and drive continues with the next line."};
+}
 
-Answers: {"ok":true,"value":...,"log":[...]} or
-  {"ok":false,"error":{"number":...,"text":...},"log":[...]}. "value" is absent if there is
-  no result, "number" if the error is not a runtime error. "warnings" lists what a loaded
-  form contains that has no effect, and its guessed code page. "log" lists the notifications to
-  the container: {"event":NAME,"args":[...]}, {"changed":NAME},
-  {"message":{"text":...,"title":...,"style":...}}, {"beep":true}.
+Section Answers() {
+    return {.heading = "Answers",
+            .text =
+                "\"value\" is absent if there is no result, \"number\" if the error is not a "
+                "runtime error. \"warnings\" lists what a loaded form contains that has no "
+                "effect, and its guessed code page. \"log\" lists the notifications to the "
+                "container.",
+            .entries = {
+                {R"({"ok":true,"value":...,"log":[...]})", "the request succeeded"},
+                {R"({"ok":false,"error":{"number":...,"text":...},"log":[...]})", "it failed"}}};
+}
 
-Requests (keys after the bar are optional):
-  {"do":"new","class","id" | "mode","bag","width","height","tag"}    create a control
-  {"do":"new","class":"VLabelCaption","id","select":[ID...]}         open the caption page
-  {"do":"get","id","name" | "dispid","index"}      read a property
-  {"do":"let","id","name","value" | "dispid","index"}  assign a property
-  {"do":"call","id","name" | "dispid","args"}      call a method
-  {"do":"save","id"}                               return the saved properties
-  {"do":"apply","id"}                              apply a page to its first control
-  {"do":"resize","id","width","height"}            resize the control, in twips
-  {"do":"draw","id"}                               return the display list
-  {"do":"state","id"}                              return the constituents
-  {"do":"type","id","text" | "on"}                 type keys; \r is Enter, \b is Backspace
-  {"do":"select","id","start","length" | "on"}     select text
-  {"do":"paste","id","text" | "on"}                replace the selection
-  {"do":"click","id" | "on"}, {"do":"dblclick","id" | "on"}
-  {"do":"mouse","id","event" | "on","button","shift","x","y"}
-  {"do":"scroll","id","on","value"}
-  {"do":"focus" | "id","on"}                       without "on", leave the control
-  {"do":"ambient" | "BackColor","Font"}            set the ambient colour and font
-  {"do":"allow","id","name","value"}               allow or refuse changes of a property
-  {"do":"form","file" | "mode","codePage"}         load a form with its controls
-  {"do":"write","file"}                            save the form with the current values
-  {"do":"quit"}                                    end the program
+Section Notifications() {
+    return {.heading = "Entries of the log",
+            .entries = {
+                {R"({"event":NAME,"args":[...]})", "a control raised an event"},
+                {R"({"changed":NAME})", "a control announced a new value of a property"},
+                {R"({"message":{"text":...,"title":...,"style":...}})", "a message box was shown"},
+                {R"({"beep":true})", "the speaker beeped"}}};
+}
 
-"on" is the name of a constituent, such as "Text1(0)". Without "on", a request
-goes to the visible text box. If there is none, clicks and mouse events go to
-the surface of the control. See docs/drive.md for details.
+Section Requests() {
+    return {
+        .heading = "Requests",
+        .text = "Keys after the bar are optional.",
+        .entries = {
+            {R"({"do":"new","class","id" | "mode","bag","width","height","tag"})",
+             "create a control"},
+            {R"({"do":"new","class":"VLabelCaption","id","select":[ID...]})",
+             "open the caption page"},
+            {R"({"do":"drop","id"})", "end a control or a page"},
+            {R"({"do":"get","id","name" | "dispid","index"})", "read a property"},
+            {R"({"do":"let","id","name","value" | "dispid","index"})", "assign a property"},
+            {R"({"do":"call","id","name" | "dispid","args"})", "call a method"},
+            {R"({"do":"save","id"})", "return the saved properties"},
+            {R"({"do":"apply","id"})", "apply a page to its first control"},
+            {R"({"do":"resize","id","width","height"})", "resize the control, in twips"},
+            {R"({"do":"draw","id"})", "return the display list"},
+            {R"({"do":"state","id"})", "return the constituents"},
+            {R"({"do":"type","id","text" | "on"})", R"(type keys; \r is Enter, \b is Backspace)"},
+            {R"({"do":"select","id","start","length" | "on"})", "select text"},
+            {R"({"do":"paste","id","text" | "on"})", "replace the selection"},
+            {R"({"do":"click","id" | "on"})", "click"},
+            {R"({"do":"dblclick","id" | "on"})", "double-click"},
+            {R"({"do":"mouse","id","event" | "on","button","shift","x","y"})",
+             "press, move or release the mouse"},
+            {R"({"do":"scroll","id","on","value"})", "move a scroll bar"},
+            {R"({"do":"focus" | "id","on"})", R"(move the focus; without "on", leave the control)"},
+            {R"({"do":"ambient" | "BackColor","Font"})", "set the ambient colour and font"},
+            {R"({"do":"allow","id","name","value"})", "allow or refuse changes of a property"},
+            {R"({"do":"form","file" | "mode","codePage"})", "load a form with its controls"},
+            {R"({"do":"write","file"})", "save the form with the current values"},
+            {R"({"do":"version"})", "return the version of the answers"},
+            {R"({"do":"quit"})", "end the program"}}};
+}
 
-Exit status: 0 at the end of the input or after quit, 2 if the requests cannot
-be read or the answers cannot be written.
+Section Constituents() {
+    return {.heading = "Constituents",
+            .text =
+                "\"on\" is the name of a constituent, such as \"Text1(0)\". Without \"on\", a "
+                "request goes to the visible text box. If there is none, clicks and mouse "
+                "events go to the surface of the control. See docs/drive.md for details."};
+}
 
-Examples:
-  echo '{"do":"new","class":"VMemo","id":"m"}' | lumenkit drive
-  printf '%s\n' '{"do":"new","class":"VLabel","id":"a"}' \
-    '{"do":"draw","id":"a"}' | lumenkit drive)help";
+Notes DriveNotes() {
+    return {.sections = {Introduction(), Answers(), Notifications(), Requests(), Constituents()},
+            .exitStatuses = {{exitDone, "the end of the input, or quit"},
+                             {exitUnusable,
+                              "wrong arguments, the requests cannot be read, or the answers cannot "
+                              "be written"}},
+            .examples = {R"(echo '{"do":"new","class":"VMemo","id":"m"}' | lumenkit drive)",
+                         R"(printf '%s\n' '{"do":"new","class":"VLabel","id":"a"}' \)"
+                         "\n"
+                         R"(  '{"do":"draw","id":"a"}' | lumenkit drive)"}};
+}
 
 int StatusOf(const std::istream& input, const std::ostream& output) {
     if (input.bad()) {
-        std::cerr << "lumenkit: cannot read the requests\n";
-        return exitUnusable;
+        throw std::runtime_error("cannot read the requests");
     }
     if (!output) {
-        std::cerr << "lumenkit: cannot write the answers\n";
-        return exitUnusable;
+        throw std::runtime_error("cannot write the answers");
     }
     return exitDone;
 }
@@ -87,7 +122,7 @@ int Drive() {
 void AddDriveCommand(CLI::App& program, int& status) {
     CLI::App* const command = program.add_subcommand(
         "drive", "Drive controls without a display, by JSON requests on the standard input");
-    command->footer(help);
+    SetNotes(*command, DriveNotes());
     command->callback([&status] { status = Drive(); });
 }
 

@@ -5,8 +5,12 @@
 #include <CLI/CLI.hpp>
 
 #include "apps/command_line/exit_status.h"
+#include "apps/command_line/help_formatter.h"
+#include "apps/command_line/manual/commands.h"
 #include "apps/command_line/program.h"
+#include "apps/lumenkit/color_option.h"
 #include "apps/lumenkit/commands.h"
+#include "apps/lumenkit/error_line.h"
 
 namespace lumenkit::cli {
 
@@ -19,16 +23,31 @@ int Run(int argc, char** argv) {
         "lumenkit");
     SetUpProgram(program, LUMENKIT_VERSION);
     program.require_subcommand(1);
-    program.footer(R"(Examples:
-  lumenkit compile samples/captions/headline.txt
-  lumenkit check samples/forms
-  echo '{"do":"new","class":"VMemo","id":"m"}' | lumenkit drive
-  lumenkit compile --help)");
+    SetNotes(
+        program,
+        {.sections = {ColorVariables()},
+         .exitStatuses = {{exitDone, "success"},
+                          {exitReported, "check found mistakes, or a control reported an error"},
+                          {exitUnusable,
+                           "wrong arguments, or files that cannot be read or written"}},
+         .examples = {"lumenkit compile samples/captions/headline.txt",
+                      "lumenkit check samples/forms",
+                      R"(echo '{"do":"new","class":"VMemo","id":"m"}' | lumenkit drive)",
+                      "lumenkit compile --help"}});
     int status = exitDone;
-    AddCheckCommand(program, status);
+    Coloring color = Coloring::Auto;
+    AddCheckCommand(program, color, status);
     AddCompileCommand(program, status);
     AddDriveCommand(program, status);
-    return RunProgram(program, argc, argv, status);
+    AddCompletionCommand(program, status);
+    AddColorOption(program, color);
+    AddWriteManualCommand(program, status);
+    try {
+        return RunProgram(program, argc, argv, status);
+    } catch (const std::exception& error) {
+        WriteErrorLine(error.what(), color);
+        return exitUnusable;
+    }
 }
 
 }  // namespace

@@ -21,8 +21,16 @@ bool IsTerminal(Stream stream) {
     return isatty(stream == Stream::Output ? STDOUT_FILENO : STDERR_FILENO) == 1;
 }
 
-bool TakesColors(Stream stream) {
-    return IsTerminal(stream) && Environment("NO_COLOR").empty() && Environment("TERM") != "dumb";
+bool TakesColors(Stream stream, Coloring color) {
+    if (color != Coloring::Auto) {
+        return color == Coloring::Always;
+    }
+    if (!Environment("NO_COLOR").empty()) {
+        return false;
+    }
+    const std::string_view force = Environment("CLICOLOR_FORCE");
+    return (!force.empty() && force != "0") ||
+           (IsTerminal(stream) && Environment("TERM") != "dumb");
 }
 
 }  // namespace lumenkit::cli

@@ -1,13 +1,16 @@
 #include "apps/lumenkit/text_input.h"
 
+#include <algorithm>
 #include <array>
 #include <cerrno>
 #include <cstdio>
+#include <filesystem>
 #include <memory>
 #include <string_view>
 #include <system_error>
+#include <utility>
 
-#include "forms/file.h"
+#include "forms/plain_file.h"
 #include "frame/utf8.h"
 
 namespace lumenkit::cli {
@@ -34,7 +37,17 @@ std::string ReadAll(std::FILE* file, const std::string& name) {
     return bytes;
 }
 
+// A pipe without a name, as shells make them, has a writer already.
+bool IsNamedPipe(const std::string& path) {
+    std::error_code none;
+    const std::filesystem::path named = std::filesystem::canonical(path, none);
+    return !none && std::filesystem::is_fifo(named, none);
+}
+
 std::string ReadFile(const std::string& path) {
+    if (IsNamedPipe(path)) {
+        throw UnusableInput(path + ": is not a plain file");
+    }
     const std::unique_ptr<std::FILE, int (*)(std::FILE*)> file(std::fopen(path.c_str(), "rb"),
                                                                std::fclose);
     if (!file) {
@@ -43,30 +56,37 @@ std::string ReadFile(const std::string& path) {
     return ReadAll(file.get(), path);
 }
 
-bool IsStandardInput(const std::string& path) {
-    return path == "-";
-}
-
 std::string NameOf(const std::string& path) {
     return IsStandardInput(path) ? "standard input" : path;
 }
 
-std::string_view WithoutFinalLineBreak(std::string_view bytes) {
-    if (bytes.ends_with('\n')) {
-        bytes.remove_suffix(bytes.ends_with("\r\n") ? 2 : 1);
-    }
-    return bytes;
+std::size_t LengthOfFinalLineBreak(std::string_view bytes) {
+    return bytes.ends_with("\r\n") ? 2 : bytes.ends_with('\n') ? 1 : 0;
 }
 
 }  // namespace
 
-Text ReadText(const std::string& path) {
-    const std::string bytes = ReadBytes(path);
+bool IsStandardInput(const std::string& path) {
+    constexpr std::array<std::string_view, 4> names = {"-", "/dev/stdin", "/dev/fd/0",
+                                                       "/proc/self/fd/0"};
+    return std::ranges::find(names, path) != names.end();
+}
+
+TextFile TextFileOf(const std::string& path, std::string bytes) {
+    const std::size_t length = bytes.size() - LengthOfFinalLineBreak(bytes);
+    TextFile file;
     try {
-        return FromUtf8(WithoutFinalLineBreak(bytes));
+        file.text = FromUtf8(std::string_view(bytes).substr(0, length));
     } catch (const MalformedUtf8& error) {
         throw UnusableInput(NameOf(path) + ": " + error.what());
     }
+    file.lineBreak = bytes.substr(length);
+    file.bytes = std::move(bytes);
+    return file;
+}
+
+Text ReadText(const std::string& path) {
+    return TextFileOf(path, ReadBytes(path)).text;
 }
 
 std::string ReadBytes(const std::string& path) {

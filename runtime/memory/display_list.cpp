@@ -46,6 +46,7 @@ void DisplayList::Print(TextView text, float x, float y, const Font::Attributes&
                                                .bold = font.IsBold(),
                                                .italic = font.italic,
                                                .underline = font.underline,
+                                               .strikethrough = font.strikethrough,
                                                .size = font.size,
                                                .color = color},
                                       .text = Keep(text),

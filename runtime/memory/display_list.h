@@ -23,6 +23,7 @@ struct PrintItem {
     bool bold = false;
     bool italic = false;
     bool underline = false;
+    bool strikethrough = false;
     float size = 0;  ///< points
     Color color = {};
     TextView fontName = {};

@@ -37,19 +37,21 @@ TEST(CompileCommand, PrintsTextWhenAskedTo) {
 }
 
 TEST(CompileCommand, PrintsJson) {
-    EXPECT_EQ(RunProgram("compile --json " + samples + "quotes.txt").output,
-              R"({"lines":["She said \"Grüß Gott, 世界\" and left.","\"|Bold|\" inside quotes."],)"
-              R"("commands":[{"name":"b","parameter":"1"},{"name":"b","parameter":"0"}]})"
-              "\n");
+    EXPECT_EQ(
+        RunProgram("compile --json " + samples + "quotes.txt").output,
+        R"({"version":1,"lines":["She said \"Grüß Gott, 世界\" and left.","\"|Bold|\" inside quotes."],)"
+        R"("commands":[{"name":"b","parameter":"1"},{"name":"b","parameter":"0"}]})"
+        "\n");
 }
 
 TEST(CompileCommand, PrintsJsonOfTheEmptyCaption) {
-    EXPECT_EQ(RunProgram("compile --json").output, "{\"lines\":[\"\"],\"commands\":[]}\n");
+    EXPECT_EQ(RunProgram("compile --json").output,
+              "{\"version\":1,\"lines\":[\"\"],\"commands\":[]}\n");
 }
 
 TEST(CompileCommand, PrintsStoredForms) {
     EXPECT_EQ(RunProgram("compile --json " + samples + "sizes.txt").output,
-              R"({"lines":["|small |medium |LARGE",)"
+              R"({"version":1,"lines":["|small |medium |LARGE",)"
               R"("The size of |one| word lengthens its line."],"commands":[)"
               R"({"name":"size","parameter":" 8"},{"name":"size","parameter":" 10.5"},)"
               R"({"name":"size","parameter":" 24"},{"name":"size","parameter":" 24"},)"
@@ -104,8 +106,9 @@ TEST(CompileCommand, ReportsOverflowAndPrintsTheRest) {
 
 TEST(CompileCommand, ReportsACaptionThatIsTooLong) {
     const Outcome outcome = RunProgram("compile --json", "|b:1|a|CR|" + std::string(32768, 'x'));
-    EXPECT_EQ(outcome.output,
-              "{\"lines\":[\"|a\"],\"commands\":[{\"name\":\"b\",\"parameter\":\"1\"}]}\n");
+    EXPECT_EQ(
+        outcome.output,
+        "{\"version\":1,\"lines\":[\"|a\"],\"commands\":[{\"name\":\"b\",\"parameter\":\"1\"}]}\n");
     EXPECT_THAT(outcome.errors, HasSubstr("\nProc = CompileCaption\n"));
     EXPECT_EQ(outcome.status, 1);
 }
@@ -135,7 +138,8 @@ TEST(CompileCommand, SaysWhichFileCannotBeRead) {
 TEST(CompileCommand, SaysThatTheResultCannotBeWritten) {
     for (const std::string arguments : {"compile ", "compile --json "}) {
         const Outcome outcome = RunOnTerminal(arguments + FileWith("a|b:1|c") + " >/dev/full");
-        EXPECT_EQ(outcome.output, "lumenkit: cannot write the compiled caption\r\n") << arguments;
+        EXPECT_EQ(outcome.output, "\x1b[31mlumenkit: cannot write the compiled caption\x1b[0m\r\n")
+            << arguments;
         EXPECT_EQ(outcome.status, 2) << arguments;
     }
 }
@@ -166,19 +170,28 @@ TEST(Program, NamesAWrongWordAndOffersTheNearest) {
               "lumenkit check: there is no option \"--severty\"; did you mean \"--severity\"?");
     EXPECT_EQ(errors("check"), "lumenkit check: PATH is required");
     EXPECT_EQ(errors("compile a b"), "lumenkit compile: did not expect \"b\"");
+    EXPECT_EQ(errors("--color never chekc x.frm"),
+              "lumenkit: there is no command \"chekc\"; did you mean \"check\"?");
+    EXPECT_EQ(errors("--colr always check x.frm"),
+              "lumenkit: there is no option \"--colr\"; did you mean \"--color\"?");
+    EXPECT_EQ(errors("--color never"), "lumenkit: a command is required");
+    EXPECT_EQ(errors("--color never compile a b"), "lumenkit compile: did not expect \"b\"");
+    EXPECT_EQ(errors("write-manul x"), "lumenkit: there is no command \"write-manul\"");
     EXPECT_EQ(errors("\"$(printf 'dr\\033[2Jaw\\377')\""),
-              "lumenkit: there is no command \"dr [2Jaw?\"");
+              "lumenkit: there is no command \"dr\\u001B[2Jaw\xEF\xBF\xBD\"");
 }
 
 TEST(Program, HelpIsACommandToo) {
     EXPECT_EQ(RunProgram("help check").output, RunProgram("check --help").output);
     EXPECT_EQ(RunProgram("help").output, RunProgram("--help").output);
+    EXPECT_EQ(RunProgram("--color=never help check").output, RunProgram("check --help").output);
     EXPECT_EQ(RunProgram("help").status, 0);
     EXPECT_EQ(RunProgram("help chekc").status, 2);
 }
 
 TEST(Program, HelpFitsATerminal) {
-    for (const char* arguments : {"--help", "check --help", "compile --help", "drive --help"}) {
+    for (const char* arguments :
+         {"--help", "check --help", "compile --help", "drive --help", "completion --help"}) {
         std::istringstream help(RunProgram(arguments).output);
         for (std::string line; std::getline(help, line);) {
             EXPECT_LE(line.size(), 80U) << arguments << ": " << line;

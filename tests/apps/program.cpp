@@ -43,7 +43,7 @@ Outcome RunProgram(const std::string& arguments, const std::string& input) {
 }
 
 Outcome RunOnTerminal(const std::string& arguments, const std::string& variables) {
-    const std::string command = "unset NO_COLOR; export TERM=xterm; " + variables +
+    const std::string command = "unset NO_COLOR CLICOLOR_FORCE; export TERM=xterm; " + variables +
                                 " exec " LUMENKIT_PROGRAM " " + arguments;
     int terminal = -1;
     const pid_t program = forkpty(&terminal, nullptr, nullptr, nullptr);

@@ -16,7 +16,7 @@ Outcome RunProgram(const std::string& arguments, const std::string& input = "");
 
 /// The same on a separate terminal, which is the program's input, output and error stream. `output`
 /// is everything that the terminal would show. `variables` precede the program, as in a shell. TERM
-/// is xterm and NO_COLOR is not set unless `variables` set them.
+/// is xterm, NO_COLOR and CLICOLOR_FORCE are not set unless `variables` set them.
 Outcome RunOnTerminal(const std::string& arguments, const std::string& variables = "");
 
 /// Writes a file with these bytes for the current test and returns its path, which needs no

@@ -1,9 +1,10 @@
 #include "apps/lumenkit/check/baseline.h"
 
-#include <fstream>
+#include <string>
 #include <utility>
 
 #include "forms/form_error.h"
+#include "forms/plain_file.h"
 #include "forms/replace_file.h"
 
 namespace lumenkit::check {
@@ -31,14 +32,12 @@ void Baseline::Add(const Findings& findings) {
     }
 }
 
-void Baseline::Apply(Findings& findings) {
+void Baseline::Apply(Findings& findings) const {
+    std::map<Key, std::size_t> met;
     std::erase_if(findings, [&](const Finding& finding) {
-        const auto known = counts_.find(KeyOf(finding));
-        if (known == counts_.end() || known->second == 0) {
-            return false;
-        }
-        --known->second;
-        return true;
+        Key key = KeyOf(finding);
+        const auto known = counts_.find(key);
+        return known != counts_.end() && ++met[std::move(key)] <= known->second;
     });
 }
 
@@ -76,12 +75,14 @@ void Baseline::RefuseOtherFile() const {
 }
 
 void Baseline::Read() {
-    std::ifstream stream(file_, std::ios::binary);
-    if (!stream) {
-        throw BadBaseline(file_.string() + ": cannot be read");
+    std::string bytes;
+    try {
+        bytes = forms::ReadPlainFile(file_);
+    } catch (const forms::FormError& error) {
+        throw BadBaseline(file_.string() + ": " + error.Description());
     }
     try {
-        Take(Json::parse(stream));
+        Take(Json::parse(bytes));
     } catch (const Json::exception&) {
         throw BadBaseline(file_.string() + ": is no baseline of lumenkit check");
     }

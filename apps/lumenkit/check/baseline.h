@@ -32,8 +32,8 @@ class Baseline {
     void Write() const;
 
     void Add(const Findings& findings);
-    /// Removes the known findings, each as often as it was counted.
-    void Apply(Findings& findings);
+    /// Removes the known findings of a file, each as often as it was counted.
+    void Apply(Findings& findings) const;
 
  private:
     using Key = std::tuple<std::string, std::string, std::string, std::string, std::string>;

@@ -252,10 +252,10 @@ Remarks CheckCaption(TextView caption) {
     for (const WrittenCommand& command : outline.commands) {
         CommandChecker(command, remarks).Check();
     }
-    if (outline.control) {
-        const auto behind =
-            std::ranges::upper_bound(remarks, *outline.control, {}, &Remark::offset);
-        remarks.insert(behind, ControlRemark(caption, *outline.control));
+    if (!outline.controls.empty()) {
+        const std::size_t first = outline.controls.front();
+        const auto behind = std::ranges::upper_bound(remarks, first, {}, &Remark::offset);
+        remarks.insert(behind, ControlRemark(caption, first));
     }
     if (outline.goesOn) {
         remarks.push_back({rules::tooManyLines.name,

@@ -1,9 +1,9 @@
 #include "apps/lumenkit/check/caption_outline.h"
 
-#include <algorithm>
 #include <cstdint>
 #include <optional>
 #include <set>
+#include <vector>
 
 #include "frame/host/application.h"
 #include "frame/host/interaction.h"
@@ -57,21 +57,21 @@ class CompilerErrors final : private host::Application,
 };
 
 // Reads the text up to the next bar or the end of the line. Returns whether there is a bar.
-bool ReadText(CaptionReader& reader, TextView caption, std::optional<std::size_t>& control) {
+bool ReadText(CaptionReader& reader, TextView caption, std::vector<std::size_t>& controls) {
     const std::size_t begin = reader.Offset();
     Text text;
     const bool hasBar = reader.ReadThroughBar(text);
-    const TextView written = caption.substr(begin, reader.Offset() - begin);
-    const auto found = std::ranges::find_if(written, &IsControl);
-    if (!control && found != written.end()) {
-        control = begin + static_cast<std::size_t>(found - written.begin());
+    for (std::size_t at = begin; at < reader.Offset(); ++at) {
+        if (IsControl(caption[at])) {
+            controls.push_back(at);
+        }
     }
     return hasBar;
 }
 
 void ReadLine(CaptionReader& reader, TextView caption, CaptionOutline& outline) {
     bool closed = true;
-    while (closed && ReadText(reader, caption, outline.control)) {
+    while (closed && ReadText(reader, caption, outline.controls)) {
         WrittenCommand command;
         command.offset = reader.Offset() - 1;
         closed = reader.ReadThroughBar(command.text);
@@ -79,6 +79,7 @@ void ReadLine(CaptionReader& reader, TextView caption, CaptionOutline& outline) 
         if (closed) {
             command.text.pop_back();
         }
+        command.end = reader.Offset();
         outline.commands.push_back(std::move(command));
     }
 }

@@ -2,7 +2,6 @@
 #pragma once
 
 #include <cstddef>
-#include <optional>
 #include <vector>
 
 #include "frame/text.h"
@@ -11,6 +10,7 @@ namespace lumenkit::check {
 
 struct WrittenCommand {
     std::size_t offset = 0;  ///< of the opening bar, in UTF-16 units from 0
+    std::size_t end = 0;     ///< offset behind the closing bar, or of the end of the line
     Text text;               ///< as written, without bars; "|Q|" is a quotation mark
     bool closed = false;     ///< whether a bar closes it
     bool kept = false;       ///< false if the compiler reported an overflow in it
@@ -19,7 +19,7 @@ struct WrittenCommand {
 
 struct CaptionOutline {
     std::vector<WrittenCommand> commands;  ///< those in the compiled lines, in order
-    std::optional<std::size_t> control;    ///< offset of the first control character in drawn text
+    std::vector<std::size_t> controls;     ///< offsets of the control characters in drawn text
     std::size_t lines = 0;                 ///< number of compiled lines
     bool overflows = false;                ///< whether the compiler stopped at a position overflow
     bool goesOn = false;                   ///< whether lines follow that the compiler ignores

@@ -1,15 +1,16 @@
 #include "apps/lumenkit/check/exceptions.h"
 
 #include <algorithm>
-#include <fstream>
 #include <optional>
 #include <sstream>
 #include <utility>
 
 #include <fnmatch.h>
 
-#include "apps/lumenkit/check/quote.h"
+#include "apps/command_line/spelling/printable.h"
 #include "apps/lumenkit/check/rules.h"
+#include "forms/form_error.h"
+#include "forms/plain_file.h"
 #include "frame/text.h"
 #include "frame/utf8.h"
 
@@ -52,9 +53,17 @@ bool IsComment(std::string_view line) {
     return first == std::string_view::npos || line[first] == '#';
 }
 
+std::string BytesOf(const fs::path& file) {
+    try {
+        return forms::ReadPlainFile(file);
+    } catch (const forms::FormError& error) {
+        throw BadException(file.string() + ": " + error.Description());
+    }
+}
+
 std::vector<Exception> ReadFile(const fs::path& file) {
     std::vector<Exception> exceptions;
-    std::ifstream stream(file, std::ios::binary);
+    std::istringstream stream(BytesOf(file));
     std::size_t number = 0;
     for (std::string line; std::getline(stream, line);) {
         ++number;
@@ -65,9 +74,6 @@ std::vector<Exception> ReadFile(const fs::path& file) {
         } catch (const BadException& error) {
             throw BadException(file.string() + ':' + std::to_string(number) + ": " + error.what());
         }
-    }
-    if (!stream.eof()) {
-        throw BadException(file.string() + ": cannot be read");
     }
     return exceptions;
 }

@@ -198,6 +198,14 @@ Findings CheckForm(const forms::Document& document, const ClassTable& classes) {
     return findings;
 }
 
+Findings CheckOneControl(const forms::Document& document, forms::Block& block,
+                         const ClassDescriptor& type) {
+    Findings findings;
+    SavedControl control(document, block, type, findings);
+    CheckControl(control);
+    return findings;
+}
+
 Findings CheckCaptionFile(const std::string& name, TextView caption) {
     Findings findings;
     const TextPlaces places = TextPlaces::InFile(caption);

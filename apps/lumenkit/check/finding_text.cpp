@@ -1,5 +1,7 @@
 #include "apps/lumenkit/check/finding_text.h"
 
+#include "apps/command_line/spelling/suggestion.h"
+
 namespace lumenkit::check {
 
 std::string SubjectOf(const Finding& finding) {
@@ -10,7 +12,7 @@ std::string SubjectOf(const Finding& finding) {
 std::string WholeMessage(const Finding& finding) {
     const std::string subject = SubjectOf(finding);
     return (subject.empty() ? "" : subject + ": ") + finding.message +
-           (finding.suggestion.empty() ? "" : "; did you mean \"" + finding.suggestion + "\"?");
+           DidYouMean(finding.suggestion);
 }
 
 }  // namespace lumenkit::check

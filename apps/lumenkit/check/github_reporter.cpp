@@ -2,6 +2,7 @@
 
 #include "apps/lumenkit/check/finding_text.h"
 #include "apps/lumenkit/check/reporter.h"
+#include "apps/lumenkit/check/review_path.h"
 #include "apps/lumenkit/check/rules.h"
 #include "forms/hexadecimal.h"
 
@@ -33,7 +34,7 @@ std::string EscapedParameter(std::string_view text) {
 }
 
 std::string Place(const std::string& file, forms::Position place) {
-    std::string parameters = " file=" + EscapedParameter(file);
+    std::string parameters = " file=" + EscapedParameter(ReviewPath(file));
     if (place.line > 0) {
         parameters +=
             ",line=" + std::to_string(place.line) + ",col=" + std::to_string(place.column);

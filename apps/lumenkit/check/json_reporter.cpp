@@ -7,6 +7,8 @@ namespace {
 
 using Json = nlohmann::ordered_json;
 
+constexpr int reportVersion = 1;  // docs/json.md says when it changes
+
 Json ToJson(const Finding& finding) {
     Json json = {{"rule", finding.rule},
                  {"severity", NameOf(SeverityOf(finding))},
@@ -54,12 +56,22 @@ void JsonReporter::Report(const Findings& findings) {
     }
 }
 
+void JsonReporter::Report(const Fixes& fixes) {
+    for (const Finding& finding : fixes.made) {
+        fixed_.push_back(ToJson(finding));
+    }
+}
+
 void JsonReporter::Report(const FileError& error) {
     errors_.push_back(ToJson(error));
 }
 
 void JsonReporter::Finish(std::size_t files) {
-    Json report = {{"files", files}, {"findings", findings_}, {"errors", errors_}};
+    Json report = {
+        {"version", reportVersion}, {"files", files}, {"findings", findings_}, {"errors", errors_}};
+    if (showsFixes_) {
+        report["fixed"] = fixed_;
+    }
     if (!notes_.empty()) {
         report["notes"] = notes_;
     }

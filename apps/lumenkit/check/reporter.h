@@ -27,6 +27,12 @@ struct Note {
     std::string text;  ///< without the place
 };
 
+/// The findings that were mended in a file.
+struct Fixes {
+    Findings made;
+    std::size_t more = 0;  ///< how many of the others --fix=all would mend
+};
+
 class Reporter {
  public:
     virtual ~Reporter() = default;
@@ -34,6 +40,8 @@ class Reporter {
     virtual void Report(const Note& note) = 0;
     virtual void Report(const Findings& findings) = 0;
     virtual void Report(const FileError& error) = 0;
+    /// Does nothing in a format that has no place for them.
+    virtual void Report(const Fixes& /*fixes*/) {}
     /// Called at the end. `files` is the number of checked files.
     virtual void Finish(std::size_t files) = 0;
 };
@@ -57,6 +65,7 @@ class TextReporter final : public Reporter {
     void Report(const Note& note) override;
     void Report(const Findings& findings) override;
     void Report(const FileError& error) override;
+    void Report(const Fixes& fixes) override;
     void Finish(std::size_t files) override;
 
  private:
@@ -66,23 +75,49 @@ class TextReporter final : public Reporter {
     std::ostream& errors_;
     ColoredStreams colors_;
     std::size_t findingCount_ = 0;
+    std::size_t fixedCount_ = 0;
+    std::size_t moreCount_ = 0;
     std::size_t errorCount_ = 0;
+};
+
+/// Writes errors and notes as TextReporter does, and a summary of what would be mended.
+class DiffReporter final : public Reporter {
+ public:
+    /// The stream must outlive the reporter.
+    DiffReporter(std::ostream& errors, bool isColored)
+        : errors_(errors), text_(errors, errors, {.output = isColored, .errors = isColored}) {}
+
+    void Report(const Note& note) override { text_.Report(note); }
+    void Report(const Findings& /*findings*/) override {}
+    void Report(const FileError& error) override { text_.Report(error); }
+    void Report(const Fixes& fixes) override;
+    void Finish(std::size_t files) override;
+
+ private:
+    std::ostream& errors_;
+    TextReporter text_;
+    std::size_t fixedCount_ = 0;
+    std::size_t moreCount_ = 0;
 };
 
 /// Writes one JSON object in one line at the end:
 /// {"files":N,"findings":[...],"errors":[...]}, and "notes" if there are some
 class JsonReporter final : public Reporter {
  public:
-    /// The stream must outlive the reporter.
-    explicit JsonReporter(std::ostream& output) : output_(output) {}
+    /// With `showsFixes`, the object has a key "fixed". The stream must outlive the reporter.
+    explicit JsonReporter(std::ostream& output, bool showsFixes = false)
+        : output_(output), showsFixes_(showsFixes) {}
 
     void Report(const Note& note) override;
     void Report(const Findings& findings) override;
     void Report(const FileError& error) override;
+    void Report(const Fixes& fixes) override;
     void Finish(std::size_t files) override;
 
  private:
     std::ostream& output_;
+    bool showsFixes_;
+    nlohmann::ordered_json fixed_ = nlohmann::ordered_json::array();
     nlohmann::ordered_json notes_ = nlohmann::ordered_json::array();
     nlohmann::ordered_json findings_ = nlohmann::ordered_json::array();
     nlohmann::ordered_json errors_ = nlohmann::ordered_json::array();
@@ -95,6 +130,7 @@ class SarifReporter final : public Reporter {
     SarifReporter(std::ostream& output, std::string version)
         : output_(output), version_(std::move(version)) {}
 
+    using Reporter::Report;
     void Report(const Note& note) override;
     void Report(const Findings& findings) override;
     void Report(const FileError& error) override;
@@ -114,6 +150,7 @@ class GithubReporter final : public Reporter {
     /// The stream must outlive the reporter.
     explicit GithubReporter(std::ostream& output) : output_(output) {}
 
+    using Reporter::Report;
     void Report(const Note& note) override;
     void Report(const Findings& findings) override;
     void Report(const FileError& error) override;

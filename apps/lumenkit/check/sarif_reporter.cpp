@@ -1,8 +1,8 @@
 #include <cctype>
-#include <filesystem>
 
 #include "apps/lumenkit/check/finding_text.h"
 #include "apps/lumenkit/check/reporter.h"
+#include "apps/lumenkit/check/review_path.h"
 #include "apps/lumenkit/check/rules.h"
 #include "forms/hexadecimal.h"
 
@@ -18,7 +18,7 @@ constexpr const char* schema = "https://json.schemastore.org/sarif-2.1.0.json";
 std::string UriOf(const std::string& file) {
     constexpr std::string_view plain = "-._~/";
     std::string uri;
-    for (const char letter : std::filesystem::path(file).generic_string()) {
+    for (const char letter : ReviewPath(file)) {
         const auto byte = static_cast<unsigned char>(letter);
         if (std::isalnum(byte) != 0 || plain.find(letter) != std::string_view::npos) {
             uri += letter;

@@ -1,7 +1,8 @@
 #include <array>
 
+#include "apps/command_line/spelling/printable.h"
+#include "apps/command_line/spelling/suggestion.h"
 #include "apps/lumenkit/check/finding_text.h"
-#include "apps/lumenkit/check/quote.h"
 #include "apps/lumenkit/check/reporter.h"
 #include "apps/lumenkit/check/rules.h"
 
@@ -10,6 +11,7 @@ namespace lumenkit::check {
 namespace {
 
 constexpr const char* bold = "\x1b[1m";
+constexpr const char* green = "\x1b[32m";
 constexpr const char* red = "\x1b[31m";
 constexpr const char* yellow = "\x1b[33m";
 constexpr const char* cyan = "\x1b[36m";
@@ -34,25 +36,36 @@ std::string PlaceOf(const Finding& finding) {
            std::to_string(finding.place.column) + ':';
 }
 
+// A finding without its severity and without a suggestion.
+std::string MessageOf(const Finding& finding) {
+    std::string text;
+    if (const std::string subject = Printable(SubjectOf(finding)); !subject.empty()) {
+        text = subject;
+        if (finding.isElsewhere && finding.offset) {
+            text += ", offset " + std::to_string(*finding.offset);
+        }
+        text += ": ";
+    }
+    return text + finding.message;
+}
+
+std::string RuleOf(const Finding& finding) {
+    return '[' + std::string(finding.rule) + ']';
+}
+
+// "3 fixed (2 more with --fix=all)"
+std::string Fixed(const std::string& fixed, std::size_t more) {
+    return fixed + (more == 0 ? "" : " (" + std::to_string(more) + " more with --fix=all)");
+}
+
 }  // namespace
 
 void TextReporter::Report(const Finding& finding) {
     const Severity severity = SeverityOf(finding);
     output_ << Colored(colors_.output, bold, PlaceOf(finding)) << ' '
             << Colored(colors_.output, ColorOf(severity), std::string(NameOf(severity)) + ':')
-            << ' ';
-    if (const std::string subject = Printable(SubjectOf(finding)); !subject.empty()) {
-        output_ << subject;
-        if (finding.isElsewhere && finding.offset) {
-            output_ << ", offset " << *finding.offset;
-        }
-        output_ << ": ";
-    }
-    output_ << finding.message;
-    if (!finding.suggestion.empty()) {
-        output_ << "; did you mean \"" << Printable(finding.suggestion) << "\"?";
-    }
-    output_ << ' ' << Colored(colors_.output, dim, '[' + std::string(finding.rule) + ']') << '\n';
+            << ' ' << MessageOf(finding) << DidYouMean(Printable(finding.suggestion)) << ' '
+            << Colored(colors_.output, dim, RuleOf(finding)) << '\n';
 }
 
 void TextReporter::Report(const Findings& findings) {
@@ -60,6 +73,17 @@ void TextReporter::Report(const Findings& findings) {
         Report(finding);
     }
     findingCount_ += findings.size();
+    output_.flush();
+}
+
+void TextReporter::Report(const Fixes& fixes) {
+    for (const Finding& finding : fixes.made) {
+        output_ << Colored(colors_.output, bold, PlaceOf(finding)) << ' '
+                << Colored(colors_.output, green, "fixed:") << ' ' << MessageOf(finding) << ' '
+                << Colored(colors_.output, dim, RuleOf(finding)) << '\n';
+    }
+    fixedCount_ += fixes.made.size();
+    moreCount_ += fixes.more;
     output_.flush();
 }
 
@@ -75,10 +99,24 @@ void TextReporter::Report(const FileError& error) {
 
 void TextReporter::Finish(std::size_t files) {
     output_ << Count(files, "file") << " checked: " << Count(findingCount_, "finding");
+    if (fixedCount_ + moreCount_ > 0) {
+        output_ << ", " << Fixed(std::to_string(fixedCount_) + " fixed", moreCount_);
+    }
     if (errorCount_ > 0) {
         output_ << ", " << Count(errorCount_, "error");
     }
     output_ << '\n';
+}
+
+void DiffReporter::Report(const Fixes& fixes) {
+    fixedCount_ += fixes.made.size();
+    moreCount_ += fixes.more;
+}
+
+void DiffReporter::Finish(std::size_t files) {
+    errors_ << Count(files, "file")
+            << " checked: " << Fixed(Count(fixedCount_, "finding") + " would be fixed", moreCount_)
+            << '\n';
 }
 
 }  // namespace lumenkit::check

@@ -19,6 +19,8 @@ namespace lumenkit::cli::requests {
 
 namespace {
 
+constexpr int protocolVersion = 1;  // docs/json.md says when it changes
+
 std::filesystem::path FileOf(const Fields& request) {
     return forms::PathOf(request.String("file"));
 }
@@ -114,6 +116,10 @@ Result Allow(ScriptedContainer& container, const Fields& request) {
         .Site()
         .AllowChange(FromUtf8(request.String("name")), request.Boolean("value"));
     return std::nullopt;
+}
+
+Result Version(ScriptedContainer& /*container*/, const Fields& /*request*/) {
+    return Json{{"version", protocolVersion}};
 }
 
 Result Quit(ScriptedContainer& container, const Fields& /*request*/) {

@@ -45,13 +45,15 @@ std::unique_ptr<memory::HostedControl> NewControl(ScriptedContainer& container,
 }
 
 std::unique_ptr<memory::HostedPage> NewPage(ScriptedContainer& container,
-                                            const ClassDescriptor& type, const Fields& request) {
-    std::vector<memory::HostedControl*> selected;
-    for (const std::string& id : request.Strings("select")) {
-        selected.push_back(&container.Control(id));
+                                            const ClassDescriptor& type,
+                                            const std::vector<std::string>& selected) {
+    std::vector<memory::HostedControl*> controls;
+    controls.reserve(selected.size());
+    for (const std::string& id : selected) {
+        controls.push_back(&container.Control(id));
     }
     auto page = std::make_unique<memory::HostedPage>(container.GetForm(), type);
-    page->Select(selected);
+    page->Select(controls);
     return page;
 }
 
@@ -83,11 +85,16 @@ Result New(ScriptedContainer& container, const Fields& request) {
     container.RequireFree(id);
     const ClassDescriptor& type = ClassNamed(request.String("class"), container.GetForm());
     if (type.kind == ClassKind::PropertyPage) {
-        container.Add(id, NewPage(container, type, request));
+        const std::vector<std::string> selected = request.Strings("select");
+        container.Add(id, NewPage(container, type, selected), selected);
     } else {
         container.Add(id, NewControl(container, type, request));
     }
     return std::nullopt;
+}
+
+Result Drop(ScriptedContainer& container, const Fields& request) {
+    return Json(container.Drop(request.String("id")));
 }
 
 Result Save(ScriptedContainer& container, const Fields& request) {

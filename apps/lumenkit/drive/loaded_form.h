@@ -1,8 +1,12 @@
 // A form file whose controls are on the scripted container.
 #pragma once
 
+#include <cstddef>
+#include <map>
 #include <memory>
 #include <string>
+#include <unordered_map>
+#include <unordered_set>
 #include <vector>
 
 #include "forms/block.h"
@@ -34,10 +38,18 @@ class LoadedForm {
     std::vector<std::string> Ids() const;
 
     /// Creates these controls from their saved properties. The caller owns them, and they must
-    /// outlive every call of Update. Call it once.
+    /// outlive every call of Update or be dropped. Call it once.
     std::vector<Living> Start(memory::Form& form, bool userMode);
 
-    /// Writes the present property values of the controls into the document.
+    /// Whether it has this control: started and not dropped.
+    bool Has(const std::string& id) const { return places_.contains(id); }
+    /// Returns the control and the controls inside it, in the order of the file.
+    std::vector<std::string> Within(const std::string& id) const;
+    /// Takes the control and the controls inside it from the form. The caller can end them.
+    void Drop(const std::string& id);
+
+    /// Writes the present property values of the controls into the document, without the controls
+    /// that were dropped.
     void Update();
 
     const forms::Document& Document() const { return document_; }
@@ -52,13 +64,16 @@ class LoadedForm {
         memory::HostedControl& control;
         forms::BlockKeeper keeper;
     };
+    using Place = std::size_t;  // among the controls that were found
 
     static std::unique_ptr<memory::HostedControl> Start(const Found& found, host::PropertyBag& bag,
                                                         memory::Form& form, bool userMode);
 
     forms::Document document_;
     std::vector<Found> found_;
-    std::vector<Saved> saved_;
+    std::map<Place, Saved> saved_;
+    std::unordered_map<std::string, Place> places_;    // of the saved controls, by their ids
+    std::unordered_set<const forms::Block*> dropped_;  // which the document still has
 };
 
 }  // namespace lumenkit::cli

@@ -21,8 +21,9 @@ struct Result {
     Json warnings = Json::array();  ///< about the form that was loaded
 };
 
-// Creation, saving, size and drawing of controls (life_requests.cpp).
+// Creation, end, saving, size and drawing of controls (life_requests.cpp).
 Result New(ScriptedContainer& container, const Fields& request);
+Result Drop(ScriptedContainer& container, const Fields& request);
 Result Save(ScriptedContainer& container, const Fields& request);
 Result Resize(ScriptedContainer& container, const Fields& request);
 Result Apply(ScriptedContainer& container, const Fields& request);
@@ -49,6 +50,7 @@ Result LoadForm(ScriptedContainer& container, const Fields& request);
 Result WriteForm(ScriptedContainer& container, const Fields& request);
 Result SetAmbient(ScriptedContainer& container, const Fields& request);
 Result Allow(ScriptedContainer& container, const Fields& request);
+Result Version(ScriptedContainer& container, const Fields& request);
 Result Quit(ScriptedContainer& container, const Fields& request);
 
 }  // namespace lumenkit::cli::requests

@@ -21,9 +21,53 @@ void ScriptedContainer::Add(const std::string& id, std::unique_ptr<memory::Hoste
     controls_.emplace(id, std::move(control));
 }
 
-void ScriptedContainer::Add(const std::string& id, std::unique_ptr<memory::HostedPage> page) {
+void ScriptedContainer::Add(const std::string& id, std::unique_ptr<memory::HostedPage> page,
+                            const std::vector<std::string>& selected) {
     taken_.emplace(LCase(FromUtf8(id)), id);
-    pages_.emplace(id, std::move(page));
+    pages_.emplace(id, OpenPage{.page = std::move(page), .selected = selected});
+    for (const std::string& control : selected) {
+        pagesOf_[control].insert(id);
+    }
+}
+
+std::vector<std::string> ScriptedContainer::Drop(const std::string& id) {
+    if (IsPage(id)) {
+        DropPage(id);
+        return {id};
+    }
+    Control(id);
+    const bool isOnForm = loaded_ != nullptr && loaded_->Has(id);
+    std::vector<std::string> ids = isOnForm ? loaded_->Within(id) : std::vector{id};
+    for (const std::string& one : ids) {
+        if (const auto page = pagesOf_.find(one); page != pagesOf_.end()) {
+            throw BadRequest("the page \"" + *page->second.begin() + "\" works on \"" + one +
+                             "\"; drop the page first");
+        }
+    }
+    if (isOnForm) {
+        loaded_->Drop(id);
+    }
+    DropControls(ids);
+    return ids;
+}
+
+void ScriptedContainer::DropPage(const std::string& id) {
+    const auto page = pages_.find(id);
+    for (const std::string& control : page->second.selected) {
+        const auto pages = pagesOf_.find(control);
+        if (pages != pagesOf_.end() && pages->second.erase(id) > 0 && pages->second.empty()) {
+            pagesOf_.erase(pages);
+        }
+    }
+    pages_.erase(page);
+    taken_.erase(LCase(FromUtf8(id)));
+}
+
+void ScriptedContainer::DropControls(const std::vector<std::string>& ids) {
+    for (const std::string& id : ids) {
+        controls_.erase(id);
+        taken_.erase(LCase(FromUtf8(id)));
+    }
 }
 
 memory::HostedControl& ScriptedContainer::Control(const std::string& id) const {
@@ -41,7 +85,7 @@ memory::HostedPage& ScriptedContainer::Page(const std::string& id) const {
         throw BadRequest(controls_.contains(id) ? '"' + id + "\" is a control, not a page"
                                                 : "there is no page \"" + id + '"');
     }
-    return *found->second;
+    return *found->second.page;
 }
 
 Object& ScriptedContainer::Automation(const std::string& id) const {

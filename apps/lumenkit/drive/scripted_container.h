@@ -1,10 +1,12 @@
 // The form that requests work on, with its controls and pages by identifier.
 #pragma once
 
-#include <map>
 #include <memory>
+#include <set>
 #include <string>
+#include <unordered_map>
 #include <utility>
+#include <vector>
 
 #include "apps/lumenkit/drive/loaded_form.h"
 #include "frame/automation/value.h"
@@ -19,7 +21,7 @@
 namespace lumenkit::cli {
 
 /// Owns the controls and pages. Functions that look one up throw BadRequest if there is none or it
-/// is of the other kind.
+/// is of the other kind. They take the same time however many there are.
 class ScriptedContainer {
  public:
     /// The objects that `classes` refers to must outlive the container.
@@ -31,7 +33,13 @@ class ScriptedContainer {
     /// Throws BadRequest if the identifier is in use, in upper or lower case.
     void RequireFree(const std::string& id) const;
     void Add(const std::string& id, std::unique_ptr<memory::HostedControl> control);
-    void Add(const std::string& id, std::unique_ptr<memory::HostedPage> page);
+    /// `selected` are the ids of the controls that the page works on. They must exist.
+    void Add(const std::string& id, std::unique_ptr<memory::HostedPage> page,
+             const std::vector<std::string>& selected);
+    /// Ends a control, with the controls inside it on the loaded form, or a page. The loaded form
+    /// loses its block. Returns the ids, which are free afterwards. Throws BadRequest, and ends
+    /// nothing, if there is none or if a page works on one of the controls.
+    std::vector<std::string> Drop(const std::string& id);
 
     bool IsPage(const std::string& id) const { return pages_.contains(id); }
     memory::HostedControl& Control(const std::string& id) const;
@@ -49,12 +57,22 @@ class ScriptedContainer {
     bool HasQuit() const { return quit_; }
 
  private:
+    struct OpenPage {
+        std::unique_ptr<memory::HostedPage> page;
+        std::vector<std::string> selected;
+    };
+
+    void DropPage(const std::string& id);
+    void DropControls(const std::vector<std::string>& ids);
+
     memory::Form form_;
     memory::User user_{form_};
     // Pages refer to controls and so must be destroyed first.
-    std::map<std::string, std::unique_ptr<memory::HostedControl>> controls_;
-    std::map<std::string, std::unique_ptr<memory::HostedPage>> pages_;
-    std::map<Text, std::string> taken_;  // all identifiers, by their names in lower case
+    std::unordered_map<std::string, std::unique_ptr<memory::HostedControl>> controls_;
+    std::unordered_map<std::string, OpenPage> pages_;
+    std::unordered_map<Text, std::string> taken_;  // all identifiers, by their names in lower case
+    std::unordered_map<std::string, std::set<std::string>>
+        pagesOf_;  // by the controls they work on
     std::unique_ptr<LoadedForm> loaded_;
     bool quit_ = false;
 };

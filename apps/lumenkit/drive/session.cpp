@@ -17,17 +17,18 @@ using Handler = requests::Result (*)(ScriptedContainer& container, const Fields&
 
 Handler HandlerFor(const std::string& name) {
     static const std::map<std::string, Handler, std::less<>> handlers = {
-        {"allow", requests::Allow},   {"ambient", requests::SetAmbient},
-        {"apply", requests::Apply},   {"call", requests::Call},
-        {"click", requests::Click},   {"dblclick", requests::DblClick},
-        {"draw", requests::Draw},     {"focus", requests::Focus},
-        {"form", requests::LoadForm}, {"get", requests::Get},
-        {"let", requests::Let},       {"mouse", requests::Mouse},
-        {"new", requests::New},       {"paste", requests::Paste},
-        {"quit", requests::Quit},     {"resize", requests::Resize},
-        {"save", requests::Save},     {"scroll", requests::Scroll},
-        {"select", requests::Select}, {"state", requests::State},
-        {"type", requests::Type},     {"write", requests::WriteForm},
+        {"allow", requests::Allow},     {"ambient", requests::SetAmbient},
+        {"apply", requests::Apply},     {"call", requests::Call},
+        {"click", requests::Click},     {"dblclick", requests::DblClick},
+        {"draw", requests::Draw},       {"drop", requests::Drop},
+        {"focus", requests::Focus},     {"form", requests::LoadForm},
+        {"get", requests::Get},         {"let", requests::Let},
+        {"mouse", requests::Mouse},     {"new", requests::New},
+        {"paste", requests::Paste},     {"quit", requests::Quit},
+        {"resize", requests::Resize},   {"save", requests::Save},
+        {"scroll", requests::Scroll},   {"select", requests::Select},
+        {"state", requests::State},     {"type", requests::Type},
+        {"version", requests::Version}, {"write", requests::WriteForm},
     };
     const auto handler = handlers.find(name);
     if (handler == handlers.end()) {

@@ -131,7 +131,7 @@ TEST(CheckCommand, SaysSoWhenNothingIsWrong) {
     EXPECT_EQ(form.output, "1 file checked: 0 findings\n");
     EXPECT_EQ(form.status, 0);
     const Outcome caption = RunProgram("check --json --caption " + here + "captions/good.txt");
-    EXPECT_EQ(caption.output, "{\"files\":1,\"findings\":[],\"errors\":[]}\n");
+    EXPECT_EQ(caption.output, "{\"version\":1,\"files\":1,\"findings\":[],\"errors\":[]}\n");
     EXPECT_EQ(caption.status, 0);
 }
 
@@ -185,7 +185,7 @@ TEST(CheckCommand, SaysThatFindingsCannotBeWritten) {
     for (const std::string arguments : {"", "--json "}) {
         const Outcome outcome =
             RunOnTerminal("check " + arguments + here + "forms/good.frm >/dev/full");
-        EXPECT_EQ(outcome.output, "lumenkit: cannot write the findings\r\n");
+        EXPECT_EQ(outcome.output, "\x1b[31mlumenkit: cannot write the findings\x1b[0m\r\n");
         EXPECT_EQ(outcome.status, 2);
     }
 }
@@ -295,6 +295,51 @@ TEST_F(CheckFolder, ColorsCanBeTurnedOff) {
     EXPECT_THAT(RunOnTerminal(arguments + " --json").output, Not(HasSubstr("\x1b")));
 }
 
+TEST_F(CheckFolder, ColorsAreChosenByAnOptionBeforeOrAfterTheCommand) {
+    WriteForms(1, "|blod:1|");
+    const std::string path = folder.string();
+    for (const std::string option : {"--color=always", "--color always"}) {
+        EXPECT_THAT(RunProgram("check " + option + ' ' + path).output, HasSubstr("\x1b[1m"));
+        EXPECT_THAT(RunProgram(option + " check " + path).output, HasSubstr("\x1b[1m"));
+        EXPECT_THAT(RunOnTerminal(option + " check " + path, "NO_COLOR=1 TERM=dumb").output,
+                    HasSubstr("\x1b[1m"));
+    }
+    EXPECT_THAT(RunOnTerminal("check --color=never " + path).output, Not(HasSubstr("\x1b")));
+    EXPECT_THAT(RunOnTerminal("--color=never check " + path, "CLICOLOR_FORCE=1").output,
+                Not(HasSubstr("\x1b")));
+    EXPECT_THAT(RunOnTerminal("--color never check --color auto " + path).output,
+                HasSubstr("\x1b[1m"));
+    EXPECT_THAT(RunProgram("check --color=auto " + path).output, Not(HasSubstr("\x1b")));
+    EXPECT_EQ(RunProgram("check --color=red " + path).status, 2);
+    EXPECT_EQ(RunProgram("--color check " + path).status, 2);
+    EXPECT_EQ(RunProgram("--colour=never check " + path).status, 2);
+}
+
+TEST_F(CheckFolder, ColorsAreForcedByTheEnvironmentUnlessItForbidsThem) {
+    WriteForms(1, "|blod:1|");
+    const std::string arguments = "check " + folder.string();
+    const std::string file = (folder / "output").string();
+    const auto written = [&](const std::string& variables) {
+        RunOnTerminal(arguments + " >" + file, variables);
+        return FileBytes(file);
+    };
+    EXPECT_THAT(written(""), Not(HasSubstr("\x1b")));
+    EXPECT_THAT(written("CLICOLOR_FORCE=1"), HasSubstr("\x1b[1m"));
+    EXPECT_THAT(written("CLICOLOR_FORCE=0"), Not(HasSubstr("\x1b")));
+    EXPECT_THAT(written("CLICOLOR_FORCE=1 NO_COLOR=1"), Not(HasSubstr("\x1b")));
+    EXPECT_THAT(RunOnTerminal(arguments, "NO_COLOR=").output, HasSubstr("\x1b[1m"));
+}
+
+TEST_F(CheckFolder, ErrorsOfEveryCommandAreRed) {
+    for (const char* arguments : {"compile no/such/file", "check --baseline no/such/file x.frm"}) {
+        EXPECT_THAT(RunOnTerminal(arguments).output, StartsWith("\x1b[31mlumenkit: ")) << arguments;
+        EXPECT_THAT(RunProgram(std::string("--color=always ") + arguments).errors,
+                    AllOf(StartsWith("\x1b[31mlumenkit: "), EndsWith("\x1b[0m\n")))
+            << arguments;
+    }
+    EXPECT_THAT(RunOnTerminal("compile --color=never no/such/file").output, StartsWith("lumenkit"));
+}
+
 TEST_F(CheckFolder, EachStreamHasColorsOfItsOwn) {
     Write("a.frm", "no form");
     Write("b.frm", FormWith("|blod:1|"));
@@ -313,6 +358,33 @@ TEST_F(CheckFolder, WaitsForNoPipe) {
     EXPECT_EQ(outcome.errors, "lumenkit: " + (folder / "link.frm").string() +
                                   ": cannot be read: No such file or directory\n");
     EXPECT_EQ(outcome.output, "0 files checked: 0 findings, 1 error\n");
+}
+
+TEST_F(CheckFolder, WaitsForNoNamedPipeThatIsACaption) {
+    const std::string pipe = (folder / "pipe").string();
+    ASSERT_EQ(mkfifo(pipe.c_str(), 0600), 0);
+    fs::create_symlink("pipe", folder / "link.txt");
+    const Outcome outcome = RunProgram("check --caption " + pipe);
+    EXPECT_EQ(outcome.errors, "lumenkit: " + pipe + ": is not a plain file\n");
+    EXPECT_EQ(outcome.status, 2);
+    const std::string link = (folder / "link.txt").string();
+    EXPECT_EQ(RunProgram("check --caption " + link).errors,
+              "lumenkit: " + link + ": is not a plain file\n");
+}
+
+TEST_F(CheckFolder, ReadsCaptionsFromPipesOfAShell) {
+    for (const char* const name : {"-", "/dev/stdin", "/dev/fd/0"}) {
+        EXPECT_EQ(RunProgram(std::string("check --caption ") + name, "|blod:1|\n").status, 1)
+            << name;
+    }
+    // The program's standard input itself is a named pipe, and another one has no name.
+    const std::string pipe = (folder / "pipe").string();
+    ASSERT_EQ(mkfifo(pipe.c_str(), 0600), 0);
+    EXPECT_EQ(RunOnTerminal("check --caption /dev/stdin <" + pipe + " & echo '|u:1|' >" + pipe +
+                            "; wait $!")
+                  .status,
+              1);
+    EXPECT_EQ(RunOnTerminal("check --caption /dev/fd/3 3<&0", "echo '|u:1|' |").status, 1);
 }
 
 TEST_F(CheckFolder, TheBarIsTheErrorStreamsOwn) {

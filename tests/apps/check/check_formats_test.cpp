@@ -1,4 +1,5 @@
 // The formats of "lumenkit check" for other programs.
+#include <filesystem>
 #include <string>
 
 #include <gmock/gmock.h>
@@ -75,6 +76,19 @@ TEST(GithubFormat, EscapesWhatWouldEndACommand) {
     EXPECT_EQ(outcome.output,
               "::error file=a%2Cb%3Ac%25%1B.frm::cannot be read: No such file or directory\n");
     EXPECT_EQ(outcome.status, 2);
+}
+
+TEST(Formats, NameFilesAsTheRepositoryDoes) {
+    const std::filesystem::path before = std::filesystem::current_path();
+    std::filesystem::current_path(examples + "..");
+    for (const std::string file : {"./forms/drawn.frm", "forms//../forms/drawn.frm"}) {
+        EXPECT_THAT(RunProgram("check --format github " + file).output,
+                    ::testing::StartsWith("::error file=forms/drawn.frm,line=4,"));
+        const Json log = Sarif(file);
+        const Json& place = log["runs"][0]["results"][0]["locations"][0]["physicalLocation"];
+        EXPECT_EQ(place["artifactLocation"]["uri"], "forms/drawn.frm");
+    }
+    std::filesystem::current_path(before);
 }
 
 TEST(Formats, AnUnknownOneIsRefused) {

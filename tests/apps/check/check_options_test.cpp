@@ -163,6 +163,9 @@ TEST_F(CheckOptions, AnUnusableBaselineEndsTheRun) {
     EXPECT_THAT(Check("--write-baseline " + file).errors,
                 HasSubstr("known.json: is not a plain file"));
     EXPECT_TRUE(fs::is_fifo(file)) << "a device must not be replaced by a file";
+    EXPECT_THAT(Check("--baseline " + file).errors, HasSubstr("known.json: is not a plain file"));
+    ASSERT_EQ(mkfifo((folder / ".lumenkit").c_str(), 0600), 0);
+    EXPECT_THAT(Check("").errors, HasSubstr(".lumenkit: is not a plain file"));
 }
 
 TEST_F(CheckOptions, ResultsAreInTheOrderOfTheFiles) {

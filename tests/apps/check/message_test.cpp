@@ -5,6 +5,8 @@
 #include <gtest/gtest.h>
 
 #include "apps/command_line/spelling/nearest.h"
+#include "apps/command_line/spelling/printable.h"
+#include "apps/command_line/spelling/suggestion.h"
 #include "apps/lumenkit/check/progress_bar.h"
 #include "apps/lumenkit/check/quote.h"
 
@@ -48,6 +50,11 @@ TEST(Suggestion, ForgivesSlipsByLength) {
     EXPECT_EQ(Nearest(u"x", words), u"");
     EXPECT_EQ(Nearest(u"", words), u"");
     EXPECT_EQ(Nearest(Text(100000, u'b'), words), u"");
+}
+
+TEST(Suggestion, EndsAMessage) {
+    EXPECT_EQ(DidYouMean("bold"), "; did you mean \"bold\"?");
+    EXPECT_EQ(DidYouMean(""), "");
 }
 
 TEST(ProgressBar, DrawsWhatChangesAndClearsUp) {

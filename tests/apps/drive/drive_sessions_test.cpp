@@ -77,7 +77,7 @@ std::set<std::string> RequestsIn(const std::string& text) {
 
 TEST_F(DriveSessions, Replay) {
     const auto files = SessionFiles();
-    EXPECT_THAT(files, SizeIs(8));
+    EXPECT_THAT(files, SizeIs(9));
     for (const auto& file : files) {
         Replay(ParseScript(FileBytes(file)), file.filename().string());
     }

@@ -32,6 +32,54 @@ TEST(Edit, ReplacesInsertsAndRemovesProperties) {
     EXPECT_EQ(label.FindProperty(u"BackStyle")->NamePlace(), Position{});
 }
 
+TEST(Edit, ReplacesValuesAndNamesAndKeepsTheRestOfTheLine) {
+    const Document document = Document::Parse("x.frm",
+                                              "VERSION 5.00\nBegin VB.Form F\n"
+                                              "  Captoin =\t\"a\"\t' old  \n"
+                                              "  Tag = \"b\"  '\n"
+                                              "  Left=2   \n"
+                                              "  Visible = 0   'False\n"
+                                              "End\n",
+                                              {});
+    Block& form = document.Root();
+    const auto change = [&](TextView name, auto edit) {
+        Property& property = *form.FindProperty(name);
+        Property changed = property;
+        edit(changed);
+        form.Replace(property, std::move(changed));
+    };
+    change(u"Captoin", [](Property& property) {
+        property.Replace(Text(u"x'y"));
+        property.Rename(u"Caption");
+    });
+    change(u"Tag", [](Property& property) { property.Replace(Text()); });
+    change(u"Left", [](Property& property) { property.Replace(-1); });
+    change(u"Visible", [](Property& property) { property.Replace(7); });
+    EXPECT_EQ(document.Write().form,
+              "VERSION 5.00\nBegin VB.Form F\n"
+              "  Caption =\t\"x'y\"\t' old  \n"
+              "  Tag = \"\"  '\n"
+              "  Left=-1   \n"
+              "  Visible = 7\n"
+              "End\n");
+    EXPECT_EQ(form.FindProperty(u"Captoin"), nullptr);
+    EXPECT_EQ(form.FindProperty(u"caption")->Comment(), u" old  ");
+}
+
+TEST(Edit, ReplacesALineByATextInTheCompanionAndKeepsItsComment) {
+    const Document document =
+        Document::Parse("x.frm", "VERSION 5.00\nBegin VB.Form F\nTag = \"b\"  'old\nEnd\n", {});
+    Property& tag = *document.Root().FindProperty(u"Tag");
+    tag.Replace(TextLiteral(u"a\nb"));
+    const FormBytes bytes = document.Write();
+    EXPECT_EQ(bytes.form, "VERSION 5.00\nBegin VB.Form F\nTag = $\"x.frx\":0000  'old\nEnd\n");
+    EXPECT_EQ(bytes.companion,
+              "\x03"
+              "a\nb");
+    tag.Replace(Text(u"c"));
+    EXPECT_EQ(document.Write().form, "VERSION 5.00\nBegin VB.Form F\nTag = \"c\"  'old\nEnd\n");
+}
+
 TEST(Edit, AddsAndRemovesControlsAndLibraries) {
     Document document = Sample("all_three.frm").Parse();
     Block& box = Find(document, {u"fraLeft", u"picInner"});

@@ -8,6 +8,7 @@
 
 #include "forms/disk.h"
 #include "forms/literal.h"
+#include "forms/plain_file.h"
 #include "tests/unit/forms/sample_forms.h"
 
 namespace lumenkit::forms::testing {

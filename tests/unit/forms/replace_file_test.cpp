@@ -1,7 +1,11 @@
 #include "forms/replace_file.h"
 
+#include <atomic>
 #include <filesystem>
+#include <latch>
 #include <string>
+#include <thread>
+#include <vector>
 
 #include <gtest/gtest.h>
 
@@ -71,6 +75,44 @@ TEST_F(ReplaceFileTest, KeepsTheOldFileAndSaysWhyTheNewOneCannotBeWritten) {
     fs::permissions(file, fs::perms::owner_read);
     EXPECT_EQ(Error(file, large), file.string() + ": is read-only");
     EXPECT_EQ(ReadFile(file), "old");
+}
+
+TEST_F(ReplaceFileTest, ReplacesAKnownFileUnlessAnotherProgramHasChangedIt) {
+    ReplaceKnownFile(file, {"old", "new"});
+    EXPECT_EQ(ReadFile(file), "new");
+    try {
+        ReplaceKnownFile(file, {"old", "newer"});
+        ADD_FAILURE() << "replaced a file that it did not know";
+    } catch (const FormError& error) {
+        EXPECT_EQ(error.what(),
+                  file.string() + ": was changed by another program since it was read");
+    }
+    EXPECT_EQ(ReadFile(file), "new");
+    EXPECT_EQ(Count(), 1);
+}
+
+TEST_F(ReplaceFileTest, OfSeveralSavesOfAKnownFileOneSucceeds) {
+    constexpr int saves = 4;
+    constexpr int rounds = 50;
+    const std::string old(1 << 20, 'x');  // takes a while to read
+    std::atomic<int> refused = 0;
+    for (int round = 0; round < rounds; ++round) {
+        WriteFile(file, old);
+        std::latch start(saves);
+        std::vector<std::jthread> threads;
+        for (int i = 0; i < saves; ++i) {
+            threads.emplace_back([&] {
+                start.arrive_and_wait();
+                try {
+                    ReplaceKnownFile(file, {old, "new"});
+                } catch (const FormError&) {
+                    ++refused;
+                }
+            });
+        }
+    }
+    EXPECT_EQ(refused, rounds * (saves - 1));
+    EXPECT_EQ(Count(), 1);
 }
 
 }  // namespace

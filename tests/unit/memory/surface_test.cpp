@@ -56,6 +56,7 @@ TEST_F(MemorySurface, RecordsWhatIsDrawnWithWhat) {
     surface_.CurrentFont()->SetBold(true);
     surface_.CurrentFont()->SetItalic(true);
     surface_.CurrentFont()->SetUnderline(true);
+    surface_.CurrentFont()->SetStrikethrough(true);
     surface_.CurrentFont()->SetSize(10);
     surface_.CurrentFont()->SetName(u"Arial");
     surface_.Print(u"c");
@@ -76,6 +77,7 @@ TEST_F(MemorySurface, RecordsWhatIsDrawnWithWhat) {
                   .bold = true,
                   .italic = true,
                   .underline = true,
+                  .strikethrough = true,
                   .size = 10,
                   .color = Rgb(1, 2, 3),
                   .fontName = u"Arial"},

@@ -1,0 +1,16 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "apps/lumenkit/check/finding.h"
+
+namespace lumenkit::check {
+
+/// Whether the findings about a control after a mending are no worse than those before: neither
+/// more findings nor more errors about the properties `mended`, in UTF-8, and no difference about
+/// others.
+bool IsNoWorse(const Findings& before, const Findings& after,
+               const std::vector<std::string>& mended);
+
+}  // namespace lumenkit::check
