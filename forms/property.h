@@ -37,6 +37,11 @@ class Property {
 
     /// Sets another value. The line keeps the part before the value; a comment is removed.
     void Set(forms::Literal literal);
+    /// Lets `change` edit the part of the line before the value, whose indentation can change.
+    template <typename Change>
+    void ChangePrefix(const Change& change) {
+        change(source_.prefix);
+    }
     /// Adds a comment after a value that has none, for example to explain a number.
     void AddComment(TextView comment);
 
