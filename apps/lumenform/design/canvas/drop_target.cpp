@@ -1,7 +1,8 @@
 #include "apps/lumenform/design/canvas/drop_target.h"
 
 #include <algorithm>
-#include <utility>
+#include <iterator>
+#include <unordered_set>
 
 #include "apps/lumenform/design/model/arrange.h"
 #include "apps/lumenform/design/model/containers.h"
@@ -14,22 +15,29 @@ constexpr int markWidth = 3;
 
 }  // namespace
 
-DropTarget::DropTarget(const Ground& ground, std::vector<LiveControl*> dragged,
-                       const LiveControl& grabbed, QPoint pressedAt)
+DropTarget::DropTarget(const Ground& ground, const std::vector<LiveControl*>& dragged,
+                       LiveControl& grabbed, QPoint pressedAt)
     : ground_(ground),
-      dragged_(std::move(dragged)),
+      dragged_(dragged),
       grabbed_(grabbed),
       home_(ContainerOf(ground.design, grabbed)),
-      under_(ground.map.ContainerAt(pressedAt, dragged_)),
-      container_(ContainerOf(ground.design, grabbed)) {}
+      under_(ground.map.ContainerAt(pressedAt, dragged)),
+      container_(home_) {
+    const std::unordered_set<const LiveControl*> all(dragged.begin(), dragged.end());
+    for (const auto& control : ground.design.View().Controls()) {
+        if (all.contains(control.get()) &&
+            control->Widget().parentWidget() == grabbed.Widget().parentWidget()) {
+            siblings_.push_back(control.get());
+        }
+    }
+}
 
 void DropTarget::Follow(const Pointer& pointer) {
-    LiveControl* const own = ContainerOf(ground_.design, grabbed_);
     LiveControl* const under = ground_.map.ContainerAt(pointer.at, dragged_);
     const bool isOutside = !ground_.map.ClientRect().contains(pointer.at);
-    container_ = pointer.keepsContainer || isOutside || under == under_ ? own : under;
-    if (IsElsewhere() && pictures_.empty()) {
-        for (LiveControl* const control : Going()) {
+    container_ = pointer.keepsContainer || isOutside || under == under_ ? home_ : under;
+    for (LiveControl* const control : Going()) {
+        if (!pictures_.contains(control)) {
             pictures_.emplace(control, control->Widget().grab());
         }
     }
@@ -42,29 +50,22 @@ QPointF DropTarget::Shift() const {
 
 std::vector<LiveControl*> DropTarget::Going() const {
     std::vector<LiveControl*> going;
-    if (!IsElsewhere()) {
-        return going;
-    }
-    const QRect room = ground_.map.RoomOf(container_);
-    for (const auto& control : ground_.design.View().Controls()) {
-        const bool isDragged = std::ranges::find(dragged_, control.get()) != dragged_.end();
-        const bool goes = control.get() == &grabbed_ ||
-                          (isDragged && ContainerOf(ground_.design, *control) == home_ &&
-                           ground_.map.RectOf(*control).intersects(room));
-        if (goes) {
-            going.push_back(control.get());
-        }
+    if (IsElsewhere()) {
+        const QRect room = ground_.map.RoomOf(container_);
+        std::ranges::copy_if(siblings_, std::back_inserter(going), [&](LiveControl* control) {
+            return control == &grabbed_ || ground_.map.RectOf(*control).intersects(room);
+        });
     }
     return going;
 }
 
 QRect DropTarget::Painted() const {
-    QRect painted;
-    if (IsElsewhere()) {
-        painted = ground_.map.RoomOf(container_);
-        for (const LiveControl* const control : Going()) {
-            painted |= ground_.map.RectOf(*control);
-        }
+    if (!IsElsewhere()) {
+        return {};
+    }
+    QRect painted = ground_.map.RoomOf(container_);
+    for (const LiveControl* const control : Going()) {
+        painted |= ground_.map.RectOf(*control);
     }
     return painted.adjusted(-markWidth, -markWidth, markWidth, markWidth);
 }

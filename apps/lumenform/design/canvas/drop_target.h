@@ -19,7 +19,7 @@ class DropTarget {
  public:
     /// `dragged` are all controls that move; `grabbed` is the one of them under the mouse. Only
     /// those in the same container as this one get another container.
-    DropTarget(const Ground& ground, std::vector<LiveControl*> dragged, const LiveControl& grabbed,
+    DropTarget(const Ground& ground, const std::vector<LiveControl*>& dragged, LiveControl& grabbed,
                QPoint pressedAt);
 
     /// Called when the mouse has moved, before the controls.
@@ -42,8 +42,9 @@ class DropTarget {
  private:
     Ground ground_;
     std::vector<LiveControl*> dragged_;
-    const LiveControl& grabbed_;
-    const LiveControl* home_;
+    std::vector<LiveControl*> siblings_;  // those of one container, in the order of the file
+    LiveControl& grabbed_;
+    LiveControl* home_;
     const LiveControl* under_;  // at the press
     LiveControl* container_;
     std::map<const LiveControl*, QPixmap> pictures_;

@@ -54,7 +54,11 @@ PlacingGesture::PlacingGesture(const Ground& ground, const LiveControl& grabbed,
     });
     grabbed_ = &*found;
     if (edges == allEdges) {
-        drop_.emplace(ground, OutermostSelected(ground.design), *grabbed_->control, pressedAt);
+        std::vector<LiveControl*> dragged;
+        for (const Target& target : targets_) {
+            dragged.push_back(target.control);
+        }
+        drop_.emplace(ground, dragged, *grabbed_->control, pressedAt);
     }
 }
 

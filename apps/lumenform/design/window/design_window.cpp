@@ -178,7 +178,7 @@ void DesignWindow::ShowStart() {
 void DesignWindow::Follow(Workbench* bench) {
     commands_->Follow(bench);
     status_->Follow(bench);
-    view_->Follow(bench == nullptr ? nullptr : &bench->GetCanvas());
+    view_->Follow(bench);
     UpdateTitle();
 }
 
