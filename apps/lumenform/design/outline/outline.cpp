@@ -8,6 +8,7 @@
 #include <QVBoxLayout>
 #include <algorithm>
 #include <unordered_set>
+#include <utility>
 
 #include "apps/lumenform/design/model/refusal.h"
 #include "apps/lumenform/form_view/likeness/tab_pages.h"
@@ -369,6 +370,9 @@ OutlinePlace Outline::PlaceAt(const QModelIndex& row, DropSide side) const {
 void Outline::Rename(const QModelIndex& index, const QString& name) {
     const Text former = forms::NameInCode(*model_.NodeOf(index)->block);
     QTimer::singleShot(0, this, [this, former, name] {
+        if (model_.Form() == nullptr) {
+            return;  // hidden meanwhile
+        }
         const OutlineNode* found = nullptr;
         ForEach(*model_.Form(), [&](const OutlineNode& node) {
             const bool isNamed = SameText(forms::NameInCode(*node.block), former, Compare::Binary);
