@@ -222,6 +222,56 @@ bool Block::MoveControl(const Block& control, const Block* before) {
     return true;
 }
 
+bool Block::TakeControl(Block& from, const Block& control, const Block* before) {
+    if (&from == this) {
+        return MoveControl(control, before);
+    }
+    const auto found = from.FindControl(control);
+    if (found == from.items_.end()) {
+        return false;
+    }
+    items_.reserve(items_.size() + 1);
+    AsBlock(*found, BlockKind::Control)
+        ->Indent(layout::IndentationOf(control.open_), InnerIndentation());
+    // From here on nothing throws.
+    const auto index = found - from.items_.begin();
+    Item item = std::move(from.items_[static_cast<std::size_t>(index)]);
+    from.items_.erase(from.items_.begin() + index);
+    from.ItemsChanged();
+    ItemsChanged();
+    items_.insert(before == nullptr ? items_.end() : FindControl(*before), std::move(item));
+    return true;
+}
+
+// Calls `change` for the beginning of each line of the block. The recursion is as deep as the
+// blocks are nested, which the parser limits.
+template <typename Change>
+void Block::ForEachLine(const Change& change) {
+    change(open_);
+    for (const Item& item : items_) {
+        if (const auto* property = std::get_if<std::unique_ptr<Property>>(&item)) {
+            (*property)->ChangePrefix(change);
+        } else if (const auto* inner = std::get_if<std::unique_ptr<Block>>(&item)) {
+            (*inner)->ForEachLine(change);
+        } else {
+            change(std::get<std::unique_ptr<IdleLine>>(item)->line);
+        }
+    }
+    change(close_);
+}
+
+// Replaces the indentation `former` of all lines. A line with another indentation keeps it. The
+// first pass takes all memory, so that the second one does not fail.
+void Block::Indent(TextView former, TextView now) {
+    const Text from(former);  // the lines change
+    ForEachLine([&](Text& line) { line.reserve(line.size() + now.size()); });
+    ForEachLine([&](Text& line) {
+        if (TextView(line).starts_with(from)) {
+            line.replace(0, from.size(), now);
+        }
+    });
+}
+
 void Block::Rename(TextView name) {
     constexpr TextView blanks = u" \t";
     constexpr TextView keyword = u"Begin";

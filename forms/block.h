@@ -89,6 +89,11 @@ class Block {
     /// Moves one of Controls() before another one, or to the end. Returns false when `control` is
     /// not one of them.
     bool MoveControl(const Block& control, const Block* before);
+    /// Moves one of the Controls() of `from` into this block, before one of its own controls or to
+    /// the end. The lines of the control get the indentation of their new level and stay otherwise
+    /// the same. Returns false when `control` is not one of them. `control` must not be this block
+    /// or contain it.
+    bool TakeControl(Block& from, const Block& control, const Block* before);
     /// Renames a control; the rest of its first line stays unchanged.
     void Rename(TextView name);
 
@@ -113,6 +118,9 @@ class Block {
     }
     Iterator FindControl(const Block& control) const;
     void Place(TextView name, Item setting, TextView after);
+    template <typename Change>
+    void ForEachLine(const Change& change);
+    void Indent(TextView former, TextView now);
     Text InnerIndentation() const;
     Text LineBreak() const;
 

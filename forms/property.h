@@ -44,6 +44,11 @@ class Property {
     void Replace(forms::Literal literal);
     /// Changes the name. The rest of the line stays.
     void Rename(TextView name);
+    /// Lets `change` edit the part of the line before the value, whose indentation can change.
+    template <typename Change>
+    void ChangePrefix(const Change& change) {
+        change(source_.prefix);
+    }
     /// Adds a comment after a value that has none, for example to explain a number.
     void AddComment(TextView comment);
 

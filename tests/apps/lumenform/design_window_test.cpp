@@ -8,6 +8,7 @@
 #include <QLabel>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QScrollBar>
 #include <QStatusBar>
 #include <QTemporaryDir>
 #include <QTest>
@@ -88,6 +89,78 @@ TEST_F(DesignWindowTest, PutsAControlIntoTheMiddle) {
     EXPECT_NEAR(place.left + place.width / 2, 2400, 120);
     EXPECT_NEAR(place.top + place.height / 2, 1800, 120);
     EXPECT_FALSE(window.Bench()->GetCanvas().IsDrawing());
+}
+
+TEST_F(DesignWindowTest, TheOutlineIsHiddenUntilItIsWantedAgain) {
+    window.StartNew();
+    EXPECT_TRUE(window.Bench()->GetOutline().isVisible());
+    Command(QStringLiteral("Outline")).trigger();
+    EXPECT_FALSE(window.Bench()->GetOutline().isVisible());
+    window.Load(Copy("all_three"));
+    EXPECT_FALSE(window.Bench()->GetOutline().isVisible());
+    EXPECT_EQ(settings.value(QStringLiteral("outline/shown")), false);
+    Command(QStringLiteral("Outline")).trigger();
+    EXPECT_TRUE(window.Bench()->GetOutline().isVisible());
+    EXPECT_EQ(window.Bench()->GetOutline().Tree().model()->rowCount(), 1);
+}
+
+TEST_F(DesignWindowTest, TheOutlineLeadsToTheProperties) {
+    window.Load(Copy("all_three"));
+    lumenform::OutlineTree& tree = window.Bench()->GetOutline().Tree();
+    tree.setFocus();
+    QTest::keyClick(&tree, Qt::Key_Down);
+    EXPECT_EQ(Design().Selected().size(), 1U);
+    QTest::keyClick(&tree, Qt::Key_Return);
+    EXPECT_TRUE(window.Bench()->Properties().Table().hasFocus());
+}
+
+// Writes a form of 300 by 2000 pixels with a text box near its upper edge and one below it.
+void WriteTallForm(const fs::path& path) {
+    std::ofstream(path) << "VERSION 5.00\nBegin VB.Form Tall\n   ClientHeight = 30000\n"
+                           "   ClientWidth = 4500\n   Begin VB.TextBox A\n      Height = 300\n"
+                           "      Left = 150\n      Top = 150\n      Width = 900\n   End\n"
+                           "   Begin VB.TextBox Lost\n      Height = 300\n      Left = 150\n"
+                           "      Top = 31000\n      Width = 900\n   End\nEnd\n";
+}
+
+QRectF RectOfPlace(const host::Placement& place) {
+    return {place.left, place.top, place.width, place.height};
+}
+
+TEST_F(DesignWindowTest, APasteLandsInThePartOfTheFormThatIsSeen) {
+    WriteTallForm(File(QStringLiteral("tall.frm")));
+    window.Load(Path(QStringLiteral("tall.frm")));
+    Select(u"A");
+    Command(QStringLiteral("Copy")).trigger();
+    QScrollBar& scroll = *window.Bench()->GetCanvas().verticalScrollBar();
+    scroll.setValue(scroll.maximum());
+    QRectF seen = window.Bench()->GetCanvas().GetGlass().SeenPart();
+    ASSERT_GT(seen.top(), 1000);
+    ASSERT_EQ(seen.bottom(), 30000);
+    for (int copies = 1; copies <= 3; ++copies) {
+        Command(QStringLiteral("Paste")).trigger();
+        ASSERT_EQ(Design().Selected().size(), 1U);
+        EXPECT_EQ(Design().View().Controls().size(), static_cast<std::size_t>(copies) + 2);
+        const host::Placement place = Design().Selected().front()->Place();
+        EXPECT_TRUE(seen.contains(RectOfPlace(place)));
+        EXPECT_EQ(place.left, 150 + (copies - 1) * 120) << "aside of the copy before";
+        seen = window.Bench()->GetCanvas().GetGlass().SeenPart();
+        EXPECT_TRUE(seen.contains(RectOfPlace(place)));
+    }
+}
+
+TEST_F(DesignWindowTest, BringsBackWhatIsOutOfView) {
+    WriteTallForm(File(QStringLiteral("tall.frm")));
+    window.Load(Path(QStringLiteral("tall.frm")));
+    QAction& command = Command(QStringLiteral("Bring into view"));
+    EXPECT_TRUE(command.isEnabled());
+    command.trigger();
+    ASSERT_EQ(Design().Selected().size(), 1U);
+    EXPECT_EQ(Design().Selected().front()->Place().top, 30000 - 300);
+    EXPECT_TRUE(window.Bench()->GetCanvas().GetGlass().SeenPart().contains(
+        RectOfPlace(Design().Selected().front()->Place())));
+    Design().Select({});
+    EXPECT_FALSE(command.isEnabled());
 }
 
 TEST_F(DesignWindowTest, ControlsOfTheToolboxDoNotCoverEachOther) {

@@ -197,6 +197,30 @@ TEST(Edit, MovesControlsAmongTheirNeighbours) {
     EXPECT_EQ(order(), u"c2c3c1");
 }
 
+TEST(Edit, AControlInAnotherBlockKeepsItsLinesAtTheNewIndentation) {
+    const Document document = ParseBytes(
+        "VERSION 5.00\r\nBegin A B\r\n   Begin C c1\r\n      X  =  1 'one\r\n\r\n"
+        "      BeginProperty Font\r\n         Size = 8\r\n      EndProperty\r\n"
+        "  ' odd\r\n   End\r\n   Begin C c2\r\n      Y = 2\r\n      Begin C c3\r\n"
+        "      End\r\n   End\r\nEnd\r\n");
+    Block& first = Find(document, {u"c1"});
+    Block& second = Find(document, {u"c2"});
+    EXPECT_FALSE(second.TakeControl(second, first, nullptr));
+    EXPECT_TRUE(second.TakeControl(document.Root(), first, second.Controls().front()));
+    EXPECT_EQ(document.Write().form,
+              "VERSION 5.00\r\nBegin A B\r\n   Begin C c2\r\n      Y = 2\r\n"
+              "      Begin C c1\r\n         X  =  1 'one\r\n\r\n"
+              "         BeginProperty Font\r\n            Size = 8\r\n"
+              "         EndProperty\r\n  ' odd\r\n      End\r\n      Begin C c3\r\n"
+              "      End\r\n   End\r\nEnd\r\n");
+    EXPECT_TRUE(document.Root().TakeControl(second, *second.Controls().front(), &second));
+    EXPECT_EQ(document.Write().form,
+              "VERSION 5.00\r\nBegin A B\r\n   Begin C c1\r\n      X  =  1 'one\r\n\r\n"
+              "      BeginProperty Font\r\n         Size = 8\r\n      EndProperty\r\n"
+              "  ' odd\r\n   End\r\n   Begin C c2\r\n      Y = 2\r\n      Begin C c3\r\n"
+              "      End\r\n   End\r\nEnd\r\n");
+}
+
 TEST(Edit, RefusesWhatWouldBeReadAsUtf8) {
     const Document document = Sample("empty.frm").Parse();
     document.Root().Set(u"Caption", Text(u"Ã©"));  // C3 A9, which is é in UTF-8

@@ -148,6 +148,10 @@ const std::vector<Edit>& Edits() {
         {"no control", [](Document& form) { form.Root().RemoveControl(Memo(form)); }},
         {"a control elsewhere",
          [](Document& form) { form.Root().MoveControl(Memo(form), nullptr); }},
+        {"a control in another one",
+         [](Document& form) {
+             form.Root().Controls().back()->TakeControl(form.Root(), Memo(form), nullptr);
+         }},
         {"a control's name", [](Document& form) { Memo(form).Rename(u"AMuchLongerName_1"); }},
         {"the form's name", [](Document& form) { form.RenameForm(u"frmAMuchLongerName"); }},
         {"the file's name", [](Document& form) { form.Rename("/somewhere/else/another.frm"); }},

@@ -8,8 +8,8 @@ BandGesture::BandGesture(const Ground& ground, const LiveControl* container, QPo
                          bool adds)
     : ground_(ground), container_(container), pressedAt_(pressedAt), adds_(adds) {}
 
-void BandGesture::DragTo(QPoint at, bool /*snaps*/) {
-    band_ = QRect(pressedAt_, at).normalized();
+void BandGesture::DragTo(const Pointer& pointer) {
+    band_ = QRect(pressedAt_, pointer.at).normalized();
 }
 
 void BandGesture::Finish() {

@@ -12,7 +12,7 @@ class BandGesture final : public Gesture {
     /// With `adds`, keeps the present selection.
     BandGesture(const Ground& ground, const LiveControl* container, QPoint pressedAt, bool adds);
 
-    void DragTo(QPoint at, bool snaps) override;
+    void DragTo(const Pointer& pointer) override;
     void Finish() override;
     QRect Band() const override { return band_; }
 

@@ -17,20 +17,20 @@ DrawingGesture::DrawingGesture(const Ground& ground, Text className, QPoint pres
       pressedAt_(pressedAt),
       done_(std::move(done)) {}
 
-void DrawingGesture::DragTo(QPoint at, bool snaps) {
+void DrawingGesture::DragTo(const Pointer& pointer) {
     const auto nearest = [&](double twips) {
         const auto edge = static_cast<float>(twips);
-        return snaps ? ground_.grid.Nearest(edge) : edge;
+        return pointer.snaps ? ground_.grid.Nearest(edge) : edge;
     };
     const QPointF from = TwipsAt(pressedAt_);
-    const QPointF to = TwipsAt(at);
+    const QPointF to = TwipsAt(pointer.at);
     const float left = nearest(std::min(from.x(), to.x()));
     const float top = nearest(std::min(from.y(), to.y()));
     place_ = {.left = left,
               .top = top,
               .width = nearest(std::max(from.x(), to.x())) - left,
               .height = nearest(std::max(from.y(), to.y())) - top};
-    isDragged_ = isDragged_ || at != pressedAt_;
+    isDragged_ = isDragged_ || pointer.at != pressedAt_;
 }
 
 void DrawingGesture::Finish() {

@@ -16,7 +16,7 @@ class DrawingGesture final : public Gesture {
     /// drag gives the usual size of the class.
     DrawingGesture(const Ground& ground, Text className, QPoint pressedAt, Done done);
 
-    void DragTo(QPoint at, bool snaps) override;
+    void DragTo(const Pointer& pointer) override;
     void Finish() override;
     std::optional<host::Placement> Place() const override { return place_; }
     QRect Band() const override;

@@ -9,19 +9,21 @@ namespace lumenkit::lumenform {
 namespace {
 
 // Returns the innermost widget at a point of `widget`. QWidget::childAt skips widgets that are
-// transparent for mouse events.
-const QWidget& InnermostAt(const QWidget& widget, QPoint at) {
+// transparent for mouse events. `without` are left out with their children.
+const QWidget& InnermostAt(const QWidget& widget, QPoint at,
+                           const std::vector<const QWidget*>& without) {
     const QObjectList& children = widget.children();
-    const auto liesThere = [at](const QObject* child) {
+    const auto liesThere = [&](const QObject* child) {
         const auto* const inner = qobject_cast<const QWidget*>(child);
-        return inner != nullptr && !inner->isHidden() && inner->geometry().contains(at);
+        return inner != nullptr && !inner->isHidden() && inner->geometry().contains(at) &&
+               std::ranges::find(without, inner) == without.end();
     };
     const auto found = std::find_if(children.rbegin(), children.rend(), liesThere);
     if (found == children.rend()) {
         return widget;
     }
     const auto& inner = *qobject_cast<const QWidget*>(*found);
-    return InnermostAt(inner, at - inner.pos());
+    return InnermostAt(inner, at - inner.pos(), without);
 }
 
 }  // namespace
@@ -59,14 +61,28 @@ LiveControl* FormMap::Find(const QWidget* widget) const {
     return nullptr;
 }
 
-LiveControl* FormMap::ControlAt(QPoint at) const {
-    const QRect client = ClientRect();
-    return client.contains(at) ? Find(&InnermostAt(design_.View().Client(), at - client.topLeft()))
-                               : nullptr;
+QRect FormMap::RoomOf(const LiveControl* container) const {
+    return {OriginOf(container), InsideOf(design_, container).widget.size()};
 }
 
-LiveControl* FormMap::ContainerAt(QPoint at) const {
-    LiveControl* control = ControlAt(at);
+LiveControl* FormMap::ControlAt(QPoint at) const {
+    return ControlAt(at, {});
+}
+
+LiveControl* FormMap::ControlAt(QPoint at, const std::vector<LiveControl*>& without) const {
+    const QRect client = ClientRect();
+    if (!client.contains(at)) {
+        return nullptr;
+    }
+    std::vector<const QWidget*> widgets;
+    for (const LiveControl* const control : without) {
+        widgets.push_back(&control->Widget());
+    }
+    return Find(&InnermostAt(design_.View().Client(), at - client.topLeft(), widgets));
+}
+
+LiveControl* FormMap::ContainerAt(QPoint at, const std::vector<LiveControl*>& without) const {
+    LiveControl* control = ControlAt(at, without);
     while (control != nullptr && !control->IsContainer()) {
         control = ContainerOf(design_, *control);
     }

@@ -24,15 +24,19 @@ class FormMap {
     QRect RectOf(const LiveControl& control) const;
     /// The origin of places in the container.
     QPoint OriginOf(const LiveControl* container) const;
+    /// The area of the container for its controls.
+    QRect RoomOf(const LiveControl* container) const;
 
     /// Returns the topmost control at a point, or null.
     LiveControl* ControlAt(QPoint at) const;
-    /// Returns the innermost container at a point.
-    LiveControl* ContainerAt(QPoint at) const;
+    /// Returns the innermost container at a point, as if the controls in `without` and those in
+    /// them were not there.
+    LiveControl* ContainerAt(QPoint at, const std::vector<LiveControl*>& without = {}) const;
     /// Returns the direct children of the container that intersect the rectangle.
     std::vector<LiveControl*> Touched(const LiveControl* container, const QRect& area) const;
 
  private:
+    LiveControl* ControlAt(QPoint at, const std::vector<LiveControl*>& without) const;
     LiveControl* Find(const QWidget* widget) const;
 
     const FormDesign& design_;

@@ -23,15 +23,15 @@ FormSizeGesture::FormSizeGesture(const Ground& ground, Edges edges, QPoint press
       former_(InsideOfForm(ground.design)),
       place_(former_) {}
 
-void FormSizeGesture::DragTo(QPoint at, bool snaps) {
+void FormSizeGesture::DragTo(const Pointer& pointer) {
     const qt::TwipsPerPixel& twips = qt::TwipsPerPixel::OfScreens();
-    const QPoint dragged = at - pressedAt_;
+    const QPoint dragged = pointer.at - pressedAt_;
     place_ = Shifted(former_, edges_, static_cast<float>(dragged.x() * twips.x),
                      static_cast<float>(dragged.y() * twips.y));
-    if (snaps && place_.width != former_.width) {
+    if (pointer.snaps && place_.width != former_.width) {
         place_.width = ground_.grid.Nearest(place_.width);
     }
-    if (snaps && place_.height != former_.height) {
+    if (pointer.snaps && place_.height != former_.height) {
         place_.height = ground_.grid.Nearest(place_.height);
     }
     Show(place_);

@@ -11,7 +11,7 @@ class FormSizeGesture final : public Gesture {
  public:
     FormSizeGesture(const Ground& ground, Edges edges, QPoint pressedAt);
 
-    void DragTo(QPoint at, bool snaps) override;
+    void DragTo(const Pointer& pointer) override;
     void Finish() override;
     void Cancel() override;
     std::optional<host::Placement> Place() const override { return place_; }

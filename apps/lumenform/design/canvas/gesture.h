@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QPainter>
 #include <QPoint>
 #include <QRect>
 #include <optional>
@@ -19,6 +20,13 @@ struct Ground {
     const Grid& grid;
 };
 
+/// The mouse during a drag.
+struct Pointer {
+    QPoint at;
+    bool snaps = true;            ///< the dragged edges stop at the lines of the grid
+    bool keepsContainer = false;  ///< the dragged controls stay in their container
+};
+
 /// A mouse action from the press to the release. Points are in pixels of the desk.
 class Gesture {
  public:
@@ -27,9 +35,8 @@ class Gesture {
     Gesture(const Gesture&) = delete;
     Gesture& operator=(const Gesture&) = delete;
 
-    /// Called when the mouse has moved. With `snaps`, the dragged edges stop at the lines of the
-    /// grid.
-    virtual void DragTo(QPoint at, bool snaps) = 0;
+    /// Called when the mouse has moved.
+    virtual void DragTo(const Pointer& pointer) = 0;
     /// Called when the button is released. Throws as FormDesign does.
     virtual void Finish() = 0;
     /// Restores the former state.
@@ -39,6 +46,10 @@ class Gesture {
     virtual std::optional<host::Placement> Place() const { return std::nullopt; }
     /// The rectangle to draw during the drag; may be empty.
     virtual QRect Band() const { return {}; }
+    /// The rectangle that Paint changes; may be empty.
+    virtual QRect Painted() const { return {}; }
+    /// Paints over the form during the drag.
+    virtual void Paint(QPainter& /*painter*/, const QPalette& /*palette*/) const {}
 };
 
 }  // namespace lumenkit::lumenform

@@ -176,7 +176,7 @@ Glass::GestureRef Glass::StartDrawing(QPoint at) {
         Q_EMIT Drawn(className, container, place);
     };
     auto gesture = std::make_unique<DrawingGesture>(ground(), drawnClass_, at, done);
-    gesture->DragTo(at, grid_.snaps);
+    gesture->DragTo({.at = at, .snaps = grid_.snaps});
     return gesture;
 }
 
@@ -211,9 +211,12 @@ void Glass::Drag(QPoint at, Qt::KeyboardModifiers held) {
         if (gesture_ == nullptr) {
             gesture_ = press_->drag();
         }
-        const QRect former = gesture_->Band();
-        gesture_->DragTo(at, grid_.snaps && !held.testFlag(Qt::AltModifier));
-        update(Grown(former) | Grown(gesture_->Band()));
+        const QRect former = Grown(gesture_->Band()) | gesture_->Painted();
+        draggedTo_ = at;
+        gesture_->DragTo({.at = at,
+                          .snaps = grid_.snaps && !held.testFlag(Qt::AltModifier),
+                          .keepsContainer = held.testFlag(Qt::ControlModifier)});
+        update(former | Grown(gesture_->Band()) | gesture_->Painted());
         if (const auto place = gesture_->Place()) {
             label_->Tell(*place, at);
         }
@@ -241,7 +244,7 @@ void Glass::mouseReleaseEvent(QMouseEvent* event) {
 // Ends the drag and returns its gesture. Its effects so far remain.
 Glass::GestureRef Glass::EndGesture() {
     if (gesture_ != nullptr) {
-        update(Grown(gesture_->Band()));
+        update(Grown(gesture_->Band()) | gesture_->Painted());
     }
     GestureRef ended = std::exchange(gesture_, nullptr);
     press_.reset();
@@ -320,6 +323,8 @@ void Glass::TellPointer(QPoint at) {
 void Glass::keyPressEvent(QKeyEvent* event) {
     if (event->key() == Qt::Key_Escape) {
         Escape();
+    } else if (event->key() == Qt::Key_Control && gesture_ != nullptr) {
+        Drag(draggedTo_, event->modifiers() | Qt::ControlModifier);
     } else if (press_ || isTabOrderMode_) {
         event->ignore();
     } else if (event->matches(QKeySequence::SelectAll)) {
@@ -334,6 +339,15 @@ void Glass::keyPressEvent(QKeyEvent* event) {
         } else {
             QWidget::keyPressEvent(event);
         }
+    }
+}
+
+// Shows at once which container a drag leads to.
+void Glass::keyReleaseEvent(QKeyEvent* event) {
+    if (event->key() == Qt::Key_Control && gesture_ != nullptr) {
+        Drag(draggedTo_, event->modifiers() & ~Qt::KeyboardModifiers(Qt::ControlModifier));
+    } else {
+        QWidget::keyReleaseEvent(event);
     }
 }
 
@@ -359,9 +373,23 @@ bool Glass::focusNextPrevChild(bool next) {
     }
     if (!press_ && !isTabOrderMode_) {
         SelectNext(design_, next);
-        Q_EMIT Wanted(map_.RectOf(*design_.Selected().back()));
+        ShowSelected();
     }
     return true;
+}
+
+void Glass::ShowSelected() {
+    if (!design_.Selected().empty()) {
+        Q_EMIT Wanted(map_.RectOf(*design_.Selected().back()));
+    }
+}
+
+QRectF Glass::SeenPart() const {
+    const qt::TwipsPerPixel& twips = qt::TwipsPerPixel::OfScreens();
+    const QRect client = map_.ClientRect();
+    const QRect seen = (visibleRegion().boundingRect() & client).translated(-client.topLeft());
+    return {seen.x() * twips.x, seen.y() * twips.y, seen.width() * twips.x,
+            seen.height() * twips.y};
 }
 
 // ---- Painting and accessibility
@@ -398,6 +426,9 @@ void Glass::UpdateMarks() {
 
 void Glass::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter(this);
+    if (gesture_ != nullptr) {
+        gesture_->Paint(painter, palette());
+    }
     PaintMarks(painter);
     const QRect band = gesture_ == nullptr ? QRect() : gesture_->Band();
     if (!band.isEmpty()) {

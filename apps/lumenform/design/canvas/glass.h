@@ -35,6 +35,10 @@ class Glass final : public QWidget {
     bool IsDrawing() const { return !drawnClass_.empty(); }
     void SetTabOrderMode(bool on);
     bool IsTabOrderMode() const { return isTabOrderMode_; }
+    /// Scrolls to the control that was selected last.
+    void ShowSelected();
+    /// The part of the form's client area that is seen, in its twips. Empty if none is.
+    QRectF SeenPart() const;
 
  Q_SIGNALS:
     // See the signals of Canvas.
@@ -59,6 +63,7 @@ class Glass final : public QWidget {
     void contextMenuEvent(QContextMenuEvent* event) override;
     void leaveEvent(QEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
+    void keyReleaseEvent(QKeyEvent* event) override;
     bool focusNextPrevChild(bool next) override;
 
  private:
@@ -101,6 +106,7 @@ class Glass final : public QWidget {
     PlaceLabel* label_;
     std::optional<Press> press_;
     GestureRef gesture_;
+    QPoint draggedTo_;
     Text drawnClass_;
     bool isTabOrderMode_ = false;
     QRegion marks_;  // as painted last

@@ -2,7 +2,10 @@
 
 #include <algorithm>
 
+#include "apps/lumenform/design/model/area.h"
 #include "apps/lumenform/design/model/arrange.h"
+#include "apps/lumenform/design/model/rehome.h"
+#include "apps/lumenform/design/model/stacking.h"
 #include "runtime/qt/pixels.h"
 #include "runtime/qt/qt_text.h"
 
@@ -10,9 +13,21 @@ namespace lumenkit::lumenform {
 
 namespace {
 
-// Returns the distance that an edge at `edge` moves when it is dragged by `dragged` twips.
-float Distance(float edge, float dragged, const Grid& grid, bool snaps) {
-    return snaps && dragged != 0 ? grid.Nearest(edge + dragged) - edge : dragged;
+// Returns the distance that an edge at `edge` moves when it is dragged by `dragged` twips. The grid
+// begins at 0.
+float Distance(double edge, double dragged, const Grid& grid, bool snaps) {
+    const auto at = static_cast<float>(edge);
+    const auto by = static_cast<float>(dragged);
+    return snaps && by != 0 ? grid.Nearest(at + by) - at : by;
+}
+
+// The title of a step that puts controls into a container. A null container is the form.
+QString DropTitle(const std::vector<LiveControl*>& controls, const LiveControl* container) {
+    const QString what = controls.size() == 1 ? qt::ToQString(controls.front()->Name())
+                                              : QObject::tr("%1 controls").arg(controls.size());
+    return container == nullptr
+               ? QObject::tr("Move %1 to the form").arg(what)
+               : QObject::tr("Move %1 into %2").arg(what, qt::ToQString(container->Name()));
 }
 
 }  // namespace
@@ -38,34 +53,74 @@ PlacingGesture::PlacingGesture(const Ground& ground, const LiveControl& grabbed,
                target.control->Widget().isAncestorOf(&grabbed.Widget());
     });
     grabbed_ = &*found;
+    if (edges == allEdges) {
+        std::vector<LiveControl*> dragged;
+        for (const Target& target : targets_) {
+            dragged.push_back(target.control);
+        }
+        drop_.emplace(ground, dragged, *grabbed_->control, pressedAt);
+    }
 }
 
-void PlacingGesture::DragTo(QPoint at, bool snaps) {
+void PlacingGesture::DragTo(const Pointer& pointer) {
     const qt::TwipsPerPixel& twips = qt::TwipsPerPixel::OfScreens();
-    const QPoint dragged = at - pressedAt_;
+    QPointF shift;
+    if (drop_) {
+        drop_->Follow(pointer);
+        shift = drop_->Shift();
+    }
+    const QPoint dragged = pointer.at - pressedAt_;
     const host::Placement& from = grabbed_->former;
-    const float across = Distance(edges_.left ? from.left : from.left + from.width,
-                                  static_cast<float>(dragged.x() * twips.x), ground_.grid, snaps);
-    const float down = Distance(edges_.top ? from.top : from.top + from.height,
-                                static_cast<float>(dragged.y() * twips.y), ground_.grid, snaps);
+    const float across = Distance((edges_.left ? from.left : from.left + from.width) + shift.x(),
+                                  dragged.x() * twips.x, ground_.grid, pointer.snaps);
+    const float down = Distance((edges_.top ? from.top : from.top + from.height) + shift.y(),
+                                dragged.y() * twips.y, ground_.grid, pointer.snaps);
     for (Target& target : targets_) {
         target.place = Shifted(target.former, edges_, across, down);
+    }
+    Move();
+}
+
+void PlacingGesture::Move() const {
+    for (const Target& target : targets_) {
         target.control->Move(target.place);
     }
 }
 
 void PlacingGesture::Finish() {
+    if (drop_ && drop_->IsElsewhere()) {
+        DropElsewhere();
+        return;
+    }
     const QString title = PlacingTitle(edges_, targets_.size(), *grabbed_->control);
-    ground_.design.Edit(title, [this] {
-        for (const Target& target : targets_) {
-            target.control->Move(target.place);
-        }
-    });
+    ground_.design.Edit(title, [this] { Move(); });
+}
+
+// The controls are at their places already.
+void PlacingGesture::DropElsewhere() {
+    const std::vector<LiveControl*> going = drop_->Going();
+    LiveControl* const container = drop_->Container();
+    const Home home{.container = container, .before = Foremost(BlockOf(ground_.design, container))};
+    Rehome(ground_.design, DropTitle(going, container), going, home, Landing::SamePlace);
 }
 
 void PlacingGesture::Cancel() {
     for (const Target& target : targets_) {
         target.control->Move(target.former);
+    }
+}
+
+std::optional<host::Placement> PlacingGesture::Place() const {
+    return drop_ ? Moved(grabbed_->place, drop_->Shift()) : grabbed_->place;
+}
+
+QRect PlacingGesture::Painted() const {
+    return drop_ ? drop_->Painted() : QRect();
+}
+
+void PlacingGesture::Paint(QPainter& painter, const QPalette& palette) const {
+    if (drop_) {
+        drop_->Paint(painter, palette);
     }
 }
 

@@ -2,8 +2,10 @@
 
 #include <QString>
 #include <cstddef>
+#include <optional>
 #include <vector>
 
+#include "apps/lumenform/design/canvas/drop_target.h"
 #include "apps/lumenform/design/canvas/edges.h"
 #include "apps/lumenform/design/canvas/gesture.h"
 
@@ -14,16 +16,19 @@ namespace lumenkit::lumenform {
 QString PlacingTitle(Edges edges, std::size_t count, const LiveControl& one);
 
 /// Moves or sizes the selected controls by the same distance as the control under the mouse. Only
-/// that control snaps to the grid.
+/// that control snaps to the grid. Controls that are moved over another container are put into it:
+/// see DropTarget.
 class PlacingGesture final : public Gesture {
  public:
     /// `grabbed` is one of the selected controls.
     PlacingGesture(const Ground& ground, const LiveControl& grabbed, Edges edges, QPoint pressedAt);
 
-    void DragTo(QPoint at, bool snaps) override;
+    void DragTo(const Pointer& pointer) override;
     void Finish() override;
     void Cancel() override;
-    std::optional<host::Placement> Place() const override { return grabbed_->place; }
+    std::optional<host::Placement> Place() const override;
+    QRect Painted() const override;
+    void Paint(QPainter& painter, const QPalette& palette) const override;
 
  private:
     struct Target {
@@ -32,11 +37,15 @@ class PlacingGesture final : public Gesture {
         host::Placement place;
     };
 
+    void Move() const;
+    void DropElsewhere();
+
     Ground ground_;
     Edges edges_;
     QPoint pressedAt_;
     std::vector<Target> targets_;
     const Target* grabbed_ = nullptr;
+    std::optional<DropTarget> drop_;  // empty while sizing
 };
 
 }  // namespace lumenkit::lumenform

@@ -4,18 +4,21 @@
 #include <QDataStream>
 #include <QIODevice>
 #include <algorithm>
+#include <cmath>
+#include <cstddef>
 #include <string>
 #include <string_view>
 #include <vector>
 
+#include "apps/lumenform/design/model/area.h"
 #include "apps/lumenform/design/model/arrange.h"
+#include "apps/lumenform/design/model/containers.h"
 #include "apps/lumenform/design/model/libraries.h"
 #include "apps/lumenform/design/model/settling.h"
 #include "apps/lumenform/design/model/stacking.h"
 #include "apps/lumenform/form_view/block_reader.h"
 #include "apps/lumenform/form_view/likeness/saved_pages.h"
 #include "apps/lumenform/form_view/menu_bar.h"
-#include "apps/lumenform/form_view/plain_kinds.h"
 #include "apps/lumenform/form_view/saved_place.h"
 #include "forms/controls.h"
 #include "forms/copy_control.h"
@@ -29,7 +32,7 @@ const char* const controlsFormat = "application/x-lumenform-controls";
 namespace {
 
 constexpr std::string_view emptyForm = "VERSION 5.00\r\nBegin VB.Form Clipboard \r\nEnd\r\n";
-constexpr float aside = 120;  // twips
+constexpr double aside = 120;  // twips
 
 struct Clip {
     int codePage = forms::defaultCodePage;
@@ -96,22 +99,32 @@ Clip Unpacked(const QByteArray& packed) {
     return {codePage, {form.toStdString(), companion.toStdString()}, scale};
 }
 
-bool HoldsContainers(const forms::Document& copied) {
-    return std::ranges::any_of(copied.Root().Controls(), [](const forms::Block* block) {
-        return PlainKindOf(*block).isContainer;
+// Whether a copied control could be the original or a copy of this one.
+bool LooksLike(const forms::Document& copied, const LiveControl& control) {
+    const host::Placement place = control.Place();
+    return std::ranges::any_of(copied.Root().Controls(), [&](forms::Block* block) {
+        const host::Placement other = SavedPlace(BlockReader(copied, *block), Scale(), place);
+        return SameText(block->ClassName(), control.Block().ClassName(), Compare::IgnoreCase) &&
+               other.width == place.width && other.height == place.height;
     });
 }
 
-// Returns the container for pasted controls; null is the form. Containers are pasted beside the
-// selected container and not into it, because it may be the one that was pasted last.
+// Returns the container for pasted controls; null is the form.
 const LiveControl* PasteTarget(const FormDesign& design, const forms::Document& copied) {
     if (design.Selected().empty()) {
         return nullptr;
     }
     const LiveControl& last = *design.Selected().back();
     const bool goesInside =
-        design.Selected().size() == 1 && last.IsContainer() && !HoldsContainers(copied);
+        design.Selected().size() == 1 && last.IsContainer() && !LooksLike(copied, last);
     return goesInside ? &last : ContainerOf(design, last);
+}
+
+// Returns the area for pasted controls, in twips of the container.
+QRectF LandingArea(const FormDesign& design, const LiveControl* target, const QRectF& seen) {
+    const QRectF room = RoomOf(design, target);
+    const QRectF seenRoom = room & seen.translated(-OriginOf(design, target));
+    return seen.isNull() || seenRoom.isEmpty() ? room : seenRoom;
 }
 
 // Returns the place at which a control of the container is seen when its page is shown.
@@ -136,32 +149,64 @@ bool IsOccupied(const forms::Document& document, const forms::Block& container,
     });
 }
 
-// Moves all pasted controls by the same distance until none is at the place of another control.
-void StepAside(const forms::Document& document, const forms::Block& container,
-               const std::vector<forms::Block*>& pasted, const Scale& scale) {
-    while (std::ranges::any_of(pasted, [&](forms::Block* block) {
-        return IsOccupied(document, container, pasted, *block, scale);
-    })) {
-        for (forms::Block* block : pasted) {
-            const BlockReader reader(document, *block);
-            const host::Placement former = SavedPlace(reader, scale, {});
-            host::Placement now = former;
-            now.left += aside;
-            now.top += aside;
-            if (now == former) {
-                return;  // so far away that rounding loses the step
-            }
-            StorePlace(reader, scale, former, now);
-            if (SavedPlace(reader, scale, {}) == former) {
-                return;  // the same for the ends of a line in the units of the container
+// Controls that were pasted into a container and move together.
+class Pasted {
+ public:
+    Pasted(const forms::Document& document, const forms::Block& container, const Scale& scale)
+        : document_(document), container_(container), scale_(scale) {}
+
+    void Add(forms::Block& block) { blocks_.push_back(&block); }
+
+    // Moves the controls inside the area, and by steps until none is at the place of another
+    // control. From the edge of the area, the steps go on at its upper left corner. Controls that
+    // fill the area may leave it by the steps.
+    void Land(const QRectF& area) {
+        MoveBy(StepInside(Bounds(), area));
+        const QSizeF size = Bounds().size() + QSizeF(aside, aside);
+        const bool hasRoom = size.width() <= area.width() && size.height() <= area.height();
+        for (std::size_t left = container_.Controls().size(); left > 0 && IsAnyOccupied(); --left) {
+            MoveBy({aside, aside});
+            const QRectF bounds = Bounds();
+            if (hasRoom ? !area.contains(bounds) : !area.contains(bounds.topLeft())) {
+                const QPointF corner(std::ceil(area.left()), std::ceil(area.top()));
+                MoveBy(corner - bounds.topLeft());
             }
         }
     }
-}
 
-void PasteClip(FormDesign& design, const Clip& clip, const QString& title) {
+ private:
+    QRectF Bounds() const {
+        QRectF bounds;
+        for (forms::Block* const block : blocks_) {
+            bounds |= RectOf(SavedPlace(BlockReader(document_, *block), scale_, {}));
+        }
+        return bounds;
+    }
+
+    bool IsAnyOccupied() const {
+        return std::ranges::any_of(blocks_, [this](forms::Block* block) {
+            return IsOccupied(document_, container_, blocks_, *block, scale_);
+        });
+    }
+
+    void MoveBy(QPointF step) const {
+        for (forms::Block* const block : blocks_) {
+            const BlockReader reader(document_, *block);
+            const host::Placement former = SavedPlace(reader, scale_, {});
+            StorePlace(reader, scale_, former, Moved(former, step));
+        }
+    }
+
+    const forms::Document& document_;
+    const forms::Block& container_;
+    Scale scale_;
+    std::vector<forms::Block*> blocks_;
+};
+
+void PasteClip(FormDesign& design, const Clip& clip, const QString& title, const QRectF& seen) {
     const forms::Document copied = Parsed(clip);
     const LiveControl* const target = PasteTarget(design, copied);
+    const QRectF area = LandingArea(design, target, seen);
     const Scale scale = InsideOf(design, target).scale;
     design.Restructure(
         title,
@@ -171,17 +216,17 @@ void PasteClip(FormDesign& design, const Clip& clip, const QString& title) {
             RequireLibrariesOf(copied, document, design.Context().classes);
             SettleInto(document.Root(), copied.Root());
             const forms::Block* const foremost = Foremost(parent);
-            std::vector<forms::Block*> pasted;
+            Pasted pasted(document, parent, scale);
             std::vector<Text> names;
             for (const forms::Block* original : copied.Root().Controls()) {
                 forms::Block& copy =
                     forms::CopyControl(copied, *original, document, parent, original->Name());
                 Rescale(BlockReader(document, copy), clip.scale, scale);
                 parent.MoveControl(copy, foremost);
-                pasted.push_back(&copy);
+                pasted.Add(copy);
                 names.push_back(forms::NameInCode(copy));
             }
-            StepAside(document, parent, pasted, scale);
+            pasted.Land(area);
             return names;
         },
         NewWarnings::Accept);
@@ -204,14 +249,15 @@ bool HoldsControls(const QMimeData* data) {
     return data != nullptr && data->hasFormat(QLatin1String(controlsFormat));
 }
 
-void Paste(FormDesign& design, const QMimeData& data) {
+void Paste(FormDesign& design, const QMimeData& data, const QRectF& seen) {
     PasteClip(design, Unpacked(data.data(QLatin1String(controlsFormat))),
-              QCoreApplication::translate("clipboard", "Paste"));
+              QCoreApplication::translate("clipboard", "Paste"), seen);
 }
 
-void DuplicateSelected(FormDesign& design) {
+void DuplicateSelected(FormDesign& design, const QRectF& seen) {
     if (!design.Selected().empty()) {
-        PasteClip(design, ClipOf(design), QCoreApplication::translate("clipboard", "Duplicate"));
+        PasteClip(design, ClipOf(design), QCoreApplication::translate("clipboard", "Duplicate"),
+                  seen);
     }
 }
 

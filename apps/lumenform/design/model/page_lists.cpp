@@ -3,7 +3,9 @@
 #include <algorithm>
 #include <utility>
 
+#include "apps/lumenform/form_view/block_reader.h"
 #include "apps/lumenform/form_view/likeness/saved_pages.h"
+#include "apps/lumenform/form_view/saved_place.h"
 #include "forms/controls.h"
 
 namespace lumenkit::lumenform {
@@ -37,6 +39,15 @@ void Remove(Lists& lists, TextView name) {
     for (std::vector<Text>& names : lists) {
         if (const auto found = FindName(names, name); found != names.end()) {
             names.erase(found);
+        }
+    }
+}
+
+void StoreChanged(forms::Block& box, const Lists& before, const Lists& now) {
+    for (int page = 0; page < static_cast<int>(now.size()); ++page) {
+        const auto at = static_cast<std::size_t>(page);
+        if (now[at] != before[at]) {
+            StoreNames(box, page, now[at]);
         }
     }
 }
@@ -94,11 +105,25 @@ void PageLists::UpdateBox(forms::Block& box, const Box& former, std::vector<Move
             }
         }
     }
-    for (int page = 0; page < saved.Count(); ++page) {
-        const auto at = static_cast<std::size_t>(page);
-        if (lists[at] != before[at]) {
-            StoreNames(box, page, lists[at]);
-        }
+    StoreChanged(box, before, lists);
+}
+
+void PutOnPage(const forms::Document& document, forms::Block& box, forms::Block& control,
+               int page) {
+    const SavedPages saved(box);
+    const Text name = forms::NameInCode(control);
+    const int former = saved.PageOf(name).value_or(saved.Current());
+    if (page == former || page < 0 || page >= saved.Count()) {
+        return;
+    }
+    const Lists before = ListsOf(saved);
+    Lists lists = before;
+    Remove(lists, name);
+    lists[static_cast<std::size_t>(page)].push_back(name);
+    StoreChanged(box, before, lists);
+    if (page == saved.Current() || former == saved.Current()) {
+        MoveInFile(BlockReader(document, control), Scale(),
+                   page == saved.Current() ? pageOffset : -pageOffset);
     }
 }
 

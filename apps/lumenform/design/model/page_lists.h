@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "forms/block.h"
+#include "forms/document.h"
 #include "frame/text.h"
 
 namespace lumenkit::lumenform {
@@ -38,5 +39,9 @@ class PageLists {
     std::map<const forms::Block*, int> shown_;
     std::map<const forms::Block*, Box> boxes_;
 };
+
+/// Moves one of the controls of a tabbed box to a page of the box: its name in the lists of the
+/// pages, and its place in the file.
+void PutOnPage(const forms::Document& document, forms::Block& box, forms::Block& control, int page);
 
 }  // namespace lumenkit::lumenform

@@ -116,6 +116,42 @@ void DrawPictureBox(const Pen& pen) {
         {QPointF(3, 15.5), QPointF(8, 10.5), QPointF(11, 13), QPointF(14, 9), QPointF(17, 13)}));
 }
 
+void DrawForm(const Pen& pen) {
+    pen.painter.drawRect(QRectF(2, 3, 16, 14));
+    pen.painter.fillRect(QRectF(2, 3, 16, 3.5), pen.accent);
+}
+
+void DrawMenu(const Pen& pen) {
+    pen.painter.drawRect(QRectF(4, 2, 12, 16));
+    pen.painter.fillRect(QRectF(5, 7.5, 10, 4), pen.accent);
+    pen.Lines(6.5, 13, {5.2, 14.4});
+}
+
+void DrawTabs(const Pen& pen) {
+    pen.painter.drawRect(QRectF(2, 7, 16, 10));
+    pen.painter.drawRect(QRectF(2, 3, 6, 4));
+    pen.painter.drawRect(QRectF(8, 3, 6, 4));
+}
+
+void DrawPage(const Pen& pen) {
+    pen.painter.drawRect(QRectF(2, 7, 16, 10));
+    pen.painter.fillRect(QRectF(2, 3, 7, 4), pen.accent);
+}
+
+void DrawLine(const Pen& pen) {
+    pen.painter.drawLine(QPointF(3, 16), QPointF(17, 4));
+}
+
+void DrawShape(const Pen& pen) {
+    pen.painter.drawEllipse(QRectF(6, 6, 12, 10));
+    pen.painter.drawRect(QRectF(2, 3, 10, 9));
+}
+
+void DrawTimer(const Pen& pen) {
+    pen.painter.drawEllipse(QRectF(3, 3, 14, 14));
+    pen.painter.drawPolyline(QPolygonF({QPointF(10, 5.5), QPointF(10, 10), QPointF(13, 12)}));
+}
+
 void DrawBox(const Pen& pen) {
     pen.painter.setPen(QPen(pen.ink, 1.2, Qt::DashLine));
     pen.painter.drawRect(QRectF(2, 4, 16, 12));
@@ -139,6 +175,15 @@ constexpr std::array drawings = {
     Drawing{u"VB.ListBox", DrawListBox},
     Drawing{u"VB.ComboBox", DrawComboBox},
     Drawing{u"VB.PictureBox", DrawPictureBox},
+    Drawing{u"VB.Image", DrawPictureBox},
+    Drawing{u"VB.Form", DrawForm},
+    Drawing{u"VB.MDIForm", DrawForm},
+    Drawing{u"VB.Menu", DrawMenu},
+    Drawing{u"TabDlg.SSTab", DrawTabs},
+    Drawing{u"Page", DrawPage},
+    Drawing{u"VB.Line", DrawLine},
+    Drawing{u"VB.Shape", DrawShape},
+    Drawing{u"VB.Timer", DrawTimer},
 };
 
 }  // namespace

@@ -386,7 +386,7 @@ void DesignWindow::FollowBench(Workbench* bench) {
     followed_ = bench;
     commands_->Follow(bench);
     status_->Follow(bench);
-    view_->Follow(bench == nullptr ? nullptr : &bench->GetCanvas());
+    view_->Follow(bench);
 }
 
 void DesignWindow::ShowTitles() {

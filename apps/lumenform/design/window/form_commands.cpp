@@ -8,6 +8,7 @@
 #include "apps/lumenform/design/canvas/selection.h"
 #include "apps/lumenform/design/model/arrange.h"
 #include "apps/lumenform/design/model/clipboard.h"
+#include "apps/lumenform/design/model/containers.h"
 #include "apps/lumenform/design/model/stacking.h"
 
 namespace lumenkit::lumenform {
@@ -25,8 +26,21 @@ void Cut(Workbench& bench) {
 
 void PasteHere(Workbench& bench) {
     if (const QMimeData* data = QApplication::clipboard()->mimeData(); HoldsControls(data)) {
-        Paste(bench.GetDesign(), *data);
+        Glass& glass = bench.GetCanvas().GetGlass();
+        Paste(bench.GetDesign(), *data, glass.SeenPart());
+        glass.ShowSelected();
     }
+}
+
+void Duplicate(Workbench& bench) {
+    Glass& glass = bench.GetCanvas().GetGlass();
+    DuplicateSelected(bench.GetDesign(), glass.SeenPart());
+    glass.ShowSelected();
+}
+
+void Reveal(Workbench& bench) {
+    BringIntoView(bench.GetDesign());
+    bench.GetCanvas().GetGlass().ShowSelected();
 }
 
 }  // namespace
@@ -91,8 +105,7 @@ void FormCommands::AddClipboardCommands() {
     Add(*edit_, tr("Cu&t"), QKeySequence::Cut, Needs::Selection, Cut);
     Add(*edit_, tr("&Copy"), QKeySequence::Copy, Needs::Selection, Copy);
     Add(*edit_, tr("&Paste"), QKeySequence::Paste, Needs::Clipboard, PasteHere);
-    Add(*edit_, tr("D&uplicate"), Qt::CTRL | Qt::Key_D, Needs::Selection,
-        [](Workbench& bench) { DuplicateSelected(bench.GetDesign()); });
+    Add(*edit_, tr("D&uplicate"), Qt::CTRL | Qt::Key_D, Needs::Selection, Duplicate);
     Add(*edit_, tr("&Delete"), QKeySequence::Delete, Needs::Selection,
         [](Workbench& bench) { DeleteSelected(bench.GetDesign()); });
     Add(*edit_, tr("Select &all"), QKeySequence::SelectAll, Needs::Form,
@@ -122,6 +135,10 @@ void FormCommands::FillFormat() {
     }
     Add(*format_, tr("Size to &grid"), {}, Needs::Selection,
         [](Workbench& bench) { SizeToGrid(bench.GetDesign(), bench.GetCanvas().GetGrid().step); });
+    QAction* const reveal = Add(*format_, tr("Bring into &view"), {}, Needs::OutOfView, Reveal);
+    reveal->setToolTip(
+        tr("Move the selected controls inside the form and their containers, or "
+           "without a selection all controls that are out of view"));
     format_->addSeparator();
     AddOrderCommands();
 }
@@ -184,6 +201,8 @@ bool FormCommands::IsThere(Needs needs) const {
             return workbench_->Properties().Page() != nullptr;
         case Needs::Clipboard:
             return HoldsControls(QApplication::clipboard()->mimeData());
+        case Needs::OutOfView:
+            return selected >= 1 || !OutOfView(workbench_->GetDesign()).empty();
     }
     return false;
 }

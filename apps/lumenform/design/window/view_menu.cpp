@@ -7,6 +7,9 @@ namespace lumenkit::lumenform {
 
 namespace {
 
+QString OutlineKey() {
+    return QStringLiteral("outline/shown");
+}
 QString StepKey() {
     return QStringLiteral("grid/step");
 }
@@ -33,7 +36,15 @@ Grid Stored(const QSettings& settings) {
 }  // namespace
 
 ViewMenu::ViewMenu(QSettings& settings, QWidget* parent)
-    : QMenu(tr("&View"), parent), settings_(settings), grid_(Stored(settings)) {
+    : QMenu(tr("&View"), parent),
+      settings_(settings),
+      grid_(Stored(settings)),
+      outline_(addAction(tr("&Outline"))) {
+    outline_->setToolTip(tr("The tree of the form's objects"));
+    outline_->setCheckable(true);
+    outline_->setChecked(settings.value(OutlineKey(), true).toBool());
+    connect(outline_, &QAction::toggled, this, &ViewMenu::ShowOutline);
+    addSeparator();
     QAction* const shown = addAction(tr("Show the &grid"));
     shown->setCheckable(true);
     shown->setChecked(grid_.isShown);
@@ -70,10 +81,18 @@ void ViewMenu::AddSteps() {
     }
 }
 
-void ViewMenu::Follow(Canvas* canvas) {
-    canvas_ = canvas;
-    if (canvas != nullptr) {
-        canvas->SetGrid(grid_);
+void ViewMenu::Follow(Workbench* workbench) {
+    workbench_ = workbench;
+    if (workbench != nullptr) {
+        workbench->GetCanvas().SetGrid(grid_);
+        workbench->GetOutline().setVisible(outline_->isChecked());
+    }
+}
+
+void ViewMenu::ShowOutline(bool on) {
+    settings_.setValue(OutlineKey(), on);
+    if (workbench_ != nullptr) {
+        workbench_->GetOutline().setVisible(on);
     }
 }
 
@@ -82,8 +101,8 @@ void ViewMenu::Change(const Grid& grid) {
     settings_.setValue(StepKey(), grid.step);
     settings_.setValue(ShownKey(), grid.isShown);
     settings_.setValue(SnapsKey(), grid.snaps);
-    if (canvas_ != nullptr) {
-        canvas_->SetGrid(grid);
+    if (workbench_ != nullptr) {
+        workbench_->GetCanvas().SetGrid(grid);
     }
 }
 

@@ -3,12 +3,12 @@
 #include <QMenu>
 #include <QSettings>
 
-#include "apps/lumenform/design/canvas/canvas.h"
+#include "apps/lumenform/design/window/workbench.h"
 
 namespace lumenkit::lumenform {
 
-/// The menu for the grid. The settings keep the grid between sessions, and it is the same for all
-/// forms.
+/// The menu for the outline and the grid. The settings keep both between sessions, and they are the
+/// same for all forms.
 class ViewMenu final : public QMenu {
     Q_OBJECT
 
@@ -16,17 +16,19 @@ class ViewMenu final : public QMenu {
     /// The settings must outlive the menu.
     explicit ViewMenu(QSettings& settings, QWidget* parent = nullptr);
 
-    /// Applies the grid and its later changes to this canvas. Null means none.
-    void Follow(Canvas* canvas);
+    /// Applies the settings and their later changes to this workbench. Null means none.
+    void Follow(Workbench* workbench);
     const Grid& GetGrid() const { return grid_; }
 
  private:
     void AddSteps();
+    void ShowOutline(bool on);
     void Change(const Grid& grid);
 
     QSettings& settings_;
     Grid grid_;
-    Canvas* canvas_ = nullptr;
+    QAction* outline_;
+    Workbench* workbench_ = nullptr;
 };
 
 }  // namespace lumenkit::lumenform

@@ -8,6 +8,7 @@
 #include "apps/lumenform/design/model/arrange.h"
 #include "apps/lumenform/design/model/new_control.h"
 #include "apps/lumenform/design/model/refusal.h"
+#include "apps/lumenform/design/window/class_icon.h"
 #include "runtime/qt/pixels.h"
 #include "runtime/qt/qt_text.h"
 
@@ -61,6 +62,7 @@ Workbench::Workbench(const qt::Context& context, ControlMessages& messages,
       design_(context, std::move(document)),
       toolbox_(new Toolbox(context.classes)),
       canvas_(new Canvas(design_)),
+      outline_(new Outline(design_, ClassIcon)),
       properties_(new PropertyBrowser(design_, messages)) {
     setObjectName(QStringLiteral("workbench"));
     LayOut();
@@ -70,6 +72,7 @@ Workbench::Workbench(const qt::Context& context, ControlMessages& messages,
 // Destroys the users of the design before the design.
 Workbench::~Workbench() {
     delete canvas_;
+    delete outline_;
     delete properties_;
 }
 
@@ -79,7 +82,13 @@ void Workbench::LayOut() {
     const int letter = fontMetrics().averageCharWidth();
     addWidget(toolbox_);
     addWidget(canvas_);
-    addWidget(properties_);
+    auto* const column = new QSplitter(Qt::Vertical);
+    column->addWidget(outline_);
+    column->addWidget(properties_);
+    column->setChildrenCollapsible(false);
+    column->setStretchFactor(0, 2);
+    column->setStretchFactor(1, 3);
+    addWidget(column);
     setChildrenCollapsible(false);
     setStretchFactor(1, 1);
     constexpr int most = 1 << 14;
@@ -100,6 +109,11 @@ void Workbench::ConnectParts() {
     connect(canvas_, &Canvas::FormActivated, this, &Workbench::EditSelected);
     connect(canvas_, &Canvas::Refused, this, &Workbench::Refused);
     connect(properties_, &PropertyBrowser::Refused, this, &Workbench::Refused);
+    connect(outline_, &Outline::Chosen, &canvas_->GetGlass(), &Glass::ShowSelected);
+    connect(outline_, &Outline::PropertiesWanted, this,
+            [this] { properties_->Table().setFocus(); });
+    connect(outline_, &Outline::MenuRequested, canvas_, &Canvas::MenuRequested);
+    connect(outline_, &Outline::Refused, this, &Workbench::Refused);
 }
 
 void Workbench::EditSelected() {

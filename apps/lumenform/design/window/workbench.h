@@ -4,6 +4,7 @@
 
 #include "apps/lumenform/design/canvas/canvas.h"
 #include "apps/lumenform/design/model/form_design.h"
+#include "apps/lumenform/design/outline/outline.h"
 #include "apps/lumenform/design/properties/control_messages.h"
 #include "apps/lumenform/design/properties/property_browser.h"
 #include "apps/lumenform/design/window/toolbox.h"
@@ -11,8 +12,8 @@
 
 namespace lumenkit::lumenform {
 
-/// The workbench for a form: the toolbox, the form on its canvas, and the properties of the
-/// selection.
+/// The workbench for a form: the toolbox, the form on its canvas, the outline of its objects, and
+/// the properties of the selection.
 class Workbench final : public QSplitter {
     Q_OBJECT
 
@@ -28,6 +29,7 @@ class Workbench final : public QSplitter {
     FormDesign& GetDesign() { return design_; }
     Canvas& GetCanvas() const { return *canvas_; }
     Toolbox& GetToolbox() const { return *toolbox_; }
+    Outline& GetOutline() const { return *outline_; }
     PropertyBrowser& Properties() const { return *properties_; }
 
     /// Opens the property page of the selected controls, or moves to their properties if there is
@@ -53,6 +55,7 @@ class Workbench final : public QSplitter {
     FormDesign design_;
     Toolbox* toolbox_;
     Canvas* canvas_;
+    Outline* outline_;
     PropertyBrowser* properties_;
 };
 
