@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 
+#include "forms/font_description.h"
 #include "frame/numbers.h"
 #include "runtime/qt/font.h"
 
@@ -67,10 +68,42 @@ Value OwnFont(const Value& value) {
     return object == nullptr ? value : ObjectRef(qt::Font::From(host::ToFont(value))->Clone());
 }
 
+// What the properties of a control are reset to.
+struct Defaults {
+    LibraryDefaults& ofClass;
+    std::shared_ptr<qt::Font> containerFont;
+};
+
+bool IsSameFont(const Value& value, const host::Font& font) {
+    const host::FontRef held = host::ToFont(value);
+    return held != nullptr && forms::Describe(*held) == forms::Describe(font);
+}
+
+void AddFontDefault(ObjectProperty& property, const std::shared_ptr<qt::Font>& font) {
+    property.isChanged = [get = property.get, font] { return !IsSameFont(get(), *font); };
+    property.reset = [set = property.set, font] { set(ObjectRef(font)); };
+}
+
+void AddDefault(ObjectProperty& property, qt::HostedControl& control, const Defaults& defaults) {
+    if (!property.set) {
+        return;
+    }
+    if (property.kind == PropertyKind::Font) {
+        AddFontDefault(property, defaults.containerFont);
+    } else if (const auto value = defaults.ofClass.Find(control, property.name)) {
+        property.isChanged = [get = property.get, value = *value] {
+            return !SameValue(get(), value);
+        };
+        property.reset = [set = property.set, value = *value] { set(value); };
+    }
+}
+
 }  // namespace
 
 std::vector<ObjectProperty> LibraryProperties(qt::HostedControl& control,
-                                              const EnumerationLibrary* enumerations) {
+                                              const EnumerationLibrary* enumerations,
+                                              LibraryDefaults& defaults,
+                                              const std::shared_ptr<qt::Font>& containerFont) {
     const ClassDescriptor& type = control.Type();
     std::vector<ObjectProperty> properties;
     for (const Member& member : type.interfaceTable->members) {
@@ -92,6 +125,7 @@ std::vector<ObjectProperty> LibraryProperties(qt::HostedControl& control,
                 control.Automation().Let(identifier, OwnFont(value));
             };
         }
+        AddDefault(property, control, {defaults, containerFont});
         properties.push_back(std::move(property));
     }
     return properties;

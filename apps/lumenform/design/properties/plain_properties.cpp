@@ -7,6 +7,7 @@
 #include "apps/lumenform/design/model/arrange.h"
 #include "apps/lumenform/design/model/change_units.h"
 #include "apps/lumenform/design/properties/container_properties.h"
+#include "apps/lumenform/design/properties/property_groups.h"
 #include "apps/lumenform/design/properties/stored_property.h"
 #include "apps/lumenform/design/properties/usual_properties.h"
 #include "apps/lumenform/form_view/plain_kinds.h"
@@ -77,7 +78,8 @@ ObjectProperty MakeUsualProperty(FormDesign& design, forms::Block& block,
                          .help = usual.help,
                          .type = usual.type,
                          .otherwise = inherited.For(usual),
-                         .choices = ChoicesOf(usual)});
+                         .choices = ChoicesOf(usual),
+                         .isRequired = usual.type == StoredType::Number});
 }
 
 ObjectProperty Unchangeable(Text name, Text shown) {
@@ -116,7 +118,11 @@ ObjectProperty UnknownProperty(FormDesign& design, forms::Block& block,
         std::holds_alternative<forms::UnreadValue>(literal)) {
         return Unchangeable(property.Name(), forms::SourceOf(literal));
     }
-    return MakeProperty(design, block, {.name = property.Name(), .type = TypeOf(property)});
+    return MakeProperty(
+        design, block,
+        {.name = property.Name(),
+         .type = TypeOf(property),
+         .isRequired = GroupOf(property.Name(), PropertyKind::Text) == PropertyGroup::Position});
 }
 
 ObjectProperty StatedProperty(FormDesign& design, forms::Block& block, TextView name,
@@ -181,6 +187,9 @@ void LetLinesFollow(std::vector<ObjectProperty>& properties, FormDesign& design,
         if (property.name == u"ScaleMode" && property.set) {
             property.set = [&design, &container, room, set = property.set](const Value& value) {
                 ChangeUnits(design.Document(), container, room, [&] { set(value); });
+            };
+            property.reset = [&design, &container, room, reset = property.reset] {
+                ChangeUnits(design.Document(), container, room, reset);
             };
         }
     }

@@ -2,6 +2,7 @@
 
 #include <QEvent>
 #include <QScopedValueRollback>
+#include <QShortcut>
 #include <QVBoxLayout>
 #include <algorithm>
 
@@ -19,6 +20,10 @@
 namespace lumenkit::lumenform {
 
 namespace {
+
+QString GroupsKey() {
+    return QStringLiteral("propertyGroups");
+}
 
 const host::Font* FontOf(const PropertyRow& row) {
     const auto* object = row.value ? std::get_if<ObjectRef>(&*row.value) : nullptr;
@@ -43,6 +48,7 @@ PropertyBrowser::PropertyBrowser(FormDesign& design, ControlMessages& messages, 
       list_(design, messages),
       model_(list_),
       heading_(new QLabel(this)),
+      filter_(new FilterBar(this)),
       table_(new PropertyTable(this)),
       delegate_(new PropertyDelegate(model_, this)),
       notice_(new Notice(this)),
@@ -50,11 +56,13 @@ PropertyBrowser::PropertyBrowser(FormDesign& design, ControlMessages& messages, 
     table_->setModel(&model_);
     table_->setItemDelegate(delegate_);
     LayOut();
+    ConnectFilter();
     connect(delegate_, &PropertyDelegate::Changed, this, &PropertyBrowser::Assign);
     connect(delegate_, &PropertyDelegate::MoreWanted, this, &PropertyBrowser::OpenMore);
     connect(delegate_, &PropertyDelegate::StepWanted, this,
             [this](int rows) { table_->GoTo(table_->currentIndex().row() + rows); });
     connect(table_, &PropertyTable::MoreWanted, this, &PropertyBrowser::OpenMore);
+    connect(table_, &PropertyTable::ResetWanted, this, &PropertyBrowser::Reset);
     connect(table_->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
             [this] { ShowCurrent(); });
     connect(&design_, &FormDesign::ViewReplaced, this, &PropertyBrowser::Refresh);
@@ -77,9 +85,28 @@ void PropertyBrowser::LayOut() {
     setFocusProxy(table_);
     auto* const layout = new QVBoxLayout(this);
     layout->addWidget(heading_);
+    layout->addWidget(filter_);
     layout->addWidget(table_, 1);
     layout->addWidget(notice_);
     layout->addWidget(help_);
+}
+
+void PropertyBrowser::ConnectFilter() {
+    connect(filter_, &FilterBar::Filtered, this, &PropertyBrowser::FilterBy);
+    connect(filter_, &FilterBar::Grouped, this, &PropertyBrowser::Group);
+    connect(filter_, &FilterBar::Left, table_, qOverload<>(&QWidget::setFocus));
+    connect(table_, &PropertyTable::Escaped, &filter_->Field(), &QLineEdit::clear);
+    auto* const find = new QShortcut(QKeySequence::Find, this);
+    find->setContext(Qt::WidgetWithChildrenShortcut);
+    connect(find, &QShortcut::activated, this, [this] {
+        filter_->Field().setFocus(Qt::ShortcutFocusReason);
+        filter_->Field().selectAll();
+    });
+}
+
+void PropertyBrowser::RememberIn(QSettings& settings) {
+    settings_ = &settings;
+    filter_->Groups().setChecked(settings.value(GroupsKey()).toBool());
 }
 
 void PropertyBrowser::FitHelp() {
@@ -128,8 +155,9 @@ void PropertyBrowser::GoBack() {
 
 void PropertyBrowser::ShowCurrent() {
     const int row = table_->currentIndex().row();
-    if (row < 0 || row >= model_.rowCount()) {
-        help_->clear();
+    if (row < 0 || row >= model_.rowCount() || model_.IsHeading(row)) {
+        const QString text = filter_->Field().text();
+        help_->setText(text.isEmpty() ? QString() : tr("No property contains \"%1\".").arg(text));
         return;
     }
     const PropertyRow& current = model_.Row(row);
@@ -153,6 +181,29 @@ QString PropertyBrowser::DescribeSelection() const {
     return DescribeBlock(selected.front()->Name(), selected.front()->Block().ClassName());
 }
 
+// ---- The order of the list
+
+template <typename Change>
+void PropertyBrowser::Rearrange(const Change& change) {
+    const QScopedValueRollback refreshing(isRefreshing_, true);
+    change();
+    GoBack();
+    ShowCurrent();
+}
+
+void PropertyBrowser::FilterBy(const QString& text) {
+    Rearrange([&] { model_.SetFilter(text); });
+}
+
+void PropertyBrowser::Group(bool isGrouped) {
+    Rearrange([&] {
+        model_.SetOrder(isGrouped ? PropertyModel::Order::Groups : PropertyModel::Order::Names);
+    });
+    if (settings_ != nullptr) {
+        settings_->setValue(GroupsKey(), isGrouped);
+    }
+}
+
 // ---- Changing values
 
 QString PropertyBrowser::TryToAssign(int row, const Value& value) {
@@ -161,7 +212,7 @@ QString PropertyBrowser::TryToAssign(int row, const Value& value) {
     return RefusalOf([&] {
         const auto* text = std::get_if<Text>(&value);
         const bool isFontText = changed.kind == PropertyKind::Font && text != nullptr;
-        list_.Assign(static_cast<std::size_t>(row),
+        list_.Assign(model_.IndexOf(row),
                      isFontText ? ObjectRef(FontFromText(*text, FontOf(changed))) : value);
     });
 }
@@ -170,6 +221,25 @@ void PropertyBrowser::Assign(int row, const Value& value) {
     wanted_ = model_.Row(row).name;
     const QString refusal = TryToAssign(row, value);
     Refresh();
+    SayWhy(refusal);
+}
+
+void PropertyBrowser::Reset(int row) {
+    if (row < 0 || !model_.index(row, 0).data(PropertyModel::resettableRole).toBool()) {
+        return;
+    }
+    wanted_ = model_.Row(row).name;
+    const QString title = tr("Reset %1").arg(qt::ToQString(wanted_));
+    QString refusal;
+    {
+        const QScopedValueRollback assigning(isAssigning_, true);
+        refusal = RefusalOf([&] { list_.Reset(model_.IndexOf(row), title); });
+    }
+    Refresh();
+    SayWhy(refusal);
+}
+
+void PropertyBrowser::SayWhy(const QString& refusal) {
     const QString before = qt::ToQString(wanted_) + QStringLiteral(": ");
     notice_->Say(refusal.isEmpty() || refusal.startsWith(before) ? refusal : before + refusal);
     if (!refusal.isEmpty()) {
@@ -185,6 +255,9 @@ void PropertyBrowser::AssignTo(const Text& name, const Value& value) {
 }
 
 bool PropertyBrowser::Edit(TextView property) {
+    if (model_.Find(property) < 0) {
+        filter_->Field().clear();
+    }
     const int row = model_.Find(property);
     if (row < 0) {
         return false;
@@ -208,7 +281,7 @@ bool PropertyBrowser::FinishEditing() {
 // ---- Editors in separate windows
 
 void PropertyBrowser::OpenMore(int row) {
-    if (row < 0 || row >= model_.rowCount()) {
+    if (row < 0 || row >= model_.rowCount() || model_.IsHeading(row)) {
         return;
     }
     const PropertyRow& wanted = model_.Row(row);

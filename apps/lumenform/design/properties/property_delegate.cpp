@@ -50,6 +50,12 @@ PropertyDelegate& PropertyDelegate::Self() const {
 void PropertyDelegate::initStyleOption(QStyleOptionViewItem* option,
                                        const QModelIndex& index) const {
     QStyledItemDelegate::initStyleOption(option, index);
+    if (model_.IsHeading(index.row())) {
+        option->state |= QStyle::State_Enabled;
+        option->palette.setCurrentColorGroup(QPalette::Active);
+        option->backgroundBrush = option->palette.brush(QPalette::Button);
+        return;
+    }
     const PropertyRow& row = model_.Row(index.row());
     if (!row.canSet) {
         option->palette.setColor(QPalette::Text,

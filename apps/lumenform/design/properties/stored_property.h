@@ -27,6 +27,7 @@ struct StoredProperty {
     StoredType type = StoredType::Text;
     Value otherwise = {};              ///< the value that a block without the property means
     std::vector<Choice> choices = {};  ///< of an enumeration
+    bool isRequired = false;           ///< has no default that could take its place
 };
 
 /// Makes the property of the block. Assigned values are converted to its type.

@@ -149,6 +149,7 @@ void DesignWindow::AddToolBar() {
 
 void DesignWindow::Show(forms::Document document, const FormFile& file) {
     auto bench = std::make_unique<Workbench>(context_, messages_, std::move(document));
+    bench->Properties().RememberIn(setup_.settings);
     Run(false);
     Follow(nullptr);
     bench_ = std::move(bench);
