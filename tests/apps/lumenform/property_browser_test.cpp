@@ -100,13 +100,13 @@ TEST_F(PropertyBrowser, ShowsEveryKindOfValue) {
     form.Select({u"Label1"});
     EXPECT_EQ(form.Shown(u"(Name)"), "Label1");
     EXPECT_EQ(form.Shown(u"Caption"), "Hello");
-    EXPECT_EQ(form.Shown(u"BackColor"), "&H80000005&");
+    EXPECT_EQ(form.Shown(u"BackColor"), "Window background");
     EXPECT_EQ(form.Shown(u"Font"), "MS Sans Serif, 8.25 pt");
     EXPECT_EQ(form.Shown(u"Enabled"), "True");
     EXPECT_EQ(form.Shown(u"Left"), "120");
     EXPECT_EQ(form.Shown(u"Index"), "");
     form.Select({u"Memo1"});
-    EXPECT_EQ(form.Shown(u"ScrollBars"), "0 - scrollBarsNone");
+    EXPECT_EQ(form.Shown(u"ScrollBars"), "0 - None");
     EXPECT_EQ(form.Shown(u"FontSize"), "8.25");
 }
 
@@ -206,7 +206,7 @@ TEST_F(PropertyBrowser, TruthsAndEnumerationsAreChosen) {
     form.Choose(u"Locked", "True");
     EXPECT_TRUE(ToBoolean(form.Automation(u"Memo1").Get(u"Locked")));
     form.Choose(u"ScrollBars", "2");
-    EXPECT_EQ(form.Shown(u"ScrollBars"), "2 - scrollBarsVertical");
+    EXPECT_EQ(form.Shown(u"ScrollBars"), "2 - Vertical");
     EXPECT_EQ(Stored(u"Memo1", u"ScrollBars"), "2");
     form.Choose(u"MousePointer", "11");
     EXPECT_EQ(Stored(u"Memo1", u"MousePointer"), "11");
@@ -214,7 +214,7 @@ TEST_F(PropertyBrowser, TruthsAndEnumerationsAreChosen) {
     Undo();
     Undo();
     Undo();
-    EXPECT_EQ(form.Shown(u"ScrollBars"), "0 - scrollBarsNone");
+    EXPECT_EQ(form.Shown(u"ScrollBars"), "0 - None");
     EXPECT_EQ(form.Shown(u"Locked"), "False");
 }
 
@@ -229,6 +229,71 @@ TEST_F(PropertyBrowser, ColoursAreTypedAsTheyAreWritten) {
     form.Type(u"ForeColor", "red");
     EXPECT_EQ(form.Message(), "ForeColor: Type mismatch");
     EXPECT_EQ(form.Shown(u"ForeColor"), "&H000000FF&");
+}
+
+TEST_F(PropertyBrowser, SystemColoursAreTypedByName) {
+    form.Select({u"Label1"});
+    form.Type(u"ForeColor", "window text");
+    EXPECT_EQ(Stored(u"Label1", u"ForeColor"), "&H80000008&");
+    EXPECT_EQ(form.Shown(u"ForeColor"), "Window text");
+    form.Type(u"ForeColor", "ButtonFace");
+    EXPECT_EQ(Stored(u"Label1", u"ForeColor"), "&H8000000F&");
+    form.Type(u"ForeColor", "&H8000000D&");
+    EXPECT_EQ(form.Shown(u"ForeColor"), "Highlight");
+    form.Type(u"ForeColor", "Window txt");
+    EXPECT_EQ(form.Message(), "ForeColor: Type mismatch");
+    form.Select({u"Text1"});
+    form.Type(u"BackColor", "Tool tip");
+    EXPECT_EQ(Stored(u"Text1", u"BackColor"), "&H80000018&");
+    form.Type(u"BackColor", "&H8000001A&");
+    EXPECT_EQ(form.Shown(u"BackColor"), "&H8000001A&") << "it has no name";
+}
+
+TEST_F(PropertyBrowser, ANamedColourHasASwatch) {
+    form.Select({u"Label1"});
+    lumenform::PropertyTable& table = form.browser->Table();
+    const QRect cell = table.visualRect(
+        form.browser->Model().index(form.Row(u"ForeColor"), lumenform::PropertyModel::ValueColumn));
+    const auto swatch = [&] {
+        const QImage shown = table.viewport()->grab(cell).toImage();
+        return shown.pixelColor(shown.height() / 2, shown.height() / 2);
+    };
+    form.Type(u"ForeColor", "Highlight");
+    table.GoTo(0);
+    EXPECT_EQ(swatch(), table.palette().color(QPalette::Active, QPalette::Highlight));
+    form.Type(u"ForeColor", "&H00FF00FF&");
+    table.GoTo(0);
+    EXPECT_EQ(swatch(), QColor(255, 0, 255));
+}
+
+TEST_F(PropertyBrowser, TheNumbersOfTheLibraryHaveNames) {
+    form.Select({u"Label1"});
+    EXPECT_EQ(form.Shown(u"BorderStyle"), "0 - None");
+    EXPECT_EQ(form.Shown(u"BackStyle"), "0 - Own colour");
+    form.Choose(u"BackStyle", "1");
+    EXPECT_EQ(Stored(u"Label1", u"BackStyle"), "1");
+    form.Choose(u"MousePointer", "99");
+    EXPECT_EQ(form.Shown(u"MousePointer"), "99 - Custom");
+    EXPECT_EQ(Stored(u"Label1", u"MousePointer"), "99");
+    form.Select({u"List1"});
+    EXPECT_EQ(form.Shown(u"BorderStyle"), "1 - Single");
+    form.Choose(u"ItemAlignment", "1");
+    EXPECT_EQ(Stored(u"List1", u"ItemAlignment"), "1");
+    form.Select({u"List1", u"Text1"});
+    form.Choose(u"BorderStyle", "0");
+    EXPECT_EQ(Stored(u"List1", u"BorderStyle"), "0");
+    EXPECT_EQ(Stored(u"Text1", u"BorderStyle"), "0") << "the same choices as in other classes";
+}
+
+TEST_F(PropertyBrowser, ANumberWithoutANameIsShownAsItIs) {
+    BrowsedForm odd(
+        FormWith("   Begin lumenkit.VLabel L\n      BackStyle = 7\n      Height = 300\n   End\n"));
+    odd.Select({u"L"});
+    EXPECT_EQ(odd.Shown(u"BackStyle"), "7");
+    const std::string before = odd.Saved();
+    odd.browser->Edit(u"BackStyle");
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+    EXPECT_EQ(odd.Saved(), before);
 }
 
 TEST_F(PropertyBrowser, ColoursAreChosenByName) {
@@ -497,8 +562,8 @@ TEST_F(PropertyBrowser, ControlsWithAnIndexShareAName) {
 
 TEST_F(PropertyBrowser, APlainControlShowsTheUsualPropertiesOfItsClass) {
     form.Select({u"Text1"});
-    EXPECT_EQ(form.Shown(u"BackColor"), "&H80000005&");
-    EXPECT_EQ(form.Shown(u"ForeColor"), "&H80000008&");
+    EXPECT_EQ(form.Shown(u"BackColor"), "Window background");
+    EXPECT_EQ(form.Shown(u"ForeColor"), "Window text");
     EXPECT_EQ(form.Shown(u"MultiLine"), "False");
     EXPECT_EQ(form.Shown(u"ScrollBars"), "0 - None");
     EXPECT_EQ(form.Shown(u"Font"), "MS Sans Serif, 8.25 pt");
@@ -547,7 +612,7 @@ TEST_F(PropertyBrowser, WhatIsNotKnownIsShownAsItIsWritten) {
 
 TEST_F(PropertyBrowser, TheFormHasProperties) {
     EXPECT_EQ(form.Shown(u"(Name)"), "Form1");
-    EXPECT_EQ(form.Shown(u"BackColor"), "&H8000000F&");
+    EXPECT_EQ(form.Shown(u"BackColor"), "Button face");
     form.Type(u"Caption", "Orders");
     EXPECT_EQ(form.design.View().Caption(), u"Orders");
     EXPECT_THAT(form.Saved(), HasSubstr("Begin VB.Form Form1\n"));

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 
+#include "apps/lumenform/design/properties/property_choices.h"
 #include "forms/font_description.h"
 #include "frame/numbers.h"
 #include "runtime/qt/font.h"
@@ -25,7 +26,10 @@ PropertyKind KindOfText(TextView name) {
                                                                  : PropertyKind::LongText;
 }
 
-PropertyKind KindOf(const Member& member) {
+PropertyKind KindOf(const Member& member, TextView className) {
+    if (!LibraryLabels(className, member.name).empty()) {
+        return PropertyKind::Choice;
+    }
     switch (member.type) {
         case ValueType::String:
             return KindOfText(member.name);
@@ -48,15 +52,20 @@ PropertyKind KindOf(const Member& member) {
     return PropertyKind::Text;
 }
 
-std::vector<Choice> ChoicesOf(ValueType type, const EnumerationLibrary* enumerations) {
-    if (type == ValueType::Boolean) {
+std::vector<Choice> MemberChoices(const Member& member, TextView className,
+                                  const EnumerationLibrary* enumerations) {
+    if (member.type == ValueType::Boolean) {
         return TruthChoices();
     }
-    const EnumerationTable* table = enumerations == nullptr ? nullptr : enumerations->Find(type);
+    if (const ChoiceLabels labels = LibraryLabels(className, member.name); !labels.empty()) {
+        return ChoicesOf(labels);
+    }
+    const EnumerationTable* table =
+        enumerations == nullptr ? nullptr : enumerations->Find(member.type);
     std::vector<Choice> choices;
     if (table != nullptr) {
-        for (const EnumerationMember& member : table->members) {
-            choices.push_back({Decimal(member.value) + u" - " + Text(member.name), member.value});
+        for (const EnumerationMember& named : table->members) {
+            choices.push_back({Decimal(named.value) + u" - " + Text(named.name), named.value});
         }
     }
     return choices;
@@ -114,8 +123,8 @@ std::vector<ObjectProperty> LibraryProperties(qt::HostedControl& control,
         ObjectProperty property{
             .name = Text(member.name),
             .help = Text(member.help),
-            .kind = KindOf(member),
-            .choices = ChoicesOf(member.type, enumerations),
+            .kind = KindOf(member, type.name),
+            .choices = MemberChoices(member, type.name, enumerations),
             .place = PropertyPlace::Live,
             .isOnPage =
                 std::ranges::find(type.pageProperties, member.name) != type.pageProperties.end(),

@@ -63,14 +63,6 @@ struct Inherited {
     }
 };
 
-std::vector<Choice> ChoicesOf(const UsualProperty& usual) {
-    std::vector<Choice> choices;
-    for (const TextView label : usual.choices) {
-        choices.push_back({Text(label), static_cast<std::int32_t>(choices.size())});
-    }
-    return choices;
-}
-
 ObjectProperty MakeUsualProperty(FormDesign& design, forms::Block& block,
                                  const UsualProperty& usual, const Inherited& inherited) {
     return MakeProperty(design, block,
@@ -78,7 +70,7 @@ ObjectProperty MakeUsualProperty(FormDesign& design, forms::Block& block,
                          .help = usual.help,
                          .type = usual.type,
                          .otherwise = inherited.For(usual),
-                         .choices = ChoicesOf(usual),
+                         .choices = ChoicesOf(usual.labels),
                          .isRequired = usual.type == StoredType::Number});
 }
 

@@ -117,7 +117,7 @@ Text TextOf(const PropertyRow& row, const Value& value) {
         case PropertyKind::Choice:
             return LabelOf(row.choices, value);
         case PropertyKind::Color:
-            return ColorText(ToColor(value));
+            return ColorName(ToColor(value));
         case PropertyKind::Font:
             return FontText(host::ToFont(value).get());
         case PropertyKind::Text:

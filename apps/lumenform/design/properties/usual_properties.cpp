@@ -10,9 +10,6 @@ namespace lumenkit::lumenform {
 namespace {
 
 constexpr std::array<TextView, 3> textAlignments = {u"0 - Left", u"1 - Right", u"2 - Centre"};
-constexpr std::array<TextView, 2> buttonAlignments = {u"0 - Left", u"1 - Right"};
-constexpr std::array<TextView, 2> backStyles = {u"0 - Transparent", u"1 - Opaque"};
-constexpr std::array<TextView, 2> borderStyles = {u"0 - None", u"1 - Single"};
 constexpr std::array<TextView, 6> formBorderStyles = {
     u"0 - None",         u"1 - Fixed single",      u"2 - Sizable",
     u"3 - Fixed dialog", u"4 - Fixed tool window", u"5 - Sizable tool window"};
@@ -23,8 +20,6 @@ constexpr std::array<TextView, 2> buttonStyles = {u"0 - Standard", u"1 - Graphic
 constexpr std::array<TextView, 2> listStyles = {u"0 - Standard", u"1 - Check boxes"};
 constexpr std::array<TextView, 3> selections = {u"0 - One item", u"1 - Several items",
                                                 u"2 - Ranges of items"};
-constexpr std::array<TextView, 4> scrollBars = {u"0 - None", u"1 - Horizontal", u"2 - Vertical",
-                                                u"3 - Both"};
 constexpr std::array<TextView, 8> scaleModes = {
     u"0 - User",       u"1 - Twips",  u"2 - Points",      u"3 - Pixels",
     u"4 - Characters", u"5 - Inches", u"6 - Millimetres", u"7 - Centimetres"};
@@ -45,8 +40,8 @@ constexpr std::array<TextView, 8> fillStyles = {
     u"6 - Cross",          u"7 - Diagonal cross"};
 
 constexpr UsualProperty ChoiceOf(TextView name, TextView help, std::int32_t otherwise,
-                                 std::span<const TextView> choices) {
-    return {name, help, StoredType::Enumeration, otherwise, choices};
+                                 ChoiceLabels labels) {
+    return {name, help, StoredType::Enumeration, otherwise, labels};
 }
 constexpr UsualProperty Truth(TextView name, TextView help, bool otherwise) {
     return {name, help, StoredType::Truth, otherwise, {}};
@@ -63,8 +58,9 @@ constexpr UsualProperty String(TextView name, TextView help, StoredType type = S
 
 constexpr UsualProperty textAlignment =
     ChoiceOf(u"Alignment", u"The alignment of the text.", 0, textAlignments);
-constexpr UsualProperty buttonAlignment = ChoiceOf(
-    u"Alignment", u"The side of the text on which the mark is drawn.", 0, buttonAlignments);
+constexpr UsualProperty buttonAlignment =
+    ChoiceOf(u"Alignment", u"The side of the text on which the mark is drawn.", 0,
+             choices::buttonAlignments);
 constexpr UsualProperty buttonStyle =
     ChoiceOf(u"Style", u"Determines whether the button has its own pictures and background.", 0,
              buttonStyles);
@@ -78,9 +74,10 @@ constexpr UsualProperty toolTip =
     String(u"ToolTipText", u"The text that appears when the mouse rests on the object.");
 constexpr UsualProperty locked =
     Truth(u"Locked", u"Determines whether a control can be edited.", false);
-constexpr UsualProperty border = ChoiceOf(u"BorderStyle", stock::borderStyleHelp, 1, borderStyles);
+constexpr UsualProperty border =
+    ChoiceOf(u"BorderStyle", stock::borderStyleHelp, 1, choices::borderStyles);
 constexpr UsualProperty noBorder =
-    ChoiceOf(u"BorderStyle", stock::borderStyleHelp, 0, borderStyles);
+    ChoiceOf(u"BorderStyle", stock::borderStyleHelp, 0, choices::borderStyles);
 constexpr UsualProperty borderColor =
     ColorOf(u"BorderColor", u"The colour of the border.", Color::WindowText);
 constexpr UsualProperty borderWidth =
@@ -126,7 +123,7 @@ constexpr std::array label = {
     Truth(u"AutoSize", u"Determines whether the label is resized to fit its text.", false),
     backColor,
     ChoiceOf(u"BackStyle", u"Determines whether the background is transparent or opaque.", 1,
-             backStyles),
+             choices::backStyles),
     noBorder,
     caption,
     enabled,
@@ -176,7 +173,7 @@ constexpr std::array scrollBar = {
 constexpr std::array shape = {
     backColor,
     ChoiceOf(u"BackStyle", u"Determines whether the background is transparent or opaque.", 0,
-             backStyles),
+             choices::backStyles),
     borderColor,
     strokeStyle,
     borderWidth,
@@ -195,7 +192,7 @@ constexpr std::array textBox = {
            u"Returns/sets the maximum number of characters that can be entered in a control.", 0),
     Truth(u"MultiLine", u"Determines whether the text box can contain several lines.", false),
     String(u"PasswordChar", u"The character that is shown in place of each typed character."),
-    ChoiceOf(u"ScrollBars", u"The scroll bars of the text box.", 0, scrollBars),
+    ChoiceOf(u"ScrollBars", u"The scroll bars of the text box.", 0, choices::scrollBars),
     String(u"Text", u"Returns/sets the text contained in the control.", StoredType::LongText),
     toolTip};
 constexpr std::array timer = {

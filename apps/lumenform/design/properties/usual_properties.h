@@ -5,6 +5,7 @@
 #include <span>
 #include <variant>
 
+#include "apps/lumenform/design/properties/property_choices.h"
 #include "apps/lumenform/design/properties/stored_property.h"
 #include "frame/text.h"
 
@@ -17,7 +18,7 @@ struct UsualProperty {
     StoredType type = StoredType::Text;
     /// The default value; monostate if the property has none or it is unknown.
     std::variant<std::monostate, bool, std::int32_t, TextView> otherwise = {};
-    std::span<const TextView> choices = {};  ///< indexed by their values, from 0
+    ChoiceLabels labels = {};  ///< of an enumeration
 };
 
 /// The usual properties of a class such as "VB.TextBox", without the properties that containers
