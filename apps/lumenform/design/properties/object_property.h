@@ -13,10 +13,12 @@ enum class PropertyKind {
     Text,
     LongText,  ///< a text that may have line breaks
     Items,     ///< a text with items separated by bars
+    Lines,     ///< a text with an item in each line
     Number,
     Choice,  ///< one of the property's choices
     Color,
     Font,
+    Picture,  ///< a picture as a text: see TextOfBytes
 };
 
 struct Choice {

@@ -7,6 +7,8 @@
 #include "apps/lumenform/design/model/arrange.h"
 #include "apps/lumenform/design/model/change_units.h"
 #include "apps/lumenform/design/properties/container_properties.h"
+#include "apps/lumenform/design/properties/lists/list_properties.h"
+#include "apps/lumenform/design/properties/pictures/picture_property.h"
 #include "apps/lumenform/design/properties/property_groups.h"
 #include "apps/lumenform/design/properties/stored_property.h"
 #include "apps/lumenform/design/properties/usual_properties.h"
@@ -65,6 +67,9 @@ struct Inherited {
 
 ObjectProperty MakeUsualProperty(FormDesign& design, forms::Block& block,
                                  const UsualProperty& usual, const Inherited& inherited) {
+    if (usual.type == StoredType::Picture) {
+        return PictureProperty(design, block, usual.name, usual.help);
+    }
     return MakeProperty(design, block,
                         {.name = Text(usual.name),
                          .help = usual.help,
@@ -102,6 +107,9 @@ ObjectProperty UnknownProperty(FormDesign& design, forms::Block& block,
                                const forms::Property& property) {
     const forms::Literal& literal = property.Literal();
     const auto* reference = std::get_if<forms::Reference>(&literal);
+    if (HoldsPicture(design.Document(), property)) {
+        return PictureProperty(design, block, property.Name());
+    }
     if (reference != nullptr && !reference->marked) {
         return Unchangeable(property.Name(), u"(companion)");
     }
@@ -135,6 +143,10 @@ std::vector<ObjectProperty> PropertiesIn(FormDesign& design, forms::Block& block
     for (const UsualProperty& usual : UsualPropertiesOf(block.ClassName())) {
         properties.push_back(MakeUsualProperty(design, block, usual, inherited));
         names.insert(LCase(usual.name));
+    }
+    for (ObjectProperty& property : ListProperties(design, block)) {
+        names.insert(LCase(property.name));
+        properties.push_back(std::move(property));
     }
     for (const Text& name : NamesIn(block)) {
         if (names.insert(LCase(name)).second) {

@@ -13,6 +13,7 @@
 #include "apps/lumenform/design/properties/color_dialog.h"
 #include "apps/lumenform/design/properties/font_text.h"
 #include "apps/lumenform/design/properties/page_dialog.h"
+#include "apps/lumenform/design/properties/pictures/picture_dialog.h"
 #include "apps/lumenform/design/properties/property_delegate.h"
 #include "apps/lumenform/design/properties/text_dialog.h"
 #include "runtime/qt/qt_text.h"
@@ -298,16 +299,31 @@ void PropertyBrowser::OpenMore(int row) {
         OpenColors(wanted);
     } else if (wanted.kind == PropertyKind::Font) {
         OpenFonts(wanted);
+    } else if (wanted.kind == PropertyKind::Picture) {
+        OpenPicture(wanted);
     } else {
         OpenText(wanted);
     }
 }
 
 void PropertyBrowser::OpenText(const PropertyRow& row) {
-    const auto lines =
-        row.kind == PropertyKind::Items ? TextDialog::Lines::Items : TextDialog::Lines::Breaks;
+    const auto lines = row.kind == PropertyKind::Items   ? TextDialog::Lines::Items
+                       : row.kind == PropertyKind::Lines ? TextDialog::Lines::List
+                                                         : TextDialog::Lines::Breaks;
     const Text former = EditedValue(row);
     auto* const dialog = new TextDialog(qt::ToQString(row.name), former, lines, this);
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    connect(dialog, &QDialog::accepted, this, [this, dialog, former, name = row.name] {
+        if (dialog->Result() != former) {
+            AssignTo(name, dialog->Result());
+        }
+    });
+    dialog->open();
+}
+
+void PropertyBrowser::OpenPicture(const PropertyRow& row) {
+    const Text former = row.value ? ToText(*row.value) : Text();
+    auto* const dialog = new PictureDialog(row.name, former, this);
     dialog->setAttribute(Qt::WA_DeleteOnClose);
     connect(dialog, &QDialog::accepted, this, [this, dialog, former, name = row.name] {
         if (dialog->Result() != former) {

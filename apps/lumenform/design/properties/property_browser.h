@@ -79,6 +79,7 @@ class PropertyBrowser final : public QWidget {
     void OpenText(const PropertyRow& row);
     void OpenColors(const PropertyRow& row);
     void OpenFonts(const PropertyRow& row);
+    void OpenPicture(const PropertyRow& row);
     void FitHelp();
 
     FormDesign& design_;

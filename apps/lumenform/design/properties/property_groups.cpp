@@ -81,7 +81,10 @@ PropertyGroup GroupOfKind(PropertyKind kind) {
         case PropertyKind::Font:
             return PropertyGroup::Font;
         case PropertyKind::Items:
+        case PropertyKind::Lines:
             return PropertyGroup::Data;
+        case PropertyKind::Picture:
+            return PropertyGroup::Pictures;
         case PropertyKind::Text:
         case PropertyKind::LongText:
         case PropertyKind::Number:

@@ -10,6 +10,7 @@
 #include "apps/lumenform/design/properties/container_properties.h"
 #include "apps/lumenform/design/properties/font_text.h"
 #include "apps/lumenform/design/properties/library_properties.h"
+#include "apps/lumenform/design/properties/pictures/picture_format.h"
 #include "apps/lumenform/design/properties/plain_properties.h"
 #include "forms/controls.h"
 #include "frame/runtime_error.h"
@@ -120,9 +121,12 @@ Text TextOf(const PropertyRow& row, const Value& value) {
             return ColorName(ToColor(value));
         case PropertyKind::Font:
             return FontText(host::ToFont(value).get());
+        case PropertyKind::Picture:
+            return DescribePicture(ToText(value));
         case PropertyKind::Text:
         case PropertyKind::LongText:
         case PropertyKind::Items:
+        case PropertyKind::Lines:
         case PropertyKind::Number:
             break;
     }

@@ -101,6 +101,10 @@ const TypeTraits& TraitsOf(StoredType type) {
 
 }  // namespace
 
+void StoreLiteral(forms::Block& block, TextView name, forms::Literal literal) {
+    block.Set(name, std::move(literal), Predecessor(block, name));
+}
+
 ObjectProperty MakeProperty(FormDesign& design, forms::Block& block, StoredProperty property) {
     const TypeTraits& type = TraitsOf(property.type);
     ObjectProperty made{.name = property.name, .help = Text(property.help), .kind = type.kind};

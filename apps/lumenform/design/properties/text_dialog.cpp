@@ -25,6 +25,18 @@ Text DividerOf(TextView text, TextDialog::Lines lines) {
     return hasBareBreaks ? Text(u"\n") : Text(crLf);
 }
 
+QString HintFor(TextDialog::Lines lines) {
+    switch (lines) {
+        case TextDialog::Lines::Items:
+            return TextDialog::tr("One item a line: value;caption. Ctrl+Enter: OK");
+        case TextDialog::Lines::List:
+            return TextDialog::tr("One item a line. Ctrl+Enter: OK");
+        case TextDialog::Lines::Breaks:
+            break;
+    }
+    return TextDialog::tr("Ctrl+Enter: OK");
+}
+
 }  // namespace
 
 TextDialog::TextDialog(const QString& title, Text text, Lines lines, QWidget* parent)
@@ -33,10 +45,10 @@ TextDialog::TextDialog(const QString& title, Text text, Lines lines, QWidget* pa
       divider_(DividerOf(text_, lines)),
       edit_(new QPlainTextEdit(this)) {
     setWindowTitle(title);
-    const bool isItems = divider_ == u"|";
+    const bool hasItems = lines != Lines::Breaks;
     edit_->setTabChangesFocus(true);
     edit_->setAccessibleName(title);
-    edit_->setLineWrapMode(isItems ? QPlainTextEdit::NoWrap : QPlainTextEdit::WidgetWidth);
+    edit_->setLineWrapMode(hasItems ? QPlainTextEdit::NoWrap : QPlainTextEdit::WidgetWidth);
     edit_->setPlainText(
         qt::ToQString(text_).replace(qt::ToQString(divider_), QStringLiteral("\n")));
     edit_->moveCursor(QTextCursor::End);
@@ -48,9 +60,7 @@ TextDialog::TextDialog(const QString& title, Text text, Lines lines, QWidget* pa
             this, &QDialog::accept);
     auto* const layout = new QVBoxLayout(this);
     layout->addWidget(edit_);
-    layout->addWidget(new QLabel(
-        isItems ? tr("One item a line: value;caption. Ctrl+Enter: OK") : tr("Ctrl+Enter: OK"),
-        this));
+    layout->addWidget(new QLabel(HintFor(lines), this));
     layout->addWidget(buttons);
     const QFontMetrics metrics = edit_->fontMetrics();
     constexpr int columns = 60;

@@ -7,13 +7,13 @@
 
 namespace lumenkit::lumenform {
 
-/// A dialog to edit a text with line breaks, or a text with items separated by bars, one item per
-/// line.
+/// A dialog to edit a text with line breaks, a text with items separated by bars, one item per
+/// line, or a list with an item in each line.
 class TextDialog final : public QDialog {
     Q_OBJECT
 
  public:
-    enum class Lines { Breaks, Items };
+    enum class Lines { Breaks, Items, List };
 
     TextDialog(const QString& title, Text text, Lines lines, QWidget* parent);
 

@@ -56,6 +56,10 @@ constexpr UsualProperty String(TextView name, TextView help, StoredType type = S
     return {name, help, type, TextView(), {}};
 }
 
+constexpr UsualProperty PictureOf(TextView name, TextView help) {
+    return {name, help, StoredType::Picture, {}, {}};
+}
+
 constexpr UsualProperty textAlignment =
     ChoiceOf(u"Alignment", u"The alignment of the text.", 0, textAlignments);
 constexpr UsualProperty buttonAlignment =
@@ -93,10 +97,31 @@ constexpr UsualProperty clientHeight = {
 constexpr UsualProperty clientWidth = {
     u"ClientWidth", u"The width of the form's client area in twips.", StoredType::Number};
 
+constexpr UsualProperty picture = PictureOf(u"Picture", u"The picture of the object.");
+constexpr UsualProperty downPicture =
+    PictureOf(u"DownPicture", u"The picture of a pressed button, if Style is 1.");
+constexpr UsualProperty disabledPicture =
+    PictureOf(u"DisabledPicture", u"The picture of a disabled button, if Style is 1.");
+constexpr UsualProperty mouseIcon =
+    PictureOf(u"MouseIcon", u"The mouse pointer, if MousePointer is 99.");
+constexpr UsualProperty dragIcon =
+    PictureOf(u"DragIcon", u"The mouse pointer while the object is dragged.");
+
 constexpr std::array checkBox = {
-    buttonAlignment, backColor, caption,
-    enabled,         font,      foreColor,
-    buttonStyle,     toolTip,   ChoiceOf(u"Value", u"The state of the check box.", 0, checkValues)};
+    buttonAlignment,
+    backColor,
+    caption,
+    downPicture,
+    disabledPicture,
+    enabled,
+    font,
+    foreColor,
+    buttonStyle,
+    picture,
+    mouseIcon,
+    dragIcon,
+    toolTip,
+    ChoiceOf(u"Value", u"The state of the check box.", 0, checkValues)};
 constexpr std::array comboBox = {
     backColor,
     enabled,
@@ -108,13 +133,21 @@ constexpr std::array comboBox = {
     String(u"Text", u"The text in the box."),
     toolTip};
 constexpr std::array commandButton = {
-    backColor,   Truth(u"Cancel", u"Determines whether Esc presses the button.", false),
-    caption,     Truth(u"Default", u"Determines whether Enter presses the button.", false),
-    enabled,     font,
-    buttonStyle, toolTip};
-constexpr std::array frame = {backColor, caption, enabled, font, foreColor, toolTip};
+    backColor,       Truth(u"Cancel", u"Determines whether Esc presses the button.", false),
+    caption,         Truth(u"Default", u"Determines whether Enter presses the button.", false),
+    enabled,         font,
+    buttonStyle,     downPicture,
+    disabledPicture, picture,
+    mouseIcon,       dragIcon,
+    toolTip};
+constexpr std::array frame = {backColor, caption,   enabled,  font,
+                              foreColor, mouseIcon, dragIcon, toolTip};
 constexpr std::array image = {
-    noBorder, enabled,
+    noBorder,
+    enabled,
+    picture,
+    mouseIcon,
+    dragIcon,
     Truth(u"Stretch", u"Determines whether the picture is stretched to the size of the control.",
           false),
     toolTip};
@@ -153,16 +186,15 @@ constexpr std::array listBox = {
     ChoiceOf(u"Style", u"Determines whether each item has a check box.", 0, listStyles),
     toolTip};
 constexpr std::array optionButton = {
-    buttonAlignment,
-    backColor,
-    caption,
-    enabled,
-    font,
-    foreColor,
-    buttonStyle,
-    toolTip,
-    Truth(u"Value", u"Determines whether the option button is selected.", false)};
-constexpr std::array pictureBox = {backColor, border, enabled, font, foreColor, scaleMode, toolTip};
+    buttonAlignment, backColor,
+    caption,         downPicture,
+    disabledPicture, picture,
+    mouseIcon,       dragIcon,
+    enabled,         font,
+    foreColor,       buttonStyle,
+    toolTip,         Truth(u"Value", u"Determines whether the option button is selected.", false)};
+constexpr std::array pictureBox = {backColor, border,  enabled,   font,     foreColor,
+                                   scaleMode, picture, mouseIcon, dragIcon, toolTip};
 constexpr std::array scrollBar = {
     enabled,
     Number(u"LargeChange", u"The change of the value when the user clicks the bar.", 1),
@@ -208,6 +240,9 @@ constexpr std::array form = {
     enabled,
     font,
     foreColor,
+    PictureOf(u"Icon", u"The icon in the title bar of the form."),
+    mouseIcon,
+    picture,
     Truth(u"KeyPreview", u"Determines whether the form receives key events before its controls.",
           false),
     Truth(u"MaxButton", u"Determines whether the form can be maximized.", true),
@@ -218,11 +253,14 @@ constexpr std::array form = {
              startPositions),
     Truth(u"Visible", u"Determines whether the form is visible.", true),
     ChoiceOf(u"WindowState", u"The state of the window when it is first shown.", 0, windowStates)};
-constexpr std::array mdiForm = {backColor, String(u"Caption", u"The text in the title bar."),
-                                clientHeight, clientWidth, enabled};
+constexpr std::array mdiForm = {
+    backColor,    String(u"Caption", u"The text in the title bar."),
+    clientHeight, clientWidth,
+    enabled,      PictureOf(u"Icon", u"The icon in the title bar of the form."),
+    mouseIcon,    picture};
 // User controls, property pages and documents.
-constexpr std::array designed = {backColor, clientHeight, clientWidth, enabled,
-                                 font,      foreColor,    scaleMode};
+constexpr std::array designed = {backColor, clientHeight, clientWidth, enabled, font,
+                                 foreColor, scaleMode,    mouseIcon,   picture};
 
 struct UsualClass {
     TextView name;
