@@ -69,12 +69,13 @@ class PropertyBrowser : public ::testing::Test {
 
 TEST_F(PropertyBrowser, ListsWhatTheInterfaceTableShows) {
     form.Select({u"List1"});
-    EXPECT_THAT(
-        NamesIn(form),
-        ElementsAre("(Name)", "BorderStyle", "Caption", "Contents", "Enabled", "Font", "Height",
-                    "Index", "ItemAlignment", "ItemFontBold", "ItemFontItalic", "ItemFontName",
-                    "ItemFontSize", "ItemForeColor", "Left", "LeftMargin", "ListIndex", "Spacing",
-                    "TabIndex", "TabStop", "Tag", "Top", "TopMargin", "Value", "Visible", "Width"))
+    EXPECT_THAT(NamesIn(form),
+                ElementsAre("(Name)", "BorderStyle", "Caption", "CausesValidation", "Contents",
+                            "DragMode", "Enabled", "Font", "Height", "HelpContextID", "Index",
+                            "ItemAlignment", "ItemFontBold", "ItemFontItalic", "ItemFontName",
+                            "ItemFontSize", "ItemForeColor", "Left", "LeftMargin", "ListIndex",
+                            "Spacing", "TabIndex", "TabStop", "Tag", "ToolTipText", "Top",
+                            "TopMargin", "Value", "Visible", "WhatsThisHelpID", "Width"))
         << "without the hidden Text and the write-only, indexed ItemCaption";
     EXPECT_FALSE(form.CanEdit(u"Value"));
     EXPECT_TRUE(form.CanEdit(u"ListIndex"));
@@ -412,8 +413,10 @@ TEST_F(PropertyBrowser, WhatIsBeingTypedIsNotForTheNextSelection) {
 TEST_F(PropertyBrowser, SeveralControlsShowWhatTheyHaveInCommon) {
     form.Select({u"Label1", u"Memo1", u"List1"});
     EXPECT_EQ(form.browser->Heading(), "3 controls");
-    EXPECT_THAT(NamesIn(form), ElementsAre("Enabled", "Font", "Height", "Left", "TabStop", "Tag",
-                                           "Top", "Visible", "Width"));
+    EXPECT_THAT(NamesIn(form),
+                ElementsAre("CausesValidation", "DragMode", "Enabled", "Font", "Height",
+                            "HelpContextID", "Left", "TabStop", "Tag", "ToolTipText", "Top",
+                            "Visible", "WhatsThisHelpID", "Width"));
     EXPECT_EQ(form.Shown(u"Left"), "");
     EXPECT_EQ(form.Shown(u"Width"), "2000");
     form.Type(u"Left", "300");
@@ -485,6 +488,66 @@ TEST_F(PropertyBrowser, TagVisibleAndTabStopStandInTheBlock) {
     Undo();
     Undo();
     EXPECT_EQ(form.Saved(), FormWith(controls).Write().form);
+}
+
+TEST_F(PropertyBrowser, EveryVisibleControlHasHelpNumbersAndATag) {
+    for (const TextView name : {u"Label1", u"Memo1", u"List1", u"Text1"}) {
+        form.Select({Text(name)});
+        form.Type(u"HelpContextID", "12");
+        form.Type(u"WhatsThisHelpID", "13");
+        EXPECT_EQ(Stored(name, u"HelpContextID"), "12");
+        EXPECT_EQ(Stored(name, u"WhatsThisHelpID"), "13");
+        EXPECT_TRUE(form.Has(u"Tag"));
+        form.Type(u"HelpContextID", "0");
+        EXPECT_EQ(Stored(name, u"HelpContextID"), "") << "the default is not stored";
+    }
+    form.Select({});
+    form.Type(u"Tag", "the form");
+    EXPECT_EQ(Stored({}, u"Tag"), "\"the form\"");
+    form.Type(u"HelpContextID", "7");
+    EXPECT_EQ(Stored({}, u"HelpContextID"), "7");
+}
+
+TEST_F(PropertyBrowser, ALabelHasNoHelpForF1) {
+    BrowsedForm label(
+        FormWith("   Begin VB.Label L\n      Height = 300\n   End\n"
+                 "   Begin VB.Timer T\n   End\n"
+                 "   Begin VB.Line X\n      X2 = 300\n   End\n"));
+    label.Select({u"L"});
+    EXPECT_FALSE(label.Has(u"HelpContextID"));
+    EXPECT_TRUE(label.Has(u"WhatsThisHelpID"));
+    for (const TextView name : {u"T", u"X"}) {
+        label.Select({Text(name)});
+        EXPECT_FALSE(label.Has(u"WhatsThisHelpID"));
+        EXPECT_TRUE(label.Has(u"Tag"));
+    }
+}
+
+TEST_F(PropertyBrowser, WhatTheFileSaysOfAControlOfTheLibraryIsShown) {
+    BrowsedForm memo(
+        FormWith("   Begin lumenkit.VMemo M\n      Height = 300\n      ToolTipText = \"tip\"\n"
+                 "      DragMode = 1\n      Odd = 3\n      Text = \"t\"\n   End\n"));
+    memo.Select({u"M"});
+    EXPECT_EQ(memo.Shown(u"ToolTipText"), "tip");
+    EXPECT_EQ(memo.Shown(u"DragMode"), "1 - By mouse");
+    EXPECT_EQ(memo.Shown(u"Odd"), "3");
+    memo.Type(u"Odd", "4");
+    memo.Type(u"ToolTipText", "other");
+    EXPECT_THAT(memo.Saved(), HasSubstr("      ToolTipText = \"other\"\n"));
+    EXPECT_THAT(memo.Saved(), HasSubstr("      Odd = 4\n"));
+    EXPECT_THAT(memo.Saved(), HasSubstr("      Text = \"t\"\n"));
+}
+
+TEST_F(PropertyBrowser, TheClassesHaveTheirOtherProperties) {
+    form.Select({u"Text1"});
+    EXPECT_EQ(form.Shown(u"Appearance"), "1 - 3D");
+    EXPECT_EQ(form.Shown(u"HideSelection"), "True");
+    form.Choose(u"MousePointer", "11");
+    EXPECT_EQ(Stored(u"Text1", u"MousePointer"), "11");
+    EXPECT_EQ(form.Shown(u"MousePointer"), "11 - Hourglass");
+    form.Select({});
+    EXPECT_EQ(form.Shown(u"ShowInTaskbar"), "True");
+    EXPECT_EQ(form.Shown(u"AutoRedraw"), "False");
 }
 
 TEST_F(PropertyBrowser, TheOthersMakeRoomInTheTabOrder) {

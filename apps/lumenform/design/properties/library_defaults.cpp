@@ -49,4 +49,12 @@ std::optional<Value> LibraryDefaults::Find(qt::HostedControl& control, TextView 
     return found == defaults.end() ? std::nullopt : std::optional(found->second);
 }
 
+std::set<Text> LibraryDefaults::NamesOf(qt::HostedControl& control) {
+    std::set<Text> names;
+    for (const auto& [name, value] : Of(control)) {
+        names.insert(name);
+    }
+    return names;
+}
+
 }  // namespace lumenkit::lumenform

@@ -3,6 +3,7 @@
 
 #include <map>
 #include <optional>
+#include <set>
 
 #include "apps/lumenform/design/properties/control_messages.h"
 #include "frame/automation/value.h"
@@ -20,6 +21,10 @@ class LibraryDefaults {
     /// Returns the default of a property of the control's class. Nullopt for a property that is not
     /// saved, and for all of them if the control cannot be saved now.
     std::optional<Value> Find(qt::HostedControl& control, TextView property);
+
+    /// Returns the names of the properties that controls of the class save, in lower case. Empty if
+    /// the control cannot be saved now.
+    std::set<Text> NamesOf(qt::HostedControl& control);
 
  private:
     using ByName = std::map<Text, Value>;  // in lower case

@@ -1,6 +1,7 @@
 #include "apps/lumenform/design/properties/plain_properties.h"
 
 #include <algorithm>
+#include <iterator>
 #include <set>
 #include <utility>
 
@@ -141,8 +142,9 @@ std::vector<ObjectProperty> PropertiesIn(FormDesign& design, forms::Block& block
     std::vector<ObjectProperty> properties;
     std::set<Text> names;  // in lower case
     for (const UsualProperty& usual : UsualPropertiesOf(block.ClassName())) {
-        properties.push_back(MakeUsualProperty(design, block, usual, inherited));
-        names.insert(LCase(usual.name));
+        if (names.insert(LCase(usual.name)).second) {
+            properties.push_back(MakeUsualProperty(design, block, usual, inherited));
+        }
     }
     for (ObjectProperty& property : ListProperties(design, block)) {
         names.insert(LCase(property.name));
@@ -199,6 +201,37 @@ void LetLinesFollow(std::vector<ObjectProperty>& properties, FormDesign& design,
     }
 }
 
+Inherited InheritedBy(const FormDesign& design, const LiveControl& control) {
+    return {PlainKindOf(control.Block()).usual,
+            InsideOf(design, ContainerOf(design, control)).font};
+}
+
+bool IsOfClass(const LiveControl& control, TextView className) {
+    return SameText(control.Block().ClassName(), className, Compare::IgnoreCase);
+}
+
+// Returns the names of the properties that a container adds to a control. The built-in classes have
+// most of them anyway.
+std::vector<Text> AddedNames(const LiveControl& control) {
+    const bool isHosted = control.Hosted() != nullptr;
+    const PlainKind& kind = PlainKindOf(control.Block());
+    const bool isDrawn = IsOfClass(control, u"VB.Line") || IsOfClass(control, u"VB.Shape");
+    std::vector<Text> names;
+    if (isHosted || (kind.isSeen && !isDrawn)) {
+        names.emplace_back(u"WhatsThisHelpID");
+    }
+    if (isHosted ||
+        (kind.isSeen && kind.tab != TabRole::None && !IsOfClass(control, u"VB.Label"))) {
+        names.emplace_back(u"HelpContextID");
+    }
+    const bool isBuiltIn =
+        SameText(control.Block().ClassName().substr(0, 3), u"VB.", Compare::IgnoreCase);
+    if (isHosted || (kind.isSeen && !isBuiltIn)) {
+        names.insert(names.end(), {u"CausesValidation", u"DragMode", u"ToolTipText"});
+    }
+    return names;
+}
+
 // Only picture boxes have units of their own.
 bool HasUnits(const LiveControl& control) {
     return control.IsContainer() && &control.Inside().widget != &control.Widget();
@@ -207,13 +240,27 @@ bool HasUnits(const LiveControl& control) {
 }  // namespace
 
 std::vector<ObjectProperty> PlainProperties(FormDesign& design, LiveControl& control) {
-    std::vector<ObjectProperty> properties = PropertiesIn(
-        design, control.Block(),
-        {PlainKindOf(control.Block()).usual, InsideOf(design, ContainerOf(design, control)).font});
+    std::vector<ObjectProperty> properties =
+        PropertiesIn(design, control.Block(), InheritedBy(design, control));
     std::erase_if(properties,
                   [](const ObjectProperty& property) { return IsContainers(property.name); });
     if (HasUnits(control)) {
         LetLinesFollow(properties, design, control.Block(), control.Inside().room);
+    }
+    return properties;
+}
+
+std::vector<ObjectProperty> OtherProperties(FormDesign& design, LiveControl& control,
+                                            std::set<Text> known) {
+    forms::Block& block = control.Block();
+    const Inherited inherited = InheritedBy(design, control);
+    std::vector<Text> names = NamesIn(block);
+    std::ranges::copy(AddedNames(control), std::back_inserter(names));
+    std::vector<ObjectProperty> properties;
+    for (const Text& name : names) {
+        if (!IsContainers(name) && known.insert(LCase(name)).second) {
+            properties.push_back(StatedProperty(design, block, name, inherited));
+        }
     }
     return properties;
 }

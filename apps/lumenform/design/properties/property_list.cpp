@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <iterator>
 #include <map>
+#include <set>
 #include <utility>
 
 #include "apps/lumenform/design/model/arrange.h"
@@ -145,6 +146,15 @@ std::vector<ObjectProperty> PropertyList::PropertiesOf(LiveControl& control) con
             : LibraryProperties(*control.Hosted(), design_.Context().classes.enumerations,
                                 defaults_, InsideOf(design_, ContainerOf(design_, control)).font);
     std::ranges::move(ContainerProperties(design_, control), std::back_inserter(properties));
+    std::set<Text> known;
+    for (const ObjectProperty& property : properties) {
+        known.insert(LCase(property.name));
+    }
+    if (control.Hosted() != nullptr) {
+        known.merge(defaults_.NamesOf(*control.Hosted()));
+    }
+    std::ranges::move(OtherProperties(design_, control, std::move(known)),
+                      std::back_inserter(properties));
     return properties;
 }
 

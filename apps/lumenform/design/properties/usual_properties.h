@@ -2,8 +2,8 @@
 #pragma once
 
 #include <cstdint>
-#include <span>
 #include <variant>
+#include <vector>
 
 #include "apps/lumenform/design/properties/property_choices.h"
 #include "apps/lumenform/design/properties/stored_property.h"
@@ -23,7 +23,7 @@ struct UsualProperty {
 
 /// The usual properties of a class such as "VB.TextBox", without the properties that containers
 /// add to all controls. Empty for an unknown class.
-std::span<const UsualProperty> UsualPropertiesOf(TextView className);
+std::vector<UsualProperty> UsualPropertiesOf(TextView className);
 
 /// Returns the property that has the same meaning in every class, or null if there is none of this
 /// name.
