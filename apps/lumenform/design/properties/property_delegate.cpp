@@ -8,6 +8,7 @@
 
 #include "apps/lumenform/design/properties/cell_editors.h"
 #include "apps/lumenform/design/properties/color_text.h"
+#include "apps/lumenform/design/properties/focus_look.h"
 #include "apps/lumenform/design/properties/pictures/picture_format.h"
 #include "apps/lumenform/design/properties/swatch.h"
 #include "runtime/qt/palette_color.h"
@@ -73,6 +74,9 @@ void PropertyDelegate::initStyleOption(QStyleOptionViewItem* option,
         option->palette.setCurrentColorGroup(QPalette::Active);
         option->backgroundBrush = option->palette.brush(QPalette::Button);
         return;
+    }
+    if (!option->widget->hasFocus()) {
+        MuteSelection(option->palette);
     }
     const PropertyRow& row = model_.Row(index.row());
     if (!row.canSet) {

@@ -5,6 +5,7 @@
 #include <QMenu>
 #include <algorithm>
 
+#include "apps/lumenform/design/properties/focus_look.h"
 #include "apps/lumenform/design/properties/property_model.h"
 
 namespace lumenkit::lumenform {
@@ -80,6 +81,13 @@ void PropertyTable::changeEvent(QEvent* event) {
     QTableView::changeEvent(event);
     if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange) {
         FitRows();
+    }
+}
+
+void PropertyTable::paintEvent(QPaintEvent* event) {
+    QTableView::paintEvent(event);
+    if (hasFocus()) {
+        DrawFocusFrame(*viewport());
     }
 }
 
