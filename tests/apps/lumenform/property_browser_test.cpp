@@ -385,18 +385,6 @@ TEST_F(PropertyBrowser, TextsWithLineBreaksAreEditedInAWindow) {
     EXPECT_EQ(Steps(), 1);
 }
 
-TEST_F(PropertyBrowser, OptionListsAreEditedOneItemALine) {
-    form.Select({u"List1"});
-    auto* const dialog = form.More<lumenform::TextDialog>(u"Contents");
-    ASSERT_NE(dialog, nullptr);
-    auto* const edit = dialog->findChild<QPlainTextEdit*>();
-    EXPECT_EQ(edit->toPlainText(), "0;Item 0");
-    QTest::keyClick(edit, Qt::Key_Return);
-    QTest::keyClicks(edit, "1;more");
-    dialog->accept();
-    EXPECT_EQ(Stored(u"List1", u"Contents"), "\"0;Item 0|1;more\"");
-}
-
 TEST_F(PropertyBrowser, WhatIsBeingTypedIsNotForTheNextSelection) {
     form.Select({u"Label1"});
     form.browser->Edit(u"Caption");

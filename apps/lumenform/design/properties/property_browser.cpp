@@ -11,6 +11,7 @@
 #include "apps/lumenform/design/properties/cell_editors.h"
 #include "apps/lumenform/design/properties/choose_font.h"
 #include "apps/lumenform/design/properties/color_dialog.h"
+#include "apps/lumenform/design/properties/contents/contents_dialog.h"
 #include "apps/lumenform/design/properties/font_text.h"
 #include "apps/lumenform/design/properties/page_dialog.h"
 #include "apps/lumenform/design/properties/pictures/picture_dialog.h"
@@ -299,6 +300,8 @@ void PropertyBrowser::OpenMore(int row) {
         OpenColors(wanted);
     } else if (wanted.kind == PropertyKind::Font) {
         OpenFonts(wanted);
+    } else if (wanted.kind == PropertyKind::Items) {
+        OpenContents(wanted);
     } else if (wanted.kind == PropertyKind::Picture) {
         OpenPicture(wanted);
     } else {
@@ -306,12 +309,35 @@ void PropertyBrowser::OpenMore(int row) {
     }
 }
 
+void PropertyBrowser::OpenContents(const PropertyRow& row) {
+    const Text former = EditedValue(row);
+    auto* const dialog = new ContentsDialog(qt::ToQString(row.name), former, this);
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    connect(dialog, &QDialog::accepted, this, [this, dialog, former, name = row.name] {
+        if (dialog->Result() != former) {
+            AssignTo(name, dialog->Result());
+        }
+    });
+    connect(dialog, &ContentsDialog::TextWanted, this,
+            [this, name = row.name](const QString& contents) {
+                if (const int line = model_.Find(name); line >= 0) {
+                    OpenText(model_.Row(line), qt::ToText(contents));
+                }
+            });
+    dialog->open();
+}
+
 void PropertyBrowser::OpenText(const PropertyRow& row) {
+    OpenText(row, EditedValue(row));
+}
+
+// `text` is the text that the dialog begins with.
+void PropertyBrowser::OpenText(const PropertyRow& row, const Text& text) {
     const auto lines = row.kind == PropertyKind::Items   ? TextDialog::Lines::Items
                        : row.kind == PropertyKind::Lines ? TextDialog::Lines::List
                                                          : TextDialog::Lines::Breaks;
     const Text former = EditedValue(row);
-    auto* const dialog = new TextDialog(qt::ToQString(row.name), former, lines, this);
+    auto* const dialog = new TextDialog(qt::ToQString(row.name), text, lines, this);
     dialog->setAttribute(Qt::WA_DeleteOnClose);
     connect(dialog, &QDialog::accepted, this, [this, dialog, former, name = row.name] {
         if (dialog->Result() != former) {

@@ -77,6 +77,8 @@ class PropertyBrowser final : public QWidget {
     void AssignTo(const Text& name, const Value& value);
     void OpenMore(int row);
     void OpenText(const PropertyRow& row);
+    void OpenText(const PropertyRow& row, const Text& text);
+    void OpenContents(const PropertyRow& row);
     void OpenColors(const PropertyRow& row);
     void OpenFonts(const PropertyRow& row);
     void OpenPicture(const PropertyRow& row);
