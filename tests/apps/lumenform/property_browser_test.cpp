@@ -2,8 +2,10 @@
 #include "apps/lumenform/design/properties/property_browser.h"
 
 #include <QApplication>
+#include <QDialogButtonBox>
 #include <QFontDialog>
 #include <QLineEdit>
+#include <QPushButton>
 #include <QTest>
 
 #include <gmock/gmock.h>
@@ -383,6 +385,60 @@ TEST_F(PropertyBrowser, TextsWithLineBreaksAreEditedInAWindow) {
     EXPECT_TRUE(line->isReadOnly());
     QTest::keyClick(line, Qt::Key_Return);
     EXPECT_EQ(Steps(), 1);
+}
+
+TEST_F(PropertyBrowser, ATextThatTheCodePageCannotHoldIsRefusedByName) {
+    form.Select({u"Label1"});
+    const std::string before = form.Saved();
+    form.browser->Edit(u"Caption");
+    auto* const line = qobject_cast<QLineEdit*>(QApplication::focusWidget());
+    ASSERT_NE(line, nullptr);
+    line->insert(QString::fromUtf8("語"));
+    QTest::keyClick(line, Qt::Key_Return);
+    EXPECT_THAT(form.Message(), HasSubstr("Label1.Caption: \"語\" (U+8A9E) cannot be written in "));
+    EXPECT_THAT(form.Message(), HasSubstr("1252"));
+    EXPECT_EQ(form.Saved(), before);
+    form.Select({});
+    form.browser->Edit(u"Caption");
+    qobject_cast<QLineEdit*>(QApplication::focusWidget())->insert(QString::fromUtf8("ж"));
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+    EXPECT_THAT(form.Message(), HasSubstr("Form1.Caption: \"ж\""));
+    EXPECT_EQ(Steps(), 0);
+}
+
+TEST_F(PropertyBrowser, TheTextWindowSaysAtOnceWhatTheCodePageCannotHold) {
+    form.Select({u"Memo1"});
+    auto* const dialog = form.More<lumenform::TextDialog>(u"Text");
+    ASSERT_NE(dialog, nullptr);
+    auto* const edit = dialog->findChild<QPlainTextEdit*>();
+    edit->insertPlainText(QString::fromUtf8("a語"));
+    EXPECT_THAT(dialog->Message().toStdString(), HasSubstr("\"語\" (U+8A9E)"));
+    EXPECT_FALSE(dialog->findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Ok)->isEnabled());
+    QTest::keyClick(edit, Qt::Key_Return, Qt::ControlModifier);
+    EXPECT_EQ(Steps(), 0);
+    QTest::keyClick(edit, Qt::Key_Backspace);
+    EXPECT_EQ(dialog->Message(), QString());
+    dialog->accept();
+    EXPECT_EQ(Steps(), 1);
+}
+
+TEST_F(PropertyBrowser, AFormInUtf8HoldsEveryTextButNotInTheCompanion) {
+    BrowsedForm utf8(
+        FormWith("   Begin VB.TextBox T\n      Height = 300\n"
+                 "      Tag = \"\xC3\xA9\"\n   End\n"));
+    utf8.Select({u"T"});
+    utf8.browser->Edit(u"ToolTipText");
+    qobject_cast<QLineEdit*>(QApplication::focusWidget())->insert(QString::fromUtf8("語"));
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+    EXPECT_EQ(utf8.Message(), "");
+    EXPECT_EQ(utf8.Shown(u"ToolTipText"), "語");
+    auto* const dialog = utf8.More<lumenform::TextDialog>(u"Text");
+    ASSERT_NE(dialog, nullptr);
+    dialog->findChild<QPlainTextEdit*>()->insertPlainText(QString::fromUtf8("語"));
+    EXPECT_EQ(dialog->Message(), QString());
+    dialog->findChild<QPlainTextEdit*>()->insertPlainText(QStringLiteral("\n"));
+    EXPECT_THAT(dialog->Message().toStdString(), HasSubstr("cannot be written"))
+        << "texts with line breaks are in the companion, which is never in UTF-8";
 }
 
 TEST_F(PropertyBrowser, WhatIsBeingTypedIsNotForTheNextSelection) {

@@ -115,7 +115,9 @@ TEST_F(PropertyLists, RefuseAnItemThatTheCodePageCannotHold) {
     form.Select({u"lstColors"});
     const std::string before = Companion(form);
     Edit(form, u"List", QString::fromUtf8("red\nжёлтый"));
-    EXPECT_THAT(form.Message(), HasSubstr("item 2: U+0436 cannot be written"));
+    auto* const dialog = form.browser->findChild<lumenform::TextDialog*>();
+    ASSERT_NE(dialog, nullptr) << "it stays open";
+    EXPECT_THAT(dialog->Message().toStdString(), HasSubstr("\"ж\" (U+0436) cannot be written in"));
     EXPECT_EQ(Companion(form), before);
 }
 

@@ -13,8 +13,12 @@
 #include "apps/lumenform/design/properties/property_groups.h"
 #include "apps/lumenform/design/properties/stored_property.h"
 #include "apps/lumenform/design/properties/usual_properties.h"
+#include "apps/lumenform/form_view/likeness/saved_pages.h"
 #include "apps/lumenform/form_view/plain_kinds.h"
+#include "apps/lumenform/form_view/saved_place.h"
 #include "forms/controls.h"
+#include "frame/numbers.h"
+#include "frame/runtime_error.h"
 
 namespace lumenkit::lumenform {
 
@@ -210,6 +214,41 @@ bool IsOfClass(const LiveControl& control, TextView className) {
     return SameText(control.Block().ClassName(), className, Compare::IgnoreCase);
 }
 
+// Refuses a current page that the tabbed box does not have.
+void RefuseMissingPages(std::vector<ObjectProperty>& properties, const forms::Block& box) {
+    for (ObjectProperty& property : properties) {
+        if (property.name == u"Tab" && property.set) {
+            property.set = [&box, set = property.set](const Value& value) {
+                const std::int32_t last = SavedPages(box).Count() - 1;
+                const std::int32_t page = ToLong(value);
+                if (page < 0 || page > last) {
+                    throw RuntimeError(static_cast<std::int32_t>(ErrorNumber::InvalidPropertyValue),
+                                       u"The pages are 0 to " + Decimal(last) + u".");
+                }
+                set(value);
+            };
+        }
+    }
+}
+
+// Shows the ends of a line on a hidden page of a tabbed box as if the page was shown: the file has
+// them further to the left.
+void ShowOnPage(std::vector<ObjectProperty>& properties, const LiveControl& line) {
+    const float moved = line.Units().across.LengthFromTwips(line.Offset());
+    for (ObjectProperty& property : properties) {
+        if (property.name != u"X1" && property.name != u"X2") {
+            continue;
+        }
+        property.get = [moved, get = property.get]() -> Value {
+            const Value stored = get();
+            return std::holds_alternative<Empty>(stored) ? stored : ToSingle(stored) + moved;
+        };
+        property.set = [moved, set = property.set](const Value& value) {
+            set(ToSingle(value) - moved);
+        };
+    }
+}
+
 // Returns the names of the properties that a container adds to a control. The built-in classes have
 // most of them anyway.
 std::vector<Text> AddedNames(const LiveControl& control) {
@@ -246,6 +285,12 @@ std::vector<ObjectProperty> PlainProperties(FormDesign& design, LiveControl& con
                   [](const ObjectProperty& property) { return IsContainers(property.name); });
     if (HasUnits(control)) {
         LetLinesFollow(properties, design, control.Block(), control.Inside().room);
+    }
+    if (HasPages(control.Block())) {
+        RefuseMissingPages(properties, control.Block());
+    }
+    if (HasEnds(control.Block()) && control.Offset() != 0) {
+        ShowOnPage(properties, control);
     }
     return properties;
 }

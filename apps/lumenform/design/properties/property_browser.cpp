@@ -17,6 +17,7 @@
 #include "apps/lumenform/design/properties/pictures/picture_dialog.h"
 #include "apps/lumenform/design/properties/property_delegate.h"
 #include "apps/lumenform/design/properties/text_dialog.h"
+#include "apps/lumenform/design/properties/writable_text.h"
 #include "runtime/qt/qt_text.h"
 
 namespace lumenkit::lumenform {
@@ -211,12 +212,34 @@ void PropertyBrowser::Group(bool isGrouped) {
 QString PropertyBrowser::TryToAssign(int row, const Value& value) {
     const QScopedValueRollback assigning(isAssigning_, true);
     const PropertyRow& changed = model_.Row(row);
+    if (QString why = WhyUnwritable(changed, value); !why.isEmpty()) {
+        return why;
+    }
     return RefusalOf([&] {
         const auto* text = std::get_if<Text>(&value);
         const bool isFontText = changed.kind == PropertyKind::Font && text != nullptr;
         list_.Assign(model_.IndexOf(row),
                      isFontText ? ObjectRef(FontFromText(*text, FontOf(changed))) : value);
     });
+}
+
+// Names the object and the property, because the place in the written form says little.
+QString PropertyBrowser::WhyUnwritable(const PropertyRow& row, const Value& value) const {
+    const auto* const text = std::get_if<Text>(&value);
+    if (text == nullptr || row.kind == PropertyKind::Picture) {
+        return {};
+    }
+    const QString why = TextCheck()(*text);
+    const std::vector<LiveControl*>& selected = design_.Selected();
+    const Text& object =
+        selected.empty() ? design_.Document().Root().Name() : selected.front()->Name();
+    return why.isEmpty() ? why
+                         : qt::ToQString(object) + u'.' + qt::ToQString(row.name) +
+                               QStringLiteral(": ") + why;
+}
+
+std::function<QString(TextView)> PropertyBrowser::TextCheck() const {
+    return [this](TextView text) { return lumenform::WhyUnwritable(design_.Document(), text); };
 }
 
 void PropertyBrowser::Assign(int row, const Value& value) {
@@ -243,7 +266,7 @@ void PropertyBrowser::Reset(int row) {
 
 void PropertyBrowser::SayWhy(const QString& refusal) {
     const QString before = qt::ToQString(wanted_) + QStringLiteral(": ");
-    notice_->Say(refusal.isEmpty() || refusal.startsWith(before) ? refusal : before + refusal);
+    notice_->Say(refusal.isEmpty() || refusal.contains(before) ? refusal : before + refusal);
     if (!refusal.isEmpty()) {
         Q_EMIT Refused(Message());
     }
@@ -311,7 +334,7 @@ void PropertyBrowser::OpenMore(int row) {
 
 void PropertyBrowser::OpenContents(const PropertyRow& row) {
     const Text former = EditedValue(row);
-    auto* const dialog = new ContentsDialog(qt::ToQString(row.name), former, this);
+    auto* const dialog = new ContentsDialog(qt::ToQString(row.name), former, TextCheck(), this);
     dialog->setAttribute(Qt::WA_DeleteOnClose);
     connect(dialog, &QDialog::accepted, this, [this, dialog, former, name = row.name] {
         if (dialog->Result() != former) {
@@ -338,6 +361,7 @@ void PropertyBrowser::OpenText(const PropertyRow& row, const Text& text) {
                                                          : TextDialog::Lines::Breaks;
     const Text former = EditedValue(row);
     auto* const dialog = new TextDialog(qt::ToQString(row.name), text, lines, this);
+    dialog->CheckWith(TextCheck());
     dialog->setAttribute(Qt::WA_DeleteOnClose);
     connect(dialog, &QDialog::accepted, this, [this, dialog, former, name = row.name] {
         if (dialog->Result() != former) {

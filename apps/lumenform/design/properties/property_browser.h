@@ -3,6 +3,7 @@
 #include <QLabel>
 #include <QSettings>
 #include <QWidget>
+#include <functional>
 
 #include "apps/lumenform/design/model/form_design.h"
 #include "apps/lumenform/design/properties/control_messages.h"
@@ -67,6 +68,8 @@ class PropertyBrowser final : public QWidget {
     void GoBack();
     QString DescribeSelection() const;
     QString TryToAssign(int row, const Value& value);
+    QString WhyUnwritable(const PropertyRow& row, const Value& value) const;
+    std::function<QString(TextView)> TextCheck() const;
     void Assign(int row, const Value& value);
     void Reset(int row);
     void SayWhy(const QString& refusal);

@@ -4,13 +4,16 @@
 #include <QRadioButton>
 #include <QScrollArea>
 #include <algorithm>
+#include <utility>
 
 #include "runtime/qt/qt_text.h"
 
 namespace lumenkit::lumenform {
 
-ContentsDialog::ContentsDialog(const QString& title, TextView contents, QWidget* parent)
+ContentsDialog::ContentsDialog(const QString& title, TextView contents,
+                               std::function<QString(TextView)> whyNot, QWidget* parent)
     : QDialog(parent),
+      whyNot_(std::move(whyNot)),
       model_(new ContentsModel(contents, this)),
       table_(new ContentsTable(*model_, this)),
       preview_(new QGroupBox(tr("Preview"), this)),
@@ -80,7 +83,9 @@ void ContentsDialog::Update() {
     remove_->setEnabled(row >= 0 && model_->rowCount() > 1);
     up_->setEnabled(row > 0);
     down_->setEnabled(row >= 0 && row + 1 < model_->rowCount());
-    notice_->Say({});
+    const QString why = whyNot_(Result());
+    notice_->Say(why);
+    buttons_->button(QDialogButtonBox::Ok)->setEnabled(why.isEmpty());
     ShowPreview();
 }
 

@@ -19,7 +19,10 @@ class ContentsDialog final : public QDialog {
     Q_OBJECT
 
  public:
-    ContentsDialog(const QString& title, TextView contents, QWidget* parent);
+    /// `whyNot` returns why the form cannot hold a text, or an empty text. While it returns a
+    /// reason, the dialog shows it and cannot be accepted.
+    ContentsDialog(const QString& title, TextView contents, std::function<QString(TextView)> whyNot,
+                   QWidget* parent);
 
     /// The text of the items as they are now.
     Text Result() const { return model_->Rows().Contents(); }
@@ -39,6 +42,7 @@ class ContentsDialog final : public QDialog {
     void Update();
     void ShowPreview();
 
+    std::function<QString(TextView)> whyNot_;
     ContentsModel* model_;
     ContentsTable* table_;
     QGroupBox* preview_;
