@@ -5,6 +5,9 @@
 #include <optional>
 #include <utility>
 
+#include "forms/little_endian.h"
+#include "forms/picture_mark.h"
+
 namespace lumenkit::forms {
 
 namespace {
@@ -15,20 +18,6 @@ constexpr std::uint64_t longestMedium = 0xFFFF;
 constexpr std::uint64_t longestLong = std::numeric_limits<std::uint32_t>::max();
 
 constexpr const char* tooLong = "the companion would be longer than 32-bit offsets reach";
-
-std::uint32_t LittleEndian(std::string_view bytes) {
-    std::uint32_t number = 0;
-    for (std::size_t i = bytes.size(); i > 0; --i) {
-        number = number << 8 | static_cast<unsigned char>(bytes[i - 1]);
-    }
-    return number;
-}
-
-void AppendLittleEndian(std::string& bytes, std::uint64_t number, int count) {
-    for (int i = 0; i < count; ++i) {
-        bytes += static_cast<char>(number >> 8 * i & 0xFF);
-    }
-}
 
 // One interpretation of a record: the lengths of its header and of its content.
 struct Shape {
@@ -63,12 +52,6 @@ std::optional<Shape> FourByteShape(std::string_view record) {
         return std::nullopt;
     }
     return Shape{4, LittleEndian(record.substr(0, 4))};
-}
-
-// A picture record contains a length, this mark, a length and the picture.
-bool IsPicture(std::string_view record) {
-    constexpr std::string_view mark("lt\0\0", 4);
-    return record.size() >= 12 && record.substr(4, 4) == mark;
 }
 
 bool LooksLikeText(const Shape& shape, std::string_view record) {
@@ -114,7 +97,7 @@ std::string_view Companion::Record(std::uint32_t offset) const {
 
 std::string_view Companion::String(std::uint32_t offset) const {
     const std::string_view record = Record(offset);
-    if (IsPicture(record)) {
+    if (IsPictureRecord(record)) {
         throw BadRecord("expected a string in the companion, found a picture");
     }
     const std::optional<Shape> shape = ShapeOf(record);

@@ -2,8 +2,10 @@
 #include "apps/lumenform/design/properties/property_browser.h"
 
 #include <QApplication>
+#include <QDialogButtonBox>
 #include <QFontDialog>
 #include <QLineEdit>
+#include <QPushButton>
 #include <QTest>
 
 #include <gmock/gmock.h>
@@ -69,12 +71,13 @@ class PropertyBrowser : public ::testing::Test {
 
 TEST_F(PropertyBrowser, ListsWhatTheInterfaceTableShows) {
     form.Select({u"List1"});
-    EXPECT_THAT(
-        NamesIn(form),
-        ElementsAre("(Name)", "BorderStyle", "Caption", "Contents", "Enabled", "Font", "Height",
-                    "Index", "ItemAlignment", "ItemFontBold", "ItemFontItalic", "ItemFontName",
-                    "ItemFontSize", "ItemForeColor", "Left", "LeftMargin", "ListIndex", "Spacing",
-                    "TabIndex", "TabStop", "Tag", "Top", "TopMargin", "Value", "Visible", "Width"))
+    EXPECT_THAT(NamesIn(form),
+                ElementsAre("(Name)", "BorderStyle", "Caption", "CausesValidation", "Contents",
+                            "DragMode", "Enabled", "Font", "Height", "HelpContextID", "Index",
+                            "ItemAlignment", "ItemFontBold", "ItemFontItalic", "ItemFontName",
+                            "ItemFontSize", "ItemForeColor", "Left", "LeftMargin", "ListIndex",
+                            "Spacing", "TabIndex", "TabStop", "Tag", "ToolTipText", "Top",
+                            "TopMargin", "Value", "Visible", "WhatsThisHelpID", "Width"))
         << "without the hidden Text and the write-only, indexed ItemCaption";
     EXPECT_FALSE(form.CanEdit(u"Value"));
     EXPECT_TRUE(form.CanEdit(u"ListIndex"));
@@ -100,13 +103,13 @@ TEST_F(PropertyBrowser, ShowsEveryKindOfValue) {
     form.Select({u"Label1"});
     EXPECT_EQ(form.Shown(u"(Name)"), "Label1");
     EXPECT_EQ(form.Shown(u"Caption"), "Hello");
-    EXPECT_EQ(form.Shown(u"BackColor"), "&H80000005&");
+    EXPECT_EQ(form.Shown(u"BackColor"), "Window background");
     EXPECT_EQ(form.Shown(u"Font"), "MS Sans Serif, 8.25 pt");
     EXPECT_EQ(form.Shown(u"Enabled"), "True");
     EXPECT_EQ(form.Shown(u"Left"), "120");
     EXPECT_EQ(form.Shown(u"Index"), "");
     form.Select({u"Memo1"});
-    EXPECT_EQ(form.Shown(u"ScrollBars"), "0 - scrollBarsNone");
+    EXPECT_EQ(form.Shown(u"ScrollBars"), "0 - None");
     EXPECT_EQ(form.Shown(u"FontSize"), "8.25");
 }
 
@@ -206,7 +209,7 @@ TEST_F(PropertyBrowser, TruthsAndEnumerationsAreChosen) {
     form.Choose(u"Locked", "True");
     EXPECT_TRUE(ToBoolean(form.Automation(u"Memo1").Get(u"Locked")));
     form.Choose(u"ScrollBars", "2");
-    EXPECT_EQ(form.Shown(u"ScrollBars"), "2 - scrollBarsVertical");
+    EXPECT_EQ(form.Shown(u"ScrollBars"), "2 - Vertical");
     EXPECT_EQ(Stored(u"Memo1", u"ScrollBars"), "2");
     form.Choose(u"MousePointer", "11");
     EXPECT_EQ(Stored(u"Memo1", u"MousePointer"), "11");
@@ -214,7 +217,7 @@ TEST_F(PropertyBrowser, TruthsAndEnumerationsAreChosen) {
     Undo();
     Undo();
     Undo();
-    EXPECT_EQ(form.Shown(u"ScrollBars"), "0 - scrollBarsNone");
+    EXPECT_EQ(form.Shown(u"ScrollBars"), "0 - None");
     EXPECT_EQ(form.Shown(u"Locked"), "False");
 }
 
@@ -229,6 +232,71 @@ TEST_F(PropertyBrowser, ColoursAreTypedAsTheyAreWritten) {
     form.Type(u"ForeColor", "red");
     EXPECT_EQ(form.Message(), "ForeColor: Type mismatch");
     EXPECT_EQ(form.Shown(u"ForeColor"), "&H000000FF&");
+}
+
+TEST_F(PropertyBrowser, SystemColoursAreTypedByName) {
+    form.Select({u"Label1"});
+    form.Type(u"ForeColor", "window text");
+    EXPECT_EQ(Stored(u"Label1", u"ForeColor"), "&H80000008&");
+    EXPECT_EQ(form.Shown(u"ForeColor"), "Window text");
+    form.Type(u"ForeColor", "ButtonFace");
+    EXPECT_EQ(Stored(u"Label1", u"ForeColor"), "&H8000000F&");
+    form.Type(u"ForeColor", "&H8000000D&");
+    EXPECT_EQ(form.Shown(u"ForeColor"), "Highlight");
+    form.Type(u"ForeColor", "Window txt");
+    EXPECT_EQ(form.Message(), "ForeColor: Type mismatch");
+    form.Select({u"Text1"});
+    form.Type(u"BackColor", "Tool tip");
+    EXPECT_EQ(Stored(u"Text1", u"BackColor"), "&H80000018&");
+    form.Type(u"BackColor", "&H8000001A&");
+    EXPECT_EQ(form.Shown(u"BackColor"), "&H8000001A&") << "it has no name";
+}
+
+TEST_F(PropertyBrowser, ANamedColourHasASwatch) {
+    form.Select({u"Label1"});
+    lumenform::PropertyTable& table = form.browser->Table();
+    const QRect cell = table.visualRect(
+        form.browser->Model().index(form.Row(u"ForeColor"), lumenform::PropertyModel::ValueColumn));
+    const auto swatch = [&] {
+        const QImage shown = table.viewport()->grab(cell).toImage();
+        return shown.pixelColor(shown.height() / 2, shown.height() / 2);
+    };
+    form.Type(u"ForeColor", "Highlight");
+    table.GoTo(0);
+    EXPECT_EQ(swatch(), table.palette().color(QPalette::Active, QPalette::Highlight));
+    form.Type(u"ForeColor", "&H00FF00FF&");
+    table.GoTo(0);
+    EXPECT_EQ(swatch(), QColor(255, 0, 255));
+}
+
+TEST_F(PropertyBrowser, TheNumbersOfTheLibraryHaveNames) {
+    form.Select({u"Label1"});
+    EXPECT_EQ(form.Shown(u"BorderStyle"), "0 - None");
+    EXPECT_EQ(form.Shown(u"BackStyle"), "0 - Own colour");
+    form.Choose(u"BackStyle", "1");
+    EXPECT_EQ(Stored(u"Label1", u"BackStyle"), "1");
+    form.Choose(u"MousePointer", "99");
+    EXPECT_EQ(form.Shown(u"MousePointer"), "99 - Custom");
+    EXPECT_EQ(Stored(u"Label1", u"MousePointer"), "99");
+    form.Select({u"List1"});
+    EXPECT_EQ(form.Shown(u"BorderStyle"), "1 - Single");
+    form.Choose(u"ItemAlignment", "1");
+    EXPECT_EQ(Stored(u"List1", u"ItemAlignment"), "1");
+    form.Select({u"List1", u"Text1"});
+    form.Choose(u"BorderStyle", "0");
+    EXPECT_EQ(Stored(u"List1", u"BorderStyle"), "0");
+    EXPECT_EQ(Stored(u"Text1", u"BorderStyle"), "0") << "the same choices as in other classes";
+}
+
+TEST_F(PropertyBrowser, ANumberWithoutANameIsShownAsItIs) {
+    BrowsedForm odd(
+        FormWith("   Begin lumenkit.VLabel L\n      BackStyle = 7\n      Height = 300\n   End\n"));
+    odd.Select({u"L"});
+    EXPECT_EQ(odd.Shown(u"BackStyle"), "7");
+    const std::string before = odd.Saved();
+    odd.browser->Edit(u"BackStyle");
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+    EXPECT_EQ(odd.Saved(), before);
 }
 
 TEST_F(PropertyBrowser, ColoursAreChosenByName) {
@@ -319,16 +387,58 @@ TEST_F(PropertyBrowser, TextsWithLineBreaksAreEditedInAWindow) {
     EXPECT_EQ(Steps(), 1);
 }
 
-TEST_F(PropertyBrowser, OptionListsAreEditedOneItemALine) {
-    form.Select({u"List1"});
-    auto* const dialog = form.More<lumenform::TextDialog>(u"Contents");
+TEST_F(PropertyBrowser, ATextThatTheCodePageCannotHoldIsRefusedByName) {
+    form.Select({u"Label1"});
+    const std::string before = form.Saved();
+    form.browser->Edit(u"Caption");
+    auto* const line = qobject_cast<QLineEdit*>(QApplication::focusWidget());
+    ASSERT_NE(line, nullptr);
+    line->insert(QString::fromUtf8("語"));
+    QTest::keyClick(line, Qt::Key_Return);
+    EXPECT_THAT(form.Message(), HasSubstr("Label1.Caption: \"語\" (U+8A9E) cannot be written in "));
+    EXPECT_THAT(form.Message(), HasSubstr("1252"));
+    EXPECT_EQ(form.Saved(), before);
+    form.Select({});
+    form.browser->Edit(u"Caption");
+    qobject_cast<QLineEdit*>(QApplication::focusWidget())->insert(QString::fromUtf8("ж"));
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+    EXPECT_THAT(form.Message(), HasSubstr("Form1.Caption: \"ж\""));
+    EXPECT_EQ(Steps(), 0);
+}
+
+TEST_F(PropertyBrowser, TheTextWindowSaysAtOnceWhatTheCodePageCannotHold) {
+    form.Select({u"Memo1"});
+    auto* const dialog = form.More<lumenform::TextDialog>(u"Text");
     ASSERT_NE(dialog, nullptr);
     auto* const edit = dialog->findChild<QPlainTextEdit*>();
-    EXPECT_EQ(edit->toPlainText(), "0;Item 0");
-    QTest::keyClick(edit, Qt::Key_Return);
-    QTest::keyClicks(edit, "1;more");
+    edit->insertPlainText(QString::fromUtf8("a語"));
+    EXPECT_THAT(dialog->Message().toStdString(), HasSubstr("\"語\" (U+8A9E)"));
+    EXPECT_FALSE(dialog->findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Ok)->isEnabled());
+    QTest::keyClick(edit, Qt::Key_Return, Qt::ControlModifier);
+    EXPECT_EQ(Steps(), 0);
+    QTest::keyClick(edit, Qt::Key_Backspace);
+    EXPECT_EQ(dialog->Message(), QString());
     dialog->accept();
-    EXPECT_EQ(Stored(u"List1", u"Contents"), "\"0;Item 0|1;more\"");
+    EXPECT_EQ(Steps(), 1);
+}
+
+TEST_F(PropertyBrowser, AFormInUtf8HoldsEveryTextButNotInTheCompanion) {
+    BrowsedForm utf8(
+        FormWith("   Begin VB.TextBox T\n      Height = 300\n"
+                 "      Tag = \"\xC3\xA9\"\n   End\n"));
+    utf8.Select({u"T"});
+    utf8.browser->Edit(u"ToolTipText");
+    qobject_cast<QLineEdit*>(QApplication::focusWidget())->insert(QString::fromUtf8("語"));
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+    EXPECT_EQ(utf8.Message(), "");
+    EXPECT_EQ(utf8.Shown(u"ToolTipText"), "語");
+    auto* const dialog = utf8.More<lumenform::TextDialog>(u"Text");
+    ASSERT_NE(dialog, nullptr);
+    dialog->findChild<QPlainTextEdit*>()->insertPlainText(QString::fromUtf8("語"));
+    EXPECT_EQ(dialog->Message(), QString());
+    dialog->findChild<QPlainTextEdit*>()->insertPlainText(QStringLiteral("\n"));
+    EXPECT_THAT(dialog->Message().toStdString(), HasSubstr("cannot be written"))
+        << "texts with line breaks are in the companion, which is never in UTF-8";
 }
 
 TEST_F(PropertyBrowser, WhatIsBeingTypedIsNotForTheNextSelection) {
@@ -347,8 +457,10 @@ TEST_F(PropertyBrowser, WhatIsBeingTypedIsNotForTheNextSelection) {
 TEST_F(PropertyBrowser, SeveralControlsShowWhatTheyHaveInCommon) {
     form.Select({u"Label1", u"Memo1", u"List1"});
     EXPECT_EQ(form.browser->Heading(), "3 controls");
-    EXPECT_THAT(NamesIn(form), ElementsAre("Enabled", "Font", "Height", "Left", "TabStop", "Tag",
-                                           "Top", "Visible", "Width"));
+    EXPECT_THAT(NamesIn(form),
+                ElementsAre("CausesValidation", "DragMode", "Enabled", "Font", "Height",
+                            "HelpContextID", "Left", "TabStop", "Tag", "ToolTipText", "Top",
+                            "Visible", "WhatsThisHelpID", "Width"));
     EXPECT_EQ(form.Shown(u"Left"), "");
     EXPECT_EQ(form.Shown(u"Width"), "2000");
     form.Type(u"Left", "300");
@@ -420,6 +532,66 @@ TEST_F(PropertyBrowser, TagVisibleAndTabStopStandInTheBlock) {
     Undo();
     Undo();
     EXPECT_EQ(form.Saved(), FormWith(controls).Write().form);
+}
+
+TEST_F(PropertyBrowser, EveryVisibleControlHasHelpNumbersAndATag) {
+    for (const TextView name : {u"Label1", u"Memo1", u"List1", u"Text1"}) {
+        form.Select({Text(name)});
+        form.Type(u"HelpContextID", "12");
+        form.Type(u"WhatsThisHelpID", "13");
+        EXPECT_EQ(Stored(name, u"HelpContextID"), "12");
+        EXPECT_EQ(Stored(name, u"WhatsThisHelpID"), "13");
+        EXPECT_TRUE(form.Has(u"Tag"));
+        form.Type(u"HelpContextID", "0");
+        EXPECT_EQ(Stored(name, u"HelpContextID"), "") << "the default is not stored";
+    }
+    form.Select({});
+    form.Type(u"Tag", "the form");
+    EXPECT_EQ(Stored({}, u"Tag"), "\"the form\"");
+    form.Type(u"HelpContextID", "7");
+    EXPECT_EQ(Stored({}, u"HelpContextID"), "7");
+}
+
+TEST_F(PropertyBrowser, ALabelHasNoHelpForF1) {
+    BrowsedForm label(
+        FormWith("   Begin VB.Label L\n      Height = 300\n   End\n"
+                 "   Begin VB.Timer T\n   End\n"
+                 "   Begin VB.Line X\n      X2 = 300\n   End\n"));
+    label.Select({u"L"});
+    EXPECT_FALSE(label.Has(u"HelpContextID"));
+    EXPECT_TRUE(label.Has(u"WhatsThisHelpID"));
+    for (const TextView name : {u"T", u"X"}) {
+        label.Select({Text(name)});
+        EXPECT_FALSE(label.Has(u"WhatsThisHelpID"));
+        EXPECT_TRUE(label.Has(u"Tag"));
+    }
+}
+
+TEST_F(PropertyBrowser, WhatTheFileSaysOfAControlOfTheLibraryIsShown) {
+    BrowsedForm memo(
+        FormWith("   Begin lumenkit.VMemo M\n      Height = 300\n      ToolTipText = \"tip\"\n"
+                 "      DragMode = 1\n      Odd = 3\n      Text = \"t\"\n   End\n"));
+    memo.Select({u"M"});
+    EXPECT_EQ(memo.Shown(u"ToolTipText"), "tip");
+    EXPECT_EQ(memo.Shown(u"DragMode"), "1 - By mouse");
+    EXPECT_EQ(memo.Shown(u"Odd"), "3");
+    memo.Type(u"Odd", "4");
+    memo.Type(u"ToolTipText", "other");
+    EXPECT_THAT(memo.Saved(), HasSubstr("      ToolTipText = \"other\"\n"));
+    EXPECT_THAT(memo.Saved(), HasSubstr("      Odd = 4\n"));
+    EXPECT_THAT(memo.Saved(), HasSubstr("      Text = \"t\"\n"));
+}
+
+TEST_F(PropertyBrowser, TheClassesHaveTheirOtherProperties) {
+    form.Select({u"Text1"});
+    EXPECT_EQ(form.Shown(u"Appearance"), "1 - 3D");
+    EXPECT_EQ(form.Shown(u"HideSelection"), "True");
+    form.Choose(u"MousePointer", "11");
+    EXPECT_EQ(Stored(u"Text1", u"MousePointer"), "11");
+    EXPECT_EQ(form.Shown(u"MousePointer"), "11 - Hourglass");
+    form.Select({});
+    EXPECT_EQ(form.Shown(u"ShowInTaskbar"), "True");
+    EXPECT_EQ(form.Shown(u"AutoRedraw"), "False");
 }
 
 TEST_F(PropertyBrowser, TheOthersMakeRoomInTheTabOrder) {
@@ -497,8 +669,8 @@ TEST_F(PropertyBrowser, ControlsWithAnIndexShareAName) {
 
 TEST_F(PropertyBrowser, APlainControlShowsTheUsualPropertiesOfItsClass) {
     form.Select({u"Text1"});
-    EXPECT_EQ(form.Shown(u"BackColor"), "&H80000005&");
-    EXPECT_EQ(form.Shown(u"ForeColor"), "&H80000008&");
+    EXPECT_EQ(form.Shown(u"BackColor"), "Window background");
+    EXPECT_EQ(form.Shown(u"ForeColor"), "Window text");
     EXPECT_EQ(form.Shown(u"MultiLine"), "False");
     EXPECT_EQ(form.Shown(u"ScrollBars"), "0 - None");
     EXPECT_EQ(form.Shown(u"Font"), "MS Sans Serif, 8.25 pt");
@@ -547,7 +719,7 @@ TEST_F(PropertyBrowser, WhatIsNotKnownIsShownAsItIsWritten) {
 
 TEST_F(PropertyBrowser, TheFormHasProperties) {
     EXPECT_EQ(form.Shown(u"(Name)"), "Form1");
-    EXPECT_EQ(form.Shown(u"BackColor"), "&H8000000F&");
+    EXPECT_EQ(form.Shown(u"BackColor"), "Button face");
     form.Type(u"Caption", "Orders");
     EXPECT_EQ(form.design.View().Caption(), u"Orders");
     EXPECT_THAT(form.Saved(), HasSubstr("Begin VB.Form Form1\n"));

@@ -10,6 +10,7 @@
 #include "apps/lumenform/form_view/likeness/saved_pages.h"
 #include "apps/lumenform/form_view/likeness/tab_pages.h"
 #include "forms/file.h"
+#include "tests/apps/lumenform/browsed_form.h"
 #include "tests/apps/lumenform/designed_form.h"
 #include "tests/apps/lumenform/edited_design.h"
 #include "tests/apps/lumenform/loaded_view.h"
@@ -304,6 +305,35 @@ TEST(TabbedBoxDesign, AnotherCurrentPageMovesTheControlsInTheFile) {
     edited.design.History().undo();
     EXPECT_EQ(edited.PlaceOf(u"A"), "1200 x 300 at 600, 900");
     EXPECT_EQ(PagesOf(edited.Control(u"Box")).Shown(), 1);
+}
+
+// ---- The property list
+
+TEST(TabbedBox, APageThatIsNotThereIsRefused) {
+    BrowsedForm form(FormWith(tabbedForm));
+    form.Select({u"Box"});
+    const std::string before = form.Saved();
+    for (const char* page : {"3", "9", "-1"}) {
+        form.Type(u"Tab", page);
+        EXPECT_EQ(form.Message(), "Tab: The pages are 0 to 2.") << page;
+        EXPECT_EQ(form.Saved(), before);
+    }
+    form.Type(u"Tab", "2");
+    EXPECT_EQ(form.Message(), "");
+    EXPECT_EQ(form.Shown(u"Tab"), "2");
+}
+
+TEST(TabbedBox, TheEndsOfALineOnAHiddenPageAreThoseOnThePage) {
+    BrowsedForm form(FormWith(tabbedForm));
+    form.Select({u"L"});
+    EXPECT_EQ(form.Shown(u"X1"), "600");
+    EXPECT_EQ(form.Shown(u"X2"), "1800");
+    EXPECT_EQ(form.Shown(u"Y1"), "1500");
+    form.Type(u"X2", "2100");
+    EXPECT_EQ(form.Shown(u"X2"), "2100");
+    EXPECT_THAT(form.Saved(), HasSubstr("         X1 = -74400\n         X2 = -72900\n"));
+    form.design.History().undo();
+    EXPECT_EQ(form.Shown(u"X2"), "1800");
 }
 
 }  // namespace

@@ -6,7 +6,15 @@
 #include <QToolButton>
 #include <QWheelEvent>
 
+#include "apps/lumenform/design/properties/focus_look.h"
+
 namespace lumenkit::lumenform {
+
+namespace {
+
+constexpr int frameWidth = 2;
+
+}  // namespace
 
 ChoiceBox::ChoiceBox(QWidget* parent) : QComboBox(parent) {
     setAutoFillBackground(true);
@@ -29,13 +37,21 @@ void ChoiceBox::wheelEvent(QWheelEvent* event) {
     event->ignore();
 }
 
+void ChoiceBox::paintEvent(QPaintEvent* event) {
+    QComboBox::paintEvent(event);
+    if (hasFocus()) {
+        DrawFocusFrame(*this);
+    }
+}
+
 ValueEditor::ValueEditor(bool hasMore, QWidget* parent)
     : QWidget(parent), line_(new QLineEdit(this)), hasMore_(hasMore) {
     setAutoFillBackground(true);
     setFocusProxy(line_);
     line_->setFrame(false);
+    line_->installEventFilter(this);
     auto* const layout = new QHBoxLayout(this);
-    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setContentsMargins(frameWidth, frameWidth, frameWidth, frameWidth);
     layout->setSpacing(0);
     layout->addWidget(line_);
     if (hasMore) {
@@ -48,6 +64,20 @@ ValueEditor::ValueEditor(bool hasMore, QWidget* parent)
         layout->addWidget(more);
         connect(more, &QToolButton::clicked, this, &ValueEditor::MoreWanted);
     }
+}
+
+void ValueEditor::paintEvent(QPaintEvent* event) {
+    QWidget::paintEvent(event);
+    if (line_->hasFocus()) {
+        DrawFocusFrame(*this);
+    }
+}
+
+bool ValueEditor::eventFilter(QObject* object, QEvent* event) {
+    if (event->type() == QEvent::FocusIn || event->type() == QEvent::FocusOut) {
+        update();
+    }
+    return QWidget::eventFilter(object, event);
 }
 
 }  // namespace lumenkit::lumenform

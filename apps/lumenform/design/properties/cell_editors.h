@@ -7,8 +7,8 @@
 
 namespace lumenkit::lumenform {
 
-/// A combo box in a list. The mouse wheel scrolls the list, and moving through the entries by
-/// keyboard does not pick one.
+/// A combo box in a list, with a frame while it has the keyboard. The mouse wheel scrolls the list,
+/// and moving through the entries by keyboard does not pick one.
 class ChoiceBox final : public QComboBox {
     Q_OBJECT
 
@@ -22,12 +22,14 @@ class ChoiceBox final : public QComboBox {
  protected:
     void keyPressEvent(QKeyEvent* event) override;
     void wheelEvent(QWheelEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
 
  private:
     bool byKeys_ = false;
 };
 
-/// A line edit for a value, with a button "..." if there is a separate editor.
+/// A line edit for a value, with a button "..." if there is a separate editor. While the line has
+/// the keyboard, there is a frame around both.
 class ValueEditor final : public QWidget {
     Q_OBJECT
 
@@ -41,6 +43,10 @@ class ValueEditor final : public QWidget {
 
  Q_SIGNALS:
     void MoreWanted();
+
+ protected:
+    void paintEvent(QPaintEvent* event) override;
+    bool eventFilter(QObject* object, QEvent* event) override;
 
  private:
     QLineEdit* line_;

@@ -63,13 +63,36 @@ bool IsHexDigit(char16_t unit) {
            (unit >= u'a' && unit <= u'f');
 }
 
+Text WithoutBlanks(TextView text) {
+    Text without(text);
+    std::erase(without, blank);
+    return without;
+}
+
+// Returns null if it is no name.
+const NamedColor* FindSystemColor(TextView text) {
+    const Text sought = WithoutBlanks(text);
+    const auto* const found = std::ranges::find_if(systemColors, [&](const NamedColor& named) {
+        return SameText(WithoutBlanks(named.name), sought, Compare::IgnoreCase);
+    });
+    return found == systemColors.end() ? nullptr : found;
+}
+
 }  // namespace
 
 Text ColorText(Color color) {
     return forms::SourceOf(forms::HexNumber{static_cast<std::uint32_t>(color)});
 }
 
+Text ColorName(Color color) {
+    const auto* const found = std::ranges::find(systemColors, color, &NamedColor::color);
+    return found == systemColors.end() ? ColorText(color) : Text(found->name);
+}
+
 Value ColorFromText(TextView text) {
+    if (const NamedColor* const named = FindSystemColor(text)) {
+        return FromColor(named->color);
+    }
     constexpr TextView prefix = u"&H";
     TextView digits = Trim(text);
     if (!SameText(digits.substr(0, prefix.size()), prefix, Compare::IgnoreCase)) {

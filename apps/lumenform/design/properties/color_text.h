@@ -11,8 +11,12 @@ namespace lumenkit::lumenform {
 /// Returns the colour as "&H8000000F&".
 Text ColorText(Color color);
 
-/// Converts a typed colour to a value that can be assigned. "&H" and hexadecimal digits are a
-/// colour with or without a final &. Any other text is returned unchanged, for the property to
+/// Returns the name of a system colour, and any other colour as ColorText.
+Text ColorName(Color color);
+
+/// Converts a typed colour to a value that can be assigned. The name of a system colour counts
+/// without regard to case and blanks. "&H" and hexadecimal digits are a colour with or without a
+/// final &. Any other text is returned unchanged, for the property to
 /// convert.
 Value ColorFromText(TextView text);
 

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <array>
 
+#include "apps/lumenform/design/properties/property_choices.h"
+#include "forms/font_description.h"
 #include "frame/numbers.h"
 #include "runtime/qt/font.h"
 
@@ -24,7 +26,10 @@ PropertyKind KindOfText(TextView name) {
                                                                  : PropertyKind::LongText;
 }
 
-PropertyKind KindOf(const Member& member) {
+PropertyKind KindOf(const Member& member, TextView className) {
+    if (!LibraryLabels(className, member.name).empty()) {
+        return PropertyKind::Choice;
+    }
     switch (member.type) {
         case ValueType::String:
             return KindOfText(member.name);
@@ -47,15 +52,20 @@ PropertyKind KindOf(const Member& member) {
     return PropertyKind::Text;
 }
 
-std::vector<Choice> ChoicesOf(ValueType type, const EnumerationLibrary* enumerations) {
-    if (type == ValueType::Boolean) {
+std::vector<Choice> MemberChoices(const Member& member, TextView className,
+                                  const EnumerationLibrary* enumerations) {
+    if (member.type == ValueType::Boolean) {
         return TruthChoices();
     }
-    const EnumerationTable* table = enumerations == nullptr ? nullptr : enumerations->Find(type);
+    if (const ChoiceLabels labels = LibraryLabels(className, member.name); !labels.empty()) {
+        return ChoicesOf(labels);
+    }
+    const EnumerationTable* table =
+        enumerations == nullptr ? nullptr : enumerations->Find(member.type);
     std::vector<Choice> choices;
     if (table != nullptr) {
-        for (const EnumerationMember& member : table->members) {
-            choices.push_back({Decimal(member.value) + u" - " + Text(member.name), member.value});
+        for (const EnumerationMember& named : table->members) {
+            choices.push_back({Decimal(named.value) + u" - " + Text(named.name), named.value});
         }
     }
     return choices;
@@ -67,10 +77,42 @@ Value OwnFont(const Value& value) {
     return object == nullptr ? value : ObjectRef(qt::Font::From(host::ToFont(value))->Clone());
 }
 
+// What the properties of a control are reset to.
+struct Defaults {
+    LibraryDefaults& ofClass;
+    std::shared_ptr<qt::Font> containerFont;
+};
+
+bool IsSameFont(const Value& value, const host::Font& font) {
+    const host::FontRef held = host::ToFont(value);
+    return held != nullptr && forms::Describe(*held) == forms::Describe(font);
+}
+
+void AddFontDefault(ObjectProperty& property, const std::shared_ptr<qt::Font>& font) {
+    property.isChanged = [get = property.get, font] { return !IsSameFont(get(), *font); };
+    property.reset = [set = property.set, font] { set(ObjectRef(font)); };
+}
+
+void AddDefault(ObjectProperty& property, qt::HostedControl& control, const Defaults& defaults) {
+    if (!property.set) {
+        return;
+    }
+    if (property.kind == PropertyKind::Font) {
+        AddFontDefault(property, defaults.containerFont);
+    } else if (const auto value = defaults.ofClass.Find(control, property.name)) {
+        property.isChanged = [get = property.get, value = *value] {
+            return !SameValue(get(), value);
+        };
+        property.reset = [set = property.set, value = *value] { set(value); };
+    }
+}
+
 }  // namespace
 
 std::vector<ObjectProperty> LibraryProperties(qt::HostedControl& control,
-                                              const EnumerationLibrary* enumerations) {
+                                              const EnumerationLibrary* enumerations,
+                                              LibraryDefaults& defaults,
+                                              const std::shared_ptr<qt::Font>& containerFont) {
     const ClassDescriptor& type = control.Type();
     std::vector<ObjectProperty> properties;
     for (const Member& member : type.interfaceTable->members) {
@@ -81,8 +123,8 @@ std::vector<ObjectProperty> LibraryProperties(qt::HostedControl& control,
         ObjectProperty property{
             .name = Text(member.name),
             .help = Text(member.help),
-            .kind = KindOf(member),
-            .choices = ChoicesOf(member.type, enumerations),
+            .kind = KindOf(member, type.name),
+            .choices = MemberChoices(member, type.name, enumerations),
             .place = PropertyPlace::Live,
             .isOnPage =
                 std::ranges::find(type.pageProperties, member.name) != type.pageProperties.end(),
@@ -92,6 +134,7 @@ std::vector<ObjectProperty> LibraryProperties(qt::HostedControl& control,
                 control.Automation().Let(identifier, OwnFont(value));
             };
         }
+        AddDefault(property, control, {defaults, containerFont});
         properties.push_back(std::move(property));
     }
     return properties;

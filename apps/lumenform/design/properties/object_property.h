@@ -13,10 +13,12 @@ enum class PropertyKind {
     Text,
     LongText,  ///< a text that may have line breaks
     Items,     ///< a text with items separated by bars
+    Lines,     ///< a text with an item in each line
     Number,
     Choice,  ///< one of the property's choices
     Color,
     Font,
+    Picture,  ///< a picture as a text: see TextOfBytes
 };
 
 struct Choice {
@@ -47,6 +49,11 @@ struct ObjectProperty {
     /// Accepts a text for every kind but fonts. Raises the errors of conversions and of the
     /// control. Null if the property is read-only.
     std::function<void(const Value&)> set = {};
+    /// Whether the value differs from the default. Null if the property has no default.
+    std::function<bool()> isChanged = {};
+    /// Assigns the default value, or removes the property from the block. Null if the property has
+    /// no default or is read-only.
+    std::function<void()> reset = {};
 };
 
 /// The choices True and False.

@@ -1,16 +1,24 @@
 #include "apps/lumenform/design/properties/plain_properties.h"
 
 #include <algorithm>
+#include <iterator>
 #include <set>
 #include <utility>
 
 #include "apps/lumenform/design/model/arrange.h"
 #include "apps/lumenform/design/model/change_units.h"
 #include "apps/lumenform/design/properties/container_properties.h"
+#include "apps/lumenform/design/properties/lists/list_properties.h"
+#include "apps/lumenform/design/properties/pictures/picture_property.h"
+#include "apps/lumenform/design/properties/property_groups.h"
 #include "apps/lumenform/design/properties/stored_property.h"
 #include "apps/lumenform/design/properties/usual_properties.h"
+#include "apps/lumenform/form_view/likeness/saved_pages.h"
 #include "apps/lumenform/form_view/plain_kinds.h"
+#include "apps/lumenform/form_view/saved_place.h"
 #include "forms/controls.h"
+#include "frame/numbers.h"
+#include "frame/runtime_error.h"
 
 namespace lumenkit::lumenform {
 
@@ -62,22 +70,18 @@ struct Inherited {
     }
 };
 
-std::vector<Choice> ChoicesOf(const UsualProperty& usual) {
-    std::vector<Choice> choices;
-    for (const TextView label : usual.choices) {
-        choices.push_back({Text(label), static_cast<std::int32_t>(choices.size())});
-    }
-    return choices;
-}
-
 ObjectProperty MakeUsualProperty(FormDesign& design, forms::Block& block,
                                  const UsualProperty& usual, const Inherited& inherited) {
+    if (usual.type == StoredType::Picture) {
+        return PictureProperty(design, block, usual.name, usual.help);
+    }
     return MakeProperty(design, block,
                         {.name = Text(usual.name),
                          .help = usual.help,
                          .type = usual.type,
                          .otherwise = inherited.For(usual),
-                         .choices = ChoicesOf(usual)});
+                         .choices = ChoicesOf(usual.labels),
+                         .isRequired = usual.type == StoredType::Number});
 }
 
 ObjectProperty Unchangeable(Text name, Text shown) {
@@ -108,6 +112,9 @@ ObjectProperty UnknownProperty(FormDesign& design, forms::Block& block,
                                const forms::Property& property) {
     const forms::Literal& literal = property.Literal();
     const auto* reference = std::get_if<forms::Reference>(&literal);
+    if (HoldsPicture(design.Document(), property)) {
+        return PictureProperty(design, block, property.Name());
+    }
     if (reference != nullptr && !reference->marked) {
         return Unchangeable(property.Name(), u"(companion)");
     }
@@ -116,7 +123,11 @@ ObjectProperty UnknownProperty(FormDesign& design, forms::Block& block,
         std::holds_alternative<forms::UnreadValue>(literal)) {
         return Unchangeable(property.Name(), forms::SourceOf(literal));
     }
-    return MakeProperty(design, block, {.name = property.Name(), .type = TypeOf(property)});
+    return MakeProperty(
+        design, block,
+        {.name = property.Name(),
+         .type = TypeOf(property),
+         .isRequired = GroupOf(property.Name(), PropertyKind::Text) == PropertyGroup::Position});
 }
 
 ObjectProperty StatedProperty(FormDesign& design, forms::Block& block, TextView name,
@@ -135,8 +146,13 @@ std::vector<ObjectProperty> PropertiesIn(FormDesign& design, forms::Block& block
     std::vector<ObjectProperty> properties;
     std::set<Text> names;  // in lower case
     for (const UsualProperty& usual : UsualPropertiesOf(block.ClassName())) {
-        properties.push_back(MakeUsualProperty(design, block, usual, inherited));
-        names.insert(LCase(usual.name));
+        if (names.insert(LCase(usual.name)).second) {
+            properties.push_back(MakeUsualProperty(design, block, usual, inherited));
+        }
+    }
+    for (ObjectProperty& property : ListProperties(design, block)) {
+        names.insert(LCase(property.name));
+        properties.push_back(std::move(property));
     }
     for (const Text& name : NamesIn(block)) {
         if (names.insert(LCase(name)).second) {
@@ -182,8 +198,77 @@ void LetLinesFollow(std::vector<ObjectProperty>& properties, FormDesign& design,
             property.set = [&design, &container, room, set = property.set](const Value& value) {
                 ChangeUnits(design.Document(), container, room, [&] { set(value); });
             };
+            property.reset = [&design, &container, room, reset = property.reset] {
+                ChangeUnits(design.Document(), container, room, reset);
+            };
         }
     }
+}
+
+Inherited InheritedBy(const FormDesign& design, const LiveControl& control) {
+    return {PlainKindOf(control.Block()).usual,
+            InsideOf(design, ContainerOf(design, control)).font};
+}
+
+bool IsOfClass(const LiveControl& control, TextView className) {
+    return SameText(control.Block().ClassName(), className, Compare::IgnoreCase);
+}
+
+// Refuses a current page that the tabbed box does not have.
+void RefuseMissingPages(std::vector<ObjectProperty>& properties, const forms::Block& box) {
+    for (ObjectProperty& property : properties) {
+        if (property.name == u"Tab" && property.set) {
+            property.set = [&box, set = property.set](const Value& value) {
+                const std::int32_t last = SavedPages(box).Count() - 1;
+                const std::int32_t page = ToLong(value);
+                if (page < 0 || page > last) {
+                    throw RuntimeError(static_cast<std::int32_t>(ErrorNumber::InvalidPropertyValue),
+                                       u"The pages are 0 to " + Decimal(last) + u".");
+                }
+                set(value);
+            };
+        }
+    }
+}
+
+// Shows the ends of a line on a hidden page of a tabbed box as if the page was shown: the file has
+// them further to the left.
+void ShowOnPage(std::vector<ObjectProperty>& properties, const LiveControl& line) {
+    const float moved = line.Units().across.LengthFromTwips(line.Offset());
+    for (ObjectProperty& property : properties) {
+        if (property.name != u"X1" && property.name != u"X2") {
+            continue;
+        }
+        property.get = [moved, get = property.get]() -> Value {
+            const Value stored = get();
+            return std::holds_alternative<Empty>(stored) ? stored : ToSingle(stored) + moved;
+        };
+        property.set = [moved, set = property.set](const Value& value) {
+            set(ToSingle(value) - moved);
+        };
+    }
+}
+
+// Returns the names of the properties that a container adds to a control. The built-in classes have
+// most of them anyway.
+std::vector<Text> AddedNames(const LiveControl& control) {
+    const bool isHosted = control.Hosted() != nullptr;
+    const PlainKind& kind = PlainKindOf(control.Block());
+    const bool isDrawn = IsOfClass(control, u"VB.Line") || IsOfClass(control, u"VB.Shape");
+    std::vector<Text> names;
+    if (isHosted || (kind.isSeen && !isDrawn)) {
+        names.emplace_back(u"WhatsThisHelpID");
+    }
+    if (isHosted ||
+        (kind.isSeen && kind.tab != TabRole::None && !IsOfClass(control, u"VB.Label"))) {
+        names.emplace_back(u"HelpContextID");
+    }
+    const bool isBuiltIn =
+        SameText(control.Block().ClassName().substr(0, 3), u"VB.", Compare::IgnoreCase);
+    if (isHosted || (kind.isSeen && !isBuiltIn)) {
+        names.insert(names.end(), {u"CausesValidation", u"DragMode", u"ToolTipText"});
+    }
+    return names;
 }
 
 // Only picture boxes have units of their own.
@@ -194,13 +279,33 @@ bool HasUnits(const LiveControl& control) {
 }  // namespace
 
 std::vector<ObjectProperty> PlainProperties(FormDesign& design, LiveControl& control) {
-    std::vector<ObjectProperty> properties = PropertiesIn(
-        design, control.Block(),
-        {PlainKindOf(control.Block()).usual, InsideOf(design, ContainerOf(design, control)).font});
+    std::vector<ObjectProperty> properties =
+        PropertiesIn(design, control.Block(), InheritedBy(design, control));
     std::erase_if(properties,
                   [](const ObjectProperty& property) { return IsContainers(property.name); });
     if (HasUnits(control)) {
         LetLinesFollow(properties, design, control.Block(), control.Inside().room);
+    }
+    if (HasPages(control.Block())) {
+        RefuseMissingPages(properties, control.Block());
+    }
+    if (HasEnds(control.Block()) && control.Offset() != 0) {
+        ShowOnPage(properties, control);
+    }
+    return properties;
+}
+
+std::vector<ObjectProperty> OtherProperties(FormDesign& design, LiveControl& control,
+                                            std::set<Text> known) {
+    forms::Block& block = control.Block();
+    const Inherited inherited = InheritedBy(design, control);
+    std::vector<Text> names = NamesIn(block);
+    std::ranges::copy(AddedNames(control), std::back_inserter(names));
+    std::vector<ObjectProperty> properties;
+    for (const Text& name : names) {
+        if (!IsContainers(name) && known.insert(LCase(name)).second) {
+            properties.push_back(StatedProperty(design, block, name, inherited));
+        }
     }
     return properties;
 }

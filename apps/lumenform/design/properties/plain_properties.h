@@ -1,5 +1,6 @@
 #pragma once
 
+#include <set>
 #include <vector>
 
 #include "apps/lumenform/design/model/form_design.h"
@@ -12,7 +13,12 @@ namespace lumenkit::lumenform {
 /// The properties of a plain control: those in its block and the usual ones of its class.
 std::vector<ObjectProperty> PlainProperties(FormDesign& design, LiveControl& control);
 
-/// The same for the form.
+/// The properties that a container adds to a control, such as HelpContextID, and the properties in
+/// its block that are not in `known`, names in lower case.
+std::vector<ObjectProperty> OtherProperties(FormDesign& design, LiveControl& control,
+                                            std::set<Text> known);
+
+/// The properties of the form.
 std::vector<ObjectProperty> FormProperties(FormDesign& design);
 
 }  // namespace lumenkit::lumenform

@@ -2,6 +2,7 @@
 
 #include <QEvent>
 #include <QScopedValueRollback>
+#include <QShortcut>
 #include <QVBoxLayout>
 #include <algorithm>
 
@@ -10,15 +11,22 @@
 #include "apps/lumenform/design/properties/cell_editors.h"
 #include "apps/lumenform/design/properties/choose_font.h"
 #include "apps/lumenform/design/properties/color_dialog.h"
+#include "apps/lumenform/design/properties/contents/contents_dialog.h"
 #include "apps/lumenform/design/properties/font_text.h"
 #include "apps/lumenform/design/properties/page_dialog.h"
+#include "apps/lumenform/design/properties/pictures/picture_dialog.h"
 #include "apps/lumenform/design/properties/property_delegate.h"
 #include "apps/lumenform/design/properties/text_dialog.h"
+#include "apps/lumenform/design/properties/writable_text.h"
 #include "runtime/qt/qt_text.h"
 
 namespace lumenkit::lumenform {
 
 namespace {
+
+QString GroupsKey() {
+    return QStringLiteral("propertyGroups");
+}
 
 const host::Font* FontOf(const PropertyRow& row) {
     const auto* object = row.value ? std::get_if<ObjectRef>(&*row.value) : nullptr;
@@ -43,6 +51,7 @@ PropertyBrowser::PropertyBrowser(FormDesign& design, ControlMessages& messages, 
       list_(design, messages),
       model_(list_),
       heading_(new QLabel(this)),
+      filter_(new FilterBar(this)),
       table_(new PropertyTable(this)),
       delegate_(new PropertyDelegate(model_, this)),
       notice_(new Notice(this)),
@@ -50,11 +59,13 @@ PropertyBrowser::PropertyBrowser(FormDesign& design, ControlMessages& messages, 
     table_->setModel(&model_);
     table_->setItemDelegate(delegate_);
     LayOut();
+    ConnectFilter();
     connect(delegate_, &PropertyDelegate::Changed, this, &PropertyBrowser::Assign);
     connect(delegate_, &PropertyDelegate::MoreWanted, this, &PropertyBrowser::OpenMore);
     connect(delegate_, &PropertyDelegate::StepWanted, this,
             [this](int rows) { table_->GoTo(table_->currentIndex().row() + rows); });
     connect(table_, &PropertyTable::MoreWanted, this, &PropertyBrowser::OpenMore);
+    connect(table_, &PropertyTable::ResetWanted, this, &PropertyBrowser::Reset);
     connect(table_->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
             [this] { ShowCurrent(); });
     connect(&design_, &FormDesign::ViewReplaced, this, &PropertyBrowser::Refresh);
@@ -77,9 +88,28 @@ void PropertyBrowser::LayOut() {
     setFocusProxy(table_);
     auto* const layout = new QVBoxLayout(this);
     layout->addWidget(heading_);
+    layout->addWidget(filter_);
     layout->addWidget(table_, 1);
     layout->addWidget(notice_);
     layout->addWidget(help_);
+}
+
+void PropertyBrowser::ConnectFilter() {
+    connect(filter_, &FilterBar::Filtered, this, &PropertyBrowser::FilterBy);
+    connect(filter_, &FilterBar::Grouped, this, &PropertyBrowser::Group);
+    connect(filter_, &FilterBar::Left, table_, qOverload<>(&QWidget::setFocus));
+    connect(table_, &PropertyTable::Escaped, &filter_->Field(), &QLineEdit::clear);
+    auto* const find = new QShortcut(QKeySequence::Find, this);
+    find->setContext(Qt::WidgetWithChildrenShortcut);
+    connect(find, &QShortcut::activated, this, [this] {
+        filter_->Field().setFocus(Qt::ShortcutFocusReason);
+        filter_->Field().selectAll();
+    });
+}
+
+void PropertyBrowser::RememberIn(QSettings& settings) {
+    settings_ = &settings;
+    filter_->Groups().setChecked(settings.value(GroupsKey()).toBool());
 }
 
 void PropertyBrowser::FitHelp() {
@@ -128,8 +158,9 @@ void PropertyBrowser::GoBack() {
 
 void PropertyBrowser::ShowCurrent() {
     const int row = table_->currentIndex().row();
-    if (row < 0 || row >= model_.rowCount()) {
-        help_->clear();
+    if (row < 0 || row >= model_.rowCount() || model_.IsHeading(row)) {
+        const QString text = filter_->Field().text();
+        help_->setText(text.isEmpty() ? QString() : tr("No property contains \"%1\".").arg(text));
         return;
     }
     const PropertyRow& current = model_.Row(row);
@@ -153,25 +184,89 @@ QString PropertyBrowser::DescribeSelection() const {
     return DescribeBlock(selected.front()->Name(), selected.front()->Block().ClassName());
 }
 
+// ---- The order of the list
+
+template <typename Change>
+void PropertyBrowser::Rearrange(const Change& change) {
+    const QScopedValueRollback refreshing(isRefreshing_, true);
+    change();
+    GoBack();
+    ShowCurrent();
+}
+
+void PropertyBrowser::FilterBy(const QString& text) {
+    Rearrange([&] { model_.SetFilter(text); });
+}
+
+void PropertyBrowser::Group(bool isGrouped) {
+    Rearrange([&] {
+        model_.SetOrder(isGrouped ? PropertyModel::Order::Groups : PropertyModel::Order::Names);
+    });
+    if (settings_ != nullptr) {
+        settings_->setValue(GroupsKey(), isGrouped);
+    }
+}
+
 // ---- Changing values
 
 QString PropertyBrowser::TryToAssign(int row, const Value& value) {
     const QScopedValueRollback assigning(isAssigning_, true);
     const PropertyRow& changed = model_.Row(row);
+    if (QString why = WhyUnwritable(changed, value); !why.isEmpty()) {
+        return why;
+    }
     return RefusalOf([&] {
         const auto* text = std::get_if<Text>(&value);
         const bool isFontText = changed.kind == PropertyKind::Font && text != nullptr;
-        list_.Assign(static_cast<std::size_t>(row),
+        list_.Assign(model_.IndexOf(row),
                      isFontText ? ObjectRef(FontFromText(*text, FontOf(changed))) : value);
     });
+}
+
+// Names the object and the property, because the place in the written form says little.
+QString PropertyBrowser::WhyUnwritable(const PropertyRow& row, const Value& value) const {
+    const auto* const text = std::get_if<Text>(&value);
+    if (text == nullptr || row.kind == PropertyKind::Picture) {
+        return {};
+    }
+    const QString why = TextCheck()(*text);
+    const std::vector<LiveControl*>& selected = design_.Selected();
+    const Text& object =
+        selected.empty() ? design_.Document().Root().Name() : selected.front()->Name();
+    return why.isEmpty() ? why
+                         : qt::ToQString(object) + u'.' + qt::ToQString(row.name) +
+                               QStringLiteral(": ") + why;
+}
+
+std::function<QString(TextView)> PropertyBrowser::TextCheck() const {
+    return [this](TextView text) { return lumenform::WhyUnwritable(design_.Document(), text); };
 }
 
 void PropertyBrowser::Assign(int row, const Value& value) {
     wanted_ = model_.Row(row).name;
     const QString refusal = TryToAssign(row, value);
     Refresh();
+    SayWhy(refusal);
+}
+
+void PropertyBrowser::Reset(int row) {
+    if (row < 0 || !model_.index(row, 0).data(PropertyModel::resettableRole).toBool()) {
+        return;
+    }
+    wanted_ = model_.Row(row).name;
+    const QString title = tr("Reset %1").arg(qt::ToQString(wanted_));
+    QString refusal;
+    {
+        const QScopedValueRollback assigning(isAssigning_, true);
+        refusal = RefusalOf([&] { list_.Reset(model_.IndexOf(row), title); });
+    }
+    Refresh();
+    SayWhy(refusal);
+}
+
+void PropertyBrowser::SayWhy(const QString& refusal) {
     const QString before = qt::ToQString(wanted_) + QStringLiteral(": ");
-    notice_->Say(refusal.isEmpty() || refusal.startsWith(before) ? refusal : before + refusal);
+    notice_->Say(refusal.isEmpty() || refusal.contains(before) ? refusal : before + refusal);
     if (!refusal.isEmpty()) {
         Q_EMIT Refused(Message());
     }
@@ -185,6 +280,9 @@ void PropertyBrowser::AssignTo(const Text& name, const Value& value) {
 }
 
 bool PropertyBrowser::Edit(TextView property) {
+    if (model_.Find(property) < 0) {
+        filter_->Field().clear();
+    }
     const int row = model_.Find(property);
     if (row < 0) {
         return false;
@@ -208,7 +306,7 @@ bool PropertyBrowser::FinishEditing() {
 // ---- Editors in separate windows
 
 void PropertyBrowser::OpenMore(int row) {
-    if (row < 0 || row >= model_.rowCount()) {
+    if (row < 0 || row >= model_.rowCount() || model_.IsHeading(row)) {
         return;
     }
     const PropertyRow& wanted = model_.Row(row);
@@ -225,16 +323,57 @@ void PropertyBrowser::OpenMore(int row) {
         OpenColors(wanted);
     } else if (wanted.kind == PropertyKind::Font) {
         OpenFonts(wanted);
+    } else if (wanted.kind == PropertyKind::Items) {
+        OpenContents(wanted);
+    } else if (wanted.kind == PropertyKind::Picture) {
+        OpenPicture(wanted);
     } else {
         OpenText(wanted);
     }
 }
 
-void PropertyBrowser::OpenText(const PropertyRow& row) {
-    const auto lines =
-        row.kind == PropertyKind::Items ? TextDialog::Lines::Items : TextDialog::Lines::Breaks;
+void PropertyBrowser::OpenContents(const PropertyRow& row) {
     const Text former = EditedValue(row);
-    auto* const dialog = new TextDialog(qt::ToQString(row.name), former, lines, this);
+    auto* const dialog = new ContentsDialog(qt::ToQString(row.name), former, TextCheck(), this);
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    connect(dialog, &QDialog::accepted, this, [this, dialog, former, name = row.name] {
+        if (dialog->Result() != former) {
+            AssignTo(name, dialog->Result());
+        }
+    });
+    connect(dialog, &ContentsDialog::TextWanted, this,
+            [this, name = row.name](const QString& contents) {
+                if (const int line = model_.Find(name); line >= 0) {
+                    OpenText(model_.Row(line), qt::ToText(contents));
+                }
+            });
+    dialog->open();
+}
+
+void PropertyBrowser::OpenText(const PropertyRow& row) {
+    OpenText(row, EditedValue(row));
+}
+
+// `text` is the text that the dialog begins with.
+void PropertyBrowser::OpenText(const PropertyRow& row, const Text& text) {
+    const auto lines = row.kind == PropertyKind::Items   ? TextDialog::Lines::Items
+                       : row.kind == PropertyKind::Lines ? TextDialog::Lines::List
+                                                         : TextDialog::Lines::Breaks;
+    const Text former = EditedValue(row);
+    auto* const dialog = new TextDialog(qt::ToQString(row.name), text, lines, this);
+    dialog->CheckWith(TextCheck());
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    connect(dialog, &QDialog::accepted, this, [this, dialog, former, name = row.name] {
+        if (dialog->Result() != former) {
+            AssignTo(name, dialog->Result());
+        }
+    });
+    dialog->open();
+}
+
+void PropertyBrowser::OpenPicture(const PropertyRow& row) {
+    const Text former = row.value ? ToText(*row.value) : Text();
+    auto* const dialog = new PictureDialog(row.name, former, this);
     dialog->setAttribute(Qt::WA_DeleteOnClose);
     connect(dialog, &QDialog::accepted, this, [this, dialog, former, name = row.name] {
         if (dialog->Result() != former) {

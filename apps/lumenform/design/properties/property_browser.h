@@ -1,10 +1,13 @@
 #pragma once
 
 #include <QLabel>
+#include <QSettings>
 #include <QWidget>
+#include <functional>
 
 #include "apps/lumenform/design/model/form_design.h"
 #include "apps/lumenform/design/properties/control_messages.h"
+#include "apps/lumenform/design/properties/filter_bar.h"
 #include "apps/lumenform/design/properties/notice.h"
 #include "apps/lumenform/design/properties/property_list.h"
 #include "apps/lumenform/design/properties/property_model.h"
@@ -37,6 +40,10 @@ class PropertyBrowser final : public QWidget {
     /// shown below the list.
     bool FinishEditing();
 
+    /// Keeps the order of the list in these settings, which must outlive the browser.
+    void RememberIn(QSettings& settings);
+
+    FilterBar& Filter() const { return *filter_; }
     PropertyTable& Table() const { return *table_; }
     const PropertyModel& Model() const { return model_; }
     /// The description of the selection above the list.
@@ -54,18 +61,30 @@ class PropertyBrowser final : public QWidget {
 
  private:
     void LayOut();
+    void ConnectFilter();
     void Refresh();
     void FollowSelection();
     void ShowCurrent();
     void GoBack();
     QString DescribeSelection() const;
     QString TryToAssign(int row, const Value& value);
+    QString WhyUnwritable(const PropertyRow& row, const Value& value) const;
+    std::function<QString(TextView)> TextCheck() const;
     void Assign(int row, const Value& value);
+    void Reset(int row);
+    void SayWhy(const QString& refusal);
+    void FilterBy(const QString& text);
+    void Group(bool isGrouped);
+    template <typename Change>
+    void Rearrange(const Change& change);
     void AssignTo(const Text& name, const Value& value);
     void OpenMore(int row);
     void OpenText(const PropertyRow& row);
+    void OpenText(const PropertyRow& row, const Text& text);
+    void OpenContents(const PropertyRow& row);
     void OpenColors(const PropertyRow& row);
     void OpenFonts(const PropertyRow& row);
+    void OpenPicture(const PropertyRow& row);
     void FitHelp();
 
     FormDesign& design_;
@@ -73,11 +92,13 @@ class PropertyBrowser final : public QWidget {
     PropertyList list_;
     PropertyModel model_;
     QLabel* heading_;
+    FilterBar* filter_;
     PropertyTable* table_;
     PropertyDelegate* delegate_;
     Notice* notice_;
     QLabel* help_;
     Text wanted_ = u"Caption";  // the property that was current last
+    QSettings* settings_ = nullptr;
     bool isRefreshing_ = false;
     bool isAssigning_ = false;
 };

@@ -8,6 +8,8 @@
 
 #include "apps/lumenform/design/properties/cell_editors.h"
 #include "apps/lumenform/design/properties/color_text.h"
+#include "apps/lumenform/design/properties/focus_look.h"
+#include "apps/lumenform/design/properties/pictures/picture_format.h"
 #include "apps/lumenform/design/properties/swatch.h"
 #include "runtime/qt/palette_color.h"
 #include "runtime/qt/qt_text.h"
@@ -18,6 +20,23 @@ namespace {
 
 bool HasControlCharacters(TextView text) {
     return std::ranges::any_of(text, [](char16_t unit) { return unit < blank; });
+}
+
+// Shows the colour or the picture of a row before its text.
+void Decorate(QStyleOptionViewItem& option, const PropertyRow& row) {
+    const int side = option.fontMetrics.ascent();
+    const double scale = option.widget->devicePixelRatioF();
+    if (row.kind == PropertyKind::Color) {
+        option.decorationSize = {side + side / 2, side};
+        const QColor color = qt::ToQColor(ToColor(*row.value), option.widget->palette());
+        option.icon = Swatch(color, option.decorationSize, scale);
+    } else if (row.kind == PropertyKind::Picture) {
+        option.decorationSize = {side, side};
+        option.icon = PictureIcon(ToText(*row.value), option.decorationSize, scale);
+    }
+    if (!option.icon.isNull()) {
+        option.features |= QStyleOptionViewItem::HasDecoration;
+    }
 }
 
 // Converts the text of an editor to the value that is assigned to the property.
@@ -50,19 +69,23 @@ PropertyDelegate& PropertyDelegate::Self() const {
 void PropertyDelegate::initStyleOption(QStyleOptionViewItem* option,
                                        const QModelIndex& index) const {
     QStyledItemDelegate::initStyleOption(option, index);
+    if (model_.IsHeading(index.row())) {
+        option->state |= QStyle::State_Enabled;
+        option->palette.setCurrentColorGroup(QPalette::Active);
+        option->backgroundBrush = option->palette.brush(QPalette::Button);
+        return;
+    }
+    if (!option->widget->hasFocus()) {
+        MuteSelection(option->palette);
+    }
     const PropertyRow& row = model_.Row(index.row());
     if (!row.canSet) {
         option->palette.setColor(QPalette::Text,
                                  option->palette.color(QPalette::Disabled, QPalette::Text));
     }
-    const bool hasColor =
-        row.kind == PropertyKind::Color && row.value && !std::holds_alternative<Empty>(*row.value);
-    if (index.column() == PropertyModel::ValueColumn && hasColor) {
-        const int side = option->fontMetrics.ascent();
-        const QColor color = qt::ToQColor(ToColor(*row.value), option->widget->palette());
-        option->features |= QStyleOptionViewItem::HasDecoration;
-        option->decorationSize = {side + side / 2, side};
-        option->icon = Swatch(color, option->decorationSize, option->widget->devicePixelRatioF());
+    const bool hasValue = row.value && !std::holds_alternative<Empty>(*row.value);
+    if (index.column() == PropertyModel::ValueColumn && hasValue) {
+        Decorate(*option, row);
     }
 }
 
@@ -98,8 +121,9 @@ QWidget* PropertyDelegate::NewValueEditor(QWidget* parent, const PropertyRow& ro
     editor->Line().installEventFilter(&Self());
     editor->Line().setAccessibleName(qt::ToQString(row.name));
     editor->Line().setAccessibleDescription(qt::ToQString(row.help));
-    // A line edit cannot contain line breaks.
-    editor->Line().setReadOnly(HasControlCharacters(EditedValue(row)));
+    // A line edit can contain neither line breaks nor pictures.
+    editor->Line().setReadOnly(row.kind == PropertyKind::Picture ||
+                               HasControlCharacters(EditedValue(row)));
     connect(editor, &ValueEditor::MoreWanted, this, [this, editor, index] {
         Finish(editor);
         Q_EMIT MoreWanted(index);

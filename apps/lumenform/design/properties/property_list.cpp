@@ -1,13 +1,17 @@
 #include "apps/lumenform/design/properties/property_list.h"
 
 #include <algorithm>
+#include <iterator>
 #include <map>
+#include <set>
 #include <utility>
 
+#include "apps/lumenform/design/model/arrange.h"
 #include "apps/lumenform/design/properties/color_text.h"
 #include "apps/lumenform/design/properties/container_properties.h"
 #include "apps/lumenform/design/properties/font_text.h"
 #include "apps/lumenform/design/properties/library_properties.h"
+#include "apps/lumenform/design/properties/pictures/picture_format.h"
 #include "apps/lumenform/design/properties/plain_properties.h"
 #include "forms/controls.h"
 #include "frame/runtime_error.h"
@@ -16,17 +20,6 @@
 namespace lumenkit::lumenform {
 
 namespace {
-
-std::vector<ObjectProperty> PropertiesOf(FormDesign& design, LiveControl& control) {
-    std::vector<ObjectProperty> properties =
-        control.Hosted() != nullptr
-            ? LibraryProperties(*control.Hosted(), design.Context().classes.enumerations)
-            : PlainProperties(design, control);
-    for (ObjectProperty& property : ContainerProperties(design, control)) {
-        properties.push_back(std::move(property));
-    }
-    return properties;
-}
 
 // The properties of one object by their names in lower case.
 class PropertiesByName {
@@ -88,6 +81,14 @@ void ReadValue(PropertyRow& row) {
     }
 }
 
+bool IsChanged(const ObjectProperty& property) {
+    try {
+        return property.isChanged && property.isChanged();
+    } catch (const RuntimeError&) {  // the value in the companion file is no text
+        return true;
+    }
+}
+
 PropertyRow RowOf(std::vector<ObjectProperty> properties) {
     const ObjectProperty& first = properties.front();
     PropertyRow row{
@@ -98,6 +99,9 @@ PropertyRow RowOf(std::vector<ObjectProperty> properties) {
         .canSet = std::ranges::all_of(
             properties, [](const ObjectProperty& property) { return property.set != nullptr; }),
         .isOnPage = std::ranges::all_of(properties, &ObjectProperty::isOnPage),
+        .isChanged = std::ranges::any_of(properties, IsChanged),
+        .canReset = std::ranges::all_of(
+            properties, [](const ObjectProperty& property) { return property.reset != nullptr; }),
         .value = {},
         .properties = std::move(properties)};
     ReadValue(row);
@@ -115,12 +119,15 @@ Text TextOf(const PropertyRow& row, const Value& value) {
         case PropertyKind::Choice:
             return LabelOf(row.choices, value);
         case PropertyKind::Color:
-            return ColorText(ToColor(value));
+            return ColorName(ToColor(value));
         case PropertyKind::Font:
             return FontText(host::ToFont(value).get());
+        case PropertyKind::Picture:
+            return DescribePicture(ToText(value));
         case PropertyKind::Text:
         case PropertyKind::LongText:
         case PropertyKind::Items:
+        case PropertyKind::Lines:
         case PropertyKind::Number:
             break;
     }
@@ -130,12 +137,31 @@ Text TextOf(const PropertyRow& row, const Value& value) {
 }  // namespace
 
 PropertyList::PropertyList(FormDesign& design, ControlMessages& messages)
-    : design_(design), messages_(messages), rows_(Read()) {}
+    : design_(design), messages_(messages), defaults_(messages), rows_(Read()) {}
+
+std::vector<ObjectProperty> PropertyList::PropertiesOf(LiveControl& control) const {
+    std::vector<ObjectProperty> properties =
+        control.Hosted() == nullptr
+            ? PlainProperties(design_, control)
+            : LibraryProperties(*control.Hosted(), design_.Context().classes.enumerations,
+                                defaults_, InsideOf(design_, ContainerOf(design_, control)).font);
+    std::ranges::move(ContainerProperties(design_, control), std::back_inserter(properties));
+    std::set<Text> known;
+    for (const ObjectProperty& property : properties) {
+        known.insert(LCase(property.name));
+    }
+    if (control.Hosted() != nullptr) {
+        known.merge(defaults_.NamesOf(*control.Hosted()));
+    }
+    std::ranges::move(OtherProperties(design_, control, std::move(known)),
+                      std::back_inserter(properties));
+    return properties;
+}
 
 std::vector<std::vector<ObjectProperty>> PropertyList::PropertiesOfSelection() const {
     std::vector<std::vector<ObjectProperty>> lists;
     for (LiveControl* control : design_.Selected()) {
-        lists.push_back(PropertiesOf(design_, *control));
+        lists.push_back(PropertiesOf(*control));
     }
     if (lists.empty()) {
         lists.push_back(FormProperties(design_));
@@ -157,10 +183,10 @@ std::vector<PropertyRow> PropertyList::Read() const {
     return rows;
 }
 
-void PropertyList::Apply(const std::vector<ObjectProperty>& properties, const Value& value) {
+void PropertyList::Apply(const std::vector<ObjectProperty>& properties, const Change& change) {
     const ControlMessages::Listener listener(messages_);
     for (const ObjectProperty& property : properties) {
-        property.set(value);
+        change(property);
         if (!listener.Heard().empty()) {
             throw RuntimeError(static_cast<std::int32_t>(ErrorNumber::InvalidPropertyValue),
                                listener.Heard().front());
@@ -170,14 +196,13 @@ void PropertyList::Apply(const std::vector<ObjectProperty>& properties, const Va
 
 // Blocks remain valid during the change, but their names may change.
 void PropertyList::ApplyToBlocks(const std::vector<ObjectProperty>& properties,
-                                 const Value& value) {
-    const QString title = qt::ToQString(properties.front().name);
+                                 const QString& title, const Change& change) {
     design_.Restructure(title, [&] {
         std::vector<const forms::Block*> selected;
         for (const LiveControl* control : design_.Selected()) {
             selected.push_back(&control->Block());
         }
-        Apply(properties, value);
+        Apply(properties, change);
         design_.View().Save();  // writes the changes to live controls
         std::vector<Text> names;
         names.reserve(selected.size());
@@ -188,17 +213,26 @@ void PropertyList::ApplyToBlocks(const std::vector<ObjectProperty>& properties,
     });
 }
 
-void PropertyList::Assign(std::size_t row, const Value& value) {
+void PropertyList::ChangeAll(std::size_t row, const QString& title, const Change& change) {
     const std::vector<ObjectProperty> properties =
         rows_.at(row).properties;  // a copy: the rows change
     const bool inBlocks = std::ranges::any_of(properties, [](const ObjectProperty& property) {
         return property.place == PropertyPlace::Block;
     });
     if (inBlocks) {
-        ApplyToBlocks(properties, value);
+        ApplyToBlocks(properties, title, change);
     } else {
-        design_.Edit(qt::ToQString(properties.front().name), [&] { Apply(properties, value); });
+        design_.Edit(title, [&] { Apply(properties, change); });
     }
+}
+
+void PropertyList::Assign(std::size_t row, const Value& value) {
+    ChangeAll(row, qt::ToQString(rows_.at(row).name),
+              [&](const ObjectProperty& property) { property.set(value); });
+}
+
+void PropertyList::Reset(std::size_t row, const QString& title) {
+    ChangeAll(row, title, [](const ObjectProperty& property) { property.reset(); });
 }
 
 Text EditedValue(const PropertyRow& row) {

@@ -1,12 +1,15 @@
 #pragma once
 
+#include <QString>
 #include <cstddef>
+#include <functional>
 #include <optional>
 #include <utility>
 #include <vector>
 
 #include "apps/lumenform/design/model/form_design.h"
 #include "apps/lumenform/design/properties/control_messages.h"
+#include "apps/lumenform/design/properties/library_defaults.h"
 #include "apps/lumenform/design/properties/object_property.h"
 #include "frame/text.h"
 
@@ -20,6 +23,8 @@ struct PropertyRow {
     std::vector<Choice> choices;
     bool canSet = false;
     bool isOnPage = false;
+    bool isChanged = false;  ///< one of the objects has another value than the default
+    bool canReset = false;
     std::optional<Value> value;  ///< empty if the objects have different values
     std::vector<ObjectProperty> properties;
 };
@@ -38,14 +43,23 @@ class PropertyList {
     /// Assigns the value to all selected objects in one step of the history. If one rejects it,
     /// raises RuntimeError or FormError and changes nothing.
     void Assign(std::size_t row, const Value& value);
+    /// Gives all selected objects the default value in one step of the history with this title.
+    /// Raises the same errors. The row must have `canReset`.
+    void Reset(std::size_t row, const QString& title);
 
  private:
+    std::vector<ObjectProperty> PropertiesOf(LiveControl& control) const;
     std::vector<std::vector<ObjectProperty>> PropertiesOfSelection() const;
-    void Apply(const std::vector<ObjectProperty>& properties, const Value& value);
-    void ApplyToBlocks(const std::vector<ObjectProperty>& properties, const Value& value);
+    using Change = std::function<void(const ObjectProperty& property)>;
+
+    void ChangeAll(std::size_t row, const QString& title, const Change& change);
+    void Apply(const std::vector<ObjectProperty>& properties, const Change& change);
+    void ApplyToBlocks(const std::vector<ObjectProperty>& properties, const QString& title,
+                       const Change& change);
 
     FormDesign& design_;
     ControlMessages& messages_;
+    mutable LibraryDefaults defaults_;
     std::vector<PropertyRow> rows_;
 };
 

@@ -2,8 +2,10 @@
 
 #include <QHeaderView>
 #include <QKeyEvent>
+#include <QMenu>
 #include <algorithm>
 
+#include "apps/lumenform/design/properties/focus_look.h"
 #include "apps/lumenform/design/properties/property_model.h"
 
 namespace lumenkit::lumenform {
@@ -22,6 +24,9 @@ PropertyTable::PropertyTable(QWidget* parent) : QTableView(parent) {
     horizontalHeader()->setHighlightSections(false);
     horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     connect(this, &QTableView::clicked, this, [this](const QModelIndex& index) {
+        if (IsHeading(index.row())) {
+            return;
+        }
         GoTo(index.row());
         if (index.column() == PropertyModel::ValueColumn) {
             EditCurrent();
@@ -32,6 +37,36 @@ PropertyTable::PropertyTable(QWidget* parent) : QTableView(parent) {
 void PropertyTable::setModel(QAbstractItemModel* model) {
     QTableView::setModel(model);
     FitRows();  // needs the columns
+    SpanHeadings();
+    connect(model, &QAbstractItemModel::modelReset, this, &PropertyTable::SpanHeadings);
+}
+
+void PropertyTable::SpanHeadings() {
+    clearSpans();
+    for (int row = 0; row < model()->rowCount(); ++row) {
+        if (IsHeading(row)) {
+            setSpan(row, 0, 1, model()->columnCount());
+        }
+    }
+}
+
+bool PropertyTable::IsHeading(int row) const {
+    return model()->index(row, PropertyModel::NameColumn).data(PropertyModel::headingRole).toBool();
+}
+
+// Returns the value of the first property from a row on, upwards or downwards. If only headings
+// follow, looks in the other direction.
+QModelIndex PropertyTable::NearestProperty(int row, int step) const {
+    const int count = model()->rowCount();
+    for (const int direction : {step, -step}) {
+        for (int near = std::clamp(row, 0, count - 1); near >= 0 && near < count;
+             near += direction) {
+            if (!IsHeading(near)) {
+                return model()->index(near, PropertyModel::ValueColumn);
+            }
+        }
+    }
+    return {};
 }
 
 void PropertyTable::FitRows() {
@@ -49,12 +84,18 @@ void PropertyTable::changeEvent(QEvent* event) {
     }
 }
 
-void PropertyTable::GoTo(int row) {
-    if (model() == nullptr || model()->rowCount() == 0) {
-        return;
+void PropertyTable::paintEvent(QPaintEvent* event) {
+    QTableView::paintEvent(event);
+    if (hasFocus()) {
+        DrawFocusFrame(*viewport());
     }
-    setCurrentIndex(
-        model()->index(std::clamp(row, 0, model()->rowCount() - 1), PropertyModel::ValueColumn));
+}
+
+void PropertyTable::GoTo(int row) {
+    if (model() != nullptr && model()->rowCount() > 0) {
+        const bool isBack = row < currentIndex().row();
+        setCurrentIndex(NearestProperty(row, isBack ? -1 : 1));
+    }
 }
 
 void PropertyTable::EditCurrent() {
@@ -70,20 +111,29 @@ QModelIndex PropertyTable::moveCursor(CursorAction action, Qt::KeyboardModifiers
         case MoveRight:
             return currentIndex();
         case MoveHome:
-            return model()->index(0, PropertyModel::ValueColumn);
+            return NearestProperty(0, 1);
         case MoveEnd:
-            return model()->index(model()->rowCount() - 1, PropertyModel::ValueColumn);
+            return NearestProperty(model()->rowCount() - 1, -1);
         default:
-            return QTableView::moveCursor(action, modifiers)
-                .siblingAtColumn(PropertyModel::ValueColumn);
+            break;
     }
+    const int row = QTableView::moveCursor(action, modifiers).row();
+    return NearestProperty(row, row < currentIndex().row() ? -1 : 1);
 }
+
+namespace {
+
+bool IsReset(const QKeyEvent& key) {
+    return key.key() == Qt::Key_Delete && key.modifiers() == Qt::ControlModifier;
+}
+
+}  // namespace
 
 // Overrides window shortcuts for the keys of the table: Delete edits the value.
 bool PropertyTable::event(QEvent* event) {
     if (event->type() == QEvent::ShortcutOverride) {
         const auto& key = static_cast<const QKeyEvent&>(*event);
-        if (key.key() == Qt::Key_F4 || key.matches(QKeySequence::Delete)) {
+        if (key.key() == Qt::Key_F4 || key.matches(QKeySequence::Delete) || IsReset(key)) {
             event->accept();
         }
     }
@@ -95,11 +145,39 @@ void PropertyTable::keyPressEvent(QKeyEvent* event) {
         event->key() == Qt::Key_Down && event->modifiers().testFlag(Qt::AltModifier);
     if (event->key() == Qt::Key_F4 || isAltDown) {
         Q_EMIT MoreWanted(currentIndex().row());
+    } else if (IsReset(*event)) {
+        Q_EMIT ResetWanted(currentIndex().row());
+    } else if (event->key() == Qt::Key_Escape) {
+        Q_EMIT Escaped();
     } else if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
         EditCurrent();
     } else {
         QTableView::keyPressEvent(event);
     }
+}
+
+void PropertyTable::contextMenuEvent(QContextMenuEvent* event) {
+    const bool isByMouse = event->reason() == QContextMenuEvent::Mouse;
+    const QModelIndex index = isByMouse ? indexAt(event->pos()) : currentIndex();
+    if (!index.isValid() || IsHeading(index.row())) {
+        return;
+    }
+    GoTo(index.row());
+    OpenMenu(isByMouse ? event->globalPos()
+                       : viewport()->mapToGlobal(visualRect(currentIndex()).bottomLeft()));
+}
+
+void PropertyTable::OpenMenu(const QPoint& at) {
+    auto* const menu = new QMenu(this);
+    menu->setAttribute(Qt::WA_DeleteOnClose);
+    const QModelIndex current = currentIndex();
+    QAction* const edit = menu->addAction(tr("Edit"), this, &PropertyTable::EditCurrent);
+    edit->setEnabled(current.flags().testFlag(Qt::ItemIsEditable));
+    QAction* const reset =
+        menu->addAction(tr("Reset to default\tCtrl+Del"), this,
+                        [this, row = current.row()] { Q_EMIT ResetWanted(row); });
+    reset->setEnabled(current.data(PropertyModel::resettableRole).toBool());
+    menu->popup(at);
 }
 
 }  // namespace lumenkit::lumenform

@@ -60,6 +60,25 @@ Value AsFont(const Value& value) {
     return ObjectRef(host::ToFont(value));
 }
 
+bool IsStated(const forms::Block& block, TextView name) {
+    return block.FindProperty(name) != nullptr || block.FindGroup(name) != nullptr;
+}
+
+void Remove(forms::Block& block, TextView name) {
+    while (block.Remove(name)) {
+    }
+}
+
+// Fonts that are stated and properties with an unknown default count as changed.
+bool IsChanged(FormDesign& design, forms::Block& block, const StoredProperty& property) {
+    if (!IsStated(block, property.name)) {
+        return false;
+    }
+    const Value value =
+        BagOf(design.Document(), block).ReadProperty(property.name, property.otherwise);
+    return std::holds_alternative<ObjectRef>(value) || !SameValue(value, property.otherwise);
+}
+
 // How a type is shown and converted.
 struct TypeTraits {
     PropertyKind kind;
@@ -82,6 +101,10 @@ const TypeTraits& TraitsOf(StoredType type) {
 
 }  // namespace
 
+void StoreLiteral(forms::Block& block, TextView name, forms::Literal literal) {
+    block.Set(name, std::move(literal), Predecessor(block, name));
+}
+
 ObjectProperty MakeProperty(FormDesign& design, forms::Block& block, StoredProperty property) {
     const TypeTraits& type = TraitsOf(property.type);
     ObjectProperty made{.name = property.name, .help = Text(property.help), .kind = type.kind};
@@ -91,6 +114,10 @@ ObjectProperty MakeProperty(FormDesign& design, forms::Block& block, StoredPrope
             BagOf(design.Document(), block).ReadProperty(property.name, property.otherwise);
         return std::holds_alternative<Empty>(value) ? value : type.convert(value);
     };
+    if (!property.isRequired) {
+        made.isChanged = [&design, &block, property] { return IsChanged(design, block, property); };
+        made.reset = [&block, name = property.name] { Remove(block, name); };
+    }
     made.set = [&design, &block, &type, property = std::move(property)](const Value& value) {
         Write(design, block, property.name, type.convert(value), property.otherwise);
     };

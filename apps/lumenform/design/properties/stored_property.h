@@ -19,6 +19,7 @@ enum class StoredType : std::uint8_t {
     Enumeration,
     Color,
     Font,
+    Picture,  ///< for a table of properties: see PictureProperty
 };
 
 struct StoredProperty {
@@ -27,7 +28,11 @@ struct StoredProperty {
     StoredType type = StoredType::Text;
     Value otherwise = {};              ///< the value that a block without the property means
     std::vector<Choice> choices = {};  ///< of an enumeration
+    bool isRequired = false;           ///< has no default that could take its place
 };
+
+/// Sets a value in the block, in the place that a designer gives the property.
+void StoreLiteral(forms::Block& block, TextView name, forms::Literal literal);
 
 /// Makes the property of the block. Assigned values are converted to its type.
 ObjectProperty MakeProperty(FormDesign& design, forms::Block& block, StoredProperty property);

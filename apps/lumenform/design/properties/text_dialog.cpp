@@ -1,8 +1,8 @@
 #include "apps/lumenform/design/properties/text_dialog.h"
 
-#include <QDialogButtonBox>
 #include <QKeySequence>
 #include <QLabel>
+#include <QPushButton>
 #include <QShortcut>
 #include <QTextDocument>
 #include <QVBoxLayout>
@@ -25,37 +25,67 @@ Text DividerOf(TextView text, TextDialog::Lines lines) {
     return hasBareBreaks ? Text(u"\n") : Text(crLf);
 }
 
+QString HintFor(TextDialog::Lines lines) {
+    switch (lines) {
+        case TextDialog::Lines::Items:
+            return TextDialog::tr("One item a line: value;caption. Ctrl+Enter: OK");
+        case TextDialog::Lines::List:
+            return TextDialog::tr("One item a line. Ctrl+Enter: OK");
+        case TextDialog::Lines::Breaks:
+            break;
+    }
+    return TextDialog::tr("Ctrl+Enter: OK");
+}
+
 }  // namespace
 
 TextDialog::TextDialog(const QString& title, Text text, Lines lines, QWidget* parent)
     : QDialog(parent),
       text_(std::move(text)),
       divider_(DividerOf(text_, lines)),
-      edit_(new QPlainTextEdit(this)) {
+      edit_(new QPlainTextEdit(this)),
+      notice_(new Notice(this)),
+      buttons_(new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this)) {
     setWindowTitle(title);
-    const bool isItems = divider_ == u"|";
+    const bool hasItems = lines != Lines::Breaks;
     edit_->setTabChangesFocus(true);
     edit_->setAccessibleName(title);
-    edit_->setLineWrapMode(isItems ? QPlainTextEdit::NoWrap : QPlainTextEdit::WidgetWidth);
+    edit_->setLineWrapMode(hasItems ? QPlainTextEdit::NoWrap : QPlainTextEdit::WidgetWidth);
     edit_->setPlainText(
         qt::ToQString(text_).replace(qt::ToQString(divider_), QStringLiteral("\n")));
     edit_->moveCursor(QTextCursor::End);
-    auto* const buttons =
-        new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);
-    connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
-    connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
+    connect(buttons_, &QDialogButtonBox::accepted, this, &QDialog::accept);
+    connect(buttons_, &QDialogButtonBox::rejected, this, &QDialog::reject);
+    connect(edit_, &QPlainTextEdit::textChanged, this, &TextDialog::Check);
     connect(new QShortcut(QKeySequence(Qt::CTRL | Qt::Key_Return), this), &QShortcut::activated,
             this, &QDialog::accept);
     auto* const layout = new QVBoxLayout(this);
     layout->addWidget(edit_);
-    layout->addWidget(new QLabel(
-        isItems ? tr("One item a line: value;caption. Ctrl+Enter: OK") : tr("Ctrl+Enter: OK"),
-        this));
-    layout->addWidget(buttons);
+    layout->addWidget(new QLabel(HintFor(lines), this));
+    layout->addWidget(notice_);
+    layout->addWidget(buttons_);
     const QFontMetrics metrics = edit_->fontMetrics();
     constexpr int columns = 60;
     constexpr int rows = 14;
     resize(metrics.averageCharWidth() * columns, metrics.height() * rows);
+}
+
+void TextDialog::CheckWith(std::function<QString(TextView)> whyNot) {
+    whyNot_ = std::move(whyNot);
+    Check();
+}
+
+void TextDialog::Check() {
+    const QString why = whyNot_ ? whyNot_(Result()) : QString();
+    notice_->Say(why);
+    buttons_->button(QDialogButtonBox::Ok)->setEnabled(why.isEmpty());
+}
+
+// Also the key of OK does nothing while the text is refused.
+void TextDialog::accept() {
+    if (buttons_->button(QDialogButtonBox::Ok)->isEnabled()) {
+        QDialog::accept();
+    }
 }
 
 Text TextDialog::Result() const {

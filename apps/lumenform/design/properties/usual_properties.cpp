@@ -10,9 +10,6 @@ namespace lumenkit::lumenform {
 namespace {
 
 constexpr std::array<TextView, 3> textAlignments = {u"0 - Left", u"1 - Right", u"2 - Centre"};
-constexpr std::array<TextView, 2> buttonAlignments = {u"0 - Left", u"1 - Right"};
-constexpr std::array<TextView, 2> backStyles = {u"0 - Transparent", u"1 - Opaque"};
-constexpr std::array<TextView, 2> borderStyles = {u"0 - None", u"1 - Single"};
 constexpr std::array<TextView, 6> formBorderStyles = {
     u"0 - None",         u"1 - Fixed single",      u"2 - Sizable",
     u"3 - Fixed dialog", u"4 - Fixed tool window", u"5 - Sizable tool window"};
@@ -23,8 +20,6 @@ constexpr std::array<TextView, 2> buttonStyles = {u"0 - Standard", u"1 - Graphic
 constexpr std::array<TextView, 2> listStyles = {u"0 - Standard", u"1 - Check boxes"};
 constexpr std::array<TextView, 3> selections = {u"0 - One item", u"1 - Several items",
                                                 u"2 - Ranges of items"};
-constexpr std::array<TextView, 4> scrollBars = {u"0 - None", u"1 - Horizontal", u"2 - Vertical",
-                                                u"3 - Both"};
 constexpr std::array<TextView, 8> scaleModes = {
     u"0 - User",       u"1 - Twips",  u"2 - Points",      u"3 - Pixels",
     u"4 - Characters", u"5 - Inches", u"6 - Millimetres", u"7 - Centimetres"};
@@ -45,8 +40,8 @@ constexpr std::array<TextView, 8> fillStyles = {
     u"6 - Cross",          u"7 - Diagonal cross"};
 
 constexpr UsualProperty ChoiceOf(TextView name, TextView help, std::int32_t otherwise,
-                                 std::span<const TextView> choices) {
-    return {name, help, StoredType::Enumeration, otherwise, choices};
+                                 ChoiceLabels labels) {
+    return {name, help, StoredType::Enumeration, otherwise, labels};
 }
 constexpr UsualProperty Truth(TextView name, TextView help, bool otherwise) {
     return {name, help, StoredType::Truth, otherwise, {}};
@@ -61,10 +56,15 @@ constexpr UsualProperty String(TextView name, TextView help, StoredType type = S
     return {name, help, type, TextView(), {}};
 }
 
+constexpr UsualProperty PictureOf(TextView name, TextView help) {
+    return {name, help, StoredType::Picture, {}, {}};
+}
+
 constexpr UsualProperty textAlignment =
     ChoiceOf(u"Alignment", u"The alignment of the text.", 0, textAlignments);
-constexpr UsualProperty buttonAlignment = ChoiceOf(
-    u"Alignment", u"The side of the text on which the mark is drawn.", 0, buttonAlignments);
+constexpr UsualProperty buttonAlignment =
+    ChoiceOf(u"Alignment", u"The side of the text on which the mark is drawn.", 0,
+             choices::buttonAlignments);
 constexpr UsualProperty buttonStyle =
     ChoiceOf(u"Style", u"Determines whether the button has its own pictures and background.", 0,
              buttonStyles);
@@ -78,9 +78,10 @@ constexpr UsualProperty toolTip =
     String(u"ToolTipText", u"The text that appears when the mouse rests on the object.");
 constexpr UsualProperty locked =
     Truth(u"Locked", u"Determines whether a control can be edited.", false);
-constexpr UsualProperty border = ChoiceOf(u"BorderStyle", stock::borderStyleHelp, 1, borderStyles);
+constexpr UsualProperty border =
+    ChoiceOf(u"BorderStyle", stock::borderStyleHelp, 1, choices::borderStyles);
 constexpr UsualProperty noBorder =
-    ChoiceOf(u"BorderStyle", stock::borderStyleHelp, 0, borderStyles);
+    ChoiceOf(u"BorderStyle", stock::borderStyleHelp, 0, choices::borderStyles);
 constexpr UsualProperty borderColor =
     ColorOf(u"BorderColor", u"The colour of the border.", Color::WindowText);
 constexpr UsualProperty borderWidth =
@@ -96,10 +97,81 @@ constexpr UsualProperty clientHeight = {
 constexpr UsualProperty clientWidth = {
     u"ClientWidth", u"The width of the form's client area in twips.", StoredType::Number};
 
+constexpr UsualProperty picture = PictureOf(u"Picture", u"The picture of the object.");
+constexpr UsualProperty downPicture =
+    PictureOf(u"DownPicture", u"The picture of a pressed button, if Style is 1.");
+constexpr UsualProperty disabledPicture =
+    PictureOf(u"DisabledPicture", u"The picture of a disabled button, if Style is 1.");
+constexpr UsualProperty mouseIcon =
+    PictureOf(u"MouseIcon", u"The mouse pointer, if MousePointer is 99.");
+constexpr UsualProperty dragIcon =
+    PictureOf(u"DragIcon", u"The mouse pointer while the object is dragged.");
+
+// ---- Properties that many classes share
+
+constexpr std::array<TextView, 2> appearances = {u"0 - Flat", u"1 - 3D"};
+constexpr std::array<TextView, 2> dragModes = {u"0 - By code", u"1 - By mouse"};
+constexpr std::array<TextView, 2> oleDragModes = {u"0 - By code", u"1 - By mouse"};
+constexpr std::array<TextView, 3> oleDropModes = {u"0 - None", u"1 - By code",
+                                                  u"2 - By the control"};
+constexpr std::array<TextView, 5> alignedEdges = {u"0 - None", u"1 - Top", u"2 - Bottom",
+                                                  u"3 - Left", u"4 - Right"};
+
+constexpr UsualProperty causesValidation =
+    Truth(u"CausesValidation", u"Determines whether the control that loses the focus is validated.",
+          true);
+constexpr UsualProperty dragMode = ChoiceOf(
+    u"DragMode", u"Determines whether the mouse or the program starts a drag.", 0, dragModes);
+constexpr UsualProperty helpContextId =
+    Number(u"HelpContextID", u"The number of the help topic for F1. 0: none.", 0);
+constexpr UsualProperty whatsThisHelpId =
+    Number(u"WhatsThisHelpID", u"The number of the help topic that a popup shows. 0: none.", 0);
+
+constexpr std::array looks = {
+    ChoiceOf(u"Appearance", u"Determines whether the object is flat or looks raised.", 1,
+             appearances),
+    Truth(u"RightToLeft", u"Determines whether the text runs from right to left.", false)};
+constexpr std::array pointing = {
+    ChoiceOf(u"MousePointer", stock::mousePointerHelp, 0, choices::mousePointers), mouseIcon,
+    ChoiceOf(u"OLEDropMode", u"Determines how the object takes dropped data.", 0, oleDropModes)};
+constexpr std::array dragging = {dragMode, dragIcon};
+constexpr std::array validating = {causesValidation};
+constexpr std::array dataDragging = {
+    ChoiceOf(u"OLEDragMode", u"Determines whether the mouse or the program starts a drag of data.",
+             0, oleDragModes)};
+constexpr std::array binding = {
+    String(u"DataField", u"The field of the record that the control shows."),
+    String(u"DataMember", u"The set of records that the control shows.")};
+constexpr std::array masking = {
+    ColorOf(u"MaskColor", u"The colour of the picture that is transparent.", Rgb(192, 192, 192)),
+    Truth(u"UseMaskColor", u"Determines whether MaskColor is transparent.", false)};
+constexpr std::array painting = {
+    Truth(u"AutoRedraw", u"Determines whether the object keeps what is drawn on it.", false),
+    Truth(u"ClipControls", u"Determines whether drawing leaves out the controls.", true),
+    Number(u"DrawMode", u"How drawn colours are combined with the background. 13: copied.", 13),
+    Number(u"DrawStyle", u"The style of drawn lines. 0: solid.", 0),
+    Number(u"DrawWidth", u"The width of drawn lines in pixels.", 1),
+    ColorOf(u"FillColor", u"The colour that fills drawn shapes.", Rgb(0, 0, 0)),
+    ChoiceOf(u"FillStyle", u"The pattern that fills drawn shapes.", 1, fillStyles),
+    Truth(u"FontTransparent", u"Determines whether the background is seen behind drawn text.",
+          true),
+    Truth(u"HasDC", u"Determines whether the object has a drawing context of its own.", true)};
+
+// ---- The classes
+
 constexpr std::array checkBox = {
-    buttonAlignment, backColor, caption,
-    enabled,         font,      foreColor,
-    buttonStyle,     toolTip,   ChoiceOf(u"Value", u"The state of the check box.", 0, checkValues)};
+    buttonAlignment,
+    backColor,
+    caption,
+    downPicture,
+    disabledPicture,
+    enabled,
+    font,
+    foreColor,
+    buttonStyle,
+    picture,
+    toolTip,
+    ChoiceOf(u"Value", u"The state of the check box.", 0, checkValues)};
 constexpr std::array comboBox = {
     backColor,
     enabled,
@@ -108,16 +180,28 @@ constexpr std::array comboBox = {
     locked,
     ChoiceOf(u"Style", u"Determines whether the user can type a text, choose an item, or both.", 0,
              comboStyles),
+    Truth(u"IntegralHeight", u"Determines whether the list shows only complete items.", true),
+    Truth(u"Sorted", u"Determines whether the items are sorted.", false),
     String(u"Text", u"The text in the box."),
     toolTip};
 constexpr std::array commandButton = {
-    backColor,   Truth(u"Cancel", u"Determines whether Esc presses the button.", false),
-    caption,     Truth(u"Default", u"Determines whether Enter presses the button.", false),
-    enabled,     font,
-    buttonStyle, toolTip};
-constexpr std::array frame = {backColor, caption, enabled, font, foreColor, toolTip};
+    backColor,       Truth(u"Cancel", u"Determines whether Esc presses the button.", false),
+    caption,         Truth(u"Default", u"Determines whether Enter presses the button.", false),
+    enabled,         font,
+    buttonStyle,     downPicture,
+    disabledPicture, picture,
+    toolTip};
+constexpr std::array frame = {
+    backColor,
+    border,
+    Truth(u"ClipControls", u"Determines whether drawing leaves out the controls.", true),
+    caption,
+    enabled,
+    font,
+    foreColor,
+    toolTip};
 constexpr std::array image = {
-    noBorder, enabled,
+    noBorder, enabled, picture,
     Truth(u"Stretch", u"Determines whether the picture is stretched to the size of the control.",
           false),
     toolTip};
@@ -126,13 +210,14 @@ constexpr std::array label = {
     Truth(u"AutoSize", u"Determines whether the label is resized to fit its text.", false),
     backColor,
     ChoiceOf(u"BackStyle", u"Determines whether the background is transparent or opaque.", 1,
-             backStyles),
+             choices::backStyles),
     noBorder,
     caption,
     enabled,
     font,
     foreColor,
     toolTip,
+    Truth(u"UseMnemonic", u"Determines whether & marks an access key.", true),
     Truth(u"WordWrap",
           u"With AutoSize: determines whether the label wraps its text and grows downwards.",
           false)};
@@ -151,21 +236,29 @@ constexpr std::array listBox = {
     enabled,
     font,
     foreColor,
+    Truth(u"IntegralHeight", u"Determines whether the list shows only complete items.", true),
     ChoiceOf(u"MultiSelect", u"Determines how many items the user can select.", 0, selections),
     Truth(u"Sorted", u"Determines whether the items are sorted.", false),
     ChoiceOf(u"Style", u"Determines whether each item has a check box.", 0, listStyles),
     toolTip};
 constexpr std::array optionButton = {
-    buttonAlignment,
+    buttonAlignment, backColor,
+    caption,         downPicture,
+    disabledPicture, picture,
+    enabled,         font,
+    foreColor,       buttonStyle,
+    toolTip,         Truth(u"Value", u"Determines whether the option button is selected.", false)};
+constexpr std::array pictureBox = {
+    ChoiceOf(u"Align", u"The edge of the form along which the picture box lies.", 0, alignedEdges),
+    Truth(u"AutoSize", u"Determines whether the picture box fits its picture.", false),
     backColor,
-    caption,
+    border,
     enabled,
     font,
     foreColor,
-    buttonStyle,
-    toolTip,
-    Truth(u"Value", u"Determines whether the option button is selected.", false)};
-constexpr std::array pictureBox = {backColor, border, enabled, font, foreColor, scaleMode, toolTip};
+    scaleMode,
+    picture,
+    toolTip};
 constexpr std::array scrollBar = {
     enabled,
     Number(u"LargeChange", u"The change of the value when the user clicks the bar.", 1),
@@ -176,7 +269,7 @@ constexpr std::array scrollBar = {
 constexpr std::array shape = {
     backColor,
     ChoiceOf(u"BackStyle", u"Determines whether the background is transparent or opaque.", 0,
-             backStyles),
+             choices::backStyles),
     borderColor,
     strokeStyle,
     borderWidth,
@@ -190,17 +283,21 @@ constexpr std::array textBox = {
     enabled,
     font,
     foreColor,
+    Truth(u"HideSelection", u"Determines whether the selection is hidden without the focus.", true),
     locked,
     Number(u"MaxLength",
            u"Returns/sets the maximum number of characters that can be entered in a control.", 0),
     Truth(u"MultiLine", u"Determines whether the text box can contain several lines.", false),
     String(u"PasswordChar", u"The character that is shown in place of each typed character."),
-    ChoiceOf(u"ScrollBars", u"The scroll bars of the text box.", 0, scrollBars),
+    ChoiceOf(u"ScrollBars", u"The scroll bars of the text box.", 0, choices::scrollBars),
     String(u"Text", u"Returns/sets the text contained in the control.", StoredType::LongText),
     toolTip};
 constexpr std::array timer = {
     enabled, Number(u"Interval",
                     u"The time between two events in milliseconds. 0 switches the timer off.", 0)};
+constexpr UsualProperty formTag =
+    String(u"Tag", u"A text for the use of the program.", StoredType::LongText);
+
 constexpr std::array form = {
     backColor,
     ChoiceOf(u"BorderStyle", stock::borderStyleHelp, 2, formBorderStyles),
@@ -211,67 +308,98 @@ constexpr std::array form = {
     enabled,
     font,
     foreColor,
+    PictureOf(u"Icon", u"The icon in the title bar of the form."),
+    picture,
+    helpContextId,
     Truth(u"KeyPreview", u"Determines whether the form receives key events before its controls.",
           false),
     Truth(u"MaxButton", u"Determines whether the form can be maximized.", true),
     Truth(u"MDIChild", u"Determines whether the form is a child window of an MDI form.", false),
     Truth(u"MinButton", u"Determines whether the form can be minimized.", true),
+    Truth(u"Moveable", u"Determines whether the user can move the form.", true),
     scaleMode,
+    Truth(u"ShowInTaskbar", u"Determines whether the form is shown in the taskbar.", true),
     ChoiceOf(u"StartUpPosition", u"The position of the form when it is first shown.", 3,
              startPositions),
+    formTag,
     Truth(u"Visible", u"Determines whether the form is visible.", true),
+    Truth(u"WhatsThisButton", u"Determines whether the title bar has a help button.", false),
+    Truth(u"WhatsThisHelp", u"Determines whether help topics are shown in a popup.", false),
     ChoiceOf(u"WindowState", u"The state of the window when it is first shown.", 0, windowStates)};
-constexpr std::array mdiForm = {backColor, String(u"Caption", u"The text in the title bar."),
-                                clientHeight, clientWidth, enabled};
+constexpr std::array mdiForm = {
+    backColor,    String(u"Caption", u"The text in the title bar."),
+    clientHeight, clientWidth,
+    enabled,      PictureOf(u"Icon", u"The icon in the title bar of the form."),
+    picture};
 // User controls, property pages and documents.
 constexpr std::array designed = {backColor, clientHeight, clientWidth, enabled,
-                                 font,      foreColor,    scaleMode};
+                                 font,      foreColor,    scaleMode,   picture};
+
+using Properties = std::span<const UsualProperty>;
 
 struct UsualClass {
     TextView name;
-    std::span<const UsualProperty> properties;
+    std::array<Properties, 7> parts;
 };
 
 constexpr std::array classes = {
-    UsualClass{u"VB.CheckBox", checkBox},
-    UsualClass{u"VB.ComboBox", comboBox},
-    UsualClass{u"VB.CommandButton", commandButton},
-    UsualClass{u"VB.Form", form},
-    UsualClass{u"VB.Frame", frame},
-    UsualClass{u"VB.HScrollBar", scrollBar},
-    UsualClass{u"VB.Image", image},
-    UsualClass{u"VB.Label", label},
-    UsualClass{u"VB.Line", line},
-    UsualClass{u"VB.ListBox", listBox},
-    UsualClass{u"VB.MDIForm", mdiForm},
-    UsualClass{u"VB.OptionButton", optionButton},
-    UsualClass{u"VB.PictureBox", pictureBox},
-    UsualClass{u"VB.PropertyPage", designed},
-    UsualClass{u"VB.Shape", shape},
-    UsualClass{u"VB.TextBox", textBox},
-    UsualClass{u"VB.Timer", timer},
-    UsualClass{u"VB.UserControl", designed},
-    UsualClass{u"VB.UserDocument", designed},
-    UsualClass{u"VB.VScrollBar", scrollBar},
+    UsualClass{u"VB.CheckBox", {checkBox, looks, pointing, dragging, validating, binding, masking}},
+    UsualClass{u"VB.ComboBox",
+               {comboBox, looks, pointing, dragging, validating, binding, dataDragging}},
+    UsualClass{u"VB.CommandButton",
+               {commandButton, looks, pointing, dragging, validating, masking}},
+    UsualClass{u"VB.Form", {form, looks, pointing, painting}},
+    UsualClass{u"VB.Frame", {frame, looks, pointing, dragging}},
+    UsualClass{u"VB.HScrollBar", {scrollBar, pointing, dragging, validating}},
+    UsualClass{u"VB.Image", {image, pointing, dragging, binding, dataDragging}},
+    UsualClass{u"VB.Label", {label, looks, pointing, dragging, binding}},
+    UsualClass{u"VB.Line", {line}},
+    UsualClass{u"VB.ListBox",
+               {listBox, looks, pointing, dragging, validating, binding, dataDragging}},
+    UsualClass{u"VB.MDIForm", {mdiForm, pointing}},
+    UsualClass{u"VB.OptionButton", {optionButton, looks, pointing, dragging, validating, masking}},
+    UsualClass{u"VB.PictureBox",
+               {pictureBox, looks, pointing, dragging, validating, binding, painting}},
+    UsualClass{u"VB.PropertyPage", {designed, pointing, painting}},
+    UsualClass{u"VB.Shape", {shape}},
+    UsualClass{u"VB.TextBox",
+               {textBox, looks, pointing, dragging, validating, binding, dataDragging}},
+    UsualClass{u"VB.Timer", {timer}},
+    UsualClass{u"VB.UserControl", {designed, pointing, painting}},
+    UsualClass{u"VB.UserDocument", {designed, pointing, painting}},
+    UsualClass{u"VB.VScrollBar", {scrollBar, pointing, dragging, validating}},
 };
 
 // Properties with the same meaning in every class.
-constexpr std::array common = {backColor, caption, enabled, font, foreColor, toolTip};
+constexpr std::array shared = {backColor, caption, enabled,       font,
+                               foreColor, toolTip, helpContextId, whatsThisHelpId};
+constexpr std::array<Properties, 6> common = {shared,   looks,      pointing,
+                                              dragging, validating, dataDragging};
 
 }  // namespace
 
-std::span<const UsualProperty> UsualPropertiesOf(TextView className) {
+std::vector<UsualProperty> UsualPropertiesOf(TextView className) {
     const auto* const found = std::ranges::find_if(classes, [&](const UsualClass& known) {
         return SameText(known.name, className, Compare::IgnoreCase);
     });
-    return found == classes.end() ? std::span<const UsualProperty>() : found->properties;
+    std::vector<UsualProperty> properties;
+    if (found != classes.end()) {
+        for (const Properties part : found->parts) {
+            properties.insert(properties.end(), part.begin(), part.end());
+        }
+    }
+    return properties;
 }
 
 const UsualProperty* FindCommonProperty(TextView name) {
-    const auto* const found = std::ranges::find_if(common, [&](const UsualProperty& property) {
-        return SameText(property.name, name, Compare::IgnoreCase);
-    });
-    return found == common.end() ? nullptr : &*found;
+    for (const Properties part : common) {
+        for (const UsualProperty& property : part) {
+            if (SameText(property.name, name, Compare::IgnoreCase)) {
+                return &property;
+            }
+        }
+    }
+    return nullptr;
 }
 
 }  // namespace lumenkit::lumenform

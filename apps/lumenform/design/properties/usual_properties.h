@@ -2,9 +2,10 @@
 #pragma once
 
 #include <cstdint>
-#include <span>
 #include <variant>
+#include <vector>
 
+#include "apps/lumenform/design/properties/property_choices.h"
 #include "apps/lumenform/design/properties/stored_property.h"
 #include "frame/text.h"
 
@@ -17,12 +18,12 @@ struct UsualProperty {
     StoredType type = StoredType::Text;
     /// The default value; monostate if the property has none or it is unknown.
     std::variant<std::monostate, bool, std::int32_t, TextView> otherwise = {};
-    std::span<const TextView> choices = {};  ///< indexed by their values, from 0
+    ChoiceLabels labels = {};  ///< of an enumeration
 };
 
 /// The usual properties of a class such as "VB.TextBox", without the properties that containers
 /// add to all controls. Empty for an unknown class.
-std::span<const UsualProperty> UsualPropertiesOf(TextView className);
+std::vector<UsualProperty> UsualPropertiesOf(TextView className);
 
 /// Returns the property that has the same meaning in every class, or null if there is none of this
 /// name.

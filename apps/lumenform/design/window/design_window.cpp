@@ -184,6 +184,7 @@ FormTab* DesignWindow::NewTab(forms::Document document, const FormFile& file) {
                                                         .refusesName = isOpenElsewhere,
                                                         .recovery = setup_.recovery},
                                          std::move(document), file);
+    tab->Bench().Properties().RememberIn(setup_.settings);
     connect(tab.get(), &FormTab::StateChanged, this, &DesignWindow::Follow);
     connect(tab.get(), &FormTab::Told, this, &DesignWindow::Tell);
     connect(tab.get(), &FormTab::Saved, this, &DesignWindow::Remember);

@@ -1,0 +1,16 @@
+// How the property list shows where the keyboard is.
+#pragma once
+
+#include <QPalette>
+#include <QWidget>
+
+namespace lumenkit::lumenform {
+
+/// Draws a frame in the selection colour inside the edges of the widget. Call it in a paint event.
+void DrawFocusFrame(QWidget& widget);
+
+/// Gives the palette the colours of a selection in a list without the keyboard: a light shade of
+/// the background with the usual text.
+void MuteSelection(QPalette& palette);
+
+}  // namespace lumenkit::lumenform
