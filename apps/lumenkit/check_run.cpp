@@ -8,6 +8,7 @@
 #include <utility>
 
 #include "apps/command_line/exit_status.h"
+#include "apps/command_line/spelling/printable.h"
 #include "apps/lumenkit/check/file_checks.h"
 #include "apps/lumenkit/check/fix/shown_diff.h"
 #include "apps/lumenkit/in_order.h"
@@ -46,6 +47,7 @@ FileError ErrorOf(const std::string& file, const std::exception& error) {
 }  // namespace
 
 int CheckRun::Run() {
+    RequireNamedCaptions();
     if (!options_.baseline.empty()) {
         known_.emplace(options_.baseline).Read();
     }
@@ -71,6 +73,20 @@ int CheckRun::Run() {
         return exitUnusable;
     }
     return (options_.diff ? differs_ : found_) ? exitReported : exitDone;
+}
+
+// The texts in a folder need not be captions.
+void CheckRun::RequireNamedCaptions() const {
+    if (!options_.captions || options_.fixing == Fixing::None || options_.diff) {
+        return;
+    }
+    for (const std::string& path : options_.paths) {
+        std::error_code unknown;
+        if (std::filesystem::is_directory(path, unknown)) {
+            throw std::runtime_error("--fix mends only captions whose files are named, and " +
+                                     Printable(path) + " is a folder");
+        }
+    }
 }
 
 void CheckRun::CheckFiles(const std::vector<std::string>& files) {
@@ -198,8 +214,9 @@ FixedFile CheckRun::Fixed(const std::string& file, const Result& result) {
 }
 
 void CheckRun::Show(const std::string& output) const {
+    // For a program, a diff has the bytes of the files, whatever colours are forced.
+    const bool isForPerson = options_.diff && IsTerminal(Stream::Output);
     const bool isColored = TakesColors(Stream::Output, options_.coloring);
-    const bool isForPerson = options_.diff && (isColored || IsTerminal(Stream::Output));
     std::cout << (isForPerson ? check::DiffForTerminal(output, isColored) : output);
 }
 

@@ -62,6 +62,7 @@ class CheckRun {
     void Fix(const std::string& file, Result& result);
     FixedFile Fixed(const std::string& file, const Result& result);
     void Show(const std::string& output) const;
+    void RequireNamedCaptions() const;
     void CheckFiles(const std::vector<std::string>& files);
     void Take(const std::string& file, Result result, check::ProgressBar& bar);
     void Report(const check::FileError& error);

@@ -63,7 +63,12 @@ std::string BytesOf(const fs::path& file) {
 
 std::vector<Exception> ReadFile(const fs::path& file) {
     std::vector<Exception> exceptions;
-    std::istringstream stream(BytesOf(file));
+    std::string bytes = BytesOf(file);
+    constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
+    if (bytes.starts_with(byteOrderMark)) {
+        bytes.erase(0, byteOrderMark.size());
+    }
+    std::istringstream stream(std::move(bytes));
     std::size_t number = 0;
     for (std::string line; std::getline(stream, line);) {
         ++number;

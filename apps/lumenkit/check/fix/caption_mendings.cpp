@@ -258,8 +258,12 @@ std::optional<Mending> MendNumberOverflow(const CaptionFault& fault) {
     return RemoveCommand(fault);
 }
 
+// Control characters beyond ASCII are left: they are mostly letters of a form that is read in
+// another code page than its own.
 std::optional<Mending> MendControlCharacters(const CaptionFault& fault) {
-    const std::vector<std::size_t>& controls = fault.outline.controls;
+    std::vector<std::size_t> controls = fault.outline.controls;
+    constexpr char16_t deleteCharacter = 0x7F;
+    std::erase_if(controls, [&](std::size_t at) { return fault.caption[at] > deleteCharacter; });
     if (controls.empty()) {
         return std::nullopt;
     }

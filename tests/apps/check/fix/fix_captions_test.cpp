@@ -116,9 +116,16 @@ constexpr Row<TextView, Mended> controlCharacters[] = {
     {"LineEndsBecomeSeparators", u"a\nb\r\nc\rd", {u"a\nb\r\nc\rd", u"a|CR|b|CR|c|CR|d"}},
     {"APairIsOneLineEndWhereverItStands", u"\r\n\n\r", {u"\r\n\n\r", u"|CR||CR||CR|"}},
     {"OthersBecomeBlanks",
-     u"a\tb\x85"
+     u"a\tb\x7F"
      u"c",
      {u"a b c", u"a b c"}},
+    {"LettersOfAnotherCodePageStay",
+     u"a\tb\x9D"
+     u"c",
+     {u"a b\x9D"
+      u"c",
+      u"a b\x9D"
+      u"c"}},
     {"BothInAnyOrder", u"a\tb\nc\td", {u"a b\nc d", u"a b|CR|c d"}},
     {"BehindALineEndOthersWaitForIt", u"a\nb\tc", {u"a\nb\tc", u"a|CR|b c"}},
     {"InCommandsTheyStay", u"|size:\t12|x", {u"|size:\t12|x", u"|size:\t12|x"}},

@@ -190,6 +190,33 @@ TEST_F(FixCommand, ADiffOnATerminalHasColorsAndNoControlCharacters) {
     EXPECT_THAT(diff.output, Not(HasSubstr("\xC2\x9B")));
 }
 
+// Czech in code page 1250, read as 1252: 9D is a letter there and a control character here.
+TEST_F(FixCommand, KeepsLettersOfAnotherCodePage) {
+    const std::string form = FormWith("Zvolte s\xED\x9D");
+    for (const std::string options : {"--fix", "--fix=all"}) {
+        Write("a.frm", form);
+        EXPECT_THAT(Check(options, "a.frm").output, HasSubstr("[control-character]"));
+        EXPECT_EQ(Read("a.frm"), form);
+    }
+    Write("a.frm", FormWith("s\xED\x9D\tx"));
+    EXPECT_EQ(Check("--fix --code-page 1250", "a.frm").status, 0);
+    EXPECT_EQ(Read("a.frm"), FormWith("s\xED\x9D x"));
+}
+
+TEST_F(FixCommand, RefusesFoldersOfTextsThatNeedNotBeCaptions) {
+    Write("CMakeLists.txt", "project(x)\nadd_library(y)\n");
+    const Outcome outcome = Check("--caption --fix=all");
+    EXPECT_THAT(outcome.errors, HasSubstr("is a folder"));
+    EXPECT_EQ(outcome.status, 2);
+    EXPECT_EQ(Read("CMakeLists.txt"), "project(x)\nadd_library(y)\n");
+    EXPECT_THAT(Check("--caption --fix=all --diff").output, HasSubstr("CMakeLists.txt"));
+}
+
+TEST_F(FixCommand, ForcedColoursDoNotSpoilADiffForAProgram) {
+    Write("a.frm", FormWith("|u:1|"));
+    EXPECT_THAT(Check("--diff --color=always", "a.frm").output, Not(HasSubstr("\x1b")));
+}
+
 TEST_F(FixCommand, IsAFilter) {
     const Outcome caption = RunProgram("check --caption --fix -", "|u:1|x\r\n");
     EXPECT_EQ(caption.output, "|i:1|x\r\n");
