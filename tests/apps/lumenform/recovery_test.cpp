@@ -135,12 +135,12 @@ TEST_F(Recovery, LaterKeepsTheWorkAndDiscardRemovesIt) {
 }
 
 TEST_F(Recovery, DamagedWorkStaysAndIsNotOffered) {
-    const QString folder = Store() + QStringLiteral("/damaged");
-    ASSERT_TRUE(QDir().mkpath(folder));
-    std::ofstream(lumenform::PathOf(folder + QStringLiteral("/work")))
+    const QString damaged = Store() + QStringLiteral("/damaged");
+    ASSERT_TRUE(QDir().mkpath(damaged));
+    std::ofstream(lumenform::PathOf(damaged + QStringLiteral("/work")))
         << "lumenform-recovery-1 999999 1252 x x x\nVERSION";
     EXPECT_TRUE(lumenform::AbandonedWork(Store()).empty());
-    EXPECT_TRUE(QFile::exists(folder + QStringLiteral("/work")));
+    EXPECT_TRUE(QFile::exists(damaged + QStringLiteral("/work")));
 }
 
 }  // namespace

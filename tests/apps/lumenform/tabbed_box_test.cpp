@@ -310,30 +310,30 @@ TEST(TabbedBoxDesign, AnotherCurrentPageMovesTheControlsInTheFile) {
 // ---- The property list
 
 TEST(TabbedBox, APageThatIsNotThereIsRefused) {
-    BrowsedForm form(FormWith(tabbedForm));
-    form.Select({u"Box"});
-    const std::string before = form.Saved();
+    BrowsedForm browsed(FormWith(tabbedForm));
+    browsed.Select({u"Box"});
+    const std::string before = browsed.Saved();
     for (const char* page : {"3", "9", "-1"}) {
-        form.Type(u"Tab", page);
-        EXPECT_EQ(form.Message(), "Tab: The pages are 0 to 2.") << page;
-        EXPECT_EQ(form.Saved(), before);
+        browsed.Type(u"Tab", page);
+        EXPECT_EQ(browsed.Message(), "Tab: The pages are 0 to 2.") << page;
+        EXPECT_EQ(browsed.Saved(), before);
     }
-    form.Type(u"Tab", "2");
-    EXPECT_EQ(form.Message(), "");
-    EXPECT_EQ(form.Shown(u"Tab"), "2");
+    browsed.Type(u"Tab", "2");
+    EXPECT_EQ(browsed.Message(), "");
+    EXPECT_EQ(browsed.Shown(u"Tab"), "2");
 }
 
 TEST(TabbedBox, TheEndsOfALineOnAHiddenPageAreThoseOnThePage) {
-    BrowsedForm form(FormWith(tabbedForm));
-    form.Select({u"L"});
-    EXPECT_EQ(form.Shown(u"X1"), "600");
-    EXPECT_EQ(form.Shown(u"X2"), "1800");
-    EXPECT_EQ(form.Shown(u"Y1"), "1500");
-    form.Type(u"X2", "2100");
-    EXPECT_EQ(form.Shown(u"X2"), "2100");
-    EXPECT_THAT(form.Saved(), HasSubstr("         X1 = -74400\n         X2 = -72900\n"));
-    form.design.History().undo();
-    EXPECT_EQ(form.Shown(u"X2"), "1800");
+    BrowsedForm browsed(FormWith(tabbedForm));
+    browsed.Select({u"L"});
+    EXPECT_EQ(browsed.Shown(u"X1"), "600");
+    EXPECT_EQ(browsed.Shown(u"X2"), "1800");
+    EXPECT_EQ(browsed.Shown(u"Y1"), "1500");
+    browsed.Type(u"X2", "2100");
+    EXPECT_EQ(browsed.Shown(u"X2"), "2100");
+    EXPECT_THAT(browsed.Saved(), HasSubstr("         X1 = -74400\n         X2 = -72900\n"));
+    browsed.design.History().undo();
+    EXPECT_EQ(browsed.Shown(u"X2"), "1800");
 }
 
 }  // namespace

@@ -341,7 +341,7 @@ void Outline::ShowSelection() {
         design_.Selected().empty() ? nullptr : model_.NodeOf(*design_.Selected().back());
     const QModelIndex current = last != nullptr       ? RowOf(*last)
                                 : selection.isEmpty() ? QModelIndex()
-                                                      : selection.constFirst().topLeft();
+                                                      : QModelIndex(selection.constFirst().topLeft());
     if (current.isValid()) {
         tree_->selectionModel()->setCurrentIndex(current, QItemSelectionModel::NoUpdate);
         tree_->scrollTo(current);
