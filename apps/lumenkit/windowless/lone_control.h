@@ -19,6 +19,7 @@ class LoneControl {
                 bool userMode);
     LoneControl(const LoneControl&) = delete;
     LoneControl& operator=(const LoneControl&) = delete;
+    ~LoneControl() = default;
 
     memory::Form& Form() { return form_; }
     /// The saved properties.
