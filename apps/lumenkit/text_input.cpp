@@ -8,7 +8,6 @@
 #include <memory>
 #include <string_view>
 #include <system_error>
-#include <utility>
 
 #include "forms/plain_file.h"
 #include "frame/utf8.h"
@@ -72,16 +71,15 @@ bool IsStandardInput(const std::string& path) {
     return std::ranges::find(names, path) != names.end();
 }
 
-TextFile TextFileOf(const std::string& path, std::string bytes) {
+TextFile TextFileOf(const std::string& path, std::string_view bytes) {
     const std::size_t length = bytes.size() - LengthOfFinalLineBreak(bytes);
     TextFile file;
     try {
-        file.text = FromUtf8(std::string_view(bytes).substr(0, length));
+        file.text = FromUtf8(bytes.substr(0, length));
     } catch (const MalformedUtf8& error) {
         throw UnusableInput(NameOf(path) + ": " + error.what());
     }
     file.lineBreak = bytes.substr(length);
-    file.bytes = std::move(bytes);
     return file;
 }
 

@@ -2,6 +2,7 @@
 
 #include <stdexcept>
 #include <string>
+#include <string_view>
 
 #include "frame/text.h"
 
@@ -13,9 +14,8 @@ class UnusableInput : public std::runtime_error {
     using std::runtime_error::runtime_error;
 };
 
-/// A UTF-8 file with one text.
+/// The contents of a UTF-8 file with one text.
 struct TextFile {
-    std::string bytes;      ///< all of it
     Text text;              ///< without the line break at the end
     std::string lineBreak;  ///< one line break (LF or CR LF) at the end, because editors and echo
                             ///< add one; else empty
@@ -25,7 +25,7 @@ struct TextFile {
 bool IsStandardInput(const std::string& path);
 
 /// Throws UnusableInput for bytes that are not UTF-8. `path` names them in errors.
-TextFile TextFileOf(const std::string& path, std::string bytes);
+TextFile TextFileOf(const std::string& path, std::string_view bytes);
 
 /// Reads a text from a file or from the standard input. Throws UnusableInput, also for a named
 /// pipe, whose reader would wait for a writer.

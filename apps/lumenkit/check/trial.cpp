@@ -3,18 +3,15 @@
 #include <algorithm>
 #include <map>
 #include <optional>
-#include <span>
 #include <utility>
 
 #include "apps/lumenkit/check/caption_outline.h"
 #include "apps/lumenkit/check/error_message.h"
 #include "apps/lumenkit/check/saved_properties.h"
-#include "apps/lumenkit/windowless/saved_font.h"
-#include "apps/lumenkit/windowless/saved_placing.h"
+#include "apps/lumenkit/windowless/lone_control.h"
 #include "forms/form_bag.h"
 #include "frame/automation/value.h"
 #include "frame/host/property_bag.h"
-#include "runtime/memory/form.h"
 #include "runtime/memory/hosted_control.h"
 
 namespace lumenkit::check {
@@ -87,16 +84,9 @@ class Trial {
  private:
     // Returns the reports of one start and one repaint.
     std::vector<Report> Attempt(const Replacements& replaced) const {
-        memory::Form form({.libraryName = {}, .classes = std::span(&type_, 1)});
-        forms::FormBag saved(document_, block_, [&](const forms::FontDescription& font) {
-            return windowless::SavedFont(form, font);
-        });
-        const Text tag = windowless::SavedTag(saved);
-        memory::Placing placing = windowless::SavedPlacing(saved, userMode_);
-        placing.tag = tag;
-        placing.visible = true;  // the program may show it later
-        memory::HostedControl control(form, type_, placing);
-        TrialBag bag(saved, replaced, form.GetLog());
+        windowless::LoneControl lone(document_, block_, type_, userMode_);
+        memory::HostedControl& control = lone.Hosted();
+        TrialBag bag(lone.Saved(), replaced, lone.Form().GetLog());
         control.ReadProperties(bag);
         bag.Collect(Step::Loading);
         control.FinishStart();

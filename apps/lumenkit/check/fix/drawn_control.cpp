@@ -4,21 +4,17 @@
 #include <concepts>
 #include <cstdint>
 #include <initializer_list>
-#include <span>
 #include <utility>
 #include <variant>
 
-#include "apps/lumenkit/windowless/saved_font.h"
-#include "apps/lumenkit/windowless/saved_placing.h"
+#include "apps/lumenkit/windowless/lone_control.h"
 #include "forms/font_description.h"
-#include "forms/form_bag.h"
 #include "frame/automation/value.h"
 #include "frame/color.h"
 #include "frame/host/font.h"
 #include "frame/numbers.h"
 #include "frame/runtime_error.h"
 #include "runtime/memory/display_list.h"
-#include "runtime/memory/form.h"
 #include "runtime/memory/hosted_control.h"
 #include "runtime/memory/property_bag.h"
 
@@ -113,20 +109,13 @@ class DrawingControl {
     // Returns the number of messages.
     std::size_t Describe(bool userMode, const std::vector<Text>& except,
                          Description& description) const {
-        memory::Form form({.libraryName = {}, .classes = std::span(&type_, 1)});
-        forms::FormBag saved(document_, block_, [&](const forms::FontDescription& font) {
-            return windowless::SavedFont(form, font);
-        });
-        const Text tag = windowless::SavedTag(saved);
-        memory::Placing placing = windowless::SavedPlacing(saved, userMode);
-        placing.tag = tag;
-        placing.visible = true;  // the program may show it later
-        memory::HostedControl control(form, type_, placing);
-        control.StartSaved(saved);
+        windowless::LoneControl lone(document_, block_, type_, userMode);
+        memory::HostedControl& control = lone.Hosted();
+        control.StartSaved(lone.Saved());
         for (const memory::DisplayItem& item : control.Paint().Items()) {
             std::visit([&](const auto& drawn) { description.Add(drawn); }, item);
         }
-        const std::size_t messages = form.GetLog().Messages().size();
+        const std::size_t messages = lone.Form().GetLog().Messages().size();
         for (const memory::Element* const part : control.Parts().All()) {
             description.Add(*part);
         }

@@ -154,7 +154,7 @@ TEST_P(FixModel, MendsFormsAndKeepsAllElse) {
             std::string why;
             EXPECT_TRUE(DrawTheSame(original, mended, why)) << why;
         }
-        // What is mended stays as it is.
+        // A second run mends nothing.
         EXPECT_TRUE(FormFixer(mended, lumenkitClasses, {.scope = GetParam()}).Fix().empty());
         EXPECT_EQ(mended.Write().form, after.form);
         if (::testing::Test::HasFailure()) {
