@@ -6,6 +6,7 @@
 #include <QDropEvent>
 #include <QLineEdit>
 #include <QMimeData>
+#include <QPointer>
 #include <QRadioButton>
 #include <QTest>
 #include <memory>
@@ -98,6 +99,12 @@ class ContentsDialog : public ::testing::Test {
         QTest::keyClick(&table, Qt::Key_F2);
         return qobject_cast<QLineEdit*>(QApplication::focusWidget());
     }
+    // Ends the edit of a cell, and returns when its text is taken over.
+    static void Enter(QLineEdit* line) {
+        const QPointer<QLineEdit> kept = line;
+        QTest::keyClick(line, Qt::Key_Return);
+        EXPECT_TRUE(QTest::qWaitFor([&] { return kept == nullptr; })) << "the editor stays open";
+    }
     void Press(const QString& text) const {
         for (QPushButton* button : dialog->findChildren<QPushButton*>()) {
             if (button->text() == text) {
@@ -141,7 +148,7 @@ TEST_F(ContentsDialog, ACaptionIsTyped) {
     ASSERT_NE(line, nullptr);
     line->selectAll();
     QTest::keyClicks(line, "Lime;bright");
-    QTest::keyClick(line, Qt::Key_Return);
+    Enter(line);
     EXPECT_THAT(Preview(), ElementsAre("Red", "Lime;bright", "Blue"));
     dialog->accept();
     EXPECT_EQ(Stored(), "\"Red|1;Lime;bright|2;Blue\"") << "the other rows keep their texts";
@@ -161,7 +168,7 @@ TEST_F(ContentsDialog, BarsAndSemicolonsAreRefusedWhereTheyAreTyped) {
     QTest::keyClick(line, Qt::Key_V, Qt::ControlModifier);
     EXPECT_EQ(line->text(), "ab");
     EXPECT_THAT(dialog->Message().toStdString(), HasSubstr("| separates the items"));
-    QTest::keyClick(line, Qt::Key_Return);
+    Enter(line);
     EXPECT_EQ(Result(), "Red|ab;Green|2;Blue");
     GoTo(1);
     line = Edit(Table());
@@ -185,7 +192,7 @@ TEST_F(ContentsDialog, RowsAreAddedAndRemoved) {
     auto* const line = qobject_cast<QLineEdit*>(QApplication::focusWidget());
     ASSERT_NE(line, nullptr) << "its caption is edited";
     QTest::keyClicks(line, "Black");
-    QTest::keyClick(line, Qt::Key_Return);
+    Enter(line);
     EXPECT_EQ(Result(), "Red|1;Green|2;Blue|3;Black");
     GoTo(0);
     Press(QStringLiteral("&Remove"));

@@ -176,10 +176,7 @@ TEST(Outline, MenusAreMovedRenamedAndDeletedToo) {
     EXPECT_THAT(form.Rows(), ElementsAre("Form1", "..A", "..F", "....M", "..T(2)", "..mnuFile",
                                          "....mnuQuit", "....mnuOpen"));
     EXPECT_THAT(form.SelectedRows(), ElementsAre("mnuQuit"));
-    form.Key(Qt::Key_F2);
-    QTest::keyClicks(QApplication::focusWidget(), QStringLiteral("mnuExit"));
-    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
-    QApplication::processEvents();
+    form.Rename("mnuExit");
     EXPECT_THAT(form.SelectedRows(), ElementsAre("mnuExit"));
     EXPECT_THAT(form.Saved(), HasSubstr("      Begin VB.Menu mnuExit\n"));
     form.Key(Qt::Key_Delete);
@@ -204,23 +201,17 @@ TEST(Outline, DeleteRemovesControlsAndMenusInOneStep) {
 
 TEST(Outline, F2RenamesAndRefusesANameThatIsTaken) {
     OutlinedForm form(mixedForm);
-    const auto rename = [&](const char* name) {
-        form.Key(Qt::Key_F2);
-        QTest::keyClicks(QApplication::focusWidget(), QLatin1String(name));
-        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
-        QApplication::processEvents();
-    };
     form.Click("A");
-    rename("cmdOrder");
+    form.Rename("cmdOrder");
     EXPECT_THAT(form.Saved(), HasSubstr("   Begin VB.CommandButton cmdOrder\n"));
     EXPECT_THAT(form.Selected(), ElementsAre("cmdOrder"));
     EXPECT_EQ(form.design.History().undoText(), QStringLiteral("Rename A"));
     EXPECT_TRUE(form.outline->Tree().hasFocus());
-    rename("F");
+    form.Rename("F");
     EXPECT_THAT(form.refused, ElementsAre(HasSubstr("\"F\" is already a control")));
     EXPECT_THAT(form.SelectedRows(), ElementsAre("cmdOrder"));
     form.Click("Form1");
-    rename("frmOrder");
+    form.Rename("frmOrder");
     EXPECT_EQ(form.Rows().front(), "frmOrder");
     EXPECT_THAT(form.Saved(), HasSubstr("Begin VB.Form frmOrder\n"));
 }

@@ -5,6 +5,7 @@
 #include <QDragMoveEvent>
 #include <QDropEvent>
 #include <QMimeData>
+#include <QPointer>
 #include <QTest>
 #include <memory>
 #include <stdexcept>
@@ -92,6 +93,17 @@ void OutlinedForm::Key(Qt::Key key, Qt::KeyboardModifiers held) {
     QTest::keyClick(&Tree(), key, held);
 }
 
+void OutlinedForm::Rename(const std::string& name) {
+    Key(Qt::Key_F2);
+    const QPointer<QWidget> line = QApplication::focusWidget();
+    QTest::keyClicks(line, QString::fromStdString(name));
+    QTest::keyClick(line, Qt::Key_Return);
+    if (!QTest::qWaitFor([&] { return line == nullptr; })) {
+        throw std::runtime_error("the editor stays open");
+    }
+    QApplication::processEvents();
+}
+
 bool OutlinedForm::DragTo(const std::string& row, int side) {
     const QRect rect = Tree().visualRect(Row(row));
     const int y = side < 0 ? rect.top() : side > 0 ? rect.bottom() : rect.center().y();
@@ -104,6 +116,8 @@ bool OutlinedForm::DragTo(const std::string& row, int side) {
     QDragMoveEvent move(at, Qt::MoveAction, data.get(), Qt::LeftButton, {});
     QApplication::sendEvent(viewport, &move);
     if (!enter.isAccepted() || !move.isAccepted()) {
+        QDragLeaveEvent leave;
+        QApplication::sendEvent(viewport, &leave);
         return false;
     }
     QDropEvent drop(at, Qt::MoveAction, data.get(), Qt::LeftButton, {});

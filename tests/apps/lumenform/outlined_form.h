@@ -29,6 +29,8 @@ class OutlinedForm {
 
     void Click(const std::string& row, Qt::KeyboardModifiers held = {});
     void Key(Qt::Key key, Qt::KeyboardModifiers held = {});
+    /// Types another name into the current row, and returns when the editor is closed.
+    void Rename(const std::string& name);
     /// Drags the selected rows to the upper edge, the middle or the lower edge (-1, 0, 1) of a row.
     /// Returns whether they can be dropped there.
     bool DragTo(const std::string& row, int side);

@@ -2,6 +2,7 @@
 #include <QApplication>
 #include <QLineEdit>
 #include <QTest>
+#include <cstdlib>
 
 #include <gmock/gmock.h>
 
@@ -47,6 +48,14 @@ class PropertyFocus : public ::testing::TestWithParam<bool> {
                                 static_cast<int>(cell.center().y() * scale));
     }
 
+    // The style may draw a translucent focus rectangle over the color.
+    static bool LooksLike(const QColor& one, const QColor& other) {
+        constexpr int most = 16;
+        return std::abs(one.red() - other.red()) <= most &&
+               std::abs(one.green() - other.green()) <= most &&
+               std::abs(one.blue() - other.blue()) <= most;
+    }
+
     BrowsedForm form{
         FormWith("   Begin VB.TextBox Text1\n      Height          =   375\n   End\n"
                  "   Begin lumenkit.VLabel Label1\n      Height          =   375\n   End\n")};
@@ -57,10 +66,10 @@ TEST_P(PropertyFocus, TheListHasAFrameAndAFullSelection) {
     table.setFocus();
     table.GoTo(form.Row(u"MaxLength"));
     EXPECT_EQ(LeftEdge(*table.viewport()), HighlightOf(table));
-    EXPECT_EQ(CurrentRow(), HighlightOf(table));
+    EXPECT_TRUE(LooksLike(CurrentRow(), HighlightOf(table)));
     form.browser->Filter().Field().setFocus();
     EXPECT_NE(LeftEdge(*table.viewport()), HighlightOf(table));
-    EXPECT_NE(CurrentRow(), HighlightOf(table));
+    EXPECT_FALSE(LooksLike(CurrentRow(), HighlightOf(table)));
     EXPECT_NE(CurrentRow(), table.palette().color(QPalette::Base)) << "still to be seen";
 }
 

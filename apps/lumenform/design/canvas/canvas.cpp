@@ -34,12 +34,16 @@ void Canvas::ConnectGlass() {
     connect(glass_, &Glass::PointerMoved, this, &Canvas::PointerMoved);
     connect(glass_, &Glass::PointerLeft, this, &Canvas::PointerLeft);
     connect(glass_, &Glass::Refused, this, &Canvas::Refused);
-    connect(glass_, &Glass::Wanted, this, [this](const QRect& rect) {
-        constexpr int margin = 16;
-        const QPoint center = rect.center();
-        ensureVisible(center.x(), center.y(), rect.width() / 2 + margin,
-                      rect.height() / 2 + margin);
-    });
+    connect(glass_, &Glass::Wanted, this, &Canvas::ScrollTo);
+}
+
+void Canvas::ScrollTo(const QRect& rect) {
+    if (glass_->visibleRegion().boundingRect().contains(rect)) {
+        return;
+    }
+    constexpr int margin = 16;
+    const QPoint center = rect.center();
+    ensureVisible(center.x(), center.y(), rect.width() / 2 + margin, rect.height() / 2 + margin);
 }
 
 void Canvas::FollowView() {

@@ -61,6 +61,7 @@ class Canvas final : public QScrollArea {
 
  private:
     void FollowView();
+    void ScrollTo(const QRect& rect);
     void ConnectGlass();
 
     FormDesign& design_;

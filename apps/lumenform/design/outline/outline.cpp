@@ -252,10 +252,14 @@ const OutlineNode* Outline::NodeAt(const QModelIndex& row) const {
     return model_.NodeOf(filter_->mapToSource(row));
 }
 
+// Does not ask for selectedRows(): while a row is deselected with Ctrl, that leaves out selected rows
+// with the same number in other parents.
 OutlineNodes Outline::SelectedNodes() const {
     OutlineNodes nodes;
-    for (const QModelIndex& row : tree_->selectionModel()->selectedRows()) {
-        nodes.push_back(NodeAt(row));
+    for (const QModelIndex& index : tree_->selectionModel()->selectedIndexes()) {
+        if (index.column() == OutlineModel::Name) {
+            nodes.push_back(NodeAt(index));
+        }
     }
     return nodes;
 }
