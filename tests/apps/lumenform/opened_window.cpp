@@ -16,6 +16,8 @@ OpenedWindow::OpenedWindow()
               .interaction = surface.interaction,
               .settings = settings,
               .recovery = Path(QStringLiteral("recovery"))}) {
+    // On a small screen there is room for the canvas, too.
+    window.resize(1200, 800);
     ShowActive(window);
 }
 
