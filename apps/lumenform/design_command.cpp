@@ -3,6 +3,8 @@
 #include <QTimer>
 #include <memory>
 #include <optional>
+#include <string>
+#include <vector>
 
 #include "apps/command_line/exit_status.h"
 #include "apps/command_line/help_formatter.h"
@@ -22,49 +24,56 @@ QString RecoveryFolder() {
            QStringLiteral("/lumenkit/recovery");
 }
 
-int DesignForm(const DesktopOptions& options) {
+struct DesignOptions {
+    std::vector<std::string> forms;
+    DesktopOptions desktop;
+};
+
+int DesignForms(const DesignOptions& options) {
     std::optional<QSettings> settings;  // created after the application
-    return ShowOnDesktop(options, "\"lumenform render --design\" draws the designer without one",
-                         [&](const qt::Context& context) {
-                             settings.emplace(QStringLiteral("lumenkit"),
-                                              QStringLiteral("lumenform"));
-                             auto window = std::make_unique<DesignWindow>(
-                                 DesignWindow::Setup{.classes = context.classes,
-                                                     .application = context.application,
-                                                     .interaction = context.interaction,
-                                                     .settings = *settings,
-                                                     .recovery = RecoveryFolder(),
-                                                     .codePage = options.codePage});
-                             if (!options.form.empty()) {
-                                 window->Load(QString::fromLocal8Bit(options.form));
-                                 PrintWarnings(window->Bench()->GetDesign().Document());
-                             }
-                             QTimer::singleShot(0, window.get(), &DesignWindow::OfferAbandonedWork);
-                             return window;
-                         });
+    return ShowOnDesktop(
+        options.desktop, "\"lumenform render --design\" draws the designer without one",
+        [&](const qt::Context& context) {
+            settings.emplace(QStringLiteral("lumenkit"), QStringLiteral("lumenform"));
+            auto window = std::make_unique<DesignWindow>(
+                DesignWindow::Setup{.classes = context.classes,
+                                    .application = context.application,
+                                    .interaction = context.interaction,
+                                    .settings = *settings,
+                                    .recovery = RecoveryFolder(),
+                                    .codePage = options.desktop.codePage});
+            for (const std::string& form : options.forms) {
+                window->Load(QString::fromLocal8Bit(form));
+                PrintWarnings(window->Bench()->GetDesign().Document());
+            }
+            QTimer::singleShot(0, window.get(), &DesignWindow::OfferAbandonedWork);
+            return window;
+        });
 }
 
 }  // namespace
 
 void AddDesignCommand(CLI::App& program, int& status) {
-    CLI::App* const command = program.add_subcommand("design", "Edit a form in the designer");
-    const auto options = std::make_shared<DesktopOptions>();
+    CLI::App* const command = program.add_subcommand("design", "Edit forms in the designer");
+    const auto options = std::make_shared<DesignOptions>();
     CLI::Option* const form = command->add_option(
-        "FORM", options->form, "The form (.frm, .ctl, .pag, .dob); without it, the start screen");
+        "FORM", options->forms,
+        "The forms (.frm, .ctl, .pag, .dob), each in a tab; without one, the start screen");
     cli::Offer(*command, *form, cli::FormFiles());
-    AddDesktopOptions(*command, *options);
+    AddDesktopOptions(*command, options->desktop);
     cli::SetNotes(
         *command,
         {.sections = {{.text = "Unchanged parts of the form are saved byte for byte. \"lumenform\" "
                                "without arguments opens the start screen."}},
          .exitStatuses = {{cli::exitDone, "the designer was closed"},
                           {cli::exitUnusable,
-                           "wrong arguments, the form cannot be read, or there is no display"}},
-         .examples = {"lumenform design samples/forms/order.frm", "lumenform"}});
-    command->callback([options, &status] { status = DesignForm(*options); });
+                           "wrong arguments, a form cannot be read, or there is no display"}},
+         .examples = {"lumenform design samples/forms/order.frm",
+                      "lumenform design samples/forms/*.frm", "lumenform"}});
+    command->callback([options, &status] { status = DesignForms(*options); });
     program.callback([&program, options, &status] {
         if (program.get_subcommands().empty()) {
-            status = DesignForm(*options);
+            status = DesignForms(*options);
         }
     });
 }

@@ -4,7 +4,6 @@
 #include <QWidget>
 #include <functional>
 #include <memory>
-#include <string>
 
 #include <CLI/CLI.hpp>
 
@@ -14,7 +13,6 @@
 namespace lumenkit::lumenform {
 
 struct DesktopOptions {
-    std::string form;
     bool dark = false;
     int codePage = forms::guessedCodePage;
 };

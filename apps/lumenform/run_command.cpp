@@ -1,4 +1,5 @@
 #include <memory>
+#include <string>
 
 #include "apps/command_line/exit_status.h"
 #include "apps/command_line/help_formatter.h"
@@ -13,9 +14,14 @@ namespace lumenkit::lumenform {
 
 namespace {
 
-int RunForm(const DesktopOptions& options) {
-    forms::Document document = forms::Load(options.form, options.codePage);
-    return ShowOnDesktop(options, "\"lumenform render\" draws the form without one",
+struct RunOptions {
+    std::string form;
+    DesktopOptions desktop;
+};
+
+int RunForm(const RunOptions& options) {
+    forms::Document document = forms::Load(options.form, options.desktop.codePage);
+    return ShowOnDesktop(options.desktop, "\"lumenform render\" draws the form without one",
                          [&](const qt::Context& context) {
                              auto window = std::make_unique<RunWindow>(context, document);
                              PrintWarnings(document);
@@ -28,11 +34,11 @@ int RunForm(const DesktopOptions& options) {
 void AddRunCommand(CLI::App& program, int& status) {
     CLI::App* const command =
         program.add_subcommand("run", "Show a form as its users see it, with a log of its events");
-    const auto options = std::make_shared<DesktopOptions>();
+    const auto options = std::make_shared<RunOptions>();
     CLI::Option* const form =
         command->add_option("FORM", options->form, "The form (.frm, .ctl, .pag, .dob)")->required();
     cli::Offer(*command, *form, cli::FormFiles());
-    AddDesktopOptions(*command, *options);
+    AddDesktopOptions(*command, options->desktop);
     cli::SetNotes(
         *command,
         {.sections = {{.text = "The code of the form does not run, and nothing is saved. F12 hides "

@@ -335,7 +335,7 @@ TEST_F(DesignWindowTest, ABadFileIsToldWithItsLineAndChangesNothing) {
     std::ofstream(File(QStringLiteral("bad.frm"))) << "VERSION 5.00\nBegin VB.Form f\n";
     lumenform::RecentFiles(settings).Add(Path(QStringLiteral("bad.frm")));
     Answer answer(QStringLiteral("OK"));
-    Q_EMIT window.Start().RecentWanted(Path(QStringLiteral("bad.frm")));
+    Q_EMIT window.Start().Recent().OpenWanted(Path(QStringLiteral("bad.frm")));
     EXPECT_THAT(answer.said, HasSubstr("bad.frm cannot be opened."));
     EXPECT_THAT(answer.said, HasSubstr("bad.frm:3:1: expected End of f"));
     EXPECT_EQ(Text(), text);

@@ -178,8 +178,7 @@ TEST_F(FormTabs, TheDifferenceShowsBothVersions) {
     Select(u"VLabel1");
     Nudge();
     ChangeOutside(QStringLiteral("label.frm"));
-    const std::string shown =
-        lumenform::DifferenceOnDisk(Design().Document(), path).toStdString();
+    const std::string shown = lumenform::DifferenceOnDisk(Design().Document(), path).toStdString();
     EXPECT_THAT(shown, HasSubstr("-' by others"));
     EXPECT_THAT(shown, HasSubstr("+      Left            =   "));
     EXPECT_THAT(shown, Not(HasSubstr("companion")));

@@ -57,7 +57,7 @@ class PropertyPictures : public ::testing::Test {
         QTest::qWait(0);
     }
     QString FileWith(const QString& name, const std::string& bytes) const {
-        const QString path = folder.filePath(name);
+        QString path = folder.filePath(name);
         std::ofstream(path.toStdString(), std::ios::binary) << bytes;
         return path;
     }

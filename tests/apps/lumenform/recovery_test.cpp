@@ -1,12 +1,11 @@
 // Unsaved work after the designer ended unexpectedly.
-#include "apps/lumenform/design/recovery/recovery_store.h"
-
 #include <QDir>
 #include <QFile>
 #include <fstream>
 
 #include <gmock/gmock.h>
 
+#include "apps/lumenform/design/recovery/recovery_store.h"
 #include "tests/apps/lumenform/answer.h"
 #include "tests/apps/lumenform/opened_window.h"
 #include "tests/support/file_bytes.h"

@@ -222,7 +222,8 @@ void Glass::Drag(QPoint at, Qt::KeyboardModifiers held) {
         }
     });
     UpdateMarks();
-    Q_EMIT Wanted(QRect(at, QSize(1, 1)));
+    constexpr int reach = 16;  // of the edge at which the canvas scrolls
+    Q_EMIT Wanted(QRect(at - QPoint(reach, reach), at + QPoint(reach, reach)));
 }
 
 void Glass::mouseReleaseEvent(QMouseEvent* event) {

@@ -96,11 +96,12 @@ void Rehome(FormDesign& design, const QString& title, const std::vector<LiveCont
             const Home& home, Landing landing) {
     ShowPage(home);
     design.Restructure(title, [&] {
-        const std::vector<Text> selected = design.SelectedNames();
+        std::vector<Text> selected = design.SelectedNames();
         design.View().Save();
         forms::Block& parent = BlockOf(design, home.container);
         const Scale scale = InsideOf(design, home.container).scale;
         std::vector<Mover> movers;
+        movers.reserve(controls.size());
         for (LiveControl* const control : controls) {
             movers.push_back(MoverOf(design, *control, home, landing));
         }

@@ -252,8 +252,8 @@ const OutlineNode* Outline::NodeAt(const QModelIndex& row) const {
     return model_.NodeOf(filter_->mapToSource(row));
 }
 
-// Does not ask for selectedRows(): while a row is deselected with Ctrl, that leaves out selected rows
-// with the same number in other parents.
+// Does not ask for selectedRows(): while a row is deselected with Ctrl, that leaves out selected
+// rows with the same number in other parents.
 OutlineNodes Outline::SelectedNodes() const {
     OutlineNodes nodes;
     for (const QModelIndex& index : tree_->selectionModel()->selectedIndexes()) {
@@ -343,9 +343,10 @@ void Outline::ShowSelection() {
     tree_->selectionModel()->select(selection, QItemSelectionModel::ClearAndSelect);
     const OutlineNode* const last =
         design_.Selected().empty() ? nullptr : model_.NodeOf(*design_.Selected().back());
-    const QModelIndex current = last != nullptr       ? RowOf(*last)
-                                : selection.isEmpty() ? QModelIndex()
-                                                      : QModelIndex(selection.constFirst().topLeft());
+    const QModelIndex current = last != nullptr ? RowOf(*last)
+                                : selection.isEmpty()
+                                    ? QModelIndex()
+                                    : QModelIndex(selection.constFirst().topLeft());
     if (current.isValid()) {
         tree_->selectionModel()->setCurrentIndex(current, QItemSelectionModel::NoUpdate);
         tree_->scrollTo(current);

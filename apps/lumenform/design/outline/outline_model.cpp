@@ -125,7 +125,7 @@ void OutlineModel::MarkOutOfView() {
     }
 }
 
-const OutlineNode* OutlineModel::NodeOf(const QModelIndex& index) const {
+const OutlineNode* OutlineModel::NodeOf(const QModelIndex& index) {
     return index.isValid() ? static_cast<const OutlineNode*>(index.constInternalPointer())
                            : nullptr;
 }

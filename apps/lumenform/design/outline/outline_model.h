@@ -56,7 +56,7 @@ class OutlineModel final : public QAbstractItemModel {
     /// The colours of icons and texts from the next Show on.
     void SetPalette(const QPalette& palette);
 
-    const OutlineNode* NodeOf(const QModelIndex& index) const;
+    static const OutlineNode* NodeOf(const QModelIndex& index);
     /// Returns the node of a control; null if there is none.
     const OutlineNode* NodeOf(const LiveControl& control) const;
     /// Returns the node of the form, or null.
@@ -89,7 +89,7 @@ class OutlineModel final : public QAbstractItemModel {
  private:
     void AddControls(OutlineNode& parent);
     void AddPages(OutlineNode& box);
-    OutlineNode& Add(OutlineNode& parent, OutlineNode node);
+    static OutlineNode& Add(OutlineNode& parent, OutlineNode node);
     QVariant NameData(const OutlineNode& node, int role) const;
     QVariant ClassData(const OutlineNode& node, int role) const;
     QIcon IconOf(const OutlineNode& node) const;

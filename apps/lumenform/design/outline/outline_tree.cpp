@@ -59,13 +59,12 @@ bool OutlineTree::event(QEvent* event) {
 }
 
 void OutlineTree::keyPressEvent(QKeyEvent* event) {
-    if (state() == EditingState) {
-        QTreeView::keyPressEvent(event);
-    } else if (IsDelete(*event)) {
+    const bool isCommand = state() != EditingState;
+    if (isCommand && IsDelete(*event)) {
         Q_EMIT DeleteWanted();
-    } else if (IsMove(*event)) {
+    } else if (isCommand && IsMove(*event)) {
         Q_EMIT MoveWanted(event->key() == Qt::Key_Up);
-    } else if (IsEnter(*event)) {
+    } else if (isCommand && IsEnter(*event)) {
         Q_EMIT PropertiesWanted();
     } else {
         QTreeView::keyPressEvent(event);

@@ -15,6 +15,9 @@
 
 #include "apps/lumenform/design/model/new_form.h"
 #include "apps/lumenform/design/window/form_dialogs.h"
+#include "apps/lumenform/design/window/form_picture.h"
+#include "apps/lumenform/design/window/help_menu.h"
+#include "apps/lumenform/design/window/keys_dialog.h"
 #include "apps/lumenform/design/window/opened_message.h"
 #include "forms/file.h"
 #include "forms/form_error.h"
@@ -86,6 +89,7 @@ DesignWindow::DesignWindow(const Setup& setup)
     menuBar()->addMenu(view_);
     menuBar()->addMenu(&commands_->FormatMenu());
     AddRunMenu();
+    AddHelpMenu();
     AddToolBar();
     ShowRecent();
     Follow();
@@ -106,7 +110,15 @@ DesignWindow::~DesignWindow() {
 void DesignWindow::ConnectFiles() {
     connect(start_, &StartPage::NewWanted, this, &DesignWindow::StartNew);
     connect(start_, &StartPage::OpenWanted, this, &DesignWindow::ChooseAndOpen);
-    connect(start_, &StartPage::RecentWanted, this, &DesignWindow::Open);
+    connect(&start_->Recent(), &RecentForms::OpenWanted, this, &DesignWindow::Open);
+    connect(&start_->Recent(), &RecentForms::ForgetWanted, this, [this](const QString& path) {
+        recent_.Remove(path);
+        ShowRecent();
+    });
+    start_->Recent().SetDraw([this](const QString& path, QSize box, double device) {
+        const ControlMessages::Listener silent(messages_);
+        return SmallPicture(context_, path, box, device);
+    });
     connect(files_, &FileMenu::NewWanted, this, &DesignWindow::StartNew);
     connect(files_, &FileMenu::OpenWanted, this, &DesignWindow::ChooseAndOpen);
     connect(files_, &FileMenu::RecentWanted, this, &DesignWindow::Open);
@@ -129,6 +141,18 @@ void DesignWindow::AddRunMenu() {
     runForm_->setToolTip(tr("Run the form for a trial, or return to the designer (F5)"));
     connect(runForm_, &QAction::triggered, this, &DesignWindow::Run);
     addAction(runForm_);  // the menu bar is hidden during a trial run
+}
+
+void DesignWindow::AddHelpMenu() {
+    auto* const help = new HelpMenu(this);
+    menuBar()->addMenu(help);
+    connect(help, &HelpMenu::KeysWanted, this, [this] {
+        QList<QMenu*> menus;
+        for (const QAction* const action : menuBar()->actions()) {
+            menus.append(action->menu());
+        }
+        KeysDialog(menus, this).exec();
+    });
 }
 
 void DesignWindow::AddToolBar() {
@@ -323,11 +347,11 @@ void DesignWindow::ReadAgain(int codePage) {
     Follow();  // the menu has checked its item
 }
 
-bool DesignWindow::Save() {
+bool DesignWindow::Save() const {
     return Current() != nullptr && Current()->Save();
 }
 
-bool DesignWindow::SaveTo(const QString& path, forms::Replacing replacing) {
+bool DesignWindow::SaveTo(const QString& path, forms::Replacing replacing) const {
     return Current() != nullptr && Current()->SaveTo(path, replacing);
 }
 
@@ -356,7 +380,7 @@ void DesignWindow::ShowRecent() {
 
 // ---- The current form
 
-void DesignWindow::Run(bool on) {
+void DesignWindow::Run(bool on) const {
     if (Current() != nullptr) {
         Current()->Run(on);
     }

@@ -52,13 +52,13 @@ class DesignWindow final : public QMainWindow {
     void OfferAbandonedWork();
     /// Saves the current form. Returns false if it was not saved. The user then knows why or has
     /// cancelled.
-    bool Save();
+    bool Save() const;
     /// Saves the current form to this file, which becomes its file.
-    bool SaveTo(const QString& path, forms::Replacing replacing = forms::Replacing::Known);
+    bool SaveTo(const QString& path, forms::Replacing replacing = forms::Replacing::Known) const;
     /// Asks for each form whether to save its changes. Returns false if the user cancels.
     bool MayLeave();
     /// Starts or ends a trial run of the current form.
-    void Run(bool on);
+    void Run(bool on) const;
 
     /// Null if no form is open.
     FormTab* Current() const;
@@ -79,6 +79,7 @@ class DesignWindow final : public QMainWindow {
  private:
     void ConnectFiles();
     void AddRunMenu();
+    void AddHelpMenu();
     void AddToolBar();
     FormTab* TabAt(int index) const;
     FormTab* TabOf(const QString& path) const;

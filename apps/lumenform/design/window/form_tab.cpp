@@ -57,11 +57,13 @@ bool FormTab::IsChanged() const {
 }
 
 void FormTab::FollowChanges() {
-    if (!IsChanged()) {
+    const bool isChanged = IsChanged();
+    if (isChanged && !keeping_->isActive()) {
+        keeping_->start();
+    }
+    if (!isChanged) {
         keeping_->stop();
         copy_.Remove();
-    } else if (!keeping_->isActive()) {
-        keeping_->start();
     }
     Q_EMIT StateChanged();
 }
@@ -152,23 +154,27 @@ bool FormTab::MayLeave() {
 
 void FormTab::Run(bool on) {
     if (on && run_ == nullptr && bench_->FinishEditing()) {
-        bench_->Try([this] {
-            run_ = std::make_unique<RunPage>(setup_.context, bench_->GetDesign().Document());
-        });
-        if (run_ != nullptr) {
-            connect(
-                run_.get(), &RunPage::BackWanted, this, [this] { Run(false); },
-                Qt::QueuedConnection);
-            pages_->addWidget(run_.get());
-            pages_->setCurrentWidget(run_.get());
-            run_->View().FocusFirst();
-        }
-    } else if (!on && run_ != nullptr) {
+        BeginRun();
+    }
+    if (!on && run_ != nullptr) {
         run_.reset();
         pages_->setCurrentWidget(bench_.get());
         TakeFocus();
     }
     Q_EMIT StateChanged();
+}
+
+void FormTab::BeginRun() {
+    bench_->Try([this] {
+        run_ = std::make_unique<RunPage>(setup_.context, bench_->GetDesign().Document());
+    });
+    if (run_ != nullptr) {
+        connect(
+            run_.get(), &RunPage::BackWanted, this, [this] { Run(false); }, Qt::QueuedConnection);
+        pages_->addWidget(run_.get());
+        pages_->setCurrentWidget(run_.get());
+        run_->View().FocusFirst();
+    }
 }
 
 void FormTab::LookAtDisk() {

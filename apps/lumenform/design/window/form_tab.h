@@ -79,6 +79,7 @@ class FormTab final : public QWidget {
     void KeepMine();
     void Compare();
     void FollowChanges();
+    void BeginRun();
 
     const Setup setup_;
     FormFile file_;

@@ -26,6 +26,12 @@ void RecentFiles::Add(const QString& path) {
     settings_.setValue(Key(), paths.mid(0, most));
 }
 
+void RecentFiles::Remove(const QString& path) {
+    QStringList paths = settings_.value(Key()).toStringList();
+    paths.removeAll(path);
+    settings_.setValue(Key(), paths);
+}
+
 void RecentFiles::Clear() {
     settings_.remove(Key());
 }

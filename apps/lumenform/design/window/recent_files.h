@@ -16,6 +16,7 @@ class RecentFiles {
     /// The files that still exist, as absolute paths.
     QStringList Existing() const;
     void Add(const QString& path);
+    void Remove(const QString& path);
     void Clear();
 
  private:

@@ -1,7 +1,6 @@
 #include "apps/lumenform/design/window/start_page.h"
 
 #include <QCommandLinkButton>
-#include <QFileInfo>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QVBoxLayout>
@@ -10,7 +9,7 @@ namespace lumenkit::lumenform {
 
 namespace {
 
-constexpr int columnLetters = 70;
+constexpr int columnShare = 8;  // of the width, beside margins of 1
 
 QLabel* Paragraph(const QString& text) {
     auto* const label = new QLabel(text);
@@ -29,61 +28,52 @@ QLabel* Heading(const QString& text, double size) {
 
 }  // namespace
 
-StartPage::StartPage(QWidget* parent) : QWidget(parent), column_(new QVBoxLayout) {
-    auto* const column = new QWidget(this);
-    column->setFixedWidth(columnLetters * fontMetrics().averageCharWidth());
-    column->setLayout(column_);
-    column_->addStretch(1);
-    AddHeading();
-    AddChoices();
-    column_->addStretch(2);
+StartPage::StartPage(QWidget* parent)
+    : QWidget(parent), recent_(new RecentForms), recentHeading_(Heading(tr("Recent forms"), 1)) {
+    auto* const column = new QVBoxLayout;
+    AddHeading(*column);
+    AddChoices(*column);
+    column->addWidget(recentHeading_);
+    column->addWidget(recent_, 1);
+    column->addStretch();
     auto* const row = new QHBoxLayout(this);
-    row->addStretch();
-    row->addWidget(column);
-    row->addStretch();
+    const int margin = 2 * fontMetrics().height();
+    row->setContentsMargins(margin, margin, margin, 0);
+    row->addStretch(1);
+    row->addLayout(column, columnShare);
+    row->addStretch(1);
+    ShowRecent({});
 }
 
-void StartPage::AddHeading() {
-    column_->addWidget(Heading(tr("lumenform"), 2));
-    column_->addWidget(Paragraph(
+void StartPage::AddHeading(QVBoxLayout& column) {
+    column.addWidget(Heading(tr("lumenform"), 2));
+    column.addWidget(Paragraph(
         tr("Designs and runs forms with the controls of lumenkit. Open a form to see it as its "
            "users do and to change its controls. Unchanged parts of the form are saved byte for "
            "byte.")));
-    column_->addSpacing(fontMetrics().height());
+    column.addSpacing(fontMetrics().height());
 }
 
-void StartPage::AddChoices() {
+void StartPage::AddChoices(QVBoxLayout& column) {
     auto* const open = new QCommandLinkButton(
         tr("&Open a form"),
         tr("A form file (.frm, .ctl, .pag, .dob). You can also drop a file on this window."));
     connect(open, &QAbstractButton::clicked, this, &StartPage::OpenWanted);
-    column_->addWidget(open);
     auto* const fresh = new QCommandLinkButton(
         tr("&New form"), tr("An empty form. Choose a control in the toolbox and draw it."));
     connect(fresh, &QAbstractButton::clicked, this, &StartPage::NewWanted);
-    column_->addWidget(fresh);
-    column_->addSpacing(fontMetrics().height());
+    auto* const choices = new QHBoxLayout;
+    for (QCommandLinkButton* const button : {open, fresh}) {
+        choices->addWidget(button, 1);
+    }
+    column.addLayout(choices);
+    column.addSpacing(fontMetrics().height());
 }
 
 void StartPage::ShowRecent(const QStringList& paths) {
-    delete recent_;
-    recent_ = new QWidget;
-    auto* const list = new QVBoxLayout(recent_);
-    list->setContentsMargins(0, 0, 0, 0);
-    if (!paths.isEmpty()) {
-        list->addWidget(Heading(tr("Recent forms"), 1));
-    }
-    for (const QString& path : paths) {
-        const QFileInfo file(path);
-        auto* const link =
-            new QLabel(QStringLiteral("<a href=\"%1\">%2</a> &nbsp; %3")
-                           .arg(path.toHtmlEscaped(), file.fileName().toHtmlEscaped(),
-                                file.path().toHtmlEscaped()));
-        link->setTextInteractionFlags(Qt::LinksAccessibleByMouse | Qt::LinksAccessibleByKeyboard);
-        connect(link, &QLabel::linkActivated, this, &StartPage::RecentWanted);
-        list->addWidget(link);
-    }
-    column_->insertWidget(column_->count() - 1, recent_);
+    recent_->Show(paths);
+    recentHeading_->setVisible(!paths.isEmpty());
+    recent_->setVisible(!paths.isEmpty());
 }
 
 }  // namespace lumenkit::lumenform

@@ -3,6 +3,9 @@
 #include <QStringList>
 #include <QWidget>
 
+#include "apps/lumenform/design/window/recent_forms.h"
+
+class QLabel;
 class QVBoxLayout;
 
 namespace lumenkit::lumenform {
@@ -15,18 +18,18 @@ class StartPage final : public QWidget {
     explicit StartPage(QWidget* parent = nullptr);
 
     void ShowRecent(const QStringList& paths);
+    RecentForms& Recent() const { return *recent_; }
 
  Q_SIGNALS:
     void NewWanted();
     void OpenWanted();
-    void RecentWanted(const QString& path);
 
  private:
-    void AddHeading();
-    void AddChoices();
+    void AddHeading(QVBoxLayout& column);
+    void AddChoices(QVBoxLayout& column);
 
-    QVBoxLayout* column_;
-    QWidget* recent_ = nullptr;
+    RecentForms* recent_;
+    QLabel* recentHeading_;
 };
 
 }  // namespace lumenkit::lumenform
