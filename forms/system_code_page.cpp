@@ -164,8 +164,7 @@ struct SystemCodePage::Converters {
 // The tables of glibc with the names CP... agree with those of Windows; GB18030 and BIG5-HKSCS do
 // not, and SHIFT_JIS has a yen sign in place of the backslash.
 SystemCodePage::SystemCodePage(int number)
-    : number_(number),
-      converters_(std::make_unique<Converters>("CP" + std::to_string(number))) {
+    : number_(number), converters_(std::make_unique<Converters>("CP" + std::to_string(number))) {
     if (!converters_->toUnicode.IsOpen() || !converters_->fromUnicode.IsOpen()) {
         RefusePage(number);
     }
