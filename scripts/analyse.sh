@@ -29,6 +29,7 @@ run_valgrind() {
         program=$(find build/native/tests -name "$test" -type f)
         LUMENKIT_TEST_SHARE=100 valgrind --quiet --error-exitcode=1 --leak-check=full \
             --errors-for-leak-kinds=definite,indirect --show-leak-kinds=definite,indirect \
+            --suppressions=scripts/valgrind.suppressions \
             --soname-synonyms=somalloc=nouserintercepts "$program" --gtest_brief=1
     done
 }

@@ -4,6 +4,7 @@
 
 #include <gmock/gmock.h>
 
+#include "tests/support/test_rounds.h"
 #include "tests/unit/forms/sample_forms.h"
 
 namespace lumenkit::forms::testing {
@@ -278,7 +279,7 @@ TEST(BrokenForms, NestingIsBounded) {
 TEST(BrokenForms, LargeOnesEnd) {
     std::string properties;
     std::string names;
-    for (int i = 0; i < 300000; ++i) {
+    for (int i = 0; i < lumenkit::testing::Rounds(300000); ++i) {
         properties += "   P" + std::to_string(i) + " = $\"x.frx\":" + "0\n";
         names += "   Begin VB.Label Label" + std::to_string(i) + " \n   End\n";
     }

@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include "tests/support/test_rounds.h"
 #include "tests/support/test_seed.h"
 #include "tests/unit/forms/form_check.h"
 #include "tests/unit/forms/sample_forms.h"
@@ -99,7 +100,7 @@ class Mutation {
 TEST(RoundTrip, OrARefusalFollowsFromAnyDamage) {
     Mutation mutation(lumenkit::testing::TestSeed());
     int sound = 0;
-    constexpr int runs = 10000;
+    const int runs = lumenkit::testing::Rounds(10000);
     for (int i = 0; i < runs; ++i) {
         const SampleForm& sample = SampleForms()[mutation.Below(SampleForms().size())];
         std::string form = sample.form;
@@ -117,8 +118,10 @@ TEST(RoundTrip, OrARefusalFollowsFromAnyDamage) {
         }
     }
     // Enough damaged forms must still be valid, so that writing them back is tested too.
-    EXPECT_GT(sound, runs / 20);
-    EXPECT_LT(sound, runs);
+    if (lumenkit::testing::RunsAllRounds()) {
+        EXPECT_GT(sound, runs / 20);
+        EXPECT_LT(sound, runs);
+    }
 }
 
 }  // namespace

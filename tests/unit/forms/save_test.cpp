@@ -16,6 +16,7 @@
 
 #include "forms/file.h"
 #include "forms/literal.h"
+#include "tests/support/test_rounds.h"
 #include "tests/unit/forms/sample_forms.h"
 
 namespace lumenkit::forms::testing {
@@ -341,7 +342,7 @@ TEST_F(SaveTest, TwoFormsWithOneCompanionAreNotSavedAtOnce) {
 // Two documents, loaded before either is saved, are saved by two threads. One save succeeds, and
 // the other one is refused.
 TEST_F(SaveTest, OneOfTwoSaversIsToldAndOneWholeFormRemains) {
-    constexpr int rounds = 1000;
+    const int rounds = lumenkit::testing::Rounds(300);
     for (int round = 0; round < rounds && !HasFailure(); ++round) {
         WriteFile(form, Sample("memo.frm").form);
         WriteFile(companion, Sample("memo.frm").companion);
