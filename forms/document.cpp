@@ -122,12 +122,12 @@ Document Document::Read(std::string name, Encoding encoding, std::string_view by
     return document;
 }
 
-Document Document::WithBytes(const FormBytes& bytes) const {
+Document Document::WithBytes(const FormBytes& bytes, const Encoding& encoding) const {
     const auto companion = [&](const std::string& file) -> std::optional<std::string> {
         const bool isLost = isCompanionMissing_ || IsOtherFile(FromUtf8(file));
         return isLost ? std::nullopt : std::optional(bytes.companion);
     };
-    Document document = Read(name_, encoding_, bytes.form, companion);
+    Document document = Read(name_, encoding, bytes.form, companion);
     if (!document.isCompanionMissing_) {
         document.UseCompanion(companionName_);
     }

@@ -43,7 +43,9 @@ class Document {
 
     /// Returns the document with these bytes, which Write returned for this document or for an
     /// earlier state of it. Throws FormError as Parse does.
-    Document WithBytes(const FormBytes& bytes) const;
+    Document WithBytes(const FormBytes& bytes) const { return WithBytes(bytes, encoding_); }
+    /// Returns the document with these bytes, in an encoding that it has or had.
+    Document WithBytes(const FormBytes& bytes, const Encoding& encoding) const;
 
     /// The warnings so far, in the order of the file, one for each place.
     std::vector<Warning> Warnings() const;
@@ -59,6 +61,7 @@ class Document {
     void Rename(std::string name);
     /// Also chooses the companion's name.
     void Rename(std::string name, std::string companionName);
+    const Encoding& TextEncoding() const { return encoding_; }
     /// The number of the form's code page, 65001 for UTF-8.
     int FormCodePage() const { return encoding_.FormCodePage(); }
     /// The number of the code page of the companion's strings; never 65001.

@@ -52,6 +52,14 @@ Encoding Encoding::Of(std::string_view bytes, int codePage) {
     return encoding;
 }
 
+Encoding Encoding::In(int codePage) const {
+    const bool isUtf8 = codePage == utf8CodePage;
+    Encoding other(isUtf8 ? codePage_ : CodePage(codePage));
+    other.utf8_ = isUtf8;
+    other.mark_ = isUtf8 && mark_;
+    return other;
+}
+
 Text Encoding::Decode(std::string_view bytes) const {
     if (!utf8_) {
         return codePage_.Decode(bytes);

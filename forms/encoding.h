@@ -24,6 +24,10 @@ class Encoding {
     /// std::invalid_argument for an unknown code page.
     static Encoding Of(std::string_view bytes, int codePage);
 
+    /// Returns the encoding of a form in another code page. In UTF-8, the strings of its companion
+    /// stay in their page. Throws std::invalid_argument for an unknown code page.
+    Encoding In(int codePage) const;
+
     /// The code page of the form's text, 65001 for UTF-8.
     int FormCodePage() const { return utf8_ ? utf8CodePage : codePage_.Number(); }
     /// The code page of strings in the binary companion, which is never UTF-8.

@@ -26,4 +26,9 @@ class FormError : public std::runtime_error {
     std::string text_;
 };
 
+/// Thrown for a text with a character that the encoding of the form or its companion does not have.
+class UnwritableText : public FormError {
+    using FormError::FormError;
+};
+
 }  // namespace lumenkit::forms

@@ -30,7 +30,7 @@ FormBytes FormWriter::Write(const ParsedForm& form) && {
 }
 
 void FormWriter::Refuse(const Unmappable& unmappable, TextView text, Position place) const {
-    throw FormError(
+    throw UnwritableText(
         name_, place,
         UnitName(text[unmappable.index]) + " cannot be written in " + unmappable.encoding);
 }

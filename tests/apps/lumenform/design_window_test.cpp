@@ -551,7 +551,7 @@ TEST_F(DesignWindowTest, ReasonOutlivesAClickOnAnotherControl) {
 
 TEST_F(DesignWindowTest, TheStatusLineShowsTheCodePageAndTheMenuChangesIt) {
     const auto shown = [&] {
-        return window.findChild<QLabel*>(QStringLiteral("codePage"))->text().toStdString();
+        return window.findChild<QToolButton*>(QStringLiteral("codePage"))->text().toStdString();
     };
     const auto caption = [&] {
         return Design().Document().TextOf(*Design().Document().Root().FindProperty(u"Caption"));

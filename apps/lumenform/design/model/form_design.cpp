@@ -10,6 +10,7 @@
 #include "apps/lumenform/form_view/likeness/saved_pages.h"
 #include "apps/lumenform/form_view/likeness/tab_pages.h"
 #include "apps/lumenform/form_view/saved_place.h"
+#include "forms/change_encoding.h"
 #include "forms/form_error.h"
 #include "frame/text.h"
 
@@ -193,18 +194,18 @@ void FormDesign::Restructure(const QString& title, const std::function<std::vect
 }
 
 void FormDesign::Reload(forms::Document document) {
-    const bool isSameEncoding = document.FormCodePage() == document_->FormCodePage() &&
-                                document.CompanionCodePage() == document_->CompanionCodePage();
     TakeStep(tr("Read again"), std::make_unique<forms::Document>(std::move(document)));
-    if (!isSameEncoding) {
-        history_.clear();
-    }
     history_.setClean();
     Q_EMIT Edited();
 }
 
 void FormDesign::Take(const QString& title, const forms::FormBytes& bytes) {
     TakeStep(title, std::make_unique<forms::Document>(document_->WithBytes(bytes)));
+}
+
+void FormDesign::WriteIn(int codePage) {
+    TakeStep(tr("Write in another code page"),
+             std::make_unique<forms::Document>(forms::InCodePage(*document_, codePage)));
 }
 
 void FormDesign::TakeStep(const QString& title, std::unique_ptr<forms::Document> document) {
@@ -224,7 +225,8 @@ void FormDesign::Push(const QString& title, SharedSnapshot before, Merging mergi
 
 void FormDesign::Restore(const SharedSnapshot& snapshot) {
     now_ = snapshot;
-    Replace(std::make_unique<forms::Document>(document_->WithBytes(snapshot->Bytes())));
+    Replace(std::make_unique<forms::Document>(
+        document_->WithBytes(snapshot->Bytes(), snapshot->Encoding())));
     SelectNamed(snapshot->Selected());
     Q_EMIT Edited();
 }

@@ -62,12 +62,16 @@ class FormDesign final : public QObject {
                      NewWarnings newWarnings = NewWarnings::Refuse);
 
     /// Takes the document that another program has written in place of this one, as a step of the
-    /// history and without unsaved changes. A document in another encoding begins a new history.
-    /// Throws FormError as FormView does; then nothing changes.
+    /// history and without unsaved changes. Throws FormError as FormView does; then nothing
+    /// changes.
     void Reload(forms::Document document);
     /// Takes other contents for the document as a step of the history. Throws FormError as FormView
     /// does, and for bytes that are no form; then nothing changes.
     void Take(const QString& title, const forms::FormBytes& bytes);
+
+    /// Writes the form in another code page from now on, as a step of the history. Throws FormError
+    /// as forms::InCodePage does; then nothing changes.
+    void WriteIn(int codePage);
 
     /// Undo, redo, and whether there are unsaved changes.
     QUndoStack& History() { return history_; }

@@ -17,7 +17,7 @@ std::shared_ptr<const std::string> Shared(std::string bytes,
 
 Snapshot::Snapshot(const forms::Document& document, std::vector<Text> selected,
                    const Snapshot* earlier)
-    : selected_(std::move(selected)) {
+    : encoding_(document.TextEncoding()), selected_(std::move(selected)) {
     forms::FormBytes bytes = document.Write();
     form_ = Shared(std::move(bytes.form), earlier == nullptr ? nullptr : earlier->form_);
     companion_ =
@@ -25,10 +25,15 @@ Snapshot::Snapshot(const forms::Document& document, std::vector<Text> selected,
 }
 
 Snapshot::Snapshot(const Snapshot& other, std::vector<Text> selected)
-    : form_(other.form_), companion_(other.companion_), selected_(std::move(selected)) {}
+    : encoding_(other.encoding_),
+      form_(other.form_),
+      companion_(other.companion_),
+      selected_(std::move(selected)) {}
 
 bool Snapshot::HoldsTheSameAs(const Snapshot& other) const {
-    return form_ == other.form_ && companion_ == other.companion_;
+    return form_ == other.form_ && companion_ == other.companion_ &&
+           encoding_.FormCodePage() == other.encoding_.FormCodePage() &&
+           encoding_.CompanionPage().Number() == other.encoding_.CompanionPage().Number();
 }
 
 }  // namespace lumenkit::lumenform

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "forms/document.h"
+#include "forms/encoding.h"
 #include "frame/text.h"
 
 namespace lumenkit::lumenform {
@@ -21,10 +22,12 @@ class Snapshot {
 
     bool HoldsTheSameAs(const Snapshot& other) const;
     forms::FormBytes Bytes() const { return {*form_, *companion_}; }
+    const forms::Encoding& Encoding() const { return encoding_; }
     /// The names of the selected controls.
     const std::vector<Text>& Selected() const { return selected_; }
 
  private:
+    forms::Encoding encoding_;
     std::shared_ptr<const std::string> form_;
     std::shared_ptr<const std::string> companion_;  // large if it has pictures
     std::vector<Text> selected_;

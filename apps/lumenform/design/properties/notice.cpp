@@ -3,10 +3,22 @@
 #include <QAccessible>
 #include <QHBoxLayout>
 #include <QStyle>
+#include <QVBoxLayout>
 
 namespace lumenkit::lumenform {
 
-Notice::Notice(QWidget* parent) : QFrame(parent), text_(new QLabel(this)) {
+namespace {
+
+const auto utf8Link = QLatin1String("utf8");
+
+QString Link(QLatin1String target, const QString& title) {
+    return QStringLiteral("<a href=\"%1\">%2</a>").arg(target, title.toHtmlEscaped());
+}
+
+}  // namespace
+
+Notice::Notice(QWidget* parent)
+    : QFrame(parent), text_(new QLabel(this)), links_(new QLabel(this)) {
     const int side = style()->pixelMetric(QStyle::PM_SmallIconSize);
     auto* const sign = new QLabel(this);
     sign->setPixmap(style()->standardIcon(QStyle::SP_MessageBoxWarning).pixmap({side, side}));
@@ -18,12 +30,26 @@ Notice::Notice(QWidget* parent) : QFrame(parent), text_(new QLabel(this)) {
     auto* const layout = new QHBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(sign);
-    layout->addWidget(text_, 1);
+    auto* const texts = new QVBoxLayout;
+    texts->addWidget(text_);
+    texts->addWidget(links_);
+    layout->addLayout(texts, 1);
+    links_->setText(Link(utf8Link, tr("Write the form in UTF-8")) + QStringLiteral(" &nbsp; ") +
+                    Link(QLatin1String("page"), tr("Another code page…")));
+    links_->setTextInteractionFlags(Qt::LinksAccessibleByMouse | Qt::LinksAccessibleByKeyboard);
+    connect(links_, &QLabel::linkActivated, this, [this](const QString& target) {
+        if (target == utf8Link) {
+            Q_EMIT Utf8Wanted();
+        } else {
+            Q_EMIT OtherPageWanted();
+        }
+    });
     hide();
 }
 
-void Notice::Say(const QString& text) {
+void Notice::Say(const QString& text, bool offersEncodings) {
     text_->setText(text);
+    links_->setVisible(offersEncodings && !text.isEmpty());
     setVisible(!text.isEmpty());
     if (!text.isEmpty()) {
         QAccessibleEvent event(text_, QAccessible::Alert);

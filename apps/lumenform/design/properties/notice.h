@@ -12,12 +12,20 @@ class Notice final : public QFrame {
  public:
     explicit Notice(QWidget* parent);
 
-    /// Shows the text, or hides the line if the text is empty.
-    void Say(const QString& text);
+    /// Shows the text, or hides the line if the text is empty. With `offersEncodings`, links below
+    /// the text offer to write the form in another code page.
+    void Say(const QString& text, bool offersEncodings = false);
     QString Text() const { return text_->text(); }
+    /// The links, null while none is shown.
+    QLabel* Links() const { return links_->isHidden() ? nullptr : links_; }
+
+ Q_SIGNALS:
+    void Utf8Wanted();
+    void OtherPageWanted();
 
  private:
     QLabel* text_;
+    QLabel* links_;
 };
 
 }  // namespace lumenkit::lumenform

@@ -9,6 +9,8 @@
 #include <utility>
 
 #include "apps/lumenform/design/model/refusal.h"
+#include "apps/lumenform/design/properties/encoding_offer.h"
+#include "forms/form_error.h"
 #include "frame/runtime_error.h"
 #include "runtime/qt/qt_text.h"
 
@@ -76,6 +78,8 @@ PageDialog::PageDialog(FormDesign& design, ControlMessages& messages, const Clas
     connect(buttons_, &QDialogButtonBox::accepted, this, &PageDialog::accept);
     connect(buttons_, &QDialogButtonBox::rejected, this, [this] { QDialog::reject(); });
     connect(apply, &QPushButton::clicked, this, &PageDialog::Apply);
+    new EncodingOffer(
+        design, *notice_, [] { return Text(); }, [this] { Apply(); });
     page_->OnChanged([apply](bool changed) { apply->setEnabled(changed); });
     page_->OnEdited([this] { notice_->Say({}); });  // it is about the former values
     std::vector<ObjectRef> selection;
@@ -138,8 +142,16 @@ bool PageDialog::Apply() {
     if (!page_->Changed()) {
         return true;
     }
-    const QString refusal = RefusalOf([this] { design_.Edit(title_, [this] { ApplyPage(); }); });
-    notice_->Say(refusal);
+    bool isUnwritable = false;
+    const QString refusal = RefusalOf([&] {
+        try {
+            design_.Edit(title_, [this] { ApplyPage(); });
+        } catch (const forms::UnwritableText&) {
+            isUnwritable = true;
+            throw;
+        }
+    });
+    notice_->Say(refusal, isUnwritable);
     if (!refusal.isEmpty()) {
         return false;
     }

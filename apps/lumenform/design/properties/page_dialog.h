@@ -30,6 +30,7 @@ class PageDialog final : public QDialog {
     const QDialogButtonBox& Buttons() const { return *buttons_; }
     /// The reason for the last rejection, or an empty text.
     QString Message() const { return notice_->Text(); }
+    Notice& Refusal() const { return *notice_; }
 
     /// Returns false if a value was rejected. Does nothing if nothing has changed.
     bool Apply();

@@ -12,6 +12,7 @@
 #include "apps/lumenform/design/properties/choose_font.h"
 #include "apps/lumenform/design/properties/color_dialog.h"
 #include "apps/lumenform/design/properties/contents/contents_dialog.h"
+#include "apps/lumenform/design/properties/encoding_offer.h"
 #include "apps/lumenform/design/properties/font_text.h"
 #include "apps/lumenform/design/properties/page_dialog.h"
 #include "apps/lumenform/design/properties/pictures/picture_dialog.h"
@@ -71,6 +72,8 @@ PropertyBrowser::PropertyBrowser(FormDesign& design, ControlMessages& messages, 
     connect(&design_, &FormDesign::ViewReplaced, this, &PropertyBrowser::Refresh);
     connect(&design_, &FormDesign::SelectionChanged, this, &PropertyBrowser::FollowSelection);
     connect(&design_, &FormDesign::Edited, this, &PropertyBrowser::Refresh);
+    new EncodingOffer(
+        design_, *notice_, [this] { return unwritable_; }, [this] { Retry(); });
     Refresh();
 }
 
@@ -229,7 +232,7 @@ QString PropertyBrowser::WhyUnwritable(const PropertyRow& row, const Value& valu
     if (text == nullptr || row.kind == PropertyKind::Picture) {
         return {};
     }
-    const QString why = TextCheck()(*text);
+    const QString why = lumenform::WhyUnwritable(design_.Document(), *text);
     const std::vector<LiveControl*>& selected = design_.Selected();
     const Text& object =
         selected.empty() ? design_.Document().Root().Name() : selected.front()->Name();
@@ -238,15 +241,18 @@ QString PropertyBrowser::WhyUnwritable(const PropertyRow& row, const Value& valu
                                QStringLiteral(": ") + why;
 }
 
-std::function<QString(TextView)> PropertyBrowser::TextCheck() const {
-    return [this](TextView text) { return lumenform::WhyUnwritable(design_.Document(), text); };
-}
-
 void PropertyBrowser::Assign(int row, const Value& value) {
     wanted_ = model_.Row(row).name;
+    const bool isWritable = WhyUnwritable(model_.Row(row), value).isEmpty();
+    unwritable_ = isWritable ? Text() : ToText(value);
     const QString refusal = TryToAssign(row, value);
     Refresh();
-    SayWhy(refusal);
+    SayWhy(refusal, !isWritable);
+}
+
+// Assigns the refused text after the code page has changed.
+void PropertyBrowser::Retry() {
+    AssignTo(wanted_, Text(unwritable_));
 }
 
 void PropertyBrowser::Reset(int row) {
@@ -264,9 +270,10 @@ void PropertyBrowser::Reset(int row) {
     SayWhy(refusal);
 }
 
-void PropertyBrowser::SayWhy(const QString& refusal) {
+void PropertyBrowser::SayWhy(const QString& refusal, bool offersEncodings) {
     const QString before = qt::ToQString(wanted_) + QStringLiteral(": ");
-    notice_->Say(refusal.isEmpty() || refusal.contains(before) ? refusal : before + refusal);
+    notice_->Say(refusal.isEmpty() || refusal.contains(before) ? refusal : before + refusal,
+                 offersEncodings);
     if (!refusal.isEmpty()) {
         Q_EMIT Refused(Message());
     }
@@ -334,7 +341,7 @@ void PropertyBrowser::OpenMore(int row) {
 
 void PropertyBrowser::OpenContents(const PropertyRow& row) {
     const Text former = EditedValue(row);
-    auto* const dialog = new ContentsDialog(qt::ToQString(row.name), former, TextCheck(), this);
+    auto* const dialog = new ContentsDialog(design_, qt::ToQString(row.name), former, this);
     dialog->setAttribute(Qt::WA_DeleteOnClose);
     connect(dialog, &QDialog::accepted, this, [this, dialog, former, name = row.name] {
         if (dialog->Result() != former) {
@@ -360,8 +367,7 @@ void PropertyBrowser::OpenText(const PropertyRow& row, const Text& text) {
                        : row.kind == PropertyKind::Lines ? TextDialog::Lines::List
                                                          : TextDialog::Lines::Breaks;
     const Text former = EditedValue(row);
-    auto* const dialog = new TextDialog(qt::ToQString(row.name), text, lines, this);
-    dialog->CheckWith(TextCheck());
+    auto* const dialog = new TextDialog(design_, qt::ToQString(row.name), text, lines, this);
     dialog->setAttribute(Qt::WA_DeleteOnClose);
     connect(dialog, &QDialog::accepted, this, [this, dialog, former, name = row.name] {
         if (dialog->Result() != former) {

@@ -50,6 +50,7 @@ class PropertyBrowser final : public QWidget {
     QString Heading() const { return heading_->text(); }
     /// The reason for the last rejection, or an empty text.
     QString Message() const { return notice_->Text(); }
+    Notice& Refusal() const { return *notice_; }
     QString Help() const { return help_->text(); }
 
  Q_SIGNALS:
@@ -69,10 +70,10 @@ class PropertyBrowser final : public QWidget {
     QString DescribeSelection() const;
     QString TryToAssign(int row, const Value& value);
     QString WhyUnwritable(const PropertyRow& row, const Value& value) const;
-    std::function<QString(TextView)> TextCheck() const;
     void Assign(int row, const Value& value);
     void Reset(int row);
-    void SayWhy(const QString& refusal);
+    void SayWhy(const QString& refusal, bool offersEncodings = false);
+    void Retry();
     void FilterBy(const QString& text);
     void Group(bool isGrouped);
     template <typename Change>
@@ -97,6 +98,7 @@ class PropertyBrowser final : public QWidget {
     PropertyDelegate* delegate_;
     Notice* notice_;
     QLabel* help_;
+    Text unwritable_;           // the value of the wanted property that was refused last
     Text wanted_ = u"Caption";  // the property that was current last
     QSettings* settings_ = nullptr;
     bool isRefreshing_ = false;

@@ -9,6 +9,8 @@
 #include <algorithm>
 #include <utility>
 
+#include "apps/lumenform/design/properties/encoding_offer.h"
+#include "apps/lumenform/design/properties/writable_text.h"
 #include "runtime/qt/qt_text.h"
 
 namespace lumenkit::lumenform {
@@ -39,8 +41,10 @@ QString HintFor(TextDialog::Lines lines) {
 
 }  // namespace
 
-TextDialog::TextDialog(const QString& title, Text text, Lines lines, QWidget* parent)
+TextDialog::TextDialog(FormDesign& design, const QString& title, Text text, Lines lines,
+                       QWidget* parent)
     : QDialog(parent),
+      design_(design),
       text_(std::move(text)),
       divider_(DividerOf(text_, lines)),
       edit_(new QPlainTextEdit(this)),
@@ -57,6 +61,8 @@ TextDialog::TextDialog(const QString& title, Text text, Lines lines, QWidget* pa
     connect(buttons_, &QDialogButtonBox::accepted, this, &QDialog::accept);
     connect(buttons_, &QDialogButtonBox::rejected, this, &QDialog::reject);
     connect(edit_, &QPlainTextEdit::textChanged, this, &TextDialog::Check);
+    new EncodingOffer(
+        design, *notice_, [this] { return Result(); }, [this] { Check(); });
     connect(new QShortcut(QKeySequence(Qt::CTRL | Qt::Key_Return), this), &QShortcut::activated,
             this, &QDialog::accept);
     auto* const layout = new QVBoxLayout(this);
@@ -68,16 +74,12 @@ TextDialog::TextDialog(const QString& title, Text text, Lines lines, QWidget* pa
     constexpr int columns = 60;
     constexpr int rows = 14;
     resize(metrics.averageCharWidth() * columns, metrics.height() * rows);
-}
-
-void TextDialog::CheckWith(std::function<QString(TextView)> whyNot) {
-    whyNot_ = std::move(whyNot);
     Check();
 }
 
 void TextDialog::Check() {
-    const QString why = whyNot_ ? whyNot_(Result()) : QString();
-    notice_->Say(why);
+    const QString why = WhyUnwritable(design_.Document(), Result());
+    notice_->Say(why, true);
     buttons_->button(QDialogButtonBox::Ok)->setEnabled(why.isEmpty());
 }
 

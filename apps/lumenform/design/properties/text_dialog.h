@@ -3,8 +3,8 @@
 #include <QDialog>
 #include <QDialogButtonBox>
 #include <QPlainTextEdit>
-#include <functional>
 
+#include "apps/lumenform/design/model/form_design.h"
 #include "apps/lumenform/design/properties/notice.h"
 #include "frame/text.h"
 
@@ -18,23 +18,22 @@ class TextDialog final : public QDialog {
  public:
     enum class Lines { Breaks, Items, List };
 
-    TextDialog(const QString& title, Text text, Lines lines, QWidget* parent);
-
-    /// Sets a function that returns why the form cannot hold a text, or an empty text. While it
-    /// returns a reason, the dialog shows it and cannot be accepted.
-    void CheckWith(std::function<QString(TextView)> whyNot);
+    /// While the code page of the form cannot hold the text, the dialog tells why, offers others
+    /// and cannot be accepted. `design` must outlive the dialog.
+    TextDialog(FormDesign& design, const QString& title, Text text, Lines lines, QWidget* parent);
 
     /// Returns the edited text, or the unchanged original.
     Text Result() const;
     QString Message() const { return notice_->Text(); }
+    Notice& Refusal() const { return *notice_; }
     void accept() override;
 
  private:
     void Check();
 
+    FormDesign& design_;
     Text text_;
     Text divider_;
-    std::function<QString(TextView)> whyNot_;
     QPlainTextEdit* edit_;
     Notice* notice_;
     QDialogButtonBox* buttons_;

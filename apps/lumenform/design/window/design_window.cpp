@@ -66,7 +66,7 @@ DesignWindow::DesignWindow(const Setup& setup)
       files_(new FileMenu(this)),
       commands_(new FormCommands(*this)),
       view_(new ViewMenu(setup.settings, this)),
-      status_(new PlaceStatus) {
+      status_(new PlaceStatus(files_->EncodingMenu())) {
     setAcceptDrops(true);
     setCentralWidget(pages_);
     setStatusBar(status_);
@@ -127,6 +127,7 @@ void DesignWindow::ConnectFiles() {
         ShowRecent();
     });
     connect(files_, &FileMenu::CodePageWanted, this, &DesignWindow::ReadAgain);
+    connect(files_, &FileMenu::EncodingWanted, this, &DesignWindow::WriteIn);
     connect(files_, &FileMenu::SaveWanted, this, &DesignWindow::Save);
     connect(files_, &FileMenu::SaveAsWanted, this, [this] { Current()->SaveAs(); });
     connect(files_, &FileMenu::CloseWanted, this, [this] { Close(tabs_->currentIndex()); });
@@ -343,6 +344,14 @@ void DesignWindow::ReadAgain(int codePage) {
             Warn(*this, tr("%1 cannot be opened.").arg(QFileInfo(path).fileName()),
                  QString::fromUtf8(error.what()));
         }
+    }
+    Follow();  // the menu has checked its item
+}
+
+void DesignWindow::WriteIn(int codePage) {
+    Workbench& bench = *Bench();
+    if (bench.FinishEditing()) {
+        bench.Try([&] { bench.GetDesign().WriteIn(codePage); });
     }
     Follow();  // the menu has checked its item
 }

@@ -90,6 +90,7 @@ class DesignWindow final : public QMainWindow {
     void Open(const QString& path);
     void ChooseAndOpen();
     void ReadAgain(int codePage);
+    void WriteIn(int codePage);
     void Close(int index);
     void Follow();
     void FollowBench(Workbench* bench);

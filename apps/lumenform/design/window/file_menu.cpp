@@ -16,7 +16,9 @@ FileMenu::FileMenu(QWidget* parent) : QMenu(tr("&File"), parent) {
     open_->setIcon(icon(QStyle::SP_DialogOpenButton));
     recent_ = addMenu(tr("Open &recent"));
     codePages_ = addMenu(tr("Read in code &page"));
-    AddCodePages();
+    encodings_ = addMenu(tr("&Write in code page"));
+    AddCodePages(*codePages_, &FileMenu::CodePageWanted);
+    AddCodePages(*encodings_, &FileMenu::EncodingWanted);
     addSeparator();
     save_ = Add(tr("&Save"), QKeySequence::Save, &FileMenu::SaveWanted);
     save_->setIcon(icon(QStyle::SP_DialogSaveButton));
@@ -32,12 +34,15 @@ QAction* FileMenu::Add(const QString& title, const QKeySequence& keys, void (Fil
     return action;
 }
 
-void FileMenu::AddCodePages() {
+void FileMenu::AddCodePages(QMenu& menu, void (FileMenu::*wanted)(int)) {
     for (const forms::KnownCodePage& page : forms::KnownCodePages()) {
         const int number = page.number;
         QAction* const action =
-            codePages_->addAction(tr("%1  %2").arg(number).arg(QString::fromLatin1(page.title)),
-                                  this, [this, number] { Q_EMIT CodePageWanted(number); });
+            menu.addAction(tr("%1  %2").arg(number).arg(QString::fromLatin1(page.title)), this,
+                           [this, number, wanted] {
+                               Q_EMIT(this->*wanted)
+                               (number);
+                           });
         action->setCheckable(true);
         action->setData(number);
     }
@@ -60,8 +65,11 @@ void FileMenu::Show(const State& state) {
     saveAs_->setEnabled(state.canSave);
     close_->setEnabled(state.isOpen);
     codePages_->setEnabled(state.canReadAgain);
-    for (QAction* const action : codePages_->actions()) {
-        action->setChecked(state.isOpen && action->data().toInt() == state.codePage);
+    encodings_->setEnabled(state.canSave);
+    for (const QMenu* const menu : {codePages_, encodings_}) {
+        for (QAction* const action : menu->actions()) {
+            action->setChecked(state.isOpen && action->data().toInt() == state.codePage);
+        }
     }
 }
 

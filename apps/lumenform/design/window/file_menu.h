@@ -16,6 +16,8 @@ class FileMenu final : public QMenu {
     QAction& NewAction() const { return *new_; }
     QAction& OpenAction() const { return *open_; }
     QAction& SaveAction() const { return *save_; }
+    /// The code pages in which the form can be written.
+    QMenu& EncodingMenu() const { return *encodings_; }
 
     void ShowRecent(const QStringList& paths);
 
@@ -35,6 +37,8 @@ class FileMenu final : public QMenu {
     void RecentCleared();
     /// Requests to read the file of the form again in this code page.
     void CodePageWanted(int number);
+    /// Requests to write the form in this code page from now on.
+    void EncodingWanted(int number);
     void SaveWanted();
     void SaveAsWanted();
     void CloseWanted();
@@ -42,12 +46,13 @@ class FileMenu final : public QMenu {
 
  private:
     QAction* Add(const QString& title, const QKeySequence& keys, void (FileMenu::*wanted)());
-    void AddCodePages();
+    void AddCodePages(QMenu& menu, void (FileMenu::*wanted)(int));
 
     QAction* new_ = nullptr;
     QAction* open_ = nullptr;
     QMenu* recent_ = nullptr;
     QMenu* codePages_ = nullptr;
+    QMenu* encodings_ = nullptr;
     QAction* save_ = nullptr;
     QAction* saveAs_ = nullptr;
     QAction* close_ = nullptr;

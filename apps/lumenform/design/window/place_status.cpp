@@ -7,8 +7,11 @@
 
 namespace lumenkit::lumenform {
 
-PlaceStatus::PlaceStatus(QWidget* parent)
-    : QStatusBar(parent), pointer_(new QLabel), selection_(new QLabel), codePage_(new QLabel) {
+PlaceStatus::PlaceStatus(QMenu& encodings, QWidget* parent)
+    : QStatusBar(parent), pointer_(new QLabel), selection_(new QLabel), codePage_(new QToolButton) {
+    codePage_->setAutoRaise(true);
+    codePage_->setPopupMode(QToolButton::InstantPopup);
+    codePage_->setMenu(&encodings);
     codePage_->setObjectName(QStringLiteral("codePage"));
     addPermanentWidget(selection_);
     addPermanentWidget(pointer_);
@@ -26,6 +29,7 @@ void PlaceStatus::Follow(Workbench* workbench) {
         const FormDesign& design = workbench->GetDesign();
         connect(&design, &FormDesign::SelectionChanged, this, &PlaceStatus::ShowSelection);
         connect(&design, &FormDesign::Edited, this, &PlaceStatus::ShowSelection);
+        connect(&design, &FormDesign::Edited, this, &PlaceStatus::ShowCodePage);
         connect(&workbench->GetCanvas(), &Canvas::PointerMoved, pointer_, [this](QPointF twips) {
             pointer_->setText(tr("%1, %2").arg(std::lround(twips.x())).arg(std::lround(twips.y())));
         });
@@ -55,15 +59,16 @@ void PlaceStatus::ShowSelection() {
 }
 
 void PlaceStatus::ShowCodePage() {
-    codePage_->clear();
-    codePage_->setToolTip({});
+    codePage_->setVisible(workbench_ != nullptr);
     if (workbench_ == nullptr) {
+        codePage_->setText({});
         return;
     }
     const int page = workbench_->GetDesign().Document().FormCodePage();
     codePage_->setText(page == forms::utf8CodePage ? tr("UTF-8") : tr("Code page %1").arg(page));
-    codePage_->setToolTip(tr("The form is in %1. File > Read in code page reads it in another one.")
-                              .arg(QString::fromStdString(forms::NameOfCodePage(page))));
+    codePage_->setToolTip(
+        tr("The form is written in %1. File > Read in code page reads the file in another one.")
+            .arg(QString::fromStdString(forms::NameOfCodePage(page))));
 }
 
 }  // namespace lumenkit::lumenform

@@ -1,7 +1,9 @@
 #pragma once
 
 #include <QLabel>
+#include <QMenu>
 #include <QStatusBar>
+#include <QToolButton>
 
 #include "apps/lumenform/design/window/workbench.h"
 
@@ -13,7 +15,8 @@ class PlaceStatus final : public QStatusBar {
     Q_OBJECT
 
  public:
-    explicit PlaceStatus(QWidget* parent = nullptr);
+    /// `encodings` opens at the code page. It must outlive the status bar.
+    explicit PlaceStatus(QMenu& encodings, QWidget* parent = nullptr);
 
     /// Shows the state of this workbench. Null clears the status bar.
     void Follow(Workbench* workbench);
@@ -25,7 +28,7 @@ class PlaceStatus final : public QStatusBar {
     Workbench* workbench_ = nullptr;
     QLabel* pointer_;
     QLabel* selection_;
-    QLabel* codePage_;
+    QToolButton* codePage_;
 };
 
 }  // namespace lumenkit::lumenform

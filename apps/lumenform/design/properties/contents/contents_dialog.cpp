@@ -4,16 +4,17 @@
 #include <QRadioButton>
 #include <QScrollArea>
 #include <algorithm>
-#include <utility>
 
+#include "apps/lumenform/design/properties/encoding_offer.h"
+#include "apps/lumenform/design/properties/writable_text.h"
 #include "runtime/qt/qt_text.h"
 
 namespace lumenkit::lumenform {
 
-ContentsDialog::ContentsDialog(const QString& title, TextView contents,
-                               std::function<QString(TextView)> whyNot, QWidget* parent)
+ContentsDialog::ContentsDialog(FormDesign& design, const QString& title, TextView contents,
+                               QWidget* parent)
     : QDialog(parent),
-      whyNot_(std::move(whyNot)),
+      design_(design),
       model_(new ContentsModel(contents, this)),
       table_(new ContentsTable(*model_, this)),
       preview_(new QGroupBox(tr("Preview"), this)),
@@ -24,10 +25,14 @@ ContentsDialog::ContentsDialog(const QString& title, TextView contents,
     connect(buttons_, &QDialogButtonBox::accepted, this, &QDialog::accept);
     connect(buttons_, &QDialogButtonBox::rejected, this, &QDialog::reject);
     connect(model_, &ContentsModel::Changed, this, &ContentsDialog::Update);
-    connect(model_, &ContentsModel::Refused, notice_, &Notice::Say);
-    connect(table_, &ContentsTable::Refused, notice_, &Notice::Say);
+    connect(model_, &ContentsModel::Refused, notice_,
+            [this](const QString& why) { notice_->Say(why); });
+    connect(table_, &ContentsTable::Refused, notice_,
+            [this](const QString& why) { notice_->Say(why); });
     connect(table_->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
             &ContentsDialog::Update);
+    new EncodingOffer(
+        design, *notice_, [this] { return Result(); }, [this] { Update(); });
     Update();
     table_->setFocus();
 }
@@ -83,8 +88,8 @@ void ContentsDialog::Update() {
     remove_->setEnabled(row >= 0 && model_->rowCount() > 1);
     up_->setEnabled(row > 0);
     down_->setEnabled(row >= 0 && row + 1 < model_->rowCount());
-    const QString why = whyNot_(Result());
-    notice_->Say(why);
+    const QString why = WhyUnwritable(design_.Document(), Result());
+    notice_->Say(why, true);
     buttons_->button(QDialogButtonBox::Ok)->setEnabled(why.isEmpty());
     ShowPreview();
 }

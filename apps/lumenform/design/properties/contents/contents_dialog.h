@@ -7,6 +7,7 @@
 #include <QVBoxLayout>
 #include <functional>
 
+#include "apps/lumenform/design/model/form_design.h"
 #include "apps/lumenform/design/properties/contents/contents_model.h"
 #include "apps/lumenform/design/properties/contents/contents_table.h"
 #include "apps/lumenform/design/properties/notice.h"
@@ -19,16 +20,16 @@ class ContentsDialog final : public QDialog {
     Q_OBJECT
 
  public:
-    /// `whyNot` returns why the form cannot hold a text, or an empty text. While it returns a
-    /// reason, the dialog shows it and cannot be accepted.
-    ContentsDialog(const QString& title, TextView contents, std::function<QString(TextView)> whyNot,
-                   QWidget* parent);
+    /// While the code page of the form cannot hold the text of the items, the dialog tells why,
+    /// offers others and cannot be accepted. `design` must outlive the dialog.
+    ContentsDialog(FormDesign& design, const QString& title, TextView contents, QWidget* parent);
 
     /// The text of the items as they are now.
     Text Result() const { return model_->Rows().Contents(); }
     ContentsTable& Table() const { return *table_; }
     /// The reason for the last refusal, or an empty text.
     QString Message() const { return notice_->Text(); }
+    Notice& Refusal() const { return *notice_; }
 
  Q_SIGNALS:
     /// The user wants to edit the items as a text. The dialog is closed.
@@ -42,7 +43,7 @@ class ContentsDialog final : public QDialog {
     void Update();
     void ShowPreview();
 
-    std::function<QString(TextView)> whyNot_;
+    FormDesign& design_;
     ContentsModel* model_;
     ContentsTable* table_;
     QGroupBox* preview_;
