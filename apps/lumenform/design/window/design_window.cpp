@@ -83,6 +83,7 @@ DesignWindow::DesignWindow(const Setup& setup)
     ConnectFiles();
     menuBar()->addMenu(files_);
     menuBar()->addMenu(&commands_->EditMenu());
+    commands_->AddCodeCommand(view_->CodeAction());
     menuBar()->addMenu(view_);
     menuBar()->addMenu(&commands_->FormatMenu());
     AddRunMenu();
@@ -119,6 +120,8 @@ void DesignWindow::ConnectFiles() {
     connect(files_, &FileMenu::SaveAsWanted, this, [this] { Current()->SaveAs(); });
     connect(files_, &FileMenu::CloseWanted, this, [this] { Close(tabs_->currentIndex()); });
     connect(files_, &FileMenu::QuitWanted, this, &QWidget::close);
+    connect(view_, &ViewMenu::CodeWanted, this, [this] { Current()->ShowCode(); });
+    connect(view_, &ViewMenu::FormWanted, this, [this] { Current()->ShowForm(); });
 }
 
 void DesignWindow::AddRunMenu() {
@@ -374,6 +377,11 @@ void DesignWindow::Follow() {
     if (bench != followed_) {
         FollowBench(bench);
     }
+    const bool isCode = bench != nullptr && tab->ShowsCode();
+    Command(isCode ? nullptr : bench);
+    view_->SetPage(bench == nullptr ? ViewMenu::Page::None
+                   : isCode         ? ViewMenu::Page::Code
+                                    : ViewMenu::Page::Form);
     files_->Show({.isOpen = tab != nullptr,
                   .canSave = bench != nullptr,
                   .canReadAgain = bench != nullptr && tab->File().HasPath(),
@@ -385,9 +393,17 @@ void DesignWindow::Follow() {
 
 void DesignWindow::FollowBench(Workbench* bench) {
     followed_ = bench;
-    commands_->Follow(bench);
+    Command(nullptr);
     status_->Follow(bench);
     view_->Follow(bench);
+}
+
+// The commands for the selection would change what is not seen behind the code.
+void DesignWindow::Command(Workbench* bench) {
+    if (bench != commanded_) {
+        commanded_ = bench;
+        commands_->Follow(bench);
+    }
 }
 
 void DesignWindow::ShowTitles() {
@@ -401,6 +417,7 @@ void DesignWindow::ShowTitles() {
     const FormTab* const tab = Current();
     setWindowTitle(tab == nullptr              ? tr("lumenform")
                    : tab->Running() != nullptr ? tr("%1[*] (running) – lumenform").arg(tab->Name())
+                   : tab->ShowsCode()          ? tr("%1[*] (code) – lumenform").arg(tab->Name())
                                                : tr("%1[*] – lumenform").arg(tab->Name()));
     setWindowModified(tab != nullptr && tab->IsChanged());
 }
