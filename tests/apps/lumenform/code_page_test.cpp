@@ -1,11 +1,10 @@
 // The code of a form in the designer's window.
 #include "apps/lumenform/design/code/code_page.h"
 
-#include <QAccessible>
 #include <QApplication>
 #include <QClipboard>
+#include <QPointer>
 #include <QPushButton>
-#include <QSignalSpy>
 #include <QTest>
 #include <QTextBlock>
 #include <QTextLayout>
@@ -279,7 +278,7 @@ TEST_F(CodePages, TheMenuOfAControlLeadsToItsCode) {
 }
 
 TEST_F(CodePages, AFormWithoutCodeSaysSo) {
-    window.StartNew();
+    LoadOrder("");
     OpenCode();
     EXPECT_TRUE(Code().toPlainText().isEmpty());
     EXPECT_EQ(Code().placeholderText(), QStringLiteral("This form has no code."));
@@ -392,15 +391,24 @@ class LostNamesOfCode : public CodePages {
         Select(name);
         QTest::keyClick(&window.Bench()->GetCanvas().GetGlass(), Qt::Key_Delete);
     }
-    void RenameInOutline(const QString& former, const QString& name) const {
+    void SelectInOutline(const QString& name) const {
         lumenform::OutlineTree& tree = window.Bench()->GetOutline().Tree();
-        tree.setFocus();
-        tree.setCurrentIndex(tree.model()->match(tree.model()->index(0, 0), Qt::DisplayRole, former,
-                                                 1, Qt::MatchRecursive)[0]);
+        const QModelIndexList rows =
+            tree.model()->match(tree.model()->index(0, 0), Qt::DisplayRole, name, 1,
+                                Qt::MatchFixedString | Qt::MatchCaseSensitive | Qt::MatchRecursive);
+        ASSERT_EQ(rows.size(), 1) << name.toStdString();
+        QTest::mouseClick(tree.viewport(), Qt::LeftButton, {},
+                          tree.visualRect(rows.front()).center());
+        ASSERT_TRUE(tree.hasFocus());
+    }
+    void RenameInOutline(const QString& former, const QString& name) const {
+        ASSERT_NO_FATAL_FAILURE(SelectInOutline(former));
         Key(Qt::Key_F2);
-        QTest::keyClicks(QApplication::focusWidget(), name);
-        Key(Qt::Key_Return);
-        QTest::qWait(1);
+        const QPointer<QWidget> line = QApplication::focusWidget();
+        QTest::keyClicks(line, name);
+        QTest::keyClick(line, Qt::Key_Return);
+        ASSERT_TRUE(QTest::qWaitFor([&] { return line == nullptr; }));
+        QApplication::processEvents();
     }
 };
 
@@ -411,7 +419,7 @@ TEST_F(LostNamesOfCode, AreToldWhenAControlIsRenamedInThePropertyList) {
     LoadOrder();
     const std::string code = Text().substr(Text().find("Option Explicit"));
     Select(u"Command1");
-    TypeInto(u"Name", "cmdOrder");
+    TypeInto(u"(Name)", "cmdOrder");
     EXPECT_EQ(Said(), "");
     Key(Qt::Key_Return);
     EXPECT_EQ(Said(), allOfCommand1);
@@ -462,10 +470,7 @@ TEST_F(LostNamesOfCode, AreToldOfMenus) {
     EXPECT_EQ(Said(), "mnuOpen_Click still mentions mnuOpen");
     window.Commands().UndoAction().trigger();
     EXPECT_EQ(Said(), "");
-    lumenform::OutlineTree& tree = window.Bench()->GetOutline().Tree();
-    tree.setFocus();
-    tree.setCurrentIndex(tree.model()->match(tree.model()->index(0, 0), Qt::DisplayRole,
-                                             QStringLiteral("mnuFile"), 1, Qt::MatchRecursive)[0]);
+    SelectInOutline(QStringLiteral("mnuFile"));
     Key(Qt::Key_Delete);
     EXPECT_EQ(Said(), "mnuOpen_Click still mentions mnuOpen") << "mnuFile is not mentioned";
 }

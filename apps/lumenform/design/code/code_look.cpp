@@ -31,7 +31,7 @@ QColor Mixed(const QColor& one, const QColor& other, double share) {
 
 double ContrastOf(const QColor& one, const QColor& other) {
     constexpr double flare = 0.05;
-    const auto [low, high] = std::minmax(Luminance(one), Luminance(other));
+    const auto [low, high] = std::minmax({Luminance(one), Luminance(other)});
     return (high + flare) / (low + flare);
 }
 
