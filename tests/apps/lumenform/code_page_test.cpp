@@ -3,6 +3,7 @@
 
 #include <QApplication>
 #include <QClipboard>
+#include <QContextMenuEvent>
 #include <QPointer>
 #include <QPushButton>
 #include <QTest>
@@ -268,10 +269,11 @@ TEST_F(CodePages, TheMenuOfAControlLeadsToItsCode) {
     QMenu& menu = window.Commands().EditMenu();
     QAction& code = Command(QStringLiteral("Code"));
     ASSERT_TRUE(menu.actions().contains(&code));
-    QTest::mouseClick(&window.Bench()->GetCanvas().GetGlass(), Qt::RightButton, {},
-                      window.Bench()->GetCanvas().GetGlass().mapFromGlobal(
-                          Design().View().Find(u"Command1")->Widget().mapToGlobal(QPoint(5, 5))));
-    menu.popup(window.mapToGlobal(QPoint(50, 50)));
+    lumenform::Glass& glass = window.Bench()->GetCanvas().GetGlass();
+    const QPoint at = Design().View().Find(u"Command1")->Widget().mapToGlobal(QPoint(5, 5));
+    QContextMenuEvent event(QContextMenuEvent::Mouse, glass.mapFromGlobal(at), at);
+    QApplication::sendEvent(&glass, &event);
+    ASSERT_TRUE(menu.isVisible());
     QTest::mouseClick(&menu, Qt::LeftButton, {}, menu.actionGeometry(&code).center());
     EXPECT_TRUE(Code().isVisible());
     EXPECT_EQ(CurrentText(), "Private Sub Command1_Click()");
@@ -497,6 +499,7 @@ TEST_F(LostNamesOfCode, LeadToTheCode) {
     EXPECT_EQ(buttons.front()->accessibleName(), QStringLiteral("Dismiss this message"));
     QTest::mouseClick(buttons.front(), Qt::LeftButton);
     EXPECT_EQ(Said(), "");
+    EXPECT_TRUE(Code().hasFocus());
 }
 
 TEST_F(LostNamesOfCode, AreToldAfterManySteps) {

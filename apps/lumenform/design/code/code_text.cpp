@@ -165,7 +165,7 @@ void CodeText::PaintNumbers(QPaintEvent& event) {
         if (top + height >= event.rect().top()) {
             const std::size_t number = firstLine_ + static_cast<std::size_t>(block.blockNumber());
             painter.setPen(block.blockNumber() == current ? plain : dimmed);
-            painter.drawText(QRectF(0, top, right, height), Qt::AlignRight | Qt::AlignVCenter,
+            painter.drawText(QRectF(0, top, right, fontMetrics().height()), Qt::AlignRight,
                              QString::number(number));
         }
         top += height;

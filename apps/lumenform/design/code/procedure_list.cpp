@@ -43,6 +43,7 @@ QString NameOf(const Procedure& procedure) {
 ProcedureList::ProcedureList(QWidget* parent) : QListWidget(parent) {
     setAccessibleName(tr("Procedures"));
     setUniformItemSizes(true);
+    setSpacing(1);
     setFrameShape(QFrame::NoFrame);
     connect(this, &QListWidget::currentItemChanged, this,
             [this](const QListWidgetItem* row) { Choose(row); });

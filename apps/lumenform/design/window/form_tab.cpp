@@ -33,7 +33,10 @@ FormTab::FormTab(const Setup& setup, forms::Document document, FormFile file, QW
     pages_->addWidget(bench_.get());
     pages_->addWidget(code_);
     connect(lost_.get(), &LostNames::Changed, this, &FormTab::FollowLostNames);
-    connect(mentions_, &MentionBar::Dismissed, lost_.get(), &LostNames::Dismiss);
+    connect(mentions_, &MentionBar::Dismissed, this, [this] {
+        lost_->Dismiss();
+        TakeFocus();
+    });
     connect(mentions_, &MentionBar::CodeWanted, this, [this] { OpenCode(lost_->Names()); });
     connect(bar_, &ChangedBar::ReloadWanted, this, &FormTab::Reload);
     connect(bar_, &ChangedBar::KeepMineWanted, this, &FormTab::KeepMine);
