@@ -7,7 +7,7 @@ namespace lumenkit::lumenform {
 
 namespace {
 
-constexpr TextView keywords[] = {
+constexpr auto keywords = std::to_array<TextView>({
     u"AddressOf",  u"Alias",    u"And",     u"Any",      u"As",     u"Attribute",  u"Boolean",
     u"ByRef",      u"Byte",     u"ByVal",   u"Call",     u"Case",   u"Close",      u"Const",
     u"Currency",   u"Date",     u"Declare", u"Dim",      u"Do",     u"Double",     u"Each",
@@ -22,7 +22,7 @@ constexpr TextView keywords[] = {
     u"Step",       u"Stop",     u"String",  u"Sub",      u"Then",   u"To",         u"True",
     u"Type",       u"TypeOf",   u"Until",   u"Variant",  u"Wend",   u"While",      u"With",
     u"WithEvents", u"Xor",
-};
+});
 
 bool ComesBefore(TextView left, TextView right) {
     return std::ranges::lexicographical_compare(left, right, {}, LowerUnit, LowerUnit);
@@ -173,7 +173,7 @@ Continued DivideLine(TextView line, Continued former, std::vector<CodePart>& par
 
 bool IsCodeKeyword(TextView word) {
     static const auto sorted = [] {
-        auto words = std::to_array(keywords);
+        auto words = keywords;
         std::ranges::sort(words, ComesBefore);
         return words;
     }();

@@ -36,12 +36,12 @@ double ContrastOf(const QColor& one, const QColor& other) {
 }
 
 QColor DimmedText(const QPalette& palette) {
-    constexpr double wanted = 0.4;
-    constexpr double step = 0.05;
+    constexpr int mostPercent = 40;
+    constexpr int step = 5;
     const QColor text = palette.color(QPalette::Active, QPalette::Text);
     const QColor base = palette.color(QPalette::Active, QPalette::Base);
-    for (double share = wanted; share > 0; share -= step) {
-        if (const QColor dimmed = Mixed(text, base, share);
+    for (int percent = mostPercent; percent > 0; percent -= step) {
+        if (const QColor dimmed = Mixed(text, base, percent / 100.0);
             ContrastOf(dimmed, base) >= leastContrast) {
             return dimmed;
         }

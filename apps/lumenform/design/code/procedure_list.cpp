@@ -23,7 +23,7 @@ QString ListOf(const std::vector<Text>& names) {
 }  // namespace
 
 QString NameOf(const Procedure& procedure) {
-    const QString name = qt::ToQString(procedure.name);
+    QString name = qt::ToQString(procedure.name);
     switch (procedure.kind) {
         case Procedure::Kind::Declarations:
             return QCoreApplication::translate("procedure_list", "(Declarations)");

@@ -1,8 +1,6 @@
 #include "apps/lumenform/design/code/statement_reader.h"
 
 #include <algorithm>
-#include <cstddef>
-#include <initializer_list>
 
 namespace lumenkit::lumenform {
 
@@ -74,8 +72,8 @@ StatementReader::State StatementReader::AfterModifier(TextView word) {
                      {{u"Sub", Procedure::Kind::Sub}, {u"Function", Procedure::Kind::Function}});
 }
 
-template <std::size_t count>
-StatementReader::State StatementReader::AfterKind(TextView word, const KindOfWord (&kinds)[count]) {
+StatementReader::State StatementReader::AfterKind(TextView word,
+                                                  std::initializer_list<KindOfWord> kinds) {
     for (const KindOfWord& known : kinds) {
         if (SameText(word, known.word, Compare::IgnoreCase)) {
             kind_ = known.kind;

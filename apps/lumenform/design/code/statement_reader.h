@@ -1,6 +1,6 @@
 #pragma once
 
-#include <cstddef>
+#include <initializer_list>
 
 #include "apps/lumenform/design/code/code_line.h"
 #include "apps/lumenform/design/code/procedure.h"
@@ -35,8 +35,7 @@ class StatementReader {
     State After(CodePart::Kind part, TextView text);
     State AfterFirst(TextView word);
     State AfterModifier(TextView word);
-    template <std::size_t count>
-    State AfterKind(TextView word, const KindOfWord (&kinds)[count]);
+    State AfterKind(TextView word, std::initializer_list<KindOfWord> kinds);
 
     State state_ = State::Start;
     Procedure::Kind kind_ = Procedure::Kind::Sub;
