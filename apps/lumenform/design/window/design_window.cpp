@@ -86,6 +86,7 @@ DesignWindow::DesignWindow(const Setup& setup)
     ConnectFiles();
     menuBar()->addMenu(files_);
     menuBar()->addMenu(&commands_->EditMenu());
+    commands_->AddCodeCommand(view_->CodeAction());
     menuBar()->addMenu(view_);
     menuBar()->addMenu(&commands_->FormatMenu());
     AddRunMenu();
@@ -132,6 +133,8 @@ void DesignWindow::ConnectFiles() {
     connect(files_, &FileMenu::SaveAsWanted, this, [this] { Current()->SaveAs(); });
     connect(files_, &FileMenu::CloseWanted, this, [this] { Close(tabs_->currentIndex()); });
     connect(files_, &FileMenu::QuitWanted, this, &QWidget::close);
+    connect(view_, &ViewMenu::CodeWanted, this, [this] { Current()->ShowCode(); });
+    connect(view_, &ViewMenu::FormWanted, this, [this] { Current()->ShowForm(); });
 }
 
 void DesignWindow::AddRunMenu() {
@@ -407,6 +410,11 @@ void DesignWindow::Follow() {
     if (bench != followed_) {
         FollowBench(bench);
     }
+    const bool isCode = bench != nullptr && tab->ShowsCode();
+    Command(isCode ? nullptr : bench);
+    view_->SetPage(bench == nullptr ? ViewMenu::Page::None
+                   : isCode         ? ViewMenu::Page::Code
+                                    : ViewMenu::Page::Form);
     files_->Show({.isOpen = tab != nullptr,
                   .canSave = bench != nullptr,
                   .canReadAgain = bench != nullptr && tab->File().HasPath(),
@@ -418,9 +426,17 @@ void DesignWindow::Follow() {
 
 void DesignWindow::FollowBench(Workbench* bench) {
     followed_ = bench;
-    commands_->Follow(bench);
+    Command(nullptr);
     status_->Follow(bench);
     view_->Follow(bench);
+}
+
+// The commands for the selection would change what is not seen behind the code.
+void DesignWindow::Command(Workbench* bench) {
+    if (bench != commanded_) {
+        commanded_ = bench;
+        commands_->Follow(bench);
+    }
 }
 
 void DesignWindow::ShowTitles() {
@@ -434,6 +450,7 @@ void DesignWindow::ShowTitles() {
     const FormTab* const tab = Current();
     setWindowTitle(tab == nullptr              ? tr("lumenform")
                    : tab->Running() != nullptr ? tr("%1[*] (running) – lumenform").arg(tab->Name())
+                   : tab->ShowsCode()          ? tr("%1[*] (code) – lumenform").arg(tab->Name())
                                                : tr("%1[*] – lumenform").arg(tab->Name()));
     setWindowModified(tab != nullptr && tab->IsChanged());
 }

@@ -94,6 +94,7 @@ class DesignWindow final : public QMainWindow {
     void Close(int index);
     void Follow();
     void FollowBench(Workbench* bench);
+    void Command(Workbench* bench);
     void Remember(const QString& path);
     void ShowRecent();
     void Tell(const QString& text);
@@ -113,6 +114,7 @@ class DesignWindow final : public QMainWindow {
     QToolBar* bar_ = nullptr;
     QAction* runForm_ = nullptr;
     Workbench* followed_ = nullptr;
+    Workbench* commanded_ = nullptr;  // null while the code is shown
 };
 
 }  // namespace lumenkit::lumenform

@@ -23,6 +23,8 @@ class FormCommands final : public QObject {
     QAction& CaptionAction() const { return *caption_; }
     QAction& TabOrderAction() const { return *tabOrder_; }
 
+    /// Puts the command that shows the code of the selection into the menu.
+    void AddCodeCommand(QAction& code) { edit_->insertAction(tabOrder_, &code); }
     /// Uses this workbench from now on. Null disables all commands.
     void Follow(Workbench* workbench);
 

@@ -3,6 +3,7 @@
 #include <QFileInfo>
 #include <QVBoxLayout>
 
+#include "apps/lumenform/design/code/mention_message.h"
 #include "apps/lumenform/design/window/difference_dialog.h"
 #include "apps/lumenform/design/window/form_dialogs.h"
 #include "forms/file.h"
@@ -19,13 +20,24 @@ FormTab::FormTab(const Setup& setup, forms::Document document, FormFile file, QW
       keeping_(new QTimer(this)),
       bar_(new ChangedBar),
       pages_(new QStackedWidget),
-      bench_(std::make_unique<Workbench>(setup.context, setup.messages, std::move(document))) {
+      mentions_(new MentionBar),
+      bench_(std::make_unique<Workbench>(setup.context, setup.messages, std::move(document))),
+      lost_(std::make_unique<LostNames>(bench_->GetDesign())),
+      code_(new CodePage(bench_->GetDesign())) {
     auto* const column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(0);
     column->addWidget(bar_);
     column->addWidget(pages_, 1);
+    column->addWidget(mentions_);
     pages_->addWidget(bench_.get());
+    pages_->addWidget(code_);
+    connect(lost_.get(), &LostNames::Changed, this, &FormTab::FollowLostNames);
+    connect(mentions_, &MentionBar::Dismissed, this, [this] {
+        lost_->Dismiss();
+        TakeFocus();
+    });
+    connect(mentions_, &MentionBar::CodeWanted, this, [this] { OpenCode(lost_->Names()); });
     connect(bar_, &ChangedBar::ReloadWanted, this, &FormTab::Reload);
     connect(bar_, &ChangedBar::KeepMineWanted, this, &FormTab::KeepMine);
     connect(bar_, &ChangedBar::DifferenceWanted, this, &FormTab::Compare);
@@ -42,6 +54,8 @@ FormTab::FormTab(const Setup& setup, forms::Document document, FormFile file, QW
 
 // Destroying the history emits signals.
 FormTab::~FormTab() {
+    lost_.reset();
+    delete code_;
     bench_->GetDesign().History().disconnect(this);
     bench_->GetDesign().disconnect(this);
 }
@@ -177,6 +191,32 @@ void FormTab::BeginRun() {
     }
 }
 
+void FormTab::ShowCode() {
+    OpenCode(NamesOfSelection(bench_->GetDesign()));
+}
+
+void FormTab::OpenCode(const std::vector<Text>& names) {
+    if (run_ == nullptr && (ShowsCode() || bench_->FinishEditing())) {
+        pages_->setCurrentWidget(code_);
+        code_->GoTo(names);
+        TakeFocus();
+        Q_EMIT StateChanged();
+    }
+}
+
+void FormTab::ShowForm() {
+    if (ShowsCode()) {
+        pages_->setCurrentWidget(bench_.get());
+        TakeFocus();
+        Q_EMIT StateChanged();
+    }
+}
+
+void FormTab::FollowLostNames() {
+    mentions_->Show(lost_->Names().empty() ? QString()
+                                           : MentionMessage(lost_->Outline(), lost_->Names()));
+}
+
 void FormTab::LookAtDisk() {
     if (file_.WasChangedByOthers(bench_->GetDesign())) {
         bar_->Show(Name());
@@ -213,7 +253,9 @@ void FormTab::Compare() {
 }
 
 void FormTab::TakeFocus() {
-    if (run_ == nullptr) {
+    if (ShowsCode()) {
+        code_->Code().setFocus();
+    } else if (run_ == nullptr) {
         bench_->GetCanvas().GetGlass().setFocus();
     }
 }

@@ -6,6 +6,9 @@
 #include <functional>
 #include <memory>
 
+#include "apps/lumenform/design/code/code_page.h"
+#include "apps/lumenform/design/code/lost_names.h"
+#include "apps/lumenform/design/code/mention_bar.h"
 #include "apps/lumenform/design/properties/control_messages.h"
 #include "apps/lumenform/design/recovery/recovery_store.h"
 #include "apps/lumenform/design/window/changed_bar.h"
@@ -17,7 +20,7 @@
 
 namespace lumenkit::lumenform {
 
-/// One open form: its workbench, its file and its trial run.
+/// One open form: its workbench, its code, its file and its trial run.
 class FormTab final : public QWidget {
     Q_OBJECT
 
@@ -57,7 +60,14 @@ class FormTab final : public QWidget {
     bool MayLeave();
     /// Starts or ends a trial run of the form.
     void Run(bool on);
-    /// Moves the keyboard to the form.
+    /// Shows the code instead of the form, at the first procedure about the selection. A value that
+    /// is being edited and is rejected keeps the form.
+    void ShowCode();
+    void ShowForm();
+    bool ShowsCode() const { return pages_->currentWidget() == code_; }
+    CodePage& Code() const { return *code_; }
+    MentionBar& Mentions() const { return *mentions_; }
+    /// Moves the keyboard to the form or its code.
     void TakeFocus();
     /// Keeps a copy of unsaved work now, and not only after a moment.
     void KeepCopy();
@@ -66,7 +76,7 @@ class FormTab final : public QWidget {
     ChangedBar& Bar() const { return *bar_; }
 
  Q_SIGNALS:
-    /// The name, the unsaved changes or the trial run changed.
+    /// The name, the unsaved changes, the page or the trial run changed.
     void StateChanged();
     /// An action was done or failed, in a sentence for the status bar.
     void Told(const QString& text);
@@ -80,6 +90,8 @@ class FormTab final : public QWidget {
     void Compare();
     void FollowChanges();
     void BeginRun();
+    void FollowLostNames();
+    void OpenCode(const std::vector<Text>& names);
 
     const Setup setup_;
     FormFile file_;
@@ -87,7 +99,10 @@ class FormTab final : public QWidget {
     QTimer* keeping_;
     ChangedBar* bar_;
     QStackedWidget* pages_;
+    MentionBar* mentions_;
     std::unique_ptr<Workbench> bench_;
+    std::unique_ptr<LostNames> lost_;
+    CodePage* code_;
     std::unique_ptr<RunPage> run_;
 };
 

@@ -39,7 +39,16 @@ ViewMenu::ViewMenu(QSettings& settings, QWidget* parent)
     : QMenu(tr("&View"), parent),
       settings_(settings),
       grid_(Stored(settings)),
+      code_(addAction(tr("&Code"))),
+      form_(addAction(tr("&Form"))),
       outline_(addAction(tr("&Outline"))) {
+    code_->setShortcut(Qt::Key_F7);
+    code_->setToolTip(tr("The code of the form, at the first procedure of the selected control"));
+    form_->setShortcut(Qt::SHIFT | Qt::Key_F7);
+    connect(code_, &QAction::triggered, this, &ViewMenu::CodeWanted);
+    connect(form_, &QAction::triggered, this, &ViewMenu::FormWanted);
+    insertSeparator(outline_);
+    SetPage(Page::None);
     outline_->setToolTip(tr("The tree of the form's objects"));
     outline_->setCheckable(true);
     outline_->setChecked(settings.value(OutlineKey(), true).toBool());
@@ -87,6 +96,11 @@ void ViewMenu::Follow(Workbench* workbench) {
         workbench->GetCanvas().SetGrid(grid_);
         workbench->GetOutline().setVisible(outline_->isChecked());
     }
+}
+
+void ViewMenu::SetPage(Page page) {
+    code_->setEnabled(page == Page::Form);
+    form_->setEnabled(page == Page::Code);
 }
 
 void ViewMenu::ShowOutline(bool on) {

@@ -7,8 +7,8 @@
 
 namespace lumenkit::lumenform {
 
-/// The menu for the outline and the grid. The settings keep both between sessions, and they are the
-/// same for all forms.
+/// The menu for the form and its code, the outline and the grid. The settings keep the last two
+/// between sessions, and they are the same for all forms.
 class ViewMenu final : public QMenu {
     Q_OBJECT
 
@@ -19,6 +19,14 @@ class ViewMenu final : public QMenu {
     /// Applies the settings and their later changes to this workbench. Null means none.
     void Follow(Workbench* workbench);
     const Grid& GetGrid() const { return grid_; }
+    /// What is shown, and with it which commands are enabled.
+    enum class Page { None, Form, Code };
+    void SetPage(Page page);
+    QAction& CodeAction() const { return *code_; }
+
+ Q_SIGNALS:
+    void CodeWanted();
+    void FormWanted();
 
  private:
     void AddSteps();
@@ -27,6 +35,8 @@ class ViewMenu final : public QMenu {
 
     QSettings& settings_;
     Grid grid_;
+    QAction* code_;
+    QAction* form_;
     QAction* outline_;
     Workbench* workbench_ = nullptr;
 };

@@ -1,0 +1,31 @@
+#pragma once
+
+#include <QFrame>
+#include <QLabel>
+#include <QPushButton>
+
+namespace lumenkit::lumenform {
+
+/// A line below a form that says where its code mentions controls that are gone. It takes no
+/// keyboard by itself.
+class MentionBar final : public QFrame {
+    Q_OBJECT
+
+ public:
+    explicit MentionBar(QWidget* parent = nullptr);
+
+    /// Shows the message, or hides the line if it is empty.
+    void Show(const QString& message);
+    QString Message() const { return text_->text(); }
+    QPushButton& CodeButton() const { return *code_; }
+
+ Q_SIGNALS:
+    void CodeWanted();
+    void Dismissed();
+
+ private:
+    QLabel* text_;
+    QPushButton* code_;
+};
+
+}  // namespace lumenkit::lumenform
