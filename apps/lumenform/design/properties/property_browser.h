@@ -67,6 +67,7 @@ class PropertyBrowser final : public QWidget {
     void ShowCurrent();
     void GoBack();
     QString DescribeSelection() const;
+    const forms::Block& SelectedBlock() const;
     QString TryToAssign(int row, const Value& value);
     QString WhyUnwritable(const PropertyRow& row, const Value& value) const;
     std::function<QString(TextView)> TextCheck() const;
