@@ -102,6 +102,10 @@ QKeySequence KeysOf(TextView shortcut) {
         QKeySequence::PortableText};
 }
 
+forms::Block* MenuOf(const QAction& title) {
+    return static_cast<forms::Block*>(title.data().value<void*>());
+}
+
 std::unique_ptr<QMenuBar> MakeMenuBar(const Stage& stage, const forms::Block& form) {
     auto bar = std::make_unique<QMenuBar>();
     bar->setNativeMenuBar(false);
@@ -111,6 +115,7 @@ std::unique_ptr<QMenuBar> MakeMenuBar(const Stage& stage, const forms::Block& fo
         }
         const BlockReader reader(stage.document, *block);
         QMenu* const menu = bar->addMenu(qt::ToQString(reader.String(u"Caption")));
+        menu->menuAction()->setData(QVariant::fromValue<void*>(block));
         SetUp(*menu->menuAction(), reader, stage.mode);
         Fill(stage, *block, *menu);
     }

@@ -27,6 +27,7 @@ Canvas::~Canvas() = default;
 void Canvas::ConnectGlass() {
     connect(glass_, &Glass::Activated, this, &Canvas::Activated);
     connect(glass_, &Glass::FormActivated, this, &Canvas::FormActivated);
+    connect(glass_, &Glass::MenuActivated, this, &Canvas::MenuActivated);
     connect(glass_, &Glass::MenuRequested, this, &Canvas::MenuRequested);
     connect(glass_, &Glass::Drawn, this, &Canvas::Drawn);
     connect(glass_, &Glass::DrawingEnded, this, &Canvas::DrawingEnded);

@@ -44,6 +44,8 @@ class Canvas final : public QScrollArea {
     /// A double click or Enter activated a control or the form itself.
     void Activated(lumenkit::lumenform::LiveControl& control);
     void FormActivated();
+    /// A double click or Enter activated a menu in the menu bar of the form.
+    void MenuActivated();
     /// A context menu is requested for the present selection.
     void MenuRequested(QPoint globalPosition);
     /// A control of the class was drawn in `container` at a place in twips. `container` is null for

@@ -1,8 +1,11 @@
 #include "apps/lumenform/design/canvas/form_map.h"
 
+#include <QLayout>
 #include <algorithm>
 
 #include "apps/lumenform/design/model/arrange.h"
+#include "apps/lumenform/form_view/menu_bar.h"
+#include "forms/controls.h"
 
 namespace lumenkit::lumenform {
 
@@ -99,6 +102,34 @@ std::vector<LiveControl*> FormMap::Touched(const LiveControl* container, const Q
         }
     }
     return touched;
+}
+
+const QMenuBar* FormMap::Bar() const {
+    return qobject_cast<const QMenuBar*>(design_.View().layout()->menuBar());
+}
+
+forms::Block* FormMap::MenuAt(QPoint at) const {
+    const QMenuBar* const bar = Bar();
+    const QAction* const title = bar == nullptr ? nullptr : bar->actionAt(bar->mapFrom(&desk_, at));
+    return title == nullptr ? nullptr : MenuOf(*title);
+}
+
+QRect FormMap::RectOfMenu(const forms::Block& menu) const {
+    const QMenuBar* const bar = Bar();
+    if (bar == nullptr) {
+        return {};
+    }
+    for (QAction* const title : bar->actions()) {
+        const forms::Block* const own = MenuOf(*title);
+        if (own == nullptr) {
+            continue;  // a separator
+        }
+        const std::vector<forms::Block*> inner = forms::AllControls(*own);
+        if (own == &menu || std::ranges::find(inner, &menu) != inner.end()) {
+            return bar->actionGeometry(title).translated(bar->mapTo(&desk_, QPoint()));
+        }
+    }
+    return {};
 }
 
 }  // namespace lumenkit::lumenform

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QMenuBar>
 #include <QPoint>
 #include <QRect>
 #include <QWidget>
@@ -10,8 +11,8 @@
 
 namespace lumenkit::lumenform {
 
-/// The places of the form and its controls in pixels of the desk. A null container is the form
-/// itself.
+/// The places of the form, its menus and its controls in pixels of the desk. A null container is
+/// the form itself.
 class FormMap {
  public:
     /// Both must outlive the map.
@@ -35,7 +36,14 @@ class FormMap {
     /// Returns the direct children of the container that intersect the rectangle.
     std::vector<LiveControl*> Touched(const LiveControl* container, const QRect& area) const;
 
+    /// Returns the menu whose title in the menu bar is at a point, or null.
+    forms::Block* MenuAt(QPoint at) const;
+    /// Returns the place of the title of a menu, or of the menu in the menu bar that contains it.
+    /// Empty if it is not there.
+    QRect RectOfMenu(const forms::Block& menu) const;
+
  private:
+    const QMenuBar* Bar() const;
     LiveControl* ControlAt(QPoint at, const std::vector<LiveControl*>& without) const;
     LiveControl* Find(const QWidget* widget) const;
 

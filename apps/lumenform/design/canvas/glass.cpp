@@ -125,6 +125,10 @@ Glass::Press Glass::PressAt(QPoint at, Qt::KeyboardModifiers held) {
                 },
                 {}};
     }
+    if (forms::Block* const menu = map_.MenuAt(at)) {
+        design_.SelectMenus({menu});
+        return {at, {}, {}};
+    }
     if (control == nullptr || Adds(held)) {
         const bool adds = Adds(held);
         if (!adds) {
@@ -181,7 +185,7 @@ Glass::GestureRef Glass::StartDrawing(QPoint at) {
 }
 
 std::optional<Glass::Grip> Glass::GripAt(QPoint at) const {
-    if (design_.Selected().empty()) {
+    if (design_.IsFormSelected()) {
         const auto edges = EdgesAt(FormHandlesOf(map_.ClientRect()), at);
         return edges ? std::optional(Grip{nullptr, *edges}) : std::nullopt;
     }
@@ -265,7 +269,9 @@ void Glass::mouseDoubleClickEvent(QMouseEvent* event) {
 }
 
 void Glass::Activate() {
-    if (design_.Selected().empty()) {
+    if (!design_.SelectedMenus().empty()) {
+        Q_EMIT MenuActivated();
+    } else if (design_.Selected().empty()) {
         Q_EMIT FormActivated();
     } else {
         Q_EMIT Activated(*design_.Selected().back());
@@ -282,14 +288,17 @@ void Glass::contextMenuEvent(QContextMenuEvent* event) {
         Q_EMIT MenuRequested(mapToGlobal(rect.center()));
         return;
     }
-    SelectForMenu(map_.ControlAt(event->pos()));
+    SelectForMenu(event->pos());
     Q_EMIT MenuRequested(event->globalPos());
 }
 
-// Selects the control under the menu. If it is selected already, the menu is for all selected
-// controls.
-void Glass::SelectForMenu(LiveControl* control) {
-    if (control == nullptr) {
+// Selects the object under the context menu. If it is a selected control, the context menu is for
+// all selected controls.
+void Glass::SelectForMenu(QPoint at) {
+    LiveControl* const control = map_.ControlAt(at);
+    if (forms::Block* const menu = map_.MenuAt(at)) {
+        design_.SelectMenus({menu});
+    } else if (control == nullptr) {
         design_.Select({});
     } else if (!design_.IsSelected(*control)) {
         design_.Select({control});
@@ -397,8 +406,8 @@ QRectF Glass::SeenPart() const {
 
 void Glass::TellSelection() {
     QStringList names;
-    for (const LiveControl* control : design_.Selected()) {
-        names.append(qt::ToQString(control->Name()));
+    for (const Text& name : design_.SelectedNames()) {
+        names.append(qt::ToQString(name));
     }
     setAccessibleDescription(names.isEmpty() ? tr("The form is selected")
                                              : tr("Selected: %1").arg(names.join(u", ")));
@@ -409,10 +418,13 @@ QRegion Glass::Marks() const {
     if (isTabOrderMode_) {
         return badges_.Region();
     }
-    if (design_.Selected().empty()) {
+    if (design_.IsFormSelected()) {
         return BoundsOf(FormHandlesOf(map_.ClientRect()));
     }
     QRegion region;
+    for (const forms::Block* menu : design_.SelectedMenus()) {
+        region += map_.RectOfMenu(*menu);
+    }
     for (const LiveControl* control : design_.Selected()) {
         region += BoundsOf(HandlesOf(map_.RectOf(*control)));
     }
@@ -448,12 +460,22 @@ void Glass::PaintMarks(QPainter& painter) const {
         return;
     }
     const std::vector<LiveControl*>& selected = design_.Selected();
-    if (selected.empty()) {
+    if (design_.IsFormSelected()) {
         PaintHandles(painter, FormHandlesOf(map_.ClientRect()), true, palette());
     }
     for (const LiveControl* control : selected) {
         PaintHandles(painter, HandlesOf(map_.RectOf(*control)), control == selected.back(),
                      palette());
+    }
+    PaintMenuMarks(painter);
+}
+
+// Frames the titles in the menu bar.
+void Glass::PaintMenuMarks(QPainter& painter) const {
+    painter.setPen(QPen(palette().color(QPalette::Active, QPalette::Highlight), 2));
+    painter.setBrush(Qt::NoBrush);
+    for (const forms::Block* menu : design_.SelectedMenus()) {
+        painter.drawRect(map_.RectOfMenu(*menu).adjusted(1, 1, -1, -1));
     }
 }
 

@@ -44,6 +44,7 @@ class Glass final : public QWidget {
     // See the signals of Canvas.
     void Activated(LiveControl& control);
     void FormActivated();
+    void MenuActivated();
     void MenuRequested(QPoint globalPosition);
     void Drawn(const Text& className, LiveControl* container, const host::Placement& place);
     void DrawingEnded();
@@ -88,7 +89,7 @@ class Glass final : public QWidget {
     std::optional<Grip> GripAt(QPoint at) const;
     void Drag(QPoint at, Qt::KeyboardModifiers held);
     GestureRef EndGesture();
-    void SelectForMenu(LiveControl* control);
+    void SelectForMenu(QPoint at);
     void Escape();
     void Activate();
     void UpdateCursor(QPoint at);
@@ -97,6 +98,7 @@ class Glass final : public QWidget {
     void UpdateMarks();
     QRegion Marks() const;
     void PaintMarks(QPainter& painter) const;
+    void PaintMenuMarks(QPainter& painter) const;
     void Try(const std::function<void()>& work);
 
     FormDesign& design_;

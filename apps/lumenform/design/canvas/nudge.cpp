@@ -62,7 +62,7 @@ bool Nudge(const Ground& ground, const QKeyEvent& key) {
     if (!ground.design.Selected().empty()) {
         NudgeControls(ground.design, sizes ? Edges{.right = true, .bottom = true} : allEdges,
                       across, down);
-    } else if (sizes) {
+    } else if (sizes && ground.design.IsFormSelected()) {
         NudgeForm(ground.design, across, down);
     }
     return true;

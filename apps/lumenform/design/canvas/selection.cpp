@@ -42,6 +42,8 @@ void SelectContainer(FormDesign& design) {
     if (!design.Selected().empty()) {
         LiveControl* const container = ContainerOf(design, *design.Selected().back());
         design.Select(container == nullptr ? std::vector<LiveControl*>() : std::vector{container});
+    } else {
+        design.Select({});  // after a menu
     }
 }
 

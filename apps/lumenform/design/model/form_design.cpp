@@ -4,13 +4,16 @@
 #include <algorithm>
 #include <set>
 #include <string>
+#include <unordered_map>
 #include <utility>
 
 #include "apps/lumenform/design/model/page_lists.h"
 #include "apps/lumenform/form_view/likeness/saved_pages.h"
 #include "apps/lumenform/form_view/likeness/tab_pages.h"
+#include "apps/lumenform/form_view/menu_bar.h"
 #include "apps/lumenform/form_view/saved_place.h"
 #include "forms/change_encoding.h"
+#include "forms/controls.h"
 #include "forms/form_error.h"
 #include "frame/text.h"
 
@@ -107,6 +110,24 @@ void KeepPages(const FormView& former, const FormView& now) {
     }
 }
 
+// In the order of the names.
+std::vector<forms::Block*> MenusNamed(const forms::Block& form, const std::vector<Text>& names) {
+    std::unordered_map<Text, forms::Block*> menus;  // by the names in lower case
+    for (forms::Block* const block : forms::AllControls(form)) {
+        if (IsMenu(*block)) {
+            menus.emplace(LCase(forms::NameInCode(*block)), block);
+        }
+    }
+    std::vector<forms::Block*> found;
+    for (const Text& name : names) {
+        const auto menu = menus.find(LCase(name));
+        if (menu != menus.end() && std::ranges::find(found, menu->second) == found.end()) {
+            found.push_back(menu->second);
+        }
+    }
+    return found;
+}
+
 }  // namespace
 
 FormDesign::FormDesign(const qt::Context& context, forms::Document document)
@@ -124,6 +145,9 @@ std::vector<Text> FormDesign::SelectedNames() const {
     for (const LiveControl* control : selected_) {
         names.push_back(control->Name());
     }
+    for (const forms::Block* menu : menus_) {
+        names.push_back(forms::NameInCode(*menu));
+    }
     return names;
 }
 
@@ -132,11 +156,21 @@ bool FormDesign::IsSelected(const LiveControl& control) const {
 }
 
 void FormDesign::Select(std::vector<LiveControl*> controls) {
-    if (controls != selected_) {
+    TakeSelection(std::move(controls), {});
+}
+
+void FormDesign::SelectMenus(std::vector<forms::Block*> menus) {
+    TakeSelection({}, std::move(menus));
+}
+
+void FormDesign::TakeSelection(std::vector<LiveControl*> controls,
+                               std::vector<forms::Block*> menus) {
+    if (controls != selected_ || menus != menus_) {
         for (const LiveControl* control : controls) {
             ShowPagesAround(control->Widget());
         }
         selected_ = std::move(controls);
+        menus_ = std::move(menus);
         Q_EMIT SelectionChanged();
     }
 }
@@ -149,7 +183,11 @@ void FormDesign::SelectNamed(const std::vector<Text>& names) {
             controls.push_back(control);
         }
     }
-    Select(std::move(controls));
+    if (controls.empty() && !names.empty()) {
+        SelectMenus(MenusNamed(document_->Root(), names));
+    } else {
+        Select(std::move(controls));
+    }
 }
 
 SharedSnapshot FormDesign::BeforeChange() const {
@@ -233,8 +271,9 @@ void FormDesign::Restore(const SharedSnapshot& snapshot) {
 
 void FormDesign::Replace(std::unique_ptr<forms::Document> document) {
     auto view = std::make_unique<FormView>(context_, *document, Mode::Design);
-    const bool hadSelection = !selected_.empty();
+    const bool hadSelection = !selected_.empty() || !menus_.empty();
     selected_.clear();
+    menus_.clear();
     KeepPages(*view_, *view);
     view_ = std::move(view);
     document_ = std::move(document);

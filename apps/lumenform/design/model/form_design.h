@@ -42,12 +42,18 @@ class FormDesign final : public QObject {
     FormView& View() const { return *view_; }
 
     /// The selected controls in the order of selection. The others are aligned with the last one.
-    /// Empty if the form itself is selected.
+    /// Empty if the form itself or a menu is selected.
     const std::vector<LiveControl*>& Selected() const { return selected_; }
+    /// The blocks of the selected menus. Empty if a control is selected.
+    const std::vector<forms::Block*>& SelectedMenus() const { return menus_; }
+    bool IsFormSelected() const { return selected_.empty() && menus_.empty(); }
+    /// The names in code of the selected controls or menus.
     std::vector<Text> SelectedNames() const;
     bool IsSelected(const LiveControl& control) const;
     void Select(std::vector<LiveControl*> controls);
-    /// Selects controls by their names in code. Ignores unknown names.
+    void SelectMenus(std::vector<forms::Block*> menus);
+    /// Selects controls by their names in code, or menus if no control has one of the names.
+    /// Ignores unknown names.
     void SelectNamed(const std::vector<Text>& names);
 
     /// Changes places and properties of live controls. The document follows, and the change becomes
@@ -56,8 +62,8 @@ class FormDesign final : public QObject {
     void Edit(const QString& title, const std::function<void()>& change,
               Merging merging = Merging::None);
     /// Does the same for changes to the document's blocks, and then creates a new view. `change`
-    /// returns the names of the controls to select. A change that adds a value that cannot be used
-    /// is refused: the former state is restored, and the warning is thrown as a FormError.
+    /// returns the names of the controls or menus to select. A change that adds a value that cannot
+    /// be used is refused: the former state is restored, and the warning is thrown as a FormError.
     void Restructure(const QString& title, const std::function<std::vector<Text>()>& change,
                      NewWarnings newWarnings = NewWarnings::Refuse);
 
@@ -93,13 +99,15 @@ class FormDesign final : public QObject {
     void Push(const QString& title, SharedSnapshot before, Merging merging);
     void TakeStep(const QString& title, std::unique_ptr<forms::Document> document);
     void Replace(std::unique_ptr<forms::Document> document);
+    void TakeSelection(std::vector<LiveControl*> controls, std::vector<forms::Block*> menus);
     void Restore(const SharedSnapshot& snapshot);
 
     const qt::Context& context_;
     std::unique_ptr<forms::Document> document_;
     std::unique_ptr<FormView> view_;
     std::vector<LiveControl*> selected_;
-    SharedSnapshot now_;  // the present document
+    std::vector<forms::Block*> menus_;  // selected
+    SharedSnapshot now_;                // the present document
     QUndoStack history_;
 };
 

@@ -23,7 +23,7 @@ class Snapshot {
     bool HoldsTheSameAs(const Snapshot& other) const;
     forms::FormBytes Bytes() const { return {*form_, *companion_}; }
     const forms::Encoding& Encoding() const { return encoding_; }
-    /// The names of the selected controls.
+    /// The names of the selected controls or menus.
     const std::vector<Text>& Selected() const { return selected_; }
 
  private:

@@ -271,11 +271,11 @@ void Outline::TakeSelection() {
         return;
     }
     const OutlineNodes nodes = SelectedNodes();
-    menus_.clear();
+    std::vector<forms::Block*> menus;
     std::unordered_set<LiveControl*> wanted;
     for (const OutlineNode* const node : nodes) {
         if (node->Is(Kind::Menu)) {
-            menus_.insert(OutlineModel::KeyOf(*node));
+            menus.push_back(node->block);
         } else if (node->control != nullptr) {
             wanted.insert(node->control);
         }
@@ -292,7 +292,11 @@ void Outline::TakeSelection() {
     }
     {
         const QScopedValueRollback syncing(isSyncing_, true);
-        design_.Select(std::move(chosen));
+        if (chosen.empty()) {
+            design_.SelectMenus(std::move(menus));
+        } else {
+            design_.Select(std::move(chosen));
+        }
         for (const OutlineNode* const node : nodes) {
             if (node->Is(Kind::Page)) {
                 node->control->Pages()->Show(node->page);
@@ -314,11 +318,13 @@ OutlineNodes Outline::NodesToShow() const {
                 nodes.push_back(node);
             }
         }
-    } else if (menus_.isEmpty()) {
+    } else if (design_.SelectedMenus().empty()) {
         nodes.push_back(model_.Form());
     } else {
+        const std::unordered_set<const forms::Block*> selected(design_.SelectedMenus().begin(),
+                                                               design_.SelectedMenus().end());
         ForEach(*model_.Form(), [&](const OutlineNode& node) {
-            if (node.Is(Kind::Menu) && menus_.contains(OutlineModel::KeyOf(node))) {
+            if (node.Is(Kind::Menu) && selected.contains(node.block)) {
                 nodes.push_back(&node);
             }
         });
@@ -329,9 +335,6 @@ OutlineNodes Outline::NodesToShow() const {
 void Outline::ShowSelection() {
     if (isSyncing_ || model_.Form() == nullptr) {
         return;
-    }
-    if (!design_.Selected().empty()) {
-        menus_.clear();
     }
     const QScopedValueRollback syncing(isSyncing_, true);
     QItemSelection selection;
@@ -384,15 +387,7 @@ void Outline::Rename(const QModelIndex& index, const QString& name) {
             found = found == nullptr && isNamed ? &node : found;
         });
         if (found != nullptr) {
-            const bool isMenu = found->Is(Kind::Menu);
-            const auto why =
-                Attempt([&] { RenameNode(design_, *found, Text(Trim(qt::ToText(name)))); });
-            if (why) {
-                Q_EMIT Refused(*why);
-            } else if (isMenu) {
-                menus_ = {name.trimmed().toLower()};
-                ShowSelection();
-            }
+            Try([&] { RenameNode(design_, *found, Text(Trim(qt::ToText(name)))); });
         }
     });
 }

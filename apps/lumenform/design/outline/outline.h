@@ -66,7 +66,6 @@ class Outline final : public QWidget {
     QLineEdit* search_;
     OutlineTree* tree_;
     QSet<QString> collapsed_;  // by the keys of the nodes
-    QSet<QString> menus_;      // the selected menus, which the design does not know
     bool isStale_ = true;      // not visible when the view was replaced
     bool isSyncing_ = false;
 };

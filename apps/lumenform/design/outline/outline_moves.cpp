@@ -205,6 +205,9 @@ void RenameNode(FormDesign& design, const OutlineNode& node, const Text& name) {
         for (const LiveControl* const control : design.Selected()) {
             names.push_back(forms::NameInCode(control->Block()));
         }
+        for (const forms::Block* const menu : design.SelectedMenus()) {
+            names.push_back(forms::NameInCode(*menu));
+        }
         return names;
     });
 }

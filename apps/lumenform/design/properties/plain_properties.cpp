@@ -310,6 +310,11 @@ std::vector<ObjectProperty> OtherProperties(FormDesign& design, LiveControl& con
     return properties;
 }
 
+std::vector<ObjectProperty> BlockProperties(FormDesign& design, forms::Block& block) {
+    const WidgetColors usual = {Color::ButtonText, Color::ButtonFace};
+    return PropertiesIn(design, block, {usual, MakeFont(forms::FontDescription())});
+}
+
 std::vector<ObjectProperty> FormProperties(FormDesign& design) {
     forms::Block& form = design.Document().Root();
     const bool isDesktop = SameText(form.ClassName(), u"VB.MDIForm", Compare::IgnoreCase);

@@ -18,6 +18,9 @@ std::vector<ObjectProperty> PlainProperties(FormDesign& design, LiveControl& con
 std::vector<ObjectProperty> OtherProperties(FormDesign& design, LiveControl& control,
                                             std::set<Text> known);
 
+/// The properties of a block that is no control: the usual ones of its class and those in it.
+std::vector<ObjectProperty> BlockProperties(FormDesign& design, forms::Block& block);
+
 /// The properties of the form.
 std::vector<ObjectProperty> FormProperties(FormDesign& design);
 

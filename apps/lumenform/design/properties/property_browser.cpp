@@ -19,6 +19,7 @@
 #include "apps/lumenform/design/properties/property_delegate.h"
 #include "apps/lumenform/design/properties/text_dialog.h"
 #include "apps/lumenform/design/properties/writable_text.h"
+#include "forms/controls.h"
 #include "runtime/qt/qt_text.h"
 
 namespace lumenkit::lumenform {
@@ -180,11 +181,20 @@ QString PropertyBrowser::DescribeSelection() const {
     if (selected.size() > 1) {
         return tr("%n controls", nullptr, static_cast<int>(selected.size()));
     }
-    if (selected.empty()) {
-        const forms::Block& form = design_.Document().Root();
-        return DescribeBlock(form.Name(), form.ClassName());
+    if (design_.SelectedMenus().size() > 1) {
+        return tr("%n menus", nullptr, static_cast<int>(design_.SelectedMenus().size()));
     }
-    return DescribeBlock(selected.front()->Name(), selected.front()->Block().ClassName());
+    const forms::Block& block = SelectedBlock();
+    return DescribeBlock(forms::NameInCode(block), block.ClassName());
+}
+
+// Returns the first selected object, which is the form if no other is selected.
+const forms::Block& PropertyBrowser::SelectedBlock() const {
+    if (!design_.Selected().empty()) {
+        return design_.Selected().front()->Block();
+    }
+    return design_.SelectedMenus().empty() ? design_.Document().Root()
+                                           : *design_.SelectedMenus().front();
 }
 
 // ---- The order of the list
@@ -233,12 +243,9 @@ QString PropertyBrowser::WhyUnwritable(const PropertyRow& row, const Value& valu
         return {};
     }
     const QString why = lumenform::WhyUnwritable(design_.Document(), *text);
-    const std::vector<LiveControl*>& selected = design_.Selected();
-    const Text& object =
-        selected.empty() ? design_.Document().Root().Name() : selected.front()->Name();
     return why.isEmpty() ? why
-                         : qt::ToQString(object) + u'.' + qt::ToQString(row.name) +
-                               QStringLiteral(": ") + why;
+                         : qt::ToQString(forms::NameInCode(SelectedBlock())) + u'.' +
+                               qt::ToQString(row.name) + QStringLiteral(": ") + why;
 }
 
 void PropertyBrowser::Assign(int row, const Value& value) {

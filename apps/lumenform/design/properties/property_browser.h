@@ -68,6 +68,7 @@ class PropertyBrowser final : public QWidget {
     void ShowCurrent();
     void GoBack();
     QString DescribeSelection() const;
+    const forms::Block& SelectedBlock() const;
     QString TryToAssign(int row, const Value& value);
     QString WhyUnwritable(const PropertyRow& row, const Value& value) const;
     void Assign(int row, const Value& value);

@@ -11,6 +11,7 @@
 #include "apps/lumenform/design/properties/container_properties.h"
 #include "apps/lumenform/design/properties/font_text.h"
 #include "apps/lumenform/design/properties/library_properties.h"
+#include "apps/lumenform/design/properties/menu_properties.h"
 #include "apps/lumenform/design/properties/pictures/picture_format.h"
 #include "apps/lumenform/design/properties/plain_properties.h"
 #include "forms/controls.h"
@@ -163,6 +164,9 @@ std::vector<std::vector<ObjectProperty>> PropertyList::PropertiesOfSelection() c
     for (LiveControl* control : design_.Selected()) {
         lists.push_back(PropertiesOf(*control));
     }
+    for (forms::Block* menu : design_.SelectedMenus()) {
+        lists.push_back(MenuProperties(design_, *menu));
+    }
     if (lists.empty()) {
         lists.push_back(FormProperties(design_));
     }
@@ -202,6 +206,8 @@ void PropertyList::ApplyToBlocks(const std::vector<ObjectProperty>& properties,
         for (const LiveControl* control : design_.Selected()) {
             selected.push_back(&control->Block());
         }
+        selected.insert(selected.end(), design_.SelectedMenus().begin(),
+                        design_.SelectedMenus().end());
         Apply(properties, change);
         design_.View().Save();  // writes the changes to live controls
         std::vector<Text> names;

@@ -105,6 +105,14 @@ void StoreLiteral(forms::Block& block, TextView name, forms::Literal literal) {
     block.Set(name, std::move(literal), Predecessor(block, name));
 }
 
+void StoreShortcut(forms::Block& menu, Text written) {
+    if (written.empty()) {
+        Remove(menu, u"Shortcut");
+    } else {
+        StoreLiteral(menu, u"Shortcut", forms::Shortcut{std::move(written)});
+    }
+}
+
 ObjectProperty MakeProperty(FormDesign& design, forms::Block& block, StoredProperty property) {
     const TypeTraits& type = TraitsOf(property.type);
     ObjectProperty made{.name = property.name, .help = Text(property.help), .kind = type.kind};

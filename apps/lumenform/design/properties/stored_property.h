@@ -34,6 +34,9 @@ struct StoredProperty {
 /// Sets a value in the block, in the place that a designer gives the property.
 void StoreLiteral(forms::Block& block, TextView name, forms::Literal literal);
 
+/// Sets or, if the text is empty, removes the shortcut key of a menu.
+void StoreShortcut(forms::Block& menu, Text written);
+
 /// Makes the property of the block. Assigned values are converted to its type.
 ObjectProperty MakeProperty(FormDesign& design, forms::Block& block, StoredProperty property);
 

@@ -23,6 +23,8 @@ constexpr std::array<TextView, 3> selections = {u"0 - One item", u"1 - Several i
 constexpr std::array<TextView, 8> scaleModes = {
     u"0 - User",       u"1 - Twips",  u"2 - Points",      u"3 - Pixels",
     u"4 - Characters", u"5 - Inches", u"6 - Millimetres", u"7 - Centimetres"};
+constexpr std::array<TextView, 4> menuPositions = {u"0 - None", u"1 - Left", u"2 - Middle",
+                                                   u"3 - Right"};
 constexpr std::array<TextView, 4> startPositions = {
     u"0 - Manual", u"1 - Centre of owner", u"2 - Centre of screen", u"3 - Windows default"};
 constexpr std::array<TextView, 3> windowStates = {u"0 - Normal", u"1 - Minimized",
@@ -221,6 +223,18 @@ constexpr std::array label = {
     Truth(u"WordWrap",
           u"With AutoSize: determines whether the label wraps its text and grows downwards.",
           false)};
+constexpr std::array menu = {
+    caption,
+    Truth(u"Checked", u"Determines whether a check mark is beside the menu.", false),
+    enabled,
+    helpContextId,
+    ChoiceOf(u"NegotiatePosition",
+             u"The position of the menu in the menu bar while an object with a menu bar of its own "
+             u"is active.",
+             0, menuPositions),
+    Truth(u"Visible", u"Determines whether the menu is visible when the form runs.", true),
+    Truth(u"WindowList", u"Determines whether the menu lists the child windows of an MDI form.",
+          false)};
 constexpr std::array<UsualProperty, 7> line = {
     borderColor,
     strokeStyle,
@@ -357,6 +371,7 @@ constexpr std::array classes = {
     UsualClass{u"VB.ListBox",
                {listBox, looks, pointing, dragging, validating, binding, dataDragging}},
     UsualClass{u"VB.MDIForm", {mdiForm, pointing}},
+    UsualClass{u"VB.Menu", {menu}},
     UsualClass{u"VB.OptionButton", {optionButton, looks, pointing, dragging, validating, masking}},
     UsualClass{u"VB.PictureBox",
                {pictureBox, looks, pointing, dragging, validating, binding, painting}},

@@ -83,6 +83,9 @@ void FormCommands::FillEdit() {
     caption_->setToolTip(tr("Edit the caption with its markup and a live preview"));
     Add(*edit_, tr("P&roperties"), Qt::Key_F4, Needs::Form,
         [](Workbench& bench) { bench.Properties().Table().setFocus(); });
+    QAction* const menus = Add(*edit_, tr("&Menus…"), Qt::CTRL | Qt::Key_E, Needs::Form,
+                               [](Workbench& bench) { bench.EditMenus(); });
+    menus->setToolTip(tr("Add, edit and rearrange the menus of the form"));
     tabOrder_ = Add(*edit_, tr("Ta&b order"), Qt::CTRL | Qt::Key_T, Needs::Form,
                     [this](const Workbench& bench) {
                         bench.GetCanvas().SetTabOrderMode(tabOrder_->isChecked());

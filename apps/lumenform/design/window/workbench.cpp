@@ -107,6 +107,11 @@ void Workbench::ConnectParts() {
                    const host::Placement& place) { Add(className, container, place); });
     connect(canvas_, &Canvas::Activated, this, &Workbench::EditSelected);
     connect(canvas_, &Canvas::FormActivated, this, &Workbench::EditSelected);
+    connect(canvas_, &Canvas::MenuActivated, this, [this] {
+        if (FinishEditing()) {
+            EditMenus();
+        }
+    });
     connect(canvas_, &Canvas::Refused, this, &Workbench::Refused);
     connect(properties_, &PropertyBrowser::Refused, this, &Workbench::Refused);
     connect(outline_, &Outline::Chosen, &canvas_->GetGlass(), &Glass::ShowSelected);
@@ -120,6 +125,13 @@ void Workbench::EditSelected() {
     if (properties_->EditWithPage() == nullptr) {
         properties_->Table().setFocus();
     }
+}
+
+MenusDialog& Workbench::EditMenus() {
+    auto* const dialog = new MenusDialog(design_, this);
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    dialog->open();
+    return *dialog;
 }
 
 bool Workbench::FinishEditing() {

@@ -3,6 +3,7 @@
 #include <QSplitter>
 
 #include "apps/lumenform/design/canvas/canvas.h"
+#include "apps/lumenform/design/menus/menus_dialog.h"
 #include "apps/lumenform/design/model/form_design.h"
 #include "apps/lumenform/design/outline/outline.h"
 #include "apps/lumenform/design/properties/control_messages.h"
@@ -35,6 +36,8 @@ class Workbench final : public QSplitter {
     /// Opens the property page of the selected controls, or moves to their properties if there is
     /// none.
     void EditSelected();
+    /// Opens the dialog for the menus of the form and returns it. It deletes itself.
+    MenusDialog& EditMenus();
     /// Assigns the text in the open property editor. Returns false if it is rejected; then emits
     /// Refused with the reason.
     bool FinishEditing();
