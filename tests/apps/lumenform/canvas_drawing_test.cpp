@@ -111,10 +111,10 @@ TEST(CanvasDrawing, TheModelTakesWhatIsDrawn) {
                      });
     canvas.canvas->BeginDrawing(u"VB.CheckBox");
     canvas.Drag({100 + 8, 20 + 80}, {80, 24});
-    EXPECT_THAT(canvas.Selected(), ElementsAre("CheckBox1"));
-    EXPECT_EQ(canvas.PlaceOf(u"CheckBox1"), (Placement{120, 1200, 1200, 360}));
-    canvas.Drag(canvas.MiddleOf(u"CheckBox1"), {8, 8});
-    EXPECT_EQ(canvas.PlaceOf(u"CheckBox1"), (Placement{240, 1320, 1200, 360}));
+    EXPECT_THAT(canvas.Selected(), ElementsAre("Check1"));
+    EXPECT_EQ(canvas.PlaceOf(u"Check1"), (Placement{120, 1200, 1200, 360}));
+    canvas.Drag(canvas.MiddleOf(u"Check1"), {8, 8});
+    EXPECT_EQ(canvas.PlaceOf(u"Check1"), (Placement{240, 1320, 1200, 360}));
 }
 
 TEST(CanvasForm, IsSizedByItsEdges) {
