@@ -74,8 +74,7 @@ TEST(CanvasDrawing, AClickGivesTheUsualSize) {
     for (const TextView className : {u"lumenkit.VLabel", u"VB.CommandButton", u"VB.Timer"}) {
         drawing.canvas.canvas->BeginDrawing(Text(className));
         drawing.canvas.Click({9, 17});
-        const Placement usual =
-            lumenform::UsualPlace(drawing.canvas.design.Context().classes, className);
+        const Placement usual = lumenform::UsualPlace(drawing.canvas.design, className);
         EXPECT_GT(usual.width, 0);
         EXPECT_EQ(drawing.places.back(), (Placement{120, 240, usual.width, usual.height}));
     }

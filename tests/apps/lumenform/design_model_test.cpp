@@ -267,7 +267,7 @@ TEST(NewControl, EveryClassOfTheToolboxCanBePutIntoAFrame) {
         EditedDesign edited(
             FormWith("   Begin VB.Frame fraOuter \n      Height = 2000\n"
                      "      Width = 3000\n   End\n   Begin VB.Menu mnu \n   End\n"));
-        host::Placement place = lumenform::UsualPlace(lumenkitClasses, className);
+        host::Placement place = lumenform::UsualPlace(edited.design, className);
         place.left = 60;
         lumenform::AddNewControl(edited.design, className, &edited.Control(u"fraOuter"), place);
         const forms::Block& root = edited.design.Document().Root();

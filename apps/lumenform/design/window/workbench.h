@@ -3,6 +3,7 @@
 #include <QSplitter>
 
 #include "apps/lumenform/design/canvas/canvas.h"
+#include "apps/lumenform/design/model/drag_start.h"
 #include "apps/lumenform/design/model/form_design.h"
 #include "apps/lumenform/design/outline/outline.h"
 #include "apps/lumenform/design/properties/control_messages.h"
@@ -50,7 +51,8 @@ class Workbench final : public QSplitter {
     void LayOut();
     void ConnectParts();
     void PutDown(const QString& className);
-    void Add(const Text& className, const LiveControl* container, const host::Placement& place);
+    void Add(const Text& className, const LiveControl* container, const host::Placement& place,
+             DragStart start = {});
 
     FormDesign design_;
     Toolbox* toolbox_;
