@@ -356,5 +356,22 @@ TEST_F(ToolboxTest, HasNamesForScreenReaders) {
     EXPECT_EQ(Box().Search().accessibleName(), QStringLiteral("Search the toolbox"));
 }
 
+TEST_F(ToolboxTest, ANewOptionListLeavesItsCaptionFree) {
+    window.StartNew();
+    ClickRow(QStringLiteral("VOptList"));
+    DragOnForm({16, 24}, {160, 120});
+    ASSERT_EQ(SelectedName(), "VOptList1");
+    const lumenform::LiveControl& list = *Design().Selected().front();
+    const auto margin = std::get<float>(list.Hosted()->Automation().Get(u"TopMargin"));
+    const QFontMetrics metrics(Design().View().Inside().font->FaceAt(1)->WidgetFont());
+    const float caption = 15.F * static_cast<float>(metrics.height());
+    EXPECT_GE(margin, caption);
+    EXPECT_LE(margin, caption + 15);
+    EXPECT_THAT(Text(), HasSubstr("      TopMargin       =   "));
+    EXPECT_EQ(Design().History().count(), 1);
+    Undo();
+    EXPECT_THAT(Text(), Not(HasSubstr("VOptList")));
+}
+
 }  // namespace
 }  // namespace lumenkit::testing

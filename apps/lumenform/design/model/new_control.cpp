@@ -14,7 +14,9 @@
 #include "apps/lumenform/form_view/form_site.h"
 #include "apps/lumenform/form_view/plain_kind.h"
 #include "apps/lumenform/form_view/saved_place.h"
+#include "runtime/qt/font.h"
 #include "runtime/qt/hosted_control.h"
+#include "runtime/qt/pixels.h"
 #include "runtime/qt/qt_text.h"
 
 namespace lumenkit::lumenform {
@@ -83,6 +85,22 @@ const LiveControl* ExampleOf(const FormDesign& design, TextView className) {
     return found == controls.end() ? nullptr : found->get();
 }
 
+// Without a margin, the first option would be drawn over the caption of the frame.
+void LeaveRoomForCaption(Object& list, const qt::Font& font) {
+    const double line = font.FaceAt(1)->LineHeight() * qt::TwipsPerPixel::OfScreens().y;
+    list.Let(u"TopMargin", static_cast<float>(line));
+}
+
+struct FirstChange {
+    TextView className;
+    void (*change)(Object& control, const qt::Font& font);
+};
+
+// What the designer changes about new controls of this library.
+constexpr std::array firstChanges = {
+    FirstChange{u"VOptList", LeaveRoomForCaption},
+};
+
 // Saves the initial properties of a new control, which is created outside the form.
 void SavePrototype(const FormDesign& design, const ClassDescriptor& type,
                    const Surroundings& around, TextView name, const host::Placement& place,
@@ -91,6 +109,11 @@ void SavePrototype(const FormDesign& design, const ClassDescriptor& type,
     qt::HostedControl widget(design.Context(), type, site,
                              {.name = name, .placement = place, .visible = false});
     widget.StartNew();
+    for (const FirstChange& first : firstChanges) {
+        if (first.className == type.name) {
+            first.change(widget.Automation(), *around.font);
+        }
+    }
     forms::FormBag bag = BagOf(design.Document(), block);
     widget.Save(bag);
 }
