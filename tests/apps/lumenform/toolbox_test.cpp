@@ -5,7 +5,9 @@
 
 #include <gmock/gmock.h>
 
+#include "apps/lumenform/form_view/likeness/likeness_table.h"
 #include "frame/utf8.h"
+#include "runtime/qt/qt_text.h"
 #include "tests/apps/lumenform/opened_window.h"
 
 namespace lumenkit::testing {
@@ -25,11 +27,12 @@ class ToolboxTest : public OpenedWindow {
 
     // Opens a form with these controls.
     void OpenWith(const std::string& controls, const std::string& head = {}) {
-        std::ofstream(File(QStringLiteral("box.frm")))
+        const QString name = QStringLiteral("box%1.frm").arg(window.Tabs().count());
+        std::ofstream(File(name))
             << "VERSION 5.00\n"
             << head << "Begin VB.Form Form1\n   ClientHeight = 4800\n   ClientWidth = 6000\n"
             << controls << "End\n";
-        window.Load(Path(QStringLiteral("box.frm")));
+        window.Load(Path(name));
     }
     QListWidgetItem& Row(const QString& name) const {
         const auto found = List().findItems(name, Qt::MatchExactly);
@@ -305,6 +308,28 @@ TEST_F(ToolboxTest, AClassGoesWithItsLastControl) {
     Undo();
     Undo();
     EXPECT_THAT(RowsOnForm(), ElementsAre("CommonDialog", "Gauge"));
+}
+
+TEST_F(ToolboxTest, EveryClassWithALikenessCanBeAddedAgain) {
+    for (const lumenform::LikenessRow& row : lumenform::LikenessRows()) {
+        const TextView library = row.libraries.substr(0, row.libraries.find(u' '));
+        const std::string className =
+            ToUtf8(lumenkit::Text(library) + u'.' + lumenkit::Text(row.kind.className));
+        OpenWith("   Begin " + className +
+                 " First \n      Height = 900\n      Left = 120\n      Top = 1200\n"
+                 "      Width = 1500\n   End\n");
+        const std::string before = Text();
+        ClickRow(qt::ToQString(row.kind.className));
+        DragOnForm({160, 24}, {240, 88});
+        ASSERT_EQ(Design().View().Controls().size(), 2U) << className;
+        ASSERT_EQ(Design().Selected().size(), 1U) << className;
+        const lumenform::LiveControl& added = *Design().Selected().front();
+        EXPECT_EQ(ToUtf8(added.Block().ClassName()), className);
+        EXPECT_EQ(added.Block().FindProperty(u"Width") != nullptr, row.kind.isSeen) << className;
+        EXPECT_TRUE(Design().Document().Warnings().empty()) << className;
+        Undo();
+        EXPECT_EQ(Text(), before) << className;
+    }
 }
 
 TEST_F(ToolboxTest, APutDownControlOfTheFormHasTheSizeOfTheFirst) {
