@@ -365,6 +365,31 @@ TEST_F(ToolboxTest, IsSearchedByKeyboard) {
     EXPECT_EQ(ShownRows().size(), 25U);
 }
 
+TEST_F(ToolboxTest, EnterAddsNoClassThatTheSearchHides) {
+    window.StartNew();
+    List().setCurrentItem(&Row(QStringLiteral("Label")));
+    Box().Search().setText(QStringLiteral("scroll"));
+    List().setFocus();
+    QTest::keyClick(&List(), Qt::Key_Return);
+    EXPECT_TRUE(Design().View().Controls().empty());
+}
+
+TEST_F(ToolboxTest, ACopyContinuesTheNumberOfItsOriginal) {
+    OpenWith(
+        "   Begin VB.CommandButton cmdOrder \n      Height = 375\n      Left = 240\n"
+        "      Top = 240\n      Width = 1215\n   End\n");
+    ClickRow(QStringLiteral("CommandButton"));
+    DragOnForm({160, 24}, {240, 56});
+    ASSERT_EQ(SelectedName(), "Command1");
+    Key(Qt::Key_D, Qt::ControlModifier);
+    EXPECT_EQ(SelectedName(), "Command2");
+    Select(u"cmdOrder");
+    Key(Qt::Key_D, Qt::ControlModifier);
+    EXPECT_EQ(SelectedName(), "cmdOrder1");
+    Key(Qt::Key_D, Qt::ControlModifier);
+    EXPECT_EQ(SelectedName(), "cmdOrder2");
+}
+
 TEST_F(ToolboxTest, TheArrowKeysSkipTheHeading) {
     OpenWith(gauges, dialogLibrary);
     List().setFocus();

@@ -79,7 +79,7 @@ Text Numbered(std::initializer_list<const forms::Block*> forms, TextView stem,
     }
     for (;; ++number) {
         const Text ending = Decimal(number);
-        const Text name = Text(stem.substr(0, longestName - ending.size())) + ending;
+        Text name = Text(stem.substr(0, longestName - ending.size())) + ending;
         const auto isIt = [&](TextView other) {
             return SameText(name, other, Compare::IgnoreCase);
         };

@@ -28,10 +28,7 @@ bool IsEnter(int key) {
 Toolbox::Toolbox(const FormDesign& design, QWidget* parent)
     : QWidget(parent), design_(design), search_(new QLineEdit), list_(new QListWidget) {
     LayOut();
-    for (const Text& name : NewControlClasses(design.Context().classes)) {
-        AddClass(name);
-    }
-    offered_ = list_->count();
+    AddOffered();
     FollowForm();
     connect(&design, &FormDesign::ViewReplaced, this, &Toolbox::FollowForm);
     connect(search_, &QLineEdit::textChanged, this, &Toolbox::SearchFor);
@@ -68,6 +65,13 @@ void Toolbox::LayOut() {
 }
 
 // ---- Rows
+
+void Toolbox::AddOffered() {
+    for (const Text& name : NewControlClasses(design_.Context().classes)) {
+        AddClass(name);
+    }
+    offered_ = list_->count();
+}
 
 void Toolbox::FollowForm() {
     std::vector<Text> classes = ClassesOnForm(design_);
@@ -144,10 +148,11 @@ void Toolbox::changeEvent(QEvent* event) {
 // ---- Keyboard
 
 bool Toolbox::HandleListKey(int key) {
-    if (!IsEnter(key) || list_->currentItem() == nullptr) {
+    const QListWidgetItem* const current = list_->currentItem();
+    if (!IsEnter(key) || current == nullptr || current->isHidden()) {
         return false;
     }
-    Q_EMIT PutDown(ClassOf(*list_->currentItem()));
+    Q_EMIT PutDown(ClassOf(*current));
     return true;
 }
 

@@ -38,6 +38,7 @@ class Toolbox final : public QWidget {
 
  private:
     void LayOut();
+    void AddOffered();
     void FollowForm();
     void AddHeading(const QString& text);
     void AddClass(const Text& className);
