@@ -61,6 +61,9 @@ class LiveControl {
     virtual host::Placement Place() const = 0;
     /// Whether the control fits its contents, so that it can be elsewhere than its block says.
     virtual bool IsFitted() const { return false; }
+    /// Whether the control has a size of its own. One that is not seen when the form runs is an
+    /// icon of one size in the designer.
+    virtual bool IsSizable() const { return true; }
     /// Raises 380 for a negative width or height.
     virtual void Move(const host::Placement& place) = 0;
     /// Called after the palette of the application has changed.

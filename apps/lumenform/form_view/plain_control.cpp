@@ -58,7 +58,12 @@ QSizeF PlainControl::RoomInside(const PlainWidget& made) const {
 }
 
 void PlainControl::Occupy(const host::Placement& place) {
+    const host::Placement former = place_;
     place_ = fit_ ? fit_(place) : place;
+    if (!IsSizable()) {
+        place_.width = former.width;
+        place_.height = former.height;
+    }
     widget_->setGeometry(Covered());
 }
 

@@ -32,6 +32,7 @@ class PlainControl final : public LiveControl {
     void SetSpokenName(const QString& name) override;
     host::Placement Place() const override { return place_; }
     bool IsFitted() const override { return fit_ != nullptr; }
+    bool IsSizable() const override { return kind_.isSeen; }
     void Move(const host::Placement& place) override;
     std::int32_t DockingEdge() const override;
     void Dock(const host::Placement& place) override;

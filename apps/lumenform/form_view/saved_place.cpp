@@ -72,7 +72,11 @@ void RescaleEnd(const BlockReader& reader, TextView name, const ScaleAxis& forme
 }  // namespace
 
 bool HasEnds(const forms::Block& block) {
-    return SameText(block.ClassName(), u"VB.Line", Compare::IgnoreCase);
+    return ClassHasEnds(block.ClassName());
+}
+
+bool ClassHasEnds(TextView className) {
+    return SameText(className, u"VB.Line", Compare::IgnoreCase);
 }
 
 bool Rises(const BlockReader& reader, const Scale& scale) {

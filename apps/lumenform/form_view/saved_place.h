@@ -9,6 +9,7 @@ namespace lumenkit::lumenform {
 /// Returns whether a control saves its two ends, X1 to Y2, as lines do. Other controls save left,
 /// top, width and height.
 bool HasEnds(const forms::Block& block);
+bool ClassHasEnds(TextView className);
 
 /// Returns whether the line of a control with ends rises from left to right on the screen.
 /// `scale` is that of its container.

@@ -74,8 +74,7 @@ TEST(CanvasDrawing, AClickGivesTheUsualSize) {
     for (const TextView className : {u"lumenkit.VLabel", u"VB.CommandButton", u"VB.Timer"}) {
         drawing.canvas.canvas->BeginDrawing(Text(className));
         drawing.canvas.Click({9, 17});
-        const Placement usual =
-            lumenform::UsualPlace(drawing.canvas.design.Context().classes, className);
+        const Placement usual = lumenform::UsualPlace(drawing.canvas.design, className);
         EXPECT_GT(usual.width, 0);
         EXPECT_EQ(drawing.places.back(), (Placement{120, 240, usual.width, usual.height}));
     }
@@ -111,10 +110,10 @@ TEST(CanvasDrawing, TheModelTakesWhatIsDrawn) {
                      });
     canvas.canvas->BeginDrawing(u"VB.CheckBox");
     canvas.Drag({100 + 8, 20 + 80}, {80, 24});
-    EXPECT_THAT(canvas.Selected(), ElementsAre("CheckBox1"));
-    EXPECT_EQ(canvas.PlaceOf(u"CheckBox1"), (Placement{120, 1200, 1200, 360}));
-    canvas.Drag(canvas.MiddleOf(u"CheckBox1"), {8, 8});
-    EXPECT_EQ(canvas.PlaceOf(u"CheckBox1"), (Placement{240, 1320, 1200, 360}));
+    EXPECT_THAT(canvas.Selected(), ElementsAre("Check1"));
+    EXPECT_EQ(canvas.PlaceOf(u"Check1"), (Placement{120, 1200, 1200, 360}));
+    canvas.Drag(canvas.MiddleOf(u"Check1"), {8, 8});
+    EXPECT_EQ(canvas.PlaceOf(u"Check1"), (Placement{240, 1320, 1200, 360}));
 }
 
 TEST(CanvasForm, IsSizedByItsEdges) {

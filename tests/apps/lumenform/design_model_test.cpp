@@ -171,13 +171,69 @@ TEST(DesignNames, AreWhatCodeCanSay) {
 TEST(DesignNames, AreFreshBesideMenusAndWhatLiesInside) {
     const EditedDesign edited(
         FormWith("   Begin VB.Frame Frame1 \n      Begin VB.Label label1 \n      End\n   End\n"
-                 "   Begin VB.Menu VMemo1 \n   End\n"));
+                 "   Begin VB.Menu VMemo1 \n   End\n   Begin VB.TextBox Text2 \n   End\n"));
     const forms::Block& root = edited.design.Document().Root();
     EXPECT_EQ(lumenform::FreshName({&root}, u"VB.Label"), u"Label2");
     EXPECT_EQ(lumenform::FreshName({&root}, u"lumenkit.VMemo"), u"VMemo2");
-    EXPECT_EQ(lumenform::FreshName({&root}, u"VB.Timer"), u"Timer1");
-    EXPECT_EQ(lumenform::FreshName({&root}, u"1.2"), u"Control1");
+    EXPECT_EQ(lumenform::FreshName({&root}, u"VB.TextBox"), u"Text1");
     EXPECT_TRUE(lumenform::IsTaken(root, u"FORM1"));
+}
+
+TEST(DesignNames, OfNewControlsAreShort) {
+    const EditedDesign edited(FormWith(""));
+    const std::pair<TextView, TextView> expected[] = {
+        {u"VB.CommandButton", u"Command1"},
+        {u"VB.TextBox", u"Text1"},
+        {u"VB.CheckBox", u"Check1"},
+        {u"VB.OptionButton", u"Option1"},
+        {u"VB.Frame", u"Frame1"},
+        {u"VB.ListBox", u"List1"},
+        {u"VB.ComboBox", u"Combo1"},
+        {u"VB.PictureBox", u"Picture1"},
+        {u"VB.Label", u"Label1"},
+        {u"VB.HScrollBar", u"HScroll1"},
+        {u"VB.VScrollBar", u"VScroll1"},
+        {u"VB.Timer", u"Timer1"},
+        {u"VB.DriveListBox", u"Drive1"},
+        {u"VB.DirListBox", u"Dir1"},
+        {u"VB.FileListBox", u"File1"},
+        {u"VB.Shape", u"Shape1"},
+        {u"VB.Line", u"Line1"},
+        {u"VB.Image", u"Image1"},
+        {u"VB.Data", u"Data1"},
+        {u"vb.textbox", u"Text1"},
+        {u"lumenkit.VOptList", u"VOptList1"},
+        {u"Other.TextBox", u"TextBox1"},
+        {u"Gauge", u"Gauge1"},
+        {u"MSComctlLib.ListViewCtrl.2", u"ListViewCtrl1"},
+        {u"1.2", u"Control1"},
+    };
+    for (const auto& [className, name] : expected) {
+        EXPECT_EQ(lumenform::FreshName({&edited.design.Document().Root()}, className), name);
+    }
+}
+
+TEST(DesignNames, OfCopiesContinueTheNumbersOfTheirOriginals) {
+    const EditedDesign edited(
+        FormWith("   Begin VB.TextBox txt9 \n   End\n   Begin VB.TextBox Text1 \n   End\n"
+                 "   Begin VB.TextBox TEXT4 \n   End\n   Begin VB.Menu Text5 \n   End\n"));
+    const std::pair<TextView, TextView> expected[] = {
+        {u"cmdOrder", u"cmdOrder1"},
+        {u"txt9", u"txt10"},
+        {u"txt", u"txt1"},
+        {u"Text1", u"Text2"},
+        {u"Text3", u"Text6"},
+        {u"x2y09", u"x2y10"},
+        {u"a999999999", u"a1000000000"},
+        {u"a1234567890", u"a1234567891"},
+        {u"optA_", u"optA_1"},
+    };
+    for (const auto& [original, copy] : expected) {
+        EXPECT_EQ(lumenform::CopyName({&edited.design.Document().Root()}, original), copy);
+    }
+    const Text longest(40, u'n');
+    EXPECT_EQ(lumenform::CopyName({&edited.design.Document().Root()}, longest),
+              Text(39, u'n') + u'1');
 }
 
 TEST(NewControl, IsSetUpAsItsClassSetsUpNewOnes) {
@@ -211,7 +267,7 @@ TEST(NewControl, EveryClassOfTheToolboxCanBePutIntoAFrame) {
         EditedDesign edited(
             FormWith("   Begin VB.Frame fraOuter \n      Height = 2000\n"
                      "      Width = 3000\n   End\n   Begin VB.Menu mnu \n   End\n"));
-        host::Placement place = lumenform::UsualPlace(lumenkitClasses, className);
+        host::Placement place = lumenform::UsualPlace(edited.design, className);
         place.left = 60;
         lumenform::AddNewControl(edited.design, className, &edited.Control(u"fraOuter"), place);
         const forms::Block& root = edited.design.Document().Root();
@@ -341,17 +397,17 @@ TEST(Clipboard, CopiesComeBesideTheirOriginals) {
     EXPECT_THAT(data->text().toStdString(), HasSubstr("Begin VB.Frame fraLeft"));
     edited.Select({});
     lumenform::Paste(edited.design, *data);
-    EXPECT_EQ(edited.Selected(), "Frame1");
-    EXPECT_EQ(edited.PlaceOf(u"Frame1"), "2175 x 2895 at 240, 240");
+    EXPECT_EQ(edited.Selected(), "fraLeft1");
+    EXPECT_EQ(edited.PlaceOf(u"fraLeft1"), "2175 x 2895 at 240, 240");
     ASSERT_NE(edited.design.View().Find(u"VLabel2"), nullptr);
     EXPECT_EQ(lumenform::ContainerOf(edited.design, edited.Control(u"VLabel2")),
-              &edited.Control(u"PictureBox1"));
+              &edited.Control(u"picInner1"));
     EXPECT_EQ(edited.PlaceOf(u"VLabel2"), "1935 x 735 at 0, 0");
     EXPECT_EQ(edited.Control(u"VLabel2").TabIndex(), 7);
     EXPECT_EQ(edited.design.History().count(), 1);
     lumenform::Paste(edited.design, *data);
     // At 360, 360 the frame would leave the form, whose client area is 4680 x 3195 twips.
-    EXPECT_EQ(edited.PlaceOf(u"Frame2"), "2175 x 2895 at 0, 0");
+    EXPECT_EQ(edited.PlaceOf(u"fraLeft2"), "2175 x 2895 at 0, 0");
 }
 
 TEST(Clipboard, GoesIntoASelectedContainerAndIntoAnotherForm) {
@@ -432,6 +488,16 @@ TEST(Clipboard, ElementsOfArraysGetFreeIndices) {
     const std::string array = first.substr(0, first.find('('));
     EXPECT_THAT(edited.Selected(), HasSubstr(array + '('));
     EXPECT_NE(edited.Selected(), first);
+}
+
+TEST(Clipboard, AnArrayThatMeetsAControlGetsOneNewName) {
+    EditedDesign from(
+        FormWith("   Begin VB.OptionButton opt \n      Index = 0\n   End\n"
+                 "   Begin VB.OptionButton opt \n      Index = 1\n   End\n"));
+    from.Select({u"opt(0)", u"opt(1)"});
+    EditedDesign to(FormWith("   Begin VB.OptionButton opt \n   End\n"));
+    lumenform::Paste(to.design, *lumenform::CopySelected(from.design));
+    EXPECT_EQ(to.Selected(), "opt1(0) opt1(1)");
 }
 
 TEST(Clipboard, WhatIsDamagedIsRefusedAndChangesNothing) {

@@ -59,7 +59,7 @@ TEST_F(DesignWindowTest, BeginsWithWhatCanBeDone) {
 
 TEST_F(DesignWindowTest, DrawsAControlOfTheToolbox) {
     window.StartNew();
-    lumenform::Toolbox& toolbox = window.Bench()->GetToolbox();
+    QListWidget& toolbox = window.Bench()->GetToolbox().List();
     EXPECT_EQ(toolbox.item(0)->text(), QStringLiteral("VLabel"));
     const QRect first = toolbox.visualItemRect(toolbox.item(0));
     QTest::mouseClick(toolbox.viewport(), Qt::LeftButton, {}, first.center());
@@ -80,7 +80,7 @@ TEST_F(DesignWindowTest, DrawsAControlOfTheToolbox) {
 
 TEST_F(DesignWindowTest, PutsAControlIntoTheMiddle) {
     window.StartNew();
-    lumenform::Toolbox& toolbox = window.Bench()->GetToolbox();
+    QListWidget& toolbox = window.Bench()->GetToolbox().List();
     toolbox.setFocus();
     toolbox.setCurrentRow(1);
     QTest::keyClick(&toolbox, Qt::Key_Return);
@@ -165,7 +165,7 @@ TEST_F(DesignWindowTest, BringsBackWhatIsOutOfView) {
 
 TEST_F(DesignWindowTest, ControlsOfTheToolboxDoNotCoverEachOther) {
     window.StartNew();
-    lumenform::Toolbox& toolbox = window.Bench()->GetToolbox();
+    QListWidget& toolbox = window.Bench()->GetToolbox().List();
     const auto add = [&] {
         toolbox.setFocus();
         toolbox.setCurrentRow(1);

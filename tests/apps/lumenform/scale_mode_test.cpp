@@ -192,7 +192,7 @@ TEST_P(ScaleModes, APastedLineKeepsItsPlace) {
         ExpectEnds(to.Text(), mode, {300, 2100, 3600, 600});
     }
     lumenform::DuplicateSelected(from.design);
-    EXPECT_EQ(from.PlaceOf(u"Line1"), "3300 x 1500 at 420, 720");
+    EXPECT_EQ(from.PlaceOf(u"L1"), "3300 x 1500 at 420, 720");
 }
 
 TEST_P(ScaleModes, AResizedContainerKeepsItsUnits) {
@@ -313,7 +313,7 @@ TEST(ScaleMode, FarCoordinatesEndThePasting) {
                         false)));
     form.Select({u"L"});
     lumenform::DuplicateSelected(form.design);
-    EXPECT_EQ(form.PlaceOf(u"Line1"), form.PlaceOf(u"L"));
+    EXPECT_EQ(form.PlaceOf(u"L1"), form.PlaceOf(u"L"));
 }
 
 }  // namespace

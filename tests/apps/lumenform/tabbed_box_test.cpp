@@ -229,17 +229,17 @@ TEST(TabbedBoxDesign, ANewControlIsOnTheShownPage) {
     PagesOf(edited.Control(u"Box")).Show(2);
     lumenform::AddNewControl(edited.design, u"VB.CheckBox", &edited.Control(u"Box"),
                              {300, 900, 1200, 300});
-    EXPECT_EQ(edited.PlaceOf(u"CheckBox1"), "1200 x 300 at 300, 900");
+    EXPECT_EQ(edited.PlaceOf(u"Check1"), "1200 x 300 at 300, 900");
     EXPECT_EQ(PagesOf(edited.Control(u"Box")).Shown(), 2);
     EXPECT_THAT(edited.Text(), HasSubstr("Left            =   -74700\n"));
     EXPECT_THAT(edited.Text(), HasSubstr("      Tab(2).ControlEnabled= 0 'False\n"
-                                         "      Tab(2).Control(0)=   \"CheckBox1\"\n"
+                                         "      Tab(2).Control(0)=   \"Check1\"\n"
                                          "      Tab(2).ControlCount= 1\n"));
     PagesOf(edited.Control(u"Box")).Show(1);
     lumenform::AddNewControl(edited.design, u"VB.CheckBox", &edited.Control(u"Box"),
                              {300, 900, 1200, 300});
     EXPECT_THAT(edited.Text(), HasSubstr("Left            =   300\n"));
-    EXPECT_THAT(edited.Text(), HasSubstr("      Tab(1).Control(1)=   \"CheckBox2\"\n"
+    EXPECT_THAT(edited.Text(), HasSubstr("      Tab(1).Control(1)=   \"Check2\"\n"
                                          "      Tab(1).ControlCount= 2\n"));
 }
 
@@ -269,23 +269,23 @@ TEST(TabbedBoxDesign, ACopyIsSeenWhereverItIsPasted) {
     edited.Select({u"A"});
     const auto clip = lumenform::CopySelected(edited.design);
     lumenform::DuplicateSelected(edited.design);
-    EXPECT_EQ(edited.Selected(), "TextBox1");
-    EXPECT_EQ(edited.PlaceOf(u"TextBox1"), "1200 x 300 at 720, 1020");
-    EXPECT_THAT(edited.Text(), HasSubstr("      Tab(0).Control(2)=   \"TextBox1\"\n"));
+    EXPECT_EQ(edited.Selected(), "A1");
+    EXPECT_EQ(edited.PlaceOf(u"A1"), "1200 x 300 at 720, 1020");
+    EXPECT_THAT(edited.Text(), HasSubstr("      Tab(0).Control(2)=   \"A1\"\n"));
     edited.Select({});
     lumenform::Paste(edited.design, *clip);
-    EXPECT_EQ(edited.PlaceOf(u"TextBox2"), "1200 x 300 at 600, 900");
-    EXPECT_EQ(edited.Control(u"TextBox2").Widget().parentWidget(), &edited.design.View().Client());
+    EXPECT_EQ(edited.PlaceOf(u"A2"), "1200 x 300 at 600, 900");
+    EXPECT_EQ(edited.Control(u"A2").Widget().parentWidget(), &edited.design.View().Client());
 }
 
 TEST(TabbedBoxDesign, ACopiedBoxHasItsOwnControls) {
     EditedDesign edited(FormWith(tabbedForm));
     edited.Select({u"Box"});
     lumenform::DuplicateSelected(edited.design);
-    const lumenform::SavedPages saved(edited.Control(u"SSTab1").Block());
-    EXPECT_THAT(saved.NamesOn(0), ElementsAre(u"TextBox1", u"Line1"));
-    EXPECT_THAT(saved.NamesOn(1), ElementsAre(u"TextBox2"));
-    EXPECT_EQ(edited.PlaceOf(u"TextBox1"), "1200 x 300 at 600, 900");
+    const lumenform::SavedPages saved(edited.Control(u"Box1").Block());
+    EXPECT_THAT(saved.NamesOn(0), ElementsAre(u"A1", u"L1"));
+    EXPECT_THAT(saved.NamesOn(1), ElementsAre(u"B1"));
+    EXPECT_EQ(edited.PlaceOf(u"A1"), "1200 x 300 at 600, 900");
 }
 
 TEST(TabbedBoxDesign, AnotherCurrentPageMovesTheControlsInTheFile) {

@@ -6,6 +6,7 @@
 #include "apps/lumenform/design/canvas/glass.h"
 #include "apps/lumenform/design/canvas/grid.h"
 #include "apps/lumenform/design/canvas/grid_dots.h"
+#include "apps/lumenform/design/model/drag_start.h"
 #include "apps/lumenform/design/model/form_design.h"
 
 namespace lumenkit::lumenform {
@@ -49,9 +50,9 @@ class Canvas final : public QScrollArea {
     /// A context menu is requested for the present selection.
     void MenuRequested(QPoint globalPosition);
     /// A control of the class was drawn in `container` at a place in twips. `container` is null for
-    /// the form.
+    /// the form. The drag began at the corner `start` of the place.
     void Drawn(const lumenkit::Text& className, lumenkit::lumenform::LiveControl* container,
-               const lumenkit::host::Placement& place);
+               const lumenkit::host::Placement& place, lumenkit::lumenform::DragStart start);
     /// Drawing has ended, with or without a control.
     void DrawingEnded();
     void TabOrderModeChanged(bool on);

@@ -15,7 +15,8 @@ DrawingGesture::DrawingGesture(const Ground& ground, Text className, QPoint pres
       container_(ground.map.ContainerAt(pressedAt)),
       origin_(ground.map.OriginOf(container_)),
       pressedAt_(pressedAt),
-      done_(std::move(done)) {}
+      done_(std::move(done)),
+      isLine_(IsDrawnAsLine(className_)) {}
 
 void DrawingGesture::DragTo(const Pointer& pointer) {
     const auto nearest = [&](double twips) {
@@ -30,20 +31,54 @@ void DrawingGesture::DragTo(const Pointer& pointer) {
               .top = top,
               .width = nearest(std::max(from.x(), to.x())) - left,
               .height = nearest(std::max(from.y(), to.y())) - top};
+    start_ = {.right = from.x() > to.x(), .bottom = from.y() > to.y()};
     isDragged_ = isDragged_ || pointer.at != pressedAt_;
 }
 
 void DrawingGesture::Finish() {
-    const host::Placement usual = UsualPlace(ground_.design.Context().classes, className_);
-    if (!isDragged_ || place_.width == 0 || place_.height == 0) {
+    if (!isDragged_ || IsTooSmall()) {
+        const host::Placement usual = UsualPlace(ground_.design, className_);
         place_.width = usual.width;
         place_.height = usual.height;
+        start_ = {};
     }
-    done_(container_, place_);
+    done_(container_, place_, start_);
+}
+
+// A line may be horizontal or vertical.
+bool DrawingGesture::IsTooSmall() const {
+    return isLine_ ? place_.width == 0 && place_.height == 0
+                   : place_.width == 0 || place_.height == 0;
+}
+
+QRect DrawingGesture::DrawnRect() const {
+    return qt::ToPixels(place_).translated(origin_);
 }
 
 QRect DrawingGesture::Band() const {
-    return qt::ToPixels(place_).translated(origin_);
+    return isLine_ ? QRect() : DrawnRect();
+}
+
+QRect DrawingGesture::Painted() const {
+    constexpr int reach = 2;
+    return isLine_ ? DrawnRect().adjusted(-reach, -reach, reach, reach) : QRect();
+}
+
+void DrawingGesture::Paint(QPainter& painter, const QPalette& palette) const {
+    if (!isLine_) {
+        return;
+    }
+    const QRect rect = DrawnRect();
+    painter.save();
+    painter.setPen(palette.color(QPalette::Active, QPalette::Highlight));
+    painter.setRenderHint(QPainter::Antialiasing, place_.width != 0 && place_.height != 0);
+    if (start_.right == start_.bottom) {
+        painter.drawLine(rect.topLeft(), rect.topLeft() + QPoint(rect.width(), rect.height()));
+    } else {
+        painter.drawLine(rect.topLeft() + QPoint(0, rect.height()),
+                         rect.topLeft() + QPoint(rect.width(), 0));
+    }
+    painter.restore();
 }
 
 QPointF DrawingGesture::TwipsAt(QPoint at) const {

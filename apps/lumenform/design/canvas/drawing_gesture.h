@@ -3,14 +3,16 @@
 #include <functional>
 
 #include "apps/lumenform/design/canvas/gesture.h"
+#include "apps/lumenform/design/model/drag_start.h"
 #include "frame/text.h"
 
 namespace lumenkit::lumenform {
 
-/// Draws the rectangle for a new control.
+/// Draws the rectangle for a new control, or a line from one of its corners to the opposite one.
 class DrawingGesture final : public Gesture {
  public:
-    using Done = std::function<void(LiveControl* container, const host::Placement& place)>;
+    using Done =
+        std::function<void(LiveControl* container, const host::Placement& place, DragStart start)>;
 
     /// `done` receives the place in the container, which is null for the form. A press without a
     /// drag gives the usual size of the class.
@@ -20,9 +22,13 @@ class DrawingGesture final : public Gesture {
     void Finish() override;
     std::optional<host::Placement> Place() const override { return place_; }
     QRect Band() const override;
+    QRect Painted() const override;
+    void Paint(QPainter& painter, const QPalette& palette) const override;
 
  private:
     QPointF TwipsAt(QPoint at) const;
+    QRect DrawnRect() const;
+    bool IsTooSmall() const;
 
     Ground ground_;
     Text className_;
@@ -31,6 +37,8 @@ class DrawingGesture final : public Gesture {
     QPoint pressedAt_;
     Done done_;
     host::Placement place_;
+    DragStart start_;
+    bool isLine_;
     bool isDragged_ = false;
 };
 

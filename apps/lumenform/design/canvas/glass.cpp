@@ -174,10 +174,11 @@ Glass::GestureRef Glass::StartPlacing(LiveControl& control, Edges edges, QPoint 
 }
 
 Glass::GestureRef Glass::StartDrawing(QPoint at) {
-    const auto done = [this](LiveControl* container, const host::Placement& place) {
+    const auto done = [this](LiveControl* container, const host::Placement& place,
+                             DragStart start) {
         const Text className = drawnClass_;
         EndDrawing();
-        Q_EMIT Drawn(className, container, place);
+        Q_EMIT Drawn(className, container, place, start);
     };
     auto gesture = std::make_unique<DrawingGesture>(ground(), drawnClass_, at, done);
     gesture->DragTo({.at = at, .snaps = grid_.snaps});
@@ -190,7 +191,8 @@ std::optional<Glass::Grip> Glass::GripAt(QPoint at) const {
         return edges ? std::optional(Grip{nullptr, *edges}) : std::nullopt;
     }
     for (LiveControl* control : design_.Selected()) {
-        if (const auto edges = EdgesAt(HandlesOf(map_.RectOf(*control)), at)) {
+        const auto edges = EdgesAt(HandlesOf(map_.RectOf(*control)), at);
+        if (edges && control->IsSizable()) {
             return Grip{control, *edges};
         }
     }

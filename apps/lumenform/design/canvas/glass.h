@@ -11,6 +11,7 @@
 #include "apps/lumenform/design/canvas/grid.h"
 #include "apps/lumenform/design/canvas/place_label.h"
 #include "apps/lumenform/design/canvas/tab_badges.h"
+#include "apps/lumenform/design/model/drag_start.h"
 #include "apps/lumenform/design/model/form_design.h"
 
 namespace lumenkit::lumenform {
@@ -46,7 +47,8 @@ class Glass final : public QWidget {
     void FormActivated();
     void MenuActivated();
     void MenuRequested(QPoint globalPosition);
-    void Drawn(const Text& className, LiveControl* container, const host::Placement& place);
+    void Drawn(const Text& className, LiveControl* container, const host::Placement& place,
+               DragStart start);
     void DrawingEnded();
     void TabOrderModeChanged(bool on);
     void PointerMoved(QPointF twips);

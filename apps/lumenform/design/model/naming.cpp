@@ -1,8 +1,11 @@
 #include "apps/lumenform/design/model/naming.h"
 
 #include <algorithm>
+#include <array>
+#include <cstddef>
 #include <cstdint>
 #include <variant>
+#include <vector>
 
 #include "forms/controls.h"
 #include "frame/numbers.h"
@@ -12,6 +15,22 @@ namespace lumenkit::lumenform {
 namespace {
 
 constexpr std::size_t longestName = 40;
+constexpr TextView digits = u"0123456789";
+
+struct UsualName {
+    TextView className;
+    TextView name;
+};
+
+// The classes whose controls are not named after the class.
+constexpr std::array usualNames = {
+    UsualName{u"VB.CheckBox", u"Check"},        UsualName{u"VB.ComboBox", u"Combo"},
+    UsualName{u"VB.CommandButton", u"Command"}, UsualName{u"VB.DirListBox", u"Dir"},
+    UsualName{u"VB.DriveListBox", u"Drive"},    UsualName{u"VB.FileListBox", u"File"},
+    UsualName{u"VB.HScrollBar", u"HScroll"},    UsualName{u"VB.ListBox", u"List"},
+    UsualName{u"VB.OptionButton", u"Option"},   UsualName{u"VB.PictureBox", u"Picture"},
+    UsualName{u"VB.TextBox", u"Text"},          UsualName{u"VB.VScrollBar", u"VScroll"},
+};
 
 bool IsLetter(char16_t unit) {
     return (unit >= u'A' && unit <= u'Z') || (unit >= u'a' && unit <= u'z');
@@ -36,6 +55,40 @@ std::int32_t OneMore(const forms::Block& form, TextView property, const Counts& 
     return next;
 }
 
+// Returns the name of the controls of a class without its number.
+TextView StemOf(TextView className) {
+    const auto* const found = std::ranges::find_if(usualNames, [&](const UsualName& usual) {
+        return SameText(usual.className, className, Compare::IgnoreCase);
+    });
+    if (found != usualNames.end()) {
+        return found->name;
+    }
+    const TextView name = ShortClassName(className);
+    return IsName(name) ? name : u"Control";
+}
+
+// The stem with the lowest number, from `number`, that makes it unused. A long stem is cut.
+Text Numbered(std::initializer_list<const forms::Block*> forms, TextView stem,
+              std::int32_t number) {
+    std::vector<TextView> taken;
+    for (const forms::Block* form : forms) {
+        taken.push_back(form->Name());
+        for (const forms::Block* control : forms::AllControls(*form)) {
+            taken.push_back(control->Name());
+        }
+    }
+    for (;; ++number) {
+        const Text ending = Decimal(number);
+        Text name = Text(stem.substr(0, longestName - ending.size())) + ending;
+        const auto isIt = [&](TextView other) {
+            return SameText(name, other, Compare::IgnoreCase);
+        };
+        if (std::ranges::none_of(taken, isIt)) {
+            return name;
+        }
+    }
+}
+
 }  // namespace
 
 bool IsName(TextView name) {
@@ -48,6 +101,10 @@ bool Bears(const forms::Block& block, TextView name) {
 }
 
 TextView ShortClassName(TextView className) {
+    const std::size_t last = className.find_last_not_of(digits);
+    if (last != TextView::npos && last + 1 < className.size() && className[last] == u'.') {
+        className = className.substr(0, last);
+    }
     return className.substr(className.rfind(u'.') + 1);
 }
 
@@ -58,18 +115,18 @@ bool IsTaken(const forms::Block& form, TextView name) {
 }
 
 Text FreshName(std::initializer_list<const forms::Block*> forms, TextView className) {
-    Text stem(ShortClassName(className));
-    if (!IsName(stem)) {
-        stem = u"Control";
+    return Numbered(forms, StemOf(className), 1);
+}
+
+Text CopyName(std::initializer_list<const forms::Block*> forms, TextView original) {
+    constexpr std::size_t mostDigits = 9;  // of a number in 32 bits
+    const std::size_t ownDigits = original.size() - 1 - original.find_last_not_of(digits);
+    const TextView number = original.substr(original.size() - std::min(ownDigits, mostDigits));
+    std::int32_t value = 0;
+    for (const char16_t digit : number) {
+        value = value * 10 + (digit - u'0');
     }
-    stem.resize(std::min<std::size_t>(stem.size(), longestName - 10));
-    for (std::int32_t number = 1;; ++number) {
-        Text name = stem + Decimal(number);
-        if (std::ranges::none_of(forms,
-                                 [&](const forms::Block* form) { return IsTaken(*form, name); })) {
-            return name;
-        }
-    }
+    return Numbered(forms, original.substr(0, original.size() - number.size()), value + 1);
 }
 
 std::int32_t FreshIndex(const forms::Block& form, TextView name) {

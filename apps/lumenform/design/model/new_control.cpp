@@ -3,14 +3,20 @@
 #include <QCoreApplication>
 #include <algorithm>
 #include <array>
+#include <set>
 
 #include "apps/lumenform/design/model/arrange.h"
 #include "apps/lumenform/design/model/libraries.h"
 #include "apps/lumenform/design/model/naming.h"
+#include "apps/lumenform/design/model/new_settings.h"
 #include "apps/lumenform/design/model/stacking.h"
 #include "apps/lumenform/form_view/block_reader.h"
 #include "apps/lumenform/form_view/form_site.h"
+#include "apps/lumenform/form_view/plain_kind.h"
+#include "apps/lumenform/form_view/saved_place.h"
+#include "runtime/qt/font.h"
 #include "runtime/qt/hosted_control.h"
+#include "runtime/qt/pixels.h"
 #include "runtime/qt/qt_text.h"
 
 namespace lumenkit::lumenform {
@@ -33,6 +39,17 @@ constexpr std::array plainClasses = {
     PlainClass{u"VB.ListBox", {.width = 1815, .height = 1230}},
     PlainClass{u"VB.ComboBox", {.width = 1815, .height = 315}, u"Text"},
     PlainClass{u"VB.PictureBox", {.width = 1455, .height = 1455}},
+    PlainClass{u"VB.Image", {.width = 1215, .height = 1215}},
+    PlainClass{u"VB.HScrollBar", {.width = 1215, .height = 255}},
+    PlainClass{u"VB.VScrollBar", {.width = 255, .height = 1215}},
+    PlainClass{u"VB.Line", {.width = 1215}},
+    PlainClass{u"VB.Shape", {.width = 1215, .height = 735}},
+    PlainClass{u"VB.Timer", iconPlace},
+    PlainClass{u"VB.DriveListBox", {.width = 1815, .height = 315}},
+    PlainClass{u"VB.DirListBox", {.width = 1815, .height = 1215}},
+    PlainClass{u"VB.FileListBox", {.width = 1815, .height = 1260}},
+    PlainClass{u"VB.Data", {.width = 1815, .height = 375}, u"Caption"},
+    PlainClass{u"VB.OLE", {.width = 1455, .height = 1455}},
 };
 
 const PlainClass* FindPlain(TextView className) {
@@ -47,13 +64,42 @@ const ClassDescriptor* FindLibraryClass(const ClassTable& classes, TextView clas
     return type != nullptr && type->kind == ClassKind::Control ? type : nullptr;
 }
 
-void SetPlace(forms::Block& block, const host::Placement& place, std::int32_t tabIndex) {
-    block.Set(u"Height", forms::NumberLiteral(place.height));
-    block.Set(u"Left", forms::NumberLiteral(place.left));
-    block.Set(u"TabIndex", tabIndex);
-    block.Set(u"Top", forms::NumberLiteral(place.top));
-    block.Set(u"Width", forms::NumberLiteral(place.width));
+const ClassDescriptor* FindLibraryClass(const FormDesign& design, TextView className) {
+    return FindLibraryClass(design.Context().classes, className);
 }
+
+// Whether the class can be added to any form.
+bool IsOffered(const FormDesign& design, TextView className) {
+    return FindPlain(className) != nullptr || FindLibraryClass(design, className) != nullptr;
+}
+
+// Returns the first control of a class that is on the form only, or null.
+const LiveControl* ExampleOf(const FormDesign& design, TextView className) {
+    if (IsOffered(design, className)) {
+        return nullptr;
+    }
+    const auto& controls = design.View().Controls();
+    const auto found = std::ranges::find_if(controls, [&](const auto& control) {
+        return SameText(control->Block().ClassName(), className, Compare::IgnoreCase);
+    });
+    return found == controls.end() ? nullptr : found->get();
+}
+
+// Without a margin, the first option would be drawn over the caption of the frame.
+void LeaveRoomForCaption(Object& list, const qt::Font& font) {
+    const double line = font.FaceAt(1)->LineHeight() * qt::TwipsPerPixel::OfScreens().y;
+    list.Let(u"TopMargin", static_cast<float>(line));
+}
+
+struct FirstChange {
+    TextView className;
+    void (*change)(Object& control, const qt::Font& font);
+};
+
+// What the designer changes about new controls of this library.
+constexpr std::array firstChanges = {
+    FirstChange{u"VOptList", LeaveRoomForCaption},
+};
 
 // Saves the initial properties of a new control, which is created outside the form.
 void SavePrototype(const FormDesign& design, const ClassDescriptor& type,
@@ -63,6 +109,11 @@ void SavePrototype(const FormDesign& design, const ClassDescriptor& type,
     qt::HostedControl widget(design.Context(), type, site,
                              {.name = name, .placement = place, .visible = false});
     widget.StartNew();
+    for (const FirstChange& first : firstChanges) {
+        if (first.className == type.name) {
+            first.change(widget.Automation(), *around.font);
+        }
+    }
     forms::FormBag bag = BagOf(design.Document(), block);
     widget.Save(bag);
 }
@@ -81,19 +132,45 @@ std::vector<Text> NewControlClasses(const ClassTable& classes) {
     return names;
 }
 
-host::Placement UsualPlace(const ClassTable& classes, TextView className) {
-    if (FindLibraryClass(classes, className) != nullptr) {
+std::vector<Text> ClassesOnForm(const FormDesign& design) {
+    const auto isLess = [](const Text& left, const Text& right) {
+        return QString::compare(qt::ToQString(left), qt::ToQString(right), Qt::CaseInsensitive) < 0;
+    };
+    std::set<Text, decltype(isLess)> found(isLess);
+    for (const auto& control : design.View().Controls()) {
+        if (!IsOffered(design, control->Block().ClassName())) {
+            found.insert(control->Block().ClassName());
+        }
+    }
+    std::vector<Text> names(found.begin(), found.end());
+    std::ranges::stable_sort(names, isLess,
+                             [](const Text& name) { return Text(ShortClassName(name)); });
+    return names;
+}
+
+host::Placement UsualPlace(const FormDesign& design, TextView className) {
+    if (FindLibraryClass(design, className) != nullptr) {
         return {.width = 2415, .height = 1215};
     }
-    const PlainClass* plain = FindPlain(className);
-    return plain == nullptr ? host::Placement{.width = 1215, .height = 495} : plain->place;
+    if (const PlainClass* const plain = FindPlain(className)) {
+        return plain->place;
+    }
+    if (const LiveControl* const example = ExampleOf(design, className)) {
+        const host::Placement place = example->Place();
+        return {.width = place.width, .height = place.height};
+    }
+    return {.width = 1215, .height = 495};
+}
+
+bool IsDrawnAsLine(TextView className) {
+    return ClassHasEnds(className);
 }
 
 void AddNewControl(FormDesign& design, TextView className, const LiveControl* container,
-                   const host::Placement& place) {
+                   const host::Placement& place, DragStart start) {
     const Surroundings& around = InsideOf(design, container);
-    const ClassTable& classes = design.Context().classes;
-    const ClassDescriptor* const type = FindLibraryClass(classes, className);
+    const ClassDescriptor* const type = FindLibraryClass(design, className);
+    const LiveControl* const example = ExampleOf(design, className);
     design.Restructure(QCoreApplication::translate("new_control", "Add a control"), [&] {
         forms::Document& document = design.Document();
         forms::Block& parent = BlockOf(design, container);
@@ -101,18 +178,17 @@ void AddNewControl(FormDesign& design, TextView className, const LiveControl* co
         const std::int32_t tabIndex = FreshTabIndex(document.Root());
         forms::Block& block = parent.AddControl(className, name, Foremost(parent));
         if (type != nullptr) {
-            RequireLibrary(document, classes);
-            SetPlace(block, place, tabIndex);
-            block.Set(u"_ExtentX", ExtentOf(place.width));
-            block.Set(u"_ExtentY", ExtentOf(place.height));
+            RequireLibrary(document, design.Context().classes);
+            WriteLibrarySettings(block, place, tabIndex);
             SavePrototype(design, *type, around, name, place, block);
-        } else {
-            const PlainClass* const plain = FindPlain(className);
-            if (plain != nullptr && !plain->caption.empty()) {
-                block.Set(plain->caption, forms::TextLiteral(name));
-            }
-            SetPlace(block, place, tabIndex);
+            return std::vector{name};
         }
+        const PlainClass* const plain = FindPlain(className);
+        if (plain != nullptr && !plain->caption.empty()) {
+            block.Set(plain->caption, forms::TextLiteral(name));
+        }
+        WritePlainSettings(block, example == nullptr ? nullptr : &example->Block(),
+                           {place, start, around.scale}, tabIndex);
         return std::vector{name};
     });
 }

@@ -80,7 +80,7 @@ class Settling {
         if (const auto known = arrays_.find(block.Name()); isElement && known != arrays_.end()) {
             return known->second;
         }
-        Text name = FreshName({&form_, &clip_}, block.ClassName());
+        Text name = CopyName({&form_, &clip_}, block.Name());
         if (isElement) {
             arrays_.emplace(block.Name(), name);
         }

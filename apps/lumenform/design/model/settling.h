@@ -5,7 +5,8 @@
 namespace lumenkit::lumenform {
 
 /// Prepares the controls of `clip` for insertion into `form`: renames controls whose names are
-/// taken, gives elements of control arrays free indices, and continues the tab order of the form.
+/// taken (see CopyName), gives elements of control arrays free indices, and continues the tab order
+/// of the form.
 void SettleInto(const forms::Block& form, const forms::Block& clip);
 
 }  // namespace lumenkit::lumenform

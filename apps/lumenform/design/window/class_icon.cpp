@@ -152,6 +152,69 @@ void DrawTimer(const Pen& pen) {
     pen.painter.drawPolyline(QPolygonF({QPointF(10, 5.5), QPointF(10, 10), QPointF(13, 12)}));
 }
 
+void DrawImage(const Pen& pen) {
+    pen.painter.drawEllipse(QPointF(6.5, 6), 1.8, 1.8);
+    pen.painter.setPen(QPen(pen.accent, 1.4));
+    pen.painter.drawPolyline(QPolygonF(
+        {QPointF(2, 16), QPointF(8, 9.5), QPointF(11, 13), QPointF(14, 8), QPointF(18, 14)}));
+}
+
+// An arrow head at the tip, which points by a step of 1 to the left, right, up or down.
+void DrawArrow(const Pen& pen, QPointF tip, QPointF to) {
+    const QPointF back = tip - to * 2.2;
+    const QPointF aside = QPointF(to.y(), to.x()) * 2.2;
+    pen.painter.drawPolyline(QPolygonF({back - aside, tip, back + aside}));
+}
+
+void DrawHScrollBar(const Pen& pen) {
+    pen.painter.drawRect(QRectF(1, 6, 18, 8));
+    pen.painter.fillRect(QRectF(8, 7.5, 5, 5), pen.accent);
+    DrawArrow(pen, {3, 10}, {-1, 0});
+    DrawArrow(pen, {17, 10}, {1, 0});
+}
+
+void DrawVScrollBar(const Pen& pen) {
+    pen.painter.drawRect(QRectF(6, 1, 8, 18));
+    pen.painter.fillRect(QRectF(7.5, 8, 5, 5), pen.accent);
+    DrawArrow(pen, {10, 3}, {0, -1});
+    DrawArrow(pen, {10, 17}, {0, 1});
+}
+
+void DrawDrive(const Pen& pen) {
+    pen.painter.drawRoundedRect(QRectF(2, 6, 16, 8), 1.5, 1.5);
+    pen.Lines(4.5, 11, {11.5});
+    pen.painter.fillRect(QRectF(13.5, 10.5, 2.5, 2), pen.accent);
+}
+
+void DrawFolder(const Pen& pen) {
+    pen.painter.drawPolygon(QPolygonF({QPointF(2, 16), QPointF(2, 4.5), QPointF(8, 4.5),
+                                       QPointF(9.5, 7), QPointF(18, 7), QPointF(18, 16)}));
+    pen.painter.setPen(QPen(pen.accent, 1.4));
+    pen.Lines(4.5, 15.5, {10});
+}
+
+void DrawFile(const Pen& pen) {
+    pen.painter.drawPolygon(QPolygonF({QPointF(4.5, 2.5), QPointF(12, 2.5), QPointF(15.5, 6),
+                                       QPointF(15.5, 17.5), QPointF(4.5, 17.5)}));
+    pen.painter.setPen(QPen(pen.accent, 1.4));
+    pen.Lines(7, 13, {8.5, 11.5, 14.5});
+}
+
+void DrawRecords(const Pen& pen) {
+    pen.painter.drawRect(QRectF(1, 5, 18, 10));
+    pen.painter.drawLine(QPointF(3, 7.8), QPointF(3, 12.2));
+    DrawArrow(pen, {4.5, 10}, {-1, 0});
+    DrawArrow(pen, {15.5, 10}, {1, 0});
+    pen.painter.drawLine(QPointF(17, 7.8), QPointF(17, 12.2));
+    pen.painter.fillRect(QRectF(8, 8.5, 4, 3), pen.accent);
+}
+
+void DrawDocument(const Pen& pen) {
+    pen.painter.drawRect(QRectF(2, 3, 12, 12));
+    pen.painter.fillRect(QRectF(8, 9, 10, 8), pen.accent);
+    pen.Lines(4.5, 11.5, {6});
+}
+
 void DrawBox(const Pen& pen) {
     pen.painter.setPen(QPen(pen.ink, 1.2, Qt::DashLine));
     pen.painter.drawRect(QRectF(2, 4, 16, 12));
@@ -175,7 +238,14 @@ constexpr std::array drawings = {
     Drawing{u"VB.ListBox", DrawListBox},
     Drawing{u"VB.ComboBox", DrawComboBox},
     Drawing{u"VB.PictureBox", DrawPictureBox},
-    Drawing{u"VB.Image", DrawPictureBox},
+    Drawing{u"VB.Image", DrawImage},
+    Drawing{u"VB.HScrollBar", DrawHScrollBar},
+    Drawing{u"VB.VScrollBar", DrawVScrollBar},
+    Drawing{u"VB.DriveListBox", DrawDrive},
+    Drawing{u"VB.DirListBox", DrawFolder},
+    Drawing{u"VB.FileListBox", DrawFile},
+    Drawing{u"VB.Data", DrawRecords},
+    Drawing{u"VB.OLE", DrawDocument},
     Drawing{u"VB.Form", DrawForm},
     Drawing{u"VB.MDIForm", DrawForm},
     Drawing{u"VB.Menu", DrawMenu},

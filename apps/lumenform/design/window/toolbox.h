@@ -1,17 +1,27 @@
 #pragma once
 
+#include <QLineEdit>
 #include <QListWidget>
+#include <QWidget>
+#include <vector>
 
-#include "frame/class_table.h"
+#include "apps/lumenform/design/model/form_design.h"
+#include "frame/text.h"
 
 namespace lumenkit::lumenform {
 
-/// The list of control classes that can be added to a form. Choosing one starts drawing it.
-class Toolbox final : public QListWidget {
+/// The list of control classes that can be added to the form, with a search field. Choosing one
+/// starts drawing it. Classes of other libraries are in the list while the form has controls of
+/// them.
+class Toolbox final : public QWidget {
     Q_OBJECT
 
  public:
-    explicit Toolbox(const ClassTable& classes, QWidget* parent = nullptr);
+    /// The design must outlive the toolbox.
+    explicit Toolbox(const FormDesign& design, QWidget* parent = nullptr);
+
+    QListWidget& List() const { return *list_; }
+    QLineEdit& Search() const { return *search_; }
 
     /// Clears the choice.
     void Release();
@@ -23,11 +33,25 @@ class Toolbox final : public QListWidget {
     void PutDown(const QString& className);
 
  protected:
-    void keyPressEvent(QKeyEvent* event) override;
     void changeEvent(QEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
-    void DrawIcons();
+    void LayOut();
+    void AddOffered();
+    void FollowForm();
+    void AddHeading(const QString& text);
+    void AddClass(const Text& className);
+    void Colour(QListWidgetItem& item) const;
+    void SearchFor(const QString& text);
+    bool HandleListKey(int key);
+    bool HandleSearchKey(int key);
+
+    const FormDesign& design_;
+    QLineEdit* search_;
+    QListWidget* list_;
+    int offered_ = 0;           // the number of classes that any form can have
+    std::vector<Text> onForm_;  // the classes below them
 };
 
 }  // namespace lumenkit::lumenform

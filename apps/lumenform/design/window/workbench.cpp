@@ -60,7 +60,7 @@ Workbench::Workbench(const qt::Context& context, ControlMessages& messages,
                      forms::Document document, QWidget* parent)
     : QSplitter(Qt::Horizontal, parent),
       design_(context, std::move(document)),
-      toolbox_(new Toolbox(context.classes)),
+      toolbox_(new Toolbox(design_)),
       canvas_(new Canvas(design_)),
       outline_(new Outline(design_, ClassIcon)),
       properties_(new PropertyBrowser(design_, messages)) {
@@ -71,6 +71,7 @@ Workbench::Workbench(const qt::Context& context, ControlMessages& messages,
 
 // Destroys the users of the design before the design.
 Workbench::~Workbench() {
+    delete toolbox_;
     delete canvas_;
     delete outline_;
     delete properties_;
@@ -102,9 +103,10 @@ void Workbench::ConnectParts() {
     });
     connect(toolbox_, &Toolbox::PutDown, this, &Workbench::PutDown);
     connect(canvas_, &Canvas::DrawingEnded, toolbox_, &Toolbox::Release);
-    connect(canvas_, &Canvas::Drawn, this,
-            [this](const Text& className, const LiveControl* container,
-                   const host::Placement& place) { Add(className, container, place); });
+    connect(
+        canvas_, &Canvas::Drawn, this,
+        [this](const Text& className, const LiveControl* container, const host::Placement& place,
+               DragStart start) { Add(className, container, place, start); });
     connect(canvas_, &Canvas::Activated, this, &Workbench::EditSelected);
     connect(canvas_, &Canvas::FormActivated, this, &Workbench::EditSelected);
     connect(canvas_, &Canvas::MenuActivated, this, [this] {
@@ -144,15 +146,15 @@ void Workbench::PutDown(const QString& className) {
     const auto& selected = design_.Selected();
     const LiveControl* const container =
         selected.size() == 1 && selected.front()->IsContainer() ? selected.front() : nullptr;
-    const host::Placement usual = UsualPlace(design_.Context().classes, name);
+    const host::Placement usual = UsualPlace(design_, name);
     const Grid& grid = canvas_->GetGrid();
     const host::Placement middle = Centered(InsideOf(design_, container), usual, grid);
     Add(name, container, Cascaded(design_, container, middle, grid.step));
 }
 
 void Workbench::Add(const Text& className, const LiveControl* container,
-                    const host::Placement& place) {
-    Try([&] { AddNewControl(design_, className, container, place); });
+                    const host::Placement& place, DragStart start) {
+    Try([&] { AddNewControl(design_, className, container, place, start); });
     canvas_->GetGlass().setFocus();
 }
 

@@ -4,6 +4,7 @@
 
 #include "apps/lumenform/design/canvas/canvas.h"
 #include "apps/lumenform/design/menus/menus_dialog.h"
+#include "apps/lumenform/design/model/drag_start.h"
 #include "apps/lumenform/design/model/form_design.h"
 #include "apps/lumenform/design/outline/outline.h"
 #include "apps/lumenform/design/properties/control_messages.h"
@@ -53,7 +54,8 @@ class Workbench final : public QSplitter {
     void LayOut();
     void ConnectParts();
     void PutDown(const QString& className);
-    void Add(const Text& className, const LiveControl* container, const host::Placement& place);
+    void Add(const Text& className, const LiveControl* container, const host::Placement& place,
+             DragStart start = {});
 
     FormDesign design_;
     Toolbox* toolbox_;

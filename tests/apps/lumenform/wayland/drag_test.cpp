@@ -85,7 +85,7 @@ TEST_F(DesignDragOnWayland, AControlFollowsThePointer) {
 }
 
 TEST_F(DesignDragOnWayland, AControlOfTheToolboxIsDrawn) {
-    lumenform::Toolbox& toolbox = window.Bench()->GetToolbox();
+    QListWidget& toolbox = window.Bench()->GetToolbox().List();
     person.Click(*toolbox.viewport(), toolbox.visualItemRect(toolbox.item(0)).center());
     ASSERT_TRUE(Soon([&] { return window.Bench()->GetCanvas().IsDrawing(); }));
     const QPoint corner =
