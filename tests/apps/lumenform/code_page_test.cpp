@@ -477,6 +477,14 @@ TEST_F(LostNamesOfCode, AreToldOfMenus) {
     EXPECT_EQ(Said(), "mnuOpen_Click still mentions mnuOpen") << "mnuFile is not mentioned";
 }
 
+TEST_F(LostNamesOfCode, ASelectedMenuLeadsToItsCode) {
+    LoadOrder();
+    SelectInOutline(QStringLiteral("mnuOpen"));
+    Key(Qt::Key_F7);
+    EXPECT_EQ(CurrentText(), "Private Sub mnuOpen_Click()");
+    EXPECT_EQ(Rows()[1], "# mnuOpen");
+}
+
 TEST_F(LostNamesOfCode, AreToldOfSeveralControls) {
     LoadOrder();
     Key(Qt::Key_A, Qt::ControlModifier);

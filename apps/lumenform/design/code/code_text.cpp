@@ -53,6 +53,7 @@ CodeText::CodeText(QWidget* parent)
       numbers_(new NumberArea(*this)),
       look_(new CodeLook(*document(), palette())) {
     setReadOnly(true);
+    setUndoRedoEnabled(false);
     setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     setLineWrapMode(QPlainTextEdit::NoWrap);
     setTabChangesFocus(true);

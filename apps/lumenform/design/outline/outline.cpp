@@ -306,6 +306,16 @@ void Outline::TakeSelection() {
     Q_EMIT Chosen();
 }
 
+std::vector<Text> Outline::SelectedMenus() const {
+    std::vector<Text> names;
+    for (const OutlineNode* const node : SelectedNodes()) {
+        if (node->Is(Kind::Menu)) {
+            names.push_back(node->block->Name());
+        }
+    }
+    return names;
+}
+
 // In the order of the rows.
 OutlineNodes Outline::NodesToShow() const {
     OutlineNodes nodes;

@@ -5,11 +5,13 @@
 #include <QSortFilterProxyModel>
 #include <QWidget>
 #include <functional>
+#include <vector>
 
 #include "apps/lumenform/design/model/form_design.h"
 #include "apps/lumenform/design/outline/outline_model.h"
 #include "apps/lumenform/design/outline/outline_moves.h"
 #include "apps/lumenform/design/outline/outline_tree.h"
+#include "frame/text.h"
 
 namespace lumenkit::lumenform {
 
@@ -27,6 +29,8 @@ class Outline final : public QWidget {
 
     OutlineTree& Tree() const { return *tree_; }
     QLineEdit& Search() const { return *search_; }
+    /// Returns the names of the selected menus. The design selects controls only.
+    std::vector<Text> SelectedMenus() const;
 
  Q_SIGNALS:
     /// The user has selected objects in the tree.

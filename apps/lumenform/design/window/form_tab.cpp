@@ -192,7 +192,8 @@ void FormTab::BeginRun() {
 }
 
 void FormTab::ShowCode() {
-    OpenCode(NamesOfSelection(bench_->GetDesign()));
+    const std::vector<Text> menus = bench_->GetOutline().SelectedMenus();
+    OpenCode(menus.empty() ? NamesOfSelection(bench_->GetDesign()) : menus);
 }
 
 void FormTab::OpenCode(const std::vector<Text>& names) {

@@ -5,6 +5,7 @@
 #include <QTimer>
 #include <functional>
 #include <memory>
+#include <vector>
 
 #include "apps/lumenform/design/code/code_page.h"
 #include "apps/lumenform/design/code/lost_names.h"
@@ -16,6 +17,7 @@
 #include "apps/lumenform/design/window/run_page.h"
 #include "apps/lumenform/design/window/workbench.h"
 #include "forms/document.h"
+#include "frame/text.h"
 #include "runtime/qt/context.h"
 
 namespace lumenkit::lumenform {
