@@ -1,4 +1,6 @@
 // Several forms in the designer's window, and files that other programs change.
+#include <QDir>
+#include <QFile>
 #include <QMenuBar>
 #include <QMessageBox>
 #include <QPushButton>
@@ -10,6 +12,8 @@
 #include <gmock/gmock.h>
 
 #include "apps/lumenform/design/window/difference_dialog.h"
+#include "forms/code_page.h"
+#include "frame/utf8.h"
 #include "tests/apps/lumenform/answer.h"
 #include "tests/apps/lumenform/opened_window.h"
 #include "tests/support/file_bytes.h"
@@ -135,6 +139,54 @@ TEST_F(FormTabs, AChangeOutsideIsTold) {
     window.Load(Copy("memo"));
     Bar().setCurrentIndex(0);
     EXPECT_TRUE(window.Current()->Bar().isVisible());
+}
+
+TEST_F(FormTabs, AFileThatIsGoneIsUnsavedWork) {
+    const QString path = Copy("label");
+    window.Load(path);
+    const std::string before = Text();
+    ASSERT_TRUE(QFile::remove(path));
+    window.Current()->LookAtDisk();
+    EXPECT_TRUE(window.Current()->Bar().isVisible());
+    EXPECT_TRUE(window.isWindowModified());
+    EXPECT_TRUE(window.Save());
+    EXPECT_EQ(FileBytes(File(QStringLiteral("label.frm"))), before);
+    EXPECT_FALSE(window.Current()->Bar().isVisible());
+    EXPECT_FALSE(window.isWindowModified());
+}
+
+TEST_F(FormTabs, ClosingAFormWhoseFileIsGoneAsks) {
+    const QString path = Copy("label");
+    window.Load(path);
+    ASSERT_TRUE(QFile::remove(path));
+    const Answer answer(QStringLiteral("Cancel"));
+    Command(QStringLiteral("Close the form")).trigger();
+    EXPECT_THAT(answer.said, HasSubstr("Save the changes to label.frm?"));
+    EXPECT_NE(window.Current(), nullptr);
+}
+
+TEST_F(FormTabs, FormsOfOneNameShowTheirFolders) {
+    window.Load(Copy("label"));
+    EXPECT_EQ(window.Tabs().tabText(0), QStringLiteral("label.frm"));
+    ASSERT_TRUE(QDir(folder.path()).mkdir(QStringLiteral("other")));
+    ASSERT_TRUE(
+        QFile::copy(Path(QStringLiteral("label.frm")), Path(QStringLiteral("other/label.frm"))));
+    window.Load(Path(QStringLiteral("other/label.frm")));
+    EXPECT_EQ(window.Tabs().tabText(1), QStringLiteral("label.frm (other)"));
+    EXPECT_NE(window.Tabs().tabText(0), QStringLiteral("label.frm"));
+    EXPECT_THAT(window.windowTitle().toStdString(), HasSubstr("label.frm (other)"));
+}
+
+TEST_F(FormTabs, AnUndoLeadsBackAcrossAReloadInAnotherEncoding) {
+    const QString path = Copy("umlauts");
+    window.Load(path);
+    const std::string before = Text();
+    const std::string utf8 = ToUtf8(forms::CodePage(1252).Decode(before));
+    std::ofstream(File(QStringLiteral("umlauts.frm")), std::ios::binary) << "\xEF\xBB\xBF" << utf8;
+    window.Current()->LookAtDisk();
+    Q_EMIT window.Current()->Bar().ReloadWanted();
+    window.Commands().UndoAction().trigger();
+    EXPECT_EQ(Text(), before);
 }
 
 TEST_F(FormTabs, ReloadTakesTheFileAndUndoBringsTheFormBack) {

@@ -121,6 +121,17 @@ TEST_F(PropertyLists, RefuseAnItemThatTheCodePageCannotHold) {
     EXPECT_EQ(Companion(form), before);
 }
 
+TEST_F(PropertyLists, RefusedNumbersStayInTheDialog) {
+    form.Select({u"lstColors"});
+    const std::string before = Companion(form);
+    Edit(form, u"ItemData", QStringLiteral("5\n99999999999"));
+    auto* const dialog = form.browser->findChild<lumenform::TextDialog*>();
+    ASSERT_NE(dialog, nullptr) << "it stays open";
+    EXPECT_FALSE(dialog->Message().isEmpty());
+    EXPECT_EQ(ToUtf8(dialog->Result()), "5\r\n99999999999");
+    EXPECT_EQ(Companion(form), before);
+}
+
 TEST_F(PropertyLists, OfANewControlGetACompanion) {
     BrowsedForm fresh(FormWith("   Begin VB.ComboBox C\n      Height = 300\n   End\n"));
     fresh.Select({u"C"});

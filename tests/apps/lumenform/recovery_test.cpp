@@ -1,7 +1,10 @@
 // Unsaved work after the designer ended unexpectedly.
 #include <QDir>
 #include <QFile>
+#include <QRegularExpression>
+#include <QTest>
 #include <fstream>
+#include <set>
 
 #include <gmock/gmock.h>
 
@@ -23,8 +26,9 @@ class Recovery : public OpenedWindow {
     }
     // Leaves the present copy behind, as a program does that is killed: the lock is gone.
     void Kill() const {
-        for (const QString& name : Copies()) {
-            const QString left = Store() + QStringLiteral("/left-") + name;
+        for (const QString& name :
+             Copies().filter(QRegularExpression(QStringLiteral("^(?!left)")))) {
+            const QString left = Store() + QStringLiteral("/left-%1-").arg(Copies().size()) + name;
             ASSERT_TRUE(QDir().mkdir(left));
             ASSERT_TRUE(QFile::copy(Store() + u'/' + name + QStringLiteral("/work"),
                                     left + QStringLiteral("/work")));
@@ -89,7 +93,7 @@ TEST_F(Recovery, WorkLeftBehindIsOpenedAsAChangeToItsFile) {
     EXPECT_THAT(Copies().size(), 0);
 }
 
-TEST_F(Recovery, WorkOnAFileThatIsGoneIsANewForm) {
+TEST_F(Recovery, WorkOnAFileThatIsGoneKeepsItsPlace) {
     const QString path = Copy("memo");
     window.Load(path);
     Change();
@@ -100,13 +104,105 @@ TEST_F(Recovery, WorkOnAFileThatIsGoneIsANewForm) {
         Command(QStringLiteral("Close the form")).trigger();
     }
     ASSERT_TRUE(QFile::remove(path));
+    ASSERT_TRUE(QFile::remove(Path(QStringLiteral("memo.frx"))));
     const Answer answer(QStringLiteral("Open"));
     window.OfferAbandonedWork();
     ASSERT_NE(window.Bench(), nullptr);
     EXPECT_EQ(Text(), changed.form);
     EXPECT_EQ(Design().Document().Write().companion, changed.companion);
     EXPECT_TRUE(window.isWindowModified());
+    EXPECT_EQ(window.Current()->File().Path(), path);
+    EXPECT_TRUE(window.Save());
+    EXPECT_EQ(FileBytes(File(QStringLiteral("memo.frm"))), changed.form);
+    EXPECT_EQ(FileBytes(File(QStringLiteral("memo.frx"))), changed.companion);
+}
+
+TEST_F(Recovery, WorkOlderThanItsFileIsNotSavedUnasked) {
+    const QString path = Copy("memo");
+    window.Load(path);
+    Change();
+    const std::string changed = Text();
+    Kill();
+    {
+        const Answer discard(QStringLiteral("Discard"));
+        Command(QStringLiteral("Close the form")).trigger();
+    }
+    QTest::qWait(20);  // the file is newer by more than a clock tick
+    const std::string newer = FileBytes(File(QStringLiteral("memo.frm"))) + "' newer\r\n";
+    std::ofstream(File(QStringLiteral("memo.frm")), std::ios::binary) << newer;
+    {
+        const Answer answer(QStringLiteral("Open"));
+        window.OfferAbandonedWork();
+    }
+    EXPECT_EQ(Text(), changed);
+    EXPECT_TRUE(window.Current()->Bar().isVisible());
+    {
+        const Answer answer(QStringLiteral("Cancel"));
+        EXPECT_FALSE(window.Save());
+    }
+    EXPECT_EQ(FileBytes(File(QStringLiteral("memo.frm"))), newer);
+    window.Commands().UndoAction().trigger();
+    EXPECT_EQ(Text(), newer);
+}
+
+TEST_F(Recovery, TwoVersionsOfOneFileAreTwoForms) {
+    window.Load(Copy("memo"));
+    Change();
+    const std::string older = Text();
+    Kill();
+    Change();
+    const std::string newest = Text();
+    Kill();
+    {
+        const Answer discard(QStringLiteral("Discard"));
+        Command(QStringLiteral("Close the form")).trigger();
+    }
+    const Answer answer(QStringLiteral("Open"));
+    window.OfferAbandonedWork();
+    std::set<std::string> texts;
+    for (int index = 0; index < window.Tabs().count(); ++index) {
+        window.Tabs().setCurrentIndex(index);
+        texts.insert(Text());
+        EXPECT_TRUE(window.Current()->IsChanged());
+    }
+    EXPECT_EQ(texts, (std::set<std::string>{older, newest}));
+}
+
+TEST_F(Recovery, WorkKeepsItsCodePage) {
+    window.Load(Copy("umlauts"));
+    Design().WriteIn(65001);
+    window.Current()->KeepCopy();
+    const std::string changed = Text();
+    Kill();
+    {
+        const Answer discard(QStringLiteral("Discard"));
+        Command(QStringLiteral("Close the form")).trigger();
+    }
+    const Answer answer(QStringLiteral("Open"));
+    window.OfferAbandonedWork();
+    EXPECT_EQ(Design().Document().FormCodePage(), 65001);
+    EXPECT_EQ(Text(), changed);
+    window.Commands().UndoAction().trigger();
+    EXPECT_EQ(Design().Document().FormCodePage(), 1252);
+}
+
+TEST_F(Recovery, ASecondVersionOfAControlIsAControl) {
+    std::ofstream(File(QStringLiteral("Gauge.ctl")))
+        << "VERSION 5.00\nBegin VB.UserControl Gauge\n   ClientHeight = 900\nEnd\n";
+    window.Load(Path(QStringLiteral("Gauge.ctl")));
+    TypeInto(u"ClientHeight", "1200");
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+    window.Current()->KeepCopy();
+    Kill();
+    {
+        const Answer discard(QStringLiteral("Discard"));
+        Command(QStringLiteral("Close the form")).trigger();
+    }
+    window.Load(Path(QStringLiteral("Gauge.ctl")));
+    const Answer answer(QStringLiteral("Open"));
+    window.OfferAbandonedWork();
     EXPECT_FALSE(window.Current()->File().HasPath());
+    EXPECT_EQ(window.Current()->Name(), QStringLiteral("Gauge.ctl"));
 }
 
 TEST_F(Recovery, LaterKeepsTheWorkAndDiscardRemovesIt) {

@@ -237,8 +237,11 @@ void FormDesign::Reload(forms::Document document) {
     Q_EMIT Edited();
 }
 
-void FormDesign::Take(const QString& title, const forms::FormBytes& bytes) {
-    TakeStep(title, std::make_unique<forms::Document>(document_->WithBytes(bytes)));
+void FormDesign::Take(const QString& title, const forms::FormBytes& bytes, int codePage) {
+    const forms::Encoding& present = document_->TextEncoding();
+    const bool isSame = present.FormCodePage() == codePage;
+    TakeStep(title, std::make_unique<forms::Document>(
+                        document_->WithBytes(bytes, isSame ? present : present.In(codePage))));
 }
 
 void FormDesign::WriteIn(int codePage) {

@@ -71,9 +71,9 @@ class FormDesign final : public QObject {
     /// history and without unsaved changes. Throws FormError as FormView does; then nothing
     /// changes.
     void Reload(forms::Document document);
-    /// Takes other contents for the document as a step of the history. Throws FormError as FormView
-    /// does, and for bytes that are no form; then nothing changes.
-    void Take(const QString& title, const forms::FormBytes& bytes);
+    /// Takes other contents for the document, in this code page, as a step of the history. Throws
+    /// FormError as FormView does, and for bytes that are no form; then nothing changes.
+    void Take(const QString& title, const forms::FormBytes& bytes, int codePage);
 
     /// Writes the form in another code page from now on, as a step of the history. Throws FormError
     /// as forms::InCodePage does; then nothing changes.

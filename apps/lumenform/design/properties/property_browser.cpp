@@ -376,10 +376,12 @@ void PropertyBrowser::OpenText(const PropertyRow& row, const Text& text) {
     const Text former = EditedValue(row);
     auto* const dialog = new TextDialog(design_, qt::ToQString(row.name), text, lines, this);
     dialog->setAttribute(Qt::WA_DeleteOnClose);
-    connect(dialog, &QDialog::accepted, this, [this, dialog, former, name = row.name] {
-        if (dialog->Result() != former) {
-            AssignTo(name, dialog->Result());
+    dialog->SetTaker([this, former, name = row.name](const Text& result) {
+        notice_->Say({});
+        if (result != former) {
+            AssignTo(name, result);
         }
+        return Message();
     });
     dialog->open();
 }

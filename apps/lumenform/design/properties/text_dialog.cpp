@@ -85,8 +85,14 @@ void TextDialog::Check() {
 
 // Also the key of OK does nothing while the text is refused.
 void TextDialog::accept() {
-    if (buttons_->button(QDialogButtonBox::Ok)->isEnabled()) {
+    if (!buttons_->button(QDialogButtonBox::Ok)->isEnabled()) {
+        return;
+    }
+    const QString refusal = taker_ ? taker_(Result()) : QString();
+    if (refusal.isEmpty()) {
         QDialog::accept();
+    } else {
+        notice_->Say(refusal);
     }
 }
 

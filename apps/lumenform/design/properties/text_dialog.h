@@ -3,6 +3,8 @@
 #include <QDialog>
 #include <QDialogButtonBox>
 #include <QPlainTextEdit>
+#include <functional>
+#include <utility>
 
 #include "apps/lumenform/design/model/form_design.h"
 #include "apps/lumenform/design/properties/notice.h"
@@ -22,6 +24,10 @@ class TextDialog final : public QDialog {
     /// and cannot be accepted. `design` must outlive the dialog.
     TextDialog(FormDesign& design, const QString& title, Text text, Lines lines, QWidget* parent);
 
+    /// Sets a function that takes the text when the dialog is accepted. It returns why it refuses
+    /// the text; then the dialog stays open and tells that.
+    void SetTaker(std::function<QString(const Text&)> taker) { taker_ = std::move(taker); }
+
     /// Returns the edited text, or the unchanged original.
     Text Result() const;
     QString Message() const { return notice_->Text(); }
@@ -34,6 +40,7 @@ class TextDialog final : public QDialog {
     FormDesign& design_;
     Text text_;
     Text divider_;
+    std::function<QString(const Text&)> taker_;
     QPlainTextEdit* edit_;
     Notice* notice_;
     QDialogButtonBox* buttons_;

@@ -1,7 +1,6 @@
 #include "apps/lumenform/design/window/changed_bar.h"
 
 #include <QHBoxLayout>
-#include <QPushButton>
 
 namespace lumenkit::lumenform {
 
@@ -17,6 +16,7 @@ ChangedBar::ChangedBar(QWidget* parent) : QFrame(parent), text_(new QLabel) {
         button->setToolTip(help);
         connect(button, &QAbstractButton::clicked, this, wanted);
         row->addWidget(button);
+        choices_.append(button);
     };
     add(tr("Reload"), tr("Take the file as it is now; Undo brings your version back"),
         &ChangedBar::ReloadWanted);
@@ -28,7 +28,18 @@ ChangedBar::ChangedBar(QWidget* parent) : QFrame(parent), text_(new QLabel) {
 }
 
 void ChangedBar::Show(const QString& name) {
-    text_->setText(tr("Another program has changed %1.").arg(name));
+    Say(tr("Another program has changed %1.").arg(name), true);
+}
+
+void ChangedBar::ShowGone(const QString& name) {
+    Say(tr("%1 no longer exists. Save writes it again.").arg(name), false);
+}
+
+void ChangedBar::Say(const QString& text, bool hasChoices) {
+    text_->setText(text);
+    for (QPushButton* const choice : choices_) {
+        choice->setVisible(hasChoices);
+    }
     show();
 }
 

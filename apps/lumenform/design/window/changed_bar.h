@@ -2,6 +2,8 @@
 
 #include <QFrame>
 #include <QLabel>
+#include <QList>
+#include <QPushButton>
 
 namespace lumenkit::lumenform {
 
@@ -14,6 +16,8 @@ class ChangedBar final : public QFrame {
 
     /// Shows the line for a file of this name.
     void Show(const QString& name);
+    /// Shows the line, without choices, for a file that no longer exists.
+    void ShowGone(const QString& name);
 
  Q_SIGNALS:
     void ReloadWanted();
@@ -21,7 +25,10 @@ class ChangedBar final : public QFrame {
     void DifferenceWanted();
 
  private:
+    void Say(const QString& text, bool hasChoices);
+
     QLabel* text_;
+    QList<QPushButton*> choices_;
 };
 
 }  // namespace lumenkit::lumenform

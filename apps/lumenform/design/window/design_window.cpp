@@ -1,8 +1,10 @@
 #include "apps/lumenform/design/window/design_window.h"
 
 #include <QCloseEvent>
+#include <QDir>
 #include <QDragEnterEvent>
 #include <QFileInfo>
+#include <QHash>
 #include <QLocale>
 #include <QMenuBar>
 #include <QMimeData>
@@ -41,15 +43,6 @@ QStringList DroppedFiles(const QMimeData& data) {
         }
     }
     return files;
-}
-
-// Whether both paths lead to one file.
-bool IsSameFile(const QString& one, const QString& other) {
-    const QFileInfo first(one);
-    const QFileInfo second(other);
-    return first.exists() && second.exists()
-               ? first.canonicalFilePath() == second.canonicalFilePath()
-               : first.absoluteFilePath() == second.absoluteFilePath();
 }
 
 }  // namespace
@@ -256,7 +249,7 @@ void DesignWindow::Load(const QString& path) {
         tabs_->setCurrentWidget(tab);
         return;
     }
-    Add(forms::Load(PathOf(path), setup_.codePage), FormFile(path));
+    Add(forms::Load(PathOf(path), setup_.codePage), FormFile(QFileInfo(path).absoluteFilePath()));
     Remember(path);
     Tell(OpenedMessage(Bench()->GetDesign().Document(), Current()->Name()));
 }
@@ -296,19 +289,32 @@ void DesignWindow::OfferAbandonedWork() {
     }
 }
 
-// Opens the file of the form with the unsaved work as a change to it. Without that file, the form
-// is a new one.
+// Opens the file of the form with the unsaved work as a change to it. Returns false if it cannot be
+// read.
+bool DesignWindow::OpenOnItsFile(const RecoveredWork& work, const forms::FormBytes& bytes) {
+    try {
+        Load(work.path);
+        Bench()->GetDesign().Take(tr("Recovered changes"), bytes, work.codePage);
+    } catch (const forms::FormError&) {
+        return false;
+    }
+    if (QFileInfo(work.path).lastModified() > work.time) {
+        Current()->DoubtFile();
+    }
+    return true;
+}
+
+// Without its file, a form keeps the path, and saving writes the file again. A second version of an
+// open form becomes a new one.
 void DesignWindow::OpenAgain(const RecoveredWork& work) {
     try {
         const forms::FormBytes bytes = work.Bytes();
-        try {
-            Load(work.path);
-            Bench()->GetDesign().Take(tr("Recovered changes"), bytes);
-        } catch (const forms::FormError&) {
+        const bool isFree = !work.path.isEmpty() && TabOf(work.path) == nullptr;
+        if (!isFree || !OpenOnItsFile(work, bytes)) {
             const auto companion = [&](const std::string&) { return bytes.companion; };
             Add(forms::Document::Parse(work.name.toStdString(), bytes.form, companion,
                                        work.codePage),
-                FormFile());
+                isFree ? FormFile(work.path) : FormFile());
             Bench()->GetDesign().History().resetClean();
         }
         Current()->KeepCopy();
@@ -440,18 +446,28 @@ void DesignWindow::Command(Workbench* bench) {
 }
 
 void DesignWindow::ShowTitles() {
+    QHash<QString, int> names;
+    for (int index = 0; index < tabs_->count(); ++index) {
+        ++names[TabAt(index)->Name()];
+    }
+    const auto titleOf = [&](const FormTab& form) {
+        return names.value(form.Name()) > 1 && form.File().HasPath()
+                   ? tr("%1 (%2)").arg(form.Name(), QFileInfo(form.File().Path()).dir().dirName())
+                   : form.Name();
+    };
     for (int index = 0; index < tabs_->count(); ++index) {
         const FormTab& tab = *TabAt(index);
-        QString title = tab.Name();
+        QString title = titleOf(tab);
         title.replace(u'&', QStringLiteral("&&"));
         tabs_->setTabText(index, tab.IsChanged() ? title + u'*' : title);
         tabs_->setTabToolTip(index, tab.File().Path());
     }
     const FormTab* const tab = Current();
-    setWindowTitle(tab == nullptr              ? tr("lumenform")
-                   : tab->Running() != nullptr ? tr("%1[*] (running) – lumenform").arg(tab->Name())
-                   : tab->ShowsCode()          ? tr("%1[*] (code) – lumenform").arg(tab->Name())
-                                               : tr("%1[*] – lumenform").arg(tab->Name()));
+    setWindowTitle(tab == nullptr ? tr("lumenform")
+                   : tab->Running() != nullptr
+                       ? tr("%1[*] (running) – lumenform").arg(titleOf(*tab))
+                   : tab->ShowsCode() ? tr("%1[*] (code) – lumenform").arg(tab->Name())
+                                      : tr("%1[*] – lumenform").arg(titleOf(*tab)));
     setWindowModified(tab != nullptr && tab->IsChanged());
 }
 

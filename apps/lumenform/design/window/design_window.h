@@ -84,6 +84,7 @@ class DesignWindow final : public QMainWindow {
     FormTab* TabAt(int index) const;
     FormTab* TabOf(const QString& path) const;
     void Add(forms::Document document, const FormFile& file);
+    bool OpenOnItsFile(const RecoveredWork& work, const forms::FormBytes& bytes);
     void OpenAgain(const RecoveredWork& work);
     void Replace(FormTab& tab, forms::Document document);
     FormTab* NewTab(forms::Document document, const FormFile& file);

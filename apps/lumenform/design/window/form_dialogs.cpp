@@ -15,12 +15,18 @@ QString Translated(const char* text) {
     return QCoreApplication::translate("form_dialogs", text);
 }
 
+QStringList Extensions() {
+    return {QStringLiteral("frm"), QStringLiteral("ctl"), QStringLiteral("pag"),
+            QStringLiteral("dob")};
+}
+
 bool AskWhetherToReplace(QWidget& window, const QString& path) {
     QMessageBox box(QMessageBox::Warning, Translated("Replace the file?"),
                     Translated("%1 is there already.").arg(path), QMessageBox::Cancel, &window);
     box.setInformativeText(Translated("Saving replaces it."));
     const QPushButton* const replace =
         box.addButton(Translated("&Replace"), QMessageBox::AcceptRole);
+    box.setDefaultButton(QMessageBox::Cancel);
     box.exec();
     return box.clickedButton() == replace;
 }
@@ -39,16 +45,16 @@ QString AskForPlaceToSave(QWidget& window, const QString& proposed) {
                            Translated("Property pages (*.pag *.PAG)"),
                            Translated("Documents (*.dob *.DOB)")};
     QString extension = QFileInfo(proposed).suffix();
-    const qsizetype own = std::max<qsizetype>(
-        QStringLiteral("frm ctl pag dob").split(u' ').indexOf(extension.toLower()), 0);
+    const qsizetype own = std::max<qsizetype>(Extensions().indexOf(extension.toLower()), 0);
     filters.move(own, 0);
     filters.append(Translated("All files (*)"));
     QString path = QFileDialog::getSaveFileName(&window, Translated("Save the form"), proposed,
                                                 filters.join(QStringLiteral(";;")));
-    if (!path.isEmpty() && QFileInfo(path).suffix().isEmpty()) {
+    // Forms whose names have no other extension would share a companion.
+    if (!path.isEmpty() && !Extensions().contains(QFileInfo(path).suffix().toLower())) {
         extension = extension.isEmpty() ? QStringLiteral("frm") : extension;
         path += u'.' + extension;
-        // The dialog asked about the name without the extension.
+        // The dialog asked about the name without this extension.
         if (QFileInfo::exists(path) && !AskWhetherToReplace(window, path)) {
             path.clear();
         }

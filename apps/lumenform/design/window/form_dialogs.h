@@ -9,7 +9,8 @@ namespace lumenkit::lumenform {
 
 /// Both return nothing if the user cancels.
 QStringList AskForFormsToOpen(QWidget& window, const QString& folder);
-/// Adds the extension of `proposed` unless the user has typed another one.
+/// Adds the extension of `proposed` unless the user has typed that of a form, control, page or
+/// document.
 QString AskForPlaceToSave(QWidget& window, const QString& proposed);
 
 enum class SaveAnswer { Save, Discard, Cancel };

@@ -1,11 +1,24 @@
 #include "apps/lumenform/design/window/form_file.h"
 
+#include <QFileInfo>
 #include <string>
 
 namespace lumenkit::lumenform {
 
 std::filesystem::path PathOf(const QString& name) {
     return {name.toStdU16String()};
+}
+
+bool IsSameFile(const QString& one, const QString& other) {
+    const QFileInfo first(one);
+    const QFileInfo second(other);
+    return first.exists() && second.exists()
+               ? first.canonicalFilePath() == second.canonicalFilePath()
+               : first.absoluteFilePath() == second.absoluteFilePath();
+}
+
+bool FormFile::IsGone() const {
+    return HasPath() && !QFileInfo::exists(path_);
 }
 
 bool FormFile::WasChangedByOthers(const FormDesign& design) const {

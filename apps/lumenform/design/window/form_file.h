@@ -19,6 +19,8 @@ class FormFile {
 
     bool HasPath() const { return !path_.isEmpty(); }
     const QString& Path() const { return path_; }
+    /// Whether the form has a file that does not exist.
+    bool IsGone() const;
     /// Whether the file or its companion differs from the state that the design last read or wrote.
     /// False if it no longer exists.
     bool WasChangedByOthers(const FormDesign& design) const;
@@ -37,5 +39,8 @@ class FormFile {
 };
 
 std::filesystem::path PathOf(const QString& name);
+
+/// Whether both paths lead to one file.
+bool IsSameFile(const QString& one, const QString& other);
 
 }  // namespace lumenkit::lumenform

@@ -12,6 +12,18 @@
 
 namespace lumenkit::lumenform {
 
+namespace {
+
+QString ExtensionFor(TextView className) {
+    const auto is = [&](TextView name) { return SameText(className, name, Compare::IgnoreCase); };
+    return is(u"VB.UserControl")    ? QStringLiteral(".ctl")
+           : is(u"VB.PropertyPage") ? QStringLiteral(".pag")
+           : is(u"VB.UserDocument") ? QStringLiteral(".dob")
+                                    : QStringLiteral(".frm");
+}
+
+}  // namespace
+
 FormTab::FormTab(const Setup& setup, forms::Document document, FormFile file, QWidget* parent)
     : QWidget(parent),
       setup_(setup),
@@ -61,9 +73,9 @@ FormTab::~FormTab() {
 }
 
 QString FormTab::Name() const {
+    const forms::Block& form = bench_->GetDesign().Document().Root();
     return file_.HasPath() ? QFileInfo(file_.Path()).fileName()
-                           : qt::ToQString(bench_->GetDesign().Document().Root().Name()) +
-                                 QStringLiteral(".frm");
+                           : qt::ToQString(form.Name()) + ExtensionFor(form.ClassName());
 }
 
 bool FormTab::IsChanged() const {
@@ -97,7 +109,7 @@ bool FormTab::Save() {
     if (!file_.HasPath()) {
         return SaveAs();
     }
-    if (!file_.WasChangedByOthers(bench_->GetDesign())) {
+    if (!IsFileInDoubt()) {
         return SaveTo(file_.Path());
     }
     for (;;) {
@@ -123,7 +135,7 @@ bool FormTab::SaveAs() {
     }
     const QString proposed = file_.HasPath() ? file_.Path() : Name();
     const QString path = AskForPlaceToSave(*this, proposed);
-    if (path == file_.Path() && !path.isEmpty()) {
+    if (!path.isEmpty() && file_.HasPath() && IsSameFile(path, file_.Path())) {
         return Save();  // asks again if another program has changed the file
     }
     // The dialog has asked about a file that is there already.
@@ -141,6 +153,7 @@ bool FormTab::SaveTo(const QString& path, forms::Replacing replacing) {
     } catch (const forms::FormError& error) {
         return OffersSaveAs(*this, QString::fromUtf8(error.what())) && SaveAs();
     }
+    isOlderThanFile_ = false;
     bar_->hide();
     Q_EMIT Saved(path);
     Q_EMIT StateChanged();
@@ -152,6 +165,7 @@ bool FormTab::MayLeave() {
     if (!bench_->FinishEditing()) {
         return false;
     }
+    LookAtDisk();
     if (!IsChanged()) {
         return true;
     }
@@ -173,6 +187,7 @@ void FormTab::Run(bool on) {
     if (!on && run_ != nullptr) {
         run_.reset();
         pages_->setCurrentWidget(bench_.get());
+        LookAtDisk();
         TakeFocus();
     }
     Q_EMIT StateChanged();
@@ -183,6 +198,7 @@ void FormTab::BeginRun() {
         run_ = std::make_unique<RunPage>(setup_.context, bench_->GetDesign().Document());
     });
     if (run_ != nullptr) {
+        bar_->hide();
         connect(
             run_.get(), &RunPage::BackWanted, this, [this] { Run(false); }, Qt::QueuedConnection);
         pages_->addWidget(run_.get());
@@ -218,8 +234,21 @@ void FormTab::FollowLostNames() {
                                            : MentionMessage(lost_->Outline(), lost_->Names()));
 }
 
+bool FormTab::IsFileInDoubt() const {
+    return isOlderThanFile_ || file_.WasChangedByOthers(bench_->GetDesign());
+}
+
+void FormTab::DoubtFile() {
+    isOlderThanFile_ = true;
+    LookAtDisk();
+}
+
+// Without its file, the form is unsaved work.
 void FormTab::LookAtDisk() {
-    if (file_.WasChangedByOthers(bench_->GetDesign())) {
+    if (file_.IsGone()) {
+        bench_->GetDesign().History().resetClean();
+        bar_->ShowGone(Name());
+    } else if (run_ == nullptr && IsFileInDoubt()) {
         bar_->Show(Name());
     } else {
         bar_->hide();
@@ -234,7 +263,9 @@ void FormTab::Reload() {
         Warn(*this, tr("%1 cannot be opened.").arg(Name()), QString::fromUtf8(error.what()));
         return;
     }
+    isOlderThanFile_ = false;
     bar_->hide();
+    TakeFocus();
     Q_EMIT Told(tr("Read again. Undo brings your version back."));
 }
 
@@ -242,7 +273,9 @@ void FormTab::KeepMine() {
     FormDesign& design = bench_->GetDesign();
     file_.AcceptChangesByOthers(design);
     design.History().resetClean();  // the file is not this version
+    isOlderThanFile_ = false;
     bar_->hide();
+    TakeFocus();
 }
 
 void FormTab::Compare() {

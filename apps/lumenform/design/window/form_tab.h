@@ -75,6 +75,8 @@ class FormTab final : public QWidget {
     void KeepCopy();
     /// Asks what to do if another program has changed the file: shows a line above the form.
     void LookAtDisk();
+    /// Asks what to do about a file that is newer than this version of the form.
+    void DoubtFile();
     ChangedBar& Bar() const { return *bar_; }
 
  Q_SIGNALS:
@@ -89,6 +91,7 @@ class FormTab final : public QWidget {
  private:
     void Reload();
     void KeepMine();
+    bool IsFileInDoubt() const;
     void Compare();
     void FollowChanges();
     void BeginRun();
@@ -106,6 +109,7 @@ class FormTab final : public QWidget {
     std::unique_ptr<LostNames> lost_;
     CodePage* code_;
     std::unique_ptr<RunPage> run_;
+    bool isOlderThanFile_ = false;
 };
 
 }  // namespace lumenkit::lumenform

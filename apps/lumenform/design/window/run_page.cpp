@@ -42,7 +42,7 @@ QWidget* RunPage::MakeBanner() const {
     auto* const banner = new QWidget;
     auto* const row = new QHBoxLayout(banner);
     row->addWidget(new QLabel(tr("The form is running. Changes made here are not saved.")), 1);
-    auto* const back = new QPushButton(tr("Back to the &design"));
+    auto* const back = new QPushButton(tr("Back to the design (F5)"));
     back->setFocusPolicy(Qt::TabFocus);
     connect(back, &QAbstractButton::clicked, this, &RunPage::BackWanted);
     row->addWidget(back);
