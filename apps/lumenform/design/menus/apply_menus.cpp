@@ -60,10 +60,11 @@ class MenuPlacing {
     void PutInOrder(forms::Block& parent, const std::vector<std::size_t>& entries) {
         std::unordered_set<const forms::Block*> placed;
         const forms::Block* next = nullptr;
-        for (auto at = entries.rbegin(); at != entries.rend(); ++at) {
-            forms::Block*& block = blocks_[*at];
+        for (std::size_t i = entries.size(); i-- > 0;) {
+            const std::size_t at = entries[i];
+            forms::Block*& block = blocks_[at];
             if (block == nullptr) {
-                block = &parent.AddControl(u"VB.Menu", menus_[*at].name, next);
+                block = &parent.AddControl(u"VB.Menu", menus_[at].name, next);
             } else if (parents_.at(block) != &parent || Follower(parent, *block, placed) != next) {
                 parent.TakeControl(*parents_.at(block), *block, next);
             }
@@ -86,11 +87,11 @@ class MenuPlacing {
     // Entries go before the menu that contains them.
     void RemoveOthers() {
         const std::unordered_set<const forms::Block*> kept(blocks_.begin(), blocks_.end());
-        for (auto block = present_.rbegin(); block != present_.rend(); ++block) {
-            if (!kept.contains(*block)) {
-                parents_.at(*block)->RemoveControl(**block);
+        std::for_each(present_.rbegin(), present_.rend(), [&](forms::Block* block) {
+            if (!kept.contains(block)) {
+                parents_.at(block)->RemoveControl(*block);
             }
-        }
+        });
     }
 
     const MenuEntries& menus_;

@@ -249,7 +249,7 @@ QModelIndex Outline::RowOf(const OutlineNode& node) const {
 }
 
 const OutlineNode* Outline::NodeAt(const QModelIndex& row) const {
-    return model_.NodeOf(filter_->mapToSource(row));
+    return OutlineModel::NodeOf(filter_->mapToSource(row));
 }
 
 // Does not ask for selectedRows(): while a row is deselected with Ctrl, that leaves out selected
@@ -386,7 +386,7 @@ OutlinePlace Outline::PlaceAt(const QModelIndex& row, DropSide side) const {
 
 // The change replaces all rows, so it waits until the editor is closed.
 void Outline::Rename(const QModelIndex& index, const QString& name) {
-    const Text former = forms::NameInCode(*model_.NodeOf(index)->block);
+    const Text former = forms::NameInCode(*OutlineModel::NodeOf(index)->block);
     QTimer::singleShot(0, this, [this, former, name] {
         if (model_.Form() == nullptr) {
             return;  // hidden meanwhile

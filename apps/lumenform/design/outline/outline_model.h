@@ -88,7 +88,7 @@ class OutlineModel final : public QAbstractItemModel {
 
  private:
     void AddControls(OutlineNode& parent);
-    void AddPages(OutlineNode& box);
+    static void AddPages(OutlineNode& box);
     static OutlineNode& Add(OutlineNode& parent, OutlineNode node);
     QVariant NameData(const OutlineNode& node, int role) const;
     QVariant ClassData(const OutlineNode& node, int role) const;

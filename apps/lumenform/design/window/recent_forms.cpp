@@ -1,6 +1,7 @@
 #include "apps/lumenform/design/window/recent_forms.h"
 
 #include <QContextMenuEvent>
+#include <QDir>
 #include <QFileInfo>
 #include <QKeyEvent>
 #include <QMenu>
