@@ -189,6 +189,18 @@ TEST_F(FormTabs, AnUndoLeadsBackAcrossAReloadInAnotherEncoding) {
     EXPECT_EQ(Text(), before);
 }
 
+TEST_F(FormTabs, AReloadReadsTheFileInItsOwnEncoding) {
+    window.Load(Copy("umlauts"));
+    Design().WriteIn(65001);
+    ChangeOutside(QStringLiteral("umlauts.frm"));
+    window.Current()->LookAtDisk();
+    Press(QStringLiteral("Reload"));
+    EXPECT_EQ(Design().Document().FormCodePage(), 1252);
+    EXPECT_EQ(Text(), FileBytes(File(QStringLiteral("umlauts.frm"))));
+    window.Commands().UndoAction().trigger();
+    EXPECT_EQ(Design().Document().FormCodePage(), 65001);
+}
+
 TEST_F(FormTabs, ReloadTakesTheFileAndUndoBringsTheFormBack) {
     window.Load(Copy("label"));
     Select(u"VLabel1");

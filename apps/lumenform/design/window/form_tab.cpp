@@ -258,7 +258,8 @@ void FormTab::LookAtDisk() {
 void FormTab::Reload() {
     FormDesign& design = bench_->GetDesign();
     try {
-        design.Reload(forms::Load(PathOf(file_.Path()), design.Document().FormCodePage()));
+        // A file in UTF-8 is recognised; another one may not be what this version is written in.
+        design.Reload(forms::Load(PathOf(file_.Path()), design.Document().CompanionCodePage()));
     } catch (const forms::FormError& error) {
         Warn(*this, tr("%1 cannot be opened.").arg(Name()), QString::fromUtf8(error.what()));
         return;
