@@ -235,6 +235,15 @@ TEST_F(FormTabs, KeepMineLetsTheNextSaveReplaceTheFile) {
     EXPECT_EQ(FileBytes(File(QStringLiteral("memo.frx"))), FileBytes(sampleForms / "memo.frx"));
 }
 
+TEST_F(FormTabs, TheDifferenceIsThatOfTheTextsAndNamesTheCodePages) {
+    const QString path = Copy("umlauts");
+    window.Load(path);
+    Design().WriteIn(65001);
+    EXPECT_EQ(lumenform::DifferenceOnDisk(Design().Document(), path).toStdString(),
+              "The file is written in Western European, code page 1252, and your version in "
+              "Unicode (UTF-8), code page 65001.\n");
+}
+
 TEST_F(FormTabs, TheDifferenceShowsBothVersions) {
     const QString path = Copy("label");
     window.Load(path);

@@ -133,7 +133,10 @@ TEST(Outline, TheSearchShowsWhatHasTheTextInItsNameOrClass) {
     QTest::keyClick(&search, Qt::Key_Return);
     EXPECT_THAT(form.SelectedRows(), ElementsAre("mnuQuit"));
     EXPECT_TRUE(form.outline->Tree().hasFocus());
+    form.Key(Qt::Key_Escape);
+    EXPECT_EQ(form.Rows().size(), 8U) << "also in the rows";
     search.setFocus();
+    QTest::keyClicks(&search, QStringLiteral("quit"));
     QTest::keyClick(&search, Qt::Key_Escape);
     EXPECT_EQ(form.Rows().size(), 8U);
 }

@@ -86,6 +86,7 @@ void Outline::LayOut() {
     search_->setAccessibleName(tr("Search the outline"));
     search_->setClearButtonEnabled(true);
     search_->installEventFilter(this);
+    tree_->installEventFilter(this);
     tree_->setAccessibleName(tr("Outline"));
     const int letter = fontMetrics().averageCharWidth();
     QHeaderView& header = *tree_->header();
@@ -217,15 +218,18 @@ void Outline::SearchFor(const QString& text) {
     ShowSelection();
 }
 
-// In the search field, Down and Enter go to the rows, and Esc clears the search.
+// In the search field, Down and Enter go to the rows. There and in the rows, Esc clears the search.
 bool Outline::eventFilter(QObject* watched, QEvent* event) {
-    if (watched != search_ || event->type() != QEvent::KeyPress) {
+    if (event->type() != QEvent::KeyPress) {
         return QWidget::eventFilter(watched, event);
     }
     const int key = static_cast<const QKeyEvent*>(event)->key();
     if (key == Qt::Key_Escape && !search_->text().isEmpty()) {
         search_->clear();
         return true;
+    }
+    if (watched != search_) {
+        return false;
     }
     if (key != Qt::Key_Down && key != Qt::Key_Return && key != Qt::Key_Enter) {
         return false;

@@ -14,8 +14,8 @@
 #include "apps/lumenform/design/window/form_file.h"
 #include "forms/encoding.h"
 #include "forms/file.h"
+#include "forms/known_code_pages.h"
 #include "frame/utf8.h"
-#include "runtime/qt/qt_text.h"
 
 namespace lumenkit::lumenform {
 
@@ -38,25 +38,34 @@ class SideColors final : public QSyntaxHighlighter {
     }
 };
 
-QString TextOf(const std::string& bytes, const forms::Document& document) {
-    try {
-        const auto encoding = forms::Encoding::Of(bytes, document.FormCodePage());
-        return qt::ToQString(encoding.Decode(bytes));
-    } catch (const MalformedUtf8&) {
-        return QString::fromLatin1(bytes.data(), static_cast<qsizetype>(bytes.size()));
-    }
+// Returns the text of the form in UTF-8.
+std::string TextOf(const forms::FormBytes& bytes, const forms::Document& document) {
+    return ToUtf8(document.TextEncoding().Decode(bytes.form));
+}
+
+// Returns the changed lines with those around them, without the names of the files.
+QString LinesOf(const std::string& difference) {
+    QString lines = QString::fromStdString(difference);
+    lines.remove(u'\r');
+    return lines.mid(lines.indexOf(QStringLiteral("@@")));
+}
+
+QString PageOf(const forms::Document& document) {
+    return QString::fromStdString(forms::NameOfCodePage(document.FormCodePage()));
 }
 
 }  // namespace
 
 QString DifferenceOnDisk(const forms::Document& document, const QString& path) {
-    const forms::Document stored = forms::Load(PathOf(path), document.FormCodePage());
+    const forms::Document stored = forms::Load(PathOf(path), document.CompanionCodePage());
     const forms::FormBytes theirs = stored.Write();
     const forms::FormBytes mine = document.Write();
-    QString text = TextOf(
-        difference::UnifiedDiff(QFileInfo(path).fileName().toStdString(), theirs.form, mine.form),
-        document);
-    text.remove(u'\r');
+    QString text = LinesOf(difference::UnifiedDiff(QFileInfo(path).fileName().toStdString(),
+                                                   TextOf(theirs, stored), TextOf(mine, document)));
+    if (stored.FormCodePage() != document.FormCodePage()) {
+        text += QObject::tr("The file is written in %1, and your version in %2.\n")
+                    .arg(PageOf(stored), PageOf(document));
+    }
     if (theirs.companion != mine.companion) {
         text += QObject::tr("The companion %1 differs, too.\n")
                     .arg(QString::fromStdString(document.CompanionName()));

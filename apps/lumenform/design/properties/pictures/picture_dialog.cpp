@@ -76,6 +76,7 @@ void PictureDialog::LayOut() {
     layout->addWidget(description_);
     layout->addWidget(notice_);
     layout->addWidget(buttons);
+    layout->setSizeConstraint(QLayout::SetMinimumSize);  // grows for a long notice
 }
 
 void PictureDialog::Show() {
