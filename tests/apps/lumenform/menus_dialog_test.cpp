@@ -8,7 +8,7 @@
 #include <QSpinBox>
 #include <QTest>
 #include <QTreeWidgetItemIterator>
-#include <functional>
+#include <fstream>
 #include <memory>
 #include <random>
 #include <stdexcept>
@@ -32,6 +32,7 @@ using lumenform::MenuEntry;
 using ::testing::ElementsAre;
 using ::testing::HasSubstr;
 using ::testing::IsEmpty;
+using ::testing::Not;
 
 // Spaces, comments and properties of which the designer knows nothing are here on purpose.
 const std::string menusForm =
@@ -286,7 +287,7 @@ TEST_F(MenusDialog, AnUnusualShortcutIsKept) {
 
 TEST_F(MenusDialog, MenusAreInsertedAndSeparated) {
     GoTo("mnuQuit");
-    Press("Insert before");
+    TreeKey(Qt::Key_Insert);
     EXPECT_EQ(QApplication::focusWidget(), &Field<QLineEdit>("Caption"));
     QTest::keyClicks(QApplication::focusWidget(), "&Print");
     Press("Add separator");
@@ -662,6 +663,25 @@ TEST_F(MenusInTheWindow, ADoubleClickOnATitleOpensTheDialogAtItsMenu) {
     ASSERT_NE(Dialog(), nullptr);
     EXPECT_EQ(Dialog()->Tree().currentItem()->text(lumenform::MenuTree::Name),
               QStringLiteral("mnuHelp"));
+}
+
+TEST_F(MenusInTheWindow, DelDeletesTheMenuThatWasClicked) {
+    const std::string before = Text();
+    QTest::mouseClick(&Glass(), Qt::LeftButton, {}, TitleOf(0));
+    QTest::keyClick(&Glass(), Qt::Key_Delete);
+    EXPECT_EQ(lumenform::MenuBlocks(Design().Document().Root()).size(), 4U);
+    EXPECT_THAT(Text(), Not(HasSubstr("mnuFile ")));
+    Design().History().undo();
+    EXPECT_EQ(Text(), before);
+    EXPECT_EQ(Design().SelectedNames(), std::vector<lumenkit::Text>{u"mnuFile"});
+}
+
+TEST_F(MenusInTheWindow, APropertyPageHasNoMenus) {
+    std::ofstream(File(QStringLiteral("page.pag")))
+        << "VERSION 5.00\nBegin VB.PropertyPage Page1\n   ClientHeight = 2000\n"
+           "   ClientWidth = 3000\nEnd\n";
+    window.Load(Path(QStringLiteral("page.pag")));
+    EXPECT_FALSE(Command(QStringLiteral("Menus…")).isEnabled());
 }
 
 TEST_F(MenusInTheWindow, TheFormIsNotResizedWhileAMenuIsSelected) {

@@ -78,6 +78,7 @@ LiveControl* FormMap::ControlAt(QPoint at, const std::vector<LiveControl*>& with
         return nullptr;
     }
     std::vector<const QWidget*> widgets;
+    widgets.reserve(without.size());
     for (const LiveControl* const control : without) {
         widgets.push_back(&control->Widget());
     }

@@ -17,6 +17,12 @@ namespace {
 
 // ---- Places
 
+template <typename T>
+std::vector<T> Backwards(std::vector<T> items) {
+    std::ranges::reverse(items);
+    return items;
+}
+
 // Moves, adds and removes the blocks of menus. Blocks that are in order stay where they are.
 class MenuPlacing {
  public:
@@ -60,10 +66,10 @@ class MenuPlacing {
     void PutInOrder(forms::Block& parent, const std::vector<std::size_t>& entries) {
         std::unordered_set<const forms::Block*> placed;
         const forms::Block* next = nullptr;
-        for (auto at = entries.rbegin(); at != entries.rend(); ++at) {
-            forms::Block*& block = blocks_[*at];
+        for (const std::size_t at : Backwards(entries)) {
+            forms::Block*& block = blocks_[at];
             if (block == nullptr) {
-                block = &parent.AddControl(u"VB.Menu", menus_[*at].name, next);
+                block = &parent.AddControl(u"VB.Menu", menus_[at].name, next);
             } else if (parents_.at(block) != &parent || Follower(parent, *block, placed) != next) {
                 parent.TakeControl(*parents_.at(block), *block, next);
             }
@@ -86,9 +92,9 @@ class MenuPlacing {
     // Entries go before the menu that contains them.
     void RemoveOthers() {
         const std::unordered_set<const forms::Block*> kept(blocks_.begin(), blocks_.end());
-        for (auto block = present_.rbegin(); block != present_.rend(); ++block) {
-            if (!kept.contains(*block)) {
-                parents_.at(*block)->RemoveControl(**block);
+        for (const forms::Block* const block : Backwards(present_)) {
+            if (!kept.contains(block)) {
+                parents_.at(block)->RemoveControl(*block);
             }
         }
     }

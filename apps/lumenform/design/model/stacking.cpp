@@ -28,6 +28,17 @@ std::vector<Stacked> SelectedBlocks(const FormDesign& design) {
     return blocks;
 }
 
+// Adds the selected menus inside `parent`, without those inside another one of them.
+void AddSelectedMenus(const FormDesign& design, forms::Block& parent, std::vector<Stacked>& found) {
+    for (forms::Block* const block : parent.Controls()) {
+        if (std::ranges::find(design.SelectedMenus(), block) != design.SelectedMenus().end()) {
+            found.push_back({parent, *block});
+        } else if (IsMenu(*block)) {
+            AddSelectedMenus(design, *block, found);
+        }
+    }
+}
+
 }  // namespace
 
 const forms::Block* Foremost(const forms::Block& container) {
@@ -71,11 +82,13 @@ void SendToBack(FormDesign& design) {
 }
 
 void DeleteSelected(FormDesign& design) {
-    if (design.Selected().empty()) {
+    if (design.IsFormSelected()) {
         return;
     }
     design.Restructure(QCoreApplication::translate("stacking", "Delete"), [&] {
-        for (const Stacked& stacked : SelectedBlocks(design)) {
+        std::vector<Stacked> blocks = SelectedBlocks(design);
+        AddSelectedMenus(design, design.Document().Root(), blocks);
+        for (const Stacked& stacked : blocks) {
             stacked.parent.RemoveControl(stacked.block);
         }
         return std::vector<Text>();

@@ -17,6 +17,7 @@ const forms::Block* BehindAll(const forms::Block& container);
 /// following changes is one step of the history.
 void BringToFront(FormDesign& design);
 void SendToBack(FormDesign& design);
+/// Deletes the selected controls or menus.
 void DeleteSelected(FormDesign& design);
 
 }  // namespace lumenkit::lumenform

@@ -38,6 +38,11 @@ void Duplicate(Workbench& bench) {
     glass.ShowSelected();
 }
 
+// Property pages have no menu bar.
+bool CanHaveMenus(const FormDesign& design) {
+    return !SameText(design.Document().Root().ClassName(), u"VB.PropertyPage", Compare::IgnoreCase);
+}
+
 void Reveal(Workbench& bench) {
     BringIntoView(bench.GetDesign());
     bench.GetCanvas().GetGlass().ShowSelected();
@@ -83,7 +88,7 @@ void FormCommands::FillEdit() {
     caption_->setToolTip(tr("Edit the caption with its markup and a live preview"));
     Add(*edit_, tr("P&roperties"), Qt::Key_F4, Needs::Form,
         [](Workbench& bench) { bench.Properties().Table().setFocus(); });
-    QAction* const menus = Add(*edit_, tr("&Menus…"), Qt::CTRL | Qt::Key_E, Needs::Form,
+    QAction* const menus = Add(*edit_, tr("&Menus…"), Qt::CTRL | Qt::Key_E, Needs::Menus,
                                [](Workbench& bench) { bench.EditMenus(); });
     menus->setToolTip(tr("Add, edit and rearrange the menus of the form"));
     tabOrder_ = Add(*edit_, tr("Ta&b order"), Qt::CTRL | Qt::Key_T, Needs::Form,
@@ -109,7 +114,7 @@ void FormCommands::AddClipboardCommands() {
     Add(*edit_, tr("&Copy"), QKeySequence::Copy, Needs::Selection, Copy);
     Add(*edit_, tr("&Paste"), QKeySequence::Paste, Needs::Clipboard, PasteHere);
     Add(*edit_, tr("D&uplicate"), Qt::CTRL | Qt::Key_D, Needs::Selection, Duplicate);
-    Add(*edit_, tr("&Delete"), QKeySequence::Delete, Needs::Selection,
+    Add(*edit_, tr("&Delete"), QKeySequence::Delete, Needs::Object,
         [](Workbench& bench) { DeleteSelected(bench.GetDesign()); });
     Add(*edit_, tr("Select &all"), QKeySequence::SelectAll, Needs::Form,
         [](Workbench& bench) { SelectAll(bench.GetDesign()); });
@@ -194,6 +199,10 @@ bool FormCommands::IsThere(Needs needs) const {
     switch (needs) {
         case Needs::Form:
             return true;
+        case Needs::Menus:
+            return CanHaveMenus(workbench_->GetDesign());
+        case Needs::Object:
+            return !workbench_->GetDesign().IsFormSelected();
         case Needs::Selection:
             return selected >= 1;
         case Needs::Two:

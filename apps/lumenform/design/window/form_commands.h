@@ -28,7 +28,7 @@ class FormCommands final : public QObject {
 
  private:
     /// The condition for a command to be enabled.
-    enum class Needs { Form, Selection, Two, Three, Page, Clipboard, OutOfView };
+    enum class Needs { Form, Menus, Object, Selection, Two, Three, Page, Clipboard, OutOfView };
     struct Command {
         QAction* action;
         Needs needs;
