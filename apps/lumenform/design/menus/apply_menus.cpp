@@ -17,6 +17,12 @@ namespace {
 
 // ---- Places
 
+template <typename T>
+std::vector<T> Backwards(std::vector<T> items) {
+    std::ranges::reverse(items);
+    return items;
+}
+
 // Moves, adds and removes the blocks of menus. Blocks that are in order stay where they are.
 class MenuPlacing {
  public:
@@ -60,8 +66,7 @@ class MenuPlacing {
     void PutInOrder(forms::Block& parent, const std::vector<std::size_t>& entries) {
         std::unordered_set<const forms::Block*> placed;
         const forms::Block* next = nullptr;
-        for (std::size_t i = entries.size(); i-- > 0;) {
-            const std::size_t at = entries[i];
+        for (const std::size_t at : Backwards(entries)) {
             forms::Block*& block = blocks_[at];
             if (block == nullptr) {
                 block = &parent.AddControl(u"VB.Menu", menus_[at].name, next);
@@ -87,11 +92,11 @@ class MenuPlacing {
     // Entries go before the menu that contains them.
     void RemoveOthers() {
         const std::unordered_set<const forms::Block*> kept(blocks_.begin(), blocks_.end());
-        std::for_each(present_.rbegin(), present_.rend(), [&](forms::Block* block) {
+        for (const forms::Block* const block : Backwards(present_)) {
             if (!kept.contains(block)) {
                 parents_.at(block)->RemoveControl(*block);
             }
-        });
+        }
     }
 
     const MenuEntries& menus_;
