@@ -57,14 +57,14 @@ TEST(CanvasDrag, AltHoldsTheGridOff) {
     DesignedForm canvas(threeControls);
     canvas.Drag(canvas.MiddleOf(u"A"), {30, 17}, Qt::AltModifier);
     EXPECT_EQ(canvas.PlaceOf(u"A"), (Placement{580, 495, 1215, 495}));
-    canvas.canvas->SetGrid({.step = 120, .isShown = true, .snaps = false});
+    canvas.canvas->SetGrid({.snaps = false, .guides = false});
     canvas.Drag(canvas.MiddleOf(u"A"), {1, 5});
     EXPECT_EQ(canvas.PlaceOf(u"A"), (Placement{595, 570, 1215, 495}));
 }
 
 TEST(CanvasDrag, TheGridHasAnyStep) {
     DesignedForm canvas(threeControls);
-    canvas.canvas->SetGrid({.step = 100});
+    canvas.canvas->SetGrid({.step = 100, .guides = false});
     canvas.Drag(canvas.MiddleOf(u"A"), {30, 17});
     EXPECT_EQ(canvas.PlaceOf(u"A"), (Placement{600, 500, 1215, 495}));
     canvas.canvas->SetGrid({.step = 0});

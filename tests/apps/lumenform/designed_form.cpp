@@ -46,6 +46,7 @@ DesignedForm::DesignedForm(forms::Document loaded)
     : design(surface.context, std::move(loaded)), canvas(new lumenform::Canvas(design)) {
     QObject::connect(canvas, &lumenform::Canvas::Refused,
                      [this](const QString& why) { refused.push_back(why); });
+    canvas->SetGrid({.guides = false});
     window.setCentralWidget(canvas);
     window.resize(700, 500);
     ShowActive(window);

@@ -20,7 +20,7 @@ namespace lumenkit::testing {
 
 /// A form on the canvas of an active window, and a user with mouse and keyboard. Points and
 /// distances are in pixels at 96 per inch, so that a pixel is 15 twips. Points count from the upper
-/// left corner of the form's client area.
+/// left corner of the form's client area. Dragged controls snap to the grid, but not to others.
 class DesignedForm {
  public:
     explicit DesignedForm(forms::Document loaded);
@@ -50,6 +50,9 @@ class DesignedForm {
     void Drag(QPoint from, QPoint by, Qt::KeyboardModifiers held = {});
     void Key(Qt::Key key, Qt::KeyboardModifiers held = {});
 
+    /// Returns a point in pixels of the glass.
+    QPoint OnGlass(QPoint onForm) const;
+
     Surface surface;
     lumenform::FormDesign design;
     QMainWindow window;
@@ -57,7 +60,6 @@ class DesignedForm {
     std::vector<QString> refused;
 
  private:
-    QPoint OnGlass(QPoint onForm) const;
     QPoint OnForm(const QWidget& widget, QPoint at) const;
 };
 

@@ -24,6 +24,7 @@ struct Ground {
 struct Pointer {
     QPoint at;
     bool snaps = true;            ///< the dragged edges stop at the lines of the grid
+    bool guides = true;           ///< they stop at the edges of other controls
     bool keepsContainer = false;  ///< the dragged controls stay in their container
 };
 

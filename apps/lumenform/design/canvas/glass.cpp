@@ -221,6 +221,7 @@ void Glass::Drag(QPoint at, Qt::KeyboardModifiers held) {
         draggedTo_ = at;
         gesture_->DragTo({.at = at,
                           .snaps = grid_.snaps && !held.testFlag(Qt::AltModifier),
+                          .guides = grid_.guides && !held.testFlag(Qt::AltModifier),
                           .keepsContainer = held.testFlag(Qt::ControlModifier)});
         update(former | Grown(gesture_->Band()) | gesture_->Painted());
         if (const auto place = gesture_->Place()) {

@@ -1,9 +1,12 @@
 #include "apps/lumenform/design/canvas/placing_gesture.h"
 
 #include <algorithm>
+#include <cmath>
+#include <utility>
 
 #include "apps/lumenform/design/model/area.h"
 #include "apps/lumenform/design/model/arrange.h"
+#include "apps/lumenform/design/model/containers.h"
 #include "apps/lumenform/design/model/rehome.h"
 #include "apps/lumenform/design/model/stacking.h"
 #include "runtime/qt/pixels.h"
@@ -19,6 +22,13 @@ float Distance(double edge, double dragged, const Grid& grid, bool snaps) {
     const auto at = static_cast<float>(edge);
     const auto by = static_cast<float>(dragged);
     return snaps && by != 0 ? grid.Nearest(at + by) - at : by;
+}
+
+// Returns the guide unless the place on the grid is nearer to the mouse.
+float NearerOf(float dragged, float onGrid, std::optional<float> guide, bool snaps) {
+    const bool isGuide = dragged != 0 && guide &&
+                         (!snaps || std::abs(*guide - dragged) <= std::abs(onGrid - dragged));
+    return isGuide ? *guide : onGrid;
 }
 
 // The title of a step that puts controls into a container. A null container is the form.
@@ -71,14 +81,52 @@ void PlacingGesture::DragTo(const Pointer& pointer) {
     }
     const QPoint dragged = pointer.at - pressedAt_;
     const host::Placement& from = grabbed_->former;
-    const float across = Distance((edges_.left ? from.left : from.left + from.width) + shift.x(),
-                                  dragged.x() * twips.x, ground_.grid, pointer.snaps);
-    const float down = Distance((edges_.top ? from.top : from.top + from.height) + shift.y(),
-                                dragged.y() * twips.y, ground_.grid, pointer.snaps);
+    float across = Distance((edges_.left ? from.left : from.left + from.width) + shift.x(),
+                            dragged.x() * twips.x, ground_.grid, pointer.snaps);
+    float down = Distance((edges_.top ? from.top : from.top + from.height) + shift.y(),
+                          dragged.y() * twips.y, ground_.grid, pointer.snaps);
+    FollowGuides(pointer);
+    if (guides_) {
+        const Guides::Dragged grabbed = Grabbed();
+        const auto right = static_cast<float>(dragged.x() * twips.x);
+        const auto below = static_cast<float>(dragged.y() * twips.y);
+        across = NearerOf(right, across, guides_->Across(grabbed, right), pointer.snaps);
+        down = NearerOf(below, down, guides_->Down(grabbed, below), pointer.snaps);
+    }
     for (Target& target : targets_) {
         target.place = Shifted(target.former, edges_, across, down);
     }
     Move();
+    if (guides_) {
+        guides_->Show(Grabbed(), Moved(grabbed_->place, shift));
+    }
+}
+
+LiveControl* PlacingGesture::Container() const {
+    return drop_ ? drop_->Container() : ContainerOf(ground_.design, *grabbed_->control);
+}
+
+void PlacingGesture::FollowGuides(const Pointer& pointer) {
+    if (!pointer.guides) {
+        guides_.reset();
+        return;
+    }
+    const LiveControl* const container = Container();
+    if (guides_ && entered_ == container) {
+        return;
+    }
+    std::vector<LiveControl*> dragged;
+    for (const Target& target : targets_) {
+        dragged.push_back(target.control);
+    }
+    guides_.emplace(ground_, std::move(dragged));
+    guides_->Enter(container);
+    entered_ = container;
+}
+
+Guides::Dragged PlacingGesture::Grabbed() const {
+    const QPointF shift = drop_ ? drop_->Shift() : QPointF();
+    return {grabbed_->control, Moved(grabbed_->former, shift), edges_};
 }
 
 void PlacingGesture::Move() const {
@@ -115,12 +163,16 @@ std::optional<host::Placement> PlacingGesture::Place() const {
 }
 
 QRect PlacingGesture::Painted() const {
-    return drop_ ? drop_->Painted() : QRect();
+    const QRect lines = guides_ ? guides_->Painted() : QRect();
+    return drop_ ? drop_->Painted() | lines : lines;
 }
 
 void PlacingGesture::Paint(QPainter& painter, const QPalette& palette) const {
     if (drop_) {
         drop_->Paint(painter, palette);
+    }
+    if (guides_) {
+        guides_->Paint(painter, palette);
     }
 }
 

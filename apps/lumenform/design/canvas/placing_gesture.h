@@ -8,6 +8,7 @@
 #include "apps/lumenform/design/canvas/drop_target.h"
 #include "apps/lumenform/design/canvas/edges.h"
 #include "apps/lumenform/design/canvas/gesture.h"
+#include "apps/lumenform/design/canvas/guides.h"
 
 namespace lumenkit::lumenform {
 
@@ -16,8 +17,8 @@ namespace lumenkit::lumenform {
 QString PlacingTitle(Edges edges, std::size_t count, const LiveControl& one);
 
 /// Moves or sizes the selected controls by the same distance as the control under the mouse. Only
-/// that control snaps to the grid. Controls that are moved over another container are put into it:
-/// see DropTarget.
+/// that control snaps to the grid and to guides, whichever is nearer. Controls that are moved over
+/// another container are put into it: see DropTarget.
 class PlacingGesture final : public Gesture {
  public:
     /// `grabbed` is one of the selected controls.
@@ -37,6 +38,9 @@ class PlacingGesture final : public Gesture {
         host::Placement place;
     };
 
+    void FollowGuides(const Pointer& pointer);
+    Guides::Dragged Grabbed() const;
+    LiveControl* Container() const;
     void Move() const;
     void DropElsewhere();
 
@@ -45,7 +49,9 @@ class PlacingGesture final : public Gesture {
     QPoint pressedAt_;
     std::vector<Target> targets_;
     const Target* grabbed_ = nullptr;
-    std::optional<DropTarget> drop_;  // empty while sizing
+    std::optional<DropTarget> drop_;        // empty while sizing
+    std::optional<Guides> guides_;          // empty while no drag uses them
+    const LiveControl* entered_ = nullptr;  // the container with these guides
 };
 
 }  // namespace lumenkit::lumenform

@@ -16,6 +16,9 @@ QString StepKey() {
 QString ShownKey() {
     return QStringLiteral("grid/shown");
 }
+QString GuidesKey() {
+    return QStringLiteral("grid/guides");
+}
 QString SnapsKey() {
     return QStringLiteral("grid/snaps");
 }
@@ -26,7 +29,8 @@ Grid Stored(const QSettings& settings) {
     const Grid usual;
     Grid grid{.step = settings.value(StepKey(), usual.step).toFloat(),
               .isShown = settings.value(ShownKey(), usual.isShown).toBool(),
-              .snaps = settings.value(SnapsKey(), usual.snaps).toBool()};
+              .snaps = settings.value(SnapsKey(), usual.snaps).toBool(),
+              .guides = settings.value(GuidesKey(), usual.guides).toBool()};
     if (!(grid.step >= steps.front() && grid.step <= steps.back())) {
         grid.step = usual.step;
     }
@@ -63,7 +67,7 @@ ViewMenu::ViewMenu(QSettings& settings, QWidget* parent)
         Change(grid);
     });
     QAction* const snaps = addAction(tr("&Snap to the grid"));
-    snaps->setToolTip(tr("Hold Alt while dragging to do the opposite"));
+    snaps->setToolTip(tr("Hold Alt while dragging to ignore the grid"));
     snaps->setCheckable(true);
     snaps->setChecked(grid_.snaps);
     connect(snaps, &QAction::toggled, this, [this](bool on) {
@@ -72,6 +76,17 @@ ViewMenu::ViewMenu(QSettings& settings, QWidget* parent)
         Change(grid);
     });
     AddSteps();
+    QAction* const guides = addAction(tr("Snap to &other controls"));
+    guides->setToolTip(
+        tr("A dragged edge or baseline stops at those of the controls beside it; "
+           "hold Alt to ignore them"));
+    guides->setCheckable(true);
+    guides->setChecked(grid_.guides);
+    connect(guides, &QAction::toggled, this, [this](bool on) {
+        Grid grid = grid_;
+        grid.guides = on;
+        Change(grid);
+    });
 }
 
 void ViewMenu::AddSteps() {
@@ -115,6 +130,7 @@ void ViewMenu::Change(const Grid& grid) {
     settings_.setValue(StepKey(), grid.step);
     settings_.setValue(ShownKey(), grid.isShown);
     settings_.setValue(SnapsKey(), grid.snaps);
+    settings_.setValue(GuidesKey(), grid.guides);
     if (workbench_ != nullptr) {
         workbench_->GetCanvas().SetGrid(grid);
     }
