@@ -136,7 +136,7 @@ TEST_F(DesignClipboardOnWayland, ControlsOfAnotherProgramArePasted) {
     person.Click(Glass(), QPoint(5, 5));
     ASSERT_TRUE(IsActiveAgain(window));
     Person::Press(QStringLiteral("ctrl+v"));
-    EXPECT_EQ(Awaited([&] { return Selected(); }, "VMemo1"), "VMemo1");
+    EXPECT_EQ(Awaited([&] { return Selected(); }, "Notes1"), "Notes1");
 }
 
 }  // namespace

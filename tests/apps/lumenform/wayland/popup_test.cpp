@@ -82,7 +82,7 @@ TEST_F(DesignPopupOnWayland, TheMenuOfAControlOpensAtThePointer) {
     EXPECT_EQ(Selected(), "Notes");
     EXPECT_LE(Distance(person, *OpenMenu(), Glass(), at), 4);
     Choose(person, QStringLiteral("Duplicate"));
-    EXPECT_EQ(Awaited([&] { return Selected(); }, "VMemo1"), "VMemo1");
+    EXPECT_EQ(Awaited([&] { return Selected(); }, "Notes1"), "Notes1");
 }
 
 TEST_F(DesignPopupOnWayland, AMenuOfTheBarOpensBelowItsTitle) {
