@@ -22,7 +22,8 @@ struct Account {
                 others.emplace_back(finding.rule, finding.property, finding.message);
             } else {
                 ++all;
-                errors += IsReported(finding) ? 1 : 0;
+                errors += SeverityOf(finding) == Severity::Error ? 1 : 0;
+                reported += IsReported(finding) ? 1 : 0;
             }
         }
         std::ranges::sort(others);
@@ -30,6 +31,7 @@ struct Account {
 
     std::size_t all = 0;
     std::size_t errors = 0;
+    std::size_t reported = 0;
     std::vector<std::tuple<std::string_view, std::string, std::string>> others;
 };
 
@@ -39,7 +41,8 @@ bool IsNoWorse(const Findings& before, const Findings& after,
                const std::vector<std::string>& mended) {
     const Account old(before, mended);
     const Account now(after, mended);
-    return now.all <= old.all && now.errors <= old.errors && now.others == old.others;
+    return now.all <= old.all && now.errors <= old.errors && now.reported <= old.reported &&
+           now.others == old.others;
 }
 
 }  // namespace lumenkit::check

@@ -38,6 +38,13 @@ TEST(Judgement, AcceptsNoFurtherErrors) {
     }
 }
 
+TEST(Judgement, AcceptsNoErrorInPlaceOfAnOverflow) {
+    const Finding overflow = About("Caption", rules::drawingOverflow);
+    const Finding error = About("Caption", rules::drawingError);
+    EXPECT_FALSE(IsAccepted({overflow, overflow}, {error}));
+    EXPECT_TRUE(IsAccepted({error}, {overflow}));
+}
+
 TEST(Judgement, AcceptsNoDifferenceAboutOtherProperties) {
     const Finding caption = About("Caption", rules::unknownCommand);
     const Finding font = About("Font", rules::unreadableValue);

@@ -37,6 +37,11 @@ ContentsDialog::ContentsDialog(FormDesign& design, const QString& title, TextVie
     table_->setFocus();
 }
 
+// Hiding ends the edit of a cell, whose text this object still checks.
+ContentsDialog::~ContentsDialog() {
+    hide();
+}
+
 void ContentsDialog::LayOut() {
     auto* const scrolled = new QScrollArea(this);
     scrolled->setFrameShape(QFrame::NoFrame);

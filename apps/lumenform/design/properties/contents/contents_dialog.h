@@ -23,6 +23,7 @@ class ContentsDialog final : public QDialog {
     /// While the code page of the form cannot hold the text of the items, the dialog tells why,
     /// offers others and cannot be accepted. `design` must outlive the dialog.
     ContentsDialog(FormDesign& design, const QString& title, TextView contents, QWidget* parent);
+    ~ContentsDialog() override;
 
     /// The text of the items as they are now.
     Text Result() const { return model_->Rows().Contents(); }
