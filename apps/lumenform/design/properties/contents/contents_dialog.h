@@ -24,6 +24,8 @@ class ContentsDialog final : public QDialog {
     /// offers others and cannot be accepted. `design` must outlive the dialog.
     ContentsDialog(FormDesign& design, const QString& title, TextView contents, QWidget* parent);
     ~ContentsDialog() override;
+    ContentsDialog(const ContentsDialog&) = delete;
+    ContentsDialog& operator=(const ContentsDialog&) = delete;
 
     /// The text of the items as they are now.
     Text Result() const { return model_->Rows().Contents(); }
