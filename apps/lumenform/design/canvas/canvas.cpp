@@ -1,6 +1,9 @@
 #include "apps/lumenform/design/canvas/canvas.h"
 
+#include <QApplication>
+#include <QScrollBar>
 #include <algorithm>
+#include <cstdlib>
 
 namespace lumenkit::lumenform {
 
@@ -9,7 +12,7 @@ Canvas::Canvas(FormDesign& design, QWidget* parent)
       design_(design),
       dots_(grid_),
       desk_(new Desk),
-      glass_(new Glass(design, grid_, *desk_)) {
+      glass_(new Glass(design, grid_, desk_->GetZoom(), *desk_)) {
     setWidgetResizable(true);
     setFrameStyle(QFrame::NoFrame);
     desk_->Show(design.View());
@@ -45,6 +48,43 @@ void Canvas::ScrollTo(const QRect& rect) {
     constexpr int margin = 16;
     const QPoint center = rect.center();
     ensureVisible(center.x(), center.y(), rect.width() / 2 + margin, rect.height() / 2 + margin);
+}
+
+void Canvas::SetZoom(int percent, std::optional<QPoint> about) {
+    percent = std::clamp(percent, Zoom::smallest, Zoom::largest);
+    if (percent == GetZoom().percent || glass_->IsPressed()) {
+        return;
+    }
+    const QPoint at = about.value_or(viewport()->rect().center());
+    const QPointF onView = GetZoom().ToView(desk_->mapFrom(viewport(), at));
+    desk_->SetPercent(percent);
+    QEvent layout(QEvent::LayoutRequest);  // the range of the scroll bars is set at once
+    QApplication::sendEvent(desk_, &layout);
+    const QPoint onDesk = GetZoom().ToDesk(onView).toPoint();
+    horizontalScrollBar()->setValue(onDesk.x() - at.x());
+    verticalScrollBar()->setValue(onDesk.y() - at.y());
+    dots_.Refresh();
+    glass_->FollowZoom();
+    Q_EMIT ZoomChanged(percent);
+}
+
+void Canvas::FitZoom() {
+    SetZoom(desk_->FittingPercent(maximumViewportSize()));
+}
+
+void Canvas::wheelEvent(QWheelEvent* event) {
+    if (!event->modifiers().testFlag(Qt::ControlModifier)) {
+        QScrollArea::wheelEvent(event);
+        return;
+    }
+    constexpr int step = QWheelEvent::DefaultDeltasPerStep;
+    wheel_ += event->angleDelta().y();
+    int percent = GetZoom().percent;
+    for (; std::abs(wheel_) >= step; wheel_ -= wheel_ > 0 ? step : -step) {
+        percent = Zoom::Next(percent, wheel_ > 0);
+    }
+    SetZoom(percent, viewport()->mapFromGlobal(event->globalPosition().toPoint()));
+    event->accept();
 }
 
 void Canvas::FollowView() {

@@ -1,6 +1,8 @@
 #pragma once
 
 #include <QScrollArea>
+#include <QWheelEvent>
+#include <optional>
 
 #include "apps/lumenform/design/canvas/desk.h"
 #include "apps/lumenform/design/canvas/glass.h"
@@ -26,6 +28,14 @@ class Canvas final : public QScrollArea {
     const Grid& GetGrid() const { return grid_; }
     /// Sets the grid, with a step of at least one twip.
     void SetGrid(const Grid& grid);
+
+    /// Shows the form at a scale between Zoom::smallest and Zoom::largest percent. A point of the
+    /// viewport, without one its middle, keeps its place on the form if the form scrolls that far.
+    /// Does nothing during a drag.
+    void SetZoom(int percent, std::optional<QPoint> about = std::nullopt);
+    const Zoom& GetZoom() const { return desk_->GetZoom(); }
+    /// Shows the whole form as large as possible.
+    void FitZoom();
 
     /// Starts drawing: the next drag or click emits Drawn for a control of the class.
     void BeginDrawing(const Text& className);
@@ -59,8 +69,12 @@ class Canvas final : public QScrollArea {
     /// The position of the mouse, in twips from the upper left corner of the form's client area.
     void PointerMoved(QPointF twips);
     void PointerLeft();
+    void ZoomChanged(int percent);
     /// An action failed and had no effect.
     void Refused(const QString& why);
+
+ protected:
+    void wheelEvent(QWheelEvent* event) override;
 
  private:
     void FollowView();
@@ -72,6 +86,7 @@ class Canvas final : public QScrollArea {
     GridDots dots_;
     Desk* desk_;
     Glass* glass_;
+    int wheel_ = 0;  // degrees / 8 that were no step yet
 };
 
 }  // namespace lumenkit::lumenform

@@ -22,8 +22,8 @@ class Glass final : public QWidget {
     Q_OBJECT
 
  public:
-    /// `desk`, the parent, shows the form at the same place. All arguments must outlive the glass.
-    Glass(FormDesign& design, const Grid& grid, QWidget& desk);
+    /// `desk`, the parent, shows the form at this zoom. All arguments must outlive the glass.
+    Glass(FormDesign& design, const Grid& grid, const Zoom& zoom, QWidget& desk);
     ~Glass() override;
     Glass(const Glass&) = delete;
     Glass& operator=(const Glass&) = delete;
@@ -36,6 +36,9 @@ class Glass final : public QWidget {
     bool IsDrawing() const { return !drawnClass_.empty(); }
     void SetTabOrderMode(bool on);
     bool IsTabOrderMode() const { return isTabOrderMode_; }
+    /// Called when the form is shown at another zoom or place.
+    void FollowZoom();
+    bool IsPressed() const { return press_.has_value(); }
     /// Scrolls to the control that was selected last.
     void ShowSelected();
     /// The part of the form's client area that is seen, in its twips. Empty if none is.

@@ -45,7 +45,8 @@ ViewMenu::ViewMenu(QSettings& settings, QWidget* parent)
       grid_(Stored(settings)),
       code_(addAction(tr("&Code"))),
       form_(addAction(tr("&Form"))),
-      outline_(addAction(tr("&Outline"))) {
+      outline_(addAction(tr("&Outline"))),
+      zoom_(new ZoomMenu(this)) {
     code_->setShortcut(Qt::Key_F7);
     code_->setToolTip(tr("The code of the form, at the first procedure of the selected control"));
     form_->setShortcut(Qt::SHIFT | Qt::Key_F7);
@@ -57,6 +58,7 @@ ViewMenu::ViewMenu(QSettings& settings, QWidget* parent)
     outline_->setCheckable(true);
     outline_->setChecked(settings.value(OutlineKey(), true).toBool());
     connect(outline_, &QAction::toggled, this, &ViewMenu::ShowOutline);
+    addMenu(zoom_);
     addSeparator();
     QAction* const shown = addAction(tr("Show the &grid"));
     shown->setCheckable(true);
@@ -116,6 +118,7 @@ void ViewMenu::Follow(Workbench* workbench) {
 void ViewMenu::SetPage(Page page) {
     code_->setEnabled(page == Page::Form);
     form_->setEnabled(page == Page::Code);
+    zoom_->Follow(page == Page::Form && workbench_ != nullptr ? &workbench_->GetCanvas() : nullptr);
 }
 
 void ViewMenu::ShowOutline(bool on) {
