@@ -66,7 +66,6 @@ void Desk::PutView() {
         zoomed_->show();
     }
     zoomed_->Show(*view_);
-    view_->layout()->activate();
 }
 
 void Desk::SetPercent(int percent) {
@@ -96,6 +95,9 @@ bool Desk::eventFilter(QObject* watched, QEvent* event) {
     // The event type is checked first: a view also sends events while it is destroyed, when it is
     // no longer a FormView.
     if (event->type() == QEvent::Resize && watched == view_) {
+        if (zoomed_ != nullptr) {
+            zoomed_->FollowSize();
+        }
         Arrange();
     }
     return false;

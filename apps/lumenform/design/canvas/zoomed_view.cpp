@@ -1,7 +1,9 @@
 #include "apps/lumenform/design/canvas/zoomed_view.h"
 
+#include <QLayout>
 #include <QPaintEvent>
 #include <QPainter>
+#include <algorithm>
 #include <cmath>
 #include <memory>
 
@@ -29,19 +31,45 @@ void ForEach(const QRect& indices, Act&& act) {
     }
 }
 
+// Draws widgets into a picture at a scale.
+class ScaledPainter {
+ public:
+    // Styles draw for the pixel ratio of the picture. A painter ignores one below 1.
+    ScaledPainter(QPixmap& picture, double scale) : picture_(picture) {
+        picture.setDevicePixelRatio(std::max(scale, 1.0));
+        painter_.begin(&picture);
+        painter_.scale(std::min(scale, 1.0), std::min(scale, 1.0));
+    }
+    ~ScaledPainter() {
+        painter_.end();
+        picture_.setDevicePixelRatio(1);
+    }
+    ScaledPainter(const ScaledPainter&) = delete;
+    ScaledPainter& operator=(const ScaledPainter&) = delete;
+
+    // Draws a part of the widget. The point `corner` of it is at the corner of the picture.
+    void Draw(QWidget& widget, const QRect& part, QPointF corner = {}) {
+        painter_.translate(-corner);
+        widget.render(&painter_, part.topLeft(), part);
+    }
+
+ private:
+    QPixmap& picture_;
+    QPainter painter_;
+};
+
 }  // namespace
 
 QPixmap PictureOf(QWidget& widget, double scale) {
     QPixmap picture((QSizeF(widget.size()) * scale).toSize().expandedTo(QSize(1, 1)));
-    picture.setDevicePixelRatio(scale);
     picture.fill(Qt::transparent);
-    QPainter painter(&picture);
-    widget.render(&painter);
+    ScaledPainter(picture, scale).Draw(widget, widget.rect());
     return picture;
 }
 
-ZoomedView::ZoomedView(QWidget* parent) : QWidget(parent), tiles_(mostKept) {
+ZoomedView::ZoomedView(QWidget* parent) : QWidget(parent), stage_(new QWidget), tiles_(mostKept) {
     setAttribute(Qt::WA_OpaquePaintEvent);
+    scene_.addWidget(stage_);
     connect(&scene_, &QGraphicsScene::changed, this, [this](const QList<QRectF>& parts) {
         for (const QRectF& part : parts) {
             Outdate(part);
@@ -50,26 +78,25 @@ ZoomedView::ZoomedView(QWidget* parent) : QWidget(parent), tiles_(mostKept) {
 }
 
 ZoomedView::~ZoomedView() {
-    Release();
+    if (view_ != nullptr) {
+        view_->hide();
+        view_->setParent(nullptr);
+    }
 }
 
 void ZoomedView::Show(FormView& view) {
-    Release();
-    tiles_.clear();
     view_ = &view;
-    view.setParent(nullptr);
-    proxy_ = scene_.addWidget(&view);
+    view.setParent(stage_, Qt::SubWindow);
+    view.move(0, 0);
+    view.layout()->activate();
     view.show();
-    update();
+    FollowSize();
 }
 
-void ZoomedView::Release() {
-    if (view_ != nullptr && proxy_ != nullptr) {
-        view_->hide();
-        proxy_->setWidget(nullptr);
-    }
-    delete proxy_;
-    view_ = nullptr;
+void ZoomedView::FollowSize() {
+    stage_->resize(view_->size());
+    tiles_.clear();
+    update();
 }
 
 void ZoomedView::SetFactor(double factor) {
@@ -120,13 +147,10 @@ QPixmap ZoomedView::DrawTile(QPoint index) const {
         return tile;
     }
     const double scale = factor_ * device_;
-    tile.setDevicePixelRatio(scale);
     const QRectF part(QPointF(index) * side / scale, QSizeF(side, side) / scale);
     const QRect exposed = part.adjusted(-1, -1, 1, 1).toAlignedRect() & view_->rect();
     if (!exposed.isEmpty()) {
-        QPainter painter(&tile);
-        painter.translate(-part.topLeft());
-        view_->render(&painter, exposed.topLeft(), exposed);
+        ScaledPainter(tile, scale).Draw(*view_, exposed, part.topLeft());
     }
     tile.setDevicePixelRatio(device_);
     return tile;

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <QCache>
-#include <QGraphicsProxyWidget>
 #include <QGraphicsScene>
 #include <QPixmap>
 #include <QPoint>
@@ -13,7 +12,7 @@
 
 namespace lumenkit::lumenform {
 
-/// Returns the picture of a widget and its children at `scale` device pixels per pixel.
+/// Returns the picture of a widget and its children, of `scale` device pixels for each of theirs.
 QPixmap PictureOf(QWidget& widget, double scale);
 
 /// Shows a form larger or smaller than it is. The view itself keeps its size and its layout, so
@@ -29,19 +28,20 @@ class ZoomedView final : public QWidget {
 
     /// Takes the view from its parent. It may be destroyed before this object.
     void Show(FormView& view);
+    /// Called when the view has another size.
+    void FollowSize();
     void SetFactor(double factor);
 
  protected:
     void paintEvent(QPaintEvent* event) override;
 
  private:
-    void Release();
     void Outdate(const QRectF& onView);
     const QPixmap& TileAt(QPoint index);
     QPixmap DrawTile(QPoint index) const;
 
     QGraphicsScene scene_;
-    QPointer<QGraphicsProxyWidget> proxy_;
+    QWidget* stage_;  // the widget of the scene, with the view in it
     QPointer<FormView> view_;
     double factor_ = 1;
     double device_ = 1;              // device pixels per pixel, in the tiles
