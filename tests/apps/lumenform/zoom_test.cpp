@@ -565,7 +565,10 @@ TEST(ZoomPicture, ScrollingPaintsNoControlAgain) {
     }
     EXPECT_EQ(counter.count, 0);
     form.Control(u"A").Widget().update();
-    EXPECT_TRUE(QTest::qWaitFor([&] { return counter.count > 0; }));
+    EXPECT_TRUE(QTest::qWaitFor([&] {
+        form.Picture();
+        return counter.count > 0;
+    }));
 }
 
 // ---- Choosing a scale

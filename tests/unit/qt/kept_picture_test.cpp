@@ -69,11 +69,11 @@ QRect BlackPart(const QImage& image) {
 
 TEST(KeptPicture, BoxesOfPixelsGrowAndShrinkWithThePainter) {
     KeptPicture picture;
-    picture.FillPixels({8, 12}, {0, -2, 7, 1}, Rgb(0, 0, 0));
-    EXPECT_EQ(BlackPart(ImageOf(picture, 1)), QRect(8, 10, 8, 4));
-    EXPECT_EQ(BlackPart(ImageOf(picture, 1, 4)), QRect(32, 40, 32, 16));
-    EXPECT_EQ(BlackPart(ImageOf(picture, 1, 0.25)).size(), QSize(2, 1));
-    EXPECT_EQ(BlackPart(ImageOf(picture, 2, 2)), QRect(32, 44, 16, 8));
+    picture.FillPixels({8, 12}, {0, -4, 7, 3}, Rgb(0, 0, 0));
+    EXPECT_EQ(BlackPart(ImageOf(picture, 1)), QRect(8, 8, 8, 8));
+    EXPECT_EQ(BlackPart(ImageOf(picture, 1, 4)), QRect(32, 32, 32, 32));
+    EXPECT_EQ(BlackPart(ImageOf(picture, 1, 0.25)).size(), QSize(2, 2));
+    EXPECT_EQ(BlackPart(ImageOf(picture, 2, 2)), QRect(32, 40, 16, 16));
 }
 
 TEST(KeptPicture, ABoxOfOnePixelIsSeenAtEachZoom) {
