@@ -2,12 +2,15 @@
 
 #include <QScrollArea>
 #include <QWheelEvent>
+#include <memory>
 #include <optional>
 
 #include "apps/lumenform/design/canvas/desk.h"
+#include "apps/lumenform/design/canvas/edge_scroll.h"
 #include "apps/lumenform/design/canvas/glass.h"
 #include "apps/lumenform/design/canvas/grid.h"
 #include "apps/lumenform/design/canvas/grid_dots.h"
+#include "apps/lumenform/design/canvas/rulers.h"
 #include "apps/lumenform/design/model/drag_start.h"
 #include "apps/lumenform/design/model/form_design.h"
 
@@ -36,6 +39,10 @@ class Canvas final : public QScrollArea {
     const Zoom& GetZoom() const { return desk_->GetZoom(); }
     /// Shows the whole form as large as possible.
     void FitZoom();
+
+    /// Shows rulers along the upper and left edges.
+    void ShowRulers(bool shown);
+    const Rulers& GetRulers() const { return *rulers_; }
 
     /// Starts drawing: the next drag or click emits Drawn for a control of the class.
     void BeginDrawing(const Text& className);
@@ -75,6 +82,8 @@ class Canvas final : public QScrollArea {
 
  protected:
     void wheelEvent(QWheelEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    void scrollContentsBy(int across, int down) override;
 
  private:
     void FollowView();
@@ -86,7 +95,10 @@ class Canvas final : public QScrollArea {
     GridDots dots_;
     Desk* desk_;
     Glass* glass_;
-    int wheel_ = 0;  // degrees / 8 that were no step yet
+    std::unique_ptr<Rulers> rulers_;
+    EdgeScroll edges_;
+    QPoint scrolled_;  // where the form should be, if there is room
+    int wheel_ = 0;    // degrees / 8 that were no step yet
 };
 
 }  // namespace lumenkit::lumenform

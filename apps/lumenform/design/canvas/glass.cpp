@@ -60,6 +60,29 @@ void Glass::FollowZoom() {
     raise();
     marks_ = Marks();
     update();
+    Q_EMIT MarksChanged();
+    FollowScroll();
+}
+
+void Glass::FollowScroll() {
+    if (!pointer_) {
+        return;
+    }
+    const QPoint at = mapFromGlobal(*pointer_);
+    TellPointer(at);
+    if (gesture_ != nullptr) {
+        Drag(at, held_);
+    } else if (!press_) {
+        UpdateCursor(at);
+    }
+}
+
+QRect Glass::SelectedRect() const {
+    QRect rect;
+    for (const LiveControl* const control : design_.Selected()) {
+        rect |= map_.RectOf(*control);
+    }
+    return rect;
 }
 
 void Glass::Try(const std::function<void()>& work) {
@@ -206,6 +229,8 @@ std::optional<Glass::Grip> Glass::GripAt(QPoint at) const {
 
 void Glass::mouseMoveEvent(QMouseEvent* event) {
     const QPoint at = event->position().toPoint();
+    pointer_ = event->globalPosition().toPoint();
+    held_ = event->modifiers();
     TellPointer(at);
     if (!press_) {
         UpdateCursor(at);
@@ -234,8 +259,7 @@ void Glass::Drag(QPoint at, Qt::KeyboardModifiers held) {
         }
     });
     UpdateMarks();
-    constexpr int reach = 16;  // of the edge at which the canvas scrolls
-    Q_EMIT Wanted(QRect(at - QPoint(reach, reach), at + QPoint(reach, reach)));
+    Q_EMIT Dragged(at);
 }
 
 void Glass::mouseReleaseEvent(QMouseEvent* event) {
@@ -263,6 +287,7 @@ Glass::GestureRef Glass::EndGesture() {
     press_.reset();
     label_->hide();
     UpdateMarks();
+    Q_EMIT DragEnded();
     return ended;
 }
 
@@ -315,6 +340,7 @@ void Glass::SelectForMenu(QPoint at) {
 
 void Glass::leaveEvent(QEvent* event) {
     QWidget::leaveEvent(event);
+    pointer_.reset();
     Q_EMIT PointerLeft();
 }
 
@@ -439,6 +465,7 @@ void Glass::UpdateMarks() {
     const QRegion marks = Marks();
     update(marks_ | marks);
     marks_ = marks;
+    Q_EMIT MarksChanged();
 }
 
 void Glass::paintEvent(QPaintEvent* /*event*/) {

@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "apps/lumenform/design/canvas/baseline.h"
+#include "apps/lumenform/design/model/arrange.h"
 #include "apps/lumenform/design/model/containers.h"
 
 namespace lumenkit::lumenform {

@@ -23,6 +23,10 @@ QString SnapsKey() {
     return QStringLiteral("grid/snaps");
 }
 
+QString RulersKey() {
+    return QStringLiteral("rulers/shown");
+}
+
 constexpr std::array steps = {30, 60, 90, 120, 180, 240};
 
 Grid Stored(const QSettings& settings) {
@@ -59,6 +63,11 @@ ViewMenu::ViewMenu(QSettings& settings, QWidget* parent)
     outline_->setChecked(settings.value(OutlineKey(), true).toBool());
     connect(outline_, &QAction::toggled, this, &ViewMenu::ShowOutline);
     addMenu(zoom_);
+    rulers_ = addAction(tr("&Rulers"));
+    rulers_->setToolTip(tr("Rulers in the units of the form"));
+    rulers_->setCheckable(true);
+    rulers_->setChecked(settings.value(RulersKey(), false).toBool());
+    connect(rulers_, &QAction::toggled, this, &ViewMenu::ShowRulers);
     addSeparator();
     QAction* const shown = addAction(tr("Show the &grid"));
     shown->setCheckable(true);
@@ -112,6 +121,7 @@ void ViewMenu::Follow(Workbench* workbench) {
     if (workbench != nullptr) {
         workbench->GetCanvas().SetGrid(grid_);
         workbench->GetOutline().setVisible(outline_->isChecked());
+        workbench->GetCanvas().ShowRulers(rulers_->isChecked());
     }
 }
 
@@ -125,6 +135,13 @@ void ViewMenu::ShowOutline(bool on) {
     settings_.setValue(OutlineKey(), on);
     if (workbench_ != nullptr) {
         workbench_->GetOutline().setVisible(on);
+    }
+}
+
+void ViewMenu::ShowRulers(bool on) {
+    settings_.setValue(RulersKey(), on);
+    if (workbench_ != nullptr) {
+        workbench_->GetCanvas().ShowRulers(on);
     }
 }
 

@@ -8,8 +8,8 @@
 
 namespace lumenkit::lumenform {
 
-/// The menu for the form and its code, the outline, the zoom and the grid. The settings keep the
-/// outline and the grid between sessions, and they are the same for all forms.
+/// The menu for the form and its code, the outline, the zoom, the rulers and the grid. The settings
+/// keep all but the zoom between sessions, and they are the same for all forms.
 class ViewMenu final : public QMenu {
     Q_OBJECT
 
@@ -33,6 +33,7 @@ class ViewMenu final : public QMenu {
  private:
     void AddSteps();
     void ShowOutline(bool on);
+    void ShowRulers(bool on);
     void Change(const Grid& grid);
 
     QSettings& settings_;
@@ -41,6 +42,7 @@ class ViewMenu final : public QMenu {
     QAction* form_;
     QAction* outline_;
     ZoomMenu* zoom_;
+    QAction* rulers_ = nullptr;
     Workbench* workbench_ = nullptr;
 };
 
