@@ -19,6 +19,8 @@ namespace {
 using lumenform::Ruler;
 using lumenform::RulerSteps;
 
+class RuledWindowTest : public OpenedWindow {};
+
 // ---- Steps
 
 // The width of a label: a digit has seven pixels.
@@ -93,6 +95,8 @@ class RuledForm : public DesignedForm {
     explicit RuledForm(const std::string& inner = {}, int percent = 100) : DesignedForm(inner) {
         canvas->ShowRulers(true);
         canvas->SetZoom(percent);
+        canvas->horizontalScrollBar()->setValue(0);
+        canvas->verticalScrollBar()->setValue(0);
         QApplication::processEvents();
     }
     const Ruler& Upper() const { return canvas->GetRulers().Upper(); }
@@ -118,8 +122,8 @@ double PlaceOf(const Ruler& ruler, const QString& text) {
 
 TEST(Rulers, BeginAtTheCornerOfTheForm) {
     for (const int percent : {25, 100, 200, 400}) {
-        const RuledForm form({}, percent);
-        EXPECT_NEAR(PlaceOf(form.Upper(), "0"), form.Across(0), 1) << percent;
+        const RuledForm sheet({}, percent);
+        EXPECT_NEAR(PlaceOf(sheet.Upper(), "0"), sheet.Across(0), 1) << percent;
     }
 }
 
@@ -138,17 +142,18 @@ TEST(Rulers, CountInTheUnitOfTheForm) {
           Mode{"   ScaleMode = 0\n   ScaleLeft = -100\n   ScaleTop = 0\n"
                "   ScaleWidth = 200\n   ScaleHeight = 100\n",
                "0", 150}}) {
-        const RuledForm form(mode.line);
-        EXPECT_NEAR(PlaceOf(form.Upper(), mode.label), form.Across(mode.pixels), 1.01) << mode.line;
+        const RuledForm sheet(mode.line);
+        EXPECT_NEAR(PlaceOf(sheet.Upper(), mode.label), sheet.Across(mode.pixels), 1.01)
+            << mode.line;
     }
 }
 
 TEST(Rulers, LabelsNeverReachEachOther) {
     for (const char* const mode : {"1", "2", "3", "5", "6", "7"}) {
-        RuledForm form(std::string("   ScaleMode = ") + mode + "\n");
+        RuledForm sheet(std::string("   ScaleMode = ") + mode + "\n");
         for (int percent = 25; percent <= 400; percent += 15) {
-            form.canvas->SetZoom(percent);
-            for (const Ruler* const ruler : {&form.Upper(), &form.Left()}) {
+            sheet.canvas->SetZoom(percent);
+            for (const Ruler* const ruler : {&sheet.Upper(), &sheet.Left()}) {
                 const std::vector<Ruler::Label> labels = ruler->Labels();
                 for (std::size_t index = 1; index < labels.size(); ++index) {
                     const int width =
@@ -162,10 +167,10 @@ TEST(Rulers, LabelsNeverReachEachOther) {
 }
 
 TEST(Rulers, FollowScrolling) {
-    RuledForm form({}, 400);
-    const double before = PlaceOf(form.Upper(), "0");
-    form.canvas->horizontalScrollBar()->setValue(150);
-    EXPECT_EQ(before - PlaceOf(form.Upper(), "0"), 150);
+    RuledForm sheet({}, 400);
+    const double before = PlaceOf(sheet.Upper(), "0");
+    sheet.canvas->horizontalScrollBar()->setValue(150);
+    EXPECT_EQ(before - PlaceOf(sheet.Upper(), "0"), 150);
 }
 
 const std::string ruledControl =
@@ -173,16 +178,16 @@ const std::string ruledControl =
 
 // The part of the ruler that looks different than before.
 TEST(Rulers, ShadeTheSelection) {
-    RuledForm form(ruledControl, 200);
-    auto& upper = const_cast<Ruler&>(form.Upper());
+    RuledForm sheet(ruledControl, 200);
+    auto& upper = const_cast<Ruler&>(sheet.Upper());
     const Grabbed before(upper);
-    form.Select({u"P"});
+    sheet.Select({u"P"});
     const QRect shaded = Grabbed(upper).DifferenceFrom(before);
-    EXPECT_NEAR(shaded.left(), form.Across(100), 1);
-    EXPECT_NEAR(shaded.right() + 1, form.Across(160), 1);
-    form.Key(Qt::Key_Right);
-    EXPECT_NEAR(Grabbed(upper).DifferenceFrom(before).left(), form.Across(104), 8.01);
-    form.design.Select({});
+    EXPECT_NEAR(shaded.left(), sheet.Across(100), 1);
+    EXPECT_NEAR(shaded.right() + 1, sheet.Across(160), 1);
+    sheet.Key(Qt::Key_Right);
+    EXPECT_NEAR(Grabbed(upper).DifferenceFrom(before).left(), sheet.Across(104), 8.01);
+    sheet.design.Select({});
     EXPECT_TRUE(Grabbed(upper).DifferenceFrom(before).isEmpty());
 }
 
@@ -199,34 +204,33 @@ class PaintedPart final : public QObject {
 };
 
 TEST(Rulers, MarkThePointerAndPaintNothingElse) {
-    RuledForm form;
-    auto& upper = const_cast<Ruler&>(form.Upper());
+    RuledForm sheet;
+    auto& upper = const_cast<Ruler&>(sheet.Upper());
     const Grabbed before(upper);
-    form.MoveTo({50, 40});
+    sheet.MoveTo({50, 40});
     const QRect mark = Grabbed(upper).DifferenceFrom(before);
-    EXPECT_NEAR(mark.left(), form.Across(50), 1);
+    EXPECT_NEAR(mark.left(), sheet.Across(50), 1);
     EXPECT_LE(mark.width(), 2);
     QApplication::processEvents();
     PaintedPart painted;
     upper.installEventFilter(&painted);
-    form.MoveTo({54, 40});
+    sheet.MoveTo({54, 40});
     QTest::qWait(50);
     EXPECT_FALSE(painted.part.isEmpty());
     EXPECT_LE(painted.part.width(), 12);
 }
 
-TEST(Rulers, AreOffAtFirstAndRemembered) {
-    OpenedWindow opened;
-    opened.window.Load(opened.Copy("order"));
-    const lumenform::Canvas& canvas = opened.window.Bench()->GetCanvas();
+TEST_F(RuledWindowTest, TheRulersAreOffAtFirstAndRemembered) {
+    window.Load(Copy("order"));
+    const lumenform::Canvas& canvas = window.Bench()->GetCanvas();
     EXPECT_FALSE(canvas.GetRulers().Upper().isVisible());
     const int width = canvas.viewport()->width();
-    opened.Command("Rulers").trigger();
+    Command("Rulers").trigger();
     EXPECT_TRUE(canvas.GetRulers().Upper().isVisible());
     EXPECT_EQ(canvas.viewport()->width(), width - canvas.GetRulers().Thickness());
-    EXPECT_TRUE(opened.settings.value("rulers/shown").toBool());
-    opened.window.Load(opened.Copy("memo"));
-    EXPECT_TRUE(opened.window.Bench()->GetCanvas().GetRulers().Upper().isVisible());
+    EXPECT_TRUE(settings.value("rulers/shown").toBool());
+    window.Load(Copy("memo"));
+    EXPECT_TRUE(window.Bench()->GetCanvas().GetRulers().Upper().isVisible());
 }
 
 // ---- Edges of the view
@@ -249,68 +253,69 @@ TEST(EdgeScroll, IsFasterFartherOut) {
 
 TEST(EdgeScroll, GoesOnWhileThePointerRests) {
     for (const int percent : {50, 100, 200}) {
-        DesignedForm form(FormOf(largeForm));
-        form.canvas->SetZoom(percent);
-        lumenform::Glass& glass = form.canvas->GetGlass();
-        const QScrollBar& bar = *form.canvas->horizontalScrollBar();
-        form.Press(form.MiddleOf(u"P"));
+        DesignedForm sheet(FormOf(largeForm));
+        sheet.canvas->SetZoom(percent);
+        sheet.canvas->horizontalScrollBar()->setValue(0);
+        sheet.canvas->verticalScrollBar()->setValue(0);
+        lumenform::Glass& glass = sheet.canvas->GetGlass();
+        const QScrollBar& bar = *sheet.canvas->horizontalScrollBar();
+        sheet.Press(sheet.MiddleOf(u"P"));
         // In the viewport the pointer rests at its right edge.
-        const QPoint edge(form.canvas->viewport()->width() - 2, 200);
-        const QPoint at = glass.mapFrom(form.canvas->viewport(), edge);
+        const QPoint edge(sheet.canvas->viewport()->width() - 2, 200);
+        const QPoint at = glass.mapFrom(sheet.canvas->viewport(), edge);
         QMouseEvent move(QEvent::MouseMove, at, glass.mapToGlobal(at), Qt::NoButton, Qt::LeftButton,
                          {});
         QApplication::sendEvent(&glass, &move);
-        const float before = form.PlaceOf(u"P").left;
+        const float before = sheet.PlaceOf(u"P").left;
         EXPECT_EQ(bar.value(), 0);
         EXPECT_TRUE(QTest::qWaitFor([&] { return bar.value() >= 40; }));
-        EXPECT_NEAR(form.PlaceOf(u"P").left - before, bar.value() * 1500.0 / percent, 121)
+        EXPECT_NEAR(sheet.PlaceOf(u"P").left - before, bar.value() * 1500.0 / percent, 121)
             << "the control stays under the mouse";
-        const QPoint now = glass.mapFrom(form.canvas->viewport(), edge);
+        const QPoint now = glass.mapFrom(sheet.canvas->viewport(), edge);
         QTest::mouseRelease(&glass, Qt::LeftButton, {}, now);
         const int after = bar.value();
         QTest::qWait(80);
         EXPECT_EQ(bar.value(), after) << "until the button is released";
-        EXPECT_EQ(form.design.History().count(), 1);
+        EXPECT_EQ(sheet.design.History().count(), 1);
     }
 }
 
 TEST(EdgeScroll, ThePlaceIsSeenAtEachEdge) {
-    DesignedForm form(FormOf(largeForm));
-    lumenform::Glass& glass = form.canvas->GetGlass();
+    DesignedForm sheet(FormOf(largeForm));
+    lumenform::Glass& glass = sheet.canvas->GetGlass();
     auto* const label = glass.findChild<QLabel*>();
-    form.Press(form.MiddleOf(u"P"));
-    const QRect room = form.canvas->viewport()->rect();
+    sheet.Press(sheet.MiddleOf(u"P"));
+    const QRect room = sheet.canvas->viewport()->rect();
     for (const QPoint edge : {room.bottomRight(), room.topRight(), room.bottomLeft(),
                               room.bottomRight() + QPoint(50, 50), QPoint(-30, -30)}) {
-        const QPoint at = glass.mapFrom(form.canvas->viewport(), edge);
+        const QPoint at = glass.mapFrom(sheet.canvas->viewport(), edge);
         QMouseEvent move(QEvent::MouseMove, at, glass.mapToGlobal(at), Qt::NoButton, Qt::LeftButton,
                          {});
         QApplication::sendEvent(&glass, &move);
         ASSERT_TRUE(label->isVisible());
         EXPECT_TRUE(
-            room.contains(QRect(label->mapTo(form.canvas->viewport(), QPoint()), label->size())))
+            room.contains(QRect(label->mapTo(sheet.canvas->viewport(), QPoint()), label->size())))
             << edge.x() << ", " << edge.y();
         EXPECT_FALSE(label->geometry().contains(at)) << "beside the pointer";
     }
-    form.Key(Qt::Key_Escape);
+    sheet.Key(Qt::Key_Escape);
 }
 
 TEST(EdgeScroll, ThePlaceOfAPointerAtRestIsToldWhenTheFormScrolls) {
-    DesignedForm form(FormOf(largeForm));
+    DesignedForm sheet(FormOf(largeForm));
     QPointF told;
-    QObject::connect(form.canvas, &lumenform::Canvas::PointerMoved,
+    QObject::connect(sheet.canvas, &lumenform::Canvas::PointerMoved,
                      [&](QPointF twips) { told = twips; });
-    form.MoveTo({100, 100});
+    sheet.MoveTo({100, 100});
     EXPECT_EQ(told, QPointF(1500, 1500));
-    form.canvas->verticalScrollBar()->setValue(60);
+    sheet.canvas->verticalScrollBar()->setValue(60);
     EXPECT_EQ(told, QPointF(1500, 2400));
 }
 
-TEST(TrialRun, KeepsThePlaceOfTheForm) {
-    OpenedWindow opened;
-    opened.window.resize(900, 600);
-    opened.window.Load(opened.Copy("order"));
-    lumenform::Canvas& canvas = opened.window.Bench()->GetCanvas();
+TEST_F(RuledWindowTest, ATrialRunKeepsThePlaceOfTheForm) {
+    window.resize(900, 600);
+    window.Load(Copy("order"));
+    lumenform::Canvas& canvas = window.Bench()->GetCanvas();
     canvas.SetZoom(400);
     QApplication::processEvents();
     for (const bool atEnd : {true, false}) {
@@ -320,10 +325,10 @@ TEST(TrialRun, KeepsThePlaceOfTheForm) {
         down.setValue(atEnd ? down.maximum() : 50);
         across.setValue(atEnd ? across.maximum() : 30);
         const QPoint before(across.value(), down.value());
-        opened.window.Run(true);
+        window.Run(true);
         QApplication::processEvents();
-        ASSERT_NE(opened.window.Running(), nullptr);
-        opened.window.Run(false);
+        ASSERT_NE(window.Running(), nullptr);
+        window.Run(false);
         QApplication::processEvents();
         EXPECT_EQ(QPoint(across.value(), down.value()), before);
     }
@@ -335,14 +340,14 @@ TEST(AccessKeys, AreUnderlinedInTheDesigner) {
         " Height = 300\n TabIndex = 0\n End\n"
         "   Begin VB.TextBox T\n Left = 1200\n Top = 120\n Width = 900\n Height = 300\n"
         " TabIndex = 1\n End\n";
-    const DesignedForm form(named);
+    const DesignedForm sheet(named);
     const LoadedView running(FormWith(named));
-    auto& designed = form.Control(u"L").Widget();
-    form.canvas->SetGrid({.isShown = false});
+    auto& designed = sheet.Control(u"L").Widget();
+    sheet.canvas->SetGrid({.isShown = false});
     EXPECT_EQ(dynamic_cast<QLabel&>(designed).text(), As<QLabel>(running, u"L").text());
     EXPECT_NE(dynamic_cast<QLabel&>(designed).buddy(), nullptr);
     EXPECT_EQ(designed.grab().toImage(), As<QLabel>(running, u"L").grab().toImage());
-    EXPECT_EQ(form.Control(u"T").Widget().focusPolicy(), Qt::NoFocus);
+    EXPECT_EQ(sheet.Control(u"T").Widget().focusPolicy(), Qt::NoFocus);
 }
 
 }  // namespace

@@ -146,152 +146,152 @@ class AtZoom : public ::testing::TestWithParam<int> {
 INSTANTIATE_TEST_SUITE_P(Scales, AtZoom, ::testing::ValuesIn(zooms));
 
 TEST_P(AtZoom, ADragMovesByItsTwips) {
-    Zoomed form(GetParam());
-    form.DragOnScreen(form.OnScreen(u"A").center(), {Pixels(720), Pixels(1440)}, Qt::AltModifier);
-    EXPECT_EQ(form.PlaceOf(u"A"), (Placement{960, 1680, 1200, 600}));
-    EXPECT_EQ(form.design.History().text(0), "Move A");
+    Zoomed sheet(GetParam());
+    sheet.DragOnScreen(sheet.OnScreen(u"A").center(), {Pixels(720), Pixels(1440)}, Qt::AltModifier);
+    EXPECT_EQ(sheet.PlaceOf(u"A"), (Placement{960, 1680, 1200, 600}));
+    EXPECT_EQ(sheet.design.History().text(0), "Move A");
 }
 
 TEST_P(AtZoom, ADragStopsAtTheGrid) {
-    Zoomed form(GetParam());
-    form.DragOnScreen(form.OnScreen(u"A").center(), {Pixels(740), Pixels(1420)});
-    EXPECT_EQ(form.PlaceOf(u"A"), (Placement{960, 1680, 1200, 600}));
+    Zoomed sheet(GetParam());
+    sheet.DragOnScreen(sheet.OnScreen(u"A").center(), {Pixels(740), Pixels(1420)});
+    EXPECT_EQ(sheet.PlaceOf(u"A"), (Placement{960, 1680, 1200, 600}));
 }
 
 TEST_P(AtZoom, TheShortestDragIsTheSameOnTheScreen) {
-    Zoomed form(GetParam());
-    const QPoint at = form.OnScreen(u"A").center();
-    form.DragOnScreen(at, {3, 0}, Qt::AltModifier);
-    EXPECT_EQ(form.design.History().count(), 0);
-    form.DragOnScreen(at, {4, 0}, Qt::AltModifier);
-    EXPECT_EQ(form.design.History().count(), 1);
-    EXPECT_NEAR(form.PlaceOf(u"A").left, 240 + 60 / Factor(), 0.01);
+    Zoomed sheet(GetParam());
+    const QPoint at = sheet.OnScreen(u"A").center();
+    sheet.DragOnScreen(at, {3, 0}, Qt::AltModifier);
+    EXPECT_EQ(sheet.design.History().count(), 0);
+    sheet.DragOnScreen(at, {4, 0}, Qt::AltModifier);
+    EXPECT_EQ(sheet.design.History().count(), 1);
+    EXPECT_NEAR(sheet.PlaceOf(u"A").left, 240 + 60 / Factor(), 0.01);
 }
 
 TEST_P(AtZoom, AHandleSizes) {
-    Zoomed form(GetParam());
-    form.Select({u"A"});
-    const QRect rect = form.OnScreen(u"A");
-    form.DragOnScreen(rect.bottomRight() + QPoint(4, 4), {Pixels(600), Pixels(480)},
-                      Qt::AltModifier);
-    EXPECT_EQ(form.PlaceOf(u"A"), (Placement{240, 240, 1800, 1080}));
-    EXPECT_EQ(form.design.History().text(0), "Size A");
+    Zoomed sheet(GetParam());
+    sheet.Select({u"A"});
+    const QRect rect = sheet.OnScreen(u"A");
+    sheet.DragOnScreen(rect.bottomRight() + QPoint(4, 4), {Pixels(600), Pixels(480)},
+                       Qt::AltModifier);
+    EXPECT_EQ(sheet.PlaceOf(u"A"), (Placement{240, 240, 1800, 1080}));
+    EXPECT_EQ(sheet.design.History().text(0), "Size A");
 }
 
 TEST_P(AtZoom, TheFormIsSizedByItsHandle) {
-    Zoomed form(GetParam());
-    form.design.Select({});
-    const lumenform::ClientArea& client = form.design.View().Client();
+    Zoomed sheet(GetParam());
+    sheet.design.Select({});
+    const lumenform::ClientArea& client = sheet.design.View().Client();
     const QSize before = client.size();
-    const QPoint corner = form.OnGlass(QPoint(before.width(), before.height()));
-    form.DragOnScreen(corner + QPoint(3, 3), {Pixels(1200), Pixels(720)}, Qt::AltModifier);
+    const QPoint corner = sheet.OnGlass(QPoint(before.width(), before.height()));
+    sheet.DragOnScreen(corner + QPoint(3, 3), {Pixels(1200), Pixels(720)}, Qt::AltModifier);
     EXPECT_EQ(client.size(), before + QSize(80, 48));
     QApplication::processEvents();
-    EXPECT_GE(form.canvas->widget()->width(), (before.width() + 80) * Factor());
+    EXPECT_GE(sheet.canvas->widget()->width(), (before.width() + 80) * Factor());
 }
 
 TEST_P(AtZoom, ABandSelectsWhatItTouches) {
-    Zoomed form(GetParam());
-    const QPoint above = form.OnGlass({4, 4});
-    form.DragOnScreen(above, form.OnScreen(u"A").topLeft() + QPoint(3, 3) - above);
-    EXPECT_THAT(form.Selected(), ElementsAre("A"));
-    form.design.Select({});  // no handle is in the way
-    form.DragOnScreen(above, form.OnScreen(u"F").center() - above);
-    EXPECT_THAT(form.Selected(), ElementsAre("A", "F"));
+    Zoomed sheet(GetParam());
+    const QPoint above = sheet.OnGlass({4, 4});
+    sheet.DragOnScreen(above, sheet.OnScreen(u"A").topLeft() + QPoint(3, 3) - above);
+    EXPECT_THAT(sheet.Selected(), ElementsAre("A"));
+    sheet.design.Select({});  // no handle is in the way
+    sheet.DragOnScreen(above, sheet.OnScreen(u"F").center() - above);
+    EXPECT_THAT(sheet.Selected(), ElementsAre("A", "F"));
 }
 
 TEST_P(AtZoom, AControlIsDrawnAtItsPlace) {
-    Zoomed form(GetParam());
+    Zoomed sheet(GetParam());
     Placement drawn;
     const lumenform::LiveControl* in = nullptr;
-    QObject::connect(form.canvas, &lumenform::Canvas::Drawn,
+    QObject::connect(sheet.canvas, &lumenform::Canvas::Drawn,
                      [&](const Text&, lumenform::LiveControl* container, const Placement& place) {
                          drawn = place;
                          in = container;
                      });
-    form.canvas->BeginDrawing(u"VB.TextBox");
-    form.DragOnScreen(form.OnGlass({16, 96}), {Pixels(1200), Pixels(600)});
+    sheet.canvas->BeginDrawing(u"VB.TextBox");
+    sheet.DragOnScreen(sheet.OnGlass({16, 96}), {Pixels(1200), Pixels(600)});
     EXPECT_EQ(drawn, (Placement{240, 1440, 1200, 600}));
     EXPECT_EQ(in, nullptr);
-    form.canvas->BeginDrawing(u"VB.TextBox");
-    const QPoint inFrame = form.OnScreen(u"F").topLeft() + QPoint(Pixels(240), Pixels(960));
-    form.DragOnScreen(inFrame, {Pixels(1200), Pixels(600)});
-    EXPECT_EQ(in, &form.Control(u"F"));
+    sheet.canvas->BeginDrawing(u"VB.TextBox");
+    const QPoint inFrame = sheet.OnScreen(u"F").topLeft() + QPoint(Pixels(240), Pixels(960));
+    sheet.DragOnScreen(inFrame, {Pixels(1200), Pixels(600)});
+    EXPECT_EQ(in, &sheet.Control(u"F"));
     EXPECT_NEAR(drawn.left, 240, 60) << "counted from the inside of the frame";
     EXPECT_EQ(drawn.width, 1200);
 }
 
 TEST_P(AtZoom, AControlIsDroppedIntoAContainer) {
-    Zoomed form(GetParam());
-    const QPoint from = form.OnScreen(u"A").center();
-    const QPoint to = form.OnScreen(u"F").center() + QPoint(0, Pixels(480));
-    form.DragOnScreen(from, to - from);
-    EXPECT_EQ(form.design.History().text(0), "Move A into F");
-    EXPECT_EQ(lumenform::ContainerOf(form.design, form.Control(u"A")), &form.Control(u"F"));
+    Zoomed sheet(GetParam());
+    const QPoint from = sheet.OnScreen(u"A").center();
+    const QPoint to = sheet.OnScreen(u"F").center() + QPoint(0, Pixels(480));
+    sheet.DragOnScreen(from, to - from);
+    EXPECT_EQ(sheet.design.History().text(0), "Move A into F");
+    EXPECT_EQ(lumenform::ContainerOf(sheet.design, sheet.Control(u"A")), &sheet.Control(u"F"));
 }
 
 TEST_P(AtZoom, ADoubleClickActivates) {
-    Zoomed form(GetParam());
+    Zoomed sheet(GetParam());
     const lumenform::LiveControl* activated = nullptr;
-    QObject::connect(form.canvas, &lumenform::Canvas::Activated,
+    QObject::connect(sheet.canvas, &lumenform::Canvas::Activated,
                      [&](const lumenform::LiveControl& control) { activated = &control; });
-    form.ClickOnScreen(form.OnScreen(u"T").center());
-    form.Send(QEvent::MouseButtonDblClick, form.OnScreen(u"T").center());
-    EXPECT_EQ(activated, &form.Control(u"T"));
+    sheet.ClickOnScreen(sheet.OnScreen(u"T").center());
+    sheet.Send(QEvent::MouseButtonDblClick, sheet.OnScreen(u"T").center());
+    EXPECT_EQ(activated, &sheet.Control(u"T"));
 }
 
 TEST_P(AtZoom, ClicksGiveTheTabOrder) {
-    Zoomed form(GetParam(),
-                "   Begin VB.TextBox A\n Left = 240\n Top = 240\n Width = 1200\n"
-                " Height = 480\n TabIndex = 0\n End\n"
-                "   Begin VB.TextBox B\n Left = 240\n Top = 1200\n Width = 1200\n"
-                " Height = 480\n TabIndex = 1\n End\n");
-    form.canvas->SetTabOrderMode(true);
-    form.ClickOnScreen(form.OnScreen(u"B").center());
-    form.ClickOnScreen(form.OnScreen(u"A").center());
-    EXPECT_EQ(form.Control(u"B").TabIndex(), 0);
-    EXPECT_EQ(form.Control(u"A").TabIndex(), 1);
+    Zoomed sheet(GetParam(),
+                 "   Begin VB.TextBox A\n Left = 240\n Top = 240\n Width = 1200\n"
+                 " Height = 480\n TabIndex = 0\n End\n"
+                 "   Begin VB.TextBox B\n Left = 240\n Top = 1200\n Width = 1200\n"
+                 " Height = 480\n TabIndex = 1\n End\n");
+    sheet.canvas->SetTabOrderMode(true);
+    sheet.ClickOnScreen(sheet.OnScreen(u"B").center());
+    sheet.ClickOnScreen(sheet.OnScreen(u"A").center());
+    EXPECT_EQ(sheet.Control(u"B").TabIndex(), 0);
+    EXPECT_EQ(sheet.Control(u"A").TabIndex(), 1);
 }
 
 TEST_P(AtZoom, AMenuOfTheBarIsSelected) {
-    Zoomed form(GetParam(),
-                "   Begin VB.Menu mnuFile\n      Caption = \"File\"\n   End\n"
-                "   Begin VB.Menu mnuEdit\n      Caption = \"Edit\"\n   End\n");
-    const int bar = form.design.View().Client().mapTo(&form.design.View(), QPoint()).y();
+    Zoomed sheet(GetParam(),
+                 "   Begin VB.Menu mnuFile\n      Caption = \"File\"\n   End\n"
+                 "   Begin VB.Menu mnuEdit\n      Caption = \"Edit\"\n   End\n");
+    const int bar = sheet.design.View().Client().mapTo(&sheet.design.View(), QPoint()).y();
     ASSERT_GT(bar, 0);
-    form.ClickOnScreen(form.OnGlass({12, -bar / 2}));
-    ASSERT_EQ(form.design.SelectedMenus().size(), 1);
-    EXPECT_EQ(form.design.SelectedMenus().front()->Name(), u"mnuFile");
+    sheet.ClickOnScreen(sheet.OnGlass({12, -bar / 2}));
+    ASSERT_EQ(sheet.design.SelectedMenus().size(), 1);
+    EXPECT_EQ(sheet.design.SelectedMenus().front()->Name(), u"mnuFile");
 }
 
 TEST_P(AtZoom, AClickOnATabShowsItsPage) {
-    Zoomed form(GetParam(),
-                "   Begin TabDlg.SSTab S\n Height = 1800\n Left = 240\n Top = 240\n"
-                " Width = 3600\n Tabs = 2\n Tab = 0\n TabCaption(0) = \"First\"\n"
-                " TabCaption(1) = \"Second\"\n End\n");
-    const lumenform::TabPages& pages = *form.Control(u"S").Pages();
+    Zoomed sheet(GetParam(),
+                 "   Begin TabDlg.SSTab S\n Height = 1800\n Left = 240\n Top = 240\n"
+                 " Width = 3600\n Tabs = 2\n Tab = 0\n TabCaption(0) = \"First\"\n"
+                 " TabCaption(1) = \"Second\"\n End\n");
+    const lumenform::TabPages& pages = *sheet.Control(u"S").Pages();
     ASSERT_EQ(pages.Shown(), 0);
     const auto onTab = [&](int page) {
         int x = 0;
         while (x < pages.width() && pages.TabAt({x, 10}) != page) {
             ++x;
         }
-        return pages.mapTo(&form.design.View().Client(), QPoint(x + 20, 10));
+        return pages.mapTo(&sheet.design.View().Client(), QPoint(x + 20, 10));
     };
-    form.ClickOnScreen(form.OnGlass(onTab(1)));
+    sheet.ClickOnScreen(sheet.OnGlass(onTab(1)));
     EXPECT_EQ(pages.Shown(), 1);
-    form.ClickOnScreen(form.OnGlass(onTab(0)));
+    sheet.ClickOnScreen(sheet.OnGlass(onTab(0)));
     EXPECT_EQ(pages.Shown(), 0);
-    EXPECT_EQ(form.design.History().count(), 0);
+    EXPECT_EQ(sheet.design.History().count(), 0);
 }
 
 TEST_P(AtZoom, AClickSelectsTheControlUnderTheMouse) {
-    Zoomed form(GetParam());
+    Zoomed sheet(GetParam());
     std::mt19937 random(11);
     std::uniform_int_distribution<int> across(0, 299);
     std::uniform_int_distribution<int> down(0, 199);
     const auto isIn = [&](TextView name, QPoint at, QPointF origin = {}) {
-        const Placement place = form.PlaceOf(name);
+        const Placement place = sheet.PlaceOf(name);
         return QRectF(origin.x() + place.left / 15, origin.y() + place.top / 15, place.width / 15,
                       place.height / 15)
             .contains(at);
@@ -303,73 +303,73 @@ TEST_P(AtZoom, AClickSelectsTheControlUnderTheMouse) {
                                      : isIn(u"F", at)         ? "F"
                                      : isIn(u"A", at)         ? "A"
                                                               : "";
-        form.canvas->GetGlass().setFocus();
-        form.design.Select({});
-        const QPointF onDesk = form.canvas->GetZoom().ToDesk(
-            QPointF(form.design.View().Client().mapTo(&form.design.View(), at)));
-        form.ClickOnScreen({static_cast<int>(onDesk.x()), static_cast<int>(onDesk.y())});
-        const std::vector<std::string> selected = form.Selected();
+        sheet.canvas->GetGlass().setFocus();
+        sheet.design.Select({});
+        const QPointF onDesk = sheet.canvas->GetZoom().ToDesk(
+            QPointF(sheet.design.View().Client().mapTo(&sheet.design.View(), at)));
+        sheet.ClickOnScreen({static_cast<int>(onDesk.x()), static_cast<int>(onDesk.y())});
+        const std::vector<std::string> selected = sheet.Selected();
         EXPECT_EQ(selected.empty() ? "" : selected.front(), expected) << at.x() << ", " << at.y();
     }
 }
 
 TEST_P(AtZoom, ThePointerIsToldInTwips) {
-    Zoomed form(GetParam());
+    Zoomed sheet(GetParam());
     QPointF told;
-    QObject::connect(form.canvas, &lumenform::Canvas::PointerMoved,
+    QObject::connect(sheet.canvas, &lumenform::Canvas::PointerMoved,
                      [&](QPointF twips) { told = twips; });
-    form.Send(QEvent::MouseMove, form.OnGlass({80, 40}));
+    sheet.Send(QEvent::MouseMove, sheet.OnGlass({80, 40}));
     EXPECT_EQ(told, QPointF(1200, 600));
 }
 
 TEST_P(AtZoom, AnArrowKeyMovesByAGridStep) {
-    Zoomed form(GetParam());
-    form.Select({u"A"});
-    form.Key(Qt::Key_Right);
-    form.Key(Qt::Key_Down, Qt::ControlModifier);
-    EXPECT_EQ(form.PlaceOf(u"A"), (Placement{360, 255, 1200, 600}));
+    Zoomed sheet(GetParam());
+    sheet.Select({u"A"});
+    sheet.Key(Qt::Key_Right);
+    sheet.Key(Qt::Key_Down, Qt::ControlModifier);
+    EXPECT_EQ(sheet.PlaceOf(u"A"), (Placement{360, 255, 1200, 600}));
 }
 
 TEST_P(AtZoom, WhatTheKeyboardSelectsIsScrolledIntoView) {
-    const DesignedForm form(
+    const DesignedForm sheet(
         FormOf("VERSION 5.00\nBegin VB.Form Form1\n   ClientHeight = 60000\n"
                "   ClientWidth = 60000\n"
                "   Begin VB.TextBox Far\n Left = 57000\n Top = 57000\n Width = 600\n"
                " Height = 300\n TabIndex = 0\n End\nEnd\n"));
-    form.canvas->SetZoom(GetParam());
-    QTest::keyClick(&form.canvas->GetGlass(), Qt::Key_Tab);
-    const QWidget& far = form.Control(u"Far").Widget();
-    const QRect rect =
-        form.canvas->GetZoom().ToDesk(QRect(far.mapTo(&form.design.View(), QPoint()), far.size()));
-    EXPECT_TRUE(form.canvas->GetGlass().visibleRegion().contains(rect.center()));
+    sheet.canvas->SetZoom(GetParam());
+    QTest::keyClick(&sheet.canvas->GetGlass(), Qt::Key_Tab);
+    const QWidget& far = sheet.Control(u"Far").Widget();
+    const QRect rect = sheet.canvas->GetZoom().ToDesk(
+        QRect(far.mapTo(&sheet.design.View(), QPoint()), far.size()));
+    EXPECT_TRUE(sheet.canvas->GetGlass().visibleRegion().contains(rect.center()));
 }
 
 TEST_P(AtZoom, AChangeIsPainted) {
-    Zoomed form(GetParam(),
-                "   BackColor = &H00FFFFFF&\n   Begin VB.PictureBox P\n"
-                " BackColor = &H000000FF&\n BorderStyle = 0\n"
-                " Left = 300\n Top = 300\n Width = 1200\n Height = 1200\n End\n");
-    form.canvas->SetGrid({.isShown = false});
-    form.design.Select({});
+    Zoomed sheet(GetParam(),
+                 "   BackColor = &H00FFFFFF&\n   Begin VB.PictureBox P\n"
+                 " BackColor = &H000000FF&\n BorderStyle = 0\n"
+                 " Left = 300\n Top = 300\n Width = 1200\n Height = 1200\n End\n");
+    sheet.canvas->SetGrid({.isShown = false});
+    sheet.design.Select({});
     const auto redAt = [&](QPoint at) {
-        const QImage picture = form.Picture();
-        const double scale = Factor() * form.canvas->devicePixelRatioF();
+        const QImage picture = sheet.Picture();
+        const double scale = Factor() * sheet.canvas->devicePixelRatioF();
         return picture.pixelColor((QPointF(at) * scale).toPoint()) == QColor(Qt::red);
     };
     EXPECT_TRUE(redAt({60, 60}));
     EXPECT_FALSE(redAt({200, 60}));
-    form.Control(u"P").Move({.left = 2400, .top = 300, .width = 1200, .height = 1200});
+    sheet.Control(u"P").Move({.left = 2400, .top = 300, .width = 1200, .height = 1200});
     EXPECT_TRUE(QTest::qWaitFor([&] { return !redAt({60, 60}) && redAt({200, 60}); }));
 }
 
 TEST_P(AtZoom, ANewViewIsShownAtTheScale) {
-    Zoomed form(GetParam());
-    const QSize before = form.Picture().size();
-    form.design.Restructure("Caption", [&] {
-        form.design.Document().Root().Set(u"BackColor", forms::HexNumber{0x00FFFFFF});
+    Zoomed sheet(GetParam());
+    const QSize before = sheet.Picture().size();
+    sheet.design.Restructure("Caption", [&] {
+        sheet.design.Document().Root().Set(u"BackColor", forms::HexNumber{0x00FFFFFF});
         return std::vector<Text>();
     });
-    const QImage picture = form.Picture();
+    const QImage picture = sheet.Picture();
     EXPECT_EQ(picture.size(), before);
     EXPECT_EQ(picture.pixelColor(picture.width() - 3, picture.height() - 3), QColor(Qt::white));
 }
@@ -377,15 +377,15 @@ TEST_P(AtZoom, ANewViewIsShownAtTheScale) {
 // ---- The picture
 
 TEST(ZoomPicture, At100PercentTheFormIsAsBefore) {
-    Zoomed form(100);
-    const QImage before = form.Picture();
-    EXPECT_TRUE(form.canvas->isAncestorOf(&form.design.View()));
-    form.canvas->SetZoom(200);
-    EXPECT_NE(form.Picture(), before);
-    EXPECT_FALSE(form.canvas->isAncestorOf(&form.design.View()));
-    form.canvas->SetZoom(100);
-    EXPECT_EQ(form.Picture(), before);
-    EXPECT_TRUE(form.canvas->isAncestorOf(&form.design.View()));
+    Zoomed sheet(100);
+    const QImage before = sheet.Picture();
+    EXPECT_TRUE(sheet.canvas->isAncestorOf(&sheet.design.View()));
+    sheet.canvas->SetZoom(200);
+    EXPECT_NE(sheet.Picture(), before);
+    EXPECT_FALSE(sheet.canvas->isAncestorOf(&sheet.design.View()));
+    sheet.canvas->SetZoom(100);
+    EXPECT_EQ(sheet.Picture(), before);
+    EXPECT_TRUE(sheet.canvas->isAncestorOf(&sheet.design.View()));
 }
 
 const std::string texts =
@@ -425,24 +425,24 @@ std::vector<InkedLine> InkedLines(const QImage& picture) {
 }
 
 // The part of a form's picture with a control.
-QImage PartOf(const Zoomed& form, TextView name) {
-    const double scale = form.canvas->GetZoom().Factor() * form.canvas->devicePixelRatioF();
-    const QWidget& widget = form.Control(name).Widget();
-    const QPoint at = widget.mapTo(&form.design.View().Client(), QPoint());
-    return form.Picture().copy(
+QImage PartOf(const Zoomed& sheet, TextView name) {
+    const double scale = sheet.canvas->GetZoom().Factor() * sheet.canvas->devicePixelRatioF();
+    const QWidget& widget = sheet.Control(name).Widget();
+    const QPoint at = widget.mapTo(&sheet.design.View().Client(), QPoint());
+    return sheet.Picture().copy(
         QRect((QPointF(at) * scale).toPoint(), (QSizeF(widget.size()) * scale).toSize()));
 }
 
 TEST(ZoomPicture, TextsHaveTheSameLineBreaks) {
     for (const TextView name : {u"L", u"V"}) {
-        Zoomed form(100, texts);
-        form.canvas->SetGrid({.isShown = false});
-        form.design.Select({});
-        const std::vector<InkedLine> usual = InkedLines(PartOf(form, name));
+        Zoomed sheet(100, texts);
+        sheet.canvas->SetGrid({.isShown = false});
+        sheet.design.Select({});
+        const std::vector<InkedLine> usual = InkedLines(PartOf(sheet, name));
         ASSERT_GE(usual.size(), 3);
         for (const int percent : {150, 200, 230, 400}) {
-            form.canvas->SetZoom(percent);
-            const std::vector<InkedLine> zoomed = InkedLines(PartOf(form, name));
+            sheet.canvas->SetZoom(percent);
+            const std::vector<InkedLine> zoomed = InkedLines(PartOf(sheet, name));
             // The dot of an i can be a line of its own on a larger scale.
             std::vector<int> ends;
             for (const InkedLine& line : zoomed) {
@@ -453,7 +453,7 @@ TEST(ZoomPicture, TextsHaveTheSameLineBreaks) {
             ASSERT_EQ(ends.size(), usual.size()) << percent;
             for (std::size_t line = 0; line < ends.size(); ++line) {
                 EXPECT_NEAR(ends[line], usual[line].right * percent / 100.0,
-                            4.0 * percent / 100 * form.canvas->devicePixelRatioF())
+                            4.0 * percent / 100 * sheet.canvas->devicePixelRatioF())
                     << percent << " %, line " << line;
             }
         }
@@ -464,12 +464,12 @@ TEST(ZoomPicture, TextsHaveTheSameLineBreaks) {
 // colour, or soft edges that are as wide as the scale.
 TEST(ZoomPicture, TextsAreSharp) {
     for (const TextView name : {u"L", u"V"}) {
-        Zoomed form(100, texts);
-        form.canvas->SetGrid({.isShown = false});
-        form.design.Select({});
-        const QImage usual = PartOf(form, name);
-        form.canvas->SetZoom(400);
-        const QImage sharp = PartOf(form, name);
+        Zoomed sheet(100, texts);
+        sheet.canvas->SetGrid({.isShown = false});
+        sheet.design.Select({});
+        const QImage usual = PartOf(sheet, name);
+        sheet.canvas->SetZoom(400);
+        const QImage sharp = PartOf(sheet, name);
         const auto greys = [](const QImage& picture) {
             int count = 0;
             for (int y = 0; y < picture.height(); ++y) {
@@ -495,13 +495,13 @@ TEST(ZoomPicture, BulletsGrowWithTheText) {
         "      Width = 2400\n      BackColor = &H00FFFFFF&\n"
         "      BulletIndent = 600\n      BulletPrefix = \"* \"\n      Caption = \"* text\"\n"
         "   End\n";
-    Zoomed form(100, bulleted);
-    form.canvas->SetGrid({.isShown = false});
-    form.design.Select({});
+    Zoomed sheet(100, bulleted);
+    sheet.canvas->SetGrid({.isShown = false});
+    sheet.design.Select({});
     // The inked part left of the text.
     const auto bullet = [&] {
-        const double scale = form.canvas->GetZoom().Factor() * form.canvas->devicePixelRatioF();
-        const QImage part = PartOf(form, u"V");
+        const double scale = sheet.canvas->GetZoom().Factor() * sheet.canvas->devicePixelRatioF();
+        const QImage part = PartOf(sheet, u"V");
         QRect inked;
         for (int y = 0; y < part.height(); ++y) {
             for (int x = 0; x < 30 * scale; ++x) {
@@ -515,7 +515,7 @@ TEST(ZoomPicture, BulletsGrowWithTheText) {
     const QRect usual = bullet();
     ASSERT_FALSE(usual.isEmpty());
     for (const int percent : {25, 200, 400}) {
-        form.canvas->SetZoom(percent);
+        sheet.canvas->SetZoom(percent);
         const QRect zoomed = bullet();
         EXPECT_NEAR(zoomed.width(), usual.width() * percent / 100.0, 1.5) << percent;
         EXPECT_NEAR(zoomed.height(), usual.height() * percent / 100.0, 1.5) << percent;
@@ -524,11 +524,11 @@ TEST(ZoomPicture, BulletsGrowWithTheText) {
 }
 
 TEST(ZoomPicture, DotsOfTheGridKeepTheirSize) {
-    Zoomed form(400, "   BackColor = &H00FFFFFF&\n");
-    form.design.Select({});
-    const QImage picture = form.Picture();
-    const double scale = 4 * form.canvas->devicePixelRatioF();
-    const int size = static_cast<int>(form.canvas->devicePixelRatioF());
+    Zoomed sheet(400, "   BackColor = &H00FFFFFF&\n");
+    sheet.design.Select({});
+    const QImage picture = sheet.Picture();
+    const double scale = 4 * sheet.canvas->devicePixelRatioF();
+    const int size = static_cast<int>(sheet.canvas->devicePixelRatioF());
     for (const QPoint dot : {QPoint(8, 8), QPoint(16, 40)}) {
         const QPoint at = (QPointF(dot) * scale).toPoint();
         int dark = 0;
@@ -553,20 +553,20 @@ class PaintCounter final : public QObject {
 };
 
 TEST(ZoomPicture, ScrollingPaintsNoControlAgain) {
-    Zoomed form(400);
+    Zoomed sheet(400);
     QApplication::processEvents();
-    QScrollBar& bar = *form.canvas->horizontalScrollBar();
+    QScrollBar& bar = *sheet.canvas->horizontalScrollBar();
     ASSERT_GT(bar.maximum(), 200);
-    form.Picture();  // of all of it
-    PaintCounter counter(form.Control(u"A").Widget());
+    sheet.Picture();  // of all of it
+    PaintCounter counter(sheet.Control(u"A").Widget());
     for (const int value : {100, 200, bar.maximum(), 50, 0}) {
         bar.setValue(value);
         QApplication::processEvents();
     }
     EXPECT_EQ(counter.count, 0);
-    form.Control(u"A").Widget().update();
+    sheet.Control(u"A").Widget().update();
     EXPECT_TRUE(QTest::qWaitFor([&] {
-        form.Picture();
+        sheet.Picture();
         return counter.count > 0;
     }));
 }
@@ -597,49 +597,49 @@ TEST(ZoomChoice, TheWheelKeepsThePointUnderTheMouse) {
 }
 
 TEST(ZoomChoice, FineStepsOfAWheelAddUp) {
-    Zoomed form(100);
+    Zoomed sheet(100);
     for (int turn = 0; turn < 4; ++turn) {
-        EXPECT_EQ(form.canvas->GetZoom().percent, 100);
-        QWheelEvent event(QPoint(50, 50), form.canvas->viewport()->mapToGlobal(QPoint(50, 50)), {},
+        EXPECT_EQ(sheet.canvas->GetZoom().percent, 100);
+        QWheelEvent event(QPoint(50, 50), sheet.canvas->viewport()->mapToGlobal(QPoint(50, 50)), {},
                           {0, 30}, Qt::NoButton, Qt::ControlModifier, Qt::NoScrollPhase, false);
-        QApplication::sendEvent(form.canvas->viewport(), &event);
+        QApplication::sendEvent(sheet.canvas->viewport(), &event);
     }
-    EXPECT_EQ(form.canvas->GetZoom().percent, 150);
+    EXPECT_EQ(sheet.canvas->GetZoom().percent, 150);
 }
 
 TEST(ZoomChoice, TheWholeFormFits) {
-    Zoomed form(400);
-    form.canvas->FitZoom();
+    Zoomed sheet(400);
+    sheet.canvas->FitZoom();
     QApplication::processEvents();
-    EXPECT_EQ(form.canvas->horizontalScrollBar()->maximum(), 0);
-    EXPECT_EQ(form.canvas->verticalScrollBar()->maximum(), 0);
-    const int fits = form.canvas->GetZoom().percent;
+    EXPECT_EQ(sheet.canvas->horizontalScrollBar()->maximum(), 0);
+    EXPECT_EQ(sheet.canvas->verticalScrollBar()->maximum(), 0);
+    const int fits = sheet.canvas->GetZoom().percent;
     EXPECT_GT(fits, 100) << "a small form in a large window";
-    form.canvas->SetZoom(fits + 5);
+    sheet.canvas->SetZoom(fits + 5);
     QApplication::processEvents();
-    EXPECT_GT(
-        form.canvas->horizontalScrollBar()->maximum() + form.canvas->verticalScrollBar()->maximum(),
-        0);
+    EXPECT_GT(sheet.canvas->horizontalScrollBar()->maximum() +
+                  sheet.canvas->verticalScrollBar()->maximum(),
+              0);
 }
 
 TEST(ZoomChoice, ADragKeepsItsScale) {
-    Zoomed form(200);
-    const QPoint at = form.OnScreen(u"A").center();
-    form.Send(QEvent::MouseButtonPress, at);
-    form.Send(QEvent::MouseMove, at + QPoint(40, 0));
-    form.canvas->SetZoom(400);
-    EXPECT_EQ(form.canvas->GetZoom().percent, 200);
-    form.Send(QEvent::MouseButtonRelease, at + QPoint(40, 0));
-    form.canvas->SetZoom(400);
-    EXPECT_EQ(form.canvas->GetZoom().percent, 400);
+    Zoomed sheet(200);
+    const QPoint at = sheet.OnScreen(u"A").center();
+    sheet.Send(QEvent::MouseButtonPress, at);
+    sheet.Send(QEvent::MouseMove, at + QPoint(40, 0));
+    sheet.canvas->SetZoom(400);
+    EXPECT_EQ(sheet.canvas->GetZoom().percent, 200);
+    sheet.Send(QEvent::MouseButtonRelease, at + QPoint(40, 0));
+    sheet.canvas->SetZoom(400);
+    EXPECT_EQ(sheet.canvas->GetZoom().percent, 400);
 }
 
 TEST(ZoomChoice, EndsAreKept) {
-    Zoomed form(100);
-    form.canvas->SetZoom(3);
-    EXPECT_EQ(form.canvas->GetZoom().percent, 25);
-    form.canvas->SetZoom(1000);
-    EXPECT_EQ(form.canvas->GetZoom().percent, 400);
+    Zoomed sheet(100);
+    sheet.canvas->SetZoom(3);
+    EXPECT_EQ(sheet.canvas->GetZoom().percent, 25);
+    sheet.canvas->SetZoom(1000);
+    EXPECT_EQ(sheet.canvas->GetZoom().percent, 400);
 }
 
 class ZoomMenuTest : public OpenedWindow {
