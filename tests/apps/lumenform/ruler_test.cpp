@@ -168,9 +168,9 @@ TEST(Rulers, LabelsNeverReachEachOther) {
 
 TEST(Rulers, FollowScrolling) {
     RuledForm sheet({}, 400);
-    const double before = PlaceOf(sheet.Upper(), "0");
+    const double before = PlaceOf(sheet.Upper(), "1000");
     sheet.canvas->horizontalScrollBar()->setValue(150);
-    EXPECT_EQ(before - PlaceOf(sheet.Upper(), "0"), 150);
+    EXPECT_EQ(before - PlaceOf(sheet.Upper(), "1000"), 150);
 }
 
 const std::string ruledControl =
