@@ -388,6 +388,21 @@ TEST(ZoomPicture, At100PercentTheFormIsAsBefore) {
     EXPECT_TRUE(sheet.canvas->isAncestorOf(&sheet.design.View()));
 }
 
+TEST(ZoomPicture, TheCanvasGivesAZoomedViewBack) {
+    Surface surface;
+    lumenform::FormDesign design(surface.context, FormWith("   Begin VB.Label A\n End\n"));
+    auto canvas = std::make_unique<lumenform::Canvas>(design);
+    canvas->SetZoom(200);
+    design.Restructure("Caption", [&] {
+        design.Document().Root().Set(u"Caption", forms::TextLiteral(u"Another"));
+        return std::vector<Text>();
+    });
+    EXPECT_NE(design.View().parentWidget(), nullptr);
+    canvas.reset();
+    EXPECT_EQ(design.View().parentWidget(), nullptr);
+    EXPECT_EQ(design.View().Controls().size(), 1);
+}
+
 const std::string texts =
     "   BackColor = &H00FFFFFF&\n"
     "   Begin VB.Label L\n      BackColor = &H00FFFFFF&\n      Height = 1200\n      Left = 120\n"

@@ -69,6 +69,7 @@ QPixmap PictureOf(QWidget& widget, double scale) {
 
 ZoomedView::ZoomedView(QWidget* parent) : QWidget(parent), stage_(new QWidget), tiles_(mostKept) {
     setAttribute(Qt::WA_OpaquePaintEvent);
+    stage_->setAttribute(Qt::WA_QuitOnClose, false);  // nobody sees or closes it
     scene_.addWidget(stage_);
     connect(&scene_, &QGraphicsScene::changed, this, [this](const QList<QRectF>& parts) {
         for (const QRectF& part : parts) {
