@@ -6,7 +6,10 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QMouseEvent>
+#include <QPixmap>
 #include <QPushButton>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QVBoxLayout>
 #include <array>
 #include <memory>
@@ -182,6 +185,63 @@ Side MovingPlain() {
             events};
 }
 
+// A form at 200 % on a design canvas that shows a part of it.
+class Scrolled {
+ public:
+    explicit Scrolled(QtStage& stage) : design_(stage.Context(), ParseForm(FormText())) {
+        canvas_ = new lumenform::Canvas(design_);
+        auto* const layout = new QVBoxLayout(&window_);
+        layout->setContentsMargins(0, 0, 0, 0);
+        layout->addWidget(canvas_);
+        canvas_->SetZoom(2 * lumenform::Zoom::full);
+        QApplication::processEvents();
+        MoveInTurn([this](int down) { ScrollTo(down); });
+    }
+
+    void ScrollTo(int down) {
+        canvas_->verticalScrollBar()->setValue(down);
+        canvas_->repaint();
+        QApplication::processEvents();
+    }
+
+ private:
+    lumenform::FormDesign design_;
+    StageWindow window_;
+    lumenform::Canvas* canvas_;
+};
+
+Side Scrolling(QtStage& stage) {
+    return {[scrolled = std::make_shared<Scrolled>(stage)] {
+                MoveInTurn([&](int down) { scrolled->ScrollTo(down); });
+            },
+            events};
+}
+
+// A picture of the same size in a scroll area.
+Side ScrollingPicture() {
+    struct Plain {
+        StageWindow window;
+        QScrollArea* area = new QScrollArea(&window);
+    };
+    auto plain = std::make_shared<Plain>();
+    QPixmap picture(lumenkit::qt::ToPixels({.width = 21600, .height = 14400}).size());
+    picture.fill(Qt::white);
+    auto* const label = new QLabel;
+    label->setPixmap(picture);
+    plain->area->setWidget(label);
+    plain->area->resize(plain->window.size());
+    plain->area->show();
+    QApplication::processEvents();
+    return {[plain] {
+                MoveInTurn([&](int down) {
+                    plain->area->verticalScrollBar()->setValue(down);
+                    plain->area->repaint();
+                    QApplication::processEvents();
+                });
+            },
+            events};
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
@@ -190,5 +250,7 @@ int main(int argc, char** argv) {
                    OpeningForm(stage), OpeningPlainForm(), Ratio::TimesSlower, "<= 2x"});
     AddComparison({"Qt: drag one of 300 controls in the designer, against moving a plain widget",
                    "event", Dragging(stage), MovingPlain(), Ratio::TimesSlower, "<= 2x"});
+    AddComparison({"Qt: scroll a form of 300 controls at 200 %, against a picture of its size",
+                   "event", Scrolling(stage), ScrollingPicture(), Ratio::TimesSlower, "<= 2x"});
     return lumenkit::bench::RunComparisons(argc, argv);
 }

@@ -2,11 +2,26 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 #include "runtime/qt/palette_color.h"
 #include "runtime/qt/qt_text.h"
 
 namespace lumenkit::qt {
+
+namespace {
+
+// Returns the first and last device pixel that a box covers in one direction. A cell of the box has
+// `zoom` pixels.
+std::pair<double, double> Covered(double corner, double opposite, double near, double far,
+                                  double zoom) {
+    const auto begin = [zoom](double cell) { return std::round(cell * zoom); };
+    const auto end = [zoom](double cell) { return std::round((cell + 1) * zoom) - 1; };
+    const double first = std::min(corner + begin(near), opposite + begin(far));
+    return {first, std::max({corner + end(near), opposite + end(far), first})};
+}
+
+}  // namespace
 
 QRectF KeptPicture::Mark::Place() const {
     return face ? QRectF(at, QSizeF(width, face->LineHeight()))
@@ -61,7 +76,8 @@ void KeptPicture::AddBox(QPointF corner, QPointF opposite, const host::PixelBox&
     ++count_;
 }
 
-void KeptPicture::DrawOn(QPainter& painter, const QRectF& visible, const QPalette& palette) {
+void KeptPicture::DrawOn(QPainter& painter, const QRectF& visible, const QPalette& palette,
+                         double scale) {
     std::optional<Color> pen;
     for (std::size_t index = 0; index < count_; ++index) {
         Mark& mark = marks_[index];
@@ -71,7 +87,7 @@ void KeptPicture::DrawOn(QPainter& painter, const QRectF& visible, const QPalett
         if (mark.face) {
             DrawText(painter, mark, palette, pen);
         } else {
-            DrawBox(painter, mark, palette);
+            DrawBox(painter, mark, palette, scale);
         }
     }
 }
@@ -92,19 +108,19 @@ void KeptPicture::DrawText(QPainter& painter, Mark& mark, const QPalette& palett
 }
 
 // Rounds in device pixels relative to the origin of the device, because that is the grid to fill.
-void KeptPicture::DrawBox(QPainter& painter, const Mark& mark, const QPalette& palette) {
+void KeptPicture::DrawBox(QPainter& painter, const Mark& mark, const QPalette& palette,
+                          double scale) {
     const QTransform& device = painter.deviceTransform();
-    const auto cell = [](double pixels, double scale, double origin) {
-        return std::round(pixels * scale + std::round(origin));
-    };
     const double xScale = device.m11();
     const double yScale = device.m22();
     const auto [left, right] =
-        std::minmax({cell(mark.at.x(), xScale, device.dx()) + mark.cells.left,
-                     cell(mark.opposite.x(), xScale, device.dx()) + mark.cells.right});
+        Covered(std::round(mark.at.x() * xScale + std::round(device.dx())),
+                std::round(mark.opposite.x() * xScale + std::round(device.dx())), mark.cells.left,
+                mark.cells.right, xScale / scale);
     const auto [top, bottom] =
-        std::minmax({cell(mark.at.y(), yScale, device.dy()) + mark.cells.top,
-                     cell(mark.opposite.y(), yScale, device.dy()) + mark.cells.bottom});
+        Covered(std::round(mark.at.y() * yScale + std::round(device.dy())),
+                std::round(mark.opposite.y() * yScale + std::round(device.dy())), mark.cells.top,
+                mark.cells.bottom, yScale / scale);
     painter.fillRect(QRectF(QPointF((left - device.dx()) / xScale, (top - device.dy()) / yScale),
                             QSizeF((right - left + 1) / xScale, (bottom - top + 1) / yScale)),
                      ToQColor(mark.color, palette));

@@ -33,8 +33,10 @@ class KeptPicture {
     void Fill(QPointF corner, QPointF opposite, Color color);
     /// Records a box of device pixels that are counted from the one at `origin`.
     void FillPixels(QPointF origin, const host::PixelBox& box, Color color);
-    /// Draws the marks that touch `visible`.
-    void DrawOn(QPainter& painter, const QRectF& visible, const QPalette& palette);
+    /// Draws the marks that touch `visible`. `scale` is the number of device pixels per pixel for
+    /// which the boxes of device pixels were recorded. At another scale of the painter, they grow
+    /// and shrink with the texts.
+    void DrawOn(QPainter& painter, const QRectF& visible, const QPalette& palette, double scale);
     /// Returns the area that the last mark may cover.
     QRectF LastExtent() const;
     /// Returns the recorded texts, with a line break where the vertical position changed.
@@ -61,7 +63,7 @@ class KeptPicture {
     void AddBox(QPointF corner, QPointF opposite, const host::PixelBox& cells, Color color);
     static void DrawText(QPainter& painter, Mark& mark, const QPalette& palette,
                          std::optional<Color>& pen);
-    static void DrawBox(QPainter& painter, const Mark& mark, const QPalette& palette);
+    static void DrawBox(QPainter& painter, const Mark& mark, const QPalette& palette, double scale);
 
     std::vector<Mark> marks_;  // those behind count_ are reused
     std::size_t count_ = 0;

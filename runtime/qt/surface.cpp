@@ -1,6 +1,7 @@
 #include "runtime/qt/surface.h"
 
 #include <algorithm>
+#include <cmath>
 #include <optional>
 #include <utility>
 
@@ -16,6 +17,15 @@ namespace {
 
 const TwipsPerPixel& Twips() {
     return TwipsPerPixel::OfScreens();
+}
+
+// Shapes of device pixels are made for screens of up to twice the usual resolution. On a finer one
+// they would be specks, so that each of their pixels takes several.
+host::PixelBox OnFineScreen(const host::PixelBox& box, double scale) {
+    const auto pixels = static_cast<int>(std::max(std::round(scale / 2), 1.0));
+    const auto first = [pixels](int cell) { return static_cast<std::int16_t>(cell * pixels); };
+    const auto last = [&](int cell) { return static_cast<std::int16_t>(first(cell) + pixels - 1); };
+    return {first(box.left), first(box.top), last(box.right), last(box.bottom)};
 }
 
 }  // namespace
@@ -80,10 +90,11 @@ void Surface::FillBox(float x1, float y1, float x2, float y2, Color color) {
 }
 
 void Surface::FillPixels(float x, float y, const host::PixelBox& box, Color color) {
-    currentX_ = static_cast<float>(x + box.right * Twips().x / scale_);
-    currentY_ = static_cast<float>(y + box.bottom * Twips().y / scale_);
+    const host::PixelBox fine = OnFineScreen(box, scale_);
+    currentX_ = static_cast<float>(x + fine.right * Twips().x / scale_);
+    currentY_ = static_cast<float>(y + fine.bottom * Twips().y / scale_);
     if (IsRecording()) {
-        picture_.FillPixels({x / Twips().x, y / Twips().y}, box,
+        picture_.FillPixels({x / Twips().x, y / Twips().y}, fine,
                             color == Color{} ? foreColor_ : color);
         Touch();
     }
@@ -112,7 +123,7 @@ void Surface::DrawOn(QPainter& painter, const QRect& exposed) {
     PaintIfOutdated();
     const QPalette palette = area_->palette();
     painter.fillRect(exposed, ToQColor(backColor_, palette));
-    picture_.DrawOn(painter, exposed, palette);
+    picture_.DrawOn(painter, exposed, palette, scale_);
 }
 
 void Surface::PaintIfOutdated() {

@@ -163,6 +163,9 @@ FormView::FormView(const qt::Context& context, forms::Document& document, Mode m
     AddControls(document.Root(), nullptr);
     NameFields();
     MarkLabels();
+    if (mode == Mode::Design) {
+        RefuseFocus();
+    }
 }
 
 FormView::~FormView() {
@@ -250,6 +253,18 @@ void FormView::MarkLabels() {
             label->setBuddy(next->widget);
         } else {
             label->setText(qt::WithoutMnemonic(label->text()));
+        }
+    }
+}
+
+// Only after the labels were marked: their access keys lead to widgets that take the focus.
+void FormView::RefuseFocus() {
+    for (const auto& control : controls_) {
+        if (control->Hosted() == nullptr) {
+            control->Widget().setFocusPolicy(Qt::NoFocus);
+            for (QWidget* const part : control->Widget().findChildren<QWidget*>()) {
+                part->setFocusPolicy(Qt::NoFocus);
+            }
         }
     }
 }

@@ -58,6 +58,7 @@ class FormView final : public QWidget {
     void AddControls(const forms::Block& block, const LiveControl* container);
     void NameFields();
     void MarkLabels();
+    void RefuseFocus();
 
     std::shared_ptr<UserControlFiles> userControls_;
     Stage stage_;

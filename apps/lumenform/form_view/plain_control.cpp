@@ -84,10 +84,6 @@ void PlainControl::SetUp(const Stage& stage, const qt::Font& font) {
     }
     if (design) {
         widget_->setAttribute(Qt::WA_TransparentForMouseEvents);
-        widget_->setFocusPolicy(Qt::NoFocus);
-        for (QWidget* part : widget_->findChildren<QWidget*>()) {
-            part->setFocusPolicy(Qt::NoFocus);
-        }
     }
 }
 

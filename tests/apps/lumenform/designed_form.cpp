@@ -87,8 +87,9 @@ std::vector<std::string> DesignedForm::ChangedSince(const std::string& before) c
 }
 
 QPoint DesignedForm::OnGlass(QPoint onForm) const {
-    const QPoint global = design.View().Client().mapToGlobal(onForm);
-    return canvas->GetGlass().mapFromGlobal(global);
+    return canvas->GetZoom()
+        .ToDesk(QPointF(design.View().Client().mapTo(&design.View(), onForm)))
+        .toPoint();
 }
 
 QPoint DesignedForm::OnForm(const QWidget& widget, QPoint at) const {

@@ -9,14 +9,15 @@
 namespace lumenkit::qt {
 namespace {
 
-// Draws a picture on a white image of 40 by 40 pixels at `scale` device pixels a pixel.
-QImage ImageOf(KeptPicture& picture, double scale) {
-    const int side = static_cast<int>(40 * scale);
+// Draws a picture on a white image of 40 by 40 pixels at `scale` device pixels a pixel, and larger
+// or smaller by `zoom`.
+QImage ImageOf(KeptPicture& picture, double scale, double zoom = 1) {
+    const int side = static_cast<int>(40 * scale * zoom);
     QImage image(side, side, QImage::Format_RGB32);
     image.fill(Qt::white);
     QPainter painter(&image);
-    painter.scale(scale, scale);
-    picture.DrawOn(painter, QRectF(0, 0, 40, 40), QPalette());
+    painter.scale(scale * zoom, scale * zoom);
+    picture.DrawOn(painter, QRectF(0, 0, 40, 40), QPalette(), scale);
     painter.end();
     return image;
 }
@@ -51,6 +52,36 @@ TEST(KeptPicture, BoxesWithOneOriginFitTogetherAtEachScale) {
             EXPECT_EQ(rows, widths) << "scale " << scale << ", origin " << origin;
         }
     }
+}
+
+// Returns the smallest rectangle around the black pixels.
+QRect BlackPart(const QImage& image) {
+    QRect around;
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x) {
+            if (image.pixelColor(x, y) == Qt::black) {
+                around |= QRect(x, y, 1, 1);
+            }
+        }
+    }
+    return around;
+}
+
+TEST(KeptPicture, BoxesOfPixelsGrowAndShrinkWithThePainter) {
+    KeptPicture picture;
+    picture.FillPixels({8, 12}, {0, -4, 7, 3}, Rgb(0, 0, 0));
+    EXPECT_EQ(BlackPart(ImageOf(picture, 1)), QRect(8, 8, 8, 8));
+    EXPECT_EQ(BlackPart(ImageOf(picture, 1, 4)), QRect(32, 32, 32, 32));
+    EXPECT_EQ(BlackPart(ImageOf(picture, 1, 0.25)).size(), QSize(2, 2));
+    EXPECT_EQ(BlackPart(ImageOf(picture, 2, 2)), QRect(32, 40, 16, 16));
+}
+
+TEST(KeptPicture, ABoxOfOnePixelIsSeenAtEachZoom) {
+    KeptPicture picture;
+    picture.Fill({8, 8}, {8, 8}, Rgb(0, 0, 0));
+    EXPECT_EQ(BlackPart(ImageOf(picture, 1)).size(), QSize(1, 1));
+    EXPECT_EQ(BlackPart(ImageOf(picture, 1, 4)), QRect(32, 32, 4, 4));
+    EXPECT_EQ(BlackPart(ImageOf(picture, 1, 0.25)).size(), QSize(1, 1));
 }
 
 }  // namespace

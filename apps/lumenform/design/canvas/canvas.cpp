@@ -1,6 +1,9 @@
 #include "apps/lumenform/design/canvas/canvas.h"
 
+#include <QApplication>
+#include <QScrollBar>
 #include <algorithm>
+#include <cstdlib>
 
 namespace lumenkit::lumenform {
 
@@ -9,7 +12,9 @@ Canvas::Canvas(FormDesign& design, QWidget* parent)
       design_(design),
       dots_(grid_),
       desk_(new Desk),
-      glass_(new Glass(design, grid_, *desk_)) {
+      glass_(new Glass(design, grid_, desk_->GetZoom(), *desk_)),
+      rulers_(std::make_unique<Rulers>(design, *glass_, *viewport(), *this)),
+      edges_(*this) {
     setWidgetResizable(true);
     setFrameStyle(QFrame::NoFrame);
     desk_->Show(design.View());
@@ -36,6 +41,13 @@ void Canvas::ConnectGlass() {
     connect(glass_, &Glass::PointerLeft, this, &Canvas::PointerLeft);
     connect(glass_, &Glass::Refused, this, &Canvas::Refused);
     connect(glass_, &Glass::Wanted, this, &Canvas::ScrollTo);
+    connect(glass_, &Glass::Dragged, this,
+            [this](QPoint at) { edges_.Follow(glass_->mapTo(viewport(), at)); });
+    connect(glass_, &Glass::DragEnded, this, [this] { edges_.Stop(); });
+    connect(glass_, &Glass::MarksChanged, this, [this] { rulers_->Follow(); });
+    connect(glass_, &Glass::PointerMoved, this,
+            [this](QPointF twips) { rulers_->FollowPointer(twips); });
+    connect(glass_, &Glass::PointerLeft, this, [this] { rulers_->FollowPointer(std::nullopt); });
 }
 
 void Canvas::ScrollTo(const QRect& rect) {
@@ -47,10 +59,76 @@ void Canvas::ScrollTo(const QRect& rect) {
     ensureVisible(center.x(), center.y(), rect.width() / 2 + margin, rect.height() / 2 + margin);
 }
 
+void Canvas::SetZoom(int percent, std::optional<QPoint> about) {
+    percent = std::clamp(percent, Zoom::smallest, Zoom::largest);
+    if (percent == GetZoom().percent || glass_->IsPressed()) {
+        return;
+    }
+    const QPoint at = about.value_or(viewport()->rect().center());
+    const QPointF onView = GetZoom().ToView(desk_->mapFrom(viewport(), at));
+    desk_->SetPercent(percent);
+    QEvent layout(QEvent::LayoutRequest);  // the range of the scroll bars is set at once
+    QApplication::sendEvent(desk_, &layout);
+    const QPoint onDesk = GetZoom().ToDesk(onView).toPoint();
+    horizontalScrollBar()->setValue(onDesk.x() - at.x());
+    verticalScrollBar()->setValue(onDesk.y() - at.y());
+    dots_.Refresh();
+    glass_->FollowZoom();
+    Q_EMIT ZoomChanged(percent);
+}
+
+void Canvas::FitZoom() {
+    SetZoom(desk_->FittingPercent(maximumViewportSize()));
+}
+
+void Canvas::wheelEvent(QWheelEvent* event) {
+    if (!event->modifiers().testFlag(Qt::ControlModifier)) {
+        QScrollArea::wheelEvent(event);
+        return;
+    }
+    constexpr int step = QWheelEvent::DefaultDeltasPerStep;
+    wheel_ += event->angleDelta().y();
+    int percent = GetZoom().percent;
+    for (; std::abs(wheel_) >= step; wheel_ -= wheel_ > 0 ? step : -step) {
+        percent = Zoom::Next(percent, wheel_ > 0);
+    }
+    SetZoom(percent, viewport()->mapFromGlobal(event->globalPosition().toPoint()));
+    event->accept();
+}
+
+void Canvas::ShowRulers(bool shown) {
+    if (shown == rulers_->IsShown()) {
+        return;
+    }
+    const int margin = shown ? rulers_->Thickness() : 0;
+    setViewportMargins(margin, margin, 0, 0);
+    rulers_->SetShown(shown);
+    rulers_->Arrange();
+}
+
+// What a smaller range of the scroll bars takes away comes back with the room: a trial run hides
+// the bars of the window meanwhile.
+void Canvas::resizeEvent(QResizeEvent* event) {
+    const QPoint scrolled = scrolled_;
+    QScrollArea::resizeEvent(event);
+    horizontalScrollBar()->setValue(scrolled.x());
+    verticalScrollBar()->setValue(scrolled.y());
+    scrolled_ = scrolled;
+    rulers_->Arrange();
+}
+
+void Canvas::scrollContentsBy(int across, int down) {
+    QScrollArea::scrollContentsBy(across, down);
+    scrolled_ = {horizontalScrollBar()->value(), verticalScrollBar()->value()};
+    rulers_->Follow();
+    glass_->FollowScroll();
+}
+
 void Canvas::FollowView() {
     desk_->Show(design_.View());
     dots_.Follow(design_.View());
     glass_->FollowView();
+    rulers_->Follow();
 }
 
 void Canvas::SetGrid(const Grid& grid) {

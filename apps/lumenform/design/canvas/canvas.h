@@ -1,11 +1,16 @@
 #pragma once
 
 #include <QScrollArea>
+#include <QWheelEvent>
+#include <memory>
+#include <optional>
 
 #include "apps/lumenform/design/canvas/desk.h"
+#include "apps/lumenform/design/canvas/edge_scroll.h"
 #include "apps/lumenform/design/canvas/glass.h"
 #include "apps/lumenform/design/canvas/grid.h"
 #include "apps/lumenform/design/canvas/grid_dots.h"
+#include "apps/lumenform/design/canvas/rulers.h"
 #include "apps/lumenform/design/model/drag_start.h"
 #include "apps/lumenform/design/model/form_design.h"
 
@@ -26,6 +31,18 @@ class Canvas final : public QScrollArea {
     const Grid& GetGrid() const { return grid_; }
     /// Sets the grid, with a step of at least one twip.
     void SetGrid(const Grid& grid);
+
+    /// Shows the form at a scale between Zoom::smallest and Zoom::largest percent. A point of the
+    /// viewport, without one its middle, keeps its place on the form if the form scrolls that far.
+    /// Does nothing during a drag.
+    void SetZoom(int percent, std::optional<QPoint> about = std::nullopt);
+    const Zoom& GetZoom() const { return desk_->GetZoom(); }
+    /// Shows the whole form as large as possible.
+    void FitZoom();
+
+    /// Shows rulers along the upper and left edges.
+    void ShowRulers(bool shown);
+    const Rulers& GetRulers() const { return *rulers_; }
 
     /// Starts drawing: the next drag or click emits Drawn for a control of the class.
     void BeginDrawing(const Text& className);
@@ -59,8 +76,14 @@ class Canvas final : public QScrollArea {
     /// The position of the mouse, in twips from the upper left corner of the form's client area.
     void PointerMoved(QPointF twips);
     void PointerLeft();
+    void ZoomChanged(int percent);
     /// An action failed and had no effect.
     void Refused(const QString& why);
+
+ protected:
+    void wheelEvent(QWheelEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    void scrollContentsBy(int across, int down) override;
 
  private:
     void FollowView();
@@ -72,6 +95,10 @@ class Canvas final : public QScrollArea {
     GridDots dots_;
     Desk* desk_;
     Glass* glass_;
+    std::unique_ptr<Rulers> rulers_;
+    EdgeScroll edges_;
+    QPoint scrolled_;  // where the form should be, if there is room
+    int wheel_ = 0;    // degrees / 8 that were no step yet
 };
 
 }  // namespace lumenkit::lumenform

@@ -3,6 +3,9 @@
 #include <QEvent>
 #include <QLayout>
 #include <QPainter>
+#include <algorithm>
+#include <cmath>
+#include <utility>
 
 #include "forms/block.h"
 #include "runtime/qt/qt_text.h"
@@ -33,6 +36,7 @@ bool HasTitle(const forms::Block& form) {
 Desk::Desk(QWidget* parent) : QWidget(parent) {}
 
 Desk::~Desk() {
+    delete zoomed_;
     if (view_ != nullptr) {
         view_->setParent(nullptr);
     }
@@ -40,14 +44,40 @@ Desk::~Desk() {
 
 void Desk::Show(FormView& view) {
     view_ = &view;
-    // A subwindow: its shortcuts and mnemonics work only while it has the focus.
-    view.setParent(this, Qt::SubWindow);
-    view.lower();
-    view.layout()->activate();
+    PutView();
     view.installEventFilter(this);
     Arrange();
-    view.show();
-    update();
+}
+
+// At 100 %, the view is on the desk itself.
+void Desk::PutView() {
+    if (zoom_.IsFull()) {
+        delete std::exchange(zoomed_, nullptr);
+        // A subwindow: its shortcuts and mnemonics work only while it has the focus.
+        view_->setParent(this, Qt::SubWindow);
+        view_->lower();
+        view_->layout()->activate();
+        view_->show();
+        return;
+    }
+    if (zoomed_ == nullptr) {
+        zoomed_ = new ZoomedView(this);
+        zoomed_->lower();
+        zoomed_->show();
+    }
+    zoomed_->Show(*view_);
+}
+
+void Desk::SetPercent(int percent) {
+    const bool moves = zoom_.IsFull() != (percent == Zoom::full) && view_ != nullptr;
+    zoom_.percent = percent;
+    if (moves) {
+        PutView();
+    }
+    if (zoomed_ != nullptr) {
+        zoomed_->SetFactor(zoom_.Factor());
+    }
+    Arrange();
 }
 
 void Desk::SetCover(QWidget& cover) {
@@ -65,6 +95,9 @@ bool Desk::eventFilter(QObject* watched, QEvent* event) {
     // The event type is checked first: a view also sends events while it is destroyed, when it is
     // no longer a FormView.
     if (event->type() == QEvent::Resize && watched == view_) {
+        if (zoomed_ != nullptr) {
+            zoomed_->FollowSize();
+        }
         Arrange();
     }
     return false;
@@ -76,21 +109,40 @@ int Desk::TitleHeight() const {
                                                                   : border;
 }
 
+QRect Desk::ViewRect() const {
+    return zoom_.ToDesk(view_->rect());
+}
+
 QRect Desk::FrameRect() const {
-    return view_->geometry().adjusted(-border, -TitleHeight(), border, border);
+    return ViewRect().adjusted(-border, -TitleHeight(), border, border);
 }
 
 void Desk::Arrange() {
-    view_->move(margin + border, margin + TitleHeight());
+    if (view_ == nullptr) {
+        return;
+    }
+    zoom_.origin = {margin + border, margin + TitleHeight()};
+    if (zoomed_ == nullptr) {
+        view_->move(zoom_.origin);
+    } else {
+        zoomed_->setGeometry(ViewRect());
+    }
     const QRect frame = FrameRect();
     setMinimumSize(frame.right() + 1 + margin, frame.bottom() + 1 + margin);
     update();
 }
 
+int Desk::FittingPercent(QSize room) const {
+    const QSizeF free = room - QSize(2 * (margin + border), 2 * margin + TitleHeight() + border);
+    const double factor = std::min(free.width() / view_->width(), free.height() / view_->height());
+    return std::clamp(static_cast<int>(std::floor(factor * Zoom::full)), Zoom::smallest,
+                      Zoom::largest);
+}
+
 void Desk::paintEvent(QPaintEvent* event) {
     QPainter painter(this);
     painter.fillRect(event->rect(), DeskColor(palette()));
-    if (view_ != nullptr && !view_->geometry().contains(event->rect())) {
+    if (view_ != nullptr && !ViewRect().contains(event->rect())) {
         PaintTitle(painter);
     }
 }

@@ -3,11 +3,14 @@
 #include <QPointer>
 #include <QWidget>
 
+#include "apps/lumenform/design/canvas/zoom.h"
+#include "apps/lumenform/design/canvas/zoomed_view.h"
 #include "apps/lumenform/form_view/form_view.h"
 
 namespace lumenkit::lumenform {
 
-/// The neutral background of a form in the designer. Draws the title bar and border of the form.
+/// The neutral background of a form in the designer. Draws the title bar and border of the form,
+/// and shows the form at a scale.
 class Desk final : public QWidget {
  public:
     explicit Desk(QWidget* parent = nullptr);
@@ -18,6 +21,12 @@ class Desk final : public QWidget {
     /// Puts the view on the desk. The desk does not own the view: its destructor removes the view
     /// from it.
     void Show(FormView& view);
+
+    /// Shows the view at this scale, in percent.
+    void SetPercent(int percent);
+    const Zoom& GetZoom() const { return zoom_; }
+    /// Returns the largest scale, in percent, at which the desk with the form fits into a size.
+    int FittingPercent(QSize room) const;
 
     /// Keeps `cover`, a child of the desk, at the size of the desk.
     void SetCover(QWidget& cover);
@@ -30,12 +39,16 @@ class Desk final : public QWidget {
     void resizeEvent(QResizeEvent* event) override;
 
  private:
+    void PutView();
     int TitleHeight() const;
+    QRect ViewRect() const;
     QRect FrameRect() const;
     void Arrange();
     void PaintTitle(QPainter& painter) const;
 
     QPointer<FormView> view_;
+    ZoomedView* zoomed_ = nullptr;  // null at 100 %
+    Zoom zoom_;
     QWidget* cover_ = nullptr;
 };
 

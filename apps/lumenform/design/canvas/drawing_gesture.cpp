@@ -5,7 +5,6 @@
 #include <utility>
 
 #include "apps/lumenform/design/model/new_control.h"
-#include "runtime/qt/pixels.h"
 
 namespace lumenkit::lumenform {
 
@@ -13,7 +12,6 @@ DrawingGesture::DrawingGesture(const Ground& ground, Text className, QPoint pres
     : ground_(ground),
       className_(std::move(className)),
       container_(ground.map.ContainerAt(pressedAt)),
-      origin_(ground.map.OriginOf(container_)),
       pressedAt_(pressedAt),
       done_(std::move(done)),
       isLine_(IsDrawnAsLine(className_)) {}
@@ -23,8 +21,8 @@ void DrawingGesture::DragTo(const Pointer& pointer) {
         const auto edge = static_cast<float>(twips);
         return pointer.snaps ? ground_.grid.Nearest(edge) : edge;
     };
-    const QPointF from = TwipsAt(pressedAt_);
-    const QPointF to = TwipsAt(pointer.at);
+    const QPointF from = ground_.map.TwipsAt(pressedAt_, container_);
+    const QPointF to = ground_.map.TwipsAt(pointer.at, container_);
     const float left = nearest(std::min(from.x(), to.x()));
     const float top = nearest(std::min(from.y(), to.y()));
     place_ = {.left = left,
@@ -52,7 +50,7 @@ bool DrawingGesture::IsTooSmall() const {
 }
 
 QRect DrawingGesture::DrawnRect() const {
-    return qt::ToPixels(place_).translated(origin_);
+    return ground_.map.RectOf(place_, container_);
 }
 
 QRect DrawingGesture::Band() const {
@@ -79,12 +77,6 @@ void DrawingGesture::Paint(QPainter& painter, const QPalette& palette) const {
                          rect.topLeft() + QPoint(rect.width(), 0));
     }
     painter.restore();
-}
-
-QPointF DrawingGesture::TwipsAt(QPoint at) const {
-    const qt::TwipsPerPixel& twips = qt::TwipsPerPixel::OfScreens();
-    const QPoint inside = at - origin_;
-    return {inside.x() * twips.x, inside.y() * twips.y};
 }
 
 }  // namespace lumenkit::lumenform

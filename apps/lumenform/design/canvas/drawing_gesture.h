@@ -26,14 +26,12 @@ class DrawingGesture final : public Gesture {
     void Paint(QPainter& painter, const QPalette& palette) const override;
 
  private:
-    QPointF TwipsAt(QPoint at) const;
     QRect DrawnRect() const;
     bool IsTooSmall() const;
 
     Ground ground_;
     Text className_;
     LiveControl* container_;
-    QPoint origin_;
     QPoint pressedAt_;
     Done done_;
     host::Placement place_;

@@ -4,6 +4,7 @@
 #include <iterator>
 #include <unordered_set>
 
+#include "apps/lumenform/design/canvas/zoomed_view.h"
 #include "apps/lumenform/design/model/arrange.h"
 #include "apps/lumenform/design/model/containers.h"
 
@@ -38,7 +39,9 @@ void DropTarget::Follow(const Pointer& pointer) {
     container_ = pointer.keepsContainer || isOutside || under == under_ ? home_ : under;
     for (LiveControl* const control : Going()) {
         if (!pictures_.contains(control)) {
-            pictures_.emplace(control, control->Widget().grab());
+            QWidget& widget = control->Widget();
+            const double scale = ground_.map.GetZoom().Factor() * widget.devicePixelRatioF();
+            pictures_.emplace(control, PictureOf(widget, scale));
         }
     }
 }
@@ -86,7 +89,7 @@ void DropTarget::Paint(QPainter& painter, const QPalette& palette) const {
     painter.setOpacity(strength);
     for (const LiveControl* const control : Going()) {
         if (const auto picture = pictures_.find(control); picture != pictures_.end()) {
-            painter.drawPixmap(ground_.map.RectOf(*control).topLeft(), picture->second);
+            painter.drawPixmap(ground_.map.RectOf(*control), picture->second);
         }
     }
     painter.restore();

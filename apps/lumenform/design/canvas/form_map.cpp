@@ -6,6 +6,7 @@
 #include "apps/lumenform/design/model/arrange.h"
 #include "apps/lumenform/form_view/menu_bar.h"
 #include "forms/controls.h"
+#include "runtime/qt/pixels.h"
 
 namespace lumenkit::lumenform {
 
@@ -31,7 +32,7 @@ const QWidget& InnermostAt(const QWidget& widget, QPoint at,
 
 }  // namespace
 
-FormMap::FormMap(const FormDesign& design, const QWidget& desk) : design_(design), desk_(desk) {}
+FormMap::FormMap(const FormDesign& design, const Zoom& zoom) : design_(design), zoom_(zoom) {}
 
 void FormMap::Update() {
     controls_.clear();
@@ -42,16 +43,40 @@ void FormMap::Update() {
 
 QRect FormMap::ClientRect() const {
     const ClientArea& client = design_.View().Client();
-    return {client.mapTo(&desk_, QPoint()), client.size()};
+    return zoom_.ToDesk(QRect(OriginOf(client), client.size()));
 }
 
 QRect FormMap::RectOf(const LiveControl& control) const {
     const QWidget& widget = control.Widget();
-    return {widget.mapTo(&desk_, QPoint()), widget.size()};
+    return zoom_.ToDesk(QRect(OriginOf(widget), widget.size()));
 }
 
+QRect FormMap::RectOf(const host::Placement& place, const LiveControl* container) const {
+    return zoom_.ToDesk(qt::ToPixels(place).translated(OriginOf(container)));
+}
+
+QPoint FormMap::OriginOf(const QWidget& widget) const {
+    return widget.mapTo(&design_.View(), QPoint());
+}
+
+// Returns the origin of places in the container, in pixels of the view.
 QPoint FormMap::OriginOf(const LiveControl* container) const {
-    return InsideOf(design_, container).widget.mapTo(&desk_, QPoint());
+    return OriginOf(InsideOf(design_, container).widget);
+}
+
+QPointF FormMap::TwipsAt(QPoint at, const LiveControl* container) const {
+    const qt::TwipsPerPixel& twips = qt::TwipsPerPixel::OfScreens();
+    const QPointF inside = zoom_.ToView(at) - OriginOf(container);
+    return {inside.x() * twips.x, inside.y() * twips.y};
+}
+
+QPointF FormMap::ToTwips(QPoint distance) const {
+    const qt::TwipsPerPixel& twips = qt::TwipsPerPixel::OfScreens();
+    return {distance.x() / zoom_.Factor() * twips.x, distance.y() / zoom_.Factor() * twips.y};
+}
+
+QPoint FormMap::InWidget(const LiveControl& control, QPoint at) const {
+    return zoom_.PixelAt(at) - OriginOf(control.Widget());
 }
 
 // Returns the control whose widget is `widget` or contains it, or null.
@@ -65,7 +90,7 @@ LiveControl* FormMap::Find(const QWidget* widget) const {
 }
 
 QRect FormMap::RoomOf(const LiveControl* container) const {
-    return {OriginOf(container), InsideOf(design_, container).widget.size()};
+    return zoom_.ToDesk(QRect(OriginOf(container), InsideOf(design_, container).widget.size()));
 }
 
 LiveControl* FormMap::ControlAt(QPoint at) const {
@@ -73,8 +98,9 @@ LiveControl* FormMap::ControlAt(QPoint at) const {
 }
 
 LiveControl* FormMap::ControlAt(QPoint at, const std::vector<LiveControl*>& without) const {
-    const QRect client = ClientRect();
-    if (!client.contains(at)) {
+    const ClientArea& client = design_.View().Client();
+    const QPoint onClient = zoom_.PixelAt(at) - OriginOf(client);
+    if (!client.rect().contains(onClient)) {
         return nullptr;
     }
     std::vector<const QWidget*> widgets;
@@ -82,7 +108,7 @@ LiveControl* FormMap::ControlAt(QPoint at, const std::vector<LiveControl*>& with
     for (const LiveControl* const control : without) {
         widgets.push_back(&control->Widget());
     }
-    return Find(&InnermostAt(design_.View().Client(), at - client.topLeft(), widgets));
+    return Find(&InnermostAt(client, onClient, widgets));
 }
 
 LiveControl* FormMap::ContainerAt(QPoint at, const std::vector<LiveControl*>& without) const {
@@ -110,7 +136,8 @@ const QMenuBar* FormMap::Bar() const {
 
 forms::Block* FormMap::MenuAt(QPoint at) const {
     const QMenuBar* const bar = Bar();
-    const QAction* const title = bar == nullptr ? nullptr : bar->actionAt(bar->mapFrom(&desk_, at));
+    const QAction* const title =
+        bar == nullptr ? nullptr : bar->actionAt(zoom_.PixelAt(at) - OriginOf(*bar));
     return title == nullptr ? nullptr : MenuOf(*title);
 }
 
@@ -126,7 +153,7 @@ QRect FormMap::RectOfMenu(const forms::Block& menu) const {
         }
         const std::vector<forms::Block*> inner = forms::AllControls(*own);
         if (own == &menu || std::ranges::find(inner, &menu) != inner.end()) {
-            return bar->actionGeometry(title).translated(bar->mapTo(&desk_, QPoint()));
+            return zoom_.ToDesk(bar->actionGeometry(title).translated(OriginOf(*bar)));
         }
     }
     return {};

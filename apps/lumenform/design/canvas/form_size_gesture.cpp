@@ -24,10 +24,9 @@ FormSizeGesture::FormSizeGesture(const Ground& ground, Edges edges, QPoint press
       place_(former_) {}
 
 void FormSizeGesture::DragTo(const Pointer& pointer) {
-    const qt::TwipsPerPixel& twips = qt::TwipsPerPixel::OfScreens();
-    const QPoint dragged = pointer.at - pressedAt_;
-    place_ = Shifted(former_, edges_, static_cast<float>(dragged.x() * twips.x),
-                     static_cast<float>(dragged.y() * twips.y));
+    const QPointF dragged = ground_.map.ToTwips(pointer.at - pressedAt_);
+    place_ =
+        Shifted(former_, edges_, static_cast<float>(dragged.x()), static_cast<float>(dragged.y()));
     if (pointer.snaps && place_.width != former_.width) {
         place_.width = ground_.grid.Nearest(place_.width);
     }

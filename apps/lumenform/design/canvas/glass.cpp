@@ -14,7 +14,6 @@
 #include "apps/lumenform/design/canvas/selection.h"
 #include "apps/lumenform/design/model/refusal.h"
 #include "apps/lumenform/form_view/likeness/tab_pages.h"
-#include "runtime/qt/pixels.h"
 #include "runtime/qt/qt_text.h"
 
 namespace lumenkit::lumenform {
@@ -33,11 +32,11 @@ QRect Grown(const QRect& rect) {
 
 }  // namespace
 
-Glass::Glass(FormDesign& design, const Grid& grid, QWidget& desk)
+Glass::Glass(FormDesign& design, const Grid& grid, const Zoom& zoom, QWidget& desk)
     : QWidget(&desk),
       design_(design),
       grid_(grid),
-      map_(design, desk),
+      map_(design, zoom),
       badges_(design, map_, desk),
       label_(new PlaceLabel(this)) {
     setFocusPolicy(Qt::StrongFocus);
@@ -55,6 +54,35 @@ void Glass::FollowView() {
     map_.Update();
     raise();
     TellSelection();
+}
+
+void Glass::FollowZoom() {
+    raise();
+    marks_ = Marks();
+    update();
+    Q_EMIT MarksChanged();
+    FollowScroll();
+}
+
+void Glass::FollowScroll() {
+    if (!pointer_) {
+        return;
+    }
+    const QPoint at = mapFromGlobal(*pointer_);
+    TellPointer(at);
+    if (gesture_ != nullptr) {
+        Drag(at, held_);
+    } else if (!press_) {
+        UpdateCursor(at);
+    }
+}
+
+QRect Glass::SelectedRect() const {
+    QRect rect;
+    for (const LiveControl* const control : design_.Selected()) {
+        rect |= map_.RectOf(*control);
+    }
+    return rect;
 }
 
 void Glass::Try(const std::function<void()>& work) {
@@ -161,7 +189,7 @@ Glass::Press Glass::PressOnControl(LiveControl& control, QPoint at) {
 // Shows another page for looking. The form stays as it is.
 void Glass::ShowPageAt(LiveControl& control, QPoint at) {
     TabPages* const pages = control.Pages();
-    const int page = pages == nullptr ? -1 : pages->TabAt(at - map_.RectOf(control).topLeft());
+    const int page = pages == nullptr ? -1 : pages->TabAt(map_.InWidget(control, at));
     if (page >= 0) {
         design_.Select({&control});
         pages->Show(page);
@@ -201,6 +229,8 @@ std::optional<Glass::Grip> Glass::GripAt(QPoint at) const {
 
 void Glass::mouseMoveEvent(QMouseEvent* event) {
     const QPoint at = event->position().toPoint();
+    pointer_ = event->globalPosition().toPoint();
+    held_ = event->modifiers();
     TellPointer(at);
     if (!press_) {
         UpdateCursor(at);
@@ -229,8 +259,7 @@ void Glass::Drag(QPoint at, Qt::KeyboardModifiers held) {
         }
     });
     UpdateMarks();
-    constexpr int reach = 16;  // of the edge at which the canvas scrolls
-    Q_EMIT Wanted(QRect(at - QPoint(reach, reach), at + QPoint(reach, reach)));
+    Q_EMIT Dragged(at);
 }
 
 void Glass::mouseReleaseEvent(QMouseEvent* event) {
@@ -258,6 +287,7 @@ Glass::GestureRef Glass::EndGesture() {
     press_.reset();
     label_->hide();
     UpdateMarks();
+    Q_EMIT DragEnded();
     return ended;
 }
 
@@ -310,6 +340,7 @@ void Glass::SelectForMenu(QPoint at) {
 
 void Glass::leaveEvent(QEvent* event) {
     QWidget::leaveEvent(event);
+    pointer_.reset();
     Q_EMIT PointerLeft();
 }
 
@@ -326,9 +357,7 @@ void Glass::UpdateCursor(QPoint at) {
 }
 
 void Glass::TellPointer(QPoint at) {
-    const qt::TwipsPerPixel& twips = qt::TwipsPerPixel::OfScreens();
-    const QPoint onForm = at - map_.OriginOf(nullptr);
-    Q_EMIT PointerMoved({onForm.x() * twips.x, onForm.y() * twips.y});
+    Q_EMIT PointerMoved(map_.TwipsAt(at, nullptr));
 }
 
 // ---- Keyboard
@@ -398,11 +427,9 @@ void Glass::ShowSelected() {
 }
 
 QRectF Glass::SeenPart() const {
-    const qt::TwipsPerPixel& twips = qt::TwipsPerPixel::OfScreens();
-    const QRect client = map_.ClientRect();
-    const QRect seen = (visibleRegion().boundingRect() & client).translated(-client.topLeft());
-    return {seen.x() * twips.x, seen.y() * twips.y, seen.width() * twips.x,
-            seen.height() * twips.y};
+    const QRect seen = visibleRegion().boundingRect() & map_.ClientRect();
+    return {map_.TwipsAt(seen.topLeft(), nullptr),
+            map_.TwipsAt(seen.bottomRight() + QPoint(1, 1), nullptr)};
 }
 
 // ---- Painting and accessibility
@@ -438,6 +465,7 @@ void Glass::UpdateMarks() {
     const QRegion marks = Marks();
     update(marks_ | marks);
     marks_ = marks;
+    Q_EMIT MarksChanged();
 }
 
 void Glass::paintEvent(QPaintEvent* /*event*/) {

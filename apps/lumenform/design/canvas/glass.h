@@ -22,8 +22,8 @@ class Glass final : public QWidget {
     Q_OBJECT
 
  public:
-    /// `desk`, the parent, shows the form at the same place. All arguments must outlive the glass.
-    Glass(FormDesign& design, const Grid& grid, QWidget& desk);
+    /// `desk`, the parent, shows the form at this zoom. All arguments must outlive the glass.
+    Glass(FormDesign& design, const Grid& grid, const Zoom& zoom, QWidget& desk);
     ~Glass() override;
     Glass(const Glass&) = delete;
     Glass& operator=(const Glass&) = delete;
@@ -36,6 +36,14 @@ class Glass final : public QWidget {
     bool IsDrawing() const { return !drawnClass_.empty(); }
     void SetTabOrderMode(bool on);
     bool IsTabOrderMode() const { return isTabOrderMode_; }
+    /// Called when the form is shown at another zoom.
+    void FollowZoom();
+    /// Called when the form was scrolled: the mouse is over another place of it.
+    void FollowScroll();
+    const FormMap& Map() const { return map_; }
+    /// The rectangle around the selected controls. Empty if there is none.
+    QRect SelectedRect() const;
+    bool IsPressed() const { return press_.has_value(); }
     /// Scrolls to the control that was selected last.
     void ShowSelected();
     /// The part of the form's client area that is seen, in its twips. Empty if none is.
@@ -56,6 +64,11 @@ class Glass final : public QWidget {
     void Refused(const QString& why);
     /// Requests scrolling to the rectangle.
     void Wanted(const QRect& rect);
+    /// The mouse has dragged to a point.
+    void Dragged(QPoint at);
+    void DragEnded();
+    /// The selection, or the place of what is selected, may have changed.
+    void MarksChanged();
 
  protected:
     void paintEvent(QPaintEvent* event) override;
@@ -111,6 +124,8 @@ class Glass final : public QWidget {
     std::optional<Press> press_;
     GestureRef gesture_;
     QPoint draggedTo_;
+    std::optional<QPoint> pointer_;  // of the mouse over the glass, on the screen
+    Qt::KeyboardModifiers held_;     // when it moved last
     Text drawnClass_;
     bool isTabOrderMode_ = false;
     QRegion marks_;  // as painted last

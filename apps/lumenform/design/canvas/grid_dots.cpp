@@ -14,6 +14,12 @@ namespace lumenkit::lumenform {
 namespace {
 
 constexpr double closest = 3;  // pixels; closer dots would look grey
+constexpr double sameZoom = 1e-3;
+
+QColor DotColor(bool isBright) {
+    constexpr int strength = 110;
+    return isBright ? QColor(0, 0, 0, strength) : QColor(255, 255, 255, strength);
+}
 
 // The number of grid steps, in one direction, that is nearest to a whole number of device pixels,
 // so that tiles of them join.
@@ -44,8 +50,7 @@ QPixmap MakeTile(double across, double down, double pixelRatio, bool isBright) {
     QPixmap tile(device(columns * across), device(rows * down));
     tile.fill(Qt::transparent);
     const int size = std::max(static_cast<int>(pixelRatio), 1);
-    constexpr int strength = 110;
-    const QColor color = isBright ? QColor(0, 0, 0, strength) : QColor(255, 255, 255, strength);
+    const QColor color = DotColor(isBright);
     QPainter painter(&tile);
     for (int row = 0; row < rows; ++row) {
         for (int column = 0; column < columns; ++column) {
@@ -55,6 +60,28 @@ QPixmap MakeTile(double across, double down, double pixelRatio, bool isBright) {
     painter.end();
     tile.setDevicePixelRatio(pixelRatio);
     return tile;
+}
+
+// Paints the dots in a part of a widget one by one: at most scales, no tile of them would fit to
+// the next one. They keep their size on the screen.
+void PaintDots(QPainter& painter, const QRect& part, float step, const QColor& color, double zoom) {
+    const qt::TwipsPerPixel& twips = qt::TwipsPerPixel::OfScreens();
+    const double across = step / twips.x;
+    const double down = step / twips.y;
+    const QTransform device = painter.deviceTransform();
+    const auto scale = device.m11();
+    const double size = std::max(std::floor(scale / zoom), 1.0);
+    const auto first = [](int edge, double length) { return std::ceil((edge - 1) / length); };
+    for (double row = first(part.top(), down); row * down < part.bottom() + 1; ++row) {
+        for (double column = first(part.left(), across); column * across < part.right() + 1;
+             ++column) {
+            const QPointF at(std::round(column * across), std::round(row * down));
+            const QPointF pixel = device.map(at);
+            const QPointF snapped(std::round(pixel.x()), std::round(pixel.y()));
+            painter.fillRect(QRectF(at + (snapped - pixel) / scale, QSizeF(size, size) / scale),
+                             color);
+        }
+    }
 }
 
 // The dots leave the tabs free.
@@ -110,14 +137,20 @@ bool GridDots::eventFilter(QObject* watched, QEvent* event) {
 
 void GridDots::Paint(QWidget& widget, const QRegion& region, Color backColor) {
     const qt::TwipsPerPixel& twips = qt::TwipsPerPixel::OfScreens();
-    if (grid_.step < closest * std::max(twips.x, twips.y)) {
+    QPainter painter(&widget);
+    const double scale = painter.deviceTransform().m11();
+    const double zoom = scale / widget.devicePixelRatioF();
+    if (grid_.step * zoom < closest * std::max(twips.x, twips.y)) {
         return;
     }
     constexpr int middle = 128;
     const bool isBright = qGray(qt::ToQColor(backColor, widget.palette()).rgb()) >= middle;
-    QPainter painter(&widget);
     for (const QRect& part : region& RoomIn(widget)) {
-        painter.fillRect(part, QBrush(TileFor(widget, isBright)));
+        if (std::abs(zoom - 1) < sameZoom) {
+            painter.fillRect(part, QBrush(TileFor(widget, isBright)));
+        } else {
+            PaintDots(painter, part, grid_.step, DotColor(isBright), zoom);
+        }
     }
 }
 

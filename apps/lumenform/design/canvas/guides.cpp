@@ -6,18 +6,18 @@
 #include <utility>
 
 #include "apps/lumenform/design/canvas/baseline.h"
+#include "apps/lumenform/design/model/arrange.h"
 #include "apps/lumenform/design/model/containers.h"
-#include "runtime/qt/pixels.h"
 
 namespace lumenkit::lumenform {
 
 namespace {
 
-constexpr int reach = 4;  // pixels
+constexpr int reach = 4;  // pixels of the desk
 
-QRect Between(int left, int top, int right, int bottom) {
-    return {QPoint(std::min(left, right), std::min(top, bottom)),
-            QPoint(std::max(left, right), std::max(top, bottom))};
+QRect Between(QPoint from, QPoint to) {
+    return {QPoint(std::min(from.x(), to.x()), std::min(from.y(), to.y())),
+            QPoint(std::max(from.x(), to.x()), std::max(from.y(), to.y()))};
 }
 
 }  // namespace
@@ -68,10 +68,15 @@ Guides::Lines Guides::Level(const Dragged& dragged, const host::Placement& place
     return lines;
 }
 
+// Returns the twips within which a line catches an edge.
+QPointF Guides::Reach() const {
+    return ground_.map.ToTwips({reach, reach});
+}
+
 std::optional<float> Guides::Nearest(const Lines& own, const Lines& others, float by,
-                                     double twips) {
+                                     double reach) {
     std::optional<float> nearest;
-    const auto most = static_cast<float>(reach * twips);
+    const auto most = static_cast<float>(reach);
     for (const Line& line : own) {
         for (const Line& other : others) {
             const float distance = other.at - line.at;
@@ -85,20 +90,19 @@ std::optional<float> Guides::Nearest(const Lines& own, const Lines& others, floa
 }
 
 std::optional<float> Guides::Across(const Dragged& dragged, float by) const {
-    return Nearest(Upright(dragged, dragged.from), upright_, by, qt::TwipsPerPixel::OfScreens().x);
+    return Nearest(Upright(dragged, dragged.from), upright_, by, Reach().x());
 }
 
 std::optional<float> Guides::Down(const Dragged& dragged, float by) const {
-    return Nearest(Level(dragged, dragged.from), level_, by, qt::TwipsPerPixel::OfScreens().y);
+    return Nearest(Level(dragged, dragged.from), level_, by, Reach().y());
 }
 
 // ---- The lines that are shown
 
 void Guides::ShowOn(const Lines& own, const Lines& others, bool isUpright) {
-    const qt::TwipsPerPixel& twips = qt::TwipsPerPixel::OfScreens();
-    const QPoint origin = ground_.map.OriginOf(container_);
-    const auto x = [&](float at) { return origin.x() + qRound(at / twips.x); };
-    const auto y = [&](float at) { return origin.y() + qRound(at / twips.y); };
+    const auto corner = [this](float x, float y) {
+        return ground_.map.RectOf({.left = x, .top = y}, container_).topLeft();
+    };
     for (const Line& line : own) {
         for (const Line& other : others) {
             constexpr float equal = 0.5;
@@ -107,8 +111,9 @@ void Guides::ShowOn(const Lines& own, const Lines& others, bool isUpright) {
             }
             const float begin = std::min(line.begin, other.begin);
             const float end = std::max(line.end, other.end);
-            shown_.push_back(isUpright ? Between(x(line.at), y(begin), x(line.at), y(end))
-                                       : Between(x(begin), y(line.at), x(end), y(line.at)));
+            const auto from = isUpright ? corner(line.at, begin) : corner(begin, line.at);
+            const auto to = isUpright ? corner(line.at, end) : corner(end, line.at);
+            shown_.push_back(Between(from, to));
         }
     }
 }

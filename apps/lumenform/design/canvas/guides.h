@@ -51,7 +51,8 @@ class Guides {
     static Lines Upright(const Dragged& dragged, const host::Placement& place);
     static Lines Level(const Dragged& dragged, const host::Placement& place);
     static std::optional<float> Nearest(const Lines& own, const Lines& others, float by,
-                                        double twips);
+                                        double reach);
+    QPointF Reach() const;
     void ShowOn(const Lines& own, const Lines& others, bool isUpright);
 
     Ground ground_;

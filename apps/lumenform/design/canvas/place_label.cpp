@@ -1,9 +1,23 @@
 #include "apps/lumenform/design/canvas/place_label.h"
 
 #include <QToolTip>
+#include <algorithm>
 #include <cmath>
 
 namespace lumenkit::lumenform {
+
+namespace {
+
+// Returns the place of a length beside the pointer: behind it, or in front of it where no room is
+// left. Beyond the edge, it stays inside.
+int PlaceIn(int begin, int room, int pointer, int aside, int length) {
+    const int last = begin + room - length;
+    const int behind = pointer + aside;
+    const int place = behind <= last ? behind : pointer - aside / 2 - length;
+    return std::max(std::min(place, last), begin);
+}
+
+}  // namespace
 
 PlaceLabel::PlaceLabel(QWidget* parent) : QLabel(parent) {
     constexpr int margin = 3;
@@ -24,9 +38,9 @@ void PlaceLabel::Tell(const host::Placement& place, QPoint pointer) {
     setText(whole(place.left) + QStringLiteral(", ") + whole(place.top) + QStringLiteral("  ") +
             whole(place.width) + QStringLiteral(" \u00D7 ") + whole(place.height));
     adjustSize();
-    const QPoint farthest(parentWidget()->width() - width(), parentWidget()->height() - height());
-    const QPoint to = pointer + aside;
-    move(std::min(to.x(), farthest.x()), std::min(to.y(), farthest.y()));
+    const QRect seen = parentWidget()->visibleRegion().boundingRect();
+    move(PlaceIn(seen.left(), seen.width(), pointer.x(), aside.x(), width()),
+         PlaceIn(seen.top(), seen.height(), pointer.y(), aside.y(), height()));
     show();
 }
 

@@ -9,7 +9,6 @@
 #include "apps/lumenform/design/model/containers.h"
 #include "apps/lumenform/design/model/rehome.h"
 #include "apps/lumenform/design/model/stacking.h"
-#include "runtime/qt/pixels.h"
 #include "runtime/qt/qt_text.h"
 
 namespace lumenkit::lumenform {
@@ -73,23 +72,22 @@ PlacingGesture::PlacingGesture(const Ground& ground, const LiveControl& grabbed,
 }
 
 void PlacingGesture::DragTo(const Pointer& pointer) {
-    const qt::TwipsPerPixel& twips = qt::TwipsPerPixel::OfScreens();
     QPointF shift;
     if (drop_) {
         drop_->Follow(pointer);
         shift = drop_->Shift();
     }
-    const QPoint dragged = pointer.at - pressedAt_;
+    const QPointF dragged = ground_.map.ToTwips(pointer.at - pressedAt_);
     const host::Placement& from = grabbed_->former;
     float across = Distance((edges_.left ? from.left : from.left + from.width) + shift.x(),
-                            dragged.x() * twips.x, ground_.grid, pointer.snaps);
-    float down = Distance((edges_.top ? from.top : from.top + from.height) + shift.y(),
-                          dragged.y() * twips.y, ground_.grid, pointer.snaps);
+                            dragged.x(), ground_.grid, pointer.snaps);
+    float down = Distance((edges_.top ? from.top : from.top + from.height) + shift.y(), dragged.y(),
+                          ground_.grid, pointer.snaps);
     FollowGuides(pointer);
     if (guides_) {
         const Guides::Dragged grabbed = Grabbed();
-        const auto right = static_cast<float>(dragged.x() * twips.x);
-        const auto below = static_cast<float>(dragged.y() * twips.y);
+        const auto right = static_cast<float>(dragged.x());
+        const auto below = static_cast<float>(dragged.y());
         across = NearerOf(right, across, guides_->Across(grabbed, right), pointer.snaps);
         down = NearerOf(below, down, guides_->Down(grabbed, below), pointer.snaps);
     }

@@ -59,7 +59,7 @@ DesignWindow::DesignWindow(const Setup& setup)
       files_(new FileMenu(this)),
       commands_(new FormCommands(*this)),
       view_(new ViewMenu(setup.settings, this)),
-      status_(new PlaceStatus(files_->EncodingMenu())) {
+      status_(new PlaceStatus(files_->EncodingMenu(), view_->GetZoomMenu())) {
     setAcceptDrops(true);
     setCentralWidget(pages_);
     setStatusBar(status_);

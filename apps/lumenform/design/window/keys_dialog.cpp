@@ -41,6 +41,8 @@ const std::vector<HintGroup>& HintGroups() {
            QT_TRANSLATE_NOOP("keys", "hold Alt")},
           {QT_TRANSLATE_NOOP("keys", "Keep the container while dropping"),
            QT_TRANSLATE_NOOP("keys", "hold Ctrl")},
+          {QT_TRANSLATE_NOOP("keys", "Zoom about the pointer"),
+           QT_TRANSLATE_NOOP("keys", "Ctrl+wheel")},
           {QT_TRANSLATE_NOOP("keys", "Edit the selected control"),
            QT_TRANSLATE_NOOP("keys", "Enter or double click")}}},
         {QT_TRANSLATE_NOOP("keys", "Outline"),

@@ -7,14 +7,30 @@
 
 namespace lumenkit::lumenform {
 
-PlaceStatus::PlaceStatus(QMenu& encodings, QWidget* parent)
-    : QStatusBar(parent), pointer_(new QLabel), selection_(new QLabel), codePage_(new QToolButton) {
-    codePage_->setAutoRaise(true);
-    codePage_->setPopupMode(QToolButton::InstantPopup);
-    codePage_->setMenu(&encodings);
+namespace {
+
+QToolButton* NewButton(QMenu& menu) {
+    auto* const button = new QToolButton;
+    button->setAutoRaise(true);
+    button->setPopupMode(QToolButton::InstantPopup);
+    button->setMenu(&menu);
+    return button;
+}
+
+}  // namespace
+
+PlaceStatus::PlaceStatus(QMenu& encodings, QMenu& zooms, QWidget* parent)
+    : QStatusBar(parent),
+      pointer_(new QLabel),
+      selection_(new QLabel),
+      zoom_(NewButton(zooms)),
+      codePage_(NewButton(encodings)) {
+    zoom_->setObjectName(QStringLiteral("zoom"));
+    zoom_->setToolTip(tr("The scale of the form; Ctrl and the wheel change it, too"));
     codePage_->setObjectName(QStringLiteral("codePage"));
     addPermanentWidget(selection_);
     addPermanentWidget(pointer_);
+    addPermanentWidget(zoom_);
     addPermanentWidget(codePage_);
     pointer_->setMinimumWidth(fontMetrics().horizontalAdvance(tr("%1, %2").arg(99999).arg(99999)));
 }
@@ -22,6 +38,8 @@ PlaceStatus::PlaceStatus(QMenu& encodings, QWidget* parent)
 void PlaceStatus::Follow(Workbench* workbench) {
     if (workbench_ != nullptr) {
         workbench_->GetDesign().disconnect(this);
+        workbench_->GetCanvas().disconnect(this);
+        workbench_->GetCanvas().disconnect(pointer_);
     }
     workbench_ = workbench;
     pointer_->clear();
@@ -34,9 +52,11 @@ void PlaceStatus::Follow(Workbench* workbench) {
             pointer_->setText(tr("%1, %2").arg(std::lround(twips.x())).arg(std::lround(twips.y())));
         });
         connect(&workbench->GetCanvas(), &Canvas::PointerLeft, pointer_, &QLabel::clear);
+        connect(&workbench->GetCanvas(), &Canvas::ZoomChanged, this, &PlaceStatus::ShowZoom);
     }
     ShowSelection();
     ShowCodePage();
+    ShowZoom();
 }
 
 void PlaceStatus::ShowSelection() {
@@ -56,6 +76,13 @@ void PlaceStatus::ShowSelection() {
                                              : tr("%n controls, the last %1: %2", nullptr,
                                                   static_cast<int>(selected.size()))
                                                    .arg(name, where));
+}
+
+void PlaceStatus::ShowZoom() {
+    zoom_->setVisible(workbench_ != nullptr);
+    if (workbench_ != nullptr) {
+        zoom_->setText(tr("%1 %").arg(workbench_->GetCanvas().GetZoom().percent));
+    }
 }
 
 void PlaceStatus::ShowCodePage() {

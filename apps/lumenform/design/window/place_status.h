@@ -10,13 +10,14 @@
 namespace lumenkit::lumenform {
 
 /// The status bar of the designer: the position of the mouse, the selection and its place, in
-/// twips, and the code page of the form.
+/// twips, the zoom and the code page of the form.
 class PlaceStatus final : public QStatusBar {
     Q_OBJECT
 
  public:
-    /// `encodings` opens at the code page. It must outlive the status bar.
-    explicit PlaceStatus(QMenu& encodings, QWidget* parent = nullptr);
+    /// `encodings` opens at the code page, and `zooms` at the zoom. Both must outlive the status
+    /// bar.
+    PlaceStatus(QMenu& encodings, QMenu& zooms, QWidget* parent = nullptr);
 
     /// Shows the state of this workbench. Null clears the status bar.
     void Follow(Workbench* workbench);
@@ -24,10 +25,12 @@ class PlaceStatus final : public QStatusBar {
  private:
     void ShowSelection();
     void ShowCodePage();
+    void ShowZoom();
 
     Workbench* workbench_ = nullptr;
     QLabel* pointer_;
     QLabel* selection_;
+    QToolButton* zoom_;
     QToolButton* codePage_;
 };
 

@@ -23,6 +23,10 @@ QString SnapsKey() {
     return QStringLiteral("grid/snaps");
 }
 
+QString RulersKey() {
+    return QStringLiteral("rulers/shown");
+}
+
 constexpr std::array steps = {30, 60, 90, 120, 180, 240};
 
 Grid Stored(const QSettings& settings) {
@@ -45,7 +49,8 @@ ViewMenu::ViewMenu(QSettings& settings, QWidget* parent)
       grid_(Stored(settings)),
       code_(addAction(tr("&Code"))),
       form_(addAction(tr("&Form"))),
-      outline_(addAction(tr("&Outline"))) {
+      outline_(addAction(tr("&Outline"))),
+      zoom_(new ZoomMenu(this)) {
     code_->setShortcut(Qt::Key_F7);
     code_->setToolTip(tr("The code of the form, at the first procedure of the selected control"));
     form_->setShortcut(Qt::SHIFT | Qt::Key_F7);
@@ -57,6 +62,12 @@ ViewMenu::ViewMenu(QSettings& settings, QWidget* parent)
     outline_->setCheckable(true);
     outline_->setChecked(settings.value(OutlineKey(), true).toBool());
     connect(outline_, &QAction::toggled, this, &ViewMenu::ShowOutline);
+    addMenu(zoom_);
+    rulers_ = addAction(tr("&Rulers"));
+    rulers_->setToolTip(tr("Rulers in the units of the form"));
+    rulers_->setCheckable(true);
+    rulers_->setChecked(settings.value(RulersKey(), false).toBool());
+    connect(rulers_, &QAction::toggled, this, &ViewMenu::ShowRulers);
     addSeparator();
     QAction* const shown = addAction(tr("Show the &grid"));
     shown->setCheckable(true);
@@ -110,18 +121,27 @@ void ViewMenu::Follow(Workbench* workbench) {
     if (workbench != nullptr) {
         workbench->GetCanvas().SetGrid(grid_);
         workbench->GetOutline().setVisible(outline_->isChecked());
+        workbench->GetCanvas().ShowRulers(rulers_->isChecked());
     }
 }
 
 void ViewMenu::SetPage(Page page) {
     code_->setEnabled(page == Page::Form);
     form_->setEnabled(page == Page::Code);
+    zoom_->Follow(page == Page::Form && workbench_ != nullptr ? &workbench_->GetCanvas() : nullptr);
 }
 
 void ViewMenu::ShowOutline(bool on) {
     settings_.setValue(OutlineKey(), on);
     if (workbench_ != nullptr) {
         workbench_->GetOutline().setVisible(on);
+    }
+}
+
+void ViewMenu::ShowRulers(bool on) {
+    settings_.setValue(RulersKey(), on);
+    if (workbench_ != nullptr) {
+        workbench_->GetCanvas().ShowRulers(on);
     }
 }
 

@@ -4,11 +4,12 @@
 #include <QSettings>
 
 #include "apps/lumenform/design/window/workbench.h"
+#include "apps/lumenform/design/window/zoom_menu.h"
 
 namespace lumenkit::lumenform {
 
-/// The menu for the form and its code, the outline and the grid. The settings keep the last two
-/// between sessions, and they are the same for all forms.
+/// The menu for the form and its code, the outline, the zoom, the rulers and the grid. The settings
+/// keep all but the zoom between sessions, and they are the same for all forms.
 class ViewMenu final : public QMenu {
     Q_OBJECT
 
@@ -23,6 +24,7 @@ class ViewMenu final : public QMenu {
     enum class Page { None, Form, Code };
     void SetPage(Page page);
     QAction& CodeAction() const { return *code_; }
+    QMenu& GetZoomMenu() const { return *zoom_; }
 
  Q_SIGNALS:
     void CodeWanted();
@@ -31,6 +33,7 @@ class ViewMenu final : public QMenu {
  private:
     void AddSteps();
     void ShowOutline(bool on);
+    void ShowRulers(bool on);
     void Change(const Grid& grid);
 
     QSettings& settings_;
@@ -38,6 +41,8 @@ class ViewMenu final : public QMenu {
     QAction* code_;
     QAction* form_;
     QAction* outline_;
+    ZoomMenu* zoom_;
+    QAction* rulers_ = nullptr;
     Workbench* workbench_ = nullptr;
 };
 
