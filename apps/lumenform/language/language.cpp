@@ -22,7 +22,7 @@ std::unique_ptr<QTranslator> OwnTexts(const QString& language) {
 }
 
 bool IsEnglish(const QString& language) {
-    return QLocale(language).language() == QLocale::English || language == QStringLiteral("C");
+    return QLocale(language).language() == QLocale::English;
 }
 
 void Install(std::unique_ptr<QTranslator> texts) {

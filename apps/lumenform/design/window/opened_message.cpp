@@ -2,8 +2,9 @@
 
 #include <QCoreApplication>
 #include <optional>
-#include <string_view>
 #include <vector>
+
+#include "apps/lumenform/design/model/code_page_name.h"
 
 namespace lumenkit::lumenform {
 
@@ -14,17 +15,14 @@ struct OpenedMessages {
 };
 
 QString GuessText(const forms::CodePageGuess& guess) {
-    const QString text =
-        guess.reason == forms::CodePageGuess::Reason::Fonts
-            ? OpenedMessages::tr(
-                  "read as %1, code page %2, because its fonts have this character "
-                  "set; File > Read in code page changes this")
-            : OpenedMessages::tr(
-                  "read as %1, code page %2, because its bytes look like it; File > "
-                  "Read in code page changes this");
-    const std::string_view title = forms::FindCodePage(guess.page)->title;
-    return text.arg(QString::fromUtf8(title.data(), static_cast<qsizetype>(title.size())))
-        .arg(guess.page);
+    const QString text = guess.reason == forms::CodePageGuess::Reason::Fonts
+                             ? OpenedMessages::tr(
+                                   "read as %1, because its fonts have this character "
+                                   "set; File > Read in code page changes this")
+                             : OpenedMessages::tr(
+                                   "read as %1, because its bytes look like it; File > "
+                                   "Read in code page changes this");
+    return text.arg(CodePageName(guess.page));
 }
 
 }  // namespace

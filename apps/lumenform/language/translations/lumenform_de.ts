@@ -116,6 +116,77 @@
     </message>
 </context>
 <context>
+    <name>code_pages</name>
+    <message>
+        <source>Thai</source>
+        <translation>Thailändisch</translation>
+    </message>
+    <message>
+        <source>Japanese (Shift JIS)</source>
+        <translation>Japanisch (Shift JIS)</translation>
+    </message>
+    <message>
+        <source>Chinese, simplified (GBK)</source>
+        <translation>Chinesisch, vereinfacht (GBK)</translation>
+    </message>
+    <message>
+        <source>Korean (UHC)</source>
+        <translation>Koreanisch (UHC)</translation>
+    </message>
+    <message>
+        <source>Chinese, traditional (Big5)</source>
+        <translation>Chinesisch, traditionell (Big5)</translation>
+    </message>
+    <message>
+        <source>Central European</source>
+        <translation>Mitteleuropäisch</translation>
+    </message>
+    <message>
+        <source>Cyrillic</source>
+        <translation>Kyrillisch</translation>
+    </message>
+    <message>
+        <source>Western European</source>
+        <translation>Westeuropäisch</translation>
+    </message>
+    <message>
+        <source>Greek</source>
+        <translation>Griechisch</translation>
+    </message>
+    <message>
+        <source>Turkish</source>
+        <translation>Türkisch</translation>
+    </message>
+    <message>
+        <source>Hebrew</source>
+        <translation>Hebräisch</translation>
+    </message>
+    <message>
+        <source>Arabic</source>
+        <translation>Arabisch</translation>
+    </message>
+    <message>
+        <source>Baltic</source>
+        <translation>Baltisch</translation>
+    </message>
+    <message>
+        <source>Vietnamese</source>
+        <translation>Vietnamesisch</translation>
+    </message>
+    <message>
+        <source>Korean (Johab)</source>
+        <translation>Koreanisch (Johab)</translation>
+    </message>
+    <message>
+        <source>Unicode (UTF-8)</source>
+        <translation>Unicode (UTF-8)</translation>
+    </message>
+    <message>
+        <source>%1, code page %2</source>
+        <translation>%1, Codepage %2</translation>
+    </message>
+</context>
+<context>
     <name>containers</name>
     <message>
         <source>Bring into view</source>
@@ -1918,7 +1989,7 @@ Copyright (c) 2026 the lumenkit authors. Freie Software unter der MIT-Lizenz.</t
     <name>lumenkit::lumenform::Toolbox</name>
     <message>
         <source>Search the toolbox</source>
-        <translation>Werkzeugsammlung durchsuchen</translation>
+        <translation>Werkzeuge suchen</translation>
     </message>
     <message>
         <source>Toolbox</source>
@@ -2157,20 +2228,20 @@ Copyright (c) 2026 the lumenkit authors. Freie Software unter der MIT-Lizenz.</t
 </context>
 <context>
     <name>opened_message</name>
-    <message>
-        <source>read as %1, code page %2, because its fonts have this character set; File &gt; Read in code page changes this</source>
-        <translation>gelesen als %1, Codepage %2, weil die Schriften diesen Zeichensatz haben; Datei &gt; In Codepage lesen ändert das</translation>
-    </message>
-    <message>
-        <source>read as %1, code page %2, because its bytes look like it; File &gt; Read in code page changes this</source>
-        <translation>gelesen als %1, Codepage %2, weil die Bytes danach aussehen; Datei &gt; In Codepage lesen ändert das</translation>
-    </message>
     <message numerus="yes">
         <source>%1 (and %n more; &quot;lumenkit check&quot; lists them)</source>
         <translation>
             <numerusform>%1 (und %n weitere; „lumenkit check“ zeigt sie)</numerusform>
             <numerusform>%1 (und %n weitere; „lumenkit check“ zeigt sie)</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>read as %1, because its fonts have this character set; File &gt; Read in code page changes this</source>
+        <translation>gelesen als %1, weil die Schriften diesen Zeichensatz haben; Datei &gt; In Codepage lesen ändert das</translation>
+    </message>
+    <message>
+        <source>read as %1, because its bytes look like it; File &gt; Read in code page changes this</source>
+        <translation>gelesen als %1, weil die Bytes danach aussehen; Datei &gt; In Codepage lesen ändert das</translation>
     </message>
 </context>
 <context>
@@ -2346,8 +2417,8 @@ Copyright (c) 2026 the lumenkit authors. Freie Software unter der MIT-Lizenz.</t
         <translation>das Formular verweist auf keine Liste</translation>
     </message>
     <message>
-        <source>item %1: %2 cannot be written in %3</source>
-        <translation>Eintrag %1: %2 lässt sich nicht in %3 schreiben</translation>
+        <source>item %1: %2 cannot be written in code page %3</source>
+        <translation>Eintrag %1: %2 lässt sich nicht in Codepage %3 schreiben</translation>
     </message>
 </context>
 <context>
@@ -2402,8 +2473,8 @@ Copyright (c) 2026 the lumenkit authors. Freie Software unter der MIT-Lizenz.</t
 <context>
     <name>writable_text</name>
     <message>
-        <source>&quot;%1&quot; (%2) cannot be written in %3</source>
-        <translation>„%1“ (%2) lässt sich nicht in %3 schreiben</translation>
+        <source>&quot;%1&quot; (%2) cannot be written in code page %3</source>
+        <translation>„%1“ (%2) lässt sich nicht in Codepage %3 schreiben</translation>
     </message>
 </context>
 </TS>

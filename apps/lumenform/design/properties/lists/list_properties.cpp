@@ -146,10 +146,11 @@ std::string EncodedList(const forms::Document& document, const Items& items,
         } catch (const forms::Unmappable& unmappable) {
             throw forms::FormError(
                 document.Name(),
-                QCoreApplication::translate("records", "item %1: %2 cannot be written in %3")
+                QCoreApplication::translate("records",
+                                            "item %1: %2 cannot be written in code page %3")
                     .arg(index + 1)
-                    .arg(QString::fromStdString(forms::UnitName(items[index][unmappable.index])),
-                         QString::fromStdString(unmappable.encoding))
+                    .arg(QString::fromStdString(forms::UnitName(items[index][unmappable.index])))
+                    .arg(document.CompanionCodePage())
                     .toStdString());
         }
     }
