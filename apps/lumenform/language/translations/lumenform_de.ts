@@ -784,7 +784,7 @@
     </message>
     <message>
         <source>Add a control to the selection, or remove it</source>
-        <translation>Ein Steuerelement in die Auswahl aufnehmen oder daraus entfernen</translation>
+        <translation>Ein Steuerelement hinzuwählen oder abwählen</translation>
     </message>
     <message>
         <source>Shift+click or Ctrl+click</source>

@@ -11,11 +11,12 @@
 #include <QLineEdit>
 #include <QMenu>
 #include <QMenuBar>
+#include <QScrollBar>
 #include <QStatusBar>
 #include <QTabBar>
 #include <QTextDocument>
 #include <QToolButton>
-#include <QTreeWidget>
+#include <QTreeView>
 #include <map>
 
 #include "apps/lumenform/form_view/form_view.h"
@@ -172,6 +173,10 @@ bool IsCutOff(const QWidget& widget) {
     if (const auto* const header = qobject_cast<const QHeaderView*>(&widget)) {
         return header->model() != nullptr && header->orientation() == Qt::Horizontal &&
                IsCutOff(*header);
+    }
+    if (const auto* const tree = qobject_cast<const QTreeView*>(&widget)) {
+        return qobject_cast<const QDialog*>(tree->window()) != nullptr &&
+               tree->horizontalScrollBar()->maximum() > 0;
     }
     if (const auto* const line = qobject_cast<const QLineEdit*>(&widget)) {
         constexpr int margins = 8;
