@@ -18,8 +18,8 @@ WINDOW_FOLDERS = ["design", "form_view", "run"]
 # Texts that may read the same in another language: names, terms and signs.
 MAY_BE_EQUAL = {
     "&Code", "&Name:", "&Palette", "&System", "0 - None", "1 - Left", "2 - Middle", "3 - Right", "Bitmap", "Code",
-    "Esc", "F&ormat", "F2", "F4", "Inde&x:", "Name", "Palette", "Position", "UTF-8", "lumenform", "lumenform %1",
-    "(%1, %2 KB)", "%1[*] – lumenform",
+    "Esc", "F&ormat", "F2", "F4", "Inde&x:", "Name", "Palette", "Position", "UTF-8", "Unicode (UTF-8)", "lumenform",
+    "lumenform %1", "(%1, %2 KB)", "%1[*] – lumenform",
 }
 
 # ---- Texts in sources
