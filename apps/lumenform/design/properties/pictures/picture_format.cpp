@@ -4,7 +4,6 @@
 #include <QCoreApplication>
 #include <QImage>
 #include <QImageReader>
-#include <QLocale>
 #include <QPainter>
 #include <QPixmapCache>
 #include <algorithm>
@@ -139,7 +138,7 @@ Text DescribePicture(TextView picture) {
         format == nullptr ? QT_TRANSLATE_NOOP("picture_format", "other format") : format->name);
     constexpr double kilobyte = 1024;
     const double size = static_cast<double>(picture.size()) / kilobyte;
-    return qt::ToText(PictureTexts::tr("(%1, %2 KB)").arg(name, QLocale().toString(size, 'f', 1)));
+    return qt::ToText(PictureTexts::tr("(%1, %2 KB)").arg(name, QString::number(size, 'f', 1)));
 }
 
 QPixmap PixmapOf(TextView picture) {
