@@ -10,8 +10,11 @@ namespace {
 
 constexpr int deepest = 3;  // a text in a text in a text
 
-bool HasLetters(const QString& text) {
-    return std::ranges::any_of(text, [](QChar one) { return one.isLetter(); });
+// Whether there are words, and not only signs, numbers and colours such as "&H8000000F&".
+bool HasWords(const QString& text) {
+    static const QRegularExpression color(QStringLiteral("^H[0-9A-F]+$"));
+    return std::ranges::any_of(text, [](QChar one) { return one.isLetter(); }) &&
+           !color.match(text).hasMatch();
 }
 
 QString WithoutMarks(QString text) {
@@ -79,7 +82,7 @@ void KnownTexts::AddData(const QStringList& data) {
 }
 
 bool KnownTexts::IsWhole(const QString& text) const {
-    return !HasLetters(text) || whole_.contains(text) || data_.contains(text) || IsKeys(text);
+    return !HasWords(text) || whole_.contains(text) || data_.contains(text) || IsKeys(text);
 }
 
 // Lines below each other, names in a list, and what stands after a place or a name.
@@ -113,7 +116,14 @@ bool KnownTexts::Fits(const QString& text, int depth) const {
 }
 
 bool KnownTexts::Knows(const QString& text) const {
-    return Fits(WithoutMarks(text), 0);
+    const QString plain = WithoutMarks(text);
+    if (!known_.contains(plain)) {
+        if (!Fits(plain, 0)) {
+            return false;
+        }
+        known_.insert(plain);
+    }
+    return true;
 }
 
 QStringList KnownTexts::Untranslated() const {

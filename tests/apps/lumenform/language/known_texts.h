@@ -35,6 +35,7 @@ class KnownTexts final : public QTranslator {
     mutable QSet<QString> whole_;
     mutable QHash<QString, QRegularExpression> patterns_;  // of the texts with place holders
     mutable QSet<QString> untranslated_;
+    mutable QSet<QString> known_;  // texts that were found before
     QSet<QString> data_;
 };
 

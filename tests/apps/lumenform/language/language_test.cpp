@@ -15,11 +15,13 @@
 
 #include <gmock/gmock.h>
 
+#include "apps/lumenform/design/code/form_code.h"
 #include "apps/lumenform/design/menus/menus_dialog.h"
 #include "apps/lumenform/design/model/code_page_name.h"
 #include "apps/lumenform/design/model/naming.h"
 #include "apps/lumenform/design/properties/choose_font.h"
 #include "apps/lumenform/design/properties/color_dialog.h"
+#include "apps/lumenform/design/properties/color_text.h"
 #include "apps/lumenform/design/properties/contents/contents_dialog.h"
 #include "apps/lumenform/design/properties/page_dialog.h"
 #include "apps/lumenform/design/properties/pictures/picture_dialog.h"
@@ -136,7 +138,29 @@ class German : public OpenedWindow {
             AddNames(*block);
         }
         AddProperties();
+        AddCode();
+        AddClasses();
         QApplication::processEvents();
+    }
+
+    // The names of the procedures.
+    void AddCode() const {
+        lumenform::FormCode code;
+        code.Take(Design().Document());
+        for (const lumenform::Procedure& procedure : code.Outline().Procedures()) {
+            texts->AddData({qt::ToQString(procedure.name)});
+        }
+    }
+
+    // The classes in the toolbox.
+    void AddClasses() const {
+        const auto* const list = window.Bench()->GetToolbox().findChild<QListWidget*>();
+        for (int row = 0; row < list->count(); ++row) {
+            const QString name = list->item(row)->data(Qt::UserRole).toString();
+            if (!name.isEmpty()) {
+                texts->AddData({name, ShortName(qt::ToText(name))});
+            }
+        }
     }
 
     void AddProperties() const {
@@ -215,7 +239,9 @@ TEST_F(German, TheChecksFindWhatIsWrong) {
 
 TEST_F(German, TheStartPage) {
     Expect(window, "empty");
-    window.Start().ShowRecent({Copy("options")});
+    const QString recent = Copy("options");
+    texts->AddData({recent, QStringLiteral("options.frm"), QFileInfo(recent).dir().dirName()});
+    window.Start().ShowRecent({recent});
     Expect(window, "with a recent form");
     EXPECT_EQ(window.menuBar()->actions().front()->text(), QStringLiteral("&Datei"));
 }
@@ -377,6 +403,9 @@ TEST_F(German, TheDialogsOfProperties) {
     texts->AddData({QStringLiteral("Eins"), QStringLiteral("Zwei")});
     contents.show();
     ExpectDialog(contents, "contents");
+    for (const lumenform::NamedColor& color : lumenform::SystemColors()) {
+        texts->AddData({qt::ToQString(color.name)});
+    }
     lumenform::ColorDialog colors(QStringLiteral("BackColor"), std::nullopt, &window);
     colors.show();
     ExpectDialog(colors, "colours");

@@ -9,6 +9,7 @@
 #include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
+#include <QListWidget>
 #include <QMenu>
 #include <QMenuBar>
 #include <QScrollBar>
@@ -99,7 +100,9 @@ class Reader {
     }
 
     void ReadItems(const QWidget& widget) {
-        if (const auto* const tabs = qobject_cast<const QTabBar*>(&widget)) {
+        if (const auto* const list = qobject_cast<const QListWidget*>(&widget)) {
+            ReadRows(*list);
+        } else if (const auto* const tabs = qobject_cast<const QTabBar*>(&widget)) {
             for (int tab = 0; tab < tabs->count(); ++tab) {
                 Add("tab", tabs->tabText(tab));
                 Add("tool tip of a tab", tabs->tabToolTip(tab));
@@ -110,6 +113,13 @@ class Reader {
                 Add("section",
                     header->model()->headerData(section, header->orientation()).toString());
             }
+        }
+    }
+
+    void ReadRows(const QListWidget& list) {
+        for (int row = 0; row < list.count(); ++row) {
+            Add("row", list.item(row)->text());
+            Add("tool tip of a row", list.item(row)->toolTip());
         }
     }
 
