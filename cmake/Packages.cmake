@@ -45,8 +45,10 @@ if(TARGET lumenform)
     debian_package(lumenform lumenform devel
         "designs, runs and draws form files with lumenkit's controls"
         "A designer for form files (.frm, .ctl, .pag, .dob) that runs them with their controls and draws them into pictures.")
-    # Substitutes for the fonts that forms name, such as Arial; and Wayland sessions.
-    set(CPACK_DEBIAN_LUMENFORM_PACKAGE_RECOMMENDS "fonts-liberation2, qt6-wayland")
+    # Substitutes for the fonts that forms name, such as Arial; Qt's own texts in other languages; and
+    # Wayland sessions.
+    set(CPACK_DEBIAN_LUMENFORM_PACKAGE_RECOMMENDS
+        "fonts-liberation2, qt6-translations-l10n, qt6-wayland")
 endif()
 debian_package(development liblumenkit-dev libdevel
     "lumenkit's controls without a screen, for programs in C++"

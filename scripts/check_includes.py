@@ -63,6 +63,7 @@ ALLOWED = {
                       "apps/command_line/spelling", "apps/command_line/manual",
                       "apps/difference", "apps/lumenkit/check", "apps/lumenkit/check/fix", "apps/lumenkit/drive",
                       "apps/lumenkit/svg"],
+    "apps/lumenform/language": [],
     "apps/lumenform/form_view": ["frame", "forms", "runtime/qt"],
     "apps/lumenform/run": ["forms", "runtime/qt", "apps/lumenform/form_view"],
     "apps/lumenform/design/model": ["frame", "forms", "runtime/qt", "apps/lumenform/form_view"],
@@ -88,7 +89,7 @@ ALLOWED = {
                                      "apps/lumenform/design/recovery"],
     "apps/lumenform": ["forms", "project", "runtime/qt", "apps/command_line",
                        "apps/command_line/manual",
-                       "apps/lumenform/form_view", "apps/lumenform/run",
+                       "apps/lumenform/form_view", "apps/lumenform/language", "apps/lumenform/run",
                        "apps/lumenform/design/model", "apps/lumenform/design/properties",
                        "apps/lumenform/design/window"],
     # Tests, samples and tools, which combine the libraries.

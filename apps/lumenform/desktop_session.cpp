@@ -8,6 +8,7 @@
 #include "apps/command_line/exit_status.h"
 #include "apps/lumenform/desktop.h"
 #include "apps/lumenform/display_watch.h"
+#include "apps/lumenform/language/language.h"
 #include "project/lumenkit_classes.h"
 #include "runtime/qt/application.h"
 #include "runtime/qt/interaction.h"
@@ -30,6 +31,7 @@ int ShowOnDesktop(const DesktopOptions& options, const char* instead, const Make
         const DisplayWatch watch(instead);
         application = std::make_unique<QApplication>(arguments.count, arguments.values.data());
     }
+    UseLanguage();
     if (options.dark) {
         UseOwnStyle(true);
     }

@@ -9,6 +9,8 @@ namespace lumenkit::lumenform {
 /// A list of the last thousand events that the controls of a form raised, one per line: control,
 /// event and arguments.
 class EventLog final : public QTreeWidget {
+    Q_OBJECT
+
  public:
     static constexpr int longest = 1000;
 

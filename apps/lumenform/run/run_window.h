@@ -11,6 +11,8 @@ namespace lumenkit::lumenform {
 
 /// Shows a form in run mode at its size, with the log of its events below.
 class RunWindow final : public QMainWindow {
+    Q_OBJECT
+
  public:
     /// Throws FormError as FormView does. Context and document must outlive the window.
     RunWindow(const qt::Context& context, forms::Document& document);

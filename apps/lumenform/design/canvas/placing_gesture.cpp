@@ -33,7 +33,8 @@ float NearerOf(float dragged, float onGrid, std::optional<float> guide, bool sna
 // The title of a step that puts controls into a container. A null container is the form.
 QString DropTitle(const std::vector<LiveControl*>& controls, const LiveControl* container) {
     const QString what = controls.size() == 1 ? qt::ToQString(controls.front()->Name())
-                                              : QObject::tr("%1 controls").arg(controls.size());
+                                              : QObject::tr("%n controls", nullptr,
+                                                            static_cast<int>(controls.size()));
     return container == nullptr
                ? QObject::tr("Move %1 to the form").arg(what)
                : QObject::tr("Move %1 into %2").arg(what, qt::ToQString(container->Name()));
@@ -46,9 +47,9 @@ QString PlacingTitle(Edges edges, std::size_t count, const LiveControl& one) {
         const QString title = edges == allEdges ? QObject::tr("Move %1") : QObject::tr("Size %1");
         return title.arg(qt::ToQString(one.Name()));
     }
-    const QString title =
-        edges == allEdges ? QObject::tr("Move %1 controls") : QObject::tr("Size %1 controls");
-    return title.arg(count);
+    const auto number = static_cast<int>(count);
+    return edges == allEdges ? QObject::tr("Move %n controls", nullptr, number)
+                             : QObject::tr("Size %n controls", nullptr, number);
 }
 
 PlacingGesture::PlacingGesture(const Ground& ground, const LiveControl& grabbed, Edges edges,

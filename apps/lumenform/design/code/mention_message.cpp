@@ -10,16 +10,16 @@ namespace lumenkit::lumenform {
 
 namespace {
 
-QString Said(const char* text, int count = -1) {
-    return QCoreApplication::translate("mention_message", text, nullptr, count);
-}
+struct Mentions {
+    Q_DECLARE_TR_FUNCTIONS(mention_message)
+};
 
 QString InWords(const std::vector<Text>& names) {
     const QString first = qt::ToQString(names.front());
     const auto others = static_cast<int>(names.size()) - 1;
     return others == 0   ? first
-           : others == 1 ? Said("%1 and %2").arg(first, qt::ToQString(names.back()))
-                         : Said("%1 and %n other names", others).arg(first);
+           : others == 1 ? Mentions::tr("%1 and %2").arg(first, qt::ToQString(names.back()))
+                         : Mentions::tr("%1 and %n other names", nullptr, others).arg(first);
 }
 
 }  // namespace
@@ -36,23 +36,27 @@ QString MentionMessage(const CodeOutline& outline, const std::vector<Text>& name
     }
     const auto others = static_cast<int>(procedures.size()) - 1;
     if (others < 0) {
-        return isInDeclarations ? Said("The declarations still mention %1").arg(InWords(names))
-                                : QString();
+        return isInDeclarations
+                   ? Mentions::tr("The declarations still mention %1").arg(InWords(names))
+                   : QString();
     }
     const QString first = procedures.front();
     if (isInDeclarations) {
         const QString places =
-            others == 0   ? Said("%1 and the declarations").arg(first)
-            : others == 1 ? Said("%1, %2 and the declarations").arg(first, procedures.back())
-                          : Said("%1, %n other procedures and the declarations", others).arg(first);
-        return Said("%1 still mention %2").arg(places, InWords(names));
+            others == 0 ? Mentions::tr("%1 and the declarations").arg(first)
+            : others == 1
+                ? Mentions::tr("%1, %2 and the declarations").arg(first, procedures.back())
+                : Mentions::tr("%1, %n other procedures and the declarations", nullptr, others)
+                      .arg(first);
+        return Mentions::tr("%1 still mention %2").arg(places, InWords(names));
     }
     if (others == 0) {
-        return Said("%1 still mentions %2").arg(first, InWords(names));
+        return Mentions::tr("%1 still mentions %2").arg(first, InWords(names));
     }
-    const QString places = others == 1 ? Said("%1 and %2").arg(first, procedures.back())
-                                       : Said("%1 and %n other procedures", others).arg(first);
-    return Said("%1 still mention %2").arg(places, InWords(names));
+    const QString places =
+        others == 1 ? Mentions::tr("%1 and %2").arg(first, procedures.back())
+                    : Mentions::tr("%1 and %n other procedures", nullptr, others).arg(first);
+    return Mentions::tr("%1 still mention %2").arg(places, InWords(names));
 }
 
 }  // namespace lumenkit::lumenform

@@ -10,6 +10,7 @@
 #include "apps/lumenform/design/properties/stored_property.h"
 #include "forms/controls.h"
 #include "frame/runtime_error.h"
+#include "runtime/qt/qt_text.h"
 
 namespace lumenkit::lumenform {
 
@@ -159,7 +160,8 @@ void StoreMenu(forms::Block& block, const MenuEntry& former, const MenuEntry& no
 void RequireSame(const forms::Document& document, const MenuEntries& former) {
     if (ReadMenus(document) != former) {
         throw RuntimeError(static_cast<std::int32_t>(ErrorNumber::InvalidPropertyValue),
-                           u"The menus of the form have changed meanwhile");
+                           qt::ToText(QCoreApplication::translate(
+                               "menus", "The menus of the form have changed meanwhile")));
     }
 }
 

@@ -94,7 +94,9 @@ Clip Unpacked(const QByteArray& packed) {
         stream >> axis->origin >> axis->unit;
     }
     if (stream.status() != QDataStream::Ok) {
-        throw forms::FormError("clipboard", "expected controls");
+        throw forms::FormError(
+            "clipboard",
+            QCoreApplication::translate("clipboard", "expected controls").toStdString());
     }
     return {codePage, {form.toStdString(), companion.toStdString()}, scale};
 }

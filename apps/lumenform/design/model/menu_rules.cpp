@@ -1,5 +1,6 @@
 #include "apps/lumenform/design/model/menu_rules.h"
 
+#include <QCoreApplication>
 #include <algorithm>
 #include <array>
 #include <map>
@@ -12,12 +13,25 @@
 #include "forms/controls.h"
 #include "frame/numbers.h"
 #include "frame/runtime_error.h"
+#include "runtime/qt/qt_text.h"
 
 namespace lumenkit::lumenform {
 
 namespace {
 
 constexpr std::int32_t highestMenuIndex = 32767;
+
+struct MenuRules {
+    Q_DECLARE_TR_FUNCTIONS(menu_rules)
+};
+
+template <typename... Names>
+Text Told(const QString& why, const Names&... names) {
+    return qt::ToText(why.arg(qt::ToQString(names)...));
+}
+Text Told(const QString& why) {
+    return qt::ToText(why);
+}
 
 using Positions = std::vector<std::size_t>;
 
@@ -57,25 +71,26 @@ MenuLookup LookUp(const forms::Document& document, const MenuEntries& menus) {
 Text WhyNotNamed(const MenuLookup& lookup, std::size_t at) {
     const Text& name = lookup.At(at).name;
     if (name.empty()) {
-        return u"A menu needs a name";
+        return Told(MenuRules::tr("A menu needs a name"));
     }
     return IsName(name) ? Text()
-                        : Text(
-                              u"A name begins with a letter, continues with letters, digits and "
-                              u"underscores, and has at most 40 characters");
+                        : Told(MenuRules::tr(
+                              "A name begins with a letter, continues with letters, digits and "
+                              "underscores, and has at most 40 characters"));
 }
 
 Text WhyTaken(const MenuLookup& lookup, std::size_t at) {
     const auto found = lookup.otherNames.find(LCase(lookup.At(at).name));
     return found == lookup.otherNames.end()
                ? Text()
-               : u"The name \"" + found->second + u"\" is already taken by the form or a control";
+               : Told(MenuRules::tr("The name \"%1\" is already taken by the form or a control"),
+                      found->second);
 }
 
 Text WhyNoIndex(const MenuLookup& lookup, std::size_t at) {
     const MenuEntry& entry = lookup.At(at);
     return entry.index && (*entry.index < 0 || *entry.index > highestMenuIndex)
-               ? Text(u"An index must be from 0 to 32767")
+               ? Told(MenuRules::tr("An index must be from 0 to 32767"))
                : Text();
 }
 
@@ -86,12 +101,14 @@ Text WhyNoElement(const MenuLookup& lookup, std::size_t at) {
         return {};
     }
     if (std::ranges::any_of(same, [&](std::size_t one) { return !lookup.At(one).index; })) {
-        return u"Another menu has the name \"" + entry.name +
-               u"\". Give both an index to make them an array";
+        return Told(
+            MenuRules::tr("Another menu has the name \"%1\". Give both an index to make them "
+                          "an array"),
+            entry.name);
     }
     const auto bearers = std::ranges::count(same, entry.index,
                                             [&](std::size_t one) { return lookup.At(one).index; });
-    return bearers < 2 ? Text() : u"Another menu is \"" + NameInCode(entry) + u'"';
+    return bearers < 2 ? Text() : Told(MenuRules::tr("Another menu is \"%1\""), NameInCode(entry));
 }
 
 // The elements of an array are neighbours, with rising indices.
@@ -108,17 +125,20 @@ Text WhyNotInArray(const MenuLookup& lookup, std::size_t at) {
         return {};  // no array
     }
     if (previous.level != entry.level || EndOfMenu(lookup.menus, before) != at) {
-        return u"The elements of the array \"" + entry.name +
-               u"\" must follow each other in one menu";
+        return Told(
+            MenuRules::tr("The elements of the array \"%1\" must follow each other in one menu"),
+            entry.name);
     }
     return *entry.index < *previous.index
-               ? u"The indices of the array \"" + entry.name + u"\" must rise from menu to menu"
+               ? Told(MenuRules::tr("The indices of the array \"%1\" must rise from menu to menu"),
+                      entry.name)
                : Text();
 }
 
 Text WhyTooDeep(const MenuLookup& lookup, std::size_t at) {
     return lookup.At(at).level > mostMenuLevels
-               ? u"Menus have at most " + Decimal(mostMenuLevels) + u" levels below the menu bar"
+               ? Told(MenuRules::tr("Menus have at most %n levels below the menu bar", nullptr,
+                                    mostMenuLevels))
                : Text();
 }
 
@@ -127,10 +147,11 @@ Text WhyNoTitle(const MenuLookup& lookup, std::size_t at) {
     if (entry.level > 0) {
         return {};
     }
-    return entry.IsSeparator()       ? Text(u"A separator cannot be in the menu bar itself")
-           : entry.isChecked         ? Text(u"A menu in the menu bar cannot be checked")
-           : !entry.shortcut.empty() ? Text(u"A menu in the menu bar cannot have a shortcut key")
-                                     : Text();
+    return entry.IsSeparator() ? Told(MenuRules::tr("A separator cannot be in the menu bar itself"))
+           : entry.isChecked   ? Told(MenuRules::tr("A menu in the menu bar cannot be checked"))
+           : !entry.shortcut.empty()
+               ? Told(MenuRules::tr("A menu in the menu bar cannot have a shortcut key"))
+               : Text();
 }
 
 Text WhyNoParent(const MenuLookup& lookup, std::size_t at) {
@@ -138,10 +159,10 @@ Text WhyNoParent(const MenuLookup& lookup, std::size_t at) {
     if (entry.level == 0 || !HasEntries(lookup.menus, at)) {
         return {};
     }
-    return entry.IsSeparator() ? Text(u"A separator cannot contain menus")
-           : entry.isChecked   ? Text(u"A menu that contains others cannot be checked")
+    return entry.IsSeparator() ? Told(MenuRules::tr("A separator cannot contain menus"))
+           : entry.isChecked ? Told(MenuRules::tr("A menu that contains others cannot be checked"))
            : !entry.shortcut.empty()
-               ? Text(u"A menu that contains others cannot have a shortcut key")
+               ? Told(MenuRules::tr("A menu that contains others cannot have a shortcut key"))
                : Text();
 }
 
@@ -150,8 +171,8 @@ Text WhyNoSeparator(const MenuLookup& lookup, std::size_t at) {
     if (!entry.IsSeparator()) {
         return {};
     }
-    return entry.isChecked           ? Text(u"A separator cannot be checked")
-           : !entry.shortcut.empty() ? Text(u"A separator cannot have a shortcut key")
+    return entry.isChecked           ? Told(MenuRules::tr("A separator cannot be checked"))
+           : !entry.shortcut.empty() ? Told(MenuRules::tr("A separator cannot have a shortcut key"))
                                      : Text();
 }
 
@@ -160,12 +181,12 @@ Text WhyNoShortcut(const MenuLookup& lookup, std::size_t at) {
     if (shortcut.empty() || lookup.shortcuts.at(ShownShortcut(shortcut)).size() < 2) {
         return {};
     }
-    return u"Another menu has the shortcut key " + ShownShortcut(shortcut);
+    return Told(MenuRules::tr("Another menu has the shortcut key %1"), ShownShortcut(shortcut));
 }
 
 Text WhyNoWindowList(const MenuLookup& lookup, std::size_t at) {
     return lookup.At(at).listsWindows && lookup.windowLists.size() > 1
-               ? Text(u"Only one menu of a form can list the windows")
+               ? Told(MenuRules::tr("Only one menu of a form can list the windows"))
                : Text();
 }
 

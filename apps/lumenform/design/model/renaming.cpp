@@ -1,11 +1,12 @@
 #include "apps/lumenform/design/model/renaming.h"
 
-#include <utility>
+#include <QCoreApplication>
 
 #include "apps/lumenform/design/model/naming.h"
 #include "forms/controls.h"
 #include "forms/literal.h"
 #include "frame/runtime_error.h"
+#include "runtime/qt/qt_text.h"
 
 namespace lumenkit::lumenform {
 
@@ -13,9 +14,13 @@ namespace {
 
 constexpr std::int32_t highestIndex = 32767;
 
-[[noreturn]] void RefuseName(Text why) {
+struct Renaming {
+    Q_DECLARE_TR_FUNCTIONS(renaming)
+};
+
+[[noreturn]] void RefuseName(const QString& why) {
     throw RuntimeError(static_cast<std::int32_t>(ErrorNumber::InvalidPropertyValue),
-                       std::move(why));
+                       qt::ToText(why));
 }
 
 bool HasIndex(const forms::Block& control) {
@@ -24,20 +29,25 @@ bool HasIndex(const forms::Block& control) {
 
 void RequireRoomBeside(const forms::Block& control, const forms::Block& other) {
     if (!SameText(control.ClassName(), other.ClassName(), Compare::IgnoreCase)) {
-        RefuseName(u"\"" + other.Name() + u"\" is already a control of another class");
+        RefuseName(Renaming::tr("\"%1\" is already a control of another class")
+                       .arg(qt::ToQString(other.Name())));
     }
     if (!HasIndex(control) || !HasIndex(other)) {
-        RefuseName(u"There is already a control \"" + other.Name() +
-                   u"\". Give both an index first to make them an array");
+        RefuseName(
+            Renaming::tr(
+                "There is already a control \"%1\". Give both an index first to make them an array")
+                .arg(qt::ToQString(other.Name())));
     }
     if (SameText(forms::NameInCode(control), forms::NameInCode(other), Compare::IgnoreCase)) {
-        RefuseName(u"There is already a control \"" + forms::NameInCode(other) + u'"');
+        RefuseName(Renaming::tr("There is already a control \"%1\"")
+                       .arg(qt::ToQString(forms::NameInCode(other))));
     }
 }
 
 void RequireRoom(const forms::Block& form, const forms::Block& control) {
     if (&control != &form && Bears(form, control.Name())) {
-        RefuseName(u"The form itself has the name \"" + form.Name() + u'"');
+        RefuseName(
+            Renaming::tr("The form itself has the name \"%1\"").arg(qt::ToQString(form.Name())));
     }
     for (const forms::Block* other : forms::AllControls(form)) {
         if (other != &control && Bears(*other, control.Name())) {
@@ -50,9 +60,9 @@ void RequireRoom(const forms::Block& form, const forms::Block& control) {
 
 void RenameIn(forms::Document& document, forms::Block& block, TextView name) {
     if (!IsName(name)) {
-        RefuseName(
-            u"A name begins with a letter, continues with letters, digits and underscores, and "
-            u"has at most 40 characters");
+        RefuseName(Renaming::tr(
+            "A name begins with a letter, continues with letters, digits and underscores, and "
+            "has at most 40 characters"));
     }
     if (&block == &document.Root()) {
         document.RenameForm(name);
@@ -66,7 +76,7 @@ void SetIndexIn(forms::Block& form, forms::Block& control, std::optional<std::in
     if (!index) {
         control.Remove(u"Index");
     } else if (*index < 0 || *index > highestIndex) {
-        RefuseName(u"An index must be from 0 to 32767");
+        RefuseName(Renaming::tr("An index must be from 0 to 32767"));
     } else {
         control.Set(u"Index", forms::Literal(*index), u"Height");
     }

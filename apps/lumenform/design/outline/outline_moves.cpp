@@ -23,9 +23,9 @@ QString OutlineTitle(const char* text) {
 }
 
 QString NameOf(const OutlineNodes& nodes) {
-    return nodes.size() == 1
-               ? qt::ToQString(forms::NameInCode(*nodes.front()->block))
-               : OutlineTitle(QT_TRANSLATE_NOOP("outline", "%1 objects")).arg(nodes.size());
+    const auto count = static_cast<int>(nodes.size());
+    return count == 1 ? qt::ToQString(forms::NameInCode(*nodes.front()->block))
+                      : QCoreApplication::translate("outline", "%n objects", nullptr, count);
 }
 
 bool AllAre(const OutlineNodes& nodes, Kind kind) {

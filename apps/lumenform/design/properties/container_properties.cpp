@@ -1,5 +1,6 @@
 #include "apps/lumenform/design/properties/container_properties.h"
 
+#include <QCoreApplication>
 #include <algorithm>
 #include <array>
 #include <iterator>
@@ -18,18 +19,22 @@ namespace {
 constexpr std::array<TextView, 9> containerProperties = {
     u"Height", u"Index", u"Left", u"TabIndex", u"TabStop", u"Tag", u"Top", u"Visible", u"Width"};
 
-constexpr TextView nameHelp = u"Returns the name used in code to identify an object.";
-constexpr TextView indexHelp =
-    u"The number of the control in its control array. Empty if it is in no array.";
-constexpr TextView tabIndexHelp = u"The position of the control in the tab order, from 0.";
-constexpr TextView tabStopHelp = u"Determines whether Tab stops at the control.";
-constexpr TextView tagHelp = u"A text for the use of the program.";
-constexpr TextView visibleHelp = u"Determines whether the control is visible when the form runs.";
+constexpr const char* nameHelp =
+    QT_TRANSLATE_NOOP("help", "Returns the name used in code to identify an object.");
+constexpr const char* indexHelp = QT_TRANSLATE_NOOP(
+    "help", "The number of the control in its control array. Empty if it is in no array.");
+constexpr const char* tabIndexHelp =
+    QT_TRANSLATE_NOOP("help", "The position of the control in the tab order, from 0.");
+constexpr const char* tabStopHelp =
+    QT_TRANSLATE_NOOP("help", "Determines whether Tab stops at the control.");
+constexpr const char* tagHelp = QT_TRANSLATE_NOOP("help", "A text for the use of the program.");
+constexpr const char* visibleHelp =
+    QT_TRANSLATE_NOOP("help", "Determines whether the control is visible when the form runs.");
 
 ObjectProperty IndexProperty(FormDesign& design, forms::Block& block) {
     return {
         .name = u"Index",
-        .help = Text(indexHelp),
+        .help = HelpText(indexHelp),
         .kind = PropertyKind::Number,
         .isIndividual = true,
         .get = [&design,
@@ -46,7 +51,7 @@ ObjectProperty IndexProperty(FormDesign& design, forms::Block& block) {
 
 ObjectProperty TabIndexProperty(FormDesign& design, forms::Block& block) {
     return {.name = u"TabIndex",
-            .help = Text(tabIndexHelp),
+            .help = HelpText(tabIndexHelp),
             .kind = PropertyKind::Number,
             .isIndividual = true,
             .get =
@@ -57,10 +62,10 @@ ObjectProperty TabIndexProperty(FormDesign& design, forms::Block& block) {
                        const Value& value) { GiveTurn(design.Document(), block, ToLong(value)); }};
 }
 
-ObjectProperty PlaceProperty(FormDesign& design, LiveControl& control, TextView name, TextView help,
-                             float host::Placement::*member) {
+ObjectProperty PlaceProperty(FormDesign& design, LiveControl& control, TextView name,
+                             const char* help, float host::Placement::*member) {
     return {.name = Text(name),
-            .help = Text(help),
+            .help = HelpText(help),
             .kind = PropertyKind::Number,
             .place = PropertyPlace::Live,
             .get = [&design, &control, name, member]() -> Value {
@@ -89,17 +94,23 @@ TabRole TabRoleOf(const LiveControl& control) {
 std::vector<ObjectProperty> PlaceProperties(FormDesign& design, LiveControl& control) {
     using host::Placement;
     std::vector<ObjectProperty> properties = {
-        PlaceProperty(design, control, u"Left",
-                      u"The distance from the left edge of the container to the control.",
-                      &Placement::left),
-        PlaceProperty(design, control, u"Top",
-                      u"The distance from the upper edge of the container to the control.",
-                      &Placement::top)};
+        PlaceProperty(
+            design, control, u"Left",
+            QT_TRANSLATE_NOOP("help",
+                              "The distance from the left edge of the container to the control."),
+            &Placement::left),
+        PlaceProperty(
+            design, control, u"Top",
+            QT_TRANSLATE_NOOP("help",
+                              "The distance from the upper edge of the container to the control."),
+            &Placement::top)};
     if (IsSeen(control)) {
-        properties.push_back(PlaceProperty(design, control, u"Width", u"The width of the control.",
+        properties.push_back(PlaceProperty(design, control, u"Width",
+                                           QT_TRANSLATE_NOOP("help", "The width of the control."),
                                            &Placement::width));
         properties.push_back(PlaceProperty(design, control, u"Height",
-                                           u"The height of the control.", &Placement::height));
+                                           QT_TRANSLATE_NOOP("help", "The height of the control."),
+                                           &Placement::height));
     }
     return properties;
 }
@@ -114,7 +125,7 @@ bool IsContainers(TextView name) {
 
 ObjectProperty NameProperty(FormDesign& design, forms::Block& block) {
     return {.name = u"(Name)",
-            .help = Text(nameHelp),
+            .help = HelpText(nameHelp),
             .isIndividual = true,
             .get = [&block]() -> Value { return block.Name(); },
             .set =

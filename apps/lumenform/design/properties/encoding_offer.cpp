@@ -4,6 +4,7 @@
 #include <utility>
 #include <vector>
 
+#include "apps/lumenform/design/model/code_page_name.h"
 #include "apps/lumenform/design/model/refusal.h"
 #include "forms/change_encoding.h"
 #include "forms/code_page.h"
@@ -63,8 +64,7 @@ void EncodingOffer::ShowPages() {
     QMenu menu(&notice_);
     const Text text = text_();
     for (const forms::KnownCodePage* const page : PagesFor(design_.Document(), text)) {
-        menu.addAction(QString::fromStdString(forms::NameOfCodePage(page->number)), this,
-                       [this, page] { WriteIn(page->number); });
+        menu.addAction(CodePageName(page->number), this, [this, page] { WriteIn(page->number); });
     }
     if (menu.isEmpty()) {
         menu.addAction(tr("No code page has all characters of the form"))->setEnabled(false);

@@ -1,17 +1,21 @@
 #include "apps/lumenform/design/properties/font_text.h"
 
+#include <QCoreApplication>
 #include <optional>
 
 #include "frame/numbers.h"
 #include "frame/runtime_error.h"
+#include "runtime/qt/qt_text.h"
 
 namespace lumenkit::lumenform {
 
 namespace {
 
 [[noreturn]] void RefuseFont() {
-    throw RuntimeError(static_cast<std::int32_t>(ErrorNumber::InvalidPropertyValue),
-                       u"A font is written like this: Arial, 9.75 pt bold italic");
+    throw RuntimeError(
+        static_cast<std::int32_t>(ErrorNumber::InvalidPropertyValue),
+        qt::ToText(QCoreApplication::translate("font_text", "A font is written like this: %1")
+                       .arg(QStringLiteral("Arial, 9.75 pt bold italic"))));
 }
 
 // Removes the first word from `text` and returns it.

@@ -1,5 +1,6 @@
 #include "apps/lumenform/design/properties/menu_properties.h"
 
+#include <QCoreApplication>
 #include <algorithm>
 #include <utility>
 
@@ -9,6 +10,7 @@
 #include "apps/lumenform/design/properties/plain_properties.h"
 #include "apps/lumenform/design/properties/stored_property.h"
 #include "frame/runtime_error.h"
+#include "runtime/qt/qt_text.h"
 
 namespace lumenkit::lumenform {
 
@@ -31,8 +33,10 @@ const Choice& ChosenShortcut(const std::vector<Choice>& choices, TextView text) 
                SameText(ToText(choice.value), text, Compare::IgnoreCase);
     });
     if (found == choices.end()) {
-        throw RuntimeError(static_cast<std::int32_t>(ErrorNumber::InvalidPropertyValue),
-                           u"\"" + Text(text) + u"\" is no shortcut key of a menu");
+        throw RuntimeError(
+            static_cast<std::int32_t>(ErrorNumber::InvalidPropertyValue),
+            qt::ToText(QCoreApplication::translate("menus", "\"%1\" is no shortcut key of a menu")
+                           .arg(qt::ToQString(text))));
     }
     return *found;
 }
@@ -40,7 +44,8 @@ const Choice& ChosenShortcut(const std::vector<Choice>& choices, TextView text) 
 ObjectProperty ShortcutProperty(FormDesign& design, forms::Block& menu) {
     ObjectProperty shortcut{
         .name = u"Shortcut",
-        .help = u"The key that chooses the menu from anywhere in the form.",
+        .help = HelpText(
+            QT_TRANSLATE_NOOP("help", "The key that chooses the menu from anywhere in the form.")),
         .kind = PropertyKind::Choice,
         .choices = ShortcutChoices(PresentShortcut(design, menu)),
         .get = [&design, &menu]() -> Value { return PresentShortcut(design, menu); },
@@ -56,7 +61,8 @@ ObjectProperty MenuIndexProperty(FormDesign& design, forms::Block& menu) {
     ObjectProperty index = MakeProperty(
         design, menu,
         {.name = u"Index",
-         .help = u"The number of the menu in its control array. Empty if it is in no array.",
+         .help = QT_TRANSLATE_NOOP(
+             "help", "The number of the menu in its control array. Empty if it is in no array."),
          .type = StoredType::Whole});
     index.isIndividual = true;
     index.set = [set = index.set, reset = index.reset](const Value& value) {
@@ -91,7 +97,8 @@ bool IsOwn(TextView name) {
 }  // namespace
 
 std::vector<Choice> ShortcutChoices(TextView present) {
-    std::vector<Choice> choices = {{u"(None)", Text()}};
+    std::vector<Choice> choices = {
+        {qt::ToText(QCoreApplication::translate("menus", "(None)")), Text()}};
     for (const MenuShortcut& shortcut : MenuShortcuts()) {
         choices.push_back({shortcut.shown, shortcut.written});
     }

@@ -10,6 +10,7 @@ namespace lumenkit::lumenform {
 namespace {
 
 const auto utf8Link = QLatin1String("utf8");
+const auto pageLink = QLatin1String("page");
 
 QString Link(QLatin1String target, const QString& title) {
     return QStringLiteral("<a href=\"%1\">%2</a>").arg(target, title.toHtmlEscaped());
@@ -35,7 +36,7 @@ Notice::Notice(QWidget* parent)
     texts->addWidget(links_);
     layout->addLayout(texts, 1);
     links_->setText(Link(utf8Link, tr("Write the form in UTF-8")) + QStringLiteral(" &nbsp; ") +
-                    Link(QLatin1String("page"), tr("Another code page…")));
+                    Link(pageLink, tr("Another code page…")));
     links_->setTextInteractionFlags(Qt::LinksAccessibleByMouse | Qt::LinksAccessibleByKeyboard);
     connect(links_, &QLabel::linkActivated, this, [this](const QString& target) {
         if (target == utf8Link) {

@@ -1,5 +1,6 @@
 #include "apps/lumenform/design/properties/plain_properties.h"
 
+#include <QCoreApplication>
 #include <algorithm>
 #include <iterator>
 #include <set>
@@ -19,6 +20,7 @@
 #include "forms/controls.h"
 #include "frame/numbers.h"
 #include "frame/runtime_error.h"
+#include "runtime/qt/qt_text.h"
 
 namespace lumenkit::lumenform {
 
@@ -116,7 +118,7 @@ ObjectProperty UnknownProperty(FormDesign& design, forms::Block& block,
         return PictureProperty(design, block, property.Name());
     }
     if (reference != nullptr && !reference->marked) {
-        return Unchangeable(property.Name(), u"(companion)");
+        return Unchangeable(property.Name(), CompanionText());
     }
     if (std::holds_alternative<forms::Shortcut>(literal) ||
         std::holds_alternative<forms::Guid>(literal) ||
@@ -138,7 +140,8 @@ ObjectProperty StatedProperty(FormDesign& design, forms::Block& block, TextView 
     if (const forms::Property* property = block.FindProperty(name)) {
         return UnknownProperty(design, block, *property);
     }
-    return Unchangeable(Text(name), u"(group)");
+    return Unchangeable(Text(name),
+                        qt::ToText(QCoreApplication::translate("properties", "(group)")));
 }
 
 std::vector<ObjectProperty> PropertiesIn(FormDesign& design, forms::Block& block,
@@ -223,7 +226,9 @@ void RefuseMissingPages(std::vector<ObjectProperty>& properties, const forms::Bl
                 const std::int32_t page = ToLong(value);
                 if (page < 0 || page > last) {
                     throw RuntimeError(static_cast<std::int32_t>(ErrorNumber::InvalidPropertyValue),
-                                       u"The pages are 0 to " + Decimal(last) + u".");
+                                       qt::ToText(QCoreApplication::translate(
+                                                      "properties", "The pages are 0 to %1.")
+                                                      .arg(last)));
                 }
                 set(value);
             };

@@ -1,5 +1,6 @@
 #include "apps/lumenform/design/properties/property_groups.h"
 
+#include <QCoreApplication>
 #include <algorithm>
 #include <array>
 #include <cstddef>
@@ -89,19 +90,19 @@ constexpr auto positionNames = std::to_array<TextView>({u"Align",
                                                         u"Y2"});
 
 struct NamedGroup {
-    TextView title;
+    const char* title;
     std::span<const TextView> names;
 };
 
 // In the order of PropertyGroup. Properties without a group of their own are in the last one.
 constexpr std::array<NamedGroup, 7> namedGroups = {{
-    {u"Appearance", appearanceNames},
-    {u"Behaviour", behaviourNames},
-    {u"Data", dataNames},
-    {u"Font", fontNames},
-    {u"Pictures", pictureNames},
-    {u"Position", positionNames},
-    {u"Misc", {}},
+    {QT_TRANSLATE_NOOP("property_groups", "Appearance"), appearanceNames},
+    {QT_TRANSLATE_NOOP("property_groups", "Behaviour"), behaviourNames},
+    {QT_TRANSLATE_NOOP("property_groups", "Data"), dataNames},
+    {QT_TRANSLATE_NOOP("property_groups", "Font"), fontNames},
+    {QT_TRANSLATE_NOOP("property_groups", "Pictures"), pictureNames},
+    {QT_TRANSLATE_NOOP("property_groups", "Position"), positionNames},
+    {QT_TRANSLATE_NOOP("property_groups", "Misc"), {}},
 }};
 
 PropertyGroup GroupOfKind(PropertyKind kind) {
@@ -126,8 +127,9 @@ PropertyGroup GroupOfKind(PropertyKind kind) {
 
 }  // namespace
 
-TextView TitleOf(PropertyGroup group) {
-    return namedGroups.at(static_cast<std::size_t>(group)).title;
+QString TitleOf(PropertyGroup group) {
+    return QCoreApplication::translate("property_groups",
+                                       namedGroups.at(static_cast<std::size_t>(group)).title);
 }
 
 PropertyGroup GroupOf(TextView name, PropertyKind kind) {

@@ -1,6 +1,7 @@
 // The groups of the property list.
 #pragma once
 
+#include <QString>
 #include <cstdint>
 
 #include "apps/lumenform/design/properties/object_property.h"
@@ -19,7 +20,7 @@ enum class PropertyGroup : std::uint8_t {
     Misc,
 };
 
-TextView TitleOf(PropertyGroup group);
+QString TitleOf(PropertyGroup group);
 
 /// Returns the group of a property. An unknown name belongs to the group of its kind, or to Misc.
 PropertyGroup GroupOf(TextView name, PropertyKind kind);

@@ -14,6 +14,7 @@
 #include "apps/lumenform/design/properties/menu_properties.h"
 #include "apps/lumenform/design/properties/pictures/picture_format.h"
 #include "apps/lumenform/design/properties/plain_properties.h"
+#include "apps/lumenform/design/properties/stored_property.h"
 #include "forms/controls.h"
 #include "frame/runtime_error.h"
 #include "runtime/qt/qt_text.h"
@@ -78,7 +79,7 @@ void ReadValue(PropertyRow& row) {
     } catch (const RuntimeError&) {  // the value in the companion file is no text
         row.kind = PropertyKind::Text;
         row.canSet = false;
-        row.value = Text(u"(companion)");
+        row.value = CompanionText();
     }
 }
 

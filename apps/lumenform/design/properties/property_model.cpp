@@ -111,7 +111,7 @@ QVariant PropertyModel::HeadingData(const Line& line, int column, int role) {
     switch (role) {
         case Qt::DisplayRole:
         case Qt::AccessibleTextRole:
-            return column == NameColumn ? qt::ToQString(TitleOf(line.group)) : QVariant();
+            return column == NameColumn ? TitleOf(line.group) : QVariant();
         case Qt::FontRole:
             return Bold();
         case headingRole:

@@ -1,10 +1,12 @@
 #include "apps/lumenform/design/properties/stored_property.h"
 
+#include <QCoreApplication>
 #include <array>
 #include <cstddef>
 #include <utility>
 
 #include "frame/host/font.h"
+#include "runtime/qt/qt_text.h"
 
 namespace lumenkit::lumenform {
 
@@ -113,9 +115,22 @@ void StoreShortcut(forms::Block& menu, Text written) {
     }
 }
 
+Text HelpText(const char* help) {
+    return *help == '\0' ? Text() : qt::ToText(QCoreApplication::translate("help", help));
+}
+
+Text CompanionText() {
+    return qt::ToText(QCoreApplication::translate("records", "(companion)"));
+}
+
+Text WhyNotEditable(const char* why) {
+    return qt::ToText(QCoreApplication::translate("records", "It cannot be edited here: %1.")
+                          .arg(QString::fromUtf8(why)));
+}
+
 ObjectProperty MakeProperty(FormDesign& design, forms::Block& block, StoredProperty property) {
     const TypeTraits& type = TraitsOf(property.type);
-    ObjectProperty made{.name = property.name, .help = Text(property.help), .kind = type.kind};
+    ObjectProperty made{.name = property.name, .help = HelpText(property.help), .kind = type.kind};
     made.choices = property.type == StoredType::Truth ? TruthChoices() : property.choices;
     made.get = [&design, &block, &type, property] {
         const Value value =

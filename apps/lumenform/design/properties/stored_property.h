@@ -24,7 +24,7 @@ enum class StoredType : std::uint8_t {
 
 struct StoredProperty {
     Text name;
-    TextView help = {};
+    const char* help = "";
     StoredType type = StoredType::Text;
     Value otherwise = {};              ///< the value that a block without the property means
     std::vector<Choice> choices = {};  ///< of an enumeration
@@ -36,6 +36,16 @@ void StoreLiteral(forms::Block& block, TextView name, forms::Literal literal);
 
 /// Sets or, if the text is empty, removes the shortcut key of a menu.
 void StoreShortcut(forms::Block& menu, Text written);
+
+/// Returns the help of a property, which is marked with QT_TRANSLATE_NOOP("help", ...), in the
+/// user's language.
+Text HelpText(const char* help);
+
+/// What is shown in place of a value in the companion that cannot be read.
+Text CompanionText();
+
+/// Says in the help of a property why its record in the companion cannot be edited.
+Text WhyNotEditable(const char* why);
 
 /// Makes the property of the block. Assigned values are converted to its type.
 ObjectProperty MakeProperty(FormDesign& design, forms::Block& block, StoredProperty property);

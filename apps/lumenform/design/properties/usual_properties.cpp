@@ -1,9 +1,8 @@
 #include "apps/lumenform/design/properties/usual_properties.h"
 
+#include <QCoreApplication>
 #include <algorithm>
 #include <array>
-
-#include "frame/automation/stock_members.h"
 
 namespace lumenkit::lumenform {
 
@@ -41,73 +40,99 @@ constexpr std::array<TextView, 8> fillStyles = {
     u"3 - Vertical lines", u"4 - Upward diagonal", u"5 - Downward diagonal",
     u"6 - Cross",          u"7 - Diagonal cross"};
 
-constexpr UsualProperty ChoiceOf(TextView name, TextView help, std::int32_t otherwise,
+// As for the classes of the library.
+constexpr const char* backColorHelp = QT_TRANSLATE_NOOP(
+    "help", "Returns/sets the background color used to display text and graphics in an object.");
+constexpr const char* borderStyleHelp =
+    QT_TRANSLATE_NOOP("help", "Returns/sets the border style for an object.");
+constexpr const char* enabledHelp = QT_TRANSLATE_NOOP(
+    "help",
+    "Returns/sets a value that determines whether an object can respond to user-generated events.");
+constexpr const char* fontHelp = QT_TRANSLATE_NOOP("help", "Returns a Font object.");
+constexpr const char* foreColorHelp = QT_TRANSLATE_NOOP(
+    "help", "Returns/sets the foreground color used to display text and graphics in an object.");
+constexpr const char* mousePointerHelp = QT_TRANSLATE_NOOP(
+    "help", "Returns/sets the type of mouse pointer displayed when over part of an object.");
+
+constexpr UsualProperty ChoiceOf(TextView name, const char* help, std::int32_t otherwise,
                                  ChoiceLabels labels) {
     return {name, help, StoredType::Enumeration, otherwise, labels};
 }
-constexpr UsualProperty Truth(TextView name, TextView help, bool otherwise) {
+constexpr UsualProperty Truth(TextView name, const char* help, bool otherwise) {
     return {name, help, StoredType::Truth, otherwise, {}};
 }
-constexpr UsualProperty Number(TextView name, TextView help, std::int32_t otherwise) {
+constexpr UsualProperty Number(TextView name, const char* help, std::int32_t otherwise) {
     return {name, help, StoredType::Whole, otherwise, {}};
 }
-constexpr UsualProperty ColorOf(TextView name, TextView help, Color otherwise) {
+constexpr UsualProperty ColorOf(TextView name, const char* help, Color otherwise) {
     return {name, help, StoredType::Color, static_cast<std::int32_t>(otherwise), {}};
 }
-constexpr UsualProperty String(TextView name, TextView help, StoredType type = StoredType::Text) {
+constexpr UsualProperty String(TextView name, const char* help,
+                               StoredType type = StoredType::Text) {
     return {name, help, type, TextView(), {}};
 }
 
-constexpr UsualProperty PictureOf(TextView name, TextView help) {
+constexpr UsualProperty PictureOf(TextView name, const char* help) {
     return {name, help, StoredType::Picture, {}, {}};
 }
 
-constexpr UsualProperty textAlignment =
-    ChoiceOf(u"Alignment", u"The alignment of the text.", 0, textAlignments);
-constexpr UsualProperty buttonAlignment =
-    ChoiceOf(u"Alignment", u"The side of the text on which the mark is drawn.", 0,
-             choices::buttonAlignments);
-constexpr UsualProperty buttonStyle =
-    ChoiceOf(u"Style", u"Determines whether the button has its own pictures and background.", 0,
-             buttonStyles);
-constexpr UsualProperty backColor = {u"BackColor", stock::backColorHelp, StoredType::Color};
-constexpr UsualProperty foreColor = {u"ForeColor", stock::foreColorHelp, StoredType::Color};
-constexpr UsualProperty caption =
-    String(u"Caption", u"The text of the object. The letter after & is its access key.");
-constexpr UsualProperty enabled = Truth(u"Enabled", stock::enabledHelp, true);
-constexpr UsualProperty font = {u"Font", stock::fontHelp, StoredType::Font};
+constexpr UsualProperty textAlignment = ChoiceOf(
+    u"Alignment", QT_TRANSLATE_NOOP("help", "The alignment of the text."), 0, textAlignments);
+constexpr UsualProperty buttonAlignment = ChoiceOf(
+    u"Alignment", QT_TRANSLATE_NOOP("help", "The side of the text on which the mark is drawn."), 0,
+    choices::buttonAlignments);
+constexpr UsualProperty buttonStyle = ChoiceOf(
+    u"Style",
+    QT_TRANSLATE_NOOP("help", "Determines whether the button has its own pictures and background."),
+    0, buttonStyles);
+constexpr UsualProperty backColor = {u"BackColor", backColorHelp, StoredType::Color};
+constexpr UsualProperty foreColor = {u"ForeColor", foreColorHelp, StoredType::Color};
+constexpr UsualProperty caption = String(
+    u"Caption",
+    QT_TRANSLATE_NOOP("help", "The text of the object. The letter after & is its access key."));
+constexpr UsualProperty enabled = Truth(u"Enabled", enabledHelp, true);
+constexpr UsualProperty font = {u"Font", fontHelp, StoredType::Font};
 constexpr UsualProperty toolTip =
-    String(u"ToolTipText", u"The text that appears when the mouse rests on the object.");
-constexpr UsualProperty locked =
-    Truth(u"Locked", u"Determines whether a control can be edited.", false);
+    String(u"ToolTipText",
+           QT_TRANSLATE_NOOP("help", "The text that appears when the mouse rests on the object."));
+constexpr UsualProperty locked = Truth(
+    u"Locked", QT_TRANSLATE_NOOP("help", "Determines whether a control can be edited."), false);
 constexpr UsualProperty border =
-    ChoiceOf(u"BorderStyle", stock::borderStyleHelp, 1, choices::borderStyles);
+    ChoiceOf(u"BorderStyle", borderStyleHelp, 1, choices::borderStyles);
 constexpr UsualProperty noBorder =
-    ChoiceOf(u"BorderStyle", stock::borderStyleHelp, 0, choices::borderStyles);
-constexpr UsualProperty borderColor =
-    ColorOf(u"BorderColor", u"The colour of the border.", Color::WindowText);
+    ChoiceOf(u"BorderStyle", borderStyleHelp, 0, choices::borderStyles);
+constexpr UsualProperty borderColor = ColorOf(
+    u"BorderColor", QT_TRANSLATE_NOOP("help", "The colour of the border."), Color::WindowText);
 constexpr UsualProperty borderWidth =
-    Number(u"BorderWidth", u"The width of the border in pixels.", 1);
-constexpr UsualProperty strokeStyle =
-    ChoiceOf(u"BorderStyle",
-             u"The line style of the border. A border wider than one pixel is drawn without gaps.",
-             1, strokeStyles);
-constexpr UsualProperty scaleMode = ChoiceOf(
-    u"ScaleMode", u"The unit of measure for the ends of the contained lines.", 1, scaleModes);
+    Number(u"BorderWidth", QT_TRANSLATE_NOOP("help", "The width of the border in pixels."), 1);
+constexpr UsualProperty strokeStyle = ChoiceOf(
+    u"BorderStyle",
+    QT_TRANSLATE_NOOP(
+        "help",
+        "The line style of the border. A border wider than one pixel is drawn without gaps."),
+    1, strokeStyles);
+constexpr UsualProperty scaleMode =
+    ChoiceOf(u"ScaleMode",
+             QT_TRANSLATE_NOOP("help", "The unit of measure for the ends of the contained lines."),
+             1, scaleModes);
 constexpr UsualProperty clientHeight = {
-    u"ClientHeight", u"The height of the form's client area in twips.", StoredType::Number};
+    u"ClientHeight", QT_TRANSLATE_NOOP("help", "The height of the form's client area in twips."),
+    StoredType::Number};
 constexpr UsualProperty clientWidth = {
-    u"ClientWidth", u"The width of the form's client area in twips.", StoredType::Number};
+    u"ClientWidth", QT_TRANSLATE_NOOP("help", "The width of the form's client area in twips."),
+    StoredType::Number};
 
-constexpr UsualProperty picture = PictureOf(u"Picture", u"The picture of the object.");
-constexpr UsualProperty downPicture =
-    PictureOf(u"DownPicture", u"The picture of a pressed button, if Style is 1.");
+constexpr UsualProperty picture =
+    PictureOf(u"Picture", QT_TRANSLATE_NOOP("help", "The picture of the object."));
+constexpr UsualProperty downPicture = PictureOf(
+    u"DownPicture", QT_TRANSLATE_NOOP("help", "The picture of a pressed button, if Style is 1."));
 constexpr UsualProperty disabledPicture =
-    PictureOf(u"DisabledPicture", u"The picture of a disabled button, if Style is 1.");
+    PictureOf(u"DisabledPicture",
+              QT_TRANSLATE_NOOP("help", "The picture of a disabled button, if Style is 1."));
 constexpr UsualProperty mouseIcon =
-    PictureOf(u"MouseIcon", u"The mouse pointer, if MousePointer is 99.");
-constexpr UsualProperty dragIcon =
-    PictureOf(u"DragIcon", u"The mouse pointer while the object is dragged.");
+    PictureOf(u"MouseIcon", QT_TRANSLATE_NOOP("help", "The mouse pointer, if MousePointer is 99."));
+constexpr UsualProperty dragIcon = PictureOf(
+    u"DragIcon", QT_TRANSLATE_NOOP("help", "The mouse pointer while the object is dragged."));
 
 // ---- Properties that many classes share
 
@@ -119,45 +144,72 @@ constexpr std::array<TextView, 3> oleDropModes = {u"0 - None", u"1 - By code",
 constexpr std::array<TextView, 5> alignedEdges = {u"0 - None", u"1 - Top", u"2 - Bottom",
                                                   u"3 - Left", u"4 - Right"};
 
-constexpr UsualProperty causesValidation =
-    Truth(u"CausesValidation", u"Determines whether the control that loses the focus is validated.",
-          true);
+constexpr UsualProperty causesValidation = Truth(
+    u"CausesValidation",
+    QT_TRANSLATE_NOOP("help", "Determines whether the control that loses the focus is validated."),
+    true);
 constexpr UsualProperty dragMode = ChoiceOf(
-    u"DragMode", u"Determines whether the mouse or the program starts a drag.", 0, dragModes);
+    u"DragMode",
+    QT_TRANSLATE_NOOP("help", "Determines whether the mouse or the program starts a drag."), 0,
+    dragModes);
 constexpr UsualProperty helpContextId =
-    Number(u"HelpContextID", u"The number of the help topic for F1. 0: none.", 0);
-constexpr UsualProperty whatsThisHelpId =
-    Number(u"WhatsThisHelpID", u"The number of the help topic that a popup shows. 0: none.", 0);
+    Number(u"HelpContextID",
+           QT_TRANSLATE_NOOP("help", "The number of the help topic for F1. 0: none."), 0);
+constexpr UsualProperty whatsThisHelpId = Number(
+    u"WhatsThisHelpID",
+    QT_TRANSLATE_NOOP("help", "The number of the help topic that a popup shows. 0: none."), 0);
 
 constexpr std::array looks = {
-    ChoiceOf(u"Appearance", u"Determines whether the object is flat or looks raised.", 1,
+    ChoiceOf(u"Appearance",
+             QT_TRANSLATE_NOOP("help", "Determines whether the object is flat or looks raised."), 1,
              appearances),
-    Truth(u"RightToLeft", u"Determines whether the text runs from right to left.", false)};
+    Truth(u"RightToLeft",
+          QT_TRANSLATE_NOOP("help", "Determines whether the text runs from right to left."),
+          false)};
 constexpr std::array pointing = {
-    ChoiceOf(u"MousePointer", stock::mousePointerHelp, 0, choices::mousePointers), mouseIcon,
-    ChoiceOf(u"OLEDropMode", u"Determines how the object takes dropped data.", 0, oleDropModes)};
+    ChoiceOf(u"MousePointer", mousePointerHelp, 0, choices::mousePointers), mouseIcon,
+    ChoiceOf(u"OLEDropMode",
+             QT_TRANSLATE_NOOP("help", "Determines how the object takes dropped data."), 0,
+             oleDropModes)};
 constexpr std::array dragging = {dragMode, dragIcon};
 constexpr std::array validating = {causesValidation};
-constexpr std::array dataDragging = {
-    ChoiceOf(u"OLEDragMode", u"Determines whether the mouse or the program starts a drag of data.",
-             0, oleDragModes)};
+constexpr std::array dataDragging = {ChoiceOf(
+    u"OLEDragMode",
+    QT_TRANSLATE_NOOP("help", "Determines whether the mouse or the program starts a drag of data."),
+    0, oleDragModes)};
 constexpr std::array binding = {
-    String(u"DataField", u"The field of the record that the control shows."),
-    String(u"DataMember", u"The set of records that the control shows.")};
+    String(u"DataField",
+           QT_TRANSLATE_NOOP("help", "The field of the record that the control shows.")),
+    String(u"DataMember", QT_TRANSLATE_NOOP("help", "The set of records that the control shows."))};
 constexpr std::array masking = {
-    ColorOf(u"MaskColor", u"The colour of the picture that is transparent.", Rgb(192, 192, 192)),
-    Truth(u"UseMaskColor", u"Determines whether MaskColor is transparent.", false)};
+    ColorOf(u"MaskColor",
+            QT_TRANSLATE_NOOP("help", "The colour of the picture that is transparent."),
+            Rgb(192, 192, 192)),
+    Truth(u"UseMaskColor",
+          QT_TRANSLATE_NOOP("help", "Determines whether MaskColor is transparent."), false)};
 constexpr std::array painting = {
-    Truth(u"AutoRedraw", u"Determines whether the object keeps what is drawn on it.", false),
-    Truth(u"ClipControls", u"Determines whether drawing leaves out the controls.", true),
-    Number(u"DrawMode", u"How drawn colours are combined with the background. 13: copied.", 13),
-    Number(u"DrawStyle", u"The style of drawn lines. 0: solid.", 0),
-    Number(u"DrawWidth", u"The width of drawn lines in pixels.", 1),
-    ColorOf(u"FillColor", u"The colour that fills drawn shapes.", Rgb(0, 0, 0)),
-    ChoiceOf(u"FillStyle", u"The pattern that fills drawn shapes.", 1, fillStyles),
-    Truth(u"FontTransparent", u"Determines whether the background is seen behind drawn text.",
+    Truth(u"AutoRedraw",
+          QT_TRANSLATE_NOOP("help", "Determines whether the object keeps what is drawn on it."),
+          false),
+    Truth(u"ClipControls",
+          QT_TRANSLATE_NOOP("help", "Determines whether drawing leaves out the controls."), true),
+    Number(u"DrawMode",
+           QT_TRANSLATE_NOOP("help",
+                             "How drawn colours are combined with the background. 13: copied."),
+           13),
+    Number(u"DrawStyle", QT_TRANSLATE_NOOP("help", "The style of drawn lines. 0: solid."), 0),
+    Number(u"DrawWidth", QT_TRANSLATE_NOOP("help", "The width of drawn lines in pixels."), 1),
+    ColorOf(u"FillColor", QT_TRANSLATE_NOOP("help", "The colour that fills drawn shapes."),
+            Rgb(0, 0, 0)),
+    ChoiceOf(u"FillStyle", QT_TRANSLATE_NOOP("help", "The pattern that fills drawn shapes."), 1,
+             fillStyles),
+    Truth(u"FontTransparent",
+          QT_TRANSLATE_NOOP("help", "Determines whether the background is seen behind drawn text."),
           true),
-    Truth(u"HasDC", u"Determines whether the object has a drawing context of its own.", true)};
+    Truth(u"HasDC",
+          QT_TRANSLATE_NOOP("help",
+                            "Determines whether the object has a drawing context of its own."),
+          true)};
 
 // ---- The classes
 
@@ -173,30 +225,42 @@ constexpr std::array checkBox = {
     buttonStyle,
     picture,
     toolTip,
-    ChoiceOf(u"Value", u"The state of the check box.", 0, checkValues)};
+    ChoiceOf(u"Value", QT_TRANSLATE_NOOP("help", "The state of the check box."), 0, checkValues)};
 constexpr std::array comboBox = {
     backColor,
     enabled,
     font,
     foreColor,
     locked,
-    ChoiceOf(u"Style", u"Determines whether the user can type a text, choose an item, or both.", 0,
-             comboStyles),
-    Truth(u"IntegralHeight", u"Determines whether the list shows only complete items.", true),
-    Truth(u"Sorted", u"Determines whether the items are sorted.", false),
-    String(u"Text", u"The text in the box."),
+    ChoiceOf(u"Style",
+             QT_TRANSLATE_NOOP(
+                 "help", "Determines whether the user can type a text, choose an item, or both."),
+             0, comboStyles),
+    Truth(u"IntegralHeight",
+          QT_TRANSLATE_NOOP("help", "Determines whether the list shows only complete items."),
+          true),
+    Truth(u"Sorted", QT_TRANSLATE_NOOP("help", "Determines whether the items are sorted."), false),
+    String(u"Text", QT_TRANSLATE_NOOP("help", "The text in the box.")),
     toolTip};
 constexpr std::array commandButton = {
-    backColor,       Truth(u"Cancel", u"Determines whether Esc presses the button.", false),
-    caption,         Truth(u"Default", u"Determines whether Enter presses the button.", false),
-    enabled,         font,
-    buttonStyle,     downPicture,
-    disabledPicture, picture,
+    backColor,
+    Truth(u"Cancel", QT_TRANSLATE_NOOP("help", "Determines whether Esc presses the button."),
+          false),
+    caption,
+    Truth(u"Default", QT_TRANSLATE_NOOP("help", "Determines whether Enter presses the button."),
+          false),
+    enabled,
+    font,
+    buttonStyle,
+    downPicture,
+    disabledPicture,
+    picture,
     toolTip};
 constexpr std::array frame = {
     backColor,
     border,
-    Truth(u"ClipControls", u"Determines whether drawing leaves out the controls.", true),
+    Truth(u"ClipControls",
+          QT_TRANSLATE_NOOP("help", "Determines whether drawing leaves out the controls."), true),
     caption,
     enabled,
     font,
@@ -204,67 +268,105 @@ constexpr std::array frame = {
     toolTip};
 constexpr std::array image = {
     noBorder, enabled, picture,
-    Truth(u"Stretch", u"Determines whether the picture is stretched to the size of the control.",
+    Truth(u"Stretch",
+          QT_TRANSLATE_NOOP(
+              "help", "Determines whether the picture is stretched to the size of the control."),
           false),
     toolTip};
 constexpr std::array label = {
     textAlignment,
-    Truth(u"AutoSize", u"Determines whether the label is resized to fit its text.", false),
+    Truth(u"AutoSize",
+          QT_TRANSLATE_NOOP("help", "Determines whether the label is resized to fit its text."),
+          false),
     backColor,
-    ChoiceOf(u"BackStyle", u"Determines whether the background is transparent or opaque.", 1,
-             choices::backStyles),
+    ChoiceOf(
+        u"BackStyle",
+        QT_TRANSLATE_NOOP("help", "Determines whether the background is transparent or opaque."), 1,
+        choices::backStyles),
     noBorder,
     caption,
     enabled,
     font,
     foreColor,
     toolTip,
-    Truth(u"UseMnemonic", u"Determines whether & marks an access key.", true),
+    Truth(u"UseMnemonic", QT_TRANSLATE_NOOP("help", "Determines whether & marks an access key."),
+          true),
     Truth(u"WordWrap",
-          u"With AutoSize: determines whether the label wraps its text and grows downwards.",
+          QT_TRANSLATE_NOOP(
+              "help",
+              "With AutoSize: determines whether the label wraps its text and grows downwards."),
           false)};
 constexpr std::array menu = {
     caption,
-    Truth(u"Checked", u"Determines whether a check mark is beside the menu.", false),
+    Truth(u"Checked",
+          QT_TRANSLATE_NOOP("help", "Determines whether a check mark is beside the menu."), false),
     enabled,
     helpContextId,
-    ChoiceOf(u"NegotiatePosition",
-             u"The position of the menu in the menu bar while an object with a menu bar of its own "
-             u"is active.",
-             0, menuPositions),
-    Truth(u"Visible", u"Determines whether the menu is visible when the form runs.", true),
-    Truth(u"WindowList", u"Determines whether the menu lists the child windows of an MDI form.",
+    ChoiceOf(
+        u"NegotiatePosition",
+        QT_TRANSLATE_NOOP(
+            "help",
+            "The position of the menu in the menu bar while an object with a menu bar of its own "
+            "is active."),
+        0, menuPositions),
+    Truth(u"Visible",
+          QT_TRANSLATE_NOOP("help", "Determines whether the menu is visible when the form runs."),
+          true),
+    Truth(u"WindowList",
+          QT_TRANSLATE_NOOP("help",
+                            "Determines whether the menu lists the child windows of an MDI form."),
           false)};
 constexpr std::array<UsualProperty, 7> line = {
     borderColor,
     strokeStyle,
     borderWidth,
-    {u"X1", u"The horizontal position of the first end of the line.", StoredType::Number},
-    {u"X2", u"The horizontal position of the second end of the line.", StoredType::Number},
-    {u"Y1", u"The vertical position of the first end of the line.", StoredType::Number},
-    {u"Y2", u"The vertical position of the second end of the line.", StoredType::Number}};
+    {u"X1", QT_TRANSLATE_NOOP("help", "The horizontal position of the first end of the line."),
+     StoredType::Number},
+    {u"X2", QT_TRANSLATE_NOOP("help", "The horizontal position of the second end of the line."),
+     StoredType::Number},
+    {u"Y1", QT_TRANSLATE_NOOP("help", "The vertical position of the first end of the line."),
+     StoredType::Number},
+    {u"Y2", QT_TRANSLATE_NOOP("help", "The vertical position of the second end of the line."),
+     StoredType::Number}};
 constexpr std::array listBox = {
     backColor,
-    Number(u"Columns", u"The number of visible columns. 0: one column that scrolls up and down.",
+    Number(u"Columns",
+           QT_TRANSLATE_NOOP(
+               "help", "The number of visible columns. 0: one column that scrolls up and down."),
            0),
     enabled,
     font,
     foreColor,
-    Truth(u"IntegralHeight", u"Determines whether the list shows only complete items.", true),
-    ChoiceOf(u"MultiSelect", u"Determines how many items the user can select.", 0, selections),
-    Truth(u"Sorted", u"Determines whether the items are sorted.", false),
-    ChoiceOf(u"Style", u"Determines whether each item has a check box.", 0, listStyles),
+    Truth(u"IntegralHeight",
+          QT_TRANSLATE_NOOP("help", "Determines whether the list shows only complete items."),
+          true),
+    ChoiceOf(u"MultiSelect",
+             QT_TRANSLATE_NOOP("help", "Determines how many items the user can select."), 0,
+             selections),
+    Truth(u"Sorted", QT_TRANSLATE_NOOP("help", "Determines whether the items are sorted."), false),
+    ChoiceOf(u"Style", QT_TRANSLATE_NOOP("help", "Determines whether each item has a check box."),
+             0, listStyles),
     toolTip};
 constexpr std::array optionButton = {
-    buttonAlignment, backColor,
-    caption,         downPicture,
-    disabledPicture, picture,
-    enabled,         font,
-    foreColor,       buttonStyle,
-    toolTip,         Truth(u"Value", u"Determines whether the option button is selected.", false)};
+    buttonAlignment,
+    backColor,
+    caption,
+    downPicture,
+    disabledPicture,
+    picture,
+    enabled,
+    font,
+    foreColor,
+    buttonStyle,
+    toolTip,
+    Truth(u"Value", QT_TRANSLATE_NOOP("help", "Determines whether the option button is selected."),
+          false)};
 constexpr std::array pictureBox = {
-    ChoiceOf(u"Align", u"The edge of the form along which the picture box lies.", 0, alignedEdges),
-    Truth(u"AutoSize", u"Determines whether the picture box fits its picture.", false),
+    ChoiceOf(u"Align",
+             QT_TRANSLATE_NOOP("help", "The edge of the form along which the picture box lies."), 0,
+             alignedEdges),
+    Truth(u"AutoSize",
+          QT_TRANSLATE_NOOP("help", "Determines whether the picture box fits its picture."), false),
     backColor,
     border,
     enabled,
@@ -275,21 +377,27 @@ constexpr std::array pictureBox = {
     toolTip};
 constexpr std::array scrollBar = {
     enabled,
-    Number(u"LargeChange", u"The change of the value when the user clicks the bar.", 1),
-    Number(u"Max", u"The value at the right or lower end.", 32767),
-    Number(u"Min", u"The value at the left or upper end.", 0),
-    Number(u"SmallChange", u"The change of the value when the user clicks an arrow.", 1),
-    Number(u"Value", u"The position of the scroll box.", 0)};
+    Number(u"LargeChange",
+           QT_TRANSLATE_NOOP("help", "The change of the value when the user clicks the bar."), 1),
+    Number(u"Max", QT_TRANSLATE_NOOP("help", "The value at the right or lower end."), 32767),
+    Number(u"Min", QT_TRANSLATE_NOOP("help", "The value at the left or upper end."), 0),
+    Number(u"SmallChange",
+           QT_TRANSLATE_NOOP("help", "The change of the value when the user clicks an arrow."), 1),
+    Number(u"Value", QT_TRANSLATE_NOOP("help", "The position of the scroll box."), 0)};
 constexpr std::array shape = {
     backColor,
-    ChoiceOf(u"BackStyle", u"Determines whether the background is transparent or opaque.", 0,
-             choices::backStyles),
+    ChoiceOf(
+        u"BackStyle",
+        QT_TRANSLATE_NOOP("help", "Determines whether the background is transparent or opaque."), 0,
+        choices::backStyles),
     borderColor,
     strokeStyle,
     borderWidth,
-    ColorOf(u"FillColor", u"The colour that fills the shape.", Rgb(0, 0, 0)),
-    ChoiceOf(u"FillStyle", u"The pattern that fills the shape.", 1, fillStyles),
-    ChoiceOf(u"Shape", u"The kind of shape.", 0, shapes)};
+    ColorOf(u"FillColor", QT_TRANSLATE_NOOP("help", "The colour that fills the shape."),
+            Rgb(0, 0, 0)),
+    ChoiceOf(u"FillStyle", QT_TRANSLATE_NOOP("help", "The pattern that fills the shape."), 1,
+             fillStyles),
+    ChoiceOf(u"Shape", QT_TRANSLATE_NOOP("help", "The kind of shape."), 0, shapes)};
 constexpr std::array textBox = {
     textAlignment,
     backColor,
@@ -297,53 +405,88 @@ constexpr std::array textBox = {
     enabled,
     font,
     foreColor,
-    Truth(u"HideSelection", u"Determines whether the selection is hidden without the focus.", true),
+    Truth(
+        u"HideSelection",
+        QT_TRANSLATE_NOOP("help", "Determines whether the selection is hidden without the focus."),
+        true),
     locked,
     Number(u"MaxLength",
-           u"Returns/sets the maximum number of characters that can be entered in a control.", 0),
-    Truth(u"MultiLine", u"Determines whether the text box can contain several lines.", false),
-    String(u"PasswordChar", u"The character that is shown in place of each typed character."),
-    ChoiceOf(u"ScrollBars", u"The scroll bars of the text box.", 0, choices::scrollBars),
-    String(u"Text", u"Returns/sets the text contained in the control.", StoredType::LongText),
+           QT_TRANSLATE_NOOP(
+               "help",
+               "Returns/sets the maximum number of characters that can be entered in a control."),
+           0),
+    Truth(u"MultiLine",
+          QT_TRANSLATE_NOOP("help", "Determines whether the text box can contain several lines."),
+          false),
+    String(
+        u"PasswordChar",
+        QT_TRANSLATE_NOOP("help", "The character that is shown in place of each typed character.")),
+    ChoiceOf(u"ScrollBars", QT_TRANSLATE_NOOP("help", "The scroll bars of the text box."), 0,
+             choices::scrollBars),
+    String(u"Text", QT_TRANSLATE_NOOP("help", "Returns/sets the text contained in the control."),
+           StoredType::LongText),
     toolTip};
 constexpr std::array timer = {
-    enabled, Number(u"Interval",
-                    u"The time between two events in milliseconds. 0 switches the timer off.", 0)};
-constexpr UsualProperty formTag =
-    String(u"Tag", u"A text for the use of the program.", StoredType::LongText);
+    enabled,
+    Number(u"Interval",
+           QT_TRANSLATE_NOOP(
+               "help", "The time between two events in milliseconds. 0 switches the timer off."),
+           0)};
+constexpr UsualProperty formTag = String(
+    u"Tag", QT_TRANSLATE_NOOP("help", "A text for the use of the program."), StoredType::LongText);
 
 constexpr std::array form = {
     backColor,
-    ChoiceOf(u"BorderStyle", stock::borderStyleHelp, 2, formBorderStyles),
-    String(u"Caption", u"The text in the title bar."),
+    ChoiceOf(u"BorderStyle", borderStyleHelp, 2, formBorderStyles),
+    String(u"Caption", QT_TRANSLATE_NOOP("help", "The text in the title bar.")),
     clientHeight,
     clientWidth,
-    Truth(u"ControlBox", u"Determines whether the title bar has a system menu and buttons.", true),
+    Truth(u"ControlBox",
+          QT_TRANSLATE_NOOP("help",
+                            "Determines whether the title bar has a system menu and buttons."),
+          true),
     enabled,
     font,
     foreColor,
-    PictureOf(u"Icon", u"The icon in the title bar of the form."),
+    PictureOf(u"Icon", QT_TRANSLATE_NOOP("help", "The icon in the title bar of the form.")),
     picture,
     helpContextId,
-    Truth(u"KeyPreview", u"Determines whether the form receives key events before its controls.",
+    Truth(u"KeyPreview",
+          QT_TRANSLATE_NOOP("help",
+                            "Determines whether the form receives key events before its controls."),
           false),
-    Truth(u"MaxButton", u"Determines whether the form can be maximized.", true),
-    Truth(u"MDIChild", u"Determines whether the form is a child window of an MDI form.", false),
-    Truth(u"MinButton", u"Determines whether the form can be minimized.", true),
-    Truth(u"Moveable", u"Determines whether the user can move the form.", true),
+    Truth(u"MaxButton", QT_TRANSLATE_NOOP("help", "Determines whether the form can be maximized."),
+          true),
+    Truth(
+        u"MDIChild",
+        QT_TRANSLATE_NOOP("help", "Determines whether the form is a child window of an MDI form."),
+        false),
+    Truth(u"MinButton", QT_TRANSLATE_NOOP("help", "Determines whether the form can be minimized."),
+          true),
+    Truth(u"Moveable", QT_TRANSLATE_NOOP("help", "Determines whether the user can move the form."),
+          true),
     scaleMode,
-    Truth(u"ShowInTaskbar", u"Determines whether the form is shown in the taskbar.", true),
-    ChoiceOf(u"StartUpPosition", u"The position of the form when it is first shown.", 3,
+    Truth(u"ShowInTaskbar",
+          QT_TRANSLATE_NOOP("help", "Determines whether the form is shown in the taskbar."), true),
+    ChoiceOf(u"StartUpPosition",
+             QT_TRANSLATE_NOOP("help", "The position of the form when it is first shown."), 3,
              startPositions),
     formTag,
-    Truth(u"Visible", u"Determines whether the form is visible.", true),
-    Truth(u"WhatsThisButton", u"Determines whether the title bar has a help button.", false),
-    Truth(u"WhatsThisHelp", u"Determines whether help topics are shown in a popup.", false),
-    ChoiceOf(u"WindowState", u"The state of the window when it is first shown.", 0, windowStates)};
+    Truth(u"Visible", QT_TRANSLATE_NOOP("help", "Determines whether the form is visible."), true),
+    Truth(u"WhatsThisButton",
+          QT_TRANSLATE_NOOP("help", "Determines whether the title bar has a help button."), false),
+    Truth(u"WhatsThisHelp",
+          QT_TRANSLATE_NOOP("help", "Determines whether help topics are shown in a popup."), false),
+    ChoiceOf(u"WindowState",
+             QT_TRANSLATE_NOOP("help", "The state of the window when it is first shown."), 0,
+             windowStates)};
 constexpr std::array mdiForm = {
-    backColor,    String(u"Caption", u"The text in the title bar."),
-    clientHeight, clientWidth,
-    enabled,      PictureOf(u"Icon", u"The icon in the title bar of the form."),
+    backColor,
+    String(u"Caption", QT_TRANSLATE_NOOP("help", "The text in the title bar.")),
+    clientHeight,
+    clientWidth,
+    enabled,
+    PictureOf(u"Icon", QT_TRANSLATE_NOOP("help", "The icon in the title bar of the form.")),
     picture};
 // User controls, property pages and documents.
 constexpr std::array designed = {backColor, clientHeight, clientWidth, enabled,

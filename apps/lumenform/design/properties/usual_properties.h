@@ -14,7 +14,7 @@ namespace lumenkit::lumenform {
 /// A property of a class. Colours default to those of the class, fonts to that of the container.
 struct UsualProperty {
     TextView name;
-    TextView help = {};
+    const char* help = "";
     StoredType type = StoredType::Text;
     /// The default value; monostate if the property has none or it is unknown.
     std::variant<std::monostate, bool, std::int32_t, TextView> otherwise = {};

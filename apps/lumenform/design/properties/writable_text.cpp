@@ -34,9 +34,10 @@ QString WhyUnwritable(const forms::Document& document, TextView text) {
         return {};
     } catch (const forms::Unmappable& unmappable) {
         const char16_t unit = text[unmappable.index];
-        return QCoreApplication::translate("writable_text", "\"%1\" (%2) cannot be written in %3")
-            .arg(CharacterAt(text, unmappable.index), QString::fromStdString(forms::UnitName(unit)),
-                 QString::fromStdString(unmappable.encoding));
+        return QCoreApplication::translate("writable_text",
+                                           "\"%1\" (%2) cannot be written in code page %3")
+            .arg(CharacterAt(text, unmappable.index), QString::fromStdString(forms::UnitName(unit)))
+            .arg(page);
     }
 }
 

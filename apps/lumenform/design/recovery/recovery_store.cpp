@@ -1,5 +1,6 @@
 #include "apps/lumenform/design/recovery/recovery_store.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -83,7 +84,10 @@ Stored Read(const QString& folder) {
 forms::FormBytes RecoveredWork::Bytes() const {
     Stored stored = Read(folder);
     if (!stored.isValid) {
-        throw forms::FormError(name.toStdString(), "has no unsaved work that can be read");
+        throw forms::FormError(
+            name.toStdString(),
+            QCoreApplication::translate("recovery", "has no unsaved work that can be read")
+                .toStdString());
     }
     return std::move(stored.bytes);
 }

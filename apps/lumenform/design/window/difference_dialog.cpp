@@ -11,6 +11,7 @@
 #include <string>
 
 #include "apps/difference/unified_diff.h"
+#include "apps/lumenform/design/model/code_page_name.h"
 #include "apps/lumenform/design/window/form_file.h"
 #include "forms/encoding.h"
 #include "forms/file.h"
@@ -51,7 +52,7 @@ QString LinesOf(const std::string& difference) {
 }
 
 QString PageOf(const forms::Document& document) {
-    return QString::fromStdString(forms::NameOfCodePage(document.FormCodePage()));
+    return CodePageName(document.FormCodePage());
 }
 
 }  // namespace

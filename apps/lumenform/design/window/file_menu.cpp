@@ -2,6 +2,7 @@
 
 #include <QStyle>
 
+#include "apps/lumenform/design/model/code_page_name.h"
 #include "forms/known_code_pages.h"
 
 namespace lumenkit::lumenform {
@@ -37,12 +38,11 @@ QAction* FileMenu::Add(const QString& title, const QKeySequence& keys, void (Fil
 void FileMenu::AddCodePages(QMenu& menu, void (FileMenu::*wanted)(int)) {
     for (const forms::KnownCodePage& page : forms::KnownCodePages()) {
         const int number = page.number;
-        QAction* const action =
-            menu.addAction(tr("%1  %2").arg(number).arg(QString::fromLatin1(page.title)), this,
-                           [this, number, wanted] {
-                               Q_EMIT(this->*wanted)
-                               (number);
-                           });
+        QAction* const action = menu.addAction(tr("%1  %2").arg(number).arg(CodePageTitle(page)),
+                                               this, [this, number, wanted] {
+                                                   Q_EMIT(this->*wanted)
+                                                   (number);
+                                               });
         action->setCheckable(true);
         action->setData(number);
     }

@@ -73,13 +73,7 @@ QAction* FormCommands::Add(QMenu& menu, const QString& title, const QKeySequence
 }
 
 void FormCommands::FillEdit() {
-    undo_ = history_.createUndoAction(this);
-    undo_->setShortcut(QKeySequence::Undo);
-    redo_ = history_.createRedoAction(this);
-    redo_->setShortcuts({QKeySequence(QKeySequence::Redo), QKeySequence(Qt::CTRL | Qt::Key_Y)});
-    FinishEditingBefore(*undo_, &QUndoGroup::undo);
-    FinishEditingBefore(*redo_, &QUndoGroup::redo);
-    edit_->addActions({undo_, redo_});
+    AddHistoryCommands();
     edit_->addSeparator();
     AddClipboardCommands();
     edit_->addSeparator();
@@ -99,9 +93,29 @@ void FormCommands::FillEdit() {
     tabOrder_->setToolTip(tr("Click the controls in the tab order that they should have"));
 }
 
+// Qt's own actions for the history have no access keys.
+void FormCommands::AddHistoryCommands() {
+    undo_ = edit_->addAction(tr("&Undo"));
+    undo_->setShortcut(QKeySequence::Undo);
+    redo_ = edit_->addAction(tr("R&edo"));
+    redo_->setShortcuts({QKeySequence(QKeySequence::Redo), QKeySequence(Qt::CTRL | Qt::Key_Y)});
+    for (QAction* const action : {undo_, redo_}) {
+        action->setEnabled(false);
+    }
+    connect(&history_, &QUndoGroup::canUndoChanged, undo_, &QAction::setEnabled);
+    connect(&history_, &QUndoGroup::canRedoChanged, redo_, &QAction::setEnabled);
+    connect(&history_, &QUndoGroup::undoTextChanged, undo_, [this](const QString& step) {
+        undo_->setText(step.isEmpty() ? tr("&Undo") : tr("&Undo %1").arg(step));
+    });
+    connect(&history_, &QUndoGroup::redoTextChanged, redo_, [this](const QString& step) {
+        redo_->setText(step.isEmpty() ? tr("R&edo") : tr("R&edo %1").arg(step));
+    });
+    FinishEditingBefore(*undo_, &QUndoGroup::undo);
+    FinishEditingBefore(*redo_, &QUndoGroup::redo);
+}
+
 // Makes undo and redo finish the edit in progress first: it is the newest step of the history.
-void FormCommands::FinishEditingBefore(QAction& action, void (QUndoGroup::*step)()) {
-    action.disconnect(&history_);
+void FormCommands::FinishEditingBefore(const QAction& action, void (QUndoGroup::*step)()) {
     connect(&action, &QAction::triggered, this, [this, step] {
         if (workbench_ != nullptr && workbench_->FinishEditing()) {
             (history_.*step)();
@@ -113,7 +127,7 @@ void FormCommands::AddClipboardCommands() {
     Add(*edit_, tr("Cu&t"), QKeySequence::Cut, Needs::Selection, Cut);
     Add(*edit_, tr("&Copy"), QKeySequence::Copy, Needs::Selection, Copy);
     Add(*edit_, tr("&Paste"), QKeySequence::Paste, Needs::Clipboard, PasteHere);
-    Add(*edit_, tr("D&uplicate"), Qt::CTRL | Qt::Key_D, Needs::Selection, Duplicate);
+    Add(*edit_, tr("Dup&licate"), Qt::CTRL | Qt::Key_D, Needs::Selection, Duplicate);
     Add(*edit_, tr("&Delete"), QKeySequence::Delete, Needs::Object,
         [](Workbench& bench) { DeleteSelected(bench.GetDesign()); });
     Add(*edit_, tr("Select &all"), QKeySequence::SelectAll, Needs::Form,

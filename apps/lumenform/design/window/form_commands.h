@@ -37,7 +37,8 @@ class FormCommands final : public QObject {
     };
 
     void FillEdit();
-    void FinishEditingBefore(QAction& action, void (QUndoGroup::*step)());
+    void AddHistoryCommands();
+    void FinishEditingBefore(const QAction& action, void (QUndoGroup::*step)());
     void AddClipboardCommands();
     void AddOrderCommands();
     void FillFormat();

@@ -11,9 +11,9 @@ namespace lumenkit::lumenform {
 
 namespace {
 
-QString Translated(const char* text) {
-    return QCoreApplication::translate("form_dialogs", text);
-}
+struct FormDialogs {
+    Q_DECLARE_TR_FUNCTIONS(form_dialogs)
+};
 
 QStringList Extensions() {
     return {QStringLiteral("frm"), QStringLiteral("ctl"), QStringLiteral("pag"),
@@ -21,11 +21,12 @@ QStringList Extensions() {
 }
 
 bool AskWhetherToReplace(QWidget& window, const QString& path) {
-    QMessageBox box(QMessageBox::Warning, Translated("Replace the file?"),
-                    Translated("%1 is there already.").arg(path), QMessageBox::Cancel, &window);
-    box.setInformativeText(Translated("Saving replaces it."));
+    QMessageBox box(QMessageBox::Warning, FormDialogs::tr("Replace the file?"),
+                    FormDialogs::tr("%1 is there already.").arg(path), QMessageBox::Cancel,
+                    &window);
+    box.setInformativeText(FormDialogs::tr("Saving replaces it."));
     const QPushButton* const replace =
-        box.addButton(Translated("&Replace"), QMessageBox::AcceptRole);
+        box.addButton(FormDialogs::tr("&Replace"), QMessageBox::AcceptRole);
     box.setDefaultButton(QMessageBox::Cancel);
     box.exec();
     return box.clickedButton() == replace;
@@ -35,20 +36,21 @@ bool AskWhetherToReplace(QWidget& window, const QString& path) {
 
 QStringList AskForFormsToOpen(QWidget& window, const QString& folder) {
     return QFileDialog::getOpenFileNames(
-        &window, Translated("Open forms"), folder,
-        Translated("Forms (*.frm *.ctl *.pag *.dob *.FRM *.CTL *.PAG *.DOB);;All files (*)"));
+        &window, FormDialogs::tr("Open forms"), folder,
+        FormDialogs::tr("Forms (*.frm *.ctl *.pag *.dob *.FRM *.CTL *.PAG *.DOB);;All files (*)"));
 }
 
 QString AskForPlaceToSave(QWidget& window, const QString& proposed) {
     // The kind of the form, by its extension, first: a control stays a control.
-    QStringList filters = {Translated("Forms (*.frm *.FRM)"), Translated("Controls (*.ctl *.CTL)"),
-                           Translated("Property pages (*.pag *.PAG)"),
-                           Translated("Documents (*.dob *.DOB)")};
+    QStringList filters = {FormDialogs::tr("Forms (*.frm *.FRM)"),
+                           FormDialogs::tr("Controls (*.ctl *.CTL)"),
+                           FormDialogs::tr("Property pages (*.pag *.PAG)"),
+                           FormDialogs::tr("Documents (*.dob *.DOB)")};
     QString extension = QFileInfo(proposed).suffix();
     const qsizetype own = std::max<qsizetype>(Extensions().indexOf(extension.toLower()), 0);
     filters.move(own, 0);
-    filters.append(Translated("All files (*)"));
-    QString path = QFileDialog::getSaveFileName(&window, Translated("Save the form"), proposed,
+    filters.append(FormDialogs::tr("All files (*)"));
+    QString path = QFileDialog::getSaveFileName(&window, FormDialogs::tr("Save the form"), proposed,
                                                 filters.join(QStringLiteral(";;")));
     // Forms whose names have no other extension would share a companion.
     if (!path.isEmpty() && !Extensions().contains(QFileInfo(path).suffix().toLower())) {
@@ -63,10 +65,10 @@ QString AskForPlaceToSave(QWidget& window, const QString& proposed) {
 }
 
 SaveAnswer AskWhetherToSave(QWidget& window, const QString& form) {
-    QMessageBox box(QMessageBox::Question, Translated("Save changes?"),
-                    Translated("Save the changes to %1?").arg(form),
+    QMessageBox box(QMessageBox::Question, FormDialogs::tr("Save changes?"),
+                    FormDialogs::tr("Save the changes to %1?").arg(form),
                     QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel, &window);
-    box.setInformativeText(Translated("Changes that are not saved are lost."));
+    box.setInformativeText(FormDialogs::tr("Changes that are not saved are lost."));
     box.setDefaultButton(QMessageBox::Save);
     switch (box.exec()) {
         case QMessageBox::Save:
@@ -79,17 +81,19 @@ SaveAnswer AskWhetherToSave(QWidget& window, const QString& form) {
 }
 
 ChangeAnswer AskAboutChange(QWidget& window, const QString& path) {
-    QMessageBox box(QMessageBox::Warning, Translated("The file was changed"),
-                    Translated("Another program has changed %1 since it was opened.").arg(path),
-                    QMessageBox::Cancel, &window);
-    box.setInformativeText(
-        Translated("Reload takes the file as it is now; Undo brings your version back. Keep mine "
-                   "replaces the file with your version."));
-    const QPushButton* const reload = box.addButton(Translated("&Reload"), QMessageBox::ActionRole);
+    QMessageBox box(
+        QMessageBox::Warning, FormDialogs::tr("The file was changed"),
+        FormDialogs::tr("Another program has changed %1 since it was opened.").arg(path),
+        QMessageBox::Cancel, &window);
+    box.setInformativeText(FormDialogs::tr(
+        "Reload takes the file as it is now; Undo brings your version back. Keep mine "
+        "replaces the file with your version."));
+    const QPushButton* const reload =
+        box.addButton(FormDialogs::tr("&Reload"), QMessageBox::ActionRole);
     const QPushButton* const keep =
-        box.addButton(Translated("&Keep mine"), QMessageBox::ActionRole);
+        box.addButton(FormDialogs::tr("&Keep mine"), QMessageBox::ActionRole);
     const QPushButton* const show =
-        box.addButton(Translated("Show the &difference"), QMessageBox::ActionRole);
+        box.addButton(FormDialogs::tr("Show the &difference"), QMessageBox::ActionRole);
     box.setDefaultButton(QMessageBox::Cancel);
     box.exec();
     const QAbstractButton* const clicked = box.clickedButton();
@@ -101,14 +105,14 @@ ChangeAnswer AskAboutChange(QWidget& window, const QString& path) {
 
 WorkAnswer AskAboutAbandonedWork(QWidget& window, const QStringList& work) {
     QMessageBox box(
-        QMessageBox::Question, Translated("Unsaved work"),
-        Translated("lumenform ended before this work was saved:\n%1").arg(work.join(u'\n')),
+        QMessageBox::Question, FormDialogs::tr("Unsaved work"),
+        FormDialogs::tr("lumenform ended before this work was saved:\n%1").arg(work.join(u'\n')),
         QMessageBox::NoButton, &window);
-    box.setInformativeText(Translated("Open it to look at it and save it."));
-    QPushButton* const open = box.addButton(Translated("&Open"), QMessageBox::AcceptRole);
+    box.setInformativeText(FormDialogs::tr("Open it to look at it and save it."));
+    QPushButton* const open = box.addButton(FormDialogs::tr("&Open"), QMessageBox::AcceptRole);
     const QPushButton* const discard =
-        box.addButton(Translated("&Discard"), QMessageBox::DestructiveRole);
-    QPushButton* const later = box.addButton(Translated("&Later"), QMessageBox::RejectRole);
+        box.addButton(FormDialogs::tr("&Discard"), QMessageBox::DestructiveRole);
+    QPushButton* const later = box.addButton(FormDialogs::tr("&Later"), QMessageBox::RejectRole);
     box.setDefaultButton(open);
     box.setEscapeButton(later);
     box.exec();
@@ -119,10 +123,11 @@ WorkAnswer AskAboutAbandonedWork(QWidget& window, const QStringList& work) {
 
 bool OffersSaveAs(QWidget& window, const QString& why) {
     QMessageBox box(QMessageBox::Warning, QCoreApplication::applicationName(),
-                    Translated("The form was not saved."), QMessageBox::Close, &window);
+                    FormDialogs::tr("The form was not saved."), QMessageBox::Close, &window);
     box.setInformativeText(why);
     box.setTextInteractionFlags(Qt::TextSelectableByMouse);
-    QPushButton* const saveAs = box.addButton(Translated("Save &as…"), QMessageBox::AcceptRole);
+    QPushButton* const saveAs =
+        box.addButton(FormDialogs::tr("Save &as…"), QMessageBox::AcceptRole);
     box.setDefaultButton(saveAs);
     box.setEscapeButton(QMessageBox::Close);
     box.exec();

@@ -4,6 +4,7 @@
 #include <QDialogButtonBox>
 #include <QHeaderView>
 #include <QMenu>
+#include <QStyle>
 #include <QVBoxLayout>
 #include <vector>
 
@@ -94,7 +95,7 @@ KeysDialog::KeysDialog(const QList<QMenu*>& menus, QWidget* parent)
     }
     AddHints();
     keys_->expandAll();
-    keys_->resizeColumnToContents(0);
+    FitColumns();
     connect(search_, &QLineEdit::textChanged, this, &KeysDialog::SearchFor);
 }
 
@@ -112,9 +113,18 @@ void KeysDialog::LayOut() {
     layout->addWidget(search_);
     layout->addWidget(keys_);
     layout->addWidget(buttons);
-    constexpr int columns = 80;
+}
+
+// Opens wide enough for the longest rows.
+void KeysDialog::FitColumns() {
+    int width = 2 * keys_->frameWidth() + style()->pixelMetric(QStyle::PM_ScrollBarExtent);
+    for (int column = 0; column < keys_->columnCount(); ++column) {
+        keys_->resizeColumnToContents(column);
+        width += keys_->columnWidth(column);
+    }
+    keys_->setMinimumWidth(width);
     constexpr int lines = 30;
-    resize(columns * fontMetrics().averageCharWidth(), lines * fontMetrics().height());
+    resize(sizeHint().width(), lines * fontMetrics().height());
 }
 
 QTreeWidgetItem& KeysDialog::AddGroup(const QString& title) {

@@ -23,6 +23,7 @@ class KeysDialog final : public QDialog {
 
  private:
     void LayOut();
+    void FitColumns();
     void AddCommands(const QMenu& menu, QTreeWidgetItem& group);
     QTreeWidgetItem& AddGroup(const QString& title);
     void AddHints();

@@ -4,12 +4,25 @@
 #include <optional>
 #include <vector>
 
+#include "apps/lumenform/design/model/code_page_name.h"
+
 namespace lumenkit::lumenform {
 
 namespace {
 
-QString InWords(const char* text) {
-    return QCoreApplication::translate("opened_message", text);
+struct OpenedMessages {
+    Q_DECLARE_TR_FUNCTIONS(opened_message)
+};
+
+QString GuessText(const forms::CodePageGuess& guess) {
+    const QString text = guess.reason == forms::CodePageGuess::Reason::Fonts
+                             ? OpenedMessages::tr(
+                                   "read as %1, because its fonts have this character "
+                                   "set; File > Read in code page changes this")
+                             : OpenedMessages::tr(
+                                   "read as %1, because its bytes look like it; File > "
+                                   "Read in code page changes this");
+    return text.arg(CodePageName(guess.page));
 }
 
 }  // namespace
@@ -17,8 +30,7 @@ QString InWords(const char* text) {
 QString OpenedMessage(const forms::Document& document, const QString& name) {
     std::vector<forms::Warning> warnings = document.Warnings();
     if (const std::optional<forms::CodePageGuess>& guess = document.Guess()) {
-        const QString hint = InWords("; File > Read in code page changes this");
-        warnings.insert(warnings.begin(), {guess->place, TextOf(*guess) + hint.toStdString()});
+        warnings.insert(warnings.begin(), {guess->place, GuessText(*guess).toStdString()});
     }
     if (warnings.empty()) {
         return {};
@@ -30,9 +42,10 @@ QString OpenedMessage(const forms::Document& document, const QString& name) {
                              .arg(first.place.column)
                              .arg(QString::fromStdString(first.text));
     const auto others = static_cast<int>(warnings.size()) - 1;
-    return others == 0
-               ? text
-               : InWords("%1 (and %2 more; \"lumenkit check\" lists them)").arg(text).arg(others);
+    return others == 0 ? text
+                       : OpenedMessages::tr("%1 (and %n more; \"lumenkit check\" lists them)",
+                                            nullptr, others)
+                             .arg(text);
 }
 
 }  // namespace lumenkit::lumenform

@@ -2,6 +2,7 @@
 
 #include <cmath>
 
+#include "apps/lumenform/design/model/code_page_name.h"
 #include "forms/known_code_pages.h"
 #include "runtime/qt/qt_text.h"
 
@@ -95,7 +96,7 @@ void PlaceStatus::ShowCodePage() {
     codePage_->setText(page == forms::utf8CodePage ? tr("UTF-8") : tr("Code page %1").arg(page));
     codePage_->setToolTip(
         tr("The form is written in %1. File > Read in code page reads the file in another one.")
-            .arg(QString::fromStdString(forms::NameOfCodePage(page))));
+            .arg(CodePageName(page)));
 }
 
 }  // namespace lumenkit::lumenform

@@ -1,5 +1,6 @@
 #include "apps/lumenform/design/properties/lists/list_properties.h"
 
+#include <QCoreApplication>
 #include <algorithm>
 #include <array>
 #include <string>
@@ -20,9 +21,14 @@ namespace {
 
 constexpr TextView listName = u"List";
 constexpr TextView dataName = u"ItemData";
-constexpr TextView listHelp = u"The items of the list, one a line.";
-constexpr TextView dataHelp =
-    u"The numbers of the items for the use of the program, one a line in the order of the items.";
+constexpr const char* listHelp = QT_TRANSLATE_NOOP("help", "The items of the list, one a line.");
+constexpr const char* dataHelp = QT_TRANSLATE_NOOP(
+    "help",
+    "The numbers of the items for the use of the program, one a line in the order of the items.");
+
+struct Records {
+    Q_DECLARE_TR_FUNCTIONS(records)
+};
 
 using Items = std::vector<Text>;
 using Numbers = std::vector<std::int32_t>;
@@ -37,10 +43,14 @@ std::string_view RecordIn(const forms::Document& document, const forms::Block& b
     }
     const auto* const reference = std::get_if<forms::Reference>(&property->Literal());
     if (reference == nullptr || reference->marked) {
-        throw forms::BadRecord("the form does not refer to a list");
+        throw forms::BadRecord(
+            QCoreApplication::translate("records", "the form does not refer to a list")
+                .toStdString());
     }
     if (document.IsLost(*reference)) {
-        throw forms::BadRecord("its record in the companion is missing");
+        throw forms::BadRecord(
+            QCoreApplication::translate("records", "its record in the companion is missing")
+                .toStdString());
     }
     return document.RecordOf(*property);
 }
@@ -55,7 +65,7 @@ Items ItemsIn(const forms::Document& document, const forms::Block& block) {
         return item.find_first_of(u"\r\n") != Text::npos;
     };
     if (std::ranges::any_of(items, hasBreak)) {
-        throw forms::BadRecord("an item has a line break");
+        throw forms::BadRecord(Records::tr("an item has a line break").toStdString());
     }
     return items;
 }
@@ -134,10 +144,14 @@ std::string EncodedList(const forms::Document& document, const Items& items,
         try {
             forms::CodePage(document.CompanionCodePage()).Encode(items[index]);
         } catch (const forms::Unmappable& unmappable) {
-            throw forms::FormError(document.Name(),
-                                   "item " + std::to_string(index + 1) + ": " +
-                                       forms::UnitName(items[index][unmappable.index]) +
-                                       " cannot be written in " + unmappable.encoding);
+            throw forms::FormError(
+                document.Name(),
+                QCoreApplication::translate("records",
+                                            "item %1: %2 cannot be written in code page %3")
+                    .arg(index + 1)
+                    .arg(QString::fromStdString(forms::UnitName(items[index][unmappable.index])))
+                    .arg(document.CompanionCodePage())
+                    .toStdString());
         }
     }
     return forms::WriteListRecord(items, forms::CodePage(document.CompanionCodePage()), former);
@@ -191,9 +205,11 @@ void SetNumbers(FormDesign& design, forms::Block& block, const Value& value) {
     }
     const std::size_t count = ItemsIn(document, block).size();
     if (now.size() != count) {
-        throw forms::FormError(document.Name(), "expected one number for each of the " +
-                                                    std::to_string(count) + " items, found " +
-                                                    std::to_string(now.size()));
+        throw forms::FormError(document.Name(),
+                               Records::tr("expected one number for each of the %1 items, found %2")
+                                   .arg(count)
+                                   .arg(now.size())
+                                   .toStdString());
     }
     if (now != NumbersIn(document, block, count)) {
         StoreRecord(design, block, dataName, forms::WriteItemDataRecord(now));
@@ -212,7 +228,7 @@ void WithReason(const forms::Document& document, const Change& change) {
 
 struct ListParts {
     TextView name;
-    TextView help;
+    const char* help;
     Text (*read)(const forms::Document& document, const forms::Block& block);
     void (*write)(FormDesign& design, forms::Block& block, const Value& value);
     void (*remove)(forms::Block& block);
@@ -234,8 +250,8 @@ constexpr std::array listParts = {
 
 ObjectProperty UnreadableList(const ListParts& parts, const forms::BadRecord& why) {
     return {.name = Text(parts.name),
-            .help = Text(parts.help) + u" It cannot be edited here: " + FromUtf8(why.what()) + u'.',
-            .get = []() -> Value { return Text(u"(companion)"); }};
+            .help = HelpText(parts.help) + u' ' + WhyNotEditable(why.what()),
+            .get = []() -> Value { return CompanionText(); }};
 }
 
 ObjectProperty MakeListProperty(FormDesign& design, forms::Block& block, const ListParts& parts) {
@@ -245,7 +261,7 @@ ObjectProperty MakeListProperty(FormDesign& design, forms::Block& block, const L
         return UnreadableList(parts, bad);
     }
     return {.name = Text(parts.name),
-            .help = Text(parts.help),
+            .help = HelpText(parts.help),
             .kind = PropertyKind::Lines,
             .get = [&design, &block, &parts]() -> Value {
                 return parts.read(design.Document(), block);

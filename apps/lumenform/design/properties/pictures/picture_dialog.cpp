@@ -7,6 +7,7 @@
 #include <QHBoxLayout>
 #include <QScrollArea>
 #include <QVBoxLayout>
+#include <algorithm>
 #include <utility>
 
 #include "apps/lumenform/design/model/refusal.h"
@@ -76,7 +77,6 @@ void PictureDialog::LayOut() {
     layout->addWidget(description_);
     layout->addWidget(notice_);
     layout->addWidget(buttons);
-    layout->setSizeConstraint(QLayout::SetMinimumSize);  // grows for a long notice
 }
 
 void PictureDialog::Show() {
@@ -96,26 +96,34 @@ void PictureDialog::Show() {
 void PictureDialog::LoadFrom(const QString& path) {
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly)) {
-        notice_->Say(tr("%1: %2").arg(path, file.errorString()));
+        Say(tr("%1: %2").arg(path, file.errorString()));
         return;
     }
     if (file.size() > mostBytes) {
-        notice_->Say(tr("%1: The file is larger than 64 MB.").arg(path));
+        Say(tr("%1: The file is larger than 64 MB.").arg(path));
         return;
     }
     const QString refusal = RefusalOf([&] {
         TakenPicture taken = TakePicture(file.readAll(), property_);
         picture_ = std::move(taken.picture);
-        notice_->Say(taken.note);
+        Say(taken.note);
     });
     if (!refusal.isEmpty()) {
-        notice_->Say(QFileInfo(path).fileName() + QStringLiteral(": ") + refusal);
+        Say(QFileInfo(path).fileName() + QStringLiteral(": ") + refusal);
     }
     Show();
 }
 
+// The dialog grows for a long notice.
+void PictureDialog::Say(const QString& text) {
+    notice_->Say(text);
+    notice_->updateGeometry();  // now, not with the next event
+    layout()->activate();
+    resize(width(), std::max(height(), layout()->totalHeightForWidth(width())));
+}
+
 void PictureDialog::SaveTo(const QString& path) {
-    notice_->Say(RefusalOf(
+    Say(RefusalOf(
         [&] { forms::ReplaceFile(forms::PathOf(path.toStdString()), BytesOfText(picture_)); }));
 }
 

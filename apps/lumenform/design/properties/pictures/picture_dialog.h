@@ -32,6 +32,7 @@ class PictureDialog final : public QDialog {
  private:
     void LayOut();
     void Show();
+    void Say(const QString& text);
     void ChooseFile();
     void ChoosePlace();
 

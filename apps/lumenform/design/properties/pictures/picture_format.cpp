@@ -21,7 +21,7 @@ namespace {
 using std::string_view_literals::operator""sv;
 
 struct PictureFormat {
-    TextView name;
+    const char* name;
     const char* suffix;
     std::string_view signature;
     std::size_t at = 0;  // the offset of the signature
@@ -31,14 +31,22 @@ struct PictureFormat {
 };
 
 constexpr std::array formats = {
-    PictureFormat{u"Bitmap", "bmp", "BM"sv},
-    PictureFormat{u"GIF", "gif", "GIF8"sv},
-    PictureFormat{u"JPEG", "jpg", "\xFF\xD8\xFF"sv},
-    PictureFormat{.name = u"Icon", .suffix = "ico", .signature = "\0\0\1\0"sv, .isIcon = true},
-    PictureFormat{.name = u"Cursor", .suffix = "cur", .signature = "\0\0\2\0"sv, .isCursor = true},
-    PictureFormat{
-        .name = u"Metafile", .suffix = "wmf", .signature = "\xD7\xCD\xC6\x9A"sv, .isShown = false},
-    PictureFormat{.name = u"Enhanced metafile",
+    PictureFormat{QT_TRANSLATE_NOOP("picture_format", "Bitmap"), "bmp", "BM"sv},
+    PictureFormat{"GIF", "gif", "GIF8"sv},
+    PictureFormat{"JPEG", "jpg", "\xFF\xD8\xFF"sv},
+    PictureFormat{.name = QT_TRANSLATE_NOOP("picture_format", "Icon"),
+                  .suffix = "ico",
+                  .signature = "\0\0\1\0"sv,
+                  .isIcon = true},
+    PictureFormat{.name = QT_TRANSLATE_NOOP("picture_format", "Cursor"),
+                  .suffix = "cur",
+                  .signature = "\0\0\2\0"sv,
+                  .isCursor = true},
+    PictureFormat{.name = QT_TRANSLATE_NOOP("picture_format", "Metafile"),
+                  .suffix = "wmf",
+                  .signature = "\xD7\xCD\xC6\x9A"sv,
+                  .isShown = false},
+    PictureFormat{.name = QT_TRANSLATE_NOOP("picture_format", "Enhanced metafile"),
                   .suffix = "emf",
                   .signature = " EMF"sv,
                   .at = 40,
@@ -53,9 +61,9 @@ const PictureFormat* FormatOf(std::string_view bytes) {
     return found == formats.end() ? nullptr : found;
 }
 
-QString Said(const char* text) {
-    return QCoreApplication::translate("picture_format", text);
-}
+struct PictureTexts {
+    Q_DECLARE_TR_FUNCTIONS(picture_format)
+};
 
 [[noreturn]] void RefusePicture(const QString& why) {
     throw RuntimeError(static_cast<std::int32_t>(ErrorNumber::InvalidPropertyValue),
@@ -67,11 +75,11 @@ void RequireFit(const PictureFormat* format, TextView property) {
     const bool wantsPointer = SameText(property, u"MouseIcon", Compare::IgnoreCase) ||
                               SameText(property, u"DragIcon", Compare::IgnoreCase);
     if (wantsIcon && (format == nullptr || !format->isIcon)) {
-        RefusePicture(Said("Icon holds an icon file (ICO)."));
+        RefusePicture(PictureTexts::tr("Icon holds an icon file (ICO)."));
     }
     if (wantsPointer && (format == nullptr || !(format->isIcon || format->isCursor))) {
-        RefusePicture(
-            Said("%1 holds an icon or a cursor (ICO, CUR).").arg(qt::ToQString(property)));
+        RefusePicture(PictureTexts::tr("%1 holds an icon or a cursor (ICO, CUR).")
+                          .arg(qt::ToQString(property)));
     }
 }
 
@@ -83,7 +91,7 @@ bool IsPng(const QByteArray& file) {
 TakenPicture BitmapOf(const QByteArray& png) {
     const QImage image = QImage::fromData(png, "PNG");
     if (image.isNull()) {
-        RefusePicture(Said("The file is damaged."));
+        RefusePicture(PictureTexts::tr("The file is damaged."));
     }
     QImage opaque(image.size(), QImage::Format_RGB888);
     opaque.fill(Qt::white);
@@ -96,10 +104,10 @@ TakenPicture BitmapOf(const QByteArray& png) {
     const QByteArray& bytes = buffer.data();
     const QString note =
         image.hasAlphaChannel()
-            ? Said(
+            ? PictureTexts::tr(
                   "Forms hold no PNG pictures. It becomes a bitmap, with white in its transparent "
                   "parts.")
-            : Said("Forms hold no PNG pictures. It becomes a bitmap.");
+            : PictureTexts::tr("Forms hold no PNG pictures. It becomes a bitmap.");
     return {TextOfBytes({bytes.data(), static_cast<std::size_t>(bytes.size())}), note};
 }
 
@@ -121,16 +129,16 @@ std::string BytesOfText(TextView text) {
 
 Text DescribePicture(TextView picture) {
     if (picture.empty()) {
-        return u"(none)";
+        return qt::ToText(PictureTexts::tr("(none)"));
     }
     constexpr std::size_t longestSignature = 64;
     const std::string head = BytesOfText(picture.substr(0, longestSignature));
     const PictureFormat* const format = FormatOf(head);
-    const QString name =
-        format == nullptr ? Said("other format") : qt::ToQString(Text(format->name));
+    const QString name = PictureTexts::tr(
+        format == nullptr ? QT_TRANSLATE_NOOP("picture_format", "other format") : format->name);
     constexpr double kilobyte = 1024;
     const double size = static_cast<double>(picture.size()) / kilobyte;
-    return u'(' + qt::ToText(name) + u", " + qt::ToText(QString::number(size, 'f', 1)) + u" KB)";
+    return qt::ToText(PictureTexts::tr("(%1, %2 KB)").arg(name, QString::number(size, 'f', 1)));
 }
 
 QPixmap PixmapOf(TextView picture) {
@@ -173,13 +181,13 @@ TakenPicture TakePicture(const QByteArray& file, TextView property) {
         return BitmapOf(file);
     }
     if (format == nullptr) {
-        RefusePicture(
-            Said("Forms hold bitmaps, GIF, JPEG, icons, cursors and metafiles (BMP, GIF, JPG, ICO, "
-                 "CUR, WMF, EMF). A PNG file becomes a bitmap."));
+        RefusePicture(PictureTexts::tr(
+            "Forms hold bitmaps, GIF, JPEG, icons, cursors and metafiles (BMP, GIF, JPG, ICO, "
+            "CUR, WMF, EMF). A PNG file becomes a bitmap."));
     }
     TakenPicture taken{TextOfBytes(bytes), {}};
     if (format->isShown && PixmapOf(taken.picture).isNull()) {
-        RefusePicture(Said("The file is damaged."));
+        RefusePicture(PictureTexts::tr("The file is damaged."));
     }
     return taken;
 }

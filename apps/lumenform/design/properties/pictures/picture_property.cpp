@@ -1,5 +1,7 @@
 #include "apps/lumenform/design/properties/pictures/picture_property.h"
 
+#include <QCoreApplication>
+
 #include "apps/lumenform/design/properties/pictures/picture_format.h"
 #include "apps/lumenform/design/properties/stored_property.h"
 #include "forms/companion.h"
@@ -21,10 +23,14 @@ Text PictureOf(const forms::Document& document, const forms::Block& block, TextV
     }
     const auto* const reference = std::get_if<forms::Reference>(&property->Literal());
     if (reference == nullptr) {
-        throw forms::BadRecord("the form does not refer to a picture");
+        throw forms::BadRecord(
+            QCoreApplication::translate("records", "the form does not refer to a picture")
+                .toStdString());
     }
     if (document.IsLost(*reference)) {
-        throw forms::BadRecord("its record in the companion is missing");
+        throw forms::BadRecord(
+            QCoreApplication::translate("records", "its record in the companion is missing")
+                .toStdString());
     }
     return TextOfBytes(forms::ReadPictureRecord(document.RecordOf(*property)));
 }
@@ -55,14 +61,14 @@ bool HoldsPicture(const forms::Document& document, const forms::Property& proper
 }
 
 ObjectProperty PictureProperty(FormDesign& design, forms::Block& block, TextView name,
-                               TextView help) {
-    ObjectProperty made{.name = Text(name), .help = Text(help)};
+                               const char* help) {
+    ObjectProperty made{.name = Text(name), .help = HelpText(help)};
     try {
         PictureOf(design.Document(), block, name);
     } catch (const forms::BadRecord& bad) {
         made.help += made.help.empty() ? TextView() : TextView(u" ");
-        made.help += u"It cannot be edited here: " + FromUtf8(bad.what()) + u'.';
-        made.get = []() -> Value { return Text(u"(companion)"); };
+        made.help += WhyNotEditable(bad.what());
+        made.get = []() -> Value { return CompanionText(); };
         return made;
     }
     made.kind = PropertyKind::Picture;

@@ -9,7 +9,7 @@ namespace lumenkit::lumenform {
 /// see TextOfBytes. An unreadable record makes it read-only, and its help says why. It must not
 /// outlive the document of the design.
 ObjectProperty PictureProperty(FormDesign& design, forms::Block& block, TextView name,
-                               TextView help = {});
+                               const char* help = "");
 
 /// Whether the property refers to a record that is a picture.
 bool HoldsPicture(const forms::Document& document, const forms::Property& property);
