@@ -1,7 +1,6 @@
 // Unsaved work after the designer ended unexpectedly.
 #include <QDir>
 #include <QFile>
-#include <QRegularExpression>
 #include <QTest>
 #include <fstream>
 #include <set>
@@ -9,6 +8,7 @@
 #include <gmock/gmock.h>
 
 #include "apps/lumenform/design/recovery/recovery_store.h"
+#include "tests/apps/lumenform/abandoned_work.h"
 #include "tests/apps/lumenform/answer.h"
 #include "tests/apps/lumenform/opened_window.h"
 #include "tests/support/file_bytes.h"
@@ -24,16 +24,7 @@ class Recovery : public OpenedWindow {
     QStringList Copies() const {
         return QDir(Store()).entryList(QDir::Dirs | QDir::NoDotAndDotDot);
     }
-    // Leaves the present copy behind, as a program does that is killed: the lock is gone.
-    void Kill() const {
-        for (const QString& name :
-             Copies().filter(QRegularExpression(QStringLiteral("^(?!left)")))) {
-            const QString left = Store() + QStringLiteral("/left-%1-").arg(Copies().size()) + name;
-            ASSERT_TRUE(QDir().mkdir(left));
-            ASSERT_TRUE(QFile::copy(Store() + u'/' + name + QStringLiteral("/work"),
-                                    left + QStringLiteral("/work")));
-        }
-    }
+    void Kill() const { LeaveBehind(Store()); }
     void Change() const {
         Select(u"VMemo1");
         Nudge();

@@ -230,8 +230,9 @@ void FormTab::ShowForm() {
 }
 
 void FormTab::FollowLostNames() {
-    mentions_->Show(lost_->Names().empty() ? QString()
-                                           : MentionMessage(lost_->Outline(), lost_->Names()));
+    mentions_->Show(lost_->Names().empty()
+                        ? QString()
+                        : MentionMessage(lost_->Outline(), lost_->Names(), lost_->FormName()));
 }
 
 bool FormTab::IsFileInDoubt() const {
