@@ -1,5 +1,6 @@
 // Sessions in which forms are saved: under other names, beside other files, after other programs.
 #include <QDialog>
+#include <QLabel>
 #include <QPlainTextEdit>
 #include <filesystem>
 
@@ -202,6 +203,57 @@ TEST_F(SavingSession, AChangeOutsideIsSeenWhenTheUserComesBack) {
     Save();
     EXPECT_EQ(Stored(name), mine);
     EXPECT_FALSE(window.isWindowModified());
+}
+
+TEST_F(SavingSession, TwoFormsWithOneCompanionKeepTheirTexts) {
+    fs::copy_file(sampleForms / "memo.frx", File(QStringLiteral("memo.frx")));
+    const QStringList forms = {QStringLiteral("one.frm"), QStringLiteral("two.frm")};
+    for (const QString& form : forms) {
+        fs::copy_file(sampleForms / "memo.frm", File(form));
+        Open(form);
+    }
+    Click(u"VMemo1");
+    Retype(QStringLiteral("second"));
+    Open(forms.front());
+    Click(u"VMemo1");
+    Retype(QStringLiteral("first"));
+    Save();
+    const std::string first = Stored(forms.front());
+    Open(forms.back());
+    const lumenform::ChangedBar& bar = window.Current()->Bar();
+    EXPECT_TRUE(bar.isVisible());
+    EXPECT_EQ(bar.findChild<QLabel*>()->text(),
+              QStringLiteral("Another program has changed memo.frx."));
+    PressIn(bar, QStringLiteral("Keep mine"));
+    Save();
+    Key(Qt::Key_Z, Qt::ControlModifier);
+    Key(Qt::Key_Y, Qt::ControlModifier);
+    Save();
+    EXPECT_EQ(Stored(forms.front()), first);
+    CloseForm();
+    CloseForm();
+    for (const QString& form : forms) {
+        Open(form);
+        EXPECT_EQ(Status(), "");
+        Click(u"VMemo1");
+        EXPECT_EQ(Properties().Shown(u"Text"),
+                  form == forms.front() ? "first  more" : "second  more");
+    }
+}
+
+TEST_F(SavingSession, AVersionThatUndoBringsBackKeepsTheRecordsOfOthers) {
+    fs::copy_file(sampleForms / "memo.frx", File(QStringLiteral("memo.frx")));
+    fs::copy_file(sampleForms / "memo.frm", File(QStringLiteral("two.frm")));
+    Open(QStringLiteral("two.frm"));
+    Click(u"VMemo1");
+    Retype(QStringLiteral("second"));
+    const std::string others = Stored(QStringLiteral("memo.frx")) + "\4long";
+    Elsewhere([&] { Write(QStringLiteral("memo.frx"), others); });
+    PressIn(window.Current()->Bar(), QStringLiteral("Reload"));
+    Key(Qt::Key_Z, Qt::ControlModifier);
+    Save();
+    EXPECT_THAT(Stored(QStringLiteral("memo.frx")), ::testing::StartsWith(others));
+    EXPECT_THAT(Stored(QStringLiteral("memo.frx")), HasSubstr("second\r\nmore"));
 }
 
 TEST_F(SavingSession, AFormThatCannotBeWrittenIsSavedElsewhere) {

@@ -39,6 +39,7 @@ void UserSession::Watch() {
 // Without a screen, no window becomes active when a dialog ends.
 void UserSession::Activate() {
     if (QApplication::activeModalWidget() == nullptr && !window.isActiveWindow()) {
+        window.activateWindow();
         ShowActive(window);
     }
 }
