@@ -2,6 +2,8 @@
 
 #include <QApplication>
 #include <QClipboard>
+#include <QKeySequence>
+#include <QList>
 #include <QMimeData>
 #include <array>
 
@@ -76,7 +78,11 @@ void FormCommands::FillEdit() {
     undo_ = history_.createUndoAction(this);
     undo_->setShortcut(QKeySequence::Undo);
     redo_ = history_.createRedoAction(this);
-    redo_->setShortcuts({QKeySequence(QKeySequence::Redo), QKeySequence(Qt::CTRL | Qt::Key_Y)});
+    QList<QKeySequence> redoKeys = {QKeySequence(QKeySequence::Redo)};
+    if (const QKeySequence usual(Qt::CTRL | Qt::Key_Y); !redoKeys.contains(usual)) {
+        redoKeys.append(usual);  // the same keys twice would be ambiguous
+    }
+    redo_->setShortcuts(redoKeys);
     FinishEditingBefore(*undo_, &QUndoGroup::undo);
     FinishEditingBefore(*redo_, &QUndoGroup::redo);
     edit_->addActions({undo_, redo_});
