@@ -1,6 +1,7 @@
 #include "forms/companion.h"
 
 #include <algorithm>
+#include <iterator>
 #include <limits>
 #include <optional>
 #include <utility>
@@ -111,6 +112,13 @@ std::string_view Companion::String(std::uint32_t offset) const {
                         std::to_string(record.size() - shape->header));
     }
     return shape->ContentOf(record);
+}
+
+std::size_t Companion::AgreesWith(std::string_view others) const {
+    const auto differs = std::ranges::mismatch(bytes_, others).in1;
+    const auto end = static_cast<std::size_t>(differs - bytes_.begin());
+    const auto next = std::ranges::upper_bound(offsets_, end);
+    return end == bytes_.size() || next == offsets_.begin() ? end : *std::prev(next);
 }
 
 std::uint32_t Companion::Append(std::string_view record) {

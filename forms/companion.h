@@ -2,6 +2,7 @@
 // only by its offset.
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <stdexcept>
 #include <string>
@@ -38,6 +39,10 @@ class Companion {
     /// Appends a record, including its header, and returns its offset. Throws BadRecord when the
     /// offset would need more than 32 bits.
     std::uint32_t Append(std::string_view record);
+
+    /// Returns how many bytes agree with others from the beginning, without a record that agrees
+    /// only in part.
+    std::size_t AgreesWith(std::string_view others) const;
 
     /// Throws BadRecord when `offset` is not inside the companion.
     void RequireOffset(std::uint32_t offset) const;

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <cstdint>
+#include <limits>
 #include <set>
 #include <stdexcept>
 #include <utility>
@@ -79,6 +80,26 @@ void CollectReferencesToChange(const Text& former, const Text& file, const Block
                 Property changed = **property;
                 changed.Set(Reference{file, reference->offset, reference->marked});
                 collected.push_back({**property, std::move(changed)});
+            }
+        }
+    }
+}
+
+// Lets `change` edit all references in a block. The recursion is as deep as in
+// CollectReferencesToChange.
+template <typename Change>
+void ForEachReference(Block& block, const Change& change) {
+    for (const Block::Item& item : block.Items()) {
+        if (const auto* inner = std::get_if<std::unique_ptr<Block>>(&item)) {
+            ForEachReference(**inner, change);
+        } else if (const auto* property = std::get_if<std::unique_ptr<Property>>(&item)) {
+            const auto* reference = std::get_if<Reference>(&(*property)->Literal());
+            if (reference != nullptr) {
+                Reference changed = *reference;
+                change(changed);
+                if (changed.offset != reference->offset) {
+                    (*property)->Replace(changed);
+                }
             }
         }
     }
@@ -345,6 +366,27 @@ void Document::UseCompanion(std::string name) {
     }
     form_.references = std::move(references);
     companionName_ = std::move(name);
+}
+
+void Document::MoveBehind(std::string_view kept) {
+    if (hasLostRecords_) {
+        throw FormError(name_, lostRecords);
+    }
+    const std::size_t start = companion_.AgreesWith(kept);
+    const std::uint64_t by = kept.size() - start;
+    const std::string bytes = std::string(kept) + companion_.Bytes().substr(start);
+    if (bytes.size() > std::numeric_limits<std::uint32_t>::max()) {
+        throw FormError(name_, "the companion would be longer than 32-bit offsets reach");
+    }
+    std::vector<std::uint32_t> offsets;
+    const auto move = [&](Reference& reference) {
+        if (IsInCompanion(reference)) {
+            reference.offset += reference.offset >= start ? static_cast<std::uint32_t>(by) : 0;
+            offsets.push_back(reference.offset);
+        }
+    };
+    ForEachReference(*form_.root, move);
+    companion_ = Companion(bytes, std::move(offsets));
 }
 
 FormBytes Document::Write() const {

@@ -98,6 +98,11 @@ class Document {
     /// to the new record.
     Reference AddRecord(std::string_view record);
 
+    /// Makes the companion begin with these bytes, which hold the records of other forms, too. Own
+    /// records that differ from them follow behind, and their references change. Throws FormError
+    /// when the companion is full, and when a lost reference could then lead to a record of others.
+    void MoveBehind(std::string_view kept);
+
     /// Returns the companion's file name in UTF-8: the name that the form refers to or, without a
     /// reference, the default name for the form.
     std::string CompanionName() const { return companionName_; }

@@ -1,6 +1,8 @@
 #include "forms/file.h"
 
+#include <optional>
 #include <string>
+#include <utility>
 
 #include "forms/companion_path.h"
 #include "forms/disk.h"
@@ -21,12 +23,12 @@ bool IsChanged(const KnownFiles& files, const fs::path& path) {
     return known != nullptr && Disk::System().Read(path, bytes) && *known != Fingerprint::Of(bytes);
 }
 
-void Accept(KnownFiles& files, const fs::path& path) {
-    const fs::path resolved = Resolved(path);
+// Returns the present contents of a file that the document knows; nothing for another one.
+std::optional<std::string> Present(const KnownFiles& files, const fs::path& path) {
     std::string bytes;
-    if (files.Find(resolved) != nullptr && Disk::System().Read(path, bytes)) {
-        files.Remember(resolved, bytes);
-    }
+    const bool isKnown = files.Find(Resolved(path)) != nullptr;
+    return isKnown && Disk::System().Read(path, bytes) ? std::optional(std::move(bytes))
+                                                       : std::nullopt;
 }
 
 }  // namespace
@@ -59,13 +61,27 @@ void Save(const Document& document, const fs::path& path, Replacing replacing) {
 }
 
 bool IsChangedOnDisk(const Document& document, const fs::path& path) {
-    return IsChanged(document.Files(), path) ||
-           IsChanged(document.Files(), CompanionToSave(document, path));
+    return !ChangedOnDisk(document, path).empty();
+}
+
+fs::path ChangedOnDisk(const Document& document, const fs::path& path) {
+    for (const fs::path& file : {path, CompanionToSave(document, path)}) {
+        if (IsChanged(document.Files(), file)) {
+            return file;
+        }
+    }
+    return {};
 }
 
 void AcceptChangesOnDisk(const Document& document, const fs::path& path) {
-    Accept(document.Files(), path);
-    Accept(document.Files(), CompanionToSave(document, path));
+    KnownFiles& files = document.Files();
+    if (const auto form = Present(files, path)) {
+        files.Remember(Resolved(path), *form);
+    }
+    const fs::path companion = CompanionToSave(document, path);
+    if (auto bytes = Present(files, companion)) {
+        files.Keep(Resolved(companion), *std::move(bytes));
+    }
 }
 
 }  // namespace lumenkit::forms

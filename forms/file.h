@@ -32,9 +32,13 @@ void Save(const Document& document, const std::filesystem::path& path,
 /// wrote last. False for a file that does not exist or was neither read nor written.
 bool IsChangedOnDisk(const Document& document, const std::filesystem::path& path);
 
+/// Returns the first of both files that is; an empty path if none is.
+std::filesystem::path ChangedOnDisk(const Document& document, const std::filesystem::path& path);
+
 /// Takes the present contents of the form and its companion as known, so that Save replaces them
-/// even with Replacing::Known. For a user who has seen that another program has changed them. Files
-/// that the document neither read nor wrote stay unknown.
+/// even with Replacing::Known. For a user who has seen that another program has changed them. Save
+/// keeps the records that are in the companion now: another form may share it. Files that the
+/// document neither read nor wrote stay unknown.
 void AcceptChangesOnDisk(const Document& document, const std::filesystem::path& path);
 
 }  // namespace lumenkit::forms

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <string>
 #include <system_error>
+#include <utility>
 
 #include "forms/path_names.h"
 #include "frame/text.h"
@@ -54,10 +55,27 @@ void KnownFiles::Remember(const fs::path& path, std::string_view bytes) {
     }
 }
 
-const Fingerprint* KnownFiles::Find(const fs::path& path) const {
+const KnownFiles::Entry* KnownFiles::EntryOf(const fs::path& path) const {
     const auto known =
         std::ranges::find_if(entries_, [&](const Entry& e) { return IsSamePath(e.path, path); });
-    return known == entries_.end() ? nullptr : &known->fingerprint;
+    return known == entries_.end() ? nullptr : &*known;
+}
+
+const Fingerprint* KnownFiles::Find(const fs::path& path) const {
+    const Entry* const known = EntryOf(path);
+    return known == nullptr ? nullptr : &known->fingerprint;
+}
+
+void KnownFiles::Keep(const fs::path& path, std::string bytes) {
+    Remember(path, bytes);
+    const auto known =
+        std::ranges::find_if(entries_, [&](const Entry& e) { return IsSamePath(e.path, path); });
+    known->kept = std::move(bytes);
+}
+
+const std::string* KnownFiles::Kept(const fs::path& path) const {
+    const Entry* const known = EntryOf(path);
+    return known == nullptr || !known->kept ? nullptr : &*known->kept;
 }
 
 }  // namespace lumenkit::forms

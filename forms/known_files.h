@@ -3,6 +3,8 @@
 
 #include <cstdint>
 #include <filesystem>
+#include <optional>
+#include <string>
 #include <string_view>
 #include <vector>
 
@@ -30,11 +32,20 @@ class KnownFiles {
     /// Returns null for a file that the document neither read nor wrote.
     const Fingerprint* Find(const std::filesystem::path& path) const;
 
+    /// Remembers the contents of a companion that other forms may share. Saving keeps them: see
+    /// Document::MoveBehind.
+    void Keep(const std::filesystem::path& path, std::string bytes);
+    /// Returns null for a file of which nothing is to be kept.
+    const std::string* Kept(const std::filesystem::path& path) const;
+
  private:
     struct Entry {
         std::filesystem::path path;
         Fingerprint fingerprint;
+        std::optional<std::string> kept = std::nullopt;
     };
+    const Entry* EntryOf(const std::filesystem::path& path) const;
+
     std::vector<Entry> entries_;
 };
 

@@ -49,6 +49,22 @@ void RemoveLeftOvers(Disk& disk, const Place& place) {
     }
 }
 
+// Returns the bytes of a document. They keep the records of other forms in its companion.
+FormBytes BytesToSave(const Document& document, const fs::path& path) {
+    FormBytes bytes = document.Write();
+    if (bytes.companion.empty()) {
+        return bytes;
+    }
+    const std::string* const kept =
+        document.Files().Kept(Resolved(CompanionToSave(document, path)));
+    if (kept == nullptr || bytes.companion.starts_with(*kept)) {
+        return bytes;
+    }
+    Document moved = document.WithBytes(bytes);
+    moved.MoveBehind(*kept);
+    return moved.Write();
+}
+
 // One save of a document.
 class Saving {
  public:
@@ -57,7 +73,7 @@ class Saving {
           document_(document),
           path_(path),
           replacing_(replacing),
-          bytes_(document.Write()),
+          bytes_(BytesToSave(document, path)),
           form_(path, bytes_.form) {
         if (!bytes_.companion.empty()) {
             companion_.emplace(CompanionToSave(document, path), bytes_.companion);

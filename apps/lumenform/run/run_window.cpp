@@ -52,7 +52,7 @@ void RunWindow::AddLog() {
     AddMenus(*dock);
 }
 
-// The menus of the program. The form shows its own menus itself.
+// The menus of the program. A form with menus of its own has the only menu bar, as in its program.
 void RunWindow::AddMenus(QDockWidget& dock) {
     QMenu* const file = menuBar()->addMenu(tr("&File"));
     QAction* const close = file->addAction(tr("&Close"), this, &QWidget::close);
@@ -63,6 +63,9 @@ void RunWindow::AddMenus(QDockWidget& dock) {
     shown->setShortcut(Qt::Key_F12);
     view->addAction(shown);
     view->addAction(tr("&Clear the log"), log_, &QTreeWidget::clear);
+    // The keys are there without a menu bar, too.
+    addActions({close, shown});
+    menuBar()->setVisible(view_->findChild<QMenuBar*>() == nullptr);
 }
 
 }  // namespace lumenkit::lumenform

@@ -10,6 +10,23 @@
 
 namespace lumenkit::testing {
 
+/// Returns what a question says.
+inline std::string TextOf(const QMessageBox& box) {
+    return (box.text() + u'|' + box.informativeText()).toStdString();
+}
+
+/// Presses the button of a question with this title.
+inline void PressIn(QMessageBox& box, const QString& button) {
+    for (QAbstractButton* choice : box.buttons()) {
+        if (choice->text().remove(u'&') == button) {
+            choice->click();
+            return;
+        }
+    }
+    ADD_FAILURE() << "no button " << button.toStdString();
+    box.reject();
+}
+
 /// Presses a button of the next question, and records its text.
 class Answer {
  public:
@@ -21,15 +38,8 @@ class Answer {
                 return;
             }
             timer_.stop();
-            said = (box->text() + u'|' + box->informativeText()).toStdString();
-            for (QAbstractButton* choice : box->buttons()) {
-                if (choice->text().remove(u'&') == button) {
-                    choice->click();
-                    return;
-                }
-            }
-            ADD_FAILURE() << "no button " << button.toStdString();
-            box->reject();
+            said = TextOf(*box);
+            PressIn(*box, button);
         });
         timer_.start();
     }

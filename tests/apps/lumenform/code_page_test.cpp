@@ -510,6 +510,30 @@ TEST_F(LostNamesOfCode, LeadToTheCode) {
     EXPECT_TRUE(Code().hasFocus());
 }
 
+TEST_F(LostNamesOfCode, AreToldUntilEachIsThereAgain) {
+    LoadOrder();
+    DeleteWithKey(u"Command1");
+    RenameInOutline(QStringLiteral("mnuOpen"), QStringLiteral("mnuLoad"));
+    EXPECT_EQ(Said(), "Command1_Click and 3 other procedures still mention Command1 and mnuOpen");
+    window.Commands().UndoAction().trigger();
+    EXPECT_EQ(Said(), allOfCommand1) << "the other name is still lost";
+    window.Commands().RedoAction().trigger();
+    RenameInOutline(QStringLiteral("Command2"), QStringLiteral("Command1"));
+    EXPECT_EQ(Said(), "mnuOpen_Click still mentions mnuOpen");
+    window.Commands().UndoAction().trigger();
+    EXPECT_EQ(Said(), "Command1_Click and 3 other procedures still mention Command1 and mnuOpen");
+    window.Commands().UndoAction().trigger();
+    window.Commands().UndoAction().trigger();
+    EXPECT_EQ(Said(), "");
+}
+
+TEST_F(LostNamesOfCode, TheEventProceduresOfTheFormAreOfNoControl) {
+    LoadOrder("Private Sub Form_Load()\r\nEnd Sub\r\nSub Other()\r\n    Text1 = 1\r\nEnd Sub\r\n");
+    RenameInOutline(QStringLiteral("Command1"), QStringLiteral("Form"));
+    RenameInOutline(QStringLiteral("Form"), QStringLiteral("Command1"));
+    EXPECT_EQ(Said(), "");
+}
+
 TEST_F(LostNamesOfCode, AreToldAfterManySteps) {
     LoadOrder();
     Select(u"Command2");

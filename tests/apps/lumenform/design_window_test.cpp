@@ -5,6 +5,7 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QCommandLinkButton>
+#include <QHelpEvent>
 #include <QLabel>
 #include <QMessageBox>
 #include <QPushButton>
@@ -13,6 +14,7 @@
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
+#include <algorithm>
 #include <fstream>
 #include <functional>
 #include <set>
@@ -25,6 +27,7 @@
 #include "project/lumenkit_classes.h"
 #include "runtime/qt/element.h"
 #include "tests/apps/lumenform/answer.h"
+#include "tests/apps/lumenform/grabbed.h"
 #include "tests/apps/lumenform/loaded_view.h"
 #include "tests/apps/lumenform/opened_window.h"
 #include "tests/support/file_bytes.h"
@@ -547,6 +550,48 @@ TEST_F(DesignWindowTest, ReasonOutlivesAClickOnAnotherControl) {
     EXPECT_EQ(window.Bench()->Properties().Message(), QString());
     EXPECT_EQ(window.statusBar()->currentMessage(), QStringLiteral("Left: Type mismatch"));
     EXPECT_EQ(Text(), before);
+}
+
+TEST_F(DesignWindowTest, AReasonGoesWithTheNextActionAndTheNextTab) {
+    window.Load(Copy("memo"));
+    window.Load(Copy("order"));
+    const auto refuse = [&] {
+        Select(u"txtName");
+        TypeInto(u"Left", "wide");
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+        ASSERT_EQ(window.statusBar()->currentMessage(), QStringLiteral("Left: Type mismatch"));
+    };
+    refuse();
+    TypeInto(u"Left", "300\r");
+    EXPECT_EQ(window.statusBar()->currentMessage(), QString()) << "the value is corrected";
+    refuse();
+    Nudge();
+    EXPECT_EQ(window.statusBar()->currentMessage(), QString()) << "another action is done";
+    refuse();
+    window.Tabs().setCurrentIndex(0);
+    EXPECT_EQ(window.statusBar()->currentMessage(), QString()) << "it is about another form";
+}
+
+TEST_F(DesignWindowTest, ALongMessageEndsBeforeThePlaceOfTheSelection) {
+    window.Load(Copy("order"));
+    Select(u"txtName");
+    QStatusBar& bar = *window.statusBar();
+    const auto parts = bar.findChildren<QLabel*>();
+    const auto selection = std::ranges::find_if(
+        parts, [](const QLabel* part) { return part->text().contains(QStringLiteral("txtName")); });
+    ASSERT_NE(selection, parts.end());
+    const QRect place = (*selection)->geometry();
+    const Grabbed before(bar);
+    bar.showMessage(QString(400, u'x'));
+    const QRect changed = Grabbed(bar).DifferenceFrom(before);
+    EXPECT_GT(changed.width(), 100);
+    EXPECT_LT(changed.right(), place.left());
+    QHelpEvent help(QEvent::ToolTip, QPoint(20, 5), bar.mapToGlobal(QPoint(20, 5)));
+    QApplication::sendEvent(&bar, &help);
+    EXPECT_EQ(bar.toolTip(), bar.currentMessage());
+    bar.showMessage(QStringLiteral("short"));
+    QApplication::sendEvent(&bar, &help);
+    EXPECT_EQ(bar.toolTip(), QString());
 }
 
 TEST_F(DesignWindowTest, TheStatusLineShowsTheCodePageAndTheMenuChangesIt) {

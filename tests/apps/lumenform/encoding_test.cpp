@@ -1,7 +1,6 @@
 // The code page of a form in the designer: chosen by the user, and offered for a text that the
 // present one cannot hold.
 #include <QApplication>
-#include <QInputMethodEvent>
 #include <QMenu>
 #include <QPlainTextEdit>
 #include <QTest>
@@ -14,6 +13,7 @@
 #include "apps/lumenform/design/properties/page_dialog.h"
 #include "apps/lumenform/design/properties/text_dialog.h"
 #include "frame/utf8.h"
+#include "tests/apps/lumenform/entry.h"
 #include "tests/apps/lumenform/opened_window.h"
 
 namespace lumenkit::testing {
@@ -45,17 +45,6 @@ class EncodingTest : public OpenedWindow {
     void LoadWestern() {
         window.Load(Copy("umlauts"));
         ASSERT_EQ(Shown(), "Code page 1252");
-    }
-    // Enters a text as an input method does: there are no keys for its letters.
-    static void Compose(QWidget* widget, const QString& text) {
-        QInputMethodEvent event;
-        event.setCommitString(text);
-        QApplication::sendEvent(widget, &event);
-    }
-    static void FollowFirstLink(const lumenform::Notice& notice) {
-        ASSERT_NE(notice.Links(), nullptr);
-        QTest::mouseClick(notice.Links(), Qt::LeftButton, {},
-                          QPoint(10, notice.Links()->height() / 2));
     }
     // Types into a property of the form and ends with Enter.
     void Type(TextView property, const QString& text) const {

@@ -19,6 +19,7 @@
 #include "apps/lumenform/design/menus/menu_moves.h"
 #include "frame/utf8.h"
 #include "tests/apps/lumenform/designed_form.h"
+#include "tests/apps/lumenform/menus_user.h"
 #include "tests/apps/lumenform/opened_window.h"
 #include "tests/support/qt_windows.h"
 #include "tests/support/test_rounds.h"
@@ -58,7 +59,7 @@ std::string Replaced(std::string text, const std::string& part, const std::strin
     return text.replace(at, part.size(), by);
 }
 
-class MenusDialog : public ::testing::Test {
+class MenusDialog : public ::testing::Test, public MenusUser {
  protected:
     MenusDialog() { Open(menusForm); }
 
@@ -70,79 +71,10 @@ class MenusDialog : public ::testing::Test {
     }
     void OpenAgain() {
         dialog = std::make_unique<lumenform::MenusDialog>(form->design, &form->window);
+        Use(*dialog);
         ShowActive(*dialog);
     }
 
-    template <typename Widget>
-    Widget& Field(const QString& name) const {
-        for (Widget* widget : dialog->findChildren<Widget*>()) {
-            if (widget->accessibleName() == name) {
-                return *widget;
-            }
-        }
-        throw std::out_of_range("no field " + name.toStdString());
-    }
-    template <typename Button>
-    Button& ButtonWith(const QString& text) const {
-        for (Button* button : dialog->findChildren<Button*>()) {
-            if (button->text().remove(u'&') == text) {
-                return *button;
-            }
-        }
-        throw std::out_of_range("no button " + text.toStdString());
-    }
-    void Press(const QString& text) const {
-        QTest::mouseClick(&ButtonWith<QPushButton>(text), Qt::LeftButton);
-    }
-    void Toggle(const QString& text) const {
-        auto& box = ButtonWith<QCheckBox>(text);
-        box.setFocus();
-        QTest::keyClick(&box, Qt::Key_Space);
-    }
-    void Type(const QString& field, const QString& text) const {
-        auto& line = Field<QLineEdit>(field);
-        line.setFocus();
-        QTest::keyClick(&line, Qt::Key_A, Qt::ControlModifier);
-        QTest::keyClick(&line, Qt::Key_Delete);
-        QTest::keyClicks(&line, text);
-    }
-    void Choose(const QString& field, const QString& label) const {
-        auto& box = Field<QComboBox>(field);
-        box.setFocus();
-        QTest::keyClicks(&box, label);
-        EXPECT_EQ(box.currentText(), label);
-    }
-    void GoTo(const QString& name) const {
-        const auto found = dialog->Tree().findItems(name, Qt::MatchExactly | Qt::MatchRecursive,
-                                                    lumenform::MenuTree::Name);
-        ASSERT_EQ(found.size(), 1) << name.toStdString();
-        dialog->Tree().scrollToItem(found.front());
-        QTest::mouseClick(dialog->Tree().viewport(), Qt::LeftButton, {},
-                          dialog->Tree().visualItemRect(found.front()).center());
-    }
-    void TreeKey(Qt::Key key, Qt::KeyboardModifiers held = {}) const {
-        dialog->Tree().setFocus();
-        QTest::keyClick(&dialog->Tree(), key, held);
-    }
-    // The names, with two dots for each level.
-    std::vector<std::string> Rows() const {
-        std::vector<std::string> rows;
-        for (QTreeWidgetItemIterator row(&dialog->Tree()); *row != nullptr; ++row) {
-            std::string indent;
-            for (const QTreeWidgetItem* up = (*row)->parent(); up != nullptr; up = up->parent()) {
-                indent += "..";
-            }
-            rows.push_back(indent + (*row)->text(lumenform::MenuTree::Name).toStdString());
-        }
-        return rows;
-    }
-    std::string Message() const { return dialog->Message().toStdString(); }
-    bool CanAccept() const { return ButtonWith<QPushButton>(QStringLiteral("OK")).isEnabled(); }
-    void Accept() const {
-        EXPECT_TRUE(CanAccept()) << Message();
-        Press(QStringLiteral("OK"));
-        EXPECT_FALSE(dialog->isVisible()) << Message();
-    }
     std::string Saved() const { return form->Saved(); }
     int Steps() const { return form->design.History().count(); }
 

@@ -221,6 +221,20 @@ TEST_F(PropertyBrowser, TruthsAndEnumerationsAreChosen) {
     EXPECT_EQ(form.Shown(u"Locked"), "False");
 }
 
+TEST_F(PropertyBrowser, ANumberThatIsNoColourIsRefused) {
+    form.Select({u"Label1"});
+    const std::string before = form.Saved();
+    for (const char* typed : {"16777216", "-1", "&H80000099&", "&H80000019&"}) {
+        form.Type(u"BackColor", typed);
+        EXPECT_THAT(form.Message(), HasSubstr("BackColor: A colour is a number")) << typed;
+        EXPECT_EQ(form.Saved(), before) << typed;
+    }
+    for (const char* typed : {"0", "16777215", "&H80000018&", "-2147483648"}) {
+        form.Type(u"BackColor", typed);
+        EXPECT_EQ(form.Message(), "") << typed;
+    }
+}
+
 TEST_F(PropertyBrowser, ColoursAreTypedAsTheyAreWritten) {
     form.Select({u"Label1"});
     form.Type(u"ForeColor", "&HFF8000");
@@ -248,8 +262,11 @@ TEST_F(PropertyBrowser, SystemColoursAreTypedByName) {
     form.Select({u"Text1"});
     form.Type(u"BackColor", "Tool tip");
     EXPECT_EQ(Stored(u"Text1", u"BackColor"), "&H80000018&");
-    form.Type(u"BackColor", "&H8000001A&");
-    EXPECT_EQ(form.Shown(u"BackColor"), "&H8000001A&") << "it has no name";
+    BrowsedForm odd(
+        FormWith("   Begin VB.TextBox T\n      BackColor = &H8000001A&\n      Height = 300\n"
+                 "      Width = 900\n   End\n"));
+    odd.Select({u"T"});
+    EXPECT_EQ(odd.Shown(u"BackColor"), "&H8000001A&") << "it has no name";
 }
 
 TEST_F(PropertyBrowser, ANamedColourHasASwatch) {

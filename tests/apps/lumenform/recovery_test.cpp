@@ -1,7 +1,6 @@
 // Unsaved work after the designer ended unexpectedly.
 #include <QDir>
 #include <QFile>
-#include <QRegularExpression>
 #include <QTest>
 #include <fstream>
 #include <set>
@@ -9,8 +8,10 @@
 #include <gmock/gmock.h>
 
 #include "apps/lumenform/design/recovery/recovery_store.h"
+#include "tests/apps/lumenform/abandoned_work.h"
 #include "tests/apps/lumenform/answer.h"
 #include "tests/apps/lumenform/opened_window.h"
+#include "tests/apps/lumenform/replies.h"
 #include "tests/support/file_bytes.h"
 
 namespace lumenkit::testing {
@@ -24,15 +25,10 @@ class Recovery : public OpenedWindow {
     QStringList Copies() const {
         return QDir(Store()).entryList(QDir::Dirs | QDir::NoDotAndDotDot);
     }
-    // Leaves the present copy behind, as a program does that is killed: the lock is gone.
-    void Kill() const {
-        for (const QString& name :
-             Copies().filter(QRegularExpression(QStringLiteral("^(?!left)")))) {
-            const QString left = Store() + QStringLiteral("/left-%1-").arg(Copies().size()) + name;
-            ASSERT_TRUE(QDir().mkdir(left));
-            ASSERT_TRUE(QFile::copy(Store() + u'/' + name + QStringLiteral("/work"),
-                                    left + QStringLiteral("/work")));
-        }
+    void Kill() const { LeaveBehind(Store()); }
+    void CloseUnsaved() const {
+        const Answer discard(QStringLiteral("Discard"));
+        Command(QStringLiteral("Close the form")).trigger();
     }
     void Change() const {
         Select(u"VMemo1");
@@ -75,10 +71,7 @@ TEST_F(Recovery, WorkLeftBehindIsOpenedAsAChangeToItsFile) {
     Change();
     const std::string changed = Text();
     Kill();
-    {
-        const Answer discard(QStringLiteral("Discard"));
-        Command(QStringLiteral("Close the form")).trigger();
-    }
+    CloseUnsaved();
     Answer answer(QStringLiteral("Open"));
     window.OfferAbandonedWork();
     EXPECT_THAT(answer.said, HasSubstr("memo.frm, changed "));
@@ -99,10 +92,7 @@ TEST_F(Recovery, WorkOnAFileThatIsGoneKeepsItsPlace) {
     Change();
     const forms::FormBytes changed = Design().Document().Write();
     Kill();
-    {
-        const Answer discard(QStringLiteral("Discard"));
-        Command(QStringLiteral("Close the form")).trigger();
-    }
+    CloseUnsaved();
     ASSERT_TRUE(QFile::remove(path));
     ASSERT_TRUE(QFile::remove(Path(QStringLiteral("memo.frx"))));
     const Answer answer(QStringLiteral("Open"));
@@ -123,10 +113,7 @@ TEST_F(Recovery, WorkOlderThanItsFileIsNotSavedUnasked) {
     Change();
     const std::string changed = Text();
     Kill();
-    {
-        const Answer discard(QStringLiteral("Discard"));
-        Command(QStringLiteral("Close the form")).trigger();
-    }
+    CloseUnsaved();
     QTest::qWait(20);  // the file is newer by more than a clock tick
     const std::string newer = FileBytes(File(QStringLiteral("memo.frm"))) + "' newer\r\n";
     std::ofstream(File(QStringLiteral("memo.frm")), std::ios::binary) << newer;
@@ -153,10 +140,7 @@ TEST_F(Recovery, TwoVersionsOfOneFileAreTwoForms) {
     Change();
     const std::string newest = Text();
     Kill();
-    {
-        const Answer discard(QStringLiteral("Discard"));
-        Command(QStringLiteral("Close the form")).trigger();
-    }
+    CloseUnsaved();
     const Answer answer(QStringLiteral("Open"));
     window.OfferAbandonedWork();
     std::set<std::string> texts;
@@ -174,10 +158,7 @@ TEST_F(Recovery, WorkKeepsItsCodePage) {
     window.Current()->KeepCopy();
     const std::string changed = Text();
     Kill();
-    {
-        const Answer discard(QStringLiteral("Discard"));
-        Command(QStringLiteral("Close the form")).trigger();
-    }
+    CloseUnsaved();
     const Answer answer(QStringLiteral("Open"));
     window.OfferAbandonedWork();
     EXPECT_EQ(Design().Document().FormCodePage(), 65001);
@@ -194,10 +175,7 @@ TEST_F(Recovery, ASecondVersionOfAControlIsAControl) {
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
     window.Current()->KeepCopy();
     Kill();
-    {
-        const Answer discard(QStringLiteral("Discard"));
-        Command(QStringLiteral("Close the form")).trigger();
-    }
+    CloseUnsaved();
     window.Load(Path(QStringLiteral("Gauge.ctl")));
     const Answer answer(QStringLiteral("Open"));
     window.OfferAbandonedWork();
@@ -212,10 +190,7 @@ TEST_F(Recovery, LaterKeepsTheWorkAndDiscardRemovesIt) {
     TypeInto(u"Caption", "typed\r");
     window.Current()->KeepCopy();
     Kill();
-    {
-        const Answer discard(QStringLiteral("Discard"));
-        Command(QStringLiteral("Close the form")).trigger();
-    }
+    CloseUnsaved();
     {
         const Answer later(QStringLiteral("Later"));
         window.OfferAbandonedWork();
@@ -223,10 +198,49 @@ TEST_F(Recovery, LaterKeepsTheWorkAndDiscardRemovesIt) {
     EXPECT_EQ(window.Bench(), nullptr);
     ASSERT_EQ(lumenform::AbandonedWork(Store()).size(), 1U);
     EXPECT_THAT(lumenform::AbandonedWork(Store()).front().Bytes().form, HasSubstr("typed"));
-    const Answer discard(QStringLiteral("Discard"));
+    {
+        Replies cancels;
+        cancels.Press(QStringLiteral("Discard")).Enter().Press(QStringLiteral("Later"));
+        window.OfferAbandonedWork();
+    }
+    EXPECT_EQ(lumenform::AbandonedWork(Store()).size(), 1U) << "Enter is Cancel";
+    Replies discards;
+    discards.Press(QStringLiteral("Discard")).Press(QStringLiteral("Remove"));
     window.OfferAbandonedWork();
     EXPECT_TRUE(lumenform::AbandonedWork(Store()).empty());
     EXPECT_THAT(Copies().size(), 0);
+}
+
+TEST_F(Recovery, OpeningWorkKeepsItsTime) {
+    window.Load(Copy("memo"));
+    Change();
+    Kill();
+    CloseUnsaved();
+    const QDateTime time = lumenform::AbandonedWork(Store()).front().time;
+    QTest::qWait(20);
+    Answer answer(QStringLiteral("Open"));
+    window.OfferAbandonedWork();
+    EXPECT_THAT(answer.said, HasSubstr(time.toString(QStringLiteral("HH:mm:ss")).toStdString()));
+    window.Current()->KeepCopy();  // nothing has changed since
+    Kill();
+    CloseUnsaved();
+    ASSERT_EQ(lumenform::AbandonedWork(Store()).size(), 1U);
+    EXPECT_EQ(lumenform::AbandonedWork(Store()).front().time, time);
+}
+
+TEST_F(Recovery, AFileThatWasOnlyTouchedIsNoOtherFile) {
+    const QString path = Copy("memo");
+    window.Load(path);
+    Change();
+    Kill();
+    CloseUnsaved();
+    QTest::qWait(20);
+    const std::string same = FileBytes(File(QStringLiteral("memo.frm")));
+    std::ofstream(File(QStringLiteral("memo.frm")), std::ios::binary) << same;
+    const Answer answer(QStringLiteral("Open"));
+    window.OfferAbandonedWork();
+    EXPECT_FALSE(window.Current()->Bar().isVisible());
+    EXPECT_TRUE(window.Save());
 }
 
 TEST_F(Recovery, DamagedWorkStaysAndIsNotOffered) {

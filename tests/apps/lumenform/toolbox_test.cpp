@@ -9,6 +9,7 @@
 #include "frame/utf8.h"
 #include "runtime/qt/qt_text.h"
 #include "tests/apps/lumenform/opened_window.h"
+#include "tests/apps/lumenform/toolbox_user.h"
 
 namespace lumenkit::testing {
 namespace {
@@ -34,40 +35,7 @@ class ToolboxTest : public OpenedWindow {
             << controls << "End\n";
         window.Load(Path(name));
     }
-    QListWidgetItem& Row(const QString& name) const {
-        const auto found = List().findItems(name, Qt::MatchExactly);
-        if (found.size() != 1) {
-            throw std::out_of_range("no row " + name.toStdString());
-        }
-        return *found.front();
-    }
-    std::vector<std::string> ShownRows() const {
-        std::vector<std::string> rows;
-        for (int row = 0; row < List().count(); ++row) {
-            if (!List().item(row)->isHidden()) {
-                rows.push_back(List().item(row)->text().toStdString());
-            }
-        }
-        return rows;
-    }
-    // Returns the rows below "On this form".
-    std::vector<std::string> RowsOnForm() const {
-        const std::vector<std::string> rows = ShownRows();
-        const auto heading = std::ranges::find(rows, "On this form");
-        return {heading == rows.end() ? heading : heading + 1, rows.end()};
-    }
-    QPoint PointOf(const QString& name) const {
-        List().scrollToItem(&Row(name));
-        return List().visualItemRect(&Row(name)).center();
-    }
-    void ClickRow(const QString& name) const {
-        const QPoint at = PointOf(name);
-        QTest::mouseClick(List().viewport(), Qt::LeftButton, {}, at);
-    }
-    void DoubleClickRow(const QString& name) const {
-        ClickRow(name);
-        QTest::mouseDClick(List().viewport(), Qt::LeftButton, {}, PointOf(name));
-    }
+    ToolboxUser User() const { return ToolboxUser(Box()); }
     void Undo() const { window.Commands().UndoAction().trigger(); }
     // Drags on the form, in pixels of its client area.
     void DragOnForm(QPoint from, QPoint to) const {
@@ -93,8 +61,8 @@ TEST_F(ToolboxTest, EveryClassIsDrawnByADragAndUndone) {
     const std::string before = Text();
     std::set<std::string> names;
     int rows = 0;
-    for (const std::string& row : ShownRows()) {
-        ClickRow(QString::fromStdString(row));
+    for (const std::string& row : User().ShownRows()) {
+        User().ClickRow(QString::fromStdString(row));
         ASSERT_TRUE(window.Bench()->GetCanvas().IsDrawing()) << row;
         DragOnForm({16, 24}, {112, 88});
         ASSERT_EQ(Design().Selected().size(), 1U) << row;
@@ -106,7 +74,7 @@ TEST_F(ToolboxTest, EveryClassIsDrawnByADragAndUndone) {
         EXPECT_EQ(place.height, row == "Timer" ? 420 : 960) << row;
         names.insert(ToUtf8(control.Name()));
         EXPECT_TRUE(Design().Document().Warnings().empty()) << row;
-        EXPECT_THAT(RowsOnForm(), IsEmpty()) << row;
+        EXPECT_THAT(User().RowsOnForm(), IsEmpty()) << row;
         Undo();
         EXPECT_EQ(Text(), before) << row;
         ++rows;
@@ -120,8 +88,8 @@ TEST_F(ToolboxTest, EveryClassIsDrawnByADragAndUndone) {
 
 TEST_F(ToolboxTest, ADoubleClickPutsEveryClassIntoTheMiddle) {
     window.StartNew();
-    for (const std::string& row : ShownRows()) {
-        DoubleClickRow(QString::fromStdString(row));
+    for (const std::string& row : User().ShownRows()) {
+        User().DoubleClickRow(QString::fromStdString(row));
         ASSERT_EQ(Design().Selected().size(), 1U) << row;
         const host::Placement place = Design().Selected().front()->Place();
         EXPECT_NEAR(place.left + place.width / 2, 2400, 120) << row;
@@ -132,7 +100,7 @@ TEST_F(ToolboxTest, ADoubleClickPutsEveryClassIntoTheMiddle) {
 
 TEST_F(ToolboxTest, NewControlsHaveTheSettingsOfTheirClass) {
     OpenWith("");
-    ClickRow(QStringLiteral("HScrollBar"));
+    User().ClickRow(QStringLiteral("HScrollBar"));
     DragOnForm({16, 24}, {112, 40});
     EXPECT_THAT(Text(), HasSubstr("   Begin VB.HScrollBar HScroll1 \n"
                                   "      Height          =   240\n"
@@ -141,13 +109,13 @@ TEST_F(ToolboxTest, NewControlsHaveTheSettingsOfTheirClass) {
                                   "      Top             =   360\n"
                                   "      Width           =   1440\n"
                                   "   End\n"));
-    ClickRow(QStringLiteral("Timer"));
+    User().ClickRow(QStringLiteral("Timer"));
     DragOnForm({160, 24}, {240, 96});
     EXPECT_THAT(Text(), HasSubstr("   Begin VB.Timer Timer1 \n"
                                   "      Left            =   2400\n"
                                   "      Top             =   360\n"
                                   "   End\n"));
-    ClickRow(QStringLiteral("Shape"));
+    User().ClickRow(QStringLiteral("Shape"));
     DragOnForm({16, 120}, {80, 160});
     EXPECT_THAT(Text(), HasSubstr("   Begin VB.Shape Shape1 \n"
                                   "      Height          =   600\n"
@@ -155,7 +123,7 @@ TEST_F(ToolboxTest, NewControlsHaveTheSettingsOfTheirClass) {
                                   "      Top             =   1800\n"
                                   "      Width           =   960\n"
                                   "   End\n"));
-    ClickRow(QStringLiteral("Data"));
+    User().ClickRow(QStringLiteral("Data"));
     DragOnForm({96, 120}, {240, 152});
     EXPECT_THAT(Text(), HasSubstr("   Begin VB.Data Data1 \n"
                                   "      Caption         =   \"Data1\"\n"
@@ -178,7 +146,7 @@ TEST_F(ToolboxTest, ALineKeepsTheDirectionOfItsDrag) {
         {{16, 88}, {17, 24}, "X1 = 240 X2 = 240 Y1 = 1320 Y2 = 360 "},
     };
     for (const Drawn& line : drawn) {
-        ClickRow(QStringLiteral("Line"));
+        User().ClickRow(QStringLiteral("Line"));
         DragOnForm(line.from, line.to);
         ASSERT_EQ(SelectedName(), "Line1");
         std::string ends;
@@ -198,7 +166,7 @@ TEST_F(ToolboxTest, ALineHasTheUnitsOfItsContainer) {
     OpenWith(
         "   Begin VB.PictureBox P \n      Height = 3000\n      Left = 480\n      Top = 480\n"
         "      ScaleMode = 3\n      BorderStyle = 0\n      Width = 3000\n   End\n");
-    ClickRow(QStringLiteral("Line"));
+    User().ClickRow(QStringLiteral("Line"));
     DragOnForm({32 + 16, 32 + 56}, {32 + 112, 32 + 24});
     EXPECT_THAT(Text(), HasSubstr("      Begin VB.Line Line1 \n"
                                   "         X1              =   16\n"
@@ -210,7 +178,7 @@ TEST_F(ToolboxTest, ALineHasTheUnitsOfItsContainer) {
 
 TEST_F(ToolboxTest, ALineIsSelectedMovedSizedCopiedAndDeleted) {
     OpenWith("");
-    ClickRow(QStringLiteral("Line"));
+    User().ClickRow(QStringLiteral("Line"));
     DragOnForm({16, 88}, {112, 24});
     Key(Qt::Key_Escape);
     ASSERT_TRUE(Design().Selected().empty());
@@ -237,7 +205,7 @@ TEST_F(ToolboxTest, ALineIsSelectedMovedSizedCopiedAndDeleted) {
 
 TEST_F(ToolboxTest, ATimerIsAnIconOfOneSize) {
     OpenWith("");
-    ClickRow(QStringLiteral("Timer"));
+    User().ClickRow(QStringLiteral("Timer"));
     DragOnForm({16, 24}, {112, 88});
     const std::string drawn = Text();
     DragOnForm({16 + 28 + 3, 24 + 28 + 3}, {120, 120});
@@ -268,12 +236,13 @@ const std::string dialogLibrary =
 
 TEST_F(ToolboxTest, ShowsTheOtherClassesOfTheForm) {
     OpenWith(gauges, dialogLibrary);
-    EXPECT_THAT(RowsOnForm(), ElementsAre("CommonDialog", "Gauge"));
-    EXPECT_THAT(Row(QStringLiteral("Gauge")).toolTip().toStdString(), HasSubstr("Project1.Gauge"));
-    EXPECT_EQ(Row(QStringLiteral("On this form")).flags(), Qt::NoItemFlags);
-    ClickRow(QStringLiteral("On this form"));
+    EXPECT_THAT(User().RowsOnForm(), ElementsAre("CommonDialog", "Gauge"));
+    EXPECT_THAT(User().Row(QStringLiteral("Gauge")).toolTip().toStdString(),
+                HasSubstr("Project1.Gauge"));
+    EXPECT_EQ(User().Row(QStringLiteral("On this form")).flags(), Qt::NoItemFlags);
+    User().ClickRow(QStringLiteral("On this form"));
     EXPECT_FALSE(window.Bench()->GetCanvas().IsDrawing());
-    ClickRow(QStringLiteral("Gauge"));
+    User().ClickRow(QStringLiteral("Gauge"));
     DragOnForm({160, 24}, {240, 88});
     EXPECT_THAT(Text(), HasSubstr("   Begin Project1.Gauge Gauge2 \n"
                                   "      Height          =   960\n"
@@ -284,7 +253,7 @@ TEST_F(ToolboxTest, ShowsTheOtherClassesOfTheForm) {
                                   "      _extentx        =   2117\n"
                                   "      _extenty        =   1693\n"
                                   "   End\n"));
-    DoubleClickRow(QStringLiteral("CommonDialog"));
+    User().DoubleClickRow(QStringLiteral("CommonDialog"));
     EXPECT_THAT(Text(), HasSubstr("   Begin MSComDlg.CommonDialog CommonDialog1 \n"
                                   "      Left            =   2760\n"
                                   "      Top             =   2160\n"
@@ -300,14 +269,14 @@ TEST_F(ToolboxTest, AClassGoesWithItsLastControl) {
     OpenWith(gauges, dialogLibrary);
     Select(u"Gauge1");
     Command(QStringLiteral("Delete")).trigger();
-    EXPECT_THAT(RowsOnForm(), ElementsAre("CommonDialog"));
+    EXPECT_THAT(User().RowsOnForm(), ElementsAre("CommonDialog"));
     Select(u"Dialog1");
     Command(QStringLiteral("Delete")).trigger();
-    EXPECT_THAT(RowsOnForm(), IsEmpty());
-    EXPECT_THAT(ShownRows(), Not(::testing::Contains("On this form")));
+    EXPECT_THAT(User().RowsOnForm(), IsEmpty());
+    EXPECT_THAT(User().ShownRows(), Not(::testing::Contains("On this form")));
     Undo();
     Undo();
-    EXPECT_THAT(RowsOnForm(), ElementsAre("CommonDialog", "Gauge"));
+    EXPECT_THAT(User().RowsOnForm(), ElementsAre("CommonDialog", "Gauge"));
 }
 
 TEST_F(ToolboxTest, EveryClassWithALikenessCanBeAddedAgain) {
@@ -319,7 +288,7 @@ TEST_F(ToolboxTest, EveryClassWithALikenessCanBeAddedAgain) {
                  " First \n      Height = 900\n      Left = 120\n      Top = 1200\n"
                  "      Width = 1500\n   End\n");
         const std::string before = Text();
-        ClickRow(qt::ToQString(row.kind.className));
+        User().ClickRow(qt::ToQString(row.kind.className));
         DragOnForm({160, 24}, {240, 88});
         ASSERT_EQ(Design().View().Controls().size(), 2U) << className;
         ASSERT_EQ(Design().Selected().size(), 1U) << className;
@@ -335,7 +304,7 @@ TEST_F(ToolboxTest, EveryClassWithALikenessCanBeAddedAgain) {
 TEST_F(ToolboxTest, APutDownControlOfTheFormHasTheSizeOfTheFirst) {
     OpenWith(gauges, dialogLibrary);
     List().setFocus();
-    List().setCurrentItem(&Row(QStringLiteral("Gauge")));
+    List().setCurrentItem(&User().Row(QStringLiteral("Gauge")));
     QTest::keyClick(&List(), Qt::Key_Return);
     ASSERT_EQ(SelectedName(), "Gauge2");
     EXPECT_EQ(PlaceOf(u"Gauge2").width, 1500);
@@ -346,7 +315,7 @@ TEST_F(ToolboxTest, IsSearchedByKeyboard) {
     OpenWith(gauges, dialogLibrary);
     Box().Search().setFocus();
     QTest::keyClicks(&Box().Search(), QStringLiteral("SCROLL"));
-    EXPECT_THAT(ShownRows(), ElementsAre("HScrollBar", "VScrollBar"));
+    EXPECT_THAT(User().ShownRows(), ElementsAre("HScrollBar", "VScrollBar"));
     QTest::keyClick(&Box().Search(), Qt::Key_Down);
     EXPECT_TRUE(List().hasFocus());
     QTest::keyClick(&List(), Qt::Key_Down);
@@ -355,19 +324,19 @@ TEST_F(ToolboxTest, IsSearchedByKeyboard) {
     Box().Search().setFocus();
     Box().Search().selectAll();
     QTest::keyClicks(&Box().Search(), QStringLiteral("gau"));
-    EXPECT_THAT(ShownRows(), ElementsAre("On this form", "Gauge"));
+    EXPECT_THAT(User().ShownRows(), ElementsAre("On this form", "Gauge"));
     Select(u"Gauge1");
     Command(QStringLiteral("Delete")).trigger();
-    EXPECT_THAT(ShownRows(), IsEmpty());
+    EXPECT_THAT(User().ShownRows(), IsEmpty());
     Box().Search().setFocus();
     QTest::keyClick(&Box().Search(), Qt::Key_Escape);
     EXPECT_TRUE(List().hasFocus());
-    EXPECT_EQ(ShownRows().size(), 25U);
+    EXPECT_EQ(User().ShownRows().size(), 25U);
 }
 
 TEST_F(ToolboxTest, EnterAddsNoClassThatTheSearchHides) {
     window.StartNew();
-    List().setCurrentItem(&Row(QStringLiteral("Label")));
+    List().setCurrentItem(&User().Row(QStringLiteral("Label")));
     Box().Search().setText(QStringLiteral("scroll"));
     List().setFocus();
     QTest::keyClick(&List(), Qt::Key_Return);
@@ -378,7 +347,7 @@ TEST_F(ToolboxTest, ACopyContinuesTheNumberOfItsOriginal) {
     OpenWith(
         "   Begin VB.CommandButton cmdOrder \n      Height = 375\n      Left = 240\n"
         "      Top = 240\n      Width = 1215\n   End\n");
-    ClickRow(QStringLiteral("CommandButton"));
+    User().ClickRow(QStringLiteral("CommandButton"));
     DragOnForm({160, 24}, {240, 56});
     ASSERT_EQ(SelectedName(), "Command1");
     Key(Qt::Key_D, Qt::ControlModifier);
@@ -393,7 +362,7 @@ TEST_F(ToolboxTest, ACopyContinuesTheNumberOfItsOriginal) {
 TEST_F(ToolboxTest, TheArrowKeysSkipTheHeading) {
     OpenWith(gauges, dialogLibrary);
     List().setFocus();
-    List().setCurrentItem(&Row(QStringLiteral("OLE")));
+    List().setCurrentItem(&User().Row(QStringLiteral("OLE")));
     QTest::keyClick(&List(), Qt::Key_Down);
     EXPECT_EQ(List().currentItem()->text(), QStringLiteral("CommonDialog"));
     QTest::keyClick(&List(), Qt::Key_Up);
@@ -408,7 +377,7 @@ TEST_F(ToolboxTest, HasNamesForScreenReaders) {
 
 TEST_F(ToolboxTest, ANewOptionListLeavesItsCaptionFree) {
     window.StartNew();
-    ClickRow(QStringLiteral("VOptList"));
+    User().ClickRow(QStringLiteral("VOptList"));
     DragOnForm({16, 24}, {160, 120});
     ASSERT_EQ(SelectedName(), "VOptList1");
     const lumenform::LiveControl& list = *Design().Selected().front();

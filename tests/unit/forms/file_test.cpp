@@ -460,6 +460,49 @@ TEST_F(FileTest, AConfirmedSaveReplacesWhatOthersChanged) {
     EXPECT_TRUE(ReadFile(folder / "memo.frx") == Sample("memo.frm").companion);
 }
 
+// Another form may share the companion.
+TEST_F(FileTest, WhatOthersWroteIntoTheCompanionStays) {
+    const fs::path path = folder / "memo.frm";
+    const fs::path companion = folder / "memo.frx";
+    const std::string base = Sample("memo.frm").companion;
+    for (const std::string& theirs :
+         {base + "\x0Atheir\r\ntext", base.substr(0, 8) + "quite other bytes", std::string("x")}) {
+        for (const bool isEdited : {true, false}) {
+            Save(Sample("memo.frm").Parse(), path, Replacing::Confirmed);
+            const Document document = Load(path);
+            const auto textOf = [](const Document& shown) {
+                return shown.TextOf(*Find(shown, {u"VMemo1"}).FindProperty(u"Text"));
+            };
+            if (isEdited) {
+                Find(document, {u"VMemo1"}).Set(u"Text", TextLiteral(u"new\r\ntext"));
+            }
+            WriteFile(companion, theirs);
+            AcceptChangesOnDisk(document, path);
+            for (int saves = 0; saves < 2; ++saves) {
+                Save(document, path, Replacing::Known);
+                EXPECT_TRUE(ReadFile(companion).starts_with(theirs));
+                EXPECT_FALSE(IsChangedOnDisk(document, path));
+                const Document saved = Load(path);
+                EXPECT_TRUE(saved.Warnings().empty());
+                EXPECT_EQ(textOf(saved), textOf(document));
+            }
+            fs::remove(path);
+            fs::remove(companion);
+        }
+    }
+}
+
+TEST_F(FileTest, TheFileThatOthersChangedIsNamed) {
+    const fs::path path = folder / "memo.frm";
+    Save(Sample("memo.frm").Parse(), path);
+    const Document document = Load(path);
+    EXPECT_EQ(ChangedOnDisk(document, path), fs::path());
+    WriteFile(folder / "memo.frx", "more");
+    EXPECT_EQ(ChangedOnDisk(document, path), folder / "memo.frx");
+    WriteFile(path, "other");
+    EXPECT_EQ(ChangedOnDisk(document, path), path);
+}
+
 // ---- Permissions
 
 TEST_F(FileTest, AReadOnlyFileIsNotReplaced) {

@@ -107,7 +107,7 @@ std::size_t CodeOutline::ProcedureAt(std::size_t line) const {
     return static_cast<std::size_t>(std::max<std::ptrdiff_t>(after - procedures_.begin() - 1, 0));
 }
 
-std::vector<Mention> CodeOutline::Mentioning(const std::vector<Text>& names) const {
+std::vector<Mention> CodeOutline::Mentioning(const std::vector<Text>& names, TextView form) const {
     std::map<std::pair<bool, std::size_t>, Mention> found;  // their own ones first
     const auto add = [&](const Places& places, const Text& name) {
         if (const auto at = places.find(LCase(name)); at != places.end()) {
@@ -121,7 +121,9 @@ std::vector<Mention> CodeOutline::Mentioning(const std::vector<Text>& names) con
         }
     };
     for (const Text& name : names) {
-        add(own_, name);
+        if (!SameText(name, form, Compare::IgnoreCase)) {
+            add(own_, name);
+        }
         add(words_, name);
     }
     std::vector<Mention> mentions;

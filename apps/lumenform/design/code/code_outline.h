@@ -31,7 +31,9 @@ class CodeOutline {
     /// Returns the procedures that mention any of the names, each once: first their own event
     /// procedures, then the others, in the order of the code. Names are whole words in code, not in
     /// texts and comments, without regard to case.
-    std::vector<Mention> Mentioning(const std::vector<Text>& names) const;
+    /// The event procedures of `form`, such as Form_Load of "Form", are those of the form even if a
+    /// control has this name, too.
+    std::vector<Mention> Mentioning(const std::vector<Text>& names, TextView form = {}) const;
 
  private:
     class Reader;

@@ -23,12 +23,14 @@ TextView CodeIn(TextView tail) {
     }
 }
 
-void FormCode::Take(const forms::Document& document) {
+bool FormCode::Take(const forms::Document& document) {
     const TextView code = CodeIn(document.Tail());
-    if (code != source_) {
-        source_ = code;
-        outline_ = CodeOutline(source_);
+    if (code == source_) {
+        return false;
     }
+    source_ = code;
+    outline_ = CodeOutline(source_);
+    return true;
 }
 
 std::size_t FirstLineOf(TextView code, std::string_view formBytes) {

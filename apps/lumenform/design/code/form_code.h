@@ -16,7 +16,8 @@ TextView CodeIn(TextView tail);
 class FormCode {
  public:
     /// Takes the code of a document. Reads it only if it differs from the present one.
-    void Take(const forms::Document& document);
+    /// Returns whether it differs.
+    bool Take(const forms::Document& document);
 
     const Text& Source() const { return source_; }
     const CodeOutline& Outline() const { return outline_; }

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "apps/lumenform/design/model/naming.h"
 #include "forms/controls.h"
 
 namespace lumenkit::lumenform {
@@ -20,46 +21,63 @@ LostNames::NamesByKey LostNames::PresentNames() const {
     return names;
 }
 
-// The index of the history stays when a full history forgets its first step.
+Text LostNames::FormName() const {
+    return Text(ShortClassName(design_.Document().Root().ClassName()));
+}
+
+// An undo takes losses back, and a redo finds them again. The index of the history stays when a
+// full history forgets its first step: then all steps have one number less.
 void LostNames::Follow(int step) {
+    const bool isFull = step == step_ && step == design_.History().undoLimit();
     const bool isUndone = step < step_;
     step_ = step;
+    if (isFull) {
+        for (Loss& loss : losses_) {
+            --loss.step;
+        }
+    }
+    ForgetFrom(isUndone ? step + 1 : step);
     const NamesByKey former = std::exchange(present_, PresentNames());
-    if (isUndone) {
-        if (step < lostStep_) {
-            Take({});
-        }
-        return;
-    }
-    std::vector<Text> lost;
-    for (const auto& [key, name] : former) {
-        if (!present_.contains(key)) {
-            lost.push_back(name);
+    if (!isUndone) {
+        for (const auto& [key, name] : former) {
+            if (!present_.contains(key)) {
+                losses_.push_back({name, step});
+            }
         }
     }
-    if (!lost.empty()) {
-        code_.Take(design_.Document());
-        std::erase_if(lost, [&](const Text& name) { return Outline().Mentioning({name}).empty(); });
-    }
-    if (!lost.empty()) {
-        lostStep_ = step;
-        Take(std::move(lost));
+    if (losses_.empty() && names_.empty()) {
         return;
     }
-    std::vector<Text> still = lost_;
-    std::erase_if(still, [&](const Text& name) { return present_.contains(LCase(name)); });
-    if (still != lost_) {
-        Take(std::move(still));
+    const bool isOtherCode = code_.Take(design_.Document());
+    if (std::vector<Text> now = Mentioned(); now != names_ || isOtherCode) {
+        names_ = std::move(now);
+        Q_EMIT Changed();
     }
 }
 
-void LostNames::Take(std::vector<Text> lost) {
-    lost_ = std::move(lost);
-    Q_EMIT Changed();
+void LostNames::ForgetFrom(int step) {
+    std::erase_if(losses_, [step](const Loss& loss) { return loss.step >= step; });
+}
+
+// The names that are lost and still mentioned, each once.
+std::vector<Text> LostNames::Mentioned() const {
+    std::vector<Text> names;
+    for (const Loss& loss : losses_) {
+        const bool isNew = std::ranges::none_of(names, [&](const Text& name) {
+            return SameText(name, loss.name, Compare::IgnoreCase);
+        });
+        if (isNew && !present_.contains(LCase(loss.name)) &&
+            !Outline().Mentioning({loss.name}, FormName()).empty()) {
+            names.push_back(loss.name);
+        }
+    }
+    return names;
 }
 
 void LostNames::Dismiss() {
-    Take({});
+    losses_.clear();
+    names_.clear();
+    Q_EMIT Changed();
 }
 
 }  // namespace lumenkit::lumenform

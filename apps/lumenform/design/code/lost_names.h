@@ -20,9 +20,12 @@ class LostNames final : public QObject {
     /// The design must outlive this object.
     explicit LostNames(FormDesign& design, QObject* parent = nullptr);
 
-    /// The names that the last such change has lost, until it is undone or they are there again.
-    const std::vector<Text>& Names() const { return lost_; }
-    /// The code when Names() was determined.
+    /// The names that such changes have lost, in their order, while they are not undone and no
+    /// control has the name again.
+    const std::vector<Text>& Names() const { return names_; }
+    /// The name before the bar in the event procedures of the form itself: "Form".
+    Text FormName() const;
+    /// The code in which the names are mentioned.
     const CodeOutline& Outline() const { return code_.Outline(); }
     /// Forgets the names.
     void Dismiss();
@@ -34,16 +37,22 @@ class LostNames final : public QObject {
  private:
     using NamesByKey = std::map<Text, Text>;  // by the name in lower case
 
+    struct Loss {
+        Text name;
+        int step;  // of the history, after the loss
+    };
+
     NamesByKey PresentNames() const;
     void Follow(int step);
-    void Take(std::vector<Text> lost);
+    void ForgetFrom(int step);
+    std::vector<Text> Mentioned() const;
 
     FormDesign& design_;
     FormCode code_;
     NamesByKey present_;
-    int step_;          // of the history
-    int lostStep_ = 0;  // the step after the loss
-    std::vector<Text> lost_;
+    int step_;                  // of the history
+    std::vector<Loss> losses_;  // also of names that are there again: an undo takes them away
+    std::vector<Text> names_;
 };
 
 }  // namespace lumenkit::lumenform

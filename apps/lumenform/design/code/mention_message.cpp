@@ -24,10 +24,10 @@ QString InWords(const std::vector<Text>& names) {
 
 }  // namespace
 
-QString MentionMessage(const CodeOutline& outline, const std::vector<Text>& names) {
+QString MentionMessage(const CodeOutline& outline, const std::vector<Text>& names, TextView form) {
     QStringList procedures;
     bool isInDeclarations = false;
-    for (const Mention& mention : outline.Mentioning(names)) {
+    for (const Mention& mention : outline.Mentioning(names, form)) {
         if (mention.procedure == 0) {
             isInDeclarations = true;
         } else {

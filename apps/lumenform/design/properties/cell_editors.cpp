@@ -1,7 +1,6 @@
 #include "apps/lumenform/design/properties/cell_editors.h"
 
 #include <QHBoxLayout>
-#include <QKeyEvent>
 #include <QScopedValueRollback>
 #include <QToolButton>
 #include <QWheelEvent>
@@ -15,6 +14,11 @@ namespace {
 constexpr int frameWidth = 2;
 
 }  // namespace
+
+bool IsMore(const QKeyEvent& key) {
+    return (key.key() == Qt::Key_F4 && key.modifiers() == Qt::NoModifier) ||
+           (key.key() == Qt::Key_Down && key.modifiers().testFlag(Qt::AltModifier));
+}
 
 ChoiceBox::ChoiceBox(QWidget* parent) : QComboBox(parent) {
     setAutoFillBackground(true);

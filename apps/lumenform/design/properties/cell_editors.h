@@ -2,10 +2,15 @@
 #pragma once
 
 #include <QComboBox>
+#include <QKeyEvent>
 #include <QLineEdit>
 #include <QWidget>
 
 namespace lumenkit::lumenform {
+
+/// Whether the key opens the separate editor of a value: F4 alone, or Alt+Down. With Ctrl or Alt,
+/// F4 closes the form or the window.
+bool IsMore(const QKeyEvent& key);
 
 /// A combo box in a list, with a frame while it has the keyboard. The mouse wheel scrolls the list,
 /// and moving through the entries by keyboard does not pick one.

@@ -109,6 +109,12 @@ Value ColorFromText(TextView text) {
     return Text(prefix) + Text(digits) + u'&';
 }
 
+bool IsColor(Color color) {
+    constexpr std::uint32_t white = 0xFFFFFF;
+    return static_cast<std::uint32_t>(color) <= white ||
+           std::ranges::find(systemColors, color, &NamedColor::color) != systemColors.end();
+}
+
 std::span<const NamedColor> SystemColors() {
     return systemColors;
 }

@@ -20,6 +20,9 @@ Text ColorName(Color color);
 /// convert.
 Value ColorFromText(TextView text);
 
+/// Whether it is red, green and blue, or one of the system colours.
+bool IsColor(Color color);
+
 struct NamedColor {
     TextView name;
     Color color;

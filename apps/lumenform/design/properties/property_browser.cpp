@@ -11,6 +11,7 @@
 #include "apps/lumenform/design/properties/cell_editors.h"
 #include "apps/lumenform/design/properties/choose_font.h"
 #include "apps/lumenform/design/properties/color_dialog.h"
+#include "apps/lumenform/design/properties/color_text.h"
 #include "apps/lumenform/design/properties/contents/contents_dialog.h"
 #include "apps/lumenform/design/properties/encoding_offer.h"
 #include "apps/lumenform/design/properties/font_text.h"
@@ -228,6 +229,9 @@ QString PropertyBrowser::TryToAssign(int row, const Value& value) {
     if (QString why = WhyUnwritable(changed, value); !why.isEmpty()) {
         return why;
     }
+    if (QString why = WhyNoColor(changed, value); !why.isEmpty()) {
+        return why;
+    }
     return RefusalOf([&] {
         const auto* text = std::get_if<Text>(&value);
         const bool isFontText = changed.kind == PropertyKind::Font && text != nullptr;
@@ -246,6 +250,18 @@ QString PropertyBrowser::WhyUnwritable(const PropertyRow& row, const Value& valu
     return why.isEmpty() ? why
                          : qt::ToQString(forms::NameInCode(SelectedBlock())) + u'.' +
                                qt::ToQString(row.name) + QStringLiteral(": ") + why;
+}
+
+// Controls take any number for a colour, also from files. What the user types is checked.
+QString PropertyBrowser::WhyNoColor(const PropertyRow& row, const Value& value) {
+    bool isColor = true;
+    const QString mismatch = row.kind != PropertyKind::Color
+                                 ? QString()
+                                 : RefusalOf([&] { isColor = IsColor(ToColor(value)); });
+    return isColor || !mismatch.isEmpty() ? mismatch
+                                          : tr("A colour is a number from 0 to &HFFFFFF, or a "
+                                               "system colour from &H80000000 to "
+                                               "&H80000018");
 }
 
 void PropertyBrowser::Assign(int row, const Value& value) {
@@ -281,9 +297,7 @@ void PropertyBrowser::SayWhy(const QString& refusal, bool offersEncodings) {
     const QString before = qt::ToQString(wanted_) + QStringLiteral(": ");
     notice_->Say(refusal.isEmpty() || refusal.contains(before) ? refusal : before + refusal,
                  offersEncodings);
-    if (!refusal.isEmpty()) {
-        Q_EMIT Refused(Message());
-    }
+    Q_EMIT Refused(Message());
 }
 
 void PropertyBrowser::AssignTo(const Text& name, const Value& value) {

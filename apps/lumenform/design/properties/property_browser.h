@@ -54,7 +54,8 @@ class PropertyBrowser final : public QWidget {
     QString Help() const { return help_->text(); }
 
  Q_SIGNALS:
-    /// A value was rejected. Message() also returns the reason until the selection changes.
+    /// A value was rejected. Message() also returns the reason until the selection changes. The
+    /// text is empty when a value was accepted.
     void Refused(const QString& why);
 
  protected:
@@ -71,6 +72,7 @@ class PropertyBrowser final : public QWidget {
     const forms::Block& SelectedBlock() const;
     QString TryToAssign(int row, const Value& value);
     QString WhyUnwritable(const PropertyRow& row, const Value& value) const;
+    static QString WhyNoColor(const PropertyRow& row, const Value& value);
     void Assign(int row, const Value& value);
     void Reset(int row);
     void SayWhy(const QString& refusal, bool offersEncodings = false);

@@ -180,7 +180,12 @@ void PropertyDelegate::Finish(QWidget* editor) const {
 // ---- Keys and focus of lines
 
 bool PropertyDelegate::HandleKey(ValueEditor& editor, const QKeyEvent& event) {
-    const bool isAlt = event.modifiers().testFlag(Qt::AltModifier);
+    if (IsMore(event)) {
+        if (editor.HasMore()) {
+            Q_EMIT editor.MoreWanted();
+        }
+        return true;
+    }
     switch (event.key()) {
         case Qt::Key_Escape:
             Close(&editor);
@@ -189,15 +194,7 @@ bool PropertyDelegate::HandleKey(ValueEditor& editor, const QKeyEvent& event) {
         case Qt::Key_Enter:
             Finish(&editor);
             return true;
-        case Qt::Key_F4:
         case Qt::Key_Down:
-            if ((isAlt || event.key() == Qt::Key_F4)) {
-                if (editor.HasMore()) {
-                    Q_EMIT editor.MoreWanted();
-                }
-                return true;
-            }
-            [[fallthrough]];
         case Qt::Key_Up:
         case Qt::Key_Tab:
         case Qt::Key_Backtab: {
@@ -219,16 +216,13 @@ bool PropertyDelegate::eventFilter(QObject* object, QEvent* event) {
         return QStyledItemDelegate::eventFilter(object, event);
     }
     switch (event->type()) {
-        case QEvent::ShortcutOverride:
-            switch (static_cast<QKeyEvent*>(event)->key()) {
-                case Qt::Key_Escape:
-                case Qt::Key_F4:
-                    event->accept();
-                    break;
-                default:
-                    break;
+        case QEvent::ShortcutOverride: {
+            const auto& key = static_cast<const QKeyEvent&>(*event);
+            if (key.key() == Qt::Key_Escape || IsMore(key)) {
+                event->accept();
             }
             return false;
+        }
         case QEvent::KeyPress:
             return HandleKey(*editor, *static_cast<QKeyEvent*>(event));
         case QEvent::FocusOut:

@@ -5,6 +5,7 @@
 #include <QMenu>
 #include <algorithm>
 
+#include "apps/lumenform/design/properties/cell_editors.h"
 #include "apps/lumenform/design/properties/focus_look.h"
 #include "apps/lumenform/design/properties/property_model.h"
 
@@ -133,7 +134,7 @@ bool IsReset(const QKeyEvent& key) {
 bool PropertyTable::event(QEvent* event) {
     if (event->type() == QEvent::ShortcutOverride) {
         const auto& key = static_cast<const QKeyEvent&>(*event);
-        if (key.key() == Qt::Key_F4 || key.matches(QKeySequence::Delete) || IsReset(key)) {
+        if (IsMore(key) || key.matches(QKeySequence::Delete) || IsReset(key)) {
             event->accept();
         }
     }
@@ -141,9 +142,7 @@ bool PropertyTable::event(QEvent* event) {
 }
 
 void PropertyTable::keyPressEvent(QKeyEvent* event) {
-    const bool isAltDown =
-        event->key() == Qt::Key_Down && event->modifiers().testFlag(Qt::AltModifier);
-    if (event->key() == Qt::Key_F4 || isAltDown) {
+    if (IsMore(*event)) {
         Q_EMIT MoreWanted(currentIndex().row());
     } else if (IsReset(*event)) {
         Q_EMIT ResetWanted(currentIndex().row());

@@ -1,6 +1,7 @@
 #include "apps/lumenform/design/recovery/recovery_store.h"
 
 #include <QCoreApplication>
+#include <QCryptographicHash>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -8,9 +9,12 @@
 #include <QSettings>
 #include <QUuid>
 #include <algorithm>
+#include <filesystem>
 #include <string>
 
 #include "forms/form_error.h"
+#include "forms/path_names.h"
+#include "forms/save.h"
 
 namespace lumenkit::lumenform {
 
@@ -35,7 +39,8 @@ QByteArray Described(const RecoveredWork& work, std::size_t formSize) {
                           QByteArray::number(work.codePage),
                           encoded(work.time.toString(Qt::ISODateWithMs)),
                           encoded(work.name),
-                          encoded(work.path)}
+                          encoded(work.path),
+                          encoded(work.base)}
                .join(' ') +
            lineEnd;
 }
@@ -55,8 +60,8 @@ Stored Read(const QString& folder) {
     QByteArray first = file.readLine();
     first.chop(1);
     const QByteArrayList fields = first.split(' ');
-    constexpr qsizetype count = 6;
-    if (fields.size() != count || fields[0] != "lumenform-recovery-1") {
+    constexpr qsizetype fewest = 6;  // without the base
+    if (fields.size() < fewest || fields[0] != "lumenform-recovery-1") {
         return stored;
     }
     const auto decoded = [](const QByteArray& text) {
@@ -73,6 +78,7 @@ Stored Read(const QString& folder) {
                    .name = decoded(fields[4]),
                    .time = QDateTime::fromString(decoded(fields[3]), Qt::ISODateWithMs),
                    .codePage = fields[2].toInt(),
+                   .base = fields.size() > fewest ? decoded(fields[fewest]) : QString(),
                    .lock = nullptr};
     stored.bytes = {bytes.substr(0, size), bytes.substr(size)};
     stored.isValid = true;
@@ -95,6 +101,17 @@ forms::FormBytes RecoveredWork::Bytes() const {
 void RecoveredWork::Remove() const {
     lock->unlock();
     QDir(folder).removeRecursively();
+}
+
+QString BaseOf(const forms::Document& document, const QString& path) {
+    QStringList parts;
+    const std::filesystem::path form(path.toStdU16String());
+    for (const auto& file : {form, forms::CompanionToSave(document, form)}) {
+        const forms::Fingerprint* const known = document.Files().Find(forms::Resolved(file));
+        parts.append(known == nullptr ? QStringLiteral("-")
+                                      : QStringLiteral("%1:%2").arg(known->size).arg(known->hash));
+    }
+    return parts.join(u',');
 }
 
 std::vector<RecoveredWork> AbandonedWork(const QString& store) {
@@ -138,17 +155,30 @@ bool RecoveryCopy::Write(const forms::Document& document, const QString& path) {
         return false;
     }
     const forms::FormBytes bytes = document.Write();
+    const QByteArray content = QByteArray::fromStdString(bytes.form + bytes.companion);
+    const QString base = path.isEmpty() ? QString() : BaseOf(document, path);
+    QCryptographicHash hash(QCryptographicHash::Sha1);
+    hash.addData(content);
+    hash.addData((path + base + QString::number(document.FormCodePage())).toUtf8());
+    if (hash.result() == written_) {
+        return true;  // its time stays
+    }
     const RecoveredWork work{
         .folder = folder_,
         .path = path.isEmpty() ? QString() : QFileInfo(path).absoluteFilePath(),
         .name = QFileInfo(QString::fromStdString(document.Name())).fileName(),
-        .time = QDateTime::currentDateTime(),
+        .time = date_.isValid() ? date_ : QDateTime::currentDateTime(),
         .codePage = document.FormCodePage(),
+        .base = base,
         .lock = nullptr};
     QSaveFile file(WorkIn(folder_));
-    return file.open(QIODevice::WriteOnly) && file.write(Described(work, bytes.form.size())) > 0 &&
-           file.write(QByteArray::fromStdString(bytes.form + bytes.companion)) >= 0 &&
-           file.commit();
+    if (!file.open(QIODevice::WriteOnly) || file.write(Described(work, bytes.form.size())) <= 0 ||
+        file.write(content) < 0 || !file.commit()) {
+        return false;
+    }
+    date_ = {};
+    written_ = hash.result();
+    return true;
 }
 
 void RecoveryCopy::Remove() {
@@ -157,6 +187,7 @@ void RecoveryCopy::Remove() {
         lock_.reset();
         QDir(folder_).removeRecursively();
         folder_.clear();
+        written_.clear();
     }
 }
 

@@ -1,6 +1,7 @@
 #include "apps/lumenform/design/window/design_window.h"
 
 #include <QCloseEvent>
+#include <QDateTime>
 #include <QDir>
 #include <QDragEnterEvent>
 #include <QFileInfo>
@@ -32,6 +33,12 @@ constexpr int messageTime = 8000;  // milliseconds
 
 QString GeometryKey() {
     return QStringLiteral("window/geometry");
+}
+
+// Works of one minute are told apart.
+QString ToTheSecond(const QDateTime& time) {
+    return QLocale().toString(time.date(), QLocale::ShortFormat) + u' ' +
+           time.time().toString(QStringLiteral("HH:mm:ss"));
 }
 
 // Returns the files that are dropped on the window.
@@ -70,6 +77,7 @@ DesignWindow::DesignWindow(const Setup& setup)
     tabs_->setTabsClosable(true);
     tabs_->setTabBarAutoHide(true);
     connect(tabs_, &QTabWidget::currentChanged, this, [this] {
+        Tell({});
         if (Current() != nullptr) {
             Current()->LookAtDisk();
         }
@@ -276,10 +284,13 @@ void DesignWindow::OfferAbandonedWork() {
     QStringList names;
     for (const RecoveredWork& work : left) {
         names.append(tr("%1, changed %2")
-                         .arg(work.path.isEmpty() ? work.name : work.path,
-                              QLocale().toString(work.time, QLocale::ShortFormat)));
+                         .arg(work.path.isEmpty() ? work.name : work.path, ToTheSecond(work.time)));
     }
-    const WorkAnswer answer = AskAboutAbandonedWork(*this, names);
+    WorkAnswer answer{};
+    do {
+        answer = AskAboutAbandonedWork(*this, names);
+    } while (answer == WorkAnswer::Discard &&
+             !ConfirmsDiscarding(*this, static_cast<int>(left.size())));
     for (const RecoveredWork& work : left) {
         if (answer == WorkAnswer::Open) {
             OpenAgain(work);
@@ -292,13 +303,17 @@ void DesignWindow::OfferAbandonedWork() {
 // Opens the file of the form with the unsaved work as a change to it. Returns false if it cannot be
 // read.
 bool DesignWindow::OpenOnItsFile(const RecoveredWork& work, const forms::FormBytes& bytes) {
+    QString base;
     try {
         Load(work.path);
+        base = BaseOf(Bench()->GetDesign().Document(), work.path);
+        Current()->File().AcceptChangesByOthers(Bench()->GetDesign());
         Bench()->GetDesign().Take(tr("Recovered changes"), bytes, work.codePage);
     } catch (const forms::FormError&) {
         return false;
     }
-    if (QFileInfo(work.path).lastModified() > work.time) {
+    const bool isDated = work.base.isEmpty();  // by an earlier version of the designer
+    if (isDated ? QFileInfo(work.path).lastModified() > work.time : base != work.base) {
         Current()->DoubtFile();
     }
     return true;
@@ -317,7 +332,7 @@ void DesignWindow::OpenAgain(const RecoveredWork& work) {
                 isFree ? FormFile(work.path) : FormFile());
             Bench()->GetDesign().History().resetClean();
         }
-        Current()->KeepCopy();
+        Current()->KeepCopy(work);
         work.Remove();
     } catch (const forms::FormError& error) {
         Warn(*this, tr("%1 cannot be opened.").arg(work.name), QString::fromUtf8(error.what()));

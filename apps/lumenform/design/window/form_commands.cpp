@@ -2,6 +2,8 @@
 
 #include <QApplication>
 #include <QClipboard>
+#include <QKeySequence>
+#include <QList>
 #include <QMimeData>
 #include <array>
 
@@ -98,7 +100,11 @@ void FormCommands::AddHistoryCommands() {
     undo_ = edit_->addAction(tr("&Undo"));
     undo_->setShortcut(QKeySequence::Undo);
     redo_ = edit_->addAction(tr("R&edo"));
-    redo_->setShortcuts({QKeySequence(QKeySequence::Redo), QKeySequence(Qt::CTRL | Qt::Key_Y)});
+    QList<QKeySequence> redoKeys = {QKeySequence(QKeySequence::Redo)};
+    if (const QKeySequence usual(Qt::CTRL | Qt::Key_Y); !redoKeys.contains(usual)) {
+        redoKeys.append(usual);  // the same keys twice would be ambiguous
+    }
+    redo_->setShortcuts(redoKeys);
     for (QAction* const action : {undo_, redo_}) {
         action->setEnabled(false);
     }

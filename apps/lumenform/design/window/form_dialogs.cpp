@@ -121,6 +121,19 @@ WorkAnswer AskAboutAbandonedWork(QWidget& window, const QStringList& work) {
                                             : WorkAnswer::Later;
 }
 
+// No button has the access key of the question before: the same key twice discards nothing.
+bool ConfirmsDiscarding(QWidget& window, int count) {
+    QMessageBox box(QMessageBox::Warning, Translated("Remove the unsaved work?"),
+                    QCoreApplication::translate(
+                        "form_dialogs", "Remove %n unsaved work(s) for good?", nullptr, count),
+                    QMessageBox::Cancel, &window);
+    box.setInformativeText(Translated("It cannot be brought back."));
+    const QPushButton* const remove = box.addButton(Translated("&Remove"), QMessageBox::AcceptRole);
+    box.setDefaultButton(QMessageBox::Cancel);
+    box.exec();
+    return box.clickedButton() == remove;
+}
+
 bool OffersSaveAs(QWidget& window, const QString& why) {
     QMessageBox box(QMessageBox::Warning, QCoreApplication::applicationName(),
                     FormDialogs::tr("The form was not saved."), QMessageBox::Close, &window);

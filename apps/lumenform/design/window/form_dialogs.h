@@ -26,6 +26,8 @@ bool OffersSaveAs(QWidget& window, const QString& why);
 /// `work` describes each form. Later keeps it for the next start.
 enum class WorkAnswer { Open, Discard, Later };
 WorkAnswer AskAboutAbandonedWork(QWidget& window, const QStringList& work);
+/// Returns whether the user really wants to remove `count` works for good.
+bool ConfirmsDiscarding(QWidget& window, int count);
 
 /// `heading` names the action that failed. `why` contains the reason, with file and line if known.
 void Warn(QWidget& window, const QString& heading, const QString& why);

@@ -25,6 +25,12 @@ bool FormFile::WasChangedByOthers(const FormDesign& design) const {
     return HasPath() && forms::IsChangedOnDisk(design.Document(), PathOf(path_));
 }
 
+QString FormFile::ChangedName(const FormDesign& design) const {
+    const std::filesystem::path changed = forms::ChangedOnDisk(design.Document(), PathOf(path_));
+    return changed.empty() ? QFileInfo(path_).fileName()
+                           : QString::fromStdU16String(changed.filename().u16string());
+}
+
 void FormFile::AcceptChangesByOthers(const FormDesign& design) const {
     if (HasPath()) {
         forms::AcceptChangesOnDisk(design.Document(), PathOf(path_));

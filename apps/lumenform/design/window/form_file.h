@@ -25,7 +25,12 @@ class FormFile {
     /// False if it no longer exists.
     bool WasChangedByOthers(const FormDesign& design) const;
 
-    /// Lets the next save replace what another program has written.
+    /// The name of the file that differs: that of the form, or that of its companion if only this
+    /// one does.
+    QString ChangedName(const FormDesign& design) const;
+
+    /// Lets the next save replace what another program has written, except for records of other
+    /// forms in the companion.
     void AcceptChangesByOthers(const FormDesign& design) const;
 
     /// Save writes the design to its file. SaveAs writes it to another file, which becomes its

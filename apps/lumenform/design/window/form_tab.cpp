@@ -56,10 +56,11 @@ FormTab::FormTab(const Setup& setup, forms::Document document, FormFile file, QW
     constexpr int pause = 2000;  // milliseconds
     keeping_->setSingleShot(true);
     keeping_->setInterval(pause);
-    connect(keeping_, &QTimer::timeout, this, &FormTab::KeepCopy);
+    connect(keeping_, &QTimer::timeout, this, qOverload<>(&FormTab::KeepCopy));
     FormDesign& design = bench_->GetDesign();
     connect(&design.History(), &QUndoStack::cleanChanged, this, &FormTab::FollowChanges);
     connect(&design, &FormDesign::Edited, this, &FormTab::FollowChanges);
+    connect(&design, &FormDesign::Edited, this, [this] { Q_EMIT Told({}); });
     connect(bench_.get(), &Workbench::Refused, this, &FormTab::Told);
     connect(&bench_->GetCanvas(), &Canvas::MenuRequested, this, &FormTab::MenuRequested);
 }
@@ -100,6 +101,11 @@ void FormTab::KeepCopy() {
         !setup_.recovery.isEmpty()) {
         Q_EMIT Told(tr("No copy of the unsaved changes can be kept in %1").arg(setup_.recovery));
     }
+}
+
+void FormTab::KeepCopy(const RecoveredWork& work) {
+    copy_.Date(work.time);
+    KeepCopy();
 }
 
 bool FormTab::Save() {
@@ -230,8 +236,9 @@ void FormTab::ShowForm() {
 }
 
 void FormTab::FollowLostNames() {
-    mentions_->Show(lost_->Names().empty() ? QString()
-                                           : MentionMessage(lost_->Outline(), lost_->Names()));
+    mentions_->Show(lost_->Names().empty()
+                        ? QString()
+                        : MentionMessage(lost_->Outline(), lost_->Names(), lost_->FormName()));
 }
 
 bool FormTab::IsFileInDoubt() const {
@@ -249,7 +256,7 @@ void FormTab::LookAtDisk() {
         bench_->GetDesign().History().resetClean();
         bar_->ShowGone(Name());
     } else if (run_ == nullptr && IsFileInDoubt()) {
-        bar_->Show(Name());
+        bar_->Show(file_.ChangedName(bench_->GetDesign()));
     } else {
         bar_->hide();
     }
@@ -264,6 +271,7 @@ void FormTab::Reload() {
         Warn(*this, tr("%1 cannot be opened.").arg(Name()), QString::fromUtf8(error.what()));
         return;
     }
+    file_.AcceptChangesByOthers(design);  // also for the version that Undo brings back
     isOlderThanFile_ = false;
     bar_->hide();
     TakeFocus();

@@ -73,6 +73,8 @@ class FormTab final : public QWidget {
     void TakeFocus();
     /// Keeps a copy of unsaved work now, and not only after a moment.
     void KeepCopy();
+    /// Keeps a copy of recovered work with its time.
+    void KeepCopy(const RecoveredWork& work);
     /// Asks what to do if another program has changed the file: shows a line above the form.
     void LookAtDisk();
     /// Asks what to do about a file that is newer than this version of the form.
@@ -82,7 +84,8 @@ class FormTab final : public QWidget {
  Q_SIGNALS:
     /// The name, the unsaved changes, the page or the trial run changed.
     void StateChanged();
-    /// An action was done or failed, in a sentence for the status bar.
+    /// An action was done or failed, in a sentence for the status bar. Empty if former sentences
+    /// are out of date.
     void Told(const QString& text);
     void Saved(const QString& path);
     /// Requests the menu of the selection at this place of the screen.

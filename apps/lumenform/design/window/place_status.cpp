@@ -1,5 +1,9 @@
 #include "apps/lumenform/design/window/place_status.h"
 
+#include <QEvent>
+#include <QPainter>
+#include <QStyleOption>
+#include <algorithm>
 #include <cmath>
 
 #include "apps/lumenform/design/model/code_page_name.h"
@@ -59,6 +63,51 @@ void PlaceStatus::Follow(Workbench* workbench) {
     ShowCodePage();
     ShowZoom();
 }
+
+// ---- The message
+
+// The room from the left edge to the first of the permanent parts.
+QRect PlaceStatus::MessageRect() const {
+    constexpr int margin = 6;
+    int end = width();
+    for (const QWidget* const part :
+         {static_cast<const QWidget*>(selection_), static_cast<const QWidget*>(pointer_),
+          static_cast<const QWidget*>(codePage_)}) {
+        if (part->isVisible()) {
+            end = std::min(end, part->x());
+        }
+    }
+    return {margin, 0, std::max(end - 2 * margin, 0), height()};
+}
+
+QString PlaceStatus::ShownMessage() const {
+    return fontMetrics().elidedText(currentMessage(), Qt::ElideRight, MessageRect().width());
+}
+
+bool PlaceStatus::event(QEvent* event) {
+    if (event->type() == QEvent::ToolTip) {
+        const bool isWhole = ShownMessage() == currentMessage();
+        setToolTip(isWhole ? QString() : currentMessage());
+    }
+    return QStatusBar::event(event);
+}
+
+// The permanent parts stay in the place that they need, and the base class does not elide.
+void PlaceStatus::paintEvent(QPaintEvent* event) {
+    if (currentMessage().isEmpty()) {
+        QStatusBar::paintEvent(event);
+        return;
+    }
+    QPainter painter(this);
+    QStyleOption option;
+    option.initFrom(this);
+    style()->drawPrimitive(QStyle::PE_PanelStatusBar, &option, &painter, this);
+    painter.setPen(palette().color(QPalette::WindowText));
+    painter.drawText(MessageRect(), Qt::AlignLeading | Qt::AlignVCenter | Qt::TextSingleLine,
+                     ShownMessage());
+}
+
+// ---- The parts
 
 void PlaceStatus::ShowSelection() {
     selection_->clear();

@@ -10,7 +10,8 @@
 namespace lumenkit::lumenform {
 
 /// The status bar of the designer: the position of the mouse, the selection and its place, in
-/// twips, the zoom and the code page of the form.
+/// twips, the zoom and the code page of the form. A message that has no room beside them is shown in part,
+/// and as a whole in the tool tip.
 class PlaceStatus final : public QStatusBar {
     Q_OBJECT
 
@@ -22,7 +23,13 @@ class PlaceStatus final : public QStatusBar {
     /// Shows the state of this workbench. Null clears the status bar.
     void Follow(Workbench* workbench);
 
+ protected:
+    bool event(QEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+
  private:
+    QRect MessageRect() const;
+    QString ShownMessage() const;
     void ShowSelection();
     void ShowCodePage();
     void ShowZoom();

@@ -47,7 +47,7 @@ class Workbench final : public QSplitter {
     void Try(const std::function<void()>& action);
 
  Q_SIGNALS:
-    /// An action failed.
+    /// An action failed. The text is empty when a value was accepted.
     void Refused(const QString& why);
 
  private:
