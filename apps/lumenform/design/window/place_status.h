@@ -10,8 +10,8 @@
 namespace lumenkit::lumenform {
 
 /// The status bar of the designer: the position of the mouse, the selection and its place, in
-/// twips, the zoom and the code page of the form. A message that has no room beside them is shown in part,
-/// and as a whole in the tool tip.
+/// twips, the zoom and the code page of the form. A message that has no room beside them is shown
+/// in part, and as a whole in the tool tip.
 class PlaceStatus final : public QStatusBar {
     Q_OBJECT
 
