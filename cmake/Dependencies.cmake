@@ -25,6 +25,17 @@ endif()
 if(LUMENKIT_QT)
     lumenkit_needs(LUMENKIT_QT "qt6-base-dev (6.4 or newer)" Qt6 6.4 COMPONENTS Widgets)
 endif()
+if(LUMENKIT_QT AND LUMENKIT_APPS)
+    lumenkit_needs(LUMENKIT_QT "qt6-svg-dev (6.4 or newer)" Qt6Svg 6.4)
+    find_path(LUMENKIT_BREEZE actions/22/edit-undo.svg
+        HINTS ${CMAKE_SYSTEM_PREFIX_PATH} PATH_SUFFIXES share/icons/breeze
+        DOC "The folder of the icon theme Breeze")
+    mark_as_advanced(LUMENKIT_BREEZE)
+    if(NOT LUMENKIT_BREEZE)
+        string(APPEND missing
+            "  breeze: install breeze-icon-theme, set LUMENKIT_BREEZE to its folder, or configure with -DLUMENKIT_QT=OFF\n")
+    endif()
+endif()
 if(LUMENKIT_TESTS AND NOT WIN32)
     lumenkit_needs(LUMENKIT_TESTS "libgtest-dev and libgmock-dev" GTest)
 endif()

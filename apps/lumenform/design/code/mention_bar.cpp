@@ -4,10 +4,14 @@
 #include <QHBoxLayout>
 #include <QToolButton>
 
+#include "apps/lumenform/design/icons/icons.h"
+
 namespace lumenkit::lumenform {
 
 MentionBar::MentionBar(QWidget* parent)
-    : QFrame(parent), text_(new QLabel), code_(new QPushButton(tr("&Show in code"))) {
+    : QFrame(parent),
+      text_(new QLabel),
+      code_(new QPushButton(ThemeIcon(QStringLiteral("code-context")), tr("&Show in code"))) {
     constexpr int margin = 4;
     setFrameShape(QFrame::StyledPanel);
     setAutoFillBackground(true);
@@ -18,7 +22,7 @@ MentionBar::MentionBar(QWidget* parent)
     code_->setToolTip(tr("Open the code at the first of these procedures"));
     code_->setAutoDefault(false);
     auto* const dismiss = new QToolButton;
-    dismiss->setText(QStringLiteral("✕"));
+    dismiss->setIcon(ThemeIcon(QStringLiteral("window-close")));
     dismiss->setAutoRaise(true);
     dismiss->setFocusPolicy(Qt::TabFocus);
     dismiss->setToolTip(tr("Dismiss this message"));

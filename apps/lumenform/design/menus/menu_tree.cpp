@@ -2,9 +2,9 @@
 
 #include <QHeaderView>
 #include <QSignalBlocker>
-#include <QStyle>
 #include <algorithm>
 
+#include "apps/lumenform/design/icons/icons.h"
 #include "apps/lumenform/design/model/menu_shortcuts.h"
 #include "runtime/qt/qt_text.h"
 
@@ -51,7 +51,7 @@ void MenuTree::Show(const MenuEntries& menus, std::size_t current) {
 }
 
 void MenuTree::Refresh(const MenuEntries& menus, const std::vector<MenuProblem>& problems) {
-    const QIcon sign = style()->standardIcon(QStyle::SP_MessageBoxWarning);
+    const QIcon sign = ThemeIcon(QStringLiteral("dialog-warning"));
     for (std::size_t at = 0; at < rows_.size(); ++at) {
         QTreeWidgetItem& row = *rows_[at];
         const MenuEntry& entry = menus[at];

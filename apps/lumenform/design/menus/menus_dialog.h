@@ -43,12 +43,13 @@ class MenusDialog final : public QDialog {
 
     void LayOut();
     QVBoxLayout* Actions();
-    QPushButton* AddAction(QVBoxLayout& actions, const QString& title, const QKeySequence& keys,
-                           const std::function<void()>& run);
-    void AddMove(QVBoxLayout& actions, const QString& title, const QKeySequence& keys, Move step,
-                 CanMove isPossible);
-    void AddNew(QVBoxLayout& actions, const QString& title, const QKeySequence& keys,
-                std::size_t (*add)(MenuEntries&, std::size_t, MenuEntry), const Text& caption);
+    QPushButton* AddAction(QVBoxLayout& actions, const QString& icon, const QString& title,
+                           const QKeySequence& keys, const std::function<void()>& run);
+    void AddMove(QVBoxLayout& actions, const QString& icon, const QString& title,
+                 const QKeySequence& keys, Move step, CanMove isPossible);
+    void AddNew(QVBoxLayout& actions, const QString& icon, const QString& title,
+                const QKeySequence& keys, std::size_t (*add)(MenuEntries&, std::size_t, MenuEntry),
+                const Text& caption);
     MenuEntry NewEntry(const Text& caption) const;
     void Rebuild(std::size_t current);
     void ShowCurrent();

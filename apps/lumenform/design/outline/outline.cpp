@@ -10,6 +10,7 @@
 #include <unordered_set>
 #include <utility>
 
+#include "apps/lumenform/design/icons/icons.h"
 #include "apps/lumenform/design/model/refusal.h"
 #include "apps/lumenform/form_view/likeness/tab_pages.h"
 #include "forms/controls.h"
@@ -84,6 +85,7 @@ void Outline::LayOut() {
     constexpr int nameLetters = 18;
     search_->setPlaceholderText(tr("Search the outline"));
     search_->setAccessibleName(tr("Search the outline"));
+    search_->addAction(ThemeIcon(QStringLiteral("edit-find")), QLineEdit::LeadingPosition);
     search_->setClearButtonEnabled(true);
     search_->installEventFilter(this);
     tree_->installEventFilter(this);

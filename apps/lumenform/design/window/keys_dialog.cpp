@@ -7,6 +7,8 @@
 #include <QVBoxLayout>
 #include <vector>
 
+#include "apps/lumenform/design/icons/icons.h"
+
 namespace lumenkit::lumenform {
 
 namespace {
@@ -99,6 +101,7 @@ KeysDialog::KeysDialog(const QList<QMenu*>& menus, QWidget* parent)
 void KeysDialog::LayOut() {
     search_->setPlaceholderText(tr("Search"));
     search_->setAccessibleName(tr("Search"));
+    search_->addAction(ThemeIcon(QStringLiteral("edit-find")), QLineEdit::LeadingPosition);
     search_->setClearButtonEnabled(true);
     keys_->setAccessibleName(tr("Keys and mouse"));
     keys_->setHeaderLabels({tr("Action"), tr("Keys")});

@@ -3,6 +3,7 @@
 #include <QKeyEvent>
 #include <QVBoxLayout>
 
+#include "apps/lumenform/design/icons/icons.h"
 #include "apps/lumenform/design/model/naming.h"
 #include "apps/lumenform/design/model/new_control.h"
 #include "apps/lumenform/design/window/class_icon.h"
@@ -48,6 +49,7 @@ void Toolbox::LayOut() {
     constexpr int margin = 4;
     search_->setPlaceholderText(tr("Search the toolbox"));
     search_->setAccessibleName(tr("Search the toolbox"));
+    search_->addAction(ThemeIcon(QStringLiteral("edit-find")), QLineEdit::LeadingPosition);
     search_->setClearButtonEnabled(true);
     search_->installEventFilter(this);
     list_->setAccessibleName(tr("Toolbox"));

@@ -3,6 +3,8 @@
 #include <QActionGroup>
 #include <array>
 
+#include "apps/lumenform/design/icons/icons.h"
+
 namespace lumenkit::lumenform {
 
 namespace {
@@ -43,9 +45,9 @@ ViewMenu::ViewMenu(QSettings& settings, QWidget* parent)
     : QMenu(tr("&View"), parent),
       settings_(settings),
       grid_(Stored(settings)),
-      code_(addAction(tr("&Code"))),
-      form_(addAction(tr("&Form"))),
-      outline_(addAction(tr("&Outline"))) {
+      code_(addAction(ThemeIcon(QStringLiteral("code-context")), tr("&Code"))),
+      form_(addAction(ThemeIcon(QStringLiteral("view-form")), tr("&Form"))),
+      outline_(addAction(ThemeIcon(QStringLiteral("view-list-tree")), tr("&Outline"))) {
     code_->setShortcut(Qt::Key_F7);
     code_->setToolTip(tr("The code of the form, at the first procedure of the selected control"));
     form_->setShortcut(Qt::SHIFT | Qt::Key_F7);
@@ -58,7 +60,7 @@ ViewMenu::ViewMenu(QSettings& settings, QWidget* parent)
     outline_->setChecked(settings.value(OutlineKey(), true).toBool());
     connect(outline_, &QAction::toggled, this, &ViewMenu::ShowOutline);
     addSeparator();
-    QAction* const shown = addAction(tr("Show the &grid"));
+    QAction* const shown = addAction(ThemeIcon(QStringLiteral("view-grid")), tr("Show the &grid"));
     shown->setCheckable(true);
     shown->setChecked(grid_.isShown);
     connect(shown, &QAction::toggled, this, [this](bool on) {
@@ -66,7 +68,7 @@ ViewMenu::ViewMenu(QSettings& settings, QWidget* parent)
         grid.isShown = on;
         Change(grid);
     });
-    QAction* const snaps = addAction(tr("&Snap to the grid"));
+    QAction* const snaps = addAction(ThemeIcon(QStringLiteral("snap")), tr("&Snap to the grid"));
     snaps->setToolTip(tr("Hold Alt while dragging to ignore the grid"));
     snaps->setCheckable(true);
     snaps->setChecked(grid_.snaps);
@@ -76,7 +78,8 @@ ViewMenu::ViewMenu(QSettings& settings, QWidget* parent)
         Change(grid);
     });
     AddSteps();
-    QAction* const guides = addAction(tr("Snap to &other controls"));
+    QAction* const guides = addAction(ThemeIcon(QStringLiteral("snap-bounding-box-edges")),
+                                      tr("Snap to &other controls"));
     guides->setToolTip(
         tr("A dragged edge or baseline stops at those of the controls beside it; "
            "hold Alt to ignore them"));
@@ -90,7 +93,7 @@ ViewMenu::ViewMenu(QSettings& settings, QWidget* parent)
 }
 
 void ViewMenu::AddSteps() {
-    QMenu* const menu = addMenu(tr("Grid s&tep"));
+    QMenu* const menu = addMenu(ThemeIcon(QStringLiteral("grid-rectangular")), tr("Grid s&tep"));
     auto* const group = new QActionGroup(menu);
     for (const int step : steps) {
         QAction* const action = menu->addAction(tr("%1 twips").arg(step));
