@@ -80,7 +80,7 @@ TEST(Icons, FollowThePaletteAtRunTime) {
 
 // The drawing of this icon has only edges between pixels.
 TEST(Icons, AreSharpAtTheSizesOfTheirDrawings) {
-    const QIcon add = ThemeIcon(QStringLiteral("list-add"));
+    const QIcon add = ThemeIcon(QStringLiteral("list-remove"));
     for (const int side : {16, 22}) {
         for (const int scale : {1, 2, 3}) {
             const QImage picture = PictureOf(add, side, scale);

@@ -1,6 +1,9 @@
 #include "apps/lumenform/design/canvas/canvas.h"
 
+#include <QEvent>
 #include <algorithm>
+
+#include "apps/lumenform/design/look/focus_look.h"
 
 namespace lumenkit::lumenform {
 
@@ -11,7 +14,11 @@ Canvas::Canvas(FormDesign& design, QWidget* parent)
       desk_(new Desk),
       glass_(new Glass(design, grid_, *desk_)) {
     setWidgetResizable(true);
-    setFrameStyle(QFrame::NoFrame);
+    constexpr int frame = 2;
+    setFrameStyle(int{QFrame::Box} | int{QFrame::Plain});
+    setLineWidth(frame);
+    setForegroundRole(QPalette::Mid);
+    glass_->installEventFilter(this);
     desk_->Show(design.View());
     desk_->SetCover(*glass_);
     setWidget(desk_);
@@ -36,6 +43,23 @@ void Canvas::ConnectGlass() {
     connect(glass_, &Glass::PointerLeft, this, &Canvas::PointerLeft);
     connect(glass_, &Glass::Refused, this, &Canvas::Refused);
     connect(glass_, &Glass::Wanted, this, &Canvas::ScrollTo);
+}
+
+// The frame shows that the form has the keyboard.
+bool Canvas::event(QEvent* event) {
+    const bool isHandled = QScrollArea::event(event);
+    if (event->type() == QEvent::Paint && glass_->hasFocus()) {
+        DrawFocusFrame(*this, DeskColor(palette()));
+    }
+    return isHandled;
+}
+
+bool Canvas::eventFilter(QObject* watched, QEvent* event) {
+    if (watched == glass_ &&
+        (event->type() == QEvent::FocusIn || event->type() == QEvent::FocusOut)) {
+        update();
+    }
+    return QScrollArea::eventFilter(watched, event);
 }
 
 void Canvas::ScrollTo(const QRect& rect) {

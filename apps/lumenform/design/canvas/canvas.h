@@ -62,6 +62,10 @@ class Canvas final : public QScrollArea {
     /// An action failed and had no effect.
     void Refused(const QString& why);
 
+ protected:
+    bool event(QEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
  private:
     void FollowView();
     void ScrollTo(const QRect& rect);

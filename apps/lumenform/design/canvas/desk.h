@@ -7,6 +7,9 @@
 
 namespace lumenkit::lumenform {
 
+/// The colour of the desk, a shade of the window's.
+QColor DeskColor(const QPalette& palette);
+
 /// The neutral background of a form in the designer. Draws the title bar and border of the form.
 class Desk final : public QWidget {
  public:

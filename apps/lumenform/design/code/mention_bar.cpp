@@ -9,14 +9,10 @@
 namespace lumenkit::lumenform {
 
 MentionBar::MentionBar(QWidget* parent)
-    : QFrame(parent),
+    : Bar(parent),
       text_(new QLabel),
       code_(new QPushButton(ThemeIcon(QStringLiteral("code-context")), tr("&Show in code"))) {
     constexpr int margin = 4;
-    setFrameShape(QFrame::StyledPanel);
-    setAutoFillBackground(true);
-    setBackgroundRole(QPalette::ToolTipBase);
-    text_->setForegroundRole(QPalette::ToolTipText);
     text_->setTextFormat(Qt::PlainText);
     text_->setWordWrap(true);
     code_->setToolTip(tr("Open the code at the first of these procedures"));

@@ -25,11 +25,10 @@ double Contrast(const QColor& one, const QColor& other) {
 }
 
 QColor Blend(const QColor& from, const QColor& to, double share) {
-    const auto mix = [share](float one, float other) {
-        return static_cast<float>(one + (other - one) * share);
+    const auto mix = [share](int one, int other) {
+        return static_cast<int>(std::lround(one + (other - one) * share));
     };
-    return QColor::fromRgbF(mix(from.redF(), to.redF()), mix(from.greenF(), to.greenF()),
-                            mix(from.blueF(), to.blueF()));
+    return {mix(from.red(), to.red()), mix(from.green(), to.green()), mix(from.blue(), to.blue())};
 }
 
 QColor Legible(const QColor& color, const QColor& ground, double least) {
@@ -41,6 +40,24 @@ QColor Legible(const QColor& color, const QColor& ground, double least) {
         found = Blend(color, end, static_cast<double>(step) / steps);
     }
     return found;
+}
+
+QColor DimmedText(const QPalette& palette) {
+    constexpr int mostPercent = 40;
+    constexpr int step = 5;
+    const QColor text = palette.color(QPalette::Active, QPalette::Text);
+    const QColor base = palette.color(QPalette::Active, QPalette::Base);
+    for (int percent = mostPercent; percent > 0; percent -= step) {
+        if (const QColor dimmed = Blend(text, base, percent / 100.0);
+            Contrast(dimmed, base) >= textContrast) {
+            return dimmed;
+        }
+    }
+    return text;
+}
+
+QColor MarkOn(const QColor& ground, const QPalette& palette) {
+    return Legible(palette.color(QPalette::Active, QPalette::Highlight), ground, signContrast);
 }
 
 }  // namespace lumenkit::lumenform

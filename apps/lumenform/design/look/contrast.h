@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QColor>
+#include <QPalette>
 
 namespace lumenkit::lumenform {
 
@@ -16,5 +17,13 @@ QColor Legible(const QColor& color, const QColor& ground, double least = textCon
 
 /// Returns the colour between two colours. A share of 0 is the first and 1 the second.
 QColor Blend(const QColor& from, const QColor& to, double share);
+
+/// Returns the palette's text colour, nearer to its background but with a contrast to it of at
+/// least 4.5, if the text itself has as much.
+QColor DimmedText(const QPalette& palette);
+
+/// Returns the colour of a mark such as a frame or a line on this ground: the palette's highlight,
+/// as far as it can be seen there.
+QColor MarkOn(const QColor& ground, const QPalette& palette);
 
 }  // namespace lumenkit::lumenform

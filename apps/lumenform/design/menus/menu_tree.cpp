@@ -22,12 +22,12 @@ MenuTree::MenuTree(QWidget* parent) : QTreeWidget(parent) {
     setIndentation(3 * letter);
     header()->setStretchLastSection(false);
     header()->setSectionResizeMode(Caption, QHeaderView::Stretch);
+    constexpr int captionLetters = 16;
     constexpr int nameLetters = 22;
     constexpr int shortcutLetters = 20;
     header()->resizeSection(Name, nameLetters * letter);
     header()->resizeSection(Shortcut, shortcutLetters * letter);
-    constexpr int captionLetters = 22;
-    setMinimumWidth((captionLetters + nameLetters + shortcutLetters) * letter);
+    header()->setMinimumSectionSize(captionLetters * letter);
     connect(this, &QTreeWidget::currentItemChanged, this, &MenuTree::Chosen);
 }
 

@@ -1,11 +1,13 @@
 #include "apps/lumenform/design/menus/menus_dialog.h"
 
 #include <QHBoxLayout>
+#include <QScrollArea>
 #include <QShortcut>
 #include <algorithm>
 #include <utility>
 
 #include "apps/lumenform/design/icons/icons.h"
+#include "apps/lumenform/design/look/fitting.h"
 #include "apps/lumenform/design/menus/apply_menus.h"
 #include "apps/lumenform/design/menus/menu_moves.h"
 #include "apps/lumenform/design/model/naming.h"
@@ -64,14 +66,24 @@ void MenusDialog::LayOut() {
     auto* const upper = new QHBoxLayout;
     upper->addWidget(tree_, 3);
     upper->addLayout(Actions());
-    upper->addWidget(fields_, 2);
+    upper->addWidget(ScrolledFields(), 2);
     auto* const layout = new QVBoxLayout(this);
     layout->addLayout(upper, 1);
     layout->addWidget(notice_);
     layout->addWidget(buttons_);
     constexpr int columns = 140;
     constexpr int lines = 26;
-    resize(fontMetrics().averageCharWidth() * columns, fontMetrics().height() * lines);
+    ResizeWithin(*this,
+                 {fontMetrics().averageCharWidth() * columns, fontMetrics().height() * lines});
+}
+
+QScrollArea* MenusDialog::ScrolledFields() {
+    auto* const scrolled = new QScrollArea(this);
+    scrolled->setFrameShape(QFrame::NoFrame);
+    scrolled->setWidget(fields_);
+    scrolled->setWidgetResizable(true);
+    scrolled->setFocusPolicy(Qt::NoFocus);
+    return scrolled;
 }
 
 QPushButton* MenusDialog::AddAction(QVBoxLayout& actions, const QString& icon, const QString& title,

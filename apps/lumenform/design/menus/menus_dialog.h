@@ -14,6 +14,8 @@
 #include "apps/lumenform/design/model/menu_rules.h"
 #include "apps/lumenform/design/properties/notice.h"
 
+class QScrollArea;
+
 namespace lumenkit::lumenform {
 
 /// A dialog for all menus of a form. OK gives them to the form in one step of the history. While a
@@ -42,6 +44,7 @@ class MenusDialog final : public QDialog {
     };
 
     void LayOut();
+    QScrollArea* ScrolledFields();
     QVBoxLayout* Actions();
     QPushButton* AddAction(QVBoxLayout& actions, const QString& icon, const QString& title,
                            const QKeySequence& keys, const std::function<void()>& run);

@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "apps/lumenform/design/icons/icons.h"
+#include "apps/lumenform/design/look/contrast.h"
 #include "apps/lumenform/design/model/containers.h"
 #include "apps/lumenform/design/model/naming.h"
 #include "apps/lumenform/form_view/likeness/tab_pages.h"
@@ -214,7 +215,7 @@ QVariant OutlineModel::ClassData(const OutlineNode& node, int role) const {
         case Qt::DisplayRole:
             return ClassOf(node);
         case Qt::ForegroundRole:
-            return palette_.brush(QPalette::PlaceholderText);
+            return DimmedText(palette_);
         case Qt::DecorationRole:
             return node.isOutOfView ? QVariant(ThemeIcon(QStringLiteral("dialog-warning")))
                                     : QVariant();

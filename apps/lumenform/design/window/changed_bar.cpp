@@ -6,12 +6,9 @@
 
 namespace lumenkit::lumenform {
 
-ChangedBar::ChangedBar(QWidget* parent) : QFrame(parent), text_(new QLabel) {
-    setFrameShape(QFrame::StyledPanel);
-    setAutoFillBackground(true);
-    setBackgroundRole(QPalette::ToolTipBase);
-    text_->setForegroundRole(QPalette::ToolTipText);
+ChangedBar::ChangedBar(QWidget* parent) : Bar(parent), text_(new QLabel) {
     auto* const row = new QHBoxLayout(this);
+    text_->setWordWrap(true);
     row->addWidget(text_, 1);
     const auto add = [&](const QString& icon, const QString& title, const QString& help,
                          void (ChangedBar::*wanted)()) {

@@ -21,6 +21,7 @@
 #include "apps/lumenform/design/window/form_picture.h"
 #include "apps/lumenform/design/window/help_menu.h"
 #include "apps/lumenform/design/window/keys_dialog.h"
+#include "apps/lumenform/design/window/menu_keys.h"
 #include "apps/lumenform/design/window/opened_message.h"
 #include "forms/file.h"
 #include "forms/form_error.h"
@@ -91,6 +92,7 @@ DesignWindow::DesignWindow(const Setup& setup)
         MenuStyle::UseFor(*action->menu());
     }
     setWindowIcon(ProgramIcon());
+    AddMenuKeys(*this, *menuBar());
     ShowRecent();
     Follow();
     constexpr QSize usual(1240, 780);
@@ -132,6 +134,11 @@ void DesignWindow::ConnectFiles() {
     connect(files_, &FileMenu::SaveAsWanted, this, [this] { Current()->SaveAs(); });
     connect(files_, &FileMenu::CloseWanted, this, [this] { Close(tabs_->currentIndex()); });
     connect(files_, &FileMenu::QuitWanted, this, &QWidget::close);
+    connect(view_, &ViewMenu::PartWanted, this, [this](bool next) {
+        if (Current() != nullptr) {
+            Current()->MoveFocus(next);
+        }
+    });
     connect(view_, &ViewMenu::CodeWanted, this, [this] { Current()->ShowCode(); });
     connect(view_, &ViewMenu::FormWanted, this, [this] { Current()->ShowForm(); });
 }

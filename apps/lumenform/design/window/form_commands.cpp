@@ -75,10 +75,12 @@ QAction* FormCommands::Add(QMenu& menu, const QString& icon, const QString& titl
 }
 
 void FormCommands::FillEdit() {
-    undo_ = history_.createUndoAction(this);
+    undo_ = history_.createUndoAction(this, tr("&Undo"));
+    undo_->setIconText(tr("Undo"));
     undo_->setIcon(ThemeIcon(QStringLiteral("edit-undo")));
     undo_->setShortcut(QKeySequence::Undo);
-    redo_ = history_.createRedoAction(this);
+    redo_ = history_.createRedoAction(this, tr("&Redo"));
+    redo_->setIconText(tr("Redo"));
     redo_->setIcon(ThemeIcon(QStringLiteral("edit-redo")));
     redo_->setShortcuts({QKeySequence(QKeySequence::Redo), QKeySequence(Qt::CTRL | Qt::Key_Y)});
     FinishEditingBefore(*undo_, &QUndoGroup::undo);

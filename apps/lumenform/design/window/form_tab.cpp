@@ -1,7 +1,9 @@
 #include "apps/lumenform/design/window/form_tab.h"
 
+#include <QApplication>
 #include <QFileInfo>
 #include <QVBoxLayout>
+#include <algorithm>
 
 #include "apps/lumenform/design/code/mention_message.h"
 #include "apps/lumenform/design/window/difference_dialog.h"
@@ -285,6 +287,38 @@ void FormTab::Compare() {
     } catch (const forms::FormError& error) {
         Warn(*this, tr("%1 cannot be opened.").arg(Name()), QString::fromUtf8(error.what()));
     }
+}
+
+QList<QWidget*> FormTab::Parts() const {
+    QList<QWidget*> parts{bar_};
+    if (ShowsCode()) {
+        parts += {&code_->Procedures(), &code_->Code()};
+    } else {
+        parts += {&bench_->GetToolbox(), &bench_->GetCanvas(), &bench_->GetOutline(),
+                  &bench_->Properties()};
+    }
+    parts.append(mentions_);
+    parts.removeIf([](const QWidget* part) { return !part->isVisible(); });
+    return parts;
+}
+
+void FormTab::MoveFocus(bool next) {
+    const QList<QWidget*> parts = Parts();
+    const QWidget* const focus = QApplication::focusWidget();
+    const auto here = std::ranges::find_if(parts, [focus](const QWidget* part) {
+        return part == focus || (focus != nullptr && part->isAncestorOf(focus));
+    });
+    const qsizetype count = parts.size();
+    const qsizetype at = here == parts.end() ? (next ? -1 : 0) : here - parts.begin();
+    QWidget& part = *parts[(at + (next ? 1 : count - 1)) % count];
+    QWidget* stop = &part;
+    if (part.focusPolicy() == Qt::NoFocus && part.focusProxy() == nullptr) {
+        stop = part.nextInFocusChain();
+        while (stop != &part && (stop->focusPolicy() == Qt::NoFocus || !stop->isVisible())) {
+            stop = stop->nextInFocusChain();
+        }
+    }
+    stop->setFocus(Qt::TabFocusReason);
 }
 
 void FormTab::TakeFocus() {

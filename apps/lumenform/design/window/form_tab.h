@@ -71,6 +71,9 @@ class FormTab final : public QWidget {
     MentionBar& Mentions() const { return *mentions_; }
     /// Moves the keyboard to the form or its code.
     void TakeFocus();
+    /// Moves the keyboard to the next or former part: a bar, or a part of the form's or the code's
+    /// page.
+    void MoveFocus(bool next);
     /// Keeps a copy of unsaved work now, and not only after a moment.
     void KeepCopy();
     /// Asks what to do if another program has changed the file: shows a line above the form.
@@ -92,6 +95,7 @@ class FormTab final : public QWidget {
     void Reload();
     void KeepMine();
     bool IsFileInDoubt() const;
+    QList<QWidget*> Parts() const;
     void Compare();
     void FollowChanges();
     void BeginRun();

@@ -35,6 +35,7 @@ void PlaceStatus::Follow(Workbench* workbench) {
         });
         connect(&workbench->GetCanvas(), &Canvas::PointerLeft, pointer_, &QLabel::clear);
     }
+    codePage_->setVisible(workbench != nullptr);
     ShowSelection();
     ShowCodePage();
 }

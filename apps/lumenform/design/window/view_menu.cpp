@@ -54,11 +54,19 @@ ViewMenu::ViewMenu(QSettings& settings, QWidget* parent)
     connect(code_, &QAction::triggered, this, &ViewMenu::CodeWanted);
     connect(form_, &QAction::triggered, this, &ViewMenu::FormWanted);
     insertSeparator(outline_);
-    SetPage(Page::None);
     outline_->setToolTip(tr("The tree of the form's objects"));
     outline_->setCheckable(true);
     outline_->setChecked(settings.value(OutlineKey(), true).toBool());
     connect(outline_, &QAction::toggled, this, &ViewMenu::ShowOutline);
+    addSeparator();
+    nextPart_ = addAction(ThemeIcon(QStringLiteral("go-next")), tr("&Next part of the window"),
+                          this, [this] { Q_EMIT PartWanted(true); });
+    nextPart_->setShortcut(Qt::Key_F6);
+    formerPart_ =
+        addAction(ThemeIcon(QStringLiteral("go-previous")), tr("&Previous part of the window"),
+                  this, [this] { Q_EMIT PartWanted(false); });
+    formerPart_->setShortcut(Qt::SHIFT | Qt::Key_F6);
+    SetPage(Page::None);
     addSeparator();
     QAction* const shown = addAction(ThemeIcon(QStringLiteral("view-grid")), tr("Show the &grid"));
     shown->setCheckable(true);
@@ -119,6 +127,8 @@ void ViewMenu::Follow(Workbench* workbench) {
 void ViewMenu::SetPage(Page page) {
     code_->setEnabled(page == Page::Form);
     form_->setEnabled(page == Page::Code);
+    nextPart_->setEnabled(page != Page::None);
+    formerPart_->setEnabled(page != Page::None);
 }
 
 void ViewMenu::ShowOutline(bool on) {

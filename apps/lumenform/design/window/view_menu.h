@@ -27,6 +27,8 @@ class ViewMenu final : public QMenu {
  Q_SIGNALS:
     void CodeWanted();
     void FormWanted();
+    /// Requests to move the keyboard to the next or former part of the window.
+    void PartWanted(bool next);
 
  private:
     void AddSteps();
@@ -38,6 +40,8 @@ class ViewMenu final : public QMenu {
     QAction* code_;
     QAction* form_;
     QAction* outline_;
+    QAction* nextPart_ = nullptr;
+    QAction* formerPart_ = nullptr;
     Workbench* workbench_ = nullptr;
 };
 

@@ -6,6 +6,7 @@
 #include <algorithm>
 
 #include "apps/lumenform/design/icons/icons.h"
+#include "apps/lumenform/design/look/fitting.h"
 #include "apps/lumenform/design/properties/encoding_offer.h"
 #include "apps/lumenform/design/properties/writable_text.h"
 #include "runtime/qt/qt_text.h"
@@ -60,7 +61,8 @@ void ContentsDialog::LayOut() {
     layout->addWidget(buttons_);
     constexpr int columns = 90;
     constexpr int lines = 20;
-    resize(fontMetrics().averageCharWidth() * columns, fontMetrics().height() * lines);
+    ResizeWithin(*this,
+                 {fontMetrics().averageCharWidth() * columns, fontMetrics().height() * lines});
 }
 
 QPushButton* ContentsDialog::AddAction(QVBoxLayout& actions, const QString& icon,

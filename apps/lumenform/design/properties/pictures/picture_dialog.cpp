@@ -58,6 +58,7 @@ void PictureDialog::LayOut() {
     preview_->setAccessibleName(tr("Picture"));
     auto* const scrolled = new QScrollArea(this);
     scrolled->setWidget(preview_);
+    scrolled->setAccessibleName(tr("Picture"));
     scrolled->setWidgetResizable(true);
     scrolled->setMinimumSize(fontMetrics().averageCharWidth() * 36, fontMetrics().height() * 9);
     auto* const actions = new QVBoxLayout;
