@@ -104,7 +104,6 @@ void Outline::LayOut() {
     layout->setSpacing(margin);
     layout->addWidget(search_);
     layout->addWidget(tree_);
-    setFocusProxy(tree_);
 }
 
 void Outline::ConnectParts() {

@@ -8,7 +8,6 @@
 #include <QLocale>
 #include <QMenuBar>
 #include <QMimeData>
-#include <QScreen>
 #include <QUrl>
 #include <memory>
 #include <utility>
@@ -16,6 +15,7 @@
 
 #include "apps/lumenform/design/icons/icons.h"
 #include "apps/lumenform/design/icons/menu_style.h"
+#include "apps/lumenform/design/look/fitting.h"
 #include "apps/lumenform/design/model/new_form.h"
 #include "apps/lumenform/design/window/form_dialogs.h"
 #include "apps/lumenform/design/window/form_picture.h"
@@ -96,7 +96,7 @@ DesignWindow::DesignWindow(const Setup& setup)
     ShowRecent();
     Follow();
     constexpr QSize usual(1240, 780);
-    resize(usual.boundedTo(screen()->availableSize()));
+    ResizeWithin(*this, usual);
     restoreGeometry(setup.settings.value(GeometryKey()).toByteArray());
 }
 

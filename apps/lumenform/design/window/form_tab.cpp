@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QFileInfo>
+#include <QPushButton>
 #include <QVBoxLayout>
 #include <algorithm>
 
@@ -289,36 +290,42 @@ void FormTab::Compare() {
     }
 }
 
-QList<QWidget*> FormTab::Parts() const {
-    QList<QWidget*> parts{bar_};
+// Areas have no focus proxies: Tab would not reach the other widgets in them.
+std::vector<FormTab::Part> FormTab::Parts() const {
+    std::vector<Part> parts;
+    const auto addBar = [&](QWidget& bar) {
+        for (QPushButton* const button : bar.findChildren<QPushButton*>()) {
+            if (button->isVisible()) {
+                parts.push_back({&bar, button});
+                return;
+            }
+        }
+    };
+    addBar(*bar_);
     if (ShowsCode()) {
-        parts += {&code_->Procedures(), &code_->Code()};
+        parts.push_back({&code_->Procedures(), &code_->Procedures()});
+        parts.push_back({code_->Code().parentWidget(), &code_->Code()});
     } else {
-        parts += {&bench_->GetToolbox(), &bench_->GetCanvas(), &bench_->GetOutline(),
-                  &bench_->Properties()};
+        parts.push_back({&bench_->GetToolbox(), &bench_->GetToolbox().List()});
+        parts.push_back({&bench_->GetCanvas(), &bench_->GetCanvas().GetGlass()});
+        if (bench_->GetOutline().isVisible()) {
+            parts.push_back({&bench_->GetOutline(), &bench_->GetOutline().Tree()});
+        }
+        parts.push_back({&bench_->Properties(), &bench_->Properties().Table()});
     }
-    parts.append(mentions_);
-    parts.removeIf([](const QWidget* part) { return !part->isVisible(); });
+    addBar(*mentions_);
     return parts;
 }
 
 void FormTab::MoveFocus(bool next) {
-    const QList<QWidget*> parts = Parts();
+    const std::vector<Part> parts = Parts();
     const QWidget* const focus = QApplication::focusWidget();
-    const auto here = std::ranges::find_if(parts, [focus](const QWidget* part) {
-        return part == focus || (focus != nullptr && part->isAncestorOf(focus));
+    const auto here = std::ranges::find_if(parts, [focus](const Part& part) {
+        return part.area == focus || (focus != nullptr && part.area->isAncestorOf(focus));
     });
-    const qsizetype count = parts.size();
-    const qsizetype at = here == parts.end() ? (next ? -1 : 0) : here - parts.begin();
-    QWidget& part = *parts[(at + (next ? 1 : count - 1)) % count];
-    QWidget* stop = &part;
-    if (part.focusPolicy() == Qt::NoFocus && part.focusProxy() == nullptr) {
-        stop = part.nextInFocusChain();
-        while (stop != &part && (stop->focusPolicy() == Qt::NoFocus || !stop->isVisible())) {
-            stop = stop->nextInFocusChain();
-        }
-    }
-    stop->setFocus(Qt::TabFocusReason);
+    const std::size_t at = here == parts.end() ? 0 : static_cast<std::size_t>(here - parts.begin());
+    const std::size_t step = next ? 1 : parts.size() - 1;
+    parts[(at + step) % parts.size()].stop->setFocus(Qt::TabFocusReason);
 }
 
 void FormTab::TakeFocus() {

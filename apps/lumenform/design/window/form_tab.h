@@ -95,7 +95,12 @@ class FormTab final : public QWidget {
     void Reload();
     void KeepMine();
     bool IsFileInDoubt() const;
-    QList<QWidget*> Parts() const;
+    // A part of the page, and the widget in it that takes the keyboard first.
+    struct Part {
+        QWidget* area;
+        QWidget* stop;
+    };
+    std::vector<Part> Parts() const;
     void Compare();
     void FollowChanges();
     void BeginRun();

@@ -16,6 +16,7 @@ PlaceStatus::PlaceStatus(QMenu& encodings, QWidget* parent)
     addPermanentWidget(selection_);
     addPermanentWidget(pointer_);
     addPermanentWidget(codePage_);
+    codePage_->hide();
     pointer_->setMinimumWidth(fontMetrics().horizontalAdvance(tr("%1, %2").arg(99999).arg(99999)));
 }
 

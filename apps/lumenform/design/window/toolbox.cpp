@@ -67,7 +67,6 @@ void Toolbox::LayOut() {
     layout->setSpacing(margin);
     layout->addWidget(search_);
     layout->addWidget(list_);
-    setFocusProxy(list_);
 }
 
 // ---- Rows
