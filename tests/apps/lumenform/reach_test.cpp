@@ -67,22 +67,31 @@ std::vector<std::string> Nameless(const QWidget& window, const QWidget* form) {
     return nameless;
 }
 
-// Returns the inputs that neither Tab nor F6 reaches.
+// Returns the inputs that neither Tab, Shift+Tab nor F6 reaches.
 std::vector<std::string> Unreached(QWidget& window, const QWidget* form) {
     std::set<const QWidget*> reached;
-    const auto walk = [&] {
-        for (int step = 0; step < 200; ++step) {
+    const auto walk = [&](Qt::Key key) {
+        constexpr int most = 200;
+        for (int step = 0; step < most; ++step) {
             QWidget* const focus = window.focusWidget();
-            if (focus == nullptr || !reached.insert(focus).second) {
+            if (focus == nullptr || (!reached.insert(focus).second && step > 0)) {
                 return;
             }
-            QTest::keyClick(focus, Qt::Key_Tab);
+            QTest::keyClick(focus, key);
         }
     };
-    walk();
-    for (int part = 0; part < 8; ++part) {
+    constexpr int parts = 8;
+    for (int part = 0; part < parts; ++part) {
+        QWidget* const start = window.focusWidget();
+        walk(Qt::Key_Tab);
+        if (start != nullptr) {
+            start->setFocus();
+        }
+        walk(Qt::Key_Backtab);
+        if (start != nullptr) {
+            start->setFocus();
+        }
         QTest::keyClick(&window, Qt::Key_F6);
-        walk();
     }
     std::vector<std::string> unreached;
     for (QWidget* const widget : window.findChildren<QWidget*>()) {

@@ -3,6 +3,7 @@
 #include <QHBoxLayout>
 #include <QScrollArea>
 #include <QShortcut>
+#include <QStyle>
 #include <algorithm>
 #include <utility>
 
@@ -83,6 +84,9 @@ QScrollArea* MenusDialog::ScrolledFields() {
     scrolled->setWidget(fields_);
     scrolled->setWidgetResizable(true);
     scrolled->setFocusPolicy(Qt::NoFocus);
+    scrolled->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    scrolled->setMinimumWidth(fields_->minimumSizeHint().width() +
+                              style()->pixelMetric(QStyle::PM_ScrollBarExtent));
     return scrolled;
 }
 

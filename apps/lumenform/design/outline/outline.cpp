@@ -82,7 +82,7 @@ Outline::~Outline() {
 void Outline::LayOut() {
     constexpr int margin = 4;
     constexpr int classLetters = 18;
-    constexpr int nameLetters = 18;
+    constexpr int nameLetters = 8;
     search_->setPlaceholderText(tr("Search the outline"));
     search_->setAccessibleName(tr("Search the outline"));
     search_->addAction(ThemeIcon(QStringLiteral("edit-find")), QLineEdit::LeadingPosition);

@@ -7,6 +7,8 @@
 #include <QPushButton>
 #include <algorithm>
 
+#include "apps/lumenform/design/look/fitting.h"
+
 namespace lumenkit::lumenform {
 
 namespace {
@@ -31,12 +33,20 @@ bool AskWhetherToReplace(QWidget& window, const QString& path) {
     return box.clickedButton() == replace;
 }
 
+// Qt's own dialog may be larger than a small screen.
+QStringList Chosen(QFileDialog& dialog) {
+    ResizeWithin(dialog, dialog.sizeHint());
+    return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles() : QStringList();
+}
+
 }  // namespace
 
 QStringList AskForFormsToOpen(QWidget& window, const QString& folder) {
-    return QFileDialog::getOpenFileNames(
+    QFileDialog dialog(
         &window, Translated("Open forms"), folder,
         Translated("Forms (*.frm *.ctl *.pag *.dob *.FRM *.CTL *.PAG *.DOB);;All files (*)"));
+    dialog.setFileMode(QFileDialog::ExistingFiles);
+    return Chosen(dialog);
 }
 
 QString AskForPlaceToSave(QWidget& window, const QString& proposed) {
@@ -48,8 +58,13 @@ QString AskForPlaceToSave(QWidget& window, const QString& proposed) {
     const qsizetype own = std::max<qsizetype>(Extensions().indexOf(extension.toLower()), 0);
     filters.move(own, 0);
     filters.append(Translated("All files (*)"));
-    QString path = QFileDialog::getSaveFileName(&window, Translated("Save the form"), proposed,
-                                                filters.join(QStringLiteral(";;")));
+    const QFileInfo place(proposed);
+    const QString folder = place.isAbsolute() ? place.path() : QString();
+    QFileDialog dialog(&window, Translated("Save the form"), folder,
+                       filters.join(QStringLiteral(";;")));
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.selectFile(place.fileName());
+    QString path = Chosen(dialog).value(0);
     // Forms whose names have no other extension would share a companion.
     if (!path.isEmpty() && !Extensions().contains(QFileInfo(path).suffix().toLower())) {
         extension = extension.isEmpty() ? QStringLiteral("frm") : extension;

@@ -138,7 +138,6 @@ KeysDialog::KeysDialog(const QList<QMenu*>& menus, QWidget* parent)
     }
     AddHints();
     keys_->expandAll();
-    keys_->resizeColumnToContents(0);
     connect(search_, &QLineEdit::textChanged, this, &KeysDialog::SearchFor);
 }
 
@@ -150,6 +149,9 @@ void KeysDialog::LayOut() {
     keys_->setAccessibleName(tr("Keys and mouse"));
     keys_->setHeaderLabels({tr("Action"), tr("Keys")});
     keys_->setRootIsDecorated(false);
+    keys_->header()->setStretchLastSection(false);
+    keys_->header()->setSectionResizeMode(0, QHeaderView::Stretch);
+    keys_->header()->setSectionResizeMode(1, QHeaderView::ResizeToContents);
     keys_->setAlternatingRowColors(true);
     auto* const buttons = new QDialogButtonBox(QDialogButtonBox::Close, this);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
