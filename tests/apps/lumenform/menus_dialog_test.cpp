@@ -70,6 +70,8 @@ class MenusDialog : public ::testing::Test {
     }
     void OpenAgain() {
         dialog = std::make_unique<lumenform::MenusDialog>(form->design, &form->window);
+        constexpr QSize roomForAll(900, 600);  // on a small screen, too
+        dialog->resize(roomForAll);
         ShowActive(*dialog);
     }
 
