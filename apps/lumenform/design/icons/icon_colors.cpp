@@ -30,7 +30,7 @@ QColor ColorOf(const QString& role, const QPalette& palette, QIcon::Mode mode) {
 
 }  // namespace
 
-QByteArray Recoloured(QByteArray drawing, const QPalette& palette, QIcon::Mode mode) {
+QByteArray Recoloured(const QByteArray& drawing, const QPalette& palette, QIcon::Mode mode) {
     static const QRegularExpression colour(
         QStringLiteral(R"(\.ColorScheme-(\w+)\s*\{\s*color\s*:\s*(#[0-9a-fA-F]+))"));
     QString text = QString::fromUtf8(drawing);

@@ -9,7 +9,7 @@ namespace lumenkit::lumenform {
 namespace {
 
 QIcon HighlightedIcon(const QIcon& icon, int side, double scale) {
-    return QIcon(icon.pixmap({side, side}, scale, QIcon::Selected));
+    return icon.pixmap({side, side}, scale, QIcon::Selected);
 }
 
 }  // namespace
