@@ -27,6 +27,15 @@ if(LUMENKIT_QT)
 endif()
 if(LUMENKIT_QT AND LUMENKIT_APPS AND Qt6_FOUND)
     lumenkit_needs(LUMENKIT_QT "qt6-tools-dev and qt6-l10n-tools" Qt6LinguistTools)
+    lumenkit_needs(LUMENKIT_QT "qt6-svg-dev (6.4 or newer)" Qt6Svg 6.4)
+    find_path(LUMENKIT_BREEZE actions/22/edit-undo.svg
+        HINTS ${CMAKE_SYSTEM_PREFIX_PATH} PATH_SUFFIXES share/icons/breeze
+        DOC "The folder of the icon theme Breeze")
+    mark_as_advanced(LUMENKIT_BREEZE)
+    if(NOT LUMENKIT_BREEZE)
+        string(APPEND missing
+            "  breeze: install breeze-icon-theme, set LUMENKIT_BREEZE to its folder, or configure with -DLUMENKIT_QT=OFF\n")
+    endif()
 endif()
 if(LUMENKIT_TESTS AND NOT WIN32)
     lumenkit_needs(LUMENKIT_TESTS "libgtest-dev and libgmock-dev" GTest)

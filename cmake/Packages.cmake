@@ -24,25 +24,25 @@ set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
 set(CPACK_PRE_BUILD_SCRIPTS "${PROJECT_SOURCE_DIR}/cmake/CompressManual.cmake")
 
-# debian_package(COMPONENT PACKAGE section "summary" "description")
-macro(debian_package component package section summary description)
+# debian_package(COMPONENT PACKAGE section copyright "summary" "description")
+macro(debian_package component package section copyright summary description)
     string(TOUPPER "${component}" upper)
     list(APPEND CPACK_COMPONENTS_ALL ${component})
     set(CPACK_DEBIAN_${upper}_PACKAGE_NAME ${package})
     set(CPACK_DEBIAN_${upper}_PACKAGE_SECTION ${section})
     set(CPACK_COMPONENT_${upper}_DESCRIPTION "${summary}\n${description}")
-    install(FILES LICENSE RENAME copyright COMPONENT ${component}
+    install(FILES ${copyright} RENAME copyright COMPONENT ${component}
         DESTINATION "${CMAKE_INSTALL_DATAROOTDIR}/doc/${package}")
 endmacro()
 
 set(CPACK_COMPONENTS_ALL)
 if(TARGET lumenkit)
-    debian_package(lumenkit lumenkit utils
+    debian_package(lumenkit lumenkit utils LICENSE
         "command line for captions and forms of lumenkit's controls"
         "Compiles and checks captions, checks whole forms, and drives the controls without a screen.")
 endif()
 if(TARGET lumenform)
-    debian_package(lumenform lumenform devel
+    debian_package(lumenform lumenform devel packaging/linux/copyright
         "designs, runs and draws form files with lumenkit's controls"
         "A designer for form files (.frm, .ctl, .pag, .dob) that runs them with their controls and draws them into pictures.")
     # Substitutes for the fonts that forms name, such as Arial; Qt's own texts in other languages; and
@@ -50,7 +50,7 @@ if(TARGET lumenform)
     set(CPACK_DEBIAN_LUMENFORM_PACKAGE_RECOMMENDS
         "fonts-liberation2, qt6-translations-l10n, qt6-wayland")
 endif()
-debian_package(development liblumenkit-dev libdevel
+debian_package(development liblumenkit-dev libdevel LICENSE
     "lumenkit's controls without a screen, for programs in C++"
     "The library of the controls, the windowless runtime and form files, with its headers.")
 include(CPack)

@@ -39,11 +39,26 @@ class LoadingBag final : public host::PropertyBag {
     forms::FormBag bag_;
 };
 
+// Returns the colour behind the text of the control. Captions have one of their own, memos that of
+// windows, and option lists that of their container.
+Color GroundOf(const BlockReader& reader, const Surroundings& around) {
+    const auto is = [&](TextView name) {
+        return SameText(reader.Block().ClassName(), name, Compare::IgnoreCase);
+    };
+    if (is(u"lumenkit.VLabel") && reader.Whole(u"BackStyle", 0) == 0) {
+        return reader.ColorOf(u"BackColor", Color::WindowBackground);
+    }
+    return is(u"lumenkit.VMemo") ? Color::WindowBackground : around.backColor;
+}
+
 }  // namespace
 
 LibraryControl::LibraryControl(const Stage& stage, const Surroundings& around, forms::Block& block,
                                const ClassDescriptor& type)
-    : LiveControl(stage, around, block), stage_(stage), site_(stage.mode, around, type.eventTable) {
+    : LiveControl(stage, around, block),
+      stage_(stage),
+      ground_(GroundOf(Reader(), around)),
+      site_(stage.mode, around, type.eventTable) {
     if (const EventTable* table = type.eventTable) {
         site_.GetContainer().onEvent = [this, table](TextView event, std::span<Value> arguments) {
             Raise(*table, event, arguments);
@@ -94,7 +109,7 @@ void LibraryControl::Raise(const EventTable& table, TextView event, std::span<Va
 
 // The control has its own colours. Those that it takes from the palette are not the container's.
 void LibraryControl::PaletteChanged() {
-    ApplyColors(*widget_, {}, {});
+    ApplyColors(*widget_, {}, {}, ground_);
 }
 
 void LibraryControl::Save() {

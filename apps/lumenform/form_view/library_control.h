@@ -34,6 +34,7 @@ class LibraryControl final : public LiveControl {
     void Raise(const EventTable& table, TextView event, std::span<Value> arguments);
 
     const Stage& stage_;
+    const Color ground_;
     FormSite site_;
     QPointer<qt::HostedControl> widget_;
     std::optional<Surroundings> inside_;

@@ -18,8 +18,15 @@ struct WidgetColors {
     friend bool operator==(WidgetColors, WidgetColors) = default;
 };
 
-/// Sets the colours of the widget for the present palette of the application.
-void ApplyColors(QWidget& widget, WidgetColors colors, WidgetColors usual);
+/// Whether a text in one colour can be read on the other.
+bool IsReadable(const QColor& text, const QColor& back);
+/// Black or white.
+QColor ReadableOn(const QColor& back);
+
+/// Sets the colours of the widget for the present palette of the application. `ground` is the
+/// colour behind its text. A system colour that is unreadable on a ground of the form's own, such
+/// as white text of a dark desktop on a light form, is replaced.
+void ApplyColors(QWidget& widget, WidgetColors colors, WidgetColors usual, Color ground);
 
 void ApplyFont(QWidget& widget, const qt::Font& font);
 

@@ -32,6 +32,8 @@ PlainControl::PlainControl(const Stage& stage, const Surroundings& around, forms
     const QSizeF room = RoomInside(made);
     // Only picture boxes have units of their own.
     const Scale scale = made.inside == nullptr ? Scale() : Scale::Of(Reader(), room);
+    const bool isTransparent = Reader().Whole(u"BackStyle", 1) == 0;
+    ground_ = isTransparent ? around.backColor : colors_.back;
     inside_.emplace(Surroundings{inside, colors_.back, font, scale, room});
     pages_ = made.pages;
     AddPages(*inside_);
@@ -75,7 +77,7 @@ void PlainControl::SetUp(const Stage& stage, const qt::Font& font) {
     const bool design = stage.mode == Mode::Design;
     ApplyFont(*widget_, font);
     Occupy(place_);
-    ApplyColors(*widget_, colors_, kind_.usual);
+    ApplyColors(*widget_, colors_, kind_.usual, ground_);
     PaintOwnBackground(*widget_);
     widget_->setEnabled(Reader().Flag(u"Enabled", true));
     widget_->setVisible(design || (kind_.isSeen && Reader().Flag(u"Visible", true)));
@@ -185,7 +187,7 @@ std::vector<const Surroundings*> PlainControl::Rooms() const {
 }
 
 void PlainControl::PaletteChanged() {
-    ApplyColors(*widget_, colors_, kind_.usual);
+    ApplyColors(*widget_, colors_, kind_.usual, ground_);
 }
 
 }  // namespace lumenkit::lumenform

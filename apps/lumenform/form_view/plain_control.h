@@ -50,6 +50,7 @@ class PlainControl final : public LiveControl {
 
     const PlainKind& kind_;
     WidgetColors colors_;
+    Color ground_ = Color::ButtonFace;  // behind the text
     host::Placement place_;
     int reach_ = 0;
     std::function<host::Placement(const host::Placement&)> fit_;

@@ -4,12 +4,12 @@
 #include <QStyle>
 #include <QStyleOptionFocusRect>
 #include <algorithm>
-#include <cstdlib>
 
 #include <qdrawutil.h>
 
 #include "apps/lumenform/form_view/caption_text.h"
 #include "apps/lumenform/form_view/companion_records.h"
+#include "apps/lumenform/form_view/look.h"
 
 namespace lumenkit::lumenform {
 
@@ -38,16 +38,6 @@ void DrawColoredFace(QPainter& painter, const QStyleOptionButton& option) {
     }
     const QBrush filling(isPressed ? Shaded(color) : color);
     qDrawWinButton(&painter, face, QPalette(color), isPressed, &filling);
-}
-
-bool IsReadable(const QColor& text, const QColor& back) {
-    constexpr int contrast = 60;
-    return std::abs(qGray(text.rgb()) - qGray(back.rgb())) >= contrast;
-}
-
-QColor ReadableOn(const QColor& back) {
-    constexpr int middle = 128;
-    return qGray(back.rgb()) >= middle ? Qt::black : Qt::white;
 }
 
 // Draws a picture in the middle. One that does not fit begins at the left or at the top.

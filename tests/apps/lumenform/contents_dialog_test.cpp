@@ -81,6 +81,8 @@ class ContentsDialog : public ::testing::Test {
     ContentsDialog() {
         form.Select({u"List1"});
         dialog = form.More<lumenform::ContentsDialog>(u"Contents");
+        constexpr QSize roomForAll(700, 400);  // on a small screen, too
+        dialog->resize(roomForAll);
         ShowActive(*dialog);
         Table().setFocus();
     }

@@ -33,7 +33,7 @@ class FormTabs : public OpenedWindow {
     }
     void Press(const QString& title) const {
         for (QPushButton* button : window.Current()->Bar().findChildren<QPushButton*>()) {
-            if (button->text() == title) {
+            if (button->text().remove(u'&') == title) {
                 QTest::mouseClick(button, Qt::LeftButton);
                 return;
             }

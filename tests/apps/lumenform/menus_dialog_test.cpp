@@ -72,6 +72,8 @@ class MenusDialog : public ::testing::Test, public MenusUser {
     void OpenAgain() {
         dialog = std::make_unique<lumenform::MenusDialog>(form->design, &form->window);
         Use(*dialog);
+        constexpr QSize roomForAll(900, 600);  // on a small screen, too
+        dialog->resize(roomForAll);
         ShowActive(*dialog);
     }
 

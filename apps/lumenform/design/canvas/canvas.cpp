@@ -1,9 +1,12 @@
 #include "apps/lumenform/design/canvas/canvas.h"
 
 #include <QApplication>
+#include <QEvent>
 #include <QScrollBar>
 #include <algorithm>
 #include <cstdlib>
+
+#include "apps/lumenform/design/look/focus_look.h"
 
 namespace lumenkit::lumenform {
 
@@ -16,7 +19,11 @@ Canvas::Canvas(FormDesign& design, QWidget* parent)
       rulers_(std::make_unique<Rulers>(design, *glass_, *viewport(), *this)),
       edges_(*this) {
     setWidgetResizable(true);
-    setFrameStyle(QFrame::NoFrame);
+    constexpr int frame = 2;
+    setFrameStyle(int{QFrame::Box} | int{QFrame::Plain});
+    setLineWidth(frame);
+    setForegroundRole(QPalette::Mid);
+    glass_->installEventFilter(this);
     desk_->Show(design.View());
     desk_->SetCover(*glass_);
     setWidget(desk_);
@@ -48,6 +55,23 @@ void Canvas::ConnectGlass() {
     connect(glass_, &Glass::PointerMoved, this,
             [this](QPointF twips) { rulers_->FollowPointer(twips); });
     connect(glass_, &Glass::PointerLeft, this, [this] { rulers_->FollowPointer(std::nullopt); });
+}
+
+// The frame shows that the form has the keyboard.
+bool Canvas::event(QEvent* event) {
+    const bool isHandled = QScrollArea::event(event);
+    if (event->type() == QEvent::Paint && glass_->hasFocus()) {
+        DrawFocusFrame(*this, DeskColor(palette()));
+    }
+    return isHandled;
+}
+
+bool Canvas::eventFilter(QObject* watched, QEvent* event) {
+    if (watched == glass_ &&
+        (event->type() == QEvent::FocusIn || event->type() == QEvent::FocusOut)) {
+        update();
+    }
+    return QScrollArea::eventFilter(watched, event);
 }
 
 void Canvas::ScrollTo(const QRect& rect) {

@@ -17,14 +17,6 @@ namespace {
 constexpr int margin = 24;
 constexpr int border = 1;
 
-QColor DeskColor(const QPalette& palette) {
-    constexpr int middle = 128;
-    constexpr int shade = 112;
-    constexpr int tint = 75;
-    const QColor window = palette.color(QPalette::Active, QPalette::Window);
-    return window.darker(qGray(window.rgb()) >= middle ? shade : tint);
-}
-
 // Controls, property pages and documents are shown inside other windows and have no title bar.
 bool HasTitle(const forms::Block& form) {
     return SameText(form.ClassName(), u"VB.Form", Compare::IgnoreCase) ||
@@ -32,6 +24,14 @@ bool HasTitle(const forms::Block& form) {
 }
 
 }  // namespace
+
+QColor DeskColor(const QPalette& palette) {
+    constexpr int middle = 128;
+    constexpr int shade = 112;
+    constexpr int tint = 75;
+    const QColor window = palette.color(QPalette::Active, QPalette::Window);
+    return window.darker(qGray(window.rgb()) >= middle ? shade : tint);
+}
 
 Desk::Desk(QWidget* parent) : QWidget(parent) {}
 

@@ -9,6 +9,9 @@
 
 namespace lumenkit::lumenform {
 
+/// The colour of the desk, a shade of the window's.
+QColor DeskColor(const QPalette& palette);
+
 /// The neutral background of a form in the designer. Draws the title bar and border of the form,
 /// and shows the form at a scale.
 class Desk final : public QWidget {

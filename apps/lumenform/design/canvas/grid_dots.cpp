@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "apps/lumenform/design/look/contrast.h"
 #include "apps/lumenform/form_view/likeness/tab_pages.h"
 #include "runtime/qt/palette_color.h"
 #include "runtime/qt/pixels.h"
@@ -15,11 +16,6 @@ namespace {
 
 constexpr double closest = 3;  // pixels; closer dots would look grey
 constexpr double sameZoom = 1e-3;
-
-QColor DotColor(bool isBright) {
-    constexpr int strength = 110;
-    return isBright ? QColor(0, 0, 0, strength) : QColor(255, 255, 255, strength);
-}
 
 // The number of grid steps, in one direction, that is nearest to a whole number of device pixels,
 // so that tiles of them join.
@@ -41,7 +37,15 @@ int StepsInTile(double step, double pixelRatio) {
     return best;
 }
 
-QPixmap MakeTile(double across, double down, double pixelRatio, bool isBright) {
+// The dots can be seen, but do not attract attention.
+QColor DotOn(const QColor& ground) {
+    constexpr int middle = 128;
+    constexpr double strength = 0.43;
+    const QColor ink = qGray(ground.rgb()) >= middle ? Qt::black : Qt::white;
+    return Legible(Blend(ground, ink, strength), ground, signContrast);
+}
+
+QPixmap MakeTile(double across, double down, double pixelRatio, const QColor& color) {
     const int columns = StepsInTile(across, pixelRatio);
     const int rows = StepsInTile(down, pixelRatio);
     const auto device = [&](double pixels) {
@@ -50,7 +54,6 @@ QPixmap MakeTile(double across, double down, double pixelRatio, bool isBright) {
     QPixmap tile(device(columns * across), device(rows * down));
     tile.fill(Qt::transparent);
     const int size = std::max(static_cast<int>(pixelRatio), 1);
-    const QColor color = DotColor(isBright);
     QPainter painter(&tile);
     for (int row = 0; row < rows; ++row) {
         for (int column = 0; column < columns; ++column) {
@@ -143,23 +146,22 @@ void GridDots::Paint(QWidget& widget, const QRegion& region, Color backColor) {
     if (grid_.step * zoom < closest * std::max(twips.x, twips.y)) {
         return;
     }
-    constexpr int middle = 128;
-    const bool isBright = qGray(qt::ToQColor(backColor, widget.palette()).rgb()) >= middle;
+    const QColor dot = DotOn(qt::ToQColor(backColor, widget.palette()));
     for (const QRect& part : region& RoomIn(widget)) {
         if (std::abs(zoom - 1) < sameZoom) {
-            painter.fillRect(part, QBrush(TileFor(widget, isBright)));
+            painter.fillRect(part, QBrush(TileFor(widget, dot)));
         } else {
-            PaintDots(painter, part, grid_.step, DotColor(isBright), zoom);
+            PaintDots(painter, part, grid_.step, dot, zoom);
         }
     }
 }
 
-const QPixmap& GridDots::TileFor(const QWidget& widget, bool isBright) {
+const QPixmap& GridDots::TileFor(const QWidget& widget, const QColor& dot) {
     const qt::TwipsPerPixel& twips = qt::TwipsPerPixel::OfScreens();
     const double ratio = widget.devicePixelRatioF();
-    QPixmap& tile = tiles_[{ratio, grid_.step, isBright}];
+    QPixmap& tile = tiles_[{ratio, grid_.step, dot.rgb()}];
     if (tile.isNull()) {
-        tile = MakeTile(grid_.step / twips.x, grid_.step / twips.y, ratio, isBright);
+        tile = MakeTile(grid_.step / twips.x, grid_.step / twips.y, ratio, dot);
     }
     return tile;
 }

@@ -31,11 +31,11 @@ class GridDots final : public QObject {
 
     void Watch(const Surroundings& container, bool paintsItself);
     void Paint(QWidget& widget, const QRegion& region, Color backColor);
-    const QPixmap& TileFor(const QWidget& widget, bool isBright);
+    const QPixmap& TileFor(const QWidget& widget, const QColor& dot);
 
     const Grid& grid_;
     std::map<QWidget*, Background> backgrounds_;
-    std::map<std::tuple<double, float, bool>, QPixmap> tiles_;  // by pixel ratio, step, brightness
+    std::map<std::tuple<double, float, QRgb>, QPixmap> tiles_;  // by pixel ratio, step, colour
 };
 
 }  // namespace lumenkit::lumenform

@@ -6,8 +6,11 @@
 #include <utility>
 
 #include "apps/lumenform/design/canvas/baseline.h"
+#include "apps/lumenform/design/look/contrast.h"
 #include "apps/lumenform/design/model/arrange.h"
 #include "apps/lumenform/design/model/containers.h"
+#include "runtime/qt/palette_color.h"
+#include "runtime/qt/pixels.h"
 
 namespace lumenkit::lumenform {
 
@@ -133,8 +136,10 @@ QRect Guides::Painted() const {
 }
 
 void Guides::Paint(QPainter& painter, const QPalette& palette) const {
+    const Color ground = InsideOf(ground_.design, container_).backColor;
+    const QColor mark = MarkOn(qt::ToQColor(ground, palette), palette);
     for (const QRect& line : shown_) {
-        painter.fillRect(line, palette.color(QPalette::Active, QPalette::Highlight));
+        painter.fillRect(line, mark);
     }
 }
 

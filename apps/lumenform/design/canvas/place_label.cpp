@@ -27,7 +27,6 @@ PlaceLabel::PlaceLabel(QWidget* parent) : QLabel(parent) {
     setAutoFillBackground(true);
     setForegroundRole(QPalette::ToolTipText);
     setBackgroundRole(QPalette::ToolTipBase);
-    setPalette(QToolTip::palette());
     setAttribute(Qt::WA_TransparentForMouseEvents);
     hide();
 }
@@ -37,6 +36,7 @@ void PlaceLabel::Tell(const host::Placement& place, QPoint pointer) {
     const auto whole = [](float twips) { return QString::number(std::lround(twips)); };
     setText(whole(place.left) + QStringLiteral(", ") + whole(place.top) + QStringLiteral("  ") +
             whole(place.width) + QStringLiteral(" \u00D7 ") + whole(place.height));
+    setPalette(QToolTip::palette());
     adjustSize();
     const QRect seen = parentWidget()->visibleRegion().boundingRect();
     move(PlaceIn(seen.left(), seen.width(), pointer.x(), aside.x(), width()),

@@ -1,53 +1,11 @@
 #include "apps/lumenform/design/code/code_look.h"
 
 #include <algorithm>
-#include <cmath>
 
+#include "apps/lumenform/design/look/contrast.h"
 #include "runtime/qt/qt_text.h"
 
 namespace lumenkit::lumenform {
-
-namespace {
-
-constexpr double leastContrast = 4.5;
-
-double Luminance(const QColor& color) {
-    const auto part = [](double value) {
-        return value <= 0.04045 ? value / 12.92 : std::pow((value + 0.055) / 1.055, 2.4);
-    };
-    return 0.2126 * part(color.redF()) + 0.7152 * part(color.greenF()) +
-           0.0722 * part(color.blueF());
-}
-
-QColor Mixed(const QColor& one, const QColor& other, double share) {
-    const auto mix = [&](double from, double to) {
-        return static_cast<float>(from + (to - from) * share);
-    };
-    return QColor::fromRgbF(mix(one.redF(), other.redF()), mix(one.greenF(), other.greenF()),
-                            mix(one.blueF(), other.blueF()));
-}
-
-}  // namespace
-
-double ContrastOf(const QColor& one, const QColor& other) {
-    constexpr double flare = 0.05;
-    const auto [low, high] = std::minmax({Luminance(one), Luminance(other)});
-    return (high + flare) / (low + flare);
-}
-
-QColor DimmedText(const QPalette& palette) {
-    constexpr int mostPercent = 40;
-    constexpr int step = 5;
-    const QColor text = palette.color(QPalette::Active, QPalette::Text);
-    const QColor base = palette.color(QPalette::Active, QPalette::Base);
-    for (int percent = mostPercent; percent > 0; percent -= step) {
-        if (const QColor dimmed = Mixed(text, base, percent / 100.0);
-            ContrastOf(dimmed, base) >= leastContrast) {
-            return dimmed;
-        }
-    }
-    return text;
-}
 
 CodeLook::CodeLook(QTextDocument& document, const QPalette& palette)
     : QSyntaxHighlighter(&document) {

@@ -52,7 +52,6 @@ void CodePage::LayOut() {
     auto* const layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(split);
-    setFocusProxy(text_);
 }
 
 void CodePage::ConnectParts() {

@@ -6,6 +6,8 @@
 #include <QToolButton>
 #include <algorithm>
 
+#include "apps/lumenform/design/icons/icons.h"
+
 namespace lumenkit::lumenform {
 
 CodeSearch::CodeSearch(QPlainTextEdit& text, QWidget* parent)
@@ -24,6 +26,7 @@ void CodeSearch::LayOut() {
     const int letter = fontMetrics().averageCharWidth();
     field_->setPlaceholderText(tr("Search the code"));
     field_->setAccessibleName(tr("Search the code"));
+    field_->addAction(ThemeIcon(QStringLiteral("edit-find")), QLineEdit::LeadingPosition);
     field_->setClearButtonEnabled(true);
     field_->setMaximumWidth(fieldLetters * letter);
     field_->installEventFilter(this);
@@ -32,20 +35,20 @@ void CodeSearch::LayOut() {
     row->setContentsMargins(margin, margin, margin, margin);
     row->setSpacing(margin);
     row->addWidget(field_, 1);
-    const auto add = [&](const QString& sign, const QString& title, void (CodeSearch::*run)()) {
+    const auto add = [&](const QString& icon, const QString& title, void (CodeSearch::*run)()) {
         auto* const button = new QToolButton;
-        button->setText(sign);
+        button->setIcon(ThemeIcon(icon));
         button->setAutoRaise(true);
         button->setToolTip(title);
         button->setAccessibleName(title);
         connect(button, &QAbstractButton::clicked, this, run);
         row->addWidget(button);
     };
-    add(QStringLiteral("↑"), tr("Previous hit (Shift+F3)"), &CodeSearch::GoToPrevious);
-    add(QStringLiteral("↓"), tr("Next hit (F3)"), &CodeSearch::GoToNext);
+    add(QStringLiteral("go-up"), tr("Previous hit (Shift+F3)"), &CodeSearch::GoToPrevious);
+    add(QStringLiteral("go-down"), tr("Next hit (F3)"), &CodeSearch::GoToNext);
     row->addWidget(count_);
     row->addStretch();
-    add(QStringLiteral("✕"), tr("Close the search (Esc)"), &CodeSearch::Close);
+    add(QStringLiteral("window-close"), tr("Close the search (Esc)"), &CodeSearch::Close);
 }
 
 void CodeSearch::Open() {

@@ -8,6 +8,7 @@
 #include <QTextBlock>
 #include <algorithm>
 
+#include "apps/lumenform/design/look/contrast.h"
 #include "runtime/qt/qt_text.h"
 
 namespace lumenkit::lumenform {

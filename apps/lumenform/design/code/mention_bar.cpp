@@ -4,21 +4,21 @@
 #include <QHBoxLayout>
 #include <QToolButton>
 
+#include "apps/lumenform/design/icons/icons.h"
+
 namespace lumenkit::lumenform {
 
 MentionBar::MentionBar(QWidget* parent)
-    : QFrame(parent), text_(new QLabel), code_(new QPushButton(tr("&Show in code"))) {
+    : Bar(parent),
+      text_(new QLabel),
+      code_(new QPushButton(ThemeIcon(QStringLiteral("code-context")), tr("&Show in code"))) {
     constexpr int margin = 4;
-    setFrameShape(QFrame::StyledPanel);
-    setAutoFillBackground(true);
-    setBackgroundRole(QPalette::ToolTipBase);
-    text_->setForegroundRole(QPalette::ToolTipText);
     text_->setTextFormat(Qt::PlainText);
     text_->setWordWrap(true);
     code_->setToolTip(tr("Open the code at the first of these procedures"));
     code_->setAutoDefault(false);
     auto* const dismiss = new QToolButton;
-    dismiss->setText(QStringLiteral("✕"));
+    dismiss->setIcon(ThemeIcon(QStringLiteral("window-close")));
     dismiss->setAutoRaise(true);
     dismiss->setFocusPolicy(Qt::TabFocus);
     dismiss->setToolTip(tr("Dismiss this message"));

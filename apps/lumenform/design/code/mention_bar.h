@@ -1,14 +1,15 @@
 #pragma once
 
-#include <QFrame>
 #include <QLabel>
 #include <QPushButton>
+
+#include "apps/lumenform/design/look/bar.h"
 
 namespace lumenkit::lumenform {
 
 /// A line below a form that says where its code mentions controls that are gone. It takes no
 /// keyboard by itself.
-class MentionBar final : public QFrame {
+class MentionBar final : public Bar {
     Q_OBJECT
 
  public:

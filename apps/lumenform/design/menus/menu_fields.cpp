@@ -21,6 +21,8 @@ MenuFields::MenuFields(QWidget* parent)
       position_(new QComboBox(this)),
       help_(new QSpinBox(this)) {
     layout_->setContentsMargins(0, 0, 0, 0);
+    layout_->setRowWrapPolicy(QFormLayout::WrapLongRows);
+    layout_->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
     AddTexts();
     AddLists();
     AddFlags();

@@ -2,9 +2,9 @@
 
 #include <QHeaderView>
 #include <QSignalBlocker>
-#include <QStyle>
 #include <algorithm>
 
+#include "apps/lumenform/design/icons/icons.h"
 #include "apps/lumenform/design/model/menu_shortcuts.h"
 #include "runtime/qt/qt_text.h"
 
@@ -22,12 +22,12 @@ MenuTree::MenuTree(QWidget* parent) : QTreeWidget(parent) {
     setIndentation(3 * letter);
     header()->setStretchLastSection(false);
     header()->setSectionResizeMode(Caption, QHeaderView::Stretch);
+    constexpr int captionLetters = 16;
     constexpr int nameLetters = 22;
     constexpr int shortcutLetters = 20;
     header()->resizeSection(Name, nameLetters * letter);
     header()->resizeSection(Shortcut, shortcutLetters * letter);
-    constexpr int captionLetters = 22;
-    setMinimumWidth((captionLetters + nameLetters + shortcutLetters) * letter);
+    header()->setMinimumSectionSize(captionLetters * letter);
     connect(this, &QTreeWidget::currentItemChanged, this, &MenuTree::Chosen);
 }
 
@@ -51,7 +51,7 @@ void MenuTree::Show(const MenuEntries& menus, std::size_t current) {
 }
 
 void MenuTree::Refresh(const MenuEntries& menus, const std::vector<MenuProblem>& problems) {
-    const QIcon sign = style()->standardIcon(QStyle::SP_MessageBoxWarning);
+    const QIcon sign = ThemeIcon(QStringLiteral("dialog-warning"));
     for (std::size_t at = 0; at < rows_.size(); ++at) {
         QTreeWidgetItem& row = *rows_[at];
         const MenuEntry& entry = menus[at];

@@ -1,10 +1,14 @@
 #include "apps/lumenform/design/menus/menus_dialog.h"
 
 #include <QHBoxLayout>
+#include <QScrollArea>
 #include <QShortcut>
+#include <QStyle>
 #include <algorithm>
 #include <utility>
 
+#include "apps/lumenform/design/icons/icons.h"
+#include "apps/lumenform/design/look/fitting.h"
 #include "apps/lumenform/design/menus/apply_menus.h"
 #include "apps/lumenform/design/menus/menu_moves.h"
 #include "apps/lumenform/design/model/naming.h"
@@ -63,19 +67,32 @@ void MenusDialog::LayOut() {
     auto* const upper = new QHBoxLayout;
     upper->addWidget(tree_, 3);
     upper->addLayout(Actions());
-    upper->addWidget(fields_, 2);
+    upper->addWidget(ScrolledFields(), 2);
     auto* const layout = new QVBoxLayout(this);
     layout->addLayout(upper, 1);
     layout->addWidget(notice_);
     layout->addWidget(buttons_);
     constexpr int columns = 140;
     constexpr int lines = 26;
-    resize(fontMetrics().averageCharWidth() * columns, fontMetrics().height() * lines);
+    ResizeWithin(*this,
+                 {fontMetrics().averageCharWidth() * columns, fontMetrics().height() * lines});
 }
 
-QPushButton* MenusDialog::AddAction(QVBoxLayout& actions, const QString& title,
+QScrollArea* MenusDialog::ScrolledFields() {
+    auto* const scrolled = new QScrollArea(this);
+    scrolled->setFrameShape(QFrame::NoFrame);
+    scrolled->setWidget(fields_);
+    scrolled->setWidgetResizable(true);
+    scrolled->setFocusPolicy(Qt::NoFocus);
+    scrolled->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    scrolled->setMinimumWidth(fields_->minimumSizeHint().width() +
+                              style()->pixelMetric(QStyle::PM_ScrollBarExtent));
+    return scrolled;
+}
+
+QPushButton* MenusDialog::AddAction(QVBoxLayout& actions, const QString& icon, const QString& title,
                                     const QKeySequence& keys, const std::function<void()>& run) {
-    auto* const button = new QPushButton(title, this);
+    auto* const button = new QPushButton(ThemeIcon(icon), title, this);
     button->setAutoDefault(false);
     connect(button, &QPushButton::clicked, this, run);
     actions.addWidget(button);
@@ -90,17 +107,18 @@ QPushButton* MenusDialog::AddAction(QVBoxLayout& actions, const QString& title,
     return button;
 }
 
-void MenusDialog::AddMove(QVBoxLayout& actions, const QString& title, const QKeySequence& keys,
-                          Move step, CanMove isPossible) {
-    QPushButton* const button =
-        AddAction(actions, title, keys, [this, step] { Rebuild(step(menus_, tree_->Current())); });
+void MenusDialog::AddMove(QVBoxLayout& actions, const QString& icon, const QString& title,
+                          const QKeySequence& keys, Move step, CanMove isPossible) {
+    QPushButton* const button = AddAction(
+        actions, icon, title, keys, [this, step] { Rebuild(step(menus_, tree_->Current())); });
     actions_.push_back({button, isPossible});
 }
 
-void MenusDialog::AddNew(QVBoxLayout& actions, const QString& title, const QKeySequence& keys,
+void MenusDialog::AddNew(QVBoxLayout& actions, const QString& icon, const QString& title,
+                         const QKeySequence& keys,
                          std::size_t (*add)(MenuEntries&, std::size_t, MenuEntry),
                          const Text& caption) {
-    AddAction(actions, title, keys, [this, add, caption] {
+    AddAction(actions, icon, title, keys, [this, add, caption] {
         Rebuild(add(menus_, tree_->Current(), NewEntry(caption)));
         if (caption.empty()) {
             fields_->EditCaption();
@@ -110,14 +128,20 @@ void MenusDialog::AddNew(QVBoxLayout& actions, const QString& title, const QKeyS
 
 QVBoxLayout* MenusDialog::Actions() {
     auto* const actions = new QVBoxLayout;
-    AddNew(*actions, tr("&Insert before"), Qt::Key_Insert, InsertMenuBefore, {});
-    AddNew(*actions, tr("&Add after"), {}, AddMenuAfter, {});
-    AddNew(*actions, tr("Add se&parator"), {}, AddMenuAfter, u"-");
-    AddMove(*actions, tr("&Delete"), QKeySequence::Delete, RemoveMenu, IsAlwaysPossible);
-    AddMove(*actions, tr("Move &up"), Qt::ALT | Qt::Key_Up, MoveMenuUp, CanMoveMenuUp);
-    AddMove(*actions, tr("&Move down"), Qt::ALT | Qt::Key_Down, MoveMenuDown, CanMoveMenuDown);
-    AddMove(*actions, tr("Move &left"), Qt::ALT | Qt::Key_Left, MoveMenuOut, CanMoveMenuOut);
-    AddMove(*actions, tr("Move &right"), Qt::ALT | Qt::Key_Right, MoveMenuIn, CanMoveMenuIn);
+    AddNew(*actions, QStringLiteral("list-add"), tr("&Insert before"), Qt::Key_Insert,
+           InsertMenuBefore, {});
+    AddNew(*actions, QStringLiteral("list-add"), tr("&Add after"), {}, AddMenuAfter, {});
+    AddNew(*actions, QStringLiteral("list-add"), tr("Add se&parator"), {}, AddMenuAfter, u"-");
+    AddMove(*actions, QStringLiteral("edit-delete"), tr("&Delete"), QKeySequence::Delete,
+            RemoveMenu, IsAlwaysPossible);
+    AddMove(*actions, QStringLiteral("go-up"), tr("Move &up"), Qt::ALT | Qt::Key_Up, MoveMenuUp,
+            CanMoveMenuUp);
+    AddMove(*actions, QStringLiteral("go-down"), tr("&Move down"), Qt::ALT | Qt::Key_Down,
+            MoveMenuDown, CanMoveMenuDown);
+    AddMove(*actions, QStringLiteral("format-indent-less"), tr("Move &left"),
+            Qt::ALT | Qt::Key_Left, MoveMenuOut, CanMoveMenuOut);
+    AddMove(*actions, QStringLiteral("format-indent-more"), tr("Move &right"),
+            Qt::ALT | Qt::Key_Right, MoveMenuIn, CanMoveMenuIn);
     actions->addStretch();
     return actions;
 }

@@ -14,6 +14,8 @@
 #include "apps/lumenform/design/model/menu_rules.h"
 #include "apps/lumenform/design/properties/notice.h"
 
+class QScrollArea;
+
 namespace lumenkit::lumenform {
 
 /// A dialog for all menus of a form. OK gives them to the form in one step of the history. While a
@@ -42,13 +44,15 @@ class MenusDialog final : public QDialog {
     };
 
     void LayOut();
+    QScrollArea* ScrolledFields();
     QVBoxLayout* Actions();
-    QPushButton* AddAction(QVBoxLayout& actions, const QString& title, const QKeySequence& keys,
-                           const std::function<void()>& run);
-    void AddMove(QVBoxLayout& actions, const QString& title, const QKeySequence& keys, Move step,
-                 CanMove isPossible);
-    void AddNew(QVBoxLayout& actions, const QString& title, const QKeySequence& keys,
-                std::size_t (*add)(MenuEntries&, std::size_t, MenuEntry), const Text& caption);
+    QPushButton* AddAction(QVBoxLayout& actions, const QString& icon, const QString& title,
+                           const QKeySequence& keys, const std::function<void()>& run);
+    void AddMove(QVBoxLayout& actions, const QString& icon, const QString& title,
+                 const QKeySequence& keys, Move step, CanMove isPossible);
+    void AddNew(QVBoxLayout& actions, const QString& icon, const QString& title,
+                const QKeySequence& keys, std::size_t (*add)(MenuEntries&, std::size_t, MenuEntry),
+                const Text& caption);
     MenuEntry NewEntry(const Text& caption) const;
     void Rebuild(std::size_t current);
     void ShowCurrent();

@@ -10,6 +10,7 @@
 #include <unordered_set>
 #include <utility>
 
+#include "apps/lumenform/design/icons/icons.h"
 #include "apps/lumenform/design/model/refusal.h"
 #include "apps/lumenform/form_view/likeness/tab_pages.h"
 #include "forms/controls.h"
@@ -81,9 +82,10 @@ Outline::~Outline() {
 void Outline::LayOut() {
     constexpr int margin = 4;
     constexpr int classLetters = 18;
-    constexpr int nameLetters = 18;
+    constexpr int nameLetters = 8;
     search_->setPlaceholderText(tr("Search the outline"));
     search_->setAccessibleName(tr("Search the outline"));
+    search_->addAction(ThemeIcon(QStringLiteral("edit-find")), QLineEdit::LeadingPosition);
     search_->setClearButtonEnabled(true);
     search_->installEventFilter(this);
     tree_->installEventFilter(this);
@@ -102,7 +104,6 @@ void Outline::LayOut() {
     layout->setSpacing(margin);
     layout->addWidget(search_);
     layout->addWidget(tree_);
-    setFocusProxy(tree_);
 }
 
 void Outline::ConnectParts() {

@@ -1,12 +1,12 @@
 #include "apps/lumenform/design/outline/outline_model.h"
 
-#include <QApplication>
 #include <QMimeData>
-#include <QStyle>
 #include <optional>
 #include <unordered_set>
 #include <utility>
 
+#include "apps/lumenform/design/icons/icons.h"
+#include "apps/lumenform/design/look/contrast.h"
 #include "apps/lumenform/design/model/containers.h"
 #include "apps/lumenform/design/model/naming.h"
 #include "apps/lumenform/form_view/likeness/tab_pages.h"
@@ -215,11 +215,10 @@ QVariant OutlineModel::ClassData(const OutlineNode& node, int role) const {
         case Qt::DisplayRole:
             return ClassOf(node);
         case Qt::ForegroundRole:
-            return palette_.brush(QPalette::PlaceholderText);
+            return DimmedText(palette_);
         case Qt::DecorationRole:
-            return node.isOutOfView
-                       ? QVariant(QApplication::style()->standardIcon(QStyle::SP_MessageBoxWarning))
-                       : QVariant();
+            return node.isOutOfView ? QVariant(ThemeIcon(QStringLiteral("dialog-warning")))
+                                    : QVariant();
         default:
             return {};
     }

@@ -6,6 +6,8 @@
 #include <QTimer>
 #include <utility>
 
+#include "apps/lumenform/design/look/focus_look.h"
+
 namespace lumenkit::lumenform {
 
 namespace {
@@ -68,6 +70,13 @@ void OutlineTree::keyPressEvent(QKeyEvent* event) {
         Q_EMIT PropertiesWanted();
     } else {
         QTreeView::keyPressEvent(event);
+    }
+}
+
+void OutlineTree::paintEvent(QPaintEvent* event) {
+    QTreeView::paintEvent(event);
+    if (hasFocus()) {
+        DrawFocusFrame(*viewport());
     }
 }
 

@@ -5,7 +5,7 @@
 #include <QToolButton>
 #include <QWheelEvent>
 
-#include "apps/lumenform/design/properties/focus_look.h"
+#include "apps/lumenform/design/look/focus_look.h"
 
 namespace lumenkit::lumenform {
 

@@ -3,14 +3,19 @@
 #include <QHBoxLayout>
 #include <QKeyEvent>
 
+#include "apps/lumenform/design/icons/icons.h"
+
 namespace lumenkit::lumenform {
 
 FilterBar::FilterBar(QWidget* parent)
     : QWidget(parent), field_(new QLineEdit(this)), groups_(new QToolButton(this)) {
     field_->setPlaceholderText(tr("Filter (Ctrl+F)"));
     field_->setAccessibleName(tr("Filter of the properties"));
+    field_->addAction(ThemeIcon(QStringLiteral("edit-find")), QLineEdit::LeadingPosition);
     field_->setClearButtonEnabled(true);
     field_->installEventFilter(this);
+    groups_->setIcon(ThemeIcon(QStringLiteral("view-group")));
+    groups_->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
     groups_->setText(tr("Groups"));
     groups_->setToolTip(tr("Group the properties, or sort them by name"));
     groups_->setCheckable(true);

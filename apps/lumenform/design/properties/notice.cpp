@@ -1,9 +1,12 @@
 #include "apps/lumenform/design/properties/notice.h"
 
 #include <QAccessible>
+#include <QEvent>
 #include <QHBoxLayout>
 #include <QStyle>
 #include <QVBoxLayout>
+
+#include "apps/lumenform/design/icons/icons.h"
 
 namespace lumenkit::lumenform {
 
@@ -19,18 +22,16 @@ QString Link(QLatin1String target, const QString& title) {
 }  // namespace
 
 Notice::Notice(QWidget* parent)
-    : QFrame(parent), text_(new QLabel(this)), links_(new QLabel(this)) {
-    const int side = style()->pixelMetric(QStyle::PM_SmallIconSize);
-    auto* const sign = new QLabel(this);
-    sign->setPixmap(style()->standardIcon(QStyle::SP_MessageBoxWarning).pixmap({side, side}));
-    sign->setAlignment(Qt::AlignTop);
+    : QFrame(parent), sign_(new QLabel(this)), text_(new QLabel(this)), links_(new QLabel(this)) {
+    sign_->setAlignment(Qt::AlignTop);
+    DrawSign();
     text_->setTextFormat(Qt::PlainText);
     text_->setWordWrap(true);
     text_->setMinimumHeight(text_->fontMetrics().lineSpacing());
     text_->setTextInteractionFlags(Qt::TextSelectableByMouse);
     auto* const layout = new QHBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
-    layout->addWidget(sign);
+    layout->addWidget(sign_);
     auto* const texts = new QVBoxLayout;
     texts->addWidget(text_);
     texts->addWidget(links_);
@@ -55,6 +56,19 @@ void Notice::Say(const QString& text, bool offersEncodings) {
     if (!text.isEmpty()) {
         QAccessibleEvent event(text_, QAccessible::Alert);
         QAccessible::updateAccessibility(&event);
+    }
+}
+
+void Notice::DrawSign() {
+    const int side = style()->pixelMetric(QStyle::PM_SmallIconSize);
+    const QIcon warning = ThemeIcon(QStringLiteral("dialog-warning"));
+    sign_->setPixmap(warning.pixmap({side, side}, devicePixelRatioF()));
+}
+
+void Notice::changeEvent(QEvent* event) {
+    QFrame::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange) {
+        DrawSign();
     }
 }
 

@@ -23,7 +23,13 @@ class Notice final : public QFrame {
     void Utf8Wanted();
     void OtherPageWanted();
 
+ protected:
+    void changeEvent(QEvent* event) override;
+
  private:
+    void DrawSign();
+
+    QLabel* sign_;
     QLabel* text_;
     QLabel* links_;
 };

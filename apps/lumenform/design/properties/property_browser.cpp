@@ -90,7 +90,6 @@ void PropertyBrowser::LayOut() {
     help_->setAlignment(Qt::AlignLeft | Qt::AlignTop);
     help_->setAccessibleName(tr("Help"));
     FitHelp();
-    setFocusProxy(table_);
     auto* const layout = new QVBoxLayout(this);
     layout->addWidget(heading_);
     layout->addWidget(filter_);

@@ -6,9 +6,9 @@
 #include <QPainter>
 #include <algorithm>
 
+#include "apps/lumenform/design/look/focus_look.h"
 #include "apps/lumenform/design/properties/cell_editors.h"
 #include "apps/lumenform/design/properties/color_text.h"
-#include "apps/lumenform/design/properties/focus_look.h"
 #include "apps/lumenform/design/properties/pictures/picture_format.h"
 #include "apps/lumenform/design/properties/swatch.h"
 #include "runtime/qt/palette_color.h"

@@ -5,8 +5,10 @@
 #include <QMenu>
 #include <algorithm>
 
+#include "apps/lumenform/design/icons/icons.h"
+#include "apps/lumenform/design/icons/menu_style.h"
+#include "apps/lumenform/design/look/focus_look.h"
 #include "apps/lumenform/design/properties/cell_editors.h"
-#include "apps/lumenform/design/properties/focus_look.h"
 #include "apps/lumenform/design/properties/property_model.h"
 
 namespace lumenkit::lumenform {
@@ -170,12 +172,14 @@ void PropertyTable::OpenMenu(const QPoint& at) {
     auto* const menu = new QMenu(this);
     menu->setAttribute(Qt::WA_DeleteOnClose);
     const QModelIndex current = currentIndex();
-    QAction* const edit = menu->addAction(tr("Edit"), this, &PropertyTable::EditCurrent);
+    QAction* const edit = menu->addAction(ThemeIcon(QStringLiteral("document-edit")), tr("&Edit"),
+                                          this, &PropertyTable::EditCurrent);
     edit->setEnabled(current.flags().testFlag(Qt::ItemIsEditable));
     QAction* const reset =
-        menu->addAction(tr("Reset to default\tCtrl+Del"), this,
-                        [this, row = current.row()] { Q_EMIT ResetWanted(row); });
+        menu->addAction(ThemeIcon(QStringLiteral("edit-reset")), tr("&Reset to default\tCtrl+Del"),
+                        this, [this, row = current.row()] { Q_EMIT ResetWanted(row); });
     reset->setEnabled(current.data(PropertyModel::resettableRole).toBool());
+    MenuStyle::UseFor(*menu);
     menu->popup(at);
 }
 

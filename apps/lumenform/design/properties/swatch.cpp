@@ -10,7 +10,7 @@ QIcon Swatch(const QColor& color, QSize size, double scale) {
     picture.setDevicePixelRatio(scale);
     picture.fill(Qt::transparent);
     QPainter painter(&picture);
-    painter.setPen(QPen(Qt::gray, 1));
+    painter.setPen(QPen(QColor(0x80, 0x80, 0x80), 1));
     painter.setBrush(color);
     painter.drawRect(QRectF(0.5, 0.5, size.width() - 1, size.height() - 1));
     painter.end();

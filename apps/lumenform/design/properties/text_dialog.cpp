@@ -9,6 +9,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "apps/lumenform/design/look/fitting.h"
 #include "apps/lumenform/design/properties/encoding_offer.h"
 #include "apps/lumenform/design/properties/writable_text.h"
 #include "runtime/qt/qt_text.h"
@@ -73,7 +74,7 @@ TextDialog::TextDialog(FormDesign& design, const QString& title, Text text, Line
     const QFontMetrics metrics = edit_->fontMetrics();
     constexpr int columns = 60;
     constexpr int rows = 14;
-    resize(metrics.averageCharWidth() * columns, metrics.height() * rows);
+    ResizeWithin(*this, {metrics.averageCharWidth() * columns, metrics.height() * rows});
     Check();
 }
 

@@ -2,28 +2,28 @@
 
 #include <QHBoxLayout>
 
+#include "apps/lumenform/design/icons/icons.h"
+
 namespace lumenkit::lumenform {
 
-ChangedBar::ChangedBar(QWidget* parent) : QFrame(parent), text_(new QLabel) {
-    setFrameShape(QFrame::StyledPanel);
-    setAutoFillBackground(true);
-    setBackgroundRole(QPalette::ToolTipBase);
-    text_->setForegroundRole(QPalette::ToolTipText);
+ChangedBar::ChangedBar(QWidget* parent) : Bar(parent), text_(new QLabel) {
     auto* const row = new QHBoxLayout(this);
+    text_->setWordWrap(true);
     row->addWidget(text_, 1);
-    const auto add = [&](const QString& title, const QString& help, void (ChangedBar::*wanted)()) {
-        auto* const button = new QPushButton(title);
+    const auto add = [&](const QString& icon, const QString& title, const QString& help,
+                         void (ChangedBar::*wanted)()) {
+        auto* const button = new QPushButton(ThemeIcon(icon), title);
         button->setToolTip(help);
         connect(button, &QAbstractButton::clicked, this, wanted);
         row->addWidget(button);
         choices_.append(button);
     };
-    add(tr("Reload"), tr("Take the file as it is now; Undo brings your version back"),
-        &ChangedBar::ReloadWanted);
-    add(tr("Keep mine"), tr("Save your version in its place next time"),
-        &ChangedBar::KeepMineWanted);
-    add(tr("Show the difference"), tr("Compare the file with your version"),
-        &ChangedBar::DifferenceWanted);
+    add(QStringLiteral("view-refresh"), tr("&Reload"),
+        tr("Take the file as it is now; Undo brings your version back"), &ChangedBar::ReloadWanted);
+    add(QStringLiteral("document-save"), tr("&Keep mine"),
+        tr("Save your version in its place next time"), &ChangedBar::KeepMineWanted);
+    add(QStringLiteral("vcs-diff"), tr("Show the &difference"),
+        tr("Compare the file with your version"), &ChangedBar::DifferenceWanted);
     hide();
 }
 

@@ -1,14 +1,15 @@
 #pragma once
 
-#include <QFrame>
 #include <QLabel>
 #include <QList>
 #include <QPushButton>
 
+#include "apps/lumenform/design/look/bar.h"
+
 namespace lumenkit::lumenform {
 
 /// A line above a form that another program has changed on the disk, with the choices of the user.
-class ChangedBar final : public QFrame {
+class ChangedBar final : public Bar {
     Q_OBJECT
 
  public:

@@ -4,6 +4,8 @@
 #include <algorithm>
 #include <array>
 
+#include "apps/lumenform/design/look/contrast.h"
+
 namespace lumenkit::lumenform {
 
 namespace {
@@ -258,19 +260,33 @@ constexpr std::array drawings = {
 
 }  // namespace
 
-QIcon ClassIcon(TextView className, const QPalette& palette) {
+namespace {
+
+QPixmap Drawn(void (*draw)(const Pen& pen), const QColor& ink, const QColor& accent) {
     QPixmap pixmap(side * sharpness, side * sharpness);
     pixmap.fill(Qt::transparent);
     QPainter painter(&pixmap);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.scale(sharpness, sharpness);
-    const Pen pen{painter, palette.color(QPalette::ButtonText), palette.color(QPalette::Link)};
-    painter.setPen(QPen(pen.ink, 1.2));
+    const Pen pen{painter, ink, accent};
+    painter.setPen(QPen(ink, 1.2));
+    draw(pen);
+    return pixmap;
+}
+
+}  // namespace
+
+QIcon ClassIcon(TextView className, const QPalette& palette) {
     const auto* const found = std::ranges::find_if(drawings, [&](const Drawing& drawing) {
         return SameText(drawing.className, className, Compare::IgnoreCase);
     });
-    (found == drawings.end() ? DrawBox : found->draw)(pen);
-    return pixmap;
+    const auto draw = found == drawings.end() ? DrawBox : found->draw;
+    const QColor base = palette.color(QPalette::Base);
+    QIcon icon(Drawn(draw, palette.color(QPalette::Text),
+                     Legible(palette.color(QPalette::Link), base, signContrast)));
+    const QColor selected = palette.color(QPalette::HighlightedText);
+    icon.addPixmap(Drawn(draw, selected, selected), QIcon::Selected);
+    return icon;
 }
 
 }  // namespace lumenkit::lumenform

@@ -9,18 +9,20 @@
 #include <QLocale>
 #include <QMenuBar>
 #include <QMimeData>
-#include <QScreen>
-#include <QStyle>
 #include <QUrl>
 #include <memory>
 #include <utility>
 #include <vector>
 
+#include "apps/lumenform/design/icons/icons.h"
+#include "apps/lumenform/design/icons/menu_style.h"
+#include "apps/lumenform/design/look/fitting.h"
 #include "apps/lumenform/design/model/new_form.h"
 #include "apps/lumenform/design/window/form_dialogs.h"
 #include "apps/lumenform/design/window/form_picture.h"
 #include "apps/lumenform/design/window/help_menu.h"
 #include "apps/lumenform/design/window/keys_dialog.h"
+#include "apps/lumenform/design/window/menu_keys.h"
 #include "apps/lumenform/design/window/opened_message.h"
 #include "forms/file.h"
 #include "forms/form_error.h"
@@ -30,6 +32,7 @@ namespace lumenkit::lumenform {
 namespace {
 
 constexpr int messageTime = 8000;  // milliseconds
+constexpr int iconSide = 22;       // a size for which the icons are drawn
 
 QString GeometryKey() {
     return QStringLiteral("window/geometry");
@@ -93,10 +96,15 @@ DesignWindow::DesignWindow(const Setup& setup)
     AddRunMenu();
     AddHelpMenu();
     AddToolBar();
+    for (const QAction* const action : menuBar()->actions()) {
+        MenuStyle::UseFor(*action->menu());
+    }
+    setWindowIcon(ProgramIcon());
+    AddMenuKeys(*this, *menuBar());
     ShowRecent();
     Follow();
     constexpr QSize usual(1240, 780);
-    resize(usual.boundedTo(screen()->availableSize()));
+    ResizeWithin(*this, usual);
     restoreGeometry(setup.settings.value(GeometryKey()).toByteArray());
 }
 
@@ -134,13 +142,19 @@ void DesignWindow::ConnectFiles() {
     connect(files_, &FileMenu::SaveAsWanted, this, [this] { Current()->SaveAs(); });
     connect(files_, &FileMenu::CloseWanted, this, [this] { Close(tabs_->currentIndex()); });
     connect(files_, &FileMenu::QuitWanted, this, &QWidget::close);
+    connect(view_, &ViewMenu::PartWanted, this, [this](bool next) {
+        if (Current() != nullptr) {
+            Current()->MoveFocus(next);
+        }
+    });
     connect(view_, &ViewMenu::CodeWanted, this, [this] { Current()->ShowCode(); });
     connect(view_, &ViewMenu::FormWanted, this, [this] { Current()->ShowForm(); });
 }
 
 void DesignWindow::AddRunMenu() {
     QMenu* const menu = menuBar()->addMenu(tr("&Run"));
-    runForm_ = menu->addAction(tr("&Run the form"));
+    runForm_ =
+        menu->addAction(ThemeIcon(QStringLiteral("media-playback-start")), tr("&Run the form"));
     runForm_->setCheckable(true);
     runForm_->setShortcut(Qt::Key_F5);
     runForm_->setToolTip(tr("Run the form for a trial, or return to the designer (F5)"));
@@ -165,11 +179,10 @@ void DesignWindow::AddToolBar() {
     bar_->setObjectName(QStringLiteral("tools"));
     bar_->setMovable(false);
     bar_->setContextMenuPolicy(Qt::PreventContextMenu);
+    bar_->setIconSize({iconSide, iconSide});
     bar_->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
     bar_->addActions({&files_->NewAction(), &files_->OpenAction(), &files_->SaveAction()});
     bar_->addSeparator();
-    commands_->UndoAction().setIcon(style()->standardIcon(QStyle::SP_ArrowBack));
-    commands_->RedoAction().setIcon(style()->standardIcon(QStyle::SP_ArrowForward));
     bar_->addActions({&commands_->UndoAction(), &commands_->RedoAction()});
     bar_->addSeparator();
     bar_->addActions({&commands_->CaptionAction(), &commands_->TabOrderAction(), runForm_});

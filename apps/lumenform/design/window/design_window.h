@@ -7,6 +7,7 @@
 #include <QTabWidget>
 #include <QToolBar>
 
+#include "apps/lumenform/design/look/legible_palette.h"
 #include "apps/lumenform/design/properties/control_messages.h"
 #include "apps/lumenform/design/window/file_menu.h"
 #include "apps/lumenform/design/window/form_commands.h"
@@ -102,6 +103,7 @@ class DesignWindow final : public QMainWindow {
     void ShowTitles();
 
     const Setup setup_;
+    const LegiblePalette palette_;
     ControlMessages messages_;
     qt::Context context_;
     RecentFiles recent_;

@@ -11,6 +11,7 @@
 #include <string>
 
 #include "apps/difference/unified_diff.h"
+#include "apps/lumenform/design/look/fitting.h"
 #include "apps/lumenform/design/model/code_page_name.h"
 #include "apps/lumenform/design/window/form_file.h"
 #include "forms/encoding.h"
@@ -96,8 +97,8 @@ void ShowDifference(QWidget& window, const forms::Document& document, const QStr
     column->addWidget(buttons);
     constexpr int columns = 90;
     constexpr int rows = 30;
-    dialog.resize(columns * lines->fontMetrics().averageCharWidth(),
-                  rows * lines->fontMetrics().lineSpacing());
+    ResizeWithin(dialog, {columns * lines->fontMetrics().averageCharWidth(),
+                          rows * lines->fontMetrics().lineSpacing()});
     dialog.exec();
 }
 

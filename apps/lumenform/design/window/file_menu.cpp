@@ -2,35 +2,36 @@
 
 #include <QStyle>
 
+#include "apps/lumenform/design/icons/icons.h"
 #include "apps/lumenform/design/model/code_page_name.h"
 #include "forms/known_code_pages.h"
 
 namespace lumenkit::lumenform {
 
 FileMenu::FileMenu(QWidget* parent) : QMenu(tr("&File"), parent) {
-    const auto icon = [this](QStyle::StandardPixmap pixmap) {
-        return style()->standardIcon(pixmap);
-    };
-    new_ = Add(tr("&New"), QKeySequence::New, &FileMenu::NewWanted);
-    new_->setIcon(icon(QStyle::SP_FileIcon));
-    open_ = Add(tr("&Open…"), QKeySequence::Open, &FileMenu::OpenWanted);
-    open_->setIcon(icon(QStyle::SP_DialogOpenButton));
-    recent_ = addMenu(tr("Open &recent"));
-    codePages_ = addMenu(tr("Read in code &page"));
-    encodings_ = addMenu(tr("&Write in code page"));
+    new_ = Add(QStringLiteral("document-new"), tr("&New"), QKeySequence::New, &FileMenu::NewWanted);
+    open_ = Add(QStringLiteral("document-open"), tr("&Open…"), QKeySequence::Open,
+                &FileMenu::OpenWanted);
+    recent_ = addMenu(ThemeIcon(QStringLiteral("document-open-recent")), tr("Open &recent"));
+    codePages_ = addMenu(ThemeIcon(QStringLiteral("character-set")), tr("Read in code &page"));
+    encodings_ = addMenu(ThemeIcon(QStringLiteral("document-edit")), tr("&Write in code page"));
     AddCodePages(*codePages_, &FileMenu::CodePageWanted);
     AddCodePages(*encodings_, &FileMenu::EncodingWanted);
     addSeparator();
-    save_ = Add(tr("&Save"), QKeySequence::Save, &FileMenu::SaveWanted);
-    save_->setIcon(icon(QStyle::SP_DialogSaveButton));
-    saveAs_ = Add(tr("Save &as…"), Qt::CTRL | Qt::SHIFT | Qt::Key_S, &FileMenu::SaveAsWanted);
+    save_ = Add(QStringLiteral("document-save"), tr("&Save"), QKeySequence::Save,
+                &FileMenu::SaveWanted);
+    saveAs_ = Add(QStringLiteral("document-save-as"), tr("Save &as…"),
+                  Qt::CTRL | Qt::SHIFT | Qt::Key_S, &FileMenu::SaveAsWanted);
     addSeparator();
-    close_ = Add(tr("&Close the form"), QKeySequence::Close, &FileMenu::CloseWanted);
-    Add(tr("&Quit"), Qt::CTRL | Qt::Key_Q, &FileMenu::QuitWanted);
+    close_ = Add(QStringLiteral("document-close"), tr("&Close the form"), QKeySequence::Close,
+                 &FileMenu::CloseWanted);
+    Add(QStringLiteral("application-exit"), tr("&Quit"), Qt::CTRL | Qt::Key_Q,
+        &FileMenu::QuitWanted);
 }
 
-QAction* FileMenu::Add(const QString& title, const QKeySequence& keys, void (FileMenu::*wanted)()) {
-    QAction* const action = addAction(title, this, wanted);
+QAction* FileMenu::Add(const QString& icon, const QString& title, const QKeySequence& keys,
+                       void (FileMenu::*wanted)()) {
+    QAction* const action = addAction(ThemeIcon(icon), title, this, wanted);
     action->setShortcut(keys);
     return action;
 }
@@ -56,7 +57,8 @@ void FileMenu::ShowRecent(const QStringList& paths) {
                            [this, path] { Q_EMIT RecentWanted(path); });
     }
     recent_->addSeparator();
-    recent_->addAction(tr("&Clear the list"), this, &FileMenu::RecentCleared);
+    recent_->addAction(ThemeIcon(QStringLiteral("edit-clear-history")), tr("&Clear the list"), this,
+                       &FileMenu::RecentCleared);
     recent_->setEnabled(!paths.isEmpty());
 }
 

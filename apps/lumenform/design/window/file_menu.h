@@ -45,7 +45,8 @@ class FileMenu final : public QMenu {
     void QuitWanted();
 
  private:
-    QAction* Add(const QString& title, const QKeySequence& keys, void (FileMenu::*wanted)());
+    QAction* Add(const QString& icon, const QString& title, const QKeySequence& keys,
+                 void (FileMenu::*wanted)());
     void AddCodePages(QMenu& menu, void (FileMenu::*wanted)(int));
 
     QAction* new_ = nullptr;

@@ -8,6 +8,7 @@
 #include <array>
 
 #include "apps/lumenform/design/canvas/selection.h"
+#include "apps/lumenform/design/icons/icons.h"
 #include "apps/lumenform/design/model/arrange.h"
 #include "apps/lumenform/design/model/clipboard.h"
 #include "apps/lumenform/design/model/containers.h"
@@ -62,9 +63,10 @@ FormCommands::FormCommands(QWidget& window)
     Update();
 }
 
-QAction* FormCommands::Add(QMenu& menu, const QString& title, const QKeySequence& keys, Needs needs,
+QAction* FormCommands::Add(QMenu& menu, const QString& icon, const QString& title,
+                           const QKeySequence& keys, Needs needs,
                            const std::function<void(Workbench&)>& run) {
-    QAction* const action = menu.addAction(title, this, [this, run] {
+    QAction* const action = menu.addAction(ThemeIcon(icon), title, this, [this, run] {
         if (workbench_ != nullptr && workbench_->FinishEditing()) {
             workbench_->Try([&] { run(*workbench_); });
         }
@@ -79,16 +81,17 @@ void FormCommands::FillEdit() {
     edit_->addSeparator();
     AddClipboardCommands();
     edit_->addSeparator();
-    caption_ = Add(*edit_, tr("Ca&ption…"), Qt::CTRL | Qt::Key_Return, Needs::Page,
-                   [](Workbench& bench) { bench.Properties().EditWithPage(); });
+    caption_ = Add(*edit_, QStringLiteral("draw-text"), tr("Ca&ption…"), Qt::CTRL | Qt::Key_Return,
+                   Needs::Page, [](Workbench& bench) { bench.Properties().EditWithPage(); });
     caption_->setToolTip(tr("Edit the caption with its markup and a live preview"));
-    Add(*edit_, tr("P&roperties"), Qt::Key_F4, Needs::Form,
+    Add(*edit_, QStringLiteral("document-properties"), tr("P&roperties"), Qt::Key_F4, Needs::Form,
         [](Workbench& bench) { bench.Properties().Table().setFocus(); });
-    QAction* const menus = Add(*edit_, tr("&Menus…"), Qt::CTRL | Qt::Key_E, Needs::Menus,
-                               [](Workbench& bench) { bench.EditMenus(); });
+    QAction* const menus =
+        Add(*edit_, QStringLiteral("application-menu"), tr("&Menus…"), Qt::CTRL | Qt::Key_E,
+            Needs::Menus, [](Workbench& bench) { bench.EditMenus(); });
     menus->setToolTip(tr("Add, edit and rearrange the menus of the form"));
-    tabOrder_ = Add(*edit_, tr("Ta&b order"), Qt::CTRL | Qt::Key_T, Needs::Form,
-                    [this](const Workbench& bench) {
+    tabOrder_ = Add(*edit_, QStringLiteral("format-list-ordered"), tr("Ta&b order"),
+                    Qt::CTRL | Qt::Key_T, Needs::Form, [this](const Workbench& bench) {
                         bench.GetCanvas().SetTabOrderMode(tabOrder_->isChecked());
                     });
     tabOrder_->setCheckable(true);
@@ -97,9 +100,11 @@ void FormCommands::FillEdit() {
 
 // Qt's own actions for the history have no access keys.
 void FormCommands::AddHistoryCommands() {
-    undo_ = edit_->addAction(tr("&Undo"));
+    undo_ = edit_->addAction(ThemeIcon(QStringLiteral("edit-undo")), tr("&Undo"));
+    undo_->setIconText(tr("Undo"));
     undo_->setShortcut(QKeySequence::Undo);
-    redo_ = edit_->addAction(tr("R&edo"));
+    redo_ = edit_->addAction(ThemeIcon(QStringLiteral("edit-redo")), tr("R&edo"));
+    redo_->setIconText(tr("Redo"));
     QList<QKeySequence> redoKeys = {QKeySequence(QKeySequence::Redo)};
     if (const QKeySequence usual(Qt::CTRL | Qt::Key_Y); !redoKeys.contains(usual)) {
         redoKeys.append(usual);  // the same keys twice would be ambiguous
@@ -130,40 +135,56 @@ void FormCommands::FinishEditingBefore(const QAction& action, void (QUndoGroup::
 }
 
 void FormCommands::AddClipboardCommands() {
-    Add(*edit_, tr("Cu&t"), QKeySequence::Cut, Needs::Selection, Cut);
-    Add(*edit_, tr("&Copy"), QKeySequence::Copy, Needs::Selection, Copy);
-    Add(*edit_, tr("&Paste"), QKeySequence::Paste, Needs::Clipboard, PasteHere);
-    Add(*edit_, tr("Dup&licate"), Qt::CTRL | Qt::Key_D, Needs::Selection, Duplicate);
-    Add(*edit_, tr("&Delete"), QKeySequence::Delete, Needs::Object,
+    Add(*edit_, QStringLiteral("edit-cut"), tr("Cu&t"), QKeySequence::Cut, Needs::Selection, Cut);
+    Add(*edit_, QStringLiteral("edit-copy"), tr("&Copy"), QKeySequence::Copy, Needs::Selection,
+        Copy);
+    Add(*edit_, QStringLiteral("edit-paste"), tr("&Paste"), QKeySequence::Paste, Needs::Clipboard,
+        PasteHere);
+    Add(*edit_, QStringLiteral("edit-clone"), tr("Dup&licate"), Qt::CTRL | Qt::Key_D,
+        Needs::Selection, Duplicate);
+    Add(*edit_, QStringLiteral("edit-delete"), tr("&Delete"), QKeySequence::Delete, Needs::Object,
         [](Workbench& bench) { DeleteSelected(bench.GetDesign()); });
-    Add(*edit_, tr("Select &all"), QKeySequence::SelectAll, Needs::Form,
-        [](Workbench& bench) { SelectAll(bench.GetDesign()); });
+    Add(*edit_, QStringLiteral("edit-select-all"), tr("Select &all"), QKeySequence::SelectAll,
+        Needs::Form, [](Workbench& bench) { SelectAll(bench.GetDesign()); });
 }
 
 void FormCommands::FillFormat() {
     AddAlignments();
-    QMenu* const size = format_->addMenu(tr("Make the same &size"));
-    const auto addSize = [&](const QString& title, Dimension dimension) {
-        Add(*size, title, {}, Needs::Two,
+    QMenu* const size =
+        format_->addMenu(ThemeIcon(QStringLiteral("transform-scale")), tr("Make the same &size"));
+    const auto addSize = [&](const QString& icon, const QString& title, Dimension dimension) {
+        Add(*size, icon, title, {}, Needs::Two,
             [dimension](Workbench& bench) { MakeSameSize(bench.GetDesign(), dimension); });
     };
-    addSize(tr("&Width"), Dimension::Width);
-    addSize(tr("&Height"), Dimension::Height);
-    addSize(tr("&Both"), Dimension::Both);
-    QMenu* const center = format_->addMenu(tr("&Center in the form"));
-    QMenu* const space = format_->addMenu(tr("S&pace evenly"));
-    const std::array ways{std::pair(tr("&Horizontally"), Qt::Horizontal),
-                          std::pair(tr("&Vertically"), Qt::Vertical)};
-    for (const auto& [title, orientation] : ways) {
-        const Qt::Orientation way = orientation;
-        Add(*center, title, {}, Needs::Selection,
+    addSize(QStringLiteral("zoom-fit-width"), tr("&Width"), Dimension::Width);
+    addSize(QStringLiteral("zoom-fit-height"), tr("&Height"), Dimension::Height);
+    addSize(QStringLiteral("zoom-fit-best"), tr("&Both"), Dimension::Both);
+    QMenu* const center = format_->addMenu(ThemeIcon(QStringLiteral("align-vertical-center")),
+                                           tr("&Center in the form"));
+    QMenu* const space =
+        format_->addMenu(ThemeIcon(QStringLiteral("distribute-horizontal")), tr("S&pace evenly"));
+    struct Way {
+        QString title;
+        Qt::Orientation orientation;
+        QString center;
+        QString space;
+    };
+    const std::array ways{
+        Way{tr("&Horizontally"), Qt::Horizontal, QStringLiteral("align-horizontal-center"),
+            QStringLiteral("distribute-horizontal")},
+        Way{tr("&Vertically"), Qt::Vertical, QStringLiteral("align-vertical-center"),
+            QStringLiteral("distribute-vertical")}};
+    for (const Way& each : ways) {
+        const Qt::Orientation way = each.orientation;
+        Add(*center, each.center, each.title, {}, Needs::Selection,
             [way](Workbench& bench) { CenterOnContainer(bench.GetDesign(), way); });
-        Add(*space, title, {}, Needs::Three,
+        Add(*space, each.space, each.title, {}, Needs::Three,
             [way](Workbench& bench) { SpaceEvenly(bench.GetDesign(), way); });
     }
-    Add(*format_, tr("Size to &grid"), {}, Needs::Selection,
+    Add(*format_, QStringLiteral("grid-rectangular"), tr("Size to &grid"), {}, Needs::Selection,
         [](Workbench& bench) { SizeToGrid(bench.GetDesign(), bench.GetCanvas().GetGrid().step); });
-    QAction* const reveal = Add(*format_, tr("Bring into &view"), {}, Needs::OutOfView, Reveal);
+    QAction* const reveal = Add(*format_, QStringLiteral("view-visible"), tr("Bring into &view"),
+                                {}, Needs::OutOfView, Reveal);
     reveal->setToolTip(
         tr("Move the selected controls inside the form and their containers, or "
            "without a selection all controls that are out of view"));
@@ -172,25 +193,26 @@ void FormCommands::FillFormat() {
 }
 
 void FormCommands::AddAlignments() {
-    QMenu* const align = format_->addMenu(tr("&Align"));
-    const auto add = [&](const QString& title, Alignment alignment) {
-        Add(*align, title, {}, Needs::Two,
+    QMenu* const align =
+        format_->addMenu(ThemeIcon(QStringLiteral("align-horizontal-left")), tr("&Align"));
+    const auto add = [&](const QString& icon, const QString& title, Alignment alignment) {
+        Add(*align, icon, title, {}, Needs::Two,
             [alignment](Workbench& bench) { Align(bench.GetDesign(), alignment); });
     };
-    add(tr("&Lefts"), Alignment::Left);
-    add(tr("&Centers"), Alignment::Center);
-    add(tr("&Rights"), Alignment::Right);
+    add(QStringLiteral("align-horizontal-left"), tr("&Lefts"), Alignment::Left);
+    add(QStringLiteral("align-horizontal-center"), tr("&Centers"), Alignment::Center);
+    add(QStringLiteral("align-horizontal-right"), tr("&Rights"), Alignment::Right);
     align->addSeparator();
-    add(tr("&Tops"), Alignment::Top);
-    add(tr("&Middles"), Alignment::Middle);
-    add(tr("&Bottoms"), Alignment::Bottom);
+    add(QStringLiteral("align-vertical-top"), tr("&Tops"), Alignment::Top);
+    add(QStringLiteral("align-vertical-center"), tr("&Middles"), Alignment::Middle);
+    add(QStringLiteral("align-vertical-bottom"), tr("&Bottoms"), Alignment::Bottom);
 }
 
 void FormCommands::AddOrderCommands() {
-    Add(*format_, tr("Bring to &front"), Qt::CTRL | Qt::Key_J, Needs::Selection,
-        [](Workbench& bench) { BringToFront(bench.GetDesign()); });
-    Add(*format_, tr("Send to bac&k"), Qt::CTRL | Qt::Key_K, Needs::Selection,
-        [](Workbench& bench) { SendToBack(bench.GetDesign()); });
+    Add(*format_, QStringLiteral("object-order-front"), tr("Bring to &front"), Qt::CTRL | Qt::Key_J,
+        Needs::Selection, [](Workbench& bench) { BringToFront(bench.GetDesign()); });
+    Add(*format_, QStringLiteral("object-order-back"), tr("Send to bac&k"), Qt::CTRL | Qt::Key_K,
+        Needs::Selection, [](Workbench& bench) { SendToBack(bench.GetDesign()); });
 }
 
 void FormCommands::Follow(Workbench* workbench) {

@@ -43,8 +43,8 @@ class FormCommands final : public QObject {
     void AddOrderCommands();
     void FillFormat();
     void AddAlignments();
-    QAction* Add(QMenu& menu, const QString& title, const QKeySequence& keys, Needs needs,
-                 const std::function<void(Workbench&)>& run);
+    QAction* Add(QMenu& menu, const QString& icon, const QString& title, const QKeySequence& keys,
+                 Needs needs, const std::function<void(Workbench&)>& run);
     bool IsThere(Needs needs) const;
     void Update();
 

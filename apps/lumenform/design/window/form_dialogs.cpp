@@ -7,6 +7,8 @@
 #include <QPushButton>
 #include <algorithm>
 
+#include "apps/lumenform/design/look/fitting.h"
+
 namespace lumenkit::lumenform {
 
 namespace {
@@ -32,12 +34,20 @@ bool AskWhetherToReplace(QWidget& window, const QString& path) {
     return box.clickedButton() == replace;
 }
 
+// Qt's own dialog may be larger than a small screen.
+QStringList Chosen(QFileDialog& dialog) {
+    ResizeWithin(dialog, dialog.sizeHint());
+    return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles() : QStringList();
+}
+
 }  // namespace
 
 QStringList AskForFormsToOpen(QWidget& window, const QString& folder) {
-    return QFileDialog::getOpenFileNames(
+    QFileDialog dialog(
         &window, FormDialogs::tr("Open forms"), folder,
         FormDialogs::tr("Forms (*.frm *.ctl *.pag *.dob *.FRM *.CTL *.PAG *.DOB);;All files (*)"));
+    dialog.setFileMode(QFileDialog::ExistingFiles);
+    return Chosen(dialog);
 }
 
 QString AskForPlaceToSave(QWidget& window, const QString& proposed) {
@@ -50,8 +60,13 @@ QString AskForPlaceToSave(QWidget& window, const QString& proposed) {
     const qsizetype own = std::max<qsizetype>(Extensions().indexOf(extension.toLower()), 0);
     filters.move(own, 0);
     filters.append(FormDialogs::tr("All files (*)"));
-    QString path = QFileDialog::getSaveFileName(&window, FormDialogs::tr("Save the form"), proposed,
-                                                filters.join(QStringLiteral(";;")));
+    const QFileInfo place(proposed);
+    const QString folder = place.isAbsolute() ? place.path() : QString();
+    QFileDialog dialog(&window, FormDialogs::tr("Save the form"), folder,
+                       filters.join(QStringLiteral(";;")));
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.selectFile(place.fileName());
+    QString path = Chosen(dialog).value(0);
     // Forms whose names have no other extension would share a companion.
     if (!path.isEmpty() && !Extensions().contains(QFileInfo(path).suffix().toLower())) {
         extension = extension.isEmpty() ? QStringLiteral("frm") : extension;
@@ -123,12 +138,13 @@ WorkAnswer AskAboutAbandonedWork(QWidget& window, const QStringList& work) {
 
 // No button has the access key of the question before: the same key twice discards nothing.
 bool ConfirmsDiscarding(QWidget& window, int count) {
-    QMessageBox box(QMessageBox::Warning, Translated("Remove the unsaved work?"),
+    QMessageBox box(QMessageBox::Warning, FormDialogs::tr("Remove the unsaved work?"),
                     QCoreApplication::translate(
                         "form_dialogs", "Remove %n unsaved work(s) for good?", nullptr, count),
                     QMessageBox::Cancel, &window);
-    box.setInformativeText(Translated("It cannot be brought back."));
-    const QPushButton* const remove = box.addButton(Translated("&Remove"), QMessageBox::AcceptRole);
+    box.setInformativeText(FormDialogs::tr("It cannot be brought back."));
+    const QPushButton* const remove =
+        box.addButton(FormDialogs::tr("&Remove"), QMessageBox::AcceptRole);
     box.setDefaultButton(QMessageBox::Cancel);
     box.exec();
     return box.clickedButton() == remove;

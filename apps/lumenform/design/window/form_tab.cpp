@@ -1,7 +1,10 @@
 #include "apps/lumenform/design/window/form_tab.h"
 
+#include <QApplication>
 #include <QFileInfo>
+#include <QPushButton>
 #include <QVBoxLayout>
+#include <algorithm>
 
 #include "apps/lumenform/design/code/mention_message.h"
 #include "apps/lumenform/design/window/difference_dialog.h"
@@ -293,6 +296,44 @@ void FormTab::Compare() {
     } catch (const forms::FormError& error) {
         Warn(*this, tr("%1 cannot be opened.").arg(Name()), QString::fromUtf8(error.what()));
     }
+}
+
+// Areas have no focus proxies: Tab would not reach the other widgets in them.
+std::vector<FormTab::Part> FormTab::Parts() const {
+    std::vector<Part> parts;
+    const auto addBar = [&](QWidget& bar) {
+        for (QPushButton* const button : bar.findChildren<QPushButton*>()) {
+            if (button->isVisible()) {
+                parts.push_back({&bar, button});
+                return;
+            }
+        }
+    };
+    addBar(*bar_);
+    if (ShowsCode()) {
+        parts.push_back({&code_->Procedures(), &code_->Procedures()});
+        parts.push_back({code_->Code().parentWidget(), &code_->Code()});
+    } else {
+        parts.push_back({&bench_->GetToolbox(), &bench_->GetToolbox().List()});
+        parts.push_back({&bench_->GetCanvas(), &bench_->GetCanvas().GetGlass()});
+        if (bench_->GetOutline().isVisible()) {
+            parts.push_back({&bench_->GetOutline(), &bench_->GetOutline().Tree()});
+        }
+        parts.push_back({&bench_->Properties(), &bench_->Properties().Table()});
+    }
+    addBar(*mentions_);
+    return parts;
+}
+
+void FormTab::MoveFocus(bool next) {
+    const std::vector<Part> parts = Parts();
+    const QWidget* const focus = QApplication::focusWidget();
+    const auto here = std::ranges::find_if(parts, [focus](const Part& part) {
+        return part.area == focus || (focus != nullptr && part.area->isAncestorOf(focus));
+    });
+    const std::size_t at = here == parts.end() ? 0 : static_cast<std::size_t>(here - parts.begin());
+    const std::size_t step = next ? 1 : parts.size() - 1;
+    parts[(at + step) % parts.size()].stop->setFocus(Qt::TabFocusReason);
 }
 
 void FormTab::TakeFocus() {

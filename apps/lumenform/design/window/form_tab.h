@@ -71,6 +71,9 @@ class FormTab final : public QWidget {
     MentionBar& Mentions() const { return *mentions_; }
     /// Moves the keyboard to the form or its code.
     void TakeFocus();
+    /// Moves the keyboard to the next or former part: a bar, or a part of the form's or the code's
+    /// page.
+    void MoveFocus(bool next);
     /// Keeps a copy of unsaved work now, and not only after a moment.
     void KeepCopy();
     /// Keeps a copy of recovered work with its time.
@@ -95,6 +98,12 @@ class FormTab final : public QWidget {
     void Reload();
     void KeepMine();
     bool IsFileInDoubt() const;
+    // A part of the page, and the widget in it that takes the keyboard first.
+    struct Part {
+        QWidget* area;
+        QWidget* stop;
+    };
+    std::vector<Part> Parts() const;
     void Compare();
     void FollowChanges();
     void BeginRun();

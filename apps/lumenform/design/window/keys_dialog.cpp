@@ -8,6 +8,9 @@
 #include <QVBoxLayout>
 #include <vector>
 
+#include "apps/lumenform/design/icons/icons.h"
+#include "apps/lumenform/design/look/fitting.h"
+
 namespace lumenkit::lumenform {
 
 namespace {
@@ -25,11 +28,19 @@ struct HintGroup {
 // What no menu has. The words of the keys are translated with the actions.
 const std::vector<HintGroup>& HintGroups() {
     static const std::vector<HintGroup> groups{
+        {QT_TRANSLATE_NOOP("keys", "Window"),
+         {{QT_TRANSLATE_NOOP("keys", "Open the menus"), QT_TRANSLATE_NOOP("keys", "F10")},
+          {QT_TRANSLATE_NOOP("keys", "Open the context menu"),
+           QT_TRANSLATE_NOOP("keys", "Shift+F10 or Menu")},
+          {QT_TRANSLATE_NOOP("keys",
+                             "Show or hide the event log of a form that runs in its own window"),
+           QT_TRANSLATE_NOOP("keys", "F12")}}},
         {QT_TRANSLATE_NOOP("keys", "Form"),
          {{QT_TRANSLATE_NOOP("keys", "Add a control to the selection, or remove it"),
            QT_TRANSLATE_NOOP("keys", "Shift+click or Ctrl+click")},
           {QT_TRANSLATE_NOOP("keys", "Select the next or previous control"),
            QT_TRANSLATE_NOOP("keys", "Tab, Shift+Tab")},
+          {QT_TRANSLATE_NOOP("keys", "Leave the form"), QT_TRANSLATE_NOOP("keys", "F6, Shift+F6")},
           {QT_TRANSLATE_NOOP("keys", "Select the form; cancel a drag"),
            QT_TRANSLATE_NOOP("keys", "Esc")},
           {QT_TRANSLATE_NOOP("keys", "Move by a grid step"),
@@ -63,7 +74,28 @@ const std::vector<HintGroup>& HintGroups() {
          {{QT_TRANSLATE_NOOP("keys", "Put a control into the middle of the form"),
            QT_TRANSLATE_NOOP("keys", "Enter or double click")},
           {QT_TRANSLATE_NOOP("keys", "Draw a control"),
-           QT_TRANSLATE_NOOP("keys", "click, then drag on the form")}}}};
+           QT_TRANSLATE_NOOP("keys", "click, then drag on the form")}}},
+        {QT_TRANSLATE_NOOP("keys", "Code"),
+         {{QT_TRANSLATE_NOOP("keys", "Search the code"), QT_TRANSLATE_NOOP("keys", "Ctrl+F")},
+          {QT_TRANSLATE_NOOP("keys", "Go to the next or previous hit"),
+           QT_TRANSLATE_NOOP("keys", "F3, Shift+F3")},
+          {QT_TRANSLATE_NOOP("keys", "Close the search"), QT_TRANSLATE_NOOP("keys", "Esc")}}},
+        {QT_TRANSLATE_NOOP("keys", "Dialog of the menus"),
+         {{QT_TRANSLATE_NOOP("keys", "Insert a menu"), QT_TRANSLATE_NOOP("keys", "Ins")},
+          {QT_TRANSLATE_NOOP("keys", "Delete the menu"), QT_TRANSLATE_NOOP("keys", "Del")},
+          {QT_TRANSLATE_NOOP("keys", "Move the menu"),
+           QT_TRANSLATE_NOOP("keys", "Alt+Up, Alt+Down")},
+          {QT_TRANSLATE_NOOP("keys", "Move the menu into or out of a submenu"),
+           QT_TRANSLATE_NOOP("keys", "Alt+Right, Alt+Left")}}},
+        {QT_TRANSLATE_NOOP("keys", "Dialogs of lists and texts"),
+         {{QT_TRANSLATE_NOOP("keys", "Move the item"),
+           QT_TRANSLATE_NOOP("keys", "Alt+Up, Alt+Down")},
+          {QT_TRANSLATE_NOOP("keys", "Take the text over"),
+           QT_TRANSLATE_NOOP("keys", "Ctrl+Enter")}}},
+        {QT_TRANSLATE_NOOP("keys", "Recent forms"),
+         {{QT_TRANSLATE_NOOP("keys", "Open the form"), QT_TRANSLATE_NOOP("keys", "Enter")},
+          {QT_TRANSLATE_NOOP("keys", "Remove the form from the list"),
+           QT_TRANSLATE_NOOP("keys", "Del")}}}};
     return groups;
 }
 
@@ -74,6 +106,20 @@ QString KeysText(const char* text) {
 // "&Open…" without the mnemonic and the dots.
 QString PlainTitle(QString title) {
     return title.remove(u'&').remove(QStringLiteral("…"));
+}
+
+// Qt names the two keys differently that are both labelled Enter.
+QString ShownKeys(const QAction& action) {
+    QStringList keys;
+    for (const QKeySequence& sequence : action.shortcuts()) {
+        QString text = sequence.toString(QKeySequence::NativeText);
+        if (sequence[0].key() == Qt::Key_Return) {
+            text.replace(QKeySequence(Qt::Key_Return).toString(QKeySequence::NativeText),
+                         QKeySequence(Qt::Key_Enter).toString(QKeySequence::NativeText));
+        }
+        keys.append(text);
+    }
+    return keys.join(QStringLiteral(", "));
 }
 
 void AddRow(QTreeWidgetItem& group, const QString& action, const QString& keys) {
@@ -102,10 +148,14 @@ KeysDialog::KeysDialog(const QList<QMenu*>& menus, QWidget* parent)
 void KeysDialog::LayOut() {
     search_->setPlaceholderText(tr("Search"));
     search_->setAccessibleName(tr("Search"));
+    search_->addAction(ThemeIcon(QStringLiteral("edit-find")), QLineEdit::LeadingPosition);
     search_->setClearButtonEnabled(true);
     keys_->setAccessibleName(tr("Keys and mouse"));
     keys_->setHeaderLabels({tr("Action"), tr("Keys")});
     keys_->setRootIsDecorated(false);
+    keys_->header()->setStretchLastSection(false);
+    keys_->header()->setSectionResizeMode(0, QHeaderView::Stretch);
+    keys_->header()->setSectionResizeMode(1, QHeaderView::ResizeToContents);
     keys_->setAlternatingRowColors(true);
     auto* const buttons = new QDialogButtonBox(QDialogButtonBox::Close, this);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
@@ -122,9 +172,10 @@ void KeysDialog::FitColumns() {
         keys_->resizeColumnToContents(column);
         width += keys_->columnWidth(column);
     }
-    keys_->setMinimumWidth(width);
     constexpr int lines = 30;
-    resize(sizeHint().width(), lines * fontMetrics().height());
+    const int wide =
+        width + layout()->contentsMargins().left() + layout()->contentsMargins().right();
+    ResizeWithin(*this, {wide, lines * fontMetrics().height()});
 }
 
 QTreeWidgetItem& KeysDialog::AddGroup(const QString& title) {
@@ -140,10 +191,9 @@ void KeysDialog::AddCommands(const QMenu& menu, QTreeWidgetItem& group) {
     for (const QAction* const action : menu.actions()) {
         if (action->menu() != nullptr) {
             AddCommands(*action->menu(), group);
-        } else if (!action->shortcuts().isEmpty()) {
-            AddRow(group, PlainTitle(action->text()),
-                   QKeySequence::listToString(action->shortcuts(), QKeySequence::NativeText)
-                       .replace(QStringLiteral("; "), QStringLiteral(", ")));
+        } else if (!action->shortcuts().isEmpty() && !listed_.contains(action)) {
+            listed_.insert(action);
+            AddRow(group, PlainTitle(action->iconText()), ShownKeys(*action));
         }
     }
 }

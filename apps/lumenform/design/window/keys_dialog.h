@@ -3,6 +3,7 @@
 #include <QDialog>
 #include <QLineEdit>
 #include <QList>
+#include <QSet>
 #include <QTreeWidget>
 
 class QMenu;
@@ -31,6 +32,7 @@ class KeysDialog final : public QDialog {
 
     QLineEdit* search_;
     QTreeWidget* keys_;
+    QSet<const QAction*> listed_;  // an action can be in two menus
 };
 
 }  // namespace lumenkit::lumenform

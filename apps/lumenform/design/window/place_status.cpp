@@ -37,6 +37,7 @@ PlaceStatus::PlaceStatus(QMenu& encodings, QMenu& zooms, QWidget* parent)
     addPermanentWidget(pointer_);
     addPermanentWidget(zoom_);
     addPermanentWidget(codePage_);
+    codePage_->hide();
     pointer_->setMinimumWidth(fontMetrics().horizontalAdvance(tr("%1, %2").arg(99999).arg(99999)));
 }
 
@@ -59,6 +60,7 @@ void PlaceStatus::Follow(Workbench* workbench) {
         connect(&workbench->GetCanvas(), &Canvas::PointerLeft, pointer_, &QLabel::clear);
         connect(&workbench->GetCanvas(), &Canvas::ZoomChanged, this, &PlaceStatus::ShowZoom);
     }
+    codePage_->setVisible(workbench != nullptr);
     ShowSelection();
     ShowCodePage();
     ShowZoom();

@@ -7,6 +7,8 @@
 #include <QMenu>
 #include <QPainter>
 
+#include "apps/lumenform/design/icons/icons.h"
+#include "apps/lumenform/design/icons/menu_style.h"
 #include "apps/lumenform/design/window/class_icon.h"
 
 namespace lumenkit::lumenform {
@@ -140,8 +142,11 @@ void RecentForms::contextMenuEvent(QContextMenuEvent* event) {
     }
     const QString path = PathOf(*item);
     QMenu menu(this);
-    menu.addAction(tr("&Open"), this, [this, path] { Q_EMIT OpenWanted(path); });
-    menu.addAction(tr("&Remove from the list"), this, [this, path] { Q_EMIT ForgetWanted(path); });
+    MenuStyle::UseFor(menu);
+    menu.addAction(ThemeIcon(QStringLiteral("document-open")), tr("&Open"), this,
+                   [this, path] { Q_EMIT OpenWanted(path); });
+    menu.addAction(ThemeIcon(QStringLiteral("list-remove")), tr("&Remove from the list"), this,
+                   [this, path] { Q_EMIT ForgetWanted(path); });
     menu.exec(event->reason() == QContextMenuEvent::Mouse
                   ? event->globalPos()
                   : viewport()->mapToGlobal(visualItemRect(item).center()));

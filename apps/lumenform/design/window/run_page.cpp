@@ -7,6 +7,8 @@
 #include <QSplitter>
 #include <QVBoxLayout>
 
+#include "apps/lumenform/design/icons/icons.h"
+
 namespace lumenkit::lumenform {
 
 RunPage::RunPage(const qt::Context& context, const forms::Document& design, QWidget* parent)
@@ -42,7 +44,8 @@ QWidget* RunPage::MakeBanner() const {
     auto* const banner = new QWidget;
     auto* const row = new QHBoxLayout(banner);
     row->addWidget(new QLabel(tr("The form is running. Changes made here are not saved.")), 1);
-    auto* const back = new QPushButton(tr("Back to the design (F5)"));
+    auto* const back = new QPushButton(ThemeIcon(QStringLiteral("media-playback-stop")),
+                                       tr("Back to the design (F5)"));
     back->setFocusPolicy(Qt::TabFocus);
     connect(back, &QAbstractButton::clicked, this, &RunPage::BackWanted);
     row->addWidget(back);

@@ -5,6 +5,8 @@
 #include <QLabel>
 #include <QVBoxLayout>
 
+#include "apps/lumenform/design/icons/icons.h"
+
 namespace lumenkit::lumenform {
 
 namespace {
@@ -46,7 +48,13 @@ StartPage::StartPage(QWidget* parent)
 }
 
 void StartPage::AddHeading(QVBoxLayout& column) {
-    column.addWidget(Heading(tr("lumenform"), 2));
+    const int iconSide = 2 * fontMetrics().height();
+    auto* const icon = new QLabel;
+    icon->setPixmap(ProgramIcon().pixmap({iconSide, iconSide}, devicePixelRatioF()));
+    auto* const row = new QHBoxLayout;
+    row->addWidget(icon);
+    row->addWidget(Heading(tr("lumenform"), 2), 1);
+    column.addLayout(row);
     column.addWidget(Paragraph(
         tr("Designs and runs forms with the controls of lumenkit. Open a form to see it as its "
            "users do and to change its controls. Unchanged parts of the form are saved byte for "
@@ -58,9 +66,11 @@ void StartPage::AddChoices(QVBoxLayout& column) {
     auto* const open = new QCommandLinkButton(
         tr("&Open a form"),
         tr("A form file (.frm, .ctl, .pag, .dob). You can also drop a file on this window."));
+    open->setIcon(ThemeIcon(QStringLiteral("document-open")));
     connect(open, &QAbstractButton::clicked, this, &StartPage::OpenWanted);
     auto* const fresh = new QCommandLinkButton(
         tr("&New form"), tr("An empty form. Choose a control in the toolbox and draw it."));
+    fresh->setIcon(ThemeIcon(QStringLiteral("document-new")));
     connect(fresh, &QAbstractButton::clicked, this, &StartPage::NewWanted);
     auto* const choices = new QHBoxLayout;
     for (QCommandLinkButton* const button : {open, fresh}) {

@@ -1,8 +1,11 @@
 #include "apps/lumenform/design/window/toolbox.h"
 
 #include <QKeyEvent>
+#include <QMenu>
 #include <QVBoxLayout>
 
+#include "apps/lumenform/design/icons/icons.h"
+#include "apps/lumenform/design/icons/menu_style.h"
 #include "apps/lumenform/design/model/naming.h"
 #include "apps/lumenform/design/model/new_control.h"
 #include "apps/lumenform/design/window/class_icon.h"
@@ -37,6 +40,7 @@ Toolbox::Toolbox(const FormDesign& design, QWidget* parent)
             Q_EMIT Chosen(ClassOf(*item));
         }
     });
+    connect(list_, &QWidget::customContextMenuRequested, this, &Toolbox::OpenMenu);
     connect(list_, &QListWidget::itemDoubleClicked, this, [this](const QListWidgetItem* item) {
         if (!ClassOf(*item).isEmpty()) {
             Q_EMIT PutDown(ClassOf(*item));
@@ -48,11 +52,13 @@ void Toolbox::LayOut() {
     constexpr int margin = 4;
     search_->setPlaceholderText(tr("Search the toolbox"));
     search_->setAccessibleName(tr("Search the toolbox"));
+    search_->addAction(ThemeIcon(QStringLiteral("edit-find")), QLineEdit::LeadingPosition);
     search_->setClearButtonEnabled(true);
     search_->installEventFilter(this);
     list_->setAccessibleName(tr("Toolbox"));
     list_->setUniformItemSizes(true);
     list_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    list_->setContextMenuPolicy(Qt::CustomContextMenu);
     list_->installEventFilter(this);
     const int text = fontMetrics().height();
     list_->setIconSize(QSize(text, text) * 5 / 4);
@@ -61,7 +67,6 @@ void Toolbox::LayOut() {
     layout->setSpacing(margin);
     layout->addWidget(search_);
     layout->addWidget(list_);
-    setFocusProxy(list_);
 }
 
 // ---- Rows
@@ -143,6 +148,21 @@ void Toolbox::changeEvent(QEvent* event) {
             Colour(*list_->item(row));
         }
     }
+}
+
+void Toolbox::OpenMenu(QPoint at) {
+    const QListWidgetItem* const item = list_->itemAt(at);
+    if (item == nullptr || ClassOf(*item).isEmpty()) {
+        return;
+    }
+    auto* const menu = new QMenu(this);
+    menu->setAttribute(Qt::WA_DeleteOnClose);
+    menu->addAction(tr("&Draw on the form"), this,
+                    [this, name = ClassOf(*item)] { Q_EMIT Chosen(name); });
+    menu->addAction(ThemeIcon(QStringLiteral("list-add")), tr("&Put into the middle of the form"),
+                    this, [this, name = ClassOf(*item)] { Q_EMIT PutDown(name); });
+    MenuStyle::UseFor(*menu);
+    menu->popup(list_->viewport()->mapToGlobal(at));
 }
 
 // ---- Keyboard

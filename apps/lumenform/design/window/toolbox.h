@@ -38,6 +38,7 @@ class Toolbox final : public QWidget {
 
  private:
     void LayOut();
+    void OpenMenu(QPoint at);
     void AddOffered();
     void FollowForm();
     void AddHeading(const QString& text);

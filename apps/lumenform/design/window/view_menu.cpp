@@ -3,6 +3,8 @@
 #include <QActionGroup>
 #include <array>
 
+#include "apps/lumenform/design/icons/icons.h"
+
 namespace lumenkit::lumenform {
 
 namespace {
@@ -47,9 +49,9 @@ ViewMenu::ViewMenu(QSettings& settings, QWidget* parent)
     : QMenu(tr("&View"), parent),
       settings_(settings),
       grid_(Stored(settings)),
-      code_(addAction(tr("&Code"))),
-      form_(addAction(tr("&Form"))),
-      outline_(addAction(tr("&Outline"))),
+      code_(addAction(ThemeIcon(QStringLiteral("code-context")), tr("&Code"))),
+      form_(addAction(ThemeIcon(QStringLiteral("view-form")), tr("&Form"))),
+      outline_(addAction(ThemeIcon(QStringLiteral("view-list-tree")), tr("&Outline"))),
       zoom_(new ZoomMenu(this)) {
     code_->setShortcut(Qt::Key_F7);
     code_->setToolTip(tr("The code of the form, at the first procedure of the selected control"));
@@ -57,7 +59,6 @@ ViewMenu::ViewMenu(QSettings& settings, QWidget* parent)
     connect(code_, &QAction::triggered, this, &ViewMenu::CodeWanted);
     connect(form_, &QAction::triggered, this, &ViewMenu::FormWanted);
     insertSeparator(outline_);
-    SetPage(Page::None);
     outline_->setToolTip(tr("The tree of the form's objects"));
     outline_->setCheckable(true);
     outline_->setChecked(settings.value(OutlineKey(), true).toBool());
@@ -69,7 +70,16 @@ ViewMenu::ViewMenu(QSettings& settings, QWidget* parent)
     rulers_->setChecked(settings.value(RulersKey(), false).toBool());
     connect(rulers_, &QAction::toggled, this, &ViewMenu::ShowRulers);
     addSeparator();
-    QAction* const shown = addAction(tr("Show the &grid"));
+    nextPart_ = addAction(ThemeIcon(QStringLiteral("go-next")), tr("&Next part of the window"),
+                          this, [this] { Q_EMIT PartWanted(true); });
+    nextPart_->setShortcut(Qt::Key_F6);
+    formerPart_ =
+        addAction(ThemeIcon(QStringLiteral("go-previous")), tr("&Previous part of the window"),
+                  this, [this] { Q_EMIT PartWanted(false); });
+    formerPart_->setShortcut(Qt::SHIFT | Qt::Key_F6);
+    SetPage(Page::None);
+    addSeparator();
+    QAction* const shown = addAction(ThemeIcon(QStringLiteral("view-grid")), tr("Show the &grid"));
     shown->setCheckable(true);
     shown->setChecked(grid_.isShown);
     connect(shown, &QAction::toggled, this, [this](bool on) {
@@ -77,7 +87,7 @@ ViewMenu::ViewMenu(QSettings& settings, QWidget* parent)
         grid.isShown = on;
         Change(grid);
     });
-    QAction* const snaps = addAction(tr("&Snap to the grid"));
+    QAction* const snaps = addAction(ThemeIcon(QStringLiteral("snap")), tr("&Snap to the grid"));
     snaps->setToolTip(tr("Hold Alt while dragging to ignore the grid"));
     snaps->setCheckable(true);
     snaps->setChecked(grid_.snaps);
@@ -87,7 +97,8 @@ ViewMenu::ViewMenu(QSettings& settings, QWidget* parent)
         Change(grid);
     });
     AddSteps();
-    QAction* const guides = addAction(tr("Snap to &other controls"));
+    QAction* const guides = addAction(ThemeIcon(QStringLiteral("snap-bounding-box-edges")),
+                                      tr("Snap to &other controls"));
     guides->setToolTip(
         tr("A dragged edge or baseline stops at those of the controls beside it; "
            "hold Alt to ignore them"));
@@ -101,7 +112,7 @@ ViewMenu::ViewMenu(QSettings& settings, QWidget* parent)
 }
 
 void ViewMenu::AddSteps() {
-    QMenu* const menu = addMenu(tr("Grid s&tep"));
+    QMenu* const menu = addMenu(ThemeIcon(QStringLiteral("grid-rectangular")), tr("Grid s&tep"));
     auto* const group = new QActionGroup(menu);
     for (const int step : steps) {
         QAction* const action = menu->addAction(tr("%1 twips").arg(step));
@@ -129,6 +140,8 @@ void ViewMenu::SetPage(Page page) {
     code_->setEnabled(page == Page::Form);
     form_->setEnabled(page == Page::Code);
     zoom_->Follow(page == Page::Form && workbench_ != nullptr ? &workbench_->GetCanvas() : nullptr);
+    nextPart_->setEnabled(page != Page::None);
+    formerPart_->setEnabled(page != Page::None);
 }
 
 void ViewMenu::ShowOutline(bool on) {

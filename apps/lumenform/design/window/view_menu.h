@@ -29,6 +29,8 @@ class ViewMenu final : public QMenu {
  Q_SIGNALS:
     void CodeWanted();
     void FormWanted();
+    /// Requests to move the keyboard to the next or former part of the window.
+    void PartWanted(bool next);
 
  private:
     void AddSteps();
@@ -43,6 +45,8 @@ class ViewMenu final : public QMenu {
     QAction* outline_;
     ZoomMenu* zoom_;
     QAction* rulers_ = nullptr;
+    QAction* nextPart_ = nullptr;
+    QAction* formerPart_ = nullptr;
     Workbench* workbench_ = nullptr;
 };
 

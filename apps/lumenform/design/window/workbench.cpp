@@ -81,6 +81,8 @@ void Workbench::LayOut() {
     constexpr int toolboxLetters = 25;
     constexpr int propertiesLetters = 50;
     const int letter = fontMetrics().averageCharWidth();
+    constexpr int canvasLetters = 22;  // on a small screen
+    canvas_->setMinimumWidth(canvasLetters * letter);
     addWidget(toolbox_);
     addWidget(canvas_);
     auto* const column = new QSplitter(Qt::Vertical);

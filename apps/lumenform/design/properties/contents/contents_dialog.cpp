@@ -5,6 +5,8 @@
 #include <QScrollArea>
 #include <algorithm>
 
+#include "apps/lumenform/design/icons/icons.h"
+#include "apps/lumenform/design/look/fitting.h"
 #include "apps/lumenform/design/properties/encoding_offer.h"
 #include "apps/lumenform/design/properties/writable_text.h"
 #include "runtime/qt/qt_text.h"
@@ -59,12 +61,13 @@ void ContentsDialog::LayOut() {
     layout->addWidget(buttons_);
     constexpr int columns = 90;
     constexpr int lines = 20;
-    resize(fontMetrics().averageCharWidth() * columns, fontMetrics().height() * lines);
+    ResizeWithin(*this,
+                 {fontMetrics().averageCharWidth() * columns, fontMetrics().height() * lines});
 }
 
-QPushButton* ContentsDialog::AddAction(QVBoxLayout& actions, const QString& text,
-                                       const std::function<void()>& action) {
-    auto* const button = new QPushButton(text, this);
+QPushButton* ContentsDialog::AddAction(QVBoxLayout& actions, const QString& icon,
+                                       const QString& text, const std::function<void()>& action) {
+    auto* const button = new QPushButton(ThemeIcon(icon), text, this);
     button->setAutoDefault(false);
     connect(button, &QPushButton::clicked, this, action);
     actions.addWidget(button);
@@ -73,14 +76,17 @@ QPushButton* ContentsDialog::AddAction(QVBoxLayout& actions, const QString& text
 
 QVBoxLayout* ContentsDialog::Actions() {
     auto* const actions = new QVBoxLayout;
-    AddAction(*actions, tr("&Add"), [this] { table_->AddRow(); });
-    remove_ = AddAction(*actions, tr("&Remove"), [this] { table_->RemoveRow(); });
-    up_ = AddAction(*actions, tr("Move &up"), [this] { table_->MoveRow(-1); });
-    down_ = AddAction(*actions, tr("Move &down"), [this] { table_->MoveRow(1); });
+    AddAction(*actions, QStringLiteral("list-add"), tr("&Add"), [this] { table_->AddRow(); });
+    remove_ = AddAction(*actions, QStringLiteral("list-remove"), tr("&Remove"),
+                        [this] { table_->RemoveRow(); });
+    up_ = AddAction(*actions, QStringLiteral("go-up"), tr("Move &up"),
+                    [this] { table_->MoveRow(-1); });
+    down_ = AddAction(*actions, QStringLiteral("go-down"), tr("Move &down"),
+                      [this] { table_->MoveRow(1); });
     up_->setToolTip(tr("Alt+Up"));
     down_->setToolTip(tr("Alt+Down"));
     actions->addStretch();
-    AddAction(*actions, tr("As &text..."), [this] {
+    AddAction(*actions, QStringLiteral("document-edit"), tr("As &text..."), [this] {
         const QString contents = qt::ToQString(Result());
         reject();
         Q_EMIT TextWanted(contents);

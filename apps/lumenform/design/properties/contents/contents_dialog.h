@@ -41,7 +41,7 @@ class ContentsDialog final : public QDialog {
  private:
     void LayOut();
     QVBoxLayout* Actions();
-    QPushButton* AddAction(QVBoxLayout& actions, const QString& text,
+    QPushButton* AddAction(QVBoxLayout& actions, const QString& icon, const QString& text,
                            const std::function<void()>& action);
     void Update();
     void ShowPreview();

@@ -10,6 +10,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "apps/lumenform/design/icons/icons.h"
 #include "apps/lumenform/design/model/refusal.h"
 #include "apps/lumenform/design/properties/pictures/picture_format.h"
 #include "forms/path_names.h"
@@ -36,9 +37,10 @@ PictureDialog::PictureDialog(const Text& property, Text picture, QWidget* parent
       picture_(std::move(picture)),
       preview_(new QLabel(this)),
       description_(new QLabel(this)),
-      load_(new QPushButton(tr("&Load..."), this)),
-      save_(new QPushButton(tr("&Save as..."), this)),
-      clear_(new QPushButton(tr("&Clear"), this)),
+      load_(new QPushButton(ThemeIcon(QStringLiteral("document-open")), tr("&Load..."), this)),
+      save_(
+          new QPushButton(ThemeIcon(QStringLiteral("document-save-as")), tr("&Save as..."), this)),
+      clear_(new QPushButton(ThemeIcon(QStringLiteral("edit-clear")), tr("&Clear"), this)),
       notice_(new Notice(this)) {
     setWindowTitle(qt::ToQString(property));
     connect(load_, &QPushButton::clicked, this, &PictureDialog::ChooseFile);
@@ -57,6 +59,7 @@ void PictureDialog::LayOut() {
     preview_->setAccessibleName(tr("Picture"));
     auto* const scrolled = new QScrollArea(this);
     scrolled->setWidget(preview_);
+    scrolled->setAccessibleName(tr("Picture"));
     scrolled->setWidgetResizable(true);
     scrolled->setMinimumSize(fontMetrics().averageCharWidth() * 36, fontMetrics().height() * 9);
     auto* const actions = new QVBoxLayout;
