@@ -5,7 +5,7 @@
 #include <QPainter>
 #include <algorithm>
 #include <cmath>
-#include <utility>
+#include <memory>
 
 #include "forms/block.h"
 #include "runtime/qt/qt_text.h"
@@ -36,7 +36,7 @@ QColor DeskColor(const QPalette& palette) {
 Desk::Desk(QWidget* parent) : QWidget(parent) {}
 
 Desk::~Desk() {
-    delete zoomed_;
+    zoomed_.reset();
     if (view_ != nullptr) {
         view_->setParent(nullptr);
     }
@@ -52,7 +52,7 @@ void Desk::Show(FormView& view) {
 // At 100 %, the view is on the desk itself.
 void Desk::PutView() {
     if (zoom_.IsFull()) {
-        delete std::exchange(zoomed_, nullptr);
+        zoomed_.reset();
         // A subwindow: its shortcuts and mnemonics work only while it has the focus.
         view_->setParent(this, Qt::SubWindow);
         view_->lower();
@@ -61,7 +61,7 @@ void Desk::PutView() {
         return;
     }
     if (zoomed_ == nullptr) {
-        zoomed_ = new ZoomedView(this);
+        zoomed_ = std::make_unique<ZoomedView>(this);
         zoomed_->lower();
         zoomed_->show();
     }

@@ -2,6 +2,7 @@
 
 #include <QPointer>
 #include <QWidget>
+#include <memory>
 
 #include "apps/lumenform/design/canvas/zoom.h"
 #include "apps/lumenform/design/canvas/zoomed_view.h"
@@ -50,7 +51,7 @@ class Desk final : public QWidget {
     void PaintTitle(QPainter& painter) const;
 
     QPointer<FormView> view_;
-    ZoomedView* zoomed_ = nullptr;  // null at 100 %
+    std::unique_ptr<ZoomedView> zoomed_;  // null at 100 %
     Zoom zoom_;
     QWidget* cover_ = nullptr;
 };

@@ -74,9 +74,11 @@ void PaintDots(QPainter& painter, const QRect& part, float step, const QColor& c
     const QTransform device = painter.deviceTransform();
     const auto scale = device.m11();
     const double size = std::max(std::floor(scale / zoom), 1.0);
-    const auto first = [](int edge, double length) { return std::ceil((edge - 1) / length); };
-    for (double row = first(part.top(), down); row * down < part.bottom() + 1; ++row) {
-        for (double column = first(part.left(), across); column * across < part.right() + 1;
+    const auto first = [](int edge, double length) {
+        return static_cast<int>(std::ceil((edge - 1) / length));
+    };
+    for (int row = first(part.top(), down); row * down < part.bottom() + 1; ++row) {
+        for (int column = first(part.left(), across); column * across < part.right() + 1;
              ++column) {
             const QPointF at(std::round(column * across), std::round(row * down));
             const QPointF pixel = device.map(at);

@@ -69,7 +69,7 @@ void Ruler::SetPointer(std::optional<int> place) {
 
 // ---- Labels
 
-QString Ruler::TextOf(double unit, const RulerSteps& steps) const {
+QString Ruler::TextOf(double unit, const RulerSteps& steps) {
     const double tiny = steps.labels / 2;
     return QString::number(std::abs(unit) < tiny ? 0 : unit, 'f', steps.Decimals());
 }
@@ -92,9 +92,10 @@ std::vector<Ruler::Label> Ruler::Labels() const {
     const RulerSteps steps = Steps();
     const auto [low, high] = std::minmax({units_.UnitAt(0), units_.UnitAt(Length())});
     std::vector<Label> labels;
-    for (double step = std::floor(low / steps.labels) - 1;
-         step * steps.labels <= high + steps.labels; ++step) {
-        const double unit = step * steps.labels;
+    const double first = std::floor(low / steps.labels) - 1;
+    const auto count = static_cast<int>(std::floor(high / steps.labels) - first) + 2;
+    for (int index = 0; index < count; ++index) {
+        const double unit = (first + index) * steps.labels;
         labels.push_back({TextOf(unit, steps), units_.PlaceOf(unit)});
     }
     return labels;

@@ -55,7 +55,7 @@ class Ruler final : public QWidget {
     int Length() const;
     QRect Strip(int begin, int length) const;
     void Repaint(const std::optional<Range>& range);
-    QString TextOf(double unit, const RulerSteps& steps) const;
+    static QString TextOf(double unit, const RulerSteps& steps);
     double RoomFor(const RulerSteps& steps) const;
     void PaintTicks(QPainter& painter) const;
     void PaintLabel(QPainter& painter, const Label& label) const;

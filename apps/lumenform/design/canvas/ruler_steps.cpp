@@ -1,5 +1,6 @@
 #include "apps/lumenform/design/canvas/ruler_steps.h"
 
+#include <algorithm>
 #include <array>
 #include <cmath>
 
@@ -31,11 +32,9 @@ int PartsFor(const Kind& kind, double pixels) {
 }  // namespace
 
 int RulerSteps::Decimals() const {
-    int decimals = 0;
-    for (double step = labels; step < 1 - 1e-9 && decimals < -lowestPower; step *= 10) {
-        ++decimals;
-    }
-    return decimals;
+    constexpr double tiny = 1e-9;
+    const auto power = static_cast<int>(std::floor(std::log10(labels) + tiny));
+    return std::clamp(-power, 0, -lowestPower);
 }
 
 RulerSteps RulerStepsFor(double pixelsPerUnit,
