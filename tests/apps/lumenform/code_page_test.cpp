@@ -1,6 +1,5 @@
 // The code of a form in the designer's window.
 #include "apps/lumenform/design/code/code_page.h"
-#include "apps/lumenform/design/look/contrast.h"
 
 #include <QApplication>
 #include <QClipboard>
@@ -15,6 +14,7 @@
 
 #include <gmock/gmock.h>
 
+#include "apps/lumenform/design/look/contrast.h"
 #include "tests/apps/lumenform/opened_window.h"
 #include "tests/support/file_bytes.h"
 
