@@ -16,6 +16,7 @@
 
 #include <gmock/gmock.h>
 
+#include "apps/lumenform/design/properties/page_dialog.h"
 #include "apps/lumenform/design/window/keys_dialog.h"
 #include "apps/lumenform/run/event_log.h"
 #include "tests/apps/lumenform/opened_window.h"

@@ -320,6 +320,25 @@
         <source>Save &amp;as…</source>
         <translation>Speichern &amp;unter…</translation>
     </message>
+    <message>
+        <source>Remove the unsaved work?</source>
+        <translation>Die ungespeicherte Arbeit entfernen?</translation>
+    </message>
+    <message numerus="yes">
+        <source>Remove %n unsaved work(s) for good?</source>
+        <translation>
+            <numerusform>%n ungespeicherte Arbeit endgültig entfernen?</numerusform>
+            <numerusform>%n ungespeicherte Arbeiten endgültig entfernen?</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>It cannot be brought back.</source>
+        <translation>Sie lässt sich nicht zurückholen.</translation>
+    </message>
+    <message>
+        <source>&amp;Remove</source>
+        <translation>&amp;Entfernen</translation>
+    </message>
 </context>
 <context>
     <name>help</name>
@@ -930,6 +949,134 @@
         <source>click, then drag on the form</source>
         <translation>klicken, dann auf dem Formular ziehen</translation>
     </message>
+    <message>
+        <source>Window</source>
+        <translation>Fenster</translation>
+    </message>
+    <message>
+        <source>Open the menus</source>
+        <translation>Die Menüs öffnen</translation>
+    </message>
+    <message>
+        <source>F10</source>
+        <translation>F10</translation>
+    </message>
+    <message>
+        <source>Open the context menu</source>
+        <translation>Das Kontextmenü öffnen</translation>
+    </message>
+    <message>
+        <source>Shift+F10 or Menu</source>
+        <translation>Umschalt+F10 oder Menütaste</translation>
+    </message>
+    <message>
+        <source>Show or hide the event log of a form that runs in its own window</source>
+        <translation>Das Ereignisprotokoll eines Formulars, das in einem eigenen Fenster läuft, ein- oder ausblenden</translation>
+    </message>
+    <message>
+        <source>F12</source>
+        <translation>F12</translation>
+    </message>
+    <message>
+        <source>Leave the form</source>
+        <translation>Das Formular verlassen</translation>
+    </message>
+    <message>
+        <source>F6, Shift+F6</source>
+        <translation>F6, Umschalt+F6</translation>
+    </message>
+    <message>
+        <source>Zoom about the pointer</source>
+        <translation>Um den Mauszeiger zoomen</translation>
+    </message>
+    <message>
+        <source>Ctrl+wheel</source>
+        <translation>Strg+Mausrad</translation>
+    </message>
+    <message>
+        <source>Code</source>
+        <translation>Code</translation>
+    </message>
+    <message>
+        <source>Search the code</source>
+        <translation>Den Code durchsuchen</translation>
+    </message>
+    <message>
+        <source>Go to the next or previous hit</source>
+        <translation>Zum nächsten oder vorigen Treffer gehen</translation>
+    </message>
+    <message>
+        <source>F3, Shift+F3</source>
+        <translation>F3, Umschalt+F3</translation>
+    </message>
+    <message>
+        <source>Close the search</source>
+        <translation>Die Suche schließen</translation>
+    </message>
+    <message>
+        <source>Dialog of the menus</source>
+        <translation>Dialog der Menüs</translation>
+    </message>
+    <message>
+        <source>Insert a menu</source>
+        <translation>Ein Menü einfügen</translation>
+    </message>
+    <message>
+        <source>Ins</source>
+        <translation>Einfg</translation>
+    </message>
+    <message>
+        <source>Delete the menu</source>
+        <translation>Das Menü löschen</translation>
+    </message>
+    <message>
+        <source>Move the menu</source>
+        <translation>Das Menü verschieben</translation>
+    </message>
+    <message>
+        <source>Alt+Up, Alt+Down</source>
+        <translation>Alt+Auf, Alt+Ab</translation>
+    </message>
+    <message>
+        <source>Move the menu into or out of a submenu</source>
+        <translation>Das Menü in ein Untermenü oder aus ihm heraus verschieben</translation>
+    </message>
+    <message>
+        <source>Alt+Right, Alt+Left</source>
+        <translation>Alt+Rechts, Alt+Links</translation>
+    </message>
+    <message>
+        <source>Dialogs of lists and texts</source>
+        <translation>Dialoge für Listen und Texte</translation>
+    </message>
+    <message>
+        <source>Move the item</source>
+        <translation>Den Eintrag verschieben</translation>
+    </message>
+    <message>
+        <source>Take the text over</source>
+        <translation>Den Text übernehmen</translation>
+    </message>
+    <message>
+        <source>Ctrl+Enter</source>
+        <translation>Strg+Eingabe</translation>
+    </message>
+    <message>
+        <source>Recent forms</source>
+        <translation>Zuletzt geöffnete Formulare</translation>
+    </message>
+    <message>
+        <source>Open the form</source>
+        <translation>Das Formular öffnen</translation>
+    </message>
+    <message>
+        <source>Enter</source>
+        <translation>Eingabe</translation>
+    </message>
+    <message>
+        <source>Remove the form from the list</source>
+        <translation>Das Formular aus der Liste entfernen</translation>
+    </message>
 </context>
 <context>
     <name>likeness</name>
@@ -941,24 +1088,12 @@
 <context>
     <name>lumenkit::lumenform::ChangedBar</name>
     <message>
-        <source>Reload</source>
-        <translation>Neu laden</translation>
-    </message>
-    <message>
         <source>Take the file as it is now; Undo brings your version back</source>
         <translation>Die Datei nehmen, wie sie jetzt ist; Rückgängig bringt Ihre Fassung zurück</translation>
     </message>
     <message>
-        <source>Keep mine</source>
-        <translation>Meine behalten</translation>
-    </message>
-    <message>
         <source>Save your version in its place next time</source>
         <translation>Beim nächsten Speichern Ihre Fassung an ihre Stelle setzen</translation>
-    </message>
-    <message>
-        <source>Show the difference</source>
-        <translation>Unterschied anzeigen</translation>
     </message>
     <message>
         <source>Compare the file with your version</source>
@@ -971,6 +1106,18 @@
     <message>
         <source>%1 no longer exists. Save writes it again.</source>
         <translation>%1 gibt es nicht mehr. Speichern schreibt die Datei neu.</translation>
+    </message>
+    <message>
+        <source>&amp;Reload</source>
+        <translation>&amp;Neu laden</translation>
+    </message>
+    <message>
+        <source>&amp;Keep mine</source>
+        <translation>&amp;Meine behalten</translation>
+    </message>
+    <message>
+        <source>Show the &amp;difference</source>
+        <translation>&amp;Unterschied anzeigen</translation>
     </message>
 </context>
 <context>
@@ -1415,6 +1562,14 @@
         <source>Send to bac&amp;k</source>
         <translation>In den &amp;Hintergrund</translation>
     </message>
+    <message>
+        <source>Undo</source>
+        <translation>Rückgängig</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>Wiederholen</translation>
+    </message>
 </context>
 <context>
     <name>lumenkit::lumenform::FormDesign</name>
@@ -1494,10 +1649,10 @@
     <message>
         <source>Designs, runs and draws forms with the controls of lumenkit, on Qt %1.
 
-Copyright (c) 2026 the lumenkit authors. It is free software under the MIT licence.</source>
-        <translation>Entwirft und zeichnet Formulare mit den Steuerelementen von lumenkit und führt sie aus, mit Qt %1.
+Copyright (c) 2026 the lumenkit authors. It is free software under the MIT licence. Its icons are those of Breeze, copyright (c) 2014 Uri Herrera and others, under the GNU Lesser General Public License, version 3 or later.</source>
+        <translation>Entwirft Formulare mit den Steuerelementen von lumenkit, führt sie aus und zeichnet sie; mit Qt %1.
 
-Copyright (c) 2026 the lumenkit authors. Freie Software unter der MIT-Lizenz.</translation>
+Copyright (c) 2026 the lumenkit authors. Das Programm ist freie Software unter der MIT-Lizenz. Seine Symbole sind die von Breeze, Copyright (c) 2014 Uri Herrera and others, unter der GNU Lesser General Public License, Version 3 oder später.</translation>
     </message>
 </context>
 <context>
@@ -1811,6 +1966,14 @@ Copyright (c) 2026 the lumenkit authors. Freie Software unter der MIT-Lizenz.</t
         <source>The form is written in %1. File &gt; Read in code page reads the file in another one.</source>
         <translation>Das Formular ist in %1 geschrieben. Datei &gt; In Codepage lesen liest die Datei in einer anderen.</translation>
     </message>
+    <message>
+        <source>The scale of the form; Ctrl and the wheel change it, too</source>
+        <translation>Der Maßstab des Formulars; Strg und das Mausrad ändern ihn auch</translation>
+    </message>
+    <message>
+        <source>%1 %</source>
+        <translation>%1 %</translation>
+    </message>
 </context>
 <context>
     <name>lumenkit::lumenform::ProcedureList</name>
@@ -1855,6 +2018,10 @@ Copyright (c) 2026 the lumenkit authors. Freie Software unter der MIT-Lizenz.</t
         <source>Reset %1</source>
         <translation>%1 zurücksetzen</translation>
     </message>
+    <message>
+        <source>A colour is a number from 0 to &amp;HFFFFFF, or a system colour from &amp;H80000000 to &amp;H80000018</source>
+        <translation>Eine Farbe ist eine Zahl von 0 bis &amp;HFFFFFF oder eine Systemfarbe von &amp;H80000000 bis &amp;H80000018</translation>
+    </message>
 </context>
 <context>
     <name>lumenkit::lumenform::PropertyModel</name>
@@ -1878,12 +2045,12 @@ Copyright (c) 2026 the lumenkit authors. Freie Software unter der MIT-Lizenz.</t
         <translation>Eigenschaften</translation>
     </message>
     <message>
-        <source>Edit</source>
-        <translation>Bearbeiten</translation>
+        <source>&amp;Edit</source>
+        <translation>&amp;Bearbeiten</translation>
     </message>
     <message>
-        <source>Reset to default	Ctrl+Del</source>
-        <translation>Auf Standardwert zurücksetzen	Strg+Entf</translation>
+        <source>&amp;Reset to default	Ctrl+Del</source>
+        <translation>Auf den Standardwert &amp;zurücksetzen	Strg+Entf</translation>
     </message>
 </context>
 <context>
@@ -2003,6 +2170,14 @@ Copyright (c) 2026 the lumenkit authors. Freie Software unter der MIT-Lizenz.</t
         <source>%1: draw it on the form, or double-click to add it in the middle</source>
         <translation>%1: auf dem Formular zeichnen oder per Doppelklick in die Mitte setzen</translation>
     </message>
+    <message>
+        <source>&amp;Draw on the form</source>
+        <translation>Auf dem Formular &amp;zeichnen</translation>
+    </message>
+    <message>
+        <source>&amp;Put into the middle of the form</source>
+        <translation>In die &amp;Mitte des Formulars setzen</translation>
+    </message>
 </context>
 <context>
     <name>lumenkit::lumenform::ValueEditor</name>
@@ -2068,6 +2243,49 @@ Copyright (c) 2026 the lumenkit authors. Freie Software unter der MIT-Lizenz.</t
     <message>
         <source>%1 twips</source>
         <translation>%1 Twips</translation>
+    </message>
+    <message>
+        <source>&amp;Rulers</source>
+        <translation>&amp;Lineale</translation>
+    </message>
+    <message>
+        <source>Rulers in the units of the form</source>
+        <translation>Lineale in den Einheiten des Formulars</translation>
+    </message>
+    <message>
+        <source>&amp;Next part of the window</source>
+        <translation>&amp;Nächster Teil des Fensters</translation>
+    </message>
+    <message>
+        <source>&amp;Previous part of the window</source>
+        <translation>&amp;Voriger Teil des Fensters</translation>
+    </message>
+</context>
+<context>
+    <name>lumenkit::lumenform::ZoomMenu</name>
+    <message>
+        <source>&amp;Zoom</source>
+        <translation>&amp;Zoom</translation>
+    </message>
+    <message>
+        <source>Zoom &amp;in</source>
+        <translation>Ver&amp;größern</translation>
+    </message>
+    <message>
+        <source>Zoom &amp;out</source>
+        <translation>Ver&amp;kleinern</translation>
+    </message>
+    <message>
+        <source>&amp;Fit the form</source>
+        <translation>Formular &amp;einpassen</translation>
+    </message>
+    <message>
+        <source>Show the whole form as large as possible</source>
+        <translation>Das ganze Formular so groß wie möglich zeigen</translation>
+    </message>
+    <message>
+        <source>%1 %</source>
+        <translation>%1 %</translation>
     </message>
 </context>
 <context>

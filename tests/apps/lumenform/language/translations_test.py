@@ -19,7 +19,7 @@ WINDOW_FOLDERS = ["design", "form_view", "run"]
 MAY_BE_EQUAL = {
     "&Code", "&Name:", "&Palette", "&System", "0 - None", "1 - Left", "2 - Middle", "3 - Right", "Bitmap", "Code",
     "Esc", "F&ormat", "F2", "F4", "Inde&x:", "Name", "Palette", "Position", "UTF-8", "Unicode (UTF-8)", "lumenform",
-    "lumenform %1", "(%1, %2 KB)", "%1[*] – lumenform",
+    "lumenform %1", "(%1, %2 KB)", "%1[*] – lumenform", "%1 %", "&Zoom", "F10", "F12",
 }
 
 # ---- Texts in sources
@@ -32,8 +32,8 @@ SHOWN_BY = re.compile(
     r"QLabel|QPushButton|QCheckBox|QRadioButton|QGroupBox|QDockWidget|QAction|QMessageBox|getOpenFileName|"
     r"getOpenFileNames|getSaveFileName|setNameFilter|setNameFilters|Restructure|Warn|Say|Told|Tell|RefuseName|"
     r"RefusePicture)\s*\(")
-# Calls that translate, and calls that read a property of a form.
-TRANSLATED_BY = re.compile(r"\b(tr|translate|QT_TRANSLATE_NOOP|QT_TR_NOOP|String|StringOf)\s*\(")
+# Calls that translate, that read a property of a form, and that take the name of an icon.
+TRANSLATED_BY = re.compile(r"\b(tr|translate|QT_TRANSLATE_NOOP|QT_TR_NOOP|String|StringOf|ThemeIcon)\s*\(")
 LITERAL = re.compile(r'(?<![\w\'])(?:u8|u|U|L)?"((?:[^"\\\n]|\\.)*)"')
 SENTENCE = re.compile(r"[A-Za-z]{2,} [a-z]{2,}")
 WORD = re.compile(r"[A-Za-z]{2,}")
