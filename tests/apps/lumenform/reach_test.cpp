@@ -367,7 +367,7 @@ TEST_F(Keys, OfUndoHaveAStableTitle) {
     Select(u"memPrint");
     Nudge();
     EXPECT_EQ(window.Commands().UndoAction().text().left(5), QStringLiteral("&Undo"));
-    EXPECT_EQ(window.Commands().RedoAction().text().left(5), QStringLiteral("&Redo"));
+    EXPECT_EQ(window.Commands().RedoAction().text().left(5), QStringLiteral("R&edo"));
     const lumenform::KeysDialog dialog({&window.Commands().EditMenu()}, nullptr);
     EXPECT_EQ(dialog.Keys().findItems(QStringLiteral("Undo"), Qt::MatchRecursive).size(), 1);
 }

@@ -37,6 +37,7 @@ PlaceStatus::PlaceStatus(QMenu& encodings, QMenu& zooms, QWidget* parent)
     addPermanentWidget(pointer_);
     addPermanentWidget(zoom_);
     addPermanentWidget(codePage_);
+    zoom_->hide();
     codePage_->hide();
     pointer_->setMinimumWidth(fontMetrics().horizontalAdvance(tr("%1, %2").arg(99999).arg(99999)));
 }

@@ -64,7 +64,7 @@ ViewMenu::ViewMenu(QSettings& settings, QWidget* parent)
     outline_->setChecked(settings.value(OutlineKey(), true).toBool());
     connect(outline_, &QAction::toggled, this, &ViewMenu::ShowOutline);
     addMenu(zoom_);
-    rulers_ = addAction(tr("&Rulers"));
+    rulers_ = addAction(ThemeIcon(QStringLiteral("tool-measure")), tr("&Rulers"));
     rulers_->setToolTip(tr("Rulers in the units of the form"));
     rulers_->setCheckable(true);
     rulers_->setChecked(settings.value(RulersKey(), false).toBool());

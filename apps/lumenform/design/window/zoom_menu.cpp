@@ -2,13 +2,16 @@
 
 #include <QKeySequence>
 
+#include "apps/lumenform/design/icons/icons.h"
+
 namespace lumenkit::lumenform {
 
 ZoomMenu::ZoomMenu(QWidget* parent)
     : QMenu(tr("&Zoom"), parent),
-      larger_(addAction(tr("Zoom &in"))),
-      smaller_(addAction(tr("Zoom &out"))),
+      larger_(addAction(ThemeIcon(QStringLiteral("zoom-in")), tr("Zoom &in"))),
+      smaller_(addAction(ThemeIcon(QStringLiteral("zoom-out")), tr("Zoom &out"))),
       steps_(new QActionGroup(this)) {
+    setIcon(ThemeIcon(QStringLiteral("zoom-original")));
     // Ctrl+= is the key with the plus in many layouts.
     larger_->setShortcuts(
         {QKeySequence(Qt::CTRL | Qt::Key_Plus), QKeySequence(Qt::CTRL | Qt::Key_Equal)});
@@ -17,7 +20,7 @@ ZoomMenu::ZoomMenu(QWidget* parent)
     connect(smaller_, &QAction::triggered, this, [this] { Step(false); });
     AddSteps();
     addSeparator();
-    QAction* const fit = addAction(tr("&Fit the form"));
+    QAction* const fit = addAction(ThemeIcon(QStringLiteral("zoom-fit-best")), tr("&Fit the form"));
     fit->setToolTip(tr("Show the whole form as large as possible"));
     connect(fit, &QAction::triggered, this, [this] {
         if (canvas_ != nullptr) {
