@@ -22,12 +22,11 @@ MenuTree::MenuTree(QWidget* parent) : QTreeWidget(parent) {
     setIndentation(3 * letter);
     header()->setStretchLastSection(false);
     header()->setSectionResizeMode(Caption, QHeaderView::Stretch);
-    constexpr int captionLetters = 16;
-    constexpr int nameLetters = 22;
-    constexpr int shortcutLetters = 20;
-    header()->resizeSection(Name, nameLetters * letter);
-    header()->resizeSection(Shortcut, shortcutLetters * letter);
-    header()->setMinimumSectionSize(captionLetters * letter);
+    for (const int column : {Name, Shortcut}) {
+        header()->setSectionResizeMode(column, QHeaderView::ResizeToContents);
+    }
+    constexpr int fewestLetters = 11;
+    header()->setMinimumSectionSize(fewestLetters * letter);
     connect(this, &QTreeWidget::currentItemChanged, this, &MenuTree::Chosen);
 }
 

@@ -1761,7 +1761,7 @@ Copyright (c) 2026 the lumenkit authors. Das Programm ist freie Software unter d
     </message>
     <message>
         <source>&amp;Window list</source>
-        <translation>Liste &amp;der Fenster</translation>
+        <translation>FenstListe &amp;der Fensteramp;erliste</translation>
     </message>
 </context>
 <context>
