@@ -48,8 +48,8 @@ ALLOWED = {
     "server": ["project", "runtime/ole"],
     # The widgets for other programs. Their public headers include Qt alone.
     "widgets/include": [],
-    "widgets/core": ["frame", "project", "runtime/qt"],
-    "widgets": ["vlabel", "vmemo", "voptlist", "runtime/qt", "widgets/core"],
+    "widgets/core": ["frame", "vlabel", "project", "runtime/qt"],
+    "widgets": ["frame", "vlabel", "vmemo", "voptlist", "runtime/qt", "widgets/core"],
     # The parts of the programs.
     "apps/command_line/spelling": ["frame"],
     "apps/difference": [],

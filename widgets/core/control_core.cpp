@@ -94,9 +94,8 @@ void ControlCore::Discard() {
 
 void ControlCore::Load(qt::HostedControl& control) {
     isLoading_ = true;
-    if (!owner_->isEnabled()) {
-        settings_.Put(u"Enabled", false);
-    }
+    settings_.Put(u"Enabled", owner_->isEnabled());
+    settings_.Put(u"Font", ObjectRef(ToFontObject(owner_->font())));
     control.StartSaved(settings_);
     for (const Later& later : later_) {
         Assign(control, later);
@@ -335,7 +334,6 @@ void ControlCore::FontChanged() {
 
 void ControlCore::EnabledChanged() {
     if (!isStarted_) {
-        settings_.Put(u"Enabled", owner_->isEnabled());
         isOutdated_ = live_ != nullptr;
         return;
     }

@@ -25,6 +25,14 @@ TEST(WidgetFont, IsThatOfTheParentUntilItIsSet) {
     EXPECT_EQ(memo->fontSize(), 20);
 }
 
+TEST(WidgetFont, OfALabelIsThatOfTheWidgetAlsoBeforeTheStart) {
+    QWidget parent;
+    parent.setFont(QFont(QStringLiteral("DejaVu Sans"), 30));
+    const VLabel large(QStringLiteral("text"), &parent);
+    const VLabel usual(QStringLiteral("text"));
+    EXPECT_GT(large.sizeHint().height(), 2 * usual.sizeHint().height());
+}
+
 TEST(WidgetFont, ALargerFontDrawsALargerCaption) {
     VLabel label(QStringLiteral("some caption"));
     const QSize before = label.sizeHint();

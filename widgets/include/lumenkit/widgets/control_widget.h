@@ -7,8 +7,8 @@
 
 namespace lumenkit::widgets {
 
+class CoreAccess;
 class ControlCore;
-class FormLoader;
 
 /// The base of the three controls: VLabel, VMemo and VOptList.
 ///
@@ -92,7 +92,7 @@ class LUMENKIT_WIDGETS_EXPORT ControlWidget : public QWidget {
     ControlCore& core() const { return *core_; }
 
  private:
-    friend class ControlCore;
+    friend class CoreAccess;
     Q_DISABLE_COPY_MOVE(ControlWidget)
 
     std::unique_ptr<ControlCore> core_;
