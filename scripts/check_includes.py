@@ -46,6 +46,10 @@ ALLOWED = {
     "project": ["frame", "vlabel", "vmemo", "voptlist", "vlabelcaption"],
     # The exports of the server, which pass the class table to the runtime.
     "server": ["project", "runtime/ole"],
+    # The widgets for other programs. Their public headers include Qt alone.
+    "widgets/include": [],
+    "widgets/core": ["frame", "vlabel", "project", "runtime/qt"],
+    "widgets": ["frame", "vlabel", "vmemo", "voptlist", "runtime/qt", "widgets/core"],
     # The parts of the programs.
     "apps/command_line/spelling": ["frame"],
     "apps/difference": [],
@@ -128,6 +132,7 @@ DIAGRAM = {
     },
     "controls": {"vlabel": "", "vmemo": "", "voptlist": "", "vlabelcaption": ""},
     "": {
+        "widgets": "the controls in other programs",
         "project": "the class table",
         "forms": "form files",
         "frame": "text, numbers, errors, automation, host contract",
@@ -137,7 +142,7 @@ DIAGRAM_DOCUMENT = "docs/architecture.md"
 
 # Folders that may use the headers of a platform or of another library.
 COM_FOLDERS = [folder for folder in ALLOWED if folder.startswith("runtime/ole") and folder != "runtime/ole/stored"]
-OTHER_LIBRARIES = ["runtime/win32", "runtime/qt", *COM_FOLDERS, "server", "tests", "bench", "fuzz", "samples", "scripts"]
+OTHER_LIBRARIES = ["runtime/win32", "runtime/qt", "widgets/include", "widgets/core", "widgets", *COM_FOLDERS, "server", "tests", "bench", "fuzz", "samples", "scripts"]
 OTHER_LIBRARIES += [folder for folder in ALLOWED if folder.startswith("apps/")]
 # Files in other folders that call the system or use processor instructions, with their headers.
 SYSTEM_HEADERS = {

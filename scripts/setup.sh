@@ -21,6 +21,7 @@ declare -A groups=(
     [wine]="wine $wine fonts-wine fonts-liberation2"
     [wine32]="bubblewrap"
     [qt]="qt6-base-dev qt6-svg-dev breeze-icon-theme qt6-qpa-plugins qt6-tools-dev qt6-l10n-tools qt6-translations-l10n fonts-liberation2 fonts-dejavu-core"
+    [python]="python3-pyqt6 pyqt6-dev pyqt6-dev-tools sip-tools python3-pyqtbuild python3-dev qmake6"
     [svg]="librsvg2-bin"
     [package]="dpkg-dev desktop-file-utils shared-mime-info libxml2-utils unzip"
     [screen]="xvfb xauth xdotool imagemagick openbox at-spi2-core dbus-daemon python3-pyatspi"
