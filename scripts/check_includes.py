@@ -50,6 +50,8 @@ ALLOWED = {
     "widgets/include": [],
     "widgets/core": ["frame", "project", "runtime/qt"],
     "widgets": ["vlabel", "vmemo", "voptlist", "runtime/qt", "widgets/core"],
+    # The plugin for Qt Designer, which sees the controls as other programs do.
+    "widgets/designer": ["runtime/qt", "apps/lumenform/design/items"],
     # The parts of the programs.
     "apps/command_line/spelling": ["frame"],
     "apps/difference": [],
@@ -69,6 +71,7 @@ ALLOWED = {
                       "apps/lumenkit/svg"],
     "apps/lumenform/form_view": ["frame", "forms", "runtime/qt"],
     "apps/lumenform/run": ["forms", "runtime/qt", "apps/lumenform/form_view"],
+    "apps/lumenform/design/items": ["frame", "runtime/qt"],
     "apps/lumenform/design/model": ["frame", "forms", "runtime/qt", "apps/lumenform/form_view"],
     "apps/lumenform/design/canvas": ["frame", "forms", "runtime/qt", "apps/lumenform/form_view",
                                      "apps/lumenform/design/model"],
@@ -77,6 +80,7 @@ ALLOWED = {
     "apps/lumenform/design/outline": ["frame", "forms", "runtime/qt", "apps/lumenform/form_view",
                                       "apps/lumenform/design/model"],
     "apps/lumenform/design/properties": ["frame", "forms", "runtime/qt", "apps/lumenform/form_view",
+                                         "apps/lumenform/design/items",
                                          "apps/lumenform/design/model"],
     "apps/lumenform/design/menus": ["frame", "forms", "runtime/qt",
                                     "apps/lumenform/design/model",
@@ -110,6 +114,7 @@ DIAGRAM = {
         "apps/lumenkit": "command line",
         "apps/lumenform": "forms on Qt",
         "apps/command_line": "common to both",
+        "widgets/designer": "plugin for Qt Designer",
         "server": "lumenkit.ocx",
     },
     "control runtimes": {
@@ -132,7 +137,7 @@ DIAGRAM_DOCUMENT = "docs/architecture.md"
 
 # Folders that may use the headers of a platform or of another library.
 COM_FOLDERS = [folder for folder in ALLOWED if folder.startswith("runtime/ole") and folder != "runtime/ole/stored"]
-OTHER_LIBRARIES = ["runtime/win32", "runtime/qt", "widgets/include", "widgets/core", "widgets", *COM_FOLDERS, "server", "tests", "bench", "fuzz", "samples", "scripts"]
+OTHER_LIBRARIES = ["runtime/win32", "runtime/qt", "widgets/include", "widgets/core", "widgets/designer", "widgets", *COM_FOLDERS, "server", "tests", "bench", "fuzz", "samples", "scripts"]
 OTHER_LIBRARIES += [folder for folder in ALLOWED if folder.startswith("apps/")]
 # Files in other folders that call the system or use processor instructions, with their headers.
 SYSTEM_HEADERS = {

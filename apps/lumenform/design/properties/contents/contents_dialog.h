@@ -7,9 +7,9 @@
 #include <QVBoxLayout>
 #include <functional>
 
+#include "apps/lumenform/design/items/contents_model.h"
+#include "apps/lumenform/design/items/contents_table.h"
 #include "apps/lumenform/design/model/form_design.h"
-#include "apps/lumenform/design/properties/contents/contents_model.h"
-#include "apps/lumenform/design/properties/contents/contents_table.h"
 #include "apps/lumenform/design/properties/notice.h"
 
 namespace lumenkit::lumenform {

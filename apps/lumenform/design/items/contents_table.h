@@ -2,7 +2,7 @@
 
 #include <QTableView>
 
-#include "apps/lumenform/design/properties/contents/contents_model.h"
+#include "apps/lumenform/design/items/contents_model.h"
 
 namespace lumenkit::lumenform {
 

@@ -1,4 +1,4 @@
-#include "apps/lumenform/design/properties/contents/option_rows.h"
+#include "apps/lumenform/design/items/option_rows.h"
 
 #include <algorithm>
 #include <cstdint>

@@ -2,7 +2,7 @@
 
 #include <QAbstractTableModel>
 
-#include "apps/lumenform/design/properties/contents/option_rows.h"
+#include "apps/lumenform/design/items/option_rows.h"
 
 namespace lumenkit::lumenform {
 

@@ -1,4 +1,4 @@
-#include "apps/lumenform/design/properties/contents/contents_model.h"
+#include "apps/lumenform/design/items/contents_model.h"
 
 #include <QMimeData>
 #include <cstddef>

@@ -1,4 +1,4 @@
-#include "apps/lumenform/design/properties/contents/contents_table.h"
+#include "apps/lumenform/design/items/contents_table.h"
 
 #include <QHeaderView>
 #include <QKeyEvent>
