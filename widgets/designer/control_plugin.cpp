@@ -1,6 +1,6 @@
 #include "widgets/designer/control_plugin.h"
 
-#include <QBitmap>
+#include <QImage>
 #include <QPixmap>
 #include <utility>
 
@@ -17,13 +17,16 @@ namespace lumenkit::designer {
 ControlPlugin::ControlPlugin(ControlClass control, QObject* parent)
     : QObject(parent), control_(std::move(control)) {}
 
-// The pixel at the bottom left has the colour that is transparent.
+// The pixel at the bottom left has the colour that is transparent. The other icons of the widget
+// box are larger.
 QIcon ControlPlugin::icon() const {
-    const QImage image(control_.picture);
-    QPixmap picture = QPixmap::fromImage(image);
-    const QRgb outside = image.pixel(0, image.height() - 1);
-    picture.setMask(QBitmap::fromImage(image.createMaskFromColor(outside, Qt::MaskOutColor)));
-    return picture;
+    constexpr int size = 22;
+    const QImage stored(control_.picture);
+    QImage image = stored.convertToFormat(QImage::Format_ARGB32);
+    const QRgb outside = stored.pixel(0, stored.height() - 1);
+    image.setAlphaChannel(stored.createMaskFromColor(outside, Qt::MaskOutColor));
+    const int border = (image.width() - size) / 2;
+    return QPixmap::fromImage(image.copy(border, border, size, size));
 }
 
 QWidget* ControlPlugin::createWidget(QWidget* parent) {
