@@ -49,7 +49,7 @@ check() {
         2> >(grep -vE '^[0-9]+ warnings? (generated|treated)|^Suppressed|^Use -header-filter' >&2)
 }
 
-scripts/setup.sh build qt bench fuzz windows lint
+scripts/setup.sh build qt designer bench fuzz windows lint
 configure_linux
 configure_windows
 build_scope

@@ -15,7 +15,7 @@ names() {
 }
 
 step "Packages (downloads)"
-scripts/setup.sh build test qt svg format screen wayland shells windows wine wine32 bench fuzz lint compilers analyse package
+scripts/setup.sh build test qt designer svg format screen wayland shells windows wine wine32 bench fuzz lint compilers analyse package
 scripts/wine-root.sh --make >/dev/null
 
 step "Build for Windows (x64, x86)"
