@@ -22,6 +22,7 @@ declare -A groups=(
     [wine32]="bubblewrap"
     [qt]="qt6-base-dev qt6-qpa-plugins fonts-liberation2 fonts-dejavu-core"
     [designer]="qt6-tools-dev libqt6opengl6-dev designer-qt6"
+    [abi]="abigail-tools binutils"
     [svg]="librsvg2-bin"
     [package]="dpkg-dev desktop-file-utils shared-mime-info libxml2-utils unzip"
     [screen]="xvfb xauth xdotool imagemagick openbox at-spi2-core dbus-daemon python3-pyatspi"
