@@ -74,7 +74,7 @@ check_debian() {
                 depends "$deb" libqt6widgets6
                 [ "$(dpkg-deb -I "$deb" shlibs)" = "liblumenkit-widgets 7 liblumenkit-widgets7 (>= $version)" ] ||
                     fail "$deb does not tell which programs need it"
-                [[ $(dpkg-deb -I "$deb" triggers) = *ldconfig* ]] || fail "$deb leaves the loader as it was"
+                [[ $(dpkg-deb -I "$deb" postinst) = *ldconfig* ]] || fail "$deb leaves the loader as it was"
                 ;;
             liblumenkit-widgets-dev_*)
                 depends "$deb" "liblumenkit-widgets7 (= $version)" "liblumenkit-dev (= $version)" qt6-base-dev
