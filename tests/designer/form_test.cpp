@@ -7,8 +7,7 @@
 #include <lumenkit/widgets/vlabel.h>
 #include <lumenkit/widgets/vmemo.h>
 #include <lumenkit/widgets/voptlist.h>
-
-#include "ui_order.h"
+#include <ui_order.h>
 
 namespace lumenkit::testing {
 namespace {

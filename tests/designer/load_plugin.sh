@@ -37,5 +37,7 @@ was_loaded || {
     echo "load_plugin: Designer does not load $plugin" >&2
     exit 1
 }
-! grep -iE 'lumenkit.*(not found|could not|failed|cannot)|unknown custom widget' "$work/log"
+if grep -iE 'lumenkit.*(not found|could not|failed|cannot)|unknown custom widget' "$work/log"; then
+    exit 1
+fi
 echo "Designer loads the plugin"

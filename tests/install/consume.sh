@@ -116,23 +116,23 @@ needs_library() {
 }
 
 order_by_pkg_config() {
-    local libraries=$1 program=$work/order_by_pkg_config flags
+    local folder=$1 program=$work/order_by_pkg_config flags
     # Qt is where the machine has it.
-    read -ra flags <<<"$(env -u PKG_CONFIG_LIBDIR PKG_CONFIG_PATH="$libraries/pkgconfig" \
+    read -ra flags <<<"$(env -u PKG_CONFIG_LIBDIR PKG_CONFIG_PATH="$folder/pkgconfig" \
         pkg-config --cflags --libs lumenkit-widgets)"
     "$compiler" -std=c++17 -fPIC "$top/samples/widgets/order.cpp" "${flags[@]}" -o "$program"
     needs_library "$program" || fail "pkg-config names another library"
-    LD_LIBRARY_PATH=$libraries expect_order "$program"
+    LD_LIBRARY_PATH=$folder expect_order "$program"
 }
 
 widgets() {
     grep -qx 'LUMENKIT_QT:BOOL=ON' "$build/CMakeCache.txt" || return 0
-    local component libraries
+    local component folder
     for component in development widgets widgets-development; do
         cmake --install "$build" --component $component --prefix "$work/made" >/dev/null
     done
     mv "$work/made" "$work/with_widgets"
-    libraries=$(dirname "$(find "$work/with_widgets" -name liblumenkit-widgets.so)")
+    folder=$(dirname "$(find "$work/with_widgets" -name liblumenkit-widgets.so)")
 
     configure_order order lumenkit::widgets
     build_quietly order
@@ -142,7 +142,7 @@ widgets() {
     build_quietly order_static
     ! needs_library "$work/order_static/order" || fail "lumenkit::widgets_static is the shared library"
     expect_order "$work/order_static/order"
-    order_by_pkg_config "$libraries"
+    order_by_pkg_config "$folder"
 
     # The core does without Qt, the widgets say what they miss.
     configure without_qt -S "$top/samples/library" -G "$generator" -DCMAKE_CXX_COMPILER="$compiler" \
