@@ -31,7 +31,7 @@ QIcon ControlPlugin::icon() const {
 
 QWidget* ControlPlugin::createWidget(QWidget* parent) {
     widgets::ControlWidget* const control = control_.create(parent);
-    if (isInitialized_ && QDesignerFormWindowInterface::findFormWindow(parent)) {
+    if (isInitialized_ && QDesignerFormWindowInterface::findFormWindow(parent) != nullptr) {
         control->setDesignMode(true);
     }
     return control;

@@ -20,7 +20,7 @@ TaskMenu::TaskMenu(ControlClass control, QWidget& widget, QObject* parent)
 // The cursor of the form makes the change a step that can be undone.
 void TaskMenu::Edit() {
     auto* const form = QDesignerFormWindowInterface::findFormWindow(&widget_);
-    if (!form) {
+    if (form == nullptr) {
         return;
     }
     const QString before = widget_.property(control_.property.toLatin1().constData()).toString();
@@ -36,7 +36,7 @@ TaskMenuFactory::TaskMenuFactory(ControlClass control, QExtensionManager* manage
 QObject* TaskMenuFactory::createExtension(QObject* object, const QString& iid,
                                           QObject* parent) const {
     auto* const widget = qobject_cast<QWidget*>(object);
-    const bool isWanted = widget && iid == Q_TYPEID(QDesignerTaskMenuExtension) &&
+    const bool isWanted = widget != nullptr && iid == Q_TYPEID(QDesignerTaskMenuExtension) &&
                           control_.name == QLatin1String(object->metaObject()->className());
     return isWanted ? new TaskMenu(control_, *widget, parent) : nullptr;
 }
