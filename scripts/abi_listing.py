@@ -6,7 +6,7 @@ two listings:
     abi_listing.py compare PROMISED PRESENT    fails if a promised line is not there any more
     abi_listing.py --self-test
 
-A line is an exported function with what it returns, the size of a class and how many virtual
+A line is an exported function, with what it returns where abidw tells, the size of a class and how many virtual
 functions it declares, the place of a member or of a virtual function, or the value of an enumerator.
 A new function, class or enumerator breaks no line.
 """

@@ -37,18 +37,15 @@ heading_shows() {
 edit() {
     local x=$1 y=$2 title=$3
     xdotool mousemove $((left + x)) $((top + y)) click --repeat 2 --delay 60 1
-    until_true shows "$title" || fail "there is no dialog \"$title\""
+    until_true has_focus "$title" || fail "there is no dialog \"$title\""
     keep_picture "${title// /_}"
     xdotool "${@:4}"
-    until_true shows_no "$title" || fail "the dialog \"$title\" does not close"
+    until_true has_focus 'Qt Designer' || fail "the dialog \"$title\" does not close"
 }
 
-shows() {
-    xdotool search --onlyvisible --name "^$1" >/dev/null 2>&1
-}
-
-shows_no() {
-    ! shows "$1"
+# has_focus TITLE: whether the window with the keyboard has a title that begins so.
+has_focus() {
+    [[ $(xdotool getactivewindow getwindowname 2>/dev/null) == "$1"* ]]
 }
 
 keep_picture() {
