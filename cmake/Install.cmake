@@ -2,6 +2,9 @@
 #   development  the core for programs in C++: one library, its headers, CMake and pkg-config files
 #   lumenkit     the command line
 #   lumenform    the form designer, with its desktop entry, MIME type and icon
+#   widgets      the shared library of the controls as Qt widgets
+#   widgets-development  what programs with these widgets are made of; needs development and widgets
+#   designer     the plugin for Qt Designer; needs widgets
 #   server       the component server for Windows, from one build
 #   server_more  files for the server that do not depend on the build
 include(GNUInstallDirs)
@@ -27,9 +30,9 @@ endforeach()
 set(package_folder "${CMAKE_INSTALL_LIBDIR}/cmake/lumenkit")
 write_basic_package_version_file("${PROJECT_BINARY_DIR}/lumenkitConfigVersion.cmake"
     COMPATIBILITY SameMajorVersion)
-install(EXPORT lumenkit NAMESPACE lumenkit:: FILE lumenkitConfig.cmake
+install(EXPORT lumenkit NAMESPACE lumenkit:: FILE lumenkitTargets.cmake
     DESTINATION "${package_folder}" COMPONENT development ${where_needed})
-install(FILES "${PROJECT_BINARY_DIR}/lumenkitConfigVersion.cmake"
+install(FILES cmake/lumenkitConfig.cmake "${PROJECT_BINARY_DIR}/lumenkitConfigVersion.cmake"
     DESTINATION "${package_folder}" COMPONENT development ${where_needed})
 
 # What pkg-config tells holds wherever the installation is moved: the prefix is found from the file
@@ -44,9 +47,36 @@ else()
 endif()
 cmake_path(APPEND pc_libdir "\${prefix}" "${CMAKE_INSTALL_LIBDIR}")
 cmake_path(APPEND pc_includedir "\${prefix}" "${CMAKE_INSTALL_INCLUDEDIR}" lumenkit)
-configure_file("${PROJECT_SOURCE_DIR}/cmake/lumenkit.pc.in" "${PROJECT_BINARY_DIR}/lumenkit.pc" @ONLY)
-install(FILES "${PROJECT_BINARY_DIR}/lumenkit.pc"
-    DESTINATION "${CMAKE_INSTALL_LIBDIR}/pkgconfig" COMPONENT development ${where_needed})
+cmake_path(APPEND pc_widgets_includedir "\${prefix}" "${CMAKE_INSTALL_INCLUDEDIR}")
+# install_pc(NAME COMPONENT)
+function(install_pc name component)
+    configure_file("${PROJECT_SOURCE_DIR}/cmake/${name}.pc.in" "${PROJECT_BINARY_DIR}/${name}.pc" @ONLY)
+    install(FILES "${PROJECT_BINARY_DIR}/${name}.pc"
+        DESTINATION "${CMAKE_INSTALL_LIBDIR}/pkgconfig" COMPONENT ${component} ${where_needed})
+endfunction()
+install_pc(lumenkit development)
+
+if(TARGET lumenkit_widgets_shared)
+    foreach(library lumenkit_widgets_shared lumenkit_widgets_static)
+        target_include_directories(${library} INTERFACE
+            "$<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}>")
+    endforeach()
+    install(TARGETS lumenkit_widgets_shared lumenkit_widgets_static EXPORT lumenkit_widgets
+        LIBRARY DESTINATION "${CMAKE_INSTALL_LIBDIR}"
+            COMPONENT widgets NAMELINK_COMPONENT widgets-development
+        ARCHIVE DESTINATION "${CMAKE_INSTALL_LIBDIR}" COMPONENT widgets-development)
+    install(DIRECTORY widgets/include/lumenkit DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}"
+        COMPONENT widgets-development
+        FILES_MATCHING PATTERN "*.h")
+    install(EXPORT lumenkit_widgets NAMESPACE lumenkit:: FILE lumenkitWidgetsTargets.cmake
+        DESTINATION "${package_folder}" COMPONENT widgets-development)
+    install_pc(lumenkit-widgets widgets-development)
+endif()
+if(TARGET lumenkit_designer)
+    # Where Qt has its plugins, below the same prefix.
+    install(TARGETS lumenkit_designer
+        LIBRARY DESTINATION "${QT6_INSTALL_PLUGINS}/designer" COMPONENT designer)
+endif()
 
 # install_manual(PROGRAM): the manual pages and completions that the program wrote when it was built.
 # zsh looks for the completions of packages in another folder than for those below /usr/local.

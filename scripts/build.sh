@@ -13,7 +13,7 @@ usage() {
 preset=$1
 shift
 case $preset in
-    native | dev) scripts/setup.sh build test qt ;;
+    native | dev) scripts/setup.sh build test qt designer ;;
     native-asan) scripts/setup.sh build test qt fuzz ;;
     coverage) scripts/setup.sh build test coverage ;;
     mingw-*) scripts/setup.sh build windows ;;

@@ -50,6 +50,9 @@ ALLOWED = {
     "widgets/include": [],
     "widgets/core": ["frame", "vlabel", "project", "runtime/qt"],
     "widgets": ["frame", "vlabel", "vmemo", "voptlist", "runtime/qt", "widgets/core"],
+    "widgets/items": ["frame", "runtime/qt"],
+    # The plugin for Qt Designer, which sees the controls as other programs do.
+    "widgets/designer": ["runtime/qt", "widgets/items"],
     # The parts of the programs.
     "apps/command_line/spelling": ["frame"],
     "apps/difference": [],
@@ -84,6 +87,7 @@ ALLOWED = {
                                       "apps/lumenform/design/model"],
     "apps/lumenform/design/properties": ["frame", "forms", "runtime/qt", "apps/lumenform/form_view",
                                          "apps/lumenform/design/look", "apps/lumenform/design/icons",
+                                         "widgets/items",
                                          "apps/lumenform/design/model"],
     "apps/lumenform/design/menus": ["frame", "forms", "runtime/qt", "apps/lumenform/design/look",
                                     "apps/lumenform/design/icons",
@@ -120,6 +124,7 @@ DIAGRAM = {
         "apps/lumenkit": "command line",
         "apps/lumenform": "forms on Qt",
         "apps/command_line": "common to both",
+        "widgets/designer": "plugin for Qt Designer",
         "server": "lumenkit.ocx",
     },
     "control runtimes": {
@@ -142,7 +147,7 @@ DIAGRAM_DOCUMENT = "docs/architecture.md"
 
 # Folders that may use the headers of a platform or of another library.
 COM_FOLDERS = [folder for folder in ALLOWED if folder.startswith("runtime/ole") and folder != "runtime/ole/stored"]
-OTHER_LIBRARIES = ["runtime/win32", "runtime/qt", "widgets/include", "widgets/core", "widgets", *COM_FOLDERS, "server", "tests", "bench", "fuzz", "samples", "scripts"]
+OTHER_LIBRARIES = ["runtime/win32", "runtime/qt", "widgets/include", "widgets/core", "widgets/designer", "widgets", *COM_FOLDERS, "server", "tests", "bench", "fuzz", "samples", "scripts"]
 OTHER_LIBRARIES += [folder for folder in ALLOWED if folder.startswith("apps/")]
 # Files in other folders that call the system or use processor instructions, with their headers.
 SYSTEM_HEADERS = {

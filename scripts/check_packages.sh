@@ -25,6 +25,33 @@ check_manual() {
     done
 }
 
+# check_widgets ROOT: a program is made of the packages of the widgets alone, and Qt Designer loads
+# the plugin.
+check_widgets() {
+    local libraries library plugins
+    libraries=$(dirname "$(find "$1" -name 'liblumenkit-widgets.so')")
+    library=$libraries/liblumenkit-widgets.so
+    [ "$(objdump -p "$library" | awk '/SONAME/ { print $2 }')" = liblumenkit-widgets.so.7 ] ||
+        fail "the library has another name"
+    [ -z "$(nm "$library" 2>/dev/null)" ] || fail "the library has the symbols of a debugger"
+    cmake -S samples/widgets -B "$work/order" -DCMAKE_PREFIX_PATH="$1/usr" >/dev/null
+    cmake --build "$work/order" >/dev/null
+    QT_QPA_PLATFORM=offscreen "$work/order/order" --print >/dev/null || fail "the program with widgets fails"
+    plugins=$(dirname "$(dirname "$(find "$1" -name 'liblumenkit-designer.so')")")
+    [ "${plugins#"$1"}" = "$(qmake6 -query QT_INSTALL_PLUGINS)" ] || fail "the plugin is in ${plugins#"$1"}"
+    LD_LIBRARY_PATH=$libraries tests/designer/load_plugin.sh "$plugins" \
+        "$(qmake6 -query QT_INSTALL_BINS)/designer"
+}
+
+# depends FILE.deb PACKAGE...: whether a package depends on others.
+depends() {
+    local packages package
+    packages=$(dpkg-deb -f "$1" Depends)
+    for package in "${@:2}"; do
+        grep -qF -- "$package" <<<"$packages" || fail "$1 does not depend on $package: $packages"
+    done
+}
+
 check_debian() {
     local root=$work/root deb
     for deb in "$@"; do
@@ -39,6 +66,23 @@ check_debian() {
     check_manual "$share"
     [ -z "$(dpkg-deb -f "$(printf '%s\n' "$@" | grep /lumenkit_)" Depends | grep -i qt)" ] ||
         fail "the command line depends on Qt"
+    local version
+    version=$(sed -n 's/^project(lumenkit VERSION \([0-9.]*\).*/\1/p' CMakeLists.txt)
+    for deb in "$@"; do
+        case ${deb##*/} in
+            liblumenkit-widgets7_*)
+                depends "$deb" libqt6widgets6
+                [ "$(dpkg-deb -I "$deb" shlibs)" = "liblumenkit-widgets 7 liblumenkit-widgets7 (>= $version)" ] ||
+                    fail "$deb does not tell which programs need it"
+                [[ $(dpkg-deb -I "$deb" postinst) = *ldconfig* ]] || fail "$deb leaves the loader as it was"
+                ;;
+            liblumenkit-widgets-dev_*)
+                depends "$deb" "liblumenkit-widgets7 (= $version)" "liblumenkit-dev (= $version)" qt6-base-dev
+                ;;
+            lumenkit-designer_*) depends "$deb" "liblumenkit-widgets7 (= $version)" libqt6designer6 ;;
+        esac
+    done
+    check_widgets "$root"
     desktop-file-validate "$share/applications/lumenform.desktop"
     # Files that end in .frm have the MIME type of forms.
     update-mime-database "$share/mime" 2>"$work/mime.log" || fail "$(cat "$work/mime.log")"

@@ -4,7 +4,7 @@
 set -euo pipefail
 cd "$(dirname "$0")/.."
 
-scripts/setup.sh build qt windows
+scripts/setup.sh build qt designer windows
 for preset in native mingw-x64; do
     build=build/headers/$preset
     cmake --preset "$preset" -B "$build" -DLUMENKIT_HEADERS_ALONE=ON >/dev/null

@@ -12,6 +12,7 @@ databases=build/lint
 # reading the headers of other libraries, once for each unit. For Linux the compiler is clang.
 configure_linux() {
     configure native linux -DCMAKE_CXX_COMPILER=clang++ -DLUMENKIT_FUZZ=ON
+    ninja -C "$databases/linux" designer_form_test_autogen >/dev/null
 }
 
 # For Windows clang stands in for the cross-compiler, with that compiler's library.
@@ -49,7 +50,7 @@ check() {
         2> >(grep -vE '^[0-9]+ warnings? (generated|treated)|^Suppressed|^Use -header-filter' >&2)
 }
 
-scripts/setup.sh build qt bench fuzz windows lint
+scripts/setup.sh build qt designer bench fuzz windows lint
 configure_linux
 configure_windows
 build_scope
@@ -64,7 +65,7 @@ else
     git ls-files --cached --others --exclude-standard '*.cpp' >"$units/sources"
 fi
 # Compiled by tests/install, which uses the installed library, and above.
-alone='^(samples/library|tests/install|scripts)/'
+alone='^(samples/(library|widgets)|tests/install|scripts)/'
 grep -E "$alone" "$units/sources" >"$units/alone" || true
 grep -vE "$alone" "$units/sources" |
     python3 scripts/lint_units.py "$units" "$databases/linux" "$databases/windows"
@@ -84,6 +85,10 @@ for source in "${alone[@]}"; do
     case $source in
         # Compiles without the library's headers, and in its own language.
         tests/install/consumer/bystander.cpp) options=(-std=c++17) ;;
+        samples/widgets/*)
+            read -ra qt <<<"$(pkg-config --cflags Qt6Widgets)"
+            options=(-std=c++17 -fPIC -Iwidgets/include "${qt[@]/#-I/-isystem}")
+            ;;
         scripts/lint_scope.cpp) options=("${scope_options[@]}") ;;
     esac
     clang-tidy --load="$scope" --checks=lumenkit-scope --quiet --warnings-as-errors='*' "$source" -- \

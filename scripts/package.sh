@@ -17,7 +17,8 @@ pack() {
 
 make_debian() {
     scripts/setup.sh package
-    scripts/build.sh native lumenkit lumenform lumenkit_core
+    scripts/build.sh native lumenkit lumenform lumenkit_core lumenkit_widgets_shared lumenkit_widgets_static \
+        lumenkit_designer
     rm -f "$package"/*.deb "$package"/*.deb.sha256
     pack --config build/native/CPackConfig.cmake
     scripts/check_packages.sh debian "$package"/*.deb

@@ -15,7 +15,7 @@ names() {
 }
 
 step "Packages (downloads)"
-scripts/setup.sh build test qt python svg format screen wayland shells windows wine wine32 bench fuzz lint compilers analyse package
+scripts/setup.sh build test qt designer python svg format screen wayland shells windows wine wine32 bench fuzz lint compilers analyse abi package
 scripts/wine-root.sh --make >/dev/null
 
 step "Build for Windows (x64, x86)"
@@ -54,6 +54,9 @@ scripts/reproducible.sh --elsewhere
 
 step "cppcheck and Valgrind"
 scripts/analyse.sh
+
+step "The binary interface of the widgets keeps its promise"
+scripts/abi.sh
 
 step "Packages"
 scripts/package.sh

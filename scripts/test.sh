@@ -10,7 +10,7 @@ windows=mingw-x64
 [ "$(dpkg --print-architecture)" != i386 ] || windows=mingw-x86
 
 step "Packages (downloads)"
-scripts/setup.sh build test qt python svg format screen wayland shells windows wine
+scripts/setup.sh build test qt designer python svg format screen wayland shells windows wine
 
 step "Formatting"
 scripts/format.sh --check

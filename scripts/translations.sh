@@ -15,7 +15,7 @@ lupdate=$(command -v lupdate || echo "$(qtpaths6 --query QT_INSTALL_BINS)/lupdat
 # warns about would keep a text from being found: a class without Q_OBJECT, a text without a context.
 update() {
     local language=${1##*_}
-    "$lupdate" -silent -I . apps/lumenform -locations none -no-obsolete \
+    "$lupdate" -silent -I . apps/lumenform widgets/items -locations none -no-obsolete \
         -source-language en -target-language "${language%.ts}" -ts "$1" 2>&1 |
         if grep .; then return 1; fi
 }

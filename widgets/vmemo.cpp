@@ -122,7 +122,9 @@ QString VMemo::text() const {
     return StringOf(core(), u"Text");
 }
 void VMemo::setText(const QString& text) {
-    PutString(core(), u"Text", text);
+    const QString lineFeed = QStringLiteral("\n");
+    const QString lineEnd = QStringLiteral("\r\n");
+    PutString(core(), u"Text", QString(text).replace(lineEnd, lineFeed).replace(lineFeed, lineEnd));
 }
 
 QColor VMemo::foreColor() const {

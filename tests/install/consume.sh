@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
 # Uses lumenkit as others do, from a build of it:  consume.sh BUILD COMPILER GENERATOR
 #   found:       its development part, installed and moved, by CMake and by pkg-config
+#   widgets:     its widgets, installed and moved, by CMake and by pkg-config, shared and static
 #   contained:   the tree as a part of another project, by add_subdirectory and by FetchContent
 #   configured:  the tree by itself, with nothing said
 # CONSUME_UNITY=OFF compiles the contained library file by file, which takes longer.
@@ -95,6 +96,71 @@ found() {
     check_headers "$work/prefix"
 }
 
+expect_order() {
+    diff - <(QT_QPA_PLATFORM=offscreen "$@" --print) <<'ORDER'
+Your order, by courier
+Leave it at the door
+c
+ORDER
+}
+
+# configure_order FOLDER LIBRARY
+configure_order() {
+    configure "$1" -S "$top/samples/widgets" -G "$generator" -DCMAKE_CXX_COMPILER="$compiler" \
+        -DCMAKE_PREFIX_PATH="$work/with_widgets" -DORDER_LINKS="$2"
+}
+
+# needs_library PROGRAM: whether it is linked with the shared library.
+needs_library() {
+    [[ $(objdump -p "$1") =~ NEEDED\ *liblumenkit-widgets\.so\.7 ]]
+}
+
+order_by_pkg_config() {
+    local folder=$1 program=$work/order_by_pkg_config flags
+    # Qt is where the machine has it.
+    read -ra flags <<<"$(env -u PKG_CONFIG_LIBDIR PKG_CONFIG_PATH="$folder/pkgconfig" \
+        pkg-config --cflags --libs lumenkit-widgets)"
+    "$compiler" -std=c++17 -fPIC "$top/samples/widgets/order.cpp" "${flags[@]}" -o "$program"
+    needs_library "$program" || fail "pkg-config names another library"
+    LD_LIBRARY_PATH=$folder expect_order "$program"
+}
+
+widgets() {
+    grep -qx 'LUMENKIT_QT:BOOL=ON' "$build/CMakeCache.txt" || return 0
+    local component folder
+    for component in development widgets widgets-development; do
+        cmake --install "$build" --component $component --prefix "$work/made" >/dev/null
+    done
+    mv "$work/made" "$work/with_widgets"
+    folder=$(dirname "$(find "$work/with_widgets" -name liblumenkit-widgets.so)")
+
+    configure_order order lumenkit::widgets
+    build_quietly order
+    needs_library "$work/order/order" || fail "lumenkit::widgets is not the shared library"
+    expect_order "$work/order/order"
+    configure_order order_static lumenkit::widgets_static
+    build_quietly order_static
+    ! needs_library "$work/order_static/order" || fail "lumenkit::widgets_static is the shared library"
+    expect_order "$work/order_static/order"
+    order_by_pkg_config "$folder"
+
+    # The core does without Qt, the widgets say what they miss.
+    configure without_qt -S "$top/samples/library" -G "$generator" -DCMAKE_CXX_COMPILER="$compiler" \
+        -DCMAKE_PREFIX_PATH="$work/with_widgets" -DCMAKE_DISABLE_FIND_PACKAGE_Qt6=ON \
+        --no-warn-unused-cli
+    if (configure order_without_qt -S "$top/samples/widgets" -DCMAKE_PREFIX_PATH="$work/with_widgets" \
+        -DCMAKE_DISABLE_FIND_PACKAGE_Qt6=ON) 2>"$work/without_qt.err"; then
+        fail "finds the widgets without Qt"
+    fi
+    grep -q Qt6 "$work/without_qt.err" || fail "does not say that Qt is missing"
+    if (configure order_without_widgets -S "$top/samples/widgets" \
+        -DCMAKE_PREFIX_PATH="$work/prefix") 2>"$work/without_widgets.err"; then
+        fail "finds widgets that are not installed"
+    fi
+    grep -q 'component widgets of lumenkit is not installed' "$work/without_widgets.err" ||
+        fail "does not say that the widgets are missing"
+}
+
 contained() {
     # Its installation is that of a package: another folder for libraries, and below DESTDIR.
     configure_consumer add_subdirectory -DLUMENKIT_BY=add_subdirectory -DLUMENKIT_TREE="$top" \
@@ -134,6 +200,7 @@ rm -rf "$work"
 mkdir -p "$work"
 python3 "$here/check_options.py" --self-test
 found
+widgets
 contained
 configured
 echo "installed, moved and used by CMake and by pkg-config; used as a part of another project"

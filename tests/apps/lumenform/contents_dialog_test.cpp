@@ -22,10 +22,10 @@
 namespace lumenkit::testing {
 namespace {
 
-using lumenform::ContentsModel;
-using lumenform::OptionRows;
 using ::testing::ElementsAre;
 using ::testing::HasSubstr;
+using widgets::ContentsModel;
+using widgets::OptionRows;
 
 // ---- The texts of the rows
 
@@ -80,14 +80,14 @@ class ContentsDialog : public ::testing::Test {
  protected:
     ContentsDialog() {
         form.Select({u"List1"});
-        dialog = form.More<lumenform::ContentsDialog>(u"Contents");
+        dialog = form.More<widgets::ContentsDialog>(u"Contents");
         constexpr QSize roomForAll(700, 400);  // on a small screen, too
         dialog->resize(roomForAll);
         ShowActive(*dialog);
         Table().setFocus();
     }
 
-    lumenform::ContentsTable& Table() const { return dialog->Table(); }
+    widgets::ContentsTable& Table() const { return dialog->Table(); }
     std::string Result() const { return ToUtf8(dialog->Result()); }
     std::string Stored() const {
         const forms::Block& block = form.design.View().Find(u"List1")->Block();
@@ -97,7 +97,7 @@ class ContentsDialog : public ::testing::Test {
         Table().setCurrentIndex(Table().model()->index(row, column));
     }
     // Begins to edit the current cell.
-    static QLineEdit* Edit(lumenform::ContentsTable& table) {
+    static QLineEdit* Edit(widgets::ContentsTable& table) {
         QTest::keyClick(&table, Qt::Key_F2);
         return qobject_cast<QLineEdit*>(QApplication::focusWidget());
     }
@@ -127,7 +127,7 @@ class ContentsDialog : public ::testing::Test {
     BrowsedForm form{
         FormWith("   Begin lumenkit.VOptList List1\n      Height          =   1200\n"
                  "      Contents        =   \"Red|1;Green|2;Blue\"\n   End\n")};
-    lumenform::ContentsDialog* dialog = nullptr;
+    widgets::ContentsDialog* dialog = nullptr;
 };
 
 TEST_F(ContentsDialog, ShowsValuesCaptionsAndTheButtons) {

@@ -52,6 +52,17 @@ TEST(MemoWidget, TakesATextAsItIsBeforeTheStartAndFitsItAfterwards) {
     EXPECT_TRUE(memo.text().startsWith(QStringLiteral("long")));
 }
 
+TEST(MemoWidget, TakesLineFeedsAsLineEnds) {
+    VMemo memo;
+    const QString lines = QStringLiteral("a\r\nb\r\n\r\nc");
+    memo.setText(QStringLiteral("a\nb\r\n\nc"));
+    EXPECT_EQ(memo.text(), lines);
+    memo.show();
+    memo.setText(QString());
+    memo.setText(QStringLiteral("a\nb\r\n\nc"));
+    EXPECT_EQ(memo.text(), lines);
+}
+
 TEST(MemoWidget, RaisesKeysAndTellsTheTextThatIsTyped) {
     FocusedMemo focused;
     const QSignalSpy texts(&focused.memo, &VMemo::textChanged);

@@ -1232,32 +1232,6 @@
     </message>
 </context>
 <context>
-    <name>lumenkit::lumenform::ContentsModel</name>
-    <message>
-        <source>| separates the items. A value or a caption cannot contain it.</source>
-        <translation>| trennt die Einträge. Ein Wert oder eine Beschriftung kann es nicht enthalten.</translation>
-    </message>
-    <message>
-        <source>; separates the value from the caption. A value cannot contain it.</source>
-        <translation>; trennt den Wert von der Beschriftung. Ein Wert kann es nicht enthalten.</translation>
-    </message>
-    <message>
-        <source>Value</source>
-        <translation>Wert</translation>
-    </message>
-    <message>
-        <source>Caption</source>
-        <translation>Beschriftung</translation>
-    </message>
-</context>
-<context>
-    <name>lumenkit::lumenform::ContentsTable</name>
-    <message>
-        <source>Items</source>
-        <translation>Einträge</translation>
-    </message>
-</context>
-<context>
     <name>lumenkit::lumenform::DesignWindow</name>
     <message>
         <source>&amp;Run</source>
@@ -2286,6 +2260,32 @@ Copyright (c) 2026 the lumenkit authors. Das Programm ist freie Software unter d
     <message>
         <source>%1 %</source>
         <translation>%1 %</translation>
+    </message>
+</context>
+<context>
+    <name>lumenkit::widgets::ContentsModel</name>
+    <message>
+        <source>| separates the items. A value or a caption cannot contain it.</source>
+        <translation>| trennt die Einträge. Ein Wert oder eine Beschriftung kann es nicht enthalten.</translation>
+    </message>
+    <message>
+        <source>; separates the value from the caption. A value cannot contain it.</source>
+        <translation>; trennt den Wert von der Beschriftung. Ein Wert kann es nicht enthalten.</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Wert</translation>
+    </message>
+    <message>
+        <source>Caption</source>
+        <translation>Beschriftung</translation>
+    </message>
+</context>
+<context>
+    <name>lumenkit::widgets::ContentsTable</name>
+    <message>
+        <source>Items</source>
+        <translation>Einträge</translation>
     </message>
 </context>
 <context>

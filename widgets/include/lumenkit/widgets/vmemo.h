@@ -15,9 +15,12 @@ class LUMENKIT_WIDGETS_EXPORT VMemo : public ControlWidget {
                    foreColorChanged)
     Q_PROPERTY(uint foreColorValue READ foreColorValue WRITE setForeColorValue RESET resetForeColor
                    NOTIFY foreColorChanged)
-    Q_PROPERTY(bool causesValidation READ causesValidation WRITE setCausesValidation STORED false)
-    Q_PROPERTY(QString fontName READ fontName WRITE setFontName NOTIFY fontNameChanged STORED false)
-    Q_PROPERTY(double fontSize READ fontSize WRITE setFontSize NOTIFY fontSizeChanged STORED false)
+    Q_PROPERTY(bool causesValidation READ causesValidation WRITE setCausesValidation
+                   DESIGNABLE false STORED false)
+    Q_PROPERTY(QString fontName READ fontName WRITE setFontName NOTIFY fontNameChanged
+                   DESIGNABLE false STORED false)
+    Q_PROPERTY(double fontSize READ fontSize WRITE setFontSize NOTIFY fontSizeChanged
+                   DESIGNABLE false STORED false)
     Q_PROPERTY(bool locked READ isLocked WRITE setLocked NOTIFY lockedChanged)
     Q_PROPERTY(int maxLength READ maxLength WRITE setMaxLength NOTIFY maxLengthChanged)
     Q_PROPERTY(lumenkit::widgets::ControlWidget::MousePointer mousePointer READ mousePointer WRITE
@@ -35,8 +38,9 @@ class LUMENKIT_WIDGETS_EXPORT VMemo : public ControlWidget {
     explicit VMemo(const QString& text, QWidget* parent = nullptr);
     ~VMemo() override;
 
-    /// The text, its lines separated by CR LF. Setting it after the start fits it to the limits;
-    /// before the start it is taken as it is. Initially empty.
+    /// The text, its lines separated by CR LF. In a text that is set, line feeds alone become CR
+    /// LF. Setting it after the start fits it to the limits; before the start it is taken as it is.
+    /// Initially empty.
     QString text() const;
     void setText(const QString& text);
 

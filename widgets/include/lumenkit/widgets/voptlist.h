@@ -9,8 +9,9 @@ namespace lumenkit::widgets {
 /// A framed list of option buttons, which is written as one text.
 class LUMENKIT_WIDGETS_EXPORT VOptList : public ControlWidget {
     Q_OBJECT
-    Q_PROPERTY(QString text READ text WRITE setText NOTIFY textChanged STORED false USER true)
-    Q_PROPERTY(QString value READ value NOTIFY valueChanged STORED false)
+    Q_PROPERTY(QString text READ text WRITE setText NOTIFY textChanged
+                   DESIGNABLE false STORED false USER true)
+    Q_PROPERTY(QString value READ value NOTIFY valueChanged DESIGNABLE false STORED false)
     Q_PROPERTY(lumenkit::widgets::ControlWidget::BorderStyle borderStyle READ borderStyle WRITE
                    setBorderStyle NOTIFY borderStyleChanged)
     Q_PROPERTY(QString caption READ caption WRITE setCaption NOTIFY captionChanged)

@@ -17,8 +17,8 @@ ContentsDialog::ContentsDialog(FormDesign& design, const QString& title, TextVie
                                QWidget* parent)
     : QDialog(parent),
       design_(design),
-      model_(new ContentsModel(contents, this)),
-      table_(new ContentsTable(*model_, this)),
+      model_(new widgets::ContentsModel(contents, this)),
+      table_(new widgets::ContentsTable(*model_, this)),
       preview_(new QGroupBox(tr("Preview"), this)),
       notice_(new Notice(this)),
       buttons_(new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this)) {
@@ -26,10 +26,10 @@ ContentsDialog::ContentsDialog(FormDesign& design, const QString& title, TextVie
     LayOut();
     connect(buttons_, &QDialogButtonBox::accepted, this, &QDialog::accept);
     connect(buttons_, &QDialogButtonBox::rejected, this, &QDialog::reject);
-    connect(model_, &ContentsModel::Changed, this, &ContentsDialog::Update);
-    connect(model_, &ContentsModel::Refused, notice_,
+    connect(model_, &widgets::ContentsModel::Changed, this, &ContentsDialog::Update);
+    connect(model_, &widgets::ContentsModel::Refused, notice_,
             [this](const QString& why) { notice_->Say(why); });
-    connect(table_, &ContentsTable::Refused, notice_,
+    connect(table_, &widgets::ContentsTable::Refused, notice_,
             [this](const QString& why) { notice_->Say(why); });
     connect(table_->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
             &ContentsDialog::Update);
@@ -114,7 +114,8 @@ void ContentsDialog::ShowPreview() {
     }
     const int count = std::min(model_->rowCount(), most);
     for (int row = 0; row < count; ++row) {
-        const QString caption = model_->index(row, ContentsModel::CaptionColumn).data().toString();
+        const QString caption =
+            model_->index(row, widgets::ContentsModel::CaptionColumn).data().toString();
         auto* const button = new QRadioButton(caption, preview_);
         button->setFocusPolicy(Qt::NoFocus);
         layout->addWidget(button);

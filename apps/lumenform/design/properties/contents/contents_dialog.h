@@ -8,9 +8,9 @@
 #include <functional>
 
 #include "apps/lumenform/design/model/form_design.h"
-#include "apps/lumenform/design/properties/contents/contents_model.h"
-#include "apps/lumenform/design/properties/contents/contents_table.h"
 #include "apps/lumenform/design/properties/notice.h"
+#include "widgets/items/contents_model.h"
+#include "widgets/items/contents_table.h"
 
 namespace lumenkit::lumenform {
 
@@ -29,7 +29,7 @@ class ContentsDialog final : public QDialog {
 
     /// The text of the items as they are now.
     Text Result() const { return model_->Rows().Contents(); }
-    ContentsTable& Table() const { return *table_; }
+    widgets::ContentsTable& Table() const { return *table_; }
     /// The reason for the last refusal, or an empty text.
     QString Message() const { return notice_->Text(); }
     Notice& Refusal() const { return *notice_; }
@@ -47,8 +47,8 @@ class ContentsDialog final : public QDialog {
     void ShowPreview();
 
     FormDesign& design_;
-    ContentsModel* model_;
-    ContentsTable* table_;
+    widgets::ContentsModel* model_;
+    widgets::ContentsTable* table_;
     QGroupBox* preview_;
     Notice* notice_;
     QDialogButtonBox* buttons_;

@@ -1,4 +1,4 @@
-#include "apps/lumenform/design/properties/contents/option_rows.h"
+#include "widgets/items/option_rows.h"
 
 #include <algorithm>
 #include <cstdint>
@@ -6,7 +6,7 @@
 
 #include "frame/numbers.h"
 
-namespace lumenkit::lumenform {
+namespace lumenkit::widgets {
 
 namespace {
 
@@ -93,4 +93,4 @@ void OptionRows::Move(std::size_t from, std::size_t to) {
     }
 }
 
-}  // namespace lumenkit::lumenform
+}  // namespace lumenkit::widgets

@@ -2,9 +2,9 @@
 
 #include <QTableView>
 
-#include "apps/lumenform/design/properties/contents/contents_model.h"
+#include "widgets/items/contents_model.h"
 
-namespace lumenkit::lumenform {
+namespace lumenkit::widgets {
 
 /// The table of an option list. Alt+Up and Alt+Down move the current row, and so does the mouse. An
 /// editor takes no character that its cell cannot have.
@@ -31,4 +31,4 @@ class ContentsTable final : public QTableView {
     ContentsModel& model_;
 };
 
-}  // namespace lumenkit::lumenform
+}  // namespace lumenkit::widgets

@@ -2,9 +2,9 @@
 
 #include <QAbstractTableModel>
 
-#include "apps/lumenform/design/properties/contents/option_rows.h"
+#include "widgets/items/option_rows.h"
 
-namespace lumenkit::lumenform {
+namespace lumenkit::widgets {
 
 /// A table model of an option list: values in the first column, captions in the second. Rows can be
 /// dragged to other places.
@@ -47,4 +47,4 @@ class ContentsModel final : public QAbstractTableModel {
     OptionRows rows_;
 };
 
-}  // namespace lumenkit::lumenform
+}  // namespace lumenkit::widgets

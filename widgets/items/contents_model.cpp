@@ -1,4 +1,4 @@
-#include "apps/lumenform/design/properties/contents/contents_model.h"
+#include "widgets/items/contents_model.h"
 
 #include <QMimeData>
 #include <cstddef>
@@ -6,7 +6,7 @@
 
 #include "runtime/qt/qt_text.h"
 
-namespace lumenkit::lumenform {
+namespace lumenkit::widgets {
 
 namespace {
 
@@ -138,4 +138,4 @@ bool ContentsModel::dropMimeData(const QMimeData* data, Qt::DropAction action, i
     return false;
 }
 
-}  // namespace lumenkit::lumenform
+}  // namespace lumenkit::widgets

@@ -1,4 +1,4 @@
-#include "apps/lumenform/design/properties/contents/contents_table.h"
+#include "widgets/items/contents_table.h"
 
 #include <QHeaderView>
 #include <QKeyEvent>
@@ -9,7 +9,7 @@
 #include <functional>
 #include <utility>
 
-namespace lumenkit::lumenform {
+namespace lumenkit::widgets {
 
 namespace {
 
@@ -105,4 +105,4 @@ void ContentsTable::keyPressEvent(QKeyEvent* event) {
     }
 }
 
-}  // namespace lumenkit::lumenform
+}  // namespace lumenkit::widgets

@@ -6,7 +6,7 @@
 
 #include "frame/text.h"
 
-namespace lumenkit::lumenform {
+namespace lumenkit::widgets {
 
 /// One item: its text, and the value and caption in it.
 struct OptionRow {
@@ -41,4 +41,4 @@ class OptionRows {
     bool hasLastBar_ = false;
 };
 
-}  // namespace lumenkit::lumenform
+}  // namespace lumenkit::widgets
