@@ -59,17 +59,17 @@ set(CPACK_DEBIAN_PACKAGE_GENERATE_SHLIBS_POLICY ">=")
 if(TARGET lumenkit_widgets_shared)
     set(widgets_package "liblumenkit-widgets${PROJECT_VERSION_MAJOR}")
     set(same_widgets "${widgets_package} (= ${PROJECT_VERSION})")
-    debian_package(widgets ${widgets_package} libs
+    debian_package(widgets ${widgets_package} libs LICENSE
         "lumenkit's controls as Qt widgets"
         "The shared library of a label with markup, a limited text box and a list of option buttons.")
-    debian_package(widgets-development liblumenkit-widgets-dev libdevel
+    debian_package(widgets-development liblumenkit-widgets-dev libdevel LICENSE
         "lumenkit's controls as Qt widgets, for programs in C++"
         "The headers, the static library and what CMake and pkg-config read.")
     set(CPACK_DEBIAN_WIDGETS-DEVELOPMENT_PACKAGE_DEPENDS
         "${same_widgets}, liblumenkit-dev (= ${PROJECT_VERSION}), qt6-base-dev (>= 6.4)")
 endif()
 if(TARGET lumenkit_designer)
-    debian_package(designer lumenkit-designer devel
+    debian_package(designer lumenkit-designer devel LICENSE
         "lumenkit's controls in Qt Designer"
         "A plugin with which Qt Designer edits forms with the controls, and programs load them.")
     set(CPACK_DEBIAN_DESIGNER_PACKAGE_DEPENDS "${same_widgets}")

@@ -39,27 +39,25 @@ void CaptionSurface::Print(TextView text) {
 void CaptionSurface::FillBox(float x1, float y1, float x2, float y2, Color color) {
     currentX_ = x2;
     currentY_ = y2;
-    Fill(QRectF(QPointF(x1 / Twips().x, y1 / Twips().y), QPointF(x2 / Twips().x, y2 / Twips().y))
-             .normalized()
-             .adjusted(0, 0, 1, 1),
-         color);
+    const QPointF corner(x1 / Twips().x, y1 / Twips().y);
+    const QPointF opposite(x2 / Twips().x, y2 / Twips().y);
+    picture_.Fill(corner, opposite, Filled(color));
+    AddBox(QRectF(corner, opposite).normalized().adjusted(0, 0, 1, 1), color);
 }
 
-// A pixel of the box is a pixel of the screen at every scale.
+// A pixel of the box is a pixel of the screen, and grows with the texts.
 void CaptionSurface::FillPixels(float x, float y, const host::PixelBox& box, Color color) {
     const QPointF origin(x / Twips().x, y / Twips().y);
     currentX_ = static_cast<float>(x + box.right * Twips().x);
     currentY_ = static_cast<float>(y + box.bottom * Twips().y);
-    Fill(QRectF(origin + QPointF(box.left, box.top), origin + QPointF(box.right, box.bottom))
-             .adjusted(0, 0, 1, 1),
-         color);
+    picture_.FillPixels(origin, box, Filled(color));
+    AddBox(QRectF(origin + QPointF(box.left, box.top), origin + QPointF(box.right, box.bottom))
+               .adjusted(0, 0, 1, 1),
+           color);
 }
 
-// The picture counts the last device pixel as a part of a box.
-void CaptionSurface::Fill(const QRectF& box, Color color) {
-    const Color filled = color == Color{} ? foreColor_ : color;
-    picture_.Fill(box.topLeft(), box.bottomRight() - QPointF(1, 1) / scale_, filled);
-    runs_.push_back({{}, box, filled});
+void CaptionSurface::AddBox(const QRectF& box, Color color) {
+    runs_.push_back({{}, box, Filled(color)});
 }
 
 host::FontRef CaptionSurface::BeginDrawing() {

@@ -29,7 +29,7 @@ class CaptionSurface final : public host::Surface {
     const std::vector<Run>& Runs() const { return runs_; }
     /// Draws in pixels of the surface.
     void DrawOn(QPainter& painter, const QRectF& visible) {
-        picture_.DrawOn(painter, visible, QPalette());
+        picture_.DrawOn(painter, visible, QPalette(), 1);
     }
 
     float CurrentX() const override { return currentX_; }
@@ -73,7 +73,8 @@ class CaptionSurface final : public host::Surface {
     const std::shared_ptr<qt::FontFace>& Face() const {
         return (drawingFont_ ? drawingFont_ : font_)->FaceAt(scale_);
     }
-    void Fill(const QRectF& box, Color color);
+    Color Filled(Color color) const { return color == Color{} ? foreColor_ : color; }
+    void AddBox(const QRectF& box, Color color);
 
     std::shared_ptr<qt::Font> font_;
     std::shared_ptr<qt::Font> drawingFont_;  // null outside of a drawing

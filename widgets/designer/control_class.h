@@ -1,8 +1,10 @@
 #pragma once
 
+#include <QByteArray>
+#include <QList>
 #include <QString>
+#include <QVariant>
 #include <functional>
-#include <optional>
 
 class QWidget;
 
@@ -11,6 +13,12 @@ class ControlWidget;
 }
 
 namespace lumenkit::designer {
+
+/// A new value of a property.
+struct PropertyChange {
+    QByteArray property;
+    QVariant value;
+};
 
 /// What Qt Designer has to know of a control.
 struct ControlClass {
@@ -23,10 +31,9 @@ struct ControlClass {
 
     std::function<widgets::ControlWidget*(QWidget* parent)> create;
 
-    QString command;   ///< of the menu of a control
-    QString property;  ///< the text that the command edits
-    /// Shows a dialog. Returns the new text, or nullopt if the user cancels or changes nothing.
-    std::function<std::optional<QString>(QWidget* parent, const QString& text)> edit;
+    QString command;  ///< of the menu of a control
+    /// Shows a dialog that edits the control. Returns what the user changes.
+    std::function<QList<PropertyChange>(QWidget* parent, const QWidget& control)> edit;
 };
 
 }  // namespace lumenkit::designer

@@ -23,6 +23,18 @@ widgets::ControlWidget* Create(QWidget* parent) {
     return new Widget(parent);
 }
 
+QList<PropertyChange> Changed(const QByteArray& property, const std::optional<QString>& text) {
+    return text ? QList<PropertyChange>{{property, *text}} : QList<PropertyChange>();
+}
+
+QList<PropertyChange> EditTextOf(QWidget* parent, const QWidget& memo) {
+    return Changed("text", EditText(parent, Told("Edit text"), memo.property("text").toString()));
+}
+
+QList<PropertyChange> EditItemsOf(QWidget* parent, const QWidget& list) {
+    return Changed("contents", EditItems(parent, list.property("contents").toString()));
+}
+
 }  // namespace
 
 ControlClass LabelClass() {
@@ -56,7 +68,6 @@ ControlClass LabelClass() {
 )xml"),
         .create = Create<widgets::VLabel>,
         .command = Told("Edit &caption..."),
-        .property = QStringLiteral("caption"),
         .edit = EditCaption,
     };
 }
@@ -91,9 +102,7 @@ ControlClass MemoClass() {
 )xml"),
         .create = Create<widgets::VMemo>,
         .command = Told("Edit &text..."),
-        .property = QStringLiteral("text"),
-        .edit = [](QWidget* parent,
-                   const QString& text) { return EditText(parent, Told("Edit text"), text); },
+        .edit = EditTextOf,
     };
 }
 
@@ -131,8 +140,7 @@ ControlClass OptionListClass() {
 )xml"),
         .create = Create<widgets::VOptList>,
         .command = Told("Edit &list..."),
-        .property = QStringLiteral("contents"),
-        .edit = EditItems,
+        .edit = EditItemsOf,
     };
 }
 

@@ -1,14 +1,10 @@
 #pragma once
 
-#include <QString>
-#include <optional>
-
-class QWidget;
+#include "widgets/designer/control_class.h"
 
 namespace lumenkit::designer {
 
-/// Lets the user edit the caption of a label. Returns nullopt if the user cancels or changes
-/// nothing.
-std::optional<QString> EditCaption(QWidget* parent, const QString& caption);
+/// Lets the user edit the caption of a label, its bullets and its word wrap, with a preview.
+QList<PropertyChange> EditCaption(QWidget* parent, const QWidget& label);
 
 }  // namespace lumenkit::designer

@@ -17,17 +17,22 @@ TaskMenu::TaskMenu(ControlClass control, QWidget& widget, QObject* parent)
     connect(edit_, &QAction::triggered, this, &TaskMenu::Edit);
 }
 
-// The cursor of the form makes the change a step that can be undone.
+// The cursor of the form makes the changes a step that can be undone.
 void TaskMenu::Edit() {
     auto* const form = QDesignerFormWindowInterface::findFormWindow(&widget_);
     if (form == nullptr) {
         return;
     }
-    const QString before = widget_.property(control_.property.toLatin1().constData()).toString();
-    const std::optional<QString> after = control_.edit(form->window(), before);
-    if (after && *after != before) {
-        form->cursor()->setWidgetProperty(&widget_, control_.property, *after);
+    const QList<PropertyChange> changes = control_.edit(form->window(), widget_);
+    if (changes.isEmpty()) {
+        return;
     }
+    form->beginCommand(edit_->iconText());
+    for (const PropertyChange& change : changes) {
+        form->cursor()->setWidgetProperty(&widget_, QString::fromLatin1(change.property),
+                                          change.value);
+    }
+    form->endCommand();
 }
 
 TaskMenuFactory::TaskMenuFactory(ControlClass control, QExtensionManager* manager)
