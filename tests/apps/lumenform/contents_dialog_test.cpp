@@ -80,7 +80,7 @@ class ContentsDialog : public ::testing::Test {
  protected:
     ContentsDialog() {
         form.Select({u"List1"});
-        dialog = form.More<widgets::ContentsDialog>(u"Contents");
+        dialog = form.More<lumenform::ContentsDialog>(u"Contents");
         constexpr QSize roomForAll(700, 400);  // on a small screen, too
         dialog->resize(roomForAll);
         ShowActive(*dialog);
@@ -127,7 +127,7 @@ class ContentsDialog : public ::testing::Test {
     BrowsedForm form{
         FormWith("   Begin lumenkit.VOptList List1\n      Height          =   1200\n"
                  "      Contents        =   \"Red|1;Green|2;Blue\"\n   End\n")};
-    widgets::ContentsDialog* dialog = nullptr;
+    lumenform::ContentsDialog* dialog = nullptr;
 };
 
 TEST_F(ContentsDialog, ShowsValuesCaptionsAndTheButtons) {
