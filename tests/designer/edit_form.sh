@@ -68,7 +68,7 @@ on_screen() {
     program=$!
     until_true heading_shows || fail "Designer does not show the label"
 
-    edit 50 10 'Edit caption' key ctrl+a type --args 1 '|i:1|Your basket' key alt+o
+    edit 50 10 'Edit caption' key ctrl+a type --args 1 '|i:1|Your basket' key Tab Return
     edit 250 100 'Edit list' key alt+Down Return
     # A change that is undone.
     edit 50 100 'Edit text' key ctrl+a type 'Ring twice'$'\t'$'\r'

@@ -60,13 +60,8 @@ QString AskForPlaceToSave(QWidget& window, const QString& proposed) {
     const qsizetype own = std::max<qsizetype>(Extensions().indexOf(extension.toLower()), 0);
     filters.move(own, 0);
     filters.append(FormDialogs::tr("All files (*)"));
-    const QFileInfo place(proposed);
-    const QString folder = place.isAbsolute() ? place.path() : QString();
-    QFileDialog dialog(&window, FormDialogs::tr("Save the form"), folder,
-                       filters.join(QStringLiteral(";;")));
-    dialog.setAcceptMode(QFileDialog::AcceptSave);
-    dialog.selectFile(place.fileName());
-    QString path = Chosen(dialog).value(0);
+    QString path = QFileDialog::getSaveFileName(&window, FormDialogs::tr("Save the form"), proposed,
+                                                filters.join(QStringLiteral(";;")));
     // Forms whose names have no other extension would share a companion.
     if (!path.isEmpty() && !Extensions().contains(QFileInfo(path).suffix().toLower())) {
         extension = extension.isEmpty() ? QStringLiteral("frm") : extension;
