@@ -141,13 +141,14 @@ void Ruler::PaintTicks(QPainter& painter) const {
     }
 }
 
-// Along a vertical ruler, labels are read downwards.
+// Along a vertical ruler, labels are read downwards. Their base lines are at its left edge, and the
+// ticks at the right one.
 void Ruler::PaintLabel(QPainter& painter, const Label& label) const {
     painter.save();
     if (way_ == Qt::Horizontal) {
         painter.translate(std::floor(label.place), 0);
     } else {
-        painter.translate(width(), std::floor(label.place));
+        painter.translate(fontMetrics().ascent() + 2, std::floor(label.place));
         painter.rotate(90);
     }
     painter.drawText(QPoint(gap, fontMetrics().ascent() + 1), label.text);

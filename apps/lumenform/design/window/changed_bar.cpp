@@ -18,7 +18,7 @@ ChangedBar::ChangedBar(QWidget* parent) : Bar(parent), text_(new QLabel) {
         row->addWidget(button);
         choices_.append(button);
     };
-    add(QStringLiteral("view-refresh"), tr("&Reload"),
+    add(QStringLiteral("view-refresh"), tr("Re&load"),
         tr("Take the file as it is now; Undo brings your version back"), &ChangedBar::ReloadWanted);
     add(QStringLiteral("document-save"), tr("&Keep mine"),
         tr("Save your version in its place next time"), &ChangedBar::KeepMineWanted);

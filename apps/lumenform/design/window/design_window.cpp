@@ -261,6 +261,9 @@ void DesignWindow::Close(int index) {
     tabs_->removeTab(index);  // another form is followed now
     delete tab;
     Follow();
+    if (FormTab* const shown = Current()) {
+        shown->TakeFocus();
+    }
 }
 
 // ---- Files

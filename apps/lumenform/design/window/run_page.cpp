@@ -43,7 +43,9 @@ RunPage::~RunPage() {
 QWidget* RunPage::MakeBanner() const {
     auto* const banner = new QWidget;
     auto* const row = new QHBoxLayout(banner);
-    row->addWidget(new QLabel(tr("The form is running. Changes made here are not saved.")), 1);
+    auto* const text = new QLabel(tr("The form is running. Changes made here are not saved."));
+    text->setWordWrap(true);
+    row->addWidget(text, 1);
     auto* const back = new QPushButton(ThemeIcon(QStringLiteral("media-playback-stop")),
                                        tr("Back to the design (F5)"));
     back->setFocusPolicy(Qt::TabFocus);

@@ -275,10 +275,6 @@
         <translation>Neu laden nimmt die Datei, wie sie jetzt ist; Rückgängig bringt Ihre Fassung zurück. Meine behalten ersetzt die Datei durch Ihre Fassung.</translation>
     </message>
     <message>
-        <source>&amp;Reload</source>
-        <translation>&amp;Neu laden</translation>
-    </message>
-    <message>
         <source>&amp;Keep mine</source>
         <translation>&amp;Meine behalten</translation>
     </message>
@@ -338,6 +334,10 @@
     <message>
         <source>&amp;Remove</source>
         <translation>&amp;Entfernen</translation>
+    </message>
+    <message>
+        <source>&amp;Reload</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -1108,7 +1108,7 @@
         <translation>%1 gibt es nicht mehr. Speichern schreibt die Datei neu.</translation>
     </message>
     <message>
-        <source>&amp;Reload</source>
+        <source>Re&amp;load</source>
         <translation>&amp;Neu laden</translation>
     </message>
     <message>
@@ -1735,7 +1735,7 @@ Copyright (c) 2026 the lumenkit authors. Das Programm ist freie Software unter d
     </message>
     <message>
         <source>&amp;Window list</source>
-        <translation>FenstListe &amp;der Fensteramp;erliste</translation>
+        <translation>Fenst&amp;erliste</translation>
     </message>
 </context>
 <context>
