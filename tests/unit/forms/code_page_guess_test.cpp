@@ -6,6 +6,7 @@
 
 #include <gtest/gtest.h>
 
+#include "forms/ascii.h"
 #include "forms/code_page.h"
 #include "forms/encoding.h"
 #include "tests/support/test_seed.h"
@@ -238,7 +239,9 @@ TEST(CodePageGuess, FormsInOneByteLanguagesAreNeverTakenForOthers) {
         for (int round = 0; round < 60; ++round) {
             const std::string form = FormOf(language, 1 + random() % 60, random);
             ASSERT_EQ(GuessCodePage(form), std::nullopt) << language.name << '\n' << form;
-            ASSERT_EQ(Encoding::Of(form, guessedCodePage).FormCodePage(), 1252) << language.name;
+            // The bytes of a few short words, such as the Ukrainian "no", may be UTF-8 by chance.
+            const int taken = IsUtf8(form) ? utf8CodePage : 1252;
+            ASSERT_EQ(Encoding::Of(form, guessedCodePage).FormCodePage(), taken) << language.name;
         }
         // Each word alone, many times.
         for (const Text& word : language.words) {
