@@ -1,5 +1,6 @@
-// A module for clang-tidy: limits the checks to declarations outside of system headers. clang-tidy
-// does not report findings in system headers, but spends most of its time on them.
+// A module for clang-tidy: limits the checks to declarations outside of system headers and of headers
+// that uic makes. clang-tidy does not report findings in system headers, but spends most of its time
+// on them.
 
 #include <vector>
 
@@ -10,6 +11,7 @@
 #include <clang/AST/Decl.h>
 #include <clang/ASTMatchers/ASTMatchFinder.h>
 #include <clang/ASTMatchers/ASTMatchers.h>
+#include <clang/Basic/SourceManager.h>
 
 namespace lumenkit {
 namespace {
@@ -30,11 +32,17 @@ class LimitScope : public clang::tidy::ClangTidyCheck {
         const auto* const unit = result.Nodes.getNodeAs<clang::TranslationUnitDecl>("unit");
         std::vector<clang::Decl*> scope;
         for (clang::Decl* const declaration : unit->decls()) {
-            if (!result.SourceManager->isInSystemHeader(declaration->getLocation())) {
+            if (IsOwn(*result.SourceManager, declaration->getLocation())) {
                 scope.push_back(declaration);
             }
         }
         result.Context->setTraversalScope(scope);
+    }
+
+ private:
+    static bool IsOwn(const clang::SourceManager& sources, clang::SourceLocation place) {
+        return !sources.isInSystemHeader(place) &&
+               !sources.getFilename(sources.getExpansionLoc(place)).contains("_autogen/include/");
     }
 };
 

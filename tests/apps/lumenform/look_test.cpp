@@ -51,13 +51,15 @@ struct NamedPalette {
 
 // Sets the palette before the window is made, and the former one at the end.
 class PaletteOfTest {
+ public:
+    PaletteOfTest(const PaletteOfTest&) = delete;
+    PaletteOfTest& operator=(const PaletteOfTest&) = delete;
+
  protected:
     explicit PaletteOfTest(const QPalette& palette) : former_(QApplication::palette()) {
         QApplication::setPalette(palette);
     }
     ~PaletteOfTest() { QApplication::setPalette(former_); }
-    PaletteOfTest(const PaletteOfTest&) = delete;
-    PaletteOfTest& operator=(const PaletteOfTest&) = delete;
 
  private:
     QPalette former_;
