@@ -1,6 +1,6 @@
-// A module for clang-tidy: limits the checks to declarations outside of system headers and of headers
-// that uic makes. clang-tidy does not report findings in system headers, but spends most of its time
-// on them.
+// A module for clang-tidy: limits the checks to declarations outside of system headers and of
+// headers that uic makes. clang-tidy does not report findings in system headers, but spends most of
+// its time on them.
 
 #include <vector>
 
