@@ -156,7 +156,7 @@ void ControlCore::SetTag(Text tag) {
 
 // ---- Properties and methods
 
-bool ControlCore::Is(std::span<const TextView> properties, TextView property) const {
+bool ControlCore::Is(std::span<const TextView> properties, TextView property) {
     return std::ranges::find(properties, property) != properties.end();
 }
 

@@ -116,7 +116,7 @@ class ControlCore final : private ChangeSource,
     bool CanPropertyChange(TextView /*name*/) override { return true; }
     void RaiseEvent(std::int32_t event, std::span<Value> arguments) override;
 
-    bool Is(std::span<const TextView> properties, TextView property) const;
+    static bool Is(std::span<const TextView> properties, TextView property);
     const Value* Default(TextView property) const;
     void Create();
     void Discard();
