@@ -1735,7 +1735,7 @@ Copyright (c) 2026 the lumenkit authors. Das Programm ist freie Software unter d
     </message>
     <message>
         <source>&amp;Window list</source>
-        <translation>Fenst&amp;erliste</translation>
+        <translation>&amp;MDI-Fenster</translation>
     </message>
 </context>
 <context>
