@@ -8,7 +8,7 @@ namespace lumenkit::lumenform {
 
 namespace {
 
-constexpr double closest = 5;  // pixels between ticks
+constexpr double closestTicks = 5;  // pixels between ticks
 constexpr int lowestPower = -6;
 constexpr int highestPower = 12;
 
@@ -22,7 +22,7 @@ constexpr std::array kinds = {Kind{1, {10, 5, 2, 1}}, Kind{2, {4, 2, 1, 1}}, Kin
 
 int PartsFor(const Kind& kind, double pixels) {
     for (const int parts : kind.parts) {
-        if (pixels / parts >= closest) {
+        if (pixels / parts >= closestTicks) {
             return parts;
         }
     }
@@ -41,13 +41,13 @@ RulerSteps RulerStepsFor(double pixelsPerUnit,
                          const std::function<double(const RulerSteps&)>& room) {
     RulerSteps steps;
     // Labels are at least as wide as ticks are apart.
-    const int begin = static_cast<int>(std::floor(std::log10(closest / pixelsPerUnit)));
+    const int begin = static_cast<int>(std::floor(std::log10(closestTicks / pixelsPerUnit)));
     for (int power = std::max(begin, lowestPower); power <= highestPower; ++power) {
         for (const Kind& kind : kinds) {
             steps.labels = kind.factor * std::pow(10.0, power);
             const double pixels = steps.labels * pixelsPerUnit;
             steps.parts = PartsFor(kind, pixels);
-            if (pixels >= closest && pixels >= room(steps)) {
+            if (pixels >= closestTicks && pixels >= room(steps)) {
                 return steps;
             }
         }
